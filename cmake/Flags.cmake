@@ -1,0 +1,23 @@
+# One set of flags for everything of the project's own: strict warnings as errors, hardening, sanitizers on request.
+add_library(sonaro_flags INTERFACE)
+target_compile_options(sonaro_flags INTERFACE -Wall -Wextra -Wpedantic -Wshadow -Wconversion -Wsign-conversion
+  -Wdouble-promotion -Wformat=2 -Wno-missing-field-initializers -Werror
+  -fstack-protector-strong -ffunction-sections -fdata-sections)
+if(SONARO_SANITIZE)
+  target_compile_options(sonaro_flags INTERFACE -fsanitize=address,undefined -fno-sanitize-recover=all
+    -fno-omit-frame-pointer)
+  target_link_options(sonaro_flags INTERFACE -fsanitize=address,undefined)
+else()
+  target_compile_options(sonaro_flags INTERFACE $<$<CONFIG:Release>:-U_FORTIFY_SOURCE -D_FORTIFY_SOURCE=2>)
+endif()
+if(SONARO_FUZZ)
+  target_compile_options(sonaro_flags INTERFACE -fsanitize=fuzzer-no-link,address,undefined)
+  target_link_options(sonaro_flags INTERFACE -fsanitize=address,undefined)
+endif()
+if(WIN32)
+  # Texts are in the process's ANSI code page, so the narrow functions are the default: UNICODE stays undefined.
+  target_compile_definitions(sonaro_flags INTERFACE NOMINMAX WIN32_LEAN_AND_MEAN STRICT
+    WINVER=0x0A00 _WIN32_WINNT=0x0A00 _WIN32_IE=0x0A00)
+  target_link_options(sonaro_flags INTERFACE -static -fstack-protector-strong -Wl,--gc-sections
+    -Wl,--dynamicbase,--nxcompat,--high-entropy-va $<$<CONFIG:Release>:-s>)
+endif()

@@ -1,0 +1,58 @@
+// The settings store: named text values under one root key of the registry. One instance, owned by Application,
+// pointed at HKEY_LOCAL_MACHINE; the same class reads a few keys of the system and of the media player.
+// No operation reports failure: a read that cannot be done gives "", which every caller takes as "never set".
+#pragma once
+
+#include <string>
+#include <string_view>
+
+#include "platform/Registry.h"
+
+namespace sonaro {
+
+// The program's own keys under HKEY_LOCAL_MACHINE.
+inline constexpr const char* kSettingsKey = "SOFTWARE\\zumo\\Sonaro";
+inline constexpr const char* kAdsKey = "SOFTWARE\\zumo\\Sonaro\\ads";
+
+class CReg {
+ public:
+  explicit CReg(Registry& registry) : registry_(registry) {}
+
+  // The hive that the other operations work in. Whoever changes it restores LocalMachine before returning to
+  // the event loop; MainKeyScope does that.
+  RootKey MainKey() const { return mainKey_; }
+  void SetMainKey(RootKey root) { mainKey_ = root; }
+
+  // Writes exactly the characters of `data`, without a terminating zero. With `asString` false the number that
+  // `data` reads as is stored as a 32-bit integer of type REG_BINARY. A key that does not exist is not created.
+  void SetData(const std::string& key, const std::string& valueName, std::string_view data,
+               bool asString = true);
+  void DeleteValue(const std::string& key, const std::string& valueName);
+  // The value's text up to its first zero character, or all of it when it has none.
+  std::string GetData(const std::string& key, const std::string& valueName) const;
+  // Creates the key when it is not there.
+  void CheckKeyIsThere(const std::string& key);
+
+  // The program's own settings: the above on kSettingsKey under HKEY_LOCAL_MACHINE, whatever MainKey is.
+  std::string Setting(const std::string& valueName) const;
+  void SetSetting(const std::string& valueName, std::string_view data);
+
+ private:
+  Registry& registry_;
+  RootKey mainKey_ = RootKey::LocalMachine;
+};
+
+// Points the store at another hive for the length of a block.
+class MainKeyScope {
+ public:
+  MainKeyScope(CReg& reg, RootKey root) : reg_(reg), saved_(reg.MainKey()) { reg_.SetMainKey(root); }
+  ~MainKeyScope() { reg_.SetMainKey(saved_); }
+  MainKeyScope(const MainKeyScope&) = delete;
+  MainKeyScope& operator=(const MainKeyScope&) = delete;
+
+ private:
+  CReg& reg_;
+  RootKey saved_;
+};
+
+}  // namespace sonaro

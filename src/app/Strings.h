@@ -1,0 +1,20 @@
+// Dialog texts by their number in the string table (resources/ids.h, 10000 upward). The program loads them from
+// its resources; tests give each number's own decimal text, so that they do not depend on the wording.
+#pragma once
+
+#include <initializer_list>
+#include <string>
+#include <string_view>
+
+namespace sonaro {
+
+class Strings {
+ public:
+  virtual ~Strings() = default;
+  virtual std::string Load(int id) const = 0;  // "" for a number that is not in the table
+};
+
+// Fills "{0}", "{1}" ... in a text. A brace that is not such a mark stays.
+std::string FillIn(std::string_view text, std::initializer_list<std::string_view> values);
+
+}  // namespace sonaro

@@ -1,0 +1,54 @@
+// The data folder: the folder of the executable, which holds every data file of the program. Files are named
+// with a leading backslash ("\station.snr", "\Depot\sshape.pts") that is appended to the folder. On a file
+// system that tells letter case apart, names are found ignoring it. Owned by Application; knows no file format.
+#pragma once
+
+#include <optional>
+#include <set>
+#include <string>
+#include <string_view>
+
+#include "base/Files.h"
+
+namespace sonaro {
+
+enum class ReadStatus { Ok, Missing, Unreadable };
+
+struct ReadResult {
+  ReadStatus status = ReadStatus::Missing;
+  std::string bytes;  // the whole file when status is Ok, otherwise empty
+};
+
+class DataFolder {
+ public:
+  // `folder` without a separator at its end; `separator` is '\\' in the program, '/' in native tools and tests.
+  DataFolder(Files& files, std::string folder, char separator);
+
+  // The path of a name like "\Sched.snr": an existing file of that name in any letter case, else the name as
+  // given. Backslashes inside the name become the separator.
+  std::string Path(std::string_view name) const;
+  const std::string& Folder() const { return folder_; }
+  Files& FileSystem() const { return files_; }
+
+  bool Exists(std::string_view name) const;
+  // Reads a whole file. A file that exists but could not be read is remembered; see Save.
+  ReadResult Read(std::string_view name);
+  // Replaces the file as a whole: writes a neighbour (the name followed by ".new"), flushes it and puts it in
+  // place in one step, so that a crash or a full disk leaves the old file. Refused (false) when the last Read
+  // of this name found the file unreadable: what could not be loaded is not overwritten.
+  bool Save(std::string_view name, std::string_view bytes);
+  bool Remove(std::string_view name);
+  // Puts file `from` in the place of `to` in one step (Files::Replace).
+  bool Replace(std::string_view from, std::string_view to);
+
+ private:
+  Files& files_;
+  std::string folder_;
+  char separator_;
+  std::set<std::string> unreadable_;  // folded names
+};
+
+// Reads a whole file by its path.
+ReadResult ReadWholeFile(Files& files, const std::string& path);
+
+}  // namespace sonaro

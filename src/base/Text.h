@@ -1,0 +1,49 @@
+// Operations on texts. A text is a std::string in the process's ANSI code page, which the program's manifest
+// sets to UTF-8; positions and lengths count bytes. Nothing here knows files, settings or windows.
+#pragma once
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace sonaro {
+
+// The text without the blanks (0x20, nothing else) at both ends. The view points into `text`.
+std::string_view TrimBlanks(std::string_view text);
+
+// The text with every character replaced by its full Unicode case folding (UTF-8 in, UTF-8 out; a sharp s
+// becomes "ss"). Bytes that are not valid UTF-8 are copied, with A-Z folded to a-z.
+std::string FoldCase(std::string_view text);
+
+// Comparisons that ignore letter case in the sense of FoldCase.
+bool EqualIgnoringCase(std::string_view a, std::string_view b);
+bool StartsWithIgnoringCase(std::string_view text, std::string_view start);
+bool EndsWithIgnoringCase(std::string_view text, std::string_view end);
+bool ContainsIgnoringCase(std::string_view text, std::string_view part);
+
+// Three-way order of two texts, letter case ignored: negative, 0 or positive.
+int CompareIgnoringCase(std::string_view a, std::string_view b);
+
+// The lines of a whole file: CR LF, LF and a last line without an end are all read; the ends are cut off.
+std::vector<std::string_view> SplitLines(std::string_view text);
+
+// Cuts `text` at each `separator`: always one piece more than separators. "" gives one empty piece.
+std::vector<std::string_view> Split(std::string_view text, char separator);
+
+// Cuts `text` at its first `count - 1` separators; the last piece takes the rest, separators included.
+std::vector<std::string_view> SplitAtMost(std::string_view text, char separator, std::size_t count);
+
+// The text before the first `separator`, which is removed from `rest` together with that text. Without a
+// separator the whole rest is taken and `rest` becomes empty.
+std::string_view TakeUntil(std::string_view& rest, char separator);
+
+// `text` with the first occurrence of `part` replaced; unchanged when there is none.
+std::string ReplaceFirst(std::string_view text, std::string_view part, std::string_view by);
+
+// At most `maxBytes` bytes from the start of `text`, never ending inside a UTF-8 character.
+std::string_view CutForShow(std::string_view text, std::size_t maxBytes);
+
+// A yes/no setting is on only when it reads "Yes", trimmed and ignoring letter case.
+bool IsYes(std::string_view setting);
+
+}  // namespace sonaro

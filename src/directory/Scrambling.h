@@ -1,0 +1,31 @@
+// The substitution that keeps links in the data files from being read or edited directly. The station fields
+// LinkOne to WebSite are stored scrambled and turned into plain text only where they are used.
+#pragma once
+
+#include <string>
+#include <string_view>
+
+namespace sonaro {
+
+inline constexpr std::size_t kAlphabetSize = 76;
+
+// Two alphabets of 76 characters; position k of one maps to position k of the other.
+struct ScramblingAlphabets {
+  std::string source;
+  std::string target;
+};
+
+// Replaces every character of the source alphabet by the one at its position in the target alphabet; anything
+// else stays. Changes `text` in place and returns it.
+std::string& ScrambleText(std::string& text, const ScramblingAlphabets& alphabets);
+// The reverse of ScrambleText.
+std::string& UnscrambleText(std::string& text, const ScramblingAlphabets& alphabets);
+
+// The alphabets that the program is built with.
+const ScramblingAlphabets& BuiltInAlphabets();
+
+// Alphabets out of the two lines of "\alphabet.snr". False, with `alphabets` untouched, when they are not 76
+// characters each, none of them twice, and the second a permutation of the first.
+bool ParseAlphabets(std::string_view fileText, ScramblingAlphabets& alphabets);
+
+}  // namespace sonaro

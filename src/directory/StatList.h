@@ -1,0 +1,66 @@
+// The station directory: the table "\statorg" built from "\station.snr", looked up by identifier and searched.
+// Owned by Application. Opening is cheap: the table stays in memory between operations as long as the files on
+// disk are still the generation that was read, and no file is held open, so that an update can replace them.
+#pragma once
+
+#include <cstdint>
+#include <memory>
+#include <span>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "directory/StationRecord.h"
+#include "directory/TableStatus.h"
+
+namespace sonaro {
+
+class DataFolder;
+
+class StatList {
+ public:
+  using Handle = int;  // 0: not open
+  enum class OpenMode { Read, Write };
+
+  explicit StatList(DataFolder& data);
+  ~StatList();
+
+  // The result of the last operation on the table; each one overwrites it.
+  TableStatus LastStatus() const;
+
+  // Deletes the table's files and creates an empty table. `fileName` is a name in the data folder, "\statorg".
+  bool CreateStationTable(std::string_view fileName);
+  Handle OpenStationTable(std::string_view fileName, OpenMode mode);
+  // Closing a table opened for writing puts the new generation in place.
+  void CloseStationTable(Handle handle);
+  // The record with this key; an empty record when the handle is 0 or nothing was found.
+  StationRecord GetStation(Handle handle, std::int32_t stationId);
+  // True when the last status is 0 or 2. A record whose identifier is 0 is not written and yields true.
+  bool PutStation(Handle handle, const StationRecord& record);
+
+  // Throws the table away and builds it anew from "\station.snr". A crash at any moment leaves the old or the
+  // new table. False when the list could not be read or the table not written; the old table then stays.
+  bool RebuildStationTable();
+
+  // Opens the table once for all of them. Unknown identifiers are left out; the order is that of `ids`.
+  std::vector<StationRecord> GetStations(std::span<const std::int32_t> ids);
+  // One look-up: open, get, close.
+  StationRecord FindStation(std::int32_t stationId);
+
+  // The identifiers of the matching stations in key order. Words are what stands between single blanks, at most
+  // 100; a word matches when it occurs anywhere in one of the five searched fields (name, media type, location,
+  // description, format), letter case ignored; all words or any word must match.
+  std::vector<std::int32_t> SearchStationIds(std::string_view text, bool allWords);
+  std::vector<StationRecord> SearchStations(std::string_view text, bool allWords);
+
+  // Records in the table; 0 when it cannot be opened.
+  std::uint32_t StationCount();
+  // True when the table's files exist, fit together and pass all their checks (reads them once).
+  bool Verify();
+
+ private:
+  class Implementation;
+  std::unique_ptr<Implementation> implementation_;
+};
+
+}  // namespace sonaro

@@ -1,0 +1,37 @@
+// The system registry, as raw values. The program's settings store (app/CReg) gives the bytes their meaning.
+#pragma once
+
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <string_view>
+
+namespace sonaro {
+
+// Handles of the predefined root keys, as the platform numbers them.
+enum class RootKey : std::uint32_t {
+  ClassesRoot = 0x80000000,
+  CurrentUser = 0x80000001,
+  LocalMachine = 0x80000002,
+  Users = 0x80000003
+};
+
+enum class ValueType : std::uint32_t { Text = 1 /* REG_SZ */, Binary = 3 /* REG_BINARY */ };
+
+// Key and value names ignore letter case. Nothing throws; every failure looks like a missing value or false.
+class Registry {
+ public:
+  virtual ~Registry() = default;
+  virtual bool KeyExists(RootKey root, const std::string& key) = 0;
+  // Creates the key and its parents; true when it is there afterwards.
+  virtual bool CreateKey(RootKey root, const std::string& key) = 0;
+  // The stored bytes, exactly: a terminating zero only when one was stored. The empty value name is the key's
+  // default value. Nothing when key or value are missing or may not be read.
+  virtual std::optional<std::string> ReadValue(RootKey root, const std::string& key, const std::string& name) = 0;
+  // Writes exactly these bytes. Does not create the key: false when it cannot be opened for writing.
+  virtual bool WriteValue(RootKey root, const std::string& key, const std::string& name, ValueType type,
+                          std::string_view bytes) = 0;
+  virtual bool RemoveValue(RootKey root, const std::string& key, const std::string& name) = 0;
+};
+
+}  // namespace sonaro
