@@ -1,0 +1,40 @@
+# Sourced by the scripts of this folder, by ./run and by ./test: where things are, and how a step is shown.
+# shellcheck shell=bash
+set -euo pipefail
+root=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
+build=$root/build
+jobs=$(nproc 2>/dev/null || echo 2)
+
+say() { printf '%s\n' "$*"; }
+fail() { printf '%s\n' "$*" >&2; exit 1; }
+
+# step TITLE COMMAND...: runs the command and prints how long it took. On a terminal its output is shown as it
+# comes; elsewhere it goes to build/log, with a sign of life every half minute, and is shown when it fails.
+step() {
+  local title=$1 status=0 started=$SECONDS log
+  shift
+  say "-- $title"
+  if [ -t 1 ]; then
+    "$@" || status=$?
+  else
+    mkdir -p "$build/log"
+    log=$build/log/$(printf '%s' "$title" | tr -cs 'A-Za-z0-9' '-').txt
+    "$@" >"$log" 2>&1 </dev/null &
+    local worker=$! waited=0
+    while kill -0 "$worker" 2>/dev/null; do
+      sleep 0.2
+      waited=$((waited + 1))
+      [ $((waited % 150)) -ne 0 ] || say "   ... $((SECONDS - started)) s: $(tail -c 200 "$log" | tr '\r' '\n' | tail -n 1)"
+    done
+    wait "$worker" || status=$?
+    [ "$status" -eq 0 ] || { tail -n 80 "$log" >&2; say "   the whole output: $log" >&2; }
+  fi
+  [ "$status" -eq 0 ] || { say "   failed after $((SECONDS - started)) s: $title" >&2; return "$status"; }
+  say "   $((SECONDS - started)) s"
+}
+
+# Wine, quiet. WINEPREFIX is the caller's to set. "-all" stands first, or Debian's wrapper asks for wine32.
+wine_environment() {
+  export WINEDEBUG=${WINEDEBUG:--all}
+  export WINEDLLOVERRIDES=${WINEDLLOVERRIDES:-"mscoree,mshtml=;winemenubuilder.exe=d"}
+}
