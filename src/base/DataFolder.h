@@ -1,6 +1,7 @@
 // The data folder: the folder of the executable, which holds every data file of the program. Files are named
 // with a leading backslash ("\station.snr", "\Depot\sshape.pts") that is appended to the folder. On a file
-// system that tells letter case apart, names are found ignoring it. Owned by Application; knows no file format.
+// system that tells letter case apart, names are found ignoring it. Owned by Application; knows no file
+// format.
 #pragma once
 
 #include <optional>
@@ -21,7 +22,8 @@ struct ReadResult {
 
 class DataFolder {
  public:
-  // `folder` without a separator at its end; `separator` is '\\' in the program, '/' in native tools and tests.
+  // `folder` without a separator at its end; `separator` is '\\' in the program, '/' in native tools and
+  // tests.
   DataFolder(Files& files, std::string folder, char separator);
 
   // The path of a name like "\Sched.snr": an existing file of that name in any letter case, else the name as

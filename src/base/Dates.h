@@ -39,13 +39,13 @@ std::int64_t DaysFromEpoch(const Date& date);  // days since 1 January 1970
 Date DateFromDays(std::int64_t days);
 DateTime AddSeconds(const DateTime& at, std::int64_t seconds);
 std::int64_t SecondsBetween(const DateTime& from, const DateTime& to);
-int Weekday(const Date& date);                    // 0 = Monday ... 6 = Sunday
-std::string_view EnglishDayName(int weekday);     // "Monday" ... "Sunday"; "" outside 0 to 6
-std::string_view EnglishMonthName(int month);     // "January" ... "December"; "" outside 1 to 12
+int Weekday(const Date& date);                 // 0 = Monday ... 6 = Sunday
+std::string_view EnglishDayName(int weekday);  // "Monday" ... "Sunday"; "" outside 0 to 6
+std::string_view EnglishMonthName(int month);  // "January" ... "December"; "" outside 1 to 12
 
-std::string FormatShortDate(const Date& date);    // "m/d/yyyy": 8/14/2000, no leading zeros
-std::string FormatMonthDay(const Date& date);     // "mmmm d": August 14
-std::string FormatLongDate(const Date& date);     // "mmmm d yyyy (dddd)": August 14 2000 (Monday)
+std::string FormatShortDate(const Date& date);  // "m/d/yyyy": 8/14/2000, no leading zeros
+std::string FormatMonthDay(const Date& date);   // "mmmm d": August 14
+std::string FormatLongDate(const Date& date);   // "mmmm d yyyy (dddd)": August 14 2000 (Monday)
 // "h:mm AMPM" (12:05 AM, 1:30 PM) for the 12-hour clock, "h:mm" (0:05, 13:30) for the 24-hour clock.
 std::string FormatTime(const TimeOfDay& time, ClockStyle style);
 std::string FormatTimeWithSeconds(const TimeOfDay& time);  // "h:nn:ss AMPM": 1:30:05 PM

@@ -1,7 +1,7 @@
 // The file system as the program needs it. The implementations lie in platform/ (FilesWin, FilesPosix); the
-// tests have one in memory that can fail or "crash" at any operation. Paths are texts as the process has them;
-// they are used as given: finding names whatever their letter case is DataFolder's business.
-// Nothing throws; a failure is a null pointer or false.
+// tests have one in memory that can fail or "crash" at any operation. Paths are texts as the process has
+// them; they are used as given: finding names whatever their letter case is DataFolder's business. Nothing
+// throws; a failure is a null pointer or false.
 #pragma once
 
 #include <cstdint>

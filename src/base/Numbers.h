@@ -7,8 +7,9 @@
 
 namespace sonaro {
 
-// The whole number that `text` begins with: leading blanks, an optional sign, decimal digits. Whatever follows
-// the digits is ignored; a text that does not begin so gives 0. Values beyond 64 bits give the nearest limit.
+// The whole number that `text` begins with: leading blanks, an optional sign, decimal digits. Whatever
+// follows the digits is ignored; a text that does not begin so gives 0. Values beyond 64 bits give the
+// nearest limit.
 std::int64_t NumberValue(std::string_view text);
 
 // True when `text`, trimmed of blanks, is an optional sign and at least one digit, with an optional fraction

@@ -1,0 +1,77 @@
+#include "base/DataFolder.h"
+
+#include <algorithm>
+#include <stdexcept>
+#include <utility>
+
+#include "base/Text.h"
+
+namespace sonaro {
+
+DataFolder::DataFolder(Files& files, std::string folder, char separator)
+    : files_(files), folder_(std::move(folder)), separator_(separator) {}
+
+std::string DataFolder::Path(std::string_view name) const {
+  std::string tail(name);
+  std::replace(tail.begin(), tail.end(), '\\', separator_);
+  std::string asGiven = folder_ + tail;
+  // With the backslash the system itself ignores letter case.
+  if (separator_ == '\\' || files_.Exists(asGiven)) return asGiven;
+
+  std::string found = folder_;
+  for (const std::string_view part :
+       Split(std::string_view(tail).substr(tail.starts_with(separator_) ? 1 : 0), separator_)) {
+    const std::vector<std::string> names = files_.List(found);
+    const auto match = std::find_if(names.begin(), names.end(), [&](const std::string& candidate) {
+      return EqualIgnoringCase(candidate, part);
+    });
+    if (match == names.end()) return asGiven;
+    found += separator_ + *match;
+  }
+  return found;
+}
+
+bool DataFolder::Exists(std::string_view name) const { return files_.Exists(Path(name)); }
+
+ReadResult DataFolder::Read(std::string_view name) {
+  ReadResult result = ReadWholeFile(files_, Path(name));
+  if (result.status == ReadStatus::Unreadable) {
+    unreadable_.insert(FoldCase(name));
+  } else {
+    unreadable_.erase(FoldCase(name));
+  }
+  return result;
+}
+
+bool DataFolder::Save(std::string_view name, std::string_view bytes) {
+  if (unreadable_.contains(FoldCase(name))) return false;
+  const std::string path = Path(name);
+  const std::string neighbour = path + ".new";
+  std::unique_ptr<OutputFile> file = files_.Create(neighbour);
+  bool saved = file && file->Append(bytes) && file->Commit(Durability::Flushed);
+  file.reset();
+  saved = saved && files_.Replace(neighbour, path);
+  if (!saved) files_.Remove(neighbour);
+  return saved;
+}
+
+bool DataFolder::Remove(std::string_view name) { return files_.Remove(Path(name)); }
+
+bool DataFolder::Replace(std::string_view from, std::string_view to) {
+  return files_.Replace(Path(from), Path(to));
+}
+
+ReadResult ReadWholeFile(Files& files, const std::string& path) {
+  const std::unique_ptr<InputFile> file = files.Open(path);
+  if (!file) return {files.Exists(path) ? ReadStatus::Unreadable : ReadStatus::Missing, {}};
+  ReadResult result{ReadStatus::Ok, {}};
+  try {
+    result.bytes.resize(static_cast<std::size_t>(file->Size()));
+  } catch (const std::exception&) {  // a file larger than memory
+    return {ReadStatus::Unreadable, {}};
+  }
+  if (!file->ReadAt(0, result.bytes.data(), result.bytes.size())) return {ReadStatus::Unreadable, {}};
+  return result;
+}
+
+}  // namespace sonaro

@@ -1,0 +1,153 @@
+// The reading side of Dates.h: a cursor over the text, one attempt for each accepted form.
+#include <algorithm>
+
+#include "base/Dates.h"
+#include "base/Text.h"
+
+namespace sonaro {
+namespace {
+
+// Two-digit years up to this one lie in the present century, the others in the last.
+constexpr int kLastTwoDigitYear = 49;
+
+// Takes pieces off the front of a text; every Take leaves the text as it was when it fails.
+class Cursor {
+ public:
+  explicit Cursor(std::string_view text) : rest_(text) {}
+
+  bool AtEnd() const { return rest_.empty(); }
+  std::string_view Rest() const { return rest_; }
+
+  // A number of `fewest` to `most` digits, and not one digit more.
+  bool TakeNumber(std::size_t fewest, std::size_t most, int& value) {
+    std::size_t count = 0;
+    int number = 0;
+    while (count < rest_.size() && rest_[count] >= '0' && rest_[count] <= '9' && count <= most) {
+      number = number * 10 + (rest_[count++] - '0');
+    }
+    if (count < fewest || count > most) return false;
+    value = number;
+    rest_.remove_prefix(count);
+    return true;
+  }
+
+  bool Take(std::string_view text) {
+    if (!EqualIgnoringCase(rest_.substr(0, text.size()), text)) return false;
+    rest_.remove_prefix(text.size());
+    return true;
+  }
+
+  bool TakeBlanks() {
+    const std::size_t before = rest_.size();
+    rest_.remove_prefix(std::min(rest_.find_first_not_of(' '), before));
+    return rest_.size() < before;
+  }
+
+ private:
+  std::string_view rest_;
+};
+
+bool TakeMonthDayYear(Cursor& cursor, Date& date) {
+  return cursor.TakeNumber(1, 2, date.month) && cursor.Take("/") && cursor.TakeNumber(1, 2, date.day) &&
+         cursor.Take("/") && cursor.TakeNumber(4, 4, date.year);
+}
+
+bool TakeIso(Cursor& cursor, Date& date) {
+  return cursor.TakeNumber(4, 4, date.year) && cursor.Take("-") && cursor.TakeNumber(2, 2, date.month) &&
+         cursor.Take("-") && cursor.TakeNumber(2, 2, date.day);
+}
+
+// "August 14 2000 (Monday)"; the name in brackets must be the day that it was.
+bool TakeLong(Cursor& cursor, Date& date) {
+  date.month = 1;
+  while (date.month <= 12 && !cursor.Take(EnglishMonthName(date.month))) ++date.month;
+  if (date.month > 12 || !cursor.TakeBlanks() || !cursor.TakeNumber(1, 2, date.day) || !cursor.TakeBlanks() ||
+      !cursor.TakeNumber(4, 4, date.year)) {
+    return false;
+  }
+  Cursor ahead = cursor;
+  ahead.TakeBlanks();
+  if (!ahead.Take("(")) return true;
+  cursor = ahead;
+  return IsValid(date) && cursor.Take(EnglishDayName(Weekday(date))) && cursor.Take(")");
+}
+
+bool TakeYear(Cursor& cursor, std::size_t letters, int& year) {
+  if (letters > 2) return cursor.TakeNumber(4, 4, year);
+  if (!cursor.TakeNumber(2, 2, year)) return false;
+  year += year <= kLastTwoDigitYear ? 2000 : 1900;
+  return true;
+}
+
+// The pattern's separators must stand as they are; d and dd, M and MM both take one or two digits.
+bool TakeByPattern(Cursor& cursor, std::string_view pattern, Date& date) {
+  bool quoted = false;
+  while (!pattern.empty()) {
+    const char letter = pattern.front();
+    const std::size_t run = std::min(pattern.find_first_not_of(letter), pattern.size());
+    const std::string_view piece = pattern.substr(0, run);
+    pattern.remove_prefix(run);
+    bool taken = true;
+    if (letter == '\'') {
+      quoted ^= run % 2 == 1;
+    } else if (!quoted && letter == 'y') {
+      taken = TakeYear(cursor, run, date.year);
+    } else if (!quoted && (letter == 'd' || letter == 'M')) {
+      taken = cursor.TakeNumber(1, 2, letter == 'd' ? date.day : date.month);
+    } else {
+      taken = cursor.Take(piece);
+    }
+    if (!taken) return false;
+  }
+  return true;
+}
+
+// What follows a date: nothing, or a time of day set off by blanks or, in the ISO manner, a T.
+std::optional<DateTime> WithTimeAfter(Cursor cursor, const Date& date) {
+  if (!IsValid(date)) return std::nullopt;
+  if (cursor.AtEnd()) return DateTime{date, {}};
+  const bool setOff = cursor.TakeBlanks() || cursor.Take("T");
+  const std::optional<TimeOfDay> time = setOff ? ParseTime(cursor.Rest()) : std::nullopt;
+  if (!time) return std::nullopt;
+  return DateTime{date, *time};
+}
+
+}  // namespace
+
+std::optional<DateTime> ParseDate(std::string_view text, std::string_view shortDatePattern) {
+  const Cursor start(TrimBlanks(text));
+  const auto attempt = [&](auto take) -> std::optional<DateTime> {
+    Cursor cursor = start;
+    Date date;
+    return take(cursor, date) ? WithTimeAfter(cursor, date) : std::nullopt;
+  };
+  if (const auto found = attempt(TakeMonthDayYear)) return found;
+  if (!shortDatePattern.empty()) {
+    const auto byPattern = [&](Cursor& cursor, Date& date) {
+      return TakeByPattern(cursor, shortDatePattern, date);
+    };
+    if (const auto found = attempt(byPattern)) return found;
+  }
+  if (const auto found = attempt(TakeIso)) return found;
+  return attempt(TakeLong);
+}
+
+std::optional<TimeOfDay> ParseTime(std::string_view text) {
+  Cursor cursor(TrimBlanks(text));
+  TimeOfDay time;
+  if (!cursor.TakeNumber(1, 2, time.hour) || !cursor.Take(":") || !cursor.TakeNumber(2, 2, time.minute) ||
+      (cursor.Take(":") && !cursor.TakeNumber(2, 2, time.second))) {
+    return std::nullopt;
+  }
+  cursor.TakeBlanks();
+  const bool morning = cursor.Take("AM");
+  const bool afternoon = !morning && cursor.Take("PM");
+  if (morning || afternoon) {
+    if (time.hour < 1 || time.hour > 12) return std::nullopt;
+    time.hour = time.hour % 12 + (afternoon ? 12 : 0);
+  }
+  if (!cursor.AtEnd() || time.hour > 23 || time.minute > 59 || time.second > 59) return std::nullopt;
+  return time;
+}
+
+}  // namespace sonaro

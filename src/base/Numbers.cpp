@@ -1,0 +1,60 @@
+#include "base/Numbers.h"
+
+#include <charconv>
+#include <limits>
+
+#include "base/Text.h"
+
+namespace sonaro {
+namespace {
+
+bool IsDigit(char c) { return c >= '0' && c <= '9'; }
+
+bool IsSign(char c) { return c == '+' || c == '-'; }
+
+std::string_view TakeDigits(std::string_view& text) {
+  std::size_t count = 0;
+  while (count < text.size() && IsDigit(text[count])) ++count;
+  const std::string_view digits = text.substr(0, count);
+  text.remove_prefix(count);
+  return digits;
+}
+
+}  // namespace
+
+std::int64_t NumberValue(std::string_view text) {
+  text = TrimBlanks(text);
+  const bool negative = text.starts_with('-');
+  if (text.starts_with('+')) {
+    text.remove_prefix(1);
+    if (text.starts_with('-')) return 0;
+  }
+  std::int64_t value = 0;
+  const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), value);
+  using Limits = std::numeric_limits<std::int64_t>;
+  if (error == std::errc::result_out_of_range) return negative ? Limits::min() : Limits::max();
+  return value;
+}
+
+bool IsNumeric(std::string_view text) {
+  text = TrimBlanks(text);
+  if (!text.empty() && IsSign(text.front())) text.remove_prefix(1);
+  if (TakeDigits(text).empty()) return false;
+  if (!text.starts_with('.')) return text.empty();
+  text.remove_prefix(1);
+  return !TakeDigits(text).empty() && text.empty();
+}
+
+bool ParseStationId(std::string_view text, std::int32_t& id) {
+  text = TrimBlanks(text);
+  std::string_view digits = text;
+  if (!digits.empty() && IsSign(digits.front())) digits.remove_prefix(1);
+  if (TakeDigits(digits).empty() || !digits.empty()) return false;
+  const std::int64_t value = NumberValue(text);
+  using Limits = std::numeric_limits<std::int32_t>;
+  if (value < Limits::min() || value > Limits::max()) return false;
+  id = static_cast<std::int32_t>(value);
+  return true;
+}
+
+}  // namespace sonaro

@@ -1,0 +1,67 @@
+#include "base/Text.h"
+
+#include <algorithm>
+
+#include "base/Utf8.h"
+
+namespace sonaro {
+
+std::string_view TrimBlanks(std::string_view text) {
+  const std::size_t first = text.find_first_not_of(' ');
+  if (first == std::string_view::npos) return text.substr(0, 0);
+  return text.substr(first, text.find_last_not_of(' ') - first + 1);
+}
+
+std::vector<std::string_view> SplitLines(std::string_view text) {
+  std::vector<std::string_view> lines;
+  while (!text.empty()) {
+    std::string_view line = TakeUntil(text, '\n');
+    if (line.ends_with('\r')) line.remove_suffix(1);
+    lines.push_back(line);
+  }
+  return lines;
+}
+
+std::vector<std::string_view> Split(std::string_view text, char separator) {
+  return SplitAtMost(text, separator, std::string_view::npos);
+}
+
+std::vector<std::string_view> SplitAtMost(std::string_view text, char separator, std::size_t count) {
+  std::vector<std::string_view> pieces;
+  std::size_t cut = 0;
+  while (pieces.size() + 1 < count && (cut = text.find(separator)) != std::string_view::npos) {
+    pieces.push_back(text.substr(0, cut));
+    text.remove_prefix(cut + 1);
+  }
+  pieces.push_back(text);
+  return pieces;
+}
+
+std::string_view TakeUntil(std::string_view& rest, char separator) {
+  const std::size_t cut = rest.find(separator);
+  const std::string_view taken = rest.substr(0, cut);
+  rest.remove_prefix(cut == std::string_view::npos ? rest.size() : cut + 1);
+  return taken;
+}
+
+std::string ReplaceFirst(std::string_view text, std::string_view part, std::string_view by) {
+  std::string result(text);
+  const std::size_t at = result.find(part);
+  if (at != std::string::npos) result.replace(at, part.size(), by);
+  return result;
+}
+
+std::string_view CutForShow(std::string_view text, std::size_t maxBytes) {
+  if (text.size() <= maxBytes) return text;
+  constexpr std::size_t kLongestCharacter = 4;
+  const std::size_t nearest = maxBytes < kLongestCharacter ? 0 : maxBytes - kLongestCharacter + 1;
+  for (std::size_t start = maxBytes; start-- > nearest;) {
+    const std::size_t length = DecodeUtf8(text, start).length;
+    if (length != 0) return text.substr(0, start + length <= maxBytes ? maxBytes : start);
+  }
+  return text.substr(0, maxBytes);
+}
+
+bool IsYes(std::string_view setting) { return EqualIgnoringCase(TrimBlanks(setting), "Yes"); }
+
+}  // namespace sonaro

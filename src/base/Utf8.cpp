@@ -1,0 +1,49 @@
+#include "base/Utf8.h"
+
+namespace sonaro {
+
+Utf8Character DecodeUtf8(std::string_view text, std::size_t position) {
+  const auto byte = [&](std::size_t offset) { return static_cast<unsigned char>(text[position + offset]); };
+  const unsigned char lead = byte(0);
+  if (lead < 0x80) return {lead, 1};
+  std::size_t length = 0;
+  char32_t code = 0;
+  char32_t smallest = 0;
+  if ((lead & 0xE0) == 0xC0) {
+    length = 2, code = lead & 0x1Fu, smallest = 0x80;
+  } else if ((lead & 0xF0) == 0xE0) {
+    length = 3, code = lead & 0x0Fu, smallest = 0x800;
+  } else if ((lead & 0xF8) == 0xF0) {
+    length = 4, code = lead & 0x07u, smallest = 0x10000;
+  }
+  if (length == 0 || text.size() - position < length) return {};
+  for (std::size_t i = 1; i < length; ++i) {
+    if ((byte(i) & 0xC0) != 0x80) return {};
+    code = (code << 6) | (byte(i) & 0x3Fu);
+  }
+  const bool surrogate = code >= 0xD800 && code < 0xE000;
+  if (code < smallest || code > 0x10FFFF || surrogate) return {};
+  return {code, length};
+}
+
+void AppendUtf8(std::string& text, char32_t code) {
+  const auto put = [&](char32_t byte) { text.push_back(static_cast<char>(byte)); };
+  if (code < 0x80) {
+    put(code);
+    return;
+  }
+  if (code < 0x800) {
+    put(0xC0 | (code >> 6));
+  } else {
+    if (code < 0x10000) {
+      put(0xE0 | (code >> 12));
+    } else {
+      put(0xF0 | (code >> 18));
+      put(0x80 | ((code >> 12) & 0x3F));
+    }
+    put(0x80 | ((code >> 6) & 0x3F));
+  }
+  put(0x80 | (code & 0x3F));
+}
+
+}  // namespace sonaro

@@ -1,0 +1,19 @@
+// The file system of a POSIX machine, for the directory tool, the benchmarks and the tests.
+#pragma once
+
+#include "base/Files.h"
+
+namespace sonaro {
+
+class FilesPosix : public Files {
+ public:
+  std::unique_ptr<InputFile> Open(const std::string& path) override;
+  std::unique_ptr<OutputFile> Create(const std::string& path) override;
+  bool Replace(const std::string& from, const std::string& to) override;
+  bool Remove(const std::string& path) override;
+  bool Exists(const std::string& path) override;
+  std::vector<std::string> List(const std::string& folder) override;
+  bool MakeFolder(const std::string& path) override;
+};
+
+}  // namespace sonaro
