@@ -21,6 +21,10 @@
 // mainwindow: 11000 to 11999
 
 // schedule: 12000 to 12999
+#define IDS_SCHED_OK 12000
+#define IDS_SCHED_SHOWS_CAPTION 12001
+#define IDS_SCHED_SHOW_ADDED 12002
+#define IDS_SCHED_SHOW_REMOVED 12003
 
 // net: 13000 to 13999
 

@@ -1,0 +1,82 @@
+#include "schedule/ScheduleItem.h"
+
+#include <algorithm>
+
+#include "base/Text.h"
+
+namespace sonaro {
+
+namespace {
+
+constexpr std::string_view kEventMark = "|||Z|||";
+constexpr std::string_view kWebSiteMark = ">>>>>>";
+constexpr std::array<std::string_view, 7> kDayKeys = {"Mon", "Tue", "Wed", "Thr", "Fri", "Sat", "Sun"};
+
+}  // namespace
+
+ScheduleKind KindOf(std::string_view kind) {
+  if (StartsWithIgnoringCase(kind, "daily")) return ScheduleKind::Daily;
+  if (EqualIgnoringCase(kind, "weekly")) return ScheduleKind::Weekly;
+  if (EqualIgnoringCase(kind, "once")) return ScheduleKind::Once;
+  if (EqualIgnoringCase(kind, "live")) return ScheduleKind::Live;
+  return ScheduleKind::Unknown;
+}
+
+std::string_view DayKey(int weekday) {
+  return weekday >= 0 && weekday < 7 ? kDayKeys[static_cast<std::size_t>(weekday)] : std::string_view{};
+}
+
+DayFlags DaysOf(std::string_view dailyKind) {
+  DayFlags days{};
+  if (dailyKind.find('|') == std::string_view::npos) {
+    days.fill(true);
+    return days;
+  }
+  for (std::size_t day = 0; day < days.size(); ++day) {
+    const std::string chosen = "|" + std::string(kDayKeys[day]) + "=-1";
+    days[day] = dailyKind.find(chosen) != std::string_view::npos;
+  }
+  return days;
+}
+
+std::string DailyKind(const DayFlags& days) {
+  std::string kind = "daily";
+  if (std::all_of(days.begin(), days.end(), [](bool day) { return day; })) return kind;
+  for (std::size_t day = 0; day < days.size(); ++day) {
+    kind += "|" + std::string(kDayKeys[day]) + (days[day] ? "=-1" : "=0");
+  }
+  return kind + "|";
+}
+
+std::string ItemName::Shown() const { return IsEvent() ? name + " on " + station : name; }
+
+ItemName SplitItemName(std::string_view nameField) {
+  ItemName parts;
+  if (const auto web = nameField.find(kWebSiteMark); web != std::string_view::npos) {
+    parts.webSite = nameField.substr(web + kWebSiteMark.size());
+    nameField = nameField.substr(0, web);
+  }
+  if (const auto event = nameField.find(kEventMark); event != std::string_view::npos) {
+    parts.station = nameField.substr(event + kEventMark.size());
+    nameField = nameField.substr(0, event);
+  }
+  parts.name = nameField;
+  return parts;
+}
+
+std::string JoinItemName(const ItemName& name) {
+  std::string joined = name.name;
+  if (name.IsEvent()) joined.append(kEventMark).append(name.station);
+  if (!name.webSite.empty()) joined.append(kWebSiteMark).append(name.webSite);
+  return joined;
+}
+
+std::string ActionText(bool openWebSite, std::string_view stationKey) {
+  return (openWebSite ? "W" : "N") + std::string(stationKey);
+}
+
+bool OpensWebSite(std::string_view action) { return action.starts_with('W'); }
+
+std::string_view StationKeyOf(std::string_view action) { return action.empty() ? action : action.substr(1); }
+
+}  // namespace sonaro

@@ -1,0 +1,107 @@
+// Decides once a minute which schedule items come on, and hands them to the tray window. The partner of the
+// hidden window frmschedtime, which only owns the system's timer. Owned by Application.
+//
+// While the machine runs evenly, the due list is everything: the items of this and the next clock hour,
+// rebuilt every 30 ticks. Where the clock does not run evenly, three further rules hold: an occurrence is
+// told once, whatever the clock does; what a summer-time change skips is told when the clock has jumped; and
+// what came on while the machine slept, the clock was set forward or the program was closed (a day at most)
+// is told in one notice "while you were away".
+#pragma once
+
+#include <array>
+#include <cstdint>
+#include <functional>
+#include <optional>
+#include <set>
+#include <string>
+#include <vector>
+
+#include "base/Dates.h"
+#include "schedule/ScheduleCalendar.h"
+
+namespace sonaro {
+
+class Clock;
+class MessagePost;
+
+// The hidden timer window as the logic sees it.
+class ScheduleTimerView {
+ public:
+  virtual ~ScheduleTimerView() = default;
+  virtual bool IsLoaded() = 0;
+  virtual void Load() = 0;  // create it, its timer running
+  virtual void SetCloseItCaption(const char* caption) = 0;
+  virtual void RestartTimer(unsigned milliseconds) = 0;
+  virtual void Unload() = 0;
+};
+
+// What a live item waits for. Both moments are GMT; the slots of the items whose event began after `from` and
+// not after `to`.
+using LiveStarts = std::function<std::vector<std::size_t>(const DateTime& from, const DateTime& to)>;
+using AwayNotice = std::function<void(const std::vector<Occurrence>& missed)>;
+
+class ScheduleTimer {
+ public:
+  static constexpr std::uint32_t kDueMessage = 1795;
+  static constexpr std::size_t kDuePlaces = 101;
+
+  ScheduleTimer(ScheduleCalendar& calendar, Clock& clock, MessagePost& messages, ScheduleTimerView& view);
+
+  void SetLiveStarts(LiveStarts liveStarts) { liveStarts_ = std::move(liveStarts); }
+  void SetAwayNotice(AwayNotice awayNotice) { awayNotice_ = std::move(awayNotice); }
+
+  // Rebuilds the due list from the table and sees to it that the timer window lives while something is due.
+  void EvaluateSchedule();
+
+  // Timer1 of frmschedtime.
+  void Timer1_Timer();
+  // Called every minute by the tray window: stands in for the timer window while that is not loaded, so that
+  // an item which is hours away is found when its hour comes.
+  void KeepWatch();
+  // Steers the timer window at its next tick: "DOWN" starts the minute ticks, "CLOSE" unloads it.
+  void SetCommand(std::string command) { command_ = std::move(command); }
+
+  // Tells what came on since `lastSeen` while the program was closed. Called once when the program has
+  // loaded.
+  void CatchUp(const DateTime& lastSeen);
+
+  const std::array<int, kDuePlaces>& DueList() const { return due_; }
+  std::size_t DueCount() const { return dueCount_; }
+  int FiredItem() const { return firedItem_; }
+  int TickCounter() const { return tickCounter_; }
+
+ private:
+  void Tick();
+
+  enum class Pace { Even, SkippedAhead, WentBack, WasAway };
+
+  Pace PaceSinceLastTick(const DateTime& now, const DateTime& gmt) const;
+  void FillDueList(const DateTime& now);
+  void FireDue(const DateTime& now);
+  bool FireEntries(const DateTime& now);
+  void FireSkipped(const DateTime& now);
+  void TellMissed(const DateTime& from, const DateTime& now);
+  void Fire(std::size_t slot);
+  bool FirstTime(const Occurrence& occurrence);
+  void Remember(const DateTime& now, const DateTime& gmt);
+
+  ScheduleCalendar& calendar_;
+  Clock& clock_;
+  MessagePost& messages_;
+  ScheduleTimerView& view_;
+  LiveStarts liveStarts_;
+  AwayNotice awayNotice_;
+
+  std::array<int, kDuePlaces> due_{};  // slots; -1 has fired
+  std::size_t dueCount_ = 0;
+  bool dueOverflowed_ = false;  // more items qualified than there are places
+  int tickCounter_ = 0;
+  int firedItem_ = 0;
+  std::string command_;
+
+  DateTime lastTick_;
+  DateTime lastGmt_;
+  std::set<Occurrence> told_;  // within about a day of the clock
+};
+
+}  // namespace sonaro
