@@ -99,6 +99,11 @@ std::size_t CommonAsciiStart(std::string_view a, std::string_view b) {
 std::string FoldCase(std::string_view text) {
   std::string out;
   out.reserve(text.size());
+  AppendFoldCase(out, text);
+  return out;
+}
+
+void AppendFoldCase(std::string& out, std::string_view text) {
   while (!text.empty()) {
     const std::size_t run = AsciiRun(text);
     const auto start = static_cast<std::ptrdiff_t>(out.size());
@@ -115,7 +120,6 @@ std::string FoldCase(std::string_view text) {
       text.remove_prefix(std::max<std::size_t>(character.length, 1));
     }
   }
-  return out;
 }
 
 // The comparisons walk over what is plain ASCII on both sides and fold only from the first other character

@@ -50,7 +50,7 @@ bool DataFolder::Save(std::string_view name, std::string_view bytes) {
   std::unique_ptr<OutputFile> file = files_.Create(neighbour);
   bool saved = file && file->Append(bytes) && file->Commit(Durability::Flushed);
   file.reset();
-  saved = saved && files_.Replace(neighbour, path);
+  saved = saved && files_.Replace(neighbour, path, Durability::Flushed);
   if (!saved) files_.Remove(neighbour);
   return saved;
 }
@@ -58,7 +58,7 @@ bool DataFolder::Save(std::string_view name, std::string_view bytes) {
 bool DataFolder::Remove(std::string_view name) { return files_.Remove(Path(name)); }
 
 bool DataFolder::Replace(std::string_view from, std::string_view to) {
-  return files_.Replace(Path(from), Path(to));
+  return files_.Replace(Path(from), Path(to), Durability::Flushed);
 }
 
 ReadResult ReadWholeFile(Files& files, const std::string& path) {

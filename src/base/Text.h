@@ -2,6 +2,7 @@
 // sets to UTF-8; positions and lengths count bytes. Nothing here knows files, settings or windows.
 #pragma once
 
+#include <cstdint>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -14,6 +15,10 @@ std::string_view TrimBlanks(std::string_view text);
 // The text with every character replaced by its full Unicode case folding (UTF-8 in, UTF-8 out; a sharp s
 // becomes "ss"). Bytes that are not valid UTF-8 are copied, with A-Z folded to a-z.
 std::string FoldCase(std::string_view text);
+// The same, appended to `out`.
+void AppendFoldCase(std::string& out, std::string_view text);
+// Changes whenever FoldCase gives another result for some text; stored folded text of another version is void.
+inline constexpr std::uint32_t kFoldCaseVersion = 14;
 
 // Comparisons that ignore letter case in the sense of FoldCase.
 bool EqualIgnoringCase(std::string_view a, std::string_view b);

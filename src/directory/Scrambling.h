@@ -2,10 +2,13 @@
 // LinkOne to WebSite are stored scrambled and turned into plain text only where they are used.
 #pragma once
 
+#include <cstddef>
 #include <string>
 #include <string_view>
 
 namespace sonaro {
+
+class DataFolder;
 
 inline constexpr std::size_t kAlphabetSize = 76;
 
@@ -27,5 +30,13 @@ const ScramblingAlphabets& BuiltInAlphabets();
 // Alphabets out of the two lines of "\alphabet.snr". False, with `alphabets` untouched, when they are not 76
 // characters each, none of them twice, and the second a permutation of the first.
 bool ParseAlphabets(std::string_view fileText, ScramblingAlphabets& alphabets);
+
+enum class AlphabetSource {
+  BuiltIn,             // there is no "\alphabet.snr"
+  DataFolder,          // "\alphabet.snr"
+  BuiltInAfterBadFile  // "\alphabet.snr" was refused or could not be read: the user should be told
+};
+// The alphabets to use with the files of `data`; always a usable pair.
+AlphabetSource LoadAlphabets(DataFolder& data, ScramblingAlphabets& alphabets);
 
 }  // namespace sonaro

@@ -1,6 +1,7 @@
-// The station directory: the table "\statorg" built from "\station.snr", looked up by identifier and searched.
-// Owned by Application. Opening is cheap: the table stays in memory between operations as long as the files on
-// disk are still the generation that was read, and no file is held open, so that an update can replace them.
+// The station directory: the table "\statorg" built from "\station.snr", looked up by identifier and
+// searched. Owned by Application. Opening is cheap: the table stays in memory between operations as long as
+// the files on disk are still the generation that was read, and no file is held open, so that an update can
+// replace them.
 #pragma once
 
 #include <cstdint>
@@ -28,7 +29,8 @@ class StatList {
   // The result of the last operation on the table; each one overwrites it.
   TableStatus LastStatus() const;
 
-  // Deletes the table's files and creates an empty table. `fileName` is a name in the data folder, "\statorg".
+  // Deletes the table's files and creates an empty table. `fileName` is a name in the data folder,
+  // "\statorg".
   bool CreateStationTable(std::string_view fileName);
   Handle OpenStationTable(std::string_view fileName, OpenMode mode);
   // Closing a table opened for writing puts the new generation in place.
@@ -47,9 +49,9 @@ class StatList {
   // One look-up: open, get, close.
   StationRecord FindStation(std::int32_t stationId);
 
-  // The identifiers of the matching stations in key order. Words are what stands between single blanks, at most
-  // 100; a word matches when it occurs anywhere in one of the five searched fields (name, media type, location,
-  // description, format), letter case ignored; all words or any word must match.
+  // The identifiers of the matching stations in key order. Words are what stands between single blanks, at
+  // most 100; a word matches when it occurs anywhere in one of the five searched fields (name, media type,
+  // location, description, format), letter case ignored; all words or any word must match.
   std::vector<std::int32_t> SearchStationIds(std::string_view text, bool allWords);
   std::vector<StationRecord> SearchStations(std::string_view text, bool allWords);
 

@@ -35,7 +35,9 @@ struct StationRecord {
   std::array<std::string, kFieldCount> fields;
 
   std::string& operator[](StationField field) { return fields[static_cast<std::size_t>(field) - 1]; }
-  const std::string& operator[](StationField field) const { return fields[static_cast<std::size_t>(field) - 1]; }
+  const std::string& operator[](StationField field) const {
+    return fields[static_cast<std::size_t>(field) - 1];
+  }
   bool Empty() const { return StationId == 0; }
   bool operator==(const StationRecord&) const = default;
 };

@@ -129,9 +129,9 @@ std::unique_ptr<OutputFile> FilesPosix::Create(const std::string& path) {
   return descriptor < 0 ? nullptr : std::make_unique<OutputFilePosix>(descriptor);
 }
 
-bool FilesPosix::Replace(const std::string& from, const std::string& to) {
+bool FilesPosix::Replace(const std::string& from, const std::string& to, Durability durability) {
   if (::rename(from.c_str(), to.c_str()) != 0) return false;
-  FlushFolderOf(to);
+  if (durability == Durability::Flushed) FlushFolderOf(to);
   return true;
 }
 
