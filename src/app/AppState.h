@@ -1,4 +1,5 @@
-// The start-up state that the whole program reads: set once while the program starts, a member of Application.
+// The start-up state that the whole program reads: set once while the program starts, a member of
+// Application.
 #pragma once
 
 #include <string>

@@ -1,6 +1,7 @@
-// The settings store: named text values under one root key of the registry. One instance, owned by Application,
-// pointed at HKEY_LOCAL_MACHINE; the same class reads a few keys of the system and of the media player.
-// No operation reports failure: a read that cannot be done gives "", which every caller takes as "never set".
+// The settings store: named text values under one root key of the registry. One instance, owned by
+// Application, pointed at HKEY_LOCAL_MACHINE; the same class reads a few keys of the system and of the media
+// player. No operation reports failure: a read that cannot be done gives "", which every caller takes as
+// "never set".
 #pragma once
 
 #include <string>
@@ -23,8 +24,9 @@ class CReg {
   RootKey MainKey() const { return mainKey_; }
   void SetMainKey(RootKey root) { mainKey_ = root; }
 
-  // Writes exactly the characters of `data`, without a terminating zero. With `asString` false the number that
-  // `data` reads as is stored as a 32-bit integer of type REG_BINARY. A key that does not exist is not created.
+  // Writes exactly the characters of `data`, without a terminating zero. With `asString` false the number
+  // that `data` reads as is stored as a 32-bit integer of type REG_BINARY. A key that does not exist is not
+  // created.
   void SetData(const std::string& key, const std::string& valueName, std::string_view data,
                bool asString = true);
   void DeleteValue(const std::string& key, const std::string& valueName);

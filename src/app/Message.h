@@ -10,7 +10,7 @@ namespace sonaro {
 enum class MessageAnswer : int { Closed = 0, First = 1, Second = 2 };
 
 struct Message {
-  std::string key;           // message key, selects the help page: "QuickStart"
+  std::string key;  // message key, selects the help page: "QuickStart"
   std::string caption;
   std::string text;
   std::string firstButton;

@@ -1,5 +1,5 @@
-// Dialog texts by their number in the string table (resources/ids.h, 10000 upward). The program loads them from
-// its resources; tests give each number's own decimal text, so that they do not depend on the wording.
+// Dialog texts by their number in the string table (resources/ids.h, 10000 upward). The program loads them
+// from its resources; tests give each number's own decimal text, so that they do not depend on the wording.
 #pragma once
 
 #include <initializer_list>

@@ -1,0 +1,20 @@
+// Checks that the directory's files are there, and asks the user what to do when they are not.
+#pragma once
+
+namespace sonaro {
+
+class CReg;
+class DataFolder;
+class HelpPages;
+class MessageBoxView;
+class Strings;
+
+// True when one of the files is missing that the program cannot work without: the rankings, the station
+// table, the list of categories and the list of every category that it names.
+bool DataFilesMissing(DataFolder& data);
+
+// The "Files Missing" question. Clears "LastUpdate", so that the next update fetches everything. True: go on
+// without the files. False: the user declined, the help page is opened, and the program is to end.
+bool AskToGetMissingFiles(CReg& reg, const Strings& strings, MessageBoxView& messages, HelpPages& help);
+
+}  // namespace sonaro

@@ -1,0 +1,28 @@
+// The help pages: which one belongs to a message, where they are, and opening one in the browser. Owned by
+// Application.
+#pragma once
+
+#include <string>
+#include <string_view>
+
+namespace sonaro {
+
+class CReg;
+class WebPageOpener;
+
+// The page of a message key, compared exactly: "9070.html" for "QuickStart". "index.html" for any other key.
+std::string_view HelpPageForMessage(std::string_view messageKey);
+
+class HelpPages {
+ public:
+  HelpPages(CReg& reg, WebPageOpener& browser) : reg_(reg), browser_(browser) {}
+
+  // Opens a page of the help site, such as "9037.html". The first call stores the default base in "HelpURL".
+  void OpenHelpPage(std::string_view page);
+
+ private:
+  CReg& reg_;
+  WebPageOpener& browser_;
+};
+
+}  // namespace sonaro

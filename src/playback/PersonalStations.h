@@ -1,0 +1,73 @@
+// The user's own stations, kept in "\personal.snr": one line each, the index, the name, three links, the web
+// site, the type and a note, separated by TABs. Owned by Application.
+//
+// An index names a station for good: groups, the recent list and the schedule refer to it, so a deleted
+// station leaves a line with its index behind and no index is given twice. Lines that cannot be understood
+// are kept.
+#pragma once
+
+#include <array>
+#include <cstdint>
+#include <span>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace sonaro {
+
+class DataFolder;
+
+struct PersonalStation {
+  static constexpr std::size_t kMaxName = 200;  // bytes
+  static constexpr std::size_t kMaxLink = 2000;
+  static constexpr std::size_t kMaxNote = 4000;
+
+  std::int32_t index = 0;  // from 1; 0: not stored yet
+  std::string name;
+  std::array<std::string, 3> links;  // link texts, see PlayLink
+  std::string webSite;
+  std::string type;  // what the lists show as the media type
+  std::string note;
+  bool operator==(const PersonalStation&) const = default;
+};
+
+class PersonalStations {
+ public:
+  explicit PersonalStations(DataFolder& data) : data_(data) {}
+
+  // Reads the file; what was in memory is forgotten. False when the file is there but could not be read; the
+  // changes below are refused then.
+  bool Load();
+
+  // The stations in table order.
+  std::vector<PersonalStation> All() const;
+  // The station with this index, or null. Valid until the next change.
+  const PersonalStation* Find(std::int32_t index) const;
+
+  // Each change is saved at once; one that cannot be saved is undone. Texts are cleaned: control characters
+  // become blanks, blanks at the ends go, and what is too long is cut. A station needs a name.
+  // The new station's index, or 0.
+  std::int32_t Add(const PersonalStation& station);
+  // Adds all with one write. The indices in order, 0 for a station without a name; empty when nothing was
+  // saved.
+  std::vector<std::int32_t> AddAll(std::span<const PersonalStation> stations);
+  // Replaces the station with `station.index`.
+  bool Change(const PersonalStation& station);
+  bool Delete(std::int32_t index);
+
+ private:
+  struct Line {
+    std::string kept;  // a line that is not a live station: kept as it stands
+    PersonalStation station;
+  };
+
+  void Read(std::string_view line);
+  bool Save(std::vector<Line> changed);
+  std::vector<Line>::iterator LineOf(std::vector<Line>& lines, std::int32_t index) const;
+
+  DataFolder& data_;
+  std::vector<Line> lines_;
+  std::int32_t highestIndex_ = 0;
+};
+
+}  // namespace sonaro

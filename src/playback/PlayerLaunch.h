@@ -1,0 +1,82 @@
+// Turns a request to play a station into a running player. Owned by Application; everything that plays
+// something (lists, groups, the scan, notifications) comes through here.
+#pragma once
+
+#include <functional>
+#include <string>
+
+#include "playback/StationKey.h"
+#include "playback/StationSource.h"
+
+namespace sonaro {
+
+class Players;
+class RecentList;
+class Strings;
+class WebPages;
+
+// What became of a request.
+enum class LaunchOutcome {
+  Started,       // a player was given the link
+  WebPage,       // the browser was given the page
+  NoLink,        // there is nothing to play
+  RefusedLink,   // the link is not safe to hand over
+  NoPlayer,      // no RealPlayer-compatible player on this machine
+  NoAsxProgram,  // no program for .asx files
+  NotStarted     // the program was found but did not start
+};
+
+// What only a window can do.
+class LaunchView {
+ public:
+  virtual ~LaunchView() = default;
+  // Shows the "NoPlayer" page of frmStartUpInfo and returns when it is closed.
+  virtual void ShowNoPlayer() = 0;
+  // Tells the user in one sentence why nothing plays.
+  virtual void SayWhyNot(const std::string& sentence) = 0;
+};
+
+class PlayerLaunch {
+ public:
+  PlayerLaunch(const StationSource& stations, RecentList& recent, Players& players, WebPages& pages,
+               const Strings& strings)
+      : stations_(stations), recent_(recent), players_(players), pages_(pages), strings_(strings) {}
+
+  // The view may be set late; without one nothing is shown.
+  void SetView(LaunchView* view) { view_ = view; }
+  // Called after every launch with its key and mode. Sends nothing by itself: play reports are off.
+  void SetAfterLaunch(std::function<void(const std::string& key, PlayMode mode)> afterLaunch) {
+    afterLaunch_ = std::move(afterLaunch);
+  }
+
+  // Plays a station. `key` is what `mode` says: a decimal station identifier, an index, or a link. Says to
+  // the user why nothing plays.
+  void LaunchStation(const std::string& key, PlayMode mode);
+  // The same without a word, for those who play by themselves and must not stop in a dialog.
+  LaunchOutcome TryLaunch(const std::string& key, PlayMode mode);
+  // The same for a station as a whole: its first link, or the alternate one. Never opens its web site
+  // instead.
+  LaunchOutcome TryLaunch(const StationKey& station);
+
+  // One sentence for the user; "" for an outcome that needs none.
+  std::string WhyNot(LaunchOutcome outcome) const;
+
+ private:
+  std::string LinkFor(const std::string& key, PlayMode mode) const;
+  LaunchOutcome PlayLinkText(const std::string& link);
+  LaunchOutcome OpenWebSite(const StationKey& station);
+  void ShowNoPlayerGuarded();
+
+  static constexpr int kNoPlayerShown = 100;
+
+  const StationSource& stations_;
+  RecentList& recent_;
+  Players& players_;
+  WebPages& pages_;
+  const Strings& strings_;
+  LaunchView* view_ = nullptr;
+  std::function<void(const std::string&, PlayMode)> afterLaunch_;
+  int noPlayerGuard_ = 0;
+};
+
+}  // namespace sonaro

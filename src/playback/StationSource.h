@@ -1,0 +1,49 @@
+// What a station key stands for: the name, the links and the web site of a directory station or of one of the
+// user's own, in plain text. Owned by Application; changes nothing.
+#pragma once
+
+#include <cstdint>
+#include <string>
+
+#include "directory/StationRecord.h"
+#include "playback/StationKey.h"
+
+namespace sonaro {
+
+class PersonalStations;
+class StatList;
+struct ScramblingAlphabets;
+
+// Which link is asked for. The numbers are those that are passed around in the program.
+enum class PlayMode : int {
+  LinkOne = 1,
+  LinkTwo = 2,
+  LinkThree = 3,
+  Personal = 10,   // the key is the index of a personal station
+  BeforeTab = 11,  // the link is the part of the key before its first TAB
+  KeyItself = 20   // the key is the link
+};
+
+class StationSource {
+ public:
+  StationSource(StatList& stations, const PersonalStations& personal, const ScramblingAlphabets& alphabets)
+      : stations_(stations), personal_(personal), alphabets_(alphabets) {}
+
+  // The record of a directory station with its links unscrambled; empty when there is none.
+  StationRecord Record(std::int32_t stationId) const;
+  // "" when the key names nothing.
+  std::string NameOf(const StationKey& key) const;
+  // The web site as it stands, without a scheme put in front; "" when there is none.
+  std::string WebSiteOf(const StationKey& key) const;
+  // Link 1 to 3 of the station; "" when it has none.
+  std::string LinkOf(const StationKey& key, int number) const;
+  // The link to play when the one asked for is empty. Personal stations have none.
+  std::string AlternateLinkOf(const StationKey& key) const;
+
+ private:
+  StatList& stations_;
+  const PersonalStations& personal_;
+  const ScramblingAlphabets& alphabets_;
+};
+
+}  // namespace sonaro
