@@ -1,0 +1,203 @@
+#include "Probe.h"
+
+#include <array>
+
+namespace sonaro::desktop {
+
+namespace {
+
+constexpr UINT kAnswerLimitMs = 10000;
+
+// A message to another process that may be busy or gone: 0 when no answer came.
+LRESULT Send(HWND window, UINT message, WPARAM wParam = 0, LPARAM lParam = 0) {
+  DWORD_PTR result = 0;
+  SendMessageTimeoutA(window, message, wParam, lParam, SMTO_ABORTIFHUNG, kAnswerLimitMs, &result);
+  return static_cast<LRESULT>(result);
+}
+
+struct TopWindowSearch {
+  DWORD processId;
+  const std::string& className;
+  const std::string& caption;
+  HWND found = nullptr;
+};
+
+BOOL CALLBACK CheckTopWindow(HWND window, LPARAM parameter) {
+  auto& search = *reinterpret_cast<TopWindowSearch*>(parameter);
+  DWORD processId = 0;
+  GetWindowThreadProcessId(window, &processId);
+  if (processId != search.processId) return TRUE;
+  if (!search.className.empty() && lstrcmpiA(ClassOf(window).c_str(), search.className.c_str()) != 0)
+    return TRUE;
+  if (!search.caption.empty() && TextOf(window) != search.caption) return TRUE;
+  search.found = window;
+  return FALSE;
+}
+
+void SendInputs(std::vector<INPUT> inputs) {
+  SendInput(static_cast<UINT>(inputs.size()), inputs.data(), sizeof(INPUT));
+}
+
+INPUT KeyInput(WORD virtualKey, DWORD flags) {
+  INPUT input{};
+  input.type = INPUT_KEYBOARD;
+  input.ki.wVk = virtualKey;
+  input.ki.dwFlags = flags;
+  return input;
+}
+
+INPUT MouseInput(DWORD flags) {
+  INPUT input{};
+  input.type = INPUT_MOUSE;
+  input.mi.dwFlags = flags;
+  return input;
+}
+
+void BringToFront(HWND window) {
+  HWND top = GetAncestor(window, GA_ROOT);
+  if (GetForegroundWindow() == top) return;
+  SetForegroundWindow(top);
+  WaitUntil([top] { return GetForegroundWindow() == top; }, std::chrono::seconds(2));
+}
+
+WORD KeyOf(Modifier modifier) {
+  switch (modifier) {
+    case Modifier::Control:
+      return VK_CONTROL;
+    case Modifier::Shift:
+      return VK_SHIFT;
+    case Modifier::Alt:
+      return VK_MENU;
+    case Modifier::None:
+      break;
+  }
+  return 0;
+}
+
+}  // namespace
+
+HWND FindTopWindow(DWORD processId, const std::string& className, const std::string& caption) {
+  TopWindowSearch search{processId, className, caption};
+  EnumWindows(&CheckTopWindow, reinterpret_cast<LPARAM>(&search));
+  return search.found;
+}
+
+std::vector<HWND> Descendants(HWND window) {
+  std::vector<HWND> windows;
+  EnumChildWindows(
+      window,
+      [](HWND child, LPARAM parameter) -> BOOL {
+        reinterpret_cast<std::vector<HWND>*>(parameter)->push_back(child);
+        return TRUE;
+      },
+      reinterpret_cast<LPARAM>(&windows));
+  return windows;
+}
+
+HWND Control(HWND window, int id) {
+  for (HWND child : Descendants(window)) {
+    if (GetDlgCtrlID(child) == id) return child;
+  }
+  return nullptr;
+}
+
+std::string ClassOf(HWND window) {
+  std::array<char, 256> name{};
+  const int length = GetClassNameA(window, name.data(), static_cast<int>(name.size()));
+  return {name.data(), static_cast<size_t>(length)};
+}
+
+std::string TextOf(HWND window) {
+  const LRESULT length = Send(window, WM_GETTEXTLENGTH, 0, 0);
+  if (length <= 0) return "";
+  std::string text(static_cast<size_t>(length) + 1, '\0');
+  const LRESULT copied = Send(window, WM_GETTEXT, text.size(), reinterpret_cast<LPARAM>(text.data()));
+  text.resize(static_cast<size_t>(copied));
+  return text;
+}
+
+void SetText(HWND window, const std::string& text) {
+  Send(window, WM_SETTEXT, 0, reinterpret_cast<LPARAM>(text.c_str()));
+}
+
+bool IsShown(HWND window) { return IsWindow(window) && IsWindowVisible(window); }
+
+RECT BoundsOf(HWND window) {
+  RECT bounds{};
+  GetWindowRect(window, &bounds);
+  return bounds;
+}
+
+void Click(HWND button) { PostMessageA(button, BM_CLICK, 0, 0); }
+
+void Command(HWND window, int id) { PostMessageA(window, WM_COMMAND, static_cast<WPARAM>(id), 0); }
+
+void CloseWindowOf(HWND window) { PostMessageA(window, WM_CLOSE, 0, 0); }
+
+bool IsChecked(HWND button) { return Send(button, BM_GETCHECK) == BST_CHECKED; }
+
+std::vector<std::string> ComboTexts(HWND combo) {
+  std::vector<std::string> texts;
+  const LRESULT count = Send(combo, CB_GETCOUNT);
+  for (LRESULT i = 0; i < count; ++i) {
+    const LRESULT length = Send(combo, CB_GETLBTEXTLEN, static_cast<WPARAM>(i), 0);
+    std::string text(static_cast<size_t>(length < 0 ? 0 : length) + 1, '\0');
+    Send(combo, CB_GETLBTEXT, static_cast<WPARAM>(i), reinterpret_cast<LPARAM>(text.data()));
+    texts.emplace_back(text.c_str());
+  }
+  return texts;
+}
+
+void PressKey(HWND window, WORD virtualKey, Modifier modifier) {
+  BringToFront(window);
+  const WORD held = KeyOf(modifier);
+  std::vector<INPUT> inputs;
+  if (held != 0) inputs.push_back(KeyInput(held, 0));
+  inputs.push_back(KeyInput(virtualKey, 0));
+  inputs.push_back(KeyInput(virtualKey, KEYEVENTF_KEYUP));
+  if (held != 0) inputs.push_back(KeyInput(held, KEYEVENTF_KEYUP));
+  SendInputs(inputs);
+}
+
+void TypeText(HWND window, const std::string& text) {
+  BringToFront(window);
+  const int length = MultiByteToWideChar(CP_UTF8, 0, text.data(), static_cast<int>(text.size()), nullptr, 0);
+  std::wstring units(static_cast<size_t>(length), L'\0');
+  MultiByteToWideChar(CP_UTF8, 0, text.data(), static_cast<int>(text.size()), units.data(), length);
+  for (const wchar_t unit : units) {
+    INPUT input{};
+    input.type = INPUT_KEYBOARD;
+    input.ki.wScan = static_cast<WORD>(unit);
+    input.ki.dwFlags = KEYEVENTF_UNICODE;
+    INPUT release = input;
+    release.ki.dwFlags |= KEYEVENTF_KEYUP;
+    SendInputs({input, release});
+  }
+}
+
+void ClickAt(int screenX, int screenY, bool rightButton) {
+  SetCursorPos(screenX, screenY);
+  SendInputs({MouseInput(rightButton ? MOUSEEVENTF_RIGHTDOWN : MOUSEEVENTF_LEFTDOWN),
+              MouseInput(rightButton ? MOUSEEVENTF_RIGHTUP : MOUSEEVENTF_LEFTUP)});
+}
+
+void DragFromTo(POINT from, POINT to) {
+  constexpr int kSteps = 8;
+  SetCursorPos(from.x, from.y);
+  SendInputs({MouseInput(MOUSEEVENTF_LEFTDOWN)});
+  for (int i = 1; i <= kSteps; ++i) {
+    Sleep(20);  // the move loop takes the pointer's places one by one
+    SetCursorPos(from.x + (to.x - from.x) * i / kSteps, from.y + (to.y - from.y) * i / kSteps);
+  }
+  Sleep(20);
+  SendInputs({MouseInput(MOUSEEVENTF_LEFTUP)});
+}
+
+HWND FocusOf(HWND window) {
+  GUITHREADINFO info{};
+  info.cbSize = sizeof(info);
+  if (!GetGUIThreadInfo(GetWindowThreadProcessId(window, nullptr), &info)) return nullptr;
+  return info.hwndFocus;
+}
+
+}  // namespace sonaro::desktop

@@ -1,0 +1,73 @@
+// Looks into windows of another process and works them, as a user or a screen reader would: finds controls by
+// their numbers, reads texts and items, clicks, types. Free functions on window handles; a window that is
+// gone reads as empty. Texts are UTF-8. Nothing here waits, except WaitUntil.
+#pragma once
+
+#include <windows.h>
+
+#include <commctrl.h>
+
+#include <chrono>
+#include <string>
+#include <vector>
+
+namespace sonaro::desktop {
+
+// Asks every 10 ms until the condition holds (true) or the time is up (false).
+template <typename Condition>
+bool WaitUntil(Condition condition, std::chrono::milliseconds limit = std::chrono::seconds(10)) {
+  const auto end = std::chrono::steady_clock::now() + limit;
+  while (!condition()) {
+    if (std::chrono::steady_clock::now() >= end) return false;
+    Sleep(10);
+  }
+  return true;
+}
+
+// Windows and controls.
+// The first top-level window of the process with this class and caption ("" = any), shown or not; null when
+// none.
+HWND FindTopWindow(DWORD processId, const std::string& className, const std::string& caption = "");
+// The descendant with this number (forms/ControlIds.h); null when there is none.
+HWND Control(HWND window, int id);
+std::vector<HWND> Descendants(HWND window);
+std::string ClassOf(HWND window);
+std::string TextOf(HWND window);
+void SetText(HWND window, const std::string& text);
+bool IsShown(HWND window);
+RECT BoundsOf(HWND window);  // on the screen
+
+// Posted, so that a click that opens a modal window returns as well.
+void Click(HWND button);
+void Command(HWND window, int id);
+void CloseWindowOf(HWND window);
+bool IsChecked(HWND button);
+
+// List views in report style. Rows and columns count from 0.
+int RowCount(HWND list);
+std::string CellText(HWND list, int row, int column = 0);
+std::vector<std::string> ColumnTexts(HWND list, int column = 0);
+std::vector<int> SelectedRows(HWND list);
+void SelectRow(HWND list, int row);  // alone, focused and scrolled into view
+void DoubleClickRow(HWND list, int row);
+
+// Tree views.
+std::vector<HTREEITEM> TreeChildren(HWND tree, HTREEITEM parent = nullptr);
+std::string TreeText(HWND tree, HTREEITEM item);
+// The item that the texts lead to from the top; null when a step is missing. Expands on the way.
+HTREEITEM FindTreeItem(HWND tree, const std::vector<std::string>& texts);
+void ClickTreeItem(HWND tree, HTREEITEM item);
+
+// Combos and list boxes.
+std::vector<std::string> ComboTexts(HWND combo);
+
+// The keyboard and the mouse of the display. The window is brought to the front first.
+enum class Modifier { None, Control, Shift, Alt };
+void PressKey(HWND window, WORD virtualKey, Modifier modifier = Modifier::None);
+void TypeText(HWND window, const std::string& text);
+void ClickAt(int screenX, int screenY, bool rightButton = false);
+void DragFromTo(POINT from, POINT to);
+// The control with the keyboard focus in the window's thread; null when the thread has none.
+HWND FocusOf(HWND window);
+
+}  // namespace sonaro::desktop
