@@ -1,0 +1,174 @@
+#include "text/CleanText.h"
+
+#include <algorithm>
+#include <array>
+#include <charconv>
+#include <map>
+#include <utility>
+
+#include "base/Text.h"
+#include "text/Utf8.h"
+
+namespace sonaro {
+namespace {
+
+bool IsSpaceLike(char32_t c) {
+  return c <= 0x20 || (c >= 0x7F && c <= 0xA0) || c == 0x1680 || (c >= 0x2000 && c <= 0x200A) || c == 0x2028 ||
+         c == 0x2029 || c == 0x202F || c == 0x205F || c == 0x3000;
+}
+
+bool IsInvisible(char32_t c) {
+  return c == 0xAD || c == 0x200B || c == 0x200E || c == 0x200F || (c >= 0x202A && c <= 0x202E) || c == 0x2060 ||
+         (c >= 0x2066 && c <= 0x2069) || c == 0xFEFF || (c >= 0xFFF9 && c <= 0xFFFB) ||
+         (c >= 0xE0000 && c <= 0xE007F) || (c & 0xFFFE) == 0xFFFE;
+}
+
+// Small letters that are a base letter with something added, after case folding.
+constexpr std::array<std::pair<std::string_view, std::string_view>, 38> kBaseLetters = {{
+    {"a", "àáâãäåāăąǎ"}, {"ae", "æ"},      {"c", "çćĉċč"},     {"d", "ďđð"},       {"e", "èéêëēĕėęěə"},
+    {"g", "ĝğġģ"},       {"h", "ĥħ"},      {"i", "ìíîïĩīĭįı"}, {"j", "ĵ"},         {"k", "ķ"},
+    {"l", "ĺļľŀł"},      {"n", "ñńņňŉ"},   {"o", "òóôõöøōŏőơ"}, {"oe", "œ"},        {"r", "ŕŗř"},
+    {"s", "śŝşšș"},      {"ss", "ß"},      {"t", "ţťŧț"},      {"th", "þ"},        {"u", "ùúûüũūŭůűųư"},
+    {"w", "ŵ"},          {"y", "ýÿŷ"},     {"z", "źżž"},       {"α", "ά"},         {"ε", "έ"},
+    {"η", "ή"},          {"ι", "ίϊΐ"},     {"ο", "ό"},         {"υ", "ύϋΰ"},       {"ω", "ώ"},
+    {"σ", "ς"},          {"е", "ёѐ"},      {"и", "ѝ"},         {"", "'’‘`´ʼ′"},    {"n", "ʼn"},
+    {"", "ʹʺ"},          {"a", "ạảấầẩẫậắằẳẵặ"}, {"e", "ẹẻẽếềểễệ"},
+}};
+
+const std::map<char32_t, std::string_view>& BaseLetters() {
+  static const std::map<char32_t, std::string_view> letters = [] {
+    std::map<char32_t, std::string_view> map;
+    for (const auto& [base, forms] : kBaseLetters) {
+      for (std::size_t position = 0; position < forms.size();) map.emplace(NextCodePoint(forms, position), base);
+    }
+    return map;
+  }();
+  return letters;
+}
+
+bool IsAsciiAlphanumeric(char32_t c) {
+  return (c >= '0' && c <= '9') || (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z');
+}
+
+// Punctuation and symbols outside ASCII that separate words.
+bool IsWidePunctuation(char32_t c) {
+  return (c >= 0x80 && c < 0xC0 && c != 0xAA && c != 0xB5 && c != 0xBA) || c == 0xD7 || c == 0xF7 ||
+         (c >= 0x2000 && c <= 0x2BFF) || (c >= 0x3000 && c <= 0x303F) || (c >= 0xFF00 && c <= 0xFF0F) ||
+         (c >= 0xFF1A && c <= 0xFF20) || (c >= 0xFE00 && c <= 0xFE0F) || c >= 0x1F000;
+}
+
+void AppendKeyCharacter(std::string& key, char32_t c) {
+  if (c < 0x80) {
+    if (IsAsciiAlphanumeric(c)) {
+      key.push_back(static_cast<char>(c));
+    } else if (c != '\'' && c != '`' && !key.empty() && key.back() != ' ') {
+      key.push_back(' ');
+    }
+    return;
+  }
+  if (c >= 0x300 && c <= 0x36F) return;  // combining accents
+  const auto base = BaseLetters().find(c);
+  if (base != BaseLetters().end()) {
+    key += base->second;
+  } else if (IsWidePunctuation(c) || IsSpaceLike(c) || IsInvisible(c)) {
+    if (!key.empty() && key.back() != ' ') key.push_back(' ');
+  } else {
+    AppendUtf8(key, c);
+  }
+}
+
+// The character that the reference between '&' and ';' stands for; 0 when it is none.
+char32_t ReferencedCharacter(std::string_view name) {
+  constexpr std::array<std::pair<std::string_view, char32_t>, 6> kNamed = {
+      {{"amp", '&'}, {"lt", '<'}, {"gt", '>'}, {"quot", '"'}, {"apos", '\''}, {"nbsp", ' '}}};
+  for (const auto& [known, character] : kNamed) {
+    if (name == known) return character;
+  }
+  if (!name.starts_with('#') || name.size() < 2) return 0;
+  name.remove_prefix(1);
+  const bool hexadecimal = name.front() == 'x' || name.front() == 'X';
+  if (hexadecimal) name.remove_prefix(1);
+  std::uint32_t value = 0;
+  const auto [end, error] = std::from_chars(name.data(), name.data() + name.size(), value, hexadecimal ? 16 : 10);
+  const bool valid = error == std::errc() && end == name.data() + name.size() && !name.empty() &&
+                     value <= 0x10FFFF && (value < 0xD800 || value > 0xDFFF);
+  return valid ? value : 0;
+}
+
+}  // namespace
+
+std::string CleanText(std::string_view text) {
+  std::string clean;
+  clean.reserve(text.size());
+  bool gap = false;
+  for (std::size_t position = 0; position < text.size();) {
+    const char32_t c = NextCodePoint(text, position);
+    if (IsInvisible(c)) continue;
+    if (IsSpaceLike(c)) {
+      gap = true;
+      continue;
+    }
+    if (gap && !clean.empty()) clean.push_back(' ');
+    gap = false;
+    AppendUtf8(clean, c);
+  }
+  return clean;
+}
+
+std::string DecodeEntities(std::string_view text) {
+  constexpr std::size_t kLongestReference = 10;
+  std::string decoded;
+  decoded.reserve(text.size());
+  for (std::size_t position = 0; position < text.size(); ++position) {
+    const std::size_t end = text[position] == '&' ? text.find(';', position) : std::string_view::npos;
+    if (end != std::string_view::npos && end - position <= kLongestReference) {
+      if (const char32_t c = ReferencedCharacter(text.substr(position + 1, end - position - 1)); c != 0) {
+        AppendUtf8(decoded, c);
+        position = end;
+        continue;
+      }
+    }
+    decoded.push_back(text[position]);
+  }
+  return decoded;
+}
+
+std::string MatchKey(std::string_view text) {
+  const std::string folded = FoldCase(text);
+  std::string key;
+  key.reserve(folded.size());
+  for (std::size_t position = 0; position < folded.size();) {
+    AppendKeyCharacter(key, NextCodePoint(folded, position));
+  }
+  if (key.ends_with(' ')) key.pop_back();
+  return key;
+}
+
+std::vector<std::string_view> KeyWords(std::string_view key) {
+  if (key.empty()) return {};
+  return Split(key, ' ');
+}
+
+std::string Capitalized(std::string_view text) {
+  if (text.empty()) return {};
+  std::size_t position = 0;
+  char32_t c = NextCodePoint(text, position);
+  const bool latin = (c >= 'a' && c <= 'z') || (c >= 0xE0 && c <= 0xFE && c != 0xF7);
+  const bool greekOrCyrillic = (c >= 0x3B1 && c <= 0x3C9 && c != 0x3C2) || (c >= 0x430 && c <= 0x44F);
+  if (latin || greekOrCyrillic) c -= 0x20;
+  if (c >= 0x450 && c <= 0x45F) c -= 0x50;
+  std::string result;
+  AppendUtf8(result, c);
+  return result.append(text.substr(position));
+}
+
+std::string JoinAsSentence(const std::vector<std::string>& parts) {
+  std::string text;
+  for (std::size_t i = 0; i < parts.size(); ++i) {
+    if (i > 0) text += i + 1 == parts.size() ? " and " : ", ";
+    text += parts[i];
+  }
+  return text;
+}
+
+}  // namespace sonaro

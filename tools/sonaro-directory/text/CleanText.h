@@ -1,0 +1,32 @@
+// Makes texts out of strangers' lists fit for a field of the directory, and the keys by which they are compared.
+#pragma once
+
+#include <cstddef>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace sonaro {
+
+// The text on one line: runs of blanks, tabs, line ends, control characters and the wide blanks of Unicode become
+// one blank, invisible marks (byte order, writing direction, zero-width space, soft hyphen) go, broken UTF-8
+// becomes U+FFFD, and there is no blank at either end. The joiners that scripts and emoji need stay.
+std::string CleanText(std::string_view text);
+
+// The text with "&amp;", "&lt;", "&gt;", "&quot;", "&apos;", "&nbsp;" and numeric references replaced.
+std::string DecodeEntities(std::string_view text);
+
+// What two spellings of one thing have in common: case folded, Latin and Greek letters without their accents,
+// apostrophes gone, any other punctuation a blank. "Música Romántica!" and "musica-romantica" have one key.
+std::string MatchKey(std::string_view text);
+
+// The words of a MatchKey.
+std::vector<std::string_view> KeyWords(std::string_view key);
+
+// `text` with its first letter in upper case, for ASCII and Latin-1, Greek and Cyrillic small letters.
+std::string Capitalized(std::string_view text);
+
+// "a", "a and b", "a, b and c".
+std::string JoinAsSentence(const std::vector<std::string>& parts);
+
+}  // namespace sonaro
