@@ -76,7 +76,8 @@ SourceStation StationFrom(const Json& object) {
   return station;
 }
 
-void ReadObject(std::string_view text, std::string place, std::vector<SourceStation>& stations, SkipLog& skips) {
+void ReadObject(std::string_view text, std::string place, std::vector<SourceStation>& stations,
+                SkipLog& skips) {
   const Json object = Json::parse(text, nullptr, /*allow_exceptions=*/false);
   if (!object.is_object()) {
     skips.Skip(place, text.substr(0, 80), kBroken);

@@ -35,7 +35,8 @@ void TakeAttributes(std::string_view& rest, SourceStation& entry) {
   for (;;) {
     const std::string_view start = rest.substr(std::min(rest.find_first_not_of(" \t"), rest.size()));
     const std::size_t equals = start.find("=\"");
-    if (equals == std::string_view::npos || start.substr(0, equals).find_first_of(" ,\"") != std::string_view::npos) {
+    if (equals == std::string_view::npos ||
+        start.substr(0, equals).find_first_of(" ,\"") != std::string_view::npos) {
       return;
     }
     const std::size_t end = start.find('"', equals + 2);

@@ -84,7 +84,8 @@ void ReadOpml(const SourceText& source, std::vector<SourceStation>& stations, Sk
   if (!result) {
     // What stands before the damage has been read.
     const auto offset = static_cast<std::size_t>(result.offset);
-    skips.Skip(source.name, source.text.substr(std::min(offset, source.text.size()), 80), "not well-formed XML");
+    skips.Skip(source.name, source.text.substr(std::min(offset, source.text.size()), 80),
+               "not well-formed XML");
   }
 }
 

@@ -34,7 +34,8 @@ std::optional<PlsKey> ParseKey(std::string_view line) {
   for (const std::string_view known : {"file", "title", "length", "numberofentries", "version"}) {
     if (!EqualIgnoringCase(word, known)) continue;
     const std::string_view number = digits == std::string_view::npos ? "0" : key.substr(digits);
-    if (number.size() > 9 || number.find_first_not_of("0123456789") != std::string_view::npos) return std::nullopt;
+    if (number.size() > 9 || number.find_first_not_of("0123456789") != std::string_view::npos)
+      return std::nullopt;
     return PlsKey{word, NumberValue(number), TrimBlanks(line.substr(equals + 1))};
   }
   return std::nullopt;

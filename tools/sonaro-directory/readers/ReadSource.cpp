@@ -2,16 +2,16 @@
 
 #include <algorithm>
 #include <array>
+#include <filesystem>
 #include <fstream>
 #include <iostream>
 #include <iterator>
 #include <system_error>
-#include <filesystem>
 
 #include "base/Text.h"
 #include "readers/Gzip.h"
 #include "readers/Readers.h"
-#include "text/Utf8.h"
+#include "text/FileText.h"
 
 namespace sonaro {
 namespace {
@@ -59,7 +59,8 @@ SourceFormat RecogniseMarkup(std::string_view text, std::string& why) {
 }
 
 SourceFormat RecogniseM3u(std::string_view text, std::string& why) {
-  if (text.find("#EXT-X-TARGETDURATION") != std::string_view::npos || text.find("#EXT-X-STREAM-INF") != std::string_view::npos) {
+  if (text.find("#EXT-X-TARGETDURATION") != std::string_view::npos ||
+      text.find("#EXT-X-STREAM-INF") != std::string_view::npos) {
     why = "it is one HLS stream, not a list of stations";
     return SourceFormat::NotAList;
   }
@@ -80,7 +81,8 @@ SourceFormat RecogniseFormat(std::string_view text, std::string& why) {
   if (StartsWithIgnoringCase(text.substr(0, 64), "[playlist]")) return SourceFormat::Pls;
   if (text.front() == '[') {
     const std::size_t next = text.find_first_not_of(" \t\r\n", 1);
-    if (next != std::string_view::npos && (text[next] == '{' || text[next] == ']')) return SourceFormat::JsonArray;
+    if (next != std::string_view::npos && (text[next] == '{' || text[next] == ']'))
+      return SourceFormat::JsonArray;
   }
   if (StartsWithIgnoringCase(text.substr(0, 64), "#EXTM3U") || LooksLikeAddress(FirstPlainLine(text))) {
     return RecogniseM3u(text, why);
@@ -91,8 +93,7 @@ SourceFormat RecogniseFormat(std::string_view text, std::string& why) {
 
 SourceResult ReadSource(const std::string& path, SkipLog& skips) {
   SourceResult result;
-  const std::string name =
-      path == "-" ? "standard input" : std::filesystem::path(path).filename().string();
+  const std::string name = path == "-" ? "standard input" : std::filesystem::path(path).filename().string();
   std::string bytes;
   if (!ReadBytes(path, bytes)) {
     result.failure = "Cannot read " + (path == "-" ? name : "\"" + path + "\"") + ".";
@@ -119,12 +120,24 @@ SourceResult ReadSourceBytes(const std::string& name, std::string bytes, SkipLog
   result.format = RecogniseFormat(text, why);
   const SourceText source{name, text};
   switch (result.format) {
-    case SourceFormat::JsonLines: ReadJsonLines(source, result.stations, skips); break;
-    case SourceFormat::JsonArray: ReadJsonArray(source, result.stations, skips); break;
-    case SourceFormat::M3u: ReadM3u(source, result.stations, skips); break;
-    case SourceFormat::Pls: ReadPls(source, result.stations, skips); break;
-    case SourceFormat::Opml: ReadOpml(source, result.stations, skips); break;
-    case SourceFormat::NotAList: result.failure = "\"" + name + "\" is not a station list: " + why + "."; break;
+    case SourceFormat::JsonLines:
+      ReadJsonLines(source, result.stations, skips);
+      break;
+    case SourceFormat::JsonArray:
+      ReadJsonArray(source, result.stations, skips);
+      break;
+    case SourceFormat::M3u:
+      ReadM3u(source, result.stations, skips);
+      break;
+    case SourceFormat::Pls:
+      ReadPls(source, result.stations, skips);
+      break;
+    case SourceFormat::Opml:
+      ReadOpml(source, result.stations, skips);
+      break;
+    case SourceFormat::NotAList:
+      result.failure = "\"" + name + "\" is not a station list: " + why + ".";
+      break;
   }
   return result;
 }

@@ -1,6 +1,7 @@
-// The readers of station lists. Each takes a whole file's text (valid UTF-8, no byte-order mark) in a format that
-// ReadSource has recognised and appends the stations in it. A damaged entry is logged and left out; the entries
-// around it are kept. Readers judge only the form: which stations are fit for a directory is decided later.
+// The readers of station lists. Each takes a whole file's text (valid UTF-8, no byte-order mark) in a format
+// that ReadSource has recognised and appends the stations in it. A damaged entry is logged and left out; the
+// entries around it are kept. Readers judge only the form: which stations are fit for a directory is decided
+// later.
 #pragma once
 
 #include <string>
@@ -24,9 +25,9 @@ struct SourceText {
 void ReadJsonLines(const SourceText& source, std::vector<SourceStation>& stations, SkipLog& skips);
 void ReadJsonArray(const SourceText& source, std::vector<SourceStation>& stations, SkipLog& skips);
 
-// M3U: addresses, each with the "#EXTINF" line before it (name with or without the comma before it, attributes
-// tvg-name, tvg-country, tvg-language, group-title), "# Homepage:" for the next entry and "# Group:" until the
-// next one.
+// M3U: addresses, each with the "#EXTINF" line before it (name with or without the comma before it,
+// attributes tvg-name, tvg-country, tvg-language, group-title), "# Homepage:" for the next entry and "#
+// Group:" until the next one.
 void ReadM3u(const SourceText& source, std::vector<SourceStation>& stations, SkipLog& skips);
 
 // PLS: FileN and TitleN in any order and letter case. A line that is no "key=value" goes on with the title

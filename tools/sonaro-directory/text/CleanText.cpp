@@ -7,31 +7,32 @@
 #include <utility>
 
 #include "base/Text.h"
-#include "text/Utf8.h"
+#include "base/Utf8.h"
+#include "text/FileText.h"
 
 namespace sonaro {
 namespace {
 
 bool IsSpaceLike(char32_t c) {
-  return c <= 0x20 || (c >= 0x7F && c <= 0xA0) || c == 0x1680 || (c >= 0x2000 && c <= 0x200A) || c == 0x2028 ||
-         c == 0x2029 || c == 0x202F || c == 0x205F || c == 0x3000;
+  return c <= 0x20 || (c >= 0x7F && c <= 0xA0) || c == 0x1680 || (c >= 0x2000 && c <= 0x200A) ||
+         c == 0x2028 || c == 0x2029 || c == 0x202F || c == 0x205F || c == 0x3000;
 }
 
 bool IsInvisible(char32_t c) {
-  return c == 0xAD || c == 0x200B || c == 0x200E || c == 0x200F || (c >= 0x202A && c <= 0x202E) || c == 0x2060 ||
-         (c >= 0x2066 && c <= 0x2069) || c == 0xFEFF || (c >= 0xFFF9 && c <= 0xFFFB) ||
+  return c == 0xAD || c == 0x200B || c == 0x200E || c == 0x200F || (c >= 0x202A && c <= 0x202E) ||
+         c == 0x2060 || (c >= 0x2066 && c <= 0x2069) || c == 0xFEFF || (c >= 0xFFF9 && c <= 0xFFFB) ||
          (c >= 0xE0000 && c <= 0xE007F) || (c & 0xFFFE) == 0xFFFE;
 }
 
 // Small letters that are a base letter with something added, after case folding.
 constexpr std::array<std::pair<std::string_view, std::string_view>, 38> kBaseLetters = {{
-    {"a", "àáâãäåāăąǎ"}, {"ae", "æ"},      {"c", "çćĉċč"},     {"d", "ďđð"},       {"e", "èéêëēĕėęěə"},
-    {"g", "ĝğġģ"},       {"h", "ĥħ"},      {"i", "ìíîïĩīĭįı"}, {"j", "ĵ"},         {"k", "ķ"},
-    {"l", "ĺļľŀł"},      {"n", "ñńņňŉ"},   {"o", "òóôõöøōŏőơ"}, {"oe", "œ"},        {"r", "ŕŗř"},
-    {"s", "śŝşšș"},      {"ss", "ß"},      {"t", "ţťŧț"},      {"th", "þ"},        {"u", "ùúûüũūŭůűųư"},
-    {"w", "ŵ"},          {"y", "ýÿŷ"},     {"z", "źżž"},       {"α", "ά"},         {"ε", "έ"},
-    {"η", "ή"},          {"ι", "ίϊΐ"},     {"ο", "ό"},         {"υ", "ύϋΰ"},       {"ω", "ώ"},
-    {"σ", "ς"},          {"е", "ёѐ"},      {"и", "ѝ"},         {"", "'’‘`´ʼ′"},    {"n", "ʼn"},
+    {"a", "àáâãäåāăąǎ"}, {"ae", "æ"},           {"c", "çćĉċč"},      {"d", "ďđð"},    {"e", "èéêëēĕėęěə"},
+    {"g", "ĝğġģ"},       {"h", "ĥħ"},           {"i", "ìíîïĩīĭįı"},  {"j", "ĵ"},      {"k", "ķ"},
+    {"l", "ĺļľŀł"},      {"n", "ñńņňŉ"},        {"o", "òóôõöøōŏőơ"}, {"oe", "œ"},     {"r", "ŕŗř"},
+    {"s", "śŝşšș"},      {"ss", "ß"},           {"t", "ţťŧț"},       {"th", "þ"},     {"u", "ùúûüũūŭůűųư"},
+    {"w", "ŵ"},          {"y", "ýÿŷ"},          {"z", "źżž"},        {"α", "ά"},      {"ε", "έ"},
+    {"η", "ή"},          {"ι", "ίϊΐ"},          {"ο", "ό"},          {"υ", "ύϋΰ"},    {"ω", "ώ"},
+    {"σ", "ς"},          {"е", "ёѐ"},           {"и", "ѝ"},          {"", "'’‘`´ʼ′"}, {"n", "ʼn"},
     {"", "ʹʺ"},          {"a", "ạảấầẩẫậắằẳẵặ"}, {"e", "ẹẻẽếềểễệ"},
 }};
 
@@ -39,7 +40,8 @@ const std::map<char32_t, std::string_view>& BaseLetters() {
   static const std::map<char32_t, std::string_view> letters = [] {
     std::map<char32_t, std::string_view> map;
     for (const auto& [base, forms] : kBaseLetters) {
-      for (std::size_t position = 0; position < forms.size();) map.emplace(NextCodePoint(forms, position), base);
+      for (std::size_t position = 0; position < forms.size();)
+        map.emplace(NextCharacter(forms, position), base);
     }
     return map;
   }();
@@ -89,7 +91,8 @@ char32_t ReferencedCharacter(std::string_view name) {
   const bool hexadecimal = name.front() == 'x' || name.front() == 'X';
   if (hexadecimal) name.remove_prefix(1);
   std::uint32_t value = 0;
-  const auto [end, error] = std::from_chars(name.data(), name.data() + name.size(), value, hexadecimal ? 16 : 10);
+  const auto [end, error] =
+      std::from_chars(name.data(), name.data() + name.size(), value, hexadecimal ? 16 : 10);
   const bool valid = error == std::errc() && end == name.data() + name.size() && !name.empty() &&
                      value <= 0x10FFFF && (value < 0xD800 || value > 0xDFFF);
   return valid ? value : 0;
@@ -102,7 +105,7 @@ std::string CleanText(std::string_view text) {
   clean.reserve(text.size());
   bool gap = false;
   for (std::size_t position = 0; position < text.size();) {
-    const char32_t c = NextCodePoint(text, position);
+    const char32_t c = NextCharacter(text, position);
     if (IsInvisible(c)) continue;
     if (IsSpaceLike(c)) {
       gap = true;
@@ -138,7 +141,7 @@ std::string MatchKey(std::string_view text) {
   std::string key;
   key.reserve(folded.size());
   for (std::size_t position = 0; position < folded.size();) {
-    AppendKeyCharacter(key, NextCodePoint(folded, position));
+    AppendKeyCharacter(key, NextCharacter(folded, position));
   }
   if (key.ends_with(' ')) key.pop_back();
   return key;
@@ -152,7 +155,7 @@ std::vector<std::string_view> KeyWords(std::string_view key) {
 std::string Capitalized(std::string_view text) {
   if (text.empty()) return {};
   std::size_t position = 0;
-  char32_t c = NextCodePoint(text, position);
+  char32_t c = NextCharacter(text, position);
   const bool latin = (c >= 'a' && c <= 'z') || (c >= 0xE0 && c <= 0xFE && c != 0xF7);
   const bool greekOrCyrillic = (c >= 0x3B1 && c <= 0x3C9 && c != 0x3C2) || (c >= 0x430 && c <= 0x44F);
   if (latin || greekOrCyrillic) c -= 0x20;

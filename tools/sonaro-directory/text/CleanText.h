@@ -1,4 +1,5 @@
-// Makes texts out of strangers' lists fit for a field of the directory, and the keys by which they are compared.
+// Makes texts out of strangers' lists fit for a field of the directory, and the keys by which they are
+// compared.
 #pragma once
 
 #include <cstddef>
@@ -8,9 +9,9 @@
 
 namespace sonaro {
 
-// The text on one line: runs of blanks, tabs, line ends, control characters and the wide blanks of Unicode become
-// one blank, invisible marks (byte order, writing direction, zero-width space, soft hyphen) go, broken UTF-8
-// becomes U+FFFD, and there is no blank at either end. The joiners that scripts and emoji need stay.
+// The text on one line: runs of blanks, tabs, line ends, control characters and the wide blanks of Unicode
+// become one blank, invisible marks (byte order, writing direction, zero-width space, soft hyphen) go, broken
+// UTF-8 becomes U+FFFD, and there is no blank at either end. The joiners that scripts and emoji need stay.
 std::string CleanText(std::string_view text);
 
 // The text with "&amp;", "&lt;", "&gt;", "&quot;", "&apos;", "&nbsp;" and numeric references replaced.

@@ -18,7 +18,7 @@ bool IsDigits(std::string_view text) {
 }
 
 bool IsRateUnit(std::string_view word) {
-  constexpr std::array<std::string_view, 10> kUnits = {"k",     "kb",   "kbs",  "kbit", "kbits",
+  constexpr std::array<std::string_view, 10> kUnits = {"k",    "kb",    "kbs", "kbit", "kbits",
                                                        "kbps", "kbyte", "mp3", "aac",  "ogg"};
   for (const std::string_view unit : kUnits) {
     if (word == unit) return true;
@@ -62,8 +62,9 @@ std::int64_t BitRateIn(std::string_view text) {
     const std::size_t digits = std::min(words[i].find_first_not_of("0123456789"), words[i].size());
     const std::string_view number = words[i].substr(0, digits);
     if (!IsDigits(number)) continue;
-    const std::string_view unit =
-        digits < words[i].size() ? words[i].substr(digits) : i + 1 < words.size() ? words[i + 1] : "";
+    const std::string_view unit = digits < words[i].size() ? words[i].substr(digits)
+                                  : i + 1 < words.size()   ? words[i + 1]
+                                                           : "";
     if (!IsRateUnit(unit)) continue;
     if (const std::int64_t rate = PlausibleRate(number); rate != 0) return rate;
   }
@@ -72,13 +73,13 @@ std::int64_t BitRateIn(std::string_view text) {
 
 std::string CodecIn(std::string_view text) {
   constexpr std::array<std::pair<std::string_view, std::string_view>, 8> kNames = {{{"mp3", "MP3"},
-                                                                                  {"aacp", "AAC+"},
-                                                                                  {"aac", "AAC"},
-                                                                                  {"ogg", "OGG"},
-                                                                                  {"vorbis", "OGG"},
-                                                                                  {"opus", "OPUS"},
-                                                                                  {"flac", "FLAC"},
-                                                                                  {"mpeg", "MP3"}}};
+                                                                                    {"aacp", "AAC+"},
+                                                                                    {"aac", "AAC"},
+                                                                                    {"ogg", "OGG"},
+                                                                                    {"vorbis", "OGG"},
+                                                                                    {"opus", "OPUS"},
+                                                                                    {"flac", "FLAC"},
+                                                                                    {"mpeg", "MP3"}}};
   if (ContainsIgnoringCase(text, "aac+")) return "AAC+";
   const std::string key = MatchKey(text);
   for (const std::string_view word : KeyWords(key)) {

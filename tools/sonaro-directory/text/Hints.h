@@ -18,14 +18,15 @@ struct MirrorTitle {
 
 std::optional<MirrorTitle> ParseMirrorTitle(std::string_view title);
 
-// A bit rate in kbit/s that stands in a text as "128k", "128 kbit/s", "128kbps" or "128 mp3"; 0 when none does.
+// A bit rate in kbit/s that stands in a text as "128k", "128 kbit/s", "128kbps" or "128 mp3"; 0 when none
+// does.
 std::int64_t BitRateIn(std::string_view text);
 
 // The codec that a text names ("MP3", "AAC", "AAC+", "OGG", "OPUS", "FLAC"); "" when it names none.
 std::string CodecIn(std::string_view text);
 
-// The name of an address without its folders and query, in small letters, from its last dot on: ".pls"; "" when
-// there is none.
+// The name of an address without its folders and query, in small letters, from its last dot on: ".pls"; ""
+// when there is none.
 std::string AddressEnding(std::string_view address);
 
 }  // namespace sonaro

@@ -1,0 +1,82 @@
+#include "text/FileText.h"
+
+#include <algorithm>
+#include <array>
+#include <cstdint>
+
+#include "base/Utf8.h"
+
+namespace sonaro {
+namespace {
+
+constexpr char32_t kReplacementCharacter = 0xFFFD;
+
+// What the bytes 0x80 to 0x9F are in Windows-1252; the five it leaves open are the replacement character.
+constexpr std::array<char16_t, 32> kWindows1252 = {
+    0x20AC, 0xFFFD, 0x201A, 0x0192, 0x201E, 0x2026, 0x2020, 0x2021, 0x02C6, 0x2030, 0x0160,
+    0x2039, 0x0152, 0xFFFD, 0x017D, 0xFFFD, 0xFFFD, 0x2018, 0x2019, 0x201C, 0x201D, 0x2022,
+    0x2013, 0x2014, 0x02DC, 0x2122, 0x0161, 0x203A, 0x0153, 0xFFFD, 0x017E, 0x0178};
+
+std::uint8_t ByteAt(std::string_view text, std::size_t position) {
+  return static_cast<std::uint8_t>(text[position]);
+}
+
+std::string DecodeUtf16(std::string_view bytes, bool bigEndian) {
+  std::string text;
+  char32_t high = 0;
+  for (std::size_t i = 0; i + 1 < bytes.size(); i += 2) {
+    const char32_t first = ByteAt(bytes, i);
+    const char32_t second = ByteAt(bytes, i + 1);
+    const char32_t unit = bigEndian ? first << 8 | second : second << 8 | first;
+    if (unit >= 0xD800 && unit <= 0xDBFF) {
+      high = unit;
+      continue;
+    }
+    const bool low = unit >= 0xDC00 && unit <= 0xDFFF;
+    if (low && high != 0) {
+      AppendUtf8(text, 0x10000 + ((high - 0xD800) << 10) + (unit - 0xDC00));
+    } else {
+      AppendUtf8(text, low ? kReplacementCharacter : unit);
+    }
+    high = 0;
+  }
+  return text;
+}
+
+}  // namespace
+
+char32_t NextCharacter(std::string_view text, std::size_t& position) {
+  const Utf8Character character = DecodeUtf8(text, position);
+  position += std::max<std::size_t>(character.length, 1);
+  return character.length == 0 ? kReplacementCharacter : character.code;
+}
+
+std::string DecodeFileText(std::string_view bytes) {
+  if (bytes.starts_with("\xEF\xBB\xBF")) bytes.remove_prefix(3);
+  if (bytes.starts_with("\xFF\xFE")) return DecodeUtf16(bytes.substr(2), false);
+  if (bytes.starts_with("\xFE\xFF")) return DecodeUtf16(bytes.substr(2), true);
+
+  // One broken character in a UTF-8 list must not garble all the others, so the majority decides.
+  std::size_t characters = 0;
+  std::size_t broken = 0;
+  for (std::size_t position = 0; position < bytes.size();) {
+    const std::size_t length = DecodeUtf8(bytes, position).length;
+    if (length == 0) ++broken;
+    if (length > 1) ++characters;
+    position += std::max<std::size_t>(length, 1);
+  }
+  if (broken == 0) return std::string(bytes);
+  std::string text;
+  text.reserve(bytes.size() + broken * 2);
+  if (characters >= broken) {
+    for (std::size_t position = 0; position < bytes.size();) AppendUtf8(text, NextCharacter(bytes, position));
+    return text;
+  }
+  for (const char byte : bytes) {
+    const auto value = static_cast<std::uint8_t>(byte);
+    AppendUtf8(text, value >= 0x80 && value < 0xA0 ? kWindows1252[value - 0x80U] : value);
+  }
+  return text;
+}
+
+}  // namespace sonaro
