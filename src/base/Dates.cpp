@@ -69,11 +69,11 @@ Date DateFromDays(std::int64_t days) {
 }
 
 DateTime AddSeconds(const DateTime& at, std::int64_t seconds) {
-  const std::int64_t wholeDays = FloorDivide(seconds, kSecondsPerDay);
-  const std::int64_t second = SecondOfDay(at.time) + (seconds - wholeDays * kSecondsPerDay);
-  const std::int64_t carry = second / kSecondsPerDay;
+  const std::int64_t second = SecondOfDay(at.time) + seconds % kSecondsPerDay;
+  const std::int64_t carry = FloorDivide(second, kSecondsPerDay);
   const int rest = static_cast<int>(second - carry * kSecondsPerDay);
-  return {DateFromDays(DaysFromEpoch(at.date) + wholeDays + carry), {rest / 3600, rest / 60 % 60, rest % 60}};
+  return {DateFromDays(DaysFromEpoch(at.date) + seconds / kSecondsPerDay + carry),
+          {rest / 3600, rest / 60 % 60, rest % 60}};
 }
 
 std::int64_t SecondsBetween(const DateTime& from, const DateTime& to) {

@@ -1,0 +1,224 @@
+#include "fakes/FakeFiles.h"
+
+#include <algorithm>
+#include <utility>
+
+namespace sonaro {
+namespace {
+
+// "" stands above the topmost folders and is always there.
+std::string FolderOf(const std::string& path) {
+  const std::size_t slash = path.rfind('/');
+  return slash == std::string::npos ? "" : path.substr(0, slash);
+}
+
+}  // namespace
+
+class FakeFiles::Reader : public InputFile {
+ public:
+  Reader(FakeFiles& owner, FilePtr file) : owner_(owner), file_(std::move(file)) { ++file_->openHandles; }
+  ~Reader() override { --file_->openHandles; }
+
+  std::uint64_t Size() const override { return file_->bytes.size(); }
+
+  bool ReadAt(std::uint64_t offset, char* buffer, std::size_t length) override {
+    const std::string& bytes = file_->bytes;
+    if (owner_.crashed_ || file_->gone || offset > bytes.size() || length > bytes.size() - offset)
+      return false;
+    bytes.copy(buffer, length, static_cast<std::size_t>(offset));
+    return true;
+  }
+
+ private:
+  FakeFiles& owner_;
+  FilePtr file_;
+};
+
+class FakeFiles::Writer : public OutputFile {
+ public:
+  Writer(FakeFiles& owner, FilePtr file, std::string path)
+      : owner_(owner), file_(std::move(file)), path_(std::move(path)) {
+    ++file_->openHandles;
+  }
+  ~Writer() override { Close(); }
+
+  bool Append(std::string_view bytes) override {
+    std::size_t taken = 0;
+    switch (Begin("append " + path_ + ' ' + std::to_string(bytes.size()))) {
+      case Step::Runs:
+        taken = owner_.TakeSpace(bytes.size());
+        break;
+      case Step::CrashesNow:
+        taken = bytes.size() / 2;
+        break;
+      case Step::Down:
+        return false;
+    }
+    file_->bytes += bytes.substr(0, taken);
+    failed_ = failed_ || taken < bytes.size() || owner_.crashed_;
+    return !failed_;
+  }
+
+  bool WriteAt(std::uint64_t offset, std::string_view bytes) override {
+    if (offset > file_->bytes.size() || bytes.size() > file_->bytes.size() - offset) return false;
+    const std::string where = path_ + ' ' + std::to_string(offset) + ' ' + std::to_string(bytes.size());
+    if (Begin("write " + where) != Step::Runs) return false;
+    file_->bytes.replace(static_cast<std::size_t>(offset), bytes.size(), bytes);
+    return true;
+  }
+
+  bool Commit(Durability durability) override {
+    const bool flush = durability == Durability::Flushed;
+    if (Begin("commit " + path_ + (flush ? " flushed" : " cached")) != Step::Runs) return false;
+    if (flush) file_->flushed = file_->bytes;
+    Close();
+    return !failed_;
+  }
+
+ private:
+  Step Begin(const std::string& operation) {
+    return open_ && !file_->gone ? owner_.Begin(operation) : Step::Down;
+  }
+  void Close() {
+    if (open_) --file_->openHandles;
+    open_ = false;
+  }
+
+  FakeFiles& owner_;
+  FilePtr file_;
+  std::string path_;
+  bool open_ = true;
+  bool failed_ = false;
+};
+
+void FakeFiles::Put(const std::string& path, std::string_view bytes) {
+  AddFolders(FolderOf(path));
+  files_[path] = std::make_shared<File>(File{std::string(bytes), std::string(bytes)});
+}
+
+std::optional<std::string> FakeFiles::Get(const std::string& path) const {
+  const FilePtr file = Find(path);
+  return file ? std::optional<std::string>(file->bytes) : std::nullopt;
+}
+
+std::vector<std::string> FakeFiles::AllPaths() const {
+  std::vector<std::string> paths;
+  for (const auto& [path, file] : files_) paths.push_back(path);
+  return paths;
+}
+
+void FakeFiles::Restart(AfterCrash survival) {
+  crashed_ = false;
+  operationsUntilCrash_ = 0;
+  for (auto& [path, file] : files_) {
+    file->gone = true;
+    File left{file->bytes, file->flushed};
+    if (left.bytes != left.flushed && survival == AfterCrash::LosesUnflushed) left.bytes = left.flushed;
+    if (left.bytes != left.flushed && survival == AfterCrash::TearsUnflushed) {
+      const auto half = static_cast<std::ptrdiff_t>(left.bytes.size() / 2);
+      std::fill(left.bytes.begin() + half, left.bytes.end(), '\0');
+    }
+    left.flushed = left.bytes;
+    file = std::make_shared<File>(std::move(left));
+  }
+}
+
+std::unique_ptr<InputFile> FakeFiles::Open(const std::string& path) {
+  FilePtr file = Find(path);
+  if (crashed_ || !file || locked_.contains(path)) return nullptr;
+  return std::make_unique<Reader>(*this, std::move(file));
+}
+
+std::unique_ptr<OutputFile> FakeFiles::Create(const std::string& path) {
+  if (Begin("create " + path) != Step::Runs || !IsFree(path) || folders_.contains(path)) return nullptr;
+  const std::string folder = FolderOf(path);
+  if (!folder.empty() && !folders_.contains(folder)) return nullptr;
+  const FilePtr file = std::make_shared<File>();
+  files_[path] = file;
+  return std::make_unique<Writer>(*this, file, path);
+}
+
+bool FakeFiles::Replace(const std::string& from, const std::string& to) {
+  if (Begin("replace " + from + ' ' + to) != Step::Runs) return false;
+  const FilePtr file = Find(from);
+  if (!file || !IsFree(from) || !IsFree(to) || folders_.contains(to)) return false;
+  files_.erase(from);
+  files_[to] = file;
+  return true;
+}
+
+bool FakeFiles::Remove(const std::string& path) {
+  if (Begin("remove " + path) != Step::Runs || !IsFree(path) || folders_.contains(path)) return false;
+  files_.erase(path);
+  return true;
+}
+
+bool FakeFiles::Exists(const std::string& path) {
+  return !crashed_ && (files_.contains(path) || folders_.contains(path));
+}
+
+std::vector<std::string> FakeFiles::List(const std::string& folder) {
+  std::vector<std::string> names;
+  if (crashed_) return names;
+  const auto addIfInside = [&](const std::string& path) {
+    if (FolderOf(path) == folder) names.push_back(path.substr(folder.size() + 1));
+  };
+  for (const auto& [path, file] : files_) addIfInside(path);
+  for (const std::string& path : folders_) addIfInside(path);
+  return names;
+}
+
+bool FakeFiles::MakeFolder(const std::string& path) {
+  if (Begin("folder " + path) != Step::Runs || files_.contains(path)) return false;
+  AddFolders(path);
+  return true;
+}
+
+FakeFiles::Step FakeFiles::Begin(const std::string& operation) {
+  if (crashed_) return Step::Down;
+  log_.push_back(operation);
+  if (operationsUntilCrash_ == 0 || --operationsUntilCrash_ > 0) return Step::Runs;
+  crashed_ = true;
+  return Step::CrashesNow;
+}
+
+FakeFiles::FilePtr FakeFiles::Find(const std::string& path) const {
+  const auto found = files_.find(path);
+  return found == files_.end() ? nullptr : found->second;
+}
+
+bool FakeFiles::IsFree(const std::string& path) const {
+  const FilePtr file = Find(path);
+  return !file || (file->openHandles == 0 && !locked_.contains(path));
+}
+
+void FakeFiles::AddFolders(const std::string& folder) {
+  for (std::string path = folder; !path.empty(); path = FolderOf(path)) folders_.insert(path);
+}
+
+std::size_t FakeFiles::TakeSpace(std::size_t wanted) {
+  if (!spaceLeft_) return wanted;
+  const std::size_t taken = std::min(wanted, static_cast<std::size_t>(*spaceLeft_));
+  *spaceLeft_ -= taken;
+  return taken;
+}
+
+int ForEachCrashPoint(const std::function<void(FakeFiles&)>& prepare,
+                      const std::function<void(FakeFiles&)>& scenario,
+                      const std::function<void(FakeFiles&, const CrashPoint&)>& check) {
+  for (int operation = 1;; ++operation) {
+    for (const AfterCrash survival :
+         {AfterCrash::KeepsAll, AfterCrash::LosesUnflushed, AfterCrash::TearsUnflushed}) {
+      FakeFiles files;
+      prepare(files);
+      files.CrashAt(operation);
+      scenario(files);
+      const bool completed = !files.Crashed();
+      files.Restart(completed ? AfterCrash::KeepsAll : survival);
+      check(files, {operation, survival, completed});
+      if (completed) return operation - 1;
+    }
+  }
+}
+
+}  // namespace sonaro

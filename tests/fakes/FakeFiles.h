@@ -1,0 +1,102 @@
+// A file system in memory that can be full, locked or die at any operation. It tells letter case apart, uses
+// "/" and, as Windows does, refuses to replace or remove a file that is open.
+#pragma once
+
+#include <cstdint>
+#include <functional>
+#include <map>
+#include <memory>
+#include <optional>
+#include <set>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "base/Files.h"
+
+namespace sonaro {
+
+// What a crash leaves of bytes that were written and not flushed.
+enum class AfterCrash {
+  KeepsAll,        // the program died, the system lived on
+  LosesUnflushed,  // the power went: they are gone
+  TearsUnflushed   // the power went: half of them reached the disk, zeros stand for the rest
+};
+
+class FakeFiles : public Files {
+ public:
+  // Puts a file in place, flushed, with its folders; not counted as an operation.
+  void Put(const std::string& path, std::string_view bytes);
+  // The present content; nothing when there is no such file.
+  std::optional<std::string> Get(const std::string& path) const;
+  std::vector<std::string> AllPaths() const;
+
+  // A locked file exists, and every operation on it fails.
+  void Lock(const std::string& path) { locked_.insert(path); }
+  void Unlock(const std::string& path) { locked_.erase(path); }
+  // From now on so many bytes can be appended before the disk is full; nothing = no limit.
+  void SetSpaceLeft(std::optional<std::uint64_t> bytes) { spaceLeft_ = bytes; }
+
+  // The changing operation of this number from now on (1 = the next) fails, an Append after half its bytes,
+  // and so does everything after it until Restart. 0 = never.
+  void CrashAt(int operation) { operationsUntilCrash_ = operation; }
+  bool Crashed() const { return crashed_; }
+  // Brings the machine up again after a crash. Handles from before stay dead.
+  void Restart(AfterCrash survival);
+
+  // The changing operations so far: "create /d/a", "append /d/a 12", "write /d/a 0 4", "commit /d/a flushed",
+  // "replace /d/a /d/b", "remove /d/a", "folder /d".
+  const std::vector<std::string>& Log() const { return log_; }
+  void ClearLog() { log_.clear(); }
+
+  std::unique_ptr<InputFile> Open(const std::string& path) override;
+  std::unique_ptr<OutputFile> Create(const std::string& path) override;
+  bool Replace(const std::string& from, const std::string& to) override;
+  bool Remove(const std::string& path) override;
+  bool Exists(const std::string& path) override;
+  std::vector<std::string> List(const std::string& folder) override;
+  bool MakeFolder(const std::string& path) override;
+
+ private:
+  class Reader;
+  class Writer;
+  struct File {
+    std::string bytes;
+    std::string flushed;  // what a power cut leaves at least
+    int openHandles = 0;
+    bool gone = false;  // of an earlier life: its handles are dead
+  };
+  using FilePtr = std::shared_ptr<File>;
+  enum class Step { Runs, CrashesNow, Down };
+
+  // Counts and logs a changing operation.
+  Step Begin(const std::string& operation);
+  FilePtr Find(const std::string& path) const;
+  // Missing, or there and neither locked nor open.
+  bool IsFree(const std::string& path) const;
+  void AddFolders(const std::string& folder);
+  std::size_t TakeSpace(std::size_t wanted);
+
+  std::map<std::string, FilePtr> files_;
+  std::set<std::string> folders_;
+  std::set<std::string> locked_;
+  std::optional<std::uint64_t> spaceLeft_;
+  int operationsUntilCrash_ = 0;
+  bool crashed_ = false;
+  std::vector<std::string> log_;
+};
+
+struct CrashPoint {
+  int operation = 0;  // the operation that the crash hit, 1 = the first of the scenario
+  AfterCrash survival = AfterCrash::KeepsAll;
+  bool completed = false;  // the scenario ended before its crash: the last round
+};
+
+// Runs `scenario` on freshly prepared files with the crash at its first, second, third ... changing operation
+// and every kind of survival, until it runs through, and lets `check` look at the files after each restart.
+// Returns the number of the scenario's operations.
+int ForEachCrashPoint(const std::function<void(FakeFiles&)>& prepare,
+                      const std::function<void(FakeFiles&)>& scenario,
+                      const std::function<void(FakeFiles&, const CrashPoint&)>& check);
+
+}  // namespace sonaro
