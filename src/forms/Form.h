@@ -1,0 +1,288 @@
+// A window of the program, built from tables. Form owns the window, its controls and their painting, and
+// calls the handlers of the event tables; what the window decides belongs to its logic partner, not here. One
+// procedure serves all forms and lets no exception out.
+//
+// A complete form:
+//
+//   // frmGreet.h
+//   class frmGreet final : public Form {
+//    public:
+//     frmGreet(FormContext& context, Greeting& greeting) : Form(context, Design()), greeting_(greeting) {}
+//    private:
+//     static const FormDesign& Design();
+//     std::span<const EventRow> Events() const override;
+//     std::span<const TimerRow> Timers() const override;
+//     void OnLoad() override { SetText(txtName, greeting_.LastName()); }
+//     void txtName_Change() { Enable(butOKIt, !Text(txtName).empty()); }
+//     void butOKIt_Click() { greeting_.Say(Text(txtName)); Close(1); }
+//     void butCancelIt_Click() { Close(); }
+//     void butDays_Click(int day) { SetToggle(butDays + day, !IsToggled(butDays + day)); }
+//     void tmrIdle_Timer() { Close(); }
+//     Greeting& greeting_;
+//   };
+//
+//   // frmGreet_tables.cpp: the order of the rows is the tab order
+//   const FormDesign& frmGreet::Design() {
+//     static constexpr ControlRow kControls[] = {
+//         {.id = lblTitle, .kind = Kind::TitleBar, .text = IDS_GREET_TITLE, .at = {14, 4, 182, 26}},
+//         {.kind = Kind::Label, .text = IDS_GREET_NAME, .at = {14, 48, 90, 28}, .type = Type::BodyStrong},
+//         {.id = txtName, .kind = Kind::Edit, .at = {110, 48, 296, 28}},
+//         {.id = butDays, .kind = Kind::ToggleKey, .text = IDS_MON, .at = {110, 90, 56, 28}, .flags =
+//         kGroup},
+//         {.id = butDays + 1, .kind = Kind::ToggleKey, .text = IDS_TUE, .at = {171, 90, 56, 28}},
+//         {.id = butOKIt, .kind = Kind::PrimaryKey, .text = IDS_OK, .at = {214, 201, 92, 30}},
+//         {.id = butCancelIt, .kind = Kind::PushKey, .text = IDS_CANCEL, .at = {314, 201, 92, 30}},
+//     };
+//     static constexpr FormDesign kDesign = {.name = "frmGreet", .caption = IDS_GREET_TITLE,
+//         .size = {420, 248}, .outline = "fdf01", .controls = kControls};
+//     return kDesign;
+//   }
+//   std::span<const EventRow> frmGreet::Events() const {
+//     static constexpr EventRow kRows[] = {
+//         {txtName, Change, &frmGreet::txtName_Change},
+//         {butOKIt, Click, &frmGreet::butOKIt_Click},
+//         {butCancelIt, Click, &frmGreet::butCancelIt_Click},
+//         {butDays, Click, &frmGreet::butDays_Click, 7},  // butDays to butDays + 6
+//     };
+//     return kRows;
+//   }
+//   std::span<const TimerRow> frmGreet::Timers() const {
+//     static constexpr TimerRow kRows[] = {{tmrIdle, &frmGreet::tmrIdle_Timer}};
+//     return kRows;
+//   }
+//
+//   frmGreet greet(context, greeting);
+//   if (greet.ShowModal(main.Window()) == 1) ...
+//
+// What every form does by itself: outline, dragging, painting at any dpi, high contrast, Tab and arrow keys,
+// access keys, Enter on the primary key, Esc and Alt+F4 (see OnCloseRequest), F1 on butHelp, tool tips, click
+// sound, the hidden label lblBringUp. A handler may close or destroy its own form.
+#pragma once
+
+#include <windows.h>
+
+#include <functional>
+#include <memory>
+#include <span>
+#include <string>
+#include <string_view>
+
+#include "forms/FormControl.h"
+#include "forms/FormDesign.h"
+#include "forms/Menu.h"
+
+namespace sonaro {
+
+class ControlSet;
+class Faceplate;
+class Form;
+class ListView;
+class Painter;
+class ProgressScale;
+class RatingPicture;
+class Shape;
+class Strings;
+class TreeView;
+
+// What all forms share; owned by Application. The functions may be empty.
+struct FormContext {
+  const Strings& strings;
+  const Faceplate& faceplate;
+  const Shape& shape;
+  std::function<void()> clickSound = {};                         // after every key press
+  std::function<void(const std::string& caption)> bringUp = {};  // lblBringUp's caption was set
+};
+
+// Rows of the event tables. The kind of event fixes the handler's parameters; a row with the wrong kind of
+// handler does not compile.
+class EventRow {
+ public:
+  using Kind = FormEvent::Kind;
+  enum Plain { Click, Change, SelChange, DropDown, EnterPressed, GotFocus, LostFocus };
+  enum OfRow { ItemActivated, ItemSelected };
+  enum AtPoint { ContextMenu };
+  enum OfNode { NodeClick, NodeSelected, NodeExpanding };
+
+  template <class T>
+  constexpr EventRow(int id, Plain event, void (T::*handler)())
+      : first(id), kind(static_cast<Kind>(event)), plain(static_cast<void (Form::*)()>(handler)) {}
+  // A control array: `count` controls from `id` on; the handler is given the index.
+  template <class T>
+  constexpr EventRow(int id, Plain event, void (T::*handler)(int), int arraySize)
+      : first(id),
+        count(arraySize),
+        kind(static_cast<Kind>(event)),
+        withIndex(static_cast<void (Form::*)(int)>(handler)) {}
+  template <class T>
+  constexpr EventRow(int id, OfRow event, void (T::*handler)(int row))
+      : first(id),
+        kind(event == ItemActivated ? Kind::ItemActivated : Kind::ItemSelected),
+        withRow(static_cast<void (Form::*)(int)>(handler)) {}
+  template <class T>  // row of a list, or index of a control array (count > 1), -1: none; screen pixels
+  constexpr EventRow(int id, AtPoint, void (T::*handler)(int row, POINT at), int arraySize = 1)
+      : first(id),
+        count(arraySize),
+        kind(Kind::ContextMenu),
+        atPoint(static_cast<void (Form::*)(int, POINT)>(handler)) {}
+  template <class T>
+  constexpr EventRow(int id, OfNode event, void (T::*handler)(HTREEITEM node))
+      : first(id),
+        kind(static_cast<Kind>(static_cast<int>(Kind::NodeClick) + event)),
+        withNode(static_cast<void (Form::*)(HTREEITEM)>(handler)) {}
+
+  // For Form only.
+  int first = 0;
+  int count = 1;
+  Kind kind = Kind::Click;
+  void (Form::*plain)() = nullptr;
+  void (Form::*withIndex)(int) = nullptr;
+  void (Form::*withRow)(int) = nullptr;
+  void (Form::*atPoint)(int, POINT) = nullptr;
+  void (Form::*withNode)(HTREEITEM) = nullptr;
+};
+
+struct TimerRow {
+  template <class T>
+  constexpr TimerRow(int timerId, void (T::*timerHandler)())
+      : id(timerId), handler(static_cast<void (Form::*)()>(timerHandler)) {}
+  int id;
+  void (Form::*handler)();
+};
+
+class Form : private FormServices {
+ public:
+  Form(FormContext& context, const FormDesign& design);
+  ~Form() override;  // destroys the window
+  Form(const Form&) = delete;
+  Form& operator=(const Form&) = delete;
+
+  // Builds the window, hidden, and runs OnLoad; nothing when it is open. false: the system refused.
+  bool Create(HWND owner = nullptr);
+  void Show(HWND owner = nullptr);  // Create, then show and bring to the front
+  void ShowInactive();              // without taking the focus
+  void Hide();
+  // Shows the form, disables `owner`, and runs until Close. Returns Close's result, 0 when it was destroyed.
+  int ShowModal(HWND owner);
+  // Ends ShowModal with `result`; destroys the window. OnUnload runs first. May be called from a handler.
+  void Close(int result = 0);
+  bool IsOpen() const;
+  bool IsShown() const;
+  HWND Window() const;  // nullptr while not open
+
+  // Size, place and layout.
+  void UseLayout(int layout);  // 0 = the design; keeps the top-left corner, changes outline and places
+  int CurrentLayout() const;
+  void Resize(DesignSize size);              // a message box that grows; anchors move the controls
+  void MoveToPixels(int left, int top);      // kept inside the visible screens
+  void CentreOn(HWND other);                 // nullptr: the work area
+  void MoveToWorkAreaCorner(int designGap);  // lower right
+  bool IsMoving() const;                     // the user is dragging the form
+  void RefreshLook();                        // colours or outline file changed
+
+  // Controls by number. A number that the form does not have is ignored, and reads as "", 0 or false.
+  HWND Control(int id) const;
+  std::string Text(int id) const;
+  void SetText(int id, std::string_view text);
+  void SetDetail(int id,
+                 std::string_view text);  // PlayKey: second line; GroupKey: its figure; TitleBar: subtitle
+  void SetIcon(int id, Icon icon);
+  void SetInk(int id, Ink ink);  // a label that reports trouble or success
+  void SetTip(int id, std::string_view text);
+  void Enable(int id, bool enabled = true);
+  bool IsEnabled(int id) const;
+  void ShowControl(int id, bool shown = true);
+  void ShowPane(int pane, bool shown = true);
+  void Focus(int id);
+  int FocusedControl() const;  // 0: none of this form
+  void Repaint(int id);
+
+  // Check boxes, radio buttons (checking one clears its group) and toggles. Set by program: no event.
+  void Check(int id, bool checked = true);
+  bool IsChecked(int id) const;
+  void SetToggle(int id, bool active);
+  bool IsToggled(int id) const;
+  void SetToggleOnly(int first, int count, int index);  // one active in a control array; -1: none
+
+  // Header keys: the one that the list is sorted by. 0: none.
+  enum class SortMark : unsigned char { None, Up, Down };
+  void SetSortMark(int id, SortMark mark);
+
+  // Edits.
+  void LimitText(int id, int bytes);
+  void SelectAllText(int id);
+
+  // Combos. Rows count from 0; -1 = none.
+  void AddItem(int id, std::string_view text, int data = 0);
+  void ClearItems(int id);
+  int ItemCount(int id) const;
+  std::string ItemText(int id, int row) const;
+  int ItemData(int id, int row) const;
+  int SelectedItem(int id) const;
+  void SelectItem(int id, int row);
+  int FindItem(int id, std::string_view text) const;  // exact, letter case ignored
+  bool SelectItemData(int id, int data);
+
+  // Views with a class of their own. The number must be of that kind.
+  ListView& List(int id);
+  TreeView& Tree(int id);
+  RatingPicture& Rating(int id);
+  ProgressScale& Progress(int id);
+  using PicturePainter = std::function<void(HDC dc, const RECT& box, const Painter& painter)>;
+  void SetPicture(int id, PicturePainter paint);
+
+  // Month calendar.
+  SYSTEMTIME CalendarDate(int id) const;
+  void SetCalendarDate(int id, const SYSTEMTIME& date);
+
+  // Timers of the timer table; starting again restarts.
+  void StartTimer(int id, unsigned milliseconds);
+  void StopTimer(int id);
+
+  // Menus: the chosen entry comes as a Click event of its command number.
+  void PopUpMenu(std::span<const MenuEntry> entries, POINT at);
+  void PopUpMenuUnder(std::span<const MenuEntry> entries, int id);  // below the control
+
+  std::string LoadText(int stringId) const;  // from strings.rc
+
+  // For checks of the form as a whole.
+  const FormDesign& Description() const;
+
+ protected:
+  using Plain = EventRow::Plain;
+  static constexpr auto Click = EventRow::Click;
+  static constexpr auto Change = EventRow::Change;
+  static constexpr auto SelChange = EventRow::SelChange;
+  static constexpr auto DropDown = EventRow::DropDown;
+  static constexpr auto EnterPressed = EventRow::EnterPressed;
+  static constexpr auto GotFocus = EventRow::GotFocus;
+  static constexpr auto LostFocus = EventRow::LostFocus;
+  static constexpr auto ItemActivated = EventRow::ItemActivated;
+  static constexpr auto ItemSelected = EventRow::ItemSelected;
+  static constexpr auto ContextMenu = EventRow::ContextMenu;
+  static constexpr auto NodeClick = EventRow::NodeClick;
+  static constexpr auto NodeSelected = EventRow::NodeSelected;
+  static constexpr auto NodeExpanding = EventRow::NodeExpanding;
+
+  virtual std::span<const EventRow> Events() const { return {}; }
+  virtual std::span<const TimerRow> Timers() const { return {}; }
+  virtual void OnLoad() {}    // controls exist, nothing is shown yet
+  virtual void OnUnload() {}  // just before the window is destroyed
+  virtual void OnMoved() {}   // the user has dragged the form to a new place
+  // Esc: clicks butCancelIt or butCloseIt if the form has one. Alt+F4 and the system menu: clicks butCloseIt
+  // or butCancelIt. Without either both close the form.
+  virtual void OnEscape();
+  virtual void OnCloseRequest();
+  // Any other message, before Form sees it; true: `result` is the answer.
+  virtual bool OnMessage(UINT message, WPARAM wParam, LPARAM lParam, LRESULT& result);
+
+ private:
+  struct Parts;
+
+  const Painter& Look() const override;
+  void PaintBackdrop(HDC dc, HWND control) override;
+  void Raise(const FormEvent& event) override;
+
+  std::unique_ptr<Parts> parts_;
+};
+
+}  // namespace sonaro

@@ -1,0 +1,173 @@
+// A window as data: its size, outline, controls, other layouts and keys. Tables of these rows stand in
+// frmXxx_tables.cpp; Form builds the window from them and forms/portable/Arrange places the controls. All
+// measures are pixels of a 96-dpi screen. Nothing here knows the platform.
+#pragma once
+
+#include <span>
+
+#include "faceplate/Icon.h"
+
+namespace sonaro {
+
+struct DesignSize {
+  int width = 0;
+  int height = 0;
+};
+
+struct DesignRect {
+  int x = 0;
+  int y = 0;
+  int width = 0;
+  int height = 0;
+};
+
+// What a row of a control table becomes. Every kind but Glass and Groove is a real window with the row's
+// number, a direct child of the form, so that GetDlgItem, the keyboard and screen readers find it.
+enum class Kind : unsigned char {
+  // Texts: static controls that let the mouse through to the form, so that dragging works on them.
+  Label,       // one line with an end ellipsis, or wrapped (kWrap)
+  TitleBar,    // the nameplate's program mark and title, normally lblTitle
+  StateLabel,  // as Label, but screen readers are told of every change: status lines, time left
+  // Keys: controls of class Button, drawn by Painter. The text is the accessible name and carries the "&".
+  PushKey,     // icon and text
+  PrimaryKey,  // the one that Enter presses; at most one shown at a time
+  ToggleKey,   // push key that can be active (SetToggle); an array of them is moved through by the arrow keys
+  StripKey,    // icon only; the text becomes the tool tip
+  RankingKey,  // toggle with icon at the left
+  GroupKey,    // toggle "1 Jazz"; without a text (SetText "") an empty socket
+  PlayKey,     // two lines: text "Play MP3", second line by SetDetail
+  HeaderKey,   // over a list column: SetSortMark shows the active one
+  TabKey,      // one of the dial's tabs (SetToggle); stands on a row of kind Dial
+  CheckBox,
+  RadioButton,  // exclusive within its group (kGroup starts one)
+  // Texts that the user types.
+  Edit,
+  MultiEdit,     // several lines
+  ReadOnlyText,  // several lines to read, select and copy; no glass of its own
+  Combo,         // drop list
+  ComboEdit,     // with an edit field
+  // Views, each with a class of its own in forms/.
+  ListView,       // reach it by Form::List
+  TreeView,       // by Form::Tree
+  MonthCalendar,  // the system's control
+  Picture,        // painted by the function that Form::SetPicture was given
+  Rating,         // rating picture, by Form::Rating
+  Progress,       // progress scale, by Form::Progress
+  // Painted by the form behind the controls, no windows. Number 0 unless they are to be hidden and shown.
+  Glass,   // panel; `cut` is the size of its cut corners
+  Dial,    // the tab dial's glass and ticks
+  Groove,  // horizontal engraved line
+  Slots,   // vent slots
+};
+
+// Which edges of the form a control's edges keep their distance to.
+enum Anchor : unsigned char { kLeft = 1, kTop = 2, kRight = 4, kBottom = 8, kLeftTop = kLeft | kTop };
+
+enum ControlFlag : unsigned {
+  kNone = 0,
+  kTabStop = 1,    // for the kinds that are not tab stops anyway (ReadOnlyText, StripKey in frmSplash ...)
+  kNoTabStop = 2,  // the opposite
+  kGroup = 4,      // starts a group: arrow keys move within it, the first tab stop stands for it
+  kHidden = 8,     // hidden until ShowControl
+  kDisabled = 16,  // disabled until Enable
+  kWrap = 32,      // Label: several lines
+  kRightAligned = 64,
+  kCentred = 128,
+  kPassword = 256,    // Edit
+  kDigits = 512,      // Edit: digits only
+  kOnGlass = 1024,    // the control stands on glass: default colours and corners are those of glass
+  kSecondary = 2048,  // PlayKey: not the first link, drawn as a plain key. Label: muted
+  kNoPrefix = 4096,   // "&" in the text is an ordinary character (names of stations and groups)
+};
+
+// Type sizes of the faceplate's one family; Default follows from the kind.
+enum class Type : unsigned char {
+  Default,
+  Small,          // 11
+  SmallStrong,    // 11, semibold
+  Body,           // 12
+  BodyStrong,     // 12, semibold
+  Message,        // 13
+  MessageStrong,  // 13, semibold
+  Title,          // 14, semibold
+  Notice,         // 18, semibold
+  Heading,        // 19, semibold
+  Wordmark,       // 20, semibold
+  Day,            // 34, semibold
+  Splash,         // 46, semibold
+};
+
+// Colours of texts by their job; Default follows from the kind and kOnGlass.
+enum class Ink : unsigned char {
+  Default,
+  Text,
+  Muted,
+  GlassText,
+  GlassMuted,
+  TabText,
+  Accent,
+  Signal,
+  Alert,
+  Off
+};
+
+// Words: the number of a text in strings.rc, or a text that is not a dialog word ("...", ":").
+struct Words {
+  constexpr Words() = default;
+  constexpr Words(int stringId) : id(stringId) {}      // NOLINT: rows read better without a conversion
+  constexpr Words(const char* plain) : text(plain) {}  // NOLINT
+  int id = 0;
+  const char* text = "";
+};
+
+// One control. The order of the rows is the tab order; a label stands just before the control that it names,
+// which is what gives that control its spoken name. A control array is a run of rows with consecutive
+// numbers.
+struct ControlRow {
+  int id = 0;  // from ControlIds.h; 0 for decorations and captions that are never addressed
+  Kind kind = Kind::Label;
+  Words text;
+  DesignRect at;
+  Icon icon = Icon::None;
+  unsigned flags = kNone;
+  unsigned char anchors = kLeftTop;
+  Type type = Type::Default;
+  Ink ink = Ink::Default;
+  unsigned char pane = 0;  // 0: always there; else shown and hidden together by Form::ShowPane
+  unsigned char cut = 0;   // corner cut of Glass
+};
+
+// Another layout of the same controls, such as the compact form of a window. Controls without a place in it
+// are hidden; decorations need a number to have one.
+struct Place {
+  int id = 0;
+  DesignRect at;
+};
+struct Layout {
+  DesignSize size;
+  const char* outline = "";
+  std::span<const Place> places;
+};
+
+// A key of the keyboard that does what pressing the control (or choosing the menu entry) `command` does.
+enum KeyModifier : unsigned char { kPlain = 0, kShift = 1, kCtrl = 2, kAlt = 4 };
+struct KeyRow {
+  int key = 0;  // virtual key code: 'F', VK_F5
+  unsigned char modifiers = kPlain;
+  int command = 0;
+  int onlyIn = 0;  // only while this control has the focus; 0 = everywhere in the window
+};
+
+struct FormDesign {
+  const char* name = "";  // the window class: "frmScan"
+  Words caption;
+  DesignSize size;
+  const char* outline = "";  // key of the window's outline in the point file: "scf72"
+  std::span<const ControlRow> controls;
+  int titleGroove = 36;                  // y of the groove under the title strip, 0 = none
+  std::span<const Layout> layouts = {};  // layout 1, 2 ...; layout 0 is this design itself
+  std::span<const KeyRow> keys = {};
+  int firstFocus = 0;  // 0 = the primary key, or the first tab stop
+};
+
+}  // namespace sonaro

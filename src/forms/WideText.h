@@ -1,0 +1,14 @@
+// Texts at the edge of the window kit. The program speaks std::string in the process's ANSI code page (UTF-8
+// by the manifest); windows are Unicode inside, so that typed and shown text of any script survives.
+#pragma once
+
+#include <string>
+#include <string_view>
+
+namespace sonaro {
+
+// Bytes that are not valid in the code page become U+FFFD or "?".
+std::wstring Widen(std::string_view text);
+std::string Narrow(std::wstring_view text);
+
+}  // namespace sonaro
