@@ -12,6 +12,10 @@ std::string FolderOf(const std::string& path) {
   return slash == std::string::npos ? "" : path.substr(0, slash);
 }
 
+const char* DurabilityText(Durability durability) {
+  return durability == Durability::Flushed ? " flushed" : " cached";
+}
+
 }  // namespace
 
 class FakeFiles::Reader : public InputFile {
@@ -69,7 +73,7 @@ class FakeFiles::Writer : public OutputFile {
 
   bool Commit(Durability durability) override {
     const bool flush = durability == Durability::Flushed;
-    if (Begin("commit " + path_ + (flush ? " flushed" : " cached")) != Step::Runs) return false;
+    if (Begin("commit " + path_ + DurabilityText(durability)) != Step::Runs) return false;
     if (flush) file_->flushed = file_->bytes;
     Close();
     return !failed_;
@@ -110,6 +114,8 @@ std::vector<std::string> FakeFiles::AllPaths() const {
 void FakeFiles::Restart(AfterCrash survival) {
   crashed_ = false;
   operationsUntilCrash_ = 0;
+  if (survival == AfterCrash::LosesUnflushed) UndoReplacements();
+  unflushedReplacements_.clear();
   for (auto& [path, file] : files_) {
     file->gone = true;
     File left{file->bytes, file->flushed};
@@ -138,10 +144,13 @@ std::unique_ptr<OutputFile> FakeFiles::Create(const std::string& path) {
   return std::make_unique<Writer>(*this, file, path);
 }
 
-bool FakeFiles::Replace(const std::string& from, const std::string& to) {
-  if (Begin("replace " + from + ' ' + to) != Step::Runs) return false;
+bool FakeFiles::Replace(const std::string& from, const std::string& to, Durability durability) {
+  const bool flush = durability == Durability::Flushed;
+  if (Begin("replace " + from + ' ' + to + DurabilityText(durability)) != Step::Runs) return false;
   const FilePtr file = Find(from);
   if (!file || !IsFree(from) || !IsFree(to) || folders_.contains(to)) return false;
+  unflushedReplacements_.push_back({from, to, file, Find(to)});
+  if (flush) unflushedReplacements_.clear();
   files_.erase(from);
   files_[to] = file;
   return true;
@@ -201,6 +210,15 @@ std::size_t FakeFiles::TakeSpace(std::size_t wanted) {
   const std::size_t taken = std::min(wanted, static_cast<std::size_t>(*spaceLeft_));
   *spaceLeft_ -= taken;
   return taken;
+}
+
+void FakeFiles::UndoReplacements() {
+  for (auto replacement = unflushedReplacements_.rbegin(); replacement != unflushedReplacements_.rend();
+       ++replacement) {
+    files_[replacement->from] = replacement->newFile;
+    files_.erase(replacement->to);
+    if (replacement->oldFile) files_[replacement->to] = replacement->oldFile;
+  }
 }
 
 int ForEachCrashPoint(const std::function<void(FakeFiles&)>& prepare,

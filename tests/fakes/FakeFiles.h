@@ -16,10 +16,10 @@
 
 namespace sonaro {
 
-// What a crash leaves of bytes that were written and not flushed.
+// What a crash leaves of what was written and not flushed.
 enum class AfterCrash {
   KeepsAll,        // the program died, the system lived on
-  LosesUnflushed,  // the power went: they are gone
+  LosesUnflushed,  // the power went: they are gone, and replacements that were not flushed never happened
   TearsUnflushed   // the power went: half of them reached the disk, zeros stand for the rest
 };
 
@@ -45,13 +45,13 @@ class FakeFiles : public Files {
   void Restart(AfterCrash survival);
 
   // The changing operations so far: "create /d/a", "append /d/a 12", "write /d/a 0 4", "commit /d/a flushed",
-  // "replace /d/a /d/b", "remove /d/a", "folder /d".
+  // "replace /d/a /d/b flushed", "remove /d/a", "folder /d".
   const std::vector<std::string>& Log() const { return log_; }
   void ClearLog() { log_.clear(); }
 
   std::unique_ptr<InputFile> Open(const std::string& path) override;
   std::unique_ptr<OutputFile> Create(const std::string& path) override;
-  bool Replace(const std::string& from, const std::string& to) override;
+  bool Replace(const std::string& from, const std::string& to, Durability durability) override;
   bool Remove(const std::string& path) override;
   bool Exists(const std::string& path) override;
   std::vector<std::string> List(const std::string& folder) override;
@@ -67,6 +67,12 @@ class FakeFiles : public Files {
     bool gone = false;  // of an earlier life: its handles are dead
   };
   using FilePtr = std::shared_ptr<File>;
+  struct Replacement {  // one that a power cut can undo
+    std::string from;
+    std::string to;
+    FilePtr newFile;
+    FilePtr oldFile;  // null when there was none
+  };
   enum class Step { Runs, CrashesNow, Down };
 
   // Counts and logs a changing operation.
@@ -76,8 +82,10 @@ class FakeFiles : public Files {
   bool IsFree(const std::string& path) const;
   void AddFolders(const std::string& folder);
   std::size_t TakeSpace(std::size_t wanted);
+  void UndoReplacements();
 
   std::map<std::string, FilePtr> files_;
+  std::vector<Replacement> unflushedReplacements_;
   std::set<std::string> folders_;
   std::set<std::string> locked_;
   std::optional<std::uint64_t> spaceLeft_;
