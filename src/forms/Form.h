@@ -38,7 +38,7 @@
 //     return kDesign;
 //   }
 //   std::span<const EventRow> frmGreet::Events() const {
-//     static constexpr EventRow kRows[] = {
+//     static const EventRow kRows[] = {
 //         {txtName, Change, &frmGreet::txtName_Change},
 //         {butOKIt, Click, &frmGreet::butOKIt_Click},
 //         {butCancelIt, Click, &frmGreet::butCancelIt_Click},
@@ -47,7 +47,7 @@
 //     return kRows;
 //   }
 //   std::span<const TimerRow> frmGreet::Timers() const {
-//     static constexpr TimerRow kRows[] = {{tmrIdle, &frmGreet::tmrIdle_Timer}};
+//     static const TimerRow kRows[] = {{tmrIdle, &frmGreet::tmrIdle_Timer}};
 //     return kRows;
 //   }
 //
@@ -104,28 +104,28 @@ class EventRow {
   enum OfNode { NodeClick, NodeSelected, NodeExpanding };
 
   template <class T>
-  constexpr EventRow(int id, Plain event, void (T::*handler)())
+  EventRow(int id, Plain event, void (T::*handler)())
       : first(id), kind(static_cast<Kind>(event)), plain(static_cast<void (Form::*)()>(handler)) {}
   // A control array: `count` controls from `id` on; the handler is given the index.
   template <class T>
-  constexpr EventRow(int id, Plain event, void (T::*handler)(int), int arraySize)
+  EventRow(int id, Plain event, void (T::*handler)(int), int arraySize)
       : first(id),
         count(arraySize),
         kind(static_cast<Kind>(event)),
         withIndex(static_cast<void (Form::*)(int)>(handler)) {}
   template <class T>
-  constexpr EventRow(int id, OfRow event, void (T::*handler)(int row))
+  EventRow(int id, OfRow event, void (T::*handler)(int row))
       : first(id),
         kind(event == ItemActivated ? Kind::ItemActivated : Kind::ItemSelected),
         withRow(static_cast<void (Form::*)(int)>(handler)) {}
   template <class T>  // row of a list, or index of a control array (count > 1), -1: none; screen pixels
-  constexpr EventRow(int id, AtPoint, void (T::*handler)(int row, POINT at), int arraySize = 1)
+  EventRow(int id, AtPoint, void (T::*handler)(int row, POINT at), int arraySize = 1)
       : first(id),
         count(arraySize),
         kind(Kind::ContextMenu),
         atPoint(static_cast<void (Form::*)(int, POINT)>(handler)) {}
   template <class T>
-  constexpr EventRow(int id, OfNode event, void (T::*handler)(HTREEITEM node))
+  EventRow(int id, OfNode event, void (T::*handler)(HTREEITEM node))
       : first(id),
         kind(static_cast<Kind>(static_cast<int>(Kind::NodeClick) + event)),
         withNode(static_cast<void (Form::*)(HTREEITEM)>(handler)) {}
@@ -143,7 +143,7 @@ class EventRow {
 
 struct TimerRow {
   template <class T>
-  constexpr TimerRow(int timerId, void (T::*timerHandler)())
+  TimerRow(int timerId, void (T::*timerHandler)())
       : id(timerId), handler(static_cast<void (Form::*)()>(timerHandler)) {}
   int id;
   void (Form::*handler)();
