@@ -58,8 +58,10 @@ void ScheduleTimer::FillDueList(const DateTime& now) {
     slots.resize(kDuePlaces);
   }
   dueCount_ = slots.size();
-  std::transform(slots.begin(), slots.end(), due_.begin(),
-                 [](std::size_t slot) { return static_cast<int>(slot); });
+  for (std::size_t i = 0; i < slots.size(); ++i) {
+    due_[i] = static_cast<int>(slots[i]);
+    dueTimes_[i] = calendar_.TimeOf(slots[i]).value_or(TimeOfDay{});
+  }
 }
 
 void ScheduleTimer::Timer1_Timer() {
@@ -126,15 +128,13 @@ bool ScheduleTimer::FireEntries(const DateTime& now) {
   bool fired = false;
   for (std::size_t i = 0; i < dueCount_; ++i) {
     if (due_[i] == kFiredMark) continue;
-    const auto slot = static_cast<std::size_t>(due_[i]);
-    const std::optional<TimeOfDay> time = calendar_.TimeOf(slot);
-    if (!time) continue;
-    const bool afterLast = *time > lastTick_.time;
-    const bool reached = *time <= now.time;
+    const bool afterLast = dueTimes_[i] > lastTick_.time;
+    const bool reached = dueTimes_[i] <= now.time;
     if (wrapped ? !(afterLast || reached) : !(afterLast && reached)) continue;
+    const auto slot = static_cast<std::size_t>(due_[i]);
     due_[i] = kFiredMark;
     const Date day = reached ? now.date : lastTick_.date;
-    if (!FirstTime({slot, {day, *time}})) continue;
+    if (!FirstTime({slot, {day, dueTimes_[i]}})) continue;
     fired = true;
     Fire(slot);
   }
@@ -164,8 +164,10 @@ void ScheduleTimer::Fire(std::size_t slot) {
 bool ScheduleTimer::FirstTime(const Occurrence& occurrence) { return told_.insert(occurrence).second; }
 
 void ScheduleTimer::Remember(const DateTime& now, const DateTime& gmt) {
+  const bool newDay = now.date != lastTick_.date;
   lastTick_ = now;
   lastGmt_ = gmt;
+  if (!newDay) return;
   std::erase_if(told_, [&](const Occurrence& occurrence) {
     return std::abs(SecondsBetween(occurrence.at, now)) > 2 * kSecondsInDay;
   });

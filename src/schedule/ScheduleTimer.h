@@ -92,7 +92,8 @@ class ScheduleTimer {
   LiveStarts liveStarts_;
   AwayNotice awayNotice_;
 
-  std::array<int, kDuePlaces> due_{};  // slots; -1 has fired
+  std::array<int, kDuePlaces> due_{};             // slots; -1 has fired
+  std::array<TimeOfDay, kDuePlaces> dueTimes_{};  // of the items in due_
   std::size_t dueCount_ = 0;
   bool dueOverflowed_ = false;  // more items qualified than there are places
   int tickCounter_ = 0;

@@ -1,0 +1,138 @@
+#include "schedule/CalendarExport.h"
+
+#include <array>
+#include <cstdio>
+#include <optional>
+#include <string_view>
+
+#include "base/Text.h"
+#include "schedule/ScheduleItem.h"
+#include "schedule/ScheduleStore.h"
+
+namespace sonaro {
+
+namespace {
+
+constexpr std::size_t kLineBytes = 75;  // RFC 5545, 3.1: without the line break
+constexpr std::array<std::string_view, 7> kDayCodes = {"MO", "TU", "WE", "TH", "FR", "SA", "SU"};
+
+std::string Stamp(const DateTime& at) {
+  char text[32];
+  std::snprintf(text, sizeof text, "%04d%02d%02dT%02d%02d%02d", at.date.year, at.date.month, at.date.day,
+                at.time.hour, at.time.minute, at.time.second);
+  return text;
+}
+
+// RFC 5545, 3.3.11: the characters that a text value escapes.
+std::string Escaped(std::string_view text) {
+  std::string escaped;
+  for (char c : text) {
+    if (c == '\\' || c == ';' || c == ',') escaped += '\\';
+    const bool control = static_cast<unsigned char>(c) < 0x20 || c == 0x7F;
+    escaped += control ? ' ' : c;
+  }
+  return escaped;
+}
+
+// Appends a content line, folded so that no line is too long and no character is cut in two.
+void AddLine(std::string& file, std::string_view line) {
+  std::string_view piece = CutForShow(line, kLineBytes);
+  file.append(piece).append("\r\n");
+  for (line.remove_prefix(piece.size()); !line.empty(); line.remove_prefix(piece.size())) {
+    piece = CutForShow(line, kLineBytes - 1);
+    if (piece.empty()) piece = line.substr(0, 1);  // bytes that are no UTF-8
+    file.append(" ").append(piece).append("\r\n");
+  }
+}
+
+Date FirstDayFrom(Date day, const DayFlags& days) {
+  for (int tried = 0; tried < 7 && !days[static_cast<std::size_t>(Weekday(day))]; ++tried) {
+    day = DateFromDays(DaysFromEpoch(day) + 1);
+  }
+  return day;
+}
+
+std::optional<DayFlags> RepeatedDays(const ScheduleItem& item) {
+  DayFlags days{};
+  if (KindOf(item.kind) == ScheduleKind::Daily) {
+    days = DaysOf(item.kind);
+  } else {
+    for (int day = 0; day < 7; ++day) {
+      days[static_cast<std::size_t>(day)] = EqualIgnoringCase(EnglishDayName(day), item.weekday);
+    }
+  }
+  return days == DayFlags{} ? std::nullopt : std::optional(days);
+}
+
+std::string RepeatRule(const DayFlags& days) {
+  std::string codes;
+  for (std::size_t day = 0; day < days.size(); ++day) {
+    if (!days[day]) continue;
+    if (!codes.empty()) codes += ',';
+    codes += kDayCodes[day];
+  }
+  return "RRULE:FREQ=WEEKLY;BYDAY=" + codes;
+}
+
+struct Times {
+  DateTime start;
+  std::string rule;  // "" for an item that comes on once
+};
+
+std::optional<Times> TimesOf(const ScheduleItem& item, const Date& today,
+                             const std::string& shortDatePattern) {
+  const std::optional<TimeOfDay> time = ParseTime(item.time);
+  if (!time) return std::nullopt;
+  switch (KindOf(item.kind)) {
+    case ScheduleKind::Once: {
+      const std::optional<DateTime> date = ParseDate(item.date, shortDatePattern);
+      return date ? std::optional(Times{{date->date, *time}, {}}) : std::nullopt;
+    }
+    case ScheduleKind::Daily:
+    case ScheduleKind::Weekly: {
+      const std::optional<DayFlags> days = RepeatedDays(item);
+      if (!days) return std::nullopt;
+      return Times{{FirstDayFrom(today, *days), *time}, RepeatRule(*days)};
+    }
+    default:
+      return std::nullopt;
+  }
+}
+
+void AddEntry(std::string& file, std::size_t slot, const ScheduleItem& item, const Times& times,
+              const DateTime& gmtNow) {
+  const ItemName name = SplitItemName(item.name);
+  AddLine(file, "BEGIN:VEVENT");
+  AddLine(file, "UID:" + std::to_string(slot) + "-" + Stamp(times.start) + "@sonaro.example");
+  AddLine(file, "DTSTAMP:" + Stamp(gmtNow) + "Z");
+  AddLine(file, "DTSTART:" + Stamp(times.start));
+  if (!times.rule.empty()) AddLine(file, times.rule);
+  AddLine(file, "SUMMARY:" + Escaped(name.Shown()));
+  if (!item.note.empty()) AddLine(file, "DESCRIPTION:" + Escaped(item.note));
+  if (name.webSite.starts_with("http")) AddLine(file, "URL:" + name.webSite);  // an address is not escaped
+  AddLine(file, "BEGIN:VALARM");
+  AddLine(file, "ACTION:DISPLAY");
+  AddLine(file, "TRIGGER:PT0S");
+  AddLine(file, "DESCRIPTION:" + Escaped(name.Shown()));
+  AddLine(file, "END:VALARM");
+  AddLine(file, "END:VEVENT");
+}
+
+}  // namespace
+
+std::string ExportCalendar(const ScheduleStore& store, const Date& today, const DateTime& gmtNow,
+                           const std::string& shortDatePattern) {
+  std::string file;
+  AddLine(file, "BEGIN:VCALENDAR");
+  AddLine(file, "VERSION:2.0");
+  AddLine(file, "PRODID:-//Sonaro//Schedule//EN");
+  for (std::size_t slot = 0; slot < store.SlotCount(); ++slot) {
+    const ScheduleItem& item = store.Item(slot);
+    if (item.Free()) continue;
+    if (const auto times = TimesOf(item, today, shortDatePattern)) AddEntry(file, slot, item, *times, gmtNow);
+  }
+  AddLine(file, "END:VCALENDAR");
+  return file;
+}
+
+}  // namespace sonaro

@@ -1,0 +1,194 @@
+// The schedule's file and table, personal shows, and how items read.
+#include <gtest/gtest.h>
+
+#include <memory>
+
+#include "base/DataFolder.h"
+#include "fakes/FakeFiles.h"
+#include "fakes/FakeMessageBox.h"
+#include "fakes/FakeStrings.h"
+#include "schedule/CalendarExport.h"
+#include "schedule/PersonalShows.h"
+#include "schedule/ScheduleStore.h"
+#include "schedule/ScheduleTexts.h"
+
+namespace sonaro {
+namespace {
+
+const Date kToday{2000, 8, 16};
+
+class ScheduleFile : public testing::Test {
+ protected:
+  void Load(std::string_view text) {
+    files_.Put("data/Sched.snr", text);
+    store_.LoadSchedule(kToday);
+  }
+  std::string Saved() {
+    EXPECT_TRUE(store_.SaveSchedule());
+    return files_.Get("data/Sched.snr").value_or("(none)");
+  }
+
+  FakeFiles files_;
+  DataFolder data_{files_, "data", '/'};
+  ScheduleStore store_{data_, "d/M/yyyy"};
+};
+
+TEST_F(ScheduleFile, FieldsStandInTheLinesOwnOrderAndComeBackByteForByte) {
+  const std::string line = "Jazz Hour\tNS1204\t8/17/2000\t8:05 PM\tThursday\tonce\tnote\twith a tab\r\n";
+  Load(line);
+  const ScheduleItem& item = store_.Item(0);
+  EXPECT_EQ(item.name, "Jazz Hour");
+  EXPECT_EQ(item.action, "NS1204");
+  EXPECT_EQ(item.date, "8/17/2000");
+  EXPECT_EQ(item.time, "8:05 PM");
+  EXPECT_EQ(item.weekday, "Thursday");
+  EXPECT_EQ(item.kind, "once");
+  EXPECT_EQ(item.note, "note\twith a tab");
+  EXPECT_EQ(Saved(), line);
+}
+
+TEST_F(ScheduleFile, LinesThatAreNotUnderstoodAreKept) {
+  Load("no tabs at all\r\nShort\tN\t8/14/2000\r\n\r\nFull\tN\t\t1:00 PM\t\tdaily\t\n");
+  EXPECT_TRUE(store_.Item(0).Free());
+  EXPECT_EQ(store_.Item(1).name, "Short");
+  EXPECT_EQ(store_.Item(1).date, "");  // no tab stands behind it
+  EXPECT_EQ(store_.Item(3).name, "Full");
+  EXPECT_EQ(Saved(), "Short\tN\t8/14/2000\r\nFull\tN\t\t1:00 PM\t\tdaily\t\r\nno tabs at all\r\n");
+  store_.FreeSlot(1);
+  EXPECT_EQ(Saved(), "Full\tN\t\t1:00 PM\t\tdaily\t\r\nno tabs at all\r\n");
+}
+
+TEST_F(ScheduleFile, OnceItemsExpireMoreThanTwoDaysAfterTheirDay) {
+  const auto kept = [&](const std::string& date, const std::string& kind) {
+    Load("x\tN\t" + date + "\t1:00 PM\tMonday\t" + kind + "\t\r\n");
+    return !store_.Item(0).Free();
+  };
+  EXPECT_TRUE(kept("8/14/2000", "once"));
+  EXPECT_FALSE(kept("8/13/2000", "ONCE"));
+  EXPECT_FALSE(kept("2000-08-13", "once"));
+  EXPECT_TRUE(kept("some day", "once"));
+  EXPECT_TRUE(kept("2/30/2000", "once"));
+  EXPECT_TRUE(kept("1/1/1990", "weekly"));
+  kept("8/13/2000", "once");
+  EXPECT_EQ(Saved(), "");
+}
+
+TEST_F(ScheduleFile, TheTableGrowsWhenALineNeedsItAndFreeSlotsAreUsedFirst) {
+  std::string text;
+  for (int i = 0; i < 101; ++i) text += "x\tN\t\t1:00 PM\t\tdaily\t\r\n";
+  Load(text);
+  EXPECT_EQ(store_.SlotCount(), 101u);
+  EXPECT_EQ(store_.FirstFreeSlot(), 101u);
+  Load(text + "x\tN\t\t1:00 PM\t\tdaily\t\r\n");
+  EXPECT_EQ(store_.SlotCount(), 122u);
+  store_.FreeSlot(7);
+  EXPECT_EQ(store_.FirstFreeSlot(), 7u);
+}
+
+TEST_F(ScheduleFile, WhatTheUserTypedCannotBreakTheLine) {
+  ScheduleItem item;
+  item.name = "two\r\nlines\tand a tab";
+  item.note = "first\r\nsecond";
+  store_.SetItem(0, item);
+  Saved();
+  store_.LoadSchedule(kToday);
+  EXPECT_EQ(store_.Item(0).name, "two  lines and a tab");
+  EXPECT_TRUE(store_.Item(1).Free());
+}
+
+TEST_F(ScheduleFile, AnUnreadableFileIsNotOverwritten) {
+  files_.Put("data/Sched.snr", "mine\tN\t\t1:00 PM\t\tdaily\t\r\n");
+  files_.Lock("data/Sched.snr");
+  store_.LoadSchedule(kToday);
+  files_.Unlock("data/Sched.snr");
+  store_.SetItem(0, {.name = "new"});
+  EXPECT_FALSE(store_.SaveSchedule());
+  EXPECT_EQ(files_.Get("data/Sched.snr"), "mine\tN\t\t1:00 PM\t\tdaily\t\r\n");
+}
+
+TEST(ScheduleKinds, DayFlagsAreReadAndWrittenWithTheirOwnThursday) {
+  const DayFlags mondayAndThursday{true, false, false, true, false, false, false};
+  const std::string kind = "daily|Mon=-1|Tue=0|Wed=0|Thr=-1|Fri=0|Sat=0|Sun=0|";
+  EXPECT_EQ(DailyKind(mondayAndThursday), kind);
+  EXPECT_EQ(DaysOf(kind), mondayAndThursday);
+  EXPECT_EQ(DaysOf("daily|Thu=-1|"), DayFlags{});
+  EXPECT_EQ(DaysOf("Daily"), (DayFlags{true, true, true, true, true, true, true}));
+  EXPECT_EQ(DailyKind(DaysOf("daily")), "daily");
+  EXPECT_EQ(KindOf("DAILYish"), ScheduleKind::Daily);
+  EXPECT_EQ(KindOf("week"), ScheduleKind::Unknown);
+}
+
+TEST(ScheduleNames, EventsSplitAtTheFirstOfEachMark) {
+  const ItemName event = SplitItemName("Finale|||Z|||Radio|||Z|||Two>>>>>>www.x.example>>>>>>y");
+  EXPECT_EQ(event.Shown(), "Finale on Radio|||Z|||Two");
+  EXPECT_EQ(event.webSite, "www.x.example>>>>>>y");
+  EXPECT_EQ(SplitItemName("Plain").Shown(), "Plain");
+  EXPECT_EQ(JoinItemName(SplitItemName("A|||Z|||B>>>>>>c")), "A|||Z|||B>>>>>>c");
+}
+
+TEST(ScheduleTexts, NoticesAndListTexts) {
+  const auto item = [](std::string kind) {
+    ScheduleItem made;
+    made.date = "8/14/2000";
+    made.time = "20:05";
+    made.weekday = "Thursday";
+    made.kind = std::move(kind);
+    return made;
+  };
+  EXPECT_EQ(NoticeText(item("once"), ""), "This is your August 14  8:05 PM notice for");
+  EXPECT_EQ(NoticeText(item("daily|Mon=-1|"), ""), "This is your daily 8:05 PM notice for");
+  EXPECT_EQ(NoticeText(item("weekly"), ""), "This is your weekly Thursday 8:05 PM notice for");
+  EXPECT_EQ(NoticeText(item("live"), ""), "This is your event notice for");
+  EXPECT_EQ(ScheduleShown(item("daily")), "every day at 20:05");
+  EXPECT_EQ(ScheduleShown(item("daily|Mon=-1|Tue=0|Thr=-1|")), "every Mon, Thr at 20:05");
+  EXPECT_EQ(ScheduleShown(item("weekly")), "every Thursday at 20:05");
+  EXPECT_EQ(ScheduleShown(item("once")), "at 20:05 on 8/14/2000");
+  EXPECT_EQ(ActionShown("Wx"), "Go to the website ");
+  EXPECT_EQ(ActionShown(""), "Notify me ");
+}
+
+TEST(PersonalShowList, AddsOnceRemovesByTheIdentifyingPartAndTellsTheUser) {
+  FakeFiles files;
+  DataFolder data(files, "data", '/');
+  FakeMessageBox box;
+  FakeStrings strings;
+  PersonalShows shows(data, box, strings);
+  shows.AddPersonalShow("12XEvening Show");
+  shows.AddPersonalShow("12XRenamed Show");
+  shows.AddPersonalShow("7XMorning X Ray");
+  EXPECT_EQ(files.Get("data/Shows.snr"), "12XEvening Show\r\n7XMorning X Ray\r\n");
+  EXPECT_EQ(shows.ReadPersonalShows(), "12XEvening Show\r\n7XMorning X Ray");
+  EXPECT_EQ(PersonalShows::DisplayName("7XMorning X Ray"), "Morning X Ray");
+  shows.RemovePersonalShow("12Xwhatever");
+  EXPECT_EQ(files.Get("data/Shows.snr"), "7XMorning X Ray\r\n");
+  shows.WritePersonalShows("a\r\nb\r\nnot written");
+  EXPECT_EQ(files.Get("data/Shows.snr"), "a\r\nb\r\n");
+}
+
+TEST(Calendar, EntriesFollowTheFormat) {
+  FakeFiles files;
+  DataFolder data(files, "data", '/');
+  ScheduleStore store(data, "");
+  store.SetItem(0, {.name = "Finale|||Z|||Radio; One>>>>>>http://x.example/a,b",
+                    .date = "12/24/2000",
+                    .time = "6:00 PM",
+                    .kind = "once",
+                    .note = std::string(80, 'n') + "\xC3\xA9"});
+  store.SetItem(1, {.name = "News", .time = "7:15", .kind = "daily|Mon=-1|Fri=-1|"});
+  store.SetItem(2, {.name = "never", .time = "soon", .kind = "daily"});
+  const std::string file = ExportCalendar(store, kToday, {{2000, 8, 16}, {10, 0, 0}}, "");
+  for (const char* line :
+       {"BEGIN:VCALENDAR\r\n", "DTSTART:20001224T180000\r\n", "SUMMARY:Finale on Radio\\; One\r\n",
+        "URL:http://x.example/a,b\r\n", "DTSTART:20000818T071500\r\n", "RRULE:FREQ=WEEKLY;BYDAY=MO,FR\r\n",
+        "DTSTAMP:20000816T100000Z\r\n", "END:VCALENDAR\r\n"}) {
+    EXPECT_NE(file.find(line), std::string::npos) << line;
+  }
+  EXPECT_EQ(file.find("never"), std::string::npos);
+  std::size_t start = 0;
+  for (std::size_t end; (end = file.find("\r\n", start)) != std::string::npos; start = end + 2) {
+    EXPECT_LE(end - start, 75u);
+  }
+}
+
+}  // namespace
+}  // namespace sonaro
