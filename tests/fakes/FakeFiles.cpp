@@ -224,19 +224,22 @@ void FakeFiles::UndoReplacements() {
 int ForEachCrashPoint(const std::function<void(FakeFiles&)>& prepare,
                       const std::function<void(FakeFiles&)>& scenario,
                       const std::function<void(FakeFiles&, const CrashPoint&)>& check) {
-  for (int operation = 1;; ++operation) {
+  bool completed = false;
+  int operation = 0;
+  while (!completed) {
+    ++operation;
     for (const AfterCrash survival :
          {AfterCrash::KeepsAll, AfterCrash::LosesUnflushed, AfterCrash::TearsUnflushed}) {
       FakeFiles files;
       prepare(files);
       files.CrashAt(operation);
       scenario(files);
-      const bool completed = !files.Crashed();
-      files.Restart(completed ? AfterCrash::KeepsAll : survival);
+      completed = !files.Crashed();
+      files.Restart(survival);
       check(files, {operation, survival, completed});
-      if (completed) return operation - 1;
     }
   }
+  return operation - 1;
 }
 
 }  // namespace sonaro

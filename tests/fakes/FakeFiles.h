@@ -97,11 +97,11 @@ class FakeFiles : public Files {
 struct CrashPoint {
   int operation = 0;  // the operation that the crash hit, 1 = the first of the scenario
   AfterCrash survival = AfterCrash::KeepsAll;
-  bool completed = false;  // the scenario ended before its crash: the last round
+  bool completed = false;  // the scenario had ended: the crash came right after it
 };
 
 // Runs `scenario` on freshly prepared files with the crash at its first, second, third ... changing operation
-// and every kind of survival, until it runs through, and lets `check` look at the files after each restart.
+// and every kind of survival, last with the crash right after it, and lets `check` look at the files after each restart.
 // Returns the number of the scenario's operations.
 int ForEachCrashPoint(const std::function<void(FakeFiles&)>& prepare,
                       const std::function<void(FakeFiles&)>& scenario,
