@@ -1,0 +1,77 @@
+// What the program reads from its command line, and the addresses that it is built with.
+#include <gtest/gtest.h>
+
+#include "app/HelpPages.h"
+#include "app/ServiceHosts.h"
+#include "app/WhatToShow.h"
+
+namespace sonaro {
+namespace {
+
+TEST(CommandLine, StartedWithWindowsOnlyByExactlyThatText) {
+  for (const char* text : {"WinStart=Yes", "WINSTART=YES", "winstart=yes"})
+    EXPECT_TRUE(IsStartWithWindows(text));
+  for (const char* text : {"", "WinStart=Yes ", " WinStart=Yes", "WinStart=No", "WinStart=Yes x"}) {
+    EXPECT_FALSE(IsStartWithWindows(text)) << text;
+  }
+}
+
+TEST(CommandLine, ViewToShow) {
+  const struct {
+    const char* text;
+    bool asks;
+    const char* view;
+  } kCases[] = {
+      {"DoWhat=BringUp", true, ""},
+      {"DoWhat=BringEvents", true, "YourSonaro"},
+      {"dowhat=bringbrowse", true, "Browse"},
+      {"DoWhat=BringSearch", true, "Search"},
+      {"DoWhat=BringSearch ", true, ""},
+      {"DoWhat=Bring", true, ""},
+      {"DoWhat=Brin", false, ""},
+      {" DoWhat=BringUp", false, ""},
+      {"WinStart=Yes", false, ""},
+      {"", false, ""},
+  };
+  for (const auto& c : kCases) {
+    EXPECT_EQ(AsksForView(c.text), c.asks) << c.text;
+    EXPECT_EQ(WhatToShow(c.text), c.view) << c.text;
+  }
+}
+
+TEST(ServiceHosts, OtherHostsFollowTheWebHost) {
+  EXPECT_EQ(HostOf(ServiceHost::Web), kWebHost);
+#ifndef SONARO_SERVICE_HOST
+  EXPECT_EQ(ServiceAddress(ServiceHost::Web, "/a"), "http://www.sonaro.example/a");
+  EXPECT_EQ(ServiceAddress(ServiceHost::Database, "/a"), "http://db.sonaro.example/a");
+  EXPECT_EQ(HostOf(ServiceHost::StationInformation), "stations.sonaro.example");
+  EXPECT_EQ(HostOf(ServiceHost::Search), "search.sonaro.example");
+#endif
+}
+
+TEST(HelpPage, BelongsToItsKeyExactly) {
+  const struct {
+    const char* key;
+    const char* page;
+  } kCases[] = {
+      {"DeletePersonalStation", "9030.html"},
+      {"ToAddMorePersonalStationYouNeedMoreInfo", "9031.html"},
+      {"ToSendCommentToFriendYouNeedMoreInfo", "9032.html"},
+      {"ScheduleStationYourNeedToSelectAStation", "9033.html"},
+      {"ScheduleStationYourNeedToSelectADate", "9034.html"},
+      {"ChangingFacePlate", "9035.html"},
+      {"CantFindProgram", "9036.html"},
+      {"MissingDataFilesNeedToDownloadThem", "9037.html"},
+      {"DeleteFavoriteGroup", "9038.html"},
+      {"AlreadyHave10FavoriteGroups", "9039.html"},
+      {"TheFavoriteGroupAlreadyExists", "9040.html"},
+      {"ToSendCommentToSonaroYouNeedMoreInfo", "9041.html"},
+      {"QuickStart", "9070.html"},
+      {"quickstart", "index.html"},
+      {"", "index.html"},
+  };
+  for (const auto& c : kCases) EXPECT_EQ(HelpPageForMessage(c.key), c.page) << c.key;
+}
+
+}  // namespace
+}  // namespace sonaro
