@@ -13,6 +13,73 @@ inline constexpr int butOKIt = 905;
 inline constexpr int butCancelIt = 906;
 
 // SonaroFrm: 1001 to 1499.
+inline constexpr int butTabs = 1001;  // 5 numbers: Your Sonaro, List, Browse, By Location, Search
+inline constexpr int tabRightSide = 1006;
+inline constexpr int lblSubTitle = 1011;
+inline constexpr int butMenu = 1012;
+inline constexpr int butTray = 1013;
+inline constexpr int butMin = 1014;
+inline constexpr int butFavs = 1021;    // 10 numbers
+inline constexpr int cmdFavHit = 1031;  // 10 numbers: choosing one does what choosing butFavs does
+inline constexpr int butRecent = 1041;
+inline constexpr int cmbFavs = 1042;
+inline constexpr int lblListing = 1051;
+inline constexpr int lblCount = 1052;
+inline constexpr int butSplit1 = 1053;
+inline constexpr int butSplit2 = 1054;
+inline constexpr int butSplit3 = 1055;
+inline constexpr int butSplit4 = 1056;
+inline constexpr int lstFavs = 1057;
+inline constexpr int scrFavs = 1058;
+inline constexpr int lblSide = 1061;
+inline constexpr int butNewStations = 1062;
+inline constexpr int butMostPop = 1063;
+inline constexpr int butBestOverall = 1064;
+inline constexpr int butBestSound = 1065;
+inline constexpr int butBestSpeed = 1066;
+inline constexpr int butBestWebSite = 1067;
+inline constexpr int butMostReliable = 1068;
+inline constexpr int treeBrowse = 1071;
+inline constexpr int scrBrowse = 1072;
+inline constexpr int lblTypeSearch = 1081;
+inline constexpr int lblSearchCap = 1082;
+inline constexpr int txtQuickSearch = 1083;
+inline constexpr int optSearch = 1084;      // 2 numbers: all words, any word
+inline constexpr int optSearchType = 1086;  // 6 numbers
+inline constexpr int butSearchList = 1092;
+inline constexpr int lblWebAsked = 1101;
+inline constexpr int lblWebAddress = 1102;
+inline constexpr int butWebOpen = 1103;
+inline constexpr int lstGroups = 1111;
+inline constexpr int butNewGroup = 1112;
+inline constexpr int butRemoveGroup = 1113;
+inline constexpr int lblNextNotice = 1114;
+inline constexpr int lstEvents = 1115;
+inline constexpr int butNotifyMe = 1116;
+inline constexpr int lblStationName = 1121;
+inline constexpr int lblStationLocation = 1122;
+inline constexpr int txtDescription = 1123;
+inline constexpr int imgOverAll = 1124;
+inline constexpr int imgSound = 1125;
+inline constexpr int imgSpeed = 1126;
+inline constexpr int imgWebSite = 1127;
+inline constexpr int lblRating1 = 1128;
+inline constexpr int lblRating2 = 1129;
+inline constexpr int lblRating3 = 1130;
+inline constexpr int lblRating4 = 1131;
+inline constexpr int butGoMediaLinkOneIt = 1132;
+inline constexpr int butGoMediaLinkTwoIt = 1133;
+inline constexpr int butGoMediaLinkThreeIt = 1134;
+inline constexpr int butGoWebPageIt = 1135;
+inline constexpr int lblNoStation = 1136;
+inline constexpr int lblStatus = 1141;
+inline constexpr int lblProgress = 1142;
+inline constexpr int picProgress = 1143;
+inline constexpr int lblPercent = 1144;
+inline constexpr int butUpdate = 1145;
+inline constexpr int butScan = 1146;
+inline constexpr int butSchedule = 1147;
+inline constexpr int butOptions = 1148;
 
 // frmScan: 2001 to 2099.
 
@@ -31,5 +98,83 @@ inline constexpr int butCancelIt = 906;
 // frmSysTrayMenu (menu entries): 3001 to 3099.
 
 // frmSonaroMenu (menu entries): 3101 to 3399.
+// Sorting: the sort menu and the same entries of the action menu.
+inline constexpr int mnuSortByName = 3101;
+inline constexpr int mnuSortByLocation = 3102;
+inline constexpr int mnuSortByMediaType = 3103;
+inline constexpr int mnuSortByFormat = 3104;
+inline constexpr int mnuSortByOverall = 3105;
+inline constexpr int mnuSortBySound = 3106;
+inline constexpr int mnuSortBySpeed = 3107;
+inline constexpr int mnuSortByWebSite = 3108;
+inline constexpr int mnuSortByReliable = 3109;
+inline constexpr int mnuActionSortByName = 3110;
+inline constexpr int mnuActionSortByLocation = 3111;
+inline constexpr int mnuActionSortByMediaType = 3112;
+inline constexpr int mnuActionSortByFormat = 3113;
+inline constexpr int mnuActionSortByOverall = 3114;
+inline constexpr int mnuActionSortBySound = 3115;
+inline constexpr int mnuActionSortBySpeed = 3116;
+inline constexpr int mnuActionSortByWebSite = 3117;
+inline constexpr int mnuActionSortByMostReliable = 3118;
+// Rankings.
+inline constexpr int mnuActionNewStations = 3131;
+inline constexpr int mnuActionMostPoular = 3132;
+inline constexpr int mnuActionLeastPopular = 3133;
+inline constexpr int mnuActionBestOverall = 3134;
+inline constexpr int mnuActionBestSound = 3135;
+inline constexpr int mnuActionBestSpeed = 3136;
+inline constexpr int mnuActionBestWebsite = 3137;
+inline constexpr int mnuActionMostReliable = 3138;
+// The selected station.
+inline constexpr int mnuActionPlayOne = 3151;
+inline constexpr int mnuActionPlayTwo = 3152;
+inline constexpr int mnuActionPlayThree = 3153;
+inline constexpr int mnuActionWebSite = 3155;
+inline constexpr int mnuActionCopyLink = 3156;
+inline constexpr int mnuActionStationToFavList = 3157;
+inline constexpr int mnuActionRemoveFromFavList = 3158;
+inline constexpr int mnuActionAddToScan = 3159;
+inline constexpr int mnuActionAddListToScan = 3160;
+inline constexpr int mnuActionSchedule = 3161;
+inline constexpr int mnuActionExtraLink = 3162;
+inline constexpr int mnuActionMoveUp = 3163;
+inline constexpr int mnuActionMoveDown = 3164;
+inline constexpr int mnuActionStationToGroup = 3165;  // 10 numbers: one for each group key
+// Favourite groups: the group bar's own menu and the program menu.
+inline constexpr int mnuAddFavGroupButton = 3191;
+inline constexpr int mnuFavoritesAdd = 3192;
+inline constexpr int mnuFavRenameFav = 3193;
+inline constexpr int mnuItemRename = 3194;
+inline constexpr int mnuFavDeleteFav = 3195;
+inline constexpr int mnuItemDelete = 3196;
+inline constexpr int mnuFavMoveLeft = 3197;
+inline constexpr int mnuFavMoveRight = 3198;
+inline constexpr int mnuFavScanGroup = 3199;
+inline constexpr int mnuFavExport = 3200;
+inline constexpr int mnuFavImport = 3201;
+// Personal stations.
+inline constexpr int mnuPersonalAdd = 3211;
+inline constexpr int mnuPersonalChange = 3212;
+inline constexpr int mnuPersonalDelete = 3213;
+inline constexpr int mnuPersonalImport = 3214;
+inline constexpr int mnuPersonalExport = 3215;
+inline constexpr int mnuActionPlayExtra = 3271;  // 20 numbers: the user's own links of a station
+// The program menu.
+inline constexpr int mnuViewYourSonaro = 3231;
+inline constexpr int mnuViewList = 3232;
+inline constexpr int mnuViewBrowse = 3233;
+inline constexpr int mnuViewByLocation = 3234;
+inline constexpr int mnuViewSearch = 3235;
+inline constexpr int mnuRecent = 3236;
+inline constexpr int mnuUpdate = 3237;
+inline constexpr int mnuScan = 3238;
+inline constexpr int mnuSchedule = 3239;
+inline constexpr int mnuOptions = 3240;
+inline constexpr int mnuFullHelp = 3241;
+inline constexpr int mnuQuickStart = 3242;
+inline constexpr int mnuKeys = 3243;
+inline constexpr int mnuHideToTray = 3244;
+inline constexpr int mnuExit = 3245;
 
 }  // namespace sonaro

@@ -11,7 +11,6 @@
 #include <span>
 #include <string>
 #include <string_view>
-#include <unordered_map>
 #include <vector>
 
 namespace sonaro {
@@ -57,21 +56,18 @@ class PersonalStations {
   bool Delete(std::int32_t index);
 
  private:
-  // A line of the file: a station, or, with index 0, a line that is kept as it stands.
   struct Line {
+    std::string kept;  // a line that is not a live station: kept as it stands
     PersonalStation station;
-    std::string kept;
   };
 
-  Line ReadLine(std::string_view text);
-  // Writes `changed` and, when that worked, takes it over.
+  void Read(std::string_view line);
   bool Save(std::vector<Line> changed);
-  void Adopt(std::vector<Line> lines);
+  std::vector<Line>::iterator LineOf(std::vector<Line>& lines, std::int32_t index) const;
 
   DataFolder& data_;
   std::vector<Line> lines_;
-  std::unordered_map<std::int32_t, std::size_t> lineOf_;  // index of a station -> position in lines_
-  std::int32_t highestIndex_ = 0;                         // ever given, deleted stations included
+  std::int32_t highestIndex_ = 0;
 };
 
 }  // namespace sonaro

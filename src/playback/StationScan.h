@@ -104,7 +104,8 @@ class StationScan {
   std::string CurrentText() const;   // lblCurrentScaning
   std::string TimeLeftText() const;  // lblTimeLeft; keeps its text while it is hidden
   bool TimeLeftVisible() const { return state_ != ScanState::Idle && current_; }
-  int TimeLeft() const { return timeLeft_; }  // seconds, for a scale: 0 to ScanTime
+  // Part of the current station's time that is over, for a scale: 0 to `ScanTime`.
+  int Elapsed() const;
   int ScanTime() const { return scanTime_; }
 
   // The dialog "Set Scan Time". Out of range: ignored. The station that plays keeps its time.
@@ -120,12 +121,10 @@ class StationScan {
   void PlayFirst();
   void AddCurrentToHistory();
   void GoIdle();
-  void Resume();
-  void CountFromNow();
+  void RestartClock();
   int CountTick() const;
   void ShowLists();
   void ShowState();
-  void EnableTimer(bool on);
 
   CReg& reg_;
   Clock& clock_;
@@ -140,7 +139,6 @@ class StationScan {
   std::optional<ScanRow> current_;
   int elapsed_ = 0;  // whole seconds of the current station
   int scanTime_ = kDefault;
-  int timeLeft_ = 0;
   std::uint64_t countedFrom_ = 0;  // clock ticks at which the current station had been playing for 0 seconds
 };
 

@@ -1,0 +1,123 @@
+#include "mainwindow/BrowseTree.h"
+
+#include <algorithm>
+#include <cstdint>
+#include <unordered_map>
+#include <utility>
+
+#include "base/DataFolder.h"
+#include "base/Numbers.h"
+#include "base/Text.h"
+
+namespace sonaro {
+namespace {
+
+constexpr const char* kCategoriesFile = "\\cat.snr";
+constexpr const char* kLocationsFile = "\\catloc.snr";
+constexpr const char* kListFileEnd = ".snr";
+constexpr const char* kYourStationsText = "Your Stations";
+constexpr const char* kYourStationsKey = "O1";
+constexpr const char* kYourStationsTag = "O";
+
+void AppendIds(std::string_view tag, std::vector<std::int32_t>& ids) {
+  while (!tag.empty()) {
+    std::int32_t id = 0;
+    if (ParseStationId(TakeUntil(tag, ' '), id)) ids.push_back(id);
+  }
+}
+
+}  // namespace
+
+bool BrowseTree::Show(BrowseMode mode) {
+  if (mode == mode_) return false;
+  FillBrowseTree(mode);
+  return true;
+}
+
+void BrowseTree::FillBrowseTree(BrowseMode mode) {
+  mode_ = mode;
+  nodes_.clear();
+  roots_.clear();
+  const ReadResult file = data_.Read(mode == BrowseMode::ByCategory ? kCategoriesFile : kLocationsFile);
+  for (const std::string_view line : SplitLines(file.bytes)) {
+    const auto fields = SplitAtMost(line, '\t', 4);
+    if (fields.size() < 4) continue;
+    const std::string tag = std::string(fields[0]) + std::string(fields[2]);
+    const int category = AddNode(BrowseNode::kRoot, "M" + std::string(fields[0]), fields[1], tag);
+    ExpandCategory(tag, category, fields[3]);
+    CountStations(category);
+  }
+  AddNode(BrowseNode::kRoot, kYourStationsKey, kYourStationsText, kYourStationsTag);
+  SortChildren();
+}
+
+int BrowseTree::AddNode(int parent, std::string key, std::string_view text, std::string tag) {
+  const int index = static_cast<int>(nodes_.size());
+  BrowseNode node;
+  node.key = std::move(key);
+  node.text = text;
+  node.tag = std::move(tag);
+  node.parent = parent;
+  nodes_.push_back(std::move(node));
+  auto& siblings = parent == BrowseNode::kRoot ? roots_ : nodes_[static_cast<std::size_t>(parent)].children;
+  siblings.push_back(index);
+  return index;
+}
+
+void BrowseTree::ExpandCategory(const std::string& tag, int category, std::string_view keyPrefix) {
+  if (tag.empty()) return;
+  const ReadResult file = data_.Read("\\" + tag.substr(1) + kListFileEnd);
+  std::unordered_map<std::string_view, int> entries;  // by entry code, of this file only
+  for (const std::string_view line : SplitLines(file.bytes)) {
+    const auto fields = SplitAtMost(line, '\t', 5);
+    if (fields.size() < 5) return;
+    int parent = category;
+    if (NumberValue(fields[3]) != 0) {
+      const auto found = entries.find(fields[3]);
+      if (found == entries.end()) continue;  // an entry must come after its parent
+      parent = found->second;
+    }
+    const int entry =
+        AddNode(parent, std::string(keyPrefix) + std::string(fields[0]), fields[2], std::string(fields[4]));
+    entries.emplace(fields[0], entry);
+  }
+}
+
+void BrowseTree::SortChildren() {
+  std::vector<std::string> folded;
+  folded.reserve(nodes_.size());
+  for (const BrowseNode& node : nodes_) folded.push_back(FoldCase(node.text));
+  for (BrowseNode& node : nodes_) {
+    std::stable_sort(node.children.begin(), node.children.end(), [&folded](int a, int b) {
+      return folded[static_cast<std::size_t>(a)] < folded[static_cast<std::size_t>(b)];
+    });
+  }
+}
+
+// Called when the category's entries are the last nodes of the tree.
+void BrowseTree::CountStations(int category) {
+  std::vector<std::int32_t> all;
+  for (std::size_t i = static_cast<std::size_t>(category) + 1; i < nodes_.size(); ++i) {
+    const std::size_t before = all.size();
+    AppendIds(nodes_[i].tag, all);
+    nodes_[i].stationCount = all.size() - before;
+  }
+  std::sort(all.begin(), all.end());
+  const auto last = std::unique(all.begin(), all.end());
+  nodes_[static_cast<std::size_t>(category)].stationCount = static_cast<std::size_t>(last - all.begin());
+}
+
+int BrowseTree::Find(std::string_view key) const {
+  for (std::size_t i = 0; i < nodes_.size(); ++i) {
+    if (nodes_[i].key == key) return static_cast<int>(i);
+  }
+  return BrowseNode::kRoot;
+}
+
+NodeClick BrowseTree::ClickOn(const BrowseNode& node) {
+  if (node.key.starts_with('M') || node.tag.empty()) return {};
+  if (node.key.starts_with('O')) return {NodeClick::Fill::PersonalStations, {}};
+  return {NodeClick::Fill::Stations, node.tag + " "};
+}
+
+}  // namespace sonaro

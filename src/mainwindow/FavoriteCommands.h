@@ -1,0 +1,64 @@
+// The commands on favourite groups as the user gives them: asks for names and consent, refuses what cannot
+// be, changes the groups, keeps the station list in step and tells the tray menu. Owned by the main window.
+#pragma once
+
+#include <cstddef>
+#include <string>
+#include <string_view>
+
+#include "app/Message.h"
+
+namespace sonaro {
+
+class CReg;
+class FavoriteGroups;
+class StationListing;
+class Strings;
+enum class FavoriteChange;
+
+// What the commands need of the windows around them.
+class FavoritePrompts {
+ public:
+  virtual ~FavoritePrompts() = default;
+  virtual MessageResult Ask(const Message& message) = 0;
+  // A name for a new group (frmNewFavorite); "" when the user gave none.
+  virtual std::string AskNewGroupName() = 0;
+  // Another name for a group (frmRenameFav); "" when the user gave none.
+  virtual std::string AskGroupName(const std::string& present) = 0;
+  // Takes a text for the small tray menu window: "AddNewFavGroup", tab, name ...
+  virtual void TellTray(const std::string& text) = 0;
+};
+
+class FavoriteCommands {
+ public:
+  FavoriteCommands(FavoriteGroups& groups, StationListing& listing, CReg& settings, const Strings& strings,
+                   FavoritePrompts& prompts)
+      : groups_(groups), listing_(listing), settings_(settings), strings_(strings), prompts_(prompts) {}
+
+  // True when there is a new group; it is the last one.
+  bool AddFavoriteGroup();
+  void RenameFavoriteGroup(std::size_t group);
+  void DeleteFavoriteGroup(std::size_t group);
+  void MoveFavoriteGroup(std::size_t from, std::size_t to);
+  // Adds a station's token to the group of this name; one that the group holds already, or a name that no
+  // group has, changes nothing.
+  void AddStationToGroup(std::string_view groupName, std::string_view token);
+  // Of the group that the list shows.
+  void RemoveStation(std::string_view token);
+  // Moves a member of the group that the list shows by one place: -1 up, 1 down.
+  void MoveStation(std::string_view token, int by);
+
+ private:
+  void Say(const char* key, const std::string& text);
+  bool ConfirmDelete(const std::string& name);
+  // Says when a change could not be written. True when the table changed.
+  bool Changed(FavoriteChange change);
+
+  FavoriteGroups& groups_;
+  StationListing& listing_;
+  CReg& settings_;
+  const Strings& strings_;
+  FavoritePrompts& prompts_;
+};
+
+}  // namespace sonaro

@@ -1,0 +1,68 @@
+// The user's favourite groups and their file "\favs.snr": one line for each group, its name, a tab, and the
+// members, each followed by one blank. A member is a token: a station's identifier in decimal, or "P" and the
+// index of a personal station. Owned by Application. Every change is written at once; a file that could not
+// be read is never written over. Asks nobody anything: see FavoriteCommands.
+#pragma once
+
+#include <cstddef>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace sonaro {
+
+class DataFolder;
+
+// What became of a change to the groups.
+enum class FavoriteChange {
+  Nothing,  // there was nothing to change: no such group, the name is in use, the station is there already
+  Saved,
+  NotSaved  // made, but the file could not be written: the change lasts until the program ends
+};
+
+class FavoriteGroups {
+ public:
+  // Keys in the group bar. A file with more groups keeps them all; those beyond the tenth have no key.
+  static constexpr std::size_t kSlots = 10;
+
+  explicit FavoriteGroups(DataFolder& data) : data_(data) {}
+
+  // Reads the file into the table and writes it back when reading changed it: lines trimmed of blanks, lines
+  // without a tab dropped.
+  void LoadFavoriteGroups();
+  // Writes the file. Never Nothing.
+  FavoriteChange SaveFavoriteGroups();
+
+  std::size_t Count() const { return groups_.size(); }
+  // For `group` below Count().
+  std::string_view Name(std::size_t group) const;
+  std::string_view Members(std::size_t group) const;  // as in the file; the last blank may be missing
+  std::vector<std::string_view> Tokens(std::size_t group) const;
+  // The group of this name, letter case ignored.
+  std::optional<std::size_t> Find(std::string_view name) const;
+  bool Contains(std::size_t group, std::string_view token) const;
+  // True when any group names the token: its index must not be given to another personal station.
+  bool IsTokenInUse(std::string_view token) const;
+
+  // The changes. `name` is cleaned first; an empty one changes nothing.
+  FavoriteChange Add(std::string_view name);
+  FavoriteChange Rename(std::size_t group, std::string_view name);
+  FavoriteChange Remove(std::size_t group);
+  FavoriteChange Move(std::size_t from, std::size_t to);
+  FavoriteChange AddStation(std::size_t group, std::string_view token);
+  FavoriteChange RemoveStation(std::size_t group, std::string_view token);
+  // Moves the member at place `from` to place `to`, places counted as in Tokens().
+  FavoriteChange MoveStation(std::size_t group, std::size_t from, std::size_t to);
+
+  // A name as it can stand in the file: control characters become blanks, blanks at the ends go.
+  static std::string CleanName(std::string_view name);
+
+ private:
+  std::string FileText() const;
+
+  DataFolder& data_;
+  std::vector<std::string> groups_;  // name, tab, members
+};
+
+}  // namespace sonaro

@@ -1,0 +1,190 @@
+#include "mainwindow/StationActions.h"
+
+#include <array>
+#include <utility>
+
+#include "app/Strings.h"
+#include "forms/ControlIds.h"
+#include "mainwindow/FavoriteGroups.h"
+#include "mainwindow/SortEntries.h"
+#include "mainwindow/StationListing.h"
+#include "resources/ids.h"
+
+namespace sonaro {
+namespace {
+
+struct RankingCommand {
+  int command;
+  Ranking ranking;
+};
+
+constexpr std::array<RankingCommand, kRankingCount> kRankingCommands{{
+    {mnuActionNewStations, Ranking::NewStations},
+    {mnuActionMostPoular, Ranking::MostPop},
+    {mnuActionLeastPopular, Ranking::LeastPop},
+    {mnuActionBestOverall, Ranking::BestOverall},
+    {mnuActionBestSound, Ranking::BestSound},
+    {mnuActionBestSpeed, Ranking::BestSpeed},
+    {mnuActionBestWebsite, Ranking::BestWebsite},
+    {mnuActionMostReliable, Ranking::MostReliable},
+}};
+
+constexpr std::array<int, StationDetail::kPlayKeys> kPlayCommands{mnuActionPlayOne, mnuActionPlayTwo,
+                                                                  mnuActionPlayThree};
+constexpr std::array<int, StationDetail::kPlayKeys> kPlayShortcuts{
+    IDS_SHORTCUT_PLAY_ONE, IDS_SHORTCUT_PLAY_TWO, IDS_SHORTCUT_PLAY_THREE};
+
+// Separators are asked for freely; none stands first, last or beside another.
+void AddSeparator(MenuEntries& menu) {
+  if (!menu.empty() && !menu.back().IsSeparator()) menu.emplace_back();
+}
+
+MenuEntry Submenu(std::string caption, MenuEntries children) {
+  MenuEntry entry;
+  entry.caption = std::move(caption);
+  entry.enabled = !children.empty();
+  entry.children = std::move(children);
+  return entry;
+}
+
+}  // namespace
+
+std::optional<Ranking> RankingOfCommand(int command) {
+  for (const RankingCommand& entry : kRankingCommands) {
+    if (entry.command == command) return entry.ranking;
+  }
+  return std::nullopt;
+}
+
+MenuEntry StationActions::Entry(int command, int textId, bool enabled) const {
+  MenuEntry entry;
+  entry.command = command;
+  entry.caption = strings_.Load(textId);
+  entry.enabled = enabled;
+  return entry;
+}
+
+MenuEntry StationActions::StationEntry(int command, int textId, const StationDetail& detail) const {
+  const bool selected = static_cast<bool>(detail.station);
+  MenuEntry entry = Entry(command, textId, selected);
+  const std::string name = selected ? MenuText(detail.name) : strings_.Load(IDS_ACTION_ANY_STATION);
+  entry.caption = FillIn(entry.caption, {name, MenuText(listing_.State().group)});
+  return entry;
+}
+
+MenuEntries StationActions::ActionMenu(const StationDetail& detail) const {
+  const bool selected = static_cast<bool>(detail.station);
+  MenuEntries menu;
+  AddPlayEntries(detail, menu);
+  AddSeparator(menu);
+  AddGroupEntries(detail, menu);
+  AddSeparator(menu);
+  menu.push_back(StationEntry(mnuActionAddToScan, IDS_ACTION_ADD_TO_SCAN, detail));
+  menu.push_back(
+      Entry(mnuActionAddListToScan, IDS_ACTION_ADD_LIST_TO_SCAN, listing_.Rows().StationCount() > 0));
+  menu.push_back(selected ? StationEntry(mnuActionSchedule, IDS_ACTION_SCHEDULE, detail)
+                          : Entry(mnuActionSchedule, IDS_ACTION_SCHEDULE_NONE, false));
+  if (detail.station.kind == StationKey::Kind::Personal) {
+    menu.push_back(StationEntry(mnuPersonalChange, IDS_ACTION_CHANGE_PERSONAL, detail));
+    menu.push_back(StationEntry(mnuPersonalDelete, IDS_ACTION_DELETE_PERSONAL, detail));
+  } else {
+    menu.push_back(StationEntry(mnuActionExtraLink, IDS_ACTION_EXTRA_LINK, detail));
+  }
+  AddSeparator(menu);
+  menu.push_back(Submenu(strings_.Load(IDS_ACTION_SORT), SortEntriesFor(Place::ActionMenu)));
+  menu.push_back(Submenu(strings_.Load(IDS_ACTION_RANKINGS), RankingEntries()));
+  return menu;
+}
+
+void StationActions::AddPlayEntries(const StationDetail& detail, MenuEntries& menu) const {
+  if (!detail.station) menu.push_back(Entry(mnuActionPlayOne, IDS_ACTION_PLAY, false));
+  for (std::size_t i = 0; i < StationDetail::kPlayKeys; ++i) {
+    const PlayKey& key = detail.playKeys[i];
+    if (!key.shown) continue;
+    MenuEntry entry = Entry(kPlayCommands[i], kPlayShortcuts[i]);
+    entry.caption = FillIn(entry.caption, {MenuText(key.caption)});
+    menu.push_back(std::move(entry));
+  }
+  for (std::size_t i = 0; i < detail.extraKeys.size() && i < kExtraPlayCommands; ++i) {
+    MenuEntry entry;
+    entry.command = mnuActionPlayExtra + static_cast<int>(i);
+    entry.caption = MenuText(detail.extraKeys[i].caption);
+    menu.push_back(std::move(entry));
+  }
+  menu.push_back(Entry(mnuActionWebSite, IDS_ACTION_WEB_SITE, detail.hasWebSite));
+  menu.push_back(Entry(mnuActionCopyLink, IDS_ACTION_COPY_LINK, !detail.firstLink.empty()));
+}
+
+void StationActions::AddGroupEntries(const StationDetail& detail, MenuEntries& menu) const {
+  menu.push_back(StationEntry(mnuActionStationToFavList, IDS_ACTION_ADD_TO_GROUP, detail));
+  menu.push_back(Submenu(strings_.Load(IDS_ACTION_ADD_TO), GroupChoices(detail)));
+  const bool groupShown = listing_.State().holds == Holds::Group;
+  menu.push_back(StationEntry(mnuActionRemoveFromFavList, IDS_ACTION_REMOVE_FROM_GROUP, detail));
+  const bool lostRow = listing_.Rows().SelectedRow() && listing_.Rows().SelectedRow()->lost;
+  menu.back().enabled = groupShown && (detail.station || lostRow);
+  if (!groupShown) return;
+  // In a sorted list the places of a group's members cannot be seen, so they are not moved there.
+  const bool canMove = menu.back().enabled && !listing_.Rows().Sort().on;
+  menu.push_back(Entry(mnuActionMoveUp, IDS_ACTION_MOVE_UP, canMove));
+  menu.push_back(Entry(mnuActionMoveDown, IDS_ACTION_MOVE_DOWN, canMove));
+}
+
+MenuEntries StationActions::GroupChoices(const StationDetail& detail) const {
+  MenuEntries choices;
+  for (std::size_t group = 0; group < groups_.Count() && group < FavoriteGroups::kSlots; ++group) {
+    MenuEntry entry;
+    entry.command = mnuActionStationToGroup + static_cast<int>(group);
+    entry.caption = MenuText(groups_.Name(group));
+    entry.checked = detail.station && groups_.Contains(group, detail.station.Token());
+    entry.enabled = detail.station && !entry.checked;
+    choices.push_back(std::move(entry));
+  }
+  return choices;
+}
+
+MenuEntries StationActions::SortMenu() const { return SortEntriesFor(Place::SortMenu); }
+
+MenuEntries StationActions::SortEntriesFor(Place place) const {
+  const SortState& sort = listing_.Rows().Sort();
+  MenuEntries entries;
+  for (const SortEntry& facts : SortEntries()) {
+    MenuEntry entry = Entry(place == Place::SortMenu ? facts.sortMenu : facts.actionMenu, facts.captionId);
+    entry.checked = sort.on && sort.key == facts.key;
+    if (facts.key == static_cast<int>(SubItem::Overall)) AddSeparator(entries);
+    entries.push_back(std::move(entry));
+  }
+  return entries;
+}
+
+MenuEntries StationActions::RankingEntries() const {
+  MenuEntries entries;
+  for (const RankingCommand& facts : kRankingCommands) {
+    MenuEntry entry = Entry(facts.command, CaptionIdOf(facts.ranking));
+    entry.checked = listing_.State().ranking == facts.ranking;
+    entries.push_back(std::move(entry));
+  }
+  return entries;
+}
+
+MenuEntries StationActions::GroupMenu(std::size_t group) const {
+  const bool used = group < groups_.Count();
+  MenuEntries menu;
+  menu.push_back(Entry(mnuAddFavGroupButton, IDS_GROUP_NEW));
+  menu.push_back(Entry(mnuFavRenameFav, IDS_GROUP_RENAME, used));
+  menu.push_back(Entry(mnuFavDeleteFav, IDS_GROUP_DELETE, used));
+  AddSeparator(menu);
+  menu.push_back(Entry(mnuFavMoveLeft, IDS_GROUP_MOVE_LEFT, used && group > 0));
+  menu.push_back(Entry(mnuFavMoveRight, IDS_GROUP_MOVE_RIGHT, used && group + 1 < groups_.Count()));
+  AddSeparator(menu);
+  menu.push_back(Entry(mnuFavScanGroup, IDS_GROUP_SCAN, used && !groups_.Tokens(group).empty()));
+  menu.push_back(Entry(mnuFavImport, IDS_GROUP_IMPORT, used));
+  menu.push_back(Entry(mnuFavExport, IDS_GROUP_EXPORT, used && !groups_.Tokens(group).empty()));
+  return menu;
+}
+
+MenuEntries StationActions::PersonalMenu() const {
+  return {Entry(mnuPersonalAdd, IDS_PERSONAL_ADD), Entry(mnuPersonalImport, IDS_PERSONAL_IMPORT),
+          Entry(mnuPersonalExport, IDS_PERSONAL_EXPORT)};
+}
+
+}  // namespace sonaro

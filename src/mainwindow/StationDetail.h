@@ -1,0 +1,78 @@
+// What the detail area shows of the selected station, ready to be drawn and read out.
+#pragma once
+
+#include <array>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "app/AppState.h"
+#include "playback/StationKey.h"
+#include "playback/StationSource.h"
+
+namespace sonaro {
+
+class ExtraLinks;
+class PersonalStations;
+class Strings;
+
+// A request to PlayerLaunch.
+struct PlayRequest {
+  std::string key;
+  PlayMode mode = PlayMode::LinkOne;
+};
+
+struct PlayKey {
+  bool shown = false;
+  std::string caption;  // "Play MP3"
+  std::string bitRate;  // "128 kbit/s"; "" when not known
+  PlayRequest request;
+};
+
+struct RatingPicture {
+  int halves = 0;      // 0 = not rated, up to 10
+  std::string figure;  // "4.5", with the user's decimal sign; a dash when not rated
+  std::string spoken;  // "Sound 4.5 of 5"
+};
+
+struct StationDetail {
+  static constexpr std::size_t kRatings = 4;  // overall, sound, speed, web site
+  static constexpr std::size_t kPlayKeys = 3;
+
+  StationKey station;  // None: nothing is selected, and all else is empty
+  std::string name;
+  std::string location;
+  std::string description;
+  std::array<RatingPicture, kRatings> ratings;
+  std::array<PlayKey, kPlayKeys> playKeys;
+  std::vector<PlayKey> extraKeys;  // the user's own links for a directory station
+  bool hasWebSite = false;
+  std::string firstLink;  // the address that "copy link" takes; "" when there is none
+};
+
+// Makes the details. Owned by the main window; changes nothing.
+class StationDetails {
+ public:
+  StationDetails(const StationSource& source, const PersonalStations& personal, const ExtraLinks& extra,
+                 const Strings& strings, const AppState& state)
+      : source_(source), personal_(personal), extra_(extra), strings_(strings), state_(state) {}
+
+  StationDetail Of(const StationKey& key) const;
+  // A rating stored as one digit: half as much, in halves. Anything but 1 to 9 is not rated. `nameId` is the
+  // number of the rating's name in the string table.
+  RatingPicture Rating(const std::string& digit, int nameId) const;
+
+ private:
+  void AddDirectoryStation(StationDetail& detail) const;
+  void AddPersonalStation(StationDetail& detail) const;
+  void AddExtraLinks(StationDetail& detail) const;
+  PlayKey Key(const std::string& link, const std::string& media, const std::string& bitRate) const;
+
+  const StationSource& source_;
+  const PersonalStations& personal_;
+  const ExtraLinks& extra_;
+  const Strings& strings_;
+  const AppState& state_;
+};
+
+}  // namespace sonaro

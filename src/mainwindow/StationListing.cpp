@@ -1,0 +1,179 @@
+#include "mainwindow/StationListing.h"
+
+#include <utility>
+
+#include "app/Strings.h"
+#include "base/Text.h"
+#include "mainwindow/BrowseTree.h"
+#include "mainwindow/FavoriteGroups.h"
+#include "mainwindow/StationLists.h"
+#include "resources/ids.h"
+
+namespace sonaro {
+
+std::string_view NameOf(View view) {
+  switch (view) {
+    case View::List:
+      return "List";
+    case View::Browse:
+      return "Browse";
+    case View::BrowseLoc:
+      return "BrowseLoc";
+    case View::Search:
+      return "Search";
+    case View::PersonalPage:
+      return "Personal Page";
+    case View::YourSonaro:
+      return "YourSonaro";
+  }
+  return {};
+}
+
+void StationListing::ShowView(View view) {
+  if (view == View::List) return ShowListView();
+  state_.view = view;
+  state_.middle = view == View::YourSonaro ? Middle::EventPage : Middle::StationList;
+  if (view == View::Browse) tree_.Show(BrowseMode::ByCategory);
+  if (view == View::BrowseLoc) tree_.Show(BrowseMode::ByLocation);
+}
+
+void StationListing::ShowListView() {
+  if (state_.view == View::List) return;
+  state_.view = View::List;
+  state_.middle = Middle::StationList;
+  RebuildFromListingMode();
+}
+
+void StationListing::RebuildFromListingMode() {
+  const std::string mode = state_.listingMode;
+  if (mode == ListingState::kRecent) {
+    ShowRecent();
+  } else if (const auto ranking = RankingOfListingMode(mode)) {
+    ShowRanking(*ranking);
+  } else if (mode.starts_with(ListingState::kGroup)) {
+    const auto group = groups_.Find(std::string_view(mode).substr(ListingState::kGroup.size()));
+    if (group && *group < FavoriteGroups::kSlots) ShowFavoriteGroup(*group);
+  }
+}
+
+// The list comes to the front without being rebuilt: its next rows are on their way.
+void StationListing::LeaveForList() {
+  state_.listingMode.clear();
+  ShowListView();
+}
+
+void StationListing::Hold(Holds holds, std::string caption) {
+  state_.holds = holds;
+  state_.caption = std::move(caption);
+  state_.ranking.reset();
+  state_.group.clear();
+}
+
+void StationListing::ShowRanking(Ranking ranking) {
+  LeaveForList();
+  state_.listingMode = ListingModeOf(ranking);
+  Hold(Holds::Ranking, strings_.Load(CaptionIdOf(ranking)));
+  state_.ranking = ranking;
+  FillHeld();
+}
+
+void StationListing::ShowRecent() {
+  LeaveForList();
+  state_.listingMode = ListingState::kRecent;
+  Hold(Holds::Recent, strings_.Load(IDS_LISTING_YOUR_RECENT));
+  FillHeld();
+}
+
+void StationListing::ShowFavoriteGroup(std::size_t group) {
+  if (group >= groups_.Count()) return;
+  LeaveForList();
+  HoldGroup(group);
+}
+
+void StationListing::ShowGroupInPlace(std::size_t group) {
+  if (group >= groups_.Count()) return;
+  state_.middle = Middle::StationList;
+  HoldGroup(group);
+}
+
+void StationListing::HoldGroup(std::size_t group) {
+  const std::string name(groups_.Name(group));
+  state_.listingMode = std::string(ListingState::kGroup) + name;
+  Hold(Holds::Group, name);
+  state_.group = name;
+  FillHeld();
+}
+
+void StationListing::treeBrowse_NodeClick(const BrowseNode& node) {
+  state_.currentNodeTag = node.tag;
+  state_.middle = Middle::StationList;
+  const NodeClick click = BrowseTree::ClickOn(node);
+  Hold(click.fill == NodeClick::Fill::Stations           ? Holds::Node
+       : click.fill == NodeClick::Fill::PersonalStations ? Holds::PersonalStations
+                                                         : Holds::Nothing,
+       node.text);
+  FillHeld();
+}
+
+void StationListing::ShowSearch(std::string_view text, bool allWords) {
+  searchText_ = text;
+  searchAllWords_ = allWords;
+  LeaveForList();
+  state_.listingMode = ListingState::kLastSearch;
+  Hold(Holds::Search, FillIn(strings_.Load(IDS_LISTING_SEARCH), {text}));
+  FillHeld();
+}
+
+void StationListing::GroupsChanged() {
+  if (state_.holds == Holds::Group) Refill();
+}
+
+void StationListing::GroupRenamed(std::string_view from, std::string_view to) {
+  const std::string oldMode = std::string(ListingState::kGroup) + std::string(from);
+  if (EqualIgnoringCase(state_.listingMode, oldMode)) {
+    state_.listingMode = std::string(ListingState::kGroup) + std::string(to);
+  }
+  if (state_.holds == Holds::Group && EqualIgnoringCase(state_.group, from)) {
+    state_.group = to;
+    state_.caption = to;
+  }
+}
+
+void StationListing::GroupDeleted(std::string_view name) {
+  if (state_.holds == Holds::Group && EqualIgnoringCase(state_.group, name)) ShowRecent();
+}
+
+void StationListing::StationsChanged() { Refill(); }
+
+void StationListing::Refill() {
+  const StationRow* selected = rows_.SelectedRow();
+  const std::string key = selected ? selected->key : std::string();
+  FillHeld();
+  if (const auto position = rows_.Find(key)) rows_.Select(position);
+}
+
+void StationListing::FillHeld() {
+  switch (state_.holds) {
+    case Holds::Nothing:
+      return rows_.Clear();
+    case Holds::Node:
+      return lists_.FillListFromIds(state_.currentNodeTag + " ", rows_);
+    case Holds::PersonalStations:
+      return lists_.FillListFromPersonal(rows_);
+    case Holds::Ranking:
+      return lists_.FillListFromIds(rankings_.Ids(*state_.ranking), rows_);
+    case Holds::Recent:
+      return lists_.FillListFromRecent(rows_);
+    case Holds::Group:
+      if (const auto group = groups_.Find(state_.group)) {
+        lists_.FillListFromGroup(groups_.Members(*group), rows_);
+      }
+      return;
+    case Holds::Search:
+      foundIds_ = lists_.FillListFromSearch(searchText_, searchAllWords_, rows_);
+      if (foundIds_.empty()) lists_.FillListWithNoStations(rows_);
+      return;
+  }
+}
+
+}  // namespace sonaro

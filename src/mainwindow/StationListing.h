@@ -1,0 +1,80 @@
+// The main window's station list and what it stands for: every way to fill it, with the caption, the view and
+// the listing mode kept in step. Owned by the main window, which shows State() and Rows() after each call.
+#pragma once
+
+#include <cstddef>
+#include <string>
+#include <string_view>
+
+#include "mainwindow/ListingState.h"
+#include "mainwindow/StationRows.h"
+
+namespace sonaro {
+
+class BrowseTree;
+class FavoriteGroups;
+class Rankings;
+class StationLists;
+class Strings;
+struct BrowseNode;
+
+class StationListing {
+ public:
+  StationListing(StationLists& lists, Rankings& rankings, const FavoriteGroups& groups, BrowseTree& tree,
+                 const Strings& strings)
+      : lists_(lists), rankings_(rankings), groups_(groups), tree_(tree), strings_(strings) {}
+
+  const ListingState& State() const { return state_; }
+  StationRows& Rows() { return rows_; }
+  const StationRows& Rows() const { return rows_; }
+
+  // Brings a panel up. The list view is rebuilt from the listing mode; the browse views build the tree when
+  // it is not built for their mode; all other views leave the list as it is.
+  void ShowView(View view);
+  // Does nothing when the list view is on show.
+  void ShowListView();
+
+  void ShowRanking(Ranking ranking);
+  void ShowRecent();
+  // A group that does not exist shows nothing new.
+  void ShowFavoriteGroup(std::size_t group);
+  // The same without leaving the view: the list takes the middle of the page of the user's own things.
+  void ShowGroupInPlace(std::size_t group);
+  // Fills the list and leaves the tree on show.
+  void treeBrowse_NodeClick(const BrowseNode& node);
+  void ShowSearch(std::string_view text, bool allWords);
+  // What the last search found: identifiers in the directory's order, each followed by one blank.
+  const std::string& LastSearchIds() const { return foundIds_; }
+  // The middle shows what was asked of the web in place of the list.
+  void ShowWebSearch() { state_.middle = Middle::WebSearch; }
+
+  // The groups changed: fills the list again when it shows one. The selection stays on its station.
+  void GroupsChanged();
+  // The group on show has a new name.
+  void GroupRenamed(std::string_view from, std::string_view to);
+  // Falls back to the recent list when the group was on show.
+  void GroupDeleted(std::string_view name);
+  // Stations changed (the directory, or the user's own): looks all rows up again.
+  void StationsChanged();
+
+ private:
+  void LeaveForList();
+  void RebuildFromListingMode();
+  void HoldGroup(std::size_t group);
+  void FillHeld();
+  void Refill();
+  void Hold(Holds holds, std::string caption);
+
+  StationLists& lists_;
+  Rankings& rankings_;
+  const FavoriteGroups& groups_;
+  BrowseTree& tree_;
+  const Strings& strings_;
+  StationRows rows_;
+  ListingState state_;
+  std::string searchText_;
+  bool searchAllWords_ = true;
+  std::string foundIds_;
+};
+
+}  // namespace sonaro

@@ -1,0 +1,105 @@
+#include "mainwindow/StationLists.h"
+
+#include <cstdint>
+#include <optional>
+#include <utility>
+
+#include "app/Strings.h"
+#include "base/Numbers.h"
+#include "base/Text.h"
+#include "directory/StatList.h"
+#include "playback/PersonalStations.h"
+#include "playback/RecentList.h"
+#include "playback/StationKey.h"
+#include "resources/ids.h"
+
+namespace sonaro {
+namespace {
+
+std::vector<std::string_view> TokensOf(std::string_view text) {
+  std::vector<std::string_view> tokens;
+  while (!text.empty()) {
+    const std::string_view token = TakeUntil(text, ' ');
+    if (!token.empty()) tokens.push_back(token);
+  }
+  return tokens;
+}
+
+std::vector<StationRow> RowsOfRecords(std::vector<StationRecord>&& records) {
+  std::vector<StationRow> rows;
+  rows.reserve(records.size());
+  for (StationRecord& record : records) rows.push_back(RowOfStation(std::move(record)));
+  return rows;
+}
+
+std::optional<StationRow> PersonalRow(const PersonalStations& personal, std::int32_t index) {
+  const PersonalStation* station = personal.Find(index);
+  if (!station || station->name.empty()) return std::nullopt;
+  return RowOfPersonalStation(index, station->name, station->type);
+}
+
+}  // namespace
+
+void StationLists::FillListFromIds(std::string_view ids, StationRows& list) {
+  std::vector<std::int32_t> wanted;
+  while (!ids.empty()) {
+    std::int32_t id = 0;
+    if (ParseStationId(TakeUntil(ids, ' '), id)) wanted.push_back(id);
+  }
+  list.Fill(RowsOfRecords(stations_.GetStations(wanted)));
+}
+
+std::string StationLists::FillListFromSearch(std::string_view text, bool allWords, StationRows& list) {
+  std::vector<StationRecord> found = stations_.SearchStations(text, allWords);
+  std::string ids;
+  for (const StationRecord& record : found) ids += std::to_string(record.StationId) + ' ';
+  list.Fill(RowsOfRecords(std::move(found)));
+  return ids;
+}
+
+void StationLists::FillListFromPersonal(StationRows& list) {
+  std::vector<StationRow> rows;
+  for (const PersonalStation& station : personal_.All()) {
+    if (auto row = PersonalRow(personal_, station.index)) rows.push_back(std::move(*row));
+  }
+  list.Fill(std::move(rows));
+}
+
+void StationLists::FillListFromGroup(std::string_view members, StationRows& list) {
+  list.Fill(RowsOf(TokensOf(members), Unknown::ShownAsLost));
+}
+
+void StationLists::FillListFromRecent(StationRows& list) {
+  const std::string text = recent_.AsText();
+  list.Fill(RowsOf(TokensOf(text), Unknown::LeftOut));
+}
+
+void StationLists::FillListWithNoStations(StationRows& list) {
+  list.Fill({RowOfNoStation(strings_.Load(IDS_LISTING_NO_STATIONS))});
+}
+
+std::vector<StationRow> StationLists::RowsOf(const std::vector<std::string_view>& tokens, Unknown unknown) {
+  std::vector<std::int32_t> ids;
+  for (const std::string_view token : tokens) {
+    const StationKey key = StationKey::FromToken(token);
+    if (key.kind == StationKey::Kind::Directory) ids.push_back(key.number);
+  }
+  // The records come in the order of the identifiers, those of unknown stations missing: walk both together.
+  std::vector<StationRecord> records = stations_.GetStations(ids);
+  auto next = records.begin();
+  std::vector<StationRow> rows;
+  rows.reserve(tokens.size());
+  for (const std::string_view token : tokens) {
+    const StationKey key = StationKey::FromToken(token);
+    if (token.starts_with('P')) {
+      if (auto row = PersonalRow(personal_, key.number)) rows.push_back(std::move(*row));
+    } else if (key && next != records.end() && next->StationId == key.number) {
+      rows.push_back(RowOfStation(std::move(*next++)));
+    } else if (unknown == Unknown::ShownAsLost) {
+      rows.push_back(RowOfLostStation(std::string(token)));
+    }
+  }
+  return rows;
+}
+
+}  // namespace sonaro

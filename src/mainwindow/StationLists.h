@@ -1,0 +1,50 @@
+// Fills lists of stations: from any text of station identifiers, from a search, from the user's own stations,
+// from a favourite group's members and from the recent list. Looks all stations of a fill up in one go. Knows
+// no captions and no modes: see StationListing.
+#pragma once
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "mainwindow/StationRows.h"
+
+namespace sonaro {
+
+class PersonalStations;
+class RecentList;
+class StatList;
+class Strings;
+
+class StationLists {
+ public:
+  StationLists(StatList& stations, const PersonalStations& personal, const RecentList& recent,
+               const Strings& strings)
+      : stations_(stations), personal_(personal), recent_(recent), strings_(strings) {}
+
+  // `ids`: decimal identifiers, each followed by one blank. Unknown ones are left out, the order is kept.
+  void FillListFromIds(std::string_view ids, StationRows& list);
+  // Searches the directory and fills the list with the stations found, in the directory's order. Returns
+  // their identifiers, each followed by one blank. The list stays empty when nothing was found.
+  std::string FillListFromSearch(std::string_view text, bool allWords, StationRows& list);
+  // Every personal station that has a name, in table order.
+  void FillListFromPersonal(StationRows& list);
+  // The members of a favourite group: identifiers and "P" + index. A member that the directory does not know
+  // is listed as its identifier, marked lost, so that it can be seen and removed.
+  void FillListFromGroup(std::string_view members, StationRows& list);
+  // The stations played last that are still there, most recent first.
+  void FillListFromRecent(StationRows& list);
+  // One row that says that nothing was found.
+  void FillListWithNoStations(StationRows& list);
+
+ private:
+  enum class Unknown { LeftOut, ShownAsLost };
+  std::vector<StationRow> RowsOf(const std::vector<std::string_view>& tokens, Unknown unknown);
+
+  StatList& stations_;
+  const PersonalStations& personal_;
+  const RecentList& recent_;
+  const Strings& strings_;
+};
+
+}  // namespace sonaro

@@ -1,0 +1,69 @@
+#include "mainwindow/StationRow.h"
+
+#include <algorithm>
+#include <utility>
+
+#include "base/Numbers.h"
+
+namespace sonaro {
+namespace {
+
+constexpr const char* kPersonalLocation = "Your Station";
+
+int IconFor(const std::string& reliability) {
+  const std::int64_t value = std::clamp<std::int64_t>(NumberValue(reliability), -1000, 1000);
+  return static_cast<int>(value) + StationRow::kFirstReliabilityIcon;
+}
+
+}  // namespace
+
+std::string StationRow::Token() const {
+  if (IsStation()) return key.substr(1);
+  return IsPersonal() ? key : std::string();
+}
+
+StationRow RowOfStation(StationRecord&& record) {
+  StationRow row;
+  row.key = "S" + std::to_string(record.StationId);
+  row.text = std::move(record[StationField::Name]);
+  row[SubItem::Location] = std::move(record[StationField::Location]);
+  row[SubItem::MediaType] = std::move(record[StationField::MediaType]);
+  row[SubItem::Format] = std::move(record[StationField::Format]);
+  row[SubItem::Overall] = std::move(record[StationField::OverallRating]);
+  row[SubItem::Sound] = std::move(record[StationField::SoundRating]);
+  row[SubItem::Speed] = std::move(record[StationField::SpeedRating]);
+  row[SubItem::WebSite] = std::move(record[StationField::WebSiteRating]);
+  row[SubItem::Reliability] = std::move(record[StationField::Reliability]);
+  row.icon = IconFor(row[SubItem::Reliability]);
+  return row;
+}
+
+StationRow RowOfPersonalStation(std::int32_t index, std::string name, std::string media) {
+  StationRow row;
+  row.key = "P" + std::to_string(index);
+  row.text = std::move(name);
+  row[SubItem::Location] = kPersonalLocation;
+  row[SubItem::MediaType] = std::move(media);
+  for (const SubItem rating :
+       {SubItem::Overall, SubItem::Sound, SubItem::Speed, SubItem::WebSite, SubItem::Reliability}) {
+    row[rating] = "0";
+  }
+  return row;
+}
+
+StationRow RowOfLostStation(std::string token) {
+  StationRow row;
+  row.key = "S" + token;
+  row.text = std::move(token);
+  row.lost = true;
+  return row;
+}
+
+StationRow RowOfNoStation(std::string text) {
+  StationRow row;
+  row.key = "X";
+  row.text = std::move(text);
+  return row;
+}
+
+}  // namespace sonaro

@@ -1,0 +1,70 @@
+// The rows behind one station list view: what it holds, in which order it shows them, and which one is
+// selected. The list view keeps no texts of its own and asks here for what it paints. Owned by whoever owns
+// the list.
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "mainwindow/StationRow.h"
+
+namespace sonaro {
+
+enum class SortOrder { Ascending, Descending };
+
+struct SortState {
+  bool on = false;  // off: the order of the fill
+  int key = 0;      // 0 = name, 1 to 8 = sub-item
+  SortOrder order = SortOrder::Ascending;
+  bool operator==(const SortState&) const = default;
+};
+
+class StationRows {
+ public:
+  static constexpr int kColumns = 4;  // name, location, media type, station format
+
+  // Replaces all rows. A sort chosen earlier stays in force. The first shown row becomes the selected one,
+  // unless it stands for no station; an empty list has no selection.
+  void Fill(std::vector<StationRow> rows);
+  void Clear() { Fill({}); }
+
+  // Text sort of a sub-item, letter case ignored; rows that compare equal keep the order of the fill, in both
+  // orders. The selected row stays selected. A key outside 0 to 8 changes nothing.
+  void SortBy(int key, SortOrder order);
+  const SortState& Sort() const { return sort_; }
+
+  std::size_t Count() const { return rows_.size(); }
+  // Stations among the rows: all but those with the key "X".
+  std::size_t StationCount() const;
+  // By position in the shown order, which must be below Count().
+  const StationRow& At(std::size_t position) const { return rows_[order_[position]]; }
+  // The text of a visible column (0 to 3).
+  std::string_view Cell(std::size_t position, int column) const;
+  std::optional<std::size_t> Find(std::string_view key) const;
+  // The first row after `from`, wrapping round, whose name begins with `start`, letter case ignored: what
+  // typing letters in the list looks for.
+  std::optional<std::size_t> FindByName(std::string_view start, std::size_t from) const;
+
+  std::optional<std::size_t> Selected() const;
+  const StationRow* SelectedRow() const;
+  // Selecting a row that stands for no station, or nothing, leaves no selection.
+  void Select(std::optional<std::size_t> position);
+
+  // Identifiers and personal keys of all rows in the shown order.
+  std::vector<std::string> Tokens() const;
+
+ private:
+  void ApplySort();
+  const std::string& SortText(const StationRow& row) const;
+
+  std::vector<StationRow> rows_;      // in the order of the fill
+  std::vector<std::uint32_t> order_;  // shown position -> index in rows_
+  SortState sort_;
+  std::optional<std::uint32_t> selected_;  // index in rows_
+};
+
+}  // namespace sonaro

@@ -1,0 +1,80 @@
+#include "mainwindow/StationSearch.h"
+
+#include <algorithm>
+#include <utility>
+
+#include "app/CReg.h"
+#include "base/DataFolder.h"
+#include "base/Text.h"
+#include "base/UrlEncoding.h"
+#include "mainwindow/StationListing.h"
+
+namespace sonaro {
+namespace {
+
+constexpr const char* kKindsFile = "\\searchst.snr";
+constexpr const char* kHistorySetting = "SearchList";
+constexpr const char* kFindStation = "FindStation";
+constexpr const char* kWordMark = "<<SearchWord>>";
+constexpr const char* kOptionMark = "<<SearchOpt>>";
+constexpr const char* kTrayResults = "SearchResults";
+
+// What can be pasted into an edit but has no place in the history's format: it counts as a blank.
+std::string CleanText(std::string_view text) {
+  std::string clean(text);
+  std::replace_if(
+      clean.begin(), clean.end(), [](char c) { return c == '\t' || c == '\r' || c == '\n'; }, ' ');
+  return std::string(TrimBlanks(clean));
+}
+
+}  // namespace
+
+bool SearchKind::SearchesStations() const { return name == kFindStation; }
+
+void StationSearch::LoadSearchKinds(std::string builtInCaption) {
+  kinds_.clear();
+  std::string text = data_.Read(kKindsFile).bytes;
+  std::replace(text.begin(), text.end(), '\r', '\n');
+  for (const std::string_view line : Split(text, '\n')) {
+    if (line.empty() || kinds_.size() == kMostKinds) continue;
+    auto fields = SplitAtMost(line, '\t', 3);
+    fields.resize(3);
+    kinds_.push_back({std::string(fields[0]), std::string(fields[1]), std::string(fields[2])});
+  }
+  if (kinds_.empty()) kinds_.push_back({std::move(builtInCaption), kFindStation, {}});
+}
+
+std::vector<std::string> StationSearch::History() const {
+  return SearchHistory(settings_.Setting(kHistorySetting)).Entries();
+}
+
+StationSearch::Outcome StationSearch::FindStation(std::string_view text, std::size_t kind, bool allWords) {
+  const std::string clean = CleanText(text);
+  if (clean.empty() || kinds_.empty()) return Outcome::Nothing;
+  const SearchKind& chosen = kinds_[std::min(kind, kinds_.size() - 1)];
+  if (!chosen.SearchesStations()) {
+    FindOnTheWeb(clean, chosen, allWords);
+    return Outcome::Web;
+  }
+  FindInTheDirectory(clean, allWords);
+  return Outcome::Stations;
+}
+
+void StationSearch::FindOnTheWeb(const std::string& text, const SearchKind& kind, bool allWords) {
+  last_ = LastKind::Web;
+  webWords_ = text;
+  webAddress_ = ReplaceFirst(kind.urlTemplate, kWordMark, UrlEncodeQuery(text));
+  webAddress_ = ReplaceFirst(webAddress_, kOptionMark, allWords ? "all" : "any");
+  listing_.ShowWebSearch();
+}
+
+void StationSearch::FindInTheDirectory(const std::string& text, bool allWords) {
+  SearchHistory history(settings_.Setting(kHistorySetting));
+  history.Add(text);
+  settings_.SetSetting(kHistorySetting, history.ToSetting());
+  last_ = LastKind::Station;
+  listing_.ShowSearch(text, allWords);
+  tellTray_(std::string(kTrayResults) + '\t' + listing_.LastSearchIds() + '\t' + text);
+}
+
+}  // namespace sonaro

@@ -1,0 +1,75 @@
+// The search panel's logic: the kinds of search out of "\searchst.snr", the history of past searches, and
+// what a search does. One kind searches the directory into the station list; the others are searches of the
+// web. Owned by the main window.
+#pragma once
+
+#include <cstddef>
+#include <functional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "mainwindow/SearchHistory.h"
+
+namespace sonaro {
+
+class CReg;
+class DataFolder;
+class StationListing;
+
+// Takes a text for the small tray menu window, such as "SearchResults", tab, identifiers, tab, words.
+using TellTray = std::function<void(const std::string& text)>;
+
+struct SearchKind {
+  std::string caption;
+  std::string name;         // "FindStation" searches the directory, any other name the web
+  std::string urlTemplate;  // web kinds: an address with "<<SearchWord>>" and "<<SearchOpt>>"
+  bool SearchesStations() const;
+};
+
+class StationSearch {
+ public:
+  static constexpr std::size_t kMostKinds = 6;
+
+  enum class Outcome {
+    Nothing /* no text */,
+    Stations /* the list shows them */,
+    Web /* open WebAddress() */
+  };
+  // What the last search of this run was.
+  enum class LastKind { None, Web, Station };
+
+  StationSearch(DataFolder& data, CReg& settings, StationListing& listing, TellTray tellTray)
+      : data_(data), settings_(settings), listing_(listing), tellTray_(std::move(tellTray)) {}
+
+  // Reads the kinds. Without a file there is one: the directory, captioned `builtInCaption`.
+  void LoadSearchKinds(std::string builtInCaption);
+  const std::vector<SearchKind>& Kinds() const { return kinds_; }
+
+  // Past searches, oldest first.
+  std::vector<std::string> History() const;
+
+  // Runs the search for `text` as the user typed it. `kind` is an index into Kinds(); one beyond the end
+  // means the last.
+  Outcome FindStation(std::string_view text, std::size_t kind, bool allWords);
+
+  LastKind LastSearch() const { return last_; }
+  // Of the last web search: its words and the address that they made.
+  const std::string& WebWords() const { return webWords_; }
+  const std::string& WebAddress() const { return webAddress_; }
+
+ private:
+  void FindOnTheWeb(const std::string& text, const SearchKind& kind, bool allWords);
+  void FindInTheDirectory(const std::string& text, bool allWords);
+
+  DataFolder& data_;
+  CReg& settings_;
+  StationListing& listing_;
+  TellTray tellTray_;
+  std::vector<SearchKind> kinds_;
+  LastKind last_ = LastKind::None;
+  std::string webWords_;
+  std::string webAddress_;
+};
+
+}  // namespace sonaro
