@@ -5,18 +5,10 @@
 #include <windows.h>
 
 #include <span>
-#include <string>
-#include <vector>
+
+#include "forms/MenuEntry.h"
 
 namespace sonaro {
-
-struct MenuEntry {
-  int command = 0;   // 0 and no children: a separator line
-  std::string text;  // with "&" for the access key and "\t" before the shortcut's name
-  bool enabled = true;
-  bool checked = false;
-  std::vector<MenuEntry> children = {};
-};
 
 // Shows the menu with its top-left corner at `at` (screen pixels) and returns when it is closed. The command
 // is sent after the menu is gone. Returns the chosen command, 0 for none.

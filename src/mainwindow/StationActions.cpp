@@ -36,12 +36,12 @@ constexpr std::array<int, StationDetail::kPlayKeys> kPlayShortcuts{
 
 // Separators are asked for freely; none stands first, last or beside another.
 void AddSeparator(MenuEntries& menu) {
-  if (!menu.empty() && !menu.back().IsSeparator()) menu.emplace_back();
+  if (!menu.empty() && !IsSeparator(menu.back())) menu.emplace_back();
 }
 
 MenuEntry Submenu(std::string caption, MenuEntries children) {
   MenuEntry entry;
-  entry.caption = std::move(caption);
+  entry.text = std::move(caption);
   entry.enabled = !children.empty();
   entry.children = std::move(children);
   return entry;
@@ -59,7 +59,7 @@ std::optional<Ranking> RankingOfCommand(int command) {
 MenuEntry StationActions::Entry(int command, int textId, bool enabled) const {
   MenuEntry entry;
   entry.command = command;
-  entry.caption = strings_.Load(textId);
+  entry.text = strings_.Load(textId);
   entry.enabled = enabled;
   return entry;
 }
@@ -68,7 +68,7 @@ MenuEntry StationActions::StationEntry(int command, int textId, const StationDet
   const bool selected = static_cast<bool>(detail.station);
   MenuEntry entry = Entry(command, textId, selected);
   const std::string name = selected ? MenuText(detail.name) : strings_.Load(IDS_ACTION_ANY_STATION);
-  entry.caption = FillIn(entry.caption, {name, MenuText(listing_.State().group)});
+  entry.text = FillIn(entry.text, {name, MenuText(listing_.State().group)});
   return entry;
 }
 
@@ -102,13 +102,13 @@ void StationActions::AddPlayEntries(const StationDetail& detail, MenuEntries& me
     const PlayKey& key = detail.playKeys[i];
     if (!key.shown) continue;
     MenuEntry entry = Entry(kPlayCommands[i], kPlayShortcuts[i]);
-    entry.caption = FillIn(entry.caption, {MenuText(key.caption)});
+    entry.text = FillIn(entry.text, {MenuText(key.caption)});
     menu.push_back(std::move(entry));
   }
   for (std::size_t i = 0; i < detail.extraKeys.size() && i < kExtraPlayCommands; ++i) {
     MenuEntry entry;
     entry.command = mnuActionPlayExtra + static_cast<int>(i);
-    entry.caption = MenuText(detail.extraKeys[i].caption);
+    entry.text = MenuText(detail.extraKeys[i].caption);
     menu.push_back(std::move(entry));
   }
   menu.push_back(Entry(mnuActionWebSite, IDS_ACTION_WEB_SITE, detail.hasWebSite));
@@ -134,7 +134,7 @@ MenuEntries StationActions::GroupChoices(const StationDetail& detail) const {
   for (std::size_t group = 0; group < groups_.Count() && group < FavoriteGroups::kSlots; ++group) {
     MenuEntry entry;
     entry.command = mnuActionStationToGroup + static_cast<int>(group);
-    entry.caption = MenuText(groups_.Name(group));
+    entry.text = MenuText(groups_.Name(group));
     entry.checked = detail.station && groups_.Contains(group, detail.station.Token());
     entry.enabled = detail.station && !entry.checked;
     choices.push_back(std::move(entry));

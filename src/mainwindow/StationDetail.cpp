@@ -48,8 +48,8 @@ StationDetail StationDetails::Of(const StationKey& key) const {
   return detail;
 }
 
-RatingPicture StationDetails::Rating(const std::string& digit, int nameId) const {
-  RatingPicture rating;
+RatingFigure StationDetails::Rating(const std::string& digit, int nameId) const {
+  RatingFigure rating;
   if (digit.size() == 1 && digit[0] >= '1' && digit[0] <= '9') rating.halves = digit[0] - '0';
   const std::string name = strings_.Load(nameId);
   if (rating.halves == 0) {

@@ -29,7 +29,7 @@ struct PlayKey {
   PlayRequest request;
 };
 
-struct RatingPicture {
+struct RatingFigure {
   int halves = 0;      // 0 = not rated, up to 10
   std::string figure;  // "4.5", with the user's decimal sign; a dash when not rated
   std::string spoken;  // "Sound 4.5 of 5"
@@ -43,7 +43,7 @@ struct StationDetail {
   std::string name;
   std::string location;
   std::string description;
-  std::array<RatingPicture, kRatings> ratings;
+  std::array<RatingFigure, kRatings> ratings;
   std::array<PlayKey, kPlayKeys> playKeys;
   std::vector<PlayKey> extraKeys;  // the user's own links for a directory station
   bool hasWebSite = false;
@@ -60,7 +60,7 @@ class StationDetails {
   StationDetail Of(const StationKey& key) const;
   // A rating stored as one digit: half as much, in halves. Anything but 1 to 9 is not rated. `nameId` is the
   // number of the rating's name in the string table.
-  RatingPicture Rating(const std::string& digit, int nameId) const;
+  RatingFigure Rating(const std::string& digit, int nameId) const;
 
  private:
   void AddDirectoryStation(StationDetail& detail) const;

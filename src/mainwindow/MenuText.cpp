@@ -1,4 +1,4 @@
-#include "mainwindow/MenuEntry.h"
+#include "mainwindow/MenuText.h"
 
 namespace sonaro {
 
