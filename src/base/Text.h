@@ -17,7 +17,8 @@ std::string_view TrimBlanks(std::string_view text);
 std::string FoldCase(std::string_view text);
 // The same, appended to `out`.
 void AppendFoldCase(std::string& out, std::string_view text);
-// Changes whenever FoldCase gives another result for some text; stored folded text of another version is void.
+// Changes whenever FoldCase gives another result for some text; stored folded text of another version is
+// void.
 inline constexpr std::uint32_t kFoldCaseVersion = 14;
 
 // Comparisons that ignore letter case in the sense of FoldCase.

@@ -8,7 +8,8 @@
 
 namespace sonaro {
 
-// What the platform reports of the zone in force (TIME_ZONE_INFORMATION): biases in minutes, local = GMT - bias.
+// What the platform reports of the zone in force (TIME_ZONE_INFORMATION): biases in minutes, local = GMT -
+// bias.
 struct ZoneReport {
   static constexpr std::uint32_t kFailed = 0xFFFFFFFF;
   std::uint32_t result = 0;  // 0 zone unknown, 1 standard time, 2 daylight time, kFailed

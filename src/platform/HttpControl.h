@@ -1,5 +1,5 @@
-// One HTTP transfer at a time, without waiting. The request line goes out exactly as built; the outcome arrives
-// by events on the GUI thread. Redirects are not followed and no connection is used twice.
+// One HTTP transfer at a time, without waiting. The request line goes out exactly as built; the outcome
+// arrives by events on the GUI thread. Redirects are not followed and no connection is used twice.
 #pragma once
 
 #include <cstdint>
@@ -9,13 +9,13 @@
 
 namespace sonaro {
 
-// What a talking window hears. HTTPReady is the last event of every request that was not cancelled, also after
-// HTTPError; after HTTPObjectError nothing more comes.
+// What a talking window hears. HTTPReady is the last event of every request that was not cancelled, also
+// after HTTPError; after HTTPObjectError nothing more comes.
 class HttpEvents {
  public:
   virtual ~HttpEvents() = default;
   virtual void HTTPDataReceived(std::string_view body) = 0;  // once, the whole body of a successful answer
-  virtual void HTTPDataTransferred(std::uint64_t bytes, std::uint64_t expected) = 0;  // 0 = not announced
+  virtual void HTTPDataTransferred(std::uint64_t bytes, std::uint64_t expected) = 0;      // 0 = not announced
   virtual void HTTPError(const std::string& statusCode, const std::string& headers) = 0;  // any other status
   virtual void HTTPObjectError(const std::string& reason) = 0;  // one sentence for the user
   virtual void HTTPReady() = 0;
@@ -24,8 +24,8 @@ class HttpEvents {
 class HttpControl {
  public:
   virtual ~HttpControl() = default;
-  // "http://host:port", or "" for none. Set before a request; only its being set matters to the control, since
-  // the caller already names the proxy as host and an absolute target.
+  // "http://host:port", or "" for none. Set before a request; only its being set matters to the control,
+  // since the caller already names the proxy as host and an absolute target.
   virtual void SetProxy(const std::string& proxy) = 0;
   // Connects to host and port and sends `requestText` ("GET " + target + query). Returns at once. Starting a
   // request while one runs cancels that one.

@@ -27,7 +27,8 @@ class Registry {
   virtual bool CreateKey(RootKey root, const std::string& key) = 0;
   // The stored bytes, exactly: a terminating zero only when one was stored. The empty value name is the key's
   // default value. Nothing when key or value are missing or may not be read.
-  virtual std::optional<std::string> ReadValue(RootKey root, const std::string& key, const std::string& name) = 0;
+  virtual std::optional<std::string> ReadValue(RootKey root, const std::string& key,
+                                               const std::string& name) = 0;
   // Writes exactly these bytes. Does not create the key: false when it cannot be opened for writing.
   virtual bool WriteValue(RootKey root, const std::string& key, const std::string& name, ValueType type,
                           std::string_view bytes) = 0;

@@ -101,8 +101,8 @@ struct CrashPoint {
 };
 
 // Runs `scenario` on freshly prepared files with the crash at its first, second, third ... changing operation
-// and every kind of survival, last with the crash right after it, and lets `check` look at the files after each restart.
-// Returns the number of the scenario's operations.
+// and every kind of survival, last with the crash right after it, and lets `check` look at the files after
+// each restart. Returns the number of the scenario's operations.
 int ForEachCrashPoint(const std::function<void(FakeFiles&)>& prepare,
                       const std::function<void(FakeFiles&)>& scenario,
                       const std::function<void(FakeFiles&, const CrashPoint&)>& check);
