@@ -143,7 +143,7 @@ std::optional<TimeOfDay> ParseTime(std::string_view text) {
   const bool morning = cursor.Take("AM");
   const bool afternoon = !morning && cursor.Take("PM");
   if (morning || afternoon) {
-    if (time.hour < 1 || time.hour > 12) return std::nullopt;
+    if (time.hour > 12) return std::nullopt;  // hour 0 with AM: how older schedules write midnight
     time.hour = time.hour % 12 + (afternoon ? 12 : 0);
   }
   if (!cursor.AtEnd() || time.hour > 23 || time.minute > 59 || time.second > 59) return std::nullopt;

@@ -41,6 +41,8 @@ class ExtraLinks {
     std::string kept;
   };
 
+  static Line ReadLine(std::string_view text);
+
   DataFolder& data_;
   std::vector<Line> lines_;
 };

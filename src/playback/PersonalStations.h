@@ -11,6 +11,7 @@
 #include <span>
 #include <string>
 #include <string_view>
+#include <unordered_map>
 #include <vector>
 
 namespace sonaro {
@@ -56,18 +57,21 @@ class PersonalStations {
   bool Delete(std::int32_t index);
 
  private:
+  // A line of the file: a station, or, with index 0, a line that is kept as it stands.
   struct Line {
-    std::string kept;  // a line that is not a live station: kept as it stands
     PersonalStation station;
+    std::string kept;
   };
 
-  void Read(std::string_view line);
+  Line ReadLine(std::string_view text);
+  // Writes `changed` and, when that worked, takes it over.
   bool Save(std::vector<Line> changed);
-  std::vector<Line>::iterator LineOf(std::vector<Line>& lines, std::int32_t index) const;
+  void Adopt(std::vector<Line> lines);
 
   DataFolder& data_;
   std::vector<Line> lines_;
-  std::int32_t highestIndex_ = 0;
+  std::unordered_map<std::int32_t, std::size_t> lineOf_;  // index of a station -> position in lines_
+  std::int32_t highestIndex_ = 0;                         // ever given, deleted stations included
 };
 
 }  // namespace sonaro

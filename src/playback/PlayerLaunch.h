@@ -62,8 +62,8 @@ class PlayerLaunch {
   std::string WhyNot(LaunchOutcome outcome) const;
 
  private:
-  std::string LinkFor(const std::string& key, PlayMode mode) const;
-  LaunchOutcome PlayLinkText(const std::string& link);
+  std::string LinkFor(const StationKey& station, const std::string& key, PlayMode mode) const;
+  LaunchOutcome HandOver(const std::string& linkText);
   LaunchOutcome OpenWebSite(const StationKey& station);
   void ShowNoPlayerGuarded();
 

@@ -104,8 +104,7 @@ class StationScan {
   std::string CurrentText() const;   // lblCurrentScaning
   std::string TimeLeftText() const;  // lblTimeLeft; keeps its text while it is hidden
   bool TimeLeftVisible() const { return state_ != ScanState::Idle && current_; }
-  // Part of the current station's time that is over, for a scale: 0 to `ScanTime`.
-  int Elapsed() const;
+  int TimeLeft() const { return timeLeft_; }  // seconds, for a scale: 0 to ScanTime
   int ScanTime() const { return scanTime_; }
 
   // The dialog "Set Scan Time". Out of range: ignored. The station that plays keeps its time.
@@ -121,10 +120,12 @@ class StationScan {
   void PlayFirst();
   void AddCurrentToHistory();
   void GoIdle();
-  void RestartClock();
+  void Resume();
+  void CountFromNow();
   int CountTick() const;
   void ShowLists();
   void ShowState();
+  void EnableTimer(bool on);
 
   CReg& reg_;
   Clock& clock_;
@@ -139,6 +140,7 @@ class StationScan {
   std::optional<ScanRow> current_;
   int elapsed_ = 0;  // whole seconds of the current station
   int scanTime_ = kDefault;
+  int timeLeft_ = 0;
   std::uint64_t countedFrom_ = 0;  // clock ticks at which the current station had been playing for 0 seconds
 };
 

@@ -11,6 +11,7 @@
 namespace sonaro {
 
 class PersonalStations;
+struct PersonalStation;
 class StatList;
 struct ScramblingAlphabets;
 
@@ -37,10 +38,14 @@ class StationSource {
   std::string WebSiteOf(const StationKey& key) const;
   // Link 1 to 3 of the station; "" when it has none.
   std::string LinkOf(const StationKey& key, int number) const;
+  // The first of them that is not empty.
+  std::string FirstLinkOf(const StationKey& key) const;
   // The link to play when the one asked for is empty. Personal stations have none.
   std::string AlternateLinkOf(const StationKey& key) const;
 
  private:
+  const PersonalStation* Personal(const StationKey& key) const;
+
   StatList& stations_;
   const PersonalStations& personal_;
   const ScramblingAlphabets& alphabets_;

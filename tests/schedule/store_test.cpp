@@ -19,6 +19,7 @@ const Date kToday{2000, 8, 16};
 
 class ScheduleFile : public testing::Test {
  protected:
+  void SetUp() override { files_.MakeFolder("data"); }
   void Load(std::string_view text) {
     files_.Put("data/Sched.snr", text);
     store_.LoadSchedule(kToday);
@@ -149,6 +150,7 @@ TEST(ScheduleTexts, NoticesAndListTexts) {
 
 TEST(PersonalShowList, AddsOnceRemovesByTheIdentifyingPartAndTellsTheUser) {
   FakeFiles files;
+  files.MakeFolder("data");
   DataFolder data(files, "data", '/');
   FakeMessageBox box;
   FakeStrings strings;

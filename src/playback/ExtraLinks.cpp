@@ -1,0 +1,72 @@
+#include "playback/ExtraLinks.h"
+
+#include "base/DataFolder.h"
+#include "base/Numbers.h"
+#include "base/Text.h"
+#include "playback/FieldText.h"
+#include "playback/PersonalStations.h"
+
+namespace sonaro {
+
+namespace {
+
+constexpr std::string_view kFile = "\\ownlinks.snr";
+
+ExtraLink Cleaned(const ExtraLink& link) {
+  return {CleanField(link.name, PersonalStation::kMaxName), CleanField(link.link, PersonalStation::kMaxLink)};
+}
+
+}  // namespace
+
+ExtraLinks::Line ExtraLinks::ReadLine(std::string_view text) {
+  const auto fields = Split(text, '\t');
+  Line line;
+  if (fields.size() == 3 && ParseStationId(fields[0], line.stationId) && line.stationId != 0) {
+    line.link = Cleaned({std::string(fields[1]), std::string(fields[2])});
+    if (!line.link.link.empty()) return line;
+  }
+  return {0, {}, std::string(text)};
+}
+
+bool ExtraLinks::Load() {
+  lines_.clear();
+  const ReadResult file = data_.Read(kFile);
+  for (const std::string_view text : SplitLines(file.bytes)) lines_.push_back(ReadLine(text));
+  return file.status != ReadStatus::Unreadable;
+}
+
+std::vector<ExtraLink> ExtraLinks::Of(std::int32_t stationId) const {
+  std::vector<ExtraLink> links;
+  if (stationId == 0) return links;
+  for (const Line& line : lines_) {
+    if (line.stationId == stationId) links.push_back(line.link);
+  }
+  return links;
+}
+
+bool ExtraLinks::Set(std::int32_t stationId, const std::vector<ExtraLink>& links) {
+  if (stationId == 0) return false;
+  std::vector<Line> changed = lines_;
+  std::erase_if(changed, [&](const Line& line) { return line.stationId == stationId; });
+  std::size_t taken = 0;
+  for (const ExtraLink& link : links) {
+    Line line{stationId, Cleaned(link), {}};
+    if (line.link.link.empty() || ++taken > ExtraLink::kMaxPerStation) continue;
+    changed.push_back(std::move(line));
+  }
+  std::string text;
+  for (const Line& line : changed) {
+    if (line.stationId == 0) {
+      text.append(line.kept);
+    } else {
+      text.append(std::to_string(line.stationId)).append(1, '\t');
+      text.append(line.link.name).append(1, '\t').append(line.link.link);
+    }
+    text.append("\r\n");
+  }
+  if (!data_.Save(kFile, text)) return false;
+  lines_ = std::move(changed);
+  return true;
+}
+
+}  // namespace sonaro

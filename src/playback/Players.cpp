@@ -1,0 +1,65 @@
+#include "playback/Players.h"
+
+#include <algorithm>
+
+#include "app/CReg.h"
+#include "base/DataFolder.h"
+#include "platform/Shell.h"
+
+namespace sonaro {
+
+namespace {
+
+constexpr const char* kPlayerKey = "SOFTWARE\\Classes\\Software\\RealNetworks\\RealPlayer\\";
+constexpr const char* kDefaultValue = "";
+constexpr int kLastFailureCode = 32;  // of the platform's association look-up
+
+// Letters of ASCII only: the file system finds the program in any case, and other letters may change length.
+void LowerCase(std::string& path) {
+  for (char& c : path) {
+    if (c >= 'A' && c <= 'Z') c = static_cast<char>(c - 'A' + 'a');
+  }
+}
+
+}  // namespace
+
+std::string Players::RegisteredVersion() const {
+  MainKeyScope machine(reg_, RootKey::LocalMachine);
+  return reg_.GetData(std::string(kPlayerKey) + "CurrentVersion", kDefaultValue);
+}
+
+std::string Players::RegisteredPath(const std::string& version) const {
+  MainKeyScope machine(reg_, RootKey::LocalMachine);
+  const std::string path = reg_.GetData(kPlayerKey + version + "\\Preferences\\MainApp", kDefaultValue);
+  return !path.empty() && data_.FileSystem().Exists(path) ? path : std::string();
+}
+
+std::string Players::RegisteredRealPlayer() const { return RegisteredPath(RegisteredVersion()); }
+
+std::string Players::FindRealPlayer(bool force) const {
+  const std::string version = RegisteredVersion();
+  if (!version.empty() && !force) return RegisteredPath(version);
+  const std::string path = AssociatedProgram("dummy.ram");
+  return !path.empty() && data_.FileSystem().Exists(path) ? path : std::string();
+}
+
+std::string Players::FindAsxProgram() const { return AssociatedProgram("dummy.asx"); }
+
+std::string Players::AssociatedProgram(const std::string& markerFile) const {
+  constexpr std::string_view kExe = ".exe";
+  const std::string marker = data_.Path("\\" + markerFile);
+  data_.FileSystem().Remove(marker);
+  if (const auto file = data_.FileSystem().Create(marker)) file->Commit(Durability::Cached);
+
+  FoundProgram found = shell_.FindProgramFor(markerFile, data_.Folder());
+  if (found.code <= kLastFailureCode) return {};
+  LowerCase(found.path);
+  const std::size_t exe = found.path.find(kExe);
+  return exe == std::string::npos ? found.path : found.path.substr(0, exe + kExe.size());
+}
+
+bool Players::Play(const std::string& program, const std::string& link) const {
+  return shell_.Open(program, link, data_.Folder());
+}
+
+}  // namespace sonaro

@@ -1,0 +1,276 @@
+#include "playback/StationScan.h"
+
+#include <algorithm>
+
+#include "app/CReg.h"
+#include "app/Strings.h"
+#include "base/Numbers.h"
+#include "base/Text.h"
+#include "platform/Clock.h"
+#include "playback/PlayerLaunch.h"
+#include "playback/StationSource.h"
+#include "resources/ids.h"
+
+namespace sonaro {
+
+namespace {
+
+constexpr const char* kScanTimeSetting = "ScanTime";
+constexpr std::uint64_t kSecond = 1000;  // clock ticks
+constexpr int kFirstReliabilityIcon = 7;
+
+bool IsScanTime(std::int64_t seconds) {
+  return seconds >= StationScan::kShortest && seconds <= StationScan::kLongest;
+}
+
+}  // namespace
+
+void StationScan::Open(ScanView& view) {
+  view_ = &view;
+  ReadScanTime();
+  ShowLists();
+  ShowState();
+}
+
+void StationScan::Close() {
+  if (state_ != ScanState::Idle) {
+    AddCurrentToHistory();
+    GoIdle();
+  }
+  view_ = nullptr;
+}
+
+void StationScan::StartPauseContinue() {
+  switch (state_) {
+    case ScanState::Scanning:
+      state_ = ScanState::Paused;
+      EnableTimer(false);
+      break;
+    case ScanState::Paused:
+      Resume();
+      break;
+    case ScanState::Idle:
+      if (queue_.empty()) return;
+      timeLeft_ = scanTime_;
+      PlayFirst();
+      break;
+  }
+  ShowState();
+}
+
+void StationScan::MoveNext() {
+  elapsed_ = kNeverShown;
+  if (state_ == ScanState::Scanning) return;
+  Resume();
+  ShowState();
+}
+
+void StationScan::Resume() {
+  state_ = ScanState::Scanning;
+  CountFromNow();
+  EnableTimer(true);
+}
+
+void StationScan::MoveUp(std::size_t row) {
+  if (row == 0 || row >= queue_.size()) return;
+  MoveRow(row, row - 1);
+}
+
+void StationScan::MoveDown(std::size_t row) {
+  if (row + 1 >= queue_.size()) return;
+  MoveRow(row, row + 2);
+}
+
+void StationScan::MoveRow(std::size_t from, std::size_t to) {
+  if (from >= queue_.size() || to > queue_.size()) return;
+  const auto at = [this](std::size_t row) { return queue_.begin() + static_cast<std::ptrdiff_t>(row); };
+  if (to > from) {
+    std::rotate(at(from), at(from + 1), at(to));
+    --to;
+  } else {
+    std::rotate(at(to), at(from), at(from + 1));
+  }
+  ShowLists();
+  if (view_) view_->SelectQueueRow(to);
+  ShowState();
+}
+
+void StationScan::Remove(std::size_t row) {
+  if (row >= queue_.size()) return;
+  queue_.erase(queue_.begin() + static_cast<std::ptrdiff_t>(row));
+  ShowLists();
+  if (!queue_.empty() && view_) view_->SelectQueueRow(std::min(row, queue_.size() - 1));
+  ShowState();
+}
+
+void StationScan::Clear() {
+  const bool ran = state_ == ScanState::Scanning;
+  if (ran) EnableTimer(false);
+  queue_.clear();
+  history_.clear();
+  ShowLists();
+  ShowState();
+  if (ran) EnableTimer(true);
+}
+
+void StationScan::Tick() {
+  if (state_ != ScanState::Scanning) return;  // a tick that was under way when the timer was stopped
+  elapsed_ = CountTick();
+  if (elapsed_ < kNeverShown) {
+    timeLeft_ = scanTime_ - elapsed_;
+    if (view_) view_->ShowTimeLeft();
+  }
+  if (elapsed_ < scanTime_) return;
+
+  ReadScanTime();
+  AddCurrentToHistory();
+  if (elapsed_ != kTakesNoStation) {
+    if (queue_.empty()) {
+      GoIdle();
+    } else {
+      PlayFirst();
+    }
+  }
+  ShowState();
+}
+
+// A tick is a second, and where ticks were lost the clock says how many seconds it was. Catching up ends with
+// the station on hand: after a long standstill the next one still gets its full time.
+int StationScan::CountTick() const {
+  if (elapsed_ >= kNeverShown) return elapsed_ + 1;
+  const std::uint64_t seconds = (clock_.Ticks() - countedFrom_ + kSecond / 2) / kSecond;
+  const auto byClock =
+      static_cast<int>(std::min<std::uint64_t>(seconds, static_cast<std::uint64_t>(scanTime_)));
+  return std::max(elapsed_ + 1, byClock);
+}
+
+void StationScan::CountFromNow() {
+  countedFrom_ = clock_.Ticks() - static_cast<std::uint64_t>(elapsed_) * kSecond;
+}
+
+// A station that does not play is over with the next tick; a dialog would stop the whole scan.
+void StationScan::PlayFirst() {
+  const StationKey key = queue_.front();
+  queue_.pop_front();
+  current_ = Describe(key);
+  current_->reason = player_.WhyNot(player_.TryLaunch(key));
+  elapsed_ = 0;
+  Resume();
+  if (!current_->reason.empty()) elapsed_ = kNeverShown;
+  ShowLists();
+}
+
+void StationScan::AddCurrentToHistory() {
+  if (!current_) return;
+  history_.push_back(*current_);
+  ShowLists();
+}
+
+void StationScan::GoIdle() {
+  state_ = ScanState::Idle;
+  current_.reset();
+  elapsed_ = 0;
+  EnableTimer(false);
+  ShowState();
+}
+
+std::size_t StationScan::Add(std::span<const std::string> rowKeys, std::optional<std::size_t> at) {
+  std::vector<StationKey> keys;
+  for (const std::string& rowKey : rowKeys) {
+    if (const StationKey key = StationKey::FromRowKey(rowKey)) keys.push_back(key);
+  }
+  const std::size_t before = std::min(at.value_or(queue_.size()), queue_.size());
+  queue_.insert(queue_.begin() + static_cast<std::ptrdiff_t>(before), keys.begin(), keys.end());
+  ShowLists();
+  ShowState();
+  return keys.size();
+}
+
+void StationScan::StationsAdded(std::string_view caption) {
+  const auto keys = Split(caption, ' ');
+  Add(std::vector<std::string>(keys.begin(), keys.end()));
+}
+
+void StationScan::PutBack(std::size_t historyRow) {
+  if (historyRow >= history_.size()) return;
+  queue_.push_back(history_[historyRow].key);
+  ShowLists();
+  ShowState();
+}
+
+ScanRow StationScan::QueueRow(std::size_t row) const {
+  return row < queue_.size() ? Describe(queue_[row]) : ScanRow{};
+}
+
+ScanRow StationScan::Describe(const StationKey& key) const {
+  ScanRow row{key, {}, {}, {}, kFirstReliabilityIcon};
+  if (key.kind == StationKey::Kind::Personal) {
+    row.name = stations_.NameOf(key);
+    row.second = strings_.Load(IDS_SCAN_YOUR_STATION);
+  } else {
+    const StationRecord record = stations_.Record(key.number);
+    row.name = record[StationField::Name];
+    row.second = record[StationField::Location];
+    row.icon +=
+        static_cast<int>(std::clamp<std::int64_t>(NumberValue(record[StationField::Reliability]), 0, 4));
+  }
+  if (row.name.empty()) row.name = key.Token();  // no longer in the directory
+  return row;
+}
+
+ScanButtons StationScan::Buttons(std::optional<std::size_t> selectedQueueRow) const {
+  const bool selected = selectedQueueRow && *selectedQueueRow < queue_.size();
+  ScanButtons buttons;
+  buttons.start = buttons.moveNext = state_ != ScanState::Idle || !queue_.empty();
+  buttons.moveUp = selected && *selectedQueueRow > 0;
+  buttons.moveDown = selected && *selectedQueueRow + 1 < queue_.size();
+  buttons.remove = selected;
+  buttons.clear = !queue_.empty() || !history_.empty();
+  return buttons;
+}
+
+std::string StationScan::StartCaption() const {
+  switch (state_) {
+    case ScanState::Scanning:
+      return strings_.Load(IDS_SCAN_PAUSE);
+    case ScanState::Paused:
+      return strings_.Load(IDS_SCAN_CONTINUE);
+    case ScanState::Idle:
+      break;
+  }
+  return strings_.Load(IDS_SCAN_START);
+}
+
+std::string StationScan::CurrentText() const {
+  return current_ ? strings_.Load(IDS_SCAN_CURRENT) + current_->name : strings_.Load(IDS_SCAN_NOT_SCANNING);
+}
+
+std::string StationScan::TimeLeftText() const {
+  return strings_.Load(IDS_SCAN_TIME_LEFT) + std::to_string(timeLeft_);
+}
+
+void StationScan::SetScanTime(int seconds) {
+  if (!IsScanTime(seconds)) return;
+  reg_.SetSetting(kScanTimeSetting, std::to_string(seconds));
+  if (!current_) scanTime_ = seconds;
+}
+
+void StationScan::ReadScanTime() {
+  const std::int64_t seconds = NumberValue(reg_.Setting(kScanTimeSetting));
+  scanTime_ = IsScanTime(seconds) ? static_cast<int>(seconds) : kDefault;
+  if (scanTime_ != seconds) reg_.SetSetting(kScanTimeSetting, std::to_string(scanTime_));
+}
+
+void StationScan::ShowState() {
+  if (view_) view_->ShowState();
+}
+
+void StationScan::ShowLists() {
+  if (view_) view_->ShowLists();
+}
+
+void StationScan::EnableTimer(bool on) {
+  if (view_) view_->EnableTimer(on);
+}
+
+}  // namespace sonaro
