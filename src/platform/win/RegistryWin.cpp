@@ -1,0 +1,68 @@
+#include "platform/win/RegistryWin.h"
+
+#include <windows.h>
+
+#include "platform/win/Handle.h"
+
+namespace sonaro {
+namespace {
+
+constexpr REGSAM kAllSpecificRights = 0x3F;
+
+// A predefined key is the sign-extended number.
+HKEY Root(RootKey root) { return reinterpret_cast<HKEY>(static_cast<LONG_PTR>(static_cast<LONG>(root))); }
+
+RegistryKey OpenKey(RootKey root, const std::string& key, REGSAM access) {
+  RegistryKey opened;
+  if (RegOpenKeyExA(Root(root), key.c_str(), 0, access, opened.Receive()) != ERROR_SUCCESS) return {};
+  return opened;
+}
+
+}  // namespace
+
+bool RegistryWin::KeyExists(RootKey root, const std::string& key) {
+  return static_cast<bool>(OpenKey(root, key, KEY_QUERY_VALUE));
+}
+
+bool RegistryWin::CreateKey(RootKey root, const std::string& key) {
+  RegistryKey created;
+  return RegCreateKeyA(Root(root), key.c_str(), created.Receive()) == ERROR_SUCCESS;
+}
+
+std::optional<std::string> RegistryWin::ReadValue(RootKey root, const std::string& key,
+                                                  const std::string& name) {
+  const RegistryKey opened = OpenKey(root, key, KEY_QUERY_VALUE);
+  if (!opened) return std::nullopt;
+  DWORD size = 0;
+  if (RegQueryValueExA(opened.Get(), name.c_str(), nullptr, nullptr, nullptr, &size) != ERROR_SUCCESS) {
+    return std::nullopt;
+  }
+  std::string bytes;
+  LSTATUS status = ERROR_MORE_DATA;
+  while (status == ERROR_MORE_DATA) {  // the value may have grown since its size was asked
+    bytes.resize(size);
+    status = RegQueryValueExA(opened.Get(), name.c_str(), nullptr, nullptr,
+                              reinterpret_cast<BYTE*>(bytes.data()), &size);
+  }
+  if (status != ERROR_SUCCESS) return std::nullopt;
+  bytes.resize(size);
+  return bytes;
+}
+
+bool RegistryWin::WriteValue(RootKey root, const std::string& key, const std::string& name, ValueType type,
+                             std::string_view bytes) {
+  const RegistryKey opened = OpenKey(root, key, kAllSpecificRights);
+  if (!opened) return false;
+  // The function looks at the byte behind the text and stores a terminating zero when it finds one there.
+  const std::string buffer = std::string(bytes) + '\x01';
+  return RegSetValueExA(opened.Get(), name.c_str(), 0, static_cast<DWORD>(type),
+                        reinterpret_cast<const BYTE*>(buffer.data()),
+                        static_cast<DWORD>(bytes.size())) == ERROR_SUCCESS;
+}
+
+bool RegistryWin::RemoveValue(RootKey root, const std::string& key, const std::string& name) {
+  const RegistryKey opened = OpenKey(root, key, kAllSpecificRights);
+  return opened && RegDeleteValueA(opened.Get(), name.c_str()) == ERROR_SUCCESS;
+}
+
+}  // namespace sonaro

@@ -1,0 +1,12 @@
+#include "platform/win/SoundWin.h"
+
+#include <windows.h>
+// After windows.h, which it needs and WIN32_LEAN_AND_MEAN keeps out.
+#include <mmsystem.h>
+
+namespace sonaro {
+
+// Without SND_NODEFAULT a missing file would sound as the system's beep.
+void SoundWin::Play(const std::string& path) { sndPlaySoundA(path.c_str(), SND_ASYNC | SND_NODEFAULT); }
+
+}  // namespace sonaro
