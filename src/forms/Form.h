@@ -27,8 +27,7 @@
 //         {.id = lblTitle, .kind = Kind::TitleBar, .text = IDS_GREET_TITLE, .at = {14, 4, 182, 26}},
 //         {.kind = Kind::Label, .text = IDS_GREET_NAME, .at = {14, 48, 90, 28}, .type = Type::BodyStrong},
 //         {.id = txtName, .kind = Kind::Edit, .at = {110, 48, 296, 28}},
-//         {.id = butDays, .kind = Kind::ToggleKey, .text = IDS_MON, .at = {110, 90, 56, 28}, .flags =
-//         kGroup},
+//         {.id = butDays, .kind = Kind::ToggleKey, .text = IDS_MON, .at = {110, 90, 56, 28}},
 //         {.id = butDays + 1, .kind = Kind::ToggleKey, .text = IDS_TUE, .at = {171, 90, 56, 28}},
 //         {.id = butOKIt, .kind = Kind::PrimaryKey, .text = IDS_OK, .at = {214, 201, 92, 30}},
 //         {.id = butCancelIt, .kind = Kind::PushKey, .text = IDS_CANCEL, .at = {314, 201, 92, 30}},
@@ -73,9 +72,9 @@
 
 namespace sonaro {
 
-class ControlSet;
 class Faceplate;
 class Form;
+class FormParts;
 class ListView;
 class Painter;
 class ProgressScale;
@@ -87,7 +86,7 @@ class TreeView;
 // What all forms share; owned by Application. The functions may be empty.
 struct FormContext {
   const Strings& strings;
-  const Faceplate& faceplate;
+  Faceplate& faceplate;  // a form that hears of a high-contrast theme sets it
   const Shape& shape;
   std::function<void()> clickSound = {};                         // after every key press
   std::function<void(const std::string& caption)> bringUp = {};  // lblBringUp's caption was set
@@ -179,12 +178,13 @@ class Form : private FormServices {
   bool IsMoving() const;                     // the user is dragging the form
   void RefreshLook();                        // colours or outline file changed
 
-  // Controls by number. A number that the form does not have is ignored, and reads as "", 0 or false.
+  // Controls by number. A number that the form does not have is ignored, and reads as "", 0 or false. What
+  // the program sets raises no event.
   HWND Control(int id) const;
   std::string Text(int id) const;
   void SetText(int id, std::string_view text);
-  void SetDetail(int id,
-                 std::string_view text);  // PlayKey: second line; GroupKey: its figure; TitleBar: subtitle
+  // PlayKey: second line, then perhaps a tab and the link's number ("64 kbit/s\t2"). GroupKey: its figure.
+  void SetDetail(int id, std::string_view text);
   void SetIcon(int id, Icon icon);
   void SetInk(int id, Ink ink);  // a label that reports trouble or success
   void SetTip(int id, std::string_view text);
@@ -196,7 +196,7 @@ class Form : private FormServices {
   int FocusedControl() const;  // 0: none of this form
   void Repaint(int id);
 
-  // Check boxes, radio buttons (checking one clears its group) and toggles. Set by program: no event.
+  // Check boxes, radio buttons (checking one clears its group) and toggles.
   void Check(int id, bool checked = true);
   bool IsChecked(int id) const;
   void SetToggle(int id, bool active);
@@ -204,7 +204,6 @@ class Form : private FormServices {
   void SetToggleOnly(int first, int count, int index);  // one active in a control array; -1: none
 
   // Header keys: the one that the list is sorted by. 0: none.
-  enum class SortMark : unsigned char { None, Up, Down };
   void SetSortMark(int id, SortMark mark);
 
   // Edits.
@@ -276,13 +275,14 @@ class Form : private FormServices {
   virtual bool OnMessage(UINT message, WPARAM wParam, LPARAM lParam, LRESULT& result);
 
  private:
-  struct Parts;
+  friend class FormParts;
+  friend LRESULT HandleFormMessage(FormParts& parts, UINT message, WPARAM wParam, LPARAM lParam);
 
   const Painter& Look() const override;
   void PaintBackdrop(HDC dc, HWND control) override;
   void Raise(const FormEvent& event) override;
 
-  std::unique_ptr<Parts> parts_;
+  std::shared_ptr<FormParts> parts_;  // outlives a form that a handler destroys
 };
 
 }  // namespace sonaro

@@ -26,7 +26,7 @@ struct DesignRect {
 enum class Kind : unsigned char {
   // Texts: static controls that let the mouse through to the form, so that dragging works on them.
   Label,       // one line with an end ellipsis, or wrapped (kWrap)
-  TitleBar,    // the nameplate's program mark and title, normally lblTitle
+  TitleBar,    // a dialog's title in its nameplate, with the program mark before it; normally lblTitle
   StateLabel,  // as Label, but screen readers are told of every change: status lines, time left
   // Keys: controls of class Button, drawn by Painter. The text is the accessible name and carries the "&".
   PushKey,     // icon and text
@@ -39,7 +39,7 @@ enum class Kind : unsigned char {
   HeaderKey,   // over a list column: SetSortMark shows the active one
   TabKey,      // one of the dial's tabs (SetToggle); stands on a row of kind Dial
   CheckBox,
-  RadioButton,  // exclusive within its group (kGroup starts one)
+  RadioButton,  // one of its group is checked
   // Texts that the user types.
   Edit,
   MultiEdit,     // several lines
@@ -58,6 +58,7 @@ enum class Kind : unsigned char {
   Dial,    // the tab dial's glass and ticks
   Groove,  // horizontal engraved line
   Slots,   // vent slots
+  Mark,    // the program mark
 };
 
 // Which edges of the form a control's edges keep their distance to.
@@ -67,7 +68,9 @@ enum ControlFlag : unsigned {
   kNone = 0,
   kTabStop = 1,    // for the kinds that are not tab stops anyway (ReadOnlyText, StripKey in frmSplash ...)
   kNoTabStop = 2,  // the opposite
-  kGroup = 4,      // starts a group: arrow keys move within it, the first tab stop stands for it
+  // Toggle keys and radio buttons in a run of rows form a group: one of them is the tab stop and the arrow
+  // keys move among them. kGroup starts another group within such a run.
+  kGroup = 4,
   kHidden = 8,     // hidden until ShowControl
   kDisabled = 16,  // disabled until Enable
   kWrap = 32,      // Label: several lines
@@ -78,7 +81,11 @@ enum ControlFlag : unsigned {
   kOnGlass = 1024,    // the control stands on glass: default colours and corners are those of glass
   kSecondary = 2048,  // PlayKey: not the first link, drawn as a plain key. Label: muted
   kNoPrefix = 4096,   // "&" in the text is an ordinary character (names of stations and groups)
+  kReadOnly = 8192,   // Edit
 };
+
+// What a header key says about the order of its list.
+enum class SortMark : unsigned char { None, Up, Down };
 
 // Type sizes of the faceplate's one family; Default follows from the kind.
 enum class Type : unsigned char {
@@ -167,7 +174,8 @@ struct FormDesign {
   int titleGroove = 36;                  // y of the groove under the title strip, 0 = none
   std::span<const Layout> layouts = {};  // layout 1, 2 ...; layout 0 is this design itself
   std::span<const KeyRow> keys = {};
-  int firstFocus = 0;  // 0 = the primary key, or the first tab stop
+  int firstFocus = 0;     // 0 = the primary key, or the first tab stop
+  bool draggable = true;  // moved by its background and passive labels
 };
 
 }  // namespace sonaro

@@ -39,7 +39,8 @@ class Painter {
             UINT format = DT_NOPREFIX) const;
   void Text(HDC dc, const RECT& box, std::wstring_view text, Type type, Color color,
             UINT format = DT_NOPREFIX) const;
-  SIZE Measure(std::wstring_view text, Type type, UINT format = DT_NOPREFIX) const;
+  SIZE Measure(std::wstring_view text, Type type, UINT format = DT_NOPREFIX) const;  // of one line
+  int WrappedHeight(std::wstring_view text, Type type, int width) const;
 
   // An icon whose grid is `designSize` wide, its top-left corner at pixel (x, y).
   void DrawIcon(HDC dc, Icon icon, int x, int y, int designSize, Color color) const;
@@ -58,7 +59,7 @@ class Painter {
 };
 
 // An off-screen bitmap that is copied to `target` when it goes out of scope: everything is painted in it, and
-// the screen never shows a half-drawn state. Its coordinates are those of `box`'s top-left corner.
+// the screen never shows a half-drawn state. Its coordinates are those of the target.
 class BufferedPaint {
  public:
   BufferedPaint(HDC target, const RECT& box);

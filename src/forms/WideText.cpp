@@ -1,0 +1,23 @@
+#include "forms/WideText.h"
+
+#include <windows.h>
+
+namespace sonaro {
+
+std::wstring Widen(std::string_view text) {
+  const int bytes = static_cast<int>(text.size());
+  const int count = MultiByteToWideChar(CP_ACP, 0, text.data(), bytes, nullptr, 0);
+  std::wstring wide(static_cast<std::size_t>(count), L'\0');
+  MultiByteToWideChar(CP_ACP, 0, text.data(), bytes, wide.data(), count);
+  return wide;
+}
+
+std::string Narrow(std::wstring_view text) {
+  const int length = static_cast<int>(text.size());
+  const int count = WideCharToMultiByte(CP_ACP, 0, text.data(), length, nullptr, 0, nullptr, nullptr);
+  std::string narrow(static_cast<std::size_t>(count), '\0');
+  WideCharToMultiByte(CP_ACP, 0, text.data(), length, narrow.data(), count, nullptr, nullptr);
+  return narrow;
+}
+
+}  // namespace sonaro
