@@ -6,6 +6,7 @@
 #include "app/CReg.h"
 #include "app/HelpPages.h"
 #include "app/Message.h"
+#include "app/SettingNames.h"
 #include "app/Strings.h"
 #include "base/DataFolder.h"
 #include "base/Text.h"
@@ -39,7 +40,7 @@ bool DataFilesMissing(DataFolder& data) {
 }
 
 bool AskToGetMissingFiles(CReg& reg, const Strings& strings, MessageBoxView& messages, HelpPages& help) {
-  reg.SetSetting("LastUpdate", "");
+  reg.SetSetting(setting::kLastUpdate, "");
   Message message;
   message.key = "MissingDataFilesNeedToDownloadThem";
   message.caption = strings.Load(IDS_FILES_MISSING_CAPTION);

@@ -3,14 +3,13 @@
 #include <string>
 
 #include "app/CReg.h"
+#include "app/SettingNames.h"
 #include "base/DataFolder.h"
 #include "base/Text.h"
 
 namespace sonaro {
 
 namespace {
-
-constexpr const char* kUpdateHold = "UpdateHold";
 
 bool IsPlainFileName(std::string_view name) {
   return !name.empty() && name != "." && name != ".." && name.find_first_of("\\/:") == std::string_view::npos;
@@ -30,7 +29,7 @@ bool SwapInDownloaded(DataFolder& data, std::string_view name) {
 bool IsStationList(std::string_view name) { return EqualIgnoringCase(name, "Station.snr"); }
 
 bool RunDeferredSwap(DataFolder& data, CReg& reg, const std::function<void()>& rebuildStations) {
-  const std::string hold = reg.Setting(kUpdateHold);
+  const std::string hold = reg.Setting(setting::kUpdateHold);
   if (hold.empty()) return false;
   bool rebuilt = false;
   for (std::string_view rest = hold; rest.find('\t') != std::string_view::npos;) {
@@ -41,7 +40,7 @@ bool RunDeferredSwap(DataFolder& data, CReg& reg, const std::function<void()>& r
       rebuilt = true;
     }
   }
-  reg.SetSetting(kUpdateHold, "");
+  reg.SetSetting(setting::kUpdateHold, "");
   return rebuilt;
 }
 

@@ -2,6 +2,7 @@
 
 #include "app/CReg.h"
 #include "app/ServiceHosts.h"
+#include "app/SettingNames.h"
 #include "app/WebPageOpener.h"
 #include "base/Text.h"
 
@@ -9,7 +10,6 @@ namespace sonaro {
 
 namespace {
 
-constexpr const char* kHelpUrl = "HelpURL";
 constexpr std::string_view kDefaultHelpPath = "/sonaroapp/sonaro4vf/apphelp";
 constexpr std::string_view kHelpEdition = "/2/";
 
@@ -44,10 +44,10 @@ std::string_view HelpPageForMessage(std::string_view messageKey) {
 }
 
 void HelpPages::OpenHelpPage(std::string_view page) {
-  std::string address = reg_.Setting(kHelpUrl);
+  std::string address = reg_.Setting(setting::kHelpUrl);
   if (address.empty()) {
     address = ServiceAddress(ServiceHost::Web, kDefaultHelpPath);
-    reg_.SetSetting(kHelpUrl, address);
+    reg_.SetSetting(setting::kHelpUrl, address);
   }
   address.append(kHelpEdition).append(page);
   if (!StartsWithIgnoringCase(address, "http://")) address.insert(0, "http://");

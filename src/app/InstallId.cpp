@@ -4,12 +4,12 @@
 #include <string>
 
 #include "app/CReg.h"
+#include "app/SettingNames.h"
 
 namespace sonaro {
 
 namespace {
 
-constexpr const char* kInstallId = "InstallId";
 constexpr std::size_t kDigits = 32;
 
 std::string RandomDigits() {
@@ -23,7 +23,7 @@ std::string RandomDigits() {
 }  // namespace
 
 void EnsureInstallId(CReg& reg) {
-  if (reg.Setting(kInstallId).empty()) reg.SetSetting(kInstallId, RandomDigits());
+  if (reg.Setting(setting::kInstallId).empty()) reg.SetSetting(setting::kInstallId, RandomDigits());
 }
 
 }  // namespace sonaro

@@ -1,6 +1,7 @@
 #include "app/LiveEventUpdate.h"
 
 #include "app/CReg.h"
+#include "app/SettingNames.h"
 #include "base/DataFolder.h"
 #include "base/Dates.h"
 #include "base/Text.h"
@@ -32,7 +33,7 @@ std::string SaveLiveEventUpdate(std::string_view body, std::string_view shortDat
   const std::string_view stamp = DateStamp(body.substr(0, kHeadLength));
   if (!ParseDate(stamp, shortDatePattern)) return {};
   if (!data.Save("\\eventup.txt", body)) return {};
-  reg.SetSetting("LastEventUpdate", stamp);
+  reg.SetSetting(setting::kLastEventUpdate, stamp);
   return std::string(stamp);
 }
 

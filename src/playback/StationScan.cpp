@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "app/CReg.h"
+#include "app/SettingNames.h"
 #include "app/Strings.h"
 #include "base/Numbers.h"
 #include "base/Text.h"
@@ -15,7 +16,6 @@ namespace sonaro {
 
 namespace {
 
-constexpr const char* kScanTimeSetting = "ScanTime";
 constexpr std::uint64_t kSecond = 1000;  // clock ticks
 constexpr int kFirstReliabilityIcon = 7;
 
@@ -251,14 +251,14 @@ std::string StationScan::TimeLeftText() const {
 
 void StationScan::SetScanTime(int seconds) {
   if (!IsScanTime(seconds)) return;
-  reg_.SetSetting(kScanTimeSetting, std::to_string(seconds));
+  reg_.SetSetting(setting::kScanTime, std::to_string(seconds));
   if (!current_) scanTime_ = seconds;
 }
 
 void StationScan::ReadScanTime() {
-  const std::int64_t seconds = NumberValue(reg_.Setting(kScanTimeSetting));
+  const std::int64_t seconds = NumberValue(reg_.Setting(setting::kScanTime));
   scanTime_ = IsScanTime(seconds) ? static_cast<int>(seconds) : kDefault;
-  if (scanTime_ != seconds) reg_.SetSetting(kScanTimeSetting, std::to_string(scanTime_));
+  if (scanTime_ != seconds) reg_.SetSetting(setting::kScanTime, std::to_string(scanTime_));
 }
 
 void StationScan::ShowState() {
