@@ -1,0 +1,253 @@
+// The small services of the start: data files, files of the last update, help pages, live events.
+#include <gtest/gtest.h>
+
+#include "app/CReg.h"
+#include "app/CheckDataFiles.h"
+#include "app/DeferredSwap.h"
+#include "app/HelpPages.h"
+#include "app/InstallId.h"
+#include "app/LiveEventUpdate.h"
+#include "app/WebPageOpener.h"
+#include "base/DataFolder.h"
+#include "fakes/FakeFiles.h"
+#include "fakes/FakeMessageBox.h"
+#include "fakes/FakeRegistry.h"
+#include "fakes/FakeStrings.h"
+#include "resources/ids.h"
+
+namespace sonaro {
+namespace {
+
+class FakeBrowser : public WebPageOpener {
+ public:
+  std::vector<std::string> opened;
+  void OpenWebPage(const std::string& textOrKey) override { opened.push_back(textOrKey); }
+};
+
+class StartServicesTest : public testing::Test {
+ protected:
+  StartServicesTest() {
+    files_.MakeFolder("/d");
+    registry_.CreateKey(RootKey::LocalMachine, kSettingsKey);
+  }
+  void PutDataFiles() {
+    for (const char* name : {"fun.snr", "Statorg.isd", "Statorg.ism"}) Put(name, "x");
+    Put("cat.snr", "M1\tMusic\tmusic\tA\r\nM2\tTalk\ttalk\tB\r\n");
+    Put("music.snr", "");
+    Put("Talk.snr", "");
+  }
+  void Put(const std::string& name, const std::string& bytes) { files_.Put("/d/" + name, bytes); }
+  std::string Get(const std::string& name) { return files_.Get("/d/" + name).value_or("(none)"); }
+  bool RunSwap(const std::string& hold) {
+    reg_.SetSetting("UpdateHold", hold);
+    return RunDeferredSwap(data_, reg_, [this] { rebuiltFrom_.push_back(Get("station.snr")); });
+  }
+
+  FakeFiles files_;
+  DataFolder data_{files_, "/d", '/'};
+  FakeRegistry registry_;
+  CReg reg_{registry_};
+  FakeBrowser browser_;
+  HelpPages help_{reg_, browser_};
+  FakeStrings strings_;
+  FakeMessageBox messages_;
+  std::vector<std::string> rebuiltFrom_;  // the station list at each rebuild
+};
+
+TEST_F(StartServicesTest, EveryNeededFileIsMissed) {
+  PutDataFiles();
+  EXPECT_FALSE(DataFilesMissing(data_));
+  for (const char* name : {"fun.snr", "Statorg.isd", "Statorg.ism", "cat.snr", "music.snr", "Talk.snr"}) {
+    const std::string bytes = Get(name);
+    files_.Remove(std::string("/d/") + name);
+    EXPECT_TRUE(DataFilesMissing(data_)) << name;
+    Put(name, bytes);
+  }
+}
+
+TEST_F(StartServicesTest, OnlyLinesWithThreeTabsNameAList) {
+  const struct {
+    const char* categories;
+    bool missing;
+  } kCases[] = {
+      {"M1\tMusic\tnone\r\n", false},      {"M1\tMusic\tnone\t\r\n", true},      {"none", false},
+      {"M1\tMusic\tmusic\t1\t2\n", false}, {"\t\tmusic\t\nM\tN\tnone\tP", true}, {"M1\tMusic\t\tA\n", true},
+  };
+  PutDataFiles();
+  for (const auto& c : kCases) {
+    Put("cat.snr", c.categories);
+    EXPECT_EQ(DataFilesMissing(data_), c.missing) << c.categories;
+  }
+}
+
+TEST_F(StartServicesTest, MissingFilesAreFetchedOnlyWhenTheUserSaysSo) {
+  for (const MessageAnswer answer : {MessageAnswer::First, MessageAnswer::Second, MessageAnswer::Closed}) {
+    reg_.SetSetting("LastUpdate", "8/14/2000");
+    browser_.opened.clear();
+    messages_.answers = {{answer, false}};
+    const bool goesOn = AskToGetMissingFiles(reg_, strings_, messages_, help_);
+    EXPECT_EQ(goesOn, answer == MessageAnswer::First);
+    EXPECT_EQ(browser_.opened.size(), goesOn ? 0u : 1u);
+    EXPECT_EQ(reg_.Setting("LastUpdate"), "");
+  }
+  EXPECT_EQ(messages_.asked[0].key, "MissingDataFilesNeedToDownloadThem");
+  EXPECT_EQ(messages_.asked[0].caption, std::to_string(IDS_FILES_MISSING_CAPTION));
+  EXPECT_EQ(messages_.asked[0].firstButton, std::to_string(IDS_FILES_MISSING_GET));
+  EXPECT_TRUE(browser_.opened[0].ends_with("/2/9037.html")) << browser_.opened[0];
+}
+
+TEST_F(StartServicesTest, HelpAddress) {
+  help_.OpenHelpPage("9037.html");
+  EXPECT_EQ(reg_.Setting("HelpURL"), "http://www.sonaro.example/sonaroapp/sonaro4vf/apphelp");
+  for (const char* base : {"help.example/h", "HTTP://help.example", "https://help.example"}) {
+    reg_.SetSetting("HelpURL", base);
+    help_.OpenHelpPage("a.html");
+    EXPECT_EQ(reg_.Setting("HelpURL"), base);
+  }
+  EXPECT_EQ(browser_.opened,
+            (std::vector<std::string>{"http://www.sonaro.example/sonaroapp/sonaro4vf/apphelp/2/9037.html",
+                                      "http://help.example/h/2/a.html", "HTTP://help.example/2/a.html",
+                                      "http://https://help.example/2/a.html"}));
+}
+
+TEST_F(StartServicesTest, SwapPutsCopiesInPlaceAndRebuilds) {
+  Put("Station.snr", "old");
+  Put("tstation.snr", "new");
+  Put("tnew.snr", "n");
+  Put("fun.snr", "old fun");  // no copy of it: stays
+  EXPECT_TRUE(RunSwap("Station.snr\tnew.snr\tfun.snr\t"));
+  EXPECT_EQ(Get("Station.snr"), "new");
+  EXPECT_EQ(Get("new.snr"), "n");
+  EXPECT_EQ(Get("fun.snr"), "old fun");
+  EXPECT_EQ(Get("tstation.snr"), "(none)");
+  EXPECT_EQ(rebuiltFrom_.size(), 1u);
+  EXPECT_EQ(reg_.Setting("UpdateHold"), "");
+  EXPECT_FALSE(RunSwap(""));
+}
+
+TEST_F(StartServicesTest, SwapTakesOnlyPlainNamesThatATabEnds) {
+  const struct {
+    const char* hold;
+    const char* result;
+    std::size_t rebuilds;
+  } kCases[] = {
+      {"a.snr", "old", 0},         {"b.snr\ta.snr", "old", 0},   {"a.snr\t", "new", 0},
+      {"\t\ta.snr\t", "new", 0},   {"x/../a.snr\t", "old", 0},   {"..\\a.snr\t", "old", 0},
+      {"STATION.SNR\t", "old", 1}, {"Station.snr \t", "old", 0},
+  };
+  for (const auto& c : kCases) {
+    Put("a.snr", "old");
+    Put("ta.snr", "new");
+    rebuiltFrom_.clear();
+    EXPECT_EQ(RunSwap(c.hold), c.rebuilds != 0);
+    EXPECT_EQ(Get("a.snr"), c.result) << c.hold;
+    EXPECT_EQ(rebuiltFrom_.size(), c.rebuilds) << c.hold;
+    EXPECT_EQ(reg_.Setting("UpdateHold"), "");
+  }
+}
+
+TEST_F(StartServicesTest, AFileInUseStaysAndTheOthersGoOn) {
+  for (const char* name : {"a.snr", "ta.snr", "b.snr", "tb.snr"}) Put(name, name);
+  files_.Lock("/d/a.snr");
+  RunSwap("a.snr\tb.snr\t");
+  EXPECT_EQ(Get("a.snr"), "a.snr");
+  EXPECT_EQ(Get("ta.snr"), "ta.snr");
+  EXPECT_EQ(Get("b.snr"), "tb.snr");
+  EXPECT_EQ(reg_.Setting("UpdateHold"), "");
+}
+
+// The run dies at any step and the next start runs it again: all files are the new ones, and the last rebuild
+// was made from the new list.
+TEST(DeferredSwapCrash, TheNextStartFinishesIt) {
+  std::vector<std::string> rebuiltFrom;
+  const auto run = [&](FakeFiles& files, CReg& reg) {
+    DataFolder data(files, "/d", '/');
+    RunDeferredSwap(data, reg, [&] {
+      if (!files.Crashed()) rebuiltFrom.push_back(files.Get("/d/Station.snr").value_or("(none)"));
+    });
+  };
+  FakeRegistry registry;
+  CReg reg(registry);
+  registry.CreateKey(RootKey::LocalMachine, kSettingsKey);
+  const int operations = ForEachCrashPoint(
+      [&](FakeFiles& files) {
+        files.Put("/d/Station.snr", "old");
+        files.Put("/d/cat.snr", "old");
+        files.Put("/d/tStation.snr", "new");
+        files.Put("/d/tcat.snr", "new");
+        reg.SetSetting("UpdateHold", "cat.snr\tStation.snr\t");
+        rebuiltFrom.clear();
+      },
+      [&](FakeFiles& files) {
+        run(files, reg);
+        // A process that is dead writes no settings.
+        if (files.Crashed()) reg.SetSetting("UpdateHold", "cat.snr\tStation.snr\t");
+      },
+      [&](FakeFiles& files, const CrashPoint& point) {
+        for (const char* name : {"/d/Station.snr", "/d/cat.snr"}) {
+          const std::string now = files.Get(name).value_or("(none)");
+          EXPECT_TRUE(now == "old" || now == "new") << name << " " << point.operation;
+        }
+        run(files, reg);
+        EXPECT_EQ(files.Get("/d/Station.snr"), "new") << point.operation;
+        EXPECT_EQ(files.Get("/d/cat.snr"), "new") << point.operation;
+        ASSERT_FALSE(rebuiltFrom.empty());
+        EXPECT_EQ(rebuiltFrom.back(), "new");
+      });
+  EXPECT_GE(operations, 2);
+}
+
+constexpr const char* kEnd = "\r\n<<<Cool End Off Live Stuff>>>";
+
+TEST_F(StartServicesTest, LiveEventUpdateIsStoredWhenWhole) {
+  const std::string head = "<<x>>LastLiveUpdate>>8/14/2000 1:30 PM<<LastLiveUpdate>>\r\nevents";
+  const std::string late =
+      std::string(460, 'x') + "LastLiveUpdate>>8/14/2000<<LastLiveUpdate";  // ends at 501
+  const struct {
+    std::string body;
+    const char* stamp;
+  } kCases[] = {
+      {head + kEnd, "8/14/2000 1:30 PM"},
+      {head + "\r\n<<<COOL END OFF LIVE STUFF>>>", "8/14/2000 1:30 PM"},
+      {head + "<<<Cool End Off Live Stuff>>>", ""},
+      {head + "\n<<<Cool End Off Live Stuff>>>", ""},
+      {head + kEnd + "\r\n", ""},
+      {std::string("LastLiveUpdate>>2/30/2000<<LastLiveUpdate") + kEnd, ""},
+      {std::string("LastLiveUpdate>><<LastLiveUpdate") + kEnd, ""},
+      {std::string("LastLiveUpdate>>8/14/2000") + kEnd, ""},
+      {late.substr(1) + kEnd, "8/14/2000"},
+      {late + kEnd, ""},
+      {kEnd, ""},
+      {"", ""},
+  };
+  for (const auto& c : kCases) {
+    files_.Remove("/d/eventup.txt");
+    reg_.SetSetting("LastEventUpdate", "before");
+    const std::string stamp = c.stamp;
+    EXPECT_EQ(SaveLiveEventUpdate(c.body, "M/d/yyyy", data_, reg_), stamp) << c.body;
+    EXPECT_EQ(Get("eventup.txt"), stamp.empty() ? "(none)" : c.body);
+    EXPECT_EQ(reg_.Setting("LastEventUpdate"), stamp.empty() ? "before" : stamp);
+  }
+}
+
+TEST_F(StartServicesTest, LiveEventUpdateThatCannotBeWrittenChangesNothing) {
+  files_.SetSpaceLeft(10);
+  const std::string body = std::string("LastLiveUpdate>>8/14/2000<<LastLiveUpdate") + kEnd;
+  EXPECT_EQ(SaveLiveEventUpdate(body, "M/d/yyyy", data_, reg_), "");
+  EXPECT_EQ(reg_.Setting("LastEventUpdate"), "");
+}
+
+TEST_F(StartServicesTest, InstallIdIsMadeOnce) {
+  EnsureInstallId(reg_);
+  const std::string id = reg_.Setting("InstallId");
+  EXPECT_EQ(id.size(), 32u);
+  EXPECT_EQ(id.find_first_not_of("0123456789abcdef"), std::string::npos);
+  EnsureInstallId(reg_);
+  EXPECT_EQ(reg_.Setting("InstallId"), id);
+  reg_.SetSetting("InstallId", "");
+  EnsureInstallId(reg_);
+  EXPECT_NE(reg_.Setting("InstallId"), id);
+}
+
+}  // namespace
+}  // namespace sonaro
