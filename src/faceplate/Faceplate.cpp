@@ -1,0 +1,60 @@
+#include "faceplate/Faceplate.h"
+
+#include "app/CReg.h"
+#include "base/DataFolder.h"
+#include "base/Text.h"
+
+namespace sonaro {
+namespace {
+
+constexpr const char* kNameSetting = "FacePlateName";
+constexpr std::string_view kFolder = "\\Depot\\";
+
+BuiltInFaceplate DefaultsFor(std::string_view name) {
+  const std::string_view porcelain = kBuiltInNames[static_cast<std::size_t>(BuiltInFaceplate::Porcelain)];
+  return EqualIgnoringCase(name, porcelain) ? BuiltInFaceplate::Porcelain : BuiltInFaceplate::Graphite;
+}
+
+}  // namespace
+
+Faceplate::Faceplate(CReg& settings, const DataFolder& folder)
+    : settings_(settings), folder_(folder), name_(kBuiltInNames.front()) {
+  SetBase(BuiltInColors(BuiltInFaceplate::Graphite));
+}
+
+void Faceplate::Load() {
+  name_ = settings_.Setting(kNameSetting);
+  if (name_.empty()) name_ = kBuiltInNames.front();
+  BaseColors base = BuiltInColors(DefaultsFor(name_));
+  for (const ColorSetting& setting : ColorSettings()) {
+    const auto stored = ParseColor(settings_.Setting(setting.name));
+    if (stored) base.*setting.member = *stored;
+  }
+  SetBase(base);
+}
+
+void Faceplate::Choose(BuiltInFaceplate faceplate) {
+  name_ = kBuiltInNames[static_cast<std::size_t>(faceplate)];
+  const BaseColors base = BuiltInColors(faceplate);
+  settings_.SetSetting(kNameSetting, name_);
+  for (const ColorSetting& setting : ColorSettings())
+    settings_.SetSetting(setting.name, FormatColor(base.*setting.member));
+  SetBase(base);
+}
+
+void Faceplate::SetBase(const BaseColors& base) {
+  own_ = DeriveColors(base);
+  if (!shown_.highContrast) shown_ = own_;
+}
+
+void Faceplate::UseHighContrast(const std::function<Color(SystemColor)>& systemColor) {
+  shown_ = HighContrastColors(systemColor);
+}
+
+void Faceplate::EndHighContrast() { shown_ = own_; }
+
+std::string Faceplate::FilePath(std::string_view fileName) const {
+  return folder_.Path(std::string(kFolder).append(fileName));
+}
+
+}  // namespace sonaro

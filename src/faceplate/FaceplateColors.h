@@ -1,0 +1,94 @@
+// The colours that every window is drawn in: twenty that a faceplate chooses and keeps in the settings store, and
+// those derived from them by fixed mixes, so that a new faceplate needs the twenty only. Pure values; the
+// current set belongs to Faceplate.
+#pragma once
+
+#include <array>
+#include <functional>
+#include <span>
+#include <string_view>
+
+#include "faceplate/Color.h"
+
+namespace sonaro {
+
+// What a faceplate chooses. Every name is the colour's job, never its hue.
+struct BaseColors {
+  Color plate;      // face of the windows behind the keys
+  Color plateTop;   // upper end of a window's gradient
+  Color plateBottom;
+  Color outline;    // outermost line of windows and edges of keys
+  Color milled;     // light line inside the outline
+  Color groove;     // dark line of an engraved groove
+  Color frame;      // around lists, trees and edits
+  Color muted;      // secondary text on plate and glass, icons at rest
+  Color zebra;      // every second row of a list
+  Color focus;      // keyboard focus line
+  Color accent;     // says "here": active tab, selected row, primary key
+  Color onAccent;   // text and icons on accent
+  Color signal;     // says "how much": rating ticks, reliability bars, progress
+  Color alert;      // says "not well": unreliable station, error, overdue notice
+  Color key;        // face of an enabled key
+  Color keyOff;     // face of a disabled key
+  Color glass;      // ground of lists, trees, edits and readouts
+  Color tabText;    // active tab, headings, active toggles
+  Color text;       // on plate and on keys
+  Color glassText;  // on glass
+  friend bool operator==(const BaseColors&, const BaseColors&) = default;
+};
+
+struct FaceplateColors : BaseColors {
+  Color keyTop, keyBottom;  // gradient of a key at rest
+  Color keyHigh;            // light line under a key's upper edge
+  Color keyHover, keyDown;
+  Color keyMuted;  // secondary text on a key
+  Color keyOn;     // face of an active toggle
+  Color keyOnLow;  // lower end of the lit tab's gradient, which begins with glass
+  Color textOff;   // text and icon of a disabled control
+  Color edgeOff;   // edge of a disabled key
+  Color accentTop, accentBottom, accentHover, accentDown;
+  Color rowSelected, rowSelectedOff;  // with and without the keyboard focus in the list
+  Color rowSelectedText;              // on rowSelected; glassText except in high contrast
+  Color rowHover;
+  Color hair;     // hairlines on glass
+  Color tickOff;  // unlit ticks and bars
+  Color thumb, thumbHover;
+  Color socket;        // floor of an empty group key
+  Color milledSoft;    // light line of a groove
+  Color milledInner;   // second line inside the window outline
+  Color edgeControl;   // edge of check boxes and radio buttons
+  Color glassMuted;    // secondary text on glass
+  bool highContrast = false;
+};
+
+// One of the twenty: its setting's name, its place, and its value in the two built-in faceplates.
+struct ColorSetting {
+  const char* name;
+  Color BaseColors::*member;
+  Color graphite;
+  Color porcelain;
+};
+std::span<const ColorSetting> ColorSettings();
+
+enum class BuiltInFaceplate { Graphite, Porcelain };
+inline constexpr std::array<const char*, 2> kBuiltInNames = {"Graphite", "Porcelain"};
+BaseColors BuiltInColors(BuiltInFaceplate faceplate);
+
+FaceplateColors DeriveColors(const BaseColors& base);
+
+// The colours of the system that a high-contrast theme sets; the values are the platform's indexes.
+enum class SystemColor : int {
+  Window = 5,
+  WindowText = 8,
+  Highlight = 13,
+  HighlightText = 14,
+  ButtonFace = 15,
+  ButtonText = 18,
+  HotLight = 26
+};
+
+// The colours to draw with while the system runs a high-contrast theme: taken from the theme, never mixed
+// further than needed, selected rows in the theme's own pair.
+FaceplateColors HighContrastColors(const std::function<Color(SystemColor)>& systemColor);
+
+}  // namespace sonaro

@@ -1,0 +1,67 @@
+#include "faceplate/Shape.h"
+
+#include <cmath>
+#include <cstdint>
+#include <string>
+
+#include "base/DataFolder.h"
+#include "base/Numbers.h"
+#include "base/Text.h"
+
+namespace sonaro {
+namespace {
+
+constexpr std::string_view kFile = "\\Depot\\sshape.pts";
+constexpr std::size_t kNumberWidth = 5;
+constexpr std::size_t kGroupWidth = 2 * kNumberWidth;
+constexpr double kDesignTwips = 15.0;
+
+// The number in the five characters from `position`; 0 past the end and for what is no number.
+int NumberAt(std::string_view points, std::size_t position) {
+  if (position >= points.size()) return 0;
+  const std::string_view text = points.substr(position, kNumberWidth);
+  return IsNumeric(text) ? static_cast<int>(NumberValue(text)) : 0;
+}
+
+int Scaled(int value, double twips) { return static_cast<int>(std::nearbyint(value * kDesignTwips / twips)); }
+
+}  // namespace
+
+std::string_view OutlineLine(std::string_view fileText, std::string_view key) {
+  std::string_view last;
+  for (const std::string_view line : SplitLines(fileText)) {
+    if (line.starts_with(key)) return line;
+    last = line;
+  }
+  return last;
+}
+
+Outline ParseOutline(std::string_view line) {
+  const std::size_t equals = line.find('=');
+  if (equals == std::string_view::npos) return {};
+  const std::string_view points = line.substr(equals + 1);
+  if (points.empty()) return {};
+  const double highest = std::nearbyint(static_cast<double>(points.size()) / kGroupWidth - 1.0);
+  Outline outline;
+  for (std::size_t i = 0; static_cast<double>(i) <= highest; ++i) {
+    const std::size_t start = i * kGroupWidth;
+    outline.push_back({NumberAt(points, start), NumberAt(points, start + kNumberWidth)});
+  }
+  return outline;
+}
+
+Outline ScaleOutline(const Outline& outline, TwipsPerPixel twips) {
+  Outline scaled;
+  scaled.reserve(outline.size());
+  for (const ShapePoint point : outline)
+    scaled.push_back({Scaled(point.x, twips.x), Scaled(point.y, twips.y)});
+  return scaled;
+}
+
+Shape::Result Shape::OutlineOf(std::string_view key, TwipsPerPixel twips) const {
+  const ReadResult file = folder_.Read(kFile);
+  if (file.status != ReadStatus::Ok) return {};
+  return {Status::Ok, ScaleOutline(ParseOutline(OutlineLine(file.bytes, key)), twips)};
+}
+
+}  // namespace sonaro
