@@ -1,4 +1,5 @@
-// One opaque colour, its arithmetic and its text form. Pure values: window code turns them into the platform's.
+// One opaque colour, its arithmetic and its text form. Pure values: window code turns them into the
+// platform's.
 #pragma once
 
 #include <cstdint>

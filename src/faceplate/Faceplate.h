@@ -17,7 +17,6 @@ class DataFolder;
 inline constexpr const char* kClickSound = "xdf53.wav";
 inline constexpr const char* kNotifySound = "gdf55.wav";
 
-
 class Faceplate {
  public:
   // Starts as Graphite; Load reads the settings.

@@ -1,5 +1,5 @@
-// The colours that every window is drawn in: twenty that a faceplate chooses and keeps in the settings store, and
-// those derived from them by fixed mixes, so that a new faceplate needs the twenty only. Pure values; the
+// The colours that every window is drawn in: twenty that a faceplate chooses and keeps in the settings store,
+// and those derived from them by fixed mixes, so that a new faceplate needs the twenty only. Pure values; the
 // current set belongs to Faceplate.
 #pragma once
 
@@ -14,8 +14,8 @@ namespace sonaro {
 
 // What a faceplate chooses. Every name is the colour's job, never its hue.
 struct BaseColors {
-  Color plate;      // face of the windows behind the keys
-  Color plateTop;   // upper end of a window's gradient
+  Color plate;     // face of the windows behind the keys
+  Color plateTop;  // upper end of a window's gradient
   Color plateBottom;
   Color outline;    // outermost line of windows and edges of keys
   Color milled;     // light line inside the outline
@@ -53,11 +53,11 @@ struct FaceplateColors : BaseColors {
   Color hair;     // hairlines on glass
   Color tickOff;  // unlit ticks and bars
   Color thumb, thumbHover;
-  Color socket;        // floor of an empty group key
-  Color milledSoft;    // light line of a groove
-  Color milledInner;   // second line inside the window outline
-  Color edgeControl;   // edge of check boxes and radio buttons
-  Color glassMuted;    // secondary text on glass
+  Color socket;       // floor of an empty group key
+  Color milledSoft;   // light line of a groove
+  Color milledInner;  // second line inside the window outline
+  Color edgeControl;  // edge of check boxes and radio buttons
+  Color glassMuted;   // secondary text on glass
   bool highContrast = false;
 };
 

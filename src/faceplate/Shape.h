@@ -24,13 +24,14 @@ struct TwipsPerPixel {
   static TwipsPerPixel OfDpi(int dpi) { return {1440.0 / dpi, 1440.0 / dpi}; }
 };
 
-// The line of the point file that begins with `key` (letter case counts); the file's last line when none does;
+// The line of the point file that begins with `key` (letter case counts); the file's last line when none
+// does;
 // "" for an empty file.
 std::string_view OutlineLine(std::string_view fileText, std::string_view key);
 
 // The points of one line "key=xxxxxyyyyyxxxxxyyyyy...": five characters a number. The highest index is
-// length / 10 - 1 rounded to nearest (ties to even), so an incomplete last group may count; what it lacks is 0.
-// A number that cannot be read is 0.
+// length / 10 - 1 rounded to nearest (ties to even), so an incomplete last group may count; what it lacks is
+// 0. A number that cannot be read is 0.
 Outline ParseOutline(std::string_view line);
 
 // Points made for 96 dots per inch, scaled to the screen and rounded to nearest (ties to even).
