@@ -6,6 +6,7 @@
 
 #include <cstdint>
 #include <memory>
+#include <string>
 #include <vector>
 
 #include "directory/EventRecord.h"
@@ -14,6 +15,7 @@
 namespace sonaro {
 
 class DataFolder;
+class Vmx;
 
 enum class EventSet { Current, Coming };  // "\Eventorg", "\Eventorg2"
 
@@ -45,8 +47,11 @@ class EvList {
   std::vector<EventRecord> AllEvents(EventSet set);
 
  private:
-  class Implementation;
-  std::unique_ptr<Implementation> implementation_;
+  std::string PathOf(EventSet set) const;
+
+  DataFolder& data_;
+  std::unique_ptr<Vmx> vmx_;
+  TableStatus status_ = TableStatus::Success;
 };
 
 }  // namespace sonaro

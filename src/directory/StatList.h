@@ -17,6 +17,7 @@
 namespace sonaro {
 
 class DataFolder;
+class Vmx;
 
 class StatList {
  public:
@@ -61,8 +62,14 @@ class StatList {
   bool Verify();
 
  private:
-  class Implementation;
-  std::unique_ptr<Implementation> implementation_;
+  std::vector<std::int32_t> Search(Handle handle, std::string_view text, bool allWords);
+  std::vector<StationRecord> GetAll(Handle handle, std::span<const std::int32_t> ids);
+  template <typename Operation>
+  auto WithTable(Operation operation) -> decltype(operation(Handle{}));
+
+  DataFolder& data_;
+  std::unique_ptr<Vmx> vmx_;
+  TableStatus status_ = TableStatus::Success;
 };
 
 }  // namespace sonaro

@@ -7,10 +7,18 @@ namespace sonaro {
 
 enum class TableStatus : std::int16_t {
   Success = 0,
+  BadCall = 1,           // no such handle, not a key, not a definition, or the table is not open for writing
   ReplacedExisting = 2,  // stored over a record with the same key
+  NotWritten = 3,        // a new generation could not be written; the table is as it was
   NotFound = 4,          // no such key, or no further record
-  NoTable = 9,           // the table's files are missing or could not be opened
-  Damaged = 11           // the files do not fit together or fail their checks
+  NoMemory = 7,
+  NoTable = 9,  // the table's files are missing or could not be opened
+  Damaged = 11  // the files do not fit together or fail their checks
 };
+
+// Whether a put with this status stored its record.
+constexpr bool Stored(TableStatus status) {
+  return status == TableStatus::Success || status == TableStatus::ReplacedExisting;
+}
 
 }  // namespace sonaro

@@ -1,0 +1,53 @@
+#include "directory/LineReader.h"
+
+#include <algorithm>
+#include <cstring>
+
+#include "directory/ByteScan.h"
+
+namespace sonaro {
+namespace {
+
+constexpr std::size_t kBufferSize = 256 * 1024;
+
+}  // namespace
+
+bool LineReader::Next(std::string_view& line) {
+  std::size_t searched = 0;
+  for (;;) {
+    const std::string_view rest(buffer_.data() + begin_, end_ - begin_);
+    const std::size_t length = searched + FindByte(rest.substr(searched), '\n');
+    if (length < rest.size()) {
+      line = rest.substr(0, length);
+      begin_ += length + 1;
+      return true;
+    }
+    if (Fill()) {
+      searched = length;
+      continue;
+    }
+    line = rest;
+    begin_ = end_;
+    return !failed_ && !line.empty();
+  }
+}
+
+// Reads on behind what is still to be given out. False at the end of the file and after a failure.
+bool LineReader::Fill() {
+  const auto left = static_cast<std::size_t>(std::min<std::uint64_t>(file_.Size() - position_, kBufferSize));
+  if (left == 0 || failed_) return false;
+  if (begin_ != 0) std::memmove(buffer_.data(), buffer_.data() + begin_, end_ - begin_);
+  end_ -= begin_;
+  begin_ = 0;
+  if (buffer_.size() - end_ < left) buffer_.resize(std::max(end_ + left, 2 * buffer_.size()));
+  failed_ = !file_.ReadAt(position_, buffer_.data() + end_, left);
+  if (failed_) return false;
+  const bool marked =
+      position_ == 0 && std::string_view(buffer_.data(), left).starts_with(kByteOrderMarkUtf8);
+  if (marked) begin_ = kByteOrderMarkUtf8.size();
+  end_ += left;
+  position_ += left;
+  return true;
+}
+
+}  // namespace sonaro

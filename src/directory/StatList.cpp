@@ -1,0 +1,129 @@
+#include "directory/StatList.h"
+
+#include <new>
+
+#include "base/DataFolder.h"
+#include "directory/StationListFile.h"
+#include "directory/StationSearch.h"
+#include "directory/TablePath.h"
+#include "directory/Vmx.h"
+
+namespace sonaro {
+namespace {
+
+constexpr std::string_view kTableName = "\\statorg";
+constexpr std::string_view kListName = "\\station.snr";
+
+}  // namespace
+
+StatList::StatList(DataFolder& data) : data_(data), vmx_(std::make_unique<Vmx>(data.FileSystem())) {}
+
+StatList::~StatList() = default;
+
+TableStatus StatList::LastStatus() const { return status_; }
+
+bool StatList::CreateStationTable(std::string_view fileName) {
+  status_ = vmx_->VmxCreate(TablePath(data_, fileName), kStationTableDefinition, kSearchedStationFields);
+  return status_ == TableStatus::Success;
+}
+
+StatList::Handle StatList::OpenStationTable(std::string_view fileName, OpenMode mode) {
+  const Handle handle = vmx_->VmxOpen(TablePath(data_, fileName),
+                                      mode == OpenMode::Write ? VmxOpenMode::Write : VmxOpenMode::Read);
+  status_ = vmx_->LastStatus();
+  return handle;
+}
+
+void StatList::CloseStationTable(Handle handle) {
+  if (handle != 0) status_ = vmx_->VmxClose(handle);
+}
+
+StationRecord StatList::GetStation(Handle handle, std::int32_t stationId) {
+  StationRecord record;
+  if (handle == 0) return record;
+  status_ =
+      vmx_->VmxGet(handle, std::to_string(stationId), VmxReadMode::Key, record.StationId, record.fields);
+  return record;
+}
+
+bool StatList::PutStation(Handle handle, const StationRecord& record) {
+  if (record.Empty()) return true;
+  status_ = vmx_->VmxPut(handle, std::to_string(record.StationId), record.fields);
+  return Stored(status_);
+}
+
+bool StatList::RebuildStationTable() {
+  try {
+    status_ = BuildStationTable(data_.FileSystem(), data_.Path(kListName), TablePath(data_, kTableName));
+  } catch (const std::bad_alloc&) {
+    status_ = TableStatus::NoMemory;
+  }
+  return status_ == TableStatus::Success;
+}
+
+// Opens the station table for one operation, whose status stays the last one. Without a table, or without
+// memory for the result, the result is empty.
+template <typename Operation>
+auto StatList::WithTable(Operation operation) -> decltype(operation(Handle{})) {
+  decltype(operation(Handle{})) result{};
+  const Handle handle = OpenStationTable(kTableName, OpenMode::Read);
+  if (handle == 0) return result;
+  try {
+    result = operation(handle);
+  } catch (const std::bad_alloc&) {
+    status_ = TableStatus::NoMemory;
+  }
+  vmx_->VmxClose(handle);
+  return result;
+}
+
+std::vector<StationRecord> StatList::GetAll(Handle handle, std::span<const std::int32_t> ids) {
+  std::vector<StationRecord> records;
+  records.reserve(ids.size());
+  for (const std::int32_t id : ids) {
+    StationRecord record = GetStation(handle, id);
+    if (status_ == TableStatus::Success) records.push_back(std::move(record));
+    if (status_ != TableStatus::Success && status_ != TableStatus::NotFound) return records;
+  }
+  if (status_ == TableStatus::NotFound)
+    status_ = TableStatus::Success;  // an unknown identifier is no failure here
+  return records;
+}
+
+std::vector<StationRecord> StatList::GetStations(std::span<const std::int32_t> ids) {
+  return WithTable([&](Handle handle) { return GetAll(handle, ids); });
+}
+
+StationRecord StatList::FindStation(std::int32_t stationId) {
+  return WithTable([&](Handle handle) { return GetStation(handle, stationId); });
+}
+
+std::vector<std::int32_t> StatList::Search(Handle handle, std::string_view text, bool allWords) {
+  std::vector<std::int32_t> ids;
+  const TableImage* const image = vmx_->SearchImage(handle);
+  status_ = vmx_->LastStatus();
+  if (!image) return ids;
+  const std::vector<std::uint32_t> found = FindRecords(image->Column(), SearchWords(text), allWords);
+  ids.reserve(found.size());
+  for (const std::uint32_t index : found) ids.push_back(image->KeyAt(index));
+  return ids;
+}
+
+std::vector<std::int32_t> StatList::SearchStationIds(std::string_view text, bool allWords) {
+  return WithTable([&](Handle handle) { return Search(handle, text, allWords); });
+}
+
+std::vector<StationRecord> StatList::SearchStations(std::string_view text, bool allWords) {
+  return WithTable([&](Handle handle) { return GetAll(handle, Search(handle, text, allWords)); });
+}
+
+std::uint32_t StatList::StationCount() {
+  return WithTable([&](Handle handle) { return vmx_->RecordCount(handle); });
+}
+
+bool StatList::Verify() {
+  status_ = vmx_->Verify(TablePath(data_, kTableName));
+  return status_ == TableStatus::Success;
+}
+
+}  // namespace sonaro

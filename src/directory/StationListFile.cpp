@@ -1,0 +1,140 @@
+#include "directory/StationListFile.h"
+
+#include <algorithm>
+#include <array>
+#include <limits>
+#include <memory>
+#include <optional>
+#include <vector>
+
+#include "base/DataFolder.h"
+#include "base/Numbers.h"
+#include "directory/ByteScan.h"
+#include "directory/LineReader.h"
+#include "directory/TableWriter.h"
+
+namespace sonaro {
+namespace {
+
+// Most identifiers are a few digits and nothing else; the general rule decides about the others.
+bool ParseIdentifier(std::string_view text, std::int32_t& id) {
+  constexpr std::size_t kDigitsThatFit = 9;
+  const bool digits = std::all_of(text.begin(), text.end(), [](char c) { return c >= '0' && c <= '9'; });
+  if (!digits || text.empty() || text.size() > kDigitsThatFit) return ParseStationId(text, id);
+  id = 0;
+  for (const char c : text) id = id * 10 + (c - '0');
+  return true;
+}
+
+enum class Pass { Complete, OutOfOrder, Failed };
+
+// Copies the list to the table line by line, as long as its identifiers ascend.
+Pass AppendInOrder(InputFile& list, TableWriter& writer) {
+  LineReader lines(list);
+  std::string_view line;
+  StationLine station;
+  std::int64_t last = std::numeric_limits<std::int64_t>::min();
+  while (lines.Next(line)) {
+    if (!ParseStationLine(line, station)) continue;
+    if (station.id <= last) return Pass::OutOfOrder;
+    if (!writer.Append(station.id, station.text)) return Pass::Failed;
+    last = station.id;
+  }
+  return lines.Failed() ? Pass::Failed : Pass::Complete;
+}
+
+// A station's place in the list: the identifier in the upper half, so that larger numbers stand for larger
+// identifiers, and the position of its line in the lower.
+using Place = std::uint64_t;
+
+constexpr std::uint32_t kSignBit = 0x80000000u;
+
+Place PlaceOf(std::int32_t id, std::uint32_t position) {
+  return Place{static_cast<std::uint32_t>(id) ^ kSignBit} << 32 | position;
+}
+std::uint32_t KeyBits(Place place) { return static_cast<std::uint32_t>(place >> 32); }
+std::uint32_t PositionOf(Place place) { return static_cast<std::uint32_t>(place); }
+
+// Sorts by the identifier and keeps the order of places with the same one.
+void SortById(std::vector<Place>& places) {
+  constexpr unsigned kBits = 11;
+  constexpr std::size_t kBuckets = std::size_t{1} << kBits;
+  std::vector<Place> sorted(places.size());
+  for (unsigned shift = 0; shift < 32; shift += kBits) {
+    const auto bucketOf = [shift](Place place) { return (KeyBits(place) >> shift) % kBuckets; };
+    std::array<std::size_t, kBuckets + 1> starts{};
+    for (const Place place : places) ++starts[bucketOf(place) + 1];
+    for (std::size_t bucket = 0; bucket < kBuckets; ++bucket) starts[bucket + 1] += starts[bucket];
+    for (const Place place : places) sorted[starts[bucketOf(place)]++] = place;
+    places.swap(sorted);
+  }
+}
+
+std::string_view LineAt(std::string_view list, std::size_t position) {
+  const std::string_view rest = list.substr(position);
+  return rest.substr(0, FindByte(rest, '\n'));
+}
+
+std::vector<Place> PlacesIn(std::string_view list) {
+  std::vector<Place> places;
+  StationLine station;
+  std::size_t position = list.starts_with(kByteOrderMarkUtf8) ? kByteOrderMarkUtf8.size() : 0;
+  while (position < list.size()) {
+    const std::string_view line = LineAt(list, position);
+    if (ParseStationLine(line, station)) {
+      places.push_back(PlaceOf(station.id, static_cast<std::uint32_t>(position)));
+    }
+    position += line.size() + 1;
+  }
+  return places;
+}
+
+// Copies a list in any order to the table, which takes the whole list in memory.
+Pass AppendSorted(std::string_view list, TableWriter& writer) {
+  if (list.size() > kLargestText) return Pass::Failed;
+  std::vector<Place> places = PlacesIn(list);
+  SortById(places);
+  constexpr std::size_t kAhead = 16;  // lines whose bytes are asked for before they are needed
+  StationLine station;
+  for (std::size_t i = 0; i < places.size(); ++i) {
+    if (i + kAhead < places.size()) Prefetch(list.data() + PositionOf(places[i + kAhead]));
+    if (i + 1 < places.size() && KeyBits(places[i]) == KeyBits(places[i + 1]))
+      continue;  // a later line counts
+    ParseStationLine(LineAt(list, PositionOf(places[i])), station);
+    if (!writer.Append(station.id, station.text)) return Pass::Failed;
+  }
+  return Pass::Complete;
+}
+
+Pass AppendStations(Files& files, const std::string& listPath, std::optional<TableWriter>& writer,
+                    const std::string& tablePath) {
+  const TableDefinition definition = *ParseDefinition(kStationTableDefinition, kSearchedStationFields);
+  {
+    const std::unique_ptr<InputFile> list = files.Open(listPath);
+    if (!list) return Pass::Failed;
+    writer.emplace(files, tablePath, definition);
+    const Pass pass = AppendInOrder(*list, *writer);
+    if (pass != Pass::OutOfOrder) return pass;
+  }
+  writer.emplace(files, tablePath, definition);
+  const ReadResult list = ReadWholeFile(files, listPath);
+  return list.status == ReadStatus::Ok ? AppendSorted(list.bytes, *writer) : Pass::Failed;
+}
+
+}  // namespace
+
+bool ParseStationLine(std::string_view line, StationLine& station) {
+  if (line.ends_with('\r')) line.remove_suffix(1);
+  const std::size_t end = FindByte(line, kFieldSeparator);
+  station.text = line.substr(std::min(end + 1, line.size()));
+  return ParseIdentifier(line.substr(0, end), station.id) && station.id != 0;
+}
+
+TableStatus BuildStationTable(Files& files, const std::string& listPath, const std::string& tablePath) {
+  std::optional<TableWriter> writer;
+  const bool written = AppendStations(files, listPath, writer, tablePath) == Pass::Complete &&
+                       writer->Finish() && writer->PutInPlace();
+  return written ? TableStatus::Success : TableStatus::NotWritten;
+}
+
+}  // namespace sonaro

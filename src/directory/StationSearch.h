@@ -1,0 +1,24 @@
+// The search for words in the station directory: one pass over the folded search column of a table, whatever
+// the number of stations that match. Owns nothing; StatList hands in the column.
+#pragma once
+
+#include <cstdint>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "directory/TableImage.h"
+
+namespace sonaro {
+
+inline constexpr std::size_t kMostSearchWords = 100;
+
+// What stands between single blanks, at most kMostSearchWords words. Runs of blanks give no words.
+std::vector<std::string> SearchWords(std::string_view text);
+
+// The indices, ascending, of the records in which all words, or any word, occur. A word occurs when it stands
+// anywhere in one of the searched fields, letter case ignored. No words match no record.
+std::vector<std::uint32_t> FindRecords(const SearchColumn& column, const std::vector<std::string>& words,
+                                       bool allWords);
+
+}  // namespace sonaro

@@ -1,0 +1,78 @@
+#include "directory/TableFiles.h"
+
+#include <optional>
+#include <string_view>
+
+namespace sonaro {
+namespace {
+
+template <typename Header>
+std::optional<Header> ReadHeader(InputFile& file,
+                                 std::optional<Header> (*parse)(std::string_view, std::uint64_t)) {
+  char bytes[sizeof(Header)];
+  if (!file.ReadAt(0, bytes, sizeof bytes)) return {};
+  return parse({bytes, sizeof bytes}, file.Size());
+}
+
+// Opens the index at `path` when it fits the data file that is open already.
+bool OpenIndex(Files& files, const std::string& path, TableFiles& opened) {
+  opened.index = files.Open(path);
+  if (!opened.index) return false;
+  const auto header = ReadHeader(*opened.index, &ParseIndexHeader);
+  if (!header || !Fit(opened.dataHeader, *header)) return false;
+  opened.indexHeader = *header;
+  return true;
+}
+
+}  // namespace
+
+TablePaths TablePaths::Of(const std::string& path) {
+  return {path + std::string(kDataExtension), path + std::string(kIndexExtension)};
+}
+
+TablePaths TablePaths::NeighboursOf(const std::string& path) {
+  TablePaths paths = Of(path);
+  paths.data += kNeighbourExtension;
+  paths.index += kNeighbourExtension;
+  return paths;
+}
+
+TableStatus OpenTableFiles(Files& files, const std::string& path, TableFiles& opened) {
+  const TablePaths paths = TablePaths::Of(path);
+  opened = {};
+  opened.data = files.Open(paths.data);
+  if (!opened.data) return TableStatus::NoTable;
+  const auto header = ReadHeader(*opened.data, &ParseDataHeader);
+  if (!header) return files.Exists(paths.index) ? TableStatus::Damaged : TableStatus::NoTable;
+  opened.dataHeader = *header;
+  if (OpenIndex(files, paths.index, opened)) return TableStatus::Success;
+
+  const bool hasIndex = opened.index != nullptr;
+  const std::string neighbour = TablePaths::NeighboursOf(path).index;
+  if (!OpenIndex(files, neighbour, opened)) return hasIndex ? TableStatus::Damaged : TableStatus::NoTable;
+  // An open file cannot be renamed everywhere; where renaming is refused the neighbour serves as it is.
+  opened.index.reset();
+  const bool renamed = files.Replace(neighbour, paths.index, Durability::Cached);
+  return OpenIndex(files, renamed ? paths.index : neighbour, opened) ? TableStatus::Success
+                                                                     : TableStatus::Damaged;
+}
+
+bool SwapInNeighbours(Files& files, const std::string& path) {
+  const TablePaths paths = TablePaths::Of(path);
+  const TablePaths neighbours = TablePaths::NeighboursOf(path);
+  if (!files.Replace(neighbours.data, paths.data, Durability::Cached)) return false;
+  files.Replace(neighbours.index, paths.index, Durability::Cached);
+  return true;
+}
+
+bool RemoveTableFiles(Files& files, const std::string& path) {
+  const TablePaths paths = TablePaths::Of(path);
+  const TablePaths neighbours = TablePaths::NeighboursOf(path);
+  // The neighbours first: otherwise a crash in between could bring back what was to be removed.
+  bool removed = files.Remove(neighbours.index);
+  removed = files.Remove(neighbours.data) && removed;
+  removed = files.Remove(paths.index) && removed;
+  return files.Remove(paths.data) && removed;
+}
+
+}  // namespace sonaro

@@ -1,0 +1,131 @@
+#include "directory/TableImage.h"
+
+#include <algorithm>
+
+#include "directory/BlockWriter.h"
+
+namespace sonaro {
+namespace {
+
+constexpr std::size_t kPageBytes = (kPageEntries + 1) * sizeof(Entry);
+constexpr std::size_t kDataChunk = 4096;
+
+bool KeyIsLess(std::int32_t key, const PageItem& item) { return key < item.firstKey; }
+
+}  // namespace
+
+TableImage::TableImage(const IndexHeader& header)
+    : header_(header),
+      layout_(LayoutOf(header)),
+      checkedPages_(layout_.pageCount),
+      entries_(layout_.pages, static_cast<std::size_t>(layout_.directory - layout_.pages), kPageBytes),
+      data_(sizeof(DataHeader), static_cast<std::size_t>(header.dataFileSize - sizeof(DataHeader)),
+            kDataChunk) {}
+
+TableStatus TableImage::LoadDirectory(TableFiles& files) {
+  directory_.resize(layout_.pageCount);
+  char* const bytes = reinterpret_cast<char*>(directory_.data());
+  const std::size_t size = directory_.size() * sizeof(PageItem);
+  if (!files.index->ReadAt(layout_.directory, bytes, size)) return TableStatus::Damaged;
+  return Checksum({bytes, size}) == header_.directoryCheck ? TableStatus::Success : TableStatus::Damaged;
+}
+
+std::uint32_t TableImage::EntriesIn(std::uint32_t page) const {
+  return std::min(kPageEntries, header_.recordCount - page * kPageEntries);
+}
+
+// Of a record whose page is loaded.
+const Entry& TableImage::EntryAt(std::uint32_t index) const {
+  const std::size_t place = std::size_t{index} + index / kPageEntries;  // an entry more after every page
+  return reinterpret_cast<const Entry*>(entries_.Loaded())[place];
+}
+
+TableStatus TableImage::LoadPage(TableFiles& files, std::uint32_t page) {
+  if (checkedPages_[page]) return TableStatus::Success;
+  const std::size_t size = (EntriesIn(page) + 1) * sizeof(Entry);
+  const char* const bytes = entries_.Get(*files.index, page * kPageBytes, size);
+  if (!bytes || Checksum({bytes, size}) != directory_[page].check ||
+      !PageIsSound(page, reinterpret_cast<const Entry*>(bytes))) {
+    return TableStatus::Damaged;
+  }
+  checkedPages_[page] = true;
+  return TableStatus::Success;
+}
+
+// Keys ascend within the page and towards the next one; the positions do and stay inside their sections.
+bool TableImage::PageIsSound(std::uint32_t page, const Entry* entries) const {
+  const std::uint32_t count = EntriesIn(page);
+  bool sound = directory_[page].entryCount == count && directory_[page].firstKey == entries[0].key;
+  for (std::uint32_t i = 0; i < count; ++i) {
+    sound &= entries[i].dataOffset <= entries[i + 1].dataOffset;
+    sound &= entries[i].columnOffset <= entries[i + 1].columnOffset;
+    sound &= i + 1 == count || entries[i].key < entries[i + 1].key;
+  }
+  const Entry& last = entries[count];
+  sound &= last.dataOffset <= data_.Size() && last.columnOffset <= header_.columnSize;
+  return sound && (page + 1 == layout_.pageCount || entries[count - 1].key < directory_[page + 1].firstKey);
+}
+
+TableStatus TableImage::Locate(TableFiles& files, std::int32_t key, Place& place) {
+  place = {};
+  const auto above = std::upper_bound(directory_.begin(), directory_.end(), key, KeyIsLess);
+  if (above == directory_.begin()) return TableStatus::Success;
+  const auto page = static_cast<std::uint32_t>(above - directory_.begin() - 1);
+  if (LoadPage(files, page) != TableStatus::Success) return TableStatus::Damaged;
+  const Entry* const first = &EntryAt(page * kPageEntries);
+  const Entry* const end = first + EntriesIn(page);
+  const Entry* const at =
+      std::lower_bound(first, end, key, [](const Entry& entry, std::int32_t k) { return entry.key < k; });
+  place.index = page * kPageEntries + static_cast<std::uint32_t>(at - first);
+  place.found = at != end && at->key == key;
+  return TableStatus::Success;
+}
+
+TableStatus TableImage::Get(TableFiles& files, std::uint32_t index, Record& record) {
+  if (LoadPage(files, index / kPageEntries) != TableStatus::Success) return TableStatus::Damaged;
+  const Entry* const entry = &EntryAt(index);
+  const std::size_t length = entry[1].dataOffset - entry[0].dataOffset;
+  const char* const text = data_.Get(*files.data, entry->dataOffset, length);
+  if (!text) return TableStatus::Damaged;
+  record = {entry->key, {text, length}};
+  const bool sound = RecordCheck(RecordDigest(record.key, record.text)) == entry->check;
+  return sound ? TableStatus::Success : TableStatus::Damaged;
+}
+
+TableStatus TableImage::LoadColumn(TableFiles& files) {
+  if (!columnStarts_.empty()) return TableStatus::Success;
+  std::vector<std::uint32_t> starts;
+  starts.reserve(std::size_t{RecordCount()} + 1);
+  for (std::uint32_t i = 0; i < RecordCount(); ++i) {
+    if (i % kPageEntries == 0 && LoadPage(files, i / kPageEntries) != TableStatus::Success)
+      return TableStatus::Damaged;
+    starts.push_back(EntryAt(i).columnOffset);
+  }
+  starts.push_back(static_cast<std::uint32_t>(header_.columnSize));
+  if (!std::is_sorted(starts.begin(), starts.end())) return TableStatus::Damaged;
+
+  const auto size = static_cast<std::size_t>(header_.columnSize) + kColumnPadding;
+  auto column = std::make_unique_for_overwrite<char[]>(size);
+  const bool sound = files.index->ReadAt(layout_.column, column.get(), size) &&
+                     ChainedChecksum({column.get(), size}) == header_.columnCheck;
+  if (!sound) return TableStatus::Damaged;
+  column_ = std::move(column);
+  columnStarts_ = std::move(starts);
+  return TableStatus::Success;
+}
+
+TableStatus TableImage::Verify(TableFiles& files) {
+  TableImage image(files.indexHeader);
+  if (image.LoadDirectory(files) != TableStatus::Success || image.LoadColumn(files) != TableStatus::Success) {
+    return TableStatus::Damaged;
+  }
+  std::uint64_t generation = files.indexHeader.fieldCount;
+  for (std::uint32_t i = 0; i < image.RecordCount(); ++i) {
+    Record record;
+    if (image.Get(files, i, record) != TableStatus::Success) return TableStatus::Damaged;
+    generation = GenerationOf(generation, RecordDigest(record.key, record.text));
+  }
+  return generation == files.indexHeader.generation ? TableStatus::Success : TableStatus::Damaged;
+}
+
+}  // namespace sonaro

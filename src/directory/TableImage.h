@@ -1,0 +1,78 @@
+// What is in memory of one generation of an indexed table. Parts come from the files as they are used and are
+// checked once, when they come; a record's text is checked each time. Owned by Vmx, which keeps it between
+// the openings of the table and hands in the open files; an image belongs to every pair of files with its
+// headers, since equal generations hold equal records.
+#pragma once
+
+#include <cstdint>
+#include <memory>
+#include <span>
+#include <string_view>
+#include <vector>
+
+#include "directory/LazyBytes.h"
+#include "directory/TableFiles.h"
+#include "directory/TableStatus.h"
+#include "directory/VmxFormat.h"
+
+namespace sonaro {
+
+// The folded searched fields of all records in key order, each field followed by a tab.
+struct SearchColumn {
+  std::string_view text;                  // kColumnPadding more bytes can be read behind it
+  std::span<const std::uint32_t> starts;  // where each record begins, and the end of the last one
+};
+
+class TableImage {
+ public:
+  explicit TableImage(const IndexHeader& header);
+  const IndexHeader& Header() const { return header_; }
+  std::uint32_t RecordCount() const { return header_.recordCount; }
+
+  // Every operation below gives Success or Damaged, which a file that cannot be read counts as.
+
+  // Reads the page directory; to be called before any other operation.
+  TableStatus LoadDirectory(TableFiles& files);
+
+  struct Place {
+    std::uint32_t index = 0;  // of the first record whose key is not less; RecordCount when there is none
+    bool found = false;       // its key is equal
+  };
+  TableStatus Locate(TableFiles& files, std::int32_t key, Place& place);
+
+  struct Record {
+    std::int32_t key = 0;
+    std::string_view text;  // fields with tabs between them; valid as long as the image
+  };
+  // `index` is less than RecordCount.
+  TableStatus Get(TableFiles& files, std::uint32_t index, Record& record);
+
+  // Reads the search column and all entries.
+  TableStatus LoadColumn(TableFiles& files);
+  // Empty before LoadColumn.
+  SearchColumn Column() const {
+    return {{column_.get(), columnStarts_.empty() ? 0 : columnStarts_.back()}, columnStarts_};
+  }
+  // After LoadColumn.
+  std::int32_t KeyAt(std::uint32_t index) const { return EntryAt(index).key; }
+
+  // Reads and checks everything that the files hold, whatever is in memory already.
+  static TableStatus Verify(TableFiles& files);
+
+ private:
+  TableStatus LoadPage(TableFiles& files, std::uint32_t page);
+  const Entry& EntryAt(std::uint32_t index) const;
+  bool PageIsSound(std::uint32_t page, const Entry* entries) const;
+  std::uint32_t EntriesIn(std::uint32_t page) const;
+
+  IndexHeader header_;
+  IndexLayout layout_;
+  std::vector<PageItem> directory_;
+  std::vector<bool> checkedPages_;
+  LazyBytes entries_;
+  LazyBytes data_;
+  std::unique_ptr<char[]> column_;
+  std::vector<std::uint32_t> columnStarts_;
+};
+
+}  // namespace sonaro

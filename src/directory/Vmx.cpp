@@ -1,0 +1,174 @@
+#include "directory/Vmx.h"
+
+#include <algorithm>
+#include <new>
+
+#include "base/Numbers.h"
+#include "directory/ByteScan.h"
+#include "directory/TableWriter.h"
+
+namespace sonaro {
+namespace {
+
+// Cuts a record's text into fields; the last one takes what is left.
+void SplitFields(std::string_view text, std::span<std::string> fields) {
+  for (std::string& field : fields) {
+    const bool last = &field == &fields.back();
+    const std::size_t end = last ? text.size() : FindByte(text, kFieldSeparator);
+    field.assign(text.substr(0, end));
+    text.remove_prefix(std::min(end + 1, text.size()));
+  }
+}
+
+std::string JoinFields(std::span<const std::string> fields) {
+  std::string text;
+  for (const std::string& field : fields) {
+    const std::size_t start = text.size();
+    text += field;
+    if (&field == &fields.back()) break;
+    std::replace(text.begin() + static_cast<std::ptrdiff_t>(start), text.end(), kFieldSeparator, ' ');
+    text += kFieldSeparator;
+  }
+  return text;
+}
+
+}  // namespace
+
+template <typename Operation>
+TableStatus Vmx::Run(Operation operation) {
+  try {
+    status_ = operation();
+  } catch (const std::bad_alloc&) {
+    status_ = TableStatus::NoMemory;
+  }
+  return status_;
+}
+
+template <typename Operation>
+TableStatus Vmx::RunOn(Handle handle, Operation operation) {
+  const auto place = static_cast<std::size_t>(handle) - 1;
+  if (place >= tables_.size() || !tables_[place]) return status_ = TableStatus::BadCall;
+  Run([&] { return operation(*tables_[place]); });
+  // What is in memory of a damaged table must not be taken for the repaired one, whose generation is the
+  // same.
+  if (status_ == TableStatus::Damaged) images_.erase(tables_[place]->Path());
+  return status_;
+}
+
+TableStatus Vmx::VmxKill(const std::string& path) {
+  images_.erase(path);
+  return Run([&] { return RemoveTableFiles(files_, path) ? TableStatus::Success : TableStatus::NotWritten; });
+}
+
+TableStatus Vmx::VmxCreate(const std::string& path, std::string_view definition,
+                           std::uint32_t searchedFields) {
+  const auto parsed = ParseDefinition(definition, searchedFields);
+  if (!parsed) return status_ = TableStatus::BadCall;
+  return Run([&] {
+    TableWriter writer(files_, path, *parsed);
+    return writer.Finish() && writer.PutInPlace() ? TableStatus::Success : TableStatus::NotWritten;
+  });
+}
+
+Vmx::Handle Vmx::VmxOpen(const std::string& path, VmxOpenMode mode) {
+  const bool forWriting = mode == VmxOpenMode::Write;
+  const auto conflicts = [&](const auto& table) {
+    return table && table->ForWriting() && table->Path() == path;
+  };
+  if (forWriting && std::any_of(tables_.begin(), tables_.end(), conflicts)) {
+    status_ = TableStatus::BadCall;
+    return 0;
+  }
+  const auto free = std::find(tables_.begin(), tables_.end(), nullptr);
+  const auto place = static_cast<std::size_t>(free - tables_.begin());
+  Run([&] {
+    if (free == tables_.end()) tables_.emplace_back();
+    TableStatus status = TableStatus::Success;
+    tables_[place] = OpenTable::Open(files_, path, forWriting, images_[path], status);
+    return status;
+  });
+  return status_ == TableStatus::Success ? static_cast<Handle>(place + 1) : 0;
+}
+
+TableStatus Vmx::VmxClose(Handle handle) {
+  const TableStatus status = RunOn(handle, [](OpenTable& table) { return table.Close(); });
+  if (status != TableStatus::BadCall) tables_[static_cast<std::size_t>(handle) - 1].reset();
+  return status;
+}
+
+TableStatus Vmx::VmxBOF(Handle handle) {
+  return RunOn(handle, [](OpenTable& table) {
+    table.GoBeforeFirst();
+    return TableStatus::Success;
+  });
+}
+
+TableStatus Vmx::VmxEOF(Handle handle) {
+  return RunOn(handle, [](OpenTable& table) {
+    table.GoBehindLast();
+    return TableStatus::Success;
+  });
+}
+
+TableStatus Vmx::VmxGet(Handle handle, std::string_view key, VmxReadMode mode, std::int32_t& foundKey,
+                        std::span<std::string> fields) {
+  return RunOn(handle, [&](OpenTable& table) {
+    TableImage::Record record;
+    std::int32_t wanted = 0;
+    TableStatus status = TableStatus::NotFound;
+    if (mode == VmxReadMode::Next) {
+      status = table.ReadNext(record);
+    } else if (ParseStationId(key, wanted)) {
+      status = table.Read(wanted, record);
+    }
+    if (status != TableStatus::Success) return status;
+    SplitFields(record.text, fields);
+    foundKey = record.key;
+    return status;
+  });
+}
+
+TableStatus Vmx::VmxPut(Handle handle, std::string_view key, std::span<const std::string> fields) {
+  return RunOn(handle, [&](OpenTable& table) {
+    std::int32_t id = 0;
+    const bool fits = table.ForWriting() && fields.size() == table.FieldCount();
+    if (!fits || !ParseStationId(key, id)) return TableStatus::BadCall;
+    return table.Put(id, JoinFields(fields));
+  });
+}
+
+TableStatus Vmx::VmxDelete(Handle handle, std::string_view key) {
+  return RunOn(handle, [&](OpenTable& table) {
+    std::int32_t id = 0;
+    if (!table.ForWriting()) return TableStatus::BadCall;
+    return ParseStationId(key, id) ? table.Delete(id) : TableStatus::NotFound;
+  });
+}
+
+const TableImage* Vmx::SearchImage(Handle handle) {
+  const TableImage* image = nullptr;
+  RunOn(handle, [&](OpenTable& table) {
+    image = table.SearchImage();
+    return image ? TableStatus::Success : TableStatus::Damaged;
+  });
+  return image;
+}
+
+std::uint32_t Vmx::RecordCount(Handle handle) {
+  std::uint32_t count = 0;
+  RunOn(handle, [&](OpenTable& table) {
+    count = table.RecordCount();
+    return TableStatus::Success;
+  });
+  return count;
+}
+
+TableStatus Vmx::Verify(const std::string& path) {
+  return Run([&] {
+    TableFiles files;
+    const TableStatus status = OpenTableFiles(files_, path, files);
+    return status == TableStatus::Success ? TableImage::Verify(files) : status;
+  });
+}
+
+}  // namespace sonaro
