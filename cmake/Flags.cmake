@@ -10,6 +10,7 @@ endif()
 if(SONARO_SANITIZE)
   target_compile_options(sonaro_flags INTERFACE -fsanitize=address,undefined -fno-sanitize-recover=all
     -fno-omit-frame-pointer)
+  target_compile_definitions(sonaro_flags INTERFACE _GLIBCXX_ASSERTIONS)
   target_link_options(sonaro_flags INTERFACE -fsanitize=address,undefined)
 else()
   target_compile_options(sonaro_flags INTERFACE $<$<CONFIG:Release>:-U_FORTIFY_SOURCE -D_FORTIFY_SOURCE=2>)
