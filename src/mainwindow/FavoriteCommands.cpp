@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "app/CReg.h"
+#include "app/SettingNames.h"
 #include "app/Strings.h"
 #include "mainwindow/FavoriteGroups.h"
 #include "mainwindow/StationListing.h"
@@ -11,7 +12,6 @@
 namespace sonaro {
 namespace {
 
-constexpr const char* kNoShowDelete = "NoShowDelete";
 constexpr const char* kTenGroupsKey = "AlreadyHave10FavoriteGroups";
 constexpr const char* kExistsKey = "TheFavoriteGroupAlreadyExists";
 constexpr const char* kDeleteKey = "DeleteFavoriteGroup";
@@ -51,7 +51,7 @@ void FavoriteCommands::RenameFavoriteGroup(std::size_t group) {
 void FavoriteCommands::DeleteFavoriteGroup(std::size_t group) {
   if (group >= groups_.Count()) return;
   const std::string name(groups_.Name(group));
-  if (settings_.Setting(kNoShowDelete).empty() && !ConfirmDelete(name)) return;
+  if (settings_.Setting(setting::kNoShowDelete).empty() && !ConfirmDelete(name)) return;
   if (!Changed(groups_.Remove(group))) return;
   prompts_.TellTray("DeleteFavGroup\t" + name);
   listing_.GroupDeleted(name);
@@ -66,7 +66,7 @@ bool FavoriteCommands::ConfirmDelete(const std::string& name) {
   message.secondButton = strings_.Load(IDS_GROUP_DELETE_NO);
   message.dontAskText = strings_.Load(IDS_GROUP_DONT_ASK);
   const MessageResult result = prompts_.Ask(message);
-  if (result.dontAskAgain) settings_.SetSetting(kNoShowDelete, "Yes");
+  if (result.dontAskAgain) settings_.SetSetting(setting::kNoShowDelete, "Yes");
   return result.answer == MessageAnswer::First;
 }
 

@@ -4,6 +4,7 @@
 #include <utility>
 
 #include "app/CReg.h"
+#include "app/SettingNames.h"
 #include "base/DataFolder.h"
 #include "base/Text.h"
 #include "base/UrlEncoding.h"
@@ -13,7 +14,6 @@ namespace sonaro {
 namespace {
 
 constexpr const char* kKindsFile = "\\searchst.snr";
-constexpr const char* kHistorySetting = "SearchList";
 constexpr const char* kFindStation = "FindStation";
 constexpr const char* kWordMark = "<<SearchWord>>";
 constexpr const char* kOptionMark = "<<SearchOpt>>";
@@ -45,7 +45,7 @@ void StationSearch::LoadSearchKinds(std::string builtInCaption) {
 }
 
 std::vector<std::string> StationSearch::History() const {
-  return SearchHistory(settings_.Setting(kHistorySetting)).Entries();
+  return SearchHistory(settings_.Setting(setting::kSearchList)).Entries();
 }
 
 StationSearch::Outcome StationSearch::FindStation(std::string_view text, std::size_t kind, bool allWords) {
@@ -69,9 +69,9 @@ void StationSearch::FindOnTheWeb(const std::string& text, const SearchKind& kind
 }
 
 void StationSearch::FindInTheDirectory(const std::string& text, bool allWords) {
-  SearchHistory history(settings_.Setting(kHistorySetting));
+  SearchHistory history(settings_.Setting(setting::kSearchList));
   history.Add(text);
-  settings_.SetSetting(kHistorySetting, history.ToSetting());
+  settings_.SetSetting(setting::kSearchList, history.ToSetting());
   last_ = LastKind::Station;
   listing_.ShowSearch(text, allWords);
   tellTray_(std::string(kTrayResults) + '\t' + listing_.LastSearchIds() + '\t' + text);
