@@ -148,10 +148,10 @@ struct TimerRow {
   void (Form::*handler)();
 };
 
-class Form : private FormServices {
+class Form {
  public:
   Form(FormContext& context, const FormDesign& design);
-  ~Form() override;  // destroys the window
+  virtual ~Form();  // destroys the window
   Form(const Form&) = delete;
   Form& operator=(const Form&) = delete;
 
@@ -276,11 +276,6 @@ class Form : private FormServices {
 
  private:
   friend class FormParts;
-  friend LRESULT HandleFormMessage(FormParts& parts, UINT message, WPARAM wParam, LPARAM lParam);
-
-  const Painter& Look() const override;
-  void PaintBackdrop(HDC dc, HWND control) override;
-  void Raise(const FormEvent& event) override;
 
   std::shared_ptr<FormParts> parts_;  // outlives a form that a handler destroys
 };

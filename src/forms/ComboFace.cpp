@@ -1,0 +1,203 @@
+// The drawn face of a combo box and the rows and frame of its open list. The control stays the system's; only
+// its painting is ours.
+#include <algorithm>
+
+#include "forms/Dpi.h"
+#include "forms/FormParts.h"
+#include "forms/Guard.h"
+#include "forms/WideText.h"
+
+namespace sonaro {
+namespace {
+
+constexpr int kDropZone = 24;
+constexpr int kTextInset = 8;
+constexpr int kRowHeight = 22;
+constexpr int kRowsShown = 12;
+
+COMBOBOXINFO InfoOf(HWND combo) {
+  COMBOBOXINFO info{};
+  info.cbSize = sizeof(info);
+  GetComboBoxInfo(combo, &info);
+  return info;
+}
+
+std::wstring RowText(HWND combo, int row) {
+  const LRESULT length = SendMessageW(combo, CB_GETLBTEXTLEN, static_cast<WPARAM>(row), 0);
+  if (length <= 0) return {};
+  std::wstring text(static_cast<std::size_t>(length) + 1, L'\0');
+  SendMessageW(combo, CB_GETLBTEXT, static_cast<WPARAM>(row), reinterpret_cast<LPARAM>(text.data()));
+  text.resize(static_cast<std::size_t>(length));
+  return text;
+}
+
+// Between the left inset and the drop zone, one line high.
+RECT TextPlace(HWND combo, const Painter& painter) {
+  RECT box{};
+  GetClientRect(combo, &box);
+  return {painter.Px(kTextInset), painter.Line(), box.right - painter.Px(kDropZone),
+          box.bottom - painter.Line()};
+}
+
+void PlaceEdit(HWND combo, const Painter& painter) {
+  const HWND edit = InfoOf(combo).hwndItem;
+  if (!edit || edit == combo) return;
+  const RECT room = TextPlace(combo, painter);
+  const int height = static_cast<int>(painter.Measure(L"Xg", Type::Body).cy);
+  const int top = static_cast<int>(room.top + (room.bottom - room.top - height) / 2);
+  SetWindowPos(edit, nullptr, room.left, top, room.right - room.left - painter.Px(4), height,
+               SWP_NOZORDER | SWP_NOACTIVATE);
+  SendMessageW(edit, EM_SETMARGINS, EC_LEFTMARGIN | EC_RIGHTMARGIN, 0);
+}
+
+void PaintFace(const FormParts& parts, const FormItem& item, HDC dc) {
+  const Painter& painter = *parts.painter;
+  const FaceplateColors& colors = painter.Colors();
+  const bool enabled = IsWindowEnabled(item.window) != FALSE;
+  RECT box{};
+  GetClientRect(item.window, &box);
+  const Color ground = enabled ? colors.glass : colors.keyOff;
+  painter.CutShape(dc, box, 0, ground, ground, colors.frame);
+
+  const int zone = static_cast<int>(box.right) - painter.Px(kDropZone);
+  painter.Fill(dc, {zone, box.top + painter.Px(5), zone + painter.Line(), box.bottom - painter.Px(5)},
+               colors.hair);
+  const int icon = painter.Px(12);
+  painter.DrawIcon(dc, Icon::Down, zone + painter.Px(6), (static_cast<int>(box.bottom) - icon) / 2, 12,
+                   enabled ? colors.glassMuted : colors.textOff);
+  if (item.KindOf() == Kind::Combo) {
+    const int row = static_cast<int>(SendMessageW(item.window, CB_GETCURSEL, 0, 0));
+    if (row >= 0) {
+      painter.Text(dc, TextPlace(item.window, painter), std::wstring_view(RowText(item.window, row)),
+                   Type::Body, enabled ? colors.glassText : colors.textOff);
+    }
+  }
+  const HWND focus = GetFocus();
+  if (focus == item.window || IsChild(item.window, focus)) {
+    painter.Frame(dc, box, colors.focus, painter.FocusLine());
+  }
+}
+
+void PaintFrameOfList(const FormParts& parts, HWND list) {
+  const HDC dc = GetWindowDC(list);
+  RECT box{};
+  GetWindowRect(list, &box);
+  OffsetRect(&box, -box.left, -box.top);
+  parts.painter->Frame(dc, box, parts.painter->Colors().focus, 1);
+  ReleaseDC(list, dc);
+}
+
+LRESULT CALLBACK ListProcedure(HWND list, UINT message, WPARAM wParam, LPARAM lParam, UINT_PTR id,
+                               DWORD_PTR parts) noexcept {
+  return Guarded(0, [&]() -> LRESULT {
+    if (message == WM_NCDESTROY) RemoveWindowSubclass(list, ListProcedure, id);
+    const LRESULT answer = DefSubclassProc(list, message, wParam, lParam);
+    if (message == WM_NCPAINT) PaintFrameOfList(*reinterpret_cast<FormParts*>(parts), list);
+    return answer;
+  });
+}
+
+LRESULT HandleComboMessage(FormParts& parts, const FormItem& item, UINT message, WPARAM wParam,
+                           LPARAM lParam) {
+  const HWND combo = item.window;
+  if (message == WM_ERASEBKGND) return 1;
+  if (message == WM_PAINT) {
+    PAINTSTRUCT paint{};
+    const HDC dc = BeginPaint(combo, &paint);
+    RECT box{};
+    GetClientRect(combo, &box);
+    {
+      const BufferedPaint buffer(dc, box);
+      PaintFace(parts, item, buffer.Dc());
+    }
+    EndPaint(combo, &paint);
+    return 0;
+  }
+  const LRESULT answer = DefSubclassProc(combo, message, wParam, lParam);
+  if (!parts.window) return answer;
+  switch (message) {
+    case WM_SIZE:
+    case WM_SETFONT:
+    case CB_SETITEMHEIGHT:
+      PlaceEdit(combo, *parts.painter);
+      break;
+    case WM_SETFOCUS:
+    case WM_KILLFOCUS:
+    case WM_ENABLE:
+    case WM_SETTEXT:
+    case WM_COMMAND:
+    case CB_SETCURSEL:
+    case CB_RESETCONTENT:
+    case CB_SHOWDROPDOWN:
+    case WM_LBUTTONDOWN:
+    case WM_LBUTTONUP:
+      InvalidateRect(combo, nullptr, FALSE);
+      break;
+    default:
+      break;
+  }
+  return answer;
+}
+
+LRESULT CALLBACK ComboProcedure(HWND combo, UINT message, WPARAM wParam, LPARAM lParam, UINT_PTR index,
+                                DWORD_PTR parts) noexcept {
+  return Guarded(0, [&]() -> LRESULT {
+    if (message == WM_NCDESTROY) {
+      RemoveWindowSubclass(combo, ComboProcedure, index);
+      return DefSubclassProc(combo, message, wParam, lParam);
+    }
+    const auto kept = reinterpret_cast<FormParts*>(parts)->shared_from_this();
+    return HandleComboMessage(*kept, kept->items[index & 0xFFFF], message, wParam, lParam);
+  });
+}
+
+}  // namespace
+
+void DressCombo(FormParts& parts, FormItem& item) {
+  const auto index = static_cast<UINT_PTR>(&item - parts.items.data());
+  constexpr UINT_PTR kComboMark = 0x10000;  // apart from the watch that every control has
+  SetWindowSubclass(item.window, ComboProcedure, index | kComboMark, reinterpret_cast<DWORD_PTR>(&parts));
+  const COMBOBOXINFO info = InfoOf(item.window);
+  if (info.hwndList) SetWindowSubclass(info.hwndList, ListProcedure, 1, reinterpret_cast<DWORD_PTR>(&parts));
+}
+
+void SizeCombo(FormParts& parts, FormItem& item) {
+  const Painter& painter = *parts.painter;
+  const int height = item.place.Height();
+  SendMessageW(item.window, CB_SETMINVISIBLE, kRowsShown, 0);
+  SendMessageW(item.window, CB_SETITEMHEIGHT, 0, painter.Px(kRowHeight));
+  SetWindowPos(item.window, nullptr, item.place.left, item.place.top, item.place.Width(),
+               height + kRowsShown * painter.Px(kRowHeight), SWP_NOZORDER | SWP_NOACTIVATE | SWP_NOCOPYBITS);
+  // The face is as high as its item and a frame whose width is the system's own: measure it.
+  SendMessageW(item.window, CB_SETITEMHEIGHT, static_cast<WPARAM>(-1), height - 6);
+  RECT box{};
+  GetWindowRect(item.window, &box);
+  const int missing = height - static_cast<int>(box.bottom - box.top);
+  if (missing != 0)
+    SendMessageW(item.window, CB_SETITEMHEIGHT, static_cast<WPARAM>(-1), height - 6 + missing);
+  PlaceEdit(item.window, painter);
+}
+
+void PaintComboRow(const FormParts& parts, const DRAWITEMSTRUCT& draw) {
+  const Painter& painter = *parts.painter;
+  const FaceplateColors& colors = painter.Colors();
+  if ((draw.itemState & ODS_COMBOBOXEDIT) != 0) {
+    InvalidateRect(draw.hwndItem, nullptr, FALSE);  // the face is painted as a whole
+    return;
+  }
+  const BufferedPaint buffer(draw.hDC, draw.rcItem);
+  const bool selected = (draw.itemState & ODS_SELECTED) != 0;
+  painter.Fill(buffer.Dc(), draw.rcItem, selected ? colors.rowSelected : colors.glass);
+  if (static_cast<int>(draw.itemID) < 0) return;
+  if (selected) {
+    painter.Fill(buffer.Dc(),
+                 {draw.rcItem.left, draw.rcItem.top, draw.rcItem.left + painter.Px(3), draw.rcItem.bottom},
+                 colors.accent);
+  }
+  const RECT place = {draw.rcItem.left + painter.Px(kTextInset), draw.rcItem.top,
+                      draw.rcItem.right - painter.Px(4), draw.rcItem.bottom};
+  painter.Text(buffer.Dc(), place, std::wstring_view(RowText(draw.hwndItem, static_cast<int>(draw.itemID))),
+               Type::Body, selected ? colors.rowSelectedText : colors.glassText);
+}
+
+}  // namespace sonaro

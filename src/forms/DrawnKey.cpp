@@ -1,0 +1,278 @@
+#include "forms/DrawnKey.h"
+
+#include <algorithm>
+
+#include "forms/Painter.h"
+
+namespace sonaro {
+namespace {
+
+constexpr int kCut = 5;
+constexpr int kPlayCut = 7;
+
+// One key being painted: the box is cut up in design units from its top-left corner.
+struct Canvas {
+  HDC dc;
+  RECT box;
+  const KeyPicture& key;
+  const Painter& painter;
+  KeyFace face;
+
+  int Px(int design) const { return painter.Px(design); }
+  int Down() const { return face.shiftDown ? painter.Line() : 0; }
+  int Height() const { return static_cast<int>(box.bottom - box.top); }
+  UINT Prefix() const {
+    if (key.noPrefix) return DT_NOPREFIX;
+    return key.hideAccel ? DT_HIDEPREFIX : 0;
+  }
+  Type BodyType() const { return face.strong ? Type::BodyStrong : Type::Body; }
+
+  void DrawText(const RECT& place, std::wstring_view text, Type type, Color color, UINT format) const {
+    painter.Text(dc, {place.left, place.top + Down(), place.right, place.bottom + Down()}, text, type, color,
+                 format);
+  }
+  void DrawIcon(Icon icon, int x, int designSize, Color color) const {
+    if (icon == Icon::None) return;
+    const int y = static_cast<int>(box.top) + (Height() - Px(designSize)) / 2 + Down();
+    painter.DrawIcon(dc, icon, x, y, designSize, color);
+  }
+};
+
+void PaintShape(const Canvas& c, int cut) {
+  if (!c.face.hasFace) return;
+  c.painter.CutShape(c.dc, c.box, cut, c.face.top, c.face.bottom, c.face.edge);
+  if (!c.face.hasMilledLine) return;
+  const int line = c.painter.Line();
+  c.painter.Fill(
+      c.dc, {c.box.left + std::max(cut, line), c.box.top + line, c.box.right - line, c.box.top + 2 * line},
+      c.face.milledLine);
+}
+
+void PaintFocus(const Canvas& c, int cut) {
+  if (!c.key.focused) return;
+  RECT inner = c.box;
+  const int inset = c.painter.Px(2);
+  InflateRect(&inner, -inset, -inset);
+  c.painter.CutFrame(c.dc, inner, std::max(0, cut - inset / 2), c.face.focus, c.painter.FocusLine());
+}
+
+// Where icon and text of a push key lie: centred together, the text cut when the key is too narrow.
+struct Centred {
+  int iconX = 0;
+  RECT text{};
+};
+
+constexpr int kPushIcon = 14;
+constexpr int kIconGap = 6;
+constexpr int kSideRoom = 4;
+
+Centred CentreTogether(const Canvas& c) {
+  const int margin = c.Px(kSideRoom);
+  const int icon = c.key.icon == Icon::None ? 0 : c.Px(kPushIcon);
+  const int gap = icon != 0 && !c.key.text.empty() ? c.Px(kIconGap) : 0;
+  const int room = static_cast<int>(c.box.right - c.box.left) - 2 * margin - icon - gap;
+  const int needed = static_cast<int>(c.painter.Measure(c.key.text, c.BodyType(), c.Prefix()).cx);
+  const int text = std::min(room, needed);
+  Centred result;
+  result.iconX = static_cast<int>(c.box.left) + margin + (room - text) / 2;
+  result.text = {result.iconX + icon + gap, c.box.top, result.iconX + icon + gap + text + 1, c.box.bottom};
+  return result;
+}
+
+void PaintPushKey(const Canvas& c) {
+  PaintShape(c, c.Px(kCut));
+  const Centred place = CentreTogether(c);
+  c.DrawIcon(c.key.icon, place.iconX, kPushIcon, c.face.icon);
+  c.DrawText(place.text, c.key.text, c.BodyType(), c.face.text, c.Prefix());
+  PaintFocus(c, c.Px(kCut));
+}
+
+void PaintStripKey(const Canvas& c) {
+  PaintShape(c, c.Px(kCut));
+  c.DrawIcon(c.key.icon,
+             static_cast<int>(c.box.left) + (static_cast<int>(c.box.right - c.box.left) - c.Px(14)) / 2, 14,
+             c.face.icon);
+  PaintFocus(c, c.Px(kCut));
+}
+
+void PaintRankingKey(const Canvas& c) {
+  PaintShape(c, c.Px(kCut));
+  if (c.key.state.active) {
+    c.painter.Fill(c.dc, {c.box.left, c.box.top + c.Px(7), c.box.left + c.Px(3), c.box.bottom - c.Px(1)},
+                   c.painter.Colors().accent);
+  }
+  c.DrawIcon(c.key.icon, static_cast<int>(c.box.left) + c.Px(12), 16, c.face.icon);
+  c.DrawText({c.box.left + c.Px(38), c.box.top, c.box.right - c.Px(6), c.box.bottom}, c.key.text,
+             c.BodyType(), c.face.text, c.Prefix());
+  PaintFocus(c, c.Px(kCut));
+}
+
+void PaintGroupKey(const Canvas& c) {
+  PaintShape(c, c.Px(kCut));
+  if (c.key.state.active) {
+    c.painter.Fill(c.dc, {c.box.left + c.Px(1), c.box.bottom - c.Px(2), c.box.right - c.Px(6), c.box.bottom},
+                   c.painter.Colors().accent);
+  }
+  const Type figure = c.key.state.empty ? Type::Small : Type::SmallStrong;
+  c.DrawText({c.box.left + c.Px(8), c.box.top, c.box.left + c.Px(22), c.box.bottom}, c.key.detail, figure,
+             c.face.secondText, DT_NOPREFIX);
+  c.DrawText({c.box.left + c.Px(20), c.box.top, c.box.right - c.Px(6), c.box.bottom}, c.key.text,
+             c.BodyType(), c.face.text, c.Prefix());
+  PaintFocus(c, c.Px(kCut));
+}
+
+void PaintPlayKey(const Canvas& c) {
+  PaintShape(c, c.Px(kPlayCut));
+  const std::wstring_view detail = c.key.detail;
+  const std::size_t tab = detail.find(L'\t');
+  const bool numbered = tab != std::wstring_view::npos;
+  const int left = static_cast<int>(c.box.left);
+  const int top = static_cast<int>(c.box.top);
+  c.DrawIcon(c.key.icon == Icon::None ? Icon::Play : c.key.icon, left + c.Px(numbered ? 13 : 11), 16,
+             c.face.icon);
+  const int textLeft = left + c.Px(numbered ? 52 : 36);
+  const int textRight =
+      numbered ? static_cast<int>(c.box.right) - c.Px(28) : static_cast<int>(c.box.right) - c.Px(6);
+  if (numbered) {
+    const int x = left + c.Px(40);
+    const Color line = c.key.secondary ? c.face.edge : c.face.text;
+    c.painter.Fill(c.dc, {x, top + c.Px(8), x + c.painter.Line(), top + c.Px(32)}, line);
+    c.DrawText({c.box.right - c.Px(26), top, c.box.right - c.Px(10), c.box.bottom}, detail.substr(tab + 1),
+               Type::BodyStrong, c.face.secondText, DT_NOPREFIX | DT_RIGHT);
+  }
+  c.DrawText({textLeft, top + c.Px(4), textRight, top + c.Px(22)}, c.key.text, Type::MessageStrong,
+             c.face.text, c.Prefix());
+  c.DrawText({textLeft, top + c.Px(20), textRight, top + c.Px(35)}, detail.substr(0, tab), Type::Small,
+             c.face.secondText, DT_NOPREFIX);
+  PaintFocus(c, c.Px(kPlayCut));
+}
+
+void PaintHeaderKey(const Canvas& c) {
+  PaintShape(c, 0);
+  const bool sorted = c.key.sort != SortMark::None;
+  int right = static_cast<int>(c.box.right) - c.Px(2);
+  if (sorted) {
+    c.painter.Fill(c.dc, {c.box.left, c.box.bottom - c.Px(3), c.box.right, c.box.bottom},
+                   c.painter.Colors().accent);
+    right = static_cast<int>(c.box.right) - c.Px(18);
+    c.painter.DrawIcon(c.dc, c.key.sort == SortMark::Up ? Icon::Sort : Icon::TriDown, right,
+                       static_cast<int>(c.box.top) + c.Px(5) + c.Down(), 12, c.painter.Colors().accent);
+  }
+  c.DrawText({c.box.left + c.Px(9), c.box.top, right, c.box.bottom - (sorted ? c.painter.Line() : 0)},
+             c.key.text, Type::BodyStrong, c.face.text, c.Prefix());
+  PaintFocus(c, 0);
+}
+
+void PaintOctagon(const Canvas& c, const RECT& box, int cut, Color fill, Color edge) {
+  const int line = c.painter.Line();
+  const int height = static_cast<int>(box.bottom - box.top);
+  for (int row = 0; row < height; ++row) {
+    const auto inset = [&](int r, int rows, int corner) {
+      return std::max({0, corner - r, corner - (rows - 1 - r)});
+    };
+    const int y = static_cast<int>(box.top) + row;
+    const int left = static_cast<int>(box.left) + inset(row, height, cut);
+    const int right = static_cast<int>(box.right) - inset(row, height, cut);
+    c.painter.Fill(c.dc, {left, y, right, y + 1}, edge);
+    if (row < line || row >= height - line) continue;
+    const int inner = inset(row - line, height - 2 * line, cut - (line + 1) / 2);
+    c.painter.Fill(c.dc, {box.left + line + inner, y, box.right - line - inner, y + 1}, fill);
+  }
+}
+
+void PaintMark(const Canvas& c, const RECT& mark) {
+  const FaceplateColors& colors = c.painter.Colors();
+  const KeyState& state = c.key.state;
+  const Color edge = state.active && !state.disabled ? colors.accent : colors.edgeControl;
+  const Color fill = state.disabled                 ? colors.keyOff
+                     : state.pressed || state.hover ? colors.rowHover
+                                                    : colors.glass;
+  const Color sign = state.disabled ? colors.textOff : colors.accent;
+  if (c.key.kind == Kind::RadioButton) {
+    PaintOctagon(c, mark, c.Px(5), fill, edge);
+    if (!state.active) return;
+    RECT dot = mark;
+    InflateRect(&dot, -c.Px(4), -c.Px(4));
+    PaintOctagon(c, dot, c.Px(2), sign, sign);
+    return;
+  }
+  c.painter.CutShape(c.dc, mark, c.Px(4), fill, fill, edge);
+  if (state.active) {
+    c.painter.DrawIcon(c.dc, Icon::Check, static_cast<int>(mark.left) + c.Px(2),
+                       static_cast<int>(mark.top) + c.Px(2), 12, sign);
+  }
+}
+
+void PaintCheck(const Canvas& c) {
+  const FaceplateColors& colors = c.painter.Colors();
+  const KeyState& state = c.key.state;
+  const int left = static_cast<int>(c.box.left) + c.Px(kMarkMargin);
+  const int top = static_cast<int>(c.box.top) + (c.Height() - c.Px(16)) / 2;
+  if (c.key.focused) {
+    const Type measured = c.key.kind == Kind::RadioButton && state.active ? Type::BodyStrong : Type::Body;
+    const int text = static_cast<int>(c.painter.Measure(c.key.text, measured, c.Prefix()).cx);
+    const int right = std::min(static_cast<int>(c.box.right), left + c.Px(24 + 8) + text);
+    c.painter.Frame(c.dc, {c.box.left, top - c.Px(4), right, top + c.Px(20)}, colors.focus,
+                    c.painter.FocusLine());
+  }
+  PaintMark(c, {left, top, left + c.Px(16), top + c.Px(16)});
+  const bool strong = c.key.kind == Kind::RadioButton && state.active;
+  c.painter.Text(c.dc, {left + c.Px(24), c.box.top, c.box.right, c.box.bottom}, c.key.text,
+                 strong ? Type::BodyStrong : Type::Body, state.disabled ? colors.textOff : colors.text,
+                 c.Prefix());
+}
+
+}  // namespace
+
+void PaintKey(HDC dc, const RECT& box, const KeyPicture& key, const Painter& painter) {
+  KeyState state = key.state;
+  if (key.kind == Kind::HeaderKey) state.active = key.sort != SortMark::None;
+  const Canvas canvas = {dc, box, key, painter,
+                         PickKeyFace(key.kind, key.secondary, state, painter.Colors())};
+  switch (key.kind) {
+    case Kind::StripKey:
+      return PaintStripKey(canvas);
+    case Kind::RankingKey:
+      return PaintRankingKey(canvas);
+    case Kind::GroupKey:
+      return PaintGroupKey(canvas);
+    case Kind::PlayKey:
+      return PaintPlayKey(canvas);
+    case Kind::HeaderKey:
+      return PaintHeaderKey(canvas);
+    case Kind::CheckBox:
+    case Kind::RadioButton:
+      return PaintCheck(canvas);
+    default:
+      return PaintPushKey(canvas);
+  }
+}
+
+KeyTextRoom MeasureKey(const RECT& box, const KeyPicture& key, const Painter& painter) {
+  const int width = static_cast<int>(box.right - box.left);
+  const auto needed = [&](Type type) {
+    return static_cast<int>(painter.Measure(key.text, type, key.noPrefix ? DT_NOPREFIX : 0).cx);
+  };
+  switch (key.kind) {
+    case Kind::StripKey:
+      return {0, width};
+    case Kind::RankingKey:
+      return {needed(Type::BodyStrong), width - painter.Px(44)};
+    case Kind::GroupKey:
+      return {needed(Type::BodyStrong), width - painter.Px(26)};
+    case Kind::PlayKey:
+      return {needed(Type::MessageStrong), width - painter.Px(80)};
+    case Kind::HeaderKey:
+      return {needed(Type::BodyStrong), width - painter.Px(11)};
+    case Kind::CheckBox:
+    case Kind::RadioButton:
+      return {needed(Type::BodyStrong), width - painter.Px(24 + kMarkMargin)};
+    default: {
+      const int icon = key.icon == Icon::None ? 0 : painter.Px(kPushIcon + kIconGap);
+      return {needed(key.kind == Kind::PushKey ? Type::Body : Type::BodyStrong),
+              width - icon - 2 * painter.Px(kSideRoom)};
+    }
+  }
+}
+
+}  // namespace sonaro

@@ -1,0 +1,193 @@
+// Makes a form's window and its controls from the tables.
+#include <algorithm>
+#include <array>
+#include <utility>
+
+#include "forms/ControlIds.h"
+#include "forms/Dpi.h"
+#include "forms/FormParts.h"
+#include "forms/Guard.h"
+#include "forms/WideText.h"
+
+namespace sonaro {
+namespace {
+
+struct ControlClass {
+  const wchar_t* name;
+  DWORD style;
+};
+
+constexpr WORD kNoNumber = 0xFFFF;
+
+DWORD EditStyle(const ControlRow& row) {
+  DWORD style = row.kind == Kind::Edit ? ES_AUTOHSCROLL : ES_MULTILINE | ES_AUTOVSCROLL;
+  if (row.kind == Kind::ReadOnlyText || (row.flags & kReadOnly)) style |= ES_READONLY;
+  if (row.flags & kPassword) style |= ES_PASSWORD;
+  if (row.flags & kDigits) style |= ES_NUMBER;
+  if (row.flags & kRightAligned) style |= ES_RIGHT;
+  return style;
+}
+
+ControlClass ClassOf(const ControlRow& row) {
+  constexpr DWORD kCombo =
+      CBS_OWNERDRAWFIXED | CBS_HASSTRINGS | CBS_NOINTEGRALHEIGHT | WS_VSCROLL | CBS_AUTOHSCROLL;
+  switch (row.kind) {
+    case Kind::Label:
+    case Kind::TitleBar:
+    case Kind::StateLabel: {
+      const bool prefix = row.kind == Kind::Label && !(row.flags & kNoPrefix);
+      return {L"STATIC", static_cast<DWORD>(SS_OWNERDRAW) | (prefix ? 0 : SS_NOPREFIX)};
+    }
+    case Kind::Picture:
+      return {L"STATIC", SS_OWNERDRAW | SS_NOPREFIX};
+    // A key that keeps a state is a push-like check box, not an owner-drawn button: only so does the system
+    // tell a screen reader that it is pressed. Its painting goes through NM_CUSTOMDRAW and WM_PAINT.
+    case Kind::ToggleKey:
+    case Kind::RankingKey:
+    case Kind::GroupKey:
+    case Kind::TabKey:
+      return {L"BUTTON", BS_CHECKBOX | BS_PUSHLIKE};
+    case Kind::CheckBox:
+      return {L"BUTTON", BS_AUTOCHECKBOX};
+    case Kind::RadioButton:
+      return {L"BUTTON", BS_AUTORADIOBUTTON};
+    case Kind::Edit:
+    case Kind::MultiEdit:
+    case Kind::ReadOnlyText:
+      return {L"EDIT", EditStyle(row)};
+    case Kind::Combo:
+      return {L"COMBOBOX", CBS_DROPDOWNLIST | kCombo};
+    case Kind::ComboEdit:
+      return {L"COMBOBOX", CBS_DROPDOWN | kCombo};
+    case Kind::MonthCalendar:
+      return {MONTHCAL_CLASSW, 0};
+    default:
+      return {L"BUTTON", BS_OWNERDRAW};
+  }
+}
+
+bool TakesTab(const ControlRow& row) {
+  if (row.flags & kNoTabStop) return false;
+  if (row.flags & kTabStop) return true;
+  return !IsText(row.kind) && row.kind != Kind::Picture && row.kind != Kind::ReadOnlyText &&
+         row.kind != Kind::Rating && row.kind != Kind::Progress;
+}
+
+// Radio buttons and toggles that follow each other are one group for the arrow keys; every other control is a
+// group of its own, so that arrow keys do not wander off.
+bool ContinuesGroup(const ControlRow& row, const ControlRow* before) {
+  return before && before->kind == row.kind &&
+         (IsToggle(row.kind) || row.kind == Kind::RadioButton || row.kind == Kind::HeaderKey) &&
+         !(row.flags & kGroup);
+}
+
+// An empty dialog of the form's own class: the system then gives it the dialog keyboard, default key and the
+// restoring of the focus. Size and place are set afterwards, in pixels.
+struct EmptyDialog {
+  DLGTEMPLATE head{};
+  std::array<wchar_t, 64> texts{};  // no menu, class name, no caption
+};
+
+void RegisterFormClass(const wchar_t* name) {
+  WNDCLASSEXW description{};
+  description.cbSize = sizeof(description);
+  if (GetClassInfoExW(GetModuleHandleW(nullptr), name, &description)) return;
+  description = {};
+  description.cbSize = sizeof(description);
+  description.lpfnWndProc = FormProcedure;
+  description.cbWndExtra = DLGWINDOWEXTRA;
+  description.hInstance = GetModuleHandleW(nullptr);
+  description.hCursor = LoadCursorW(nullptr, MAKEINTRESOURCEW(32512));
+  description.hIcon = LoadIconW(GetModuleHandleW(nullptr), MAKEINTRESOURCEW(1));
+  description.lpszClassName = name;
+  RegisterClassExW(&description);
+}
+
+// The hidden label by which one window asks another for a notification: setting its caption is the request.
+LRESULT CALLBACK BringUpProcedure(HWND label, UINT message, WPARAM wParam, LPARAM lParam, UINT_PTR id,
+                                  DWORD_PTR parts) noexcept {
+  return Guarded(0, [&]() -> LRESULT {
+    if (message == WM_NCDESTROY) RemoveWindowSubclass(label, BringUpProcedure, id);
+    const LRESULT answer = DefSubclassProc(label, message, wParam, lParam);
+    if (message == WM_SETTEXT) {
+      const auto kept = reinterpret_cast<FormParts*>(parts)->shared_from_this();
+      std::wstring caption(static_cast<std::size_t>(GetWindowTextLengthW(label)) + 1, L'\0');
+      caption.resize(
+          static_cast<std::size_t>(GetWindowTextW(label, caption.data(), static_cast<int>(caption.size()))));
+      if (kept->context.bringUp) kept->context.bringUp(Narrow(caption));
+    }
+    return answer;
+  });
+}
+
+}  // namespace
+
+bool FormParts::BuildWindow(HWND owner) {
+  const std::wstring name = Widen(design.name);
+  RegisterFormClass(name.c_str());
+  EmptyDialog empty;
+  empty.head.style = WS_POPUP | WS_SYSMENU | WS_MINIMIZEBOX | WS_CLIPCHILDREN;
+  empty.head.dwExtendedStyle = WS_EX_CONTROLPARENT | (owner ? 0 : WS_EX_APPWINDOW);
+  std::copy(name.begin(), name.begin() + static_cast<std::ptrdiff_t>(std::min<std::size_t>(name.size(), 60)),
+            empty.texts.begin() + 1);
+  ChooseDpi(MonitorOf(owner));
+  return CreateDialogIndirectParamW(GetModuleHandleW(nullptr), &empty.head, owner, nullptr,
+                                    reinterpret_cast<LPARAM>(this)) != nullptr;
+}
+
+void FormParts::BuildControls() {
+  const ControlRow* before = nullptr;
+  formerItems = std::exchange(items, std::vector<FormItem>());
+  items.reserve(design.controls.size() + 1);
+  for (const ControlRow& row : design.controls) {
+    FormItem& item = items.emplace_back();
+    item.row = &row;
+    item.icon = row.icon;
+    item.ink = row.ink;
+    item.wanted = (row.flags & kHidden) == 0;
+    if (IsDecoration(row.kind)) {
+      before = nullptr;
+      continue;
+    }
+    item.groupStart = !ContinuesGroup(row, before);
+    before = &row;
+    item.view = MakeView(row);
+    if (!item.view) {
+      const ControlClass kind = ClassOf(row);
+      const DWORD style = WS_CHILD | WS_CLIPSIBLINGS | kind.style | (item.groupStart ? WS_GROUP : 0) |
+                          (TakesTab(row) ? WS_TABSTOP : 0);
+      const WORD number = row.id == 0 ? kNoNumber : static_cast<WORD>(row.id);
+      const std::wstring text = Widen(TextOf(row.text));
+      item.window = CreateWindowExW(0, kind.name, text.c_str(), style, 0, 0, 0, 0, window,
+                                    reinterpret_cast<HMENU>(static_cast<UINT_PTR>(number)),
+                                    GetModuleHandleW(nullptr), nullptr);
+      WatchControl(*this, item);
+      if (IsCombo(row.kind)) DressCombo(*this, item);
+      if (row.kind == Kind::StripKey) SetTip(item, Narrow(text));
+    }
+    if (row.flags & kDisabled) EnableWindow(item.Window(), FALSE);
+  }
+  const HWND bringUp = CreateWindowExW(0, L"STATIC", L"", WS_CHILD | SS_NOPREFIX, 0, 0, 0, 0, window,
+                                       reinterpret_cast<HMENU>(static_cast<UINT_PTR>(lblBringUp)),
+                                       GetModuleHandleW(nullptr), nullptr);
+  SetWindowSubclass(bringUp, BringUpProcedure, 1, reinterpret_cast<DWORD_PTR>(this));
+}
+
+void FormParts::SetTip(FormItem& item, const std::string& text) {
+  if (!tips) {
+    tips = CreateWindowExW(WS_EX_TOPMOST, TOOLTIPS_CLASSW, nullptr, WS_POPUP | TTS_ALWAYSTIP | TTS_NOPREFIX,
+                           0, 0, 0, 0, window, nullptr, GetModuleHandleW(nullptr), nullptr);
+  }
+  std::wstring wide = Widen(text);
+  wide.erase(std::remove(wide.begin(), wide.end(), L'&'), wide.end());
+  TTTOOLINFOW tool{};
+  tool.cbSize = TTTOOLINFOW_V1_SIZE;
+  tool.uFlags = TTF_IDISHWND | TTF_SUBCLASS;
+  tool.hwnd = window;
+  tool.uId = reinterpret_cast<UINT_PTR>(item.Window());
+  tool.lpszText = wide.data();
+  SendMessageW(tips, TTM_DELTOOLW, 0, reinterpret_cast<LPARAM>(&tool));
+  if (!wide.empty()) SendMessageW(tips, TTM_ADDTOOLW, 0, reinterpret_cast<LPARAM>(&tool));
+}
+
+}  // namespace sonaro

@@ -1,0 +1,176 @@
+// Look, size and place of a form and its controls: at creation, when the layout changes, at another dpi.
+#include "faceplate/Faceplate.h"
+#include "forms/Dpi.h"
+#include "forms/FormParts.h"
+#include "forms/WindowShape.h"
+
+namespace sonaro {
+namespace {
+
+Type FontTypeOf(const ControlRow& row) {
+  if (row.type != Type::Default) return row.type;
+  return row.kind == Kind::TitleBar ? Type::Title : Type::Body;
+}
+
+int FontHeight(const Painter& painter, Type type) {
+  const HDC screen = GetDC(nullptr);
+  const HGDIOBJ before = SelectObject(screen, painter.Font(type));
+  TEXTMETRICW metrics{};
+  GetTextMetricsW(screen, &metrics);
+  SelectObject(screen, before);
+  ReleaseDC(nullptr, screen);
+  return static_cast<int>(metrics.tmHeight);
+}
+
+void RenewBrush(HBRUSH& brush, Color color) {
+  if (brush) DeleteObject(brush);
+  brush = CreateSolidBrush(ToColorRef(color));
+}
+
+void ColourCalendar(HWND calendar, const FaceplateColors& colors) {
+  MonthCal_SetColor(calendar, MCSC_BACKGROUND, ToColorRef(colors.glass));
+  MonthCal_SetColor(calendar, MCSC_MONTHBK, ToColorRef(colors.glass));
+  MonthCal_SetColor(calendar, MCSC_TEXT, ToColorRef(colors.glassText));
+  MonthCal_SetColor(calendar, MCSC_TITLEBK, ToColorRef(colors.key));
+  MonthCal_SetColor(calendar, MCSC_TITLETEXT, ToColorRef(colors.text));
+  MonthCal_SetColor(calendar, MCSC_TRAILINGTEXT, ToColorRef(colors.textOff));
+}
+
+bool IsUsable(const FormItem& item) {
+  const bool emptySocket = item.KindOf() == Kind::GroupKey && GetWindowTextLengthW(item.window) == 0;
+  return item.shown && IsWindowEnabled(item.window) && !emptySocket;
+}
+
+void SetTabStop(HWND control, bool stop) {
+  const LONG_PTR style = GetWindowLongPtrW(control, GWL_STYLE);
+  const LONG_PTR wanted = stop ? style | WS_TABSTOP : style & ~static_cast<LONG_PTR>(WS_TABSTOP);
+  if (wanted != style) SetWindowLongPtrW(control, GWL_STYLE, wanted);
+}
+
+}  // namespace
+
+DesignSize FormParts::Size() const { return grown.width > 0 ? grown : SizeOf(design, layout); }
+
+void FormParts::ChooseDpi(HMONITOR monitor) {
+  MONITORINFO info{};
+  info.cbSize = sizeof(info);
+  GetMonitorInfoW(monitor, &info);
+  const PixelRect room = ToPixelRect(info.rcWork);
+  painter = std::make_unique<Painter>(
+      context.faceplate.Colors(), FittingDpi(Size(), {room.Width(), room.Height()}, DpiOfMonitor(monitor)));
+  RenewBrush(glassBrush, painter->Colors().glass);
+  RenewBrush(plateBrush, painter->Colors().plate);
+  RenewBrush(offBrush, painter->Colors().keyOff);
+}
+
+void FormParts::UseDpi(int dpi) {
+  const PixelRect room = WorkAreaOf(window);
+  const int fitting = FittingDpi(Size(), {room.Width(), room.Height()}, dpi);
+  const auto old = std::move(painter);  // its fonts are in use until the controls have the new ones
+  painter = std::make_unique<Painter>(context.faceplate.Colors(), fitting);
+  RenewBrush(glassBrush, painter->Colors().glass);
+  RenewBrush(plateBrush, painter->Colors().plate);
+  RenewBrush(offBrush, painter->Colors().keyOff);
+  backdrop.Discard();
+  for (FormItem& item : items) {
+    if (item.view) item.view->LookChanged();
+    if (!item.window) continue;
+    SendMessageW(item.window, WM_SETFONT, reinterpret_cast<WPARAM>(painter->Font(FontTypeOf(*item.row))),
+                 FALSE);
+    if (item.KindOf() == Kind::MonthCalendar) ColourCalendar(item.window, painter->Colors());
+  }
+  ResizeWindow();
+}
+
+void FormParts::RenewLook() { UseDpi(painter->Dpi()); }
+
+void FormParts::ResizeWindow() {
+  const int dpi = painter->Dpi();
+  const PixelSize made = ScaleToDpi(SizeOf(design, layout), dpi);
+  const PixelSize size = ScaleToDpi(Size(), dpi);
+  SetWindowPos(window, nullptr, 0, 0, size.width, size.height, SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
+  SetWindowRgn(window, nullptr, FALSE);
+  ApplyWindowShape(window, OutlineOf(design, layout), context.shape, dpi,
+                   {made.width / 2, made.height / 2, size.width - made.width, size.height - made.height});
+  PlaceControls();
+}
+
+void FormParts::PlaceControls() {
+  const int dpi = painter->Dpi();
+  const DesignSize made = SizeOf(design, layout);
+  const PixelSize client = ScaleToDpi(Size(), dpi);
+  for (FormItem& item : items) {
+    const DesignRect* at = PlaceIn(design, layout, *item.row);
+    if (at) {
+      item.place = Arrange(*at, item.row->anchors, made, client, dpi);
+      const RECT box = WindowBox(item);
+      if (item.view) {
+        item.view->MoveTo(box);
+      } else if (IsCombo(item.KindOf())) {
+        SizeCombo(*this, item);
+      } else if (item.window) {
+        SetWindowPos(item.window, nullptr, box.left, box.top, box.right - box.left, box.bottom - box.top,
+                     SWP_NOZORDER | SWP_NOACTIVATE | SWP_NOCOPYBITS);
+      }
+    }
+    ShowOrHide(item);
+  }
+  UpdateTabStops();
+  backdrop.Discard();
+  RedrawWindow(window, nullptr, nullptr, RDW_INVALIDATE | RDW_ALLCHILDREN);
+}
+
+RECT FormParts::WindowBox(const FormItem& item) const {
+  RECT box = ToRect(item.place);
+  const auto px = [&](int design96) { return painter->Px(design96); };
+  if (IsCheck(item.KindOf())) box.left -= px(kMarkMargin);
+  if (!IsEdit(item.KindOf())) return box;
+  box.left += px(8);
+  box.right -= px(6);
+  if (item.KindOf() == Kind::Edit) {
+    // The font decides: a fixed inset would cut it off at some dpi.
+    const int height = FontHeight(*painter, FontTypeOf(*item.row));
+    box.top += (box.bottom - box.top - height) / 2;
+    box.bottom = box.top + height;
+  } else {
+    box.top += px(6);
+    box.bottom -= px(6);
+  }
+  return box;
+}
+
+void FormParts::ShowOrHide(FormItem& item) {
+  const bool wasShown = item.shown;
+  item.shown = item.wanted && !hiddenPanes[item.row->pane] && PlaceIn(design, layout, *item.row) != nullptr;
+  if (!item.shown && Focused() == &item) SendMessageW(window, WM_NEXTDLGCTL, 0, FALSE);
+  if (item.view) {
+    item.view->SetShown(item.shown);
+  } else if (item.window) {
+    ShowWindow(item.window, item.shown ? SW_SHOWNA : SW_HIDE);
+  }
+  if (wasShown == item.shown) return;
+  if (IsDecoration(item.KindOf())) backdrop.Discard();
+  if (!item.window || IsEdit(item.KindOf())) {
+    RECT box = ToRect(item.place);
+    InflateRect(&box, 2, 2);
+    RedrawWindow(window, &box, nullptr, RDW_INVALIDATE | RDW_ALLCHILDREN);
+  }
+}
+
+void FormParts::UpdateTabStops() {
+  const auto checked = [](const FormItem& item) {
+    return SendMessageW(item.window, BM_GETCHECK, 0, 0) == BST_CHECKED;
+  };
+  for (std::size_t first = 0; first < items.size();) {
+    const std::span<FormItem> group = GroupOf(items[first]);
+    first += group.size();
+    if (group.size() < 2) continue;
+    const FormItem* stop = nullptr;
+    for (const FormItem& item : group) {
+      if (IsUsable(item) && (!stop || (checked(item) && !checked(*stop)))) stop = &item;
+    }
+    for (const FormItem& item : group) SetTabStop(item.window, &item == stop);
+  }
+}
+
+}  // namespace sonaro

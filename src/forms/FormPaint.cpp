@@ -1,0 +1,245 @@
+// Painting of a form: the backdrop, texts, glass of the edits, and the entry to the keys' painting.
+#include <algorithm>
+
+#include "forms/Dpi.h"
+#include "forms/FormParts.h"
+#include "forms/WideText.h"
+
+namespace sonaro {
+namespace {
+
+std::wstring WindowText(HWND window) {
+  std::wstring text(static_cast<std::size_t>(GetWindowTextLengthW(window)), L'\0');
+  if (!text.empty()) {
+    const int copied = GetWindowTextW(window, text.data(), static_cast<int>(text.size()) + 1);
+    text.resize(static_cast<std::size_t>(copied));
+  }
+  return text;
+}
+
+Color InkColor(const FormItem& item, const FaceplateColors& colors) {
+  const bool glass = item.Has(kOnGlass);
+  switch (item.ink) {
+    case Ink::Text:
+      return colors.text;
+    case Ink::Muted:
+      return colors.muted;
+    case Ink::GlassText:
+      return colors.glassText;
+    case Ink::GlassMuted:
+      return colors.glassMuted;
+    case Ink::TabText:
+      return colors.tabText;
+    case Ink::Accent:
+      return colors.accent;
+    case Ink::Signal:
+      return colors.signal;
+    case Ink::Alert:
+      return colors.alert;
+    case Ink::Off:
+      return colors.textOff;
+    case Ink::Default:
+      break;
+  }
+  if (item.Has(kSecondary)) return glass ? colors.glassMuted : colors.muted;
+  return glass ? colors.glassText : colors.text;
+}
+
+void PaintText(const FormParts& parts, const FormItem& item, HDC dc, const RECT& box) {
+  const FaceplateColors& colors = parts.painter->Colors();
+  const Type type = item.row->type != Type::Default   ? item.row->type
+                    : item.KindOf() == Kind::TitleBar ? Type::Title
+                                                      : Type::Body;
+  UINT format = 0;
+  if (item.Has(kRightAligned)) format |= DT_RIGHT;
+  if (item.Has(kCentred)) format |= DT_CENTER;
+  if (item.Has(kWrap)) format |= DT_WORDBREAK;
+  if (item.KindOf() != Kind::Label || item.Has(kNoPrefix)) {
+    format |= DT_NOPREFIX;
+  } else if (SendMessageW(item.window, WM_QUERYUISTATE, 0, 0) & UISF_HIDEACCEL) {
+    format |= DT_HIDEPREFIX;
+  }
+  const Color color = IsWindowEnabled(item.window) ? InkColor(item, colors) : colors.textOff;
+  parts.painter->Text(dc, box, WindowText(item.window), type, color, format);
+}
+
+// Slots of a vent, cut at 45 degrees; the left ones end higher, the right ones start lower, like the
+// shoulder.
+void PaintSlots(HDC dc, const RECT& box, const Painter& painter) {
+  const FaceplateColors& colors = painter.Colors();
+  const int pitch = painter.Px(10);
+  const int width = painter.Px(4);
+  const int step = painter.Px(8);
+  const int count = static_cast<int>(box.right - box.left) / pitch;
+  for (int i = 0; i < count; ++i) {
+    const int left = static_cast<int>(box.left) + painter.Px(3) + i * pitch;
+    const bool early = i * 100 < count * 45;
+    const int top = static_cast<int>(box.top) + (early ? 0 : step);
+    const int bottom = static_cast<int>(box.bottom) - (early ? step : 0);
+    painter.CutShape(dc, {left, top, left + width, bottom}, width / 2, colors.groove, colors.groove,
+                     colors.groove);
+    painter.Fill(dc, {left + width, top + width / 2, left + width + painter.Line(), bottom},
+                 colors.milledSoft);
+  }
+}
+
+void PaintDecoration(HDC dc, const FormItem& item, const Painter& painter) {
+  const RECT box = ToRect(item.place);
+  switch (item.KindOf()) {
+    case Kind::Glass:
+      painter.Glass(dc, box, painter.Px(item.row->cut));
+      break;
+    case Kind::Groove:
+      painter.Groove(dc, box.left, box.top, box.right - box.left);
+      break;
+    case Kind::Slots:
+      PaintSlots(dc, box, painter);
+      break;
+    case Kind::Mark:
+      painter.DrawIcon(dc, Icon::ProgramMark, box.left, box.top, item.row->at.width, painter.Colors().text);
+      break;
+    default:
+      break;
+  }
+}
+
+void FrameRegion(HDC dc, HRGN region, Color color, int width) {
+  const HBRUSH brush = CreateSolidBrush(ToColorRef(color));
+  FrameRgn(dc, region, brush, width, width);
+  DeleteObject(brush);
+}
+
+// The outline's line and, just inside, the milled one.
+void PaintOutline(HDC dc, const FormParts& parts, const RECT& client) {
+  const int width = parts.painter->Line();
+  const HRGN outline = CreateRectRgn(0, 0, 0, 0);
+  if (GetWindowRgn(parts.window, outline) == ERROR) SetRectRgn(outline, 0, 0, client.right, client.bottom);
+  FrameRegion(dc, outline, parts.painter->Colors().outline, width);
+
+  const HRGN inner = CreateRectRgn(0, 0, 0, 0);
+  const HRGN moved = CreateRectRgn(0, 0, 0, 0);
+  CombineRgn(inner, outline, nullptr, RGN_COPY);
+  for (const POINT shift :
+       {POINT{width, width}, POINT{width, -width}, POINT{-width, width}, POINT{-width, -width}}) {
+    CombineRgn(moved, outline, nullptr, RGN_COPY);
+    OffsetRgn(moved, shift.x, shift.y);
+    CombineRgn(inner, inner, moved, RGN_AND);
+  }
+  FrameRegion(dc, inner, parts.painter->Colors().milledInner, width);
+  DeleteObject(moved);
+  DeleteObject(inner);
+  DeleteObject(outline);
+}
+
+void PaintBackdropContents(HDC dc, const FormParts& parts, const RECT& client) {
+  const Painter& painter = *parts.painter;
+  painter.Gradient(dc, client, painter.Colors().plateTop, painter.Colors().plateBottom);
+  if (parts.design.titleGroove > 0) {
+    painter.Groove(dc, painter.Line(), painter.Px(parts.design.titleGroove),
+                   client.right - 2 * painter.Line());
+  }
+  for (const FormItem& item : parts.items) {
+    if (!item.shown) continue;
+    if (IsDecoration(item.KindOf())) PaintDecoration(dc, item, painter);
+    if (item.KindOf() == Kind::TitleBar) {
+      const int size = 18;
+      painter.DrawIcon(dc, Icon::ProgramMark, item.place.left - painter.Px(26), painter.Px(8), size,
+                       painter.Colors().text);
+    }
+  }
+  PaintOutline(dc, parts, client);
+}
+
+void PaintEditGlass(HDC dc, const FormItem& item, const Painter& painter) {
+  const RECT box = ToRect(item.place);
+  painter.Glass(dc, box);
+  if (!IsWindowEnabled(item.window)) {
+    RECT inside = box;
+    InflateRect(&inside, -painter.Line(), -painter.Line());
+    painter.Fill(dc, inside, painter.Colors().keyOff);
+  }
+  if (GetFocus() == item.window) painter.Frame(dc, box, painter.Colors().focus, painter.FocusLine());
+}
+
+}  // namespace
+
+void Backdrop::Discard() {
+  if (!dc_) return;
+  SelectObject(dc_, before_);
+  DeleteObject(bitmap_);
+  DeleteDC(dc_);
+  dc_ = nullptr;
+}
+
+HDC Backdrop::Get(const FormParts& parts) {
+  if (dc_) return dc_;
+  RECT client{};
+  GetClientRect(parts.window, &client);
+  const HDC screen = GetDC(parts.window);
+  dc_ = CreateCompatibleDC(screen);
+  bitmap_ = CreateCompatibleBitmap(screen, std::max<int>(1, client.right), std::max<int>(1, client.bottom));
+  before_ = SelectObject(dc_, bitmap_);
+  ReleaseDC(parts.window, screen);
+  PaintBackdropContents(dc_, parts, client);
+  return dc_;
+}
+
+void FormParts::PaintBackdrop(HDC dc, HWND control) {
+  RECT box{};
+  GetClientRect(control, &box);
+  POINT corner{};
+  MapWindowPoints(control, window, &corner, 1);
+  BitBlt(dc, 0, 0, box.right, box.bottom, backdrop.Get(*this), corner.x, corner.y, SRCCOPY);
+}
+
+void FormParts::PaintWindow(HDC dc, const RECT& dirty) {
+  const BufferedPaint buffer(dc, dirty);
+  BitBlt(buffer.Dc(), dirty.left, dirty.top, dirty.right - dirty.left, dirty.bottom - dirty.top,
+         backdrop.Get(*this), dirty.left, dirty.top, SRCCOPY);
+  for (const FormItem& item : items) {
+    if (item.shown && IsEdit(item.KindOf())) PaintEditGlass(buffer.Dc(), item, *painter);
+  }
+}
+
+KeyPicture FormParts::PictureOf(const FormItem& item) const {
+  const LRESULT hidden = SendMessageW(item.window, WM_QUERYUISTATE, 0, 0);
+  KeyPicture key;
+  key.kind = item.KindOf();
+  key.secondary = item.Has(kSecondary);
+  key.text = WindowText(item.window);
+  key.detail = Widen(item.detail);
+  key.icon = item.icon;
+  key.sort = item.sort;
+  key.noPrefix = item.Has(kNoPrefix);
+  key.hideAccel = (hidden & UISF_HIDEACCEL) != 0;
+  key.focused = GetFocus() == item.window && (hidden & UISF_HIDEFOCUS) == 0;
+  key.state.hover = item.hover;
+  key.state.pressed = (SendMessageW(item.window, BM_GETSTATE, 0, 0) & BST_PUSHED) != 0;
+  key.state.disabled = !IsWindowEnabled(item.window);
+  key.state.active = SendMessageW(item.window, BM_GETCHECK, 0, 0) == BST_CHECKED;
+  key.state.empty = item.KindOf() == Kind::GroupKey && key.text.empty();
+  return key;
+}
+
+void FormParts::PaintItem(const FormItem& item, HDC dc, const RECT& box) {
+  const BufferedPaint buffer(dc, box);
+  PaintBackdrop(buffer.Dc(), item.window);
+  if (IsText(item.KindOf())) {
+    PaintText(*this, item, buffer.Dc(), box);
+  } else if (item.KindOf() == Kind::Picture) {
+    if (item.picture) item.picture(buffer.Dc(), box, *painter);
+  } else {
+    PaintKey(buffer.Dc(), box, PictureOf(item), *painter);
+  }
+}
+
+void FormParts::RepaintItem(const FormItem& item) {
+  if (item.Window()) {
+    RedrawWindow(item.Window(), nullptr, nullptr, RDW_INVALIDATE | RDW_ALLCHILDREN);
+  } else if (window) {
+    backdrop.Discard();
+    InvalidateRect(window, nullptr, FALSE);
+  }
+}
+
+}  // namespace sonaro

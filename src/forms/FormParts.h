@@ -1,0 +1,179 @@
+// The inside of a form, shared by the files that build, place, paint and run it. Held by shared_ptr: the
+// window procedure keeps it alive while a handler destroys the Form itself.
+#pragma once
+
+#include <windows.h>
+
+#include <array>
+#include <bitset>
+#include <functional>
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "forms/DrawnKey.h"
+#include "forms/Form.h"
+#include "forms/Painter.h"
+#include "forms/portable/Arrange.h"
+
+namespace sonaro {
+
+// A row of the control table at run time.
+struct FormItem {
+  const ControlRow* row = nullptr;
+  HWND window = nullptr;  // nullptr: a decoration, or a view
+  bool wanted = true;     // not hidden by kHidden or ShowControl
+  bool shown = false;     // wanted, in a shown pane, and with a place in the layout
+  bool hover = false;
+  bool groupStart = true;
+  PixelRect place;  // of the row's rectangle; the window may be smaller (an edit in its glass)
+  std::string detail;
+  Icon icon = Icon::None;
+  Ink ink = Ink::Default;
+  SortMark sort = SortMark::None;
+  Form::PicturePainter picture;
+  std::unique_ptr<FormControl> view;
+
+  int Id() const { return row->id; }
+  Kind KindOf() const { return row->kind; }
+  bool Has(unsigned flag) const { return (row->flags & flag) != 0; }
+  HWND Window() const { return view ? view->Window() : window; }
+};
+
+bool IsText(Kind kind);    // Label, TitleBar, StateLabel
+bool IsKey(Kind kind);     // pressed by Enter: every key except check boxes and radio buttons
+bool IsToggle(Kind kind);  // keys that keep a state
+bool IsCheck(Kind kind);   // CheckBox, RadioButton
+bool IsEdit(Kind kind);    // in glass that the form paints
+bool IsCombo(Kind kind);
+bool IsDecoration(Kind kind);  // painted by the form, no window
+
+// The form's ground: plate, decorations, outline. Painted once for a look and a layout; controls copy from it
+// what lies behind them.
+class Backdrop {
+ public:
+  Backdrop() = default;
+  ~Backdrop() { Discard(); }
+  Backdrop(const Backdrop&) = delete;
+  Backdrop& operator=(const Backdrop&) = delete;
+  void Discard();
+  // The bitmap's device context, painted first when it is not.
+  HDC Get(const FormParts& parts);
+
+ private:
+  HDC dc_ = nullptr;
+  HBITMAP bitmap_ = nullptr;
+  HGDIOBJ before_ = nullptr;
+};
+
+class FormParts final : public FormServices, public std::enable_shared_from_this<FormParts> {
+ public:
+  FormParts(Form& form, FormContext& formContext, const FormDesign& formDesign);
+  ~FormParts() override;
+
+  const Painter& Look() const override { return *painter; }
+  void PaintBackdrop(HDC dc, HWND control) override;
+  void Raise(const FormEvent& event) override;
+
+  FormItem* Find(int id);
+  FormItem* Find(HWND window);  // the control or a window inside it
+  FormItem* Focused();
+  std::span<FormItem> GroupOf(const FormItem& item);  // with its neighbours in the arrow keys' group
+  FormItem* ShownPrimary();
+
+  // Runs the handler of the event table; false when none is bound. The form may be gone afterwards.
+  bool Handle(const FormEvent& event);
+  bool IsBound(int id, FormEvent::Kind kind) const;
+  void RunTimer(int id);
+  // What pressing the control or choosing the menu entry does. Hidden and disabled controls do nothing.
+  void Press(int id);
+  void Escape();
+  void CloseRequest();
+
+  // FormBuild.cpp
+  bool BuildWindow(HWND owner);
+  void BuildControls();
+  std::unique_ptr<FormControl> MakeView(const ControlRow& row);  // FormViews.cpp; nullptr for the other kinds
+  void SetTip(FormItem& item, const std::string& text);
+
+  // FormLayout.cpp
+  void ChooseDpi(HMONITOR monitor);  // makes painter and brushes
+  void UseDpi(int dpi);              // or the largest that fits the work area; the window keeps its corner
+  void RenewLook();     // colours changed: painter, brushes, fonts, outline, everything painted again
+  void ResizeWindow();  // to the layout's size at the dpi, outline included
+  void PlaceControls();
+  void ShowOrHide(FormItem& item);
+  void UpdateTabStops();  // one in each group
+  DesignSize Size() const;
+  RECT WindowBox(const FormItem& item) const;  // of the control's window, which may be smaller than its place
+
+  // FormWindow.cpp
+  LRESULT HandleMessage(UINT message, WPARAM wParam, LPARAM lParam);
+  void Destroy();
+  void DestroySoon();  // when the handler that runs now has returned
+  std::string TextOf(const Words& words) const;
+
+  // FormPaint.cpp
+  void PaintWindow(HDC dc, const RECT& dirty);
+  void PaintItem(const FormItem& item, HDC dc, const RECT& box);
+  KeyPicture PictureOf(const FormItem& item) const;
+  void RepaintItem(const FormItem& item);
+
+  Form* form;  // nullptr once the form is gone
+  FormContext& context;
+  const FormDesign& design;
+  HWND window = nullptr;
+  HWND tips = nullptr;
+  std::vector<FormItem> items;
+  std::vector<FormItem> formerItems;  // of the window before: its last call may still be running
+  std::bitset<256> hiddenPanes;
+  std::unique_ptr<Painter> painter;
+  Backdrop backdrop;
+  HBRUSH glassBrush = nullptr;
+  HBRUSH plateBrush = nullptr;
+  HBRUSH offBrush = nullptr;
+  DesignSize grown;  // by Resize; {} = the layout's size
+  int layout = 0;
+  bool moving = false;
+  bool quiet = false;       // the program sets a text: no Change event
+  bool modal = false;       // ShowModal runs
+  bool closing = false;     // Close was called
+  bool placed = false;      // the program has said where the window lies
+  bool focusGiven = false;  // the first focus is set at the first showing
+  int result = 0;
+  int depth = 0;  // nested calls of the window procedure
+
+ private:
+  void Load(HWND made);
+  LRESULT HandleCommand(WPARAM wParam, LPARAM lParam);
+  LRESULT HandleNotice(NMHDR& notice);
+  LRESULT HandleDrawing(UINT message, WPARAM wParam, LPARAM lParam);
+  LRESULT HandleControlColor(UINT message, HDC dc, HWND control);
+  LRESULT HandlePointer(UINT message, LPARAM lParam);
+  LRESULT HandleContextMenu(HWND control, LPARAM lParam);
+  LRESULT HandleSurroundings(UINT message, WPARAM wParam, LPARAM lParam);
+  void EditNotice(FormItem& item, int code);
+  void ComboNotice(FormItem& item, int code);
+  void Drag();
+  void Forget();
+};
+
+// Lets go of a form's inside. When the form is gone and this was the last to hold it, it is freed only after
+// the calls that are still running in its controls have returned.
+void LetGo(std::shared_ptr<FormParts> parts);
+
+// The form that a window of this thread is; nullptr for every other window.
+FormParts* FormPartsOf(HWND window);
+
+// The one window procedure of all forms.
+LRESULT CALLBACK FormProcedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam) noexcept;
+
+// ControlWindow.cpp: hover, repainting, painting of check boxes for every control of a form.
+void WatchControl(FormParts& parts, FormItem& item);
+
+// ComboFace.cpp: the drawn face of a combo and its open list.
+void DressCombo(FormParts& parts, FormItem& item);
+void SizeCombo(FormParts& parts, FormItem& item);
+void PaintComboRow(const FormParts& parts, const DRAWITEMSTRUCT& draw);
+
+}  // namespace sonaro

@@ -1,0 +1,352 @@
+// The one window procedure of all forms, and what it does with each message.
+#include <algorithm>
+
+#include "forms/ControlIds.h"
+#include "forms/Dpi.h"
+#include "forms/FormParts.h"
+#include "forms/Guard.h"
+#include "forms/HighContrast.h"
+#include "forms/WideText.h"
+
+namespace sonaro {
+namespace {
+
+constexpr UINT kDestroyNow = WM_APP + 0x3F00;  // posted by Close from inside a handler
+
+// Frees what a destroyed form leaves behind once the calls that are still running in it have returned: a
+// message to a window of its own comes after them, whatever loop runs.
+LRESULT CALLBACK ReaperProcedure(HWND reaper, UINT message, WPARAM wParam, LPARAM lParam, UINT_PTR id,
+                                 DWORD_PTR held) noexcept {
+  if (message == kDestroyNow) {
+    DestroyWindow(reaper);
+    return 0;
+  }
+  if (message == WM_NCDESTROY) {
+    RemoveWindowSubclass(reaper, ReaperProcedure, id);
+    delete reinterpret_cast<std::shared_ptr<FormParts>*>(held);
+  }
+  return DefSubclassProc(reaper, message, wParam, lParam);
+}
+
+void FreeLater(std::shared_ptr<FormParts> parts) {
+  const HWND reaper = CreateWindowExW(0, L"STATIC", nullptr, 0, 0, 0, 0, 0, HWND_MESSAGE, nullptr,
+                                      GetModuleHandleW(nullptr), nullptr);
+  if (!reaper) return;
+  auto held = std::make_unique<std::shared_ptr<FormParts>>(std::move(parts));
+  SetWindowSubclass(reaper, ReaperProcedure, 1, reinterpret_cast<DWORD_PTR>(held.release()));
+  PostMessageW(reaper, kDestroyNow, 0, 0);
+}
+
+}  // namespace
+
+void LetGo(std::shared_ptr<FormParts> parts) {
+  if (!parts->form && parts->depth == 0 && parts.use_count() == 1) FreeLater(std::move(parts));
+}
+
+namespace {
+
+POINT PointOf(LPARAM lParam) {
+  return {static_cast<short>(LOWORD(lParam)), static_cast<short>(HIWORD(lParam))};
+}
+
+}  // namespace
+
+FormParts* FormPartsOf(HWND window) {
+  if (!window || GetWindowThreadProcessId(window, nullptr) != GetCurrentThreadId()) return nullptr;
+  if (GetWindowLongPtrW(window, GWLP_WNDPROC) != reinterpret_cast<LONG_PTR>(&FormProcedure)) return nullptr;
+  return reinterpret_cast<FormParts*>(GetWindowLongPtrW(window, GWLP_USERDATA));
+}
+
+LRESULT CALLBACK FormProcedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam) noexcept {
+  return Guarded(0, [&]() -> LRESULT {
+    auto* known = reinterpret_cast<FormParts*>(GetWindowLongPtrW(window, GWLP_USERDATA));
+    if (!known && message == WM_INITDIALOG) {
+      known = reinterpret_cast<FormParts*>(lParam);
+      SetWindowLongPtrW(window, GWLP_USERDATA, lParam);
+      known->window = window;
+    }
+    if (!known) return DefDlgProcW(window, message, wParam, lParam);
+
+    auto parts = known->shared_from_this();
+    struct Depth {
+      explicit Depth(int& counted) : depth(counted) { ++depth; }
+      ~Depth() { --depth; }
+      int& depth;
+    };
+    LRESULT answer = 0;
+    {
+      const Depth deeper(parts->depth);
+      answer = parts->HandleMessage(message, wParam, lParam);
+    }
+    LetGo(std::move(parts));
+    return answer;
+  });
+}
+
+LRESULT FormParts::HandleMessage(UINT message, WPARAM wParam, LPARAM lParam) {
+  const HWND self = window;
+  LRESULT answer = 0;
+  if (form && message != WM_INITDIALOG && form->OnMessage(message, wParam, lParam, answer)) return answer;
+  switch (message) {
+    case WM_INITDIALOG:
+      Load(self);
+      return FALSE;
+    case WM_COMMAND:
+      return HandleCommand(wParam, lParam);
+    case WM_NOTIFY:
+      return HandleNotice(*reinterpret_cast<NMHDR*>(lParam));
+    case WM_TIMER:
+      RunTimer(static_cast<int>(wParam));
+      return 0;
+    case WM_ERASEBKGND:
+      return 1;
+    case WM_PAINT:
+    case WM_DRAWITEM:
+    case WM_MEASUREITEM:
+      return HandleDrawing(message, wParam, lParam);
+    case WM_CTLCOLOREDIT:
+    case WM_CTLCOLORSTATIC:
+    case WM_CTLCOLORLISTBOX:
+      return HandleControlColor(message, reinterpret_cast<HDC>(wParam), reinterpret_cast<HWND>(lParam));
+    case WM_LBUTTONDOWN:
+    case WM_RBUTTONDOWN:
+    case WM_MBUTTONDOWN:
+      return HandlePointer(message, lParam);
+    case WM_CONTEXTMENU:
+      return HandleContextMenu(reinterpret_cast<HWND>(wParam), lParam);
+    case WM_CLOSE:
+      CloseRequest();
+      return 0;
+    case kDestroyNow:
+      if (closing) Destroy();
+      return 0;
+    case DM_GETDEFID: {
+      const FormItem* primary = ShownPrimary();
+      return primary ? MAKELRESULT(primary->Id(), DC_HASDEFID) : 0;
+    }
+    case WM_DPICHANGED:
+    case WM_DISPLAYCHANGE:
+    case WM_SYSCOLORCHANGE:
+    case WM_THEMECHANGED:
+    case WM_SETTINGCHANGE:
+      return HandleSurroundings(message, wParam, lParam);
+    case WM_DESTROY:
+      if (!closing && form) form->OnUnload();  // the system destroys it together with its owner
+      break;
+    case WM_NCDESTROY: {
+      answer = DefDlgProcW(self, message, wParam, lParam);
+      Forget();
+      return answer;
+    }
+    default:
+      break;
+  }
+  return DefDlgProcW(self, message, wParam, lParam);
+}
+
+void FormParts::Load(HWND made) {
+  window = made;
+  // Newer systems would scale the controls of a dialog by themselves; the tables are the only hand on them.
+  using SetBehaviour = BOOL(WINAPI*)(HWND, int, int);
+  const auto setBehaviour = reinterpret_cast<SetBehaviour>(
+      reinterpret_cast<void*>(GetProcAddress(GetModuleHandleW(L"user32.dll"), "SetDialogDpiChangeBehavior")));
+  constexpr int kDisableAll = 1;
+  if (setBehaviour) setBehaviour(window, kDisableAll, kDisableAll);
+
+  SetWindowTextW(window, Widen(TextOf(design.caption)).c_str());
+  BuildControls();
+  UseDpi(painter->Dpi());
+  const HWND owner = GetWindow(window, GW_OWNER);
+  const LRESULT hidden = owner ? SendMessageW(owner, WM_QUERYUISTATE, 0, 0) : UISF_HIDEFOCUS | UISF_HIDEACCEL;
+  BOOL cues = FALSE;
+  SystemParametersInfoW(SPI_GETKEYBOARDCUES, 0, &cues, 0);
+  SendMessageW(window, WM_UPDATEUISTATE,
+               MAKEWPARAM(UIS_SET, cues ? 0 : hidden & (UISF_HIDEFOCUS | UISF_HIDEACCEL)), 0);
+  form->OnLoad();
+}
+
+void FormParts::Destroy() {
+  if (window) DestroyWindow(window);
+}
+
+void FormParts::DestroySoon() { PostMessageW(window, kDestroyNow, 0, 0); }
+
+void FormParts::Forget() {
+  SetWindowLongPtrW(window, GWLP_USERDATA, 0);
+  window = nullptr;
+  tips = nullptr;
+  moving = false;
+  backdrop.Discard();
+  for (FormItem& item : items) item.window = nullptr;
+}
+
+LRESULT FormParts::HandleCommand(WPARAM wParam, LPARAM lParam) {
+  const int id = LOWORD(wParam);
+  const int code = HIWORD(wParam);
+  if (lParam == 0) {
+    if (id == IDCANCEL) {
+      Escape();
+    } else if (id != IDOK) {
+      Press(id);
+    }
+    return 0;
+  }
+  FormItem* item = Find(reinterpret_cast<HWND>(lParam));
+  if (!item) return 0;
+  if (IsKey(item->KindOf()) || IsCheck(item->KindOf())) {
+    // A fast second click comes as a double click; it is a click like any other.
+    if (code != BN_CLICKED && code != BN_DBLCLK) return 0;
+    if (item->KindOf() == Kind::RadioButton) UpdateTabStops();
+    if (context.clickSound) context.clickSound();
+    Handle({.id = item->Id()});
+  } else if (IsCombo(item->KindOf())) {
+    ComboNotice(*item, code);
+  } else {
+    EditNotice(*item, code);
+  }
+  return 0;
+}
+
+void FormParts::EditNotice(FormItem& item, int code) {
+  using Event = FormEvent::Kind;
+  if (code == EN_CHANGE && !quiet) Handle({.id = item.Id(), .kind = Event::Change});
+  if (code == EN_SETFOCUS) Handle({.id = item.Id(), .kind = Event::GotFocus});
+  if (code == EN_KILLFOCUS) Handle({.id = item.Id(), .kind = Event::LostFocus});
+}
+
+void FormParts::ComboNotice(FormItem& item, int code) {
+  using Event = FormEvent::Kind;
+  InvalidateRect(item.window, nullptr, FALSE);
+  if (code == CBN_SELCHANGE) {
+    if (item.KindOf() == Kind::ComboEdit) {
+      // The system sets the edit field only after this notice; a handler would read the old text.
+      const int row = static_cast<int>(SendMessageW(item.window, CB_GETCURSEL, 0, 0));
+      SetWindowTextW(item.window, Widen(form->ItemText(item.Id(), row)).c_str());
+    }
+    Handle({.id = item.Id(), .kind = Event::SelChange});
+  } else if (code == CBN_EDITCHANGE && !quiet) {
+    Handle({.id = item.Id(), .kind = Event::Change});
+  } else if (code == CBN_DROPDOWN) {
+    Handle({.id = item.Id(), .kind = Event::DropDown});
+  } else if (code == CBN_SETFOCUS) {
+    Handle({.id = item.Id(), .kind = Event::GotFocus});
+  } else if (code == CBN_KILLFOCUS) {
+    Handle({.id = item.Id(), .kind = Event::LostFocus});
+  }
+}
+
+LRESULT FormParts::HandleNotice(NMHDR& notice) {
+  FormItem* item = Find(notice.hwndFrom);
+  if (!item) return 0;
+  LRESULT answer = 0;
+  if (item->view) return item->view->OnNotify(notice, answer) ? answer : 0;
+  if (notice.code == NM_CUSTOMDRAW && (IsToggle(item->KindOf()) || IsCheck(item->KindOf()))) {
+    const auto& draw = reinterpret_cast<const NMCUSTOMDRAW&>(notice);
+    RECT box{};
+    GetClientRect(item->window, &box);
+    PaintItem(*item, draw.hdc, box);
+    return CDRF_SKIPDEFAULT;
+  }
+  if (item->KindOf() == Kind::MonthCalendar && notice.code == static_cast<UINT>(MCN_SELCHANGE)) {
+    Handle({.id = item->Id(), .kind = FormEvent::Kind::SelChange});
+  }
+  return 0;
+}
+
+LRESULT FormParts::HandleDrawing(UINT message, WPARAM, LPARAM lParam) {
+  if (message == WM_PAINT) {
+    PAINTSTRUCT paint{};
+    const HDC dc = BeginPaint(window, &paint);
+    PaintWindow(dc, paint.rcPaint);
+    EndPaint(window, &paint);
+    return 0;
+  }
+  if (message == WM_MEASUREITEM) {
+    reinterpret_cast<MEASUREITEMSTRUCT*>(lParam)->itemHeight = static_cast<UINT>(painter->Px(22));
+    return TRUE;
+  }
+  const auto& draw = *reinterpret_cast<const DRAWITEMSTRUCT*>(lParam);
+  const FormItem* item = Find(draw.hwndItem);
+  if (!item) return FALSE;
+  if (draw.CtlType == ODT_COMBOBOX) {
+    PaintComboRow(*this, draw);
+  } else {
+    PaintItem(*item, draw.hDC, draw.rcItem);
+  }
+  return TRUE;
+}
+
+LRESULT FormParts::HandleControlColor(UINT message, HDC dc, HWND control) {
+  const FaceplateColors& colors = painter->Colors();
+  const FormItem* item = Find(control);
+  const bool enabled = IsWindowEnabled(control) != FALSE;
+  const bool onPlate = item && item->KindOf() == Kind::ReadOnlyText && !item->Has(kOnGlass);
+  SetTextColor(dc, ToColorRef(!enabled ? colors.textOff : onPlate ? colors.text : colors.glassText));
+  if (onPlate) {
+    SetBkColor(dc, ToColorRef(colors.plate));
+    return reinterpret_cast<LRESULT>(plateBrush);
+  }
+  const bool off = !enabled && message != WM_CTLCOLORLISTBOX;
+  SetBkColor(dc, ToColorRef(off ? colors.keyOff : colors.glass));
+  return reinterpret_cast<LRESULT>(off ? offBrush : glassBrush);
+}
+
+LRESULT FormParts::HandlePointer(UINT message, LPARAM lParam) {
+  const POINT at = PointOf(lParam);
+  for (const FormItem& item : items) {
+    const RECT glass = ToRect(item.place);
+    if (!IsEdit(item.KindOf()) || !item.shown || !PtInRect(&glass, at)) continue;
+    if (message == WM_LBUTTONDOWN && IsWindowEnabled(item.window)) SetFocus(item.window);
+    return 0;
+  }
+  if (design.draggable) Drag();
+  return 0;
+}
+
+void FormParts::Drag() {
+  RECT before{};
+  GetWindowRect(window, &before);
+  moving = true;
+  ReleaseCapture();
+  SendMessageA(window, WM_NCLBUTTONDOWN, HTCAPTION, 0);  // returns when the system's move loop has ended
+  moving = false;
+  RECT after{};
+  if (!window || !GetWindowRect(window, &after)) return;
+  if (form && !EqualRect(&before, &after)) form->OnMoved();
+}
+
+LRESULT FormParts::HandleContextMenu(HWND control, LPARAM lParam) {
+  const FormItem* item = Find(control);
+  if (!item || item->view) return 0;
+  POINT at = PointOf(lParam);
+  if (lParam == -1) {  // by the keyboard
+    RECT box{};
+    GetWindowRect(control, &box);
+    at = {box.left, box.bottom};
+  }
+  Handle({.id = item->Id(), .kind = FormEvent::Kind::ContextMenu, .point = at});
+  return 0;
+}
+
+LRESULT FormParts::HandleSurroundings(UINT message, WPARAM wParam, LPARAM lParam) {
+  if (message == WM_DPICHANGED) {
+    const RECT& suggested = *reinterpret_cast<const RECT*>(lParam);
+    SetWindowPos(window, nullptr, suggested.left, suggested.top, 0, 0,
+                 SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
+    UseDpi(HIWORD(wParam));
+    return 0;
+  }
+  if (message == WM_DISPLAYCHANGE) {
+    RECT box{};
+    GetWindowRect(window, &box);
+    form->MoveToPixels(box.left, box.top);
+    return 0;
+  }
+  if (message != WM_SETTINGCHANGE || wParam == SPI_SETHIGHCONTRAST) {
+    FollowHighContrast(context.faceplate);
+    RenewLook();
+  }
+  return DefDlgProcW(window, message, wParam, lParam);
+}
+
+}  // namespace sonaro

@@ -1,0 +1,112 @@
+#include "forms/MessageLoop.h"
+
+#include "forms/ControlIds.h"
+#include "forms/FormParts.h"
+
+namespace sonaro {
+namespace {
+
+unsigned ModifiersDown() {
+  const auto down = [](int key) { return GetKeyState(key) < 0; };
+  unsigned modifiers = kPlain;
+  if (down(VK_SHIFT)) modifiers |= kShift;
+  if (down(VK_CONTROL)) modifiers |= kCtrl;
+  if (down(VK_MENU)) modifiers |= kAlt;
+  return modifiers;
+}
+
+bool RunKeyTable(FormParts& parts, int key, int focusedId) {
+  for (const KeyRow& row : parts.design.keys) {
+    if (row.key != key || row.modifiers != ModifiersDown()) continue;
+    if (row.onlyIn != 0 && row.onlyIn != focusedId) continue;
+    parts.Press(row.command);
+    return true;
+  }
+  if (key == VK_F1 && ModifiersDown() == kPlain && parts.Find(butHelp)) {
+    parts.Press(butHelp);
+    return true;
+  }
+  return false;
+}
+
+// Enter: what waits for it in the focused control, the focused key, else the primary key.
+bool RunEnter(FormParts& parts, FormItem* focused, MSG& message) {
+  if (focused) {
+    const int id = focused->Id();
+    if (parts.IsBound(id, FormEvent::Kind::EnterPressed)) {
+      parts.Handle({.id = id, .kind = FormEvent::Kind::EnterPressed});
+      return true;
+    }
+    const bool actsItself = parts.IsBound(id, FormEvent::Kind::ItemActivated) ||
+                            parts.IsBound(id, FormEvent::Kind::NodeClick) ||
+                            (focused->KindOf() == Kind::MultiEdit && ModifiersDown() == kCtrl);
+    if (actsItself) {
+      TranslateMessage(&message);
+      DispatchMessageW(&message);
+      return true;
+    }
+    if (IsKey(focused->KindOf())) {
+      parts.Press(id);
+      return true;
+    }
+  }
+  if (ModifiersDown() != kPlain) return false;
+  if (const FormItem* primary = parts.ShownPrimary()) parts.Press(primary->Id());
+  return true;
+}
+
+bool RunKey(FormParts& parts, MSG& message) {
+  FormItem* focused = parts.Focused();
+  const int key = static_cast<int>(message.wParam);
+  const bool listOpen =
+      focused && IsCombo(focused->KindOf()) && SendMessageW(focused->window, CB_GETDROPPEDSTATE, 0, 0) != 0;
+  if (listOpen && (key == VK_RETURN || key == VK_ESCAPE)) return false;
+  if (RunKeyTable(parts, key, focused ? focused->Id() : 0)) return true;
+  if (key == VK_RETURN && message.message == WM_KEYDOWN) return RunEnter(parts, focused, message);
+  if (key == VK_ESCAPE && message.message == WM_KEYDOWN) {
+    parts.Escape();
+    return true;
+  }
+  return false;
+}
+
+// The wheel turns what is under the pointer, as users expect, not what has the focus.
+bool SendWheelToPointer(HWND form, MSG& message) {
+  const POINT at = {static_cast<short>(LOWORD(message.lParam)), static_cast<short>(HIWORD(message.lParam))};
+  const HWND under = WindowFromPoint(at);
+  if (!under || under == message.hwnd || GetAncestor(under, GA_ROOT) != form || under == form) return false;
+  SendMessageW(under, message.message, message.wParam, message.lParam);
+  return true;
+}
+
+BOOL CALLBACK RefreshForm(HWND window, LPARAM) {
+  if (FormParts* parts = FormPartsOf(window)) parts->RenewLook();
+  return TRUE;
+}
+
+}  // namespace
+
+bool TranslateFormMessage(MSG& message) {
+  const HWND root = message.hwnd ? GetAncestor(message.hwnd, GA_ROOT) : nullptr;
+  FormParts* found = FormPartsOf(root);
+  if (!found) return false;
+  const auto parts = found->shared_from_this();
+  if (message.message == WM_MOUSEWHEEL && SendWheelToPointer(root, message)) return true;
+  if ((message.message == WM_KEYDOWN || message.message == WM_SYSKEYDOWN) && RunKey(*parts, message))
+    return true;
+  return IsWindow(root) && IsDialogMessageW(root, &message);
+}
+
+int RunMessageLoop() {
+  MSG message{};
+  while (GetMessageW(&message, nullptr, 0, 0) > 0) {
+    if (TranslateFormMessage(message)) continue;
+    TranslateMessage(&message);
+    DispatchMessageW(&message);
+  }
+  return static_cast<int>(message.wParam);
+}
+
+void RefreshAllForms() { EnumThreadWindows(GetCurrentThreadId(), RefreshForm, 0); }
+
+}  // namespace sonaro
