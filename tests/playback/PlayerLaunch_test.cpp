@@ -1,0 +1,248 @@
+#include "playback/PlayerLaunch.h"
+
+#include <gtest/gtest.h>
+
+#include "playback/PlaybackWorld.h"
+#include "resources/ids.h"
+
+namespace sonaro {
+namespace {
+
+class FakeLaunchView : public LaunchView {
+ public:
+  int noPlayerPages = 0;
+  std::function<void()> whileShown;
+  std::vector<std::string> sentences;
+
+  void ShowNoPlayer() override {
+    ++noPlayerPages;
+    if (whileShown) whileShown();
+  }
+  void SayWhyNot(const std::string& sentence) override { sentences.push_back(sentence); }
+};
+
+using Opened = FakeShell::Opened;
+
+class PlayerLaunchTest : public testing::Test, protected PlaybackWorld {
+ protected:
+  PlayerLaunchTest() { launch.SetView(&view_); }
+  std::string Played() {
+    return shell.opened.empty() ? "(none)"
+                                : shell.opened.back().program + "|" + shell.opened.back().parameters;
+  }
+  std::string Browsed() { return shell.runMinimised.empty() ? "(none)" : shell.runMinimised.back(); }
+  void ClearShell() {
+    shell.opened.clear();
+    shell.runMinimised.clear();
+    view_.sentences.clear();
+  }
+
+  FakeLaunchView view_;
+};
+
+TEST_F(PlayerLaunchTest, LinkPrefixDecides) {
+  InstallRealPlayer();
+  const struct {
+    const char* link;
+    const char* played;
+    const char* browsed;
+  } kCases[] = {
+      {"http://a.example/s.ram", "C:\\Real\\RealPlay.exe|http://a.example/s.ram", "(none)"},
+      {"rtsp://a.example/m", "C:\\Real\\RealPlay.exe|rtsp://a.example/m", "(none)"},
+      {"mhttp://a.example/s", "c:\\media\\player.exe|http://a.example/s", "(none)"},
+      {"mmms://a.example/s", "c:\\media\\player.exe|mms://a.example/s", "(none)"},
+      {"whttp://a.example/", "(none)", "/d/lweb.exe http://a.example/"},
+      {"wwww.a.example", "(none)", "/d/lweb.exe http://www.a.example"},
+  };
+  for (const auto& c : kCases) {
+    ClearShell();
+    launch.LaunchStation(c.link, PlayMode::KeyItself);
+    EXPECT_EQ(Played(), c.played) << c.link;
+    EXPECT_EQ(Browsed(), c.browsed) << c.link;
+    EXPECT_TRUE(view_.sentences.empty());
+    for (const Opened& opened : shell.opened) EXPECT_EQ(opened.folder, "/d");
+  }
+  EXPECT_TRUE(recent.Tokens().empty());
+}
+
+TEST_F(PlayerLaunchTest, ModesChooseTheLinkAndRecord) {
+  AddStation(12, "Jazz", {"m1://x", "m2://x", "m3://x"});
+  AddStation(-5, "Minus", {"m4://x"});
+  PersonalStation own;
+  own.name = "Own";
+  own.links = {"", "m5://x", ""};
+  personal.Add(own);
+  const struct {
+    const char* key;
+    PlayMode mode;
+    const char* link;
+    const char* recent;
+  } kCases[] = {
+      {"12", PlayMode::LinkOne, "1://x", "12 "},
+      {"12", PlayMode::LinkTwo, "2://x", "12 "},
+      {"12", PlayMode::LinkThree, "3://x", "12 "},
+      {"-5", PlayMode::LinkOne, "4://x", "-5 12 "},
+      {"1", PlayMode::Personal, "5://x", "P1 -5 12 "},
+      {"P1", PlayMode::LinkTwo, "5://x", "P1 -5 12 "},
+      {"m6://x\tm7://x", PlayMode::BeforeTab, "6://x", "P1 -5 12 "},
+      {"m8://x", PlayMode::KeyItself, "8://x", "P1 -5 12 "},
+  };
+  for (const auto& c : kCases) {
+    ClearShell();
+    launch.LaunchStation(c.key, c.mode);
+    EXPECT_EQ(Played(), std::string("c:\\media\\player.exe|") + c.link);
+    EXPECT_EQ(recent.AsText(), c.recent);
+  }
+}
+
+TEST_F(PlayerLaunchTest, WithoutALinkTheAlternateOneOrTheWebSite) {
+  AddStation(1, "Alternate", {" ", "m2://x"}, "malt://x", "www.site.example");
+  AddStation(2, "Site", {}, "", "www.site.example");
+  AddStation(3, "Page", {}, "whttps://page.example/");
+  AddStation(4, "Nothing", {});
+  PersonalStation own;
+  own.name = "Own";
+  own.webSite = "https://own.example/";
+  personal.Add(own);  // has the number of a directory station as its index
+  const struct {
+    const char* key;
+    PlayMode mode;
+    const char* played;
+    const char* browsed;
+    LaunchOutcome outcome;
+  } kCases[] = {
+      {"1", PlayMode::LinkOne, "c:\\media\\player.exe|alt://x", "(none)", LaunchOutcome::Started},
+      {"1", PlayMode::LinkTwo, "c:\\media\\player.exe|2://x", "(none)", LaunchOutcome::Started},
+      {"2", PlayMode::LinkOne, "(none)", "/d/lweb.exe http://www.site.example", LaunchOutcome::WebPage},
+      {"3", PlayMode::LinkThree, "(none)", "/d/lweb.exe https://page.example/", LaunchOutcome::WebPage},
+      {"4", PlayMode::LinkOne, "(none)", "(none)", LaunchOutcome::NoLink},
+      {"99", PlayMode::LinkOne, "(none)", "(none)", LaunchOutcome::NoLink},
+      {"X", PlayMode::LinkOne, "(none)", "(none)", LaunchOutcome::NoLink},
+      {"1", PlayMode::Personal, "(none)", "/d/lweb.exe https://own.example/", LaunchOutcome::WebPage},
+      {"7", PlayMode::Personal, "(none)", "(none)", LaunchOutcome::NoLink},
+      {"\tm1://x", PlayMode::BeforeTab, "(none)", "(none)", LaunchOutcome::NoLink},
+      {"", PlayMode::KeyItself, "(none)", "(none)", LaunchOutcome::NoLink},
+      {"m", PlayMode::KeyItself, "(none)", "(none)", LaunchOutcome::NoLink},
+      {"w", PlayMode::KeyItself, "(none)", "(none)", LaunchOutcome::NoLink},
+  };
+  for (const auto& c : kCases) {
+    ClearShell();
+    EXPECT_EQ(launch.TryLaunch(c.key, c.mode), c.outcome) << c.key;
+    EXPECT_EQ(Played(), c.played) << c.key;
+    EXPECT_EQ(Browsed(), c.browsed) << c.key;
+  }
+  EXPECT_EQ(recent.AsText(), "P7 P1 99 4 3 2 1 ");
+}
+
+TEST_F(PlayerLaunchTest, HostileLinksReachNoProgram) {
+  InstallRealPlayer();
+  for (const char* link :
+       {"m-play http://a", "m/open", "-x", "/x", "http://a\" \"b", "mhttp://a /delete", "m \r\nx",
+        "wfile:///etc/passwd", "whttp://a.example/ -x", "wjavascript:alert(1)"}) {
+    ClearShell();
+    launch.LaunchStation(link, PlayMode::KeyItself);
+    EXPECT_EQ(Played(), "(none)") << link;
+    EXPECT_EQ(Browsed(), "(none)") << link;
+    EXPECT_EQ(view_.sentences, std::vector<std::string>{std::to_string(IDS_WHYNOT_REFUSED_LINK)}) << link;
+  }
+}
+
+TEST_F(PlayerLaunchTest, NoPlayerPageOpensOnce) {
+  view_.whileShown = [this] { launch.LaunchStation("http://b/", PlayMode::KeyItself); };
+  launch.LaunchStation("http://a/", PlayMode::KeyItself);
+  EXPECT_EQ(view_.noPlayerPages, 1);
+  EXPECT_TRUE(view_.sentences.empty());
+  view_.whileShown = nullptr;
+  launch.LaunchStation("http://a/", PlayMode::KeyItself);
+  EXPECT_EQ(view_.noPlayerPages, 2);
+  EXPECT_TRUE(shell.opened.empty());
+
+  // A program for .ram files that is something else is no player either.
+  shell.programs[".ram"] = "c:\\tools\\notepad.exe";
+  files.Put("c:\\tools\\notepad.exe", "");
+  EXPECT_EQ(launch.TryLaunch("http://a/", PlayMode::KeyItself), LaunchOutcome::NoPlayer);
+  EXPECT_EQ(view_.noPlayerPages, 2);
+}
+
+TEST_F(PlayerLaunchTest, FailuresThatTheUserIsTold) {
+  shell.programs.clear();
+  launch.LaunchStation("mhttp://a/", PlayMode::KeyItself);
+  shell.programs[".asx"] = "p.exe";
+  shell.startsFail = true;
+  launch.LaunchStation("mhttp://a/", PlayMode::KeyItself);
+  launch.LaunchStation("whttp://a/", PlayMode::KeyItself);
+  const std::string notStarted = std::to_string(IDS_WHYNOT_NOT_STARTED);
+  EXPECT_EQ(view_.sentences,
+            (std::vector<std::string>{std::to_string(IDS_WHYNOT_NO_ASX_PROGRAM), notStarted, notStarted}));
+}
+
+TEST_F(PlayerLaunchTest, FindRealPlayer) {
+  const std::string association = "C:\\Apps\\RealOne.EXE \"%1\"";
+  files.Put("c:\\apps\\realone.exe", "");
+  EXPECT_EQ(players.FindRealPlayer(false), "");
+  EXPECT_EQ(files.Get("/d/dummy.ram"), "");
+  shell.programs[".ram"] = association;
+  files.Put("/d/dummy.ram", "left over");
+  EXPECT_EQ(players.FindRealPlayer(false), "c:\\apps\\realone.exe");
+  EXPECT_EQ(files.Get("/d/dummy.ram"), "");
+
+  // What the player registered itself goes first, unless the caller wants the association.
+  InstallRealPlayer();
+  EXPECT_EQ(players.FindRealPlayer(false), "C:\\Real\\RealPlay.exe");
+  EXPECT_EQ(players.FindRealPlayer(true), "c:\\apps\\realone.exe");
+  // A registered player that is gone does not fall back on the association.
+  files.Remove("C:\\Real\\RealPlay.exe");
+  EXPECT_EQ(players.FindRealPlayer(false), "");
+  files.Remove("c:\\apps\\realone.exe");
+  EXPECT_EQ(players.FindRealPlayer(true), "");
+  EXPECT_EQ(reg.MainKey(), RootKey::LocalMachine);
+}
+
+TEST_F(PlayerLaunchTest, WebPagesByAddressAndByStation) {
+  AddStation(12, "Jazz", {}, "", "www.jazz.example/x");
+  AddStation(13, "Http", {}, "", "HTTP://www.jazz.example");
+  const struct {
+    const char* text;
+    WebPageOutcome outcome;
+    const char* browsed;
+  } kCases[] = {
+      {"http://a.example/?q=1", WebPageOutcome::Opened, "/d/lweb.exe http://a.example/?q=1"},
+      {"12", WebPageOutcome::Opened, "/d/lweb.exe http://www.jazz.example/x"},
+      {"13", WebPageOutcome::Opened, "/d/lweb.exe HTTP://www.jazz.example"},
+      {"99", WebPageOutcome::NoAddress, "(none)"},
+      {"P4", WebPageOutcome::NoAddress, "(none)"},
+      {"", WebPageOutcome::NoAddress, "(none)"},
+      {"http://", WebPageOutcome::Refused, "(none)"},
+  };
+  for (const auto& c : kCases) {
+    ClearShell();
+    EXPECT_EQ(pages.Open(c.text), c.outcome) << c.text;
+    EXPECT_EQ(Browsed(), c.browsed) << c.text;
+  }
+}
+
+TEST(WebPagesFolder, AFolderWithBlanksIsQuoted) {
+  PlaybackWorld world;
+  world.files.MakeFolder("/Program Files/S");
+  DataFolder data(world.files, "/Program Files/S", '/');
+  WebPages pages(world.source, data, world.shell);
+  pages.RunBrowser("http://a.example/");
+  EXPECT_EQ(world.shell.runMinimised,
+            std::vector<std::string>{"\"/Program Files/S/lweb.exe\" http://a.example/"});
+}
+
+TEST_F(PlayerLaunchTest, AfterLaunchHearsOfPlaysOnly) {
+  std::vector<std::string> heard;
+  launch.SetAfterLaunch([&](const std::string& key, PlayMode mode) {
+    heard.push_back(key + "/" + std::to_string(static_cast<int>(mode)));
+  });
+  AddStation(12, "Jazz", {"m1://x", "whttp://a.example"});
+  launch.LaunchStation("12", PlayMode::LinkOne);
+  launch.LaunchStation("12", PlayMode::LinkTwo);
+  launch.LaunchStation("mhttp://b", PlayMode::KeyItself);
+  launch.LaunchStation("m-b", PlayMode::KeyItself);
+  EXPECT_EQ(heard, (std::vector<std::string>{"12/1", "mhttp://b/20"}));
+}
+
+}  // namespace
+}  // namespace sonaro

@@ -1,0 +1,340 @@
+#include "playback/StationScan.h"
+
+#include <gtest/gtest.h>
+
+#include "fakes/FakeClock.h"
+#include "playback/PlaybackWorld.h"
+#include "resources/ids.h"
+
+namespace sonaro {
+namespace {
+
+class FakeScanView : public ScanView {
+ public:
+  std::vector<bool> timer;  // every EnableTimer
+  std::optional<std::size_t> selected;
+  int listsShown = 0;
+
+  void ShowState() override {}
+  void ShowTimeLeft() override {}
+  void ShowLists() override { ++listsShown; }
+  void SelectQueueRow(std::size_t row) override { selected = row; }
+  void EnableTimer(bool on) override { timer.push_back(on); }
+  bool TimerOn() const { return !timer.empty() && timer.back(); }
+};
+
+class FakeNoPlayer : public LaunchView {
+ public:
+  int shown = 0;
+  void ShowNoPlayer() override { ++shown; }
+  void SayWhyNot(const std::string&) override { ++shown; }
+};
+
+std::string Text(int id) { return std::to_string(id); }
+
+class StationScanTest : public testing::Test, protected PlaybackWorld {
+ protected:
+  StationScanTest() {
+    AddStation(1, "One", {"m1://x"});
+    AddStation(2, "Two", {"m2://x"});
+    AddStation(3, "Three", {"m3://x"});
+    PersonalStation own;
+    own.name = "Own";
+    own.links[0] = "mown://x";
+    personal.Add(own);
+    launch.SetView(&windows_);
+    reg.SetSetting("ScanTime", "20");
+    scan_.Open(view_);
+  }
+  void Add(std::vector<std::string> rowKeys) { scan_.Add(rowKeys); }
+  // Ticks as the timer gives them: a second apart.
+  void TickFor(int seconds) {
+    for (int i = 0; i < seconds; ++i) {
+      clock_.Advance(1);
+      scan_.Tick();
+    }
+  }
+  std::string Queue() const {
+    std::string keys;
+    for (std::size_t i = 0; i < scan_.QueueCount(); ++i) keys += scan_.QueueRow(i).key.RowKey() + ' ';
+    return keys;
+  }
+  std::string History() const {
+    std::string keys;
+    for (std::size_t i = 0; i < scan_.HistoryCount(); ++i) keys += scan_.HistoryRow(i).key.RowKey() + ' ';
+    return keys;
+  }
+  std::string Playing() const { return shell.opened.empty() ? "" : shell.opened.back().parameters; }
+
+  FakeClock clock_;
+  FakeScanView view_;
+  FakeNoPlayer windows_;
+  StationScan scan_{reg, clock_, launch, source, strings};
+};
+
+TEST_F(StationScanTest, PlaysTheQueueToItsEnd) {
+  Add({"S1", "P1", "S3"});
+  EXPECT_EQ(scan_.StartCaption(), Text(IDS_SCAN_START));
+  EXPECT_EQ(scan_.CurrentText(), Text(IDS_SCAN_NOT_SCANNING));
+  EXPECT_FALSE(scan_.TimeLeftVisible());
+
+  scan_.StartPauseContinue();
+  EXPECT_EQ(scan_.StartCaption(), Text(IDS_SCAN_PAUSE));
+  EXPECT_EQ(scan_.CurrentText(), Text(IDS_SCAN_CURRENT) + "One");
+  EXPECT_TRUE(scan_.TimeLeftVisible());
+  EXPECT_EQ(Playing(), "1://x");
+  EXPECT_EQ(Queue(), "P1 S3 ");
+  EXPECT_TRUE(view_.TimerOn());
+
+  for (int left = 19; left > 0; --left) {
+    TickFor(1);
+    EXPECT_EQ(scan_.TimeLeftText(), Text(IDS_SCAN_TIME_LEFT) + std::to_string(left));
+    EXPECT_EQ(Playing(), "1://x");
+  }
+  TickFor(1);  // the twentieth
+  EXPECT_EQ(scan_.TimeLeft(), 0);
+  EXPECT_EQ(scan_.CurrentText(), Text(IDS_SCAN_CURRENT) + "Own");
+  EXPECT_EQ(Playing(), "own://x");
+  TickFor(20);
+  EXPECT_EQ(Playing(), "3://x");
+  TickFor(20);
+  EXPECT_EQ(scan_.StartCaption(), Text(IDS_SCAN_START));
+  EXPECT_EQ(scan_.CurrentText(), Text(IDS_SCAN_NOT_SCANNING));
+  EXPECT_FALSE(scan_.TimeLeftVisible());
+  EXPECT_FALSE(view_.TimerOn());
+  EXPECT_EQ(History(), "S1 P1 S3 ");
+  EXPECT_EQ(scan_.HistoryRow(0).second, "Oslo");
+  EXPECT_EQ(scan_.HistoryRow(0).icon, 10);
+  EXPECT_EQ(scan_.HistoryRow(1).second, Text(IDS_SCAN_YOUR_STATION));
+  EXPECT_EQ(scan_.HistoryRow(1).reason, "");
+  TickFor(1);  // one that was under way
+  EXPECT_EQ(History(), "S1 P1 S3 ");
+}
+
+TEST_F(StationScanTest, StartWithNothingQueuedDoesNothing) {
+  scan_.StartPauseContinue();
+  EXPECT_EQ(scan_.State(), ScanState::Idle);
+  EXPECT_TRUE(view_.timer.empty());
+}
+
+TEST_F(StationScanTest, PauseKeepsTheCount) {
+  Add({"S1", "S2"});
+  scan_.StartPauseContinue();
+  TickFor(7);
+  scan_.StartPauseContinue();
+  EXPECT_EQ(scan_.StartCaption(), Text(IDS_SCAN_CONTINUE));
+  EXPECT_FALSE(view_.TimerOn());
+  clock_.Advance(500);
+  scan_.Tick();
+  EXPECT_EQ(scan_.TimeLeft(), 13);
+  scan_.StartPauseContinue();
+  EXPECT_TRUE(view_.TimerOn());
+  TickFor(1);
+  EXPECT_EQ(scan_.TimeLeft(), 12);
+  TickFor(12);
+  EXPECT_EQ(Playing(), "2://x");
+}
+
+TEST_F(StationScanTest, TheCountFollowsTheClock) {
+  Add({"S1", "S2", "S3"});
+  scan_.StartPauseContinue();
+  clock_.Advance(5);  // four ticks were lost
+  scan_.Tick();
+  EXPECT_EQ(scan_.TimeLeft(), 15);
+  scan_.Tick();  // one that came early still counts
+  EXPECT_EQ(scan_.TimeLeft(), 14);
+  clock_.Sleep(3600);
+  TickFor(1);
+  EXPECT_EQ(scan_.TimeLeft(), 13);
+  // After a standstill only the station on hand is over; the next one gets its full time.
+  clock_.Advance(1011);
+  scan_.Tick();
+  EXPECT_EQ(Playing(), "2://x");
+  EXPECT_EQ(Queue(), "S3 ");
+  TickFor(19);
+  EXPECT_EQ(Playing(), "2://x");
+  TickFor(1);
+  EXPECT_EQ(Playing(), "3://x");
+}
+
+TEST_F(StationScanTest, MoveNextEndsAStationWithTheNextTick) {
+  Add({"S1", "S2", "S3"});
+  scan_.StartPauseContinue();
+  TickFor(3);
+  scan_.MoveNext();
+  EXPECT_EQ(scan_.TimeLeft(), 17);
+  EXPECT_EQ(Playing(), "1://x");
+  TickFor(1);
+  EXPECT_EQ(Playing(), "2://x");
+  EXPECT_EQ(scan_.TimeLeft(), 17);  // the odd value was never shown
+
+  scan_.StartPauseContinue();
+  scan_.MoveNext();  // while paused: goes on
+  EXPECT_EQ(scan_.StartCaption(), Text(IDS_SCAN_PAUSE));
+  EXPECT_TRUE(view_.TimerOn());
+  TickFor(1);
+  EXPECT_EQ(Playing(), "3://x");
+  EXPECT_EQ(History(), "S1 S2 ");
+}
+
+TEST_F(StationScanTest, MoveNextWhileIdleStartsTheQueue) {
+  Add({"S2"});
+  scan_.MoveNext();
+  TickFor(1);
+  EXPECT_EQ(Playing(), "2://x");
+  EXPECT_TRUE(scan_.TimeLeftVisible());
+  EXPECT_EQ(History(), "");
+}
+
+TEST_F(StationScanTest, ScanTimeIsReadWhenAStationIsOver) {
+  const struct {
+    const char* stored;
+    int seconds;
+    const char* after;
+  } kCases[] = {{"19", 30, "30"}, {"20", 20, "20"},  {"120", 120, "120"}, {"121", 30, "30"},
+                {"", 30, "30"},   {"abc", 30, "30"}, {"-20", 30, "30"},   {"99999999999999999999", 30, "30"}};
+  for (const auto& c : kCases) {
+    reg.SetSetting("ScanTime", c.stored);
+    scan_.Open(view_);
+    EXPECT_EQ(scan_.ScanTime(), c.seconds) << c.stored;
+    EXPECT_EQ(reg.Setting("ScanTime"), c.after) << c.stored;
+  }
+  scan_.SetScanTime(40);
+  EXPECT_EQ(scan_.ScanTime(), 40);
+  Add({"S1", "S2"});
+  scan_.StartPauseContinue();
+  scan_.SetScanTime(60);
+  scan_.SetScanTime(19);
+  EXPECT_EQ(reg.Setting("ScanTime"), "60");
+  TickFor(39);
+  EXPECT_EQ(Playing(), "1://x");
+  TickFor(1);
+  EXPECT_EQ(Playing(), "2://x");
+  EXPECT_EQ(scan_.ScanTime(), 60);
+}
+
+TEST_F(StationScanTest, WhatDoesNotPlayIsOverAfterItsSecondAndNeverStopsTheScan) {
+  AddStation(7, "No link", {}, "", "www.seven.example");
+  AddStation(8, "Refused", {"m-x"});
+  AddStation(9, "Real", {"http://x"});
+  AddStation(10, "Third", {"", " ", "m10://x"});
+  Add({"S7", "S8", "S9", "S404", "S10"});
+  scan_.StartPauseContinue();
+  for (int i = 0; i < 4; ++i) {
+    EXPECT_TRUE(shell.opened.empty());
+    TickFor(1);
+  }
+  EXPECT_EQ(Playing(), "10://x");
+  EXPECT_EQ(History(), "S7 S8 S9 S404 ");
+  EXPECT_EQ(scan_.HistoryRow(0).reason, Text(IDS_WHYNOT_NO_LINK));
+  EXPECT_EQ(scan_.HistoryRow(1).reason, Text(IDS_WHYNOT_REFUSED_LINK));
+  EXPECT_EQ(scan_.HistoryRow(2).reason, Text(IDS_WHYNOT_NO_PLAYER));
+  EXPECT_EQ(scan_.HistoryRow(3).reason, Text(IDS_WHYNOT_NO_LINK));
+  EXPECT_EQ(scan_.HistoryRow(3).name, "404");
+  EXPECT_EQ(windows_.shown, 0);
+  EXPECT_TRUE(shell.runMinimised.empty());  // no web site instead
+  TickFor(19);
+  EXPECT_EQ(scan_.TimeLeft(), 1);  // the last one gets its full time
+}
+
+TEST_F(StationScanTest, QueueEdits) {
+  Add({"S1", "X", "S2", "", "P1", "S3", "Sx"});
+  EXPECT_EQ(Queue(), "S1 S2 P1 S3 ");
+  scan_.MoveUp(0);
+  scan_.MoveDown(3);
+  scan_.MoveUp(9);
+  EXPECT_EQ(Queue(), "S1 S2 P1 S3 ");
+  scan_.MoveUp(2);
+  EXPECT_EQ(Queue(), "S1 P1 S2 S3 ");
+  EXPECT_EQ(view_.selected, 1u);
+  scan_.MoveDown(0);
+  EXPECT_EQ(Queue(), "P1 S1 S2 S3 ");
+  EXPECT_EQ(view_.selected, 1u);
+  scan_.MoveRow(0, 4);
+  EXPECT_EQ(Queue(), "S1 S2 S3 P1 ");
+  EXPECT_EQ(view_.selected, 3u);
+  scan_.MoveRow(3, 1);
+  scan_.MoveRow(1, 1);
+  scan_.MoveRow(1, 2);
+  scan_.MoveRow(4, 0);
+  EXPECT_EQ(Queue(), "S1 P1 S2 S3 ");
+  scan_.Remove(3);
+  EXPECT_EQ(Queue(), "S1 P1 S2 ");
+  EXPECT_EQ(view_.selected, 2u);
+  scan_.Remove(3);
+  EXPECT_EQ(Queue(), "S1 P1 S2 ");
+  const std::vector<std::string> dropped = {"S3", "S3"};
+  EXPECT_EQ(scan_.Add(dropped, 1), 2u);
+  EXPECT_EQ(scan_.Add(dropped, 99), 2u);
+  EXPECT_EQ(Queue(), "S1 S3 S3 P1 S2 S3 S3 ");
+}
+
+TEST_F(StationScanTest, ClearKeepsTheStationThatPlays) {
+  Add({"S1", "S2", "S3"});
+  scan_.StartPauseContinue();
+  TickFor(20);
+  view_.timer.clear();
+  scan_.Clear();
+  EXPECT_EQ(Queue() + History(), "");
+  EXPECT_EQ(view_.timer, (std::vector<bool>{false, true}));
+  EXPECT_EQ(scan_.CurrentText(), Text(IDS_SCAN_CURRENT) + "Two");
+  scan_.PutBack(0);  // nothing there
+  scan_.StartPauseContinue();
+  view_.timer.clear();
+  scan_.Clear();
+  EXPECT_TRUE(view_.timer.empty());  // was paused
+}
+
+TEST_F(StationScanTest, StationsComeBackFromTheHistoryAndByTheHiddenLabel) {
+  Add({"S1"});
+  scan_.StartPauseContinue();
+  TickFor(20);
+  scan_.PutBack(0);
+  EXPECT_EQ(Queue(), "S1 ");
+  EXPECT_EQ(History(), "S1 ");
+  scan_.StationsAdded("S2 P1 X");
+  scan_.StationsAdded("changed");
+  EXPECT_EQ(Queue(), "S1 S2 P1 ");
+}
+
+TEST_F(StationScanTest, ButtonsFollowQueueAndState) {
+  const auto flags = [this](std::optional<std::size_t> selected) {
+    const ScanButtons b = scan_.Buttons(selected);
+    std::string text;
+    for (const bool on : {b.start, b.moveNext, b.moveUp, b.moveDown, b.remove, b.clear})
+      text += on ? '1' : '0';
+    return text;
+  };
+  EXPECT_EQ(flags(std::nullopt), "000000");
+  Add({"S1", "S2", "S3"});
+  EXPECT_EQ(flags(std::nullopt), "110001");
+  EXPECT_EQ(flags(0), "110111");
+  EXPECT_EQ(flags(1), "111111");
+  EXPECT_EQ(flags(2), "111011");
+  EXPECT_EQ(flags(3), "110001");
+  while (scan_.QueueCount() > 0) scan_.Remove(0);
+  EXPECT_EQ(flags(std::nullopt), "000000");
+  Add({"S1"});
+  scan_.StartPauseContinue();
+  EXPECT_EQ(flags(std::nullopt), "110000");
+  TickFor(20);
+  EXPECT_EQ(flags(std::nullopt), "000001");
+}
+
+TEST_F(StationScanTest, ClosingTheWindowEndsTheScanAndKeepsTheLists) {
+  Add({"S1", "S2"});
+  scan_.StartPauseContinue();
+  TickFor(5);
+  scan_.Close();
+  EXPECT_FALSE(view_.TimerOn());
+  EXPECT_EQ(scan_.State(), ScanState::Idle);
+  EXPECT_EQ(Queue(), "S2 ");
+  EXPECT_EQ(History(), "S1 ");
+  Add({"S3"});  // the window need not be open
+  scan_.Open(view_);
+  EXPECT_EQ(Queue(), "S2 S3 ");
+  EXPECT_FALSE(view_.TimerOn());
+}
+
+}  // namespace
+}  // namespace sonaro
