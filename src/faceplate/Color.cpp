@@ -13,8 +13,7 @@ namespace sonaro {
 namespace {
 
 std::uint8_t MixChannel(int from, int to, int percent) {
-  const int hundredths = from * 100 + (to - from) * percent;  // never negative
-  return static_cast<std::uint8_t>((hundredths + 50) / 100);
+  return static_cast<std::uint8_t>(std::nearbyint((from * 100 + (to - from) * percent) / 100.0));
 }
 
 // The light that a channel gives, 0 to 1, as WCAG 2 defines it.

@@ -25,7 +25,8 @@ constexpr Color Rgb(std::uint32_t hex) {
           static_cast<std::uint8_t>(hex)};
 }
 
-// The colour `percent` (0 to 100) of the way from `from` to `to`, each channel rounded to the nearest.
+// The colour `percent` (0 to 100) of the way from `from` to `to`, each channel rounded to nearest (ties to
+// even).
 Color Mix(Color from, Color to, int percent);
 
 // "#RRGGBB", or the decimal number blue * 65536 + green * 256 + red that older faceplate packages hold.
