@@ -67,7 +67,8 @@ MenuEntry StationActions::Entry(int command, int textId, bool enabled) const {
 MenuEntry StationActions::StationEntry(int command, int textId, const StationDetail& detail) const {
   const bool selected = static_cast<bool>(detail.station);
   MenuEntry entry = Entry(command, textId, selected);
-  const std::string name = selected ? MenuText(detail.name) : strings_.Load(IDS_ACTION_ANY_STATION);
+  const std::string name =
+      detail.name.empty() ? strings_.Load(IDS_ACTION_ANY_STATION) : MenuText(detail.name);
   entry.text = FillIn(entry.text, {name, MenuText(listing_.State().group)});
   return entry;
 }

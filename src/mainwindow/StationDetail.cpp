@@ -41,7 +41,7 @@ StationDetail StationDetails::Of(const StationKey& key) const {
   }
   if (key.kind == StationKey::Kind::Directory) {
     AddDirectoryStation(detail);
-    AddExtraLinks(detail);
+    if (detail.station) AddExtraLinks(detail);
   } else {
     AddPersonalStation(detail);
   }
@@ -80,7 +80,13 @@ PlayKey StationDetails::Key(const std::string& link, const std::string& media,
 
 void StationDetails::AddDirectoryStation(StationDetail& detail) const {
   const StationRecord record = source_.Record(detail.station.number);
-  detail.name = record.Empty() ? detail.station.Token() : record[StationField::Name];
+  if (record.Empty()) {
+    detail.name = detail.station.Token();
+    detail.description = strings_.Load(IDS_DETAIL_LOST);
+    detail.station = {};
+    return;
+  }
+  detail.name = record[StationField::Name];
   detail.location = record[StationField::Location];
   detail.description = record[StationField::Description];
   for (std::size_t i = 0; i < StationDetail::kRatings; ++i) {

@@ -39,7 +39,9 @@ struct StationDetail {
   static constexpr std::size_t kRatings = 4;  // overall, sound, speed, web site
   static constexpr std::size_t kPlayKeys = 3;
 
-  StationKey station;  // None: nothing is selected, and all else is empty
+  // None: nothing is selected, and all else is empty; or the station is lost, and only its name (the
+  // identifier) and a description that says so are there.
+  StationKey station;
   std::string name;
   std::string location;
   std::string description;

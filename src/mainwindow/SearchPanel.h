@@ -1,4 +1,4 @@
-// The search panel's logic: the kinds of search out of "\searchst.snr", the history of past searches, and
+// What the search panel does: the kinds of search out of "\searchst.snr", the history of past searches, and
 // what a search does. One kind searches the directory into the station list; the others are searches of the
 // web. Owned by the main window.
 #pragma once
@@ -27,7 +27,7 @@ struct SearchKind {
   bool SearchesStations() const;
 };
 
-class StationSearch {
+class SearchPanel {
  public:
   static constexpr std::size_t kMostKinds = 6;
 
@@ -39,7 +39,7 @@ class StationSearch {
   // What the last search of this run was.
   enum class LastKind { None, Web, Station };
 
-  StationSearch(DataFolder& data, CReg& settings, StationListing& listing, TellTray tellTray)
+  SearchPanel(DataFolder& data, CReg& settings, StationListing& listing, TellTray tellTray)
       : data_(data), settings_(settings), listing_(listing), tellTray_(std::move(tellTray)) {}
 
   // Reads the kinds. Without a file there is one: the directory, captioned `builtInCaption`.

@@ -1,4 +1,4 @@
-#include "mainwindow/StationSearch.h"
+#include "mainwindow/SearchPanel.h"
 
 #include <algorithm>
 #include <utility>
@@ -31,7 +31,7 @@ std::string CleanText(std::string_view text) {
 
 bool SearchKind::SearchesStations() const { return name == kFindStation; }
 
-void StationSearch::LoadSearchKinds(std::string builtInCaption) {
+void SearchPanel::LoadSearchKinds(std::string builtInCaption) {
   kinds_.clear();
   std::string text = data_.Read(kKindsFile).bytes;
   std::replace(text.begin(), text.end(), '\r', '\n');
@@ -44,11 +44,11 @@ void StationSearch::LoadSearchKinds(std::string builtInCaption) {
   if (kinds_.empty()) kinds_.push_back({std::move(builtInCaption), kFindStation, {}});
 }
 
-std::vector<std::string> StationSearch::History() const {
+std::vector<std::string> SearchPanel::History() const {
   return SearchHistory(settings_.Setting(setting::kSearchList)).Entries();
 }
 
-StationSearch::Outcome StationSearch::FindStation(std::string_view text, std::size_t kind, bool allWords) {
+SearchPanel::Outcome SearchPanel::FindStation(std::string_view text, std::size_t kind, bool allWords) {
   const std::string clean = CleanText(text);
   if (clean.empty() || kinds_.empty()) return Outcome::Nothing;
   const SearchKind& chosen = kinds_[std::min(kind, kinds_.size() - 1)];
@@ -60,7 +60,7 @@ StationSearch::Outcome StationSearch::FindStation(std::string_view text, std::si
   return Outcome::Stations;
 }
 
-void StationSearch::FindOnTheWeb(const std::string& text, const SearchKind& kind, bool allWords) {
+void SearchPanel::FindOnTheWeb(const std::string& text, const SearchKind& kind, bool allWords) {
   last_ = LastKind::Web;
   webWords_ = text;
   webAddress_ = ReplaceFirst(kind.urlTemplate, kWordMark, UrlEncodeQuery(text));
@@ -68,7 +68,7 @@ void StationSearch::FindOnTheWeb(const std::string& text, const SearchKind& kind
   listing_.ShowWebSearch();
 }
 
-void StationSearch::FindInTheDirectory(const std::string& text, bool allWords) {
+void SearchPanel::FindInTheDirectory(const std::string& text, bool allWords) {
   SearchHistory history(settings_.Setting(setting::kSearchList));
   history.Add(text);
   settings_.SetSetting(setting::kSearchList, history.ToSetting());

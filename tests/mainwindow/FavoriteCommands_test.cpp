@@ -1,0 +1,122 @@
+#include "mainwindow/FavoriteCommands.h"
+
+#include "fakes/FakeMessageBox.h"
+#include "mainwindow/Models.h"
+
+namespace sonaro {
+namespace {
+
+class FakePrompts : public FavoritePrompts {
+ public:
+  FakeMessageBox box;
+  std::string name;  // what the user types
+  std::vector<std::string> told;
+
+  MessageResult Ask(const Message& message) override { return box.Ask(message); }
+  std::string AskNewGroupName() override { return name; }
+  std::string AskGroupName(const std::string&) override { return name; }
+  void TellTray(const std::string& text) override { told.push_back(text); }
+};
+
+class FavoriteCommandsTest : public Models {
+ protected:
+  std::string File() const { return files.Get("/d/favs.snr").value_or("(no file)"); }
+  std::string LastKey() const { return prompts.box.asked.empty() ? "" : prompts.box.asked.back().key; }
+
+  FakePrompts prompts;
+  FavoriteCommands commands{groups, listing, settings, strings, prompts};
+};
+
+TEST_F(FavoriteCommandsTest, GroupsAreAddedUntilThereAreTen) {
+  prompts.name = " Nordic ";
+  EXPECT_TRUE(commands.AddFavoriteGroup());
+  EXPECT_EQ(prompts.told, std::vector<std::string>{"AddNewFavGroup\tNordic"});
+  EXPECT_TRUE(File().ends_with("Rock\t2\r\nNordic\t\r\n"));
+  prompts.name = "JAZZ";
+  EXPECT_FALSE(commands.AddFavoriteGroup());
+  EXPECT_EQ(LastKey(), "TheFavoriteGroupAlreadyExists");
+  prompts.name = " ";
+  EXPECT_FALSE(commands.AddFavoriteGroup());
+  EXPECT_EQ(prompts.box.asked.size(), 1U) << "no name, no message";
+  for (int i = 5; i <= 10; ++i) {
+    prompts.name = "G" + std::to_string(i);
+    EXPECT_TRUE(commands.AddFavoriteGroup());
+  }
+  const std::string full = File();
+  prompts.name = "Eleven";
+  EXPECT_FALSE(commands.AddFavoriteGroup());
+  EXPECT_EQ(LastKey(), "AlreadyHave10FavoriteGroups");
+  EXPECT_EQ(File(), full);
+}
+
+TEST_F(FavoriteCommandsTest, RenamingKeepsTheMembersAndTheListInStep) {
+  listing.ShowFavoriteGroup(0);
+  prompts.name = "rock";
+  commands.RenameFavoriteGroup(0);
+  EXPECT_EQ(LastKey(), "TheFavoriteGroupAlreadyExists");
+  prompts.name = "JAZZ";
+  commands.RenameFavoriteGroup(0);
+  EXPECT_EQ(prompts.told, std::vector<std::string>{"RenameFavGroup\tJazz\tJAZZ"});
+  EXPECT_TRUE(File().starts_with("JAZZ\t4 77 P1 1\r\n"));
+  EXPECT_EQ(listing.State().caption, "JAZZ");
+  EXPECT_EQ(listing.State().listingMode, "favJAZZ");
+  prompts.name = "";
+  commands.RenameFavoriteGroup(0);
+  EXPECT_EQ(prompts.told.size(), 1U);
+}
+
+TEST_F(FavoriteCommandsTest, DeletingAsksUntilToldNotTo) {
+  listing.ShowFavoriteGroup(0);
+  commands.DeleteFavoriteGroup(0);
+  EXPECT_EQ(groups.Count(), 3U) << "the box was closed";
+  ASSERT_EQ(LastKey(), "DeleteFavoriteGroup");
+  EXPECT_NE(prompts.box.asked[0].text.find("(Jazz)"), std::string::npos);
+  EXPECT_NE(prompts.box.asked[0].dontAskText, "");
+
+  prompts.box.answers = {{MessageAnswer::Second, false}, {MessageAnswer::First, true}};
+  commands.DeleteFavoriteGroup(0);
+  EXPECT_EQ(groups.Count(), 3U);
+  commands.DeleteFavoriteGroup(2);
+  EXPECT_EQ(prompts.told, std::vector<std::string>{"DeleteFavGroup\tRock"});
+  EXPECT_EQ(listing.State().listingMode, "favJazz") << "another group was on show";
+  EXPECT_EQ(settings.Setting("NoShowDelete"), "Yes");
+
+  commands.DeleteFavoriteGroup(0);
+  EXPECT_EQ(prompts.box.asked.size(), 3U) << "not asked again";
+  EXPECT_EQ(File(), "Empty\t\r\n");
+  EXPECT_EQ(listing.State().listingMode, "Recent") << "the deleted group was on show";
+  EXPECT_EQ(Shown(), "S3 P1 S1 ");
+}
+
+TEST_F(FavoriteCommandsTest, StationsComeGoAndMoveInTheGroupOnShow) {
+  listing.ShowFavoriteGroup(0);
+  commands.AddStationToGroup("jazz", "3");
+  EXPECT_EQ(Shown(), "S4 [77] P1 S1 S3 ");
+  commands.AddStationToGroup("jazz", "3");
+  commands.AddStationToGroup("No such group", "3");
+  commands.MoveStation("77", -1);
+  commands.MoveStation("77", -1);
+  commands.MoveStation("3", 1);
+  commands.MoveStation("unknown", 1);
+  EXPECT_EQ(Shown(), "[77] S4 P1 S1 S3 ");
+  commands.RemoveStation("P1");
+  EXPECT_EQ(File(), "Jazz\t77 4 1 3 \r\nEmpty\t\r\nRock\t2\r\n");
+  listing.ShowRecent();
+  commands.RemoveStation("3");
+  commands.MoveStation("3", 1);
+  EXPECT_EQ(Shown(), "S3 P1 S1 ") << "no group is on show";
+  commands.AddStationToGroup("ROCK", "P1");
+  EXPECT_TRUE(File().ends_with("Rock\t2 P1 \r\n"));
+  EXPECT_TRUE(prompts.box.asked.empty());
+}
+
+TEST_F(FavoriteCommandsTest, AChangeThatCannotBeWrittenIsSaid) {
+  files.SetSpaceLeft(0);
+  commands.AddStationToGroup("Rock", "1");
+  EXPECT_EQ(prompts.box.asked.size(), 1U);
+  EXPECT_TRUE(groups.Contains(2, "1"));
+  EXPECT_TRUE(File().ends_with("Rock\t2\r\n"));
+}
+
+}  // namespace
+}  // namespace sonaro

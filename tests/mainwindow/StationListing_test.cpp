@@ -1,0 +1,148 @@
+#include "mainwindow/StationListing.h"
+
+#include "mainwindow/Models.h"
+#include "resources/ids.h"
+
+namespace sonaro {
+namespace {
+
+class StationListingTest : public Models {
+ protected:
+  std::string Caption(int id) const { return strings.Load(id); }
+};
+
+TEST_F(StationListingTest, AListOfIdentifiersKeepsItsOrderAndLeavesOutTheUnknown) {
+  StationRows rows;
+  struct Case {
+    const char* ids;
+    const char* keys;
+  };
+  const Case cases[] = {
+      {"", ""},         {" ", ""},        {"3 1 ", "S3S1"}, {"3 1", "S3S1"}, {"9 3  x 1 ", "S3S1"},
+      {"2 2 ", "S2S2"}, {"0 -1 4 ", "S4"}};
+  for (const Case& c : cases) {
+    lists.FillListFromIds(c.ids, rows);
+    std::string keys;
+    for (std::size_t i = 0; i < rows.Count(); ++i) keys += rows.At(i).key;
+    EXPECT_EQ(keys, c.keys) << c.ids;
+    EXPECT_EQ(rows.Selected().has_value(), rows.Count() > 0);
+  }
+  lists.FillListFromIds("1 ", rows);
+  EXPECT_EQ(rows.Cell(0, 3), "Jazz");
+  EXPECT_EQ(rows.At(0).icon, 11);
+}
+
+TEST_F(StationListingTest, EachRankingSetsModeAndCaption) {
+  struct Case {
+    Ranking ranking;
+    const char* mode;
+    int caption;
+    const char* shown;
+  };
+  const Case cases[] = {
+      {Ranking::NewStations, "New", IDS_RANKING_NEW_STATIONS, "S3 S1 "},
+      {Ranking::MostPop, "MostPop", IDS_RANKING_MOST_POP, "S2 S4 S2 "},
+      {Ranking::BestSpeed, "BestSpeed", IDS_RANKING_BEST_SPEED, ""},
+      {Ranking::MostReliable, "MostReliable", IDS_RANKING_MOST_RELIABLE, "S4 S3 "},
+  };
+  for (const View from : {View::List, View::YourSonaro, View::Search}) {
+    for (const Case& c : cases) {
+      listing.ShowView(from);
+      listing.ShowRanking(c.ranking);
+      EXPECT_EQ(Shown(), c.shown);
+      EXPECT_EQ(listing.State().view, View::List);
+      EXPECT_EQ(listing.State().middle, Middle::StationList);
+      EXPECT_EQ(listing.State().listingMode, c.mode);
+      EXPECT_EQ(listing.State().caption, Caption(c.caption));
+      EXPECT_EQ(listing.State().ranking, c.ranking);
+    }
+  }
+}
+
+TEST_F(StationListingTest, TheListingModeSurvivesOtherPanelsAndRebuildsTheList) {
+  const auto comeBackFromTheTree = [this] {
+    listing.ShowView(View::Browse);
+    listing.treeBrowse_NodeClick(NodeWithKey("E1"));
+    EXPECT_EQ(Shown(), "S4 S1 S2 ");
+    listing.ShowListView();
+    return Shown();
+  };
+  listing.ShowRanking(Ranking::NewStations);
+  EXPECT_EQ(comeBackFromTheTree(), "S3 S1 ");
+  listing.ShowRecent();
+  EXPECT_EQ(comeBackFromTheTree(), "S3 P1 S1 ");
+  EXPECT_EQ(listing.State().caption, Caption(IDS_LISTING_YOUR_RECENT));
+  listing.ShowFavoriteGroup(0);
+  EXPECT_EQ(comeBackFromTheTree(), "S4 [77] P1 S1 ");
+  EXPECT_EQ(listing.State().caption, "Jazz");
+  groups.Remove(0);
+  EXPECT_EQ(comeBackFromTheTree(), "S4 S1 S2 ") << "the group is gone: nothing is rebuilt";
+  listing.ShowSearch("rock", true);
+  EXPECT_EQ(comeBackFromTheTree(), "S4 S1 S2 ") << "a search is not run again";
+}
+
+TEST_F(StationListingTest, ANodeFillsTheListAndLeavesTheTreeOnShow) {
+  listing.ShowView(View::Browse);
+  EXPECT_EQ(tree.Mode(), BrowseMode::ByCategory);
+  listing.treeBrowse_NodeClick(NodeWithKey("O1"));
+  EXPECT_EQ(Shown(), "P1 ");
+  listing.treeBrowse_NodeClick(NodeWithKey("E1"));
+  EXPECT_EQ(Shown(), "S4 S1 S2 ");
+  EXPECT_EQ(listing.State().view, View::Browse);
+  EXPECT_EQ(listing.State().currentNodeTag, "4 1 77 2");
+  EXPECT_EQ(listing.State().caption, "Jazz");
+  for (const char* key : {"M1", "E2"}) {
+    listing.treeBrowse_NodeClick(NodeWithKey("E1"));
+    listing.treeBrowse_NodeClick(NodeWithKey(key));
+    EXPECT_EQ(Shown(), "") << key;
+    EXPECT_EQ(listing.Rows().SelectedRow(), nullptr);
+  }
+  listing.ShowView(View::BrowseLoc);
+  EXPECT_EQ(tree.Mode(), BrowseMode::ByLocation);
+}
+
+TEST_F(StationListingTest, ASearchThatFindsNothingSaysSo) {
+  listing.ShowSearch("rock JAZZ", true);
+  EXPECT_EQ(Shown(), "S4 ");
+  EXPECT_EQ(listing.LastSearchIds(), "4 ");
+  listing.ShowSearch("rock blues", false);
+  EXPECT_EQ(listing.LastSearchIds(), "2 3 4 ");
+  listing.ShowSearch("polka", true);
+  EXPECT_EQ(Shown(), "X ");
+  EXPECT_EQ(listing.LastSearchIds(), "");
+  EXPECT_EQ(listing.Rows().SelectedRow(), nullptr);
+  EXPECT_EQ(listing.Rows().At(0).text, Caption(IDS_LISTING_NO_STATIONS));
+  EXPECT_EQ(listing.State().listingMode, "LastSearch");
+}
+
+TEST_F(StationListingTest, ARefillKeepsTheSelectedStation) {
+  listing.ShowFavoriteGroup(0);
+  listing.Rows().Select(3);
+  groups.MoveStation(0, 3, 0);
+  listing.GroupsChanged();
+  EXPECT_EQ(Shown(), "S1 S4 [77] P1 ");
+  EXPECT_EQ(listing.Rows().Selected(), 0U);
+  groups.RemoveStation(0, "1");
+  listing.GroupsChanged();
+  EXPECT_EQ(listing.Rows().Selected(), 0U) << "its row is gone: the first one";
+  listing.treeBrowse_NodeClick(BrowseNode{"E1", "Jazz", "1 2"});
+  listing.treeBrowse_NodeClick(BrowseNode{"E9", "Other", "3 2"});
+  EXPECT_EQ(listing.Rows().SelectedRow()->key, "S3") << "another list begins at its first row";
+}
+
+TEST_F(StationListingTest, AGroupCanBeShownInPlace) {
+  listing.ShowView(View::YourSonaro);
+  EXPECT_EQ(listing.State().middle, Middle::EventPage);
+  listing.ShowGroupInPlace(2);
+  EXPECT_EQ(Shown(), "S2 ");
+  EXPECT_EQ(listing.State().view, View::YourSonaro);
+  EXPECT_EQ(listing.State().middle, Middle::StationList);
+  listing.ShowFavoriteGroup(1);
+  EXPECT_EQ(Shown(), "");
+  EXPECT_EQ(listing.State().view, View::List);
+  listing.ShowFavoriteGroup(9);
+  EXPECT_EQ(listing.State().group, "Empty") << "no such group";
+}
+
+}  // namespace
+}  // namespace sonaro
