@@ -1,0 +1,53 @@
+#include "app/RegionalSettings.h"
+
+#include <string>
+
+#include "app/AppState.h"
+#include "app/CReg.h"
+#include "app/SettingNames.h"
+#include "base/Text.h"
+#include "platform/SystemInfo.h"
+
+namespace sonaro {
+
+namespace {
+
+std::string International(CReg& reg, const std::string& valueName) {
+  MainKeyScope user(reg, RootKey::CurrentUser);
+  return reg.GetData("Control Panel\\International", valueName);
+}
+
+// The pattern in which the platform wrote 25 December 2003; "" when it did not write numbers.
+std::string PatternOf(const std::string& sampleDate) {
+  std::string pattern = sampleDate;
+  for (const auto& [number, part] : {std::pair{"2003", "yyyy"}, {"12", "M"}, {"25", "d"}}) {
+    if (pattern.find(number) == std::string::npos) return {};
+    pattern = ReplaceFirst(pattern, number, part);
+  }
+  return pattern;
+}
+
+}  // namespace
+
+void ReadClockStyle(CReg& reg, AppState& state) {
+  const std::string timeFormat = International(reg, "sTimeFormat");
+  bool twelveHours = timeFormat.find("tt") != std::string::npos;
+  if (timeFormat.empty()) {
+    const std::string locale = '|' + International(reg, "Locale") + '|';
+    twelveHours = reg.Setting(setting::kLocal).find(locale) != std::string::npos;
+  }
+  state.clockStyle = twelveHours ? ClockStyle::Hours12 : ClockStyle::Hours24;
+}
+
+void ReadShortDatePattern(CReg& reg, SystemInfo& systemInfo, AppState& state) {
+  state.shortDatePattern = International(reg, "sShortDate");
+  if (state.shortDatePattern.empty()) state.shortDatePattern = PatternOf(systemInfo.FormattedSampleDate());
+  if (state.shortDatePattern.empty()) state.shortDatePattern = "M/d/yyyy";
+}
+
+void ReadDecimalMode(SystemInfo& systemInfo, AppState& state) {
+  const bool comma = systemInfo.FormattedEightAndAHalf().find(',') != std::string::npos;
+  state.decimalMode = comma ? DecimalMode::Comma : DecimalMode::Point;
+}
+
+}  // namespace sonaro

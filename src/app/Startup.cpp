@@ -1,0 +1,119 @@
+#include "app/Startup.h"
+
+#include "app/AppState.h"
+#include "app/CReg.h"
+#include "app/CheckDataFiles.h"
+#include "app/DeferredSwap.h"
+#include "app/HelpPages.h"
+#include "app/InstallId.h"
+#include "app/Message.h"
+#include "app/RegionalSettings.h"
+#include "app/SettingNames.h"
+#include "app/Strings.h"
+#include "app/WhatToShow.h"
+#include "base/DataFolder.h"
+#include "base/Text.h"
+#include "directory/StatList.h"
+#include "platform/MessagePost.h"
+#include "playback/Players.h"
+#include "resources/ids.h"
+
+namespace sonaro {
+
+namespace {
+
+constexpr std::string_view kDone = "No";  // a check of the first run that is not needed again
+
+bool IsDone(const CReg& reg, const char* check) { return EqualIgnoringCase(reg.Setting(check), kDone); }
+
+}  // namespace
+
+bool Startup::Main() {
+  if (AnotherInstanceRuns()) return false;
+  state_.startedWithWindows = IsStartWithWindows(state_.commandLine);
+  PrepareSettings();
+  ReadClockStyle(use_.reg, state_);
+  ReadShortDatePattern(use_.reg, use_.systemInfo, state_);
+  ShowSplashAndFaceplate();
+  SwapInDownloads();
+  ReadDecimalMode(use_.systemInfo, state_);
+  bool end = false;
+  CheckDataFiles(true, end);
+  if (end) return false;
+  if (!state_.startedWithWindows) FirstRunChecks();
+  view_.LoadMainWindow();
+  if (state_.startedWithWindows) return true;
+  view_.ShowMainWindow();
+  view_.CloseSplash();
+  OfferQuickStart();
+  return true;
+}
+
+// The tray window is there from early on, but not from the first moment: the platform's own report covers a
+// second start while the first one is still starting.
+bool Startup::AnotherInstanceRuns() {
+  if (use_.messages.WindowExists(kTrayWindowCaption)) {
+    use_.messages.PostTo(kTrayWindowCaption, kSecondStartMessage, 0, 0);
+    return true;
+  }
+  return use_.messages.EarlierInstanceRuns();
+}
+
+void Startup::PrepareSettings() {
+  use_.reg.CheckKeyIsThere(kSettingsKey);
+  EnsureInstallId(use_.reg);
+}
+
+void Startup::ShowSplashAndFaceplate() {
+  if (!state_.startedWithWindows && !AsksForView(state_.commandLine)) view_.ShowSplash();
+  view_.LoadFaceplate();
+}
+
+// A table that is there and damaged is made anew from the station list, and nobody has to know.
+void Startup::SwapInDownloads() {
+  const bool rebuilt = RunDeferredSwap(use_.data, use_.reg, [this] { use_.stations.RebuildStationTable(); });
+  if (rebuilt || !use_.data.Exists("\\Statorg.isd") || !use_.data.Exists("\\Statorg.ism")) return;
+  if (!use_.stations.Verify()) use_.stations.RebuildStationTable();
+}
+
+bool Startup::CheckDataFiles(bool askUser, bool& end) {
+  const bool missing = DataFilesMissing(use_.data);
+  if (!missing || !askUser) return missing;
+  view_.CloseSplash();
+  end = !AskToGetMissingFiles(use_.reg, use_.strings, use_.messageBox, use_.help);
+  if (!end && !state_.startedWithWindows) view_.ShowSplash();
+  return true;
+}
+
+void Startup::FirstRunChecks() {
+  if (!IsDone(use_.reg, setting::kStartPlayer)) {
+    if (use_.players.RegisteredRealPlayer().empty()) {
+      view_.ShowStartUpInfo(StartUpInfoPage::Player);
+    } else {
+      use_.reg.SetSetting(setting::kStartPlayer, kDone);
+    }
+  }
+  if (!IsDone(use_.reg, setting::kStartProxy)) {
+    if (use_.proxyFound && use_.proxyFound()) {
+      view_.ShowStartUpInfo(StartUpInfoPage::Proxy);
+    } else {
+      use_.reg.SetSetting(setting::kStartProxy, kDone);
+    }
+  }
+}
+
+void Startup::OfferQuickStart() {
+  if (IsDone(use_.reg, setting::kStartQuickStart)) return;
+  Message message;
+  message.key = "QuickStart";
+  message.caption = use_.strings.Load(IDS_QUICK_START_CAPTION);
+  message.text = use_.strings.Load(IDS_QUICK_START_TEXT);
+  message.firstButton = use_.strings.Load(IDS_QUICK_START_VIEW);
+  message.secondButton = use_.strings.Load(IDS_QUICK_START_SKIP);
+  if (use_.messageBox.Ask(message).answer == MessageAnswer::First) {
+    use_.help.OpenHelpPage(HelpPageForMessage(message.key));
+  }
+  use_.reg.SetSetting(setting::kStartQuickStart, kDone);
+}
+
+}  // namespace sonaro

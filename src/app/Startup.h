@@ -1,0 +1,80 @@
+// The start of the program: one instance only, the user's conventions, files of the last update, the checks
+// of a first run, the main window. Run once by Application, which does what needs windows.
+#pragma once
+
+#include <functional>
+#include <string>
+
+namespace sonaro {
+
+struct AppState;
+class CReg;
+class DataFolder;
+class HelpPages;
+class MessageBoxView;
+class MessagePost;
+class Players;
+class StatList;
+class Strings;
+class SystemInfo;
+
+// The hidden tray window of a running program: its caption, and the message by which a second start asks it
+// to come forward (both parameters 0).
+inline constexpr const char* kTrayWindowCaption = "frmSysTrayMenu";
+inline constexpr unsigned kSecondStartMessage = 1793;
+
+// The pages of frmStartUpInfo.
+enum class StartUpInfoPage { Player, Proxy, NoPlayer };
+
+// What the start needs of windows.
+class StartupView {
+ public:
+  virtual ~StartupView() = default;
+  virtual void ShowSplash() = 0;
+  virtual void CloseSplash() = 0;                          // also when it is not shown
+  virtual void LoadFaceplate() = 0;                        // the image holder and the current faceplate
+  virtual void ShowStartUpInfo(StartUpInfoPage page) = 0;  // returns when it is closed
+  virtual void LoadMainWindow() = 0;                       // hidden; only if there is none yet
+  virtual void ShowMainWindow() = 0;
+};
+
+struct StartupServices {
+  MessagePost& messages;
+  SystemInfo& systemInfo;
+  CReg& reg;
+  DataFolder& data;
+  StatList& stations;
+  const Players& players;
+  HelpPages& help;
+  const Strings& strings;
+  MessageBoxView& messageBox;
+  std::function<bool()> proxyFound;  // looks for a proxy that the user's browsers are set to
+};
+
+class Startup {
+ public:
+  // `state` holds the command line already; the rest of it is set here.
+  Startup(const StartupServices& services, AppState& state, StartupView& view)
+      : use_(services), state_(state), view_(view) {}
+
+  // Runs all steps. False: the process is to end, without having shown anything of the main window.
+  bool Main();
+
+  // True when data files are missing. With `askUser` the user is asked what to do then; `end` is set when the
+  // answer is to end the program.
+  bool CheckDataFiles(bool askUser, bool& end);
+
+ private:
+  bool AnotherInstanceRuns();
+  void PrepareSettings();
+  void ShowSplashAndFaceplate();
+  void SwapInDownloads();
+  void FirstRunChecks();
+  void OfferQuickStart();
+
+  StartupServices use_;
+  AppState& state_;
+  StartupView& view_;
+};
+
+}  // namespace sonaro
