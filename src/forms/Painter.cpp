@@ -163,6 +163,14 @@ int Painter::WrappedHeight(std::wstring_view text, Type type, int width) const {
   return place.bottom;
 }
 
+void Painter::DrawIcon(HDC dc, Icon icon, int x, int y, int designSize, Color color) const {
+  if (icon == Icon::ProgramMark) {
+    icons_.DrawProgramMark(dc, x, y, Px(designSize), {color, color == colors_.text ? colors_.accent : color});
+  } else {
+    icons_.Draw(dc, icon, x, y, Px(designSize), color);
+  }
+}
+
 void Painter::CutShape(HDC dc, const RECT& box, int cut, Color top, Color bottom, Color edge) const {
   const CutSpan shape = {box, cut};
   const int height = box.bottom - box.top;

@@ -10,6 +10,7 @@
 
 #include "faceplate/FaceplateColors.h"
 #include "forms/FormDesign.h"
+#include "forms/IconPainter.h"
 
 namespace sonaro {
 
@@ -42,7 +43,8 @@ class Painter {
   SIZE Measure(std::wstring_view text, Type type, UINT format = DT_NOPREFIX) const;  // of one line
   int WrappedHeight(std::wstring_view text, Type type, int width) const;
 
-  // An icon whose grid is `designSize` wide, its top-left corner at pixel (x, y).
+  // An icon whose grid is `designSize` wide, its top-left corner at pixel (x, y). In the text colour the
+  // program mark has its needle in the accent; in any other it is of that colour alone.
   void DrawIcon(HDC dc, Icon icon, int x, int y, int designSize, Color color) const;
 
   // The rectangle with its top-left and bottom-right corners cut by `cut` pixels.
@@ -56,6 +58,7 @@ class Painter {
   const FaceplateColors colors_;
   const int dpi_;
   mutable std::array<HFONT, 13> fonts_{};  // by Type, made at first use
+  mutable IconPainter icons_;
 };
 
 // An off-screen bitmap that is copied to `target` when it goes out of scope: everything is painted in it, and
