@@ -8,11 +8,34 @@ namespace {
 
 constexpr int kSubRows = 16;
 
-// Where an edge crosses the line that is being filled, and in which direction.
+// A side of a polygon in pixels, from top to bottom; `direction` tells which way it ran.
+struct Edge {
+  PathPoint top;
+  PathPoint bottom;
+  int direction;
+};
+
+// Where an edge crosses the line that is being filled.
 struct Crossing {
   double x;
   int direction;
 };
+
+std::vector<Edge> EdgesOf(const std::vector<Polygon>& polygons, const Placement& place) {
+  const auto onPixels = [&](PathPoint point) {
+    return PathPoint{point.x * place.scale + place.offsetX, point.y * place.scale + place.offsetY};
+  };
+  std::vector<Edge> edges;
+  for (const Polygon& polygon : polygons) {
+    for (std::size_t i = 0; i < polygon.size(); ++i) {
+      const PathPoint a = onPixels(polygon[i]);
+      const PathPoint b = onPixels(polygon[(i + 1) % polygon.size()]);
+      if (a.y < b.y) edges.push_back({a, b, 1});
+      if (a.y > b.y) edges.push_back({b, a, -1});
+    }
+  }
+  return edges;
+}
 
 // Adds the part of each pixel that lies between `from` and `to`.
 void AddSpan(std::span<double> row, double from, double to) {
@@ -25,18 +48,12 @@ void AddSpan(std::span<double> row, double from, double to) {
   }
 }
 
-std::vector<Crossing> CrossingsAt(const std::vector<Polygon>& polygons, const Placement& place, double y) {
+std::vector<Crossing> CrossingsAt(const std::vector<Edge>& edges, double y) {
   std::vector<Crossing> crossings;
-  for (const Polygon& polygon : polygons) {
-    for (std::size_t i = 0; i < polygon.size(); ++i) {
-      const PathPoint a = polygon[i];
-      const PathPoint b = polygon[(i + 1) % polygon.size()];
-      const double ay = a.y * place.scale + place.offsetY;
-      const double by = b.y * place.scale + place.offsetY;
-      if ((ay <= y) == (by <= y)) continue;
-      const double x = a.x + (b.x - a.x) * (y - ay) / (by - ay);
-      crossings.push_back({x * place.scale + place.offsetX, ay < by ? 1 : -1});
-    }
+  for (const Edge& edge : edges) {
+    if (y < edge.top.y || y >= edge.bottom.y) continue;
+    const double part = (y - edge.top.y) / (edge.bottom.y - edge.top.y);
+    crossings.push_back({edge.top.x + (edge.bottom.x - edge.top.x) * part, edge.direction});
   }
   std::sort(crossings.begin(), crossings.end(),
             [](const Crossing& a, const Crossing& b) { return a.x < b.x; });
@@ -63,11 +80,11 @@ std::uint32_t Blend(std::uint32_t below, std::uint32_t above, std::uint32_t alph
 Coverage Rasterize(const std::vector<Polygon>& polygons, const Placement& placement, int width, int height) {
   Coverage coverage{width, height, {}};
   coverage.pixels.reserve(static_cast<std::size_t>(width) * static_cast<std::size_t>(height));
+  const std::vector<Edge> edges = EdgesOf(polygons, placement);
   std::vector<double> row(static_cast<std::size_t>(width));
   for (int y = 0; y < height; ++y) {
     std::fill(row.begin(), row.end(), 0.0);
-    for (int sub = 0; sub < kSubRows; ++sub)
-      FillSubRow(row, CrossingsAt(polygons, placement, y + (sub + 0.5) / kSubRows));
+    for (int sub = 0; sub < kSubRows; ++sub) FillSubRow(row, CrossingsAt(edges, y + (sub + 0.5) / kSubRows));
     for (const double sum : row)
       coverage.pixels.push_back(static_cast<std::uint8_t>(std::lround(std::min(1.0, sum / kSubRows) * 255)));
   }
