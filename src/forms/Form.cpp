@@ -69,8 +69,7 @@ bool Form::Create(HWND owner) {
   parts_->grown = {};
   parts_->hiddenPanes.reset();
   FollowHighContrast(parts_->context.faceplate);
-  if (!parts_->BuildWindow(owner ? GetAncestor(owner, GA_ROOT) : nullptr)) return false;
-  return parts_->window != nullptr;
+  return parts_->BuildWindow(owner ? GetAncestor(owner, GA_ROOT) : nullptr);
 }
 
 void Form::Show(HWND owner) {

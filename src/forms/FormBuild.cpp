@@ -131,8 +131,14 @@ bool FormParts::BuildWindow(HWND owner) {
   std::copy(name.begin(), name.begin() + static_cast<std::ptrdiff_t>(std::min<std::size_t>(name.size(), 60)),
             empty.texts.begin() + 1);
   ChooseDpi(MonitorOf(owner));
-  return CreateDialogIndirectParamW(GetModuleHandleW(nullptr), &empty.head, owner, nullptr,
-                                    reinterpret_cast<LPARAM>(this)) != nullptr;
+  window = CreateDialogIndirectParamW(GetModuleHandleW(nullptr), &empty.head, owner, nullptr, 0);
+  if (!window) return false;
+  SetWindowLongPtrW(window, GWLP_USERDATA, reinterpret_cast<LONG_PTR>(this));
+  Guarded(0, [this]() -> LRESULT {
+    Load();
+    return 0;
+  });
+  return window != nullptr;
 }
 
 void FormParts::BuildControls() {

@@ -89,7 +89,8 @@ void FormParts::ResizeWindow() {
   const PixelSize made = ScaleToDpi(SizeOf(design, layout), dpi);
   const PixelSize size = ScaleToDpi(Size(), dpi);
   SetWindowPos(window, nullptr, 0, 0, size.width, size.height, SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
-  SetWindowRgn(window, nullptr, FALSE);
+  RECT shaped{};
+  if (GetWindowRgnBox(window, &shaped) != ERROR) SetWindowRgn(window, nullptr, FALSE);
   ApplyWindowShape(window, OutlineOf(design, layout), context.shape, dpi,
                    {made.width / 2, made.height / 2, size.width - made.width, size.height - made.height});
   PlaceControls();

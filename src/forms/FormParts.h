@@ -144,7 +144,7 @@ class FormParts final : public FormServices, public std::enable_shared_from_this
   int depth = 0;  // nested calls of the window procedure
 
  private:
-  void Load(HWND made);
+  void Load();
   LRESULT HandleCommand(WPARAM wParam, LPARAM lParam);
   LRESULT HandleNotice(NMHDR& notice);
   LRESULT HandleDrawing(UINT message, WPARAM wParam, LPARAM lParam);

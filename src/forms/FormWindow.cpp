@@ -60,11 +60,6 @@ FormParts* FormPartsOf(HWND window) {
 LRESULT CALLBACK FormProcedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam) noexcept {
   return Guarded(0, [&]() -> LRESULT {
     auto* known = reinterpret_cast<FormParts*>(GetWindowLongPtrW(window, GWLP_USERDATA));
-    if (!known && message == WM_INITDIALOG) {
-      known = reinterpret_cast<FormParts*>(lParam);
-      SetWindowLongPtrW(window, GWLP_USERDATA, lParam);
-      known->window = window;
-    }
     if (!known) return DefDlgProcW(window, message, wParam, lParam);
 
     auto parts = known->shared_from_this();
@@ -86,11 +81,8 @@ LRESULT CALLBACK FormProcedure(HWND window, UINT message, WPARAM wParam, LPARAM 
 LRESULT FormParts::HandleMessage(UINT message, WPARAM wParam, LPARAM lParam) {
   const HWND self = window;
   LRESULT answer = 0;
-  if (form && message != WM_INITDIALOG && form->OnMessage(message, wParam, lParam, answer)) return answer;
+  if (form && form->OnMessage(message, wParam, lParam, answer)) return answer;
   switch (message) {
-    case WM_INITDIALOG:
-      Load(self);
-      return FALSE;
     case WM_COMMAND:
       return HandleCommand(wParam, lParam);
     case WM_NOTIFY:
@@ -144,8 +136,7 @@ LRESULT FormParts::HandleMessage(UINT message, WPARAM wParam, LPARAM lParam) {
   return DefDlgProcW(self, message, wParam, lParam);
 }
 
-void FormParts::Load(HWND made) {
-  window = made;
+void FormParts::Load() {
   // Newer systems would scale the controls of a dialog by themselves; the tables are the only hand on them.
   using SetBehaviour = BOOL(WINAPI*)(HWND, int, int);
   const auto setBehaviour = reinterpret_cast<SetBehaviour>(

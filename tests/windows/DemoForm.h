@@ -1,0 +1,67 @@
+// A form with one of each kind of control in each of its states, as the sheet of components shows them.
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "forms/Form.h"
+
+namespace sonaro {
+
+class DemoForm final : public Form {
+ public:
+  // Controls of one kind stand in a row of six: normal, hover, pressed, focused, disabled, active.
+  enum Number {
+    kPush = 5001,
+    kPrimary = 5011,
+    kRanking = 5021,
+    kGroups = 5031,
+    kStrip = 5041,
+    kPlay = 5051,
+    kPlayMore = 5061,
+    kCheck = 5071,
+    kRadio = 5081,
+    kCombo = 5091,
+    kEdit = 5101,
+    kSearch = 5111,
+    kNotes = 5112,
+    kHeader = 5121,
+    kToggle = 5131,
+    kState = 5141,
+    kReadOnly = 5142,
+    kPicture = 5143,
+    kTimer = 5150,
+    kMenuEntry = 5160
+  };
+
+  explicit DemoForm(FormContext& context);
+
+  std::vector<std::string> log;  // one entry for each event, "Click 5001"
+  bool closeOnClick = false;
+  int resultOnClick = 0;
+  DemoForm** destroyOnClick = nullptr;  // the owner's pointer: the handler deletes the form itself
+
+ private:
+  std::span<const EventRow> Events() const override;
+  std::span<const TimerRow> Timers() const override;
+  void OnLoad() override;
+  void OnUnload() override;
+  void OnEscape() override;
+
+  void Note(const std::string& what, int number) { log.push_back(what + " " + std::to_string(number)); }
+  void Push_Click(int index);
+  void Groups_Click(int index) { Note("Click", kGroups + index); }
+  void Groups_ContextMenu(int index, POINT) { Note("ContextMenu", kGroups + index); }
+  void Check_Click(int index) { Note("Click", kCheck + index); }
+  void Radio_Click(int index) { Note("Click", kRadio + index); }
+  void Combo_SelChange(int index) { Note("SelChange", kCombo + index); }
+  void Edit_Change(int index) { Note("Change", kEdit + index); }
+  void Search_Change() { Note("Change", kSearch); }
+  void Search_SelChange() { log.push_back("SelChange " + Text(kSearch)); }
+  void Search_EnterPressed() { Note("EnterPressed", kSearch); }
+  void Menu_Click() { Note("Click", kMenuEntry); }
+  void Primary_Click() { Note("Click", kPrimary); }
+  void Timer_Timer() { Note("Timer", kTimer); }
+};
+
+}  // namespace sonaro

@@ -1,0 +1,33 @@
+// What a form needs to open in a test: fakes of everything outside, the built-in faceplate, outlines in
+// memory.
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "app/CReg.h"
+#include "base/DataFolder.h"
+#include "faceplate/Faceplate.h"
+#include "faceplate/Shape.h"
+#include "fakes/FakeFiles.h"
+#include "fakes/FakeRegistry.h"
+#include "fakes/FakeStrings.h"
+#include "forms/Form.h"
+
+namespace sonaro {
+
+struct FormContextForTests {
+  FakeRegistry registry;
+  FakeFiles files;
+  CReg settings{registry};
+  DataFolder folder{files, "/d", '/'};
+  Faceplate faceplate{settings, folder};
+  Shape shape{folder};
+  FakeStrings strings;
+  int clicks = 0;
+  std::vector<std::string> broughtUp;
+  FormContext forms{strings, faceplate, shape, [this] { ++clicks; },
+                    [this](const std::string& caption) { broughtUp.push_back(caption); }};
+};
+
+}  // namespace sonaro
