@@ -84,6 +84,16 @@ inline constexpr int butOptions = 1148;
 // frmScan: 2001 to 2099.
 
 // MsgboxFrm, frmSplash, frmStartUpInfo: 2101 to 2199.
+inline constexpr int lblMsg = 2101;
+inline constexpr int butMsg = 2102;  // 2 numbers
+inline constexpr int chkDontAsk = 2104;
+inline constexpr int lblStuff = 2105;
+inline constexpr int picStuff = 2106;
+inline constexpr int lblClose = 2121;
+inline constexpr int lblLoading = 2122;
+inline constexpr int lblVersion = 2123;
+inline constexpr int picDial = 2124;
+inline constexpr int picMark = 2125;
 
 // frmNewFavorite, frmRenameFav, dialogs of personal stations and extra links: 2201 to 2299.
 
@@ -96,6 +106,20 @@ inline constexpr int butOptions = 1148;
 // frmOptions: 2701 to 2799.
 
 // frmSysTrayMenu (menu entries): 3001 to 3099.
+inline constexpr int mnuTrayOpen = 3001;
+inline constexpr int mnuTrayBrowse = 3002;
+inline constexpr int mnuTraySearch = 3003;
+inline constexpr int mnuTrayYourSonaro = 3004;
+inline constexpr int mnuTrayScan = 3005;
+inline constexpr int mnuTraySchedule = 3006;
+inline constexpr int mnuTrayUpdate = 3007;
+inline constexpr int mnuTrayOptions = 3008;
+inline constexpr int mnuTrayHelp = 3009;
+inline constexpr int mnuTrayExit = 3010;
+inline constexpr int mnuTrayGroup = 3021;  // 10 numbers
+inline constexpr int lblTrayText = 3041;
+inline constexpr int tmrStartUp = 3042;
+inline constexpr int tmrMinute = 3043;
 
 // frmSonaroMenu (menu entries): 3101 to 3399.
 // Sorting: the sort menu and the same entries of the action menu.

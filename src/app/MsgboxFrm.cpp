@@ -1,0 +1,115 @@
+#include "app/MsgboxFrm.h"
+
+#include <algorithm>
+
+#include "app/HelpPages.h"
+#include "forms/ControlIds.h"
+#include "forms/Painter.h"
+#include "forms/WideText.h"
+#include "resources/ids.h"
+
+namespace sonaro {
+
+namespace {
+
+constexpr DesignSize kSize = {420, 248};
+constexpr int kTextWidth = 336;
+constexpr int kTextHeight = 132;
+constexpr const char* kFilesMissing = "Files Missing";
+
+}  // namespace
+
+const FormDesign& MsgboxFrm::Design() {
+  static constexpr unsigned char kFoot = kLeft | kBottom;
+  static constexpr ControlRow kControls[] = {
+      {.id = lblTitle, .kind = Kind::TitleBar, .at = {14, 4, 182, 26}},
+      {.kind = Kind::Label, .at = {20, 52, 36, 36}, .icon = Icon::Info, .ink = Ink::Signal},
+      {.id = lblMsg,
+       .kind = Kind::StateLabel,
+       .at = {68, 50, kTextWidth, kTextHeight},
+       .flags = kWrap | kNoPrefix,
+       .anchors = kLeft | kTop | kBottom,
+       .type = Type::Message},
+      {.kind = Kind::Groove, .at = {14, 190, 392, 2}, .anchors = kFoot},
+      {.id = chkDontAsk,
+       .kind = Kind::CheckBox,
+       .at = {16, 202, 172, 28},
+       .flags = kHidden,
+       .anchors = kFoot},
+      {.id = butMsg, .kind = Kind::PrimaryKey, .at = {196, 202, 104, 28}, .anchors = kFoot},
+      {.id = butMsg + 1, .kind = Kind::PushKey, .at = {308, 202, 98, 28}, .flags = kHidden, .anchors = kFoot},
+      {.id = butHelp,
+       .kind = Kind::StripKey,
+       .text = IDS_APP_HELP,
+       .at = {348, 12, 28, 22},
+       .icon = Icon::Help},
+      {.id = butCloseIt,
+       .kind = Kind::StripKey,
+       .text = IDS_APP_CLOSE,
+       .at = {380, 12, 28, 22},
+       .icon = Icon::Close},
+  };
+  static constexpr FormDesign kDesign = {.name = "MsgboxFrm",
+                                         .caption = IDS_APP_TITLE,
+                                         .size = kSize,
+                                         .outline = "fdf01",
+                                         .controls = kControls,
+                                         .firstFocus = butMsg};
+  return kDesign;
+}
+
+std::span<const EventRow> MsgboxFrm::Events() const {
+  static const EventRow kRows[] = {
+      {butMsg, Click, &MsgboxFrm::butMsg_Click, 2},
+      {butCloseIt, Click, &MsgboxFrm::butCloseIt_Click},
+      {butHelp, Click, &MsgboxFrm::butHelp_Click},
+  };
+  return kRows;
+}
+
+MsgboxFrm::MsgboxFrm(FormContext& context, HelpPages& help, Message message)
+    : Form(context, Design()), help_(help), message_(std::move(message)) {}
+
+MessageResult MsgboxFrm::Ask(HWND owner) {
+  const int answer = ShowModal(owner);
+  return {static_cast<MessageAnswer>(answer), dontAskAgain_};
+}
+
+void MsgboxFrm::OnLoad() {
+  SetWindowTextW(Window(), Widen(message_.caption).c_str());
+  SetText(lblTitle, message_.caption);
+  SetText(lblMsg, message_.text);
+  SetText(butMsg, message_.firstButton);
+  SetText(butMsg + 1, message_.secondButton);
+  ShowControl(butMsg + 1, !message_.secondButton.empty());
+  SetText(chkDontAsk, message_.dontAskText);
+  ShowControl(chkDontAsk, !message_.dontAskText.empty());
+  GrowForText();
+}
+
+void MsgboxFrm::OnUnload() { dontAskAgain_ = IsChecked(chkDontAsk); }
+
+void MsgboxFrm::GrowForText() {
+  const Painter painter(FaceplateColors{}, 96);
+  const int needed = painter.WrappedHeight(Widen(message_.text), Type::Message, kTextWidth);
+  if (needed > kTextHeight) Resize({kSize.width, kSize.height + needed - kTextHeight});
+}
+
+// Leaving without an answer: the last key, as Esc does everywhere.
+void MsgboxFrm::OnEscape() {
+  Close(message_.secondButton.empty() ? 0 : static_cast<int>(MessageAnswer::Second));
+}
+
+void MsgboxFrm::butMsg_Click(int index) { Close(index + 1); }
+
+void MsgboxFrm::butHelp_Click() {
+  if (message_.caption != kFilesMissing) help_.OpenHelpPage(HelpPageForMessage(message_.key));
+}
+
+MessageResult MessageBoxes::Ask(const Message& message) {
+  MsgboxFrm box(context_, help_(), message);
+  HWND owner = GetActiveWindow();
+  return box.Ask(owner != nullptr && IsWindowVisible(owner) ? owner : nullptr);
+}
+
+}  // namespace sonaro

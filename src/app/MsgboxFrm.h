@@ -1,0 +1,52 @@
+// The message box: one dialog for every question and every sentence that the program says. What it shows is a
+// Message; nothing is decided here.
+#pragma once
+
+#include <functional>
+#include <string_view>
+
+#include "app/Message.h"
+#include "forms/Form.h"
+
+namespace sonaro {
+
+class HelpPages;
+
+class MsgboxFrm final : public Form {
+ public:
+  MsgboxFrm(FormContext& context, HelpPages& help, Message message);
+
+  MessageResult Ask(HWND owner);
+
+ private:
+  static const FormDesign& Design();
+  std::span<const EventRow> Events() const override;
+  void OnLoad() override;
+  void OnUnload() override;
+  void OnEscape() override;
+  void GrowForText();
+
+  void butMsg_Click(int index);
+  void butCloseIt_Click() { Close(0); }
+  void butHelp_Click();
+
+  HelpPages& help_;
+  Message message_;
+  bool dontAskAgain_ = false;
+};
+
+// Shows messages over the program's active window. Owned by Application.
+class MessageBoxes final : public MessageBoxView {
+ public:
+  // `help` opens web pages and so comes late.
+  MessageBoxes(FormContext& context, std::function<HelpPages&()> help)
+      : context_(context), help_(std::move(help)) {}
+
+  MessageResult Ask(const Message& message) override;
+
+ private:
+  FormContext& context_;
+  std::function<HelpPages&()> help_;
+};
+
+}  // namespace sonaro

@@ -1,0 +1,194 @@
+#include "tray/frmSysTrayMenu.h"
+
+#include <shellapi.h>
+
+#include <algorithm>
+#include <iterator>
+
+#include "forms/ControlIds.h"
+#include "forms/WideText.h"
+#include "resources/ids.h"
+
+namespace sonaro {
+
+namespace {
+
+constexpr UINT kTrayMessage = WM_APP + 1;
+constexpr UINT kIconId = 1;
+constexpr unsigned kStartUpDelay = 500;  // milliseconds: the main window has been painted
+constexpr unsigned kMinute = 60000;
+constexpr std::size_t kMostGroups = 10;
+
+NOTIFYICONDATAW IconData(HWND window) {
+  NOTIFYICONDATAW data{};
+  data.cbSize = sizeof data;
+  data.hWnd = window;
+  data.uID = kIconId;
+  return data;
+}
+
+}  // namespace
+
+const FormDesign& frmSysTrayMenu::Design() {
+  static constexpr ControlRow kControls[] = {{.id = lblTrayText, .kind = Kind::Label, .at = {0, 0, 100, 20}}};
+  static constexpr FormDesign kDesign = {.name = "frmSysTrayMenu",
+                                         .caption = "frmSysTrayMenu",
+                                         .size = {200, 60},
+                                         .controls = kControls,
+                                         .titleGroove = 0};
+  return kDesign;
+}
+
+std::span<const EventRow> frmSysTrayMenu::Events() const {
+  static const EventRow kRows[] = {
+      {mnuTrayOpen, Click, &frmSysTrayMenu::mnuTrayOpen_Click},
+      {mnuTrayBrowse, Click, &frmSysTrayMenu::mnuTrayBrowse_Click},
+      {mnuTraySearch, Click, &frmSysTrayMenu::mnuTraySearch_Click},
+      {mnuTrayYourSonaro, Click, &frmSysTrayMenu::mnuTrayYourSonaro_Click},
+      {mnuTrayScan, Click, &frmSysTrayMenu::mnuTrayScan_Click},
+      {mnuTraySchedule, Click, &frmSysTrayMenu::mnuTraySchedule_Click},
+      {mnuTrayUpdate, Click, &frmSysTrayMenu::mnuTrayUpdate_Click},
+      {mnuTrayOptions, Click, &frmSysTrayMenu::mnuTrayOptions_Click},
+      {mnuTrayHelp, Click, &frmSysTrayMenu::mnuTrayHelp_Click},
+      {mnuTrayExit, Click, &frmSysTrayMenu::mnuTrayExit_Click},
+      {mnuTrayGroup, Click, &frmSysTrayMenu::mnuTrayGroup_Click, static_cast<int>(kMostGroups)},
+  };
+  return kRows;
+}
+
+std::span<const TimerRow> frmSysTrayMenu::Timers() const {
+  static const TimerRow kRows[] = {
+      {tmrStartUp, &frmSysTrayMenu::tmrStartUp_Timer},
+      {tmrMinute, &frmSysTrayMenu::tmrMinute_Timer},
+  };
+  return kRows;
+}
+
+frmSysTrayMenu::frmSysTrayMenu(FormContext& context, TrayActions actions)
+    : Form(context, Design()), actions_(std::move(actions)) {}
+
+frmSysTrayMenu::~frmSysTrayMenu() {
+  TakeIconAway();
+  if (icon_ != nullptr) DestroyIcon(icon_);
+}
+
+bool frmSysTrayMenu::Start() {
+  if (!Create()) return false;
+  // Explorer says so when it starts anew, and has then forgotten all icons.
+  taskbarCreated_ = RegisterWindowMessageW(L"TaskbarCreated");
+  icon_ = static_cast<HICON>(LoadImageW(GetModuleHandleW(nullptr), MAKEINTRESOURCEW(IDI_PROGRAM), IMAGE_ICON,
+                                        GetSystemMetrics(SM_CXSMICON), GetSystemMetrics(SM_CYSMICON), 0));
+  PutIcon();
+  return true;
+}
+
+void frmSysTrayMenu::FinishedLoading() {
+  StartTimer(tmrStartUp, kStartUpDelay);
+  StartTimer(tmrMinute, kMinute);
+}
+
+void frmSysTrayMenu::Tell(const std::string& text) { SetText(lblTrayText, text); }
+
+void frmSysTrayMenu::PutIcon() {
+  NOTIFYICONDATAW data = IconData(Window());
+  data.uFlags = NIF_MESSAGE | NIF_ICON | NIF_TIP | NIF_SHOWTIP;
+  data.uCallbackMessage = kTrayMessage;
+  data.hIcon = icon_;
+  const std::wstring tip = Widen(LoadText(IDS_TRAY_TIP));
+  tip.copy(data.szTip, std::size(data.szTip) - 1);
+  hasIcon_ = Shell_NotifyIconW(NIM_ADD, &data) != FALSE;
+  data.uVersion = NOTIFYICON_VERSION_4;
+  Shell_NotifyIconW(NIM_SETVERSION, &data);
+}
+
+void frmSysTrayMenu::TakeIconAway() {
+  if (!hasIcon_) return;
+  NOTIFYICONDATAW data = IconData(Window());
+  Shell_NotifyIconW(NIM_DELETE, &data);
+  hasIcon_ = false;
+}
+
+bool frmSysTrayMenu::OnMessage(UINT message, WPARAM wParam, LPARAM lParam, LRESULT& result) {
+  if (message == taskbarCreated_ && taskbarCreated_ != 0) {
+    PutIcon();
+    return false;
+  }
+  switch (message) {
+    case kSecondStart:
+      actions_.open();
+      break;
+    case kScheduleDue:
+      if (actions_.scheduleItemDue) actions_.scheduleItemDue(static_cast<int>(wParam));
+      break;
+    case kTrayMessage:
+      TrayEvent(LOWORD(lParam), {static_cast<short>(LOWORD(wParam)), static_cast<short>(HIWORD(wParam))});
+      break;
+    case WM_TIMECHANGE:
+    case WM_POWERBROADCAST:
+      if (actions_.clockChanged) actions_.clockChanged();
+      return false;
+    default:
+      return false;
+  }
+  result = 0;
+  return true;
+}
+
+// Version 4 of the icon: the point comes with the event, the keyboard gives NIN_KEYSELECT and WM_CONTEXTMENU.
+void frmSysTrayMenu::TrayEvent(UINT event, POINT at) {
+  switch (event) {
+    case NIN_SELECT:
+    case NIN_KEYSELECT:
+      actions_.open();
+      break;
+    case WM_CONTEXTMENU:
+      ShowMenu(at);
+      break;
+    default:
+      break;
+  }
+}
+
+void frmSysTrayMenu::ShowMenu(POINT at) {
+  std::vector<MenuEntry> groups;
+  if (actions_.groupNames) {
+    const std::vector<std::string> names = actions_.groupNames();
+    for (std::size_t i = 0; i < std::min(names.size(), kMostGroups); ++i) {
+      groups.push_back({.command = mnuTrayGroup + static_cast<int>(i), .text = names[i]});
+    }
+  }
+  if (groups.empty())
+    groups.push_back({.command = -1, .text = LoadText(IDS_TRAY_NO_GROUPS), .enabled = false});
+  std::vector<MenuEntry> menu;
+  const auto add = [&](const std::function<void()>& action, int command, int text) {
+    if (action) menu.push_back({.command = command, .text = LoadText(text)});
+  };
+  add(actions_.open, mnuTrayOpen, IDS_TRAY_OPEN);
+  add(actions_.yourSonaro, mnuTrayYourSonaro, IDS_TRAY_YOUR_SONARO);
+  add(actions_.browse, mnuTrayBrowse, IDS_TRAY_BROWSE);
+  add(actions_.search, mnuTraySearch, IDS_TRAY_SEARCH);
+  menu.push_back({.command = 0, .text = LoadText(IDS_TRAY_GROUPS), .children = std::move(groups)});
+  menu.push_back({});
+  add(actions_.scan, mnuTrayScan, IDS_TRAY_SCAN);
+  add(actions_.schedule, mnuTraySchedule, IDS_TRAY_SCHEDULE);
+  add(actions_.update, mnuTrayUpdate, IDS_TRAY_UPDATE);
+  add(actions_.options, mnuTrayOptions, IDS_TRAY_OPTIONS);
+  add(actions_.help, mnuTrayHelp, IDS_TRAY_HELP);
+  menu.push_back({});
+  add(actions_.exit, mnuTrayExit, IDS_TRAY_EXIT);
+  // Without this the menu would stay open when the user clicks elsewhere.
+  SetForegroundWindow(Window());
+  PopUpMenu(menu, at);
+  PostMessageW(Window(), WM_NULL, 0, 0);
+}
+
+void frmSysTrayMenu::tmrStartUp_Timer() {
+  StopTimer(tmrStartUp);
+  if (actions_.startUp) actions_.startUp();
+}
+
+void frmSysTrayMenu::tmrMinute_Timer() {
+  if (actions_.minute) actions_.minute();
+}
+
+}  // namespace sonaro
