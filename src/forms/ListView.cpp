@@ -1,0 +1,313 @@
+#include "forms/ListView.h"
+
+#include <windowsx.h>
+
+#include <algorithm>
+
+#include "base/Text.h"
+#include "forms/Painter.h"
+#include "forms/WideText.h"
+
+namespace sonaro {
+
+namespace {
+
+constexpr UINT_PTR kSubclassId = 1;
+constexpr DWORD kStyle = WS_CHILD | WS_TABSTOP | WS_CLIPSIBLINGS | LVS_REPORT | LVS_OWNERDATA |
+                         LVS_SINGLESEL | LVS_SHOWSELALWAYS | LVS_NOCOLUMNHEADER;
+
+}  // namespace
+
+ListView::ListView(HWND form, int id, FormServices& services)
+    : services_(services), id_(id), bar_(form, services, [this](int first) { ScrollTo(first); }) {
+  list_ =
+      CreateWindowExW(0, WC_LISTVIEWW, L"", kStyle, 0, 0, 0, 0, form,
+                      reinterpret_cast<HMENU>(static_cast<INT_PTR>(id)), GetModuleHandleW(nullptr), nullptr);
+  ListView_SetExtendedListViewStyle(list_, LVS_EX_DOUBLEBUFFER | LVS_EX_FULLROWSELECT);
+  SetWindowSubclass(list_, &ListView::Subclass, kSubclassId, reinterpret_cast<DWORD_PTR>(this));
+  UseRowHeight();
+}
+
+ListView::~ListView() {
+  if (IsWindow(list_)) {
+    RemoveWindowSubclass(list_, &ListView::Subclass, kSubclassId);
+    DestroyWindow(list_);
+  }
+  if (rowHeight_ != nullptr) ImageList_Destroy(rowHeight_);
+}
+
+void ListView::SetColumns(std::vector<Column> columns) {
+  while (ListView_DeleteColumn(list_, 0)) {
+  }
+  columns_ = std::move(columns);
+  for (std::size_t i = 0; i < columns_.size(); ++i) {
+    std::wstring name = Widen(columns_[i].name);
+    LVCOLUMNW column{};
+    column.mask = LVCF_TEXT | LVCF_WIDTH | LVCF_SUBITEM;
+    column.pszText = name.data();
+    column.cx = 10;
+    column.iSubItem = static_cast<int>(i);
+    SendMessageW(list_, LVM_INSERTCOLUMNW, i, reinterpret_cast<LPARAM>(&column));
+  }
+  PlaceColumns();
+}
+
+void ListView::SetModel(const ListModel* model, bool withSymbols) {
+  model_ = model;
+  withSymbols_ = withSymbols;
+  RowsChanged();
+}
+
+void ListView::SetEmptyText(std::string heading, std::string help) {
+  emptyHeading_ = std::move(heading);
+  emptyHelp_ = std::move(help);
+  InvalidateRect(list_, nullptr, TRUE);
+}
+
+void ListView::SetRowHeight(int design) {
+  designRow_ = design;
+  UseRowHeight();
+}
+
+// A report list takes its row height from its small image list.
+void ListView::UseRowHeight() {
+  HIMAGELIST fresh = ImageList_Create(1, std::max(1, services_.Look().Px(designRow_) - 1), ILC_COLOR, 1, 1);
+  ListView_SetImageList(list_, fresh, LVSIL_SMALL);
+  if (rowHeight_ != nullptr) ImageList_Destroy(rowHeight_);
+  rowHeight_ = fresh;
+}
+
+void ListView::RowsChanged() {
+  SendMessageW(list_, WM_SETREDRAW, FALSE, 0);
+  hover_ = -1;
+  ListView_SetItemCountEx(list_, model_ != nullptr ? model_->RowCount() : 0, LVSICF_NOSCROLL);
+  SendMessageW(list_, WM_SETREDRAW, TRUE, 0);
+  InvalidateRect(list_, nullptr, TRUE);
+  SyncScrollBar();
+}
+
+int ListView::Selected() const { return ListView_GetNextItem(list_, -1, LVNI_SELECTED); }
+
+void ListView::Select(int row) {
+  quiet_ = true;
+  if (row < 0) {
+    ListView_SetItemState(list_, -1, 0, LVIS_SELECTED | LVIS_FOCUSED);
+  } else {
+    ListView_SetItemState(list_, row, LVIS_SELECTED | LVIS_FOCUSED, LVIS_SELECTED | LVIS_FOCUSED);
+    ListView_EnsureVisible(list_, row, FALSE);
+  }
+  quiet_ = false;
+  SyncScrollBar();
+}
+
+void ListView::RepaintRows() { InvalidateRect(list_, nullptr, FALSE); }
+
+int ListView::RowAt(POINT screen) const {
+  ScreenToClient(list_, &screen);
+  if (screen.x < 0 || screen.x >= width_) return -1;
+  LVHITTESTINFO hit{};
+  hit.pt = {1, screen.y};
+  return ListView_HitTest(list_, &hit);
+}
+
+RECT ListView::RowBox(int row) const {
+  RECT box = ItemBox(row);
+  MapWindowPoints(list_, GetParent(list_), reinterpret_cast<POINT*>(&box), 2);
+  return box;
+}
+
+RECT ListView::ItemBox(int row) const {
+  RECT box{};
+  ListView_GetItemRect(list_, row, &box, LVIR_BOUNDS);
+  box.left = 0;
+  box.right = width_;
+  return box;
+}
+
+void ListView::MoveTo(const RECT& place) {
+  const int line = services_.Look().Line();
+  const RECT inner = {place.left + line, place.top + line, place.right - line, place.bottom - line};
+  width_ = inner.right - inner.left;
+  const int height = inner.bottom - inner.top;
+  // The native scroll bar lies beyond the region and is never seen.
+  const int native = GetSystemMetrics(SM_CXVSCROLL);
+  SetWindowPos(list_, nullptr, inner.left, inner.top, width_ + native, height, SWP_NOZORDER | SWP_NOACTIVATE);
+  SetWindowRgn(list_, CreateRectRgn(0, 0, width_, height), TRUE);
+  const int barWidth = services_.Look().Px(ScrollBar::kDesignWidth);
+  bar_.MoveTo({inner.right - barWidth, inner.top, inner.right, inner.bottom});
+  PlaceColumns();
+  SyncScrollBar();
+}
+
+void ListView::SetShown(bool shown) {
+  ShowWindow(list_, shown ? SW_SHOWNA : SW_HIDE);
+  bar_.SetShown(shown);
+}
+
+void ListView::LookChanged() {
+  UseRowHeight();
+  PlaceColumns();
+  InvalidateRect(list_, nullptr, TRUE);
+  InvalidateRect(bar_.Window(), nullptr, TRUE);
+}
+
+void ListView::PlaceColumns() {
+  edges_.clear();
+  const int bar = bar_.IsNeeded() ? services_.Look().Px(ScrollBar::kDesignWidth) : 0;
+  int design = 0;
+  int left = 0;
+  for (std::size_t i = 0; i < columns_.size(); ++i) {
+    design += columns_[i].width;
+    const bool last = i + 1 == columns_.size();
+    const int right = last ? std::max(left, width_ - bar) : services_.Look().Px(design);
+    ListView_SetColumnWidth(list_, static_cast<int>(i), right - left);
+    edges_.push_back(right);
+    left = right;
+  }
+}
+
+void ListView::SyncScrollBar() {
+  const bool had = bar_.IsNeeded();
+  const int total = model_ != nullptr ? model_->RowCount() : 0;
+  bar_.SetRange({total, std::max(1, ListView_GetCountPerPage(list_)), ListView_GetTopIndex(list_)});
+  if (bar_.IsNeeded() != had) {
+    PlaceColumns();
+    InvalidateRect(list_, nullptr, TRUE);
+  }
+}
+
+void ListView::ScrollTo(int first) {
+  const RECT row = ItemBox(0);
+  ListView_Scroll(list_, 0, (first - ListView_GetTopIndex(list_)) * (row.bottom - row.top));
+  SyncScrollBar();
+}
+
+LRESULT CALLBACK ListView::Subclass(HWND window, UINT message, WPARAM wParam, LPARAM lParam, UINT_PTR,
+                                    DWORD_PTR data) {
+  if (message == WM_NCDESTROY) RemoveWindowSubclass(window, &ListView::Subclass, kSubclassId);
+  return reinterpret_cast<ListView*>(data)->Handle(message, wParam, lParam);
+}
+
+LRESULT ListView::Handle(UINT message, WPARAM wParam, LPARAM lParam) {
+  switch (message) {
+    case WM_ERASEBKGND:
+      PaintBelowRows(reinterpret_cast<HDC>(wParam));
+      return 1;
+    case WM_GETDLGCODE: {
+      // Enter acts on the row; without this the dialog keyboard would press the primary key.
+      const auto* key = reinterpret_cast<const MSG*>(lParam);
+      const bool enter =
+          key != nullptr && key->message == WM_KEYDOWN && key->wParam == VK_RETURN && Selected() >= 0;
+      return DefSubclassProc(list_, message, wParam, lParam) | (enter ? DLGC_WANTMESSAGE : 0);
+    }
+    case WM_MOUSEMOVE: {
+      POINT at = {GET_X_LPARAM(lParam), GET_Y_LPARAM(lParam)};
+      ClientToScreen(list_, &at);
+      SetHover(RowAt(at));
+      break;
+    }
+    case WM_MOUSELEAVE:
+      SetHover(-1);
+      break;
+    case WM_SETFOCUS:
+    case WM_KILLFOCUS:
+      InvalidateRect(list_, nullptr, FALSE);
+      break;
+    case WM_CONTEXTMENU:
+      ShowContextMenu({GET_X_LPARAM(lParam), GET_Y_LPARAM(lParam)});
+      return 0;
+    default:
+      break;
+  }
+  const LRESULT result = DefSubclassProc(list_, message, wParam, lParam);
+  // Whatever scrolled, by wheel, key or program, paints.
+  if (message == WM_PAINT || message == WM_MOUSEWHEEL || message == WM_KEYDOWN) SyncScrollBar();
+  return result;
+}
+
+void ListView::SetHover(int row) {
+  if (row == hover_) return;
+  const int before = hover_;
+  hover_ = row;
+  for (int changed : {before, row}) {
+    if (changed < 0) continue;
+    const RECT box = ItemBox(changed);
+    InvalidateRect(list_, &box, FALSE);
+  }
+  if (row >= 0) {
+    TRACKMOUSEEVENT track = {sizeof track, TME_LEAVE, list_, 0};
+    TrackMouseEvent(&track);
+  }
+}
+
+void ListView::ShowContextMenu(POINT screen) {
+  int row = Selected();
+  if (screen.x == -1 && screen.y == -1) {  // by keyboard: at the selected row
+    const RECT box = row >= 0 ? ItemBox(row) : RECT{0, 0, 0, services_.Look().Px(designRow_)};
+    screen = {box.left + services_.Look().Px(28), box.bottom};
+    ClientToScreen(list_, &screen);
+  } else {
+    row = RowAt(screen);
+  }
+  services_.Raise({.id = id_, .kind = FormEvent::Kind::ContextMenu, .row = row, .point = screen});
+}
+
+bool ListView::OnNotify(NMHDR& notice, LRESULT& result) {
+  result = 0;
+  switch (notice.code) {
+    case NM_CUSTOMDRAW:
+      result = CustomDraw(reinterpret_cast<const NMLVCUSTOMDRAW&>(notice));
+      return true;
+    case LVN_GETDISPINFOW:
+      GiveText(reinterpret_cast<NMLVDISPINFOW&>(notice));
+      return true;
+    case LVN_ODFINDITEMW:
+      result = FindTyped(reinterpret_cast<const NMLVFINDITEMW&>(notice));
+      return true;
+    case LVN_ITEMCHANGED: {
+      const auto& change = reinterpret_cast<const NMLISTVIEW&>(notice);
+      const bool selected =
+          (change.uNewState & LVIS_SELECTED) != 0 && (change.uOldState & LVIS_SELECTED) == 0;
+      if (selected && !quiet_ && change.iItem >= 0) {
+        services_.Raise({.id = id_, .kind = FormEvent::Kind::ItemSelected, .row = change.iItem});
+      }
+      return true;
+    }
+    case LVN_ITEMACTIVATE: {
+      const int row = reinterpret_cast<const NMITEMACTIVATE&>(notice).iItem;
+      services_.Raise(
+          {.id = id_, .kind = FormEvent::Kind::ItemActivated, .row = row >= 0 ? row : Selected()});
+      return true;
+    }
+    case LVN_BEGINDRAG:
+      if (onBeginDrag) onBeginDrag(reinterpret_cast<const NMLISTVIEW&>(notice).iItem);
+      return true;
+    default:
+      return false;
+  }
+}
+
+void ListView::GiveText(NMLVDISPINFOW& info) const {
+  if ((info.item.mask & LVIF_TEXT) == 0 || info.item.pszText == nullptr || info.item.cchTextMax <= 0) return;
+  std::wstring text;
+  if (model_ != nullptr && info.item.iItem < model_->RowCount()) {
+    text = Widen(model_->Cell(info.item.iItem, info.item.iSubItem));
+  }
+  const std::size_t length = std::min(text.size(), static_cast<std::size_t>(info.item.cchTextMax - 1));
+  text.copy(info.item.pszText, length);
+  info.item.pszText[length] = L'\0';
+}
+
+LRESULT ListView::FindTyped(const NMLVFINDITEMW& find) const {
+  if (model_ == nullptr || (find.lvfi.flags & (LVFI_STRING | LVFI_PARTIAL)) == 0 || find.lvfi.psz == nullptr)
+    return -1;
+  const std::string typed = Narrow(find.lvfi.psz);
+  const int count = model_->RowCount();
+  for (int step = 0; step < count; ++step) {
+    const int row = (std::max(0, find.iStart) + step) % count;
+    if (StartsWithIgnoringCase(model_->Cell(row, 0), typed)) return row;
+  }
+  return -1;
+}
+
+}  // namespace sonaro

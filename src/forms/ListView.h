@@ -1,0 +1,101 @@
+// A report list drawn in the faceplate's way: the system's list view in owner-data mode, so that 40,000 rows
+// are there at once and screen readers read every cell, with its own painting and scroll bar. Rows live in a
+// ListModel; header keys stand over it and belong to the form. Made by Form for rows of kind ListView.
+#pragma once
+
+#include <windows.h>
+
+#include <functional>
+#include <memory>
+#include <span>
+#include <string>
+#include <vector>
+
+#include "forms/FormControl.h"
+#include "forms/ScrollBar.h"
+
+namespace sonaro {
+
+// What a list shows. Rows count from 0.
+class ListModel {
+ public:
+  virtual ~ListModel() = default;
+  virtual int RowCount() const = 0;
+  virtual std::string Cell(int row, int column) const = 0;
+  virtual int Symbol(int /*row*/) const { return -1; }  // reliability 0 to 4; -1: none
+  virtual bool IsGreyed(int /*row*/) const { return false; }
+};
+
+class ListView final : public FormControl {
+ public:
+  ListView(HWND form, int id, FormServices& services);
+  ~ListView() override;
+
+  // Widths in design pixels; the last column takes the rest of the list. Names are for screen readers.
+  struct Column {
+    std::string name;
+    int width = 0;
+  };
+  void SetColumns(std::vector<Column> columns);
+  // Rows with a reliability symbol keep its place free before the first column's text.
+  void SetModel(const ListModel* model, bool withSymbols);
+  // What an empty list says: a heading and one line of help. Without a heading it stays blank.
+  void SetEmptyText(std::string heading, std::string help);
+  // Rows in design pixels high; 22 unless told otherwise. Before the first rows.
+  void SetRowHeight(int design);
+
+  // The model's rows changed: takes their number and paints anew, redrawing switched off meanwhile.
+  void RowsChanged();
+  int Selected() const;  // -1: none
+  // Selects one row only and scrolls it into view; -1: none. Raises no event.
+  void Select(int row);
+  void RepaintRows();
+  int RowAt(POINT screen) const;  // -1: none
+  RECT RowBox(int row) const;     // client pixels of the form
+
+  // A row is being dragged (the left button is down and has moved); set to take part.
+  std::function<void(int row)> onBeginDrag;
+
+  HWND Window() const override { return list_; }
+  void MoveTo(const RECT& place) override;
+  void SetShown(bool shown) override;
+  void LookChanged() override;
+  bool OnNotify(NMHDR& notice, LRESULT& result) override;
+
+ private:
+  static LRESULT CALLBACK Subclass(HWND window, UINT message, WPARAM wParam, LPARAM lParam, UINT_PTR id,
+                                   DWORD_PTR data);
+  LRESULT Handle(UINT message, WPARAM wParam, LPARAM lParam);
+  void PlaceColumns();
+  void UseRowHeight();
+  void SyncScrollBar();
+  void ScrollTo(int first);
+  void SetHover(int row);
+  void PaintBelowRows(HDC dc) const;
+  void PaintEmpty(HDC dc, const RECT& box) const;
+  void PaintRow(HDC dc, int row) const;
+  void PaintCells(HDC dc, int row, const RECT& box, bool selected, bool focused) const;
+  LRESULT CustomDraw(const NMLVCUSTOMDRAW& draw) const;
+  void GiveText(NMLVDISPINFOW& info) const;
+  LRESULT FindTyped(const NMLVFINDITEMW& find) const;
+  void ShowContextMenu(POINT screen);
+  RECT ItemBox(int row) const;
+
+  FormServices& services_;
+  const int id_;
+  HWND list_ = nullptr;
+  ScrollBar bar_;
+  HIMAGELIST rowHeight_ = nullptr;  // an empty picture as high as a row
+  const ListModel* model_ = nullptr;
+  bool withSymbols_ = false;
+  std::vector<Column> columns_;
+  std::vector<int> edges_;  // right edges of the columns, pixels
+  std::string emptyHeading_;
+  std::string emptyHelp_;
+  int designRow_ = 22;
+  int hover_ = -1;
+  int width_ = 0;       // visible part
+  bool quiet_ = false;  // selecting by program
+};
+
+}  // namespace sonaro

@@ -1,0 +1,139 @@
+// How a list's rows look.
+
+#include <algorithm>
+
+#include "forms/ListView.h"
+#include "forms/Painter.h"
+#include "forms/ReliabilitySymbol.h"
+
+namespace sonaro {
+
+namespace {
+
+constexpr int kTextInset = 9;
+constexpr int kSymbolInset = 9;
+constexpr int kTextAfterSymbol = 28;
+constexpr int kRightGap = 5;
+constexpr int kNeedleBar = 3;
+constexpr int kEmptyWidth = 320;  // of the picture that an empty list shows
+constexpr int kEmptyPitch = 8;
+
+Color GroundOf(const FaceplateColors& colors, int row) { return row % 2 == 0 ? colors.glass : colors.zebra; }
+
+}  // namespace
+
+LRESULT ListView::CustomDraw(const NMLVCUSTOMDRAW& draw) const {
+  switch (draw.nmcd.dwDrawStage) {
+    case CDDS_PREPAINT:
+      return CDRF_NOTIFYITEMDRAW;
+    case CDDS_ITEMPREPAINT:
+      PaintRow(draw.nmcd.hdc, static_cast<int>(draw.nmcd.dwItemSpec));
+      return CDRF_SKIPDEFAULT;
+    default:
+      return CDRF_DODEFAULT;
+  }
+}
+
+void ListView::PaintRow(HDC dc, int row) const {
+  if (model_ == nullptr || row >= model_->RowCount()) return;
+  const Painter& look = services_.Look();
+  const FaceplateColors& colors = look.Colors();
+  const RECT box = ItemBox(row);
+  const bool selected = (ListView_GetItemState(list_, row, LVIS_SELECTED) & LVIS_SELECTED) != 0;
+  const bool focused = GetFocus() == list_;
+  BufferedPaint buffer(dc, box);
+  Color ground = row == hover_ ? colors.rowHover : GroundOf(colors, row);
+  if (selected) ground = focused ? colors.rowSelected : colors.rowSelectedOff;
+  look.Fill(buffer.Dc(), box, ground);
+  for (int edge : edges_) {
+    look.Fill(buffer.Dc(), {edge - look.Line(), box.top, edge, box.bottom}, colors.hair);
+  }
+  PaintCells(buffer.Dc(), row, box, selected, focused);
+  if (!selected) return;
+  look.Fill(buffer.Dc(), {box.left, box.top, box.left + look.Px(kNeedleBar), box.bottom}, colors.accent);
+  if (focused) {
+    const RECT frame = {box.left + look.Px(4), box.top + look.Line(),
+                        edges_.empty() ? box.right : edges_.back(), box.bottom - look.Line()};
+    look.Frame(buffer.Dc(), frame, colors.focus, look.Line());
+  }
+}
+
+void ListView::PaintCells(HDC dc, int row, const RECT& box, bool selected, bool focused) const {
+  const Painter& look = services_.Look();
+  const FaceplateColors& colors = look.Colors();
+  const int symbol = withSymbols_ ? model_->Symbol(row) : -1;
+  int left = box.left;
+  for (std::size_t i = 0; i < edges_.size(); ++i) {
+    const bool first = i == 0;
+    Color ink = first || selected ? colors.glassText : colors.glassMuted;
+    if (selected && focused) ink = colors.rowSelectedText;
+    if (model_->IsGreyed(row)) ink = colors.glassMuted;
+    const int inset = look.Px(first && withSymbols_ ? kTextAfterSymbol : kTextInset);
+    const RECT cell = {left + inset, box.top, edges_[i] - look.Px(kRightGap), box.bottom};
+    look.Text(dc, cell, model_->Cell(row, static_cast<int>(i)),
+              first && selected ? Type::BodyStrong : Type::Body, ink);
+    left = edges_[i];
+  }
+  if (symbol >= 0) {
+    const int top = box.top + (box.bottom - box.top - look.Px(kReliabilitySize)) / 2;
+    PaintReliability(dc, look, box.left + look.Px(kSymbolInset), top, symbol);
+  }
+}
+
+// Rows go on to the bottom as empty ones.
+void ListView::PaintBelowRows(HDC dc) const {
+  const Painter& look = services_.Look();
+  const FaceplateColors& colors = look.Colors();
+  RECT box{};
+  GetClientRect(list_, &box);
+  box.right = width_;
+  const int count = model_ != nullptr ? model_->RowCount() : 0;
+  if (count == 0 && !emptyHeading_.empty()) {
+    look.Fill(dc, box, colors.glass);
+    PaintEmpty(dc, box);
+    return;
+  }
+  const int height = std::max(1, look.Px(designRow_));
+  int top = 0;
+  int row = 0;
+  if (count > 0) {
+    row = std::min(count, ListView_GetTopIndex(list_) + ListView_GetCountPerPage(list_) + 1);
+    top = ItemBox(row - 1).bottom;
+  }
+  for (; top < box.bottom; top += height, ++row) {
+    look.Fill(dc, {0, top, width_, std::min<int>(top + height, box.bottom)}, GroundOf(colors, row));
+    for (int edge : edges_) {
+      look.Fill(dc, {edge - look.Line(), top, edge, std::min<int>(top + height, box.bottom)}, colors.hair);
+    }
+  }
+}
+
+void ListView::PaintEmpty(HDC dc, const RECT& box) const {
+  const Painter& look = services_.Look();
+  const FaceplateColors& colors = look.Colors();
+  const int centre = (box.left + box.right) / 2;
+  const int pitch = look.Px(kEmptyPitch);
+  const int ticks =
+      std::min(look.Px(kEmptyWidth), static_cast<int>(box.right - box.left) - look.Px(40)) / pitch / 2;
+  const int width = std::max(1, look.Line());
+  int line = box.top + (box.bottom - box.top) * 2 / 5;
+  if (box.bottom - box.top >= look.Px(140)) {
+    for (int tick = -ticks; tick <= ticks; ++tick) {
+      if (tick == 0) continue;
+      const int height = look.Px(tick % 5 == 0 ? 22 : 11);
+      const int x = centre + tick * pitch;
+      look.Fill(dc, {x, line - height, x + width, line}, colors.tickOff);
+    }
+    look.Fill(dc, {centre - look.Px(1), line - look.Px(34), centre + look.Px(2), line}, colors.accent);
+    look.DrawIcon(dc, Icon::TriDown, centre - look.Px(8), line - look.Px(46), 16, colors.accent);
+  } else {
+    line = box.top;
+  }
+  const RECT heading = {box.left, line + look.Px(12), box.right, line + look.Px(40)};
+  look.Text(dc, heading, emptyHeading_, Type::Notice, colors.glassText, DT_CENTER | DT_NOPREFIX);
+  const RECT help = {box.left + look.Px(8), heading.bottom, box.right - look.Px(8),
+                     heading.bottom + look.Px(22)};
+  look.Text(dc, help, emptyHelp_, Type::Body, colors.glassMuted, DT_CENTER | DT_NOPREFIX);
+}
+
+}  // namespace sonaro

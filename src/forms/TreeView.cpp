@@ -1,0 +1,338 @@
+#include "forms/TreeView.h"
+
+#include <windowsx.h>
+
+#include <algorithm>
+#include <utility>
+
+#include "forms/Painter.h"
+#include "forms/WideText.h"
+
+namespace sonaro {
+
+namespace {
+
+constexpr UINT_PTR kSubclassId = 1;
+constexpr DWORD kStyle = WS_CHILD | WS_TABSTOP | WS_CLIPSIBLINGS | TVS_HASBUTTONS | TVS_LINESATROOT |
+                         TVS_SHOWSELALWAYS | TVS_NOHSCROLL | TVS_NOTOOLTIPS;
+constexpr int kRow = 22;
+constexpr int kIndent = 14;
+constexpr int kMarkInset = 8;
+constexpr int kMarkSize = 12;
+constexpr int kLeafSize = 4;
+constexpr int kTextAfterMark = 16;
+constexpr int kNeedleBar = 3;
+constexpr int kRightGap = 8;
+
+}  // namespace
+
+TreeView::TreeView(HWND form, int id, FormServices& services)
+    : services_(services), id_(id), bar_(form, services, [this](int first) { ScrollTo(first); }) {
+  tree_ =
+      CreateWindowExW(0, WC_TREEVIEWW, L"", kStyle, 0, 0, 0, 0, form,
+                      reinterpret_cast<HMENU>(static_cast<INT_PTR>(id)), GetModuleHandleW(nullptr), nullptr);
+  SendMessageW(tree_, TVM_SETEXTENDEDSTYLE, TVS_EX_DOUBLEBUFFER, TVS_EX_DOUBLEBUFFER);
+  SetWindowSubclass(tree_, &TreeView::Subclass, kSubclassId, reinterpret_cast<DWORD_PTR>(this));
+}
+
+TreeView::~TreeView() {
+  if (!IsWindow(tree_)) return;
+  RemoveWindowSubclass(tree_, &TreeView::Subclass, kSubclassId);
+  DestroyWindow(tree_);
+}
+
+void TreeView::BeginFill() {
+  SendMessageW(tree_, WM_SETREDRAW, FALSE, 0);
+  quiet_ = true;
+}
+
+void TreeView::EndFill() {
+  quiet_ = false;
+  SendMessageW(tree_, WM_SETREDRAW, TRUE, 0);
+  InvalidateRect(tree_, nullptr, TRUE);
+  SyncScrollBar();
+}
+
+void TreeView::Clear() {
+  const bool wasQuiet = std::exchange(quiet_, true);
+  hover_ = nullptr;
+  TreeView_DeleteAllItems(tree_);
+  nodes_.clear();
+  quiet_ = wasQuiet;
+}
+
+HTREEITEM TreeView::Add(HTREEITEM parent, std::string_view text, std::string_view figure, int data) {
+  std::wstring wide = Widen(text);
+  TVINSERTSTRUCTW insert{};
+  insert.hParent = parent != nullptr ? parent : TVI_ROOT;
+  insert.hInsertAfter = TVI_LAST;
+  insert.item.mask = TVIF_TEXT | TVIF_PARAM;
+  insert.item.pszText = wide.data();
+  insert.item.lParam = static_cast<LPARAM>(nodes_.size());
+  nodes_.push_back({Widen(figure), data});
+  return reinterpret_cast<HTREEITEM>(
+      SendMessageW(tree_, TVM_INSERTITEMW, 0, reinterpret_cast<LPARAM>(&insert)));
+}
+
+const TreeView::Node* TreeView::NodeOf(HTREEITEM node) const {
+  if (node == nullptr) return nullptr;
+  TVITEMW item{};
+  item.mask = TVIF_PARAM | TVIF_HANDLE;
+  item.hItem = node;
+  if (SendMessageW(tree_, TVM_GETITEMW, 0, reinterpret_cast<LPARAM>(&item)) == 0) return nullptr;
+  const auto index = static_cast<std::size_t>(item.lParam);
+  return index < nodes_.size() ? &nodes_[index] : nullptr;
+}
+
+int TreeView::Data(HTREEITEM node) const {
+  const Node* found = NodeOf(node);
+  return found != nullptr ? found->data : -1;
+}
+
+HTREEITEM TreeView::Selected() const { return TreeView_GetSelection(tree_); }
+
+void TreeView::Select(HTREEITEM node) {
+  const bool wasQuiet = std::exchange(quiet_, true);
+  TreeView_SelectItem(tree_, node);
+  quiet_ = wasQuiet;
+}
+
+void TreeView::Expand(HTREEITEM node, bool expanded) {
+  TreeView_Expand(tree_, node, expanded ? TVE_EXPAND : TVE_COLLAPSE);
+  SyncScrollBar();
+}
+
+void TreeView::MoveTo(const RECT& place) {
+  const Painter& look = services_.Look();
+  const int line = look.Line();
+  const RECT inner = {place.left + line, place.top + line, place.right - line, place.bottom - line};
+  width_ = inner.right - inner.left;
+  const int height = inner.bottom - inner.top;
+  TreeView_SetItemHeight(tree_, look.Px(kRow));
+  TreeView_SetIndent(tree_, look.Px(kIndent));
+  // The native scroll bar lies beyond the region and is never seen.
+  const int native = GetSystemMetrics(SM_CXVSCROLL);
+  SetWindowPos(tree_, nullptr, inner.left, inner.top, width_ + native, height, SWP_NOZORDER | SWP_NOACTIVATE);
+  SetWindowRgn(tree_, CreateRectRgn(0, 0, width_, height), TRUE);
+  const int barWidth = look.Px(ScrollBar::kDesignWidth);
+  bar_.MoveTo({inner.right - barWidth, inner.top, inner.right, inner.bottom});
+  SyncScrollBar();
+}
+
+void TreeView::SetShown(bool shown) {
+  ShowWindow(tree_, shown ? SW_SHOWNA : SW_HIDE);
+  bar_.SetShown(shown);
+}
+
+void TreeView::LookChanged() {
+  InvalidateRect(tree_, nullptr, TRUE);
+  InvalidateRect(bar_.Window(), nullptr, TRUE);
+}
+
+void TreeView::SyncScrollBar() {
+  SCROLLINFO info{};
+  info.cbSize = sizeof info;
+  info.fMask = SIF_ALL;
+  const int fits = std::max(1, static_cast<int>(TreeView_GetVisibleCount(tree_)));
+  if ((GetWindowLongW(tree_, GWL_STYLE) & WS_VSCROLL) == 0 || !GetScrollInfo(tree_, SB_VERT, &info)) {
+    bar_.SetRange({fits, fits, 0});
+    return;
+  }
+  bar_.SetRange({info.nMax - info.nMin + 1, static_cast<int>(info.nPage), info.nPos});
+}
+
+void TreeView::ScrollTo(int first) {
+  SendMessageW(tree_, WM_VSCROLL, MAKEWPARAM(SB_THUMBPOSITION, first), 0);
+  SyncScrollBar();
+}
+
+HTREEITEM TreeView::NodeAt(POINT client) const {
+  TVHITTESTINFO hit{};
+  hit.pt = client;
+  const HTREEITEM node = TreeView_HitTest(tree_, &hit);
+  return (hit.flags & TVHT_NOWHERE) == 0 ? node : nullptr;
+}
+
+int TreeView::LevelOf(HTREEITEM node) const {
+  int level = 0;
+  while ((node = TreeView_GetParent(tree_, node)) != nullptr) ++level;
+  return level;
+}
+
+RECT TreeView::BoxOf(HTREEITEM node) const {
+  RECT box{};
+  TreeView_GetItemRect(tree_, node, &box, FALSE);
+  box.left = 0;
+  box.right = width_;
+  return box;
+}
+
+void TreeView::Repaint(HTREEITEM node) {
+  if (node == nullptr) return;
+  const RECT box = BoxOf(node);
+  InvalidateRect(tree_, &box, FALSE);
+}
+
+LRESULT CALLBACK TreeView::Subclass(HWND window, UINT message, WPARAM wParam, LPARAM lParam, UINT_PTR,
+                                    DWORD_PTR data) {
+  if (message == WM_NCDESTROY) RemoveWindowSubclass(window, &TreeView::Subclass, kSubclassId);
+  return reinterpret_cast<TreeView*>(data)->Handle(message, wParam, lParam);
+}
+
+LRESULT TreeView::Handle(UINT message, WPARAM wParam, LPARAM lParam) {
+  const POINT at = {GET_X_LPARAM(lParam), GET_Y_LPARAM(lParam)};
+  switch (message) {
+    case WM_ERASEBKGND: {
+      RECT box{};
+      GetClientRect(tree_, &box);
+      services_.Look().Fill(reinterpret_cast<HDC>(wParam), box, services_.Look().Colors().glass);
+      return 1;
+    }
+    case WM_LBUTTONDOWN:
+      Press(at);
+      return 0;
+    case WM_LBUTTONDBLCLK:
+      Toggle(NodeAt(at));
+      return 0;
+    case WM_MOUSEMOVE:
+      SetHover(NodeAt(at));
+      break;
+    case WM_MOUSELEAVE:
+      SetHover(nullptr);
+      break;
+    case WM_SETFOCUS:
+    case WM_KILLFOCUS:
+      InvalidateRect(tree_, nullptr, FALSE);
+      break;
+    default:
+      break;
+  }
+  const LRESULT result = DefSubclassProc(tree_, message, wParam, lParam);
+  if (message == WM_PAINT || message == WM_MOUSEWHEEL || message == WM_KEYDOWN) SyncScrollBar();
+  return result;
+}
+
+// The marks stand elsewhere than the system's own, so the mouse is dealt with here; keys stay the system's.
+void TreeView::Press(POINT at) {
+  SetFocus(tree_);
+  const HTREEITEM node = NodeAt(at);
+  if (node == nullptr) return;
+  const Painter& look = services_.Look();
+  const int mark = look.Px(kMarkInset + kIndent * LevelOf(node));
+  if (TreeView_GetChild(tree_, node) != nullptr && at.x >= mark - look.Px(4) &&
+      at.x < mark + look.Px(kMarkSize + 4)) {
+    Toggle(node);
+    return;
+  }
+  Select(node);
+  services_.Raise({.id = id_, .kind = FormEvent::Kind::NodeClick, .node = node});
+}
+
+void TreeView::Toggle(HTREEITEM node) {
+  if (node == nullptr) return;
+  TreeView_Expand(tree_, node, TVE_TOGGLE);
+  SyncScrollBar();
+}
+
+void TreeView::SetHover(HTREEITEM node) {
+  if (node == hover_) return;
+  Repaint(std::exchange(hover_, node));
+  Repaint(node);
+  if (node == nullptr) return;
+  TRACKMOUSEEVENT track = {sizeof track, TME_LEAVE, tree_, 0};
+  TrackMouseEvent(&track);
+}
+
+bool TreeView::OnNotify(NMHDR& notice, LRESULT& result) {
+  result = 0;
+  switch (notice.code) {
+    case NM_CUSTOMDRAW: {
+      const auto& draw = reinterpret_cast<const NMTVCUSTOMDRAW&>(notice);
+      if (draw.nmcd.dwDrawStage == CDDS_PREPAINT) result = CDRF_NOTIFYITEMDRAW;
+      if (draw.nmcd.dwDrawStage == CDDS_ITEMPREPAINT) {
+        PaintNode(draw.nmcd.hdc, reinterpret_cast<HTREEITEM>(draw.nmcd.dwItemSpec));
+        result = CDRF_SKIPDEFAULT;
+      }
+      return true;
+    }
+    case TVN_SELCHANGEDW: {
+      const HTREEITEM node = reinterpret_cast<const NMTREEVIEWW&>(notice).itemNew.hItem;
+      // By keyboard, by a screen reader, or from outside: it is a click all the same.
+      if (!quiet_ && node != nullptr) {
+        services_.Raise({.id = id_, .kind = FormEvent::Kind::NodeClick, .node = node});
+      }
+      return true;
+    }
+    case TVN_ITEMEXPANDEDW:
+      SyncScrollBar();
+      return true;
+    case NM_RETURN:
+      Toggle(Selected());
+      return true;
+    default:
+      return false;
+  }
+}
+
+void TreeView::PaintNode(HDC dc, HTREEITEM node) const {
+  const Painter& look = services_.Look();
+  const FaceplateColors& colors = look.Colors();
+  const RECT box = BoxOf(node);
+  if (box.bottom <= box.top) return;
+  const bool selected = node == Selected();
+  const bool focused = GetFocus() == tree_;
+  BufferedPaint buffer(dc, box);
+  const HDC paint = buffer.Dc();
+  Color ground = node == hover_ ? colors.rowHover : colors.glass;
+  if (selected) ground = focused ? colors.rowSelected : colors.rowSelectedOff;
+  look.Fill(paint, box, ground);
+  const int level = LevelOf(node);
+  for (int outer = 0; outer < level; ++outer) {
+    const int x = look.Px(13 + kIndent * outer);
+    look.Fill(paint, {x, box.top, x + look.Line(), box.bottom}, colors.hair);
+  }
+  const int left = look.Px(kMarkInset + kIndent * level);
+  PaintMark(paint, node, box, left);
+
+  wchar_t text[512] = L"";
+  TVITEMW item{};
+  item.mask = TVIF_TEXT | TVIF_HANDLE;
+  item.hItem = node;
+  item.pszText = text;
+  item.cchTextMax = 512;
+  SendMessageW(tree_, TVM_GETITEMW, 0, reinterpret_cast<LPARAM>(&item));
+  const int bar = bar_.IsNeeded() ? look.Px(ScrollBar::kDesignWidth) : 0;
+  const Node* found = NodeOf(node);
+  const std::wstring_view figure = found != nullptr ? std::wstring_view(found->figure) : std::wstring_view();
+  const int figureWidth = figure.empty() ? 0 : static_cast<int>(look.Measure(figure, Type::Small).cx);
+  const int right = width_ - bar - look.Px(kRightGap);
+  const bool highContrastRow = selected && focused;
+  look.Text(paint, {right - figureWidth, box.top, right, box.bottom}, figure, Type::Small,
+            highContrastRow ? colors.rowSelectedText : colors.glassMuted, DT_RIGHT | DT_NOPREFIX);
+  look.Text(paint, {left + look.Px(kTextAfterMark), box.top, right - figureWidth - look.Px(4), box.bottom},
+            std::wstring_view(text), level == 0 || selected ? Type::BodyStrong : Type::Body,
+            highContrastRow ? colors.rowSelectedText : colors.glassText);
+  if (!selected) return;
+  look.Fill(paint, {0, box.top, look.Px(kNeedleBar), box.bottom}, colors.accent);
+  if (focused) {
+    look.Frame(paint, {look.Px(4), box.top + look.Line(), width_ - bar, box.bottom - look.Line()},
+               colors.focus, look.Line());
+  }
+}
+
+void TreeView::PaintMark(HDC dc, HTREEITEM node, const RECT& box, int left) const {
+  const Painter& look = services_.Look();
+  const FaceplateColors& colors = look.Colors();
+  const int middle = (box.top + box.bottom) / 2;
+  if (TreeView_GetChild(tree_, node) == nullptr) {
+    const int size = look.Px(kLeafSize);
+    const int x = left + (look.Px(kMarkSize) - size) / 2;
+    look.Fill(dc, {x, middle - size / 2, x + size, middle - size / 2 + size}, colors.tickOff);
+    return;
+  }
+  const bool open = (TreeView_GetItemState(tree_, node, TVIS_EXPANDED) & TVIS_EXPANDED) != 0;
+  look.DrawIcon(dc, open ? Icon::TriDown : Icon::TriRight, left, middle - look.Px(kMarkSize) / 2, kMarkSize,
+                open ? colors.accent : colors.glassMuted);
+}
+
+}  // namespace sonaro
