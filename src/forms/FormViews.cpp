@@ -1,8 +1,22 @@
 // The controls with a class of their own: which kind is made by which class, and the way to them.
 #include "forms/FormParts.h"
+#include "forms/ListView.h"
+#include "forms/TreeView.h"
 
 namespace sonaro {
 
-std::unique_ptr<FormControl> FormParts::MakeView(const ControlRow&) { return nullptr; }
+std::unique_ptr<FormControl> FormParts::MakeView(const ControlRow& row) {
+  switch (row.kind) {
+    case Kind::ListView:
+      return std::make_unique<ListView>(window, row.id, *this);
+    case Kind::TreeView:
+      return std::make_unique<TreeView>(window, row.id, *this);
+    default:
+      return nullptr;
+  }
+}
+
+ListView& Form::List(int id) { return static_cast<ListView&>(*parts_->Find(id)->view); }
+TreeView& Form::Tree(int id) { return static_cast<TreeView&>(*parts_->Find(id)->view); }
 
 }  // namespace sonaro
