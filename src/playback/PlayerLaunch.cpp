@@ -66,7 +66,7 @@ LaunchOutcome PlayerLaunch::TryLaunch(const std::string& key, PlayMode mode) {
   if (station) recent_.AddRecent(station.Token());
   if (TrimBlanks(link).empty()) {
     link = stations_.AlternateLinkOf(station);
-    if (link.empty() || mode >= PlayMode::Personal) return OpenWebSite(station);
+    if (link.empty()) return OpenWebSite(station);
   }
   const LaunchOutcome outcome = HandOver(link);
   if (outcome == LaunchOutcome::Started && afterLaunch_) afterLaunch_(key, mode);

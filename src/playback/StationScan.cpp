@@ -135,9 +135,9 @@ void StationScan::Tick() {
 }
 
 // A tick is a second, and where ticks were lost the clock says how many seconds it was. Catching up ends with
-// the station on hand: after a long standstill the next one still gets its full time.
+// the station on hand: after a long standstill the next one still gets its full time, and the
+// counter jumps to none of its odd values.
 int StationScan::CountTick() const {
-  if (elapsed_ >= kNeverShown) return elapsed_ + 1;
   const std::uint64_t seconds = (clock_.Ticks() - countedFrom_ + kSecond / 2) / kSecond;
   const auto byClock =
       static_cast<int>(std::min<std::uint64_t>(seconds, static_cast<std::uint64_t>(scanTime_)));
