@@ -1,0 +1,63 @@
+#include "schedule/EventDiary.h"
+
+#include <algorithm>
+#include <optional>
+
+#include "base/Text.h"
+#include "directory/EvList.h"
+#include "schedule/ScheduleStore.h"
+#include "schedule/TimeZone.h"
+
+namespace sonaro {
+
+namespace {
+
+bool WaitsFor(const ScheduleItem& item, const EventRecord& event) {
+  const ItemName name = SplitItemName(item.name);
+  if (!EqualIgnoringCase(name.name, event[EventField::Name])) return false;
+  return !name.IsEvent() || EqualIgnoringCase(name.station, event[EventField::StationName]);
+}
+
+}  // namespace
+
+void EventDiary::Reload() {
+  diary_.clear();
+  for (EventSet set : {EventSet::Current, EventSet::Coming}) {
+    for (EventRecord& event : events_.AllEvents(set)) {
+      if (const auto gmt = ParseServiceTime(event[EventField::StartGmt])) {
+        diary_.push_back({*gmt, std::move(event)});
+      }
+    }
+  }
+  const auto before = [](const BroadcastEvent& a, const BroadcastEvent& b) {
+    return a.gmt != b.gmt ? a.gmt < b.gmt : a.record.EventId < b.record.EventId;
+  };
+  std::sort(diary_.begin(), diary_.end(), before);
+  const auto same = [](const BroadcastEvent& a, const BroadcastEvent& b) {
+    return a.gmt == b.gmt && a.record.EventId == b.record.EventId;
+  };
+  diary_.erase(std::unique(diary_.begin(), diary_.end(), same), diary_.end());
+}
+
+std::vector<BroadcastEvent> EventDiary::Coming(const DateTime& gmtNow, std::size_t most) const {
+  const auto first =
+      std::upper_bound(diary_.begin(), diary_.end(), gmtNow,
+                       [](const DateTime& now, const BroadcastEvent& event) { return now < event.gmt; });
+  const auto count = std::min(most, static_cast<std::size_t>(diary_.end() - first));
+  return {first, first + static_cast<std::ptrdiff_t>(count)};
+}
+
+std::vector<std::size_t> EventDiary::Starting(const ScheduleStore& store, const DateTime& from,
+                                              const DateTime& to) const {
+  std::vector<std::size_t> slots;
+  for (const BroadcastEvent& event : diary_) {
+    if (event.gmt <= from || event.gmt > to) continue;
+    for (std::size_t slot = 0; slot < store.SlotCount(); ++slot) {
+      const ScheduleItem& item = store.Item(slot);
+      if (KindOf(item.kind) == ScheduleKind::Live && WaitsFor(item, event.record)) slots.push_back(slot);
+    }
+  }
+  return slots;
+}
+
+}  // namespace sonaro

@@ -1,0 +1,41 @@
+// The broadcast events that are coming or beginning, out of the event tables. Owned by Application; reads the
+// tables when told to and keeps what it read. Times are GMT; a stamp that is no time leaves its event out.
+#pragma once
+
+#include <string_view>
+#include <vector>
+
+#include "base/Dates.h"
+#include "directory/EventRecord.h"
+
+namespace sonaro {
+
+class EvList;
+class ScheduleStore;
+
+struct BroadcastEvent {
+  DateTime gmt;
+  EventRecord record;
+};
+
+class EventDiary {
+ public:
+  explicit EventDiary(EvList& events) : events_(events) {}
+
+  // Reads both event sets anew; an event that stands in both counts once.
+  void Reload();
+
+  // The next events that have not begun, soonest first, at most `most`.
+  std::vector<BroadcastEvent> Coming(const DateTime& gmtNow, std::size_t most) const;
+
+  // The slots of live items whose event begins after `from` and not after `to`. A live item waits for the
+  // event of its name, on its station when it names one.
+  std::vector<std::size_t> Starting(const ScheduleStore& store, const DateTime& from,
+                                    const DateTime& to) const;
+
+ private:
+  EvList& events_;
+  std::vector<BroadcastEvent> diary_;  // in order of time
+};
+
+}  // namespace sonaro

@@ -1,0 +1,94 @@
+#include "schedule/Notification.h"
+
+#include "base/Numbers.h"
+#include "base/Text.h"
+#include "playback/ExtraLinks.h"
+#include "schedule/ScheduleStore.h"
+#include "schedule/ScheduleTexts.h"
+
+namespace sonaro {
+
+namespace {
+
+constexpr std::string_view kAskMark = "XX";
+constexpr PlayMode kLinkModes[] = {PlayMode::LinkOne, PlayMode::LinkTwo, PlayMode::LinkThree};
+
+std::string PlayCaption(std::string_view linkName) { return "Play (" + std::string(linkName) + ")"; }
+
+std::string LinkName(std::string_view mediaType, int number) {
+  return mediaType.empty() ? "Link " + std::to_string(number) : std::string(mediaType);
+}
+
+void AddDirectoryLinks(std::vector<PlayChoice>& plays, const StationKey& key, const StationSource& stations,
+                       const ExtraLinks& extraLinks) {
+  const StationRecord record = stations.Record(key.number);
+  const std::string& bitRate = record[StationField::BitRate];
+  for (int number = 1; number <= 3; ++number) {
+    if (stations.LinkOf(key, number).empty()) continue;
+    plays.push_back({PlayCaption(LinkName(record[StationField::MediaType], number)),
+                     number == 1 && !bitRate.empty() ? bitRate + " kbit/s" : "", std::to_string(key.number),
+                     kLinkModes[number - 1]});
+  }
+  for (const ExtraLink& extra : extraLinks.Of(key.number)) {
+    plays.push_back({PlayCaption("Extra Link"), extra.name, extra.link, PlayMode::KeyItself});
+  }
+}
+
+void AddPersonalLinks(std::vector<PlayChoice>& plays, const StationKey& key, const StationSource& stations) {
+  for (int number = 1; number <= 3; ++number) {
+    const std::string link = stations.LinkOf(key, number);
+    if (link.empty()) continue;
+    const bool first = number == 1;
+    plays.push_back({PlayCaption("Link " + std::to_string(number)), "",
+                     first ? std::to_string(key.number) : link,
+                     first ? PlayMode::Personal : PlayMode::KeyItself});
+  }
+}
+
+// As the web site key opens it: what follows the first ">>>>>", six characters on.
+std::string WebSiteIn(std::string_view name) {
+  const auto mark = name.find(">>>>>");
+  if (mark == std::string_view::npos || mark + 6 >= name.size()) return {};
+  const std::string_view address = name.substr(mark + 6);
+  return (address.starts_with("http") ? "" : "http://") + std::string(address);
+}
+
+}  // namespace
+
+Notification NotificationFor(const ScheduleItem& item, const StationSource& stations,
+                             const ExtraLinks& extraLinks, std::string_view shortDatePattern) {
+  Notification shown;
+  shown.eventName = SplitItemName(item.name).Shown();
+  shown.notice = NoticeText(item, shortDatePattern);
+  shown.note = item.note;
+  shown.webSite = WebSiteIn(item.name);
+  shown.webSiteFirst = OpensWebSite(item.action) && !shown.webSite.empty();
+  const StationKey key = StationKey::FromRowKey(StationKeyOf(item.action));
+  if (key.kind == StationKey::Kind::Directory) AddDirectoryLinks(shown.plays, key, stations, extraLinks);
+  if (key.kind == StationKey::Kind::Personal) AddPersonalLinks(shown.plays, key, stations);
+  if (shown.plays.size() > Notification::kPlayKeys) shown.plays.resize(Notification::kPlayKeys);
+  return shown;
+}
+
+int AskedItem(std::string_view bringUpText) {
+  const auto mark = bringUpText.find(kAskMark);
+  if (mark == std::string_view::npos || !IsNumeric(bringUpText.substr(0, mark))) return -1;
+  return static_cast<int>(NumberValue(bringUpText));
+}
+
+std::string BringUpText(std::size_t slot) { return std::to_string(slot) + std::string(kAskMark); }
+
+std::vector<std::string> AwayLines(const std::vector<Occurrence>& missed, const ScheduleStore& store,
+                                   const DateTime& now, ClockStyle style) {
+  std::vector<std::string> lines;
+  for (const Occurrence& occurrence : missed) {
+    if (occurrence.slot >= store.SlotCount()) continue;
+    const bool today = occurrence.at.date == now.date;
+    lines.push_back((today ? "" : FormatMonthDay(occurrence.at.date) + ", ") +
+                    FormatTime(occurrence.at.time, style) + "  " +
+                    SplitItemName(store.Item(occurrence.slot).name).Shown());
+  }
+  return lines;
+}
+
+}  // namespace sonaro

@@ -1,0 +1,47 @@
+// What a notification window shows and offers for one schedule item. The partner of frmNotify; plays and
+// opens nothing itself.
+#pragma once
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "playback/StationSource.h"
+#include "schedule/ScheduleCalendar.h"
+#include "schedule/ScheduleItem.h"
+
+namespace sonaro {
+
+class ExtraLinks;
+
+// One play key: its caption, a second line, and what LaunchStation is given.
+struct PlayChoice {
+  std::string caption;  // "Play (MP3)"
+  std::string detail;   // "128 kbit/s", or ""
+  std::string key;
+  PlayMode mode = PlayMode::LinkOne;
+};
+
+struct Notification {
+  static constexpr std::size_t kPlayKeys = 3;
+
+  std::string eventName;
+  std::string notice;
+  std::string note;
+  std::string webSite;  // an address that begins with "http", or ""
+  bool webSiteFirst = false;
+  std::vector<PlayChoice> plays;  // at most kPlayKeys
+};
+
+Notification NotificationFor(const ScheduleItem& item, const StationSource& stations,
+                             const ExtraLinks& extraLinks, std::string_view shortDatePattern);
+
+// The number before the first "XX" of the text that asks for a notification; -1 when there is none.
+int AskedItem(std::string_view bringUpText);
+std::string BringUpText(std::size_t slot);
+
+// The lines of the notice "while you were away": when, and what.
+std::vector<std::string> AwayLines(const std::vector<Occurrence>& missed, const class ScheduleStore& store,
+                                   const DateTime& now, ClockStyle style);
+
+}  // namespace sonaro

@@ -1,0 +1,171 @@
+#include "schedule/ScheduleDraft.h"
+
+#include <algorithm>
+
+#include "base/Text.h"
+#include "directory/EventRecord.h"
+#include "platform/Clock.h"
+#include "schedule/TimeZone.h"
+
+namespace sonaro {
+
+namespace {
+
+constexpr char kLineBreakInFile = '\v';  // a line of the file holds no line break
+constexpr int kHalfDay = 12;
+
+std::string NoteForFile(std::string_view note) {
+  std::string stored;
+  for (char c : note) {
+    if (c == '\n') stored += kLineBreakInFile;
+    if (c != '\n' && c != '\r') stored += c;
+  }
+  return stored;
+}
+
+std::string NoteFromFile(std::string_view stored) {
+  std::string note;
+  for (char c : stored) note += c == kLineBreakInFile ? std::string("\r\n") : std::string(1, c);
+  return note;
+}
+
+int WeekdayNamed(std::string_view name) {
+  for (int day = 0; day < 7; ++day) {
+    if (EqualIgnoringCase(EnglishDayName(day), name)) return day;
+  }
+  return 0;
+}
+
+std::string ChosenDays(const DayFlags& days) {
+  std::string chosen;
+  for (std::size_t day = 0; day < days.size(); ++day) {
+    if (!days[day]) continue;
+    if (!chosen.empty()) chosen += ", ";
+    chosen += EnglishDayName(static_cast<int>(day)).substr(0, 3);
+  }
+  return chosen;
+}
+
+bool AnyDay(const DayFlags& days) { return std::find(days.begin(), days.end(), true) != days.end(); }
+
+bool EveryDay(const DayFlags& days) { return std::find(days.begin(), days.end(), false) == days.end(); }
+
+}  // namespace
+
+ScheduleDraft ScheduleDraft::ForStation(std::string_view stationKey, std::string_view stationName,
+                                        const DateTime& now) {
+  ScheduleDraft draft;
+  draft.stationKey = stationKey;
+  draft.name.name = stationName;
+  const DateTime next = AddSeconds({now.date, {now.time.hour, 0, 0}}, 3600);
+  draft.time = next.time;
+  draft.dateText = FormatLongDate(next.date);
+  draft.weekday = Weekday(next.date);
+  return draft;
+}
+
+ScheduleDraft ScheduleDraft::ForEvent(const EventRecord& event, Clock& clock) {
+  ScheduleDraft draft;
+  draft.mode = DraftMode::AddLive;
+  draft.stationKey = "S" + event[EventField::StationId];
+  draft.name = {event[EventField::Name], event[EventField::StationName], event[EventField::WebAddress]};
+  if (const auto local = ServiceTimeToLocal(clock, event[EventField::StartGmt])) {
+    draft.time = local->time;
+    draft.dateText = FormatLongDate(local->date);
+    draft.weekday = Weekday(local->date);
+  }
+  return draft;
+}
+
+ScheduleDraft ScheduleDraft::FromItem(const ScheduleItem& item, std::string_view shortDatePattern) {
+  ScheduleDraft draft;
+  draft.mode = DraftMode::Modify;
+  draft.kind = KindOf(item.kind) == ScheduleKind::Unknown ? ScheduleKind::Once : KindOf(item.kind);
+  draft.time = ParseTime(item.time).value_or(TimeOfDay{});
+  const auto date = ParseDate(item.date, shortDatePattern);
+  draft.dateText = date ? FormatLongDate(date->date) : item.date;
+  draft.weekday = WeekdayNamed(item.weekday);
+  if (draft.kind == ScheduleKind::Daily) draft.days = DaysOf(item.kind);
+  draft.note = NoteFromFile(item.note);
+  draft.name = SplitItemName(item.name);
+  draft.stationKey = StationKeyOf(item.action);
+  draft.openWebSite = OpensWebSite(item.action);
+  return draft;
+}
+
+std::string ScheduleDraft::StationShown() const {
+  return "Station To Schedule: " + (name.IsEvent() ? name.station + " (Event)" : name.name);
+}
+
+DraftFault ScheduleDraft::Fault(std::string_view shortDatePattern) const {
+  if (TrimBlanks(name.name).empty()) return DraftFault::NoStation;
+  if (kind == ScheduleKind::Once && !ParseDate(dateText, shortDatePattern)) return DraftFault::NoDate;
+  if (kind == ScheduleKind::Daily && !AnyDay(days)) return DraftFault::NoDay;
+  return DraftFault::None;
+}
+
+ScheduleItem ScheduleDraft::ToItem(ClockStyle style, std::string_view shortDatePattern) const {
+  ScheduleItem item;
+  item.name = JoinItemName(name);
+  item.time = FormatTime(time, style);
+  item.note = NoteForFile(note);
+  item.action = ActionText(openWebSite, stationKey);
+  switch (kind) {
+    case ScheduleKind::Daily:
+      item.kind = DailyKind(days);
+      break;
+    case ScheduleKind::Weekly:
+      item.kind = "weekly";
+      item.weekday = EnglishDayName(weekday);
+      break;
+    case ScheduleKind::Live:
+      item.kind = "live";
+      break;
+    default:
+      item.kind = "once";
+      if (const auto date = ParseDate(dateText, shortDatePattern)) item.date = FormatShortDate(date->date);
+  }
+  return item;
+}
+
+std::string ScheduleDraft::Summary(ClockStyle style, std::string_view shortDatePattern) const {
+  if (Fault(shortDatePattern) != DraftFault::None) return {};
+  const std::string at = " at " + FormatTime(time, style);
+  switch (kind) {
+    case ScheduleKind::Daily:
+      return (EveryDay(days) ? "Every day" : "Every " + ChosenDays(days)) + at;
+    case ScheduleKind::Weekly:
+      return "Every " + std::string(EnglishDayName(weekday)) + at;
+    case ScheduleKind::Live:
+      return "When the event begins";
+    default:
+      return "Once, " + FormatLongDate(ParseDate(dateText, shortDatePattern)->date) + at;
+  }
+}
+
+std::vector<std::string> HourChoices(ClockStyle style) {
+  std::vector<std::string> hours;
+  const bool twelve = style == ClockStyle::Hours12;
+  for (int hour = twelve ? 1 : 0; hour <= (twelve ? kHalfDay : 23); ++hour)
+    hours.push_back(std::to_string(hour));
+  return hours;
+}
+
+std::vector<std::string> MinuteChoices() {
+  std::vector<std::string> minutes;
+  for (int minute = 0; minute < 60; ++minute)
+    minutes.push_back((minute < 10 ? "0" : "") + std::to_string(minute));
+  return minutes;
+}
+
+TimeChoice ChoiceOf(const TimeOfDay& time, ClockStyle style) {
+  if (style == ClockStyle::Hours24) return {time.hour, time.minute, 0};
+  return {(time.hour + kHalfDay - 1) % kHalfDay, time.minute, time.hour >= kHalfDay ? 0 : 1};
+}
+
+TimeOfDay TimeOfChoice(const TimeChoice& choice, ClockStyle style) {
+  if (style == ClockStyle::Hours24) return {choice.hour, choice.minute, 0};
+  return {(choice.hour + 1) % kHalfDay + (choice.half == 0 ? kHalfDay : 0), choice.minute, 0};
+}
+
+}  // namespace sonaro
