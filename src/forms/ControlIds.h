@@ -98,8 +98,57 @@ inline constexpr int picMark = 2125;
 // frmNewFavorite, frmRenameFav, dialogs of personal stations and extra links: 2201 to 2299.
 
 // frmNotify, frmschedtime, frmAboutEventTime: 2301 to 2399.
+inline constexpr int lblEventName = 2301;
+inline constexpr int lblNoticeInfo = 2302;
+inline constexpr int lblNote = 2303;
+inline constexpr int txtMissed = 2304;
+inline constexpr int butPlay1It = 2305;
+inline constexpr int butPlay2It = 2306;
+inline constexpr int butPlay3It = 2307;
+inline constexpr int butGoWebSiteIt = 2308;
+inline constexpr int butCloselIt = 2309;
+inline constexpr int Timer1 = 2310;
+inline constexpr int lblCloseIt = 2311;
+inline constexpr int lblTimeInfo1 = 2321;
+inline constexpr int lblTimeInfo2 = 2322;
+inline constexpr int lblTimeInfo3 = 2323;
+inline constexpr int lblTimeInfo4 = 2324;
+inline constexpr int lblTimeInfo5 = 2325;
+inline constexpr int lblName = 2326;
+inline constexpr int lblChange = 2327;
+inline constexpr int lblChangeIt = 2328;
 
 // frmSched, frmSchedChange, frmSelectStation, frmDateFinder: 2401 to 2599.
+inline constexpr int lstSched = 2401;
+inline constexpr int lstShows = 2402;
+inline constexpr int butAddIt = 2403;
+inline constexpr int butChangeIt = 2404;
+inline constexpr int butDeleteIt = 2405;
+inline constexpr int butAboutTimeIt = 2406;
+inline constexpr int butExportIt = 2407;
+inline constexpr int lblStationToSched = 2421;
+inline constexpr int butSchedIt = 2422;
+inline constexpr int cmdHowOften = 2423;  // 3 numbers: Once, Daily, Weekly
+inline constexpr int cmbTimeHour = 2426;
+inline constexpr int cmbTimeMinute = 2427;
+inline constexpr int cmbTimeAMPM = 2428;
+inline constexpr int cmbThreeDay = 2429;
+inline constexpr int txtOneDate = 2430;
+inline constexpr int butPickDateIt = 2431;
+inline constexpr int chkDay = 2432;  // 7 numbers: Monday to Sunday
+inline constexpr int txtNote = 2439;
+inline constexpr int chkWebSite = 2440;
+inline constexpr int lblSummary = 2441;
+inline constexpr int lblNextTime = 2442;
+inline constexpr int cmbSelectGroup = 2461;
+inline constexpr int txtFind = 2462;
+inline constexpr int butSearchIt = 2463;
+inline constexpr int lstResult = 2464;
+inline constexpr int calDates = 2481;
+inline constexpr int lblWeekday = 2482;
+inline constexpr int lblDay = 2483;
+inline constexpr int lblMonthYear = 2484;
+inline constexpr int butToday = 2485;
 
 // frmInetUpdate, frmTestProxy: 2601 to 2699.
 

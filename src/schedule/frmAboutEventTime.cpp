@@ -1,0 +1,73 @@
+#include "schedule/frmAboutEventTime.h"
+
+#include "app/HelpPages.h"
+#include "app/Strings.h"
+#include "forms/ControlIds.h"
+#include "platform/Clock.h"
+#include "platform/Shell.h"
+#include "resources/ids.h"
+#include "schedule/TimeZone.h"
+
+namespace sonaro {
+
+namespace {
+
+constexpr const char* kTimeSettings = "rundll32.exe shell32.dll,Control_RunDLL timedate.cpl";
+
+}  // namespace
+
+const FormDesign& frmAboutEventTime::Design() {
+  static constexpr ControlRow kControls[] = {
+      {.id = lblTitle, .kind = Kind::TitleBar, .text = IDS_SCHED_TIME_TITLE, .at = {14, 4, 182, 26}},
+      {.id = lblName, .kind = Kind::Label, .text = IDS_SCHED_TIME_NAME, .at = {14, 44, 392, 20},
+       .type = Type::BodyStrong},
+      {.id = lblTimeInfo1, .kind = Kind::Label, .text = IDS_SCHED_TIME_INFO1, .at = {14, 64, 392, 38}, .flags = kWrap},
+      {.kind = Kind::Glass, .at = {14, 106, 392, 92}, .cut = 10},
+      {.id = lblTimeInfo2, .kind = Kind::Label, .text = IDS_SCHED_TIME_INFO2, .at = {28, 110, 364, 20},
+       .flags = kOnGlass, .ink = Ink::GlassMuted},
+      {.id = lblTimeInfo3, .kind = Kind::StateLabel, .at = {28, 130, 364, 20}, .flags = kOnGlass},
+      {.id = lblTimeInfo4, .kind = Kind::StateLabel, .at = {28, 150, 364, 20}, .flags = kOnGlass,
+       .type = Type::BodyStrong, .ink = Ink::TabText},
+      {.id = lblTimeInfo5, .kind = Kind::StateLabel, .at = {28, 170, 364, 20}, .flags = kOnGlass | kNoPrefix},
+      {.id = lblChange, .kind = Kind::Label, .text = IDS_SCHED_TIME_WRONG, .at = {14, 202, 130, 28}, .flags = kWrap,
+       .type = Type::Small},
+      {.id = lblChangeIt, .kind = Kind::PushKey, .text = IDS_SCHED_TIME_CHANGE, .at = {148, 202, 150, 28}},
+      {.id = lblCloseIt, .kind = Kind::PrimaryKey, .text = IDS_SCHED_OK, .at = {308, 202, 98, 28}},
+      {.id = butHelp, .kind = Kind::StripKey, .text = IDS_SCHED_NOTIFY_HELP, .at = {348, 12, 28, 22},
+       .icon = Icon::Help},
+      {.id = butCloseIt, .kind = Kind::StripKey, .text = IDS_SCHED_NOTIFY_CLOSE_TIP, .at = {380, 12, 28, 22},
+       .icon = Icon::Close},
+  };
+  static constexpr FormDesign kDesign = {.name = "frmAboutEventTime",
+                                         .caption = IDS_SCHED_TIME_TITLE,
+                                         .size = {420, 248},
+                                         .outline = "fdf01",
+                                         .controls = kControls};
+  return kDesign;
+}
+
+std::span<const EventRow> frmAboutEventTime::Events() const {
+  static const EventRow kRows[] = {
+      {lblChangeIt, Click, &frmAboutEventTime::lblChangeIt_Click},
+      {lblCloseIt, Click, &frmAboutEventTime::lblCloseIt_Click},
+      {butCloseIt, Click, &frmAboutEventTime::lblCloseIt_Click},
+      {butHelp, Click, &frmAboutEventTime::butHelp_Click},
+  };
+  return kRows;
+}
+
+void frmAboutEventTime::OnLoad() {
+  const DateTime now = clock_.LocalNow();
+  std::string zone;
+  std::string daylight;
+  GetZoneOffset(clock_, zone, daylight);
+  SetText(lblTimeInfo3, FillIn(LoadText(IDS_SCHED_TIME_DATE), {FormatLongDate(now.date)}));
+  SetText(lblTimeInfo4, FillIn(LoadText(IDS_SCHED_TIME_TIME), {FormatTimeWithSeconds(now.time)}));
+  SetText(lblTimeInfo5, FillIn(LoadText(IDS_SCHED_TIME_ZONE), {zone}));
+}
+
+void frmAboutEventTime::lblChangeIt_Click() { shell_.RunMinimised(kTimeSettings); }
+
+void frmAboutEventTime::butHelp_Click() { help_.OpenHelpPage("9003.html"); }
+
+}  // namespace sonaro

@@ -1,0 +1,75 @@
+#include "schedule/frmDateFinder.h"
+
+#include "app/HelpPages.h"
+#include "forms/ControlIds.h"
+#include "resources/ids.h"
+
+namespace sonaro {
+
+const FormDesign& frmDateFinder::Design() {
+  static constexpr ControlRow kControls[] = {
+      {.id = lblTitle, .kind = Kind::TitleBar, .text = IDS_SCHED_DATE_TITLE, .at = {14, 4, 182, 26}},
+      {.id = calDates, .kind = Kind::MonthCalendar, .text = IDS_SCHED_DATE_CALENDAR, .at = {14, 44, 226, 184}},
+      {.kind = Kind::Glass, .at = {252, 44, 154, 114}, .cut = 10},
+      {.id = lblWeekday, .kind = Kind::StateLabel, .at = {264, 54, 130, 20}, .flags = kOnGlass,
+       .ink = Ink::GlassMuted},
+      {.id = lblDay, .kind = Kind::StateLabel, .at = {264, 70, 130, 48}, .flags = kOnGlass, .type = Type::Day,
+       .ink = Ink::TabText},
+      {.id = lblMonthYear, .kind = Kind::StateLabel, .at = {264, 120, 130, 22}, .flags = kOnGlass,
+       .type = Type::BodyStrong},
+      {.id = butToday, .kind = Kind::PushKey, .text = IDS_SCHED_DATE_TODAY, .at = {252, 166, 154, 28}},
+      {.id = butOKIt, .kind = Kind::PrimaryKey, .text = IDS_SCHED_OK, .at = {252, 200, 74, 28}},
+      {.id = butCancelIt, .kind = Kind::PushKey, .text = IDS_SCHED_CANCEL, .at = {332, 200, 74, 28}},
+      {.id = butHelp, .kind = Kind::StripKey, .text = IDS_SCHED_NOTIFY_HELP, .at = {348, 12, 28, 22},
+       .icon = Icon::Help},
+      {.id = butCloseIt, .kind = Kind::StripKey, .text = IDS_SCHED_NOTIFY_CLOSE_TIP, .at = {380, 12, 28, 22},
+       .icon = Icon::Close},
+  };
+  static constexpr FormDesign kDesign = {.name = "frmDateFinder",
+                                         .caption = IDS_SCHED_DATE_TITLE,
+                                         .size = {420, 248},
+                                         .outline = "fdf01",
+                                         .controls = kControls,
+                                         .firstFocus = calDates};
+  return kDesign;
+}
+
+std::span<const EventRow> frmDateFinder::Events() const {
+  static const EventRow kRows[] = {
+      {calDates, Change, &frmDateFinder::calDates_Change},
+      {butToday, Click, &frmDateFinder::butToday_Click},
+      {butOKIt, Click, &frmDateFinder::butOKIt_Click},
+      {butCancelIt, Click, &frmDateFinder::butCancelIt_Click},
+      {butCloseIt, Click, &frmDateFinder::butCancelIt_Click},
+      {butHelp, Click, &frmDateFinder::butHelp_Click},
+  };
+  return kRows;
+}
+
+std::optional<Date> frmDateFinder::Choose(HWND owner) {
+  return ShowModal(owner) == 1 ? std::optional(chosen_) : std::nullopt;
+}
+
+void frmDateFinder::OnLoad() { Show(chosen_); }
+
+void frmDateFinder::Show(const Date& date) {
+  chosen_ = date;
+  SYSTEMTIME shown{};
+  shown.wYear = static_cast<WORD>(date.year);
+  shown.wMonth = static_cast<WORD>(date.month);
+  shown.wDay = static_cast<WORD>(date.day);
+  SetCalendarDate(calDates, shown);
+  SetText(lblWeekday, EnglishDayName(Weekday(date)));
+  SetText(lblDay, std::to_string(date.day));
+  SetText(lblMonthYear, std::string(EnglishMonthName(date.month)) + " " + std::to_string(date.year));
+}
+
+void frmDateFinder::calDates_Change() {
+  const SYSTEMTIME date = CalendarDate(calDates);
+  const Date chosen{date.wYear, date.wMonth, date.wDay};
+  if (IsValid(chosen) && chosen != chosen_) Show(chosen);
+}
+
+void frmDateFinder::butHelp_Click() { help_.OpenHelpPage("9004.html"); }
+
+}  // namespace sonaro

@@ -1,0 +1,112 @@
+#include "schedule/frmNotify.h"
+
+#include "forms/ControlIds.h"
+#include "resources/ids.h"
+
+namespace sonaro {
+
+namespace {
+
+constexpr int kPlayKeyCount = 3;
+constexpr unsigned kSoundDelay = 50;  // milliseconds: the window has been painted
+constexpr unsigned char kNoticePane = 1;
+constexpr unsigned char kMissedPane = 2;
+
+}  // namespace
+
+const FormDesign& frmNotify::Design() {
+  static constexpr ControlRow kControls[] = {
+      {.id = lblTitle, .kind = Kind::TitleBar, .text = IDS_SCHED_NOTIFY_TITLE, .at = {14, 4, 156, 26}},
+      {.kind = Kind::Glass, .at = {14, 46, 412, 94}, .cut = 12},
+      {.kind = Kind::Label, .at = {34, 56, 24, 24}, .icon = Icon::Bell, .flags = kOnGlass, .ink = Ink::Accent},
+      {.id = lblNoticeInfo, .kind = Kind::StateLabel, .at = {70, 52, 344, 22}, .flags = kOnGlass | kNoPrefix,
+       .ink = Ink::GlassMuted},
+      {.id = lblEventName, .kind = Kind::StateLabel, .at = {70, 72, 344, 30}, .flags = kOnGlass | kNoPrefix,
+       .type = Type::Heading, .pane = kNoticePane},
+      {.id = lblNote, .kind = Kind::StateLabel, .at = {70, 104, 344, 34}, .flags = kOnGlass | kNoPrefix | kWrap,
+       .pane = kNoticePane},
+      {.id = txtMissed, .kind = Kind::ReadOnlyText, .at = {70, 74, 344, 62}, .flags = kOnGlass | kTabStop,
+       .pane = kMissedPane},
+      {.id = butPlay1It, .kind = Kind::PlayKey, .at = {14, 150, 134, 40}, .flags = kHidden | kNoPrefix},
+      {.id = butPlay2It, .kind = Kind::PlayKey, .at = {153, 150, 134, 40},
+       .flags = kHidden | kNoPrefix | kSecondary},
+      {.id = butPlay3It, .kind = Kind::PlayKey, .at = {292, 150, 134, 40},
+       .flags = kHidden | kNoPrefix | kSecondary},
+      {.id = butGoWebSiteIt, .kind = Kind::PushKey, .text = IDS_SCHED_NOTIFY_WEB, .at = {40, 206, 150, 30},
+       .icon = Icon::Web, .flags = kHidden},
+      {.id = butCloselIt, .kind = Kind::PushKey, .text = IDS_SCHED_NOTIFY_CLOSE, .at = {330, 206, 96, 30}},
+      {.id = butHelp, .kind = Kind::StripKey, .text = IDS_SCHED_NOTIFY_HELP, .at = {352, 12, 26, 22},
+       .icon = Icon::Help},
+      {.id = butCloseIt, .kind = Kind::StripKey, .text = IDS_SCHED_NOTIFY_CLOSE_TIP, .at = {384, 12, 26, 22},
+       .icon = Icon::Close},
+  };
+  static constexpr FormDesign kDesign = {.name = "frmNotify",
+                                         .caption = IDS_SCHED_NOTIFY_TITLE,
+                                         .size = {440, 254},
+                                         .outline = "ntf44",
+                                         .controls = kControls};
+  return kDesign;
+}
+
+std::span<const EventRow> frmNotify::Events() const {
+  static const EventRow kRows[] = {
+      {butPlay1It, Click, &frmNotify::butPlay_Click, kPlayKeyCount},
+      {butGoWebSiteIt, Click, &frmNotify::butGoWebSiteIt_Click},
+      {butCloselIt, Click, &frmNotify::butCloselIt_Click},
+      {butCloseIt, Click, &frmNotify::butCloselIt_Click},
+      {butHelp, Click, &frmNotify::butHelp_Click},
+  };
+  return kRows;
+}
+
+std::span<const TimerRow> frmNotify::Timers() const {
+  static const TimerRow kRows[] = {{Timer1, &frmNotify::Timer1_Timer}};
+  return kRows;
+}
+
+frmNotify::frmNotify(FormContext& context, const NotifyActions& actions, Notification notification)
+    : Form(context, Design()), actions_(actions), notification_(std::move(notification)) {}
+
+frmNotify::frmNotify(FormContext& context, const NotifyActions& actions, std::vector<std::string> missed)
+    : Form(context, Design()), actions_(actions), missed_(std::move(missed)) {}
+
+void frmNotify::OnLoad() {
+  const bool away = !missed_.empty();
+  ShowPane(kNoticePane, !away);
+  ShowPane(kMissedPane, away);
+  if (away) {
+    SetText(lblTitle, LoadText(IDS_SCHED_AWAY_TITLE));
+    SetText(lblNoticeInfo, LoadText(IDS_SCHED_AWAY_TEXT));
+    std::string lines;
+    for (const std::string& line : missed_) lines += (lines.empty() ? "" : "\r\n") + line;
+    SetText(txtMissed, lines);
+  } else {
+    SetText(lblNoticeInfo, notification_.notice);
+    SetText(lblEventName, notification_.eventName);
+    SetText(lblNote, notification_.note);
+    ShowPlayKeys();
+  }
+  StartTimer(Timer1, kSoundDelay);
+}
+
+void frmNotify::ShowPlayKeys() {
+  for (std::size_t i = 0; i < notification_.plays.size(); ++i) {
+    const int id = butPlay1It + static_cast<int>(i);
+    SetText(id, notification_.plays[i].caption);
+    SetDetail(id, notification_.plays[i].detail);
+    ShowControl(id);
+  }
+  ShowControl(butGoWebSiteIt, !notification_.webSite.empty());
+}
+
+void frmNotify::butPlay_Click(int index) {
+  const auto choice = static_cast<std::size_t>(index);
+  if (choice < notification_.plays.size()) actions_.play(notification_.plays[choice]);
+}
+
+void frmNotify::Timer1_Timer() {
+  StopTimer(Timer1);
+  actions_.playSound();
+}
+
+}  // namespace sonaro

@@ -1,0 +1,45 @@
+// The notification: what comes on, with keys to play it or to open its web site. Opens in the lower right of the
+// screen without taking the focus from what the user types in. One window for each notice; frmNotifyStack owns
+// and places them.
+#pragma once
+
+#include <functional>
+
+#include "forms/Form.h"
+#include "schedule/Notification.h"
+
+namespace sonaro {
+
+// What a notification asks of the program.
+struct NotifyActions {
+  std::function<void(const PlayChoice& choice)> play;
+  std::function<void(const std::string& address)> openPage;
+  std::function<void()> playSound;  // once, when the window has appeared
+  std::function<void()> help;
+};
+
+class frmNotify final : public Form {
+ public:
+  frmNotify(FormContext& context, const NotifyActions& actions, Notification notification);
+  // The notice of what was missed: one line for each.
+  frmNotify(FormContext& context, const NotifyActions& actions, std::vector<std::string> missed);
+
+ private:
+  static const FormDesign& Design();
+  std::span<const EventRow> Events() const override;
+  std::span<const TimerRow> Timers() const override;
+  void OnLoad() override;
+  void ShowPlayKeys();
+
+  void butPlay_Click(int index);
+  void butGoWebSiteIt_Click() { actions_.openPage(notification_.webSite); }
+  void butCloselIt_Click() { Close(); }
+  void butHelp_Click() { actions_.help(); }
+  void Timer1_Timer();
+
+  const NotifyActions& actions_;
+  Notification notification_;
+  std::vector<std::string> missed_;
+};
+
+}  // namespace sonaro

@@ -1,0 +1,51 @@
+#include "schedule/frmschedtime.h"
+
+#include "forms/ControlIds.h"
+
+namespace sonaro {
+
+namespace {
+
+constexpr unsigned kFirstTick = 1000;  // milliseconds until the command of whoever loaded the window is read
+
+}  // namespace
+
+const FormDesign& frmschedtime::Design() {
+  static constexpr ControlRow kControls[] = {{.id = lblCloseIt, .kind = Kind::Label, .at = {14, 48, 100, 20}}};
+  static constexpr FormDesign kDesign = {
+      .name = "frmschedtime", .caption = "frmschedtime", .size = {200, 100}, .controls = kControls};
+  return kDesign;
+}
+
+frmschedtime::frmschedtime(FormContext& context, std::function<void()> tick)
+    : Form(context, Design()), tick_(std::move(tick)) {}
+
+std::span<const TimerRow> frmschedtime::Timers() const {
+  static const TimerRow kRows[] = {{Timer1, &frmschedtime::Timer1_Timer}};
+  return kRows;
+}
+
+void frmschedtime::OnLoad() { StartTimer(Timer1, kFirstTick); }
+
+bool ScheduleTimerWindow::IsLoaded() { return form_ && form_->IsOpen(); }
+
+void ScheduleTimerWindow::Load() {
+  form_ = std::make_unique<frmschedtime>(context_, tick_);
+  form_->Create();
+}
+
+void ScheduleTimerWindow::SetCloseItCaption(const char* caption) {
+  if (form_) form_->SetText(lblCloseIt, caption);
+}
+
+void ScheduleTimerWindow::RestartTimer(unsigned milliseconds) {
+  if (!form_) return;
+  form_->StopTimer(Timer1);
+  form_->StartTimer(Timer1, milliseconds);
+}
+
+void ScheduleTimerWindow::Unload() {
+  if (form_) form_->Close();
+}
+
+}  // namespace sonaro
