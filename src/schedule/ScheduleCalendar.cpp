@@ -48,19 +48,25 @@ void ScheduleCalendar::Refresh() {
   generation_ = store_.Generation();
   entries_.clear();
   for (std::size_t slot = 0; slot < store_.SlotCount(); ++slot) {
-    const ScheduleItem& item = store_.Item(slot);
-    const std::optional<TimeOfDay> time = item.Free() ? std::nullopt : ParseTime(item.time);
-    if (!time) continue;
-    Entry entry{slot, KindOf(item.kind), *time, {}, {}, {}};
-    if (entry.kind == ScheduleKind::Once) {
-      const std::optional<DateTime> date = ParseDate(item.date, shortDatePattern_);
-      if (!date) continue;
-      entry.date = date->date;
+    if (std::optional<Entry> entry = Read(slot, store_.Item(slot), shortDatePattern_)) {
+      entries_.push_back(std::move(*entry));
     }
-    if (entry.kind == ScheduleKind::Daily) entry.days = DaysOf(item.kind);
-    if (entry.kind == ScheduleKind::Weekly) entry.weekday = DayNamed(item.weekday);
-    entries_.push_back(std::move(entry));
   }
+}
+
+std::optional<ScheduleCalendar::Entry> ScheduleCalendar::Read(std::size_t slot, const ScheduleItem& item,
+                                                              std::string_view shortDatePattern) {
+  const std::optional<TimeOfDay> time = item.Free() ? std::nullopt : ParseTime(item.time);
+  if (!time) return std::nullopt;
+  Entry entry{slot, KindOf(item.kind), *time, {}, {}, {}};
+  if (entry.kind == ScheduleKind::Once) {
+    const std::optional<DateTime> date = ParseDate(item.date, shortDatePattern);
+    if (!date) return std::nullopt;
+    entry.date = date->date;
+  }
+  if (entry.kind == ScheduleKind::Daily) entry.days = DaysOf(item.kind);
+  if (entry.kind == ScheduleKind::Weekly) entry.weekday = DayNamed(item.weekday);
+  return entry;
 }
 
 bool ScheduleCalendar::DueOn(const Entry& entry, const Date& day) {
@@ -110,15 +116,24 @@ std::optional<TimeOfDay> ScheduleCalendar::TimeOf(std::size_t slot) {
 
 std::optional<DateTime> ScheduleCalendar::Next(std::size_t slot, const DateTime& now) {
   const Entry* entry = Find(slot);
-  if (!entry) return std::nullopt;
-  if (entry->kind == ScheduleKind::Once) {
-    const DateTime at{entry->date, entry->time};
+  return entry ? NextOfEntry(*entry, now) : std::nullopt;
+}
+
+std::optional<DateTime> ScheduleCalendar::NextOf(const ScheduleItem& item, const DateTime& now,
+                                                 std::string_view shortDatePattern) {
+  const std::optional<Entry> entry = Read(0, item, shortDatePattern);
+  return entry ? NextOfEntry(*entry, now) : std::nullopt;
+}
+
+std::optional<DateTime> ScheduleCalendar::NextOfEntry(const Entry& entry, const DateTime& now) {
+  if (entry.kind == ScheduleKind::Once) {
+    const DateTime at{entry.date, entry.time};
     return at > now ? std::optional(at) : std::nullopt;
   }
   Date day = now.date;
   for (int ahead = 0; ahead <= kDaysInWeek; ++ahead, day = DayAfter(day)) {
-    const DateTime at{day, entry->time};
-    if (at > now && DueOn(*entry, day)) return at;
+    const DateTime at{day, entry.time};
+    if (at > now && DueOn(entry, day)) return at;
   }
   return std::nullopt;
 }

@@ -7,6 +7,7 @@
 #include <cstdint>
 #include <optional>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "base/Dates.h"
@@ -37,6 +38,10 @@ class ScheduleCalendar {
   // date that has passed.
   std::optional<DateTime> Next(std::size_t slot, const DateTime& now);
 
+  // The same for an item that is in no table yet.
+  static std::optional<DateTime> NextOf(const ScheduleItem& item, const DateTime& now,
+                                        std::string_view shortDatePattern);
+
   // Everything that comes on after `from` and not after `to`, in order of time, then of slot.
   std::vector<Occurrence> Between(const DateTime& from, const DateTime& to);
 
@@ -51,6 +56,9 @@ class ScheduleCalendar {
   };
 
   void Refresh();
+  static std::optional<Entry> Read(std::size_t slot, const ScheduleItem& item,
+                                   std::string_view shortDatePattern);
+  static std::optional<DateTime> NextOfEntry(const Entry& entry, const DateTime& now);
   static bool DueOn(const Entry& entry, const Date& day);
   static bool DueAfterMidnight(const Entry& entry, const Date& today);
   const Entry* Find(std::size_t slot);

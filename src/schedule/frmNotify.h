@@ -1,6 +1,6 @@
-// The notification: what comes on, with keys to play it or to open its web site. Opens in the lower right of the
-// screen without taking the focus from what the user types in. One window for each notice; frmNotifyStack owns
-// and places them.
+// The notification: what comes on, with keys to play it or to open its web site. Opens in the lower right of
+// the screen without taking the focus from what the user types in. One window for each notice; frmNotifyStack
+// owns and places them.
 #pragma once
 
 #include <functional>

@@ -8,14 +8,16 @@ namespace {
 
 constexpr int kGap = 12;
 
-// The top-left corner of place `number`: upwards from the lower right corner, then column by column to the left.
+// The top-left corner of place `number`: upwards from the lower right corner, then column by column to the
+// left.
 POINT CornerOf(std::size_t number, const RECT& area, const RECT& window) {
   const int width = window.right - window.left + kGap;
   const int height = window.bottom - window.top + kGap;
   const int inColumn = std::max(1, static_cast<int>(area.bottom - area.top - kGap) / height);
   const int column = static_cast<int>(number) / inColumn;
   const int row = static_cast<int>(number) % inColumn;
-  return {std::max(area.left, area.right - (column + 1) * width), std::max(area.top, area.bottom - (row + 1) * height)};
+  return {std::max(area.left, area.right - (column + 1) * width),
+          std::max(area.top, area.bottom - (row + 1) * height)};
 }
 
 }  // namespace
@@ -29,7 +31,8 @@ void frmNotifyStack::ShowMissed(std::vector<std::string> missed) {
 }
 
 void frmNotifyStack::Put(std::unique_ptr<frmNotify> window) {
-  auto place = std::find_if(windows_.begin(), windows_.end(), [](const auto& shown) { return !shown->IsOpen(); });
+  auto place =
+      std::find_if(windows_.begin(), windows_.end(), [](const auto& shown) { return !shown->IsOpen(); });
   if (place == windows_.end()) place = windows_.insert(place, nullptr);
   *place = std::move(window);
   frmNotify& shown = **place;

@@ -1,4 +1,5 @@
-// The notification windows that are open, one above the other in the corner of the screen. Owned by Application.
+// The notification windows that are open, one above the other in the corner of the screen. Owned by
+// Application.
 #pragma once
 
 #include <memory>
@@ -10,7 +11,8 @@ namespace sonaro {
 
 class frmNotifyStack {
  public:
-  frmNotifyStack(FormContext& context, NotifyActions actions) : context_(context), actions_(std::move(actions)) {}
+  frmNotifyStack(FormContext& context, NotifyActions actions)
+      : context_(context), actions_(std::move(actions)) {}
 
   void ShowNotification(Notification notification);
   void ShowMissed(std::vector<std::string> missed);

@@ -11,7 +11,8 @@ constexpr unsigned kFirstTick = 1000;  // milliseconds until the command of whoe
 }  // namespace
 
 const FormDesign& frmschedtime::Design() {
-  static constexpr ControlRow kControls[] = {{.id = lblCloseIt, .kind = Kind::Label, .at = {14, 48, 100, 20}}};
+  static constexpr ControlRow kControls[] = {
+      {.id = lblCloseIt, .kind = Kind::Label, .at = {14, 48, 100, 20}}};
   static constexpr FormDesign kDesign = {
       .name = "frmschedtime", .caption = "frmschedtime", .size = {200, 100}, .controls = kControls};
   return kDesign;

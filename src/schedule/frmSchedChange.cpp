@@ -1,0 +1,172 @@
+#include "schedule/frmSchedChange.h"
+
+#include "app/HelpPages.h"
+#include "app/Message.h"
+#include "app/Strings.h"
+#include "forms/ControlIds.h"
+#include "platform/Clock.h"
+#include "resources/ids.h"
+#include "schedule/ScheduleCalendar.h"
+#include "schedule/ScheduleStore.h"
+#include "schedule/ScheduleTexts.h"
+#include "schedule/frmDateFinder.h"
+#include "schedule/frmSelectStation.h"
+
+namespace sonaro {
+
+namespace {
+
+constexpr ScheduleKind kKinds[] = {ScheduleKind::Once, ScheduleKind::Daily, ScheduleKind::Weekly};
+constexpr int kKindCount = 3;
+constexpr int kDays = 7;
+constexpr int kNoteBytes = 4000;
+
+int IndexOf(ScheduleKind kind) {
+  for (int i = 0; i < kKindCount; ++i) {
+    if (kKinds[i] == kind) return i;
+  }
+  return -1;
+}
+
+}  // namespace
+
+frmSchedChange::frmSchedChange(FormContext& context, ScheduleServices& services, ScheduleDraft draft,
+                               std::optional<std::size_t> slot)
+    : Form(context, Design()),
+      context_(context),
+      services_(services),
+      draft_(std::move(draft)),
+      slot_(slot) {}
+
+void frmSchedChange::OnLoad() {
+  LimitText(txtNote, kNoteBytes);
+  FillChoices();
+  SetText(lblStationToSched, draft_.StationShown());
+  SetText(txtOneDate, draft_.dateText);
+  SetText(txtNote, draft_.note);
+  Check(chkWebSite, draft_.openWebSite);
+  for (int day = 0; day < kDays; ++day) SetToggle(chkDay + day, draft_.days[static_cast<std::size_t>(day)]);
+  ShowKind();
+}
+
+void frmSchedChange::FillChoices() {
+  for (const std::string& hour : HourChoices(services_.clockStyle)) AddItem(cmbTimeHour, hour);
+  for (const std::string& minute : MinuteChoices()) AddItem(cmbTimeMinute, minute);
+  AddItem(cmbTimeAMPM, "PM");
+  AddItem(cmbTimeAMPM, "AM");
+  for (int day = 0; day < kDays; ++day) AddItem(cmbThreeDay, EnglishDayName(day));
+  const TimeChoice choice = ChoiceOf(draft_.time, services_.clockStyle);
+  SelectItem(cmbTimeHour, choice.hour);
+  SelectItem(cmbTimeMinute, choice.minute);
+  SelectItem(cmbTimeAMPM, choice.half);
+  ShowControl(cmbTimeAMPM, services_.clockStyle == ClockStyle::Hours12);
+  SelectItem(cmbThreeDay, draft_.weekday);
+}
+
+void frmSchedChange::ShowKind() {
+  const int shown = IndexOf(draft_.kind);
+  SetToggleOnly(cmdHowOften, kKindCount, shown);
+  for (int kind = 0; kind < kKindCount; ++kind) ShowPane(kind + 1, kind == shown);
+  ShowSummary();
+}
+
+void frmSchedChange::ShowSummary() {
+  SetText(lblSummary, draft_.Summary(services_.clockStyle, services_.shortDatePattern));
+  std::string next;
+  if (draft_.Fault(services_.shortDatePattern) == DraftFault::None) {
+    const DateTime now = services_.clock.LocalNow();
+    const ScheduleItem item = draft_.ToItem(services_.clockStyle, services_.shortDatePattern);
+    if (const auto at = ScheduleCalendar::NextOf(item, now, services_.shortDatePattern)) {
+      next = FillIn(LoadText(IDS_SCHED_CHANGE_NEXT), {NextShown(*at, now, services_.clockStyle)});
+    }
+  }
+  SetText(lblNextTime, next);
+}
+
+void frmSchedChange::ReadControls() {
+  draft_.time =
+      TimeOfChoice({SelectedItem(cmbTimeHour), SelectedItem(cmbTimeMinute), SelectedItem(cmbTimeAMPM)},
+                   services_.clockStyle);
+  draft_.weekday = SelectedItem(cmbThreeDay);
+  draft_.dateText = Text(txtOneDate);
+  draft_.note = Text(txtNote);
+  draft_.openWebSite = IsChecked(chkWebSite);
+  for (int day = 0; day < kDays; ++day) draft_.days[static_cast<std::size_t>(day)] = IsToggled(chkDay + day);
+}
+
+void frmSchedChange::cmdHowOften_Click(int index) {
+  ReadControls();
+  draft_.kind = kKinds[index];
+  ShowKind();
+}
+
+void frmSchedChange::chkDay_Click(int day) {
+  SetToggle(chkDay + day, !IsToggled(chkDay + day));
+  Any_Change();
+}
+
+void frmSchedChange::Any_Change() {
+  ReadControls();
+  ShowSummary();
+}
+
+void frmSchedChange::butSchedIt_Click() {
+  frmSelectStation picker(context_, services_.stations, services_.help);
+  const std::optional<PickRow> picked = picker.Choose(Window());
+  if (!picked) return;
+  draft_.name = {picked->name, {}, {}};
+  draft_.stationKey = picked->key;
+  SetText(lblStationToSched, draft_.StationShown());
+  ShowSummary();
+}
+
+void frmSchedChange::butPickDateIt_Click() {
+  const Date today = services_.clock.LocalNow().date;
+  const auto typed = ParseDate(Text(txtOneDate), services_.shortDatePattern);
+  frmDateFinder finder(context_, services_.help, today, typed ? typed->date : today);
+  if (const std::optional<Date> date = finder.Choose(Window())) SetText(txtOneDate, FormatLongDate(*date));
+  Any_Change();
+}
+
+bool frmSchedChange::Complain(DraftFault fault) {
+  struct Complaint {
+    DraftFault fault;
+    const char* key;
+    int text;
+    int control;
+  };
+  static constexpr Complaint kComplaints[] = {
+      {DraftFault::NoStation, "ScheduleStationYourNeedToSelectAStation", IDS_SCHED_NEED_STATION, butSchedIt},
+      {DraftFault::NoDate, "ScheduleStationYourNeedToSelectADate", IDS_SCHED_NEED_DATE, txtOneDate},
+      {DraftFault::NoDay, "ScheduleStationYourNeedToSelectADay", IDS_SCHED_NEED_DAY, chkDay},
+  };
+  for (const Complaint& complaint : kComplaints) {
+    if (complaint.fault != fault) continue;
+    services_.messages.Ask({.key = complaint.key,
+                            .caption = LoadText(IDS_SCHED_CHANGE_MESSAGE_CAPTION),
+                            .text = LoadText(complaint.text),
+                            .firstButton = LoadText(IDS_SCHED_OK)});
+    Focus(complaint.control);
+    return true;
+  }
+  return false;
+}
+
+void frmSchedChange::butOKIt_Click() {
+  ReadControls();
+  if (Complain(draft_.Fault(services_.shortDatePattern))) return;
+  services_.store.SetItem(slot_ ? *slot_ : services_.store.FirstFreeSlot(),
+                          draft_.ToItem(services_.clockStyle, services_.shortDatePattern));
+  if (!services_.store.SaveSchedule()) {
+    services_.messages.Ask({.key = "ScheduleNotSaved",
+                            .caption = LoadText(IDS_SCHED_CHANGE_MESSAGE_CAPTION),
+                            .text = LoadText(IDS_SCHED_NOT_SAVED),
+                            .firstButton = LoadText(IDS_SCHED_OK)});
+  }
+  services_.changed();
+  Close(1);
+}
+
+void frmSchedChange::butHelp_Click() { services_.help.OpenHelpPage("9020.html"); }
+
+}  // namespace sonaro

@@ -1,0 +1,45 @@
+// Adds or changes one schedule item. ScheduleDraft holds what is being edited and decides what is missing; a
+// complete item is written into its slot and the table saved before the dialog closes.
+#pragma once
+
+#include <optional>
+
+#include "forms/Form.h"
+#include "schedule/ScheduleDraft.h"
+#include "schedule/ScheduleServices.h"
+
+namespace sonaro {
+
+class frmSchedChange final : public Form {
+ public:
+  // `slot`: the item's own when it is modified, nothing for a new one.
+  frmSchedChange(FormContext& context, ScheduleServices& services, ScheduleDraft draft,
+                 std::optional<std::size_t> slot = std::nullopt);
+
+ private:
+  static const FormDesign& Design();
+  std::span<const EventRow> Events() const override;
+  void OnLoad() override;
+
+  void FillChoices();
+  void ShowKind();
+  void ShowSummary();
+  void ReadControls();
+  bool Complain(DraftFault fault);
+
+  void cmdHowOften_Click(int index);
+  void chkDay_Click(int day);
+  void Any_Change();
+  void butSchedIt_Click();
+  void butPickDateIt_Click();
+  void butOKIt_Click();
+  void butCancelIt_Click() { Close(); }
+  void butHelp_Click();
+
+  FormContext& context_;
+  ScheduleServices& services_;
+  ScheduleDraft draft_;
+  std::optional<std::size_t> slot_;
+};
+
+}  // namespace sonaro
