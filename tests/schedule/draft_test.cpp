@@ -32,7 +32,7 @@ TEST(Draft, EveryTimeOfDayGoesThroughTheBoxesAndBack) {
       draft.name.name = "x";
       draft.kind = ScheduleKind::Daily;
       draft.time = time;
-      const std::string& label = HourChoices(style)[static_cast<std::size_t>(choice.hour)];
+      const std::string label = HourChoices(style)[static_cast<std::size_t>(choice.hour)];
       const std::string half = style == ClockStyle::Hours24 ? "" : choice.half == 0 ? " PM" : " AM";
       EXPECT_EQ(draft.ToItem(style, "").time, label + ":" + MinuteChoices()[7] + half);
     }

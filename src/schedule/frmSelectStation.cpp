@@ -1,0 +1,112 @@
+#include "schedule/frmSelectStation.h"
+
+#include "app/HelpPages.h"
+#include "base/Text.h"
+#include "forms/ControlIds.h"
+#include "resources/ids.h"
+
+namespace sonaro {
+
+const FormDesign& frmSelectStation::Design() {
+  static constexpr ControlRow kControls[] = {
+      {.id = lblTitle, .kind = Kind::TitleBar, .text = IDS_SCHED_PICK_TITLE, .at = {14, 4, 222, 26}},
+      {.kind = Kind::Label, .text = IDS_SCHED_PICK_FROM, .at = {14, 48, 100, 28}, .type = Type::BodyStrong,
+       .ink = Ink::Muted},
+      {.id = cmbSelectGroup, .kind = Kind::Combo, .text = IDS_SCHED_PICK_FROM, .at = {120, 48, 312, 28}},
+      {.kind = Kind::Label, .text = IDS_SCHED_PICK_NAME_HAS, .at = {14, 84, 100, 28}, .type = Type::BodyStrong,
+       .ink = Ink::Muted},
+      {.id = txtFind, .kind = Kind::ComboEdit, .text = IDS_SCHED_PICK_NAME_HAS, .at = {120, 84, 312, 28}},
+      {.id = butSearchIt, .kind = Kind::PushKey, .text = IDS_SCHED_PICK_FIND, .at = {440, 84, 106, 28},
+       .icon = Icon::Search},
+      {.id = butSplit1, .kind = Kind::HeaderKey, .text = IDS_SCHED_COLUMN_NAME, .at = {14, 124, 250, 24},
+       .flags = kNoTabStop},
+      {.id = butSplit2, .kind = Kind::HeaderKey, .text = IDS_SCHED_COLUMN_LOCATION, .at = {264, 124, 170, 24},
+       .flags = kNoTabStop},
+      {.id = butSplit3, .kind = Kind::HeaderKey, .text = IDS_SCHED_COLUMN_MEDIA, .at = {434, 124, 112, 24},
+       .flags = kNoTabStop},
+      {.id = lstResult, .kind = Kind::ListView, .text = IDS_SCHED_PICK_TITLE, .at = {14, 148, 532, 220}},
+      {.id = butOKIt, .kind = Kind::PrimaryKey, .text = IDS_SCHED_OK, .at = {346, 382, 96, 30}, .flags = kDisabled},
+      {.id = butCancelIt, .kind = Kind::PushKey, .text = IDS_SCHED_CANCEL, .at = {450, 382, 96, 30}},
+      {.id = butHelp, .kind = Kind::StripKey, .text = IDS_SCHED_NOTIFY_HELP, .at = {488, 12, 28, 22},
+       .icon = Icon::Help},
+      {.id = butCloseIt, .kind = Kind::StripKey, .text = IDS_SCHED_NOTIFY_CLOSE_TIP, .at = {520, 12, 28, 22},
+       .icon = Icon::Close},
+  };
+  static constexpr FormDesign kDesign = {.name = "frmSelectStation",
+                                         .caption = IDS_SCHED_PICK_TITLE,
+                                         .size = {560, 430},
+                                         .outline = "ddf44",
+                                         .controls = kControls,
+                                         .firstFocus = cmbSelectGroup};
+  return kDesign;
+}
+
+std::span<const EventRow> frmSelectStation::Events() const {
+  static const EventRow kRows[] = {
+      {cmbSelectGroup, SelChange, &frmSelectStation::cmbSelectGroup_Change},
+      {txtFind, EnterPressed, &frmSelectStation::butSearchIt_Click},
+      {butSearchIt, Click, &frmSelectStation::butSearchIt_Click},
+      {lstResult, ItemSelected, &frmSelectStation::lstResult_ItemClick},
+      {lstResult, ItemActivated, &frmSelectStation::lstResult_ItemActivate},
+      {butOKIt, Click, &frmSelectStation::butOKIt_Click},
+      {butCancelIt, Click, &frmSelectStation::butCancelIt_Click},
+      {butCloseIt, Click, &frmSelectStation::butCancelIt_Click},
+      {butHelp, Click, &frmSelectStation::butHelp_Click},
+  };
+  return kRows;
+}
+
+std::string frmSelectStation::Rows::Cell(int row, int column) const {
+  const PickRow& shown = rows[static_cast<std::size_t>(row)];
+  return column == 0 ? shown.name : column == 1 ? shown.location : shown.mediaType;
+}
+
+std::optional<PickRow> frmSelectStation::Choose(HWND owner) {
+  return ShowModal(owner) == 1 ? chosen_ : std::nullopt;
+}
+
+void frmSelectStation::OnLoad() {
+  List(lstResult).SetColumns({{LoadText(IDS_SCHED_COLUMN_NAME), 249},
+                              {LoadText(IDS_SCHED_COLUMN_LOCATION), 170},
+                              {LoadText(IDS_SCHED_COLUMN_MEDIA), 112}});
+  List(lstResult).SetEmptyText(LoadText(IDS_SCHED_PICK_EMPTY), LoadText(IDS_SCHED_PICK_EMPTY_HELP));
+  List(lstResult).SetModel(&rows_, true);
+  for (const std::string& source : stations_.Sources()) AddItem(cmbSelectGroup, source);
+  for (const std::string& earlier : stations_.SearchHistory()) AddItem(txtFind, earlier);
+  SelectItem(cmbSelectGroup, 0);
+  cmbSelectGroup_Change();
+}
+
+void frmSelectStation::ShowRows(std::vector<PickRow> rows) {
+  rows_.rows = std::move(rows);
+  List(lstResult).RowsChanged();
+  List(lstResult).Select(rows_.rows.empty() ? -1 : 0);
+  Enable(butOKIt, !rows_.rows.empty());
+}
+
+void frmSelectStation::cmbSelectGroup_Change() {
+  const int source = SelectedItem(cmbSelectGroup);
+  if (source >= 0) ShowRows(stations_.RowsOf(static_cast<std::size_t>(source)));
+}
+
+void frmSelectStation::butSearchIt_Click() {
+  const std::string text = Text(txtFind);
+  if (TrimBlanks(text).empty()) return;
+  ShowRows(stations_.Find(text));
+  Focus(lstResult);
+}
+
+void frmSelectStation::lstResult_ItemClick(int row) { Enable(butOKIt, row >= 0); }
+
+void frmSelectStation::lstResult_ItemActivate(int) { butOKIt_Click(); }
+
+void frmSelectStation::butOKIt_Click() {
+  const int row = List(lstResult).Selected();
+  if (row < 0) return;
+  chosen_ = rows_.rows[static_cast<std::size_t>(row)];
+  Close(1);
+}
+
+void frmSelectStation::butHelp_Click() { help_.OpenHelpPage("9042.html"); }
+
+}  // namespace sonaro
