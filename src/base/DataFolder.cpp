@@ -44,21 +44,23 @@ ReadResult DataFolder::Read(std::string_view name) {
 }
 
 bool DataFolder::Save(std::string_view name, std::string_view bytes) {
-  if (unreadable_.contains(FoldCase(name))) return false;
-  const std::string path = Path(name);
-  const std::string neighbour = path + ".new";
-  std::unique_ptr<OutputFile> file = files_.Create(neighbour);
-  bool saved = file && file->Append(bytes) && file->Commit(Durability::Flushed);
-  file.reset();
-  saved = saved && files_.Replace(neighbour, path, Durability::Flushed);
-  if (!saved) files_.Remove(neighbour);
-  return saved;
+  return !unreadable_.contains(FoldCase(name)) && SaveWholeFile(files_, Path(name), bytes);
 }
 
 bool DataFolder::Remove(std::string_view name) { return files_.Remove(Path(name)); }
 
 bool DataFolder::Replace(std::string_view from, std::string_view to) {
   return files_.Replace(Path(from), Path(to), Durability::Flushed);
+}
+
+bool SaveWholeFile(Files& files, const std::string& path, std::string_view bytes) {
+  const std::string neighbour = path + ".new";
+  std::unique_ptr<OutputFile> file = files.Create(neighbour);
+  bool saved = file && file->Append(bytes) && file->Commit(Durability::Flushed);
+  file.reset();
+  saved = saved && files.Replace(neighbour, path, Durability::Flushed);
+  if (!saved) files.Remove(neighbour);
+  return saved;
 }
 
 ReadResult ReadWholeFile(Files& files, const std::string& path) {

@@ -52,5 +52,7 @@ class DataFolder {
 
 // Reads a whole file by its path.
 ReadResult ReadWholeFile(Files& files, const std::string& path);
+// Replaces a file as a whole, as DataFolder::Save does, by its path.
+bool SaveWholeFile(Files& files, const std::string& path, std::string_view bytes);
 
 }  // namespace sonaro

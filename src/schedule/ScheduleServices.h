@@ -9,6 +9,7 @@
 namespace sonaro {
 
 class Clock;
+class Files;
 class HelpPages;
 class MessageBoxView;
 class PersonalShows;
@@ -23,6 +24,7 @@ struct ScheduleServices {
   PersonalShows& shows;
   StationPicker& stations;
   Clock& clock;
+  Files& files;
   Shell& shell;
   MessageBoxView& messages;
   HelpPages& help;

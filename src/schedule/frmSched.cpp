@@ -1,12 +1,11 @@
 #include "schedule/frmSched.h"
 
-#include <commdlg.h>
-
 #include <algorithm>
 
 #include "app/HelpPages.h"
 #include "app/Message.h"
 #include "app/Strings.h"
+#include "base/DataFolder.h"
 #include "forms/ControlIds.h"
 #include "forms/FileDialog.h"
 #include "platform/Clock.h"
@@ -22,10 +21,14 @@ namespace sonaro {
 std::string frmSched::Rows::Cell(int row, int column) const {
   const ScheduleRow& shown = rows[static_cast<std::size_t>(row)];
   switch (column) {
-    case 0: return shown.next;
-    case 1: return shown.name;
-    case 2: return shown.schedule;
-    default: return shown.action;
+    case 0:
+      return shown.next;
+    case 1:
+      return shown.name;
+    case 2:
+      return shown.schedule;
+    default:
+      return shown.action;
   }
 }
 
@@ -90,7 +93,8 @@ void frmSched::butChangeIt_Click() {
   if (slot < 0) return;
   const auto index = static_cast<std::size_t>(slot);
   frmSchedChange dialog(context_, services_,
-                        ScheduleDraft::FromItem(services_.store.Item(index), services_.shortDatePattern), index);
+                        ScheduleDraft::FromItem(services_.store.Item(index), services_.shortDatePattern),
+                        index);
   if (dialog.ShowModal(Window()) == 1) FillLists();
 }
 

@@ -1,0 +1,57 @@
+#include "forms/FileDialog.h"
+
+#include <commdlg.h>
+
+#include <algorithm>
+#include <array>
+
+#include "forms/WideText.h"
+
+namespace sonaro {
+
+namespace {
+
+using PathBuffer = std::array<wchar_t, 2048>;
+
+// The dialog wants zero-separated pairs with a further zero at the end.
+std::wstring FilterPairs(std::string_view filter) {
+  std::wstring pairs = Widen(filter) + L"||";
+  std::replace(pairs.begin(), pairs.end(), L'|', L'\0');
+  return pairs;
+}
+
+OPENFILENAMEW Dialog(HWND owner, const std::wstring& filter, PathBuffer& path) {
+  OPENFILENAMEW dialog{};
+  dialog.lStructSize = sizeof dialog;
+  dialog.hwndOwner = owner;
+  dialog.lpstrFilter = filter.c_str();
+  dialog.lpstrFile = path.data();
+  dialog.nMaxFile = static_cast<DWORD>(path.size());
+  dialog.Flags = OFN_HIDEREADONLY | OFN_NOCHANGEDIR | OFN_EXPLORER;
+  return dialog;
+}
+
+}  // namespace
+
+std::string AskOpenPath(HWND owner, std::string_view filter) {
+  const std::wstring pairs = FilterPairs(filter);
+  PathBuffer path{};
+  OPENFILENAMEW dialog = Dialog(owner, pairs, path);
+  dialog.Flags |= OFN_FILEMUSTEXIST;
+  return GetOpenFileNameW(&dialog) ? Narrow(path.data()) : "";
+}
+
+std::string AskSavePath(HWND owner, std::string_view filter, std::string_view suggested) {
+  const std::wstring pairs = FilterPairs(filter);
+  PathBuffer path{};
+  const std::wstring name = Widen(suggested);
+  name.copy(path.data(), path.size() - 1);
+  const std::size_t dot = name.rfind(L'.');
+  const std::wstring ending = dot == std::wstring::npos ? L"" : name.substr(dot + 1);
+  OPENFILENAMEW dialog = Dialog(owner, pairs, path);
+  dialog.lpstrDefExt = ending.c_str();
+  dialog.Flags |= OFN_OVERWRITEPROMPT | OFN_PATHMUSTEXIST;
+  return GetSaveFileNameW(&dialog) ? Narrow(path.data()) : "";
+}
+
+}  // namespace sonaro
