@@ -47,7 +47,7 @@ LOGFONTW FaceFor(bool strong) {
   const HDC screen = GetDC(nullptr);
   if (strong && HasFace(screen, L"Segoe UI Semibold")) {
     lstrcpynW(font.lfFaceName, L"Segoe UI Semibold", LF_FACESIZE);
-    font.lfWeight = FW_SEMIBOLD;
+    font.lfWeight = FW_DONTCARE;  // the face is semibold by itself; some systems would put a weight on top
   } else if (HasFace(screen, L"Segoe UI")) {
     lstrcpynW(font.lfFaceName, L"Segoe UI", LF_FACESIZE);
     font.lfWeight = strong ? FW_SEMIBOLD : FW_NORMAL;
