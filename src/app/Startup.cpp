@@ -62,6 +62,7 @@ bool Startup::AnotherInstanceRuns() {
 void Startup::PrepareSettings() {
   use_.reg.CheckKeyIsThere(kSettingsKey);
   EnsureInstallId(use_.reg);
+  if (use_.storeServiceAddresses) use_.storeServiceAddresses();
 }
 
 void Startup::ShowSplashAndFaceplate() {

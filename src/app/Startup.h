@@ -48,7 +48,8 @@ struct StartupServices {
   HelpPages& help;
   const Strings& strings;
   MessageBoxView& messageBox;
-  std::function<bool()> proxyFound;  // looks for a proxy that the user's browsers are set to
+  std::function<void()> storeServiceAddresses;  // gives every missing address of the service its default
+  std::function<bool()> proxyFound;             // looks for a proxy that the user's browsers are set to
 };
 
 class Startup {

@@ -123,6 +123,7 @@ class StartupTest : public testing::Test {
   bool Main(const std::string& commandLine) {
     state_.commandLine = commandLine;
     Startup startup({messages_, system_, reg_, data_, stations_, players_, help_, strings_, view_,
+                     [this] { journal_.push_back("addresses"); },
                      [this] {
                        journal_.push_back("find proxy");
                        return proxyFound_;
@@ -332,7 +333,8 @@ TEST(StartupCrash, TheNextStartFinishesTheUpdate) {
     HelpPages help(reg, view);
     AppState state;
     state.commandLine = "WinStart=Yes";
-    Startup({messages, system, reg, data, stations, players, help, strings, view, nullptr}, state, view)
+    Startup({messages, system, reg, data, stations, players, help, strings, view, nullptr, nullptr}, state,
+            view)
         .Main();
   };
   const int operations = ForEachCrashPoint(
