@@ -1,17 +1,17 @@
 #include "directory/Checksum.h"
 
-#include <array>
 #include <cstring>
 
 namespace sonaro {
 namespace {
 
-using Block = std::array<std::uint64_t, 4>;
+constexpr std::size_t kLanes = 4;
+using Block = std::uint64_t[kLanes];
 
 void MixBlock(Block& lanes, const char* bytes) {
   Block words;
-  std::memcpy(words.data(), bytes, sizeof words);
-  for (std::size_t i = 0; i < lanes.size(); ++i) lanes[i] = MixChecksum(lanes[i], words[i]);
+  std::memcpy(words, bytes, sizeof words);
+  for (std::size_t i = 0; i < kLanes; ++i) lanes[i] = MixChecksum(lanes[i], words[i]);
 }
 
 }  // namespace
@@ -22,9 +22,9 @@ std::uint64_t Checksum(std::string_view bytes, std::uint64_t seed) {
   const std::size_t whole = bytes.size() / sizeof(Block) * sizeof(Block);
   for (std::size_t at = 0; at < whole; at += sizeof(Block)) MixBlock(lanes, bytes.data() + at);
   if (whole != bytes.size()) {
-    std::array<char, sizeof(Block)> rest{};
-    std::memcpy(rest.data(), bytes.data() + whole, bytes.size() - whole);
-    MixBlock(lanes, rest.data());
+    char rest[sizeof(Block)] = {};
+    std::memcpy(rest, bytes.data() + whole, bytes.size() - whole);
+    MixBlock(lanes, rest);
   }
   std::uint64_t sum = bytes.size();  // tells a text from the same text with zeros behind it
   for (const std::uint64_t lane : lanes) sum = MixChecksum(sum, lane);

@@ -122,10 +122,11 @@ std::string StateOf(FakeFiles& files, const std::vector<StationRecord>& old,
   return "wrong records";
 }
 
+// Few and large, so that every file takes several writes.
 std::vector<StationRecord> Stations(int count, const std::string& kind) {
   std::vector<StationRecord> records;
   for (int id = 1; id <= count; ++id) {
-    records.push_back({id, {"Station " + kind, "WM", "", "", std::string(200, 'd')}});
+    records.push_back({id, {"Station " + kind, "WM", "", "", std::string(10'000, 'd')}});
   }
   return records;
 }
@@ -152,7 +153,7 @@ void Prepare(FakeFiles& files, const std::vector<StationRecord>& old,
 
 TEST(StationRebuild, CrashAtAnyOperationLeavesTheOldOrTheNewTable) {
   const std::vector<StationRecord> old = Stations(3, "old");
-  const std::vector<StationRecord> fresh = Stations(900, "new");
+  const std::vector<StationRecord> fresh = Stations(7, "new");
   std::set<std::string> seen;
   const int operations = ForEachCrashPoint(
       [&](FakeFiles& files) { Prepare(files, old, fresh); },
@@ -181,7 +182,7 @@ TEST(StationRebuild, CrashAtAnyOperationLeavesTheOldOrTheNewTable) {
 // before its second half is written over.
 TEST(StationRebuild, TwoCrashesInARowStillLeaveATable) {
   const std::vector<StationRecord> old = Stations(3, "old");
-  const std::vector<StationRecord> fresh = Stations(9, "new");
+  const std::vector<StationRecord> fresh = Stations(7, "new");
   ForEachCrashPoint(
       [&](FakeFiles& files) {
         Prepare(files, old, fresh);
@@ -203,7 +204,7 @@ TEST(StationRebuild, TwoCrashesInARowStillLeaveATable) {
 
 TEST(StationRebuild, FailureLeavesTheOldTableAndNothingBeside) {
   const std::vector<StationRecord> old = Stations(3, "old");
-  const std::vector<StationRecord> fresh = Stations(900, "new");
+  const std::vector<StationRecord> fresh = Stations(7, "new");
   bool fits = false;
   for (std::uint64_t space = 0; !fits; space += 10'000) {
     FakeFiles files;
@@ -224,7 +225,7 @@ TEST(StationRebuild, FailureLeavesTheOldTableAndNothingBeside) {
 
 TEST(StationRebuild, TablesInUse) {
   const std::vector<StationRecord> old = Stations(3, "old");
-  const std::vector<StationRecord> fresh = Stations(9, "new");
+  const std::vector<StationRecord> fresh = Stations(7, "new");
   FakeFiles files;
   Prepare(files, old, fresh);
   DataFolder data(files, "/data", '/');
@@ -241,7 +242,7 @@ TEST(StationRebuild, TablesInUse) {
   EXPECT_EQ(StateOf(files, old, fresh), "new");
   EXPECT_EQ(files.AllPaths().size(), 4u);
   reader.reset();
-  EXPECT_EQ(stations.StationCount(), 9u);
+  EXPECT_EQ(stations.StationCount(), 7u);
   EXPECT_EQ(files.AllPaths().size(), 3u) << "the step is made up for";
 }
 
