@@ -9,6 +9,7 @@
 #include <random>
 
 #include "directory/Checksum.h"
+#include "directory/StationSearch.h"
 #include "directory/VmxFormat.h"
 #include "fakes/FakeFiles.h"
 
@@ -334,9 +335,16 @@ TEST(VmxDamage, ForgedNumbersWithRightChecksums) {
     Vmx vmx(table.files);
     const Vmx::Handle handle = vmx.VmxOpen(kTable, VmxOpenMode::Read);
     for (const auto& [key, fields] : SmallModel()) Get(vmx, handle, std::to_string(key));
-    for (vmx.VmxBOF(handle); Next(vmx, handle).status == TableStatus::Success;) {
+    vmx.VmxBOF(handle);
+    std::int64_t last = std::numeric_limits<std::int64_t>::min();
+    for (Read read = Next(vmx, handle); read.status == TableStatus::Success; read = Next(vmx, handle)) {
+      EXPECT_LT(last, read.key);
+      last = read.key;
     }
-    vmx.SearchImage(handle);
+    if (const TableImage* image = vmx.SearchImage(handle)) {
+      for (const std::uint32_t index : FindRecords(image->Column(), {"t", "e"}, round % 2 == 0))
+        image->KeyAt(index);
+    }
     vmx.VmxClose(handle);
     const TableStatus verdict = vmx.Verify(kTable);
     EXPECT_TRUE(verdict == TableStatus::Damaged || verdict == TableStatus::Success);
