@@ -98,7 +98,7 @@ TableStatus TableImage::LoadColumn(TableFiles& files) {
     starts.push_back(EntryAt(i).columnOffset);
   }
   starts.push_back(static_cast<std::uint32_t>(header_.columnSize));
-  if (!std::is_sorted(starts.begin(), starts.end())) return TableStatus::Damaged;
+  if (starts.front() != 0 || !std::is_sorted(starts.begin(), starts.end())) return TableStatus::Damaged;
 
   const auto size = static_cast<std::size_t>(header_.columnSize) + kColumnPadding;
   auto column = std::make_unique_for_overwrite<char[]>(size);
