@@ -62,7 +62,6 @@ class TableImage {
  private:
   TableStatus LoadPage(TableFiles& files, std::uint32_t page);
   const Entry& EntryAt(std::uint32_t index) const;
-  bool PageIsSound(std::uint32_t page, const Entry* entries) const;
   std::uint32_t EntriesIn(std::uint32_t page) const;
 
   IndexHeader header_;

@@ -106,7 +106,7 @@ std::uint64_t TableWriter::WritePages(const IndexHeader& header) {
   for (std::size_t first = 0; first < header.recordCount; first += kPageEntries) {
     const std::size_t count = std::min<std::size_t>(kPageEntries, header.recordCount - first);
     const std::string_view page = BytesOf(&entries_[first], count + 1);
-    directory.push_back({entries_[first].key, static_cast<std::uint32_t>(count), Checksum(page)});
+    directory.push_back({entries_[first].key, 0, Checksum(page)});
     index_->Append(page);
   }
   const std::string_view items = BytesOf(directory.data(), directory.size());

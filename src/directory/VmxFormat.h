@@ -11,9 +11,10 @@
 //          page directory: one PageItem a page.
 //
 // Every byte is checked before it is used: the headers by their own checksum, the column and the directory by
-// the index header's, a page by the directory's, a record's text by its entry's. The generation, a digest of
-// all keys and records, stands in both headers and tells whether the files belong together; equal generations
-// mean equal records.
+// the index header's, a page by the directory's, a record's text by its entry's. Positions are not trusted
+// even so: what would lie outside its section counts as damage. The generation, a digest of all keys and
+// records, stands in both headers and tells whether the files belong together; equal generations mean equal
+// records.
 #pragma once
 
 #include <array>
@@ -53,8 +54,8 @@ struct Entry {
 
 struct PageItem {
   std::int32_t firstKey;
-  std::uint32_t entryCount;
-  std::uint64_t check;  // of the page's bytes
+  std::uint32_t unused;  // 0
+  std::uint64_t check;   // of the page's bytes
 };
 
 struct DataHeader {

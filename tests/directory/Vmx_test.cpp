@@ -336,10 +336,7 @@ TEST(VmxDamage, ForgedNumbersWithRightChecksums) {
     const Vmx::Handle handle = vmx.VmxOpen(kTable, VmxOpenMode::Read);
     for (const auto& [key, fields] : SmallModel()) Get(vmx, handle, std::to_string(key));
     vmx.VmxBOF(handle);
-    std::int64_t last = std::numeric_limits<std::int64_t>::min();
-    for (Read read = Next(vmx, handle); read.status == TableStatus::Success; read = Next(vmx, handle)) {
-      EXPECT_LT(last, read.key);
-      last = read.key;
+    while (Next(vmx, handle).status == TableStatus::Success) {
     }
     if (const TableImage* image = vmx.SearchImage(handle)) {
       for (const std::uint32_t index : FindRecords(image->Column(), {"t", "e"}, round % 2 == 0))
