@@ -69,6 +69,16 @@ TEST(StationRebuild, EveryKindOfLineHasADefinedResult) {
   }
 }
 
+// The end of a line at, before and behind the end of what is read at once.
+TEST(StationRebuild, LinesAcrossTheReadBuffer) {
+  for (std::size_t length = 256 * 1024 - 6; length < 256 * 1024 + 4; ++length) {
+    Folder folder;
+    ASSERT_TRUE(folder.Rebuild("1\t" + std::string(length, 'x') + "\r\n2\tB\n"));
+    EXPECT_EQ(folder.stations.FindStation(1)[StationField::Name].size(), length);
+    EXPECT_EQ(folder.stations.FindStation(2)[StationField::Name], "B") << length;
+  }
+}
+
 TEST(StationRebuild, MissingFieldsAreEmptyAndSurplusBelongsToTheLast) {
   Folder folder;
   ASSERT_TRUE(folder.Rebuild("1\ta\tb\n2\t1\t2\t3\t4\t5\t6\t7\t8\t9\t10\t11\t12\t13\t14\t15\t16\t17\t\r\n"));
