@@ -134,6 +134,11 @@ class StartupTest : public testing::Test {
   bool Happened(const std::string& what) const {
     return std::find(journal_.begin(), journal_.end(), what) != journal_.end();
   }
+  std::string Happenings() const {
+    std::string text;
+    for (const std::string& what : journal_) text += what + ", ";
+    return text;
+  }
   std::string StationName() { return StatList(data_).FindStation(1)[StationField::Name]; }
 
   Journal journal_;
@@ -160,32 +165,17 @@ TEST_F(StartupTest, StepsOfAFirstStartInOrder) {
   view_.answers = {{MessageAnswer::First, false}};
   proxyFound_ = true;
   EXPECT_TRUE(Main(""));
-  EXPECT_EQ(journal_, (Journal{"look for frmSysTrayMenu",
-                               "earlier instance?",  //
-                               "read InstallId",
-                               "write InstallId",  //
-                               "read sTimeFormat",
-                               "read sShortDate",  //
-                               "splash",
-                               "faceplate",  //
-                               "read UpdateHold",
-                               "write UpdateHold=",  //
-                               "8.5",                //
-                               "read StartPlayer",
-                               "read CurrentVersion",
-                               "read MainApp",
-                               "page Player",  //
-                               "read StartProxy",
-                               "find proxy",
-                               "page Proxy",  //
-                               "load main",
-                               "show main",
-                               "close splash",  //
-                               "read StartQuickStart",
-                               "ask QuickStart",
-                               "read HelpURL",
-                               "open 9070.html",
-                               "write StartQuickStart=No"}));
+  EXPECT_EQ(Happenings(),
+            "look for frmSysTrayMenu, earlier instance?, "
+            "read InstallId, write InstallId, addresses, "
+            "read sTimeFormat, read sShortDate, "
+            "splash, faceplate, "
+            "read UpdateHold, write UpdateHold=, "
+            "8.5, "
+            "read StartPlayer, read CurrentVersion, read MainApp, page Player, "
+            "read StartProxy, find proxy, page Proxy, "
+            "load main, show main, close splash, "
+            "read StartQuickStart, ask QuickStart, read HelpURL, open 9070.html, write StartQuickStart=No, ");
   EXPECT_EQ(StationName(), "New");
   EXPECT_EQ(state_.clockStyle, ClockStyle::Hours12);
   EXPECT_EQ(state_.shortDatePattern, "M/d/yyyy");
