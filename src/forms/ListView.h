@@ -24,6 +24,8 @@ class ListModel {
   virtual std::string Cell(int row, int column) const = 0;
   virtual int Symbol(int /*row*/) const { return -1; }  // reliability 0 to 4; -1: none
   virtual bool IsGreyed(int /*row*/) const { return false; }
+  // The one row only says that there is nothing: it is drawn as the picture of an empty list.
+  virtual bool IsNotice() const { return false; }
 };
 
 class ListView final : public FormControl {

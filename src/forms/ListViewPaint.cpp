@@ -35,7 +35,7 @@ LRESULT ListView::CustomDraw(const NMLVCUSTOMDRAW& draw) const {
 }
 
 void ListView::PaintRow(HDC dc, int row) const {
-  if (model_ == nullptr || row >= model_->RowCount()) return;
+  if (model_ == nullptr || row >= model_->RowCount() || model_->IsNotice()) return;
   const Painter& look = services_.Look();
   const FaceplateColors& colors = look.Colors();
   const RECT box = ItemBox(row);
@@ -88,7 +88,8 @@ void ListView::PaintBelowRows(HDC dc) const {
   GetClientRect(list_, &box);
   box.right = width_;
   const int count = model_ != nullptr ? model_->RowCount() : 0;
-  if (count == 0 && !emptyHeading_.empty()) {
+  const bool notice = count > 0 && model_->IsNotice();
+  if (notice || (count == 0 && !emptyHeading_.empty())) {
     look.Fill(dc, box, colors.glass);
     PaintEmpty(dc, box);
     return;

@@ -183,6 +183,40 @@ MenuEntries StationActions::GroupMenu(std::size_t group) const {
   return menu;
 }
 
+MenuEntries StationActions::ProgramMenu() const {
+  MenuEntries menu;
+  const std::pair<int, int> entries[] = {{mnuViewYourSonaro, IDS_MENU_YOUR_SONARO},
+                                         {mnuViewList, IDS_MENU_LIST},
+                                         {mnuViewBrowse, IDS_MENU_BROWSE},
+                                         {mnuViewByLocation, IDS_MENU_BY_LOCATION},
+                                         {mnuViewSearch, IDS_MENU_SEARCH},
+                                         {mnuRecent, IDS_MENU_RECENT},
+                                         {0, 0},
+                                         {mnuFavoritesAdd, IDS_GROUP_NEW},
+                                         {mnuPersonalAdd, IDS_PERSONAL_ADD},
+                                         {mnuPersonalImport, IDS_MENU_IMPORT},
+                                         {mnuPersonalExport, IDS_MENU_EXPORT},
+                                         {0, 0},
+                                         {mnuScan, IDS_MENU_SCAN},
+                                         {mnuSchedule, IDS_MENU_SCHEDULE},
+                                         {mnuUpdate, IDS_MENU_UPDATE},
+                                         {mnuOptions, IDS_MENU_OPTIONS},
+                                         {0, 0},
+                                         {mnuFullHelp, IDS_MENU_HELP},
+                                         {mnuQuickStart, IDS_MENU_QUICK_START},
+                                         {0, 0},
+                                         {mnuHideToTray, IDS_MENU_HIDE},
+                                         {mnuExit, IDS_MENU_EXIT}};
+  for (const auto& [command, textId] : entries) {
+    if (command == 0) {
+      AddSeparator(menu);
+    } else {
+      menu.push_back(Entry(command, textId));
+    }
+  }
+  return menu;
+}
+
 MenuEntries StationActions::PersonalMenu() const {
   return {Entry(mnuPersonalAdd, IDS_PERSONAL_ADD), Entry(mnuPersonalImport, IDS_PERSONAL_IMPORT),
           Entry(mnuPersonalExport, IDS_PERSONAL_EXPORT)};

@@ -33,6 +33,8 @@ class StationActions {
   MenuEntries SortMenu() const;
   // The menu of a group key; `group` may be a free slot.
   MenuEntries GroupMenu(std::size_t group) const;
+  // The menu of the menu key.
+  MenuEntries ProgramMenu() const;
   // The menu of the personal stations' node in the browse tree.
   MenuEntries PersonalMenu() const;
 

@@ -79,6 +79,15 @@ void StationListing::ShowRanking(Ranking ranking) {
 
 void StationListing::ShowRecent() {
   LeaveForList();
+  HoldRecent();
+}
+
+void StationListing::ShowRecentInPlace() {
+  state_.middle = Middle::StationList;
+  HoldRecent();
+}
+
+void StationListing::HoldRecent() {
   state_.listingMode = ListingState::kRecent;
   Hold(Holds::Recent, strings_.Load(IDS_LISTING_YOUR_RECENT));
   FillHeld();

@@ -40,6 +40,7 @@ class StationListing {
   void ShowFavoriteGroup(std::size_t group);
   // The same without leaving the view: the list takes the middle of the page of the user's own things.
   void ShowGroupInPlace(std::size_t group);
+  void ShowRecentInPlace();
   // Fills the list and leaves the tree on show.
   void treeBrowse_NodeClick(const BrowseNode& node);
   void ShowSearch(std::string_view text, bool allWords);
@@ -61,6 +62,7 @@ class StationListing {
   void LeaveForList();
   void RebuildFromListingMode();
   void HoldGroup(std::size_t group);
+  void HoldRecent();
   void FillHeld();
   void Refill();
   void Hold(Holds holds, std::string caption);

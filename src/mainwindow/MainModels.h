@@ -1,0 +1,61 @@
+// Everything of the main window that shows no window, in the order in which one needs the other. Owned by the
+// main window; the data that it works on belongs to Application.
+#pragma once
+
+#include <utility>
+
+#include "mainwindow/BrowseTree.h"
+#include "mainwindow/FavoriteGroups.h"
+#include "mainwindow/Rankings.h"
+#include "mainwindow/SearchPanel.h"
+#include "mainwindow/StationActions.h"
+#include "mainwindow/StationDetail.h"
+#include "mainwindow/StationListing.h"
+#include "mainwindow/StationLists.h"
+
+namespace sonaro {
+
+class CReg;
+class DataFolder;
+class ExtraLinks;
+class PersonalStations;
+class RecentList;
+class StatList;
+class StationSource;
+class Strings;
+struct AppState;
+
+// The guide's data, as references.
+struct GuideData {
+  DataFolder& folder;
+  CReg& settings;
+  const Strings& strings;
+  const AppState& state;
+  StatList& stations;
+  const PersonalStations& personal;
+  const ExtraLinks& extra;
+  RecentList& recent;
+  FavoriteGroups& favorites;
+  const StationSource& source;
+};
+
+struct MainModels {
+  MainModels(const GuideData& data, TellTray tellTray)
+      : tree(data.folder),
+        rankings(data.folder),
+        lists(data.stations, data.personal, data.recent, data.strings),
+        listing(lists, rankings, data.favorites, tree, data.strings),
+        search(data.folder, data.settings, listing, std::move(tellTray)),
+        details(data.source, data.personal, data.extra, data.strings, data.state),
+        actions(listing, data.favorites, data.strings) {}
+
+  BrowseTree tree;
+  Rankings rankings;
+  StationLists lists;
+  StationListing listing;
+  SearchPanel search;
+  StationDetails details;
+  StationActions actions;
+};
+
+}  // namespace sonaro

@@ -1,0 +1,157 @@
+// The main window: the tab dial, the group bar, a left column that changes with the view, the station list in
+// the middle, the selected station at the right and the status line. Shows what its models decide
+// (MainModels) and hands on what belongs to others (MainWindowCalls). Owned by Application.
+//
+// The window's parts have classes of their own in SonaroFrmXxxPane; the handlers of the event table are here
+// because the controls belong to one form.
+#pragma once
+
+#include <functional>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "forms/Form.h"
+#include "mainwindow/FavoriteCommands.h"
+#include "mainwindow/MainModels.h"
+#include "mainwindow/MainWindowCalls.h"
+#include "mainwindow/SonaroFrmBrowsePane.h"
+#include "mainwindow/SonaroFrmDetailPane.h"
+#include "mainwindow/SonaroFrmListPane.h"
+#include "mainwindow/SonaroFrmSearchPane.h"
+#include "mainwindow/SonaroFrmStatusPane.h"
+#include "mainwindow/SonaroFrmYoursPane.h"
+
+namespace sonaro {
+
+class PlayerLaunch;
+class WebPageOpener;
+
+class SonaroFrm final : public Form, private FavoritePrompts {
+ public:
+  SonaroFrm(FormContext& context, const GuideData& data, PlayerLaunch& player, WebPageOpener& pages,
+            MainWindowCalls calls);
+
+  // Brings up the view "Browse", "Search" or "YourSonaro"; any other name changes nothing.
+  void BringUpView(std::string_view name);
+  // What changed elsewhere and must be shown: plays, groups, personal stations and extra links, the
+  // directory after an update, the schedule.
+  void RecentChanged();
+  void GroupsChanged();
+  void PersonalStationsChanged();
+  void DirectoryChanged();
+  void ScheduleChanged();
+  // The progress of an update in the status line; 0 to 100, below 0 when it is not known.
+  void ShowProgress(const std::string& what, int percent) { status_.ShowProgress(what, percent); }
+  void EndProgress() { status_.EndProgress(); }
+  // What the tray menu asks for.
+  void ShowGroupNamed(std::string_view name);
+  void SearchFor(const std::string& text);
+
+ private:
+  static const FormDesign& Design();
+  std::span<const EventRow> Events() const override;
+  void OnLoad() override;
+  void OnEscape() override;
+
+  // SonaroFrm.cpp: views and what is shown of them.
+  void ShowView(View view);
+  void ShowEverything();
+  void ShowPanes();
+  void ShowGroupBar();
+  void ShowSelection();
+  void butTabs_Click(int tab);
+  void mnuView_Click(int view);
+  void butRanking_Click(int key);
+  void mnuActionRanking_Click(int entry);
+  void butFavs_Click(int group);
+  void butRecent_Click();
+  void butSplit_Click(int column);
+  void mnuSort_Click(int entry);
+  void SortBy(int command);
+  void butMenu_Click();
+  void butHelp_Click();
+  void butTray_Click();
+  void butMin_Click();
+  void butCloseIt_Click();
+  void mnuExit_Click();
+  void mnuQuickStart_Click();
+  void butUpdate_Click();
+  void butScan_Click();
+  void butSchedule_Click();
+  void butOptions_Click();
+
+  // SonaroFrmStation.cpp: the list, the tree, the selected station.
+  void lstFavs_ItemSelected(int row);
+  void lstFavs_ItemActivate(int row);
+  void lstFavs_ContextMenu(int row, POINT at);
+  void treeBrowse_NodeClick(HTREEITEM node);
+  void treeBrowse_ContextMenu(int row, POINT at);
+  void butGoMediaLink_Click(int link);
+  void mnuActionPlay_Click(int link);
+  void mnuActionPlayExtra_Click(int link);
+  void butGoWebPageIt_Click();
+  void mnuActionCopyLink_Click();
+  void mnuActionAddToScan_Click();
+  void mnuActionAddListToScan_Click();
+  void mnuActionSchedule_Click();
+  void mnuActionExtraLink_Click();
+  void mnuPersonalAdd_Click();
+  void mnuPersonalChange_Click();
+  void mnuPersonalDelete_Click();
+  void ShowDetailOf(const StationKey& station);
+  void Play(const PlayKey& key);
+
+  // SonaroFrmSearch.cpp
+  void txtQuickSearch_EnterPressed();
+  void butSearchList_Click();
+  void butWebOpen_Click();
+  void FindStation();
+
+  // SonaroFrmGroups.cpp: favourite groups and the page of the user's own things.
+  void butFavs_ContextMenu(int group, POINT at);
+  void lstGroups_ItemSelected(int row);
+  void lstGroups_ItemActivate(int row);
+  void lstGroups_ContextMenu(int row, POINT at);
+  void butNewGroup_Click();
+  void mnuAddFavGroup_Click();
+  void butRemoveGroup_Click();
+  void mnuFavRenameFav_Click();
+  void mnuFavMoveLeft_Click();
+  void mnuFavMoveRight_Click();
+  void mnuFavScanGroup_Click();
+  void mnuActionStationToFavList_Click();
+  void mnuActionStationToGroup_Click(int group);
+  void mnuActionRemoveFromFavList_Click();
+  void mnuActionMoveUp_Click();
+  void mnuActionMoveDown_Click();
+  void lstEvents_ItemSelected(int row);
+  void butNotifyMe_Click();
+  void MoveStation(int by);
+  std::optional<std::size_t> GroupMeant() const;
+  std::string SelectedToken() const;
+  MessageResult Ask(const Message& message) override;
+  std::string AskNewGroupName() override;
+  std::string AskGroupName(const std::string& present) override;
+  void TellTray(const std::string& text) override;
+
+  std::size_t PersonalCount() const;
+
+  FormContext& context_;
+  GuideData data_;
+  PlayerLaunch& player_;
+  WebPageOpener& pages_;
+  MainWindowCalls calls_;
+  MainModels models_;
+  FavoriteCommands favorites_;
+  ListPane list_;
+  BrowsePane browse_;
+  SearchPane search_;
+  DetailPane detail_;
+  YoursPane yours_;
+  StatusPane status_;
+  StationDetail shown_;                   // what the right column shows
+  std::optional<std::size_t> menuGroup_;  // while the menu of a group key is open
+};
+
+}  // namespace sonaro

@@ -1,0 +1,38 @@
+// The browse tree in the left column. Part of SonaroFrm.
+#pragma once
+
+#include <windows.h>
+
+#include <commctrl.h>
+
+#include <cstddef>
+
+#include "app/AppState.h"
+#include "mainwindow/BrowseTree.h"
+
+namespace sonaro {
+
+class Form;
+
+class BrowsePane {
+ public:
+  BrowsePane(Form& form, const BrowseTree& tree, const AppState& state)
+      : form_(form), tree_(tree), state_(state) {}
+
+  // Shows the tree as it is built; the same tree keeps its expansion and its selection.
+  void Show(std::size_t personalStations);
+  // The next Show takes the tree over anew.
+  void TreeChanged() { shown_ = BrowseMode::NotBuilt; }
+  // Null for nullptr.
+  const BrowseNode* NodeAt(HTREEITEM item) const;
+
+ private:
+  void Add(HTREEITEM parent, int node, std::size_t personalStations);
+
+  Form& form_;
+  const BrowseTree& tree_;
+  const AppState& state_;
+  BrowseMode shown_ = BrowseMode::NotBuilt;
+};
+
+}  // namespace sonaro

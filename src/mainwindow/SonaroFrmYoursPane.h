@@ -1,0 +1,67 @@
+// The page of the user's own things: the groups and the next notice in the left column, the coming events in
+// the middle. Part of SonaroFrm.
+#pragma once
+
+#include <optional>
+#include <vector>
+
+#include "app/AppState.h"
+#include "forms/ListView.h"
+#include "mainwindow/MainWindowCalls.h"
+
+namespace sonaro {
+
+class FavoriteGroups;
+class Form;
+class RecentList;
+class StationListing;
+
+class YoursPane {
+ public:
+  YoursPane(Form& form, const FavoriteGroups& groups, const RecentList& recent, const StationListing& listing,
+            const MainWindowCalls& calls);
+
+  void Load();
+  void ShowGroups();
+  void ShowEvents();
+  void ShowNextNotice();
+
+  // What a row of the groups stands for: a group, then the recent list, then the coming events.
+  std::optional<std::size_t> GroupAt(int row) const;
+  bool IsRecent(int row) const;
+  const EventLine* EventAt(int row) const;
+
+ private:
+  class GroupRows final : public ListModel {
+   public:
+    explicit GroupRows(const YoursPane& pane) : pane_(pane) {}
+    int RowCount() const override;
+    std::string Cell(int row, int column) const override;
+
+   private:
+    const YoursPane& pane_;
+  };
+  class EventRows final : public ListModel {
+   public:
+    explicit EventRows(const YoursPane& pane) : pane_(pane) {}
+    int RowCount() const override;
+    std::string Cell(int row, int column) const override;
+
+   private:
+    const YoursPane& pane_;
+  };
+
+  int GroupCount() const;
+  int SelectedGroupRow() const;
+
+  Form& form_;
+  const FavoriteGroups& groups_;
+  const RecentList& recent_;
+  const StationListing& listing_;
+  const MainWindowCalls& calls_;
+  std::vector<EventLine> events_;
+  GroupRows groupRows_{*this};
+  EventRows eventRows_{*this};
+};
+
+}  // namespace sonaro
