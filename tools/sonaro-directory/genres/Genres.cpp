@@ -1,0 +1,292 @@
+#include "genres/Genres.h"
+
+#include <algorithm>
+#include <unordered_map>
+#include <unordered_set>
+
+#include "base/Text.h"
+#include "places/Countries.h"
+#include "places/Places.h"
+#include "text/CleanText.h"
+
+namespace sonaro {
+namespace {
+
+constexpr std::size_t kLongestTerm = 4;   // words
+constexpr std::size_t kMostTagWords = 6;  // a longer tag is a sentence, and its words mean something else
+
+// Words that are genres as a tag of their own but mean something else beside other words.
+constexpr std::string_view kOnlyAsWholeTag[] = {"adult",
+                                                "anglo",
+                                                "art",
+                                                "arts",
+                                                "bass",
+                                                "beach",
+                                                "best",
+                                                "black",
+                                                "calm",
+                                                "charts",
+                                                "church",
+                                                "congo",
+                                                "dark",
+                                                "deep",
+                                                "drama",
+                                                "easy",
+                                                "epic",
+                                                "exitos",
+                                                "fe",
+                                                "features",
+                                                "film",
+                                                "fire",
+                                                "foot",
+                                                "fox",
+                                                "fresh",
+                                                "fusion",
+                                                "game",
+                                                "garage",
+                                                "general",
+                                                "global",
+                                                "glam",
+                                                "gold",
+                                                "golden",
+                                                "groove",
+                                                "health",
+                                                "heavy",
+                                                "history",
+                                                "hit",
+                                                "holiday",
+                                                "industrial",
+                                                "info",
+                                                "island",
+                                                "light",
+                                                "lite",
+                                                "local",
+                                                "love",
+                                                "masa",
+                                                "mellow",
+                                                "minimal",
+                                                "mix",
+                                                "mixx",
+                                                "monde",
+                                                "mood",
+                                                "musical",
+                                                "nature",
+                                                "new",
+                                                "noise",
+                                                "pacific",
+                                                "piano",
+                                                "police",
+                                                "public",
+                                                "rain",
+                                                "reading",
+                                                "regional",
+                                                "science",
+                                                "slow",
+                                                "smooth",
+                                                "social",
+                                                "society",
+                                                "soft",
+                                                "son",
+                                                "space",
+                                                "summer",
+                                                "sunset",
+                                                "tech",
+                                                "theater",
+                                                "today",
+                                                "top",
+                                                "tout",
+                                                "traffic",
+                                                "travel",
+                                                "trio",
+                                                "underground",
+                                                "urban",
+                                                "vocal",
+                                                "wave",
+                                                "women",
+                                                "world",
+                                                "magazine",
+                                                "history",
+                                                "60",
+                                                "70",
+                                                "80",
+                                                "90",
+                                                "1920",
+                                                "1930",
+                                                "1950",
+                                                "1960",
+                                                "1970",
+                                                "1980",
+                                                "1990",
+                                                "2000",
+                                                "2010",
+                                                "2020",
+                                                "community",
+                                                "university",
+                                                "college",
+                                                "student",
+                                                "universidad",
+                                                "campus",
+                                                "international",
+                                                "energy",
+                                                "information",
+                                                "talks",
+                                                "fashion",
+                                                "fan",
+                                                "party",
+                                                "contemporary",
+                                                "live",
+                                                "family",
+                                                "education",
+                                                "entertainment",
+                                                "various",
+                                                "club",
+                                                "religion",
+                                                "weather",
+                                                "progressive",
+                                                "sports"};
+
+// Words of names that promise nothing about the programme.
+constexpr std::string_view kNotInNames[] = {
+    "classic", "classics", "hit",     "retro",   "latina", "latino", "cultura",
+    "culture", "queen",    "exitos",  "dance",   "nova",   "africa", "jovem",
+    "fiesta",  "tropical", "publica", "cristal", "india",  "local",  "hong kong"};
+
+using TagMap = std::unordered_map<std::string, std::vector<GenreEntry>>;
+
+void AddLines(TagMap& map, std::span<const GenreLine> lines) {
+  for (const GenreLine& line : lines) {
+    for (const std::string_view tag : Split(line.tags, '|')) {
+      std::vector<GenreEntry>& entries = map[MatchKey(tag)];
+      const GenreEntry entry{GenreByCode(line.genre), line.subGenre};
+      if (std::find(entries.begin(), entries.end(), entry) == entries.end()) entries.push_back(entry);
+    }
+    if (!line.subGenre.empty()) {
+      map.try_emplace(MatchKey(line.subGenre),
+                      std::vector{GenreEntry{GenreByCode(line.genre), line.subGenre}});
+    }
+  }
+}
+
+const TagMap& Tags() {
+  static const TagMap tags = [] {
+    TagMap map;
+    AddLines(map, MusicTags());
+    AddLines(map, OtherTags());
+    return map;
+  }();
+  return tags;
+}
+
+bool IsOneOf(std::span<const std::string_view> words, std::string_view word) {
+  return std::find(words.begin(), words.end(), word) != words.end();
+}
+
+void Append(std::vector<GenreEntry>& entries, const std::vector<GenreEntry>& more) {
+  for (const GenreEntry& entry : more) {
+    if (std::find(entries.begin(), entries.end(), entry) == entries.end()) entries.push_back(entry);
+  }
+}
+
+// The longest terms in `words`, from the left. Single words in `skipped` do not count.
+std::vector<GenreEntry> GenresInWords(const std::vector<std::string_view>& words, bool name) {
+  std::vector<GenreEntry> entries;
+  for (std::size_t start = 0; start < words.size();) {
+    std::size_t taken = 1;
+    for (std::size_t length = std::min(kLongestTerm, words.size() - start); length > 0; --length) {
+      const std::string_view last = words[start + length - 1];
+      const std::string term(words[start].data(), last.data() + last.size());
+      if (length == 1 && (IsOneOf(kOnlyAsWholeTag, term) || (name && IsOneOf(kNotInNames, term)))) continue;
+      const auto found = Tags().find(term);
+      if (found == Tags().end()) continue;
+      Append(entries, found->second);
+      taken = length;
+      break;
+    }
+    start += taken;
+  }
+  return entries;
+}
+
+bool IsFrequencyWord(std::string_view word) {
+  constexpr std::string_view kUnits[] = {"fm",    "am", "khz", "mhz", "kbps",   "kbit",
+                                         "kbits", "kb", "s",   "k",   "region", "hz"};
+  return word.find_first_not_of("0123456789") == std::string_view::npos || IsOneOf(kUnits, word);
+}
+
+// A tag that tells nothing about the programme: a filler, a frequency, a country or one of its regions.
+bool SaysNothing(std::string_view tag, std::string_view key, const Country* country) {
+  static const std::unordered_set<std::string> kFillers = [] {
+    std::unordered_set<std::string> set;
+    for (const std::string_view filler : EmptyTags()) set.insert(MatchKey(filler));
+    return set;
+  }();
+  if (key.empty() || kFillers.count(std::string(key)) > 0) return true;
+  const std::vector<std::string_view> words = KeyWords(key);
+  if (std::all_of(words.begin(), words.end(), IsFrequencyWord)) return true;
+  if (CountryByName(tag)) return true;
+  return country && !KnownRegion(*country, tag).empty();
+}
+
+std::string FirstTellingTag(const SourceStation& station) {
+  const Country* country = CountryByCode(station.countryCode);
+  for (const std::string& tag : station.tags) {
+    if (!SaysNothing(tag, MatchKey(tag), country)) return tag;
+  }
+  return {};
+}
+
+// Puts the entry first that the list should show: variety says less than anything else, and a sub-genre more
+// than its genre.
+void PutMainFirst(std::vector<GenreEntry>& entries) {
+  if (entries.empty()) return;
+  const auto telling = std::find_if(entries.begin(), entries.end(),
+                                    [](const GenreEntry& entry) { return entry.genre->code != 'v'; });
+  auto main = telling == entries.end() ? entries.begin() : telling;
+  if (main->subGenre.empty()) {
+    const auto closer = std::find_if(main, entries.end(), [&](const GenreEntry& entry) {
+      return entry.genre == main->genre && !entry.subGenre.empty();
+    });
+    if (closer != entries.end()) main = closer;
+  }
+  std::rotate(entries.begin(), main, main + 1);
+}
+
+}  // namespace
+
+std::string Classification::Format() const {
+  if (entries.empty()) return {};
+  return std::string(entries.front().subGenre.empty() ? entries.front().genre->name
+                                                      : entries.front().subGenre);
+}
+
+const Genre* GenreByCode(char code) {
+  const std::span<const Genre> genres = GenreList();
+  const auto found =
+      std::find_if(genres.begin(), genres.end(), [&](const Genre& genre) { return genre.code == code; });
+  return found == genres.end() ? nullptr : &*found;
+}
+
+std::vector<GenreEntry> GenresOfTag(std::string_view tag) {
+  const std::string key = MatchKey(tag);
+  if (const auto found = Tags().find(key); found != Tags().end()) return found->second;
+  const std::vector<std::string_view> words = KeyWords(key);
+  if (words.size() < 2 || words.size() > kMostTagWords) return {};
+  return GenresInWords(words, /*name=*/false);
+}
+
+Classification ClassifyStation(const SourceStation& station) {
+  Classification result;
+  for (const std::string& tag : station.tags) Append(result.entries, GenresOfTag(tag));
+  if (result.entries.empty()) {
+    for (const std::string* text : {&station.name, &station.slogan}) {
+      const std::string key = MatchKey(*text);
+      Append(result.entries, GenresInWords(KeyWords(key), /*name=*/true));
+    }
+  }
+  PutMainFirst(result.entries);
+  if (result.entries.size() > kMostGenres) result.entries.resize(kMostGenres);
+  if (result.entries.empty()) result.otherTag = FirstTellingTag(station);
+  return result;
+}
+
+}  // namespace sonaro

@@ -1,0 +1,35 @@
+// Finds the genres of a station by its tags, and by its name when the tags say nothing.
+#pragma once
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "genres/GenreTable.h"
+#include "model/SourceStation.h"
+
+namespace sonaro {
+
+struct GenreEntry {
+  const Genre* genre = nullptr;
+  std::string_view subGenre;  // "" for the genre as a whole
+  bool operator==(const GenreEntry&) const = default;
+};
+
+struct Classification {
+  std::vector<GenreEntry> entries;  // the main one first; at most kMostGenres; empty: it belongs under Other
+  std::string otherTag;             // the first tag that says something, when there are no entries
+  // The main genre as the list shows it; "" when there is none.
+  std::string Format() const;
+};
+
+inline constexpr std::size_t kMostGenres = 8;
+
+Classification ClassifyStation(const SourceStation& station);
+
+// The entries that one tag leads to: as a whole, or else by the words in it that are genres.
+std::vector<GenreEntry> GenresOfTag(std::string_view tag);
+
+const Genre* GenreByCode(char code);
+
+}  // namespace sonaro

@@ -1,0 +1,175 @@
+#include "places/Places.h"
+
+#include <algorithm>
+#include <array>
+#include <cctype>
+#include <map>
+#include <unordered_map>
+#include <utility>
+
+#include "base/Text.h"
+#include "places/RegionTable.h"
+#include "text/CleanText.h"
+
+namespace sonaro {
+namespace {
+
+constexpr std::size_t kLeastForRegion = 2;
+constexpr std::size_t kLongestRegion = 40;
+
+using RegionMap = std::unordered_map<std::string, std::string_view>;
+
+std::string RegionKey(std::string_view countryCode, std::string_view text) {
+  return std::string(countryCode) + MatchKey(text);
+}
+
+void AddRegions(RegionMap& map, std::span<const RegionLine> lines) {
+  // Names first: "Buenos Aires" is the province even where a list of the capital's spellings has it too.
+  for (const RegionLine& line : lines) map.emplace(RegionKey(line.country, line.name), line.name);
+  for (const RegionLine& line : lines) {
+    for (const std::string_view spelling : Split(line.spellings, '|')) {
+      if (!spelling.empty()) map.emplace(RegionKey(line.country, spelling), line.name);
+    }
+  }
+}
+
+const RegionMap& Regions() {
+  static const RegionMap regions = [] {
+    RegionMap map;
+    AddRegions(map, RegionsOfAmerica());
+    AddRegions(map, RegionsOfWesternEurope());
+    AddRegions(map, RegionsElsewhere());
+    return map;
+  }();
+  return regions;
+}
+
+std::string_view Lookup(const Country& country, std::string_view text) {
+  const auto found = Regions().find(RegionKey(country.code, text));
+  return found == Regions().end() ? std::string_view() : found->second;
+}
+
+std::vector<std::string_view> SplitAtAny(std::string_view text, std::string_view separators) {
+  std::vector<std::string_view> parts;
+  while (!text.empty()) {
+    const std::size_t end = std::min(text.find_first_of(separators), text.size());
+    if (const std::string_view part = TrimBlanks(text.substr(0, end)); !part.empty()) parts.push_back(part);
+    text.remove_prefix(std::min(end + 1, text.size()));
+  }
+  return parts;
+}
+
+bool IsAbbreviation(std::string_view word) { return word.size() <= 3; }
+
+bool IsCapitals(std::string_view word) {
+  return std::all_of(word.begin(), word.end(), [](char c) { return c >= 'A' && c <= 'Z'; });
+}
+
+// Looks for the region in runs of up to three words, the last words first: "City ST" is the usual order.
+// Short words count only in capitals, since "or", "in" and "me" are words too.
+std::string_view RegionInWords(const Country& country, std::string_view text) {
+  const std::vector<std::string_view> words = SplitAtAny(text, " ,.;:/()-");
+  for (std::size_t length = std::min<std::size_t>(3, words.size()); length > 0; --length) {
+    for (std::size_t start = words.size() - length + 1; start-- > 0;) {
+      const std::string_view first = words[start];
+      if (length == 1 && IsAbbreviation(first) && !IsCapitals(first)) continue;
+      const char* end = words[start + length - 1].data() + words[start + length - 1].size();
+      const std::string_view run(first.data(), static_cast<std::size_t>(end - first.data()));
+      if (const std::string_view region = Lookup(country, run); !region.empty()) return region;
+    }
+  }
+  return {};
+}
+
+// A text that cannot name a region: junk, or the country itself.
+bool IsNoPlace(const Country& country, std::string_view text) {
+  constexpr std::array<std::string_view, 24> kJunk = {
+      "web",     "online",  "internet", "national", "select state", "select one", "none",   "other",
+      "pangea",  "aac",     "mp3",      "music",    "outside us",   "state",      "region", "oblast",
+      "unknown", "classic", "nincs",    "europe",   "world",        "ici",        "global", "any"};
+  const std::string key = MatchKey(text);
+  if (key.size() < 3 || text.size() > kLongestRegion) return true;
+  if (key.find_first_of("0123456789") != std::string::npos || text.find("://") != std::string_view::npos)
+    return true;
+  if (std::find(kJunk.begin(), kJunk.end(), key) != kJunk.end()) return true;
+  return CountryByName(text) == &country;
+}
+
+// The part of a free text that is most likely the region: "Street 7, Town" means Town.
+std::string_view LikelyRegion(const Country& country, std::string_view text) {
+  const std::vector<std::string_view> parts = SplitAtAny(text, ",;()/");
+  for (auto part = parts.rbegin(); part != parts.rend(); ++part) {
+    if (!IsNoPlace(country, *part)) return *part;
+  }
+  return {};
+}
+
+const Country* CountryOf(const SourceStation& station) {
+  if (const Country* country = CountryByCode(station.countryCode)) return country;
+  if (const Country* country = CountryByName(station.country)) return country;
+  return CountryByName(station.region);
+}
+
+// The spelling to show: the most frequent, then one that begins with a capital, then the first in byte order.
+std::string BestSpelling(const std::map<std::string, std::size_t>& spellings) {
+  const auto rank = [](const auto& spelling) {
+    const bool capital = Capitalized(spelling.first) == spelling.first;
+    return std::pair(spelling.second, capital);
+  };
+  const auto best = std::max_element(spellings.begin(), spellings.end(),
+                                     [&](const auto& a, const auto& b) { return rank(a) < rank(b); });
+  return Capitalized(best->first);
+}
+
+struct FreeRegion {
+  std::size_t stations = 0;
+  std::map<std::string, std::size_t> spellings;
+};
+
+}  // namespace
+
+std::string Place::Text() const {
+  if (!country) return {};
+  const std::string& where = region.empty() ? nearby : region;
+  std::string text(country->name);
+  return where.empty() || EqualIgnoringCase(where, text) ? text : where + ", " + text;
+}
+
+std::string_view KnownRegion(const Country& country, std::string_view text) {
+  if (const std::string_view region = Lookup(country, text); !region.empty()) return region;
+  const std::vector<std::string_view> parts = SplitAtAny(text, ",;()/");
+  for (auto part = parts.rbegin(); part != parts.rend(); ++part) {
+    if (const std::string_view region = Lookup(country, *part); !region.empty()) return region;
+  }
+  return RegionInWords(country, text);
+}
+
+std::vector<Place> LocateStations(const std::vector<SourceStation>& stations) {
+  std::vector<Place> places(stations.size());
+  std::map<std::string, FreeRegion> freeRegions;
+  std::vector<std::string> freeKeys(stations.size());
+  for (std::size_t i = 0; i < stations.size(); ++i) {
+    Place& place = places[i];
+    place.country = CountryOf(stations[i]);
+    if (!place.country || stations[i].region.empty()) continue;
+    const std::string& text = stations[i].region;
+    place.region = KnownRegion(*place.country, text);
+    const std::string_view likely = LikelyRegion(*place.country, text);
+    if (!likely.empty() && !EqualIgnoringCase(text, place.region)) place.nearby = Capitalized(likely);
+    if (!place.region.empty() || likely.empty()) continue;
+    freeKeys[i] = RegionKey(place.country->code, likely);
+    FreeRegion& region = freeRegions[freeKeys[i]];
+    ++region.stations;
+    ++region.spellings[std::string(likely)];
+  }
+  for (std::size_t i = 0; i < stations.size(); ++i) {
+    if (freeKeys[i].empty()) continue;
+    const FreeRegion& region = freeRegions[freeKeys[i]];
+    if (region.stations < kLeastForRegion) continue;
+    places[i].region = BestSpelling(region.spellings);
+    places[i].nearby.clear();
+  }
+  return places;
+}
+
+}  // namespace sonaro

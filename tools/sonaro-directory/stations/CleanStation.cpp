@@ -1,0 +1,116 @@
+#include "stations/CleanStation.h"
+
+#include <algorithm>
+#include <set>
+
+#include "base/Text.h"
+#include "stations/Addresses.h"
+#include "text/CleanText.h"
+#include "text/Hints.h"
+
+namespace sonaro {
+namespace {
+
+constexpr std::size_t kLongestName = 200;
+constexpr std::size_t kLongestTag = 60;
+constexpr std::size_t kLongestSlogan = 200;
+constexpr std::size_t kLongestPlaceOrLanguage = 100;
+constexpr std::size_t kMostTags = 40;
+
+std::string CleanField(std::string_view text, std::size_t longest) {
+  const std::string clean = CleanText(DecodeEntities(text));
+  return std::string(TrimBlanks(CutForShow(clean, longest)));
+}
+
+void CleanAddresses(SourceStation& station, SkipLog& log) {
+  std::vector<std::string> usable;
+  std::set<std::string> seen;
+  for (const std::string& raw : station.addresses) {
+    CheckedAddress checked = CheckStreamAddress(raw);
+    if (!checked.problem.empty()) {
+      log.Skip(station.place, raw, checked.problem);
+    } else if (seen.insert(checked.address).second) {
+      usable.push_back(std::move(checked.address));
+    }
+  }
+  station.addresses = BestFirst(std::move(usable));
+}
+
+void CleanWebSite(SourceStation& station, SkipLog& log) {
+  if (station.webSite.empty()) return;
+  CheckedAddress checked = CheckWebSite(station.webSite);
+  if (!checked.problem.empty()) log.Skip(station.place, station.webSite, checked.problem);
+  station.webSite = std::move(checked.address);
+}
+
+void CleanTags(SourceStation& station) {
+  std::vector<std::string> tags;
+  std::set<std::string> seen;
+  for (const std::string& raw : station.tags) {
+    for (const std::string_view part : Split(raw, ';')) {
+      std::string tag = CleanText(DecodeEntities(part));
+      while (tag.starts_with('#') || tag.starts_with(' ')) tag.erase(0, 1);
+      if (tag.empty() || tag.size() > kLongestTag || tags.size() == kMostTags) continue;
+      if (seen.insert(MatchKey(tag)).second) tags.push_back(std::move(tag));
+    }
+  }
+  station.tags = std::move(tags);
+}
+
+std::string CodecByEnding(const std::string& address) {
+  const std::string ending = AddressEnding(address);
+  if (ending == ".mp3") return "MP3";
+  if (ending == ".aac") return "AAC";
+  if (ending == ".aacp") return "AAC+";
+  if (ending == ".ogg" || ending == ".oga") return "OGG";
+  if (ending == ".opus") return "OPUS";
+  if (ending == ".flac") return "FLAC";
+  if (ending == ".wma" || ending == ".asf" || ending == ".asx" || address.starts_with("mms")) return "WMA";
+  if (ending == ".ra" || ending == ".rm" || ending == ".ram" || address.starts_with("pnm")) return "REAL";
+  return {};
+}
+
+// The highest bit rate that a codec's streams have; above it the number means something else.
+std::int64_t HighestBitRate(const std::string& codec) {
+  if (codec == "MP3") return 320;
+  if (codec == "AAC+") return 320;
+  if (codec == "AAC") return 512;
+  return 4608;  // lossless, or not known
+}
+
+void CleanSound(SourceStation& station) {
+  station.codec = CleanField(station.codec, kLongestTag);
+  if (EqualIgnoringCase(station.codec, "UNKNOWN")) station.codec.clear();
+  for (const std::string& address : station.addresses) {
+    if (AddressEnding(address) == ".m3u8" && &address == &station.addresses.front()) station.segmented = true;
+    if (station.codec.empty()) station.codec = CodecByEnding(address);
+  }
+  if (station.codec.empty()) station.codec = CodecIn(station.name);
+  if (station.bitRate <= 0) station.bitRate = BitRateIn(station.name);
+  if (station.bitRate >= 8000) station.bitRate /= 1000;  // typed in bit/s
+  const bool possible = station.bitRate >= 8 && station.bitRate <= HighestBitRate(station.codec);
+  if (!possible) station.bitRate = 0;
+}
+
+}  // namespace
+
+bool CleanStation(SourceStation& station, MakeLogs& logs) {
+  station.name = CleanField(station.name, kLongestName);
+  CleanAddresses(station, logs.addresses);
+  if (station.addresses.empty()) {
+    logs.entries.Skip(station.place, station.name, "without a usable address");
+    return false;
+  }
+  if (station.name.empty()) station.name = HostOfAddress(station.addresses.front());
+  CleanWebSite(station, logs.addresses);
+  CleanTags(station);
+  station.slogan = CleanField(station.slogan, kLongestSlogan);
+  station.country = CleanField(station.country, kLongestPlaceOrLanguage);
+  station.countryCode = CleanField(station.countryCode, kLongestPlaceOrLanguage);
+  station.region = CleanField(station.region, kLongestPlaceOrLanguage);
+  station.language = CleanField(station.language, kLongestPlaceOrLanguage);
+  CleanSound(station);
+  return true;
+}
+
+}  // namespace sonaro
