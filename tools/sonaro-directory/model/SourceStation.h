@@ -27,6 +27,8 @@ struct SourceStation {
   std::optional<std::int64_t> clicks;  // of the last day
   std::optional<bool> answered;        // when the list's maker last tried
 
+  // Of the usable addresses the one that the list gives first: with the name it tells who the station is.
+  std::string firstAddress;
   std::string place;  // where it was read, "file.m3u:12", for messages
 };
 

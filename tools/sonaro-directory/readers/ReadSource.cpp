@@ -19,19 +19,6 @@ namespace {
 constexpr std::size_t kLargestSource = std::size_t{1} << 30;
 constexpr int kMostLayers = 2;  // gzip inside gzip happens; more is an attack
 
-bool ReadBytes(const std::string& path, std::string& bytes) {
-  if (path == "-") {
-    bytes.assign(std::istreambuf_iterator<char>(std::cin), {});
-    return !std::cin.bad();
-  }
-  std::error_code error;
-  if (std::filesystem::is_directory(path, error)) return false;
-  std::ifstream file(path, std::ios::binary);
-  if (!file) return false;
-  bytes.assign(std::istreambuf_iterator<char>(file), {});
-  return !file.bad();
-}
-
 // The first line that is neither empty nor a comment.
 std::string_view FirstPlainLine(std::string_view text) {
   while (!text.empty()) {
@@ -91,11 +78,24 @@ SourceFormat RecogniseFormat(std::string_view text, std::string& why) {
   return SourceFormat::NotAList;
 }
 
+bool ReadFileBytes(const std::string& path, std::string& bytes) {
+  if (path == "-") {
+    bytes.assign(std::istreambuf_iterator<char>(std::cin), {});
+    return !std::cin.bad();
+  }
+  std::error_code error;
+  if (std::filesystem::is_directory(path, error)) return false;
+  std::ifstream file(path, std::ios::binary);
+  if (!file) return false;
+  bytes.assign(std::istreambuf_iterator<char>(file), {});
+  return !file.bad();
+}
+
 SourceResult ReadSource(const std::string& path, SkipLog& skips) {
   SourceResult result;
   const std::string name = path == "-" ? "standard input" : std::filesystem::path(path).filename().string();
   std::string bytes;
-  if (!ReadBytes(path, bytes)) {
+  if (!ReadFileBytes(path, bytes)) {
     result.failure = "Cannot read " + (path == "-" ? name : "\"" + path + "\"") + ".";
     return result;
   }

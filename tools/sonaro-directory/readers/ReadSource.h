@@ -23,6 +23,9 @@ struct SourceResult {
 // `text` is decoded text. When it is no list, `why` says in a clause what it seems to be.
 SourceFormat RecogniseFormat(std::string_view text, std::string& why);
 
+// The bytes of a file, or of standard input for "-". False when it cannot be read.
+bool ReadFileBytes(const std::string& path, std::string& bytes);
+
 SourceResult ReadSource(const std::string& path, SkipLog& skips);
 // The same from bytes in memory; `name` is used in messages.
 SourceResult ReadSourceBytes(const std::string& name, std::string bytes, SkipLog& skips);

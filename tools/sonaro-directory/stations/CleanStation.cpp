@@ -33,6 +33,7 @@ void CleanAddresses(SourceStation& station, SkipLog& log) {
       usable.push_back(std::move(checked.address));
     }
   }
+  if (!usable.empty()) station.firstAddress = usable.front();
   station.addresses = BestFirst(std::move(usable));
 }
 

@@ -13,11 +13,6 @@
 namespace sonaro {
 namespace {
 
-std::string NameKey(const SourceStation& station) {
-  std::string key = MatchKey(station.name);
-  return key.empty() ? FoldCase(station.name) : key;
-}
-
 void FillEmpty(std::string& field, std::string& other) {
   if (field.empty()) field = std::move(other);
 }
@@ -58,7 +53,7 @@ std::size_t JoinSameStations(std::vector<SourceStation>& stations) {
   joined.reserve(stations.size());
   for (SourceStation& station : stations) {
     std::vector<std::string> keys;
-    const std::string name = NameKey(station);
+    const std::string name = NameKey(station.name);
     for (const std::string& address : station.addresses) keys.push_back(name + '\n' + AddressKey(address));
     std::size_t index = joined.size();
     for (const std::string& key : keys) {

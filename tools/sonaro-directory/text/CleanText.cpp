@@ -147,6 +147,11 @@ std::string MatchKey(std::string_view text) {
   return key;
 }
 
+std::string NameKey(std::string_view name) {
+  std::string key = MatchKey(name);
+  return key.empty() ? FoldCase(name) : key;
+}
+
 std::vector<std::string_view> KeyWords(std::string_view key) {
   if (key.empty()) return {};
   return Split(key, ' ');

@@ -21,6 +21,9 @@ std::string DecodeEntities(std::string_view text);
 // apostrophes gone, any other punctuation a blank. "Música Romántica!" and "musica-romantica" have one key.
 std::string MatchKey(std::string_view text);
 
+// The MatchKey of a station's name; of a name without letters and digits the name itself, case folded.
+std::string NameKey(std::string_view name);
+
 // The words of a MatchKey.
 std::vector<std::string_view> KeyWords(std::string_view key);
 

@@ -1,0 +1,71 @@
+#include "check/CheckFolder.h"
+
+#include "base/Numbers.h"
+#include "base/Text.h"
+#include "check/Checks.h"
+#include "text/CleanText.h"
+
+namespace sonaro {
+namespace {
+
+std::string_view WithoutBackslash(std::string_view name) {
+  return name.starts_with('\\') ? name.substr(1) : name;
+}
+
+}  // namespace
+
+std::optional<std::string> CheckContext::Read(std::string_view name, Need need) {
+  ReadResult file = data.Read(name);
+  if (file.status == ReadStatus::Ok) return std::move(file.bytes);
+  if (file.status == ReadStatus::Unreadable) Add(name, 0, "cannot be read");
+  if (file.status == ReadStatus::Missing && need == Need::Required) Add(name, 0, "is missing");
+  return std::nullopt;
+}
+
+void CheckContext::Add(std::string_view name, std::size_t line, std::string_view problem) {
+  findings.Add(WithoutBackslash(name), line, CleanText(problem));
+}
+
+void CheckContext::CheckIds(std::string_view name, std::size_t line, std::string_view list) {
+  if (list.empty()) return;
+  std::unordered_set<std::int32_t> seen;
+  for (const std::string_view token : Split(list, ' ')) {
+    std::int32_t id = 0;
+    const std::string quoted = "\"" + std::string(CutForShow(token, 40)) + "\"";
+    if (token.empty() || !ParseStationId(token, id)) {
+      Add(name, line, quoted + " is no station identifier");
+    } else if (ids.count(id) == 0) {
+      Add(name, line, "station " + std::string(token) + " is not in the station list");
+    } else if (!seen.insert(id).second) {
+      Add(name, line, "station " + std::string(token) + " stands there twice");
+    }
+  }
+}
+
+void CheckContext::CheckTokens(std::string_view name, std::size_t line, std::string_view tokens) {
+  for (const std::string_view token : Split(TrimBlanks(tokens), ' ')) {
+    if (token.empty()) continue;
+    std::int32_t number = 0;
+    const bool own = token.starts_with('P');
+    if (!ParseStationId(own ? token.substr(1) : token, number)) {
+      Add(name, line, "\"" + std::string(CutForShow(token, 40)) + "\" is no station");
+    } else if (own ? personal.count(number) == 0 : ids.count(number) == 0) {
+      Add(name, line, "station " + std::string(token) + " does not exist");
+    }
+  }
+}
+
+void CheckFolder(DataFolder& data, Findings& findings) {
+  CheckContext context{data, findings, BuiltInAlphabets(), {}, {}, {}};
+  CheckAlphabets(context);
+  CheckStationList(context);
+  CheckStationTable(context);
+  CheckEventTables(context);
+  CheckCategories(context);
+  CheckRankings(context);
+  CheckSearchKinds(context);
+  CheckUserFiles(context);
+  CheckOutlines(context);
+}
+
+}  // namespace sonaro

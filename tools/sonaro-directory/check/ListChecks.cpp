@@ -1,0 +1,193 @@
+// The small files: alphabets, rankings, kinds of search, the user's own files, window outlines.
+#include <algorithm>
+#include <set>
+
+#include "base/Numbers.h"
+#include "base/Text.h"
+#include "check/Checks.h"
+#include "output/RankingLists.h"
+#include "playback/PlayLink.h"
+#include "schedule/ScheduleItem.h"
+
+namespace sonaro {
+namespace {
+
+using Need = CheckContext::Need;
+
+// Calls `check(line number, line)` for every line of a file that is not empty.
+template <typename Check>
+void ForEachLine(CheckContext& context, std::string_view name, Need need, Check check) {
+  const std::optional<std::string> text = context.Read(name, need);
+  if (!text) return;
+  std::size_t number = 0;
+  for (const std::string_view line : SplitLines(*text)) {
+    ++number;
+    if (!line.empty()) check(number, line);
+  }
+}
+
+void CheckPersonalStations(CheckContext& context) {
+  constexpr std::string_view kName = "\\personal.snr";
+  constexpr std::size_t kLeastColumns = 2;
+  ForEachLine(context, kName, Need::Optional, [&](std::size_t number, std::string_view line) {
+    const std::vector<std::string_view> columns = Split(line, '\t');
+    std::int32_t index = 0;
+    if (!ParseStationId(columns[0], index) || index <= 0) {
+      context.Add(kName, number, "the line has no index");
+    } else if (columns.size() >= kLeastColumns && !columns[1].empty() &&
+               !context.personal.insert(index).second) {
+      context.Add(kName, number, "the index " + std::to_string(index) + " stands there twice");
+    }
+  });
+}
+
+void CheckOwnLinks(CheckContext& context) {
+  constexpr std::string_view kName = "\\ownlinks.snr";
+  ForEachLine(context, kName, Need::Optional, [&](std::size_t number, std::string_view line) {
+    const std::vector<std::string_view> columns = SplitAtMost(line, '\t', 3);
+    if (columns.size() < 3) {
+      context.Add(kName, number, "the line has less than two tabs");
+      return;
+    }
+    context.CheckTokens(kName, number, columns[0]);
+    if (!IsSafeArgument(PlayLink::FromText(columns[2]).address))
+      context.Add(kName, number, "the link cannot be opened");
+  });
+}
+
+void CheckGroups(CheckContext& context) {
+  constexpr std::string_view kName = "\\favs.snr";
+  constexpr std::size_t kMostGroups = 10;
+  std::set<std::string> names;
+  ForEachLine(context, kName, Need::Optional, [&](std::size_t number, std::string_view line) {
+    const std::vector<std::string_view> columns = SplitAtMost(line, '\t', 2);
+    if (columns.size() < 2) {
+      context.Add(kName, number, "the line has no tab, so it is no group");
+      return;
+    }
+    if (!names.insert(FoldCase(TrimBlanks(columns[0]))).second) {
+      context.Add(kName, number, "there is a group of this name already");
+    }
+    if (names.size() == kMostGroups + 1) context.Add(kName, number, "there are more than ten groups");
+    context.CheckTokens(kName, number, columns[1]);
+  });
+}
+
+void CheckRecent(CheckContext& context) {
+  constexpr std::string_view kName = "\\recent.snr";
+  constexpr std::size_t kMostEntries = 20;
+  ForEachLine(context, kName, Need::Optional, [&](std::size_t number, std::string_view line) {
+    const std::string_view tokens = TrimBlanks(line);
+    if (number > 1) context.Add(kName, number, "there is more than one line");
+    if (Split(tokens, ' ').size() > kMostEntries)
+      context.Add(kName, number, "there are more than 20 entries");
+    context.CheckTokens(kName, number, tokens);
+  });
+}
+
+void CheckSchedule(CheckContext& context) {
+  constexpr std::string_view kName = "\\Sched.snr";
+  constexpr std::size_t kColumns = 7;
+  ForEachLine(context, kName, Need::Optional, [&](std::size_t number, std::string_view line) {
+    const std::vector<std::string_view> columns = SplitAtMost(line, '\t', kColumns);
+    if (columns.size() < kColumns) {
+      context.Add(kName, number, "the line has less than six tabs");
+    } else if (KindOf(columns[5]) == ScheduleKind::Unknown) {
+      context.Add(kName, number,
+                  "\"" + std::string(CutForShow(columns[5], 40)) + "\" is no kind of repetition");
+    }
+  });
+}
+
+void CheckShows(CheckContext& context) {
+  ForEachLine(context, "\\Shows.snr", Need::Optional, [&](std::size_t number, std::string_view line) {
+    if (line.find('X') == std::string_view::npos) context.Add("\\Shows.snr", number, "the show has no name");
+  });
+}
+
+bool IsPointsText(std::string_view points) {
+  constexpr std::size_t kGroup = 10;
+  return points.size() >= 3 * kGroup && points.size() % kGroup == 0 &&
+         points.find_first_not_of("0123456789 -") == std::string_view::npos;
+}
+
+}  // namespace
+
+void CheckAlphabets(CheckContext& context) {
+  const std::optional<std::string> text = context.Read("\\alphabet.snr", Need::Optional);
+  if (text && !ParseAlphabets(*text, context.alphabets)) {
+    context.Add("\\alphabet.snr", 0, "is not two lines of the same 76 different characters");
+  }
+}
+
+void CheckRankings(CheckContext& context) {
+  constexpr std::string_view kName = "\\fun.snr";
+  std::set<std::string> missing;
+  for (const std::string_view name : kRankingNames) missing.insert(FoldCase(name));
+  std::set<std::string> seen;
+  ForEachLine(context, kName, Need::Required, [&](std::size_t number, std::string_view line) {
+    const std::vector<std::string_view> columns = SplitAtMost(line, '\t', 2);
+    const std::string name = FoldCase(columns[0]);
+    if (columns.size() < 2) {
+      context.Add(kName, number, "the line has no tab");
+    } else if (missing.erase(name) == 0) {
+      const std::string quoted = "\"" + std::string(CutForShow(columns[0], 40)) + "\"";
+      context.Add(kName, number, quoted + (seen.count(name) > 0 ? " stands there twice" : " is no ranking"));
+    } else {
+      context.CheckIds(kName, number, TrimBlanks(columns[1]));
+    }
+    seen.insert(name);
+  });
+  if (!seen.empty()) {
+    for (const std::string& name : missing) context.Add(kName, 0, "the ranking \"" + name + "\" is missing");
+  }
+  constexpr std::string_view kReliable = "\\reliable.snr";
+  ForEachLine(context, kReliable, Need::Required, [&](std::size_t number, std::string_view line) {
+    if (number > 1) context.Add(kReliable, number, "there is more than one line");
+    context.CheckIds(kReliable, number, TrimBlanks(line));
+  });
+}
+
+void CheckSearchKinds(CheckContext& context) {
+  constexpr std::string_view kName = "\\searchst.snr";
+  constexpr std::size_t kMostKinds = 6;
+  std::size_t kinds = 0;
+  bool searchesStations = false;
+  ForEachLine(context, kName, Need::Required, [&](std::size_t number, std::string_view line) {
+    const std::vector<std::string_view> columns = SplitAtMost(line, '\t', 3);
+    if (++kinds == kMostKinds + 1) context.Add(kName, number, "there are more than six kinds");
+    if (columns.size() < 2 || columns[0].empty() || columns[1].empty()) {
+      context.Add(kName, number, "the line has no caption or no kind");
+    } else if (columns[1] == "FindStation") {
+      searchesStations = true;
+    } else if (columns.size() < 3 || !columns[2].starts_with("http") ||
+               columns[2].find("<<SearchWord>>") == std::string_view::npos) {
+      context.Add(kName, number, "the search has no address with <<SearchWord>>");
+    }
+  });
+  if (kinds > 0 && !searchesStations) context.Add(kName, 0, "no kind searches the stations");
+}
+
+void CheckUserFiles(CheckContext& context) {
+  CheckPersonalStations(context);
+  CheckOwnLinks(context);
+  CheckGroups(context);
+  CheckRecent(context);
+  CheckSchedule(context);
+  CheckShows(context);
+}
+
+void CheckOutlines(CheckContext& context) {
+  constexpr std::string_view kName = "\\Depot\\sshape.pts";
+  constexpr std::size_t kKeyLength = 5;
+  ForEachLine(context, kName, Need::Optional, [&](std::size_t number, std::string_view line) {
+    const std::size_t equals = line.find('=');
+    if (equals != kKeyLength) {
+      context.Add(kName, number, "the line does not begin with a key of five characters and \"=\"");
+    } else if (!IsPointsText(line.substr(equals + 1))) {
+      context.Add(kName, number, "the points are not groups of two five-character numbers");
+    }
+  });
+}
+
+}  // namespace sonaro

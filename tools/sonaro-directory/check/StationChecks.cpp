@@ -1,0 +1,207 @@
+// The station list, the station table and the event tables.
+#include <algorithm>
+#include <array>
+
+#include "base/Dates.h"
+#include "base/Numbers.h"
+#include "base/Text.h"
+#include "base/Utf8.h"
+#include "check/Checks.h"
+#include "directory/EvList.h"
+#include "directory/StatList.h"
+#include "playback/PlayLink.h"
+#include "playback/WebAddress.h"
+
+namespace sonaro {
+namespace {
+
+constexpr std::string_view kListName = "\\station.snr";
+constexpr std::size_t kColumns = StationRecord::kFieldCount + 1;
+
+bool HasControlCharacter(std::string_view text) {
+  return std::any_of(text.begin(), text.end(),
+                     [](char c) { return static_cast<unsigned char>(c) < 0x20 || c == 0x7F; });
+}
+
+bool IsUtf8(std::string_view text) {
+  for (std::size_t position = 0; position < text.size();) {
+    const std::size_t length = DecodeUtf8(text, position).length;
+    if (length == 0) return false;
+    position += length;
+  }
+  return true;
+}
+
+bool IsDigitUpTo(std::string_view text, char highest) {
+  return text.empty() || (text.size() == 1 && text[0] >= '0' && text[0] <= highest);
+}
+
+class RecordCheck {
+ public:
+  RecordCheck(CheckContext& context, std::size_t line, const StationRecord& record)
+      : context_(context), line_(line), record_(record) {}
+
+  void Run() {
+    CheckTexts();
+    CheckLinks();
+    CheckNumbers();
+  }
+
+ private:
+  void Add(const std::string& problem) { context_.Add(kListName, line_, problem); }
+
+  void CheckTexts() {
+    for (std::size_t i = 0; i < record_.fields.size(); ++i) {
+      const std::string field = "field " + std::to_string(i + 1);
+      if (HasControlCharacter(record_.fields[i])) Add(field + " holds a control character");
+      if (!IsUtf8(record_.fields[i])) Add(field + " is not valid UTF-8");
+    }
+    if (TrimBlanks(record_[StationField::Name]).empty()) Add("the station has no name");
+  }
+
+  std::string Plain(StationField field) const {
+    std::string text = record_[field];
+    return UnscrambleText(text, context_.alphabets);
+  }
+
+  void CheckLinks() {
+    for (const StationField field : {StationField::LinkOne, StationField::LinkTwo, StationField::LinkThree,
+                                     StationField::AlternateLink}) {
+      const std::string text = Plain(field);
+      if (text.empty()) continue;
+      const PlayLink link = PlayLink::FromText(text);
+      if (!IsSafeArgument(link.address) || link.address.find("://") == std::string::npos) {
+        Add("the link in field " + std::to_string(static_cast<int>(field)) + " cannot be opened");
+      }
+    }
+    if (record_[StationField::LinkOne].empty() && record_[StationField::WebSite].empty()) {
+      Add("the station has neither a link nor a web site");
+    }
+    const std::string webSite = Plain(StationField::WebSite);
+    if (!webSite.empty() && !IsWebAddress(webSite.starts_with("http") ? webSite : "http://" + webSite)) {
+      Add("the web site cannot be opened");
+    }
+  }
+
+  void CheckNumbers() {
+    const std::string& bitRate = record_[StationField::BitRate];
+    if (bitRate.find_first_not_of("0123456789") != std::string::npos) Add("the bit rate is no number");
+    for (const StationField field : {StationField::OverallRating, StationField::SpeedRating,
+                                     StationField::SoundRating, StationField::WebSiteRating}) {
+      if (!IsDigitUpTo(record_[field], '9')) {
+        Add("the rating in field " + std::to_string(static_cast<int>(field)) + " is not one digit");
+      }
+    }
+    if (!IsDigitUpTo(record_[StationField::Reliability], '4')) Add("the reliability is not 0 to 4");
+  }
+
+  CheckContext& context_;
+  std::size_t line_;
+  const StationRecord& record_;
+};
+
+void CheckStationLine(CheckContext& context, std::size_t number, std::string_view line) {
+  const std::vector<std::string_view> columns = Split(line, '\t');
+  StationRecord record;
+  if (columns.size() != kColumns) {
+    context.Add(
+        kListName, number,
+        "the line has " + std::to_string(columns.size()) + " columns, not " + std::to_string(kColumns));
+  }
+  if (!ParseStationId(columns[0], record.StationId) || record.StationId <= 0) {
+    context.Add(kListName, number,
+                "\"" + std::string(CutForShow(columns[0], 40)) + "\" is no station identifier");
+    return;
+  }
+  for (std::size_t i = 1; i < std::min(columns.size(), kColumns); ++i) record.fields[i - 1] = columns[i];
+  if (!context.ids.insert(record.StationId).second) {
+    context.Add(kListName, number, "station " + std::to_string(record.StationId) + " stands there twice");
+    return;
+  }
+  RecordCheck(context, number, record).Run();
+  context.stations.push_back(std::move(record));
+}
+
+bool IsGmtStamp(const std::string& text) {
+  if (text.size() != 12 || text.find_first_not_of("0123456789") != std::string::npos) return false;
+  const auto part = [&](std::size_t start, std::size_t length) {
+    return static_cast<int>(NumberValue(text.substr(start, length)));
+  };
+  return IsValid(Date{part(0, 4), part(4, 2), part(6, 2)}) && part(8, 2) < 24 && part(10, 2) < 60;
+}
+
+void CheckEvent(CheckContext& context, std::string_view table, const EventRecord& event) {
+  const std::string name = "event " + std::to_string(event.EventId);
+  std::int32_t station = 0;
+  if (event[EventField::Name].empty()) context.Add(table, 0, name + " has no name");
+  if (!ParseStationId(event[EventField::StationId], station) || context.ids.count(station) == 0) {
+    context.Add(table, 0, name + " is of a station that is not in the station list");
+  }
+  if (!IsGmtStamp(event[EventField::StartGmt])) context.Add(table, 0, name + " has no start");
+}
+
+}  // namespace
+
+void CheckStationList(CheckContext& context) {
+  const std::optional<std::string> text = context.Read(kListName, CheckContext::Need::Required);
+  if (!text) return;
+  std::size_t number = 0;
+  for (const std::string_view line : SplitLines(*text)) {
+    ++number;
+    if (!line.empty()) CheckStationLine(context, number, line);
+  }
+  if (context.stations.empty()) context.Add(kListName, 0, "holds no station");
+  std::sort(context.stations.begin(), context.stations.end(),
+            [](const StationRecord& a, const StationRecord& b) { return a.StationId < b.StationId; });
+}
+
+void CheckStationTable(CheckContext& context) {
+  constexpr std::string_view kTable = "\\Statorg.isd";
+  for (const std::string_view name : {kTable, std::string_view("\\Statorg.ism")}) {
+    if (!context.data.Exists(name)) context.Add(name, 0, "is missing");
+  }
+  if (!context.data.Exists(kTable) || !context.data.Exists("\\Statorg.ism")) return;
+  StatList table(context.data);
+  if (!table.Verify()) {
+    context.Add(kTable, 0, "the station table is damaged");
+    return;
+  }
+  if (table.StationCount() != context.stations.size()) {
+    context.Add(kTable, 0,
+                "holds " + std::to_string(table.StationCount()) + " stations, the station list " +
+                    std::to_string(context.stations.size()));
+  }
+  std::vector<std::int32_t> ids;
+  for (const StationRecord& record : context.stations) ids.push_back(record.StationId);
+  const std::vector<StationRecord> stored = table.GetStations(ids);
+  auto next = stored.begin();
+  for (const StationRecord& record : context.stations) {
+    if (next == stored.end() || next->StationId != record.StationId) {
+      context.Add(kTable, 0,
+                  "station " + std::to_string(record.StationId) + " of the station list is not in it");
+      continue;
+    }
+    if (*next != record) {
+      context.Add(kTable, 0,
+                  "station " + std::to_string(record.StationId) + " differs from the station list");
+    }
+    ++next;
+  }
+}
+
+void CheckEventTables(CheckContext& context) {
+  constexpr std::array<std::pair<EventSet, std::string_view>, 2> kTables = {
+      {{EventSet::Current, "\\Eventorg.isd"}, {EventSet::Coming, "\\Eventorg2.isd"}}};
+  EvList table(context.data);
+  for (const auto& [set, name] : kTables) {
+    if (!context.data.Exists(name)) continue;  // a folder without events is whole
+    const std::vector<EventRecord> events = table.AllEvents(set);
+    if (table.LastStatus() != TableStatus::Success) {
+      context.Add(name, 0, "the event table is damaged");
+      continue;
+    }
+    for (const EventRecord& event : events) CheckEvent(context, name, event);
+  }
+}
+
+}  // namespace sonaro

@@ -1,0 +1,59 @@
+#include <array>
+#include <ostream>
+
+#include "commands/Commands.h"
+
+namespace sonaro {
+namespace {
+
+constexpr std::string_view kHelp =
+    R"(sonaro-directory: real lists of internet radio stations in, a data folder for Sonaro out.
+
+  sonaro-directory make SOURCE... --out DIR [options]
+      Makes a data folder out of station lists: JSON Lines, radio-browser JSON,
+      M3U, PLS and OPML, plain or gzip, told apart by content; "-" is standard
+      input.
+        --player asx|real  which player the links are for (asx: the program
+                           for .asx files; that is the default)
+        --limit N          only the N best stations
+        --previous DIR     keep the station identifiers of that data folder
+        --events FILE      broadcast events, JSON Lines
+        -v, --verbose      explain everything that is left out
+  sonaro-directory show DIR ID
+      Shows one station, links in plain text.
+  sonaro-directory search DIR [--any] WORD...
+      Lists the identifiers of stations that have all (any) of the words.
+  sonaro-directory check DIR
+      Verifies every file of a data folder and says what is wrong.
+
+Exit status: 0 done, 1 failed or something is wrong, 2 wrong use.
+)";
+
+struct Command {
+  std::string_view name;
+  int (*run)(Arguments, Console&);
+};
+
+constexpr std::array<Command, 4> kCommands = {
+    {{"make", RunMake}, {"show", RunShow}, {"search", RunSearch}, {"check", RunCheck}}};
+
+}  // namespace
+
+int RunTool(Arguments arguments, Console& console) {
+  if (arguments.empty()) {
+    console.err << kHelp;
+    return kWrongUse;
+  }
+  const std::string& name = arguments.front();
+  if (name == "--help" || name == "-h" || name == "help") {
+    console.out << kHelp;
+    return kDone;
+  }
+  for (const Command& command : kCommands) {
+    if (name == command.name) return command.run(arguments.subspan(1), console);
+  }
+  console.err << "There is no command \"" << name << "\"; see sonaro-directory --help.\n";
+  return kWrongUse;
+}
+
+}  // namespace sonaro

@@ -1,0 +1,119 @@
+#include "output/DirectoryWriter.h"
+
+#include <algorithm>
+#include <numeric>
+#include <set>
+#include <vector>
+
+#include "app/ServiceHosts.h"
+#include "base/Text.h"
+#include "directory/EvList.h"
+#include "directory/StatList.h"
+#include "output/CategoryTree.h"
+#include "output/RankingLists.h"
+
+namespace sonaro {
+namespace {
+
+std::string ListFileName(std::string_view file) { return "\\" + std::string(file) + ".snr"; }
+
+// Saves files until one fails, and remembers which.
+class Saver {
+ public:
+  explicit Saver(DataFolder& data) : data_(data) {}
+
+  void Save(const std::string& name, std::string_view bytes) {
+    if (failed_.empty() && !data_.Save(name, bytes)) failed_ = data_.Path(name);
+  }
+  const std::string& Failed() const { return failed_; }
+
+ private:
+  DataFolder& data_;
+  std::string failed_;
+};
+
+// List files of genres and places that an earlier run wrote and this one did not.
+void RemoveStaleLists(DataFolder& data, const std::set<std::string>& written) {
+  for (const std::string& name : data.FileSystem().List(data.Folder())) {
+    const bool ours = (name.starts_with("genre-") || name.starts_with("place-")) && name.ends_with(".snr");
+    if (ours && written.count("\\" + name) == 0) data.Remove("\\" + name);
+  }
+}
+
+void SaveTree(Saver& saver, const CategoryTree& tree, const Directory& directory,
+              std::set<std::string>& written) {
+  for (const Category& category : tree.categories) {
+    const std::string name = ListFileName(category.file);
+    saver.Save(name, CategoryEntries(category, directory));
+    written.insert(name);
+  }
+  saver.Save(tree.fileName, CategoryList(tree));
+}
+
+bool WriteEventTable(EvList& events, EventSet set, const std::vector<EventRecord>& records) {
+  if (!events.CreateEventTable(set)) return false;
+  const EvList::Handle table = events.OpenEventTable(set, EvList::OpenMode::Write);
+  if (table == 0) return false;
+  bool written = true;
+  for (const EventRecord& record : records) written = events.PutEvent(table, record) && written;
+  events.CloseEventTable(table);
+  return written && events.LastStatus() == TableStatus::Success;
+}
+
+std::string CannotWrite(const std::string& path) { return "Cannot write \"" + path + "\"."; }
+
+}  // namespace
+
+std::string StationListText(const Directory& directory, const WriteOptions& options) {
+  std::vector<std::size_t> order(directory.stations.size());
+  std::iota(order.begin(), order.end(), std::size_t{0});
+  std::sort(order.begin(), order.end(), [&](std::size_t a, std::size_t b) {
+    return directory.stations[a].id < directory.stations[b].id;
+  });
+  std::string text;
+  for (const std::size_t index : order) {
+    const StationRecord record = RecordOf(directory.stations[index], options.player, options.alphabets);
+    text += std::to_string(record.StationId);
+    for (const std::string& field : record.fields) text.append(1, '\t').append(field);
+    text += "\r\n";
+  }
+  return text;
+}
+
+std::string SearchKindsText() {
+  const auto webKind = [](std::string_view caption, std::string_view name, std::string_view path) {
+    return std::string(caption) + '\t' + std::string(name) + '\t' +
+           ServiceAddress(ServiceHost::Search,
+                          std::string(path) + "?words=<<SearchWord>>&match=<<SearchOpt>>") +
+           "\r\n";
+  };
+  return "Stations\tFindStation\t\r\n" + webKind("Shows and events", "FindShow", "/shows") +
+         webKind("Artists and titles", "FindArtist", "/artists") + webKind("The web", "FindWeb", "/web");
+}
+
+std::string WriteDirectory(DataFolder& data, const Directory& directory, const EventRecords& events,
+                           const WriteOptions& options) {
+  if (!data.FileSystem().MakeFolder(data.Folder()))
+    return "Cannot make the folder \"" + data.Folder() + "\".";
+  Saver saver(data);
+  saver.Save("\\station.snr", StationListText(directory, options));
+  if (!saver.Failed().empty()) return CannotWrite(saver.Failed());
+  StatList stations(data);
+  if (!stations.RebuildStationTable()) return CannotWrite(data.Path("\\Statorg.isd"));
+  EvList eventTables(data);
+  if (!WriteEventTable(eventTables, EventSet::Current, events.current))
+    return CannotWrite(data.Path("\\Eventorg.isd"));
+  if (!WriteEventTable(eventTables, EventSet::Coming, events.coming))
+    return CannotWrite(data.Path("\\Eventorg2.isd"));
+  std::set<std::string> written;
+  SaveTree(saver, GenreTree(directory), directory, written);
+  SaveTree(saver, PlaceTree(directory), directory, written);
+  saver.Save("\\fun.snr", RankingList(directory));
+  saver.Save("\\reliable.snr", ReliableList(directory));
+  saver.Save("\\searchst.snr", SearchKindsText());
+  if (!saver.Failed().empty()) return CannotWrite(saver.Failed());
+  RemoveStaleLists(data, written);
+  return {};
+}
+
+}  // namespace sonaro

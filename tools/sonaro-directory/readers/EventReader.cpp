@@ -1,0 +1,69 @@
+#include "readers/EventReader.h"
+
+#include <algorithm>
+#include <nlohmann/json.hpp>
+#include <optional>
+#include <utility>
+
+#include "base/Text.h"
+#include "text/CleanText.h"
+
+namespace sonaro {
+namespace {
+
+using Json = nlohmann::json;
+
+constexpr int kLongestEvent = 7 * 24 * 60;  // minutes
+
+std::string TextOf(const Json& object, const char* key) {
+  const auto found = object.find(key);
+  if (found == object.end()) return {};
+  if (found->is_number_integer()) return std::to_string(found->get<std::int64_t>());
+  return found->is_string() ? CleanText(found->get<std::string>()) : std::string();
+}
+
+// "2025-05-01T18:30:00Z", "2025-05-01 18:30".
+std::optional<DateTime> ParseStart(std::string text) {
+  if (text.ends_with('Z')) text.pop_back();
+  std::replace(text.begin(), text.end(), 'T', ' ');
+  return ParseDate(text);
+}
+
+}  // namespace
+
+std::vector<SourceEvent> ReadEvents(const std::string& name, std::string_view text, SkipLog& skips) {
+  std::vector<SourceEvent> events;
+  std::size_t number = 0;
+  for (const std::string_view line : SplitLines(text)) {
+    ++number;
+    if (TrimBlanks(line).empty()) continue;
+    const std::string place = name + ":" + std::to_string(number);
+    const Json object = Json::parse(line, nullptr, /*allow_exceptions=*/false);
+    if (!object.is_object()) {
+      skips.Skip(place, line, "not a complete JSON object");
+      continue;
+    }
+    SourceEvent event;
+    event.place = place;
+    event.name = TextOf(object, "name");
+    event.station = TextOf(object, "station");
+    event.category = TextOf(object, "category");
+    event.web = TextOf(object, "web");
+    event.description = TextOf(object, "description");
+    const auto minutes = object.find("minutes");
+    if (minutes != object.end() && minutes->is_number_integer()) {
+      event.minutes =
+          static_cast<int>(std::clamp<std::int64_t>(minutes->get<std::int64_t>(), 0, kLongestEvent));
+    }
+    const std::optional<DateTime> start = ParseStart(TextOf(object, "start"));
+    if (event.name.empty() || event.station.empty() || !start) {
+      skips.Skip(place, event.name, "an event without a name, a station or a start");
+      continue;
+    }
+    event.start = *start;
+    events.push_back(std::move(event));
+  }
+  return events;
+}
+
+}  // namespace sonaro

@@ -1,0 +1,80 @@
+#include "stations/StationIds.h"
+
+#include <algorithm>
+#include <numeric>
+
+#include "base/Numbers.h"
+#include "base/Text.h"
+#include "directory/StationRecord.h"
+#include "playback/PlayLink.h"
+#include "stations/Addresses.h"
+#include "stations/IdNumbers.h"
+#include "text/CleanText.h"
+
+namespace sonaro {
+namespace {
+
+std::string Identity(std::string_view name, std::string_view address) {
+  return NameKey(name) + '\n' + AddressKey(address);
+}
+
+}  // namespace
+
+EarlierIds::EarlierIds(std::string_view stationList, const ScramblingAlphabets& alphabets) {
+  constexpr std::size_t kColumns = StationRecord::kFieldCount + 1;
+  for (const std::string_view line : SplitLines(stationList)) {
+    const std::vector<std::string_view> columns = SplitAtMost(line, '\t', kColumns);
+    std::int32_t id = 0;
+    if (columns.size() < kColumns || !ParseStationId(columns[0], id) || id <= 0) continue;
+    if (!ids_.insert(id).second) continue;
+    const auto plain = [&](StationField field) {
+      std::string text(columns[static_cast<std::size_t>(field)]);
+      return UnscrambleText(text, alphabets);
+    };
+    const std::string_view name = columns[static_cast<std::size_t>(StationField::Name)];
+    for (const StationField field : {StationField::LinkOne, StationField::LinkTwo, StationField::LinkThree,
+                                     StationField::AlternateLink}) {
+      const std::string address = PlayLink::FromText(plain(field)).address;
+      if (!address.empty()) byNameAndAddress_.emplace(Identity(name, address), id);
+    }
+    const std::string webSite = plain(StationField::WebSite);
+    if (!webSite.empty()) byNameAndWebSite_.emplace(Identity(name, webSite), id);
+  }
+}
+
+std::int32_t EarlierIds::Find(const SourceStation& station) const {
+  for (const std::string& address : station.addresses) {
+    const auto found = byNameAndAddress_.find(Identity(station.name, address));
+    if (found != byNameAndAddress_.end()) return found->second;
+  }
+  const auto found = byNameAndWebSite_.find(Identity(station.name, station.webSite));
+  return found != byNameAndWebSite_.end() ? found->second : 0;
+}
+
+void AssignIds(std::vector<DirectoryStation>& stations, const EarlierIds& earlier) {
+  std::vector<std::string> identities;
+  identities.reserve(stations.size());
+  for (const DirectoryStation& station : stations) {
+    identities.push_back(Identity(station.source.name, station.source.firstAddress));
+  }
+  std::vector<std::size_t> order(stations.size());
+  std::iota(order.begin(), order.end(), std::size_t{0});
+  std::sort(order.begin(), order.end(),
+            [&](std::size_t a, std::size_t b) { return identities[a] < identities[b]; });
+
+  std::unordered_set<std::int32_t> taken;
+  for (const std::size_t index : order) {
+    const std::int32_t id = earlier.Find(stations[index].source);
+    if (id != 0 && taken.insert(id).second) stations[index].id = id;
+  }
+  for (const std::size_t index : order) {
+    if (stations[index].id != 0) continue;
+    stations[index].id = FirstFreeId(IdNumber(identities[index]), [&](std::int32_t id) {
+      return taken.count(id) == 0 && !earlier.Has(id);
+    });
+    stations[index].isNew = true;
+    taken.insert(stations[index].id);
+  }
+}
+
+}  // namespace sonaro

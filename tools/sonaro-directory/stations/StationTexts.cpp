@@ -1,0 +1,115 @@
+#include "stations/StationTexts.h"
+
+#include <array>
+#include <utility>
+#include <vector>
+
+#include "base/Text.h"
+#include "places/Languages.h"
+#include "playback/PlayLink.h"
+#include "text/CleanText.h"
+
+namespace sonaro {
+namespace {
+
+constexpr std::size_t kMostTagsTold = 12;
+constexpr std::size_t kLongestTagsTold = 220;
+
+std::string TagsTold(const SourceStation& station) {
+  std::vector<std::string> told;
+  std::size_t length = 0;
+  for (const std::string& tag : station.tags) {
+    length += tag.size() + 2;
+    if (told.size() == kMostTagsTold || length > kLongestTagsTold) break;
+    told.push_back(tag);
+  }
+  return Capitalized(JoinAsSentence(told));
+}
+
+std::string WhereFrom(const Place& place) {
+  const std::string text = place.Text();
+  if (place.nearby.empty() || text.starts_with(place.nearby)) return text;
+  // A city that the list names beside its region keeps the station findable by it.
+  return ContainsIgnoringCase(place.nearby, place.region)
+             ? place.nearby + ", " + std::string(place.country->name)
+             : place.nearby + ", " + text;
+}
+
+std::string SoundTold(const SourceStation& station) {
+  const std::string type = MediaTypeOf(station);
+  if (station.bitRate == 0) return type.empty() ? "" : type + ".";
+  const std::string rate = std::to_string(station.bitRate) + " kbit/s.";
+  return type.empty() ? rate : type + " at " + rate;
+}
+
+std::string LinkText(const std::string& address, LinkPlayer player) {
+  return PlayLink{player == LinkPlayer::Asx ? PlayWay::AsxProgram : PlayWay::RealPlayer, address}.ToText();
+}
+
+}  // namespace
+
+std::string MediaTypeOf(const SourceStation& station) {
+  constexpr std::array<std::pair<std::string_view, std::string_view>, 10> kNames = {
+      {{"MP3", "MP3"},
+       {"AAC", "AAC"},
+       {"AAC+", "AAC+"},
+       {"OPUS", "Opus"},
+       {"FLAC", "FLAC"},
+       {"WMA", "Windows Media"},
+       {"REAL", "RealAudio"},
+       {"FLV", "Flash"},
+       {"AAC,H.264", "Video"},
+       {"AAC+,H.264", "Video"}}};
+  for (const auto& [codec, name] : kNames) {
+    if (station.codec == codec) return std::string(name);
+  }
+  constexpr std::int64_t kOnlyLossless = 500;  // kbit/s that no lossy Ogg stream has
+  if (station.codec == "OGG") return station.bitRate > kOnlyLossless ? "FLAC" : "Ogg Vorbis";
+  if (!station.codec.empty()) return station.codec;
+  return station.segmented ? "HLS" : "";
+}
+
+std::string DescriptionOf(const DirectoryStation& station) {
+  const SourceStation& source = station.source;
+  std::string text = source.slogan;
+  if (!text.empty()) text += text.ends_with('.') || text.ends_with('!') || text.ends_with('?') ? " " : ". ";
+  std::string sentence = TagsTold(source);
+  if (sentence.empty()) sentence = station.genres.Format();
+  const std::vector<std::string> languages = LanguagesIn(source.language);
+  const std::string where = WhereFrom(station.place);
+  if (sentence.empty() && (!languages.empty() || !where.empty())) sentence = "Radio";
+  if (!languages.empty()) sentence += " in " + JoinAsSentence(languages);
+  if (!where.empty()) sentence += " from " + where;
+  if (!sentence.empty()) text += sentence + ". ";
+  text += SoundTold(source);
+  return CleanText(text);
+}
+
+StationRecord RecordOf(const DirectoryStation& station, LinkPlayer player,
+                       const ScramblingAlphabets& alphabets) {
+  const SourceStation& source = station.source;
+  StationRecord record;
+  record.StationId = station.id;
+  record[StationField::Name] = source.name;
+  record[StationField::MediaType] = MediaTypeOf(source);
+  record[StationField::Location] = station.place.Text();
+  record[StationField::Format] = station.genres.Format();
+  record[StationField::Description] = DescriptionOf(station);
+  constexpr std::array<StationField, 4> kLinks = {StationField::LinkOne, StationField::LinkTwo,
+                                                  StationField::LinkThree, StationField::AlternateLink};
+  for (std::size_t i = 0; i < kLinks.size() && i < source.addresses.size(); ++i) {
+    record[kLinks[i]] = LinkText(source.addresses[i], player);
+    ScrambleText(record[kLinks[i]], alphabets);
+  }
+  record[StationField::WebSite] = source.webSite;
+  ScrambleText(record[StationField::WebSite], alphabets);
+  if (source.bitRate > 0) record[StationField::BitRate] = std::to_string(source.bitRate);
+  record[StationField::OverallRating] = std::to_string(station.ratings.overall);
+  record[StationField::SpeedRating] = std::to_string(station.ratings.speed);
+  record[StationField::SoundRating] = std::to_string(station.ratings.sound);
+  record[StationField::WebSiteRating] = std::to_string(station.ratings.webSite);
+  record[StationField::Reliability] = std::to_string(station.ratings.reliability);
+  return record;
+}
+
+}  // namespace sonaro
