@@ -24,9 +24,9 @@ inline constexpr char kOtherGenre = 'z';
 // In the order in which they are written; the tree sorts them by name.
 std::span<const Genre> GenreList();
 
-// The lines of the table, in two parts: music that is a style of its own in the first, everything else in the
-// other.
+// The lines of the table: styles of music, music of parts of the world, everything else.
 std::span<const GenreLine> MusicTags();
+std::span<const GenreLine> WorldTags();
 std::span<const GenreLine> OtherTags();
 
 // Tags that say nothing about what is played: "radio", "fm", "online", networks, towns.

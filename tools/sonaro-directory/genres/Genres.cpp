@@ -6,6 +6,7 @@
 
 #include "base/Text.h"
 #include "places/Countries.h"
+#include "places/Languages.h"
 #include "places/Places.h"
 #include "text/CleanText.h"
 
@@ -171,6 +172,7 @@ const TagMap& Tags() {
   static const TagMap tags = [] {
     TagMap map;
     AddLines(map, MusicTags());
+    AddLines(map, WorldTags());
     AddLines(map, OtherTags());
     return map;
   }();
@@ -207,10 +209,12 @@ std::vector<GenreEntry> GenresInWords(const std::vector<std::string_view>& words
   return entries;
 }
 
+// "104", "fm", "128kbps".
 bool IsFrequencyWord(std::string_view word) {
   constexpr std::string_view kUnits[] = {"fm",    "am", "khz", "mhz", "kbps",   "kbit",
                                          "kbits", "kb", "s",   "k",   "region", "hz"};
-  return word.find_first_not_of("0123456789") == std::string_view::npos || IsOneOf(kUnits, word);
+  const std::size_t digits = std::min(word.find_first_not_of("0123456789"), word.size());
+  return digits == word.size() || IsOneOf(kUnits, word.substr(digits));
 }
 
 // A tag that tells nothing about the programme: a filler, a frequency, a country or one of its regions.
@@ -223,7 +227,7 @@ bool SaysNothing(std::string_view tag, std::string_view key, const Country* coun
   if (key.empty() || kFillers.count(std::string(key)) > 0) return true;
   const std::vector<std::string_view> words = KeyWords(key);
   if (std::all_of(words.begin(), words.end(), IsFrequencyWord)) return true;
-  if (CountryByName(tag)) return true;
+  if (CountryByName(tag) || IsLanguage(tag)) return true;
   return country && !KnownRegion(*country, tag).empty();
 }
 
@@ -254,7 +258,7 @@ void PutMainFirst(std::vector<GenreEntry>& entries) {
 }  // namespace
 
 std::string Classification::Format() const {
-  if (entries.empty()) return {};
+  if (entries.empty()) return std::string(GenreByCode(kOtherGenre)->name);
   return std::string(entries.front().subGenre.empty() ? entries.front().genre->name
                                                       : entries.front().subGenre);
 }

@@ -19,7 +19,7 @@ struct GenreEntry {
 struct Classification {
   std::vector<GenreEntry> entries;  // the main one first; at most kMostGenres; empty: it belongs under Other
   std::string otherTag;             // the first tag that says something, when there are no entries
-  // The main genre as the list shows it; "" when there is none.
+  // The main genre as the list shows it.
   std::string Format() const;
 };
 

@@ -176,7 +176,7 @@ constexpr GenreLine kLines[] = {
      "funk|funky|disco|disco funk|disco music|groove|rare groove|boogie|discofunk|discomusic 70|70s "
      "disco|диско|"
      "disco 80|p funk|disco hits|classic disco|discoteca"},
-    {'h', "Gospel & Neo Soul", "neo soul|neosoul|nu soul"},
+    {'h', "Neo Soul", "neo soul|neosoul|nu soul"},
     {'h', "Hip-Hop",
      "hiphop|hip hop|hip hop music|hip hop and rap|хип хоп|underground hip hop|hip hop rap|turntablism|hip "
      "hop rnb"},

@@ -14,7 +14,7 @@ namespace sonaro {
 struct DirectoryStation {
   std::int32_t id = 0;
   SourceStation source;
-  Place place;
+  StationPlace place;
   Classification genres;
   Ratings ratings;
   bool isNew = false;  // not in the directory that this one follows

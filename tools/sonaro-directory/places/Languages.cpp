@@ -113,6 +113,8 @@ std::string WithCapitals(std::string_view name) {
 
 }  // namespace
 
+bool IsLanguage(std::string_view text) { return BySpelling().count(MatchKey(text)) > 0; }
+
 std::vector<std::string> LanguagesIn(std::string_view text) {
   std::string plain(text);
   std::replace_if(

@@ -11,4 +11,7 @@ namespace sonaro {
 // "engilsh" are), each once, at most four. Names may be joined by commas, semicolons or slashes.
 std::vector<std::string> LanguagesIn(std::string_view text);
 
+// True for the name of a known language in any of its spellings.
+bool IsLanguage(std::string_view text);
+
 }  // namespace sonaro

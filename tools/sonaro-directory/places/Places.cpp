@@ -81,27 +81,58 @@ std::string_view RegionInWords(const Country& country, std::string_view text) {
   return {};
 }
 
-// A text that cannot name a region: junk, or the country itself.
-bool IsNoPlace(const Country& country, std::string_view text) {
-  constexpr std::array<std::string_view, 24> kJunk = {
-      "web",     "online",  "internet", "national", "select state", "select one", "none",   "other",
-      "pangea",  "aac",     "mp3",      "music",    "outside us",   "state",      "region", "oblast",
-      "unknown", "classic", "nincs",    "europe",   "world",        "ici",        "global", "any"};
+// A text that cannot name a region: junk, or a country.
+bool IsNoPlace(std::string_view text) {
+  constexpr std::array<std::string_view, 29> kJunk = {
+      "aucun",    "bach",         "sef",        "i italien", "groupe bz", "web",     "online",  "internet",
+      "national", "select state", "select one", "none",      "other",     "pangea",  "aac",     "mp3",
+      "music",    "outside us",   "state",      "region",    "oblast",    "unknown", "classic", "nincs",
+      "europe",   "world",        "ici",        "global",    "any"};
   const std::string key = MatchKey(text);
   if (key.size() < 3 || text.size() > kLongestRegion) return true;
   if (key.find_first_of("0123456789") != std::string::npos || text.find("://") != std::string_view::npos)
     return true;
   if (std::find(kJunk.begin(), kJunk.end(), key) != kJunk.end()) return true;
-  return CountryByName(text) == &country;
+  return CountryByName(text) != nullptr;
 }
 
-// The part of a free text that is most likely the region: "Street 7, Town" means Town.
-std::string_view LikelyRegion(const Country& country, std::string_view text) {
-  const std::vector<std::string_view> parts = SplitAtAny(text, ",;()/");
-  for (auto part = parts.rbegin(); part != parts.rend(); ++part) {
-    if (!IsNoPlace(country, *part)) return *part;
+// Countries all of whose regions are in the table: what is not there is a town or somebody's mistake.
+bool HasAllRegions(const Country& country) {
+  constexpr std::array<std::string_view, 16> kComplete = {"AR", "AT", "AU", "BR", "CA", "CN", "DE", "ES",
+                                                          "FR", "GB", "IT", "MX", "NL", "PL", "CL", "US"};
+  return std::find(kComplete.begin(), kComplete.end(), country.code) != kComplete.end();
+}
+
+// "Khomas Region" is "Khomas".
+std::string_view WithoutKind(std::string_view region) {
+  constexpr std::array<std::string_view, 6> kKinds = {"region",   "province", "state",
+                                                      "district", "county",   "oblast"};
+  const std::size_t blank = region.rfind(' ');
+  if (blank == std::string_view::npos || blank == 0) return region;
+  const std::string last = FoldCase(region.substr(blank + 1));
+  return std::find(kKinds.begin(), kKinds.end(), last) == kKinds.end() ? region
+                                                                       : TrimBlanks(region.substr(0, blank));
+}
+
+// The part of a free text that is most likely the region: "Street 7, Town" means Town, "Town (District)" too.
+std::string_view LikelyRegion(std::string_view text) {
+  const std::string_view plain = TrimBlanks(text.substr(0, text.find('(')));
+  for (const std::string_view candidate : {plain, text}) {
+    const std::vector<std::string_view> parts = SplitAtAny(candidate, ",;()/");
+    for (auto part = parts.rbegin(); part != parts.rend(); ++part) {
+      if (!IsNoPlace(*part)) return WithoutKind(*part);
+    }
   }
   return {};
+}
+
+// True when two texts differ in nothing but blanks, accents and letter case.
+bool SpellTheSame(std::string_view a, std::string_view b) {
+  std::string first = MatchKey(a);
+  std::string second = MatchKey(b);
+  std::erase(first, ' ');
+  std::erase(second, ' ');
+  return first == second;
 }
 
 const Country* CountryOf(const SourceStation& station) {
@@ -128,7 +159,7 @@ struct FreeRegion {
 
 }  // namespace
 
-std::string Place::Text() const {
+std::string StationPlace::Text() const {
   if (!country) return {};
   const std::string& where = region.empty() ? nearby : region;
   std::string text(country->name);
@@ -144,19 +175,19 @@ std::string_view KnownRegion(const Country& country, std::string_view text) {
   return RegionInWords(country, text);
 }
 
-std::vector<Place> LocateStations(const std::vector<SourceStation>& stations) {
-  std::vector<Place> places(stations.size());
+std::vector<StationPlace> LocateStations(const std::vector<SourceStation>& stations) {
+  std::vector<StationPlace> places(stations.size());
   std::map<std::string, FreeRegion> freeRegions;
   std::vector<std::string> freeKeys(stations.size());
   for (std::size_t i = 0; i < stations.size(); ++i) {
-    Place& place = places[i];
+    StationPlace& place = places[i];
     place.country = CountryOf(stations[i]);
     if (!place.country || stations[i].region.empty()) continue;
     const std::string& text = stations[i].region;
     place.region = KnownRegion(*place.country, text);
-    const std::string_view likely = LikelyRegion(*place.country, text);
-    if (!likely.empty() && !EqualIgnoringCase(text, place.region)) place.nearby = Capitalized(likely);
-    if (!place.region.empty() || likely.empty()) continue;
+    const std::string_view likely = LikelyRegion(text);
+    if (!likely.empty() && !SpellTheSame(likely, place.region)) place.nearby = Capitalized(likely);
+    if (!place.region.empty() || likely.empty() || HasAllRegions(*place.country)) continue;
     freeKeys[i] = RegionKey(place.country->code, likely);
     FreeRegion& region = freeRegions[freeKeys[i]];
     ++region.stations;

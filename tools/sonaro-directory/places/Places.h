@@ -10,7 +10,7 @@
 
 namespace sonaro {
 
-struct Place {
+struct StationPlace {
   const Country* country = nullptr;  // null: not told
   std::string region;  // a region that is browsed by; "" when the station stands under its country only
   std::string nearby;  // what the list says about the region when that is more than its name: a city
@@ -21,7 +21,7 @@ struct Place {
 // The place of every station, in their order. A region of the table is taken by any of its spellings; other
 // texts are regions when at least two stations of the country have them, in the spelling that most of them
 // use. Texts that cannot be a place (addresses, bit rates, the country itself) count as none.
-std::vector<Place> LocateStations(const std::vector<SourceStation>& stations);
+std::vector<StationPlace> LocateStations(const std::vector<SourceStation>& stations);
 
 // The region of the table that `text` means in a country, "" when there is none. "Sydney NSW", "Houston, TX"
 // and "Texas (USA)" are understood.

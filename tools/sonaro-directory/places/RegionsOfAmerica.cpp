@@ -50,7 +50,7 @@ constexpr RegionLine kRegions[] = {
     {"US", "Texas", "TX|Houston|Dallas|Austin|San Antonio|El Paso|Fort Worth|McAllen|Lubbock|Amarillo|Laredo"},
     {"US", "Utah", "UT|Salt Lake City|Provo|Ogden"},
     {"US", "Vermont", "VT|Burlington"},
-    {"US", "Virginia", "VA|Richmond|Norfolk|Waynesboro|Roanoke|Charlottesville"},
+    {"US", "Virginia", "VA|Virgina|Richmond|Norfolk|Waynesboro|Roanoke|Charlottesville"},
     {"US", "Washington", "WA|Seattle|Spokane|Tacoma|Washington State"},
     {"US", "Washington, D.C.", "DC|Washington DC|District of Columbia"},
     {"US", "West Virginia", "WV|Charleston WV"},
@@ -205,6 +205,11 @@ constexpr RegionLine kRegions[] = {
     {"VE", "Caracas", "Distrito Capital|DC"},
     {"VE", "Miranda", "Estado Miranda"},
     {"VE", "Zulia", ""},
+    {"VE", "Mérida", "Merida"},
+    {"CU", "Havana", "La Habana"},
+    {"GT", "Guatemala City", "Ciudad de Guatemala|Guatemala city"},
+    {"DO", "Santiago", "Santiago de los Caballeros|SANTIAGO DE LOS CABALLERO|Santiago (Dominican Republic)"},
+    {"BO", "La Paz", "La Paz (Nuestra Señora de)|La Paz (Nuestra Señora de La Paz)"},
     {"VE", "Carabobo", ""},
 };
 // clang-format on

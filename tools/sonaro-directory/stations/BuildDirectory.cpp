@@ -25,7 +25,7 @@ BuiltDirectory BuildDirectory(std::vector<SourceStation> stations, std::size_t l
   std::erase_if(stations, [&](SourceStation& station) { return !CleanStation(station, logs); });
   BuiltDirectory built;
   built.joined = JoinSameStations(stations);
-  std::vector<Place> places = LocateStations(stations);
+  std::vector<StationPlace> places = LocateStations(stations);
   built.directory.followsAnother = !earlier.Empty();
   built.directory.stations.reserve(stations.size());
   for (std::size_t i = 0; i < stations.size(); ++i) {

@@ -71,26 +71,35 @@ std::string CodecByEnding(const std::string& address) {
   return {};
 }
 
-// The highest bit rate that a codec's streams have; above it the number means something else.
-std::int64_t HighestBitRate(const std::string& codec) {
-  if (codec == "MP3") return 320;
-  if (codec == "AAC+") return 320;
-  if (codec == "AAC") return 512;
-  return 4608;  // lossless, or not known
+// The bit rates that a codec's streams have; a number outside means something else, mostly a picture with it.
+bool IsPossibleBitRate(std::int64_t rate, const std::string& codec) {
+  if (codec == "MP3") return rate >= 8 && rate <= 320;
+  if (codec == "AAC" || codec == "AAC+" || codec == "OPUS") return rate >= 8 && rate <= 330;
+  if (codec == "FLAC") return rate >= 200 && rate <= 9216;
+  return rate >= 8 && rate <= 9216;
+}
+
+// The database calls everything in an Ogg stream "OGG".
+std::string CodecInOgg(const SourceStation& station) {
+  for (const std::string& said : {CodecByEnding(station.addresses.front()), CodecIn(station.name)}) {
+    if (said == "OPUS" || said == "FLAC") return said;
+  }
+  constexpr std::int64_t kOnlyLossless = 500;  // kbit/s
+  return station.bitRate > kOnlyLossless ? "FLAC" : "OGG";
 }
 
 void CleanSound(SourceStation& station) {
   station.codec = CleanField(station.codec, kLongestTag);
   if (EqualIgnoringCase(station.codec, "UNKNOWN")) station.codec.clear();
+  if (AddressEnding(station.addresses.front()) == ".m3u8") station.segmented = true;
   for (const std::string& address : station.addresses) {
-    if (AddressEnding(address) == ".m3u8" && &address == &station.addresses.front()) station.segmented = true;
     if (station.codec.empty()) station.codec = CodecByEnding(address);
   }
   if (station.codec.empty()) station.codec = CodecIn(station.name);
   if (station.bitRate <= 0) station.bitRate = BitRateIn(station.name);
-  if (station.bitRate >= 8000) station.bitRate /= 1000;  // typed in bit/s
-  const bool possible = station.bitRate >= 8 && station.bitRate <= HighestBitRate(station.codec);
-  if (!possible) station.bitRate = 0;
+  if (station.bitRate >= 16000) station.bitRate /= 1000;  // typed in bit/s
+  if (station.codec == "OGG") station.codec = CodecInOgg(station);
+  if (!IsPossibleBitRate(station.bitRate, station.codec)) station.bitRate = 0;
 }
 
 }  // namespace

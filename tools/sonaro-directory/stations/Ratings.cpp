@@ -27,10 +27,6 @@ double Popularity(const SourceStation& station) {
   return 0.6 * Logarithmic(believed.clicks, kManyClicks) + 0.4 * Logarithmic(believed.votes, kMostVotes);
 }
 
-bool IsLossless(const SourceStation& station) {
-  return station.codec == "FLAC" || (station.codec == "OGG" && station.bitRate > 500);
-}
-
 // The bit rate at which MP3 sounds alike.
 double Mp3Equivalent(const SourceStation& station) {
   const auto rate = static_cast<double>(station.bitRate);
@@ -42,8 +38,9 @@ double Mp3Equivalent(const SourceStation& station) {
 }
 
 int SoundRating(const SourceStation& station) {
-  if (IsLossless(station)) return 9;
-  if (station.bitRate == 0 || station.codec.empty()) return 0;
+  if (station.codec == "FLAC") return 9;
+  const bool picture = station.codec.find("H.264") != std::string::npos || station.codec == "FLV";
+  if (station.bitRate == 0 || station.codec.empty() || picture) return 0;
   constexpr std::array<double, 8> kSteps = {24, 40, 56, 80, 112, 150, 224, 350};
   const auto step = std::upper_bound(kSteps.begin(), kSteps.end(), Mp3Equivalent(station));
   return 1 + static_cast<int>(step - kSteps.begin());

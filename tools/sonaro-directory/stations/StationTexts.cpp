@@ -1,5 +1,6 @@
 #include "stations/StationTexts.h"
 
+#include <algorithm>
 #include <array>
 #include <utility>
 #include <vector>
@@ -26,8 +27,19 @@ std::string TagsTold(const SourceStation& station) {
   return Capitalized(JoinAsSentence(told));
 }
 
-std::string WhereFrom(const Place& place) {
+// "the Netherlands", "the United States".
+bool TakesArticle(std::string_view country) {
+  constexpr std::array<std::string_view, 9> kPlain = {"Netherlands", "Philippines", "Bahamas",
+                                                      "Maldives",    "Comoros",     "Seychelles",
+                                                      "Gambia",      "DR Congo",    "Congo"};
+  return country.starts_with("United ") || country.ends_with(" Islands") || country.ends_with(" Republic") ||
+         country.ends_with(" Netherlands") ||
+         std::find(kPlain.begin(), kPlain.end(), country) != kPlain.end();
+}
+
+std::string WhereFrom(const StationPlace& place) {
   const std::string text = place.Text();
+  if (place.country && text == place.country->name) return (TakesArticle(text) ? "the " : "") + text;
   if (place.nearby.empty() || text.starts_with(place.nearby)) return text;
   // A city that the list names beside its region keeps the station findable by it.
   return ContainsIgnoringCase(place.nearby, place.region)
@@ -49,10 +61,11 @@ std::string LinkText(const std::string& address, LinkPlayer player) {
 }  // namespace
 
 std::string MediaTypeOf(const SourceStation& station) {
-  constexpr std::array<std::pair<std::string_view, std::string_view>, 10> kNames = {
+  constexpr std::array<std::pair<std::string_view, std::string_view>, 11> kNames = {
       {{"MP3", "MP3"},
        {"AAC", "AAC"},
        {"AAC+", "AAC+"},
+       {"OGG", "Ogg Vorbis"},
        {"OPUS", "Opus"},
        {"FLAC", "FLAC"},
        {"WMA", "Windows Media"},
@@ -63,8 +76,6 @@ std::string MediaTypeOf(const SourceStation& station) {
   for (const auto& [codec, name] : kNames) {
     if (station.codec == codec) return std::string(name);
   }
-  constexpr std::int64_t kOnlyLossless = 500;  // kbit/s that no lossy Ogg stream has
-  if (station.codec == "OGG") return station.bitRate > kOnlyLossless ? "FLAC" : "Ogg Vorbis";
   if (!station.codec.empty()) return station.codec;
   return station.segmented ? "HLS" : "";
 }
@@ -74,7 +85,7 @@ std::string DescriptionOf(const DirectoryStation& station) {
   std::string text = source.slogan;
   if (!text.empty()) text += text.ends_with('.') || text.ends_with('!') || text.ends_with('?') ? " " : ". ";
   std::string sentence = TagsTold(source);
-  if (sentence.empty()) sentence = station.genres.Format();
+  if (sentence.empty() && !station.genres.entries.empty()) sentence = station.genres.Format();
   const std::vector<std::string> languages = LanguagesIn(source.language);
   const std::string where = WhereFrom(station.place);
   if (sentence.empty() && (!languages.empty() || !where.empty())) sentence = "Radio";
