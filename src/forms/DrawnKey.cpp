@@ -4,6 +4,7 @@
 
 #include "forms/IconPainter.h"
 #include "forms/Painter.h"
+#include "forms/TabDial.h"
 
 namespace sonaro {
 namespace {
@@ -227,6 +228,11 @@ void PaintCheck(const Canvas& c) {
                  c.Prefix());
 }
 
+TabPicture TabOf(const Canvas& c) {
+  const KeyState& state = c.key.state;
+  return {c.key.text, c.Prefix(), state.active, state.hover, state.pressed, c.key.focused, c.key.dialOffset};
+}
+
 }  // namespace
 
 void PaintKey(HDC dc, const RECT& box, const KeyPicture& key, const Painter& painter) {
@@ -245,6 +251,8 @@ void PaintKey(HDC dc, const RECT& box, const KeyPicture& key, const Painter& pai
       return PaintPlayKey(canvas);
     case Kind::HeaderKey:
       return PaintHeaderKey(canvas);
+    case Kind::TabKey:
+      return PaintTab(dc, box, TabOf(canvas), painter);
     case Kind::CheckBox:
     case Kind::RadioButton:
       return PaintCheck(canvas);

@@ -24,6 +24,7 @@ struct KeyPicture {
   std::wstring detail;  // PlayKey: second line, and after a tab the link's number; GroupKey: its figure
   Icon icon = Icon::None;
   SortMark sort = SortMark::None;
+  int dialOffset = 0;  // TabKey: pixels from the dial's left edge
 };
 
 // `dc` already shows what lies behind the key; `box` is the whole control.

@@ -3,6 +3,7 @@
 
 #include "forms/Dpi.h"
 #include "forms/FormParts.h"
+#include "forms/TabDial.h"
 #include "forms/WideText.h"
 
 namespace sonaro {
@@ -88,6 +89,9 @@ void PaintDecoration(HDC dc, const FormItem& item, const Painter& painter) {
   switch (item.KindOf()) {
     case Kind::Glass:
       painter.Glass(dc, box, painter.Px(item.row->cut));
+      break;
+    case Kind::Dial:
+      PaintDial(dc, box, painter);
       break;
     case Kind::Groove:
       painter.Groove(dc, box.left, box.top, box.right - box.left);
@@ -201,6 +205,14 @@ void FormParts::PaintWindow(HDC dc, const RECT& dirty) {
   }
 }
 
+// How far a tab lies from the left end of the dial that it stands on.
+int FormParts::DialOffset(const FormItem& tab) const {
+  for (const FormItem& item : items) {
+    if (item.KindOf() == Kind::Dial) return static_cast<int>(tab.place.left - item.place.left);
+  }
+  return 0;
+}
+
 KeyPicture FormParts::PictureOf(const FormItem& item) const {
   const LRESULT hidden = SendMessageW(item.window, WM_QUERYUISTATE, 0, 0);
   KeyPicture key;
@@ -218,6 +230,7 @@ KeyPicture FormParts::PictureOf(const FormItem& item) const {
   key.state.disabled = !IsWindowEnabled(item.window);
   key.state.active = SendMessageW(item.window, BM_GETCHECK, 0, 0) == BST_CHECKED;
   key.state.empty = item.KindOf() == Kind::GroupKey && key.text.empty();
+  if (key.kind == Kind::TabKey) key.dialOffset = DialOffset(item);
   return key;
 }
 

@@ -117,6 +117,7 @@ class FormParts final : public FormServices, public std::enable_shared_from_this
   void PaintWindow(HDC dc, const RECT& dirty);
   void PaintItem(const FormItem& item, HDC dc, const RECT& box);
   KeyPicture PictureOf(const FormItem& item) const;
+  int DialOffset(const FormItem& tab) const;
   void RepaintItem(const FormItem& item);
 
   Form* form;  // nullptr once the form is gone
