@@ -139,7 +139,17 @@ FavoriteChange FavoriteGroups::Move(std::size_t from, std::size_t to) {
 }
 
 FavoriteChange FavoriteGroups::AddStation(std::size_t group, std::string_view token) {
-  if (group >= Count() || token.empty() || Contains(group, token)) return FavoriteChange::Nothing;
+  return Append(group, token) ? SaveFavoriteGroups() : FavoriteChange::Nothing;
+}
+
+FavoriteChange FavoriteGroups::AddStations(std::size_t group, const std::vector<std::string>& tokens) {
+  bool changed = false;
+  for (const std::string& token : tokens) changed = Append(group, token) || changed;
+  return changed ? SaveFavoriteGroups() : FavoriteChange::Nothing;
+}
+
+bool FavoriteGroups::Append(std::size_t group, std::string_view token) {
+  if (group >= Count() || token.empty() || Contains(group, token)) return false;
   std::string& text = groups_[group];
   if (TrimBlanks(Members(group)).empty()) {
     text.resize(text.find('\t') + 1);
@@ -148,7 +158,7 @@ FavoriteChange FavoriteGroups::AddStation(std::size_t group, std::string_view to
   }
   text += token;
   text += ' ';
-  return SaveFavoriteGroups();
+  return true;
 }
 
 FavoriteChange FavoriteGroups::RemoveStation(std::size_t group, std::string_view token) {

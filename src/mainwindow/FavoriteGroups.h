@@ -51,6 +51,8 @@ class FavoriteGroups {
   FavoriteChange Remove(std::size_t group);
   FavoriteChange Move(std::size_t from, std::size_t to);
   FavoriteChange AddStation(std::size_t group, std::string_view token);
+  // Several with one write; those that the group holds already, and repeats, are left out.
+  FavoriteChange AddStations(std::size_t group, const std::vector<std::string>& tokens);
   FavoriteChange RemoveStation(std::size_t group, std::string_view token);
   // Moves the member at place `from` to place `to`, places counted as in Tokens().
   FavoriteChange MoveStation(std::size_t group, std::size_t from, std::size_t to);
@@ -60,6 +62,7 @@ class FavoriteGroups {
 
  private:
   std::string FileText() const;
+  bool Append(std::size_t group, std::string_view token);
 
   DataFolder& data_;
   std::vector<std::string> groups_;  // name, tab, members

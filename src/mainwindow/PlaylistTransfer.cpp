@@ -1,0 +1,158 @@
+#include "mainwindow/PlaylistTransfer.h"
+
+#include <algorithm>
+#include <utility>
+
+#include "base/DataFolder.h"
+#include "base/Files.h"
+#include "base/Text.h"
+#include "mainwindow/FavoriteGroups.h"
+#include "playback/StationKey.h"
+#include "playback/StationSource.h"
+
+namespace sonaro {
+namespace {
+
+bool SameStation(const PersonalStation& a, const PersonalStation& b) {
+  PersonalStation other = b;
+  other.index = a.index;
+  return a == other;
+}
+
+bool HasNoLink(const PersonalStation& station) { return station.links == std::array<std::string, 3>(); }
+
+}  // namespace
+
+bool PlaylistTransfer::ExportGroup(std::size_t group, const std::string& path) {
+  if (group >= groups_.Count()) return false;
+  Playlist playlist;
+  playlist.title = groups_.Name(group);
+  for (const std::string_view token : groups_.Tokens(group)) playlist.entries.push_back(EntryOf(token));
+  return Save(std::move(playlist), path);
+}
+
+bool PlaylistTransfer::ExportPersonalStations(const std::string& path) {
+  Playlist playlist;
+  for (PersonalStation& station : personal_.All()) {
+    station.index = 0;
+    playlist.entries.push_back({std::move(station), {}});
+  }
+  return Save(std::move(playlist), path);
+}
+
+PlaylistEntry PlaylistTransfer::EntryOf(std::string_view token) const {
+  PlaylistEntry entry;
+  const StationKey key = StationKey::FromToken(token);
+  if (key.kind == StationKey::Kind::Personal) {
+    if (const PersonalStation* station = personal_.Find(key.number)) entry.station = *station;
+    entry.station.index = 0;
+    return entry;
+  }
+  entry.stationId = token;
+  entry.station.name = token;
+  const StationRecord record = source_.Record(key.number);
+  if (record.Empty()) return entry;
+  entry.station.name = record[StationField::Name];
+  entry.station.links = {record[StationField::LinkOne], record[StationField::LinkTwo],
+                         record[StationField::LinkThree]};
+  entry.station.webSite = record[StationField::WebSite];
+  entry.station.type = record[StationField::MediaType];
+  return entry;
+}
+
+bool PlaylistTransfer::Save(Playlist playlist, const std::string& path) {
+  playlist.format = FormatOfFileName(path);
+  const std::string neighbour = path + ".new";
+  auto file = files_.Create(neighbour);
+  const bool written = file && file->Append(WritePlaylist(playlist)) && file->Commit(Durability::Flushed);
+  file.reset();
+  const bool saved = written && files_.Replace(neighbour, path, Durability::Flushed);
+  if (!saved) files_.Remove(neighbour);
+  return saved;
+}
+
+ImportResult PlaylistTransfer::Read(const std::string& path, Playlist& playlist) {
+  ImportResult result;
+  const ReadResult file = ReadWholeFile(files_, path);
+  if (file.status != ReadStatus::Ok) {
+    result.status = ImportResult::Status::NotRead;
+    return result;
+  }
+  playlist = ReadPlaylist(file.bytes);
+  if (playlist.format == PlaylistFormat::NotAPlaylist) result.status = ImportResult::Status::NotAPlaylist;
+  result.skipped = playlist.skipped;
+  result.damaged = playlist.damaged;
+  return result;
+}
+
+ImportResult PlaylistTransfer::ImportPersonalStations(const std::string& path) {
+  Playlist playlist;
+  ImportResult result = Read(path, playlist);
+  if (result.status != ImportResult::Status::Ok) return result;
+  for (PlaylistEntry& entry : playlist.entries) entry.stationId.clear();
+  const std::size_t before = personal_.All().size();
+  const auto tokens = TokensFor(playlist.entries, result);
+  result.added = personal_.All().size() - before;
+  result.known = tokens.size() - result.added;
+  return result;
+}
+
+ImportResult PlaylistTransfer::ImportIntoGroup(std::size_t group, const std::string& path) {
+  Playlist playlist;
+  ImportResult result = Read(path, playlist);
+  if (result.status != ImportResult::Status::Ok || group >= groups_.Count()) return result;
+  const auto tokens = TokensFor(playlist.entries, result);
+  const std::size_t before = groups_.Tokens(group).size();
+  if (groups_.AddStations(group, tokens) == FavoriteChange::NotSaved) {
+    result.status = ImportResult::Status::NotSaved;
+  }
+  result.added = groups_.Tokens(group).size() - before;
+  result.known = tokens.size() - result.added;
+  return result;
+}
+
+std::vector<std::string> PlaylistTransfer::TokensFor(const std::vector<PlaylistEntry>& entries,
+                                                     ImportResult& result) {
+  std::vector<PersonalStation> own = personal_.All();
+  std::vector<std::string> tokens;
+  std::vector<PersonalStation> fresh;
+  std::vector<std::size_t> places;  // of the fresh ones in `tokens`
+  for (const PlaylistEntry& entry : entries) {
+    tokens.push_back(KnownToken(entry, own));
+    if (!tokens.back().empty()) continue;
+    if (HasNoLink(entry.station) && entry.station.webSite.empty()) {
+      ++result.skipped;
+      continue;
+    }
+    places.push_back(tokens.size() - 1);
+    fresh.push_back(entry.station);
+  }
+  const std::vector<std::int32_t> indices = personal_.AddAll(fresh);
+  if (indices.size() != fresh.size()) result.status = ImportResult::Status::NotSaved;
+  for (std::size_t i = 0; i < std::min(indices.size(), places.size()); ++i) {
+    const StationKey key{StationKey::Kind::Personal, indices[i]};
+    if (indices[i] != 0) tokens[places[i]] = key.Token();
+  }
+  std::erase(tokens, std::string());
+  return tokens;
+}
+
+std::string PlaylistTransfer::KnownToken(const PlaylistEntry& entry,
+                                         const std::vector<PersonalStation>& own) const {
+  const StationKey key = StationKey::FromToken(entry.stationId);
+  if (key.kind == StationKey::Kind::Directory) {
+    const StationRecord record = source_.Record(key.number);
+    // Another guide may have given the identifier to another station.
+    if (record.Empty() ? HasNoLink(entry.station)
+                       : EqualIgnoringCase(record[StationField::Name], entry.station.name)) {
+      return entry.stationId;
+    }
+  }
+  const auto same = std::find_if(own.begin(), own.end(), [&entry](const PersonalStation& station) {
+    return SameStation(station, entry.station);
+  });
+  if (same == own.end()) return {};
+  return StationKey{StationKey::Kind::Personal, same->index}.Token();
+}
+
+}  // namespace sonaro

@@ -1,0 +1,63 @@
+#include "mainwindow/SonaroFrmDetailPane.h"
+
+#include "forms/ControlIds.h"
+#include "forms/Form.h"
+#include "forms/Painter.h"
+#include "forms/RatingPicture.h"
+#include "mainwindow/SonaroFrm_panes.h"
+#include "mainwindow/StationDetail.h"
+
+namespace sonaro {
+namespace {
+
+constexpr int kRatingPictures[] = {imgOverAll, imgSound, imgSpeed, imgWebSite};
+constexpr int kPlayKeyIds[] = {butGoMediaLinkOneIt, butGoMediaLinkTwoIt, butGoMediaLinkThreeIt};
+
+void PaintHair(HDC dc, const RECT& box, const Painter& painter) {
+  painter.Fill(dc, {box.left, box.top, box.right, box.top + painter.Line()}, painter.Colors().hair);
+}
+
+void PaintPin(HDC dc, const RECT& box, const Painter& painter) {
+  painter.DrawIcon(dc, Icon::Pin, static_cast<int>(box.left), static_cast<int>(box.top), 14,
+                   painter.Colors().signal);
+}
+
+}  // namespace
+
+void DetailPane::Load() {
+  form_.SetPicture(picHairAbove, PaintHair);
+  form_.SetPicture(picHairBelow, PaintHair);
+  form_.SetPicture(picPin, PaintPin);
+}
+
+void DetailPane::Show(const StationDetail& detail) {
+  const bool anything = !detail.name.empty();
+  form_.ShowPane(kStationPane, anything);
+  form_.ShowPane(kNoStationPane, !anything);
+  form_.SetText(lblStationName, detail.name);
+  form_.SetTip(lblStationName, detail.name);
+  form_.SetText(lblStationLocation, detail.location);
+  form_.ShowControl(picPin, !detail.location.empty());
+  form_.SetText(txtDescription, detail.description);
+  ShowRatings(detail);
+  ShowPlayKeys(detail);
+  form_.Enable(butGoWebPageIt, detail.hasWebSite);
+}
+
+void DetailPane::ShowRatings(const StationDetail& detail) {
+  for (std::size_t i = 0; i < StationDetail::kRatings; ++i) {
+    const RatingFigure& rating = detail.ratings[i];
+    form_.Rating(kRatingPictures[i]).SetRating(rating.halves, rating.figure, rating.spoken);
+  }
+}
+
+void DetailPane::ShowPlayKeys(const StationDetail& detail) {
+  for (std::size_t i = 0; i < StationDetail::kPlayKeys; ++i) {
+    const PlayKey& key = detail.playKeys[i];
+    form_.SetText(kPlayKeyIds[i], key.caption);
+    form_.SetDetail(kPlayKeyIds[i], key.bitRate + "\t" + std::to_string(i + 1));
+    form_.ShowControl(kPlayKeyIds[i], key.shown);
+  }
+}
+
+}  // namespace sonaro

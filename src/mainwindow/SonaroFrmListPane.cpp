@@ -1,0 +1,98 @@
+#include "mainwindow/SonaroFrmListPane.h"
+
+#include <algorithm>
+
+#include "app/Strings.h"
+#include "forms/ControlIds.h"
+#include "forms/Form.h"
+#include "mainwindow/FigureText.h"
+#include "mainwindow/SortEntries.h"
+#include "mainwindow/StationListing.h"
+#include "resources/ids.h"
+
+namespace sonaro {
+
+void ListPane::Load() {
+  ListView& list = form_.List(lstFavs);
+  list.SetColumns({{form_.LoadText(IDS_COLUMN_NAME), 185},
+                   {form_.LoadText(IDS_COLUMN_LOCATION), 112},
+                   {form_.LoadText(IDS_COLUMN_MEDIA_TYPE), 82},
+                   {form_.LoadText(IDS_COLUMN_FORMAT), 0}});
+  list.SetModel(this, true);
+}
+
+void ListPane::ShowRows() {
+  ListView& list = form_.List(lstFavs);
+  const StationRows& rows = listing_.Rows();
+  ShowEmptyText();
+  list.RowsChanged();
+  list.Select(rows.Selected() ? static_cast<int>(*rows.Selected()) : -1);
+  const ListingState& state = listing_.State();
+  form_.SetText(lblListing, state.caption);
+  const std::size_t count = rows.StationCount();
+  const int textId = count == 1 ? IDS_COUNT_ONE_STATION : IDS_COUNT_STATIONS;
+  form_.SetText(lblCount, state.holds == Holds::Nothing && count == 0
+                              ? std::string()
+                              : FillIn(form_.LoadText(textId), {FigureText(count, state_.decimalMode)}));
+}
+
+void ListPane::ShowEmptyText() {
+  int heading = IDS_EMPTY_LIST;
+  int help = IDS_EMPTY_LIST_HELP;
+  switch (listing_.State().holds) {
+    case Holds::Nothing:
+      heading = IDS_EMPTY_CHOOSE;
+      help = IDS_EMPTY_CHOOSE_HELP;
+      break;
+    case Holds::Group:
+      heading = IDS_EMPTY_GROUP;
+      help = IDS_EMPTY_GROUP_HELP;
+      break;
+    case Holds::Recent:
+      heading = IDS_EMPTY_RECENT;
+      help = IDS_EMPTY_RECENT_HELP;
+      break;
+    case Holds::PersonalStations:
+      heading = IDS_EMPTY_PERSONAL;
+      help = IDS_EMPTY_PERSONAL_HELP;
+      break;
+    case Holds::Search:
+      heading = IDS_LISTING_NO_STATIONS;
+      help = IDS_EMPTY_SEARCH_HELP;
+      break;
+    case Holds::Node:
+    case Holds::Ranking:
+      break;
+  }
+  form_.List(lstFavs).SetEmptyText(form_.LoadText(heading), form_.LoadText(help));
+}
+
+void ListPane::ShowSort() {
+  const SortState& sort = listing_.Rows().Sort();
+  for (const SortEntry& entry : SortEntries()) {
+    if (entry.headerKey == 0) continue;
+    const bool active = sort.on && sort.key == entry.key;
+    form_.SetSortMark(entry.headerKey, active ? SortMark::Up : SortMark::None);
+  }
+}
+
+void ListPane::TakeSelection(int row) {
+  if (row >= 0) listing_.Rows().Select(static_cast<std::size_t>(row));
+}
+
+int ListPane::RowCount() const { return static_cast<int>(listing_.Rows().Count()); }
+
+std::string ListPane::Cell(int row, int column) const {
+  return std::string(listing_.Rows().Cell(static_cast<std::size_t>(row), column));
+}
+
+int ListPane::Symbol(int row) const {
+  const int icon = listing_.Rows().At(static_cast<std::size_t>(row)).icon;
+  return std::clamp(icon - StationRow::kFirstReliabilityIcon, 0, 4);
+}
+
+bool ListPane::IsGreyed(int row) const { return listing_.Rows().At(static_cast<std::size_t>(row)).lost; }
+
+bool ListPane::IsNotice() const { return RowCount() > 0 && listing_.Rows().StationCount() == 0; }
+
+}  // namespace sonaro

@@ -1,0 +1,45 @@
+#include "mainwindow/SonaroFrmSearchPane.h"
+
+#include "app/Strings.h"
+#include "forms/ControlIds.h"
+#include "forms/Form.h"
+#include "mainwindow/SearchPanel.h"
+#include "resources/ids.h"
+
+namespace sonaro {
+
+void SearchPane::Load() {
+  search_.LoadSearchKinds(form_.LoadText(IDS_SEARCH_KIND_STATIONS));
+  for (std::size_t i = 0; i < SearchPanel::kMostKinds; ++i) {
+    const int button = optSearchType + static_cast<int>(i);
+    const bool used = i < search_.Kinds().size();
+    if (used) form_.SetText(button, search_.Kinds()[i].caption);
+    form_.ShowControl(button, used);
+  }
+  form_.Check(optSearchType);
+  form_.Check(optSearch);
+  ShowHistory();
+}
+
+void SearchPane::ShowHistory() {
+  const std::string typed = form_.Text(txtQuickSearch);
+  form_.ClearItems(txtQuickSearch);
+  for (const std::string& entry : search_.History()) form_.AddItem(txtQuickSearch, entry);
+  form_.SetText(txtQuickSearch, typed);
+}
+
+void SearchPane::ShowWebSearch() {
+  form_.SetText(lblWebAsked, FillIn(form_.LoadText(IDS_WEB_ASKED), {search_.WebWords()}));
+  form_.SetText(lblWebAddress, search_.WebAddress());
+}
+
+std::size_t SearchPane::ChosenKind() const {
+  for (int i = 0; i < static_cast<int>(SearchPanel::kMostKinds) - 1; ++i) {
+    if (form_.IsChecked(optSearchType + i)) return static_cast<std::size_t>(i);
+  }
+  return SearchPanel::kMostKinds - 1;
+}
+
+bool SearchPane::AllWords() const { return form_.IsChecked(optSearch); }
+
+}  // namespace sonaro

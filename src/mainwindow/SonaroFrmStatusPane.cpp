@@ -1,0 +1,45 @@
+#include "mainwindow/SonaroFrmStatusPane.h"
+
+#include <algorithm>
+
+#include "app/CReg.h"
+#include "app/SettingNames.h"
+#include "app/Strings.h"
+#include "directory/StatList.h"
+#include "forms/ControlIds.h"
+#include "forms/Form.h"
+#include "forms/ProgressScale.h"
+#include "mainwindow/FigureText.h"
+#include "mainwindow/MainModels.h"
+#include "mainwindow/SonaroFrm_panes.h"
+#include "resources/ids.h"
+
+namespace sonaro {
+
+void StatusPane::ShowGuide() {
+  const std::size_t count = data_.stations.StationCount();
+  const std::string updated = data_.settings.Setting(setting::kLastUpdate);
+  int textId = IDS_STATUS_GUIDE;
+  if (!updated.empty()) textId = IDS_STATUS_GUIDE_UPDATED;
+  if (count == 0) textId = IDS_STATUS_NO_GUIDE;
+  form_.SetText(lblStatus,
+                FillIn(form_.LoadText(textId), {FigureText(count, data_.state.decimalMode), updated}));
+}
+
+void StatusPane::ShowProgress(const std::string& what, int percent) {
+  form_.ShowPane(kStatusPane, false);
+  form_.ShowPane(kProgressPane);
+  form_.Enable(butUpdate, false);
+  form_.SetText(lblProgress, what);
+  form_.Progress(picProgress).SetProgress(std::clamp(percent, 0, 100), 100);
+  form_.SetText(lblPercent, percent < 0 ? std::string() : std::to_string(std::min(percent, 100)) + "%");
+}
+
+void StatusPane::EndProgress() {
+  form_.ShowPane(kProgressPane, false);
+  form_.ShowPane(kStatusPane);
+  form_.Enable(butUpdate);
+  ShowGuide();
+}
+
+}  // namespace sonaro

@@ -1,0 +1,111 @@
+#include "mainwindow/SonaroFrmYoursPane.h"
+
+#include <algorithm>
+
+#include "forms/ControlIds.h"
+#include "forms/Form.h"
+#include "mainwindow/FavoriteGroups.h"
+#include "mainwindow/StationListing.h"
+#include "playback/RecentList.h"
+#include "resources/ids.h"
+
+namespace sonaro {
+
+YoursPane::YoursPane(Form& form, const FavoriteGroups& groups, const RecentList& recent,
+                     const StationListing& listing, const MainWindowCalls& calls)
+    : form_(form), groups_(groups), recent_(recent), listing_(listing), calls_(calls) {}
+
+void YoursPane::Load() {
+  ListView& groups = form_.List(lstGroups);
+  groups.SetRowHeight(26);
+  groups.SetColumns(
+      {{"#", 26}, {form_.LoadText(IDS_COLUMN_GROUP), 130}, {form_.LoadText(IDS_COLUMN_STATIONS), 0}});
+  groups.SetModel(&groupRows_, false);
+  ListView& events = form_.List(lstEvents);
+  events.SetColumns({{form_.LoadText(IDS_COLUMN_WHEN), 150},
+                     {form_.LoadText(IDS_COLUMN_EVENT), 190},
+                     {form_.LoadText(IDS_COLUMN_STATION), 0}});
+  events.SetModel(&eventRows_, false);
+  events.SetEmptyText(form_.LoadText(IDS_EMPTY_EVENTS), form_.LoadText(IDS_EMPTY_EVENTS_HELP));
+}
+
+void YoursPane::ShowGroups() {
+  ListView& list = form_.List(lstGroups);
+  list.RowsChanged();
+  list.Select(SelectedGroupRow());
+}
+
+void YoursPane::ShowEvents() {
+  events_ = calls_.comingEvents ? calls_.comingEvents() : std::vector<EventLine>();
+  ListView& list = form_.List(lstEvents);
+  const int selected = std::min(list.Selected(), eventRows_.RowCount() - 1);
+  list.RowsChanged();
+  list.Select(selected < 0 && !events_.empty() ? 0 : selected);
+  const EventLine* event = EventAt(list.Selected());
+  form_.Enable(butNotifyMe, event && !event->noticed);
+}
+
+void YoursPane::ShowNextNotice() {
+  const NextNotice next = calls_.nextNotice ? calls_.nextNotice() : NextNotice();
+  const bool none = next.when.empty();
+  form_.SetText(lblNextNotice, none ? form_.LoadText(IDS_NEXT_NONE) : next.when);
+  form_.SetText(lblNextStation, none ? form_.LoadText(IDS_NEXT_NONE_HELP) : next.name);
+  form_.SetText(lblNextOften, next.howOften);
+}
+
+int YoursPane::GroupCount() const {
+  return static_cast<int>(std::min(groups_.Count(), FavoriteGroups::kSlots));
+}
+
+int YoursPane::SelectedGroupRow() const {
+  const ListingState& state = listing_.State();
+  if (state.middle == Middle::EventPage) return GroupCount() + 1;
+  if (state.holds == Holds::Recent) return GroupCount();
+  const auto group = groups_.Find(state.group);
+  return state.holds == Holds::Group && group ? static_cast<int>(*group) : -1;
+}
+
+std::optional<std::size_t> YoursPane::GroupAt(int row) const {
+  if (row < 0 || row >= GroupCount()) return std::nullopt;
+  return static_cast<std::size_t>(row);
+}
+
+bool YoursPane::IsRecent(int row) const { return row == GroupCount(); }
+
+const EventLine* YoursPane::EventAt(int row) const {
+  return row >= 0 && static_cast<std::size_t>(row) < events_.size() ? &events_[static_cast<std::size_t>(row)]
+                                                                    : nullptr;
+}
+
+int YoursPane::GroupRows::RowCount() const { return pane_.GroupCount() + 2; }
+
+std::string YoursPane::GroupRows::Cell(int row, int column) const {
+  const auto group = pane_.GroupAt(row);
+  switch (column) {
+    case 0:
+      return group ? std::to_string((*group + 1) % FavoriteGroups::kSlots) : std::string();
+    case 1:
+      if (group) return std::string(pane_.groups_.Name(*group));
+      return pane_.form_.LoadText(pane_.IsRecent(row) ? IDS_LISTING_YOUR_RECENT : IDS_COMING_EVENTS);
+    default:
+      if (group) return std::to_string(pane_.groups_.Tokens(*group).size());
+      return std::to_string(pane_.IsRecent(row) ? pane_.recent_.Tokens().size() : pane_.events_.size());
+  }
+}
+
+int YoursPane::EventRows::RowCount() const { return static_cast<int>(pane_.events_.size()); }
+
+std::string YoursPane::EventRows::Cell(int row, int column) const {
+  const EventLine* event = pane_.EventAt(row);
+  if (!event) return {};
+  switch (column) {
+    case 0:
+      return event->when;
+    case 1:
+      return event->name;
+    default:
+      return event->station;
+  }
+}
+
+}  // namespace sonaro
