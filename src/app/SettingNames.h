@@ -56,6 +56,10 @@ inline constexpr const char* kSideFrame = "SideFrame";                          
 inline constexpr const char* kSideWhere = "SideWhere";                           // mainwindow: default panel
 inline constexpr const char* kSoundNotify = "SoundNotify";                       // schedule/Notify, options: the options' default
 
+inline constexpr const char* kSoundClick = "SoundClick";                         // Application, options: keys click
+inline constexpr const char* kCloseToTray = "CloseToTray";                       // Application, options: ask at the first close
+inline constexpr const char* kScheduleLastSeen = "ScheduleLastSeen";             // schedule: nothing was missed
+
 // Faceplates (faceplate/); a missing value means the current faceplate's own.
 inline constexpr const char* kFacePlateName = "FacePlateName";
 inline constexpr const char* kFacePlateNew = "FacePlateNew";

@@ -93,6 +93,19 @@ inline constexpr int lblLoading = 2122;
 inline constexpr int lblVersion = 2123;
 inline constexpr int picDial = 2124;
 inline constexpr int picMark = 2125;
+inline constexpr int lblHead = 2141;
+inline constexpr int lblText = 2142;
+inline constexpr int txtProgram = 2143;
+inline constexpr int butBrowseIt = 2144;
+inline constexpr int butFindIt = 2145;
+inline constexpr int butTestProgramIt = 2146;
+inline constexpr int butPlayerWebSiteIt = 2147;
+inline constexpr int lblFound = 2148;
+inline constexpr int lblAsxFound = 2149;
+inline constexpr int lblProxyFound = 2150;
+inline constexpr int optUseProxy = 2151;  // 2 numbers: use it, connect directly
+inline constexpr int chkDontShow = 2153;
+inline constexpr int butDoneIt = 2154;
 
 // frmNewFavorite, frmRenameFav, dialogs of personal stations and extra links: 2201 to 2299.
 

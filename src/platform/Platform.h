@@ -6,7 +6,6 @@ namespace sonaro {
 
 class Clock;
 class Files;
-class HttpControlMaker;
 class MessagePost;
 class Registry;
 class Shell;
@@ -21,7 +20,6 @@ struct Platform {
   Sound& sound;
   SystemInfo& systemInfo;
   MessagePost& messages;
-  HttpControlMaker& http;
 };
 
 }  // namespace sonaro

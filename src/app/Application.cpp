@@ -1,0 +1,223 @@
+#include "app/Application.h"
+
+#include "app/ApplicationSchedule.h"
+#include "app/InstallId.h"
+#include "app/SettingNames.h"
+#include "app/Strings.h"
+#include "app/WhatToShow.h"
+#include "app/frmSplash.h"
+#include "base/Text.h"
+#include "forms/HighContrast.h"
+#include "forms/MessageLoop.h"
+#include "mainwindow/SonaroFrm.h"
+#include "platform/Sound.h"
+#include "resources/ids.h"
+#include "tray/frmStartUpInfo.h"
+
+namespace sonaro {
+
+namespace {
+
+constexpr char kSeparator = '\\';
+
+}  // namespace
+
+Application::Application(const Platform& platform, const Strings& strings, std::string folder,
+                         std::string commandLine)
+    : platform_(platform),
+      strings_(strings),
+      data_(platform.files, std::move(folder), kSeparator),
+      reg_(platform.registry),
+      alphabets_(BuiltInAlphabets()),
+      stations_(data_),
+      personal_(data_),
+      extra_(data_),
+      recent_(data_),
+      favorites_(data_),
+      source_(stations_, personal_, alphabets_),
+      players_(reg_, data_, platform.shell),
+      playerSetup_(reg_, platform.files, players_),
+      pages_(source_, data_, platform.shell),
+      help_(reg_, pages_),
+      player_(source_, recent_, players_, pages_, strings_),
+      faceplate_(reg_, data_),
+      shape_(data_),
+      context_{strings_, faceplate_, shape_},
+      messages_(context_, [this]() -> HelpPages& { return help_; }),
+      tray_(context_, MakeTrayActions()) {
+  state_.commandLine = std::move(commandLine);
+  player_.SetView(this);
+  context_.clickSound = [this] {
+    // Keys click unless the user switched it off.
+    if (!EqualIgnoringCase(reg_.Setting(setting::kSoundClick), "False")) PlaySoundFile(kClickSound);
+  };
+  context_.bringUp = [this](const std::string& caption) {
+    if (schedule_) schedule_->ShowNotification(caption);
+  };
+}
+
+Application::~Application() = default;
+
+int Application::Run() {
+  const StartupServices services = {platform_.messages,
+                                    platform_.systemInfo,
+                                    reg_,
+                                    data_,
+                                    stations_,
+                                    players_,
+                                    help_,
+                                    strings_,
+                                    messages_,
+                                    {}};
+  if (!Startup(services, state_, *this).Main()) return 0;
+  FinishedLoading();
+  return RunMessageLoop();
+}
+
+void Application::ShowSplash() {
+  splash_ = std::make_unique<frmSplash>(context_);
+  splash_->ShowNow();
+}
+
+void Application::CloseSplash() { splash_.reset(); }
+
+// Early in the start: from here on a second start finds this one.
+void Application::LoadFaceplate() {
+  tray_.Start();
+  faceplate_.Load();
+  FollowHighContrast(faceplate_);
+  RefreshAllForms();
+}
+
+void Application::ShowStartUpInfo(StartUpInfoPage page) {
+  frmStartUpInfo(context_, reg_, help_, playerSetup_, page, {}).ShowModal(GetActiveWindow());
+}
+
+void Application::ReadData() {
+  alphabetRefused_ = LoadAlphabets(data_, alphabets_) == AlphabetSource::BuiltInAfterBadFile;
+  EnsureInstallId(reg_);
+  personal_.Load();
+  extra_.Load();
+  recent_.Load();
+  favorites_.LoadFavoriteGroups();
+}
+
+void Application::LoadMainWindow() {
+  if (main_) return;
+  ReadData();
+  schedule_ = std::make_unique<ApplicationSchedule>(
+      ApplicationSchedule::Needs{platform_, context_, data_, reg_, strings_, state_, stations_, personal_,
+                                 extra_, recent_, favorites_, source_, player_, pages_, help_, messages_});
+  schedule_->SetPlaySound([this] { PlaySoundFile(kNotifySound); });
+  main_ = std::make_unique<SonaroFrm>(
+      context_,
+      GuideData{data_, reg_, strings_, state_, stations_, personal_, extra_, recent_, favorites_, source_},
+      player_, pages_, MakeMainWindowCalls());
+  main_->Create();
+  schedule_->SetChanged([this] { main_->ScheduleChanged(); });
+  main_->BringUpView(WhatToShow(state_.commandLine));
+}
+
+void Application::ShowMainWindow() { main_->Show(); }
+
+void Application::SayWhyNot(const std::string& sentence) {
+  messages_.Ask({.key = "CantFindProgram",
+                 .caption = strings_.Load(IDS_WHYNOT_CAPTION),
+                 .text = sentence,
+                 .firstButton = strings_.Load(IDS_APP_OK)});
+}
+
+void Application::FinishedLoading() {
+  tray_.FinishedLoading();
+  if (!alphabetRefused_) return;
+  messages_.Ask({.key = "AlphabetRefused",
+                 .caption = strings_.Load(IDS_APP_TITLE),
+                 .text = strings_.Load(IDS_ALPHABET_REFUSED),
+                 .firstButton = strings_.Load(IDS_APP_OK)});
+}
+
+TrayActions Application::MakeTrayActions() {
+  TrayActions actions;
+  actions.open = [this] { BringForward(""); };
+  actions.browse = [this] { BringForward("Browse"); };
+  actions.search = [this] { BringForward("Search"); };
+  actions.yourSonaro = [this] { BringForward("YourSonaro"); };
+  actions.schedule = [this] { schedule_->ShowSchedule(nullptr); };
+  actions.help = [this] { help_.OpenHelpPage("index.html"); };
+  actions.exit = [this] { Exit(); };
+  actions.groupNames = [this] {
+    std::vector<std::string> names;
+    for (std::size_t group = 0; group < favorites_.Count(); ++group)
+      names.emplace_back(favorites_.Name(group));
+    return names;
+  };
+  actions.openGroup = [this](int group) {
+    const auto index = static_cast<std::size_t>(group);
+    if (index >= favorites_.Count()) return;
+    BringForward("");
+    main_->ShowGroupNamed(favorites_.Name(index));
+  };
+  actions.scheduleItemDue = [this](int slot) { schedule_->AskForNotification(*main_, slot); };
+  actions.startUp = [this] { schedule_->StartWatching(); };
+  actions.minute = [this] { schedule_->Minute(); };
+  actions.clockChanged = [this] {
+    if (schedule_) schedule_->Minute();
+  };
+  return actions;
+}
+
+MainWindowCalls Application::MakeMainWindowCalls() {
+  MainWindowCalls calls;
+  calls.showSchedule = [this] { schedule_->ShowSchedule(main_->Window()); };
+  calls.scheduleStation = [this](const std::string& rowKey) {
+    schedule_->ScheduleStation(main_->Window(), rowKey);
+  };
+  calls.ask = [this](const Message& message) { return messages_.Ask(message); };
+  calls.tellTray = [this](const std::string& text) { tray_.Tell(text); };
+  calls.hideToTray = [this] { main_->Hide(); };
+  calls.closeAsked = [this] { CloseAsked(); };
+  calls.exit = [this] { Exit(); };
+  calls.openHelpPage = [this](const std::string& page) { help_.OpenHelpPage(page); };
+  calls.comingEvents = [this] { return schedule_->ComingEvents(); };
+  calls.notifyMe = [this](std::size_t line) { return schedule_->NotifyMe(main_->Window(), line); };
+  calls.nextNotice = [this] { return schedule_->NextNotice(); };
+  return calls;
+}
+
+void Application::BringForward(std::string_view view) {
+  if (!main_) return;  // the start is not that far; the window comes by itself
+  if (IsIconic(main_->Window())) ShowWindow(main_->Window(), SW_RESTORE);
+  main_->Show();
+  SetForegroundWindow(main_->Window());
+  if (!view.empty()) main_->BringUpView(view);
+}
+
+// The close key ends the program or hides it, as the user wants; the first time he is asked.
+void Application::CloseAsked() {
+  std::string keep = reg_.Setting(setting::kCloseToTray);
+  if (keep.empty()) {
+    const MessageResult result = messages_.Ask({.key = "CloseOrTray",
+                                                .caption = strings_.Load(IDS_CLOSE_CAPTION),
+                                                .text = strings_.Load(IDS_CLOSE_TEXT),
+                                                .firstButton = strings_.Load(IDS_CLOSE_KEEP),
+                                                .secondButton = strings_.Load(IDS_CLOSE_EXIT),
+                                                .dontAskText = strings_.Load(IDS_DONT_ASK_AGAIN)});
+    if (result.answer == MessageAnswer::Closed) return;
+    keep = result.answer == MessageAnswer::First ? "Yes" : "No";
+    if (result.dontAskAgain) reg_.SetSetting(setting::kCloseToTray, keep);
+  }
+  if (IsYes(keep)) {
+    main_->Hide();
+  } else {
+    Exit();
+  }
+}
+
+void Application::Exit() {
+  if (main_) main_->Hide();
+  PostQuitMessage(0);
+}
+
+void Application::PlaySoundFile(const char* fileName) { platform_.sound.Play(faceplate_.FilePath(fileName)); }
+
+}  // namespace sonaro

@@ -1,0 +1,98 @@
+// Owns the whole program: settings, tables, lists, player, schedule and windows, as members in the order in
+// which they need one another. The only place that knows every folder; windows reach each other through the
+// calls that are set here. A local variable of WinMain.
+#pragma once
+
+#include <memory>
+#include <string>
+
+#include "app/AppState.h"
+#include "app/CReg.h"
+#include "app/HelpPages.h"
+#include "app/MsgboxFrm.h"
+#include "app/Startup.h"
+#include "base/DataFolder.h"
+#include "directory/Scrambling.h"
+#include "directory/StatList.h"
+#include "faceplate/Faceplate.h"
+#include "faceplate/Shape.h"
+#include "forms/Form.h"
+#include "mainwindow/FavoriteGroups.h"
+#include "platform/Platform.h"
+#include "playback/ExtraLinks.h"
+#include "playback/PersonalStations.h"
+#include "playback/PlayerLaunch.h"
+#include "playback/PlayerSetup.h"
+#include "playback/Players.h"
+#include "playback/RecentList.h"
+#include "playback/StationSource.h"
+#include "playback/WebPages.h"
+#include "tray/frmSysTrayMenu.h"
+
+namespace sonaro {
+
+class ApplicationSchedule;
+class SonaroFrm;
+class frmSplash;
+struct GuideData;
+struct MainWindowCalls;
+
+class Application final : private StartupView, private LaunchView {
+ public:
+  // `folder`: the folder of the executable. `commandLine`: what follows the program's name.
+  Application(const Platform& platform, const Strings& strings, std::string folder, std::string commandLine);
+  ~Application() override;
+
+  // Runs the program from its start to its end and returns the exit code.
+  int Run();
+
+ private:
+  // What the start procedure asks for.
+  void ShowSplash() override;
+  void CloseSplash() override;
+  void LoadFaceplate() override;
+  void ShowStartUpInfo(StartUpInfoPage page) override;
+  void LoadMainWindow() override;
+  void ShowMainWindow() override;
+  // What the player launch asks for.
+  void ShowNoPlayer() override { ShowStartUpInfo(StartUpInfoPage::NoPlayer); }
+  void SayWhyNot(const std::string& sentence) override;
+
+  TrayActions MakeTrayActions();
+  MainWindowCalls MakeMainWindowCalls();
+  void ReadData();
+  void FinishedLoading();
+  void BringForward(std::string_view view);
+  void CloseAsked();
+  void Exit();
+  void PlaySoundFile(const char* fileName);
+
+  Platform platform_;
+  const Strings& strings_;
+  AppState state_;
+  DataFolder data_;
+  CReg reg_;
+  ScramblingAlphabets alphabets_;
+  bool alphabetRefused_ = false;
+  StatList stations_;
+  PersonalStations personal_;
+  ExtraLinks extra_;
+  RecentList recent_;
+  FavoriteGroups favorites_;
+  StationSource source_;
+  Players players_;
+  PlayerSetup playerSetup_;
+  WebPages pages_;
+  HelpPages help_;
+  PlayerLaunch player_;
+  Faceplate faceplate_;
+  Shape shape_;
+  FormContext context_;
+  MessageBoxes messages_;
+  frmSysTrayMenu tray_;
+  std::unique_ptr<frmSplash> splash_;
+  std::unique_ptr<ApplicationSchedule> schedule_;
+  std::unique_ptr<SonaroFrm> main_;
+};
+
+}  // namespace sonaro

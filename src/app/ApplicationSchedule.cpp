@@ -1,0 +1,193 @@
+#include "app/ApplicationSchedule.h"
+
+#include <optional>
+
+#include "app/AppState.h"
+#include "app/CReg.h"
+#include "app/HelpPages.h"
+#include "app/SettingNames.h"
+#include "base/Text.h"
+#include "directory/StatList.h"
+#include "forms/ControlIds.h"
+#include "mainwindow/FavoriteGroups.h"
+#include "platform/Clock.h"
+#include "playback/PlayerLaunch.h"
+#include "playback/WebPages.h"
+#include "schedule/Notification.h"
+#include "schedule/ScheduleTexts.h"
+#include "schedule/TimeZone.h"
+#include "schedule/frmSchedChange.h"
+
+namespace sonaro {
+
+namespace {
+
+constexpr std::size_t kMostEvents = 200;
+
+// Local date and time in the form of a service time stamp: sorts, and is read back by ParseServiceTime.
+std::string StampOf(const DateTime& at) {
+  const auto two = [](int number) { return (number < 10 ? "0" : "") + std::to_string(number); };
+  return std::to_string(at.date.year) + two(at.date.month) + two(at.date.day) + two(at.time.hour) +
+         two(at.time.minute);
+}
+
+}  // namespace
+
+ApplicationSchedule::ApplicationSchedule(const Needs& needs)
+    : needs_(needs),
+      events_(needs.data),
+      diary_(events_),
+      store_(needs.data, needs.state.shortDatePattern),
+      calendar_(store_, needs.state.shortDatePattern),
+      shows_(needs.data, needs.messages, needs.strings),
+      picker_(needs.stations, needs.personal, needs.recent, needs.reg, needs.strings),
+      services_(MakeServices()),
+      timerWindow_(needs.context),
+      timer_(calendar_, needs.platform.clock, needs.platform.messages, timerWindow_),
+      notices_(needs.context, MakeNotifyActions()),
+      list_(needs.context, services_) {
+  store_.LoadSchedule(needs_.platform.clock.LocalNow().date);
+  diary_.Reload();
+  picker_.SetGroups([this] { return Groups(); });
+  timerWindow_.SetTick([this] { timer_.Timer1_Timer(); });
+  timer_.SetLiveStarts(
+      [this](const DateTime& from, const DateTime& to) { return diary_.Starting(store_, from, to); });
+  timer_.SetAwayNotice([this](const std::vector<Occurrence>& missed) {
+    notices_.ShowMissed(AwayLines(missed, store_, needs_.platform.clock.LocalNow(), needs_.state.clockStyle));
+  });
+}
+
+ScheduleServices ApplicationSchedule::MakeServices() {
+  return {store_,
+          calendar_,
+          shows_,
+          picker_,
+          needs_.platform.clock,
+          needs_.platform.files,
+          needs_.platform.shell,
+          needs_.messages,
+          needs_.help,
+          needs_.state.clockStyle,
+          needs_.state.shortDatePattern,
+          [this] { Changed(); }};
+}
+
+NotifyActions ApplicationSchedule::MakeNotifyActions() {
+  return {[this](const PlayChoice& choice) { needs_.player.LaunchStation(choice.key, choice.mode); },
+          [this](const std::string& address) { needs_.pages.OpenWebPage(address); },
+          [this] {
+            const std::string sound = needs_.reg.Setting(setting::kSoundNotify);
+            if (playSound_ && (sound.empty() || EqualIgnoringCase(sound, "True"))) playSound_();
+          },
+          [this] { needs_.help.OpenHelpPage("9008.html"); }};
+}
+
+void ApplicationSchedule::StartWatching() {
+  if (const auto seen = ParseServiceTime(needs_.reg.Setting(setting::kScheduleLastSeen)))
+    timer_.CatchUp(*seen);
+  timer_.EvaluateSchedule();
+  RememberSeen();
+}
+
+void ApplicationSchedule::Minute() {
+  timer_.KeepWatch();
+  RememberSeen();
+  list_.FillLists();
+}
+
+void ApplicationSchedule::RememberSeen() {
+  needs_.reg.SetSetting(setting::kScheduleLastSeen, StampOf(needs_.platform.clock.LocalNow()));
+}
+
+void ApplicationSchedule::AskForNotification(Form& window, int slot) {
+  if (slot >= 0) window.SetText(lblBringUp, BringUpText(static_cast<std::size_t>(slot)));
+}
+
+void ApplicationSchedule::ShowNotification(const std::string& asked) {
+  const int slot = AskedItem(asked);
+  if (slot < 0 || static_cast<std::size_t>(slot) >= store_.SlotCount()) return;
+  const ScheduleItem& item = store_.Item(static_cast<std::size_t>(slot));
+  if (item.Free()) return;
+  notices_.ShowNotification(
+      NotificationFor(item, needs_.source, needs_.extra, needs_.state.shortDatePattern));
+}
+
+void ApplicationSchedule::ShowSchedule(HWND owner) {
+  list_.Show(owner);
+  list_.FillLists();
+}
+
+void ApplicationSchedule::ScheduleStation(HWND owner, const std::string& rowKey) {
+  const std::string name = needs_.source.NameOf(StationKey::FromRowKey(rowKey));
+  ScheduleDraft draft =
+      ScheduleDraft::ForStation(name.empty() ? "" : rowKey, name, needs_.platform.clock.LocalNow());
+  frmSchedChange(needs_.context, services_, std::move(draft)).ShowModal(owner);
+}
+
+std::vector<EventLine> ApplicationSchedule::ComingEvents() {
+  coming_ = diary_.Coming(needs_.platform.clock.GmtNow(), kMostEvents);
+  const DateTime now = needs_.platform.clock.LocalNow();
+  const std::int32_t offset = GetZoneOffset(needs_.platform.clock);
+  std::vector<EventLine> lines;
+  for (const BroadcastEvent& event : coming_) {
+    const DateTime local = AddSeconds(event.gmt, offset);
+    const StationKey station = StationKey::FromToken(event.record[EventField::StationId]);
+    const bool known = station && !needs_.source.NameOf(station).empty();
+    lines.push_back({NextShown(local, now, needs_.state.clockStyle), event.record[EventField::Name],
+                     event.record[EventField::StationName], known ? station.Token() : "",
+                     IsNoticed(event.record, local)});
+  }
+  return lines;
+}
+
+bool ApplicationSchedule::IsNoticed(const EventRecord& event, const DateTime& local) const {
+  const std::string date = FormatShortDate(local.date);
+  for (std::size_t slot = 0; slot < store_.SlotCount(); ++slot) {
+    const ScheduleItem& item = store_.Item(slot);
+    if (item.Free() || (item.date != date && KindOf(item.kind) == ScheduleKind::Once)) continue;
+    const ItemName name = SplitItemName(item.name);
+    if (name.name == event[EventField::Name] && name.station == event[EventField::StationName]) return true;
+  }
+  return false;
+}
+
+bool ApplicationSchedule::NotifyMe(HWND owner, std::size_t line) {
+  if (line >= coming_.size()) return false;
+  ScheduleDraft draft = ScheduleDraft::ForEvent(coming_[line].record, needs_.platform.clock);
+  return frmSchedChange(needs_.context, services_, std::move(draft)).ShowModal(owner) == 1;
+}
+
+NextNotice ApplicationSchedule::NextNotice() {
+  const DateTime now = needs_.platform.clock.LocalNow();
+  std::optional<DateTime> soonest;
+  std::size_t found = 0;
+  for (std::size_t slot = 0; slot < store_.SlotCount(); ++slot) {
+    const std::optional<DateTime> next = calendar_.Next(slot, now);
+    if (!next || (soonest && *soonest <= *next)) continue;
+    soonest = next;
+    found = slot;
+  }
+  if (!soonest) return {};
+  const ScheduleItem& item = store_.Item(found);
+  return {NextShown(*soonest, now, needs_.state.clockStyle), SplitItemName(item.name).Shown(),
+          ScheduleShown(item)};
+}
+
+void ApplicationSchedule::DirectoryChanged() { diary_.Reload(); }
+
+std::vector<PickGroup> ApplicationSchedule::Groups() const {
+  std::vector<PickGroup> groups;
+  for (std::size_t group = 0; group < needs_.favorites.Count(); ++group) {
+    groups.push_back(
+        {std::string(needs_.favorites.Name(group)), std::string(needs_.favorites.Members(group))});
+  }
+  return groups;
+}
+
+// An item was added, changed or deleted.
+void ApplicationSchedule::Changed() {
+  timer_.EvaluateSchedule();
+  if (changed_) changed_();
+}
+
+}  // namespace sonaro

@@ -1,0 +1,113 @@
+// The schedule as a whole: its store, evaluator, diary and windows, wired together. Owned by Application,
+// which it serves with what the main window and the tray ask of the schedule.
+#pragma once
+
+#include <functional>
+#include <memory>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "directory/EvList.h"
+#include "forms/Form.h"
+#include "mainwindow/MainWindowCalls.h"
+#include "platform/Platform.h"
+#include "schedule/EventDiary.h"
+#include "schedule/PersonalShows.h"
+#include "schedule/ScheduleCalendar.h"
+#include "schedule/ScheduleServices.h"
+#include "schedule/ScheduleStore.h"
+#include "schedule/ScheduleTimer.h"
+#include "schedule/StationPicker.h"
+#include "schedule/frmNotifyStack.h"
+#include "schedule/frmSched.h"
+#include "schedule/frmschedtime.h"
+
+namespace sonaro {
+
+class CReg;
+class DataFolder;
+class ExtraLinks;
+class FavoriteGroups;
+class HelpPages;
+class MessageBoxView;
+class PersonalStations;
+class PlayerLaunch;
+class RecentList;
+class StatList;
+class StationSource;
+class Strings;
+class WebPages;
+struct AppState;
+
+class ApplicationSchedule {
+ public:
+  struct Needs {
+    const Platform& platform;
+    FormContext& context;
+    DataFolder& data;
+    CReg& reg;
+    const Strings& strings;
+    const AppState& state;
+    StatList& stations;
+    const PersonalStations& personal;
+    const ExtraLinks& extra;
+    const RecentList& recent;
+    const FavoriteGroups& favorites;
+    const StationSource& source;
+    PlayerLaunch& player;
+    WebPages& pages;
+    HelpPages& help;
+    MessageBoxView& messages;
+  };
+
+  explicit ApplicationSchedule(const Needs& needs);
+
+  void SetPlaySound(std::function<void()> playSound) { playSound_ = std::move(playSound); }
+  void SetChanged(std::function<void()> changed) { changed_ = std::move(changed); }
+
+  // Once, when the program has finished loading: what was missed meanwhile, and the first evaluation.
+  void StartWatching();
+  // Every minute, and when the clock was set or the machine woke up.
+  void Minute();
+  // A due item: asks for its notification by way of the hidden label of a window.
+  void AskForNotification(Form& window, int slot);
+  // The text of that label: the item's slot followed by "XX".
+  void ShowNotification(const std::string& asked);
+
+  void ShowSchedule(HWND owner);
+  void ScheduleStation(HWND owner, const std::string& rowKey);
+
+  // The page of the user's own things.
+  std::vector<EventLine> ComingEvents();
+  // Schedules an event of ComingEvents; true when the user will be told of it.
+  bool NotifyMe(HWND owner, std::size_t line);
+  sonaro::NextNotice NextNotice();
+  void DirectoryChanged();
+
+ private:
+  ScheduleServices MakeServices();
+  NotifyActions MakeNotifyActions();
+  std::vector<PickGroup> Groups() const;
+  bool IsNoticed(const EventRecord& event, const DateTime& local) const;
+  void Changed();
+  void RememberSeen();
+
+  Needs needs_;
+  EvList events_;
+  EventDiary diary_;
+  ScheduleStore store_;
+  ScheduleCalendar calendar_;
+  PersonalShows shows_;
+  StationPicker picker_;
+  ScheduleServices services_;
+  ScheduleTimerWindow timerWindow_;
+  ScheduleTimer timer_;
+  frmNotifyStack notices_;
+  frmSched list_;
+  std::vector<BroadcastEvent> coming_;  // what ComingEvents gave last
+  std::function<void()> playSound_;
+  std::function<void()> changed_;
+};
+
+}  // namespace sonaro

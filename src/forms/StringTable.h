@@ -1,0 +1,13 @@
+// The texts of the program's own string table.
+#pragma once
+
+#include "app/Strings.h"
+
+namespace sonaro {
+
+class StringTable : public Strings {
+ public:
+  std::string Load(int id) const override;
+};
+
+}  // namespace sonaro
