@@ -81,6 +81,35 @@ inline constexpr int butSchedule = 1147;
 inline constexpr int butOptions = 1148;
 
 // frmScan: 2001 to 2099.
+inline constexpr int butStartIt = 2001;
+inline constexpr int butMoveNextIt = 2002;
+inline constexpr int butMoveUpIt = 2003;
+inline constexpr int butMoveDownIt = 2004;
+inline constexpr int butRemoveStationIt = 2005;
+inline constexpr int butClearIt = 2006;
+inline constexpr int butFullIt = 2007;
+inline constexpr int butScanTimeIt = 2008;
+inline constexpr int lstToScan = 2011;
+inline constexpr int lstScanedAlready = 2012;
+inline constexpr int lblCurrentScaning = 2013;
+inline constexpr int lblTimeLeft = 2014;
+inline constexpr int lblStationsAdd = 2015;
+inline constexpr int picScan = 2016;
+inline constexpr int lblQueue = 2017;
+inline constexpr int lblQueueCount = 2018;
+inline constexpr int lblHistory = 2019;
+inline constexpr int tmrScan = 2020;
+inline constexpr int panScanFull = 2021;
+inline constexpr int panScanCompact = 2022;
+inline constexpr int butQueueName = 2023;
+inline constexpr int butQueueLocation = 2024;
+inline constexpr int butHistoryName = 2025;
+inline constexpr int butHistoryWhat = 2026;
+inline constexpr int cmbScanTime = 2027;
+inline constexpr int butDoneScanIt = 2028;
+inline constexpr int mnuScanPutBack = 2031;
+inline constexpr int mnuScanRemove = 2032;
+inline constexpr int mnuScanToGroup = 2041;  // 10 numbers: one for each favourite group
 
 // MsgboxFrm, frmSplash, frmStartUpInfo: 2101 to 2199.
 inline constexpr int lblMsg = 2101;
@@ -108,6 +137,17 @@ inline constexpr int chkDontShow = 2153;
 inline constexpr int butDoneIt = 2154;
 
 // frmNewFavorite, frmRenameFav, dialogs of personal stations and extra links: 2201 to 2299.
+inline constexpr int txtGroupName = 2201;
+inline constexpr int cmbGroup = 2202;
+inline constexpr int lblStation = 2203;
+inline constexpr int txtStationName = 2211;
+inline constexpr int txtLink = 2212;  // 3 numbers
+inline constexpr int txtWebSite = 2215;
+inline constexpr int txtType = 2216;
+inline constexpr int txtStationNote = 2217;
+inline constexpr int lblProblem = 2218;
+inline constexpr int txtExtraName = 2221;
+inline constexpr int txtExtraLink = 2222;
 
 // frmNotify, frmschedtime, frmAboutEventTime: 2301 to 2399.
 inline constexpr int lblEventName = 2301;

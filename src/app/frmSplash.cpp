@@ -1,0 +1,78 @@
+#include "app/frmSplash.h"
+
+#include "app/AppState.h"
+#include "app/Strings.h"
+#include "forms/ControlIds.h"
+#include "forms/Painter.h"
+#include "forms/ProgressScale.h"
+#include "resources/ids.h"
+
+namespace sonaro {
+
+namespace {
+
+constexpr int kMarkSize = 84;
+
+}  // namespace
+
+const FormDesign& frmSplash::Design() {
+  static constexpr ControlRow kControls[] = {
+      {.id = picMark, .kind = Kind::Picture, .at = {56, 52, kMarkSize, kMarkSize}},
+      {.id = lblTitle,
+       .kind = Kind::Label,
+       .text = IDS_APP_TITLE,
+       .at = {158, 56, 280, 62},
+       .type = Type::Splash},
+      {.kind = Kind::Label,
+       .text = IDS_SPLASH_SUBTITLE,
+       .at = {161, 112, 280, 26},
+       .type = Type::Title,
+       .ink = Ink::Muted},
+      {.kind = Kind::Glass, .at = {48, 166, 384, 50}, .cut = 12},
+      {.id = picDial, .kind = Kind::Progress, .at = {64, 178, 352, 26}},
+      {.id = lblLoading, .kind = Kind::StateLabel, .text = IDS_SPLASH_LOADING, .at = {48, 222, 240, 24}},
+      {.id = lblVersion,
+       .kind = Kind::Label,
+       .at = {292, 222, 140, 24},
+       .flags = kRightAligned,
+       .ink = Ink::Muted},
+      {.id = lblClose,
+       .kind = Kind::StripKey,
+       .text = IDS_APP_CLOSE,
+       .at = {416, 16, 28, 22},
+       .icon = Icon::Close},
+  };
+  static constexpr FormDesign kDesign = {.name = "frmSplash",
+                                         .caption = IDS_APP_TITLE,
+                                         .size = {480, 270},
+                                         .outline = "spf48",
+                                         .controls = kControls,
+                                         .titleGroove = 0};
+  return kDesign;
+}
+
+std::span<const EventRow> frmSplash::Events() const {
+  static const EventRow kRows[] = {{lblClose, Click, &frmSplash::lblClose_Click}};
+  return kRows;
+}
+
+void frmSplash::OnLoad() {
+  SetText(lblVersion, FillIn(LoadText(IDS_SPLASH_VERSION), {kVersionText}));
+  SetPicture(picMark, [](HDC dc, const RECT& box, const Painter& painter) {
+    painter.DrawIcon(dc, Icon::ProgramMark, box.left, box.top, kMarkSize, painter.Colors().text);
+  });
+  CentreOn(nullptr);
+}
+
+void frmSplash::ShowNow() {
+  Show();
+  if (IsOpen()) UpdateWindow(Window());
+}
+
+void frmSplash::ShowProgress(double done) {
+  if (!IsOpen()) return;
+  Progress(picDial).SetProgress(static_cast<int>(done * 100), 100);
+  RedrawWindow(Window(), nullptr, nullptr, RDW_UPDATENOW | RDW_ALLCHILDREN);
+}
+
+}  // namespace sonaro

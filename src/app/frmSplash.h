@@ -1,0 +1,26 @@
+// The window that is on show while the program starts. Its close label ends it; the start procedure does when
+// the main window appears.
+#pragma once
+
+#include "forms/Form.h"
+
+namespace sonaro {
+
+class frmSplash final : public Form {
+ public:
+  explicit frmSplash(FormContext& context) : Form(context, Design()) {}
+
+  // Shows the window in the middle of the screen and paints it at once: nothing pumps messages while the
+  // program starts.
+  void ShowNow();
+  // How far the start has come, 0 to 1.
+  void ShowProgress(double done);
+
+ private:
+  static const FormDesign& Design();
+  std::span<const EventRow> Events() const override;
+  void OnLoad() override;
+  void lblClose_Click() { Close(); }
+};
+
+}  // namespace sonaro

@@ -1,0 +1,90 @@
+#include "mainwindow/frmExtraLink.h"
+
+#include "app/Message.h"
+#include "base/Text.h"
+#include "forms/ControlIds.h"
+#include "playback/PlayLink.h"
+#include "resources/ids.h"
+
+namespace sonaro {
+
+const FormDesign& frmExtraLink::Design() {
+  static constexpr ControlRow kControls[] = {
+      {.id = lblTitle, .kind = Kind::TitleBar, .text = IDS_DLG_EXTRA_TITLE, .at = {14, 4, 182, 26}},
+      {.id = lblStation,
+       .kind = Kind::StateLabel,
+       .at = {14, 44, 392, 26},
+       .flags = kNoPrefix,
+       .type = Type::Title},
+      {.kind = Kind::Label,
+       .text = IDS_DLG_EXTRA_LINK,
+       .at = {14, 78, 110, 28},
+       .type = Type::BodyStrong,
+       .ink = Ink::Muted},
+      {.id = txtExtraLink, .kind = Kind::Edit, .at = {126, 78, 280, 28}},
+      {.kind = Kind::Label,
+       .text = IDS_DLG_EXTRA_NAME,
+       .at = {14, 114, 110, 28},
+       .type = Type::BodyStrong,
+       .ink = Ink::Muted},
+      {.id = txtExtraName, .kind = Kind::Edit, .at = {126, 114, 280, 28}},
+      {.kind = Kind::Label, .text = IDS_DLG_EXTRA_HELP, .at = {126, 148, 280, 24}, .ink = Ink::Muted},
+      {.kind = Kind::Groove, .at = {14, 190, 392, 2}},
+      {.id = butOKIt, .kind = Kind::PrimaryKey, .text = IDS_DLG_OK, .at = {214, 201, 92, 30}},
+      {.id = butCancelIt, .kind = Kind::PushKey, .text = IDS_DLG_CANCEL, .at = {314, 201, 92, 30}},
+      {.id = butCloseIt,
+       .kind = Kind::StripKey,
+       .text = IDS_DLG_CLOSE,
+       .at = {380, 12, 28, 22},
+       .icon = Icon::Close},
+  };
+  static constexpr FormDesign kDesign = {.name = "frmExtraLink",
+                                         .caption = IDS_DLG_EXTRA_TITLE,
+                                         .size = {420, 248},
+                                         .outline = "fdf01",
+                                         .controls = kControls,
+                                         .firstFocus = txtExtraLink};
+  return kDesign;
+}
+
+std::span<const EventRow> frmExtraLink::Events() const {
+  static const EventRow kRows[] = {
+      {butOKIt, Click, &frmExtraLink::butOKIt_Click},
+      {butCancelIt, Click, &frmExtraLink::butCancelIt_Click},
+      {butCloseIt, Click, &frmExtraLink::butCancelIt_Click},
+  };
+  return kRows;
+}
+
+void frmExtraLink::OnLoad() {
+  SetText(lblStation, station_);
+  all_ = links_.Of(stationId_);
+  if (all_.empty()) all_.push_back({"", PlayLink{PlayWay::AsxProgram, ""}.ToText()});
+  SetText(txtExtraLink, PlayLink::FromText(all_.front().link).address);
+  SetText(txtExtraName, all_.front().name);
+}
+
+void frmExtraLink::Complain(const char* key, int text) {
+  messages_.Ask({.key = key,
+                 .caption = LoadText(IDS_DLG_EXTRA_TITLE),
+                 .text = LoadText(text),
+                 .firstButton = LoadText(IDS_DLG_OK)});
+}
+
+void frmExtraLink::butOKIt_Click() {
+  const std::string address(TrimBlanks(Text(txtExtraLink)));
+  if (!address.empty() && !IsSafeArgument(address)) {
+    Complain("PersonalStationLink", IDS_DLG_OWN_BAD_LINK);
+    return;
+  }
+  PlayLink played = PlayLink::FromText(all_.front().link);
+  played.address = address;
+  all_.front() = {Text(txtExtraName), address.empty() ? "" : played.ToText()};
+  if (!links_.Set(stationId_, all_)) {
+    Complain("PersonalStationNotSaved", IDS_DLG_OWN_NOT_SAVED);
+    return;
+  }
+  Close(1);
+}
+
+}  // namespace sonaro

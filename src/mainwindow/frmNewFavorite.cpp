@@ -1,0 +1,95 @@
+#include "mainwindow/frmNewFavorite.h"
+
+#include "app/HelpPages.h"
+#include "base/Text.h"
+#include "forms/ControlIds.h"
+#include "resources/ids.h"
+
+namespace sonaro {
+
+namespace {
+
+constexpr int kMostNameBytes = 100;
+
+}  // namespace
+
+FormDesign frmNewFavorite::DesignOf(const char* name, int title) {
+  static constexpr ControlRow kControls[] = {
+      {.id = lblTitle, .kind = Kind::TitleBar, .at = {14, 4, 182, 26}},
+      {.kind = Kind::Label,
+       .text = IDS_DLG_GROUP_NAME,
+       .at = {14, 60, 392, 24},
+       .type = Type::BodyStrong,
+       .ink = Ink::Muted},
+      {.id = txtGroupName, .kind = Kind::Edit, .at = {14, 88, 392, 28}},
+      {.kind = Kind::Groove, .at = {14, 190, 392, 2}},
+      {.id = butOKIt,
+       .kind = Kind::PrimaryKey,
+       .text = IDS_DLG_OK,
+       .at = {214, 201, 92, 30},
+       .flags = kDisabled},
+      {.id = butCancelIt, .kind = Kind::PushKey, .text = IDS_DLG_CANCEL, .at = {314, 201, 92, 30}},
+      {.id = butHelp,
+       .kind = Kind::StripKey,
+       .text = IDS_DLG_HELP,
+       .at = {348, 12, 28, 22},
+       .icon = Icon::Help},
+      {.id = butCloseIt,
+       .kind = Kind::StripKey,
+       .text = IDS_DLG_CLOSE,
+       .at = {380, 12, 28, 22},
+       .icon = Icon::Close},
+  };
+  return {.name = name,
+          .caption = title,
+          .size = {420, 248},
+          .outline = "fdf01",
+          .controls = kControls,
+          .firstFocus = txtGroupName};
+}
+
+const FormDesign& frmNewFavorite::Design() {
+  static const FormDesign kDesign = DesignOf("frmNewFavorite", IDS_DLG_NEW_TITLE);
+  return kDesign;
+}
+
+const FormDesign& frmRenameFav::Design() {
+  static const FormDesign kDesign = DesignOf("frmRenameFav", IDS_DLG_RENAME_TITLE);
+  return kDesign;
+}
+
+frmNewFavorite::frmNewFavorite(FormContext& context, HelpPages& help, const FormDesign& design,
+                               const char* page, std::string present)
+    : Form(context, design), help_(help), page_(page), name_(std::move(present)) {}
+
+std::span<const EventRow> frmNewFavorite::Events() const {
+  static const EventRow kRows[] = {
+      {txtGroupName, Change, &frmNewFavorite::txtGroupName_Change},
+      {butOKIt, Click, &frmNewFavorite::butOKIt_Click},
+      {butCancelIt, Click, &frmNewFavorite::butCancelIt_Click},
+      {butCloseIt, Click, &frmNewFavorite::butCancelIt_Click},
+      {butHelp, Click, &frmNewFavorite::butHelp_Click},
+  };
+  return kRows;
+}
+
+std::string frmNewFavorite::AskName(HWND owner) { return ShowModal(owner) == 1 ? name_ : ""; }
+
+void frmNewFavorite::OnLoad() {
+  SetText(lblTitle, LoadText(Description().caption.id));
+  LimitText(txtGroupName, kMostNameBytes);
+  SetText(txtGroupName, name_);
+  SelectAllText(txtGroupName);
+  txtGroupName_Change();
+}
+
+void frmNewFavorite::txtGroupName_Change() { Enable(butOKIt, !TrimBlanks(Text(txtGroupName)).empty()); }
+
+void frmNewFavorite::butOKIt_Click() {
+  name_ = Text(txtGroupName);
+  Close(1);
+}
+
+void frmNewFavorite::butHelp_Click() { help_.OpenHelpPage(page_); }
+
+}  // namespace sonaro

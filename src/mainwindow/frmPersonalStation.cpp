@@ -1,0 +1,145 @@
+#include "mainwindow/frmPersonalStation.h"
+
+#include "app/HelpPages.h"
+#include "app/Message.h"
+#include "base/Text.h"
+#include "forms/ControlIds.h"
+#include "playback/PlayLink.h"
+#include "resources/ids.h"
+
+namespace sonaro {
+
+const FormDesign& frmPersonalStation::Design() {
+  static constexpr ControlRow kControls[] = {
+      {.id = lblTitle, .kind = Kind::TitleBar, .text = IDS_DLG_OWN_TITLE, .at = {14, 4, 222, 26}},
+      {.kind = Kind::Label,
+       .text = IDS_DLG_OWN_NAME,
+       .at = {14, 48, 100, 28},
+       .type = Type::BodyStrong,
+       .ink = Ink::Muted},
+      {.id = txtStationName, .kind = Kind::Edit, .at = {120, 48, 426, 28}},
+      {.kind = Kind::Label,
+       .text = IDS_DLG_OWN_LINK_ONE,
+       .at = {14, 84, 100, 28},
+       .type = Type::BodyStrong,
+       .ink = Ink::Muted},
+      {.id = txtLink, .kind = Kind::Edit, .at = {120, 84, 426, 28}},
+      {.kind = Kind::Label,
+       .text = IDS_DLG_OWN_LINK_TWO,
+       .at = {14, 120, 100, 28},
+       .type = Type::BodyStrong,
+       .ink = Ink::Muted},
+      {.id = txtLink + 1, .kind = Kind::Edit, .at = {120, 120, 426, 28}},
+      {.kind = Kind::Label,
+       .text = IDS_DLG_OWN_LINK_THREE,
+       .at = {14, 156, 100, 28},
+       .type = Type::BodyStrong,
+       .ink = Ink::Muted},
+      {.id = txtLink + 2, .kind = Kind::Edit, .at = {120, 156, 426, 28}},
+      {.kind = Kind::Label,
+       .text = IDS_DLG_OWN_WEB,
+       .at = {14, 192, 100, 28},
+       .type = Type::BodyStrong,
+       .ink = Ink::Muted},
+      {.id = txtWebSite, .kind = Kind::Edit, .at = {120, 192, 426, 28}},
+      {.kind = Kind::Label,
+       .text = IDS_DLG_OWN_TYPE,
+       .at = {14, 228, 100, 28},
+       .type = Type::BodyStrong,
+       .ink = Ink::Muted},
+      {.id = txtType, .kind = Kind::Edit, .at = {120, 228, 180, 28}},
+      {.kind = Kind::Label,
+       .text = IDS_DLG_OWN_NOTE,
+       .at = {14, 264, 100, 28},
+       .type = Type::BodyStrong,
+       .ink = Ink::Muted},
+      {.id = txtStationNote, .kind = Kind::Edit, .at = {120, 264, 426, 28}},
+      {.kind = Kind::Groove, .at = {14, 368, 532, 2}},
+      {.id = butOKIt, .kind = Kind::PrimaryKey, .text = IDS_DLG_OK, .at = {346, 382, 96, 30}},
+      {.id = butCancelIt, .kind = Kind::PushKey, .text = IDS_DLG_CANCEL, .at = {450, 382, 96, 30}},
+      {.id = butHelp,
+       .kind = Kind::StripKey,
+       .text = IDS_DLG_HELP,
+       .at = {488, 12, 28, 22},
+       .icon = Icon::Help},
+      {.id = butCloseIt,
+       .kind = Kind::StripKey,
+       .text = IDS_DLG_CLOSE,
+       .at = {520, 12, 28, 22},
+       .icon = Icon::Close},
+  };
+  static constexpr FormDesign kDesign = {.name = "frmPersonalStation",
+                                         .caption = IDS_DLG_OWN_TITLE,
+                                         .size = {560, 430},
+                                         .outline = "ddf44",
+                                         .controls = kControls,
+                                         .firstFocus = txtStationName};
+  return kDesign;
+}
+
+std::span<const EventRow> frmPersonalStation::Events() const {
+  static const EventRow kRows[] = {
+      {butOKIt, Click, &frmPersonalStation::butOKIt_Click},
+      {butCancelIt, Click, &frmPersonalStation::butCancelIt_Click},
+      {butCloseIt, Click, &frmPersonalStation::butCancelIt_Click},
+      {butHelp, Click, &frmPersonalStation::butHelp_Click},
+  };
+  return kRows;
+}
+
+void frmPersonalStation::OnLoad() {
+  SetText(txtStationName, station_.name);
+  for (int link = 0; link < 3; ++link) {
+    // The user sees plain addresses; how they are played stands in the stored text.
+    SetText(txtLink + link, PlayLink::FromText(station_.links[static_cast<std::size_t>(link)]).address);
+  }
+  SetText(txtWebSite, station_.webSite);
+  SetText(txtType, station_.type);
+  SetText(txtStationNote, station_.note);
+}
+
+void frmPersonalStation::Complain(const char* key, int text) {
+  messages_.Ask({.key = key,
+                 .caption = LoadText(IDS_DLG_OWN_TITLE),
+                 .text = LoadText(text),
+                 .firstButton = LoadText(IDS_DLG_OK)});
+}
+
+void frmPersonalStation::butOKIt_Click() {
+  station_.name = Text(txtStationName);
+  bool anyLink = false;
+  for (int link = 0; link < 3; ++link) {
+    const std::string address(TrimBlanks(Text(txtLink + link)));
+    if (!address.empty() && !IsSafeArgument(address)) {
+      Complain("PersonalStationLink", IDS_DLG_OWN_BAD_LINK);
+      Focus(txtLink + link);
+      return;
+    }
+    std::string& stored = station_.links[static_cast<std::size_t>(link)];
+    PlayLink played = PlayLink::FromText(stored);
+    if (stored.empty()) played.way = PlayWay::AsxProgram;
+    played.address = address;
+    stored = address.empty() ? "" : played.ToText();
+    anyLink = anyLink || !address.empty();
+  }
+  if (TrimBlanks(station_.name).empty() || !anyLink) {
+    Complain("ToAddMorePersonalStationYouNeedMoreInfo", IDS_DLG_OWN_NEED_MORE);
+    return;
+  }
+  station_.webSite = Text(txtWebSite);
+  station_.type = Text(txtType);
+  station_.note = Text(txtStationNote);
+  if (!Save()) {
+    Complain("PersonalStationNotSaved", IDS_DLG_OWN_NOT_SAVED);
+    return;
+  }
+  Close(1);
+}
+
+bool frmPersonalStation::Save() {
+  return station_.index == 0 ? stations_.Add(station_) != 0 : stations_.Change(station_);
+}
+
+void frmPersonalStation::butHelp_Click() { help_.OpenHelpPage("9031.html"); }
+
+}  // namespace sonaro

@@ -1,0 +1,39 @@
+// Adds or changes one of the user's own stations.
+#pragma once
+
+#include "forms/Form.h"
+#include "playback/PersonalStations.h"
+
+namespace sonaro {
+
+class HelpPages;
+class MessageBoxView;
+
+class frmPersonalStation final : public Form {
+ public:
+  // A station with index 0 is a new one.
+  frmPersonalStation(FormContext& context, PersonalStations& stations, MessageBoxView& messages,
+                     HelpPages& help, PersonalStation station)
+      : Form(context, Design()),
+        stations_(stations),
+        messages_(messages),
+        help_(help),
+        station_(std::move(station)) {}
+
+ private:
+  static const FormDesign& Design();
+  std::span<const EventRow> Events() const override;
+  void OnLoad() override;
+  void Complain(const char* key, int text);
+  bool Save();
+  void butOKIt_Click();
+  void butCancelIt_Click() { Close(); }
+  void butHelp_Click();
+
+  PersonalStations& stations_;
+  MessageBoxView& messages_;
+  HelpPages& help_;
+  PersonalStation station_;
+};
+
+}  // namespace sonaro

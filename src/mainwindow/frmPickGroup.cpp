@@ -1,0 +1,68 @@
+#include "mainwindow/frmPickGroup.h"
+
+#include "forms/ControlIds.h"
+#include "resources/ids.h"
+
+namespace sonaro {
+
+const FormDesign& frmPickGroup::Design() {
+  static constexpr ControlRow kControls[] = {
+      {.id = lblTitle, .kind = Kind::TitleBar, .text = IDS_DLG_PICK_TITLE, .at = {14, 4, 182, 26}},
+      {.kind = Kind::Label,
+       .text = IDS_DLG_PICK_STATION,
+       .at = {14, 48, 90, 28},
+       .type = Type::BodyStrong,
+       .ink = Ink::Muted},
+      {.id = lblStation,
+       .kind = Kind::StateLabel,
+       .at = {110, 48, 296, 28},
+       .flags = kNoPrefix,
+       .type = Type::Title},
+      {.kind = Kind::Label,
+       .text = IDS_DLG_PICK_GROUP,
+       .at = {14, 84, 90, 28},
+       .type = Type::BodyStrong,
+       .ink = Ink::Muted},
+      {.id = cmbGroup, .kind = Kind::Combo, .text = IDS_DLG_PICK_GROUP, .at = {110, 84, 296, 28}},
+      {.kind = Kind::Groove, .at = {14, 190, 392, 2}},
+      {.id = butOKIt, .kind = Kind::PrimaryKey, .text = IDS_DLG_OK, .at = {214, 201, 92, 30}},
+      {.id = butCancelIt, .kind = Kind::PushKey, .text = IDS_DLG_CANCEL, .at = {314, 201, 92, 30}},
+      {.id = butCloseIt,
+       .kind = Kind::StripKey,
+       .text = IDS_DLG_CLOSE,
+       .at = {380, 12, 28, 22},
+       .icon = Icon::Close},
+  };
+  static constexpr FormDesign kDesign = {.name = "frmPickGroup",
+                                         .caption = IDS_DLG_PICK_TITLE,
+                                         .size = {420, 248},
+                                         .outline = "fdf01",
+                                         .controls = kControls,
+                                         .firstFocus = cmbGroup};
+  return kDesign;
+}
+
+std::span<const EventRow> frmPickGroup::Events() const {
+  static const EventRow kRows[] = {
+      {butOKIt, Click, &frmPickGroup::butOKIt_Click},
+      {butCancelIt, Click, &frmPickGroup::butCancelIt_Click},
+      {butCloseIt, Click, &frmPickGroup::butCancelIt_Click},
+  };
+  return kRows;
+}
+
+std::string frmPickGroup::AskGroup(HWND owner) { return ShowModal(owner) == 1 ? chosen_ : ""; }
+
+void frmPickGroup::OnLoad() {
+  SetText(lblStation, station_);
+  for (const std::string& group : groups_) AddItem(cmbGroup, group);
+  SelectItem(cmbGroup, 0);
+}
+
+void frmPickGroup::butOKIt_Click() {
+  const int row = SelectedItem(cmbGroup);
+  if (row >= 0) chosen_ = groups_[static_cast<std::size_t>(row)];
+  Close(1);
+}
+
+}  // namespace sonaro

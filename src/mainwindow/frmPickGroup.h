@@ -1,0 +1,31 @@
+// Asks which favourite group a station is added to.
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "forms/Form.h"
+
+namespace sonaro {
+
+class frmPickGroup final : public Form {
+ public:
+  frmPickGroup(FormContext& context, std::string station, std::vector<std::string> groups)
+      : Form(context, Design()), station_(std::move(station)), groups_(std::move(groups)) {}
+
+  // A group's name; "" when none was chosen.
+  std::string AskGroup(HWND owner);
+
+ private:
+  static const FormDesign& Design();
+  std::span<const EventRow> Events() const override;
+  void OnLoad() override;
+  void butOKIt_Click();
+  void butCancelIt_Click() { Close(); }
+
+  std::string station_;
+  std::vector<std::string> groups_;
+  std::string chosen_;
+};
+
+}  // namespace sonaro

@@ -1,0 +1,218 @@
+#include "playback/frmScan.h"
+
+#include <algorithm>
+
+#include "app/HelpPages.h"
+#include "app/Strings.h"
+#include "forms/ControlIds.h"
+#include "forms/ProgressScale.h"
+#include "playback/frmScanTime.h"
+#include "resources/ids.h"
+
+namespace sonaro {
+
+namespace {
+
+constexpr unsigned kSecond = 1000;
+constexpr int kFirstSymbolIcon = 7;  // the icon of reliability 0
+constexpr std::size_t kMostGroups = 10;
+
+}  // namespace
+
+std::string frmScan::QueueRows::Cell(int row, int column) const {
+  const ScanRow shown = scan_.QueueRow(static_cast<std::size_t>(row));
+  return column == 0 ? shown.name : shown.second;
+}
+
+std::string frmScan::HistoryRows::Cell(int row, int column) const {
+  const ScanRow& shown = scan_.HistoryRow(static_cast<std::size_t>(row));
+  if (column == 0) return shown.name;
+  return shown.reason.empty() ? shown.second : shown.reason;
+}
+
+int frmScan::HistoryRows::Symbol(int row) const {
+  return scan_.HistoryRow(static_cast<std::size_t>(row)).icon - kFirstSymbolIcon;
+}
+
+frmScan::frmScan(FormContext& context, StationScan& scan, HelpPages& help, Groups groups)
+    : Form(context, Design()),
+      context_(context),
+      scan_(scan),
+      help_(help),
+      groups_(std::move(groups)),
+      queue_(scan),
+      history_(scan) {}
+
+frmScan::~frmScan() {
+  if (IsOpen()) scan_.Close();
+}
+
+void frmScan::OnLoad() {
+  List(lstToScan).SetColumns(
+      {{LoadText(IDS_SCAN_W_COLUMN_NAME), 163}, {LoadText(IDS_SCAN_W_COLUMN_LOCATION), 136}});
+  List(lstToScan).SetEmptyText(LoadText(IDS_SCAN_W_EMPTY), LoadText(IDS_SCAN_W_EMPTY_HELP));
+  List(lstToScan).SetModel(&queue_, false);
+  List(lstToScan).onBeginDrag = [this](int row) { BeginQueueDrag(row); };
+  List(lstScanedAlready)
+      .SetColumns({{LoadText(IDS_SCAN_W_COLUMN_NAME), 169}, {LoadText(IDS_SCAN_W_COLUMN_WHAT), 118}});
+  List(lstScanedAlready)
+      .SetEmptyText(LoadText(IDS_SCAN_W_HISTORY_EMPTY), LoadText(IDS_SCAN_W_HISTORY_EMPTY_HELP));
+  List(lstScanedAlready).SetModel(&history_, true);
+  scan_.Open(*this);
+  ShowLists();
+  ShowState();
+}
+
+void frmScan::OnUnload() { scan_.Close(); }
+
+void frmScan::StationsAdded() {
+  if (IsOpen()) SetText(lblStationsAdd, "");
+  ShowLists();
+}
+
+void frmScan::ShowState() {
+  if (!IsOpen()) return;
+  SetText(butStartIt, scan_.StartCaption());
+  SetIcon(butStartIt, scan_.State() == ScanState::Scanning ? Icon::Pause : Icon::Play);
+  SetText(lblCurrentScaning, scan_.CurrentText());
+  ShowControl(lblTimeLeft, scan_.TimeLeftVisible());
+  ShowTimeLeft();
+  const ScanButtons can = scan_.Buttons(QueueRow());
+  Enable(butStartIt, can.start);
+  Enable(butMoveNextIt, can.moveNext);
+  Enable(butMoveUpIt, can.moveUp);
+  Enable(butMoveDownIt, can.moveDown);
+  Enable(butRemoveStationIt, can.remove);
+  Enable(butClearIt, can.clear);
+}
+
+void frmScan::ShowTimeLeft() {
+  SetText(lblTimeLeft, scan_.TimeLeftText());
+  const bool counts = scan_.TimeLeftVisible();
+  Progress(picScan).SetProgress(counts ? scan_.ScanTime() - scan_.TimeLeft() : 0,
+                                counts ? scan_.ScanTime() : 0);
+}
+
+void frmScan::ShowLists() {
+  if (!IsOpen()) return;
+  const int selected = List(lstToScan).Selected();
+  List(lstToScan).RowsChanged();
+  List(lstToScan).Select(std::min(std::max(selected, 0), queue_.RowCount() - 1));
+  List(lstScanedAlready).RowsChanged();
+  SetText(lblQueueCount, FillIn(LoadText(IDS_SCAN_W_QUEUE_COUNT), {std::to_string(scan_.QueueCount())}));
+}
+
+void frmScan::SelectQueueRow(std::size_t row) { List(lstToScan).Select(static_cast<int>(row)); }
+
+void frmScan::EnableTimer(bool on) {
+  if (on) {
+    StartTimer(tmrScan, kSecond);
+  } else {
+    StopTimer(tmrScan);
+  }
+}
+
+std::optional<std::size_t> frmScan::QueueRow() {
+  const int row = List(lstToScan).Selected();
+  return row >= 0 ? std::optional(static_cast<std::size_t>(row)) : std::nullopt;
+}
+
+void frmScan::UseFullLayout(bool full) {
+  UseLayout(full ? 0 : 1);
+  ShowControl(panScanFull, full);
+  ShowControl(panScanCompact, !full);
+  SetText(butFullIt, LoadText(full ? IDS_SCAN_W_COMPACT : IDS_SCAN_W_FULL));
+}
+
+void frmScan::butMoveUpIt_Click() {
+  if (const auto row = QueueRow()) scan_.MoveUp(*row);
+}
+
+void frmScan::butMoveDownIt_Click() {
+  if (const auto row = QueueRow()) scan_.MoveDown(*row);
+}
+
+void frmScan::butRemoveStationIt_Click() {
+  if (const auto row = QueueRow()) scan_.Remove(*row);
+}
+
+void frmScan::butScanTimeIt_Click() {
+  frmScanTime dialog(context_, scan_.ScanTime());
+  if (dialog.ShowModal(Window()) == 1) scan_.SetScanTime(dialog.Chosen());
+}
+
+void frmScan::butHelp_Click() { help_.OpenHelpPage("9018.html"); }
+
+void frmScan::lblStationsAdd_Change() { scan_.StationsAdded(Text(lblStationsAdd)); }
+
+void frmScan::lstToScan_ItemSelected(int) { ShowState(); }
+
+std::vector<MenuEntry> frmScan::GroupEntries() const {
+  std::vector<MenuEntry> entries;
+  const std::vector<std::string> names = groups_.names ? groups_.names() : std::vector<std::string>{};
+  for (std::size_t group = 0; group < std::min(names.size(), kMostGroups); ++group) {
+    entries.push_back({.command = mnuScanToGroup + static_cast<int>(group),
+                       .text = FillIn(LoadText(IDS_SCAN_W_MENU_GROUP), {names[group]})});
+  }
+  return entries;
+}
+
+void frmScan::lstToScan_ContextMenu(int row, POINT at) {
+  if (row < 0) return;
+  menuStation_ = scan_.QueueRow(static_cast<std::size_t>(row)).key;
+  std::vector<MenuEntry> menu = GroupEntries();
+  if (!menu.empty()) menu.push_back({});
+  menu.push_back({.command = mnuScanRemove, .text = LoadText(IDS_SCAN_W_MENU_REMOVE)});
+  PopUpMenu(menu, at);
+}
+
+void frmScan::lstScanedAlready_ItemActivate(int row) {
+  if (row >= 0) scan_.PutBack(static_cast<std::size_t>(row));
+}
+
+void frmScan::lstScanedAlready_ContextMenu(int row, POINT at) {
+  if (row < 0) return;
+  menuHistoryRow_ = row;
+  menuStation_ = scan_.HistoryRow(static_cast<std::size_t>(row)).key;
+  std::vector<MenuEntry> menu = {{.command = mnuScanPutBack, .text = LoadText(IDS_SCAN_W_MENU_PUT_BACK)}};
+  std::vector<MenuEntry> groups = GroupEntries();
+  if (!groups.empty()) menu.push_back({});
+  menu.insert(menu.end(), groups.begin(), groups.end());
+  PopUpMenu(menu, at);
+}
+
+void frmScan::mnuScanPutBack_Click() { lstScanedAlready_ItemActivate(menuHistoryRow_); }
+
+void frmScan::mnuScanToGroup_Click(int group) {
+  const std::vector<std::string> names = groups_.names ? groups_.names() : std::vector<std::string>{};
+  if (static_cast<std::size_t>(group) < names.size() && menuStation_) {
+    groups_.add(names[static_cast<std::size_t>(group)], menuStation_.Token());
+  }
+}
+
+// Rows of the queue are moved by dragging: while the button is down the window has the mouse.
+void frmScan::BeginQueueDrag(int row) {
+  draggedRow_ = row;
+  SetCapture(Window());
+}
+
+bool frmScan::OnMessage(UINT message, WPARAM, LPARAM lParam, LRESULT& result) {
+  if (draggedRow_ < 0) return false;
+  if (message == WM_LBUTTONUP) {
+    POINT at = {static_cast<short>(LOWORD(lParam)), static_cast<short>(HIWORD(lParam))};
+    ClientToScreen(Window(), &at);
+    const int from = draggedRow_;
+    draggedRow_ = -1;
+    ReleaseCapture();
+    const int to = List(lstToScan).RowAt(at);
+    if (to >= 0 && to != from) {
+      scan_.MoveRow(static_cast<std::size_t>(from), static_cast<std::size_t>(to > from ? to + 1 : to));
+    }
+    result = 0;
+    return true;
+  }
+  if (message == WM_CAPTURECHANGED) draggedRow_ = -1;
+  return false;
+}
+
+}  // namespace sonaro

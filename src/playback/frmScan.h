@@ -1,0 +1,100 @@
+// The window of the station scan, full with queue and history or compact with the labels and keys only.
+// StationScan decides everything; this window shows it and hands the keys on.
+#pragma once
+
+#include <functional>
+#include <string>
+#include <vector>
+
+#include "forms/Form.h"
+#include "forms/ListView.h"
+#include "playback/StationScan.h"
+
+namespace sonaro {
+
+class HelpPages;
+
+class frmScan final : public Form, private ScanView {
+ public:
+  // The favourite groups, which belong to the main window.
+  struct Groups {
+    std::function<std::vector<std::string>()> names;
+    std::function<void(const std::string& name, const std::string& token)> add;
+  };
+
+  frmScan(FormContext& context, StationScan& scan, HelpPages& help, Groups groups);
+  ~frmScan() override;
+
+  // Stations were added to the queue from elsewhere.
+  void StationsAdded();
+
+ private:
+  class QueueRows final : public ListModel {
+   public:
+    explicit QueueRows(const StationScan& scan) : scan_(scan) {}
+    int RowCount() const override { return static_cast<int>(scan_.QueueCount()); }
+    std::string Cell(int row, int column) const override;
+
+   private:
+    const StationScan& scan_;
+  };
+  class HistoryRows final : public ListModel {
+   public:
+    explicit HistoryRows(const StationScan& scan) : scan_(scan) {}
+    int RowCount() const override { return static_cast<int>(scan_.HistoryCount()); }
+    std::string Cell(int row, int column) const override;
+    int Symbol(int row) const override;
+
+   private:
+    const StationScan& scan_;
+  };
+
+  static const FormDesign& Design();
+  std::span<const EventRow> Events() const override;
+  std::span<const TimerRow> Timers() const override;
+  void OnLoad() override;
+  void OnUnload() override;
+  bool OnMessage(UINT message, WPARAM wParam, LPARAM lParam, LRESULT& result) override;
+
+  void ShowState() override;
+  void ShowTimeLeft() override;
+  void ShowLists() override;
+  void SelectQueueRow(std::size_t row) override;
+  void EnableTimer(bool on) override;
+
+  std::optional<std::size_t> QueueRow();
+  void UseFullLayout(bool full);
+  std::vector<MenuEntry> GroupEntries() const;
+  void BeginQueueDrag(int row);
+
+  void butStartIt_Click() { scan_.StartPauseContinue(); }
+  void butMoveNextIt_Click() { scan_.MoveNext(); }
+  void butMoveUpIt_Click();
+  void butMoveDownIt_Click();
+  void butRemoveStationIt_Click();
+  void butClearIt_Click() { scan_.Clear(); }
+  void butFullIt_Click() { UseFullLayout(CurrentLayout() != 0); }
+  void butScanTimeIt_Click();
+  void butCloseIt_Click() { Close(); }
+  void butHelp_Click();
+  void tmrScan_Timer() { scan_.Tick(); }
+  void lblStationsAdd_Change();
+  void lstToScan_ItemSelected(int row);
+  void lstToScan_ContextMenu(int row, POINT at);
+  void lstScanedAlready_ItemActivate(int row);
+  void lstScanedAlready_ContextMenu(int row, POINT at);
+  void mnuScanPutBack_Click();
+  void mnuScanToGroup_Click(int group);
+
+  FormContext& context_;
+  StationScan& scan_;
+  HelpPages& help_;
+  Groups groups_;
+  QueueRows queue_;
+  HistoryRows history_;
+  StationKey menuStation_;  // whose context menu is open
+  int menuHistoryRow_ = -1;
+  int draggedRow_ = -1;
+};
+
+}  // namespace sonaro

@@ -1,0 +1,53 @@
+#include "playback/frmScanTime.h"
+
+#include <string>
+
+#include "forms/ControlIds.h"
+#include "playback/StationScan.h"
+#include "resources/ids.h"
+
+namespace sonaro {
+
+const FormDesign& frmScanTime::Design() {
+  static constexpr ControlRow kControls[] = {
+      {.id = lblTitle, .kind = Kind::TitleBar, .text = IDS_SCAN_W_TIME_TITLE, .at = {14, 4, 182, 26}},
+      {.kind = Kind::Label, .text = IDS_SCAN_W_TIME_LABEL, .at = {14, 60, 200, 28}, .type = Type::BodyStrong},
+      {.id = cmbScanTime, .kind = Kind::Combo, .text = IDS_SCAN_W_TIME_LABEL, .at = {220, 60, 100, 28}},
+      {.kind = Kind::Groove, .at = {14, 190, 392, 2}},
+      {.id = butOKIt, .kind = Kind::PrimaryKey, .text = IDS_APP_OK, .at = {214, 201, 92, 30}},
+      {.id = butCancelIt, .kind = Kind::PushKey, .text = IDS_SCHED_CANCEL, .at = {314, 201, 92, 30}},
+      {.id = butCloseIt,
+       .kind = Kind::StripKey,
+       .text = IDS_APP_CLOSE,
+       .at = {380, 12, 28, 22},
+       .icon = Icon::Close},
+  };
+  static constexpr FormDesign kDesign = {.name = "frmScanTime",
+                                         .caption = IDS_SCAN_W_TIME_TITLE,
+                                         .size = {420, 248},
+                                         .outline = "fdf01",
+                                         .controls = kControls,
+                                         .firstFocus = cmbScanTime};
+  return kDesign;
+}
+
+std::span<const EventRow> frmScanTime::Events() const {
+  static const EventRow kRows[] = {
+      {butOKIt, Click, &frmScanTime::butOKIt_Click},
+      {butCancelIt, Click, &frmScanTime::butCancelIt_Click},
+      {butCloseIt, Click, &frmScanTime::butCancelIt_Click},
+  };
+  return kRows;
+}
+
+void frmScanTime::OnLoad() {
+  for (int seconds : StationScan::kScanTimes) AddItem(cmbScanTime, std::to_string(seconds), seconds);
+  if (!SelectItemData(cmbScanTime, seconds_)) SelectItem(cmbScanTime, 0);
+}
+
+void frmScanTime::butOKIt_Click() {
+  seconds_ = ItemData(cmbScanTime, SelectedItem(cmbScanTime));
+  Close(1);
+}
+
+}  // namespace sonaro
