@@ -11,6 +11,7 @@
 #include "forms/MessageLoop.h"
 #include "mainwindow/SonaroFrm.h"
 #include "platform/Sound.h"
+#include "playback/frmScan.h"
 #include "resources/ids.h"
 #include "tray/frmStartUpInfo.h"
 
@@ -40,6 +41,7 @@ Application::Application(const Platform& platform, const Strings& strings, std::
       pages_(source_, data_, platform.shell),
       help_(reg_, pages_),
       player_(source_, recent_, players_, pages_, strings_),
+      scan_(reg_, platform.clock, player_, source_, strings_),
       faceplate_(reg_, data_),
       shape_(data_),
       context_{strings_, faceplate_, shape_},
@@ -142,15 +144,11 @@ TrayActions Application::MakeTrayActions() {
   actions.browse = [this] { BringForward("Browse"); };
   actions.search = [this] { BringForward("Search"); };
   actions.yourSonaro = [this] { BringForward("YourSonaro"); };
+  actions.scan = [this] { ShowScan(); };
   actions.schedule = [this] { schedule_->ShowSchedule(nullptr); };
   actions.help = [this] { help_.OpenHelpPage("index.html"); };
   actions.exit = [this] { Exit(); };
-  actions.groupNames = [this] {
-    std::vector<std::string> names;
-    for (std::size_t group = 0; group < favorites_.Count(); ++group)
-      names.emplace_back(favorites_.Name(group));
-    return names;
-  };
+  actions.groupNames = [this] { return GroupNames(); };
   actions.openGroup = [this](int group) {
     const auto index = static_cast<std::size_t>(group);
     if (index >= favorites_.Count()) return;
@@ -172,7 +170,11 @@ MainWindowCalls Application::MakeMainWindowCalls() {
   calls.scheduleStation = [this](const std::string& rowKey) {
     schedule_->ScheduleStation(main_->Window(), rowKey);
   };
-  calls.ask = [this](const Message& message) { return messages_.Ask(message); };
+  calls.showScan = [this] { ShowScan(); };
+  calls.addToScan = [this](const std::vector<std::string>& rowKeys) {
+    scan_.Add(rowKeys);
+    if (scanWindow_) scanWindow_->StationsAdded();
+  };
   calls.tellTray = [this](const std::string& text) { tray_.Tell(text); };
   calls.hideToTray = [this] { main_->Hide(); };
   calls.closeAsked = [this] { CloseAsked(); };
@@ -181,7 +183,29 @@ MainWindowCalls Application::MakeMainWindowCalls() {
   calls.comingEvents = [this] { return schedule_->ComingEvents(); };
   calls.notifyMe = [this](std::size_t line) { return schedule_->NotifyMe(main_->Window(), line); };
   calls.nextNotice = [this] { return schedule_->NextNotice(); };
+  AddQuestions(calls);
+  AddStationDialogs(calls);
   return calls;
+}
+
+std::vector<std::string> Application::GroupNames() const {
+  std::vector<std::string> names;
+  for (std::size_t group = 0; group < favorites_.Count(); ++group) names.emplace_back(favorites_.Name(group));
+  return names;
+}
+
+void Application::ShowScan() {
+  if (!scanWindow_) {
+    scanWindow_ =
+        std::make_unique<frmScan>(context_, scan_, help_,
+                                  frmScan::Groups{[this] { return GroupNames(); },
+                                                  [this](const std::string& name, const std::string& token) {
+                                                    if (const auto group = favorites_.Find(name))
+                                                      favorites_.AddStation(*group, token);
+                                                    main_->GroupsChanged();
+                                                  }});
+  }
+  scanWindow_->Show();
 }
 
 void Application::BringForward(std::string_view view) {

@@ -25,6 +25,7 @@
 #include "playback/PlayerSetup.h"
 #include "playback/Players.h"
 #include "playback/RecentList.h"
+#include "playback/StationScan.h"
 #include "playback/StationSource.h"
 #include "playback/WebPages.h"
 #include "tray/frmSysTrayMenu.h"
@@ -33,6 +34,7 @@ namespace sonaro {
 
 class ApplicationSchedule;
 class SonaroFrm;
+class frmScan;
 class frmSplash;
 struct GuideData;
 struct MainWindowCalls;
@@ -60,8 +62,15 @@ class Application final : private StartupView, private LaunchView {
 
   TrayActions MakeTrayActions();
   MainWindowCalls MakeMainWindowCalls();
+  void AddQuestions(MainWindowCalls& calls);
+  void AddStationDialogs(MainWindowCalls& calls);
   void ReadData();
   void FinishedLoading();
+  std::vector<std::string> GroupNames() const;
+  void ShowScan();
+  void EditPersonalStation(int index);
+  void DeletePersonalStation(int index);
+  void EditExtraLinks(std::int32_t stationId);
   void BringForward(std::string_view view);
   void CloseAsked();
   void Exit();
@@ -85,6 +94,7 @@ class Application final : private StartupView, private LaunchView {
   WebPages pages_;
   HelpPages help_;
   PlayerLaunch player_;
+  StationScan scan_;
   Faceplate faceplate_;
   Shape shape_;
   FormContext context_;
@@ -92,6 +102,7 @@ class Application final : private StartupView, private LaunchView {
   frmSysTrayMenu tray_;
   std::unique_ptr<frmSplash> splash_;
   std::unique_ptr<ApplicationSchedule> schedule_;
+  std::unique_ptr<frmScan> scanWindow_;
   std::unique_ptr<SonaroFrm> main_;
 };
 

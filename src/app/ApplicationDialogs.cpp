@@ -1,0 +1,69 @@
+// The questions and the small dialogs that the main window asks for.
+#include "app/Application.h"
+#include "app/SettingNames.h"
+#include "app/Strings.h"
+#include "forms/FileDialog.h"
+#include "mainwindow/SonaroFrm.h"
+#include "mainwindow/frmExtraLink.h"
+#include "mainwindow/frmNewFavorite.h"
+#include "mainwindow/frmPersonalStation.h"
+#include "mainwindow/frmPickGroup.h"
+#include "resources/ids.h"
+
+namespace sonaro {
+
+void Application::AddQuestions(MainWindowCalls& calls) {
+  calls.ask = [this](const Message& message) { return messages_.Ask(message); };
+  calls.askNewGroupName = [this] { return frmNewFavorite(context_, help_).AskName(main_->Window()); };
+  calls.askGroupName = [this](const std::string& present) {
+    return frmRenameFav(context_, help_, present).AskName(main_->Window());
+  };
+  calls.askGroupForStation = [this](const std::string& station) {
+    return frmPickGroup(context_, station, GroupNames()).AskGroup(main_->Window());
+  };
+  calls.askPlaylistToOpen = [this] {
+    return AskOpenPath(main_->Window(), strings_.Load(IDS_DLG_PLAYLIST_FILTER));
+  };
+  calls.askPlaylistToSave = [this](const std::string& name) {
+    return AskSavePath(main_->Window(), strings_.Load(IDS_DLG_PLAYLIST_FILTER), name);
+  };
+}
+
+void Application::AddStationDialogs(MainWindowCalls& calls) {
+  calls.editPersonalStation = [this](int index) { EditPersonalStation(index); };
+  calls.deletePersonalStation = [this](int index) { DeletePersonalStation(index); };
+  calls.editExtraLinks = [this](std::int32_t stationId) { EditExtraLinks(stationId); };
+}
+
+void Application::EditPersonalStation(int index) {
+  const PersonalStation* known = personal_.Find(index);
+  frmPersonalStation dialog(context_, personal_, messages_, help_,
+                            known != nullptr ? *known : PersonalStation{});
+  if (dialog.ShowModal(main_->Window()) == 1) main_->PersonalStationsChanged();
+}
+
+void Application::DeletePersonalStation(int index) {
+  const PersonalStation* known = personal_.Find(index);
+  if (known == nullptr) return;
+  if (reg_.Setting(setting::kNoShowDeletePersonalStation).empty()) {
+    const MessageResult result =
+        messages_.Ask({.key = "DeletePersonalStation",
+                       .caption = strings_.Load(IDS_DLG_OWN_DELETE_CAPTION),
+                       .text = FillIn(strings_.Load(IDS_DLG_OWN_DELETE_TEXT), {known->name}),
+                       .firstButton = strings_.Load(IDS_DLG_OWN_DELETE),
+                       .secondButton = strings_.Load(IDS_DLG_CANCEL),
+                       .dontAskText = strings_.Load(IDS_DONT_ASK_AGAIN)});
+    if (result.answer != MessageAnswer::First) return;
+    if (result.dontAskAgain) reg_.SetSetting(setting::kNoShowDeletePersonalStation, "Yes");
+  }
+  personal_.Delete(index);
+  main_->PersonalStationsChanged();
+}
+
+void Application::EditExtraLinks(std::int32_t stationId) {
+  const StationKey key{StationKey::Kind::Directory, stationId};
+  frmExtraLink dialog(context_, extra_, messages_, stationId, source_.NameOf(key));
+  if (dialog.ShowModal(main_->Window()) == 1) main_->PersonalStationsChanged();
+}
+
+}  // namespace sonaro
