@@ -53,6 +53,8 @@ void AfterChange(FormParts& parts, const FormItem& item, UINT message) {
     NotifyWinEvent(kLiveRegionChanged, item.window, OBJID_CLIENT, CHILDID_SELF);
   }
   if (message == WM_SETTEXT && item.KindOf() == Kind::GroupKey) parts.UpdateTabStops();
+  // In a group Tab goes on from where the arrow keys have led, and comes back to the active one.
+  if (message == WM_SETFOCUS || message == WM_KILLFOCUS) parts.UpdateTabStops(parts.GroupOf(item));
 }
 
 LRESULT HandleControlMessage(FormParts& parts, std::size_t index, UINT message, WPARAM wParam,

@@ -273,8 +273,10 @@ KeyTextRoom MeasureKey(const RECT& box, const KeyPicture& key, const Painter& pa
       return {needed(Type::BodyStrong), width - painter.Px(44)};
     case Kind::GroupKey:
       return {needed(Type::BodyStrong), width - painter.Px(26)};
-    case Kind::PlayKey:
-      return {needed(Type::MessageStrong), width - painter.Px(80)};
+    case Kind::PlayKey: {
+      const bool numbered = key.detail.find(L'\t') != std::wstring::npos;
+      return {needed(Type::MessageStrong), width - painter.Px(numbered ? 80 : 42)};
+    }
     case Kind::HeaderKey:
       return {needed(Type::BodyStrong), width - painter.Px(11)};
     case Kind::CheckBox:

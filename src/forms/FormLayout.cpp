@@ -7,11 +7,6 @@
 namespace sonaro {
 namespace {
 
-Type FontTypeOf(const ControlRow& row) {
-  if (row.type != Type::Default) return row.type;
-  return row.kind == Kind::TitleBar ? Type::Title : Type::Body;
-}
-
 int FontHeight(const Painter& painter, Type type) {
   const HDC screen = GetDC(nullptr);
   const HGDIOBJ before = SelectObject(screen, painter.Font(type));
@@ -63,9 +58,9 @@ void FormParts::ChooseDpi(HMONITOR monitor) {
   RenewBrush(offBrush, painter->Colors().keyOff);
 }
 
-void FormParts::UseDpi(int dpi) {
+void FormParts::UseDpi(int dpi, Fit fit) {
   const PixelRect room = WorkAreaOf(window);
-  const int fitting = FittingDpi(Size(), {room.Width(), room.Height()}, dpi);
+  const int fitting = fit == Fit::Yes ? FittingDpi(Size(), {room.Width(), room.Height()}, dpi) : dpi;
   const auto old = std::move(painter);  // its fonts are in use until the controls have the new ones
   painter = std::make_unique<Painter>(context.faceplate.Colors(), fitting);
   RenewBrush(glassBrush, painter->Colors().glass);
@@ -158,19 +153,24 @@ void FormParts::ShowOrHide(FormItem& item) {
   }
 }
 
-void FormParts::UpdateTabStops() {
-  const auto checked = [](const FormItem& item) {
-    return SendMessageW(item.window, BM_GETCHECK, 0, 0) == BST_CHECKED;
+void FormParts::UpdateTabStops(std::span<FormItem> group) const {
+  if (group.size() < 2) return;
+  const auto rank = [](const FormItem& item) {
+    if (GetFocus() == item.window) return 2;
+    return SendMessageW(item.window, BM_GETCHECK, 0, 0) == BST_CHECKED ? 1 : 0;
   };
+  const FormItem* stop = nullptr;
+  for (const FormItem& item : group) {
+    if (IsUsable(item) && (!stop || rank(item) > rank(*stop))) stop = &item;
+  }
+  for (const FormItem& item : group) SetTabStop(item.window, &item == stop);
+}
+
+void FormParts::UpdateTabStops() {
   for (std::size_t first = 0; first < items.size();) {
     const std::span<FormItem> group = GroupOf(items[first]);
     first += group.size();
-    if (group.size() < 2) continue;
-    const FormItem* stop = nullptr;
-    for (const FormItem& item : group) {
-      if (IsUsable(item) && (!stop || (checked(item) && !checked(*stop)))) stop = &item;
-    }
-    for (const FormItem& item : group) SetTabStop(item.window, &item == stop);
+    UpdateTabStops(group);
   }
 }
 

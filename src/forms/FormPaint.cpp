@@ -48,16 +48,14 @@ Color InkColor(const FormItem& item, const FaceplateColors& colors) {
 
 void PaintText(const FormParts& parts, const FormItem& item, HDC dc, const RECT& box) {
   const FaceplateColors& colors = parts.painter->Colors();
-  const Type type = item.row->type != Type::Default   ? item.row->type
-                    : item.KindOf() == Kind::TitleBar ? Type::Title
-                                                      : Type::Body;
+  const Type type = FontTypeOf(*item.row);
   UINT format = 0;
   if (item.Has(kRightAligned)) format |= DT_RIGHT;
   if (item.Has(kCentred)) format |= DT_CENTER;
   if (item.Has(kWrap)) format |= DT_WORDBREAK;
   if (item.KindOf() != Kind::Label || item.Has(kNoPrefix)) {
     format |= DT_NOPREFIX;
-  } else if (SendMessageW(item.window, WM_QUERYUISTATE, 0, 0) & UISF_HIDEACCEL) {
+  } else if (!parts.showAccessKeys) {
     format |= DT_HIDEPREFIX;
   }
   const Color color = IsWindowEnabled(item.window) ? InkColor(item, colors) : colors.textOff;
@@ -214,7 +212,6 @@ int FormParts::DialOffset(const FormItem& tab) const {
 }
 
 KeyPicture FormParts::PictureOf(const FormItem& item) const {
-  const LRESULT hidden = SendMessageW(item.window, WM_QUERYUISTATE, 0, 0);
   KeyPicture key;
   key.kind = item.KindOf();
   key.secondary = item.Has(kSecondary);
@@ -223,8 +220,8 @@ KeyPicture FormParts::PictureOf(const FormItem& item) const {
   key.icon = item.icon;
   key.sort = item.sort;
   key.noPrefix = item.Has(kNoPrefix);
-  key.hideAccel = (hidden & UISF_HIDEACCEL) != 0;
-  key.focused = GetFocus() == item.window && (hidden & UISF_HIDEFOCUS) == 0;
+  key.hideAccel = !showAccessKeys;
+  key.focused = showFocus && GetFocus() == item.window;
   key.state.hover = item.hover;
   key.state.pressed = (SendMessageW(item.window, BM_GETSTATE, 0, 0) & BST_PUSHED) != 0;
   key.state.disabled = !IsWindowEnabled(item.window);

@@ -26,6 +26,11 @@ bool IsDecoration(Kind kind) {
          kind == Kind::Mark;
 }
 
+Type FontTypeOf(const ControlRow& row) {
+  if (row.type != Type::Default) return row.type;
+  return row.kind == Kind::TitleBar ? Type::Title : Type::Body;
+}
+
 FormParts::FormParts(Form& ownerForm, FormContext& formContext, const FormDesign& formDesign)
     : form(&ownerForm), context(formContext), design(formDesign) {}
 

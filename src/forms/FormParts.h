@@ -47,6 +47,7 @@ bool IsCheck(Kind kind);   // CheckBox, RadioButton
 bool IsEdit(Kind kind);    // in glass that the form paints
 bool IsCombo(Kind kind);
 bool IsDecoration(Kind kind);  // painted by the form, no window
+Type FontTypeOf(const ControlRow& row);
 
 // The form's ground: plate, decorations, outline. Painted once for a look and a layout; controls copy from it
 // what lies behind them.
@@ -98,17 +99,24 @@ class FormParts final : public FormServices, public std::enable_shared_from_this
 
   // FormLayout.cpp
   void ChooseDpi(HMONITOR monitor);  // makes painter and brushes
-  void UseDpi(int dpi);              // or the largest that fits the work area; the window keeps its corner
+  // Makes everything anew for `dpi`, with Fit for the largest that lets the form fit its work area. The
+  // window keeps its corner.
+  enum class Fit : bool { No, Yes };
+  void UseDpi(int dpi, Fit fit = Fit::Yes);
   void RenewLook();     // colours changed: painter, brushes, fonts, outline, everything painted again
   void ResizeWindow();  // to the layout's size at the dpi, outline included
   void PlaceControls();
   void ShowOrHide(FormItem& item);
   void UpdateTabStops();  // one in each group
+  void UpdateTabStops(std::span<FormItem> group) const;
   DesignSize Size() const;
   RECT WindowBox(const FormItem& item) const;  // of the control's window, which may be smaller than its place
 
   // FormWindow.cpp
   LRESULT HandleMessage(UINT message, WPARAM wParam, LPARAM lParam);
+  // The user works with the keyboard: the focus line and the underlines of access keys show from now on. The
+  // form keeps this itself because not every system does.
+  void ShowCues(bool focus, bool accessKeys);
   void Destroy();
   void DestroySoon();  // when the handler that runs now has returned
   std::string TextOf(const Words& words) const;
@@ -141,6 +149,8 @@ class FormParts final : public FormServices, public std::enable_shared_from_this
   bool closing = false;     // Close was called
   bool placed = false;      // the program has said where the window lies
   bool focusGiven = false;  // the first focus is set at the first showing
+  bool showFocus = false;
+  bool showAccessKeys = false;
   int result = 0;
   int depth = 0;  // nested calls of the window procedure
 

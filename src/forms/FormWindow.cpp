@@ -147,13 +147,21 @@ void FormParts::Load() {
   SetWindowTextW(window, Widen(TextOf(design.caption)).c_str());
   BuildControls();
   UseDpi(painter->Dpi());
-  const HWND owner = GetWindow(window, GW_OWNER);
-  const LRESULT hidden = owner ? SendMessageW(owner, WM_QUERYUISTATE, 0, 0) : UISF_HIDEFOCUS | UISF_HIDEACCEL;
   BOOL cues = FALSE;
   SystemParametersInfoW(SPI_GETKEYBOARDCUES, 0, &cues, 0);
-  SendMessageW(window, WM_UPDATEUISTATE,
-               MAKEWPARAM(UIS_SET, cues ? 0 : hidden & (UISF_HIDEFOCUS | UISF_HIDEACCEL)), 0);
+  const FormParts* owner = FormPartsOf(GetWindow(window, GW_OWNER));
+  showFocus = cues || (owner && owner->showFocus);
+  showAccessKeys = cues || (owner && owner->showAccessKeys);
   form->OnLoad();
+}
+
+void FormParts::ShowCues(bool focus, bool accessKeys) {
+  if ((showFocus || !focus) && (showAccessKeys || !accessKeys)) return;
+  showFocus = showFocus || focus;
+  showAccessKeys = showAccessKeys || accessKeys;
+  for (const FormItem& item : items) {
+    if (item.window && !IsEdit(item.KindOf())) InvalidateRect(item.window, nullptr, FALSE);
+  }
 }
 
 void FormParts::Destroy() {

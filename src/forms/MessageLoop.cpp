@@ -2,6 +2,7 @@
 
 #include "forms/ControlIds.h"
 #include "forms/FormParts.h"
+#include "forms/Guard.h"
 
 namespace sonaro {
 namespace {
@@ -55,7 +56,18 @@ bool RunEnter(FormParts& parts, FormItem* focused, MSG& message) {
   return true;
 }
 
+// Keys that move the focus, and Alt, show that the user works with the keyboard.
+void NoteKeyboardUse(FormParts& parts, const MSG& message) {
+  const WPARAM key = message.wParam;
+  if (message.message == WM_SYSKEYDOWN) {
+    parts.ShowCues(true, true);
+  } else if (key == VK_TAB || (key >= VK_LEFT && key <= VK_DOWN)) {
+    parts.ShowCues(true, false);
+  }
+}
+
 bool RunKey(FormParts& parts, MSG& message) {
+  NoteKeyboardUse(parts, message);
   FormItem* focused = parts.Focused();
   const int key = static_cast<int>(message.wParam);
   const bool listOpen =
@@ -90,11 +102,14 @@ bool TranslateFormMessage(MSG& message) {
   const HWND root = message.hwnd ? GetAncestor(message.hwnd, GA_ROOT) : nullptr;
   FormParts* found = FormPartsOf(root);
   if (!found) return false;
-  const auto parts = found->shared_from_this();
-  if (message.message == WM_MOUSEWHEEL && SendWheelToPointer(root, message)) return true;
-  if ((message.message == WM_KEYDOWN || message.message == WM_SYSKEYDOWN) && RunKey(*parts, message))
-    return true;
-  return IsWindow(root) && IsDialogMessageW(root, &message);
+  const LRESULT dealtWith = Guarded(TRUE, [&]() -> LRESULT {
+    const auto parts = found->shared_from_this();
+    const bool key = message.message == WM_KEYDOWN || message.message == WM_SYSKEYDOWN;
+    if (message.message == WM_MOUSEWHEEL && SendWheelToPointer(root, message)) return TRUE;
+    if (key && RunKey(*parts, message)) return TRUE;
+    return IsWindow(root) && IsDialogMessageW(root, &message);
+  });
+  return dealtWith != 0;
 }
 
 int RunMessageLoop() {

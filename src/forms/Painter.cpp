@@ -115,10 +115,14 @@ void Painter::Fill(HDC dc, const RECT& box, Color color) const {
 }
 
 void Painter::Gradient(HDC dc, const RECT& box, Color top, Color bottom) const {
-  for (int y = box.top; y < box.bottom; ++y) {
-    FillSpan(dc, box.left, box.right, y,
-             Between(top, bottom, y - static_cast<int>(box.top), static_cast<int>(box.bottom - box.top)));
-  }
+  if (top == bottom) return Fill(dc, box, top);
+  const auto corner = [](LONG x, LONG y, Color color) {
+    const auto wide = [](std::uint8_t channel) { return static_cast<COLOR16>(channel << 8); };
+    return TRIVERTEX{x, y, wide(color.red), wide(color.green), wide(color.blue), 0};
+  };
+  TRIVERTEX corners[] = {corner(box.left, box.top, top), corner(box.right, box.bottom, bottom)};
+  GRADIENT_RECT whole = {0, 1};
+  GradientFill(dc, corners, 2, &whole, 1, GRADIENT_FILL_RECT_V);
 }
 
 void Painter::Frame(HDC dc, const RECT& box, Color color, int width) const {
@@ -172,27 +176,44 @@ void Painter::DrawIcon(HDC dc, Icon icon, int x, int y, int designSize, Color co
 }
 
 void Painter::CutShape(HDC dc, const RECT& box, int cut, Color top, Color bottom, Color edge) const {
+  const int height = static_cast<int>(box.bottom - box.top);
+  const int rows = std::min(cut, height);
   const CutSpan shape = {box, cut};
-  const int height = box.bottom - box.top;
-  for (int y = box.top; y < box.bottom; ++y) {
+  const auto fillRow = [&](int y) {
     FillSpan(dc, shape.Left(y), shape.Right(y), y,
              Between(top, bottom, y - static_cast<int>(box.top), height));
+  };
+  for (int row = 0; row < rows; ++row) {
+    fillRow(static_cast<int>(box.top) + row);
+    fillRow(static_cast<int>(box.bottom) - 1 - row);
+  }
+  if (2 * rows < height) {
+    Gradient(dc, {box.left, box.top + rows, box.right, box.bottom - rows}, Between(top, bottom, rows, height),
+             Between(top, bottom, height - 1 - rows, height));
   }
   CutFrame(dc, box, cut, edge, Line());
 }
 
 void Painter::CutFrame(HDC dc, const RECT& box, int cut, Color color, int width) const {
   const CutSpan outer = {box, cut};
+  // So much of the cut that the slanting edges look as wide as the straight ones.
   const CutSpan inner = {{box.left + width, box.top + width, box.right - width, box.bottom - width},
                          std::max(0, cut - (width + 1) / 2)};
-  for (int y = box.top; y < box.bottom; ++y) {
+  const auto frameRow = [&](int y) {
     if (y < inner.box.top || y >= inner.box.bottom) {
       FillSpan(dc, outer.Left(y), outer.Right(y), y, color);
     } else {
       FillSpan(dc, outer.Left(y), std::max(outer.Left(y), inner.Left(y)), y, color);
       FillSpan(dc, std::min(outer.Right(y), inner.Right(y)), outer.Right(y), y, color);
     }
+  };
+  const int rows = std::min(std::max(cut, width), static_cast<int>(box.bottom - box.top) / 2);
+  for (int row = 0; row < rows; ++row) {
+    frameRow(static_cast<int>(box.top) + row);
+    frameRow(static_cast<int>(box.bottom) - 1 - row);
   }
+  Fill(dc, {box.left, box.top + rows, box.left + width, box.bottom - rows}, color);
+  Fill(dc, {box.right - width, box.top + rows, box.right, box.bottom - rows}, color);
 }
 
 void Painter::Glass(HDC dc, const RECT& box, int cut) const {

@@ -1,0 +1,170 @@
+#include "windows/FormCheck.h"
+
+#include <map>
+#include <set>
+
+#include "forms/Dpi.h"
+#include "forms/FormParts.h"
+#include "forms/Painter.h"
+
+namespace sonaro {
+namespace {
+
+class Check {
+ public:
+  Check(Form& form, FormParts& parts) : form_(form), parts_(parts) {}
+
+  std::vector<std::string> Run() {
+    CheckControls();
+    const int layouts = static_cast<int>(parts_.design.layouts.size());
+    for (int layout = 0; layout <= layouts; ++layout) {
+      form_.UseLayout(layout);
+      CheckTabOrder();
+      CheckAccessKeys();
+      for (const int dpi : {96, 120, 144, 192}) {
+        UseDpi(dpi);
+        CheckPlaces();
+        CheckTexts();
+      }
+      UseDpi(96);
+    }
+    form_.UseLayout(0);
+    return problems_;
+  }
+
+ private:
+  void Add(const FormItem& item, const std::string& problem) {
+    problems_.push_back(where_ + "control " + std::to_string(item.Id()) + " \"" + form_.Text(item.Id()) +
+                        "\" " + problem);
+  }
+
+  // Past the work area of the test's screen as well: a form would otherwise fall back to a smaller dpi.
+  void UseDpi(int dpi) {
+    where_ = "layout " + std::to_string(form_.CurrentLayout()) + " at " + std::to_string(dpi) + ": ";
+    parts_.UseDpi(dpi, FormParts::Fit::No);
+  }
+
+  void CheckControls() {
+    std::set<int> numbers;
+    for (const FormItem& item : parts_.items) {
+      if (item.Id() != 0 && !numbers.insert(item.Id()).second)
+        Add(item, "has a number that is already taken");
+      if (IsDecoration(item.KindOf())) continue;
+      if (!item.Window()) {
+        Add(item, "has no window");
+        continue;
+      }
+      if (item.Id() != 0 && GetDlgItem(parts_.window, item.Id()) != item.Window())
+        Add(item, "is not found by number");
+      if (!IsKey(item.KindOf()) && !IsCheck(item.KindOf())) continue;
+      wchar_t name[32] = {};
+      GetClassNameW(item.Window(), name, 32);
+      if (std::wstring(name) != L"Button") Add(item, "is not a button");
+      if (item.KindOf() != Kind::GroupKey && GetWindowTextLengthW(item.Window()) == 0)
+        Add(item, "has no text");
+      if (IsKey(item.KindOf()) && !parts_.IsBound(item.Id(), FormEvent::Kind::Click))
+        Add(item, "does nothing");
+    }
+  }
+
+  void CheckTabOrder() {
+    const HWND first = GetNextDlgTabItem(parts_.window, nullptr, FALSE);
+    HWND at = first;
+    std::ptrdiff_t before = -1;
+    for (int steps = 0; at && steps < 500; ++steps) {
+      const FormItem* item = parts_.Find(at);
+      const std::ptrdiff_t row = item ? item - parts_.items.data() : -1;
+      if (item && row <= before) Add(*item, "is reached by Tab before a row above it");
+      before = row;
+      at = GetNextDlgTabItem(parts_.window, at, FALSE);
+      if (at == first) break;
+    }
+  }
+
+  void CheckAccessKeys() {
+    std::map<wchar_t, const FormItem*> taken;
+    for (const FormItem& item : parts_.items) {
+      const bool labels = item.KindOf() == Kind::Label || IsKey(item.KindOf()) || IsCheck(item.KindOf());
+      if (!labels || !item.shown || item.Has(kNoPrefix)) continue;
+      wchar_t text[256] = {};
+      GetWindowTextW(item.Window(), text, 256);
+      for (const wchar_t* c = text; *c; ++c) {
+        if (*c != L'&') continue;
+        ++c;
+        if (*c == L'&' || !*c) break;
+        const auto [same, added] = taken.try_emplace(static_cast<wchar_t>(towupper(*c)), &item);
+        if (!added) Add(item, "shares its access key with control " + std::to_string(same->second->Id()));
+        break;
+      }
+    }
+  }
+
+  void CheckPlaces() {
+    RECT client{};
+    GetClientRect(parts_.window, &client);
+    for (const FormItem& item : parts_.items) {
+      if (!item.shown) continue;
+      const RECT box = ToRect(item.place);
+      if (box.left < 0 || box.top < 0 || box.right > client.right || box.bottom > client.bottom) {
+        Add(item, "leaves the form");
+      }
+      if (IsDecoration(item.KindOf()) || IsText(item.KindOf())) continue;
+      for (const FormItem& other : parts_.items) {
+        if (&other == &item) break;
+        if (!other.shown || IsDecoration(other.KindOf()) || IsText(other.KindOf())) continue;
+        const RECT otherBox = ToRect(other.place);
+        RECT common{};
+        if (IntersectRect(&common, &box, &otherBox))
+          Add(item, "overlaps control " + std::to_string(other.Id()));
+      }
+    }
+  }
+
+  void CheckTexts() {
+    for (const FormItem& item : parts_.items) {
+      if (!item.shown) continue;
+      RECT box{};
+      if (item.Window()) GetClientRect(item.Window(), &box);
+      if (IsKey(item.KindOf()) || IsCheck(item.KindOf())) {
+        const KeyTextRoom room = MeasureKey(box, parts_.PictureOf(item), *parts_.painter);
+        if (room.needed > room.available) Add(item, Lacks(room.needed, room.available));
+      } else if (IsText(item.KindOf())) {
+        CheckLabel(item, box);
+      }
+    }
+  }
+
+  void CheckLabel(const FormItem& item, const RECT& box) {
+    wchar_t text[1024] = {};
+    GetWindowTextW(item.Window(), text, 1024);
+    const Type type = FontTypeOf(*item.row);
+    const int width = static_cast<int>(box.right);
+    if (item.Has(kWrap)) {
+      const int needed = parts_.painter->WrappedHeight(text, type, width);
+      if (needed > box.bottom) Add(item, Lacks(needed, static_cast<int>(box.bottom)));
+    } else {
+      const UINT prefix = item.KindOf() == Kind::Label && !item.Has(kNoPrefix) ? 0 : DT_NOPREFIX;
+      const int needed = static_cast<int>(parts_.painter->Measure(text, type, prefix).cx);
+      if (needed > width) Add(item, Lacks(needed, width));
+    }
+  }
+
+  static std::string Lacks(int needed, int available) {
+    return "has room for " + std::to_string(available) + " of its " + std::to_string(needed) + " pixels";
+  }
+
+  Form& form_;
+  FormParts& parts_;
+  std::string where_;
+  std::vector<std::string> problems_;
+};
+
+}  // namespace
+
+std::vector<std::string> ProblemsOf(Form& form) {
+  FormParts* parts = FormPartsOf(form.Window());
+  if (!parts) return {"the form is not open"};
+  return Check(form, *parts).Run();
+}
+
+}  // namespace sonaro

@@ -1,0 +1,162 @@
+// The keyboard of a form: what the dialog keyboard of the system gives and what the key tables add.
+#include <gtest/gtest.h>
+
+#include "windows/DemoForm.h"
+#include "windows/FormContextForTests.h"
+#include "windows/Pump.h"
+
+namespace sonaro {
+namespace {
+
+using Log = std::vector<std::string>;
+
+class FormKeyboardTest : public testing::Test {
+ protected:
+  FormKeyboardTest() {
+    form.Show();
+    Pump();
+    form.log.clear();
+  }
+  FormContextForTests context;
+  DemoForm form{context.forms};
+};
+
+// The colour on a key's focus line, at the middle of its left edge.
+Color PixelInside(const Form& form, int key) {
+  RECT box{};
+  GetClientRect(form.Control(key), &box);
+  UpdateWindow(form.Control(key));
+  const HDC dc = GetDC(form.Control(key));
+  const COLORREF color = GetPixel(dc, 3, box.bottom / 2);
+  ReleaseDC(form.Control(key), dc);
+  return {GetRValue(color), GetGValue(color), GetBValue(color)};
+}
+
+TEST_F(FormKeyboardTest, BeginsWhereTheDesignSays) { EXPECT_EQ(form.FocusedControl(), DemoForm::kPush + 3); }
+
+TEST_F(FormKeyboardTest, PressesTheFocusedKeyElseThePrimaryOne) {
+  const struct {
+    int focus;
+    Log log;
+  } cases[] = {{DemoForm::kPush + 1, {"Click 5002"}},     {DemoForm::kGroups + 5, {"Click 5036"}},
+               {DemoForm::kEdit, {"Click 5011"}},         {DemoForm::kCheck, {"Click 5011"}},
+               {DemoForm::kCombo, {"Click 5011"}},        {DemoForm::kNotes, {"Click 5011"}},
+               {DemoForm::kSearch, {"EnterPressed 5111"}}};
+  for (const auto& c : cases) {
+    form.Focus(c.focus);
+    form.log.clear();
+    PressKey(VK_RETURN);
+    EXPECT_EQ(form.log, c.log) << "focus on " << c.focus;
+  }
+  form.Enable(DemoForm::kPush + 1);
+  form.Focus(DemoForm::kPush + 1);
+  form.log.clear();
+  PressKey(VK_SPACE);
+  EXPECT_EQ(form.log, (Log{"Click 5002"}));
+}
+
+TEST_F(FormKeyboardTest, GoesOnlyToKeysThatCanBePressed) {
+  form.Focus(DemoForm::kEdit);
+  form.log.clear();
+  form.Enable(DemoForm::kPrimary, false);
+  PressKey(VK_RETURN);
+  EXPECT_EQ(form.log, (Log{})) << "the next primary key stands in, and has no handler";
+  form.ShowControl(DemoForm::kPush + 1, false);
+  PressKey('K', false, true);
+  EXPECT_EQ(form.log, (Log{})) << "a hidden key does not act by its shortcut";
+  SendMessageW(form.Window(), WM_COMMAND, DemoForm::kPush + 1, 0);
+  EXPECT_EQ(form.log, (Log{}));
+}
+
+TEST_F(FormKeyboardTest, ReadsTheKeyTable) {
+  PressKey('K', false, true);
+  EXPECT_EQ(form.log, (Log{"Click 5002"}));
+  PressKey('K', true, true);
+  EXPECT_EQ(form.log.size(), 1U) << "other modifiers are another key";
+  PressKey(VK_DELETE);
+  EXPECT_EQ(form.log.size(), 1U) << "belongs to another control";
+  form.Focus(DemoForm::kCheck);
+  PressKey(VK_DELETE);
+  EXPECT_EQ(form.log.back(), "Click 5160");
+  PressKey('F', false, true);
+  EXPECT_EQ(form.FocusedControl(), DemoForm::kSearch) << "a control that is no key takes the focus";
+}
+
+TEST_F(FormKeyboardTest, MovesByTabFromGroupToGroupAndByArrowsInside) {
+  form.Focus(DemoForm::kPrimary + 3);
+  PressKey(VK_TAB);
+  EXPECT_EQ(form.FocusedControl(), DemoForm::kRanking + 5) << "the active key stands for its group";
+  PressKey(VK_RIGHT);
+  EXPECT_EQ(form.FocusedControl(), DemoForm::kRanking) << "round the end";
+  PressKey(VK_DOWN);
+  EXPECT_EQ(form.FocusedControl(), DemoForm::kRanking + 1);
+  PressKey(VK_TAB);
+  EXPECT_EQ(form.FocusedControl(), DemoForm::kGroups + 5);
+  PressKey(VK_TAB, true);
+  EXPECT_EQ(form.FocusedControl(), DemoForm::kRanking + 5);
+  form.Focus(DemoForm::kPush);
+  PressKey(VK_RIGHT);
+  EXPECT_EQ(form.FocusedControl(), DemoForm::kPush) << "a key that is in no group keeps the arrows";
+}
+
+TEST_F(FormKeyboardTest, SkipsEmptySocketsAndHiddenControls) {
+  form.SetToggle(DemoForm::kGroups + 5, false);
+  form.SetText(DemoForm::kGroups, "");
+  form.ShowControl(DemoForm::kGroups + 1, false);
+  form.SetToggle(DemoForm::kRanking + 5, false);
+  form.Focus(DemoForm::kRanking);
+  PressKey(VK_TAB);
+  EXPECT_EQ(form.FocusedControl(), DemoForm::kGroups + 2);
+}
+
+TEST_F(FormKeyboardTest, ShowsTheFocusOnlyAfterTheKeyboardWasUsed) {
+  BOOL cues = FALSE;
+  SystemParametersInfoW(SPI_GETKEYBOARDCUES, 0, &cues, 0);
+  SystemParametersInfoW(SPI_SETKEYBOARDCUES, 0, nullptr, 0);
+  form.Close();
+  form.Show();
+  SystemParametersInfoW(SPI_SETKEYBOARDCUES, 0, reinterpret_cast<void*>(static_cast<INT_PTR>(cues)), 0);
+  const int key = DemoForm::kPush + 3;
+  EXPECT_EQ(form.FocusedControl(), key);
+  EXPECT_NE(PixelInside(form, key), context.faceplate.Colors().focus);
+  PressKey(VK_TAB);
+  PressKey(VK_TAB, true);
+  EXPECT_EQ(form.FocusedControl(), key);
+  EXPECT_EQ(PixelInside(form, key), context.faceplate.Colors().focus);
+}
+
+TEST_F(FormKeyboardTest, PressesByAccessKey) {
+  PressAccessKey(L'd');  // "Sche&dule": several have it, the first after the focus is taken
+  EXPECT_EQ(form.log.size(), 1U);
+}
+
+TEST_F(FormKeyboardTest, MovesTheFocusOnWhenItsControlGoes) {
+  form.Focus(DemoForm::kEdit);
+  form.Enable(DemoForm::kEdit, false);
+  EXPECT_EQ(form.FocusedControl(), DemoForm::kEdit + 1);
+  form.ShowControl(DemoForm::kEdit + 1, false);
+  EXPECT_EQ(form.FocusedControl(), DemoForm::kEdit + 2);
+}
+
+TEST_F(FormKeyboardTest, SelectsAllInAnEdit) {
+  form.Focus(DemoForm::kEdit);
+  SendMessageW(GetFocus(), EM_SETSEL, 0, 0);
+  SendMessageW(GetFocus(), WM_CHAR, 1, 1);
+  const LRESULT selection = SendMessageW(GetFocus(), EM_GETSEL, 0, 0);
+  EXPECT_EQ(LOWORD(selection), 0);
+  EXPECT_EQ(HIWORD(selection), 10);
+}
+
+TEST_F(FormKeyboardTest, EscapesFromTheListFirst) {
+  form.Focus(DemoForm::kCombo);
+  SendMessageW(form.Control(DemoForm::kCombo), CB_SHOWDROPDOWN, TRUE, 0);
+  PressKey(VK_ESCAPE);
+  EXPECT_EQ(SendMessageW(form.Control(DemoForm::kCombo), CB_GETDROPPEDSTATE, 0, 0), FALSE);
+  EXPECT_TRUE(form.IsOpen());
+  PressKey(VK_ESCAPE);
+  EXPECT_EQ(form.log, (Log{"Escape", "Unload"}));
+  EXPECT_FALSE(form.IsOpen());
+}
+
+}  // namespace
+}  // namespace sonaro

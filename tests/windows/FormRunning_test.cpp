@@ -1,0 +1,179 @@
+// Opening, modal running, closing and destroying of forms, also from inside their own handlers.
+#include <gtest/gtest.h>
+
+#include <memory>
+
+#include "windows/DemoForm.h"
+#include "windows/FormContextForTests.h"
+#include "windows/Pump.h"
+
+namespace sonaro {
+namespace {
+
+using Log = std::vector<std::string>;
+
+// Runs a function once from the message loop, as the user's next action.
+class Later {
+ public:
+  explicit Later(std::function<void()> action) : action_(std::move(action)) {
+    window_ = CreateWindowExW(0, L"STATIC", nullptr, 0, 0, 0, 0, 0, HWND_MESSAGE, nullptr, nullptr, nullptr);
+    SetWindowSubclass(window_, Procedure, 1, reinterpret_cast<DWORD_PTR>(this));
+    PostMessageW(window_, WM_APP, 0, 0);
+  }
+  ~Later() { DestroyWindow(window_); }
+  Later(const Later&) = delete;
+  Later& operator=(const Later&) = delete;
+
+ private:
+  static LRESULT CALLBACK Procedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam, UINT_PTR,
+                                    DWORD_PTR self) {
+    if (message == WM_APP) reinterpret_cast<Later*>(self)->action_();
+    return DefSubclassProc(window, message, wParam, lParam);
+  }
+  std::function<void()> action_;
+  HWND window_;
+};
+
+TEST(FormRunning, ShowModalDisablesTheOthersAndAnswers) {
+  FormContextForTests context;
+  DemoForm owner(context.forms);
+  DemoForm other(context.forms);
+  DemoForm dialog(context.forms);
+  owner.Show();
+  other.Show();
+  dialog.closeOnClick = true;
+  dialog.resultOnClick = 3;
+  bool ownerTookInput = true;
+  bool otherTookInput = true;
+  const Later click([&] {
+    ownerTookInput = IsWindowEnabled(owner.Window());
+    otherTookInput = IsWindowEnabled(other.Window());
+    SendMessageW(dialog.Control(DemoForm::kPush), BM_CLICK, 0, 0);
+  });
+  EXPECT_EQ(dialog.ShowModal(owner.Window()), 3);
+  EXPECT_FALSE(ownerTookInput);
+  EXPECT_FALSE(otherTookInput);
+  EXPECT_FALSE(dialog.IsOpen());
+  EXPECT_TRUE(IsWindowEnabled(owner.Window()));
+  EXPECT_TRUE(IsWindowEnabled(other.Window()));
+  EXPECT_EQ(GetActiveWindow(), owner.Window());
+  EXPECT_EQ(dialog.log, (Log{"Click 5001", "Unload"}));
+}
+
+TEST(FormRunning, ModalFormsNest) {
+  FormContextForTests context;
+  DemoForm first(context.forms);
+  DemoForm second(context.forms);
+  int inner = 0;
+  const Later open([&] {
+    const Later close([&] { second.Close(5); });
+    inner = second.ShowModal(first.Window());
+    EXPECT_TRUE(IsWindowEnabled(first.Window()));
+    first.Close(4);
+  });
+  EXPECT_EQ(first.ShowModal(nullptr), 4);
+  EXPECT_EQ(inner, 5);
+}
+
+TEST(FormRunning, EscapeAndTheSystemMenuCloseADialog) {
+  FormContextForTests context;
+  DemoForm dialog(context.forms);
+  const Later escape([&] { PressKey(VK_ESCAPE); });
+  EXPECT_EQ(dialog.ShowModal(nullptr), 7);
+  const Later close([&] { SendMessageW(dialog.Window(), WM_SYSCOMMAND, SC_CLOSE, 0); });
+  EXPECT_EQ(dialog.ShowModal(nullptr), 0) << "this form has no close key: it just closes";
+  EXPECT_EQ(dialog.log, (Log{"Escape", "Unload", "Unload"}));
+}
+
+TEST(FormRunning, QuittingEndsAModalFormAndTheLoopAroundIt) {
+  FormContextForTests context;
+  DemoForm dialog(context.forms);
+  const Later quit([] { PostQuitMessage(9); });
+  EXPECT_EQ(dialog.ShowModal(nullptr), 0);
+  EXPECT_FALSE(dialog.IsOpen());
+  MSG message{};
+  ASSERT_TRUE(PeekMessageW(&message, nullptr, WM_QUIT, WM_QUIT, PM_REMOVE));
+  EXPECT_EQ(message.wParam, 9U);
+}
+
+TEST(FormRunning, AFormMayBeDestroyedInItsOwnHandler) {
+  FormContextForTests context;
+  const std::function<void(DemoForm&)> presses[] = {
+      [](DemoForm& form) { SendMessageW(form.Control(DemoForm::kPush), BM_CLICK, 0, 0); },
+      [](DemoForm& form) {
+        MouseOn(form.Control(DemoForm::kPush), WM_LBUTTONDOWN);
+        MouseOn(form.Control(DemoForm::kPush), WM_LBUTTONUP);
+      },
+      [](DemoForm& form) {
+        form.Focus(DemoForm::kPush);
+        PressKey(VK_RETURN);
+      },
+      [](DemoForm& form) { SendMessageW(form.Window(), WM_COMMAND, DemoForm::kPush, 0); }};
+  for (const auto& press : presses) {
+    auto* form = new DemoForm(context.forms);
+    form->destroyOnClick = &form;
+    form->Show();
+    press(*form);
+    EXPECT_EQ(form, nullptr);
+    Pump();
+    EXPECT_EQ(FindWindowA("frmDemo", nullptr), nullptr);
+  }
+}
+
+TEST(FormRunning, AModalFormMayBeDestroyedInItsOwnHandler) {
+  FormContextForTests context;
+  auto* form = new DemoForm(context.forms);
+  form->destroyOnClick = &form;
+  const Later click([&] { SendMessageW(form->Control(DemoForm::kPush), BM_CLICK, 0, 0); });
+  EXPECT_EQ(form->ShowModal(nullptr), 0);
+  EXPECT_EQ(form, nullptr);
+}
+
+TEST(FormRunning, ClosingFromAHandlerHidesAtOnceAndDestroysWhenItReturns) {
+  FormContextForTests context;
+  DemoForm form(context.forms);
+  form.closeOnClick = true;
+  form.Show();
+  const HWND window = form.Window();
+  SendMessageW(form.Control(DemoForm::kPush), BM_CLICK, 0, 0);
+  EXPECT_FALSE(form.IsOpen());
+  EXPECT_FALSE(IsWindowVisible(window));
+  form.Show();
+  EXPECT_TRUE(form.IsShown()) << "opened again before the old window was gone";
+  EXPECT_FALSE(IsWindow(window));
+  Pump();
+  EXPECT_TRUE(form.IsShown());
+}
+
+// A handler that throws does not take the program with it.
+class ThrowingForm final : public Form {
+ public:
+  explicit ThrowingForm(FormContext& context) : Form(context, Design()) {}
+
+ private:
+  static const FormDesign& Design() {
+    static constexpr ControlRow kRows[] = {
+        {.id = 5001, .kind = Kind::PushKey, .text = "Throw", .at = {9, 9, 80, 30}}};
+    static constexpr FormDesign kDesign = {
+        .name = "frmThrow", .caption = "Throw", .size = {100, 60}, .controls = kRows};
+    return kDesign;
+  }
+  std::span<const EventRow> Events() const override {
+    static const EventRow kRows[] = {{5001, Click, &ThrowingForm::Throw}};
+    return kRows;
+  }
+  void Throw() { throw std::runtime_error("a handler's failure"); }
+};
+
+TEST(FormRunning, NoExceptionLeavesTheWindow) {
+  FormContextForTests context;
+  ThrowingForm form(context.forms);
+  form.Show();
+  SendMessageW(form.Control(5001), BM_CLICK, 0, 0);
+  form.Focus(5001);
+  PressKey(VK_RETURN);
+  EXPECT_TRUE(form.IsShown());
+}
+
+}  // namespace
+}  // namespace sonaro

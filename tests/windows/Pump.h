@@ -1,0 +1,47 @@
+// Runs the messages of this thread as the program's loop does.
+#pragma once
+
+#include <windows.h>
+
+#include "forms/MessageLoop.h"
+
+namespace sonaro {
+
+// Everything that is in the queue now and what it brings about.
+inline void Pump() {
+  MSG message{};
+  while (PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE)) {
+    if (TranslateFormMessage(message)) continue;
+    TranslateMessage(&message);
+    DispatchMessageW(&message);
+  }
+}
+
+// A key as the keyboard sends it to the window with the focus, with the modifiers held down.
+inline void PressKey(WORD key, bool shift = false, bool control = false) {
+  BYTE before[256] = {};
+  GetKeyboardState(before);
+  BYTE held[256] = {};
+  if (shift) held[VK_SHIFT] = 0x80;
+  if (control) held[VK_CONTROL] = 0x80;
+  SetKeyboardState(held);
+  MSG message = {GetFocus(), WM_KEYDOWN, key, 1, 0, {}};
+  if (!TranslateFormMessage(message)) DispatchMessageW(&message);
+  MSG up = {GetFocus(), WM_KEYUP, key, 0xC0000001, 0, {}};
+  if (!TranslateFormMessage(up)) DispatchMessageW(&up);
+  SetKeyboardState(before);
+  Pump();
+}
+
+// A character of an access key: Alt with a letter.
+inline void PressAccessKey(wchar_t letter) {
+  MSG message = {GetFocus(), WM_SYSCHAR, letter, 1 << 29, 0, {}};
+  if (!TranslateFormMessage(message)) DispatchMessageW(&message);
+  Pump();
+}
+
+inline void MouseOn(HWND window, UINT message) {
+  SendMessageW(window, message, MK_LBUTTON, MAKELPARAM(5, 5));
+}
+
+}  // namespace sonaro
