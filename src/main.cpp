@@ -1,4 +1,44 @@
-// The program's entry.
+// The program's entry: the real platform, the application, its message loop.
 #include <windows.h>
 
-int WINAPI WinMain(HINSTANCE, HINSTANCE, LPSTR, int) { return 0; }
+#include <commctrl.h>
+
+#include <string>
+
+#include "app/Application.h"
+#include "forms/StringTable.h"
+#include "platform/win/ClockWin.h"
+#include "platform/win/FilesWin.h"
+#include "platform/win/MessagePostWin.h"
+#include "platform/win/RegistryWin.h"
+#include "platform/win/ShellWin.h"
+#include "platform/win/SoundWin.h"
+#include "platform/win/SystemInfoWin.h"
+
+namespace {
+
+// The folder of the executable, without a backslash at its end.
+std::string ProgramFolder() {
+  std::string path(32768, '\0');
+  path.resize(GetModuleFileNameA(nullptr, path.data(), static_cast<DWORD>(path.size())));
+  return path.substr(0, path.rfind('\\'));
+}
+
+}  // namespace
+
+int WINAPI WinMain(HINSTANCE, HINSTANCE, LPSTR commandLine, int) {
+  const INITCOMMONCONTROLSEX classes = {
+      sizeof classes, ICC_STANDARD_CLASSES | ICC_LISTVIEW_CLASSES | ICC_TREEVIEW_CLASSES | ICC_DATE_CLASSES};
+  InitCommonControlsEx(&classes);
+
+  sonaro::RegistryWin registry;
+  sonaro::FilesWin files;
+  sonaro::ClockWin clock;
+  sonaro::ShellWin shell;
+  sonaro::SoundWin sound;
+  sonaro::SystemInfoWin systemInfo;
+  sonaro::MessagePostWin messages;
+  sonaro::StringTable strings;
+  const sonaro::Platform platform = {registry, files, clock, shell, sound, systemInfo, messages};
+  return sonaro::Application(platform, strings, ProgramFolder(), commandLine).Run();
+}

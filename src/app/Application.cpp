@@ -6,6 +6,7 @@
 #include "app/Strings.h"
 #include "app/WhatToShow.h"
 #include "app/frmSplash.h"
+#include "base/Numbers.h"
 #include "base/Text.h"
 #include "forms/HighContrast.h"
 #include "forms/MessageLoop.h"
@@ -116,8 +117,27 @@ void Application::LoadMainWindow() {
       GuideData{data_, reg_, strings_, state_, stations_, personal_, extra_, recent_, favorites_, source_},
       player_, pages_, MakeMainWindowCalls());
   main_->Create();
+  PlaceMainWindow();
   schedule_->SetChanged([this] { main_->ScheduleChanged(); });
   main_->BringUpView(WhatToShow(state_.commandLine));
+}
+
+// Where the user left it, if that is still on a screen; the first time in the middle.
+void Application::PlaceMainWindow() {
+  const std::string place = reg_.Setting(setting::kMainPlace);
+  const auto comma = place.find(',');
+  if (comma == std::string::npos) {
+    main_->CentreOn(nullptr);
+  } else {
+    main_->MoveToPixels(static_cast<int>(NumberValue(place)),
+                        static_cast<int>(NumberValue(place.substr(comma + 1))));
+  }
+}
+
+void Application::RememberPlace() {
+  RECT box{};
+  if (!main_ || IsIconic(main_->Window()) || !GetWindowRect(main_->Window(), &box)) return;
+  reg_.SetSetting(setting::kMainPlace, std::to_string(box.left) + "," + std::to_string(box.top));
 }
 
 void Application::ShowMainWindow() { main_->Show(); }
@@ -238,6 +258,7 @@ void Application::CloseAsked() {
 }
 
 void Application::Exit() {
+  RememberPlace();
   if (main_) main_->Hide();
   PostQuitMessage(0);
 }

@@ -71,6 +71,8 @@ class Application final : private StartupView, private LaunchView {
   void EditPersonalStation(int index);
   void DeletePersonalStation(int index);
   void EditExtraLinks(std::int32_t stationId);
+  void PlaceMainWindow();
+  void RememberPlace();
   void BringForward(std::string_view view);
   void CloseAsked();
   void Exit();

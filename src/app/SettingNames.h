@@ -57,6 +57,7 @@ inline constexpr const char* kSideWhere = "SideWhere";                          
 inline constexpr const char* kSoundNotify = "SoundNotify";                       // schedule/Notify, options: the options' default
 
 inline constexpr const char* kSoundClick = "SoundClick";                         // Application, options: keys click
+inline constexpr const char* kMainPlace = "MainPlace";                           // Application: "left,top" in pixels; the middle
 inline constexpr const char* kCloseToTray = "CloseToTray";                       // Application, options: ask at the first close
 inline constexpr const char* kScheduleLastSeen = "ScheduleLastSeen";             // schedule: nothing was missed
 
