@@ -91,7 +91,7 @@ constexpr GenreLine kLines[] = {
     {'e', "Eurodance & Italo Disco",
      "eurodance|italo disco|euro disco|euro hits|eurodisco|euro dance|italo|italodisco|hi "
      "nrg|spacesynth|italo dance|"
-     "90s dance|discomusic 80|fantasy italo|handsup|hands up|mega dance"},
+     "90s dance|freestyle|discomusic 80|fantasy italo|handsup|hands up|mega dance"},
     {'e', "Experimental & IDM",
      "experimental|idm|noise|glitch|experimental electronic music|avant garde|drone|field recording|abstract|"
      "experimental music|sound art|electroacoustic|soundscape"},

@@ -134,7 +134,8 @@ constexpr GenreLine kLines[] = {
      "indigenous|indigenous music|native american|iwi|aboriginal|first nations|indigena|"
      "sistema de radiodifusoras culturales indigenas|instituto nacional de los pueblos indigenas"},
     {'u', "Public Radio",
-     "public radio|public|npr|publica|radio publica|public service|pri|apm|radio publique|radio france|"
+     "public radio|ert|rtbf|rtvs|polskieradio|polskie radio|cesky rozhlas|instituto mexicano de la "
+     "radio|gbh|public|npr|publica|radio publica|public service|pri|apm|radio publique|radio france|"
      "ard|bbc|pbs|prx|radio pública|concesion publica|pública|minnesota public radio|vrt|rai|"
      "sveriges radio|srg ssr"},
     // Variety

@@ -116,6 +116,7 @@ std::string_view WithoutKind(std::string_view region) {
 
 // The part of a free text that is most likely the region: "Street 7, Town" means Town, "Town (District)" too.
 std::string_view LikelyRegion(std::string_view text) {
+  if (text.find("://") != std::string_view::npos) return {};
   const std::string_view plain = TrimBlanks(text.substr(0, text.find('(')));
   for (const std::string_view candidate : {plain, text}) {
     const std::vector<std::string_view> parts = SplitAtAny(candidate, ",;()/");
