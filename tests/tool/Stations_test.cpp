@@ -276,7 +276,7 @@ TEST(Genres, FindTheMainOne) {
   EXPECT_EQ(FormatOf({"club dance electronic house trance"}), "House");
   EXPECT_EQ(FormatOf({"80's"}), "80s");
   EXPECT_EQ(FormatOf({}, "Smooth Jazz 104.5"), "Smooth Jazz");
-  EXPECT_EQ(FormatOf({}, "Classic Love Local Radio"), "Other");
+  EXPECT_EQ(FormatOf({}, "Classic Love Station"), "Other");
   EXPECT_EQ(FormatOf({"we rock the world with our new best pop on air"}), "Other");
 }
 

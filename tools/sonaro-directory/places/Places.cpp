@@ -90,8 +90,7 @@ bool IsNoPlace(std::string_view text) {
       "europe",   "world",        "ici",        "global",    "any"};
   const std::string key = MatchKey(text);
   if (key.size() < 3 || text.size() > kLongestRegion) return true;
-  if (key.find_first_of("0123456789") != std::string::npos || text.find("://") != std::string_view::npos)
-    return true;
+  if (key.find_first_of("0123456789") != std::string::npos) return true;
   if (std::find(kJunk.begin(), kJunk.end(), key) != kJunk.end()) return true;
   return CountryByName(text) != nullptr;
 }
