@@ -126,4 +126,18 @@ bool StatList::Verify() {
   return status_ == TableStatus::Success;
 }
 
+void StatList::VisitStations(std::span<const std::int32_t> ids,
+                             const std::function<void(const StationRecord&)>& visit) {
+  WithTable([&](Handle handle) {
+    StationRecord record;
+    for (const std::int32_t id : ids) {
+      status_ = vmx_->VmxGet(handle, std::to_string(id), VmxReadMode::Key, record.StationId, record.fields);
+      if (status_ == TableStatus::Success) visit(record);
+      if (status_ != TableStatus::Success && status_ != TableStatus::NotFound) return false;
+    }
+    if (status_ == TableStatus::NotFound) status_ = TableStatus::Success;
+    return true;
+  });
+}
+
 }  // namespace sonaro

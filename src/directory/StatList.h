@@ -5,6 +5,7 @@
 #pragma once
 
 #include <cstdint>
+#include <functional>
 #include <memory>
 #include <span>
 #include <string>
@@ -47,6 +48,10 @@ class StatList {
 
   // Opens the table once for all of them. Unknown identifiers are left out; the order is that of `ids`.
   std::vector<StationRecord> GetStations(std::span<const std::int32_t> ids);
+  // The same without a copy of every record: `visit` is given one record after the other in the same place,
+  // for whoever needs a few fields of many stations.
+  void VisitStations(std::span<const std::int32_t> ids,
+                     const std::function<void(const StationRecord&)>& visit);
   // One look-up: open, get, close.
   StationRecord FindStation(std::int32_t stationId);
 

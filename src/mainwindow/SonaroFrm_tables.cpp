@@ -73,7 +73,7 @@ constexpr DesignRect kMiddle{224, 164, 492, 422};
 const ControlRow kControls[] = {
     // The nameplate, the dial and the group bar.
     {.kind = Kind::Mark, .at = {20, 8, 22, 22}},
-    {.id = lblTitle, .text = IDS_MAIN_CAPTION, .at = {50, 4, 92, 30}, .type = Type::Wordmark},
+    {.id = lblTitle, .text = IDS_MAIN_CAPTION, .at = {50, 4, 88, 30}, .type = Type::Wordmark},
     {.id = lblSubTitle, .text = IDS_MAIN_SUBTITLE, .at = {140, 7, 200, 26}, .ink = Ink::Muted},
     {.id = tabRightSide, .kind = Kind::Dial, .at = {14, 42, 952, 44}},
     Tab(0, IDS_TAB_YOUR_SONARO),

@@ -25,13 +25,6 @@ std::vector<std::string_view> TokensOf(std::string_view text) {
   return tokens;
 }
 
-std::vector<StationRow> RowsOfRecords(std::vector<StationRecord>&& records) {
-  std::vector<StationRow> rows;
-  rows.reserve(records.size());
-  for (StationRecord& record : records) rows.push_back(RowOfStation(std::move(record)));
-  return rows;
-}
-
 std::optional<StationRow> PersonalRow(const PersonalStations& personal, std::int32_t index) {
   const PersonalStation* station = personal.Find(index);
   if (!station || station->name.empty()) return std::nullopt;
@@ -46,14 +39,22 @@ void StationLists::FillListFromIds(std::string_view ids, StationRows& list) {
     std::int32_t id = 0;
     if (ParseStationId(TakeUntil(ids, ' '), id)) wanted.push_back(id);
   }
-  list.Fill(RowsOfRecords(stations_.GetStations(wanted)));
+  list.Fill(RowsOfStations(wanted));
+}
+
+std::vector<StationRow> StationLists::RowsOfStations(const std::vector<std::int32_t>& ids) {
+  std::vector<StationRow> rows;
+  rows.reserve(ids.size());
+  stations_.VisitStations(ids,
+                          [&rows](const StationRecord& record) { rows.push_back(RowOfStation(record)); });
+  return rows;
 }
 
 std::string StationLists::FillListFromSearch(std::string_view text, bool allWords, StationRows& list) {
-  std::vector<StationRecord> found = stations_.SearchStations(text, allWords);
+  const std::vector<std::int32_t> found = stations_.SearchStationIds(text, allWords);
   std::string ids;
-  for (const StationRecord& record : found) ids += std::to_string(record.StationId) + ' ';
-  list.Fill(RowsOfRecords(std::move(found)));
+  for (const std::int32_t id : found) ids += std::to_string(id) + ' ';
+  list.Fill(RowsOfStations(found));
   return ids;
 }
 
@@ -84,17 +85,17 @@ std::vector<StationRow> StationLists::RowsOf(const std::vector<std::string_view>
     const StationKey key = StationKey::FromToken(token);
     if (key.kind == StationKey::Kind::Directory) ids.push_back(key.number);
   }
-  // The records come in the order of the identifiers, those of unknown stations missing: walk both together.
-  std::vector<StationRecord> records = stations_.GetStations(ids);
-  auto next = records.begin();
+  // The rows come in the order of the identifiers, those of unknown stations missing: walk both together.
+  std::vector<StationRow> known = RowsOfStations(ids);
+  auto next = known.begin();
   std::vector<StationRow> rows;
   rows.reserve(tokens.size());
   for (const std::string_view token : tokens) {
     const StationKey key = StationKey::FromToken(token);
     if (token.starts_with('P')) {
       if (auto row = PersonalRow(personal_, key.number)) rows.push_back(std::move(*row));
-    } else if (key && next != records.end() && next->StationId == key.number) {
-      rows.push_back(RowOfStation(std::move(*next++)));
+    } else if (key && next != known.end() && next->key == key.RowKey()) {
+      rows.push_back(std::move(*next++));
     } else if (unknown == Unknown::ShownAsLost) {
       rows.push_back(RowOfLostStation(std::string(token)));
     }

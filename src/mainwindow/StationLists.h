@@ -3,6 +3,7 @@
 // no captions and no modes: see StationListing.
 #pragma once
 
+#include <cstdint>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -38,6 +39,7 @@ class StationLists {
   void FillListWithNoStations(StationRows& list);
 
  private:
+  std::vector<StationRow> RowsOfStations(const std::vector<std::int32_t>& ids);
   enum class Unknown { LeftOut, ShownAsLost };
   std::vector<StationRow> RowsOf(const std::vector<std::string_view>& tokens, Unknown unknown);
 

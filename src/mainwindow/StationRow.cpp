@@ -22,18 +22,18 @@ std::string StationRow::Token() const {
   return IsPersonal() ? key : std::string();
 }
 
-StationRow RowOfStation(StationRecord&& record) {
+StationRow RowOfStation(const StationRecord& record) {
   StationRow row;
   row.key = "S" + std::to_string(record.StationId);
-  row.text = std::move(record[StationField::Name]);
-  row[SubItem::Location] = std::move(record[StationField::Location]);
-  row[SubItem::MediaType] = std::move(record[StationField::MediaType]);
-  row[SubItem::Format] = std::move(record[StationField::Format]);
-  row[SubItem::Overall] = std::move(record[StationField::OverallRating]);
-  row[SubItem::Sound] = std::move(record[StationField::SoundRating]);
-  row[SubItem::Speed] = std::move(record[StationField::SpeedRating]);
-  row[SubItem::WebSite] = std::move(record[StationField::WebSiteRating]);
-  row[SubItem::Reliability] = std::move(record[StationField::Reliability]);
+  row.text = record[StationField::Name];
+  row[SubItem::Location] = record[StationField::Location];
+  row[SubItem::MediaType] = record[StationField::MediaType];
+  row[SubItem::Format] = record[StationField::Format];
+  row[SubItem::Overall] = record[StationField::OverallRating];
+  row[SubItem::Sound] = record[StationField::SoundRating];
+  row[SubItem::Speed] = record[StationField::SpeedRating];
+  row[SubItem::WebSite] = record[StationField::WebSiteRating];
+  row[SubItem::Reliability] = record[StationField::Reliability];
   row.icon = IconFor(row[SubItem::Reliability]);
   return row;
 }

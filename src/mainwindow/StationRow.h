@@ -35,8 +35,8 @@ struct StationRow {
   std::string Token() const;
 };
 
-// The row of a directory station. Takes the texts it needs out of `record`.
-StationRow RowOfStation(StationRecord&& record);
+// The row of a directory station.
+StationRow RowOfStation(const StationRecord& record);
 // The row of a personal station: `media` is its second field.
 StationRow RowOfPersonalStation(std::int32_t index, std::string name, std::string media);
 // A station that is not in the directory: its identifier as text.

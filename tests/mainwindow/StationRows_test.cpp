@@ -15,7 +15,7 @@ StationRow Row(int id, std::string name, std::string location = "", std::string 
   record[StationField::Name] = std::move(name);
   record[StationField::Location] = std::move(location);
   record[StationField::OverallRating] = std::move(overall);
-  return RowOfStation(std::move(record));
+  return RowOfStation(record);
 }
 
 std::string Shown(const StationRows& rows) {
@@ -29,7 +29,7 @@ TEST(StationRow, TakesItsSubItemsOutOfTheRecordInTheirOwnOrder) {
   record.StationId = -7;
   for (int field = 1; field <= 16; ++field) record[static_cast<StationField>(field)] = std::to_string(field);
   record[StationField::Reliability] = "3";
-  const StationRow row = RowOfStation(std::move(record));
+  const StationRow row = RowOfStation(record);
   EXPECT_EQ(row.key, "S-7");
   EXPECT_EQ(row.text, "1");
   // Location, media type, format, then overall, sound, speed, web site, reliability: sound before speed.

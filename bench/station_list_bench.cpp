@@ -1,0 +1,99 @@
+// How long a station list of 40,000 rows takes from its identifiers to rows that can be shown, and to sort.
+// The directory is made up and lies in a folder of its own under the system's temporary folder.
+#include <benchmark/benchmark.h>
+
+#include <cstdlib>
+#include <filesystem>
+#include <fstream>
+#include <random>
+#include <string>
+
+#include "app/Strings.h"
+#include "base/DataFolder.h"
+#include "directory/StatList.h"
+#include "mainwindow/StationLists.h"
+#include "platform/posix/FilesPosix.h"
+#include "playback/PersonalStations.h"
+#include "playback/RecentList.h"
+
+namespace sonaro {
+namespace {
+
+constexpr int kStations = 40000;
+
+class NoStrings : public Strings {
+ public:
+  std::string Load(int) const override { return {}; }
+};
+
+std::string MadeUpName(std::mt19937& random) {
+  static const char* const kWords[] = {"Radio", "Jazz", "FM", "Классика", "Música", "Night", "One", "Ö1"};
+  std::string name;
+  for (int word = 0; word < 3; ++word) name += std::string(kWords[random() % 8]) + " ";
+  return name + std::to_string(random() % 1000);
+}
+
+// Everything that a list is filled from, built once.
+class Guide {
+ public:
+  Guide() {
+    std::filesystem::create_directories(folder_);
+    std::ofstream list(folder_ + "/station.snr");
+    std::mt19937 random(1);
+    for (int id = 1; id <= kStations; ++id) {
+      list << id << '\t' << MadeUpName(random) << "\tMP3\tGhent, Belgium\tJazz & Blues\tOne of many stations."
+           << "\tmhttp://stream" << id << ".example/live\t\t\t\thttp://station" << id << ".example/\t128\t"
+           << random() % 10 << "\t5\t5\t5\t" << random() % 5 << '\n';
+      ids_ += std::to_string(id) + ' ';
+    }
+    list.close();
+    stations_.RebuildStationTable();
+  }
+  ~Guide() { std::filesystem::remove_all(folder_); }
+
+  StationLists& Lists() { return lists_; }
+  const std::string& Ids() const { return ids_; }
+
+ private:
+  const std::string folder_ =
+      (std::filesystem::temp_directory_path() / ("sonaro-bench-" + std::to_string(std::rand()))).string();
+  FilesPosix files_;
+  DataFolder data_{files_, folder_, '/'};
+  StatList stations_{data_};
+  PersonalStations personal_{data_};
+  RecentList recent_{data_};
+  NoStrings strings_;
+  StationLists lists_{stations_, personal_, recent_, strings_};
+  std::string ids_;
+};
+
+Guide& TheGuide() {
+  static Guide guide;
+  return guide;
+}
+
+void FillFromIds(benchmark::State& state) {
+  StationRows rows;
+  for (auto _ : state) TheGuide().Lists().FillListFromIds(TheGuide().Ids(), rows);
+  state.SetItemsProcessed(state.iterations() * static_cast<std::int64_t>(rows.Count()));
+}
+BENCHMARK(FillFromIds)->Unit(benchmark::kMillisecond);
+
+void FillFromSearch(benchmark::State& state) {
+  StationRows rows;
+  for (auto _ : state) benchmark::DoNotOptimize(TheGuide().Lists().FillListFromSearch("MANY", true, rows));
+  state.SetItemsProcessed(state.iterations() * static_cast<std::int64_t>(rows.Count()));
+}
+BENCHMARK(FillFromSearch)->Unit(benchmark::kMillisecond);
+
+// By name, where nearly all texts differ, and by a rating, where nearly none do.
+void Sort(benchmark::State& state) {
+  StationRows rows;
+  TheGuide().Lists().FillListFromIds(TheGuide().Ids(), rows);
+  const int key = static_cast<int>(state.range(0));
+  for (auto _ : state) rows.SortBy(key, key < 4 ? SortOrder::Ascending : SortOrder::Descending);
+}
+BENCHMARK(Sort)->Arg(0)->Arg(4)->Unit(benchmark::kMillisecond);
+
+}  // namespace
+}  // namespace sonaro
