@@ -184,8 +184,7 @@ void FormParts::SetTip(FormItem& item, const std::string& text) {
     tips = CreateWindowExW(WS_EX_TOPMOST, TOOLTIPS_CLASSW, nullptr, WS_POPUP | TTS_ALWAYSTIP | TTS_NOPREFIX,
                            0, 0, 0, 0, window, nullptr, GetModuleHandleW(nullptr), nullptr);
   }
-  std::wstring wide = Widen(text);
-  wide.erase(std::remove(wide.begin(), wide.end(), L'&'), wide.end());
+  std::wstring wide = WithoutAccessKey(Widen(text));
   TTTOOLINFOW tool{};
   tool.cbSize = TTTOOLINFOW_V1_SIZE;
   tool.uFlags = TTF_IDISHWND | TTF_SUBCLASS;

@@ -51,7 +51,7 @@ enum class Kind : unsigned char {
   TreeView,       // by Form::Tree
   MonthCalendar,  // the system's control
   Picture,        // painted by the function that Form::SetPicture was given
-  Rating,         // rating picture, by Form::Rating
+  Rating,         // rating picture, by Form::Rating; the text is its caption
   Progress,       // progress scale, by Form::Progress
   // Painted by the form behind the controls, no windows. Number 0 unless they are to be hidden and shown.
   Glass,   // panel; `cut` is the size of its cut corners

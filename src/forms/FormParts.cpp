@@ -1,6 +1,8 @@
 // Finding controls and running the handlers of the event tables.
 #include "forms/FormParts.h"
 
+#include <stdexcept>
+
 #include "app/Strings.h"
 
 namespace sonaro {
@@ -55,6 +57,12 @@ FormItem* FormParts::Find(HWND control) {
     if (item.Window() == control) return &item;
   }
   return nullptr;
+}
+
+FormControl& FormParts::ViewOf(int id) {
+  const FormItem* item = Find(id);
+  if (!item || !item->view) throw std::out_of_range("the form has no view of this number");
+  return *item->view;
 }
 
 FormItem* FormParts::Focused() { return Find(GetFocus()); }

@@ -78,6 +78,7 @@ class FormParts final : public FormServices, public std::enable_shared_from_this
 
   FormItem* Find(int id);
   FormItem* Find(HWND window);  // the control or a window inside it
+  FormControl& ViewOf(int id);  // throws std::out_of_range where there is none
   FormItem* Focused();
   std::span<FormItem> GroupOf(const FormItem& item);  // with its neighbours in the arrow keys' group
   FormItem* ShownPrimary();

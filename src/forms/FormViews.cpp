@@ -22,9 +22,10 @@ std::unique_ptr<FormControl> FormParts::MakeView(const ControlRow& row) {
   }
 }
 
-ListView& Form::List(int id) { return static_cast<ListView&>(*parts_->Find(id)->view); }
-TreeView& Form::Tree(int id) { return static_cast<TreeView&>(*parts_->Find(id)->view); }
-RatingPicture& Form::Rating(int id) { return static_cast<RatingPicture&>(*parts_->Find(id)->view); }
-ProgressScale& Form::Progress(int id) { return static_cast<ProgressScale&>(*parts_->Find(id)->view); }
+// A number of another kind is a mistake in the form's own code: the cast throws, and the window goes on.
+ListView& Form::List(int id) { return dynamic_cast<ListView&>(parts_->ViewOf(id)); }
+TreeView& Form::Tree(int id) { return dynamic_cast<TreeView&>(parts_->ViewOf(id)); }
+RatingPicture& Form::Rating(int id) { return dynamic_cast<RatingPicture&>(parts_->ViewOf(id)); }
+ProgressScale& Form::Progress(int id) { return dynamic_cast<ProgressScale&>(parts_->ViewOf(id)); }
 
 }  // namespace sonaro

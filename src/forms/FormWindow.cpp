@@ -104,6 +104,11 @@ LRESULT FormParts::HandleMessage(UINT message, WPARAM wParam, LPARAM lParam) {
     case WM_RBUTTONDOWN:
     case WM_MBUTTONDOWN:
       return HandlePointer(message, lParam);
+    case WM_UPDATEUISTATE:
+      if (LOWORD(wParam) == UIS_CLEAR) {
+        ShowCues((HIWORD(wParam) & UISF_HIDEFOCUS) != 0, (HIWORD(wParam) & UISF_HIDEACCEL) != 0);
+      }
+      break;
     case WM_CONTEXTMENU:
       return HandleContextMenu(reinterpret_cast<HWND>(wParam), lParam);
     case WM_CLOSE:

@@ -142,6 +142,11 @@ void Painter::Text(HDC dc, const RECT& box, std::wstring_view text, Type type, C
   SetBkMode(dc, TRANSPARENT);
   SetTextColor(dc, ToColorRef(color));
   RECT place = box;
+  const std::wstring plain = (format & DT_HIDEPREFIX) != 0 ? WithoutAccessKey(text) : std::wstring();
+  if (!plain.empty()) {  // not every system hides the underline by the flag
+    text = plain;
+    format = (format & ~static_cast<UINT>(DT_HIDEPREFIX)) | DT_NOPREFIX;
+  }
   DrawTextW(dc, text.data(), static_cast<int>(text.size()), &place, format | layout);
   SelectObject(dc, before);
 }

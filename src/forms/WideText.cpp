@@ -20,4 +20,13 @@ std::string Narrow(std::wstring_view text) {
   return narrow;
 }
 
+std::wstring WithoutAccessKey(std::wstring_view caption) {
+  std::wstring words;
+  for (std::size_t i = 0; i < caption.size(); ++i) {
+    if (caption[i] == L'&' && i + 1 < caption.size()) ++i;
+    words += caption[i];
+  }
+  return words;
+}
+
 }  // namespace sonaro

@@ -11,4 +11,7 @@ namespace sonaro {
 std::wstring Widen(std::string_view text);
 std::string Narrow(std::wstring_view text);
 
+// The words of a caption whose "&" marks an access key; "&&" is one "&".
+std::wstring WithoutAccessKey(std::wstring_view caption);
+
 }  // namespace sonaro
