@@ -107,10 +107,10 @@ inline constexpr const char* kRun = "Software\\Microsoft\\Windows\\CurrentVersio
 inline constexpr const char* kRunValue = "SonaroStartUp";
 
 // HKEY_LOCAL_MACHINE, default values: the installed player's version, and its program path under
-// kPlayer + "\\" + version + kPlayerMainApp.
+// kPlayer + version + kPlayerMainApp.
 inline constexpr const char* kPlayerVersion =
     "SOFTWARE\\Classes\\Software\\RealNetworks\\RealPlayer\\CurrentVersion";
-inline constexpr const char* kPlayer = "SOFTWARE\\Classes\\Software\\RealNetworks\\RealPlayer";
+inline constexpr const char* kPlayer = "SOFTWARE\\Classes\\Software\\RealNetworks\\RealPlayer\\";
 inline constexpr const char* kPlayerMainApp = "\\Preferences\\MainApp";
 
 }  // namespace sonaro::systemkey

@@ -1,13 +1,13 @@
 #include "faceplate/Faceplate.h"
 
 #include "app/CReg.h"
+#include "app/SettingNames.h"
 #include "base/DataFolder.h"
 #include "base/Text.h"
 
 namespace sonaro {
 namespace {
 
-constexpr const char* kNameSetting = "FacePlateName";
 constexpr std::string_view kFolder = "\\Depot\\";
 
 BuiltInFaceplate DefaultsFor(std::string_view name) {
@@ -23,7 +23,7 @@ Faceplate::Faceplate(CReg& settings, const DataFolder& folder)
 }
 
 void Faceplate::Load() {
-  name_ = settings_.Setting(kNameSetting);
+  name_ = settings_.Setting(setting::kFacePlateName);
   if (name_.empty()) name_ = kBuiltInNames.front();
   BaseColors base = BuiltInColors(DefaultsFor(name_));
   for (const ColorSetting& setting : ColorSettings()) {
@@ -36,7 +36,7 @@ void Faceplate::Load() {
 void Faceplate::Choose(BuiltInFaceplate faceplate) {
   name_ = kBuiltInNames[static_cast<std::size_t>(faceplate)];
   const BaseColors base = BuiltInColors(faceplate);
-  settings_.SetSetting(kNameSetting, name_);
+  settings_.SetSetting(setting::kFacePlateName, name_);
   for (const ColorSetting& setting : ColorSettings())
     settings_.SetSetting(setting.name, FormatColor(base.*setting.member));
   SetBase(base);

@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "app/CReg.h"
+#include "app/SettingNames.h"
 #include "base/DataFolder.h"
 #include "platform/Shell.h"
 
@@ -10,7 +11,6 @@ namespace sonaro {
 
 namespace {
 
-constexpr const char* kPlayerKey = "SOFTWARE\\Classes\\Software\\RealNetworks\\RealPlayer\\";
 constexpr const char* kDefaultValue = "";
 constexpr int kLastFailureCode = 32;  // of the platform's association look-up
 
@@ -25,12 +25,13 @@ void LowerCase(std::string& path) {
 
 std::string Players::RegisteredVersion() const {
   MainKeyScope machine(reg_, RootKey::LocalMachine);
-  return reg_.GetData(std::string(kPlayerKey) + "CurrentVersion", kDefaultValue);
+  return reg_.GetData(systemkey::kPlayerVersion, kDefaultValue);
 }
 
 std::string Players::RegisteredPath(const std::string& version) const {
   MainKeyScope machine(reg_, RootKey::LocalMachine);
-  const std::string path = reg_.GetData(kPlayerKey + version + "\\Preferences\\MainApp", kDefaultValue);
+  const std::string path =
+      reg_.GetData(systemkey::kPlayer + version + systemkey::kPlayerMainApp, kDefaultValue);
   return !path.empty() && data_.FileSystem().Exists(path) ? path : std::string();
 }
 

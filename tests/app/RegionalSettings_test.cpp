@@ -54,8 +54,13 @@ TEST_F(RegionalSettingsTest, ShortDatePattern) {
     const char* sample;
     const char* pattern;
   } kCases[] = {
-      {"dd.MM.yy", "12/25/2003", "dd.MM.yy"}, {"", "12/25/2003", "M/d/yyyy"},  {"", "25.12.2003", "d.M.yyyy"},
-      {"", "2003-12-25", "yyyy-M-d"},         {"", "25-Dec-2003", "M/d/yyyy"}, {"", "", "M/d/yyyy"},
+      {"dd.MM.yy", "12/25/2003", "dd.MM.yy"},
+      {"", "12/25/2003", "M/d/yyyy"},
+      {"", "25.12.2003", "d.M.yyyy"},
+      {"", "2003-12-25", "yyyy-M-d"},
+      {"", "25/12/03", "d/M/yy"},
+      {"", "25-Dec-2003", "M/d/yyyy"},
+      {"", "", "M/d/yyyy"},
   };
   for (const auto& c : kCases) {
     PutUser("sShortDate", c.stored);
