@@ -1,0 +1,80 @@
+#include "net/ServiceRequest.h"
+
+#include <algorithm>
+
+#include "app/CReg.h"
+#include "app/SettingNames.h"
+#include "base/Numbers.h"
+#include "base/Text.h"
+#include "base/UrlEncoding.h"
+#include "platform/HttpControl.h"
+
+namespace sonaro {
+
+namespace {
+
+constexpr std::uint16_t kUsualPort = 80;
+constexpr std::int64_t kLastPort = 65535;
+
+bool UsesProxy(const CReg& reg) { return IsYes(reg.Setting(setting::kProxyUse)); }
+
+// What follows the first "//"; nothing when there is none.
+std::string_view BehindScheme(std::string_view url) {
+  const std::size_t slashes = url.find("//");
+  return slashes == std::string_view::npos ? std::string_view() : url.substr(slashes + 2);
+}
+
+}  // namespace
+
+std::string ServerHostFor(const CReg& reg, std::string_view url) {
+  if (UsesProxy(reg)) return std::string(TrimBlanks(reg.Setting(setting::kProxyAddress)));
+  const std::string_view rest = BehindScheme(url);
+  return std::string(rest.substr(0, rest.find('/')));
+}
+
+std::string RequestTargetFor(const CReg& reg, std::string_view url) {
+  if (UsesProxy(reg)) return std::string(url);
+  const std::string_view rest = BehindScheme(url);
+  const std::size_t path = rest.find('/');
+  return path == std::string_view::npos ? "/" : std::string(rest.substr(path));
+}
+
+std::uint16_t ProxyPortSetting(const CReg& reg) {
+  if (!UsesProxy(reg)) return kUsualPort;
+  const std::string text = reg.Setting(setting::kProxyPort);
+  const std::int64_t port = IsNumeric(text) ? NumberValue(text) : 0;
+  return port >= 1 && port <= kLastPort ? static_cast<std::uint16_t>(port) : kUsualPort;
+}
+
+std::string ProxyProperty(std::string_view host, std::string_view port) {
+  return std::string("http://").append(host).append(":").append(port);
+}
+
+ServiceRequest BuildServiceRequest(const CReg& reg, std::string_view url, std::string_view query) {
+  ServiceRequest request;
+  request.host = ServerHostFor(reg, url);
+  request.port = ProxyPortSetting(reg);
+  request.requestText = "GET " + RequestTargetFor(reg, url).append(query);
+  if (UsesProxy(reg)) request.proxy = ProxyProperty(request.host, std::to_string(request.port));
+  return request;
+}
+
+void Send(const ServiceRequest& request, HttpControl& http, HttpEvents& events) {
+  http.SetProxy(request.proxy);
+  http.Request(request.host, request.port, request.requestText, events);
+}
+
+std::string QueryStart(const CReg& reg) {
+  return "?ajfsfsr=" + UrlEncodeQuery(reg.Setting(setting::kInstallId));
+}
+
+bool IsServiceAddress(std::string_view url) {
+  constexpr std::string_view kScheme = "http://";
+  if (!StartsWithIgnoringCase(url, kScheme)) return false;
+  const std::string_view rest = url.substr(kScheme.size());
+  return !rest.empty() && rest.front() != '/' && std::none_of(url.begin(), url.end(), [](char c) {
+    return static_cast<unsigned char>(c) <= ' ' || c == '\x7F';
+  });
+}
+
+}  // namespace sonaro

@@ -1,0 +1,45 @@
+// How a request to the service is put together: where to connect, what to ask for, by way of which proxy. One
+// set of rules for every window that talks to the service. Reads the proxy settings; sends nothing itself.
+#pragma once
+
+#include <cstdint>
+#include <string>
+#include <string_view>
+
+namespace sonaro {
+
+class CReg;
+class HttpControl;
+class HttpEvents;
+
+// The proxy's address when a proxy is used, else the host of the URL: what stands between its first "//" and
+// the next "/". "" when there is no "//".
+std::string ServerHostFor(const CReg& reg, std::string_view url);
+// The whole URL when a proxy is used, else its path with what follows; "/" when it has none.
+std::string RequestTargetFor(const CReg& reg, std::string_view url);
+// The proxy's port when a proxy is used and its setting is a number that is a port, else 80. Without a proxy
+// every URL is reached on port 80, whatever it says.
+std::uint16_t ProxyPortSetting(const CReg& reg);
+
+// "http://" + host + ":" + port.
+std::string ProxyProperty(std::string_view host, std::string_view port);
+
+struct ServiceRequest {
+  std::string proxy;  // "" for none
+  std::string host;
+  std::uint16_t port = 80;
+  std::string requestText;
+};
+
+// The request for `url` with `query` behind its target.
+ServiceRequest BuildServiceRequest(const CReg& reg, std::string_view url, std::string_view query);
+void Send(const ServiceRequest& request, HttpControl& http, HttpEvents& events);
+
+// The start of the query of every first request: the key and this installation's identifier.
+std::string QueryStart(const CReg& reg);
+
+// Whether the program contacts such an address at all: "http://" and a host, without control characters or
+// blanks.
+bool IsServiceAddress(std::string_view url);
+
+}  // namespace sonaro

@@ -1,0 +1,109 @@
+#include "net/ServiceUrlTable.h"
+
+#include <optional>
+
+#include "app/CReg.h"
+#include "app/ServiceHosts.h"
+#include "app/SettingNames.h"
+#include "base/Text.h"
+#include "net/ServiceRequest.h"
+
+namespace sonaro {
+
+namespace {
+
+constexpr std::size_t kLongestValue = 2048;
+
+enum class Kind { Address, Text };
+
+struct Row {
+  std::string_view key;  // in an update file; "" when no update brings it
+  const char* setting;
+  Kind kind;
+  ServiceHost host;
+  std::string_view fallback;  // an address's path on `host`, or the text; "" for none
+  const char* registryKey = kSettingsKey;
+};
+
+using enum Kind;
+using enum ServiceHost;
+
+constexpr Row kRows[] = {
+    {"::UpdateURL::", setting::kUpdateUrl, Address, Web, "/sonaroapp/sonaro4vf/asp/appupdate/update.asp"},
+    {"::NotifyURL::", setting::kNotifyUrl, Address, Web, "/sonaroapp/sonaro4vf/asp/notify/notify.asp"},
+    {"::LiveUpdate::", setting::kLiveUpdate, Address, Web,
+     "/sonaroapp/sonaro3/asp/getevents/GetLiveInfo.asp"},
+    {"::FacePlateURL::", setting::kFacePlateUrl, Address, Web, "/sonaroapp/sonaro4/asp/faceplate"},
+    {"::SendComment::", setting::kSendComment, Address, Web, "/sonaroapp/sonaro3/asp/comments/comments.asp"},
+    {"::SendFriend::", setting::kSendFriend, Address, Web, "/sonaroapp/sonaro3/asp/comments/sendfriend.asp"},
+    {"::OwnURL::", setting::kOwnUrl, Address, Web, "/sonaroapp/sonaro3/asp/ownlink/SendOwnLink.asp"},
+    {"::OwnURLGet::", setting::kOwnUrlGet, Address, Web, "/sonaroapp/sonaro3/asp/ownlink/OwnLink.asp"},
+    {"::ProxyTest::", setting::kProxyTest, Address, Web, "/sonaroapp/sonaro3/asp/proxy/test.asp"},
+    {"::ProxyTestText::", setting::kProxyTestText, Text, Web, "cool proxy works!"},
+    {"::HelpURL::", setting::kHelpUrl, Address, Web, "/sonaroapp/sonaro4vf/apphelp"},
+    {"::TestRealURL::", setting::kTestRealUrl, Address, Web, "/sonaroapp/sonaro3/testrealurl.ram"},
+    {"::PriacyPol::", setting::kPrivacyPolicy, Address, Web, "/privacy.html"},
+    {"::PersonalPage::", setting::kPersonalPage, Address, Database,
+     "/sonaroapp/sonaro3/asp/startpage/UserPage.asp?sShows="},
+    {"::SchedOnNowInfoURL::", setting::kSchedOnNowInfoUrl, Address, StationInformation,
+     "/sonaroapp/sonaro3/asp/stationinfo/GetShowsOnNow4.asp?sStations="},
+    {"::SchedStationInfoURL::", setting::kSchedStationInfoUrl, Address, StationInformation,
+     "/sonaroapp/sonaro3/asp/stationinfo/GetStationInfo4.asp?sStations="},
+    {"::AdLocation::", setting::kGetAdsHere, Address, Web, "/sonaroapp/sonaro3f/asp/adserver/getad.asp"},
+    {"::NumberAds::", setting::kNumberOfAds, Text, Web, "", kAdsKey},
+    {"::sLocal::", setting::kLocal, Text, Web, ""},
+    {"", setting::kSearchShowUrl, Address, Search,
+     "/sonaroapp/sonaro3/asp/searchshows/searchshows.asp?sSearchWords="},
+};
+
+std::string DefaultOf(const Row& row) {
+  if (row.fallback.empty() || row.kind == Text) return std::string(row.fallback);
+  return ServiceAddress(row.host, row.fallback);
+}
+
+// What stands between `key` and the next "::"; nothing when either is missing.
+std::optional<std::string_view> ValueBehind(std::string_view line, std::string_view key) {
+  const std::size_t at = line.find(key);
+  if (at == std::string_view::npos) return std::nullopt;
+  const std::string_view rest = line.substr(at + key.size());
+  const std::size_t end = rest.find("::");
+  if (end == std::string_view::npos) return std::nullopt;
+  return rest.substr(0, end);
+}
+
+}  // namespace
+
+void WriteServiceDefaults(CReg& reg) {
+  for (const Row& row : kRows) {
+    if (row.fallback.empty() || !reg.Setting(row.setting).empty()) continue;
+    reg.SetSetting(row.setting, DefaultOf(row));
+  }
+}
+
+std::string ServiceDefault(std::string_view setting) {
+  for (const Row& row : kRows) {
+    if (setting == row.setting) return DefaultOf(row);
+  }
+  return {};
+}
+
+std::string ServiceSetting(const CReg& reg, const char* setting) {
+  const std::string value = reg.Setting(setting);
+  return value.empty() ? ServiceDefault(setting) : value;
+}
+
+void FindServiceValues(std::string_view line, std::vector<ServiceValue>& found, std::size_t& refused) {
+  if (line.find("::") == std::string_view::npos) return;
+  for (const Row& row : kRows) {
+    if (row.key.empty()) continue;
+    const std::optional<std::string_view> value = ValueBehind(line, row.key);
+    if (!value || value->empty()) continue;
+    if (value->size() > kLongestValue || (row.kind == Address && !IsServiceAddress(*value))) {
+      ++refused;
+    } else {
+      found.push_back({row.registryKey, row.setting, std::string(*value)});
+    }
+  }
+}
+
+}  // namespace sonaro

@@ -1,0 +1,51 @@
+#include "net/UpdateFormat.h"
+
+#include <algorithm>
+
+#include "base/Text.h"
+
+namespace sonaro::update {
+
+namespace {
+
+constexpr std::size_t kLongestName = 64;
+
+constexpr std::string_view kEndings[] = {".snr", ".vbt", ".pts", ".isd", ".ism", ".isf", ".isl"};
+
+// What the user made, and the list that an update can be undone to.
+constexpr std::string_view kNeverBrought[] = {"favs.snr",     "sched.snr",    "shows.snr",    "recent.snr",
+                                              "personal.snr", "ownlinks.snr", "alphabet.snr", "previous.snr"};
+
+constexpr std::string_view kDevices[] = {"con", "prn", "aux", "nul"};
+constexpr std::string_view kNumberedDevices[] = {"com", "lpt"};
+
+bool IsPlain(char c) {
+  return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z') || (c >= '0' && c <= '9') || c == ' ' || c == '-' ||
+         c == '_' || c == '.';
+}
+
+// A device keeps its meaning whatever extension follows it.
+bool IsDevice(std::string_view name) {
+  const std::string_view stem = TrimBlanks(name.substr(0, name.find('.')));
+  const auto is = [stem](std::string_view device) { return EqualIgnoringCase(stem, device); };
+  if (std::any_of(std::begin(kDevices), std::end(kDevices), is)) return true;
+  return stem.size() == 4 && stem[3] >= '0' && stem[3] <= '9' &&
+         std::any_of(
+             std::begin(kNumberedDevices), std::end(kNumberedDevices),
+             [stem](std::string_view device) { return EqualIgnoringCase(stem.substr(0, 3), device); });
+}
+
+}  // namespace
+
+// A blank at an end is dropped by the file system, which would make two names one.
+bool MayBringFile(std::string_view name) {
+  if (name.empty() || name.size() > kLongestName || !std::all_of(name.begin(), name.end(), IsPlain))
+    return false;
+  if (name.front() == '.' || TrimBlanks(name) != name || IsDevice(name)) return false;
+  const auto is = [name](std::string_view other) { return EqualIgnoringCase(name, other); };
+  if (std::any_of(std::begin(kNeverBrought), std::end(kNeverBrought), is)) return false;
+  return std::any_of(std::begin(kEndings), std::end(kEndings),
+                     [name](std::string_view ending) { return EndsWithIgnoringCase(name, ending); });
+}
+
+}  // namespace sonaro::update

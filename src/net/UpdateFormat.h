@@ -1,0 +1,29 @@
+// The words of an update file, shared by the program that reads one and the tool that writes one.
+#pragma once
+
+#include <string_view>
+
+namespace sonaro::update {
+
+// A section: "file::" + name, name + kSectionStart, the lines of the file, name + kSectionEnd.
+inline constexpr std::string_view kFile = "file::";
+inline constexpr std::string_view kSectionStart = " - start:sjhshkdjsdhjhsdsjhgfbvnjdsf";
+inline constexpr std::string_view kSectionEnd = " - end:sjhshkdjsdhjhsdsjhgfbvnjdsf";
+inline constexpr std::string_view kDate = "date::";        // a value and "::" follow
+inline constexpr std::string_view kVersion = "version::";  // a value and a blank follow
+// The last line before the sentinel of a signed file: the SHA-256 of everything before the line in
+// hexadecimal,
+// "::", the publisher's signature of that digest in hexadecimal, "::".
+inline constexpr std::string_view kSigned = "signed::";
+// The last characters of every complete update file.
+inline constexpr std::string_view kSentinel =
+    "fgisdfugdfiougjpdfo ghdfoguh dfo;ingdfo;gnfdsogunfpdgujfdo;gufsdpogjdfgphdfngolfdgio;dfgho;djgdpsgjd";
+static_assert(kSentinel.size() == 100);
+// In the address of the answer "nothing is newer".
+inline constexpr std::string_view kNothingNew = "noupdate.txt";
+
+// True when an update may bring a file of this name: a plain name of a data file of the service's, and never
+// one that the user made or that the program keeps for itself.
+bool MayBringFile(std::string_view name);
+
+}  // namespace sonaro::update

@@ -1,0 +1,57 @@
+#include "net/UpdateSignature.h"
+
+#include "base/DataFolder.h"
+#include "base/Signing.h"
+#include "base/Text.h"
+#include "net/UpdateFormat.h"
+
+namespace sonaro {
+
+namespace {
+
+// What is signed says what it is, so that a signature of something else never fits.
+std::string SignedMessage(std::string_view digest) { return std::string("sonaro update ").append(digest); }
+
+// Where the last line that begins with the mark begins.
+std::size_t SignatureLineIn(std::string_view text) {
+  for (std::size_t at = text.rfind(update::kSigned); at != std::string_view::npos && at != 0;
+       at = text.rfind(update::kSigned, at - 1)) {
+    if (text[at - 1] == '\n') return at;
+  }
+  return std::string_view::npos;
+}
+
+}  // namespace
+
+SignatureCheck CheckUpdateSignature(DataFolder& data, std::string_view& text) {
+  const ReadResult keyFile = data.Read(kPublisherKeyFile);
+  if (keyFile.status == ReadStatus::Missing) return SignatureCheck::NotNeeded;
+  std::string_view keyText = keyFile.bytes;
+  std::string_view key = TakeUntil(keyText, '\n');
+  if (key.ends_with('\r')) key.remove_suffix(1);
+  key = TrimBlanks(key);
+
+  const std::size_t at = SignatureLineIn(text);
+  if (at == std::string_view::npos) return SignatureCheck::Missing;
+  const std::string_view covered = text.substr(0, at);
+  std::string_view line = text.substr(at + update::kSigned.size());
+  line = line.substr(0, line.find('\n'));
+  const std::size_t cut = line.find("::");
+  if (cut == std::string_view::npos) return SignatureCheck::Wrong;
+  const std::string_view digest = line.substr(0, cut);
+  line.remove_prefix(cut + 2);
+  const std::string_view signature = line.substr(0, line.find("::"));
+  if (!EqualIgnoringCase(digest, Sha256Hex(covered))) return SignatureCheck::Wrong;
+  if (!IsSignedBy(key, SignedMessage(Sha256Hex(covered)), signature)) return SignatureCheck::Wrong;
+  text = covered;
+  return SignatureCheck::Good;
+}
+
+std::string UpdateSignatureLine(std::string_view text, std::string_view secretKey) {
+  const std::string digest = Sha256Hex(text);
+  const std::string signature = SignatureOf(secretKey, SignedMessage(digest));
+  if (signature.empty()) return {};
+  return std::string(update::kSigned).append(digest).append("::").append(signature).append("::");
+}
+
+}  // namespace sonaro
