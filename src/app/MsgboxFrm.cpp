@@ -22,7 +22,7 @@ constexpr const char* kFilesMissing = "Files Missing";
 const FormDesign& MsgboxFrm::Design() {
   static constexpr unsigned char kFoot = kLeft | kBottom;
   static constexpr ControlRow kControls[] = {
-      {.id = lblTitle, .kind = Kind::TitleBar, .at = {14, 4, 182, 26}},
+      {.id = lblTitle, .kind = Kind::TitleBar, .at = {40, 4, 156, 26}},
       {.kind = Kind::Label, .at = {20, 52, 36, 36}, .icon = Icon::Info, .ink = Ink::Signal},
       {.id = lblMsg,
        .kind = Kind::StateLabel,

@@ -10,7 +10,7 @@ namespace sonaro {
 
 const FormDesign& frmExtraLink::Design() {
   static constexpr ControlRow kControls[] = {
-      {.id = lblTitle, .kind = Kind::TitleBar, .text = IDS_DLG_EXTRA_TITLE, .at = {14, 4, 182, 26}},
+      {.id = lblTitle, .kind = Kind::TitleBar, .text = IDS_DLG_EXTRA_TITLE, .at = {40, 4, 156, 26}},
       {.id = lblStation,
        .kind = Kind::StateLabel,
        .at = {14, 44, 392, 26},

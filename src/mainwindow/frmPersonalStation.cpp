@@ -11,7 +11,7 @@ namespace sonaro {
 
 const FormDesign& frmPersonalStation::Design() {
   static constexpr ControlRow kControls[] = {
-      {.id = lblTitle, .kind = Kind::TitleBar, .text = IDS_DLG_OWN_TITLE, .at = {14, 4, 222, 26}},
+      {.id = lblTitle, .kind = Kind::TitleBar, .text = IDS_DLG_OWN_TITLE, .at = {40, 4, 196, 26}},
       {.kind = Kind::Label,
        .text = IDS_DLG_OWN_NAME,
        .at = {14, 48, 100, 28},

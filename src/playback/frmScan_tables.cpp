@@ -7,7 +7,7 @@ namespace sonaro {
 
 const FormDesign& frmScan::Design() {
   static constexpr ControlRow kControls[] = {
-      {.id = lblTitle, .kind = Kind::TitleBar, .text = IDS_SCAN_W_TITLE, .at = {14, 4, 182, 26}},
+      {.id = lblTitle, .kind = Kind::TitleBar, .text = IDS_SCAN_W_TITLE, .at = {40, 4, 156, 26}},
       {.id = panScanFull, .kind = Kind::Glass, .at = {14, 46, 692, 66}, .cut = 10},
       {.id = panScanCompact, .kind = Kind::Glass, .at = {12, 44, 416, 52}, .flags = kHidden, .cut = 8},
       {.id = lblCurrentScaning,

@@ -18,7 +18,7 @@ constexpr const char* kTimeSettings = "rundll32.exe shell32.dll,Control_RunDLL t
 
 const FormDesign& frmAboutEventTime::Design() {
   static constexpr ControlRow kControls[] = {
-      {.id = lblTitle, .kind = Kind::TitleBar, .text = IDS_SCHED_TIME_TITLE, .at = {14, 4, 182, 26}},
+      {.id = lblTitle, .kind = Kind::TitleBar, .text = IDS_SCHED_TIME_TITLE, .at = {40, 4, 156, 26}},
       {.id = lblName,
        .kind = Kind::Label,
        .text = IDS_SCHED_TIME_NAME,

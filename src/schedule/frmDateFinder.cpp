@@ -8,7 +8,7 @@ namespace sonaro {
 
 const FormDesign& frmDateFinder::Design() {
   static constexpr ControlRow kControls[] = {
-      {.id = lblTitle, .kind = Kind::TitleBar, .text = IDS_SCHED_DATE_TITLE, .at = {14, 4, 182, 26}},
+      {.id = lblTitle, .kind = Kind::TitleBar, .text = IDS_SCHED_DATE_TITLE, .at = {40, 4, 156, 26}},
       {.id = calDates,
        .kind = Kind::MonthCalendar,
        .text = IDS_SCHED_DATE_CALENDAR,

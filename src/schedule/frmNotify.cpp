@@ -16,7 +16,7 @@ constexpr unsigned char kMissedPane = 2;
 
 const FormDesign& frmNotify::Design() {
   static constexpr ControlRow kControls[] = {
-      {.id = lblTitle, .kind = Kind::TitleBar, .text = IDS_SCHED_NOTIFY_TITLE, .at = {14, 4, 156, 26}},
+      {.id = lblTitle, .kind = Kind::TitleBar, .text = IDS_SCHED_NOTIFY_TITLE, .at = {40, 4, 130, 26}},
       {.kind = Kind::Glass, .at = {14, 46, 412, 94}, .cut = 12},
       {.kind = Kind::Label,
        .at = {34, 56, 24, 24},

@@ -7,7 +7,7 @@ namespace sonaro {
 
 const FormDesign& frmSchedChange::Design() {
   static constexpr ControlRow kControls[] = {
-      {.id = lblTitle, .kind = Kind::TitleBar, .text = IDS_SCHED_CHANGE_TITLE, .at = {14, 4, 222, 26}},
+      {.id = lblTitle, .kind = Kind::TitleBar, .text = IDS_SCHED_CHANGE_TITLE, .at = {40, 4, 196, 26}},
       {.id = lblStationToSched,
        .kind = Kind::StateLabel,
        .at = {14, 48, 418, 28},

@@ -7,7 +7,7 @@ namespace sonaro {
 
 const FormDesign& frmSched::Design() {
   static constexpr ControlRow kControls[] = {
-      {.id = lblTitle, .kind = Kind::TitleBar, .text = IDS_SCHED_LIST_TITLE, .at = {14, 4, 242, 26}},
+      {.id = lblTitle, .kind = Kind::TitleBar, .text = IDS_SCHED_LIST_TITLE, .at = {40, 4, 216, 26}},
       {.kind = Kind::HeaderKey, .text = IDS_SCHED_COLUMN_NEXT, .at = {14, 66, 130, 24}, .flags = kNoTabStop},
       {.kind = Kind::HeaderKey,
        .text = IDS_SCHED_COLUMN_STATION,

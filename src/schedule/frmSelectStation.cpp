@@ -9,7 +9,7 @@ namespace sonaro {
 
 const FormDesign& frmSelectStation::Design() {
   static constexpr ControlRow kControls[] = {
-      {.id = lblTitle, .kind = Kind::TitleBar, .text = IDS_SCHED_PICK_TITLE, .at = {14, 4, 222, 26}},
+      {.id = lblTitle, .kind = Kind::TitleBar, .text = IDS_SCHED_PICK_TITLE, .at = {40, 4, 196, 26}},
       {.kind = Kind::Label,
        .text = IDS_SCHED_PICK_FROM,
        .at = {14, 48, 100, 28},

@@ -22,7 +22,7 @@ constexpr const char* kPlayerHelp = "9036.html";
 
 const FormDesign& frmStartUpInfo::Design() {
   static constexpr ControlRow kControls[] = {
-      {.id = lblTitle, .kind = Kind::TitleBar, .text = IDS_STARTUP_TITLE, .at = {14, 4, 242, 26}},
+      {.id = lblTitle, .kind = Kind::TitleBar, .text = IDS_STARTUP_TITLE, .at = {40, 4, 216, 26}},
       {.id = lblHead, .kind = Kind::StateLabel, .at = {14, 48, 560, 28}, .type = Type::Heading},
       {.id = lblText, .kind = Kind::StateLabel, .at = {14, 80, 572, 56}, .flags = kWrap},
       {.kind = Kind::Glass, .at = {14, 142, 572, 160}, .cut = 12},
