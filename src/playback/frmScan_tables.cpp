@@ -131,7 +131,7 @@ const FormDesign& frmScan::Design() {
                                          .controls = kControls,
                                          .layouts = kLayouts,
                                          .keys = kKeys,
-                                         .firstFocus = butStartIt};
+                                         .firstFocus = lstToScan};
   return kDesign;
 }
 
