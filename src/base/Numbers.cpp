@@ -47,13 +47,15 @@ bool IsNumeric(std::string_view text) {
 
 bool ParseStationId(std::string_view text, std::int32_t& id) {
   text = TrimBlanks(text);
-  std::string_view digits = text;
-  if (!digits.empty() && IsSign(digits.front())) digits.remove_prefix(1);
-  if (TakeDigits(digits).empty() || !digits.empty()) return false;
-  const std::int64_t value = NumberValue(text);
-  using Limits = std::numeric_limits<std::int32_t>;
-  if (value < Limits::min() || value > Limits::max()) return false;
-  id = static_cast<std::int32_t>(value);
+  if (text.starts_with('+')) {
+    text.remove_prefix(1);
+    if (text.starts_with('-')) return false;
+  }
+  const char* const textEnd = text.data() + text.size();
+  std::int32_t value = 0;
+  const auto [end, error] = std::from_chars(text.data(), textEnd, value);
+  if (error != std::errc() || end != textEnd) return false;
+  id = value;
   return true;
 }
 

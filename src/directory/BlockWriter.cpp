@@ -1,11 +1,9 @@
 #include "directory/BlockWriter.h"
 
 #include <algorithm>
-#include <cstring>
 #include <utility>
 
 #include "directory/Checksum.h"
-#include "directory/VmxFormat.h"
 
 namespace sonaro {
 
@@ -14,26 +12,13 @@ BlockWriter::BlockWriter(std::unique_ptr<OutputFile> file, Checking checking)
 
 void BlockWriter::WriteHeader(std::string_view header) { failed_ = failed_ || !file_->Append(header); }
 
-char* BlockWriter::Room(std::size_t length) {
-  if (buffer_.size() - used_ < length) buffer_.resize(std::max(used_ + length, 2 * kColumnBlock));
-  return buffer_.data() + used_;
-}
+void BlockWriter::Grow(std::size_t length) { buffer_.resize(std::max(used_ + length, 2 * kBlock)); }
 
-void BlockWriter::Take(std::size_t length) {
-  used_ += length;
-  size_ += length;
-  if (used_ < kColumnBlock) return;
-  std::size_t written = 0;
-  for (; used_ - written >= kColumnBlock; written += kColumnBlock) {
-    WriteBlock({buffer_.data() + written, kColumnBlock});
-  }
-  used_ -= written;
-  std::memmove(buffer_.data(), buffer_.data() + written, used_);
-}
-
-void BlockWriter::Append(std::string_view bytes) {
-  if (!bytes.empty()) std::memcpy(Room(bytes.size()), bytes.data(), bytes.size());
-  Take(bytes.size());
+void BlockWriter::WriteBlocks() {
+  std::size_t done = 0;
+  for (; used_ - done >= kBlock; done += kBlock) WriteBlock({buffer_.data() + done, kBlock});
+  used_ -= done;
+  std::memmove(buffer_.data(), buffer_.data() + done, used_);
 }
 
 std::uint64_t BlockWriter::Flush() {
@@ -52,6 +37,7 @@ bool BlockWriter::Commit(std::string_view header) {
 void BlockWriter::WriteBlock(std::string_view block) {
   if (checking_ == Checking::Chained) check_ = Checksum(block, check_);
   failed_ = failed_ || !file_->Append(block);
+  written_ += block.size();
 }
 
 std::uint64_t ChainedChecksum(std::string_view stream) {

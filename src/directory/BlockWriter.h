@@ -4,11 +4,13 @@
 #pragma once
 
 #include <cstdint>
+#include <cstring>
 #include <memory>
 #include <string_view>
 #include <vector>
 
 #include "base/Files.h"
+#include "directory/VmxFormat.h"
 
 namespace sonaro {
 
@@ -23,12 +25,21 @@ class BlockWriter {
   void WriteHeader(std::string_view header);
 
   // A place for `length` bytes at the end of the stream, valid until the next call.
-  char* Room(std::size_t length);
+  char* Room(std::size_t length) {
+    if (buffer_.size() - used_ < length) Grow(length);
+    return buffer_.data() + used_;
+  }
   // Makes the first `length` bytes of that place part of the stream.
-  void Take(std::size_t length);
-  void Append(std::string_view bytes);
+  void Take(std::size_t length) {
+    used_ += length;
+    if (used_ >= kBlock) WriteBlocks();
+  }
+  void Append(std::string_view bytes) {
+    if (!bytes.empty()) std::memcpy(Room(bytes.size()), bytes.data(), bytes.size());
+    Take(bytes.size());
+  }
 
-  std::uint64_t Size() const { return size_; }
+  std::uint64_t Size() const { return written_ + used_; }
   // Writes what is left. Gives the checksum of the stream (ChainedChecksum) when it was asked for and this is
   // the first call.
   std::uint64_t Flush();
@@ -36,13 +47,17 @@ class BlockWriter {
   bool Commit(std::string_view header);
 
  private:
+  static constexpr std::size_t kBlock = kColumnBlock;
+
+  void Grow(std::size_t length);
+  void WriteBlocks();
   void WriteBlock(std::string_view block);
 
   std::unique_ptr<OutputFile> file_;
   Checking checking_;
   std::vector<char> buffer_;
   std::size_t used_ = 0;
-  std::uint64_t size_ = 0;
+  std::uint64_t written_ = 0;
   std::uint64_t check_ = 0;
   bool failed_ = false;
 };

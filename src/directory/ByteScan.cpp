@@ -9,7 +9,7 @@ namespace {
 char FoldAsciiByte(char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c | 0x20) : c; }
 
 #if SONARO_SSE2
-constexpr std::size_t kStep = 16;
+constexpr std::ptrdiff_t kStep = 16;
 
 __m128i Load(const char* at) { return _mm_loadu_si128(reinterpret_cast<const __m128i*>(at)); }
 
@@ -22,41 +22,113 @@ __m128i FoldAscii(__m128i bytes) {
 }
 #endif
 
+// Calls `found` with the place of every `wanted` between `at` and `end` in turn, until it returns true.
+template <typename Found>
+inline void ForEachByte(const char* at, const char* end, char wanted, Found found) {
+#if SONARO_SSE2
+  const __m128i pattern = _mm_set1_epi8(wanted);
+  const auto hitsIn = [&](const char* from) { return Mask(_mm_cmpeq_epi8(Load(from), pattern)); };
+  const auto report = [&](const char* from, std::uint32_t hits) {
+    for (; hits != 0; hits &= hits - 1) {
+      if (found(from + std::countr_zero(hits))) return true;
+    }
+    return false;
+  };
+  const char* const start = at;
+  for (; end - at >= kStep; at += kStep) {
+    if (report(at, hitsIn(at))) return;
+  }
+  if (at != start) {  // the last sixteen bytes, without those that were looked at before
+    report(at, hitsIn(end - kStep) >> (kStep - (end - at)));
+    return;
+  }
+#endif
+  for (; at != end; ++at) {
+    if (*at == wanted && found(at)) return;
+  }
+}
+
+#if SONARO_SSE2
+// Goes on by 64 bytes as long as none of them is wanted.
+const char* SkipWithout(const char* at, const char* end, char wanted) {
+  const __m128i pattern = _mm_set1_epi8(wanted);
+  const auto hits = [&](const char* from) { return _mm_cmpeq_epi8(Load(from), pattern); };
+  while (end - at >= 4 * kStep &&
+         Mask(_mm_or_si128(_mm_or_si128(hits(at), hits(at + kStep)),
+                           _mm_or_si128(hits(at + 2 * kStep), hits(at + 3 * kStep)))) == 0) {
+    at += 4 * kStep;
+  }
+  return at;
+}
+#else
+const char* SkipWithout(const char* at, const char*, char) { return at; }
+#endif
+
 }  // namespace
 
 std::size_t FindByte(std::string_view text, char wanted) {
-  std::size_t at = 0;
-#if SONARO_SSE2
-  const __m128i pattern = _mm_set1_epi8(wanted);
-  for (; text.size() - at >= kStep; at += kStep) {
-    const std::uint32_t hits = Mask(_mm_cmpeq_epi8(Load(text.data() + at), pattern));
-    if (hits != 0) return at + static_cast<std::size_t>(std::countr_zero(hits));
+  const char* const end = text.data() + text.size();
+  const char* place = end;
+  ForEachByte(SkipWithout(text.data(), end, wanted), end, wanted, [&](const char* at) {
+    place = at;
+    return true;
+  });
+  return static_cast<std::size_t>(place - text.data());
+}
+
+std::size_t FindTab(std::string_view text, std::size_t count) {
+  const char* const end = text.data() + text.size();
+  const char* place = end;
+  ForEachByte(text.data(), end, '\t', [&](const char* at) {
+    if (--count == 0) place = at;
+    return count == 0;
+  });
+  return static_cast<std::size_t>(place - text.data());
+}
+
+void SplitAtTabs(std::string_view text, std::span<std::string_view> pieces) {
+  if (pieces.empty()) return;
+  std::string_view* piece = pieces.data();
+  std::string_view* const last = piece + pieces.size() - 1;
+  const char* start = text.data();
+  const char* const end = start + text.size();
+  if (piece != last) {
+    ForEachByte(start, end, '\t', [&](const char* tab) {
+      *piece++ = {start, static_cast<std::size_t>(tab - start)};
+      start = tab + 1;
+      return piece == last;
+    });
   }
-  if (at != 0 && at < text.size()) {  // the last sixteen bytes; those seen before hold no hit
-    const std::size_t last = text.size() - kStep;
-    const std::uint32_t hits = Mask(_mm_cmpeq_epi8(Load(text.data() + last), pattern));
-    return hits != 0 ? last + static_cast<std::size_t>(std::countr_zero(hits)) : text.size();
-  }
-#endif
-  while (at < text.size() && text[at] != wanted) ++at;
-  return at;
+  *piece = {start, static_cast<std::size_t>(end - start)};
+  while (piece != last) *++piece = {};
 }
 
 std::size_t CopyFoldedAscii(std::string_view text, char* out) {
-  std::size_t at = 0;
+  const char* const start = text.data();
+  const char* const end = start + text.size();
+  const char* at = start;
 #if SONARO_SSE2
-  for (; text.size() - at >= kStep; at += kStep) {
-    const __m128i bytes = Load(text.data() + at);
-    _mm_storeu_si128(reinterpret_cast<__m128i*>(out + at), FoldAscii(bytes));
-    const std::uint32_t foreign = Mask(bytes);
-    if (foreign != 0) return at + static_cast<std::size_t>(std::countr_zero(foreign));
+  std::uint32_t foreign = 0;  // the bytes above ASCII of the last step
+  const auto copy = [&](const char* from) {
+    const __m128i bytes = Load(from);
+    _mm_storeu_si128(reinterpret_cast<__m128i*>(out + (from - start)), FoldAscii(bytes));
+    foreign = Mask(bytes);
+    return static_cast<std::size_t>(from - start + std::countr_zero(foreign));
+  };
+  for (; end - at >= kStep; at += kStep) {
+    const std::size_t ascii = copy(at);
+    if (foreign != 0) return ascii;
+  }
+  if (at != start) {  // the last sixteen bytes; folding some of them again changes nothing
+    const std::size_t ascii = copy(end - kStep);
+    return foreign != 0 ? ascii : text.size();
   }
 #endif
-  for (; at < text.size(); ++at) {
-    if (static_cast<unsigned char>(text[at]) >= 0x80) return at;
-    out[at] = FoldAsciiByte(text[at]);
+  for (; at != end; ++at) {
+    if (static_cast<unsigned char>(*at) >= 0x80) break;
+    out[at - start] = FoldAsciiByte(*at);
   }
-  return at;
+  return static_cast<std::size_t>(at - start);
 }
 
 }  // namespace sonaro

@@ -3,6 +3,7 @@
 #pragma once
 
 #include <cstddef>
+#include <span>
 #include <string_view>
 
 #if defined(__SSE2__)
@@ -14,6 +15,13 @@ namespace sonaro {
 
 // The position of the first `wanted` in `text`; its size when there is none.
 std::size_t FindByte(std::string_view text, char wanted);
+
+// The position of the `count`th tab in `text`, its size when there are fewer; `count` is at least 1.
+std::size_t FindTab(std::string_view text, std::size_t count);
+
+// Cuts `text` at its tabs. The last piece takes what is left, tabs included; pieces that are missing become
+// empty.
+void SplitAtTabs(std::string_view text, std::span<std::string_view> pieces);
 
 // Copies `text` to `out` (room for as many bytes) with A-Z folded to a-z, as long as it is ASCII. Returns how
 // many bytes at the start were; bytes behind these may have been written too.

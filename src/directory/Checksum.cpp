@@ -5,29 +5,45 @@
 namespace sonaro {
 namespace {
 
-constexpr std::size_t kLanes = 4;
-using Block = std::uint64_t[kLanes];
+constexpr std::size_t kWord = sizeof(std::uint64_t);
 
-void MixBlock(Block& lanes, const char* bytes) {
-  Block words;
-  std::memcpy(words, bytes, sizeof words);
-  for (std::size_t i = 0; i < kLanes; ++i) lanes[i] = MixChecksum(lanes[i], words[i]);
+std::uint64_t WordAt(const char* bytes) {
+  std::uint64_t word;
+  std::memcpy(&word, bytes, kWord);
+  return word;
+}
+
+// The last `length` bytes, less than a word of them, before `end`; `total` bytes stand there in all.
+std::uint64_t LastBytes(const char* end, std::size_t length, std::size_t total) {
+  if (length == 0) return 0;
+  if (total >= kWord) return WordAt(end - kWord) >> (8 * (kWord - length));
+  std::uint64_t word = 0;
+  std::memcpy(&word, end - length, length);
+  return word;
 }
 
 }  // namespace
 
 std::uint64_t Checksum(std::string_view bytes, std::uint64_t seed) {
-  Block lanes = {seed ^ 0x243F6A8885A308D3u, seed ^ 0x13198A2E03707344u, seed ^ 0xA4093822299F31D0u,
-                 seed ^ 0x082EFA98EC4E6C89u};
-  const std::size_t whole = bytes.size() / sizeof(Block) * sizeof(Block);
-  for (std::size_t at = 0; at < whole; at += sizeof(Block)) MixBlock(lanes, bytes.data() + at);
-  if (whole != bytes.size()) {
-    char rest[sizeof(Block)] = {};
-    std::memcpy(rest, bytes.data() + whole, bytes.size() - whole);
-    MixBlock(lanes, rest);
+  std::uint64_t a = seed ^ 0x243F6A8885A308D3u;
+  std::uint64_t b = seed ^ 0x13198A2E03707344u;
+  std::uint64_t c = seed ^ 0xA4093822299F31D0u;
+  std::uint64_t d = seed ^ 0x082EFA98EC4E6C89u;
+  const char* at = bytes.data();
+  std::size_t left = bytes.size();
+  for (; left >= 4 * kWord; left -= 4 * kWord, at += 4 * kWord) {
+    a = MixChecksum(a, WordAt(at));
+    b = MixChecksum(b, WordAt(at + kWord));
+    c = MixChecksum(c, WordAt(at + 2 * kWord));
+    d = MixChecksum(d, WordAt(at + 3 * kWord));
   }
+  if (left >= kWord) a = MixChecksum(a, WordAt(at));
+  if (left >= 2 * kWord) b = MixChecksum(b, WordAt(at + kWord));
+  if (left >= 3 * kWord) c = MixChecksum(c, WordAt(at + 2 * kWord));
+  d = MixChecksum(d, LastBytes(at + left, left % kWord, bytes.size()));
+
   std::uint64_t sum = bytes.size();  // tells a text from the same text with zeros behind it
-  for (const std::uint64_t lane : lanes) sum = MixChecksum(sum, lane);
+  for (const std::uint64_t lane : {a, b, c, d}) sum = MixChecksum(sum, lane);
   sum ^= sum >> 32;  // the last multiplication left the low bits poorly mixed
   return MixChecksum(sum, 0);
 }

@@ -41,19 +41,22 @@ void EvList::CloseEventTable(Handle handle) {
   if (handle != 0) status_ = vmx_->VmxClose(handle);
 }
 
-EventRecord EvList::GetEvent(Handle handle, std::int32_t eventId) {
+EventRecord EvList::Read(Handle handle, std::string_view key, VmxReadMode mode) {
   EventRecord record;
+  VmxRecord found;
   if (handle == 0) return record;
-  status_ = vmx_->VmxGet(handle, std::to_string(eventId), VmxReadMode::Key, record.EventId, record.fields);
+  status_ = vmx_->VmxGet(handle, key, mode, found);
+  if (status_ != TableStatus::Success) return record;
+  record.EventId = found.key;
+  found.CopyFields(record.fields);
   return record;
 }
 
-EventRecord EvList::NextEvent(Handle handle) {
-  EventRecord record;
-  if (handle == 0) return record;
-  status_ = vmx_->VmxGet(handle, {}, VmxReadMode::Next, record.EventId, record.fields);
-  return record;
+EventRecord EvList::GetEvent(Handle handle, std::int32_t eventId) {
+  return Read(handle, std::to_string(eventId), VmxReadMode::Key);
 }
+
+EventRecord EvList::NextEvent(Handle handle) { return Read(handle, {}, VmxReadMode::Next); }
 
 bool EvList::PutEvent(Handle handle, const EventRecord& record) {
   if (record.Empty()) return true;

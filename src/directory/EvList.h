@@ -7,6 +7,7 @@
 #include <cstdint>
 #include <memory>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "directory/EventRecord.h"
@@ -16,6 +17,7 @@ namespace sonaro {
 
 class DataFolder;
 class Vmx;
+enum class VmxReadMode : std::int16_t;
 
 enum class EventSet { Current, Coming };  // "\Eventorg", "\Eventorg2"
 
@@ -48,6 +50,7 @@ class EvList {
 
  private:
   std::string PathOf(EventSet set) const;
+  EventRecord Read(Handle handle, std::string_view key, VmxReadMode mode);
 
   DataFolder& data_;
   std::unique_ptr<Vmx> vmx_;

@@ -16,7 +16,8 @@ constexpr std::string_view kListName = "\\station.snr";
 
 }  // namespace
 
-StatList::StatList(DataFolder& data) : data_(data), vmx_(std::make_unique<Vmx>(data.FileSystem())) {}
+StatList::StatList(DataFolder& data)
+    : data_(data), vmx_(std::make_unique<Vmx>(data.FileSystem())), buffer_(std::make_unique<VmxRecord>()) {}
 
 StatList::~StatList() = default;
 
@@ -38,11 +39,19 @@ void StatList::CloseStationTable(Handle handle) {
   if (handle != 0) status_ = vmx_->VmxClose(handle);
 }
 
+// `record` is an empty one, and stays so unless true is returned.
+bool StatList::Read(Handle handle, std::int32_t stationId, StationRecord& record) {
+  if (handle == 0) return false;
+  status_ = vmx_->VmxGet(handle, std::to_string(stationId), VmxReadMode::Key, *buffer_);
+  if (status_ != TableStatus::Success) return false;
+  record.StationId = buffer_->key;
+  buffer_->CopyFields(record.fields);
+  return true;
+}
+
 StationRecord StatList::GetStation(Handle handle, std::int32_t stationId) {
   StationRecord record;
-  if (handle == 0) return record;
-  status_ =
-      vmx_->VmxGet(handle, std::to_string(stationId), VmxReadMode::Key, record.StationId, record.fields);
+  Read(handle, stationId, record);
   return record;
 }
 
@@ -81,8 +90,7 @@ std::vector<StationRecord> StatList::GetAll(Handle handle, std::span<const std::
   std::vector<StationRecord> records;
   records.reserve(ids.size());
   for (const std::int32_t id : ids) {
-    StationRecord record = GetStation(handle, id);
-    if (status_ == TableStatus::Success) records.push_back(std::move(record));
+    if (!Read(handle, id, records.emplace_back())) records.pop_back();
     if (status_ != TableStatus::Success && status_ != TableStatus::NotFound) return records;
   }
   if (status_ == TableStatus::NotFound)

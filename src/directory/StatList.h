@@ -19,6 +19,7 @@ namespace sonaro {
 
 class DataFolder;
 class Vmx;
+struct VmxRecord;
 
 class StatList {
  public:
@@ -67,6 +68,7 @@ class StatList {
   bool Verify();
 
  private:
+  bool Read(Handle handle, std::int32_t stationId, StationRecord& record);
   std::vector<std::int32_t> Search(Handle handle, std::string_view text, bool allWords);
   std::vector<StationRecord> GetAll(Handle handle, std::span<const std::int32_t> ids);
   template <typename Operation>
@@ -74,6 +76,7 @@ class StatList {
 
   DataFolder& data_;
   std::unique_ptr<Vmx> vmx_;
+  std::unique_ptr<VmxRecord> buffer_;  // of the last read
   TableStatus status_ = TableStatus::Success;
 };
 

@@ -16,16 +16,6 @@
 namespace sonaro {
 namespace {
 
-// Most identifiers are a few digits and nothing else; the general rule decides about the others.
-bool ParseIdentifier(std::string_view text, std::int32_t& id) {
-  constexpr std::size_t kDigitsThatFit = 9;
-  const bool digits = std::all_of(text.begin(), text.end(), [](char c) { return c >= '0' && c <= '9'; });
-  if (!digits || text.empty() || text.size() > kDigitsThatFit) return ParseStationId(text, id);
-  id = 0;
-  for (const char c : text) id = id * 10 + (c - '0');
-  return true;
-}
-
 enum class Pass { Complete, OutOfOrder, Failed };
 
 // Copies the list to the table line by line, as long as its identifiers ascend.
@@ -125,9 +115,19 @@ Pass AppendStations(Files& files, const std::string& listPath, std::optional<Tab
 
 bool ParseStationLine(std::string_view line, StationLine& station) {
   if (line.ends_with('\r')) line.remove_suffix(1);
-  const std::size_t end = FindByte(line, kFieldSeparator);
-  station.text = line.substr(std::min(end + 1, line.size()));
-  return ParseIdentifier(line.substr(0, end), station.id) && station.id != 0;
+  // Most identifiers are a few digits and nothing else; the general rule decides about the others.
+  constexpr std::size_t kDigitsThatFit = 9;
+  std::size_t end = 0;
+  std::int32_t id = 0;
+  for (; end < line.size() && end < kDigitsThatFit && line[end] >= '0' && line[end] <= '9'; ++end) {
+    id = id * 10 + (line[end] - '0');
+  }
+  if (end == 0 || (end < line.size() && line[end] != kFieldSeparator)) {
+    end = FindByte(line, kFieldSeparator);
+    if (!ParseStationId(line.substr(0, end), id)) return false;
+  }
+  station = {id, line.substr(std::min(end + 1, line.size()))};
+  return id != 0;
 }
 
 TableStatus BuildStationTable(Files& files, const std::string& listPath, const std::string& tablePath) {

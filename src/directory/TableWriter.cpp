@@ -10,15 +10,6 @@
 namespace sonaro {
 namespace {
 
-// The first `count` fields of a record, with the tabs between them.
-std::string_view LeadingFields(std::string_view text, std::uint32_t count) {
-  std::size_t end = 0;
-  for (std::uint32_t field = 0; field < count && end <= text.size(); ++field) {
-    end += FindByte(text.substr(end), kFieldSeparator) + 1;
-  }
-  return text.substr(0, end == 0 ? 0 : end - 1);
-}
-
 template <typename Item>
 std::string_view BytesOf(const Item* items, std::size_t count) {
   return {reinterpret_cast<const char*>(items), count * sizeof(Item)};
@@ -55,7 +46,9 @@ bool TableWriter::Append(std::int32_t key, std::string_view text) {
   entries_.push_back({key, static_cast<std::uint32_t>(data_->Size()),
                       static_cast<std::uint32_t>(index_->Size()), RecordCheck(digest)});
   data_->Append(text);
-  if (definition_.searchedFields != 0) AppendToColumn(LeadingFields(text, definition_.searchedFields));
+  if (definition_.searchedFields != 0) {
+    AppendToColumn(text.substr(0, FindTab(text, definition_.searchedFields)));
+  }
   if (index_->Size() > kLargestText) tooLarge_ = true;  // folding can make a text longer
   return !tooLarge_;
 }

@@ -10,16 +10,6 @@
 namespace sonaro {
 namespace {
 
-// Cuts a record's text into fields; the last one takes what is left.
-void SplitFields(std::string_view text, std::span<std::string> fields) {
-  for (std::string& field : fields) {
-    const bool last = &field == &fields.back();
-    const std::size_t end = last ? text.size() : FindByte(text, kFieldSeparator);
-    field.assign(text.substr(0, end));
-    text.remove_prefix(std::min(end + 1, text.size()));
-  }
-}
-
 std::string JoinFields(std::span<const std::string> fields) {
   std::string text;
   for (const std::string& field : fields) {
@@ -33,6 +23,10 @@ std::string JoinFields(std::span<const std::string> fields) {
 }
 
 }  // namespace
+
+void VmxRecord::CopyFields(std::span<std::string> texts) const {
+  for (std::size_t i = 0; i < std::min(texts.size(), fields.size()); ++i) texts[i] = fields[i];
+}
 
 template <typename Operation>
 TableStatus Vmx::Run(Operation operation) {
@@ -110,20 +104,20 @@ TableStatus Vmx::VmxEOF(Handle handle) {
   });
 }
 
-TableStatus Vmx::VmxGet(Handle handle, std::string_view key, VmxReadMode mode, std::int32_t& foundKey,
-                        std::span<std::string> fields) {
+TableStatus Vmx::VmxGet(Handle handle, std::string_view key, VmxReadMode mode, VmxRecord& record) {
   return RunOn(handle, [&](OpenTable& table) {
-    TableImage::Record record;
+    TableImage::Record found;
     std::int32_t wanted = 0;
     TableStatus status = TableStatus::NotFound;
     if (mode == VmxReadMode::Next) {
-      status = table.ReadNext(record);
+      status = table.ReadNext(found);
     } else if (ParseStationId(key, wanted)) {
-      status = table.Read(wanted, record);
+      status = table.Read(wanted, found);
     }
     if (status != TableStatus::Success) return status;
-    SplitFields(record.text, fields);
-    foundKey = record.key;
+    record.fields.resize(table.FieldCount());
+    SplitAtTabs(found.text, record.fields);
+    record.key = found.key;
     return status;
   });
 }

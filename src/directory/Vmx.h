@@ -26,6 +26,14 @@ namespace sonaro {
 enum class VmxOpenMode { Read, Write };
 enum class VmxReadMode : std::int16_t { Key = 0x1001, Next = 0x1002 };
 
+struct VmxRecord {
+  std::int32_t key = 0;
+  std::vector<std::string_view> fields;  // as many as the table's definition says
+
+  // Copies the fields to texts of their own, as many as both have.
+  void CopyFields(std::span<std::string> texts) const;
+};
+
 class Vmx {
  public:
   using Handle = int;  // 0: not open
@@ -53,11 +61,10 @@ class Vmx {
   TableStatus VmxBOF(Handle handle);
   TableStatus VmxEOF(Handle handle);
 
-  // Reads the record with the key or, whatever `key` is, the one behind the position; positions on it. Fields
-  // that the record lacks become empty, those that `fields` lacks are left out. Without Success `foundKey`,
-  // `fields` and the position stay as they are.
-  TableStatus VmxGet(Handle handle, std::string_view key, VmxReadMode mode, std::int32_t& foundKey,
-                     std::span<std::string> fields);
+  // Reads the record with the key or, whatever `key` is, the one behind the position; positions on it. The
+  // fields' texts are valid until the table is changed or closed. Without Success `record` and the position
+  // stay as they are.
+  TableStatus VmxGet(Handle handle, std::string_view key, VmxReadMode mode, VmxRecord& record);
   // `fields` are as many as the definition says. A tab inside one other than the last is stored as a blank.
   TableStatus VmxPut(Handle handle, std::string_view key, std::span<const std::string> fields);
   TableStatus VmxDelete(Handle handle, std::string_view key);

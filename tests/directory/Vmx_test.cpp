@@ -50,17 +50,19 @@ struct Read {
   Fields fields;
 };
 
-Read Get(Vmx& vmx, Vmx::Handle handle, const std::string& key) {
-  Read read{};
-  read.status = vmx.VmxGet(handle, key, VmxReadMode::Key, read.key, read.fields);
+Read ReadAs(Vmx& vmx, Vmx::Handle handle, const std::string& key, VmxReadMode mode) {
+  VmxRecord record;
+  Read read{vmx.VmxGet(handle, key, mode, record)};
+  read.key = record.key;
+  record.CopyFields(read.fields);
   return read;
 }
 
-Read Next(Vmx& vmx, Vmx::Handle handle) {
-  Read read{};
-  read.status = vmx.VmxGet(handle, "", VmxReadMode::Next, read.key, read.fields);
-  return read;
+Read Get(Vmx& vmx, Vmx::Handle handle, const std::string& key) {
+  return ReadAs(vmx, handle, key, VmxReadMode::Key);
 }
+
+Read Next(Vmx& vmx, Vmx::Handle handle) { return ReadAs(vmx, handle, "", VmxReadMode::Next); }
 
 // A few thousand random operations against a map, with the table closed and opened again now and then.
 class VmxModel : public testing::TestWithParam<unsigned> {};

@@ -1,0 +1,90 @@
+#include "yardsticks/RatioReporter.h"
+
+#include <algorithm>
+#include <cstdio>
+
+namespace sonaro {
+namespace {
+
+std::string TimeText(double seconds) {
+  char text[32];
+  if (seconds >= 1e-3) {
+    std::snprintf(text, sizeof text, "%.3g ms", seconds * 1e3);
+  } else {
+    std::snprintf(text, sizeof text, "%.3g us", seconds * 1e6);
+  }
+  return text;
+}
+
+std::string FactorText(double factor) {
+  char text[32];
+  std::snprintf(text, sizeof text, factor < 10 ? "%.2f" : "%.0f", factor);
+  return text;
+}
+
+std::string TargetText(const std::vector<Target>& targets, const std::string& operation,
+                       const std::string& yardstick, double ratio) {
+  const auto target = std::find_if(targets.begin(), targets.end(), [&](const Target& t) {
+    return t.operation == operation && t.yardstick == yardstick;
+  });
+  if (target == targets.end()) return " | |";
+  const char* const verdict = ratio >= target->aim     ? "aim reached"
+                              : ratio >= target->floor ? "floor reached"
+                                                       : "MISSED";
+  return " " + FactorText(target->floor) + " / " + FactorText(target->aim) + " | " + verdict + " |";
+}
+
+}  // namespace
+
+bool RatioReporter::ReportContext(const Context&) { return true; }
+
+void RatioReporter::ReportRuns(const std::vector<Run>& runs) {
+  for (const Run& run : runs) {
+    if (run.error_occurred) {
+      std::fprintf(stderr, "%s: %s\n", run.benchmark_name().c_str(), run.error_message.c_str());
+      continue;
+    }
+    if (run.run_type != Run::RT_Iteration) continue;
+    const std::string& name = run.run_name.function_name;
+    const std::size_t bar = name.find('|');
+    const std::string operation = name.substr(0, bar);
+    const double seconds = run.real_accumulated_time / static_cast<double>(run.iterations);
+    Operation& entry = operations_[run.family_index];
+    entry.name = operation;
+    double& best = entry.seconds.try_emplace(name.substr(bar + 1), seconds).first->second;
+    best = std::min(best, seconds);
+  }
+}
+
+// The contenders of one operation stand beside each other, where the first of them was registered.
+std::vector<RatioReporter::Operation> RatioReporter::Joined() const {
+  std::vector<Operation> joined;
+  for (const auto& [place, operation] : operations_) {
+    auto same = std::find_if(joined.begin(), joined.end(),
+                             [&](const Operation& other) { return other.name == operation.name; });
+    if (same == joined.end()) same = joined.insert(joined.end(), {operation.name, {}});
+    same->seconds.insert(operation.seconds.begin(), operation.seconds.end());
+  }
+  return joined;
+}
+
+void RatioReporter::PrintTable(const std::string& heading, const std::vector<Target>& targets) const {
+  std::printf(
+      "\n### %s\n\n| Operation | Sonaro | Yardstick | its time | times slower | floor / aim | |\n"
+      "|---|---|---|---|---|---|---|\n",
+      heading.c_str());
+  for (const Operation& operation : Joined()) {
+    const auto own = operation.seconds.find(kSonaro);
+    if (own == operation.seconds.end()) continue;
+    for (const auto& [yardstick, seconds] : operation.seconds) {
+      if (yardstick == kSonaro) continue;
+      const double ratio = seconds / own->second;
+      std::printf("| %s | %s | %s | %s | %s |%s\n", operation.name.c_str(), TimeText(own->second).c_str(),
+                  yardstick.c_str(), TimeText(seconds).c_str(), FactorText(ratio).c_str(),
+                  TargetText(targets, operation.name, yardstick, ratio).c_str());
+    }
+  }
+  std::fflush(stdout);
+}
+
+}  // namespace sonaro

@@ -1,0 +1,46 @@
+// The yardstick: the station table in SQLite, with journal and flushing switched off. Every failure ends the
+// program, since a comparison with something that failed would be worthless.
+#pragma once
+
+#include <sqlite3.h>
+
+#include <cstdint>
+#include <span>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "directory/StationRecord.h"
+#include "yardsticks/SyntheticList.h"
+
+namespace sonaro {
+
+enum class FullText { None, Trigrams };
+
+// Builds a new database at `path` from the station list.
+void BuildSqliteTable(const std::string& path, const std::string& listPath, FullText fullText);
+
+class SqliteTable {
+ public:
+  explicit SqliteTable(const std::string& path);
+  ~SqliteTable();
+  SqliteTable(const SqliteTable&) = delete;
+  SqliteTable& operator=(const SqliteTable&) = delete;
+
+  void Begin();
+  void End();
+  bool Get(std::int32_t id, StationRecord& record);
+  // Looks at all fields of all records in the order of their identifiers, without copying them; the number of
+  // records.
+  std::size_t Scan();
+  std::vector<std::int32_t> SearchByLike(const Query& query);
+  std::vector<std::int32_t> SearchByTrigrams(const Query& query);
+
+ private:
+  std::vector<std::int32_t> Ids(sqlite3_stmt* statement);
+
+  sqlite3* database_ = nullptr;
+  sqlite3_stmt* get_ = nullptr;
+};
+
+}  // namespace sonaro
