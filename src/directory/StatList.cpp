@@ -39,7 +39,7 @@ void StatList::CloseStationTable(Handle handle) {
   if (handle != 0) status_ = vmx_->VmxClose(handle);
 }
 
-// `record` is an empty one, and stays so unless true is returned.
+// Without true `record` stays as it is.
 bool StatList::Read(Handle handle, std::int32_t stationId, StationRecord& record) {
   if (handle == 0) return false;
   status_ = vmx_->VmxGet(handle, std::to_string(stationId), VmxReadMode::Key, *buffer_);
@@ -86,16 +86,35 @@ auto StatList::WithTable(Operation operation) -> decltype(operation(Handle{})) {
   return result;
 }
 
+// Calls `read`, which reads the record of an identifier, for all of them, until the table is found damaged.
+// An unknown identifier is no failure here.
+template <typename ReadOne>
+void StatList::ForEachId(std::span<const std::int32_t> ids, ReadOne read) {
+  for (const std::int32_t id : ids) {
+    read(id);
+    if (status_ == TableStatus::NotFound) status_ = TableStatus::Success;
+    if (status_ != TableStatus::Success) return;
+  }
+}
+
 std::vector<StationRecord> StatList::GetAll(Handle handle, std::span<const std::int32_t> ids) {
   std::vector<StationRecord> records;
   records.reserve(ids.size());
-  for (const std::int32_t id : ids) {
+  ForEachId(ids, [&](std::int32_t id) {
     if (!Read(handle, id, records.emplace_back())) records.pop_back();
-    if (status_ != TableStatus::Success && status_ != TableStatus::NotFound) return records;
-  }
-  if (status_ == TableStatus::NotFound)
-    status_ = TableStatus::Success;  // an unknown identifier is no failure here
+  });
   return records;
+}
+
+void StatList::VisitStations(std::span<const std::int32_t> ids,
+                             const std::function<void(const StationRecord&)>& visit) {
+  WithTable([&](Handle handle) {
+    StationRecord record;
+    ForEachId(ids, [&](std::int32_t id) {
+      if (Read(handle, id, record)) visit(record);
+    });
+    return true;
+  });
 }
 
 std::vector<StationRecord> StatList::GetStations(std::span<const std::int32_t> ids) {
@@ -132,20 +151,6 @@ std::uint32_t StatList::StationCount() {
 bool StatList::Verify() {
   status_ = vmx_->Verify(TablePath(data_, kTableName));
   return status_ == TableStatus::Success;
-}
-
-void StatList::VisitStations(std::span<const std::int32_t> ids,
-                             const std::function<void(const StationRecord&)>& visit) {
-  WithTable([&](Handle handle) {
-    StationRecord record;
-    for (const std::int32_t id : ids) {
-      status_ = vmx_->VmxGet(handle, std::to_string(id), VmxReadMode::Key, record.StationId, record.fields);
-      if (status_ == TableStatus::Success) visit(record);
-      if (status_ != TableStatus::Success && status_ != TableStatus::NotFound) return false;
-    }
-    if (status_ == TableStatus::NotFound) status_ = TableStatus::Success;
-    return true;
-  });
 }
 
 }  // namespace sonaro

@@ -71,6 +71,8 @@ class StatList {
   bool Read(Handle handle, std::int32_t stationId, StationRecord& record);
   std::vector<std::int32_t> Search(Handle handle, std::string_view text, bool allWords);
   std::vector<StationRecord> GetAll(Handle handle, std::span<const std::int32_t> ids);
+  template <typename ReadOne>
+  void ForEachId(std::span<const std::int32_t> ids, ReadOne read);
   template <typename Operation>
   auto WithTable(Operation operation) -> decltype(operation(Handle{}));
 

@@ -52,6 +52,10 @@ TEST(StatList, LooksUpManyInTheOrderAsked) {
   const std::vector<StationRecord> expected = {Named(2, "B"), Named(3, "C"), Named(2, "B")};
   EXPECT_EQ(folder.stations.GetStations(ids), expected);
   EXPECT_EQ(folder.stations.LastStatus(), TableStatus::Success);
+  std::vector<StationRecord> visited;
+  folder.stations.VisitStations(ids, [&](const StationRecord& record) { visited.push_back(record); });
+  EXPECT_EQ(visited, expected);
+  EXPECT_EQ(folder.stations.LastStatus(), TableStatus::Success);
   EXPECT_EQ(folder.stations.FindStation(99), StationRecord());
   EXPECT_EQ(folder.stations.LastStatus(), TableStatus::NotFound);
 }
