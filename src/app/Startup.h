@@ -5,6 +5,8 @@
 #include <functional>
 #include <string>
 
+#include "app/StartUpInfoPage.h"
+
 namespace sonaro {
 
 struct AppState;
@@ -22,9 +24,6 @@ class SystemInfo;
 // to come forward (both parameters 0).
 inline constexpr const char* kTrayWindowCaption = "frmSysTrayMenu";
 inline constexpr unsigned kSecondStartMessage = 1793;
-
-// The pages of frmStartUpInfo.
-enum class StartUpInfoPage { Player, Proxy, NoPlayer };
 
 // What the start needs of windows.
 class StartupView {

@@ -5,7 +5,7 @@
 #include <functional>
 #include <string>
 
-#include "app/Startup.h"
+#include "app/StartUpInfoPage.h"
 #include "forms/Form.h"
 
 namespace sonaro {
