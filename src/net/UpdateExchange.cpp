@@ -1,0 +1,232 @@
+#include "net/UpdateExchange.h"
+
+#include "app/AppState.h"
+#include "app/CReg.h"
+#include "app/SettingNames.h"
+#include "app/Strings.h"
+#include "base/DataFolder.h"
+#include "base/Text.h"
+#include "base/UrlEncoding.h"
+#include "net/ServiceAnswer.h"
+#include "net/ServiceRequest.h"
+#include "net/ServiceUrlTable.h"
+#include "net/UpdateFile.h"
+#include "net/UpdateFormat.h"
+#include "net/UpdateInstall.h"
+#include "net/WhatIsNew.h"
+#include "resources/ids.h"
+
+namespace sonaro {
+
+namespace {
+
+constexpr const char* kFirstRequest = "0";
+constexpr const char* kFileRequest = "11";
+constexpr const char* kConnectionFailed = "100";
+constexpr std::string_view kRedirectStatus = "302";
+constexpr std::string_view kToDoReason = "Update";
+
+}  // namespace
+
+UpdateExchange::UpdateExchange(const UpdateNeeds& needs, UpdateView& view, int callerCode, int installCode)
+    : needs_(needs),
+      view_(view),
+      http_(needs.http.Make()),
+      openedBy_(callerCode),
+      callerCode_(callerCode),
+      installCode_(installCode) {}
+
+void UpdateExchange::Load() {
+  mode_ = kFirstRequest;
+  if (callerCode_ == caller::kFaceplateDialog) callerCode_ = caller::kUpdateDialog;
+  view_.StartTimer(kSoon);
+}
+
+void UpdateExchange::tmrInetStuff_Timer() {
+  view_.StopTimer();
+  if (mode_ == kConnectionFailed) {
+    Complete();
+  } else if (mode_ == kFileRequest) {
+    FetchUpdate();
+  } else {
+    AskForUpdate();
+  }
+}
+
+void UpdateExchange::AskForUpdate() {
+  ++tries_;
+  failed_ = false;
+  dataStarted_ = false;
+  redirect_.clear();
+  reason_.clear();
+  file_.reset();
+  needs_.data.Remove(kUpdateFileName);
+  file_ = needs_.data.FileSystem().Create(needs_.data.Path(kUpdateFileName));
+  if (!file_) {
+    Fail(IDS_NET_NOT_SAVED);
+    Complete();
+    return;
+  }
+  const std::string query = QueryStart(needs_.reg) +
+                            "&LastUpdate=" + UrlEncodeQuery(needs_.reg.Setting(setting::kLastUpdate)) +
+                            "&Version=" + UrlEncodeQuery(kVersionText);
+  Send(BuildServiceRequest(needs_.reg, ServiceSetting(needs_.reg, setting::kUpdateUrl), query), *http_,
+       *this);
+}
+
+void UpdateExchange::FetchUpdate() {
+  failed_ = false;
+  bodyReceived_ = false;
+  const bool watched = openedBy_ == caller::kUpdateDialog || openedBy_ == caller::kFaceplateDialog;
+  Send(BuildServiceRequest(needs_.reg, redirect_, watched ? "?Flush=No" : "?Flush=Yes"), *http_, *this);
+}
+
+void UpdateExchange::Cancel() {
+  view_.StopTimer();
+  http_->Cancel();
+  Finish(UpdateOutcome::Kind::Cancelled);
+}
+
+void UpdateExchange::HTTPDataReceived(std::string_view body) {
+  if (mode_ != kFileRequest) return;
+  bodyReceived_ = true;
+  if (!file_ || !file_->Append(body)) Fail(IDS_NET_NOT_SAVED);
+  if (!EndsWithSentinel(body)) Fail(IDS_NET_CUT_SHORT);
+}
+
+void UpdateExchange::HTTPDataTransferred(std::uint64_t bytes, std::uint64_t expected) {
+  if (mode_ == kFileRequest) view_.ShowBytes(bytes, expected);
+  if (!ForDialog() || dataStarted_) return;
+  dataStarted_ = true;
+  view_.ShowProgress(needs_.strings.Load(IDS_NET_GETTING_DATA));
+}
+
+// The update file itself is not looked for behind a second redirect, so no row of redirects can keep the
+// program busy.
+void UpdateExchange::HTTPError(const std::string& statusCode, const std::string& headers) {
+  if (statusCode == kRedirectStatus && mode_ == kFirstRequest) {
+    redirect_ = RedirectTarget(headers);
+  } else {
+    failed_ = true;
+    reason_ = FillIn(needs_.strings.Load(IDS_NET_WRONG_STATUS), {statusCode});
+  }
+}
+
+void UpdateExchange::HTTPObjectError(const std::string& reason) {
+  failed_ = true;
+  reason_ = reason;
+  mode_ = kConnectionFailed;
+  view_.StartTimer(kSoon);
+}
+
+void UpdateExchange::Complete() {
+  if (!failed_ && mode_ == kFirstRequest) {
+    FollowRedirect();
+  } else if (!failed_ && bodyReceived_) {
+    Received();
+  } else {
+    Failed();
+  }
+}
+
+void UpdateExchange::FollowRedirect() {
+  if (redirect_.find(update::kNothingNew) != std::string::npos) {
+    NothingNew();
+  } else if (redirect_.empty() || !IsServiceAddress(redirect_)) {
+    Fail(redirect_.empty() ? IDS_NET_NO_ANSWER : IDS_NET_BAD_REDIRECT);
+    Failed();
+  } else {
+    mode_ = kFileRequest;
+    view_.StartTimer(kSoon);
+  }
+}
+
+void UpdateExchange::NothingNew() {
+  file_.reset();
+  if (ForDialog()) {
+    Finish(UpdateOutcome::Kind::UpToDate);
+    return;
+  }
+  callerCode_ = caller::kNoUpdate;
+  view_.ShowProgress(needs_.strings.Load(IDS_NET_CANT_CONNECT));
+  ToDoIsDone();
+  Finish(UpdateOutcome::Kind::UpToDate);
+}
+
+void UpdateExchange::Received() {
+  const bool saved = file_ && file_->Commit(Durability::Cached);
+  file_.reset();
+  if (!saved) {
+    Refused(IDS_NET_NOT_SAVED);
+    return;
+  }
+  const UpdateContents contents = ReadUpdateFile(needs_.data);
+  switch (contents.status) {
+    case UpdateFileStatus::Missing:
+    case UpdateFileStatus::NotSaved:
+      return Refused(IDS_NET_NOT_SAVED);
+    case UpdateFileStatus::NotSigned:
+      return Refused(IDS_NET_NOT_SIGNED);
+    case UpdateFileStatus::WrongSign:
+      return Refused(IDS_NET_WRONG_SIGN);
+    case UpdateFileStatus::Read:
+      break;
+  }
+  switch (needs_.install.Install(contents, installCode_)) {
+    case InstallStatus::NoStations:
+      return Refused(IDS_NET_NO_STATIONS);
+    case InstallStatus::NotSaved:
+      return Refused(IDS_NET_NOT_SAVED);
+    case InstallStatus::NotRebuilt:
+      return Refused(IDS_NET_NOT_REBUILT);
+    case InstallStatus::Done:
+      break;
+  }
+  ReportInstalled();
+}
+
+void UpdateExchange::ReportInstalled() {
+  if (ForDialog()) {
+    callerCode_ = caller::kFinished;
+    view_.ShowProgress(needs_.strings.Load(IDS_NET_FINISHED));
+  }
+  ToDoIsDone();
+  Finish(UpdateOutcome::Kind::Updated);
+}
+
+// Without somebody who could press Retry the exchange tries again by itself, but not for ever.
+void UpdateExchange::Failed() {
+  file_.reset();
+  if (!ForDialog() && tries_ < kTriesUnwatched) {
+    mode_ = kFirstRequest;
+    view_.StartTimer(kTryLater);
+    return;
+  }
+  callerCode_ = ForDialog() ? caller::kFailed : caller::kNoUpdate;
+  view_.ShowProgress(needs_.strings.Load(IDS_NET_CANT_CONNECT));
+  Finish(redirect_.empty() ? UpdateOutcome::Kind::CantConnect : UpdateOutcome::Kind::NotComplete);
+}
+
+void UpdateExchange::Refused(int reasonText) {
+  Fail(reasonText);
+  callerCode_ = ForDialog() ? caller::kFailed : caller::kNoUpdate;
+  view_.ShowProgress(reason_);
+  Finish(UpdateOutcome::Kind::Refused);
+}
+
+void UpdateExchange::Fail(int reasonText) {
+  failed_ = true;
+  if (reason_.empty()) reason_ = needs_.strings.Load(reasonText);
+}
+
+void UpdateExchange::ToDoIsDone() {
+  StationListIsDone(needs_.reg);
+  if (needs_.runToDo) needs_.runToDo(kToDoReason);
+}
+
+void UpdateExchange::Finish(UpdateOutcome::Kind kind) {
+  file_.reset();
+  view_.Finished({kind, callerCode_, reason_});
+}
+
+}  // namespace sonaro

@@ -1,0 +1,77 @@
+#include "net/WhatIsNew.h"
+
+#include <cstdint>
+#include <memory>
+#include <optional>
+
+#include "app/CReg.h"
+#include "app/SettingNames.h"
+#include "base/DataFolder.h"
+#include "base/Dates.h"
+#include "base/Numbers.h"
+#include "base/Text.h"
+
+namespace sonaro {
+
+namespace {
+
+constexpr std::string_view kDateBegin = "<--LastStationUpdateStart-->";
+constexpr std::string_view kDateEnd = "<--LastStationUpdateEnd-->";
+constexpr std::string_view kSideFileBegin = "<--SideFileBegin-->";
+constexpr std::string_view kSideFileEnd = "<--SideFileEnd-->";
+constexpr std::string_view kSideFile = "\\sstz.vbt";
+
+std::optional<std::string_view> Between(std::string_view text, std::string_view begin, std::string_view end) {
+  const std::size_t from = text.find(begin);
+  if (from == std::string_view::npos) return std::nullopt;
+  const std::string_view rest = text.substr(from + begin.size());
+  const std::size_t length = rest.find(end);
+  if (length == std::string_view::npos) return std::nullopt;
+  return rest.substr(0, length);
+}
+
+// A missing file has no bytes.
+std::int64_t SideFileSize(const DataFolder& data) {
+  const std::unique_ptr<InputFile> file = data.FileSystem().Open(data.Path(kSideFile));
+  return file ? static_cast<std::int64_t>(file->Size()) : 0;
+}
+
+// The entry is a size, an address that begins with "http", "::" and a value.
+void CheckSideFile(std::string_view entry, const DataFolder& data, WhatIsNew& found) {
+  const std::size_t address = entry.find("http");
+  if (address == std::string_view::npos) return;
+  const std::string_view size = entry.substr(0, address);
+  if (!IsNumeric(size) || NumberValue(size) == SideFileSize(data)) return;
+  found.toDo += kToDoSideFile;
+  entry.remove_prefix(address);
+  const std::size_t cut = entry.find("::");
+  found.sideFileUrl = entry.substr(0, cut);
+  if (cut != std::string_view::npos) found.sideFileValue = entry.substr(cut + 2);
+}
+
+}  // namespace
+
+WhatIsNew CheckWhatIsNew(std::string_view answer, std::string_view shortDatePattern, DataFolder& data,
+                         CReg& reg) {
+  WhatIsNew found;
+  const auto date = Between(answer, kDateBegin, kDateEnd);
+  if (date && ParseDate(*date, shortDatePattern) &&
+      !EqualIgnoringCase(*date, reg.Setting(setting::kLastUpdate))) {
+    found.toDo += kToDoStationList;
+  }
+  if (const auto entry = Between(answer, kSideFileBegin, kSideFileEnd)) CheckSideFile(*entry, data, found);
+  reg.SetSetting(setting::kDoWhat, TrimBlanks(found.toDo));
+  return found;
+}
+
+bool StationListIsDue(const CReg& reg) {
+  return reg.Setting(setting::kDoWhat).find(kToDoStationList) != std::string::npos;
+}
+
+void StationListIsDone(CReg& reg) {
+  const std::string toDo = reg.Setting(setting::kDoWhat);
+  if (toDo.find(kToDoStationList) == std::string::npos) return;
+  reg.SetSetting(setting::kDoWhat, ReplaceFirst(toDo, kToDoStationList, ""));
+}
+
+}  // namespace sonaro

@@ -1,0 +1,333 @@
+#include "net/UpdateExchange.h"
+
+#include <gtest/gtest.h>
+
+#include <optional>
+#include <random>
+
+#include "app/DeferredSwap.h"
+#include "net/NetWorld.h"
+#include "resources/ids.h"
+
+namespace sonaro {
+namespace {
+
+using Kind = UpdateOutcome::Kind;
+
+class FakeUpdateView : public UpdateView {
+ public:
+  std::optional<int> timer;
+  std::vector<int> intervals;
+  std::string progress;
+  std::optional<UpdateOutcome> outcome;
+
+  void StartTimer(int milliseconds) override {
+    timer = milliseconds;
+    intervals.push_back(milliseconds);
+  }
+  void StopTimer() override { timer.reset(); }
+  void ShowProgress(const std::string& text) override { progress += text + ";"; }
+  void ShowBytes(std::uint64_t, std::uint64_t) override {}
+  void Finished(const UpdateOutcome& ended) override {
+    ASSERT_FALSE(outcome) << "finished twice";
+    outcome = ended;
+  }
+};
+
+std::string Text(int id) { return std::to_string(id) + ";"; }
+
+FakeAnswer Redirect(const std::string& target) {
+  return FakeAnswer::Status("302", "HTTP/1.1 302 Found\r\nLocation: " + target + "\r\n\r\n");
+}
+
+constexpr const char* kFileAt = "http://files.example/u/update7.txt";
+
+class Exchange {
+ public:
+  Exchange(Machine& machine, int callerCode, int installCode)
+      : exchange_({machine.reg, machine.data, machine.strings, machine.install, machine.http,
+                   [this](std::string_view reason) { toDo += reason; }},
+                  view, callerCode, installCode),
+        http_(machine.http) {}
+
+  // Until it has finished or waits for nothing.
+  void Run() {
+    exchange_.Load();
+    for (int step = 0; step < 50 && !view.outcome; ++step) {
+      if (view.timer) {
+        exchange_.tmrInetStuff_Timer();
+      } else if (!http_.DeliverNext()) {
+        return;
+      }
+    }
+  }
+
+  FakeUpdateView view;
+  std::string toDo;
+  UpdateExchange& Get() { return exchange_; }
+
+ private:
+  UpdateExchange exchange_;
+  FakeHttp& http_;
+};
+
+class UpdateExchangeTest : public testing::Test {
+ protected:
+  UpdateExchangeTest() {
+    PrepareDirectory(files_);
+    machine_.emplace(files_);
+    machine_->reg.SetSetting(setting::kDoWhat, "/SF//SL//XX/");
+    machine_->http.Answer("?Flush=", FakeAnswer::Body(kUpdate));
+    machine_->http.Answer("/update.asp", Redirect(kFileAt));
+  }
+
+  std::string Request(std::size_t index) { return machine_->http.Requests().at(index)->requestText; }
+  std::string File(const std::string& name) { return files_.Get("/d/" + name).value_or("(none)"); }
+  std::string Setting(const char* name) { return machine_->reg.Setting(name); }
+  bool NothingChanged() {
+    return File("Station.snr") == kOldList && Setting("LastUpdate") == "8/1/2000" &&
+           Setting("UpdateVersion").empty() && Setting("HelpURL").empty() && Setting("UpdateHold").empty() &&
+           Setting("DoWhat") == "/SF//SL//XX/" && machine_->stations.FindStation(1).fields[0] == "Old One";
+  }
+
+  FakeFiles files_;
+  std::optional<Machine> machine_;
+};
+
+TEST_F(UpdateExchangeTest, UpdatesForTheDialog) {
+  Exchange exchange(*machine_, caller::kUpdateDialog, kInstallAndRebuild);
+  exchange.Run();
+  ASSERT_TRUE(exchange.view.outcome);
+  EXPECT_EQ(exchange.view.outcome->kind, Kind::Updated);
+  EXPECT_EQ(exchange.view.outcome->callerCode, 2000);
+  EXPECT_EQ(exchange.view.progress, Text(IDS_NET_GETTING_DATA) + Text(IDS_NET_FINISHED));
+  ASSERT_EQ(machine_->http.Requests().size(), 2u);
+  EXPECT_EQ(Request(0),
+            "GET /sonaroapp/sonaro4vf/asp/appupdate/update.asp?ajfsfsr=id+1&LastUpdate=8%2F1%2F2000"
+            "&Version=4.00.2");
+  EXPECT_EQ(Request(1), "GET /u/update7.txt?Flush=No");
+  EXPECT_EQ(machine_->http.Requests()[1]->host, "files.example");
+  EXPECT_EQ(File("update.txt"), kUpdate);
+  EXPECT_EQ(File("Station.snr"), kNewList);
+  EXPECT_EQ(File("fun.snr"), "a new line\r\n");
+  EXPECT_EQ(File("previous.snr"), kOldList);
+  EXPECT_EQ(File("favs.snr"), kFavorites);
+  EXPECT_EQ(Setting("LastUpdate"), "9/1/2000");
+  EXPECT_EQ(Setting("UpdateVersion"), "7");
+  EXPECT_EQ(Setting("HelpURL"), "http://help.example/new");
+  EXPECT_EQ(Setting("UpdateHold"), "");
+  EXPECT_EQ(Setting("DoWhat"), "/SF//XX/");
+  EXPECT_EQ(exchange.toDo, "Update");
+  EXPECT_EQ(machine_->stations.FindStation(3).fields[0], "Three");
+
+  EXPECT_TRUE(machine_->install.UndoLastUpdate());
+  EXPECT_EQ(File("Station.snr"), kOldList);
+  EXPECT_EQ(machine_->stations.FindStation(1).fields[0], "Old One");
+  EXPECT_EQ(Setting("LastUpdate"), "8/1/2000");
+  EXPECT_FALSE(machine_->install.UndoLastUpdate());
+}
+
+TEST_F(UpdateExchangeTest, InstallsAsTheOpenerAsks) {
+  const struct {
+    int code;
+    const char* hold;
+    const std::string& list;
+    const char* date;
+    const char* firstName;
+  } kCases[] = {
+      {kHoldFiles, "Station.snr\tfun.snr\t", kOldList, "8/1/2000", "Old One"},
+      {0, "", kNewList, "9/1/2000", "Old One"},
+  };
+  for (const auto& each : kCases) {
+    Exchange exchange(*machine_, caller::kBackground, each.code);
+    exchange.Run();
+    ASSERT_TRUE(exchange.view.outcome) << each.code;
+    EXPECT_EQ(exchange.view.outcome->kind, Kind::Updated) << each.code;
+    EXPECT_EQ(exchange.view.outcome->callerCode, caller::kBackground) << each.code;
+    EXPECT_EQ(Request(machine_->http.Requests().size() - 1), "GET /u/update7.txt?Flush=Yes");
+    EXPECT_EQ(Setting("UpdateHold"), each.hold) << each.code;
+    EXPECT_EQ(File("Station.snr"), each.list) << each.code;
+    EXPECT_EQ(Setting("LastUpdate"), each.date) << each.code;
+    EXPECT_EQ(machine_->stations.FindStation(1).fields[0], each.firstName) << each.code;
+  }
+}
+
+TEST_F(UpdateExchangeTest, TellsTheFaceplateDialogAsTheOther) {
+  Exchange exchange(*machine_, caller::kFaceplateDialog, 0);
+  exchange.Run();
+  EXPECT_EQ(exchange.view.outcome->callerCode, 2000);
+  EXPECT_EQ(Request(1), "GET /u/update7.txt?Flush=No");
+}
+
+TEST_F(UpdateExchangeTest, StopsWhenNothingIsNew) {
+  machine_->http.Answer("/update.asp", Redirect("http://files.example/x/noupdate.txt"));
+  Exchange dialog(*machine_, caller::kUpdateDialog, kInstallAndRebuild);
+  dialog.Run();
+  EXPECT_EQ(dialog.view.outcome->kind, Kind::UpToDate);
+  EXPECT_TRUE(NothingChanged());
+  Exchange background(*machine_, caller::kBackground, kInstallAndRebuild);
+  background.Run();
+  EXPECT_EQ(background.view.outcome->callerCode, 4000);
+  EXPECT_EQ(background.view.progress, Text(IDS_NET_CANT_CONNECT));
+  EXPECT_EQ(background.toDo, "Update");
+  EXPECT_EQ(Setting("DoWhat"), "/SF//XX/");
+  EXPECT_EQ(machine_->http.Requests().size(), 2u);
+}
+
+TEST_F(UpdateExchangeTest, LeavesEverythingAloneWhenItFails) {
+  const struct {
+    const char* what;
+    FakeAnswer first;
+    FakeAnswer second;
+    Kind kind;
+    std::size_t requests;
+  } kCases[] = {
+      {"no connection", FakeAnswer::ObjectError("why"), FakeAnswer::Body(kUpdate), Kind::CantConnect, 1},
+      {"a body", FakeAnswer::Body(kUpdate), FakeAnswer::Body(kUpdate), Kind::CantConnect, 1},
+      {"wrong status", FakeAnswer::Status("500"), FakeAnswer::Body(kUpdate), Kind::CantConnect, 1},
+      {"no target", FakeAnswer::Status("302", "HTTP/1.1 302\r\n\r\n"), FakeAnswer::Body(kUpdate),
+       Kind::CantConnect, 1},
+      {"a file", Redirect("file:///c/x"), FakeAnswer::Body(kUpdate), Kind::NotComplete, 1},
+      {"cut", Redirect(kFileAt), FakeAnswer::Body(kUpdate.substr(0, kUpdate.size() - 1)), Kind::NotComplete,
+       2},
+      {"too much", Redirect(kFileAt), FakeAnswer::Body(kUpdate + "\r\n"), Kind::NotComplete, 2},
+      {"empty", Redirect(kFileAt), FakeAnswer::Body(""), Kind::NotComplete, 2},
+      {"a loop", Redirect(kFileAt), Redirect(kFileAt), Kind::NotComplete, 2},
+      {"broken", Redirect(kFileAt), FakeAnswer::ObjectError("why"), Kind::NotComplete, 2},
+      {"missing", Redirect(kFileAt), FakeAnswer::Status("404"), Kind::NotComplete, 2},
+      {"empty list", Redirect(kFileAt),
+       FakeAnswer::Body(Complete(Section("Station.snr", "x\r\n") + "date::1::\r\n")), Kind::Refused, 2},
+  };
+  for (const auto& each : kCases) {
+    SCOPED_TRACE(each.what);
+    machine_->http.Answer("/update.asp", each.first);
+    machine_->http.Answer("?Flush=", each.second);
+    const std::size_t before = machine_->http.Requests().size();
+    Exchange exchange(*machine_, caller::kUpdateDialog, kInstallAndRebuild);
+    exchange.Run();
+    ASSERT_TRUE(exchange.view.outcome);
+    EXPECT_EQ(exchange.view.outcome->kind, each.kind);
+    EXPECT_EQ(exchange.view.outcome->callerCode, 3000);
+    EXPECT_NE(exchange.view.outcome->reason, "");
+    EXPECT_EQ(machine_->http.Requests().size() - before, each.requests);
+    EXPECT_EQ(exchange.toDo, "");
+    EXPECT_TRUE(NothingChanged());
+  }
+}
+
+TEST_F(UpdateExchangeTest, TriesAgainByItselfOnlyWhenNobodyWatches) {
+  machine_->http.Answer("/update.asp", FakeAnswer::ObjectError("why"));
+  Exchange exchange(*machine_, caller::kBackground, kInstallAndRebuild);
+  exchange.Run();
+  const int soon = UpdateExchange::kSoon;
+  EXPECT_EQ(exchange.view.intervals, (std::vector<int>{soon, soon, 10000, soon, 10000, soon}));
+  EXPECT_EQ(exchange.view.outcome->callerCode, 4000);
+  EXPECT_TRUE(NothingChanged());
+}
+
+TEST_F(UpdateExchangeTest, CancelsAtOnce) {
+  Exchange exchange(*machine_, caller::kUpdateDialog, kInstallAndRebuild);
+  exchange.Get().Load();
+  exchange.Get().tmrInetStuff_Timer();
+  exchange.Get().Cancel();
+  EXPECT_EQ(exchange.view.outcome->kind, Kind::Cancelled);
+  EXPECT_FALSE(machine_->http.DeliverNext());
+  EXPECT_FALSE(exchange.view.timer);
+  EXPECT_TRUE(NothingChanged());
+}
+
+// A file that is in use keeps its content; its new copy waits for the next start.
+TEST_F(UpdateExchangeTest, KeepsAFileThatIsInUse) {
+  files_.Lock("/d/fun.snr");
+  Exchange exchange(*machine_, caller::kUpdateDialog, kInstallAndRebuild);
+  exchange.Run();
+  EXPECT_EQ(exchange.view.outcome->kind, Kind::Updated);
+  EXPECT_EQ(Setting("UpdateHold"), "fun.snr\t");
+  files_.Unlock("/d/fun.snr");
+  RunDeferredSwap(machine_->data, machine_->reg, [] { FAIL() << "the list did not wait"; });
+  EXPECT_EQ(File("fun.snr"), "a new line\r\n");
+}
+
+// The start after whatever happened: what it does about the directory, and what must hold then.
+void StartAgain(FakeFiles& files, Machine& machine) {
+  RunDeferredSwap(machine.data, machine.reg, [&] { machine.stations.RebuildStationTable(); });
+  if (!machine.stations.Verify()) machine.stations.RebuildStationTable();
+  EXPECT_EQ(files.Get("/d/favs.snr"), kFavorites);
+  EXPECT_GT(machine.stations.StationCount(), 0u);
+}
+
+TEST(UpdateCrash, LeavesTheOldDirectoryOrTheNewOne) {
+  std::optional<Machine> machine;
+  int newOnes = 0;
+  const auto prepare = [&](FakeFiles& files) {
+    PrepareDirectory(files);
+    machine.emplace(files);
+    machine->http.Answer("?Flush=", FakeAnswer::Body(kUpdate));
+    machine->http.Answer("/update.asp", Redirect(kFileAt));
+  };
+  const auto scenario = [&](FakeFiles&) {
+    Exchange(*machine, caller::kUpdateDialog, kInstallAndRebuild).Run();
+  };
+  const auto check = [&](FakeFiles& files, const CrashPoint& point) {
+    SCOPED_TRACE("crash at operation " + std::to_string(point.operation));
+    StartAgain(files, *machine);
+    const std::string list = files.Get("/d/Station.snr").value_or("");
+    const std::string name = machine->stations.FindStation(1).fields[0];
+    EXPECT_TRUE(list == kOldList ? name == "Old One" : list == kNewList && name == "New One") << name << list;
+    if (machine->reg.Setting("LastUpdate") == "9/1/2000") {
+      EXPECT_EQ(list, kNewList);
+    }
+    newOnes += list == kNewList;
+    EXPECT_EQ(machine->reg.Setting("UpdateHold"), "");
+  };
+  EXPECT_GT(ForEachCrashPoint(prepare, scenario, check), 15);
+  EXPECT_GT(newOnes, 0);
+}
+
+// One to three changes anywhere: a byte, a piece cut out, a piece doubled, a line end put in.
+std::string Mutated(std::string text, std::mt19937& random) {
+  const auto below = [&](std::size_t end) {
+    return std::uniform_int_distribution<std::size_t>(0, end - 1)(random);
+  };
+  for (std::size_t changes = 1 + below(3); changes > 0; --changes) {
+    const std::size_t at = below(text.size());
+    const std::size_t length = 1 + below(60);
+    switch (below(4)) {
+      case 0:
+        text[at] = static_cast<char>(below(256));
+        break;
+      case 1:
+        text.erase(at, length);
+        break;
+      case 2:
+        text.insert(below(text.size()), text.substr(at, length));
+        break;
+      default:
+        text.insert(at, "\r\n\r\n");
+    }
+  }
+  return text;
+}
+
+TEST(UpdateMutation, NeverCostsTheUserAnything) {
+  std::mt19937 random(20000814);
+  for (int round = 0; round < 200; ++round) {
+    SCOPED_TRACE("round " + std::to_string(round));
+    FakeFiles files;
+    PrepareDirectory(files);
+    Machine machine(files);
+    std::string update = Mutated(kUpdate.substr(0, kUpdate.size() - update::kSentinel.size()), random);
+    if (round % 4 != 0) update += update::kSentinel;  // else the sentinel is missing
+    machine.http.Answer("?Flush=", FakeAnswer::Body(update));
+    machine.http.Answer("/update.asp", Redirect(kFileAt));
+    Exchange exchange(machine, caller::kUpdateDialog, kInstallAndRebuild);
+    exchange.Run();
+    ASSERT_TRUE(exchange.view.outcome);
+    StartAgain(files, machine);
+    EXPECT_NE(machine.stations.FindStation(1).StationId + machine.stations.FindStation(3).StationId, 0);
+    for (const std::string& path : files.AllPaths()) EXPECT_EQ(path.substr(0, 3), "/d/");
+  }
+}
+
+}  // namespace
+}  // namespace sonaro

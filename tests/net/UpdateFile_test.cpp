@@ -1,0 +1,198 @@
+#include "net/UpdateFile.h"
+
+#include <gtest/gtest.h>
+
+#include "base/Signing.h"
+#include "net/NetWorld.h"
+#include "net/UpdateReport.h"
+#include "net/UpdateSignature.h"
+#include "net/WhatIsNew.h"
+
+namespace sonaro {
+namespace {
+
+class UpdateFileTest : public testing::Test {
+ protected:
+  UpdateContents Read(std::string_view text) {
+    files_.Put("/d/update.txt", text);
+    return ReadUpdateFile(data_);
+  }
+  std::string Temporary(const std::string& name) { return files_.Get("/d/t" + name).value_or("(none)"); }
+
+  FakeFiles files_;
+  DataFolder data_{files_, "/d", '/'};
+};
+
+TEST_F(UpdateFileTest, ReadsTheLinesInTheirOrder) {
+  const struct {
+    const char* line;
+    const char* date;
+    const char* version;
+    std::size_t values;
+  } kCases[] = {
+      {"date::9/1/2000::", "9/1/2000", "-", 0}, {"date::9/1/2000", "-", "-", 0},
+      {" date::9/1/2000::", "-", "-", 0},       {"date::::", "", "-", 0},
+      {"x version::4.1 y", "-", "4.1", 0},      {"version::4.1", "-", "-", 0},
+      {"date::1::version::2 ", "1", "-", 0},    {"version::2 ::HelpURL::http://a/::", "-", "2", 0},
+      {"::HelpURL::http://a/::", "-", "-", 1},  {"anything", "-", "-", 0},
+  };
+  for (const auto& each : kCases) {
+    const UpdateContents contents = Read(each.line);
+    EXPECT_EQ(contents.status, UpdateFileStatus::Read);
+    EXPECT_EQ(contents.date.value_or("-"), each.date) << each.line;
+    EXPECT_EQ(contents.version.value_or("-"), each.version) << each.line;
+    EXPECT_EQ(contents.values.size(), each.values) << each.line;
+    EXPECT_EQ(contents.received, "") << each.line;
+  }
+}
+
+TEST_F(UpdateFileTest, UnpacksSections) {
+  const std::string start(update::kSectionStart);
+  const std::string end(update::kSectionEnd);
+  const struct {
+    std::string text;
+    const char* received;
+    std::string unpacked;
+  } kCases[] = {
+      {Section("a.snr", "1\n2\n"), "a.snr\t", "1\r\n2\r\n"},
+      {"FILE::a.snr\nA.SNR" + start + "\n1\nA.snr" + end, "a.snr\t", "1\r\n"},
+      {"\nfile::a.snr\n\na.snr" + start + "\n\n1\n\n2\n\na.snr" + end, "a.snr\t", "1\r\n2\r\n"},
+      {"file::a.snr\na.snr" + start + "\n1\n\n\n2\na.snr" + end, "a.snr\t", "1\r\n"},
+      {"file::a.snr\na.snr" + start + "\n1\nb.snr" + end + "\nrest", "a.snr\t",
+       "1\r\nb.snr" + end + "\r\nrest\r\n"},
+      {"file::a.snr\na.snr" + start + "\na.snr" + end, "a.snr\t", ""},
+      {"file::a.snr\na.snr" + start, "a.snr\t", ""},
+      {"file::a.snr\nb.snr" + start + "\n1\n", "", "(none)"},
+      {"file::a.snr", "", "(none)"},
+      {Section("a.snr", "1\n") + Section("a.snr", "2\n"), "a.snr\t", "2\r\n"},
+  };
+  for (const auto& each : kCases) {
+    files_.Remove("/d/ta.snr");
+    EXPECT_EQ(Read(each.text).received, each.received) << each.text;
+    EXPECT_EQ(Temporary("a.snr"), each.unpacked) << each.text;
+  }
+}
+
+TEST_F(UpdateFileTest, ReadsTheLinesOfASectionWithoutAStartAsOthers) {
+  const UpdateContents contents = Read("file::a.snr\n::HelpURL::http://a/::\nfile::b.snr\nb.snr" +
+                                       std::string(update::kSectionStart) + "\n1\ndate::x::\n");
+  ASSERT_EQ(contents.values.size(), 1u);
+  EXPECT_EQ(contents.received, "b.snr\t");
+  EXPECT_EQ(Temporary("b.snr"), "1\r\ndate::x::\r\n");
+  EXPECT_FALSE(contents.date);
+}
+
+TEST_F(UpdateFileTest, TakesNoFileThatAnUpdateMayNotBring) {
+  for (const char* name : {"favs.snr",     "Sched.snr",    "SHOWS.SNR",    "recent.snr",
+                           "personal.snr", "ownlinks.snr", "alphabet.snr", "previous.snr",
+                           "update.txt",   "publish.key",  "Sonaro.exe",   "..\\x.snr",
+                           "../x.snr",     "c:x.snr",      ".snr",         "",
+                           "x.snr ",       " x.snr",       "con.snr",      "Com1.x.snr",
+                           "nul .snr",     "x.snr.exe",    "x\xC3\xA9.snr"}) {
+    EXPECT_FALSE(update::MayBringFile(name)) << name;
+    const auto before = files_.AllPaths().size();
+    const UpdateContents contents =
+        Read("file::" + std::string(name) + "\n" + name + std::string(update::kSectionStart) +
+             "\ndate::1::\n" + name + std::string(update::kSectionEnd) + "\nversion::3 \n");
+    EXPECT_EQ(contents.received, "") << name;
+    EXPECT_EQ(contents.skippedSections, 1u) << name;
+    EXPECT_FALSE(contents.date) << name;  // the lines of a skipped section say nothing
+    EXPECT_EQ(contents.version.value_or(""), "3") << name;
+    EXPECT_LE(files_.AllPaths().size(), std::max<std::size_t>(before, 1)) << name;
+  }
+  EXPECT_FALSE(update::MayBringFile(std::string(61, 'x') + ".snr"));
+  for (const char* name :
+       {"Station.snr", "sstz.vbt", "sshape.pts", "Eventorg.isd", "a b-c_d.1.ISM", "com.snr"}) {
+    EXPECT_TRUE(update::MayBringFile(name)) << name;
+  }
+}
+
+TEST_F(UpdateFileTest, LeavesNothingWhenTheDiskIsFull) {
+  const std::string text = Section("a.snr", "1\n") + Section("b.snr", std::string(100000, 'x') + "\n");
+  files_.Put("/d/update.txt", text);
+  files_.SetSpaceLeft(1000);
+  EXPECT_EQ(ReadUpdateFile(data_).status, UpdateFileStatus::NotSaved);
+  EXPECT_EQ(files_.AllPaths(), std::vector<std::string>{"/d/update.txt"});
+}
+
+TEST_F(UpdateFileTest, TakesOnlyWhatThePublisherSigned) {
+  const auto key = SigningKeyFromSeed(std::string(64, '5'));
+  const auto other = SigningKeyFromSeed(std::string(64, '6'));
+  ASSERT_TRUE(key && other);
+  const std::string body = Section("a.snr", "1\n") + "date::1::\n";
+  const std::string line = UpdateSignatureLine(body, key->secret) + "\n";
+  const std::string sentinel(update::kSentinel);
+  const struct {
+    const char* what;
+    std::string key;
+    std::string text;
+    UpdateFileStatus status;
+  } kCases[] = {
+      {"signed", key->publicKey + "\r\n", body + line + sentinel, UpdateFileStatus::Read},
+      {"unsigned", key->publicKey, body + sentinel, UpdateFileStatus::NotSigned},
+      {"another's", key->publicKey, body + UpdateSignatureLine(body, other->secret) + "\n",
+       UpdateFileStatus::WrongSign},
+      {"changed", key->publicKey, "x" + body + line, UpdateFileStatus::WrongSign},
+      {"half a line", key->publicKey, body + line.substr(0, 90), UpdateFileStatus::WrongSign},
+      {"no digest", key->publicKey, body + "signed::", UpdateFileStatus::WrongSign},
+      {"a bad key", "12", body + line, UpdateFileStatus::WrongSign},
+      {"no key needed", "", body + sentinel, UpdateFileStatus::Read},
+  };
+  for (const auto& each : kCases) {
+    files_.Remove("/d/publish.key");
+    if (!each.key.empty()) files_.Put("/d/publish.key", each.key);
+    const UpdateContents contents = Read(each.text);
+    EXPECT_EQ(contents.status, each.status) << each.what;
+    EXPECT_EQ(contents.date.has_value(), each.status == UpdateFileStatus::Read) << each.what;
+  }
+  files_.Put("/d/publish.key", key->publicKey);
+  const UpdateContents more = Read(body + line + "date::2::\n" + sentinel);
+  EXPECT_EQ(more.date.value_or(""), "1") << "what follows the signature does not count";
+  EXPECT_EQ(UpdateSignatureLine(body, "no key"), "");
+}
+
+TEST(WhatIsNew, ComparesDateAndSideFile) {
+  const struct {
+    const char* answer;
+    const char* toDo;
+    const char* url;
+    const char* value;
+  } kCases[] = {
+      {"<--LastStationUpdateStart-->9/1/2000<--LastStationUpdateEnd-->", "/SL/", "", ""},
+      {"<--LastStationUpdateStart-->8/1/2000<--LastStationUpdateEnd-->", "", "", ""},
+      {"<--LastStationUpdateStart-->13/45/2000<--LastStationUpdateEnd-->", "", "", ""},
+      {"<--LastStationUpdateStart-->9/1/2000", "", "", ""},
+      {"<--LastStationUpdateEnd--><--LastStationUpdateStart-->9/1/2000", "", "", ""},
+      {"<--SideFileBegin-->12http://a/b::v<--SideFileEnd-->", "/SF/", "http://a/b", "v"},
+      {"<--SideFileBegin-->5http://a/b::v<--SideFileEnd-->", "", "", ""},
+      {"<--SideFileBegin-->xhttp://a/b::v<--SideFileEnd-->", "", "", ""},
+      {"<--SideFileBegin-->12<--SideFileEnd-->", "", "", ""},
+      {"<--LastStationUpdateStart-->9/1/"
+       "2000<--LastStationUpdateEnd--><--SideFileBegin-->0http::<--SideFileEnd-->",
+       "/SL//SF/", "http", ""},
+  };
+  for (const auto& each : kCases) {
+    FakeFiles files;
+    files.Put("/d/sstz.vbt", "12345");
+    Machine machine(files);
+    machine.reg.SetSetting(setting::kDoWhat, "/XX/");
+    const WhatIsNew found = CheckWhatIsNew(each.answer, "", machine.data, machine.reg);
+    EXPECT_EQ(machine.reg.Setting(setting::kDoWhat), each.toDo) << each.answer;
+    EXPECT_EQ(found.sideFileUrl, each.url) << each.answer;
+    EXPECT_EQ(found.sideFileValue, each.value) << each.answer;
+  }
+}
+
+TEST(UpdateReport, CountsAndNames) {
+  const std::int32_t yours[] = {2, 1, 2, 9, -5};
+  const UpdateReport report = CompareStationLists("-5\tFive\n" + kOldList + StationListLine(2, "Later Two"),
+                                                  kNewList + "-5\tFive\r\n", yours);
+  EXPECT_EQ(report.added, 2u);
+  EXPECT_EQ(report.changed, 1u);
+  EXPECT_EQ(report.gone, 1u);
+  EXPECT_EQ(report.yoursChanged, std::vector<std::string>{"New One"});
+  EXPECT_EQ(report.yoursGone, std::vector<std::string>{"Later Two"});
+}
+
+}  // namespace
+}  // namespace sonaro
