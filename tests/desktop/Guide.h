@@ -1,0 +1,16 @@
+// The directory as a desktop test sees it on disk: to know what the program must have done.
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "directory/StationRecord.h"
+
+namespace sonaro::desktop {
+
+// The station of the data folder, its links and web site unscrambled; empty when there is none.
+StationRecord StationIn(const std::string& folder, const std::string& identifier);
+// A line of "station.snr" for a station with this link text (scrambled here).
+std::string StationLine(int identifier, const std::string& name, const std::string& linkText);
+
+}  // namespace sonaro::desktop

@@ -1,0 +1,166 @@
+// Browsing, ranking, sorting, searching and groups in the main window.
+#include <algorithm>
+
+#include "DesktopTest.h"
+#include "forms/ControlIds.h"
+
+namespace sonaro::desktop {
+namespace {
+
+class BrowseTest : public DesktopTest {
+ public:
+  explicit BrowseTest(Directory directory = Directory::Small) : DesktopTest(directory) {}
+
+ protected:
+  HWND List(HWND main) { return Control(main, lstFavs); }
+  bool Listing(HWND main, const std::string& caption) {
+    return WaitUntil([&] { return TextOf(Control(main, lblListing)) == caption; });
+  }
+};
+
+class WholeGuideTest : public BrowseTest {
+ public:
+  WholeGuideTest() : BrowseTest(Directory::Whole) {}
+};
+
+TEST_F(WholeGuideTest, RankingsAndSortsOfTheRealDirectory) {
+  HWND main = StartAndShowMain();
+  struct Ranking {
+    int command;
+    const char* caption;
+  };
+  for (const Ranking& ranking : {Ranking{mnuActionNewStations, "New Stations"},
+                                 {mnuActionMostPoular, "Most Popular"},
+                                 {mnuActionLeastPopular, "Least Popular"},
+                                 {mnuActionBestOverall, "Best Overall"},
+                                 {mnuActionBestSound, "Best Sound"},
+                                 {mnuActionBestSpeed, "Best Speed"},
+                                 {mnuActionBestWebsite, "Best Website"},
+                                 {mnuActionMostReliable, "Most Reliable"}}) {
+    Command(main, ranking.command);
+    EXPECT_TRUE(Listing(main, ranking.caption)) << ranking.caption;
+    EXPECT_GT(RowCount(List(main)), 100) << ranking.caption;
+    EXPECT_EQ(SelectedRows(List(main)), std::vector<int>{0}) << ranking.caption;
+  }
+  Command(main, mnuSortByMediaType);
+  const auto sorted = [&] {
+    const auto types = ColumnTexts(List(main), 2);
+    return std::is_sorted(types.begin(), types.end());
+  };
+  EXPECT_TRUE(WaitUntil(sorted));
+  Click(Control(main, butSplit3));
+  EXPECT_TRUE(WaitUntil(sorted));  // a second click does not turn the order round
+  SaveShot("sorted");
+}
+
+TEST_F(WholeGuideTest, AnEntryOfTheTreeFillsTheListAndTheTreeStays) {
+  HWND main = StartAndShowMain("DoWhat=BringBrowse");
+  HWND tree = Control(main, treeBrowse);
+  ASSERT_TRUE(WaitUntil([&] { return IsShown(tree) && TreeChildren(tree).size() > 10; }));
+  EXPECT_EQ(TreeText(tree, TreeChildren(tree).back()), "Your Stations");
+  const HTREEITEM jazz = FindTreeItem(tree, {"Jazz"});
+  ASSERT_NE(jazz, nullptr);
+  ClickTreeItem(tree, jazz);
+  EXPECT_TRUE(WaitUntil([&] { return RowCount(List(main)) == 0; }));
+  const auto entries = TreeChildren(tree, jazz);
+  ASSERT_FALSE(entries.empty());
+  ClickTreeItem(tree, entries.front());
+  EXPECT_TRUE(WaitUntil([&] { return RowCount(List(main)) > 20; }));
+  EXPECT_TRUE(IsShown(tree));
+  SaveShot("jazz");
+}
+
+TEST_F(BrowseTest, ASearchIsRememberedAcrossARestart) {
+  HWND main = StartAndShowMain("DoWhat=BringSearch");
+  HWND words = Control(main, txtQuickSearch);
+  ASSERT_TRUE(WaitUntil([&] { return IsShown(words); }));
+  SetText(words, "  radio  ");
+  Click(Control(main, butSearchList));
+  EXPECT_TRUE(WaitUntil([&] { return RowCount(List(main)) > 3; }));
+  SetText(words, "zzzz-nothing-zzzz");
+  Click(Control(main, butSearchList));
+  EXPECT_TRUE(WaitUntil([&] { return RowCount(List(main)) <= 1; }));
+  SaveShot("nothing-found");
+  Click(Control(main, butGoMediaLinkOneIt));
+  EXPECT_EQ(ReadSetting("SearchList"), "\tradio\tzzzz-nothing-zzzz\t");
+  EXPECT_EQ(AsxLines(0).size(), 0u);
+  Command(main, mnuExit);
+  EXPECT_TRUE(Sonaro().WaitForEnd().has_value());
+
+  SonaroProcess& second = Start("DoWhat=BringSearch");
+  HWND again = second.WaitForShownWindow("SonaroFrm");
+  ASSERT_NE(again, nullptr);
+  EXPECT_EQ(ComboTexts(Control(again, txtQuickSearch)).size(), 2u);
+}
+
+class GroupTest : public BrowseTest {
+ protected:
+  void NewGroup(HWND main, const std::string& name) {
+    Command(main, mnuFavoritesAdd);
+    HWND dialog = Sonaro().WaitForShownWindow("frmNewFavorite");
+    ASSERT_NE(dialog, nullptr) << name;
+    SetText(Control(dialog, txtGroupName), name);
+    Click(Control(dialog, butOKIt));
+    ASSERT_TRUE(WaitUntil([&] { return !IsShown(dialog); }));
+  }
+  void AnswerBox(int button) {
+    HWND box = Sonaro().WaitForShownWindow("MsgboxFrm");
+    ASSERT_NE(box, nullptr);
+    Click(Control(box, button));
+    ASSERT_TRUE(WaitUntil([&] { return !IsShown(box); }));
+  }
+};
+
+TEST_F(GroupTest, GroupsLiveFromTheFirstToTheRefusedEleventh) {
+  HWND main = StartAndShowMain();
+  Command(main, mnuActionMostPoular);
+  ASSERT_TRUE(WaitUntil([&] { return RowCount(List(main)) > 3; }));
+  std::string file;
+  for (int group = 1; group <= 10; ++group) {
+    NewGroup(main, "Group " + std::to_string(group));
+    file += "Group " + std::to_string(group) + "\t\r\n";
+    ASSERT_TRUE(WaitUntil([&] { return ReadFile("favs.snr") == file; })) << ReadFile("favs.snr");
+  }
+  EXPECT_EQ(TextOf(Control(main, butFavs + 9)), "Group 10");
+  Command(main, mnuFavoritesAdd);
+  AnswerBox(butMsg);
+  EXPECT_EQ(ReadFile("favs.snr"), file);
+
+  const std::string name = CellText(List(main), 0);
+  Command(main, mnuActionStationToGroup + 1);
+  ASSERT_TRUE(WaitUntil([&] { return ReadFile("favs.snr") != file; }));
+  Click(Control(main, butFavs + 1));
+  EXPECT_TRUE(Listing(main, "Group 2"));
+  EXPECT_EQ(ColumnTexts(List(main)), std::vector<std::string>{name});
+  SaveShot("group");
+  Command(main, mnuFavDeleteFav);
+  AnswerBox(butMsg);
+  EXPECT_TRUE(Listing(main, "Your Recent"));
+  EXPECT_EQ(TextOf(Control(main, butFavs + 1)), "Group 3");
+}
+
+TEST_F(BrowseTest, EveryStopOfTheKeyboardHasANameAndTabReachesThem) {
+  HWND main = StartAndShowMain();
+  std::size_t stops = 0;
+  for (HWND control : Descendants(main)) {
+    const auto style = static_cast<DWORD>(GetWindowLongW(control, GWL_STYLE));
+    if (!IsShown(control) || (style & WS_TABSTOP) == 0 || GetParent(control) != main) continue;
+    ++stops;
+    if (ClassOf(control) == "Button") EXPECT_NE(TextOf(control), "") << GetDlgCtrlID(control);
+  }
+  EXPECT_GT(stops, 8u);
+  HWND first = FocusOf(main);
+  std::vector<HWND> visited;
+  for (std::size_t step = 0; step <= stops; ++step) {
+    PressKey(main, VK_TAB);
+    HWND before = visited.empty() ? first : visited.back();
+    WaitUntil([&] { return FocusOf(main) != before; }, std::chrono::milliseconds(500));
+    visited.push_back(FocusOf(main));
+    if (visited.back() == first) break;
+  }
+  EXPECT_EQ(visited.back(), first) << "Tab does not come round";
+  EXPECT_GT(visited.size(), 6u);
+}
+
+}  // namespace
+}  // namespace sonaro::desktop

@@ -1,0 +1,141 @@
+// From the list to the player: what is handed over, to whom, and what is remembered.
+#include <algorithm>
+
+#include "DesktopTest.h"
+#include "Guide.h"
+#include "forms/ControlIds.h"
+
+namespace sonaro::desktop {
+namespace {
+
+class PlayTest : public DesktopTest {
+ protected:
+  HWND List(HWND main) { return Control(main, lstFavs); }
+  // The main window with the first ranking in its list.
+  HWND MainWithStations() {
+    HWND main = StartAndShowMain();
+    Command(main, mnuActionMostPoular);
+    EXPECT_TRUE(WaitUntil([&] { return RowCount(List(main)) > 30; }));
+    return main;
+  }
+  std::string FirstRecent() {
+    std::string recent;
+    WaitUntil([&] { return !(recent = ReadFile("recent.snr")).empty(); });
+    return recent.substr(0, recent.find_first_of(" \r"));
+  }
+};
+
+std::string Lower(std::string text) {
+  std::transform(text.begin(), text.end(), text.begin(),
+                 [](char c) { return c >= 'A' && c <= 'Z' ? char(c + 32) : c; });
+  return text;
+}
+
+TEST_F(PlayTest, ALinkOfTheDirectoryGoesToTheAsxProgramAlone) {
+  HWND main = MainWithStations();
+  SelectRow(List(main), 2);
+  const std::string name = CellText(List(main), 2);
+  Click(Control(main, butGoMediaLinkOneIt));
+  const auto lines = AsxLines();
+  ASSERT_EQ(lines.size(), 1u);
+  const StationRecord station = StationIn(Folder(), FirstRecent());
+  EXPECT_EQ(station[StationField::Name], name);
+  ASSERT_TRUE(station[StationField::LinkOne].starts_with("m"));
+  EXPECT_EQ(lines[0], "\"" + Lower(AsxPlayer()) + "\" " + station[StationField::LinkOne].substr(1));
+  EXPECT_TRUE(Exists("dummy.asx"));
+}
+
+TEST_F(PlayTest, EnterOnARowPlaysItAndTwentyOfTwentyFivePlaysAreKept) {
+  HWND main = MainWithStations();
+  std::vector<std::string> names;
+  for (int row = 0; row < 25; ++row) {
+    SelectRow(List(main), row);
+    names.push_back(CellText(List(main), row));
+    Click(Control(main, butGoMediaLinkOneIt));
+    ASSERT_EQ(AsxLines(static_cast<std::size_t>(row) + 1).size(), static_cast<std::size_t>(row) + 1);
+  }
+  const std::string recent = ReadFile("recent.snr");
+  EXPECT_EQ(std::count(recent.begin(), recent.end(), ' '), 19);
+  EXPECT_EQ(StationIn(Folder(), FirstRecent())[StationField::Name], names.back());
+  Click(Control(main, butRecent));
+  EXPECT_TRUE(WaitUntil([&] { return TextOf(Control(main, lblListing)) == "Your Recent"; }));
+  EXPECT_EQ(RowCount(List(main)), 21);
+  EXPECT_EQ(CellText(List(main), 0), names.back());
+
+  PressKey(main, VK_DOWN);
+  PressKey(main, VK_RETURN);
+  EXPECT_EQ(AsxLines(26).size(), 26u);
+}
+
+class SwapTest : public PlayTest {
+ protected:
+  // A downloaded station list that waits to be put in place.
+  void HoldList(const std::string& list) {
+    WriteFile("tStation.snr", list);
+    ResetSettings({{"StartPlayer", "No"},
+                   {"StartProxy", "No"},
+                   {"StartQuickStart", "No"},
+                   {"UpdateHold", "Station.snr\t"}});
+    WriteFile("fun.snr", "Most Pop\t7 8 9\r\n");
+  }
+};
+
+TEST_F(SwapTest, AHeldListIsSwappedInTheTableRebuiltAndEveryKindOfLinkPlays) {
+  HoldList(StationLine(7, "Plain", "http://127.0.0.1:9/plain?a=1&b=%5") +
+           StationLine(8, "Page", "whttp://127.0.0.1:9/page") +
+           StationLine(9, "Bad", "mhttp://127.0.0.1:9/a\"b"));
+  HWND main = StartAndShowMain();
+  Command(main, mnuActionMostPoular);
+  ASSERT_TRUE(WaitUntil([&] { return RowCount(List(main)) == 3; }));
+  EXPECT_EQ(ColumnTexts(List(main)), (std::vector<std::string>{"Plain", "Page", "Bad"}));
+  EXPECT_EQ(ReadSetting("UpdateHold"), "");
+  EXPECT_FALSE(Exists("tStation.snr"));
+
+  SelectRow(List(main), 0);
+  Click(Control(main, butGoMediaLinkOneIt));
+  EXPECT_EQ(PlayerLines(),
+            std::vector<std::string>{"\"" + RealPlayer() + "\" http://127.0.0.1:9/plain?a=1&b=%5"});
+
+  SelectRow(List(main), 1);
+  Click(Control(main, butGoMediaLinkOneIt));
+  const auto pages = BrowserLines();
+  ASSERT_EQ(pages.size(), 1u);
+  EXPECT_TRUE(pages[0].ends_with("http://127.0.0.1:9/page")) << pages[0];
+
+  SelectRow(List(main), 2);
+  Click(Control(main, butGoMediaLinkOneIt));
+  HWND box = Sonaro().WaitForShownWindow("MsgboxFrm");
+  ASSERT_NE(box, nullptr);
+  EXPECT_NE(TextOf(Control(box, lblMsg)), "");
+  Click(Control(box, butMsg));
+  EXPECT_TRUE(WaitUntil([&] { return !IsShown(box); }));
+  EXPECT_EQ(AsxLines(0).size(), 0u);
+}
+
+TEST_F(SwapTest, ADamagedTableIsRebuiltWithoutAsking) {
+  std::string table = ReadFile("Statorg.ism");
+  if (table.empty()) table = ReadFile("statorg.ism");
+  ASSERT_FALSE(table.empty());
+  table[table.size() / 2] = static_cast<char>(table[table.size() / 2] ^ 0x5A);
+  WriteFile("statorg.ism", table);
+  HWND main = StartAndShowMain();
+  Command(main, mnuActionMostPoular);
+  EXPECT_TRUE(WaitUntil([&] { return RowCount(List(main)) > 30; }));
+}
+
+TEST_F(SwapTest, MissingFilesAreSaidAndDecliningEndsTheProgram) {
+  std::remove(PathOf("fun.snr").c_str());
+  ResetSettings(
+      {{"StartPlayer", "No"}, {"StartProxy", "No"}, {"StartQuickStart", "No"}, {"LastUpdate", "1/2/2026"}});
+  SonaroProcess& sonaro = Start();
+  HWND box = sonaro.WaitForShownWindow("MsgboxFrm", "Files Missing");
+  ASSERT_NE(box, nullptr);
+  EXPECT_EQ(TextOf(Control(box, butMsg)), "Get Files");
+  EXPECT_EQ(ReadSetting("LastUpdate"), "");
+  SaveShot("files-missing");
+  Click(Control(box, butMsg + 1));
+  EXPECT_EQ(sonaro.WaitForEnd(), 0u);
+}
+
+}  // namespace
+}  // namespace sonaro::desktop
