@@ -146,7 +146,8 @@ TEST_F(BrowseTest, EveryStopOfTheKeyboardHasANameAndTabReachesThem) {
     const auto style = static_cast<DWORD>(GetWindowLongW(control, GWL_STYLE));
     if (!IsShown(control) || (style & WS_TABSTOP) == 0 || GetParent(control) != main) continue;
     ++stops;
-    if (ClassOf(control) == "Button") EXPECT_NE(TextOf(control), "") << GetDlgCtrlID(control);
+    if (ClassOf(control) != "Button") continue;
+    EXPECT_NE(TextOf(control), "") << GetDlgCtrlID(control);
   }
   EXPECT_GT(stops, 8u);
   HWND first = FocusOf(main);
