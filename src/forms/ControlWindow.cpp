@@ -43,7 +43,7 @@ bool ChangesLook(UINT message) {
 
 void AfterChange(FormParts& parts, const FormItem& item, UINT message) {
   if (IsDrawn(item.KindOf())) {
-    InvalidateRect(item.window, nullptr, FALSE);
+    parts.RepaintItem(item);
   } else if (IsEdit(item.KindOf()) && message != WM_SETTEXT) {
     const RECT box = {item.place.left, item.place.top, item.place.right, item.place.bottom};
     InvalidateRect(parts.window, &box, FALSE);
@@ -52,9 +52,6 @@ void AfterChange(FormParts& parts, const FormItem& item, UINT message) {
     constexpr DWORD kLiveRegionChanged = 0x8019;
     NotifyWinEvent(kLiveRegionChanged, item.window, OBJID_CLIENT, CHILDID_SELF);
   }
-  if (message == WM_SETTEXT && item.KindOf() == Kind::GroupKey) parts.UpdateTabStops();
-  // In a group Tab goes on from where the arrow keys have led, and comes back to the active one.
-  if (message == WM_SETFOCUS || message == WM_KILLFOCUS) parts.UpdateTabStops(parts.GroupOf(item));
 }
 
 LRESULT HandleControlMessage(FormParts& parts, std::size_t index, UINT message, WPARAM wParam,

@@ -41,6 +41,7 @@ class OtherFormsDisabled {
 void GiveFirstFocus(FormParts& parts) {
   if (parts.focusGiven) return;
   parts.focusGiven = true;
+  parts.UpdateTabStops();
   const FormItem* item = parts.Find(parts.design.firstFocus);
   if (!item) item = parts.ShownPrimary();
   const HWND control = item ? item->Window() : GetNextDlgTabItem(parts.window, nullptr, FALSE);

@@ -88,7 +88,6 @@ void Form::Enable(int id, bool enabled) {
   // A disabled control that keeps the focus would swallow every key.
   if (!enabled && FocusedControl() == id) SendMessageW(parts_->window, WM_NEXTDLGCTL, 0, FALSE);
   EnableWindow(window, enabled);
-  parts_->UpdateTabStops();
 }
 
 bool Form::IsEnabled(int id) const {
@@ -101,7 +100,6 @@ void Form::ShowControl(int id, bool shown) {
   if (!item || item->wanted == shown) return;
   item->wanted = shown;
   parts_->ShowOrHide(*item);
-  parts_->UpdateTabStops();
 }
 
 void Form::ShowPane(int pane, bool shown) {
@@ -111,7 +109,6 @@ void Form::ShowPane(int pane, bool shown) {
   for (FormItem& item : parts_->items) {
     if (item.row->pane == pane) parts_->ShowOrHide(item);
   }
-  parts_->UpdateTabStops();
 }
 
 void Form::Focus(int id) {
@@ -138,7 +135,6 @@ void Form::Check(int id, bool checked) {
     }
   }
   SendMessageW(item->window, BM_SETCHECK, checked ? BST_CHECKED : BST_UNCHECKED, 0);
-  parts_->UpdateTabStops();
 }
 
 bool Form::IsChecked(int id) const { return Ask(*parts_, id, BM_GETCHECK) == BST_CHECKED; }
@@ -146,7 +142,6 @@ bool Form::IsChecked(int id) const { return Ask(*parts_, id, BM_GETCHECK) == BST
 void Form::SetToggle(int id, bool active) {
   if (IsToggled(id) == active) return;
   Ask(*parts_, id, BM_SETCHECK, active ? BST_CHECKED : BST_UNCHECKED);
-  parts_->UpdateTabStops();
 }
 
 bool Form::IsToggled(int id) const { return IsChecked(id); }

@@ -7,16 +7,6 @@
 namespace sonaro {
 namespace {
 
-int FontHeight(const Painter& painter, Type type) {
-  const HDC screen = GetDC(nullptr);
-  const HGDIOBJ before = SelectObject(screen, painter.Font(type));
-  TEXTMETRICW metrics{};
-  GetTextMetricsW(screen, &metrics);
-  SelectObject(screen, before);
-  ReleaseDC(nullptr, screen);
-  return static_cast<int>(metrics.tmHeight);
-}
-
 void RenewBrush(HBRUSH& brush, Color color) {
   if (brush) DeleteObject(brush);
   brush = CreateSolidBrush(ToColorRef(color));
@@ -111,7 +101,6 @@ void FormParts::PlaceControls() {
     }
     ShowOrHide(item);
   }
-  UpdateTabStops();
   backdrop.Discard();
   RedrawWindow(window, nullptr, nullptr, RDW_INVALIDATE | RDW_ALLCHILDREN);
 }
@@ -125,7 +114,7 @@ RECT FormParts::WindowBox(const FormItem& item) const {
   box.right -= px(6);
   if (item.KindOf() == Kind::Edit) {
     // The font decides: a fixed inset would cut it off at some dpi.
-    const int height = FontHeight(*painter, FontTypeOf(*item.row));
+    const int height = painter->LineHeight(FontTypeOf(*item.row));
     box.top += (box.bottom - box.top - height) / 2;
     box.bottom = box.top + height;
   } else {
@@ -153,24 +142,21 @@ void FormParts::ShowOrHide(FormItem& item) {
   }
 }
 
-void FormParts::UpdateTabStops(std::span<FormItem> group) const {
-  if (group.size() < 2) return;
-  const auto rank = [](const FormItem& item) {
-    if (GetFocus() == item.window) return 2;
+void FormParts::UpdateTabStops() {
+  const HWND focus = GetFocus();
+  const auto rank = [&](const FormItem& item) {
+    if (focus == item.window) return 2;  // Tab goes on from where the arrow keys have led
     return SendMessageW(item.window, BM_GETCHECK, 0, 0) == BST_CHECKED ? 1 : 0;
   };
-  const FormItem* stop = nullptr;
-  for (const FormItem& item : group) {
-    if (IsUsable(item) && (!stop || rank(item) > rank(*stop))) stop = &item;
-  }
-  for (const FormItem& item : group) SetTabStop(item.window, &item == stop);
-}
-
-void FormParts::UpdateTabStops() {
   for (std::size_t first = 0; first < items.size();) {
     const std::span<FormItem> group = GroupOf(items[first]);
     first += group.size();
-    UpdateTabStops(group);
+    if (group.size() < 2) continue;
+    const FormItem* stop = nullptr;
+    for (const FormItem& item : group) {
+      if (IsUsable(item) && (!stop || rank(item) > rank(*stop))) stop = &item;
+    }
+    for (const FormItem& item : group) SetTabStop(item.window, &item == stop);
   }
 }
 

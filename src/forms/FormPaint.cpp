@@ -225,7 +225,8 @@ KeyPicture FormParts::PictureOf(const FormItem& item) const {
   key.state.hover = item.hover;
   key.state.pressed = (SendMessageW(item.window, BM_GETSTATE, 0, 0) & BST_PUSHED) != 0;
   key.state.disabled = !IsWindowEnabled(item.window);
-  key.state.active = SendMessageW(item.window, BM_GETCHECK, 0, 0) == BST_CHECKED;
+  key.state.active = (IsToggle(item.KindOf()) || IsCheck(item.KindOf())) &&
+                     SendMessageW(item.window, BM_GETCHECK, 0, 0) == BST_CHECKED;
   key.state.empty = item.KindOf() == Kind::GroupKey && key.text.empty();
   if (key.kind == Kind::TabKey) key.dialOffset = DialOffset(item);
   return key;
@@ -244,6 +245,10 @@ void FormParts::PaintItem(const FormItem& item, HDC dc, const RECT& box) {
 }
 
 void FormParts::RepaintItem(const FormItem& item) {
+  if (window && !IsWindowVisible(window)) {
+    if (!item.Window()) backdrop.Discard();
+    return;  // everything is painted when the form is shown
+  }
   if (item.Window()) {
     RedrawWindow(item.Window(), nullptr, nullptr, RDW_INVALIDATE | RDW_ALLCHILDREN);
   } else if (window) {

@@ -108,8 +108,7 @@ class FormParts final : public FormServices, public std::enable_shared_from_this
   void ResizeWindow();  // to the layout's size at the dpi, outline included
   void PlaceControls();
   void ShowOrHide(FormItem& item);
-  void UpdateTabStops();  // one in each group
-  void UpdateTabStops(std::span<FormItem> group) const;
+  void UpdateTabStops();  // one in each group; before the focus moves by the keyboard
   DesignSize Size() const;
   RECT WindowBox(const FormItem& item) const;  // of the control's window, which may be smaller than its place
 

@@ -117,6 +117,9 @@ LRESULT FormParts::HandleMessage(UINT message, WPARAM wParam, LPARAM lParam) {
     case kDestroyNow:
       if (closing) Destroy();
       return 0;
+    case WM_NEXTDLGCTL:
+      UpdateTabStops();
+      break;
     case DM_GETDEFID: {
       const FormItem* primary = ShownPrimary();
       return primary ? MAKELRESULT(primary->Id(), DC_HASDEFID) : 0;
@@ -200,7 +203,6 @@ LRESULT FormParts::HandleCommand(WPARAM wParam, LPARAM lParam) {
   if (IsKey(item->KindOf()) || IsCheck(item->KindOf())) {
     // A fast second click comes as a double click; it is a click like any other.
     if (code != BN_CLICKED && code != BN_DBLCLK) return 0;
-    if (item->KindOf() == Kind::RadioButton) UpdateTabStops();
     if (context.clickSound) context.clickSound();
     Handle({.id = item->Id()});
   } else if (IsCombo(item->KindOf())) {

@@ -63,6 +63,7 @@ void NoteKeyboardUse(FormParts& parts, const MSG& message) {
     parts.ShowCues(true, true);
   } else if (key == VK_TAB || (key >= VK_LEFT && key <= VK_DOWN)) {
     parts.ShowCues(true, false);
+    if (key == VK_TAB) parts.UpdateTabStops();
   }
 }
 

@@ -87,9 +87,11 @@ void FillSpan(HDC dc, int left, int right, int y, Color color) {
 
 }  // namespace
 
-Painter::Painter(const FaceplateColors& colors, int dpi) : colors_(colors), dpi_(dpi) {}
+Painter::Painter(const FaceplateColors& colors, int dpi)
+    : colors_(colors), dpi_(dpi), measuring_(CreateCompatibleDC(nullptr)) {}
 
 Painter::~Painter() {
+  DeleteDC(measuring_);  // before the font that it holds
   for (const HFONT font : fonts_) {
     if (font) DeleteObject(font);
   }
@@ -152,24 +154,22 @@ void Painter::Text(HDC dc, const RECT& box, std::wstring_view text, Type type, C
 }
 
 SIZE Painter::Measure(std::wstring_view text, Type type, UINT format) const {
-  const HDC screen = GetDC(nullptr);
-  const HGDIOBJ before = SelectObject(screen, Font(type));
   RECT place{};
-  DrawTextW(screen, text.data(), static_cast<int>(text.size()), &place, format | DT_SINGLELINE | DT_CALCRECT);
-  SelectObject(screen, before);
-  ReleaseDC(nullptr, screen);
+  MeasureIn(place, text, type, format | DT_SINGLELINE);
   return {place.right - place.left, place.bottom - place.top};
 }
 
 int Painter::WrappedHeight(std::wstring_view text, Type type, int width) const {
-  const HDC screen = GetDC(nullptr);
-  const HGDIOBJ before = SelectObject(screen, Font(type));
   RECT place = {0, 0, width, 0};
-  DrawTextW(screen, text.data(), static_cast<int>(text.size()), &place,
-            DT_NOPREFIX | DT_WORDBREAK | DT_EDITCONTROL | DT_CALCRECT);
-  SelectObject(screen, before);
-  ReleaseDC(nullptr, screen);
+  MeasureIn(place, text, type, DT_NOPREFIX | DT_WORDBREAK | DT_EDITCONTROL);
   return place.bottom;
+}
+
+int Painter::LineHeight(Type type) const { return static_cast<int>(Measure(L"Xg", type).cy); }
+
+void Painter::MeasureIn(RECT& place, std::wstring_view text, Type type, UINT format) const {
+  SelectObject(measuring_, Font(type));
+  DrawTextW(measuring_, text.data(), static_cast<int>(text.size()), &place, format | DT_CALCRECT);
 }
 
 void Painter::DrawIcon(HDC dc, Icon icon, int x, int y, int designSize, Color color) const {

@@ -42,6 +42,7 @@ class Painter {
             UINT format = DT_NOPREFIX) const;
   SIZE Measure(std::wstring_view text, Type type, UINT format = DT_NOPREFIX) const;  // of one line
   int WrappedHeight(std::wstring_view text, Type type, int width) const;
+  int LineHeight(Type type) const;
 
   // An icon whose grid is `designSize` wide, its top-left corner at pixel (x, y). In the text colour the
   // program mark has its needle in the accent; in any other it is of that colour alone.
@@ -55,8 +56,11 @@ class Painter {
   void Groove(HDC dc, int x, int y, int width) const;
 
  private:
+  void MeasureIn(RECT& place, std::wstring_view text, Type type, UINT format) const;
+
   const FaceplateColors colors_;
   const int dpi_;
+  const HDC measuring_;
   mutable std::array<HFONT, 13> fonts_{};  // by Type, made at first use
   mutable IconPainter icons_;
 };

@@ -68,6 +68,7 @@ class Check {
   }
 
   void CheckTabOrder() {
+    parts_.UpdateTabStops();
     const HWND first = GetNextDlgTabItem(parts_.window, nullptr, FALSE);
     HWND at = first;
     std::ptrdiff_t before = -1;
