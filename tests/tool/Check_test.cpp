@@ -70,73 +70,76 @@ std::function<void(std::string&)> Appending(std::string line) {
   return [=](std::string& text) { text += line; };
 }
 
+std::function<void(std::string&)> AtStart(std::string inserted) {
+  return [=](std::string& text) { text.insert(0, inserted); };
+}
+
+std::function<void(std::string&)> AfterFirstTab(std::string inserted) {
+  return [=](std::string& text) { text.insert(text.find('\t') + 1, inserted); };
+}
+
+void FlipMiddle(std::string& text) { text[text.size() / 2] = static_cast<char>(text[text.size() / 2] ^ 4); }
+
+const Damage kDamages[] = {
+    {"station.snr", nullptr, "station.snr: is missing"},
+    {"station.snr", Replacing("\t", ""), "station.snr:1: the line has 16 columns, not 17"},
+    {"station.snr", AtStart("x"), "station.snr:1: \"x"},
+    {"station.snr", AfterFirstTab("\x01"), "station.snr:1: field 1 holds a control character"},
+    {"station.snr", AfterFirstTab("\xFF"), "station.snr:1: field 1 is not valid UTF-8"},
+    {"station.snr", [](std::string& text) { text += text.substr(0, text.find('\n') + 1); },
+     "station.snr:128: station "},
+    {"station.snr", [](std::string& text) { text.erase(0, text.find('\n') + 1); },
+     "Statorg.isd: holds 127 stations, the station list 126"},
+    {"station.snr", AfterFirstTab("x"), "Statorg.isd: station "},
+    {"station.snr", [](std::string& text) { text.replace(text.find('\r') - 1, 1, "7"); },
+     "station.snr:1: the reliability is not 0 to 4"},
+    {"statorg.isd", nullptr, "Statorg.isd: is missing"},
+    {"statorg.ism", nullptr, "Statorg.ism: is missing"},
+    {"statorg.isd", FlipMiddle, "Statorg.isd: the station table is damaged"},
+    {"statorg.ism", FlipMiddle, "Statorg.isd: the station table is damaged"},
+    {"Eventorg.isd", [](std::string& text) { text[0] = 'x'; }, "Eventorg.isd: the event table is damaged"},
+    {"Eventorg2.ism", nullptr, "Eventorg2.isd: the event table is damaged"},
+    {"cat.snr", nullptr, "cat.snr: is missing"},
+    {"cat.snr", Replacing("genre-jazz\t", "genre-jazz "), "cat.snr:"},
+    {"cat.snr", Replacing("j\tJazz", "jj\tJazz"), "cat.snr:"},
+    {"cat.snr", Replacing("Gj-", "Mj-"), "cat.snr:"},
+    {"cat.snr", Replacing("Gj-", "Ld-"), "catloc.snr:"},
+    {"cat.snr", Replacing("j\tJazz\tgenre-jazz", "j\tJazz\tgenre-none"),
+     "genre-jazz.snr: no category names this list"},
+    {"genre-jazz.snr", nullptr, "cat.snr:"},
+    {"genre-jazz.snr", Replacing("\t0\t", "\t7\t"),
+     "genre-jazz.snr:1: the parent 7 does not stand before the entry"},
+    {"genre-jazz.snr", Replacing("\t0\t", "\tx\t"), "genre-jazz.snr:1: the parent's code \"x\" is no number"},
+    {"genre-jazz.snr", Replacing("\t0\t", "\t0\t5 "),
+     "genre-jazz.snr:1: station 5 is not in the station list"},
+    {"genre-jazz.snr", Replacing("\t0\t", " 0\t"), "genre-jazz.snr:1: the line has less than four tabs"},
+    {"genre-jazz.snr", Appending("1\t0\tAgain\t0\t\r\n"), "genre-jazz.snr:"},
+    {"fun.snr", nullptr, "fun.snr: is missing"},
+    {"fun.snr", Replacing("Best Sound", "Best Smell"), "fun.snr: the ranking \"best sound\" is missing"},
+    {"fun.snr", Replacing("Best Sound\t", "Best Sound\tx "), "fun.snr:5: \"x\" is no station identifier"},
+    {"fun.snr", Appending("most pop\t\r\n"), "fun.snr:8: \"most pop\" stands there twice"},
+    {"reliable.snr", Appending("99\r\n"), "reliable.snr:2: station 99 is not in the station list"},
+    {"searchst.snr", Replacing("FindStation", "FindStatoin"), "searchst.snr: no kind searches the stations"},
+    {"searchst.snr", Replacing("<<SearchWord>>", ""), "searchst.snr:2: the search has no address"},
+    {"searchst.snr",
+     Appending(
+         "A\tB\thttp://x/<<SearchWord>>\nA\tB\thttp://x/<<SearchWord>>\nA\tB\thttp://x/<<SearchWord>>\n"),
+     "searchst.snr:7: there are more than six kinds"},
+    {"favs.snr", Appending("jazz\t\r\n"), "favs.snr:3: there is a group of this name already"},
+    {"favs.snr", Appending("Other\tP2 \r\n"), "favs.snr:3: station P2 does not exist"},
+    {"favs.snr", Appending("no tab\r\n"), "favs.snr:3: the line has no tab"},
+    {"recent.snr", Replacing("P1", "Q1"), "recent.snr:1: \"Q1\" is no station"},
+    {"Sched.snr", Replacing("\tonce", "\tsometimes"), "Sched.snr:1: \"sometimes\" is no kind of repetition"},
+    {"Sched.snr", Appending("Short\t\r\n"), "Sched.snr:2: the line has less than six tabs"},
+    {"Shows.snr", Replacing("X", "x"), "Shows.snr:1: the show has no name"},
+    {"personal.snr", Appending("1\tTwice\t\r\n"), "personal.snr:2: the index 1 stands there twice"},
+    {"Depot/sshape.pts", Replacing("=", "-="), "Depot\\sshape.pts:1: the line does not begin with a key"},
+    {"Depot/sshape.pts", Replacing("=000", "=0x0"), "Depot\\sshape.pts:1: the points are not groups"},
+    {"alphabet.snr", Appending("abc\nabc\n"), "alphabet.snr: is not two lines"},
+};
+
 TEST_F(CheckTest, FindsEveryDamage) {
-  const std::string first = *id_;
-  const auto flipMiddle = [](std::string& text) {
-    text[text.size() / 2] = static_cast<char>(text[text.size() / 2] ^ 4);
-  };
-  const Damage damages[] = {
-      {"station.snr", nullptr, "station.snr: is missing"},
-      {"station.snr", Replacing("\t", ""), "station.snr:1: the line has 16 columns, not 17"},
-      {"station.snr", Replacing(first, "x" + first), "station.snr:1: \"x"},
-      {"station.snr", Replacing(first + "\t", first + "\t\x01"),
-       "station.snr:1: field 1 holds a control character"},
-      {"station.snr", Replacing(first + "\t", first + "\t\xFF"), "station.snr:1: field 1 is not valid UTF-8"},
-      {"station.snr", [](std::string& text) { text += text.substr(0, text.find('\n') + 1); },
-       "station.snr:128: station "},
-      {"station.snr", [](std::string& text) { text.erase(0, text.find('\n') + 1); },
-       "Statorg.isd: holds 127 stations, the station list 126"},
-      {"station.snr", Replacing(first + "\t", first + "\tx"), "Statorg.isd: station "},
-      {"station.snr", [](std::string& text) { text.replace(text.find('\r') - 1, 1, "7"); },
-       "station.snr:1: the reliability is not 0 to 4"},
-      {"statorg.isd", nullptr, "Statorg.isd: is missing"},
-      {"statorg.ism", nullptr, "Statorg.ism: is missing"},
-      {"statorg.isd", flipMiddle, "Statorg.isd: the station table is damaged"},
-      {"statorg.ism", flipMiddle, "Statorg.isd: the station table is damaged"},
-      {"Eventorg.isd", [](std::string& text) { text[0] = 'x'; }, "Eventorg.isd: the event table is damaged"},
-      {"Eventorg2.ism", nullptr, "Eventorg2.isd: the event table is damaged"},
-      {"cat.snr", nullptr, "cat.snr: is missing"},
-      {"cat.snr", Replacing("genre-jazz\t", "genre-jazz "), "cat.snr:"},
-      {"cat.snr", Replacing("j\tJazz", "jj\tJazz"), "cat.snr:"},
-      {"cat.snr", Replacing("Gj-", "Mj-"), "cat.snr:"},
-      {"cat.snr", Replacing("Gj-", "Ld-"), "catloc.snr:"},
-      {"cat.snr", Replacing("j\tJazz\tgenre-jazz", "j\tJazz\tgenre-none"),
-       "genre-jazz.snr: no category names this list"},
-      {"genre-jazz.snr", nullptr, "cat.snr:"},
-      {"genre-jazz.snr", Replacing("\t0\t", "\t7\t"),
-       "genre-jazz.snr:1: the parent 7 does not stand before the entry"},
-      {"genre-jazz.snr", Replacing("\t0\t", "\tx\t"),
-       "genre-jazz.snr:1: the parent's code \"x\" is no number"},
-      {"genre-jazz.snr", Replacing("\t0\t", "\t0\t5 "),
-       "genre-jazz.snr:1: station 5 is not in the station list"},
-      {"genre-jazz.snr", Replacing("\t0\t", " 0\t"), "genre-jazz.snr:1: the line has less than four tabs"},
-      {"genre-jazz.snr", Appending("1\t0\tAgain\t0\t\r\n"), "genre-jazz.snr:"},
-      {"fun.snr", nullptr, "fun.snr: is missing"},
-      {"fun.snr", Replacing("Best Sound", "Best Smell"), "fun.snr: the ranking \"best sound\" is missing"},
-      {"fun.snr", Replacing("Best Sound\t", "Best Sound\tx "), "fun.snr:5: \"x\" is no station identifier"},
-      {"fun.snr", Appending("most pop\t\r\n"), "fun.snr:8: \"most pop\" stands there twice"},
-      {"reliable.snr", Appending("99\r\n"), "reliable.snr:2: station 99 is not in the station list"},
-      {"searchst.snr", Replacing("FindStation", "FindStatoin"),
-       "searchst.snr: no kind searches the stations"},
-      {"searchst.snr", Replacing("<<SearchWord>>", ""), "searchst.snr:2: the search has no address"},
-      {"searchst.snr",
-       Appending(
-           "A\tB\thttp://x/<<SearchWord>>\nA\tB\thttp://x/<<SearchWord>>\nA\tB\thttp://x/<<SearchWord>>\n"),
-       "searchst.snr:7: there are more than six kinds"},
-      {"favs.snr", Appending("jazz\t\r\n"), "favs.snr:3: there is a group of this name already"},
-      {"favs.snr", Appending("Other\tP2 \r\n"), "favs.snr:3: station P2 does not exist"},
-      {"favs.snr", Appending("no tab\r\n"), "favs.snr:3: the line has no tab"},
-      {"recent.snr", Replacing("P1", "Q1"), "recent.snr:1: \"Q1\" is no station"},
-      {"Sched.snr", Replacing("\tonce", "\tsometimes"),
-       "Sched.snr:1: \"sometimes\" is no kind of repetition"},
-      {"Sched.snr", Appending("Short\t\r\n"), "Sched.snr:2: the line has less than six tabs"},
-      {"Shows.snr", Replacing("X", "x"), "Shows.snr:1: the show has no name"},
-      {"personal.snr", Appending("1\tTwice\t\r\n"), "personal.snr:2: the index 1 stands there twice"},
-      {"Depot/sshape.pts", Replacing("=", "-="), "Depot\\sshape.pts:1: the line does not begin with a key"},
-      {"Depot/sshape.pts", Replacing("=000", "=0x0"), "Depot\\sshape.pts:1: the points are not groups"},
-      {"alphabet.snr", Appending("abc\nabc\n"), "alphabet.snr: is not two lines"},
-  };
-  for (const Damage& damage : damages) {
+  for (const Damage& damage : kDamages) {
     const std::string path = Folder() + "/" + damage.file;
     const bool existed = std::filesystem::exists(path);
     const std::string before = FileBytes(path);
