@@ -97,6 +97,8 @@ LRESULT CALLBACK ListProcedure(HWND list, UINT message, WPARAM wParam, LPARAM lP
   });
 }
 
+}  // namespace
+
 LRESULT HandleComboMessage(FormParts& parts, const FormItem& item, UINT message, WPARAM wParam,
                            LPARAM lParam) {
   const HWND combo = item.window;
@@ -113,7 +115,7 @@ LRESULT HandleComboMessage(FormParts& parts, const FormItem& item, UINT message,
     EndPaint(combo, &paint);
     return 0;
   }
-  const LRESULT answer = DefSubclassProc(combo, message, wParam, lParam);
+  const LRESULT answer = CallControl(item, message, wParam, lParam);
   if (!parts.window) return answer;
   switch (message) {
     case WM_SIZE:
@@ -139,24 +141,7 @@ LRESULT HandleComboMessage(FormParts& parts, const FormItem& item, UINT message,
   return answer;
 }
 
-LRESULT CALLBACK ComboProcedure(HWND combo, UINT message, WPARAM wParam, LPARAM lParam, UINT_PTR index,
-                                DWORD_PTR parts) noexcept {
-  return Guarded(0, [&]() -> LRESULT {
-    if (message == WM_NCDESTROY) {
-      RemoveWindowSubclass(combo, ComboProcedure, index);
-      return DefSubclassProc(combo, message, wParam, lParam);
-    }
-    const auto kept = reinterpret_cast<FormParts*>(parts)->shared_from_this();
-    return HandleComboMessage(*kept, kept->items[index & 0xFFFF], message, wParam, lParam);
-  });
-}
-
-}  // namespace
-
 void DressCombo(FormParts& parts, FormItem& item) {
-  const auto index = static_cast<UINT_PTR>(&item - parts.items.data());
-  constexpr UINT_PTR kComboMark = 0x10000;  // apart from the watch that every control has
-  SetWindowSubclass(item.window, ComboProcedure, index | kComboMark, reinterpret_cast<DWORD_PTR>(&parts));
   const COMBOBOXINFO info = InfoOf(item.window);
   if (info.hwndList) SetWindowSubclass(info.hwndList, ListProcedure, 1, reinterpret_cast<DWORD_PTR>(&parts));
 }

@@ -54,9 +54,7 @@ void AfterChange(FormParts& parts, const FormItem& item, UINT message) {
   }
 }
 
-LRESULT HandleControlMessage(FormParts& parts, std::size_t index, UINT message, WPARAM wParam,
-                             LPARAM lParam) {
-  FormItem& item = parts.items[index];
+LRESULT HandleControlMessage(FormParts& parts, FormItem& item, UINT message, WPARAM wParam, LPARAM lParam) {
   const HWND window = item.window;
   const Kind kind = item.KindOf();
   switch (message) {
@@ -88,28 +86,34 @@ LRESULT HandleControlMessage(FormParts& parts, std::size_t index, UINT message, 
     default:
       break;
   }
-  const LRESULT answer = DefSubclassProc(window, message, wParam, lParam);
+  const LRESULT answer = IsCombo(kind) ? HandleComboMessage(parts, item, message, wParam, lParam)
+                                       : CallControl(item, message, wParam, lParam);
   if (ChangesLook(message) && parts.window) AfterChange(parts, item, message);
   return answer;
 }
 
-LRESULT CALLBACK ControlProcedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam, UINT_PTR index,
-                                  DWORD_PTR parts) noexcept {
+LRESULT CALLBACK ControlProcedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam) noexcept {
   return Guarded(0, [&]() -> LRESULT {
-    if (message == WM_NCDESTROY) {
-      RemoveWindowSubclass(window, ControlProcedure, index);
-      return DefSubclassProc(window, message, wParam, lParam);
-    }
-    const auto kept = reinterpret_cast<FormParts*>(parts)->shared_from_this();
-    return HandleControlMessage(*kept, index, message, wParam, lParam);
+    auto& item = *reinterpret_cast<FormItem*>(GetWindowLongPtrW(window, GWLP_USERDATA));
+    if (message == WM_NCDESTROY) return CallWindowProcW(item.original, window, message, wParam, lParam);
+    const auto kept = item.parts->shared_from_this();
+    return HandleControlMessage(*kept, item, message, wParam, lParam);
   });
 }
 
 }  // namespace
 
+LRESULT CallControl(const FormItem& item, UINT message, WPARAM wParam, LPARAM lParam) {
+  return CallWindowProcW(item.original, item.window, message, wParam, lParam);
+}
+
+// Not by SetWindowSubclass: it looks up a property of the window for every message, which on some systems
+// costs more than the message.
 void WatchControl(FormParts& parts, FormItem& item) {
-  const auto index = static_cast<UINT_PTR>(&item - parts.items.data());
-  SetWindowSubclass(item.window, ControlProcedure, index, reinterpret_cast<DWORD_PTR>(&parts));
+  item.parts = &parts;
+  SetWindowLongPtrW(item.window, GWLP_USERDATA, reinterpret_cast<LONG_PTR>(&item));
+  item.original = reinterpret_cast<WNDPROC>(
+      SetWindowLongPtrW(item.window, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(&ControlProcedure)));
 }
 
 }  // namespace sonaro

@@ -21,9 +21,11 @@ namespace sonaro {
 // A row of the control table at run time.
 struct FormItem {
   const ControlRow* row = nullptr;
-  HWND window = nullptr;  // nullptr: a decoration, or a view
-  bool wanted = true;     // not hidden by kHidden or ShowControl
-  bool shown = false;     // wanted, in a shown pane, and with a place in the layout
+  FormParts* parts = nullptr;
+  HWND window = nullptr;       // nullptr: a decoration, or a view
+  WNDPROC original = nullptr;  // the procedure of its class
+  bool wanted = true;          // not hidden by kHidden or ShowControl
+  bool shown = false;          // wanted, in a shown pane, and with a place in the layout
   bool hover = false;
   bool groupStart = true;
   PixelRect place;  // of the row's rectangle; the window may be smaller (an edit in its glass)
@@ -181,8 +183,12 @@ LRESULT CALLBACK FormProcedure(HWND window, UINT message, WPARAM wParam, LPARAM 
 
 // ControlWindow.cpp: hover, repainting, painting of check boxes for every control of a form.
 void WatchControl(FormParts& parts, FormItem& item);
+LRESULT CallControl(const FormItem& item, UINT message, WPARAM wParam,
+                    LPARAM lParam);  // its class's own work
 
 // ComboFace.cpp: the drawn face of a combo and its open list.
+LRESULT HandleComboMessage(FormParts& parts, const FormItem& item, UINT message, WPARAM wParam,
+                           LPARAM lParam);
 void DressCombo(FormParts& parts, FormItem& item);
 void SizeCombo(FormParts& parts, FormItem& item);
 void PaintComboRow(const FormParts& parts, const DRAWITEMSTRUCT& draw);

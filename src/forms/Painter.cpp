@@ -101,7 +101,9 @@ HFONT Painter::Font(Type type) const {
   HFONT& font = fonts_[static_cast<std::size_t>(type)];
   if (!font) {
     const TypeSpec& spec = kTypes[static_cast<std::size_t>(type)];
-    LOGFONTW description = FaceFor(spec.strong);
+    std::optional<LOGFONTW>& face = faces_[spec.strong ? 1 : 0];
+    if (!face) face = FaceFor(spec.strong);
+    LOGFONTW description = *face;
     description.lfHeight = -Px(spec.size);
     description.lfWidth = 0;
     description.lfCharSet = DEFAULT_CHARSET;

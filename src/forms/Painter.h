@@ -6,6 +6,7 @@
 #include <windows.h>
 
 #include <array>
+#include <optional>
 #include <string_view>
 
 #include "faceplate/FaceplateColors.h"
@@ -61,7 +62,8 @@ class Painter {
   const FaceplateColors colors_;
   const int dpi_;
   const HDC measuring_;
-  mutable std::array<HFONT, 13> fonts_{};  // by Type, made at first use
+  mutable std::array<std::optional<LOGFONTW>, 2> faces_;  // normal and strong, found at first use
+  mutable std::array<HFONT, 13> fonts_{};                 // by Type, made at first use
   mutable IconPainter icons_;
 };
 
