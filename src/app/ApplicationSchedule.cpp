@@ -100,7 +100,11 @@ void ApplicationSchedule::RememberSeen() {
 }
 
 void ApplicationSchedule::AskForNotification(Form& window, int slot) {
-  if (slot >= 0) window.SetText(lblBringUp, BringUpText(static_cast<std::size_t>(slot)));
+  // By message, as any window may be asked: the label's new caption is what shows the notification.
+  if (slot >= 0) {
+    SetWindowTextA(GetDlgItem(window.Window(), lblBringUp),
+                   BringUpText(static_cast<std::size_t>(slot)).c_str());
+  }
 }
 
 void ApplicationSchedule::ShowNotification(const std::string& asked) {

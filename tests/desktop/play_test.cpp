@@ -62,7 +62,9 @@ TEST_F(PlayTest, EnterOnARowPlaysItAndTwentyOfTwentyFivePlaysAreKept) {
   EXPECT_EQ(RowCount(List(main)), 21);
   EXPECT_EQ(CellText(List(main), 0), names.back());
 
-  PressKey(main, VK_DOWN);
+  const RECT rows = BoundsOf(List(main));
+  ClickAt(rows.left + 60, rows.top + 33);  // the second row
+  ASSERT_TRUE(WaitUntil([&] { return SelectedRows(List(main)) == std::vector<int>{1}; }));
   PressKey(main, VK_RETURN);
   EXPECT_EQ(AsxLines(26).size(), 26u);
 }
@@ -100,7 +102,7 @@ TEST_F(SwapTest, AHeldListIsSwappedInTheTableRebuiltAndEveryKindOfLinkPlays) {
   Click(Control(main, butGoMediaLinkOneIt));
   const auto pages = BrowserLines();
   ASSERT_EQ(pages.size(), 1u);
-  EXPECT_TRUE(pages[0].ends_with("http://127.0.0.1:9/page")) << pages[0];
+  EXPECT_NE(pages[0].find("http://127.0.0.1:9/page"), std::string::npos) << pages[0];
 
   SelectRow(List(main), 2);
   Click(Control(main, butGoMediaLinkOneIt));
