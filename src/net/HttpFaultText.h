@@ -1,0 +1,14 @@
+// The sentence that tells the user why a transfer failed.
+#pragma once
+
+#include <string>
+
+#include "base/HttpFault.h"
+
+namespace sonaro {
+
+class Strings;
+
+std::string HttpFaultText(HttpFault fault, const Strings& strings);
+
+}  // namespace sonaro
