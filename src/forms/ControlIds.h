@@ -68,6 +68,7 @@ inline constexpr int butGoMediaLinkTwoIt = 1133;
 inline constexpr int butGoMediaLinkThreeIt = 1134;
 inline constexpr int butGoWebPageIt = 1135;
 inline constexpr int lblNoStation = 1136;
+inline constexpr int picNoStation = 1128;
 inline constexpr int picPin = 1137;
 inline constexpr int picHairAbove = 1138;
 inline constexpr int picHairBelow = 1139;

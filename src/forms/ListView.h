@@ -37,10 +37,13 @@ class ListView final : public FormControl {
   struct Column {
     std::string name;
     int width = 0;
+    bool rightAligned = false;
   };
   void SetColumns(std::vector<Column> columns);
   // Rows with a reliability symbol keep its place free before the first column's text.
   void SetModel(const ListModel* model, bool withSymbols);
+  // Lines between the columns; there unless told otherwise.
+  void SetColumnLines(bool lines) { columnLines_ = lines; }
   // What an empty list says: a heading and one line of help. Without a heading it stays blank.
   void SetEmptyText(std::string heading, std::string help);
   // Rows in design pixels high; 22 unless told otherwise. Before the first rows.
@@ -76,6 +79,7 @@ class ListView final : public FormControl {
   void PaintBelowRows(HDC dc) const;
   void PaintEmpty(HDC dc, const RECT& box) const;
   void PaintRow(HDC dc, int row) const;
+  void PaintColumnLines(HDC dc, int top, int bottom) const;
   void PaintCells(HDC dc, int row, const RECT& box, bool selected, bool focused) const;
   LRESULT CustomDraw(const NMLVCUSTOMDRAW& draw) const;
   void GiveText(NMLVDISPINFOW& info) const;
@@ -90,6 +94,7 @@ class ListView final : public FormControl {
   HIMAGELIST rowHeight_ = nullptr;  // an empty picture as high as a row
   const ListModel* model_ = nullptr;
   bool withSymbols_ = false;
+  bool columnLines_ = true;
   std::vector<Column> columns_;
   std::vector<int> edges_;  // right edges of the columns, pixels
   std::string emptyHeading_;

@@ -45,9 +45,7 @@ void ListView::PaintRow(HDC dc, int row) const {
   Color ground = row == hover_ ? colors.rowHover : GroundOf(colors, row);
   if (selected) ground = focused ? colors.rowSelected : colors.rowSelectedOff;
   look.Fill(buffer.Dc(), box, ground);
-  for (int edge : edges_) {
-    look.Fill(buffer.Dc(), {edge - look.Line(), box.top, edge, box.bottom}, colors.hair);
-  }
+  PaintColumnLines(buffer.Dc(), box.top, box.bottom);
   PaintCells(buffer.Dc(), row, box, selected, focused);
   if (!selected) return;
   look.Fill(buffer.Dc(), {box.left, box.top, box.left + look.Px(kNeedleBar), box.bottom}, colors.accent);
@@ -56,6 +54,12 @@ void ListView::PaintRow(HDC dc, int row) const {
                         edges_.empty() ? box.right : edges_.back(), box.bottom - look.Line()};
     look.Frame(buffer.Dc(), frame, colors.focus, look.Line());
   }
+}
+
+void ListView::PaintColumnLines(HDC dc, int top, int bottom) const {
+  if (!columnLines_) return;
+  const Painter& look = services_.Look();
+  for (const int edge : edges_) look.Fill(dc, {edge - look.Line(), top, edge, bottom}, look.Colors().hair);
 }
 
 void ListView::PaintCells(HDC dc, int row, const RECT& box, bool selected, bool focused) const {
@@ -71,7 +75,8 @@ void ListView::PaintCells(HDC dc, int row, const RECT& box, bool selected, bool 
     const int inset = look.Px(first && withSymbols_ ? kTextAfterSymbol : kTextInset);
     const RECT cell = {left + inset, box.top, edges_[i] - look.Px(kRightGap), box.bottom};
     look.Text(dc, cell, model_->Cell(row, static_cast<int>(i)),
-              first && selected ? Type::BodyStrong : Type::Body, ink);
+              first && selected ? Type::BodyStrong : Type::Body, ink,
+              DT_NOPREFIX | (columns_[i].rightAligned ? DT_RIGHT : 0U));
     left = edges_[i];
   }
   if (symbol >= 0) {
@@ -103,9 +108,7 @@ void ListView::PaintBelowRows(HDC dc) const {
   }
   for (; top < box.bottom; top += height, ++row) {
     look.Fill(dc, {0, top, width_, std::min<int>(top + height, box.bottom)}, GroundOf(colors, row));
-    for (int edge : edges_) {
-      look.Fill(dc, {edge - look.Line(), top, edge, std::min<int>(top + height, box.bottom)}, colors.hair);
-    }
+    PaintColumnLines(dc, top, std::min<int>(top + height, box.bottom));
   }
 }
 

@@ -85,16 +85,15 @@ void FavoriteCommands::RemoveStation(std::string_view token) {
   if (group && Changed(groups_.RemoveStation(*group, token))) listing_.GroupsChanged();
 }
 
-void FavoriteCommands::MoveStation(std::string_view token, int by) {
+void FavoriteCommands::PlaceStation(std::string_view token, std::string_view where) {
   if (listing_.State().holds != Holds::Group) return;
   const auto group = groups_.Find(listing_.State().group);
   if (!group) return;
   const auto tokens = groups_.Tokens(*group);
-  const auto at = std::find(tokens.begin(), tokens.end(), token);
-  const auto from = static_cast<std::ptrdiff_t>(at - tokens.begin());
-  if (at == tokens.end() || from + by < 0) return;
-  const auto to = static_cast<std::size_t>(from + by);
-  if (Changed(groups_.MoveStation(*group, static_cast<std::size_t>(from), to))) listing_.GroupsChanged();
+  const auto placeOf = [&tokens](std::string_view member) {
+    return static_cast<std::size_t>(std::find(tokens.begin(), tokens.end(), member) - tokens.begin());
+  };
+  if (Changed(groups_.MoveStation(*group, placeOf(token), placeOf(where)))) listing_.GroupsChanged();
 }
 
 void FavoriteCommands::Say(const char* key, const std::string& text) {

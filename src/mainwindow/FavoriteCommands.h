@@ -45,8 +45,8 @@ class FavoriteCommands {
   void AddStationToGroup(std::string_view groupName, std::string_view token);
   // Of the group that the list shows.
   void RemoveStation(std::string_view token);
-  // Moves a member of the group that the list shows by one place: -1 up, 1 down.
-  void MoveStation(std::string_view token, int by);
+  // Of the group that the list shows: puts one member in the place of another, those between moving along.
+  void PlaceStation(std::string_view token, std::string_view where);
 
  private:
   void Say(const char* key, const std::string& text);

@@ -4,8 +4,10 @@
 
 #include <utility>
 
+#include "base/DataFolder.h"
 #include "mainwindow/BrowseTree.h"
 #include "mainwindow/FavoriteGroups.h"
+#include "mainwindow/PlaylistTransfer.h"
 #include "mainwindow/Rankings.h"
 #include "mainwindow/SearchPanel.h"
 #include "mainwindow/StationActions.h"
@@ -16,7 +18,6 @@
 namespace sonaro {
 
 class CReg;
-class DataFolder;
 class ExtraLinks;
 class PersonalStations;
 class RecentList;
@@ -32,7 +33,7 @@ struct GuideData {
   const Strings& strings;
   const AppState& state;
   StatList& stations;
-  const PersonalStations& personal;
+  PersonalStations& personal;
   const ExtraLinks& extra;
   RecentList& recent;
   FavoriteGroups& favorites;
@@ -47,7 +48,8 @@ struct MainModels {
         listing(lists, rankings, data.favorites, tree, data.strings),
         search(data.folder, data.settings, listing, std::move(tellTray)),
         details(data.source, data.personal, data.extra, data.strings, data.state),
-        actions(listing, data.favorites, data.strings) {}
+        actions(listing, data.favorites, data.strings),
+        transfer(data.folder.FileSystem(), data.favorites, data.personal, data.source) {}
 
   BrowseTree tree;
   Rankings rankings;
@@ -56,6 +58,7 @@ struct MainModels {
   SearchPanel search;
   StationDetails details;
   StationActions actions;
+  PlaylistTransfer transfer;
 };
 
 }  // namespace sonaro

@@ -64,13 +64,18 @@ SonaroFrm::SonaroFrm(FormContext& context, const GuideData& data, PlayerLaunch& 
       search_(*this, models_.search),
       detail_(*this),
       yours_(*this, data_.favorites, data_.recent, models_.listing, calls_),
-      status_(*this, data_) {}
+      status_(*this, data_),
+      drag_(*this) {}
 
 void SonaroFrm::OnLoad() {
   list_.Load();
   search_.Load();
   detail_.Load();
   yours_.Load();
+  drag_.Load([this](int slot) {
+    ShowGroupBar();
+    if (slot >= 0) SetToggle(butFavs + slot, true);
+  });
   ShowPane(kProgressPane, false);
   status_.ShowGuide();
   models_.listing.ShowRanking(Ranking::MostPop);
@@ -103,6 +108,7 @@ void SonaroFrm::ShowEverything() {
     yours_.ShowEvents();
     yours_.ShowGroups();
     yours_.ShowNextNotice();
+    Enable(butRemoveGroup, GroupMeant().has_value());
   }
   if (state.middle == Middle::EventPage) {
     SetText(lblListing, LoadText(IDS_COMING_EVENTS));
@@ -143,6 +149,10 @@ void SonaroFrm::ShowGroupBar() {
 }
 
 void SonaroFrm::ShowSelection() {
+  if (models_.listing.State().middle == Middle::EventPage) {
+    const EventLine* event = yours_.SelectedEvent();
+    return ShowDetailOf(event ? StationKey::FromToken(event->token) : StationKey());
+  }
   const StationRow* row = models_.listing.Rows().SelectedRow();
   ShowDetailOf(row ? StationKey::FromRowKey(row->key) : StationKey());
 }
@@ -211,6 +221,22 @@ void SonaroFrm::butUpdate_Click() { Call(calls_.showUpdate); }
 void SonaroFrm::butScan_Click() { Call(calls_.showScan); }
 void SonaroFrm::butSchedule_Click() { Call(calls_.showSchedule); }
 void SonaroFrm::butOptions_Click() { Call(calls_.showOptions); }
+
+bool SonaroFrm::OnMessage(UINT message, WPARAM, LPARAM, LRESULT& result) {
+  const auto drop = drag_.Handle(message);
+  if (!drop) return false;
+  ShowGroupBar();
+  EndDrag(*drop);
+  result = 0;
+  return true;
+}
+
+void SonaroFrm::EndDrag(const DragPane::Drop& drop) {
+  using Thing = DragPane::Thing;
+  if (drop.what == Thing::Row && drop.onto == Thing::Group) DropRowOnGroup(drop.from, drop.to);
+  if (drop.what == Thing::Row && drop.onto == Thing::Row) MoveRow(drop.from, drop.to);
+  if (drop.what == Thing::Group && drop.onto == Thing::Group) MoveGroup(drop.from, drop.to);
+}
 
 // The main window is not a dialog: nothing closes it by mistake.
 void SonaroFrm::OnEscape() {}

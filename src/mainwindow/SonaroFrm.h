@@ -17,6 +17,7 @@
 #include "mainwindow/MainWindowCalls.h"
 #include "mainwindow/SonaroFrmBrowsePane.h"
 #include "mainwindow/SonaroFrmDetailPane.h"
+#include "mainwindow/SonaroFrmDragPane.h"
 #include "mainwindow/SonaroFrmListPane.h"
 #include "mainwindow/SonaroFrmSearchPane.h"
 #include "mainwindow/SonaroFrmStatusPane.h"
@@ -53,6 +54,7 @@ class SonaroFrm final : public Form, private FavoritePrompts {
   std::span<const EventRow> Events() const override;
   void OnLoad() override;
   void OnEscape() override;
+  bool OnMessage(UINT message, WPARAM wParam, LPARAM lParam, LRESULT& result) override;
 
   // SonaroFrm.cpp: views and what is shown of them.
   void ShowView(View view);
@@ -80,6 +82,8 @@ class SonaroFrm final : public Form, private FavoritePrompts {
   void butScan_Click();
   void butSchedule_Click();
   void butOptions_Click();
+
+  void EndDrag(const DragPane::Drop& drop);
 
   // SonaroFrmStation.cpp: the list, the tree, the selected station.
   void lstFavs_ItemSelected(int row);
@@ -128,12 +132,24 @@ class SonaroFrm final : public Form, private FavoritePrompts {
   void lstEvents_ItemSelected(int row);
   void butNotifyMe_Click();
   void MoveStation(int by);
+  void MoveRow(int from, int to);
+  void MoveGroup(int from, int to);
+  void DropRowOnGroup(int row, int slot);
   std::optional<std::size_t> GroupMeant() const;
   std::string SelectedToken() const;
   MessageResult Ask(const Message& message) override;
   std::string AskNewGroupName() override;
   std::string AskGroupName(const std::string& present) override;
   void TellTray(const std::string& text) override;
+
+  // SonaroFrmTransfer.cpp
+  void mnuFavExport_Click();
+  void mnuFavImport_Click();
+  void mnuPersonalExport_Click();
+  void mnuPersonalImport_Click();
+  void SayImported(const ImportResult& result);
+  void SayNotExported();
+  void Say(const char* key, const std::string& text);
 
   std::size_t PersonalCount() const;
 
@@ -150,6 +166,7 @@ class SonaroFrm final : public Form, private FavoritePrompts {
   DetailPane detail_;
   YoursPane yours_;
   StatusPane status_;
+  DragPane drag_;
   StationDetail shown_;                   // what the right column shows
   std::optional<std::size_t> menuGroup_;  // while the menu of a group key is open
 };

@@ -22,9 +22,15 @@ void PaintPin(HDC dc, const RECT& box, const Painter& painter) {
                    painter.Colors().signal);
 }
 
+void PaintNoStation(HDC dc, const RECT& box, const Painter& painter) {
+  painter.DrawIcon(dc, Icon::ProgramMark, static_cast<int>(box.left), static_cast<int>(box.top), 44,
+                   painter.Colors().tickOff);
+}
+
 }  // namespace
 
 void DetailPane::Load() {
+  form_.SetPicture(picNoStation, PaintNoStation);
   form_.SetPicture(picHairAbove, PaintHair);
   form_.SetPicture(picHairBelow, PaintHair);
   form_.SetPicture(picPin, PaintPin);

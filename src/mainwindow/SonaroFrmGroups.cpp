@@ -1,4 +1,6 @@
 // The handlers of the favourite groups and of the page of the user's own things.
+#include <algorithm>
+
 #include "forms/ControlIds.h"
 #include "mainwindow/SonaroFrm.h"
 
@@ -46,6 +48,25 @@ std::optional<std::size_t> SonaroFrm::GroupMeant() const {
 
 void SonaroFrm::butNewGroup_Click() {
   if (favorites_.AddFavoriteGroup()) models_.listing.ShowGroupInPlace(data_.favorites.Count() - 1);
+  ShowEverything();
+}
+
+// A station was dropped on a group key; on a free one it founds a group.
+void SonaroFrm::DropRowOnGroup(int row, int slot) {
+  if (row < 0 || row >= static_cast<int>(models_.listing.Rows().Count())) return;
+  const std::string token = models_.listing.Rows().At(static_cast<std::size_t>(row)).Token();
+  auto group = static_cast<std::size_t>(slot);
+  if (group >= data_.favorites.Count()) {
+    if (!favorites_.AddFavoriteGroup()) return;
+    group = data_.favorites.Count() - 1;
+  }
+  favorites_.AddStationToGroup(data_.favorites.Name(group), token);
+  ShowEverything();
+}
+
+void SonaroFrm::MoveGroup(int from, int to) {
+  const int last = static_cast<int>(data_.favorites.Count()) - 1;
+  favorites_.MoveFavoriteGroup(static_cast<std::size_t>(from), static_cast<std::size_t>(std::min(to, last)));
   ShowEverything();
 }
 
@@ -115,15 +136,24 @@ void SonaroFrm::mnuActionMoveUp_Click() { MoveStation(-1); }
 void SonaroFrm::mnuActionMoveDown_Click() { MoveStation(1); }
 
 void SonaroFrm::MoveStation(int by) {
-  if (models_.listing.Rows().Sort().on) return;
-  favorites_.MoveStation(SelectedToken(), by);
+  const auto row = models_.listing.Rows().Selected();
+  if (row) MoveRow(static_cast<int>(*row), static_cast<int>(*row) + by);
+}
+
+// Rows of a group change places only where the list shows them in the group's own order.
+void SonaroFrm::MoveRow(int from, int to) {
+  const StationRows& rows = models_.listing.Rows();
+  const auto count = static_cast<int>(rows.Count());
+  if (rows.Sort().on || from < 0 || to < 0 || from >= count || to >= count) return;
+  favorites_.PlaceStation(rows.At(static_cast<std::size_t>(from)).Token(),
+                          rows.At(static_cast<std::size_t>(to)).Token());
   ShowEverything();
 }
 
 void SonaroFrm::lstEvents_ItemSelected(int row) {
   const EventLine* event = yours_.EventAt(row);
   Enable(butNotifyMe, event && !event->noticed);
-  ShowDetailOf(event ? StationKey::FromToken(event->token) : StationKey());
+  ShowSelection();
 }
 
 void SonaroFrm::butNotifyMe_Click() {

@@ -10,6 +10,14 @@
 #include "resources/ids.h"
 
 namespace sonaro {
+namespace {
+
+// The rows of the left column's list.
+constexpr int kEventsRow = 0;
+constexpr int kRecentRow = 1;
+constexpr int kFirstGroupRow = 2;
+
+}  // namespace
 
 YoursPane::YoursPane(Form& form, const FavoriteGroups& groups, const RecentList& recent,
                      const StationListing& listing, const MainWindowCalls& calls)
@@ -19,7 +27,8 @@ void YoursPane::Load() {
   ListView& groups = form_.List(lstGroups);
   groups.SetRowHeight(26);
   groups.SetColumns(
-      {{"#", 26}, {form_.LoadText(IDS_COLUMN_GROUP), 130}, {form_.LoadText(IDS_COLUMN_STATIONS), 0}});
+      {{"#", 24}, {form_.LoadText(IDS_COLUMN_GROUP), 130}, {form_.LoadText(IDS_COLUMN_STATIONS), 0, true}});
+  groups.SetColumnLines(false);
   groups.SetModel(&groupRows_, false);
   ListView& events = form_.List(lstEvents);
   events.SetColumns({{form_.LoadText(IDS_COLUMN_WHEN), 150},
@@ -41,9 +50,11 @@ void YoursPane::ShowEvents() {
   const int selected = std::min(list.Selected(), eventRows_.RowCount() - 1);
   list.RowsChanged();
   list.Select(selected < 0 && !events_.empty() ? 0 : selected);
-  const EventLine* event = EventAt(list.Selected());
+  const EventLine* event = SelectedEvent();
   form_.Enable(butNotifyMe, event && !event->noticed);
 }
+
+const EventLine* YoursPane::SelectedEvent() const { return EventAt(form_.List(lstEvents).Selected()); }
 
 void YoursPane::ShowNextNotice() {
   const NextNotice next = calls_.nextNotice ? calls_.nextNotice() : NextNotice();
@@ -59,25 +70,25 @@ int YoursPane::GroupCount() const {
 
 int YoursPane::SelectedGroupRow() const {
   const ListingState& state = listing_.State();
-  if (state.middle == Middle::EventPage) return GroupCount() + 1;
-  if (state.holds == Holds::Recent) return GroupCount();
+  if (state.middle == Middle::EventPage) return kEventsRow;
+  if (state.holds == Holds::Recent) return kRecentRow;
   const auto group = groups_.Find(state.group);
-  return state.holds == Holds::Group && group ? static_cast<int>(*group) : -1;
+  return state.holds == Holds::Group && group ? static_cast<int>(*group) + kFirstGroupRow : -1;
 }
 
 std::optional<std::size_t> YoursPane::GroupAt(int row) const {
-  if (row < 0 || row >= GroupCount()) return std::nullopt;
-  return static_cast<std::size_t>(row);
+  if (row < kFirstGroupRow || row >= kFirstGroupRow + GroupCount()) return std::nullopt;
+  return static_cast<std::size_t>(row - kFirstGroupRow);
 }
 
-bool YoursPane::IsRecent(int row) const { return row == GroupCount(); }
+bool YoursPane::IsRecent(int row) const { return row == kRecentRow; }
 
 const EventLine* YoursPane::EventAt(int row) const {
   return row >= 0 && static_cast<std::size_t>(row) < events_.size() ? &events_[static_cast<std::size_t>(row)]
                                                                     : nullptr;
 }
 
-int YoursPane::GroupRows::RowCount() const { return pane_.GroupCount() + 2; }
+int YoursPane::GroupRows::RowCount() const { return kFirstGroupRow + pane_.GroupCount(); }
 
 std::string YoursPane::GroupRows::Cell(int row, int column) const {
   const auto group = pane_.GroupAt(row);

@@ -26,10 +26,11 @@ class YoursPane {
   void ShowEvents();
   void ShowNextNotice();
 
-  // What a row of the groups stands for: a group, then the recent list, then the coming events.
+  // What a row of the left column stands for: the coming events, the recent list, then the groups.
   std::optional<std::size_t> GroupAt(int row) const;
   bool IsRecent(int row) const;
   const EventLine* EventAt(int row) const;
+  const EventLine* SelectedEvent() const;
 
  private:
   class GroupRows final : public ListModel {

@@ -1,0 +1,127 @@
+#include "mainwindow/SonaroFrmDragPane.h"
+
+#include <commctrl.h>
+#include <windowsx.h>
+
+#include <cstdlib>
+#include <utility>
+
+#include "forms/ControlIds.h"
+#include "forms/Form.h"
+#include "forms/Guard.h"
+#include "forms/ListView.h"
+#include "mainwindow/FavoriteGroups.h"
+
+namespace sonaro {
+namespace {
+
+constexpr int kSlots = static_cast<int>(FavoriteGroups::kSlots);
+
+HCURSOR SystemCursor(int id) { return LoadCursorW(nullptr, MAKEINTRESOURCEW(id)); }
+constexpr int kHandCursor = 32649;
+constexpr int kNoCursor = 32648;
+
+}  // namespace
+
+void DragPane::Load(std::function<void(int slot)> over) {
+  over_ = std::move(over);
+  for (int slot = 0; slot < kSlots; ++slot) {
+    SetWindowSubclass(form_.Control(butFavs + slot), GroupKeyProcedure, static_cast<UINT_PTR>(slot),
+                      reinterpret_cast<DWORD_PTR>(this));
+  }
+  form_.List(lstFavs).onBeginDrag = [this](int row) { BeginRow(row); };
+}
+
+LRESULT CALLBACK DragPane::GroupKeyProcedure(HWND key, UINT message, WPARAM wParam, LPARAM lParam,
+                                             UINT_PTR slot, DWORD_PTR self) noexcept {
+  return Guarded(0, [&]() -> LRESULT {
+    if (message == WM_NCDESTROY) RemoveWindowSubclass(key, GroupKeyProcedure, slot);
+    reinterpret_cast<DragPane*>(self)->WatchKey(key, message, wParam, lParam, static_cast<int>(slot));
+    return DefSubclassProc(key, message, wParam, lParam);
+  });
+}
+
+void DragPane::WatchKey(HWND key, UINT message, WPARAM wParam, LPARAM lParam, int slot) {
+  const POINT at = {GET_X_LPARAM(lParam), GET_Y_LPARAM(lParam)};
+  if (message == WM_LBUTTONDOWN) {
+    pressedAt_ = at;
+    pressedSlot_ = GetWindowTextLengthW(key) > 0 ? slot : -1;
+  } else if (message == WM_LBUTTONUP) {
+    pressedSlot_ = -1;
+  } else if (message == WM_MOUSEMOVE && (wParam & MK_LBUTTON) != 0 && pressedSlot_ == slot) {
+    const bool moved = std::abs(at.x - pressedAt_.x) > GetSystemMetrics(SM_CXDRAG) ||
+                       std::abs(at.y - pressedAt_.y) > GetSystemMetrics(SM_CYDRAG);
+    if (moved) Begin(Thing::Group, slot);  // takes the mouse from the key, which then is not pressed any more
+  }
+}
+
+void DragPane::Begin(Thing what, int from) {
+  pressedSlot_ = -1;
+  SetCapture(form_.Window());
+  what_ = what;
+  from_ = from;
+  Follow();
+}
+
+std::optional<DragPane::Drop> DragPane::Handle(UINT message) {
+  if (what_ == Thing::Nothing) return std::nullopt;
+  switch (message) {
+    case WM_MOUSEMOVE:
+      Follow();
+      return std::nullopt;
+    case WM_LBUTTONUP: {
+      POINT at{};
+      GetCursorPos(&at);
+      const Drop drop = DropAt(at);
+      End();
+      return drop;
+    }
+    case WM_CAPTURECHANGED:
+    case WM_CANCELMODE:
+    case WM_RBUTTONDOWN:
+      End();
+      return Drop{};
+    default:
+      return std::nullopt;
+  }
+}
+
+void DragPane::End() {
+  what_ = Thing::Nothing;
+  overSlot_ = -1;
+  if (GetCapture() == form_.Window()) ReleaseCapture();
+}
+
+int DragPane::SlotAt(POINT screen) const {
+  for (int slot = 0; slot < kSlots; ++slot) {
+    RECT box{};
+    GetWindowRect(form_.Control(butFavs + slot), &box);
+    if (PtInRect(&box, screen)) return slot;
+  }
+  return -1;
+}
+
+DragPane::Drop DragPane::DropAt(POINT screen) const {
+  Drop drop{what_, from_, Thing::Nothing, 0};
+  if (const int slot = SlotAt(screen); slot >= 0) {
+    drop.onto = Thing::Group;
+    drop.to = slot;
+  } else if (what_ == Thing::Row && WindowFromPoint(screen) == form_.Control(lstFavs)) {
+    drop.to = form_.List(lstFavs).RowAt(screen);
+    drop.onto = drop.to >= 0 ? Thing::Row : Thing::Nothing;
+  }
+  return drop;
+}
+
+void DragPane::Follow() {
+  POINT at{};
+  GetCursorPos(&at);
+  const Drop drop = DropAt(at);
+  SetCursor(SystemCursor(drop.onto == Thing::Nothing ? kNoCursor : kHandCursor));
+  const int slot = drop.onto == Thing::Group ? drop.to : -1;
+  if (slot == overSlot_) return;
+  overSlot_ = slot;
+  if (over_) over_(slot);
+}
+
+}  // namespace sonaro

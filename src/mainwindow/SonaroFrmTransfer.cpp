@@ -1,0 +1,76 @@
+// The handlers that take groups and the user's own stations out to playlists and back in.
+#include "app/Strings.h"
+#include "forms/ControlIds.h"
+#include "mainwindow/SonaroFrm.h"
+#include "resources/ids.h"
+
+namespace sonaro {
+namespace {
+
+constexpr const char* kImportKey = "PlaylistImported";
+constexpr const char* kExportKey = "PlaylistNotSaved";
+
+int SentenceOf(ImportResult::Status status) {
+  switch (status) {
+    case ImportResult::Status::NotRead:
+      return IDS_IMPORT_NOT_READ;
+    case ImportResult::Status::NotAPlaylist:
+      return IDS_IMPORT_NO_PLAYLIST;
+    case ImportResult::Status::NotSaved:
+      return IDS_IMPORT_NOT_SAVED;
+    case ImportResult::Status::Ok:
+      break;
+  }
+  return IDS_IMPORT_DONE;
+}
+
+}  // namespace
+
+void SonaroFrm::mnuFavExport_Click() {
+  const auto group = GroupMeant();
+  if (!group || !calls_.askPlaylistToSave) return;
+  const std::string path = calls_.askPlaylistToSave(std::string(data_.favorites.Name(*group)));
+  if (!path.empty() && !models_.transfer.ExportGroup(*group, path)) SayNotExported();
+}
+
+void SonaroFrm::mnuPersonalExport_Click() {
+  if (!calls_.askPlaylistToSave) return;
+  const std::string path = calls_.askPlaylistToSave(LoadText(IDS_EXPORT_PERSONAL_NAME));
+  if (!path.empty() && !models_.transfer.ExportPersonalStations(path)) SayNotExported();
+}
+
+void SonaroFrm::mnuFavImport_Click() {
+  const auto group = GroupMeant();
+  if (!group || !calls_.askPlaylistToOpen) return;
+  const std::string path = calls_.askPlaylistToOpen();
+  if (!path.empty()) SayImported(models_.transfer.ImportIntoGroup(*group, path));
+}
+
+void SonaroFrm::mnuPersonalImport_Click() {
+  if (!calls_.askPlaylistToOpen) return;
+  const std::string path = calls_.askPlaylistToOpen();
+  if (!path.empty()) SayImported(models_.transfer.ImportPersonalStations(path));
+}
+
+void SonaroFrm::SayImported(const ImportResult& result) {
+  std::string text =
+      FillIn(LoadText(SentenceOf(result.status)),
+             {std::to_string(result.added), std::to_string(result.known), std::to_string(result.skipped)});
+  if (result.status == ImportResult::Status::Ok && result.damaged) text += " " + LoadText(IDS_IMPORT_DAMAGED);
+  Say(kImportKey, text);
+  models_.listing.GroupsChanged();
+  PersonalStationsChanged();
+}
+
+void SonaroFrm::SayNotExported() { Say(kExportKey, LoadText(IDS_EXPORT_NOT_SAVED)); }
+
+void SonaroFrm::Say(const char* key, const std::string& text) {
+  Message message;
+  message.key = key;
+  message.caption = LoadText(IDS_TRANSFER_CAPTION);
+  message.text = text;
+  message.firstButton = LoadText(IDS_GROUP_OK);
+  Ask(message);
+}
+
+}  // namespace sonaro
