@@ -1,0 +1,49 @@
+// A form with the views of the main window at their places: tab dial, tree, list with its header keys,
+// ratings, progress, vent slots.
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "forms/Form.h"
+#include "forms/ListView.h"
+
+namespace sonaro {
+
+// Stations made up from a row's number; as many as asked for.
+class MadeUpStations final : public ListModel {
+ public:
+  explicit MadeUpStations(int count) : count_(count) {}
+  void SetCount(int count) { count_ = count; }
+  int RowCount() const override { return count_; }
+  std::string Cell(int row, int column) const override;
+  int Symbol(int row) const override { return (row * 7 + 4) % 5; }
+  bool IsGreyed(int row) const override { return row == 3; }
+
+ private:
+  int count_;
+};
+
+class ViewsForm final : public Form {
+ public:
+  enum Number { kTabs = 5201, kTree = 5210, kList = 5211, kHeader = 5220, kRating = 5230, kProgress = 5240 };
+
+  ViewsForm(FormContext& context, MadeUpStations& stations);
+  void FillTree();
+
+  std::vector<std::string> log;  // one entry for each event: "ItemActivated 3", "NodeClick 12"
+
+ private:
+  std::span<const EventRow> Events() const override;
+  void OnLoad() override;
+  void Tabs_Click(int index);
+  void List_ItemActivate(int row) { Note("ItemActivated", row); }
+  void List_ItemSelect(int row) { Note("ItemSelected", row); }
+  void List_ContextMenu(int row, POINT) { Note("ContextMenu", row); }
+  void Tree_NodeClick(HTREEITEM node);
+  void Note(const std::string& what, int number) { log.push_back(what + " " + std::to_string(number)); }
+
+  MadeUpStations& stations_;
+};
+
+}  // namespace sonaro
