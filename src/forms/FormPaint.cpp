@@ -199,7 +199,9 @@ void FormParts::PaintWindow(HDC dc, const RECT& dirty) {
   BitBlt(buffer.Dc(), dirty.left, dirty.top, dirty.right - dirty.left, dirty.bottom - dirty.top,
          backdrop.Get(*this), dirty.left, dirty.top, SRCCOPY);
   for (const FormItem& item : items) {
-    if (item.shown && IsEdit(item.KindOf())) PaintEditGlass(buffer.Dc(), item, *painter);
+    if (!item.shown) continue;
+    if (IsEdit(item.KindOf())) PaintEditGlass(buffer.Dc(), item, *painter);
+    if (IsFramedView(item.KindOf())) painter->Glass(buffer.Dc(), ToRect(item.place));
   }
 }
 

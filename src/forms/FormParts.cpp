@@ -23,6 +23,8 @@ bool IsCheck(Kind kind) { return kind == Kind::CheckBox || kind == Kind::RadioBu
 bool IsEdit(Kind kind) { return kind == Kind::Edit || kind == Kind::MultiEdit; }
 bool IsCombo(Kind kind) { return kind == Kind::Combo || kind == Kind::ComboEdit; }
 
+bool IsFramedView(Kind kind) { return kind == Kind::ListView || kind == Kind::TreeView; }
+
 bool IsDecoration(Kind kind) {
   return kind == Kind::Glass || kind == Kind::Dial || kind == Kind::Groove || kind == Kind::Slots ||
          kind == Kind::Mark;

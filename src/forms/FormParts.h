@@ -48,6 +48,7 @@ bool IsToggle(Kind kind);  // keys that keep a state
 bool IsCheck(Kind kind);   // CheckBox, RadioButton
 bool IsEdit(Kind kind);    // in glass that the form paints
 bool IsCombo(Kind kind);
+bool IsFramedView(Kind kind);  // ListView, TreeView: in glass that the form paints
 bool IsDecoration(Kind kind);  // painted by the form, no window
 Type FontTypeOf(const ControlRow& row);
 

@@ -46,13 +46,18 @@ void DrawCoverage(HDC dc, int x, int y, const Coverage& coverage, Color color) {
   BlendBitmap(pixels, coverage.width, coverage.height).Draw(dc, x, y);
 }
 
-void IconPainter::Draw(HDC dc, Icon icon, int x, int y, int size, Color color) {
-  if (icon == Icon::None || size <= 0) return;
-  const Key key = {icon, size, Number(color), 0};
+void DrawNeedleHead(HDC dc, int x, int y, int width, int height, Color color) {
+  const Polygon head = {{0, 0}, {width * 1.0, 0}, {width / 2.0, height * 1.0}};
+  DrawCoverage(dc, x, y, Rasterize({head}, {}, width, height), color);
+}
+
+void IconPainter::Draw(HDC dc, Icon icon, int x, int y, int designSize, int size, Color color) {
+  if (icon == Icon::None || designSize <= 0 || size <= 0) return;
+  const Key key = {icon, designSize, size, Number(color), 0};
   auto found = pictures_.find(key);
   if (found == pictures_.end()) {
     Pixels pixels;
-    PaintOver(pixels, RenderIcon(icon, size), color);
+    PaintOver(pixels, RenderIcon(icon, designSize, size), color);
     found = pictures_.try_emplace(key, pixels, size, size).first;
   }
   found->second.Draw(dc, x, y);
@@ -60,7 +65,7 @@ void IconPainter::Draw(HDC dc, Icon icon, int x, int y, int size, Color color) {
 
 void IconPainter::DrawProgramMark(HDC dc, int x, int y, int size, const MarkColors& colors) {
   if (size <= 0) return;
-  const Key key = {Icon::ProgramMark, size, Number(colors.ink), Number(colors.needle)};
+  const Key key = {Icon::ProgramMark, 0, size, Number(colors.ink), Number(colors.needle)};
   auto found = pictures_.find(key);
   if (found == pictures_.end())
     found = pictures_.try_emplace(key, RenderProgramMark(size, colors), size, size).first;

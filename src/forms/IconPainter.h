@@ -29,14 +29,17 @@ class BlendBitmap {
 // A smooth shape in one colour, its top-left corner at pixel (x, y).
 void DrawCoverage(HDC dc, int x, int y, const Coverage& coverage, Color color);
 
+// The head of a needle: a triangle that points down, its top-left corner at pixel (x, y). Measures in pixels.
+void DrawNeedleHead(HDC dc, int x, int y, int width, int height, Color color);
+
 class IconPainter {
  public:
-  // `size` in pixels. Not for the program mark.
-  void Draw(HDC dc, Icon icon, int x, int y, int size, Color color);
+  // `size` pixels wide, which are `designSize` at 96 dpi. Not for the program mark.
+  void Draw(HDC dc, Icon icon, int x, int y, int designSize, int size, Color color);
   void DrawProgramMark(HDC dc, int x, int y, int size, const MarkColors& colors);
 
  private:
-  using Key = std::tuple<Icon, int, COLORREF, COLORREF>;
+  using Key = std::tuple<Icon, int, int, COLORREF, COLORREF>;
   std::map<Key, BlendBitmap> pictures_;
 };
 

@@ -3,8 +3,10 @@
 #include <windowsx.h>
 
 #include <algorithm>
+#include <utility>
 
 #include "base/Text.h"
+#include "forms/Guard.h"
 #include "forms/Painter.h"
 #include "forms/WideText.h"
 
@@ -86,13 +88,27 @@ void ListView::RowsChanged() {
   SyncScrollBar();
 }
 
-int ListView::Selected() const { return ListView_GetNextItem(list_, -1, LVNI_SELECTED); }
+int ListView::Selected() const {
+  const int focused =
+      ListView_GetNextItem(list_, -1, LVNI_FOCUSED);  // nearly always the one, and found at once
+  if (focused >= 0 && (ListView_GetItemState(list_, focused, LVIS_SELECTED) & LVIS_SELECTED) != 0)
+    return focused;
+  return ListView_GetNextItem(list_, -1, LVNI_SELECTED);
+}
+
+// Some systems look at every row of the list when a selected one gives way to another or all are deselected;
+// with 40,000 rows that is felt. Taking the mark away from the one row first spares it.
+void ListView::Deselect(int row) {
+  const bool wasQuiet = std::exchange(quiet_, true);
+  if (row >= 0) ListView_SetItemState(list_, row, 0, LVIS_SELECTED);
+  quiet_ = wasQuiet;
+}
 
 void ListView::Select(int row) {
   quiet_ = true;
-  if (row < 0) {
-    ListView_SetItemState(list_, -1, 0, LVIS_SELECTED | LVIS_FOCUSED);
-  } else {
+  const int before = Selected();
+  if (row != before) Deselect(before);
+  if (row >= 0) {
     ListView_SetItemState(list_, row, LVIS_SELECTED | LVIS_FOCUSED, LVIS_SELECTED | LVIS_FOCUSED);
     ListView_EnsureVisible(list_, row, FALSE);
   }
@@ -183,9 +199,11 @@ void ListView::ScrollTo(int first) {
 }
 
 LRESULT CALLBACK ListView::Subclass(HWND window, UINT message, WPARAM wParam, LPARAM lParam, UINT_PTR,
-                                    DWORD_PTR data) {
-  if (message == WM_NCDESTROY) RemoveWindowSubclass(window, &ListView::Subclass, kSubclassId);
-  return reinterpret_cast<ListView*>(data)->Handle(message, wParam, lParam);
+                                    DWORD_PTR data) noexcept {
+  return Guarded(0, [&] {
+    if (message == WM_NCDESTROY) RemoveWindowSubclass(window, &ListView::Subclass, kSubclassId);
+    return reinterpret_cast<ListView*>(data)->Handle(message, wParam, lParam);
+  });
 }
 
 LRESULT ListView::Handle(UINT message, WPARAM wParam, LPARAM lParam) {
@@ -199,6 +217,16 @@ LRESULT ListView::Handle(UINT message, WPARAM wParam, LPARAM lParam) {
       const bool enter =
           key != nullptr && key->message == WM_KEYDOWN && key->wParam == VK_RETURN && Selected() >= 0;
       return DefSubclassProc(list_, message, wParam, lParam) | (enter ? DLGC_WANTMESSAGE : 0);
+    }
+    case WM_KEYDOWN:
+      SelectByKey(wParam, lParam);
+      return 0;
+    case WM_LBUTTONDOWN: {
+      POINT at = {GET_X_LPARAM(lParam), GET_Y_LPARAM(lParam)};
+      ClientToScreen(list_, &at);
+      const int row = RowAt(at);
+      if (const int before = Selected(); row >= 0 && row != before) Deselect(before);
+      break;
     }
     case WM_MOUSEMOVE: {
       POINT at = {GET_X_LPARAM(lParam), GET_Y_LPARAM(lParam)};
@@ -221,8 +249,20 @@ LRESULT ListView::Handle(UINT message, WPARAM wParam, LPARAM lParam) {
   }
   const LRESULT result = DefSubclassProc(list_, message, wParam, lParam);
   // Whatever scrolled, by wheel, key or program, paints.
-  if (message == WM_PAINT || message == WM_MOUSEWHEEL || message == WM_KEYDOWN) SyncScrollBar();
+  if (message == WM_PAINT || message == WM_MOUSEWHEEL) SyncScrollBar();
   return result;
+}
+
+// The keys are the system's; only its way of moving the selection is shortened.
+void ListView::SelectByKey(WPARAM key, LPARAM lParam) {
+  const bool moves = key >= VK_PRIOR && key <= VK_DOWN;
+  const int before = Selected();
+  byKey_ = true;
+  if (moves) Deselect(before);
+  DefSubclassProc(list_, WM_KEYDOWN, key, lParam);
+  byKey_ = false;
+  if (moves && before >= 0 && Selected() < 0) Select(before);  // already at the end: stays where it was
+  SyncScrollBar();
 }
 
 void ListView::SetHover(int row) {
@@ -274,9 +314,9 @@ bool ListView::OnNotify(NMHDR& notice, LRESULT& result) {
       return true;
     }
     case LVN_ITEMACTIVATE: {
-      const int row = reinterpret_cast<const NMITEMACTIVATE&>(notice).iItem;
-      services_.Raise(
-          {.id = id_, .kind = FormEvent::Kind::ItemActivated, .row = row >= 0 ? row : Selected()});
+      // Not every system says which row it was when it was a key.
+      const int row = byKey_ ? Selected() : reinterpret_cast<const NMITEMACTIVATE&>(notice).iItem;
+      if (row >= 0) services_.Raise({.id = id_, .kind = FormEvent::Kind::ItemActivated, .row = row});
       return true;
     }
     case LVN_BEGINDRAG:

@@ -69,15 +69,18 @@ class ListView final : public FormControl {
 
  private:
   static LRESULT CALLBACK Subclass(HWND window, UINT message, WPARAM wParam, LPARAM lParam, UINT_PTR id,
-                                   DWORD_PTR data);
+                                   DWORD_PTR data) noexcept;
   LRESULT Handle(UINT message, WPARAM wParam, LPARAM lParam);
   void PlaceColumns();
   void UseRowHeight();
   void SyncScrollBar();
   void ScrollTo(int first);
   void SetHover(int row);
+  void SelectByKey(WPARAM key, LPARAM lParam);
+  void Deselect(int row);
   void PaintBelowRows(HDC dc) const;
   void PaintEmpty(HDC dc, const RECT& box) const;
+  void PaintEmptyScale(HDC dc, int centre, int line) const;
   void PaintRow(HDC dc, int row) const;
   void PaintColumnLines(HDC dc, int top, int bottom) const;
   void PaintCells(HDC dc, int row, const RECT& box, bool selected, bool focused) const;
@@ -103,6 +106,7 @@ class ListView final : public FormControl {
   int hover_ = -1;
   int width_ = 0;       // visible part
   bool quiet_ = false;  // selecting by program
+  bool byKey_ = false;  // a key is being dealt with
 };
 
 }  // namespace sonaro

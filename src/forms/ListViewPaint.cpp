@@ -15,8 +15,11 @@ constexpr int kSymbolInset = 9;
 constexpr int kTextAfterSymbol = 28;
 constexpr int kRightGap = 5;
 constexpr int kNeedleBar = 3;
-constexpr int kEmptyWidth = 320;  // of the picture that an empty list shows
+// The picture that an empty list shows.
+constexpr int kEmptyWidth = 320;
 constexpr int kEmptyPitch = 8;
+constexpr int kEmptyLineAboveMiddle = 37;
+constexpr int kEmptyScaleFrom = 180;  // lists less high show the words only
 
 Color GroundOf(const FaceplateColors& colors, int row) { return row % 2 == 0 ? colors.glass : colors.zebra; }
 
@@ -112,32 +115,44 @@ void ListView::PaintBelowRows(HDC dc) const {
   }
 }
 
+// Where a station would stand: a scale without one, a heading, and help of one or two lines.
 void ListView::PaintEmpty(HDC dc, const RECT& box) const {
   const Painter& look = services_.Look();
   const FaceplateColors& colors = look.Colors();
   const int centre = (box.left + box.right) / 2;
-  const int pitch = look.Px(kEmptyPitch);
-  const int ticks =
-      std::min(look.Px(kEmptyWidth), static_cast<int>(box.right - box.left) - look.Px(40)) / pitch / 2;
-  const int width = std::max(1, look.Line());
-  int line = box.top + (box.bottom - box.top) * 2 / 5;
-  if (box.bottom - box.top >= look.Px(140)) {
-    for (int tick = -ticks; tick <= ticks; ++tick) {
-      if (tick == 0) continue;
-      const int height = look.Px(tick % 5 == 0 ? 22 : 11);
-      const int x = centre + tick * pitch;
-      look.Fill(dc, {x, line - height, x + width, line}, colors.tickOff);
-    }
-    look.Fill(dc, {centre - look.Px(1), line - look.Px(34), centre + look.Px(2), line}, colors.accent);
-    look.DrawIcon(dc, Icon::TriDown, centre - look.Px(8), line - look.Px(46), 16, colors.accent);
-  } else {
-    line = box.top;
+  int top = box.top + look.Px(8);
+  if (box.bottom - box.top >= look.Px(kEmptyScaleFrom)) {
+    const int line = (box.top + box.bottom) / 2 - look.Px(kEmptyLineAboveMiddle);
+    PaintEmptyScale(dc, centre, line);
+    top = line + look.Px(24);
   }
-  const RECT heading = {box.left, line + look.Px(12), box.right, line + look.Px(40)};
+  const RECT heading = {box.left, top, box.right, top + look.Px(28)};
   look.Text(dc, heading, emptyHeading_, Type::Notice, colors.glassText, DT_CENTER | DT_NOPREFIX);
-  const RECT help = {box.left + look.Px(8), heading.bottom, box.right - look.Px(8),
-                     heading.bottom + look.Px(22)};
-  look.Text(dc, help, emptyHelp_, Type::Body, colors.glassMuted, DT_CENTER | DT_NOPREFIX);
+  const RECT help = {box.left + look.Px(16), top + look.Px(30), box.right - look.Px(16), top + look.Px(70)};
+  look.Text(dc, help, emptyHelp_, Type::Body, colors.glassMuted, DT_CENTER | DT_WORDBREAK | DT_NOPREFIX);
+  if (GetFocus() == list_) look.Frame(dc, box, colors.focus, look.FocusLine());
+}
+
+void ListView::PaintEmptyScale(HDC dc, int centre, int line) const {
+  const Painter& look = services_.Look();
+  const FaceplateColors& colors = look.Colors();
+  const int pitch = look.Px(kEmptyPitch);
+  const int ticks = std::min(look.Px(kEmptyWidth), width_ - look.Px(40)) / pitch / 2;
+  for (int tick = -ticks; tick <= ticks; ++tick) {
+    if (tick == 0) continue;
+    const int height = look.Px(tick % 5 == 0 ? 22 : 11);
+    const int x = centre + tick * pitch;
+    look.Fill(dc, {x, line - height, x + look.Line(), line}, colors.tickOff);
+  }
+  look.Fill(dc,
+            {centre - ticks * pitch, line + look.Px(4), centre + ticks * pitch + look.Line(),
+             line + look.Px(4) + look.Line()},
+            colors.hair);
+  const int bar = look.Px(kNeedleBar);
+  look.Fill(dc, {centre - bar / 2, line - look.Px(34), centre - bar / 2 + bar, line + look.Px(2)},
+            colors.accent);
+  const int head = look.Px(13);
+  DrawNeedleHead(dc, centre - head / 2, line - look.Px(40), head, look.Px(9), colors.accent);
 }
 
 }  // namespace sonaro

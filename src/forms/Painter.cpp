@@ -178,7 +178,7 @@ void Painter::DrawIcon(HDC dc, Icon icon, int x, int y, int designSize, Color co
   if (icon == Icon::ProgramMark) {
     icons_.DrawProgramMark(dc, x, y, Px(designSize), {color, color == colors_.text ? colors_.accent : color});
   } else {
-    icons_.Draw(dc, icon, x, y, Px(designSize), color);
+    icons_.Draw(dc, icon, x, y, designSize, Px(designSize), color);
   }
 }
 

@@ -109,11 +109,7 @@ void ProgressScale::PaintNeedle(HDC dc, int x, int bottom) const {
   const Painter& look = services_.Look();
   const Color accent = look.Colors().accent;
   look.Fill(dc, {x, look.Line(), x + std::max(2, look.Px(kTickWidth)), bottom}, accent);
-  const Polygon triangle = {{0, 0}, {kNeedleWidth, 0}, {kNeedleWidth / 2.0, kNeedleHeight}};
-  DrawCoverage(
-      dc, x - look.Px(kNeedleLead), 0,
-      Rasterize({triangle}, {look.Dpi() / 96.0, 0, 0}, look.Px(kNeedleWidth), look.Px(kNeedleHeight)),
-      accent);
+  DrawNeedleHead(dc, x - look.Px(kNeedleLead), 0, look.Px(kNeedleWidth), look.Px(kNeedleHeight), accent);
 }
 
 }  // namespace sonaro

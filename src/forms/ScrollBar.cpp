@@ -4,6 +4,7 @@
 
 #include <algorithm>
 
+#include "forms/Guard.h"
 #include "forms/Painter.h"
 
 namespace sonaro {
@@ -14,7 +15,7 @@ constexpr wchar_t kClass[] = L"SonaroScrollBar";
 constexpr UINT_PTR kRepeatTimer = 1;
 constexpr UINT kFirstRepeat = 300;  // milliseconds
 constexpr UINT kNextRepeat = 50;
-constexpr int kArrowDesign = 16;
+constexpr int kArrowDesign = 14;
 constexpr int kThumbInset = 3;
 constexpr int kThumbWidth = 7;
 constexpr int kThumbCut = 3;
@@ -68,10 +69,12 @@ void ScrollBar::SetShown(bool shown) {
 
 void ScrollBar::ShowOrHide() { ShowWindow(window_, shown_ && IsNeeded() ? SW_SHOWNA : SW_HIDE); }
 
-LRESULT CALLBACK ScrollBar::Procedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
-  auto* bar = reinterpret_cast<ScrollBar*>(GetWindowLongPtrW(window, GWLP_USERDATA));
-  return bar != nullptr ? bar->Handle(message, wParam, lParam)
-                        : DefWindowProcW(window, message, wParam, lParam);
+LRESULT CALLBACK ScrollBar::Procedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam) noexcept {
+  return Guarded(0, [&] {
+    auto* bar = reinterpret_cast<ScrollBar*>(GetWindowLongPtrW(window, GWLP_USERDATA));
+    return bar != nullptr ? bar->Handle(message, wParam, lParam)
+                          : DefWindowProcW(window, message, wParam, lParam);
+  });
 }
 
 LRESULT ScrollBar::Handle(UINT message, WPARAM wParam, LPARAM lParam) {
@@ -129,7 +132,7 @@ void ScrollBar::Paint(HDC dc, const RECT& box) const {
   look.CutShape(dc, thumb, look.Px(kThumbCut), face, face, face);
   const int icon = look.Px(kArrowIcon);
   const int x = box.left + (box.right - box.left - icon + 1) / 2;
-  const int inset = (look.Px(kArrowDesign) - icon) / 2;
+  const int inset = (look.Px(kArrowDesign) - icon + 1) / 2;
   look.DrawIcon(dc, Icon::Up, x, box.top + inset, kArrowIcon, colors.glassMuted);
   look.DrawIcon(dc, Icon::Down, x, box.bottom - inset - icon, kArrowIcon, colors.glassMuted);
 }

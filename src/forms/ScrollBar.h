@@ -38,7 +38,7 @@ class ScrollBar {
  private:
   enum class Zone { None, Up, PageUp, Thumb, PageDown, Down };
 
-  static LRESULT CALLBACK Procedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
+  static LRESULT CALLBACK Procedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam) noexcept;
   LRESULT Handle(UINT message, WPARAM wParam, LPARAM lParam);
   void Paint(HDC dc, const RECT& box) const;
   RECT ThumbBox() const;

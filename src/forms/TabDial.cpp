@@ -38,10 +38,9 @@ void PaintNeedle(HDC dc, const RECT& box, const Painter& painter) {
   const int middle = static_cast<int>(box.left + box.right) / 2;
   painter.Fill(dc, {middle - bar / 2, box.top + painter.Px(kNeedleTop), middle - bar / 2 + bar, box.bottom},
                accent);
-  const Polygon head = {{0, 0}, {kHeadWidth, 0}, {kHeadWidth / 2.0, kHeadHeight}};
   const int width = painter.Px(kHeadWidth);
-  DrawCoverage(dc, middle - bar / 2 + bar / 2 - width / 2, box.top + painter.Px(kHeadTop),
-               Rasterize({head}, {painter.Dpi() / 96.0, 0, 0}, width, painter.Px(kHeadHeight)), accent);
+  DrawNeedleHead(dc, middle - width / 2, box.top + painter.Px(kHeadTop), width, painter.Px(kHeadHeight),
+                 accent);
 }
 
 }  // namespace

@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <utility>
 
+#include "forms/Guard.h"
 #include "forms/Painter.h"
 #include "forms/WideText.h"
 
@@ -22,7 +23,7 @@ constexpr int kMarkSize = 12;
 constexpr int kLeafSize = 4;
 constexpr int kTextAfterMark = 16;
 constexpr int kNeedleBar = 3;
-constexpr int kRightGap = 8;
+constexpr int kRightGap = 6;
 
 }  // namespace
 
@@ -174,9 +175,11 @@ void TreeView::Repaint(HTREEITEM node) {
 }
 
 LRESULT CALLBACK TreeView::Subclass(HWND window, UINT message, WPARAM wParam, LPARAM lParam, UINT_PTR,
-                                    DWORD_PTR data) {
-  if (message == WM_NCDESTROY) RemoveWindowSubclass(window, &TreeView::Subclass, kSubclassId);
-  return reinterpret_cast<TreeView*>(data)->Handle(message, wParam, lParam);
+                                    DWORD_PTR data) noexcept {
+  return Guarded(0, [&] {
+    if (message == WM_NCDESTROY) RemoveWindowSubclass(window, &TreeView::Subclass, kSubclassId);
+    return reinterpret_cast<TreeView*>(data)->Handle(message, wParam, lParam);
+  });
 }
 
 LRESULT TreeView::Handle(UINT message, WPARAM wParam, LPARAM lParam) {

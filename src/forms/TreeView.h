@@ -45,7 +45,7 @@ class TreeView final : public FormControl {
   };
 
   static LRESULT CALLBACK Subclass(HWND window, UINT message, WPARAM wParam, LPARAM lParam, UINT_PTR id,
-                                   DWORD_PTR data);
+                                   DWORD_PTR data) noexcept;
   LRESULT Handle(UINT message, WPARAM wParam, LPARAM lParam);
   void SyncScrollBar();
   void ScrollTo(int first);

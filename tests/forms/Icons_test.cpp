@@ -92,7 +92,7 @@ TEST(Icons, EveryIconFillsItsGridWithoutBeingCut) {
   for (int number = 1; number < static_cast<int>(Icon::ProgramMark); ++number) {
     const Icon icon = static_cast<Icon>(number);
     for (const int size : {14, 21}) {
-      const Coverage coverage = RenderIcon(icon, size);
+      const Coverage coverage = RenderIcon(icon, 16, size);
       const double share = Area(coverage) / (size * size);
       EXPECT_GT(share, 0.04) << number << " at " << size;
       EXPECT_LT(share, 0.60) << number << " at " << size;
@@ -101,14 +101,14 @@ TEST(Icons, EveryIconFillsItsGridWithoutBeingCut) {
         Rasterize(ShapeOf(icon).filled ? FillPolygons(ParsePath(ShapeOf(icon).path, kTolerance))
                                        : StrokePolygons(ParsePath(ShapeOf(icon).path, kTolerance), 1.5),
                   {1, 2, 2}, 20, 20);
-    EXPECT_NEAR(Area(framed), Area(RenderIcon(icon, 16)), 0.6) << number << " leaves its grid";
+    EXPECT_NEAR(Area(framed), Area(RenderIcon(icon, 16, 16)), 0.6) << number << " leaves its grid";
   }
 }
 
 TEST(Icons, SymmetricShapesComeOutSymmetric) {
   for (const Icon icon : {Icon::Menu, Icon::Close, Icon::Add, Icon::New, Icon::Up, Icon::Sort, Icon::Warn}) {
     for (const int size : {14, 16, 21}) {
-      const Coverage coverage = RenderIcon(icon, size);
+      const Coverage coverage = RenderIcon(icon, 16, size);
       for (int y = 0; y < size; ++y)
         for (int x = 0; x < size; ++x)
           EXPECT_NEAR(coverage.At(x, y), coverage.At(size - 1 - x, y), 1)
@@ -120,10 +120,21 @@ TEST(Icons, SymmetricShapesComeOutSymmetric) {
 TEST(Icons, HorizontalStrokesAreMovedOntoPixels) {
   // On 21 pixels the bar lies at 10.5 and is nearly 2 thick: three blurred rows, or two crisp ones lower
   // down.
-  const Coverage bar = RenderIcon(Icon::Remove, 21);
+  const Coverage bar = RenderIcon(Icon::Remove, 16, 21);
   EXPECT_LT(bar.At(10, 9), 10);
   EXPECT_GT(bar.At(10, 10), 245);
   EXPECT_GT(bar.At(10, 11), 245);
+}
+
+TEST(Icons, ThePenKeepsItsWidthInSmallIcons) {
+  const auto bar = [](int designSize) {  // the width of the minus sign's bar
+    const Coverage minus = RenderIcon(Icon::Remove, designSize, designSize);
+    double width = 0;
+    for (int y = 0; y < designSize; ++y) width += minus.At(designSize / 2, y) / 255.0;
+    return width;
+  };
+  for (const int size : {9, 12, 14, 16}) EXPECT_NEAR(bar(size), 1.5, 0.07) << size;
+  EXPECT_NEAR(bar(32), 2.6, 0.07);
 }
 
 TEST(PaintOver, BlendsPremultiplied) {

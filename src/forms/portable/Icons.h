@@ -6,7 +6,7 @@
 
 namespace sonaro {
 
-// The path of an icon on its 16 x 16 grid, drawn with a pen of 1.5 or filled. The program mark and None have
+// The path of an icon on its 16 x 16 grid, stroked or filled. The program mark and None have
 // none.
 struct IconShape {
   bool filled = false;
@@ -14,9 +14,10 @@ struct IconShape {
 };
 const IconShape& ShapeOf(Icon icon);
 
-// `size` x `size` pixels of an icon with one colour. Line icons that the size blurs are moved down by half a
-// pixel when that makes them crisper.
-Coverage RenderIcon(Icon icon, int size);
+// `size` x `size` pixels of an icon with one colour that is `designSize` pixels wide at 96 dpi. The pen
+// is 1.5 design pixels wide whatever the icon's size, and wider only in large ones. Line icons that the size
+// blurs are moved down by half a pixel when that makes them crisper.
+Coverage RenderIcon(Icon icon, int designSize, int size);
 
 // The program mark in its two colours; `ground` fills the octagon (nullptr: see-through). The ticks are left
 // out up to 20 pixels.
