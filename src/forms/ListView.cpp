@@ -265,14 +265,18 @@ void ListView::SelectByKey(WPARAM key, LPARAM lParam) {
   SyncScrollBar();
 }
 
+// The whole row: what the system takes for one may begin a little further right. -1: all rows.
+void ListView::RepaintRow(int row) {
+  const RECT box = ItemBox(row);
+  InvalidateRect(list_, row >= 0 ? &box : nullptr, FALSE);
+}
+
 void ListView::SetHover(int row) {
   if (row == hover_) return;
   const int before = hover_;
   hover_ = row;
   for (int changed : {before, row}) {
-    if (changed < 0) continue;
-    const RECT box = ItemBox(changed);
-    InvalidateRect(list_, &box, FALSE);
+    if (changed >= 0) RepaintRow(changed);
   }
   if (row >= 0) {
     TRACKMOUSEEVENT track = {sizeof track, TME_LEAVE, list_, 0};
@@ -306,6 +310,7 @@ bool ListView::OnNotify(NMHDR& notice, LRESULT& result) {
       return true;
     case LVN_ITEMCHANGED: {
       const auto& change = reinterpret_cast<const NMLISTVIEW&>(notice);
+      RepaintRow(change.iItem);
       const bool selected =
           (change.uNewState & LVIS_SELECTED) != 0 && (change.uOldState & LVIS_SELECTED) == 0;
       if (selected && !quiet_ && change.iItem >= 0) {

@@ -75,6 +75,7 @@ class ListView final : public FormControl {
   void UseRowHeight();
   void SyncScrollBar();
   void ScrollTo(int first);
+  void RepaintRow(int row);
   void SetHover(int row);
   void SelectByKey(WPARAM key, LPARAM lParam);
   void Deselect(int row);

@@ -203,7 +203,21 @@ LRESULT TreeView::Handle(UINT message, WPARAM wParam, LPARAM lParam) {
     case WM_MOUSELEAVE:
       SetHover(nullptr);
       break;
-    case WM_SETFOCUS:
+    case WM_GETDLGCODE: {
+      // Enter acts on the node; without this the dialog keyboard would press the primary key.
+      const auto* key = reinterpret_cast<const MSG*>(lParam);
+      const bool enter =
+          key != nullptr && key->message == WM_KEYDOWN && key->wParam == VK_RETURN && Selected() != nullptr;
+      return DefSubclassProc(tree_, message, wParam, lParam) | (enter ? DLGC_WANTMESSAGE : 0);
+    }
+    case WM_SETFOCUS: {
+      // A tree without a selection then selects its first node, which nobody has clicked.
+      const bool wasQuiet = std::exchange(quiet_, true);
+      const LRESULT result = DefSubclassProc(tree_, message, wParam, lParam);
+      quiet_ = wasQuiet;
+      InvalidateRect(tree_, nullptr, FALSE);
+      return result;
+    }
     case WM_KILLFOCUS:
       InvalidateRect(tree_, nullptr, FALSE);
       break;
@@ -269,9 +283,13 @@ bool TreeView::OnNotify(NMHDR& notice, LRESULT& result) {
     case TVN_ITEMEXPANDEDW:
       SyncScrollBar();
       return true;
-    case NM_RETURN:
-      Toggle(Selected());
+    case NM_RETURN: {
+      const HTREEITEM node = Selected();
+      if (node == nullptr) return true;
+      if (TreeView_GetChild(tree_, node) != nullptr) Toggle(node);
+      services_.Raise({.id = id_, .kind = FormEvent::Kind::NodeClick, .node = node});
       return true;
+    }
     default:
       return false;
   }

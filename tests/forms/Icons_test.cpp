@@ -5,6 +5,8 @@
 #include <cmath>
 #include <numbers>
 
+#include "forms/portable/RatingRing.h"
+
 namespace sonaro {
 namespace {
 
@@ -135,6 +137,20 @@ TEST(Icons, ThePenKeepsItsWidthInSmallIcons) {
   };
   for (const int size : {9, 12, 14, 16}) EXPECT_NEAR(bar(size), 1.5, 0.07) << size;
   EXPECT_NEAR(bar(32), 2.6, 0.07);
+}
+
+TEST(RatingRing, LightsOneTickForEachHalf) {
+  const struct {
+    int halves;
+    int lit;
+  } cases[] = {{-1, 0}, {0, 0}, {1, 2}, {9, 10}, {10, 11}, {11, 11}};
+  for (const auto& c : cases) EXPECT_EQ(LitTicks(c.halves), c.lit) << c.halves;
+  const Coverage whole = RenderRing(0, kRingTicks, 96);
+  EXPECT_NEAR(Area(whole), kRingTicks * 6 * 2, 0.5);
+  EXPECT_NEAR(Area(RenderRing(0, 4, 96)) + Area(RenderRing(4, kRingTicks, 96)), Area(whole), 0.5);
+  EXPECT_NEAR(Area(RenderRing(0, 1, 192)), 4 * 12, 0.3);
+  EXPECT_GT(RenderRing(0, 1, 96).At(12, 31), 200);  // the first tick stands at the lower left
+  EXPECT_EQ(whole.At(26, 40), 0);                   // the ring is open below
 }
 
 TEST(PaintOver, BlendsPremultiplied) {
