@@ -12,6 +12,7 @@
 namespace sonaro {
 
 inline constexpr const char* kSonaro = "Sonaro";
+inline constexpr const char* kRipgrep = "ripgrep";  // runs as a program of its own
 
 // How many times faster than a yardstick an operation should be.
 struct Target {
@@ -29,9 +30,13 @@ class RatioReporter : public benchmark::BenchmarkReporter {
   void PrintTable(const std::string& heading, const std::vector<Target>& targets) const;
 
  private:
+  struct Times {  // seconds
+    double real;
+    double processor;
+  };
   struct Operation {
     std::string name;
-    std::map<std::string, double> seconds;  // the best of every contender
+    std::map<std::string, Times> best;  // of every contender
   };
   std::vector<Operation> Joined() const;
 

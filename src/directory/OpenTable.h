@@ -28,7 +28,8 @@ class OpenTable {
 
   void GoBeforeFirst();
   void GoBehindLast();
-  // Success, NotFound or Damaged; only a success moves the position. The text is valid until the next change.
+  // Success, NotFound or Damaged; only a success moves the position. The text is valid until the next
+  // operation.
   TableStatus Read(std::int32_t key, TableImage::Record& record);
   TableStatus ReadNext(TableImage::Record& record);
 

@@ -7,8 +7,7 @@
 namespace sonaro {
 namespace {
 
-constexpr std::size_t kPageBytes = (kPageEntries + 1) * sizeof(Entry);
-constexpr std::size_t kDataChunk = 4096;
+constexpr std::size_t kPageSlots = kPageEntries + 1;  // an entry more, that of the next page
 
 bool KeyIsLess(std::int32_t key, const PageItem& item) { return key < item.firstKey; }
 
@@ -17,10 +16,10 @@ bool KeyIsLess(std::int32_t key, const PageItem& item) { return key < item.first
 TableImage::TableImage(const IndexHeader& header)
     : header_(header),
       layout_(LayoutOf(header)),
+      entries_(std::make_unique_for_overwrite<Entry[]>(std::size_t{header.recordCount} + layout_.pageCount)),
       checkedPages_(layout_.pageCount),
-      entries_(layout_.pages, static_cast<std::size_t>(layout_.directory - layout_.pages), kPageBytes),
-      data_(sizeof(DataHeader), static_cast<std::size_t>(header.dataFileSize - sizeof(DataHeader)),
-            kDataChunk) {}
+      texts_(sizeof(DataHeader), static_cast<std::size_t>(header.dataFileSize - sizeof(DataHeader)),
+             header.recordCount) {}
 
 TableStatus TableImage::LoadDirectory(TableFiles& files) {
   directory_.resize(layout_.pageCount);
@@ -36,17 +35,18 @@ std::uint32_t TableImage::EntriesIn(std::uint32_t page) const {
 
 // Of a record whose page is loaded.
 const Entry& TableImage::EntryAt(std::uint32_t index) const {
-  const std::size_t place = std::size_t{index} + index / kPageEntries;  // an entry more after every page
-  return reinterpret_cast<const Entry*>(entries_.Loaded())[place];
+  return entries_[index / kPageEntries * kPageSlots + index % kPageEntries];
 }
 
 TableStatus TableImage::LoadPage(TableFiles& files, std::uint32_t page) {
   if (checkedPages_[page]) return TableStatus::Success;
+  const std::size_t first = page * kPageSlots;
+  char* const bytes = reinterpret_cast<char*>(&entries_[first]);
   const std::size_t size = (EntriesIn(page) + 1) * sizeof(Entry);
-  const char* const bytes = entries_.Get(*files.index, page * kPageBytes, size);
-  if (!bytes || Checksum({bytes, size}) != directory_[page].check) return TableStatus::Damaged;
-  checkedPages_[page] = true;
-  return TableStatus::Success;
+  const bool sound = files.index->ReadAt(layout_.pages + first * sizeof(Entry), bytes, size) &&
+                     Checksum({bytes, size}) == directory_[page].check;
+  checkedPages_[page] = sound;
+  return sound ? TableStatus::Success : TableStatus::Damaged;
 }
 
 TableStatus TableImage::Locate(TableFiles& files, std::int32_t key, Place& place) {
@@ -68,7 +68,7 @@ TableStatus TableImage::Get(TableFiles& files, std::uint32_t index, Record& reco
   if (LoadPage(files, index / kPageEntries) != TableStatus::Success) return TableStatus::Damaged;
   const Entry* const entry = &EntryAt(index);
   const std::uint32_t length = entry[1].dataOffset - entry[0].dataOffset;  // far too long if it is not sound
-  const char* const text = data_.Get(*files.data, entry->dataOffset, length);
+  const char* const text = texts_.Get(*files.data, entry->dataOffset, length);
   if (!text) return TableStatus::Damaged;
   record = {entry->key, {text, length}};
   const bool sound = RecordCheck(RecordDigest(record.key, record.text)) == entry->check;

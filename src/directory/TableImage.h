@@ -10,7 +10,7 @@
 #include <string_view>
 #include <vector>
 
-#include "directory/LazyBytes.h"
+#include "directory/RecordTexts.h"
 #include "directory/TableFiles.h"
 #include "directory/TableStatus.h"
 #include "directory/VmxFormat.h"
@@ -42,7 +42,7 @@ class TableImage {
 
   struct Record {
     std::int32_t key = 0;
-    std::string_view text;  // fields with tabs between them; valid as long as the image
+    std::string_view text;  // fields with tabs between them; valid until the next Get
   };
   // `index` is less than RecordCount.
   TableStatus Get(TableFiles& files, std::uint32_t index, Record& record);
@@ -67,9 +67,9 @@ class TableImage {
   IndexHeader header_;
   IndexLayout layout_;
   std::vector<PageItem> directory_;
+  std::unique_ptr<Entry[]> entries_;  // all pages; those that were checked are filled in
   std::vector<bool> checkedPages_;
-  LazyBytes entries_;
-  LazyBytes data_;
+  RecordTexts texts_;
   std::unique_ptr<char[]> column_;
   std::vector<std::uint32_t> columnStarts_;
 };

@@ -62,7 +62,7 @@ class Vmx {
   TableStatus VmxEOF(Handle handle);
 
   // Reads the record with the key or, whatever `key` is, the one behind the position; positions on it. The
-  // fields' texts are valid until the table is changed or closed. Without Success `record` and the position
+  // fields' texts are valid until the next operation on the table. Without Success `record` and the position
   // stay as they are.
   TableStatus VmxGet(Handle handle, std::string_view key, VmxReadMode mode, VmxRecord& record);
   // `fields` are as many as the definition says. A tab inside one other than the last is stored as a blank.

@@ -1,0 +1,44 @@
+#include "directory/RecordTexts.h"
+
+#include <algorithm>
+
+namespace sonaro {
+namespace {
+
+constexpr std::size_t kStep = 256 * 1024;                // of reading in order
+constexpr std::size_t kMostInMemory = 64 * 1024 * 1024;  // of all texts at once
+constexpr std::size_t kFewOf = 8;                        // one record in so many is few
+
+}  // namespace
+
+RecordTexts::RecordTexts(std::uint64_t offset, std::size_t size, std::size_t count)
+    : offset_(offset), size_(size), fewReads_(count / kFewOf) {}
+
+const char* RecordTexts::Get(InputFile& file, std::size_t at, std::size_t length) {
+  if (at > size_ || length > size_ - at) return nullptr;
+  if (length == 0) return "";
+  const bool inMemory = at >= begin_ && at <= end_ && length <= end_ - at;
+  if (!inMemory && !Bring(file, at, length)) return nullptr;
+  return bytes_.get() + (at - begin_);
+}
+
+bool RecordTexts::Bring(InputFile& file, std::size_t at, std::size_t length) {
+  const bool goesOn = at == end_ && end_ != 0;
+  if (goesOn) return Load(file, at, std::min(std::max(kStep, length), size_ - at));
+  const bool many = ++reads_ > fewReads_ && size_ <= kMostInMemory;
+  return many ? Load(file, 0, size_) : Load(file, at, length);
+}
+
+bool RecordTexts::Load(InputFile& file, std::size_t at, std::size_t length) {
+  begin_ = end_ = 0;
+  if (capacity_ < length) {
+    bytes_ = std::make_unique_for_overwrite<char[]>(length);
+    capacity_ = length;
+  }
+  if (!file.ReadAt(offset_ + at, bytes_.get(), length)) return false;
+  begin_ = at;
+  end_ = at + length;
+  return true;
+}
+
+}  // namespace sonaro
