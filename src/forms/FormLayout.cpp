@@ -62,6 +62,9 @@ void FormParts::UseDpi(int dpi, Fit fit) {
     if (!item.window) continue;
     SendMessageW(item.window, WM_SETFONT, reinterpret_cast<WPARAM>(painter->Font(FontTypeOf(*item.row))),
                  FALSE);
+    if (IsEdit(item.KindOf()) || item.KindOf() == Kind::ReadOnlyText) {
+      SendMessageW(item.window, EM_SETMARGINS, EC_LEFTMARGIN | EC_RIGHTMARGIN, 0);
+    }
     if (item.KindOf() == Kind::MonthCalendar) ColourCalendar(item.window, painter->Colors());
   }
   ResizeWindow();

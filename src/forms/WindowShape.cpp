@@ -22,6 +22,13 @@ bool ApplyWindowShape(HWND window, std::string_view key, const Shape& shape, int
   const HRGN polygon = CreatePolygonRgn(points.data(), static_cast<int>(points.size()), WINDING);
   const bool copied = CombineRgn(outline, polygon, nullptr, RGN_COPY) != ERROR;
   DeleteObject(polygon);
+  // What lies outside of the window shows nothing, but a point far off would cost a row for each of its
+  // pixels.
+  RECT frame{};
+  GetWindowRect(window, &frame);
+  const HRGN whole = CreateRectRgn(0, 0, frame.right - frame.left, frame.bottom - frame.top);
+  CombineRgn(outline, outline, whole, RGN_AND);
+  DeleteObject(whole);
   // An outline without an area would make the window vanish: nothing could bring it back.
   RECT bounds{};
   const bool hasArea = copied && GetRgnBox(outline, &bounds) > NULLREGION;

@@ -107,7 +107,8 @@ const FormDesign& Design() {
       all.push_back({.id = DemoForm::kToggle + i,
                      .kind = Kind::ToggleKey,
                      .text = "Weekly",
-                     .at = {682 + 92 * i, 532, 84, 28}});
+                     .at = {682 + 92 * i, 532, 84, 28},
+                     .pane = 3});
     }
     all.push_back({.id = DemoForm::kState,
                    .kind = Kind::StateLabel,

@@ -1,0 +1,212 @@
+// Size, place, outline and look of a form: layouts, dpi, growing, dragging.
+#include <gtest/gtest.h>
+
+#include "forms/Dpi.h"
+#include "forms/FormParts.h"
+#include "forms/WindowShape.h"
+#include "windows/DemoForm.h"
+#include "windows/FormContextForTests.h"
+#include "windows/Pump.h"
+
+namespace sonaro {
+namespace {
+
+PixelRect PlaceOf(HWND window) {
+  RECT box{};
+  GetWindowRect(window, &box);
+  return ToPixelRect(box);
+}
+
+PixelRect PlaceInForm(const Form& form, int id) {
+  PixelRect place = PlaceOf(form.Control(id));
+  const PixelRect frame = PlaceOf(form.Window());
+  return {place.left - frame.left, place.top - frame.top, place.right - frame.left, place.bottom - frame.top};
+}
+
+PixelRect BoundsOfOutline(HWND window) {
+  RECT box{};
+  return GetWindowRgnBox(window, &box) == ERROR ? PixelRect{} : ToPixelRect(box);
+}
+
+void SendDpi(const Form& form, int dpi, int left, int top) {
+  RECT suggested = {left, top, left + 10, top + 10};
+  SendMessageW(form.Window(), WM_DPICHANGED, MAKEWPARAM(dpi, dpi), reinterpret_cast<LPARAM>(&suggested));
+}
+
+class FormLayoutTest : public testing::Test {
+ protected:
+  FormLayoutTest() {
+    context.files.Put("/d/Depot/sshape.pts",
+                      "scc44=00010000000043000000004400001000440001400043000150"
+                      "000100015000000001400000000010\r\n"
+                      "wild1=0000000000999990000099999999990000099999"
+                      "\r\n"
+                      "demo1=00014000000098000000009800074600966007600000000760"
+                      "0000000014\r\n");
+    form.Create();
+  }
+  FormContextForTests context;
+  DemoForm form{context.forms};
+};
+
+TEST_F(FormLayoutTest, AnotherLayoutKeepsTheCornerAndHidesWhatItDoesNotName) {
+  form.MoveToPixels(30, 40);
+  form.UseLayout(1);
+  EXPECT_EQ(PlaceOf(form.Window()), (PixelRect{30, 40, 470, 190}));
+  EXPECT_EQ(PlaceInForm(form, DemoForm::kPush), (PixelRect{20, 20, 150, 50}));
+  EXPECT_TRUE(FormPartsOf(form.Window())->Find(DemoForm::kPush)->shown);
+  EXPECT_FALSE(FormPartsOf(form.Window())->Find(DemoForm::kPush + 1)->shown);
+  EXPECT_EQ(BoundsOfOutline(form.Window()).right, 440);
+  form.UseLayout(0);
+  EXPECT_EQ(PlaceOf(form.Window()), (PixelRect{30, 40, 1010, 800}));
+  EXPECT_EQ(PlaceInForm(form, DemoForm::kPush), (PixelRect{130, 64, 260, 94}));
+  EXPECT_TRUE(FormPartsOf(form.Window())->Find(DemoForm::kPush + 1)->shown);
+}
+
+TEST_F(FormLayoutTest, TakesAnotherDpiWithAllItsParts) {
+  form.UseLayout(1);
+  const LONG fontBefore = FormPartsOf(form.Window())->painter->LineHeight(Type::Body);
+  SendDpi(form, 144, 7, 9);
+  EXPECT_EQ(PlaceOf(form.Window()), (PixelRect{7, 9, 667, 234}));
+  EXPECT_EQ(PlaceInForm(form, DemoForm::kPush), (PixelRect{30, 30, 225, 75}));
+  EXPECT_EQ(BoundsOfOutline(form.Window()), (PixelRect{0, 0, 660, 225}));
+  LOGFONTW font{};
+  const auto handle = reinterpret_cast<HFONT>(SendMessageW(form.Control(DemoForm::kEdit), WM_GETFONT, 0, 0));
+  ASSERT_NE(GetObjectW(handle, sizeof(font), &font), 0)
+      << "the old font is gone, the control has the new one";
+  EXPECT_EQ(font.lfHeight, -18);
+  EXPECT_GT(FormPartsOf(form.Window())->painter->LineHeight(Type::Body), fontBefore);
+  const PixelRect edit = PlaceInForm(form, DemoForm::kEdit);
+  EXPECT_GE(edit.Height(), FormPartsOf(form.Window())->painter->LineHeight(Type::Body));
+  EXPECT_GE(edit.top, 90);
+  EXPECT_LE(edit.bottom, 132) << "inside its glass";
+}
+
+TEST_F(FormLayoutTest, CombosAreAsHighAsTheirPlace) {
+  for (const int dpi : {96, 120, 144, 192}) {
+    FormPartsOf(form.Window())->UseDpi(dpi, FormParts::Fit::No);
+    EXPECT_EQ(PlaceInForm(form, DemoForm::kCombo).Height(), ScaleToDpi(412 + 28, dpi) - ScaleToDpi(412, dpi))
+        << dpi;
+    EXPECT_EQ(PlaceInForm(form, DemoForm::kSearch).Height(), ScaleToDpi(464 + 28, dpi) - ScaleToDpi(464, dpi))
+        << dpi;
+  }
+}
+
+TEST_F(FormLayoutTest, GrowsWithItsOutline) {
+  form.UseLayout(1);
+  form.Resize({440, 190});
+  EXPECT_EQ(PlaceOf(form.Window()).Height(), 190);
+  EXPECT_EQ(BoundsOfOutline(form.Window()), (PixelRect{0, 0, 440, 190}));
+  EXPECT_EQ(PlaceInForm(form, DemoForm::kPush), (PixelRect{20, 20, 150, 50})) << "anchored to the top left";
+}
+
+TEST_F(FormLayoutTest, StaysRectangularWithoutAPointFile) {
+  FormContextForTests bare;
+  DemoForm plain(bare.forms);
+  plain.Show();
+  EXPECT_EQ(BoundsOfOutline(plain.Window()), PixelRect{});
+  EXPECT_TRUE(plain.IsShown());
+}
+
+TEST_F(FormLayoutTest, SurvivesAnOutlineFarBeyondTheWindow) {
+  EXPECT_TRUE(ApplyWindowShape(form.Window(), "wild1", context.shape, 96));
+  EXPECT_EQ(BoundsOfOutline(form.Window()), (PixelRect{0, 0, 980, 760}));
+}
+
+TEST_F(FormLayoutTest, ShowsPanesTogether) {
+  FormParts& parts = *FormPartsOf(form.Window());
+  FormItem* key = parts.Find(DemoForm::kToggle);
+  form.ShowPane(3, false);
+  EXPECT_FALSE(key->shown);
+  form.ShowControl(DemoForm::kToggle);
+  EXPECT_FALSE(key->shown) << "its pane is hidden";
+  form.ShowPane(3, true);
+  EXPECT_TRUE(key->shown);
+}
+
+// The system's move loop is entered with exactly this message, whichever button was pressed.
+class DraggedForm final : public Form {
+ public:
+  explicit DraggedForm(FormContext& context) : Form(context, Design()) {}
+  std::vector<WPARAM> hits;
+  std::vector<LPARAM> places;
+  bool movingInside = false;
+  int moved = 0;
+
+ private:
+  static const FormDesign& Design() {
+    static constexpr ControlRow kRows[] = {
+        {.id = 5001, .kind = Kind::Label, .text = "Title", .at = {9, 9, 80, 20}},
+        {.id = 5002, .kind = Kind::PushKey, .text = "Key", .at = {9, 40, 80, 30}},
+        {.id = 5003, .kind = Kind::Edit, .at = {9, 80, 80, 28}}};
+    static constexpr FormDesign kDesign = {
+        .name = "frmDragged", .caption = "Dragged", .size = {200, 120}, .controls = kRows};
+    return kDesign;
+  }
+  void OnMoved() override { ++moved; }
+  bool OnMessage(UINT message, WPARAM wParam, LPARAM lParam, LRESULT& result) override {
+    if (message != WM_NCLBUTTONDOWN) return false;
+    hits.push_back(wParam);
+    places.push_back(lParam);
+    movingInside = IsMoving();
+    if (hits.size() == 1) MoveToPixels(60, 70);
+    result = 0;
+    return true;
+  }
+};
+
+TEST_F(FormLayoutTest, IsDraggedByBackgroundAndLabelsButNotByControls) {
+  DraggedForm dragged(context.forms);
+  dragged.Show();
+  SendMessageW(dragged.Window(), WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(150, 50));
+  EXPECT_EQ(dragged.hits, std::vector<WPARAM>{HTCAPTION});
+  EXPECT_EQ(dragged.places, std::vector<LPARAM>{0});
+  EXPECT_TRUE(dragged.movingInside);
+  EXPECT_FALSE(dragged.IsMoving());
+  EXPECT_EQ(dragged.moved, 1);
+  SendMessageW(dragged.Window(), WM_RBUTTONDOWN, MK_RBUTTON, MAKELPARAM(150, 50));
+  EXPECT_EQ(dragged.hits.size(), 2U) << "any button";
+  EXPECT_EQ(dragged.moved, 1) << "it stayed where it was";
+  EXPECT_EQ(SendMessageW(dragged.Control(5001), WM_NCHITTEST, 0, 0), HTTRANSPARENT)
+      << "the form gets the press";
+  EXPECT_NE(SendMessageW(dragged.Control(5002), WM_NCHITTEST, 0, 0), HTTRANSPARENT);
+  SendMessageW(dragged.Window(), WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(12, 82));
+  EXPECT_EQ(dragged.hits.size(), 2U) << "the glass around an edit belongs to it";
+  EXPECT_EQ(dragged.FocusedControl(), 5003);
+}
+
+// What the user sees of a key, by the pixels in the middle of its left part.
+TEST_F(FormLayoutTest, PaintsKeysInTheColoursOfTheFaceplate) {
+  form.Show();
+  Pump();
+  const auto pixel = [&](int id, int x, int y) {
+    UpdateWindow(form.Control(id));
+    const HDC dc = GetDC(form.Control(id));
+    const COLORREF color = GetPixel(dc, x, y);
+    ReleaseDC(form.Control(id), dc);
+    return Color{GetRValue(color), GetGValue(color), GetBValue(color)};
+  };
+  const auto check = [&](BuiltInFaceplate faceplate) {
+    const FaceplateColors& c = context.faceplate.Colors();
+    const int name = static_cast<int>(faceplate);
+    SendMessageW(form.Control(DemoForm::kPush + 2), BM_SETSTATE, TRUE, 0);
+    EXPECT_EQ(pixel(DemoForm::kPush + 2, 6, 15), c.keyDown) << name;
+    EXPECT_EQ(pixel(DemoForm::kPush + 4, 6, 15), c.keyOff) << name;
+    EXPECT_EQ(pixel(DemoForm::kPush, 129, 15), c.outline) << name;
+    EXPECT_EQ(pixel(DemoForm::kRanking + 5, 60, 3), c.keyOn) << name;
+    EXPECT_EQ(pixel(DemoForm::kRanking + 5, 1, 20), c.accent) << name;
+    SendMessageW(form.Control(DemoForm::kPush + 1), WM_MOUSEMOVE, 0, MAKELPARAM(6, 15));
+    EXPECT_EQ(pixel(DemoForm::kPush + 1, 6, 15), c.keyHover) << name;
+    SendMessageW(form.Control(DemoForm::kPush + 1), WM_MOUSELEAVE, 0, 0);
+    EXPECT_NE(pixel(DemoForm::kPush + 1, 6, 15), c.keyHover) << name;
+    EXPECT_EQ(pixel(DemoForm::kCombo, 4, 4), c.glass) << name;
+  };
+  check(BuiltInFaceplate::Graphite);
+  context.faceplate.Choose(BuiltInFaceplate::Porcelain);
+  RefreshAllForms();
+  Pump();
+  check(BuiltInFaceplate::Porcelain);
+}
+
+}  // namespace
+}  // namespace sonaro
