@@ -4,13 +4,14 @@ rem posix threads, such as MSYS2's) and makes its data folder. What follows is h
 setlocal
 cd /d "%~dp0"
 
-for %%F in (build\data\Sonaro.exe build\package\Sonaro\Sonaro.exe) do if exist "%%F" (
-  start "" "%%F" %*
-  exit /b 0
-)
+set program=build\data\Sonaro.exe
+if exist %program% goto open
+set program=build\package\Sonaro\Sonaro.exe
+if exist %program% goto open
 
-for %%T in (cmake.exe ninja.exe g++.exe windres.exe) do if "%%~$PATH:T"=="" (
-  echo Sonaro is not built, and %%T is not on the PATH to build it.
+for %%T in (cmake ninja g++ windres) do call :need %%T
+if defined missing (
+  echo Sonaro is not built, and these programs are not on the PATH to build it:%missing%
   echo Install MSYS2 and its packages mingw-w64-x86_64-toolchain, -cmake, -ninja, -nlohmann-json and -zlib.
   exit /b 1
 )
@@ -24,4 +25,12 @@ copy /y data\depot\*.* build\data\Depot >nul || exit /b 1
 build\windows\bin\sonaro-directory.exe make data\stations.jsonl.gz --out build\data || exit /b 1
 copy /y build\windows\bin\Sonaro.exe build\data >nul || exit /b 1
 copy /y build\windows\bin\lweb.exe build\data >nul || exit /b 1
-start "" build\data\Sonaro.exe %*
+set program=build\data\Sonaro.exe
+
+:open
+start "" %program% %*
+exit /b 0
+
+:need
+where %1 >nul 2>nul || set missing=%missing% %1
+exit /b 0
