@@ -11,6 +11,8 @@
 #include "forms/HighContrast.h"
 #include "forms/MessageLoop.h"
 #include "mainwindow/SonaroFrm.h"
+#include "net/ProxyDetection.h"
+#include "net/ServiceUrlTable.h"
 #include "platform/Sound.h"
 #include "playback/frmScan.h"
 #include "resources/ids.h"
@@ -62,19 +64,26 @@ Application::Application(const Platform& platform, const Strings& strings, std::
 Application::~Application() = default;
 
 int Application::Run() {
-  const StartupServices services = {platform_.messages,
-                                    platform_.systemInfo,
-                                    reg_,
-                                    data_,
-                                    stations_,
-                                    players_,
-                                    help_,
-                                    strings_,
-                                    messages_,
-                                    {}};
+  const StartupServices services = {.messages = platform_.messages,
+                                    .systemInfo = platform_.systemInfo,
+                                    .reg = reg_,
+                                    .data = data_,
+                                    .stations = stations_,
+                                    .players = players_,
+                                    .help = help_,
+                                    .strings = strings_,
+                                    .messageBox = messages_,
+                                    .storeServiceAddresses = [this] { WriteServiceDefaults(reg_); },
+                                    .proxyFound = [this] { return FindProxy(); }};
   if (!Startup(services, state_, *this).Main()) return 0;
   FinishedLoading();
   return RunMessageLoop();
+}
+
+bool Application::FindProxy() {
+  foundProxy_ = DetectIeProxy(reg_);
+  if (foundProxy_.empty()) foundProxy_ = DetectNetscapeProxy(reg_, platform_.files);
+  return !foundProxy_.empty();
 }
 
 void Application::ShowSplash() {
@@ -93,7 +102,7 @@ void Application::LoadFaceplate() {
 }
 
 void Application::ShowStartUpInfo(StartUpInfoPage page) {
-  frmStartUpInfo(context_, reg_, help_, playerSetup_, page, {}).ShowModal(GetActiveWindow());
+  frmStartUpInfo(context_, reg_, help_, playerSetup_, page, foundProxy_).ShowModal(GetActiveWindow());
 }
 
 void Application::ReadData() {

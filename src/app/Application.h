@@ -65,6 +65,7 @@ class Application final : private StartupView, private LaunchView {
   void AddQuestions(MainWindowCalls& calls);
   void AddStationDialogs(MainWindowCalls& calls);
   void ReadData();
+  bool FindProxy();
   void FinishedLoading();
   std::vector<std::string> GroupNames() const;
   void ShowScan();
@@ -85,6 +86,7 @@ class Application final : private StartupView, private LaunchView {
   CReg reg_;
   ScramblingAlphabets alphabets_;
   bool alphabetRefused_ = false;
+  std::string foundProxy_;  // "host:port" that the user's browsers are set to
   StatList stations_;
   PersonalStations personal_;
   ExtraLinks extra_;

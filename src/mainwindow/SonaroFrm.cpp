@@ -77,6 +77,8 @@ void SonaroFrm::OnLoad() {
     if (slot >= 0) SetToggle(butFavs + slot, true);
   });
   ShowPane(kProgressPane, false);
+  Enable(butUpdate, calls_.showUpdate != nullptr);
+  Enable(butOptions, calls_.showOptions != nullptr);
   status_.ShowGuide();
   models_.listing.ShowRanking(Ranking::MostPop);
   ShowEverything();
@@ -203,7 +205,14 @@ void SonaroFrm::SortBy(int command) {
   list_.ShowRows();
 }
 
-void SonaroFrm::butMenu_Click() { PopUpMenuUnder(models_.actions.ProgramMenu(), butMenu); }
+void SonaroFrm::butMenu_Click() {
+  std::vector<MenuEntry> menu = models_.actions.ProgramMenu();
+  for (MenuEntry& entry : menu) {
+    if (entry.command == mnuUpdate) entry.enabled = calls_.showUpdate != nullptr;
+    if (entry.command == mnuOptions) entry.enabled = calls_.showOptions != nullptr;
+  }
+  PopUpMenuUnder(menu, butMenu);
+}
 
 void SonaroFrm::butHelp_Click() {
   if (calls_.openHelpPage) calls_.openHelpPage(kHelpStartPage);
