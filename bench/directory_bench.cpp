@@ -363,7 +363,7 @@ Options ParseOptions(int argc, char** argv) {
 
 // The real list has no planted words: these are what people look for.
 std::vector<Query> RealQueries() {
-  return {{"absent word", {"sotaxyz"}, true},
+  return {{"absent word", {"mokerlag"}, true},
           {"rare word", {"reggaeton"}, true},
           {"common word", {"music"}, true},
           {"3 words, all", {"radio", "rock", "germany"}, true},

@@ -29,11 +29,14 @@ std::string MakeWord(Random& random) {
   return word;
 }
 
-// Words that the vocabulary cannot contain by chance, but with the letters of all others.
+// Words of the same letters as all others that the vocabulary does not contain, other than by chance.
 std::string Planted(std::size_t number) {
-  std::string word = "sota";
-  for (std::size_t n = number + 7; n > 0; n /= 5) word += kSyllables[n % 5 * 4 + 2];
-  return word + "qu";
+  constexpr const char* kParts[] = {"mo", "lir", "sa", "ker", "nu", "ded", "pi", "lag", "fo", "rus"};
+  constexpr std::size_t kCount = std::size(kParts);
+  const std::size_t first = number % kCount;
+  const std::size_t second = number / kCount % kCount;
+  const std::size_t third = (first + second + number / (kCount * kCount) * 5 + 2) % kCount;
+  return std::string(kParts[first]) + kParts[second] + kParts[third];
 }
 
 struct Vocabulary {
@@ -106,7 +109,7 @@ std::string SyntheticList(std::uint32_t count, ListOrder order) {
 }
 
 std::vector<Query> SyntheticQueries() {
-  return {{"absent word", {"sotaxyz"}, true},           {"rare word", PlantedFrom(0, 1), true},
+  return {{"absent word", {"mokernu"}, true},          {"rare word", PlantedFrom(0, 1), true},
           {"common word", PlantedFrom(1, 1), true},     {"3 words, all", PlantedFrom(2, 3), true},
           {"20 words, any", PlantedFrom(5, 20), false}, {"100 words, any", PlantedFrom(5, 100), false}};
 }

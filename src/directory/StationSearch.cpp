@@ -5,6 +5,7 @@
 
 #include "base/Text.h"
 #include "directory/WordFinder.h"
+#include "directory/WordSetFinder.h"
 
 namespace sonaro {
 namespace {
@@ -36,18 +37,20 @@ class RecordCursor {
   std::size_t record_;
 };
 
-std::vector<WordFinder> FindersFor(const SearchColumn& column, const std::vector<std::string>& words) {
-  const ByteFrequencies frequencies(column.text);
-  std::vector<WordFinder> finders;
+// The words as they stand in a column. Tabs divide it: no field that is searched holds a word with one.
+std::vector<std::string> FoldedWords(const std::vector<std::string>& words) {
+  std::vector<std::string> folded;
   for (const std::string& word : words) {
-    // Tabs divide the column; no field that is searched holds one.
-    if (word.find(kFieldSeparator) == std::string::npos) finders.emplace_back(FoldCase(word), frequencies);
+    if (word.find(kFieldSeparator) == std::string::npos) folded.push_back(FoldCase(word));
   }
-  return finders;
+  return folded;
 }
 
 // The rarest word leads through the column; the others are looked for only in the records where it stands.
-std::vector<std::uint32_t> FindAll(const SearchColumn& column, std::vector<WordFinder> finders) {
+std::vector<std::uint32_t> FindAll(const SearchColumn& column, const std::vector<std::string>& words) {
+  const ByteFrequencies frequencies(column.text);
+  std::vector<WordFinder> finders;
+  for (const std::string& word : words) finders.emplace_back(word, frequencies);
   std::sort(finders.begin(), finders.end(),
             [](const WordFinder& a, const WordFinder& b) { return a.Commonness() < b.Commonness(); });
   std::vector<std::uint32_t> records;
@@ -63,22 +66,42 @@ std::vector<std::uint32_t> FindAll(const SearchColumn& column, std::vector<WordF
   return records;
 }
 
-// Word after word over a part of the column at a time, which stays in the cache meanwhile.
-std::vector<std::uint32_t> FindAny(const SearchColumn& column, const std::vector<WordFinder>& finders) {
-  constexpr std::size_t kRecordsAtOnce = 1024;
+constexpr std::size_t kRecordsAtOnce = 1024;
+using Matches = std::bitset<kRecordsAtOnce>;
+
+// Marks the records from `first` to before `last` in which the finder finds something.
+template <typename Finder>
+void Mark(const Finder& finder, const SearchColumn& column, std::size_t first, std::size_t last,
+          Matches& matches) {
+  const char* const end = column.text.data() + column.starts[last];
+  RecordCursor cursor(column, first);
+  for (const char* at = cursor.Begin(); (at = finder.Find(at, end)) != end; at = cursor.End()) {
+    cursor.MoveTo(at);
+    matches.set(cursor.Record() - first);
+  }
+}
+
+// Word after word over a part of the column at a time, which stays in the cache meanwhile; many words
+// together.
+std::vector<std::uint32_t> FindAny(const SearchColumn& column, const std::vector<std::string>& words) {
+  constexpr std::size_t kManyWords = 24;
+  const ByteFrequencies frequencies(column.text);
+  std::vector<WordFinder> finders;
+  WordSetFinder together;
+  for (const std::string& word : words) {
+    if (words.size() >= kManyWords && word.size() >= WordSetFinder::kShortestWord) {
+      together.Add(word, frequencies);
+    } else {
+      finders.emplace_back(word, frequencies);
+    }
+  }
   const std::size_t count = column.starts.size() - 1;
   std::vector<std::uint32_t> records;
   for (std::size_t first = 0; first < count; first += kRecordsAtOnce) {
     const std::size_t last = std::min(first + kRecordsAtOnce, count);
-    std::bitset<kRecordsAtOnce> matches;
-    const char* const end = column.text.data() + column.starts[last];
-    for (const WordFinder& finder : finders) {
-      RecordCursor cursor(column, first);
-      for (const char* at = cursor.Begin(); (at = finder.Find(at, end)) != end; at = cursor.End()) {
-        cursor.MoveTo(at);
-        matches.set(cursor.Record() - first);
-      }
-    }
+    Matches matches;
+    for (const WordFinder& finder : finders) Mark(finder, column, first, last, matches);
+    if (together.Count() != 0) Mark(together, column, first, last, matches);
     for (std::size_t i = 0; i < last - first; ++i) {
       if (matches[i]) records.push_back(static_cast<std::uint32_t>(first + i));
     }
@@ -101,9 +124,9 @@ std::vector<std::string> SearchWords(std::string_view text) {
 std::vector<std::uint32_t> FindRecords(const SearchColumn& column, const std::vector<std::string>& words,
                                        bool allWords) {
   if (column.text.empty()) return {};
-  const std::vector<WordFinder> finders = FindersFor(column, words);
-  if (finders.empty() || (allWords && finders.size() < words.size())) return {};
-  return allWords ? FindAll(column, finders) : FindAny(column, finders);
+  const std::vector<std::string> folded = FoldedWords(words);
+  if (folded.empty() || (allWords && folded.size() < words.size())) return {};
+  return allWords ? FindAll(column, folded) : FindAny(column, folded);
 }
 
 }  // namespace sonaro

@@ -8,6 +8,7 @@
 #include "base/Text.h"
 #include "directory/StatList.h"
 #include "directory/WordFinder.h"
+#include "directory/WordSetFinder.h"
 #include "fakes/FakeFiles.h"
 
 namespace sonaro {
@@ -121,7 +122,7 @@ TEST(StationSearch, RandomWordsInRandomStations) {
   std::size_t hits = 0;
   for (int round = 0; round < 100; ++round) {
     std::string query;
-    for (std::size_t words = pick(4) + (round % 50 == 0 ? 110 : 1); words > 0; --words)
+    for (std::size_t words = pick(4) + (round % 10 == 0 ? 26 + pick(90) : 1); words > 0; --words)
       query += text(3) + ' ';
     const bool allWords = pick(2) == 0;
     const std::vector<std::int32_t> expected = directory.Expected(query, allWords);
@@ -148,6 +149,40 @@ TEST(StationSearch, WideAndPlainSearchAgree) {
               finder.FindPlain(padded.data(), end) - padded.data())
         << word << " in " << text;
   }
+}
+
+// Some place of a word is found exactly when one of the words stands in the text, and it is one of theirs.
+TEST(StationSearch, ManyWordsAtOnceAreFoundLikeOneByOne) {
+  std::mt19937 random(4);
+  const auto letters = [&](std::size_t length) {
+    std::string text(length, 'a');
+    for (char& c : text) c = static_cast<char>('a' + random() % 4);
+    return text;
+  };
+  int found = 0;
+  for (int round = 0; round < 2000; ++round) {
+    const std::string text = letters(random() % 60);
+    const ByteFrequencies frequencies(text);
+    WordSetFinder finder;
+    std::vector<std::string> words;
+    for (std::size_t n = 1 + random() % 8; n > 0; --n) {
+      words.push_back(letters(4 + random() % 3));
+      finder.Add(words.back(), frequencies);
+    }
+    const bool stands = std::any_of(words.begin(), words.end(), [&](const std::string& word) {
+      return text.find(word) != std::string::npos;
+    });
+    const std::string padded = text + words[0] + std::string(kColumnPadding, 'a');
+    const char* const end = padded.data() + text.size();
+    const char* const place = finder.Find(padded.data(), end);
+    ASSERT_EQ(place != end, stands) << text;
+    const std::string_view rest(place, static_cast<std::size_t>(end - place));
+    ASSERT_TRUE(!stands || std::any_of(words.begin(), words.end(),
+                                       [&](const std::string& word) { return rest.starts_with(word); }));
+    found += stands ? 1 : 0;
+  }
+  EXPECT_GT(found, 200);
+  EXPECT_LT(found, 1800);
 }
 
 }  // namespace
