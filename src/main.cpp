@@ -1,14 +1,19 @@
 // The program's entry: the real platform, the application, its message loop.
+#include <winsock2.h>
+
 #include <windows.h>
 
 #include <commctrl.h>
 
 #include <string>
 
+#include "app/AppState.h"
 #include "app/Application.h"
 #include "forms/StringTable.h"
+#include "net/HttpFaultText.h"
 #include "platform/win/ClockWin.h"
 #include "platform/win/FilesWin.h"
+#include "platform/win/HttpControlWin.h"
 #include "platform/win/MessagePostWin.h"
 #include "platform/win/RegistryWin.h"
 #include "platform/win/ShellWin.h"
@@ -39,6 +44,9 @@ int WINAPI WinMain(HINSTANCE, HINSTANCE, LPSTR commandLine, int) {
   sonaro::SystemInfoWin systemInfo;
   sonaro::MessagePostWin messages;
   sonaro::StringTable strings;
-  const sonaro::Platform platform = {registry, files, clock, shell, sound, systemInfo, messages};
+  sonaro::HttpControlMakerWin http(
+      std::string("Sonaro/") + sonaro::kVersionText,
+      [&strings](sonaro::HttpFault fault) { return sonaro::HttpFaultText(fault, strings); });
+  const sonaro::Platform platform = {registry, files, clock, shell, sound, systemInfo, messages, http};
   return sonaro::Application(platform, strings, ProgramFolder(), commandLine).Run();
 }

@@ -1,6 +1,7 @@
 #include "app/Application.h"
 
 #include "app/ApplicationSchedule.h"
+#include "app/ApplicationService.h"
 #include "app/InstallId.h"
 #include "app/SettingNames.h"
 #include "app/Strings.h"
@@ -11,7 +12,6 @@
 #include "forms/HighContrast.h"
 #include "forms/MessageLoop.h"
 #include "mainwindow/SonaroFrm.h"
-#include "net/ProxyDetection.h"
 #include "net/ServiceUrlTable.h"
 #include "platform/Sound.h"
 #include "playback/frmScan.h"
@@ -49,7 +49,9 @@ Application::Application(const Platform& platform, const Strings& strings, std::
       shape_(data_),
       context_{strings_, faceplate_, shape_},
       messages_(context_, [this]() -> HelpPages& { return help_; }),
-      tray_(context_, MakeTrayActions()) {
+      tray_(context_, MakeTrayActions()),
+      service_(std::make_unique<ApplicationService>(ApplicationService::Needs{
+          platform_, context_, data_, reg_, strings_, stations_, favorites_, help_})) {
   state_.commandLine = std::move(commandLine);
   player_.SetView(this);
   context_.clickSound = [this] {
@@ -74,16 +76,10 @@ int Application::Run() {
                                     .strings = strings_,
                                     .messageBox = messages_,
                                     .storeServiceAddresses = [this] { WriteServiceDefaults(reg_); },
-                                    .proxyFound = [this] { return FindProxy(); }};
+                                    .proxyFound = [this] { return !service_->DetectProxy().empty(); }};
   if (!Startup(services, state_, *this).Main()) return 0;
   FinishedLoading();
   return RunMessageLoop();
-}
-
-bool Application::FindProxy() {
-  foundProxy_ = DetectIeProxy(reg_);
-  if (foundProxy_.empty()) foundProxy_ = DetectNetscapeProxy(reg_, platform_.files);
-  return !foundProxy_.empty();
 }
 
 void Application::ShowSplash() {
@@ -102,7 +98,9 @@ void Application::LoadFaceplate() {
 }
 
 void Application::ShowStartUpInfo(StartUpInfoPage page) {
-  frmStartUpInfo(context_, reg_, help_, playerSetup_, page, foundProxy_).ShowModal(GetActiveWindow());
+  frmStartUpInfo(context_, reg_, help_, playerSetup_, page,
+                 page == StartUpInfoPage::Proxy ? service_->DetectProxy() : std::string())
+      .ShowModal(GetActiveWindow());
 }
 
 void Application::ReadData() {
@@ -128,6 +126,10 @@ void Application::LoadMainWindow() {
   main_->Create();
   PlaceMainWindow();
   schedule_->SetChanged([this] { main_->ScheduleChanged(); });
+  service_->SetDirectoryChanged([this] {
+    main_->DirectoryChanged();
+    schedule_->DirectoryChanged();
+  });
   main_->BringUpView(WhatToShow(state_.commandLine));
 }
 
@@ -160,6 +162,7 @@ void Application::SayWhyNot(const std::string& sentence) {
 
 void Application::FinishedLoading() {
   tray_.FinishedLoading();
+  service_->RunPendingWork();
   if (!alphabetRefused_) return;
   messages_.Ask({.key = "AlphabetRefused",
                  .caption = strings_.Load(IDS_APP_TITLE),
@@ -174,6 +177,7 @@ TrayActions Application::MakeTrayActions() {
   actions.search = [this] { BringForward("Search"); };
   actions.yourSonaro = [this] { BringForward("YourSonaro"); };
   actions.scan = [this] { ShowScan(); };
+  actions.update = [this] { service_->ShowUpdate(nullptr); };
   actions.schedule = [this] { schedule_->ShowSchedule(nullptr); };
   actions.help = [this] { help_.OpenHelpPage("index.html"); };
   actions.exit = [this] { Exit(); };
@@ -199,6 +203,7 @@ MainWindowCalls Application::MakeMainWindowCalls() {
   calls.scheduleStation = [this](const std::string& rowKey) {
     schedule_->ScheduleStation(main_->Window(), rowKey);
   };
+  calls.showUpdate = [this] { service_->ShowUpdate(main_->Window()); };
   calls.showScan = [this] { ShowScan(); };
   calls.addToScan = [this](const std::vector<std::string>& rowKeys) {
     scan_.Add(rowKeys);

@@ -33,6 +33,7 @@
 namespace sonaro {
 
 class ApplicationSchedule;
+class ApplicationService;
 class SonaroFrm;
 class frmScan;
 class frmSplash;
@@ -65,7 +66,6 @@ class Application final : private StartupView, private LaunchView {
   void AddQuestions(MainWindowCalls& calls);
   void AddStationDialogs(MainWindowCalls& calls);
   void ReadData();
-  bool FindProxy();
   void FinishedLoading();
   std::vector<std::string> GroupNames() const;
   void ShowScan();
@@ -86,7 +86,6 @@ class Application final : private StartupView, private LaunchView {
   CReg reg_;
   ScramblingAlphabets alphabets_;
   bool alphabetRefused_ = false;
-  std::string foundProxy_;  // "host:port" that the user's browsers are set to
   StatList stations_;
   PersonalStations personal_;
   ExtraLinks extra_;
@@ -106,6 +105,7 @@ class Application final : private StartupView, private LaunchView {
   frmSysTrayMenu tray_;
   std::unique_ptr<frmSplash> splash_;
   std::unique_ptr<ApplicationSchedule> schedule_;
+  std::unique_ptr<ApplicationService> service_;
   std::unique_ptr<frmScan> scanWindow_;
   std::unique_ptr<SonaroFrm> main_;
 };

@@ -203,7 +203,14 @@ inline constexpr int lblDay = 2483;
 inline constexpr int lblMonthYear = 2484;
 inline constexpr int butToday = 2485;
 
-// frmInetUpdate, frmTestProxy: 2601 to 2699.
+// frmInetUpdate, the update dialog, frmTestProxy: 2601 to 2699.
+inline constexpr int tmrInetStuff = 2601;
+inline constexpr int prgUpdate = 2602;
+inline constexpr int lblCheckAddress = 2611;
+inline constexpr int lblCheckPort = 2612;
+inline constexpr int lblStatusInfo = 2613;
+inline constexpr int lblProxyStuff = 2614;
+inline constexpr int tmrSock = 2615;
 
 // frmOptions: 2701 to 2799.
 

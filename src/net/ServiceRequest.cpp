@@ -18,6 +18,11 @@ constexpr std::int64_t kLastPort = 65535;
 
 bool UsesProxy(const CReg& reg) { return IsYes(reg.Setting(setting::kProxyUse)); }
 
+std::uint16_t PortOf(std::string_view text) {
+  const std::int64_t port = IsNumeric(text) ? NumberValue(text) : 0;
+  return port >= 1 && port <= kLastPort ? static_cast<std::uint16_t>(port) : kUsualPort;
+}
+
 // What follows the first "//"; nothing when there is none.
 std::string_view BehindScheme(std::string_view url) {
   const std::size_t slashes = url.find("//");
@@ -40,10 +45,7 @@ std::string RequestTargetFor(const CReg& reg, std::string_view url) {
 }
 
 std::uint16_t ProxyPortSetting(const CReg& reg) {
-  if (!UsesProxy(reg)) return kUsualPort;
-  const std::string text = reg.Setting(setting::kProxyPort);
-  const std::int64_t port = IsNumeric(text) ? NumberValue(text) : 0;
-  return port >= 1 && port <= kLastPort ? static_cast<std::uint16_t>(port) : kUsualPort;
+  return UsesProxy(reg) ? PortOf(reg.Setting(setting::kProxyPort)) : kUsualPort;
 }
 
 std::string ProxyProperty(std::string_view host, std::string_view port) {
@@ -62,6 +64,15 @@ ServiceRequest BuildServiceRequest(const CReg& reg, std::string_view url, std::s
 void Send(const ServiceRequest& request, HttpControl& http, HttpEvents& events) {
   http.SetProxy(request.proxy);
   http.Request(request.host, request.port, request.requestText, events);
+}
+
+ServiceRequest BuildProxyTest(std::string_view address, std::string_view port, std::string_view url) {
+  ServiceRequest request;
+  request.host = TrimBlanks(address);
+  request.port = PortOf(port);
+  request.requestText = std::string("GET ").append(url);
+  request.proxy = ProxyProperty(request.host, std::to_string(request.port));
+  return request;
 }
 
 std::string QueryStart(const CReg& reg) {

@@ -6,6 +6,7 @@ namespace sonaro {
 
 class Clock;
 class Files;
+class HttpControlMaker;
 class MessagePost;
 class Registry;
 class Shell;
@@ -20,6 +21,7 @@ struct Platform {
   Sound& sound;
   SystemInfo& systemInfo;
   MessagePost& messages;
+  HttpControlMaker& http;
 };
 
 }  // namespace sonaro

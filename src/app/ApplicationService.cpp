@@ -1,0 +1,95 @@
+#include "app/ApplicationService.h"
+
+#include "app/CReg.h"
+#include "app/HelpPages.h"
+#include "app/SettingNames.h"
+#include "base/DataFolder.h"
+#include "base/Text.h"
+#include "mainwindow/FavoriteGroups.h"
+#include "net/ProxyDetection.h"
+#include "net/UpdateReport.h"
+#include "net/WhatIsNew.h"
+#include "net/frmInetUpdate.h"
+#include "net/frmTestProxy.h"
+#include "net/frmUpdateDialog.h"
+#include "playback/StationKey.h"
+
+namespace sonaro {
+
+ApplicationService::ApplicationService(const Needs& needs)
+    : needs_(needs), install_(needs.data, needs.reg, needs.stations) {}
+
+ApplicationService::~ApplicationService() = default;
+
+UpdateNeeds ApplicationService::MakeUpdateNeeds() {
+  return {needs_.reg, needs_.data, needs_.strings, install_, needs_.platform.http, {}};
+}
+
+void ApplicationService::ShowUpdate(HWND owner) {
+  if (dialog_ && dialog_->IsOpen()) {
+    dialog_->Show(owner);
+    return;
+  }
+  if (background_) background_->Cancel();
+  UpdateDialogCalls calls;
+  calls.begin = [this](UpdateOpener opener) { return BeginWatched(std::move(opener)); };
+  calls.installed = [this] { return Installed(); };
+  calls.canUndo = [this] { return install_.CanUndo(); };
+  calls.undo = [this] { return Undo(); };
+  calls.help = [this] { needs_.help.OpenHelpPage("index.html"); };
+  dialog_ = std::make_unique<frmUpdateDialog>(needs_.context, std::move(calls));
+  dialog_->Show(owner);
+}
+
+std::unique_ptr<frmInetUpdate> ApplicationService::BeginWatched(UpdateOpener opener) {
+  return std::make_unique<frmInetUpdate>(needs_.context, MakeUpdateNeeds(), caller::kUpdateDialog,
+                                         kInstallAndRebuild, std::move(opener));
+}
+
+void ApplicationService::RunPendingWork() {
+  if (!StationListIsDue(needs_.reg)) return;
+  UpdateOpener opener;
+  opener.finished = [this](const UpdateOutcome& outcome) {
+    if (outcome.kind == UpdateOutcome::Kind::Updated && directoryChanged_) directoryChanged_();
+  };
+  background_ = std::make_unique<frmInetUpdate>(needs_.context, MakeUpdateNeeds(), caller::kBackground,
+                                                kInstallAndRebuild, std::move(opener));
+  background_->Load();
+}
+
+std::string ApplicationService::Installed() {
+  if (directoryChanged_) directoryChanged_();
+  const ReadResult before = needs_.data.Read("\\previous.snr");
+  const ReadResult now = needs_.data.Read("\\Station.snr");
+  if (before.status != ReadStatus::Ok || now.status != ReadStatus::Ok) return {};
+  return DescribeUpdate(CompareStationLists(before.bytes, now.bytes, StationsOfGroups()), needs_.strings);
+}
+
+bool ApplicationService::Undo() {
+  const bool undone = install_.UndoLastUpdate();
+  if (undone && directoryChanged_) directoryChanged_();
+  return undone;
+}
+
+std::vector<std::int32_t> ApplicationService::StationsOfGroups() const {
+  std::vector<std::int32_t> ids;
+  for (std::size_t group = 0; group < needs_.favorites.Count(); ++group) {
+    for (const std::string_view token : needs_.favorites.Tokens(group)) {
+      const StationKey key = StationKey::FromToken(token);
+      if (key.kind == StationKey::Kind::Directory) ids.push_back(key.number);
+    }
+  }
+  return ids;
+}
+
+void ApplicationService::TestProxy(HWND owner, const std::string& address, const std::string& port) {
+  frmTestProxy(needs_.context, needs_.reg, needs_.platform.http, address, port).ShowModal(owner);
+}
+
+std::string ApplicationService::DetectProxy() {
+  if (IsYes(needs_.reg.Setting(setting::kProxyUse))) return {};
+  const std::string proxy = DetectIeProxy(needs_.reg);
+  return proxy.empty() ? DetectNetscapeProxy(needs_.reg, needs_.platform.files) : proxy;
+}
+
+}  // namespace sonaro

@@ -1,0 +1,69 @@
+// The exchange with the service as a whole: updates of the directory with and without a dialog, the proxy's
+// test, and the options that have to do with them. Owned by Application.
+#pragma once
+
+#include <functional>
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "forms/Form.h"
+#include "net/UpdateExchange.h"
+#include "net/UpdateInstall.h"
+#include "platform/Platform.h"
+
+namespace sonaro {
+
+class CReg;
+class DataFolder;
+class FavoriteGroups;
+class HelpPages;
+class StatList;
+class Strings;
+class frmInetUpdate;
+class frmUpdateDialog;
+struct UpdateOpener;
+
+class ApplicationService {
+ public:
+  struct Needs {
+    const Platform& platform;
+    FormContext& context;
+    DataFolder& data;
+    CReg& reg;
+    const Strings& strings;
+    StatList& stations;
+    const FavoriteGroups& favorites;
+    HelpPages& help;
+  };
+
+  explicit ApplicationService(const Needs& needs);
+  ~ApplicationService();
+
+  // Called after the station list was replaced.
+  void SetDirectoryChanged(std::function<void()> changed) { directoryChanged_ = std::move(changed); }
+
+  // The update dialog; an update that runs unwatched makes way for it.
+  void ShowUpdate(HWND owner);
+  // Once, when the program has finished loading: an update that is on the to-do list, unwatched.
+  void RunPendingWork();
+  void TestProxy(HWND owner, const std::string& address, const std::string& port);
+
+  // "host:port" of the proxy that a browser is set to, or "". Nothing when a proxy is in use already.
+  std::string DetectProxy();
+
+ private:
+  UpdateNeeds MakeUpdateNeeds();
+  std::unique_ptr<frmInetUpdate> BeginWatched(UpdateOpener opener);
+  std::string Installed();
+  bool Undo();
+  std::vector<std::int32_t> StationsOfGroups() const;
+
+  Needs needs_;
+  UpdateInstall install_;
+  std::function<void()> directoryChanged_;
+  std::unique_ptr<frmUpdateDialog> dialog_;
+  std::unique_ptr<frmInetUpdate> background_;
+};
+
+}  // namespace sonaro

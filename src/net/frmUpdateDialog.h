@@ -1,0 +1,56 @@
+// The message box that an update is watched in: how far it is, what came of it, Retry, Cancel and Close, and
+// the way back to the list before the last update. It registers the message box's window class, which is how
+// the update's opener is known.
+#pragma once
+
+#include <functional>
+#include <memory>
+#include <string>
+
+#include "forms/Form.h"
+#include "net/UpdateExchange.h"
+
+namespace sonaro {
+
+class Strings;
+class frmInetUpdate;
+struct UpdateOpener;
+
+struct UpdateDialogCalls {
+  // Begins an update that reports to the dialog.
+  std::function<std::unique_ptr<frmInetUpdate>(UpdateOpener opener)> begin;
+  std::function<std::string()> installed;  // the directory has changed: returns the report on it
+  std::function<bool()> canUndo;
+  std::function<bool()> undo;
+  std::function<void()> help;
+};
+
+class frmUpdateDialog final : public Form {
+ public:
+  frmUpdateDialog(FormContext& context, UpdateDialogCalls calls);
+  ~frmUpdateDialog() override;
+
+ private:
+  enum class Offer { Nothing, Retry, Undo };
+
+  static const FormDesign& Design();
+  std::span<const EventRow> Events() const override;
+  void OnLoad() override { Begin(); }
+  void OnUnload() override;
+  void Begin();
+  void Ended(const UpdateOutcome& outcome);
+  void SetOffer(Offer offer);
+  void ShowBytes(std::uint64_t bytes, std::uint64_t expected);
+
+  void butMsg_Click();
+  void butCancel_Click() { Close(); }
+  void butHelp_Click() { calls_.help(); }
+
+  const Strings& strings_;
+  UpdateDialogCalls calls_;
+  std::unique_ptr<frmInetUpdate> update_;
+  Offer offer_ = Offer::Nothing;
+  bool unloading_ = false;
+};
+
+}  // namespace sonaro
