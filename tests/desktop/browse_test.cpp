@@ -100,14 +100,16 @@ class GroupTest : public BrowseTest {
     HWND dialog = Sonaro().WaitForShownWindow("frmNewFavorite");
     ASSERT_NE(dialog, nullptr) << name;
     SetText(Control(dialog, txtGroupName), name);
+    ASSERT_TRUE(WaitUntil([&] { return IsWindowEnabled(Control(dialog, butOKIt)) != FALSE; }));
     Click(Control(dialog, butOKIt));
-    ASSERT_TRUE(WaitUntil([&] { return !IsShown(dialog); }));
+    // Until the dialog is gone the main window takes no command.
+    ASSERT_TRUE(WaitUntil([&] { return !IsShown(dialog) && IsWindowEnabled(main) != FALSE; }));
   }
-  void AnswerBox(int button) {
+  void AnswerBox(HWND main, int button) {
     HWND box = Sonaro().WaitForShownWindow("MsgboxFrm");
     ASSERT_NE(box, nullptr);
     Click(Control(box, button));
-    ASSERT_TRUE(WaitUntil([&] { return !IsShown(box); }));
+    ASSERT_TRUE(WaitUntil([&] { return !IsShown(box) && IsWindowEnabled(main) != FALSE; }));
   }
 };
 
@@ -123,7 +125,7 @@ TEST_F(GroupTest, GroupsLiveFromTheFirstToTheRefusedEleventh) {
   }
   EXPECT_EQ(TextOf(Control(main, butFavs + 9)), "Group 10");
   Command(main, mnuFavoritesAdd);
-  AnswerBox(butMsg);
+  AnswerBox(main, butMsg);
   EXPECT_EQ(ReadFile("favs.snr"), file);
 
   const std::string name = CellText(List(main), 0);
@@ -134,7 +136,7 @@ TEST_F(GroupTest, GroupsLiveFromTheFirstToTheRefusedEleventh) {
   EXPECT_EQ(ColumnTexts(List(main)), std::vector<std::string>{name});
   SaveShot("group");
   Command(main, mnuFavDeleteFav);
-  AnswerBox(butMsg);
+  AnswerBox(main, butMsg);
   EXPECT_TRUE(Listing(main, "Your Recent"));
   EXPECT_EQ(TextOf(Control(main, butFavs + 1)), "Group 3");
 }

@@ -137,6 +137,9 @@ TEST_F(SwapTest, MissingFilesAreSaidAndDecliningEndsTheProgram) {
   SaveShot("files-missing");
   Click(Control(box, butMsg + 1));
   EXPECT_EQ(sonaro.WaitForEnd(), 0u);
+  const auto pages = BrowserLines();
+  ASSERT_EQ(pages.size(), 1u);
+  EXPECT_NE(pages[0].find("/2/9037.html"), std::string::npos) << pages[0];
 }
 
 }  // namespace

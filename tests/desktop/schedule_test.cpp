@@ -31,7 +31,7 @@ TEST_F(ScheduleTest, AnItemIsAddedComesOnPlaysAndIsDeleted) {
   ASSERT_NE(box, nullptr);
   EXPECT_EQ(TextOf(Control(box, lblMsg)), "You Need To Select a Date");
   Click(Control(box, butMsg));
-  ASSERT_TRUE(WaitUntil([&] { return !IsShown(box); }));
+  ASSERT_TRUE(WaitUntil([&] { return !IsShown(box) && IsWindowEnabled(dialog) != FALSE; }));
   EXPECT_TRUE(IsShown(dialog));
 
   SetText(Control(dialog, txtNote), "kettle");
@@ -63,6 +63,7 @@ TEST_F(ScheduleTest, AnItemIsAddedComesOnPlaysAndIsDeleted) {
   })) << "two notices cover one another";
   Click(Control(notice, butCloselIt));
 
+  ASSERT_TRUE(WaitUntil([&] { return IsWindowEnabled(main) != FALSE; }));
   Command(main, mnuSchedule);
   HWND list = Sonaro().WaitForShownWindow("frmSched");
   ASSERT_NE(list, nullptr);
