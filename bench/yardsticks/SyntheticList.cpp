@@ -109,7 +109,7 @@ std::string SyntheticList(std::uint32_t count, ListOrder order) {
 }
 
 std::vector<Query> SyntheticQueries() {
-  return {{"absent word", {"mokernu"}, true},          {"rare word", PlantedFrom(0, 1), true},
+  return {{"absent word", {"mokernu"}, true},           {"rare word", PlantedFrom(0, 1), true},
           {"common word", PlantedFrom(1, 1), true},     {"3 words, all", PlantedFrom(2, 3), true},
           {"20 words, any", PlantedFrom(5, 20), false}, {"100 words, any", PlantedFrom(5, 100), false}};
 }
