@@ -17,6 +17,9 @@ namespace {
 
 constexpr const char* kWindowClass = "SonaroHttp";
 constexpr UINT_PTR kSilenceTimer = 1;
+constexpr UINT_PTR kReadTimer = 2;
+constexpr UINT kReadPause = USER_TIMER_MINIMUM;  // milliseconds
+constexpr int kReadsInARow = 16;
 constexpr UINT kFailMessage = WM_APP;  // first parameter: the request; second: the fault
 constexpr UINT kFirstSocketMessage = WM_APP + 1;
 constexpr UINT kSocketMessages = 4096;  // in turn, so that a late message of an old socket is known
@@ -81,7 +84,7 @@ class HttpControlWin final : public HttpControl {
   void ConnectNext();
   bool TryConnect(const addrinfo& address);
   void SendRest();
-  void ReceiveOnce();
+  void ReceiveSome();
   void ReceiveRest();
   bool Take(int received);  // false when the transfer is over
   void Succeed();
@@ -89,6 +92,10 @@ class HttpControlWin final : public HttpControl {
   void FailSoon(HttpFault fault);
   void Fail(HttpFault fault);
   void RestartSilenceTimer() { SetTimer(window_, kSilenceTimer, silence_, nullptr); }
+  void StopTimers() {
+    KillTimer(window_, kReadTimer);
+    KillTimer(window_, kSilenceTimer);
+  }
   UINT SocketMessage() const { return kFirstSocketMessage + static_cast<UINT>(request_ % kSocketMessages); }
   template <typename Event>
   bool Raise(Event event);
@@ -146,6 +153,8 @@ void HttpControlWin::OnMessage(UINT message, WPARAM first, LPARAM second) {
     NameFound();
   } else if (message == kFailMessage && first == request_) {
     Fail(static_cast<HttpFault>(second));
+  } else if (message == WM_TIMER && first == kReadTimer) {
+    ReceiveSome();
   } else if (message == WM_TIMER && first == kSilenceTimer) {
     Fail(HttpFault::Silent);
   }
@@ -169,7 +178,7 @@ void HttpControlWin::Request(const std::string& host, std::uint16_t port, const 
 void HttpControlWin::Cancel() {
   ++request_;
   events_ = nullptr;
-  KillTimer(window_, kSilenceTimer);
+  StopTimers();
   socket_.Reset();
   next_ = nullptr;
   lookup_.reset();
@@ -232,7 +241,7 @@ void HttpControlWin::OnSocket(WPARAM socket, LPARAM event) {
       SendRest();
       break;
     case FD_READ:
-      ReceiveOnce();
+      SetTimer(window_, kReadTimer, kReadPause, nullptr);
       break;
     case FD_CLOSE:
       if (error != 0) {
@@ -263,13 +272,18 @@ std::array<char, 65536>& ReceiveBuffer() {
   return buffer;
 }
 
-// Once for each message: the next one is posted by the call itself.
-void HttpControlWin::ReceiveOnce() {
+// In a timer's message and only so much: these yield to painting, input and other timers, whereas a fast
+// server's messages, one brought about by each call, would not.
+void HttpControlWin::ReceiveSome() {
+  KillTimer(window_, kReadTimer);
   auto& buffer = ReceiveBuffer();
-  const int received = recv(socket_.Get(), buffer.data(), static_cast<int>(buffer.size()), 0);
-  if (received == 0 || (received < 0 && WSAGetLastError() == WSAEWOULDBLOCK))
-    return;  // the end comes by itself
-  Take(received);
+  for (int reads = 0; reads < kReadsInARow; ++reads) {
+    const int received = recv(socket_.Get(), buffer.data(), static_cast<int>(buffer.size()), 0);
+    if (received == 0 || (received < 0 && WSAGetLastError() == WSAEWOULDBLOCK))
+      return;  // the end comes by itself
+    if (!Take(received)) return;
+  }
+  SetTimer(window_, kReadTimer, kReadPause, nullptr);
 }
 
 // The other side has closed; what it sent before may still be waiting.
@@ -324,7 +338,7 @@ void HttpControlWin::Succeed() {
   const HttpResponse response = std::move(response_);
   HttpEvents& events = *events_;
   socket_.Reset();
-  KillTimer(window_, kSilenceTimer);
+  StopTimers();
   if (!Raise([&](HttpEvents& listener) { listener.HTTPDataReceived(response.Body()); })) return;
   Cancel();
   events.HTTPReady();
@@ -335,7 +349,7 @@ void HttpControlWin::AnsweredOtherwise() {
   const HttpResponse response = std::move(response_);
   HttpEvents& events = *events_;
   socket_.Reset();
-  KillTimer(window_, kSilenceTimer);
+  StopTimers();
   if (!Raise([&](HttpEvents& listener) { listener.HTTPError(response.StatusCode(), response.Headers()); }))
     return;
   Cancel();
