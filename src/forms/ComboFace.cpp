@@ -146,6 +146,14 @@ void DressCombo(FormParts& parts, FormItem& item) {
   if (info.hwndList) SetWindowSubclass(info.hwndList, ListProcedure, 1, reinterpret_cast<DWORD_PTR>(&parts));
 }
 
+void FitOpenList(FormParts& parts, FormItem& item) {
+  const int rows = std::clamp(static_cast<int>(SendMessageW(item.window, CB_GETCOUNT, 0, 0)), 1, kRowsShown);
+  const int frame = 2 * GetSystemMetrics(SM_CYBORDER);
+  SetWindowPos(item.window, nullptr, 0, 0, item.place.Width(),
+               item.place.Height() + rows * parts.painter->Px(kRowHeight) + frame,
+               SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
+}
+
 void SizeCombo(FormParts& parts, FormItem& item) {
   const Painter& painter = *parts.painter;
   const int height = item.place.Height();

@@ -192,6 +192,7 @@ LRESULT HandleComboMessage(FormParts& parts, const FormItem& item, UINT message,
                            LPARAM lParam);
 void DressCombo(FormParts& parts, FormItem& item);
 void SizeCombo(FormParts& parts, FormItem& item);
+void FitOpenList(FormParts& parts, FormItem& item);  // as high as its rows, before it opens
 void PaintComboRow(const FormParts& parts, const DRAWITEMSTRUCT& draw);
 
 }  // namespace sonaro

@@ -97,6 +97,7 @@ void SonaroFrm::ShowView(View view) {
 }
 
 void SonaroFrm::ShowEverything() {
+  const int focused = FocusedControl();
   ShowPanes();
   const ListingState& state = models_.listing.State();
   if (state.view == View::Browse || state.view == View::BrowseLoc) browse_.Show(PersonalCount());
@@ -118,8 +119,10 @@ void SonaroFrm::ShowEverything() {
   }
   if (state.middle == Middle::WebSearch) search_.ShowWebSearch();
   ShowSelection();
-  // What had the focus may have gone with its pane.
-  if (IsShown() && GetForegroundWindow() == Window() && FocusedControl() == 0) Focus(lstFavs);
+  // What had the focus may have gone with its pane; the focus is then wherever the system put it.
+  if (focused != 0 && FocusedControl() != focused) {
+    Focus(state.middle == Middle::EventPage ? lstEvents : lstFavs);
+  }
 }
 
 void SonaroFrm::ShowPanes() {
