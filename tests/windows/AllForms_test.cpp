@@ -1,0 +1,147 @@
+// What must hold for every window of the program, with its real words: FormCheck on each of them.
+#include <gtest/gtest.h>
+
+#include <memory>
+
+#include "app/HelpPages.h"
+#include "app/MsgboxFrm.h"
+#include "app/frmSplash.h"
+#include "directory/Scrambling.h"
+#include "directory/StatList.h"
+#include "fakes/FakeClock.h"
+#include "fakes/FakeMessageBox.h"
+#include "fakes/FakeShell.h"
+#include "forms/StringTable.h"
+#include "mainwindow/MainModels.h"
+#include "mainwindow/MainWindowCalls.h"
+#include "mainwindow/SonaroFrm.h"
+#include "mainwindow/frmExtraLink.h"
+#include "mainwindow/frmNewFavorite.h"
+#include "mainwindow/frmPersonalStation.h"
+#include "mainwindow/frmPickGroup.h"
+#include "playback/PlayerSetup.h"
+#include "playback/Players.h"
+#include "playback/StationScan.h"
+#include "playback/WebPages.h"
+#include "playback/frmScan.h"
+#include "playback/frmScanTime.h"
+#include "schedule/PersonalShows.h"
+#include "schedule/ScheduleCalendar.h"
+#include "schedule/ScheduleServices.h"
+#include "schedule/StationPicker.h"
+#include "schedule/frmAboutEventTime.h"
+#include "schedule/frmDateFinder.h"
+#include "schedule/frmNotify.h"
+#include "schedule/frmSched.h"
+#include "schedule/frmSchedChange.h"
+#include "schedule/frmSelectStation.h"
+#include "tray/frmStartUpInfo.h"
+#include "windows/FormCheck.h"
+#include "windows/FormContextForTests.h"
+#include "windows/Pump.h"
+
+namespace sonaro {
+namespace {
+
+// A program without data: enough for its windows to open.
+struct EmptyProgram {
+  FormContextForTests outside;
+  StringTable words;
+  FormContext forms{words, outside.faceplate, outside.shape};
+  FakeShell shell;
+  FakeClock clock;
+  FakeMessageBox messages;
+  AppState state;
+  DataFolder& folder = outside.folder;
+  CReg& settings = outside.settings;
+  StatList stations{folder};
+  PersonalStations personal{folder};
+  ExtraLinks extra{folder};
+  RecentList recent{folder};
+  FavoriteGroups favorites{folder};
+  StationSource source{stations, personal, BuiltInAlphabets()};
+  Players players{settings, folder, shell};
+  PlayerSetup playerSetup{settings, outside.files, players};
+  WebPages pages{source, folder, shell};
+  HelpPages help{settings, pages};
+  PlayerLaunch player{source, recent, players, pages, words};
+  StationScan scan{settings, clock, player, source, words};
+  ScheduleStore store{folder, "M/d/yyyy"};
+  ScheduleCalendar calendar{store, "M/d/yyyy"};
+  PersonalShows shows{folder, messages, words};
+  StationPicker picker{stations, personal, recent, settings, words};
+  ScheduleServices schedule{store, calendar, shows, picker, clock, outside.files, shell, messages, help};
+  GuideData guide{folder, settings, words, state, stations, personal, extra, recent, favorites, source};
+};
+
+struct NamedForm {
+  const char* name;
+  std::function<std::unique_ptr<Form>(EmptyProgram&)> make;
+};
+
+template <class T, class... Args>
+std::unique_ptr<Form> Make(Args&&... args) {
+  return std::make_unique<T>(std::forward<Args>(args)...);
+}
+
+const NamedForm kForms[] = {
+    {"MsgboxFrm",
+     [](EmptyProgram& p) {
+       return Make<MsgboxFrm>(p.forms, p.help,
+                              Message{"QuickStart", "Files Missing", "Get the missing files now?",
+                                      "Get Files", "Cancel", "Don't ask again"});
+     }},
+    {"frmSplash", [](EmptyProgram& p) { return Make<frmSplash>(p.forms); }},
+    {"SonaroFrm",
+     [](EmptyProgram& p) { return Make<SonaroFrm>(p.forms, p.guide, p.player, p.pages, MainWindowCalls{}); }},
+    {"frmExtraLink",
+     [](EmptyProgram& p) {
+       return Make<frmExtraLink>(p.forms, p.extra, p.messages, 1, std::string("Jazz"));
+     }},
+    {"frmNewFavorite", [](EmptyProgram& p) { return Make<frmNewFavorite>(p.forms, p.help); }},
+    {"frmPersonalStation",
+     [](EmptyProgram& p) {
+       return Make<frmPersonalStation>(p.forms, p.personal, p.messages, p.help, PersonalStation{});
+     }},
+    {"frmPickGroup",
+     [](EmptyProgram& p) {
+       return Make<frmPickGroup>(p.forms, std::string("Jazz"), std::vector<std::string>{"Morning"});
+     }},
+    {"frmScan", [](EmptyProgram& p) { return Make<frmScan>(p.forms, p.scan, p.help, frmScan::Groups{}); }},
+    {"frmScanTime", [](EmptyProgram& p) { return Make<frmScanTime>(p.forms, 30); }},
+    {"frmAboutEventTime",
+     [](EmptyProgram& p) { return Make<frmAboutEventTime>(p.forms, p.clock, p.shell, p.help); }},
+    {"frmDateFinder",
+     [](EmptyProgram& p) {
+       return Make<frmDateFinder>(p.forms, p.help, Date{2026, 11, 26}, Date{2026, 12, 24});
+     }},
+    {"frmNotify",
+     [](EmptyProgram& p) {
+       return Make<frmNotify>(p.forms, NotifyActions{}, Notification{.eventName = "Long Wave Theatre"});
+     }},
+    {"frmSched", [](EmptyProgram& p) { return Make<frmSched>(p.forms, p.schedule); }},
+    {"frmSchedChange",
+     [](EmptyProgram& p) { return Make<frmSchedChange>(p.forms, p.schedule, ScheduleDraft{}); }},
+    {"frmSelectStation", [](EmptyProgram& p) { return Make<frmSelectStation>(p.forms, p.picker, p.help); }},
+    {"frmStartUpInfo",
+     [](EmptyProgram& p) {
+       return Make<frmStartUpInfo>(p.forms, p.settings, p.help, p.playerSetup, StartUpInfoPage::NoPlayer,
+                                   std::string());
+     }},
+};
+
+class EveryForm : public testing::TestWithParam<NamedForm> {};
+
+TEST_P(EveryForm, HoldsWhatHoldsForEveryForm) {
+  EmptyProgram program;
+  const std::unique_ptr<Form> form = GetParam().make(program);
+  ASSERT_TRUE(form->Create());
+  Pump();
+  for (const std::string& problem : ProblemsOf(*form)) ADD_FAILURE() << problem;
+}
+
+INSTANTIATE_TEST_SUITE_P(Program, EveryForm, testing::ValuesIn(kForms),
+                         [](const auto& form) { return std::string(form.param.name); });
+
+}  // namespace
+}  // namespace sonaro
