@@ -15,7 +15,7 @@ constexpr int kMostNameBytes = 100;
 
 FormDesign frmNewFavorite::DesignOf(const char* name, int title) {
   static constexpr ControlRow kControls[] = {
-      {.id = lblTitle, .kind = Kind::TitleBar, .at = {40, 4, 156, 26}},
+      {.id = lblTitle, .kind = Kind::TitleBar, .at = {40, 4, 300, 26}},
       {.kind = Kind::Label,
        .text = IDS_DLG_GROUP_NAME,
        .at = {14, 60, 392, 24},

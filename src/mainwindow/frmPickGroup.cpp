@@ -7,7 +7,7 @@ namespace sonaro {
 
 const FormDesign& frmPickGroup::Design() {
   static constexpr ControlRow kControls[] = {
-      {.id = lblTitle, .kind = Kind::TitleBar, .text = IDS_DLG_PICK_TITLE, .at = {40, 4, 156, 26}},
+      {.id = lblTitle, .kind = Kind::TitleBar, .text = IDS_DLG_PICK_TITLE, .at = {40, 4, 300, 26}},
       {.kind = Kind::Label,
        .text = IDS_DLG_PICK_STATION,
        .at = {14, 48, 90, 28},

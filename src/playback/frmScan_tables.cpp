@@ -108,7 +108,7 @@ const FormDesign& frmScan::Design() {
        .icon = Icon::Help},
       {.id = butCloseIt,
        .kind = Kind::StripKey,
-       .text = IDS_SCAN_W_CLOSE,
+       .text = IDS_APP_CLOSE,
        .at = {680, 12, 28, 22},
        .icon = Icon::Close},
       // Its text is set by whoever adds stations; it is never shown.

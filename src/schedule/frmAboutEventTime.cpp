@@ -47,7 +47,7 @@ const FormDesign& frmAboutEventTime::Design() {
       {.id = lblChange,
        .kind = Kind::Label,
        .text = IDS_SCHED_TIME_WRONG,
-       .at = {14, 202, 130, 28},
+       .at = {14, 201, 130, 32},
        .flags = kWrap,
        .type = Type::Small},
       {.id = lblChangeIt, .kind = Kind::PushKey, .text = IDS_SCHED_TIME_CHANGE, .at = {148, 202, 150, 28}},

@@ -1,6 +1,7 @@
 // What must hold for every window of the program, with its real words: FormCheck on each of them.
 #include <gtest/gtest.h>
 
+#include <functional>
 #include <memory>
 
 #include "app/HelpPages.h"
@@ -19,8 +20,10 @@
 #include "mainwindow/frmNewFavorite.h"
 #include "mainwindow/frmPersonalStation.h"
 #include "mainwindow/frmPickGroup.h"
+#include "playback/PlayerLaunch.h"
 #include "playback/PlayerSetup.h"
 #include "playback/Players.h"
+#include "playback/RecentList.h"
 #include "playback/StationScan.h"
 #include "playback/WebPages.h"
 #include "playback/frmScan.h"
@@ -28,6 +31,7 @@
 #include "schedule/PersonalShows.h"
 #include "schedule/ScheduleCalendar.h"
 #include "schedule/ScheduleServices.h"
+#include "schedule/ScheduleStore.h"
 #include "schedule/StationPicker.h"
 #include "schedule/frmAboutEventTime.h"
 #include "schedule/frmDateFinder.h"

@@ -60,9 +60,11 @@ class Check {
       wchar_t name[32] = {};
       GetClassNameW(item.Window(), name, 32);
       if (std::wstring(name) != L"Button") Add(item, "is not a button");
-      if (item.KindOf() != Kind::GroupKey && GetWindowTextLengthW(item.Window()) == 0)
+      if (item.KindOf() != Kind::GroupKey && item.shown && GetWindowTextLengthW(item.Window()) == 0)
         Add(item, "has no text");
-      if (IsKey(item.KindOf()) && !parts_.IsBound(item.Id(), FormEvent::Kind::Click))
+      const bool heading =
+          item.KindOf() == Kind::HeaderKey && item.Has(kNoTabStop);  // of a list without sorting
+      if (IsKey(item.KindOf()) && !heading && !parts_.IsBound(item.Id(), FormEvent::Kind::Click))
         Add(item, "does nothing");
     }
   }
