@@ -60,7 +60,7 @@ Notification NotificationFor(const ScheduleItem& item, const StationSource& stat
   Notification shown;
   shown.eventName = SplitItemName(item.name).Shown();
   shown.notice = NoticeText(item, shortDatePattern);
-  shown.note = item.note;
+  shown.note = NoteFromFile(item.note);
   shown.webSite = WebSiteIn(item.name);
   shown.webSiteFirst = OpensWebSite(item.action) && !shown.webSite.empty();
   const StationKey key = StationKey::FromRowKey(StationKeyOf(item.action));

@@ -11,23 +11,7 @@ namespace sonaro {
 
 namespace {
 
-constexpr char kLineBreakInFile = '\v';  // a line of the file holds no line break
 constexpr int kHalfDay = 12;
-
-std::string NoteForFile(std::string_view note) {
-  std::string stored;
-  for (char c : note) {
-    if (c == '\n') stored += kLineBreakInFile;
-    if (c != '\n' && c != '\r') stored += c;
-  }
-  return stored;
-}
-
-std::string NoteFromFile(std::string_view stored) {
-  std::string note;
-  for (char c : stored) note += c == kLineBreakInFile ? std::string("\r\n") : std::string(1, c);
-  return note;
-}
 
 int WeekdayNamed(std::string_view name) {
   for (int day = 0; day < 7; ++day) {

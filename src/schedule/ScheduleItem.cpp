@@ -10,6 +10,7 @@ namespace {
 
 constexpr std::string_view kEventMark = "|||Z|||";
 constexpr std::string_view kWebSiteMark = ">>>>>>";
+constexpr char kLineBreakInFile = '\v';  // a line of the file holds no line break
 constexpr std::array<std::string_view, 7> kDayKeys = {"Mon", "Tue", "Wed", "Thr", "Fri", "Sat", "Sun"};
 
 }  // namespace
@@ -69,6 +70,21 @@ std::string JoinItemName(const ItemName& name) {
   if (name.IsEvent()) joined.append(kEventMark).append(name.station);
   if (!name.webSite.empty()) joined.append(kWebSiteMark).append(name.webSite);
   return joined;
+}
+
+std::string NoteForFile(std::string_view note) {
+  std::string stored;
+  for (char c : note) {
+    if (c == '\n') stored += kLineBreakInFile;
+    if (c != '\n' && c != '\r') stored += c;
+  }
+  return stored;
+}
+
+std::string NoteFromFile(std::string_view stored) {
+  std::string note;
+  for (char c : stored) note += c == kLineBreakInFile ? std::string("\r\n") : std::string(1, c);
+  return note;
 }
 
 std::string ActionText(bool openWebSite, std::string_view stationKey) {

@@ -52,6 +52,10 @@ struct ItemName {
 ItemName SplitItemName(std::string_view nameField);
 std::string JoinItemName(const ItemName& name);
 
+// A note as the user writes it, with lines separated by CR LF, in one line of the file, and back.
+std::string NoteForFile(std::string_view note);
+std::string NoteFromFile(std::string_view stored);
+
 // The action field: the letter ('W' web site, 'N' notice) followed by the station's key ("S1204", "P3", or
 // "").
 std::string ActionText(bool openWebSite, std::string_view stationKey);

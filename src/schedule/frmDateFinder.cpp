@@ -55,7 +55,7 @@ const FormDesign& frmDateFinder::Design() {
 
 std::span<const EventRow> frmDateFinder::Events() const {
   static const EventRow kRows[] = {
-      {calDates, Change, &frmDateFinder::calDates_Change},
+      {calDates, SelChange, &frmDateFinder::calDates_Change},
       {butToday, Click, &frmDateFinder::butToday_Click},
       {butOKIt, Click, &frmDateFinder::butOKIt_Click},
       {butCancelIt, Click, &frmDateFinder::butCancelIt_Click},

@@ -2,6 +2,7 @@
 
 #include "base/DataFolder.h"
 #include "base/Numbers.h"
+#include "directory/EvList.h"
 #include "directory/Scrambling.h"
 #include "directory/StatList.h"
 #include "platform/win/FilesWin.h"
@@ -34,6 +35,17 @@ std::string StationLine(int identifier, const std::string& name, const std::stri
   std::string line = std::to_string(identifier);
   for (const std::string& field : record.fields) line += "\t" + field;
   return line + "\r\n";
+}
+
+bool PutEvents(const std::string& folder, const std::vector<EventRecord>& events) {
+  FilesWin files;
+  DataFolder data(files, folder.substr(0, folder.size() - 1), '\\');
+  EvList table(data);
+  bool written = table.CreateEventTable(EventSet::Current);
+  const EvList::Handle handle = table.OpenEventTable(EventSet::Current, EvList::OpenMode::Write);
+  for (const EventRecord& event : events) written = table.PutEvent(handle, event) && written;
+  table.CloseEventTable(handle);
+  return written;
 }
 
 }  // namespace sonaro::desktop

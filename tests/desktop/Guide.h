@@ -4,6 +4,7 @@
 #include <string>
 #include <vector>
 
+#include "directory/EventRecord.h"
 #include "directory/StationRecord.h"
 
 namespace sonaro::desktop {
@@ -12,5 +13,7 @@ namespace sonaro::desktop {
 StationRecord StationIn(const std::string& folder, const std::string& identifier);
 // A line of "station.snr" for a station with this link text (scrambled here).
 std::string StationLine(int identifier, const std::string& name, const std::string& linkText);
+// Replaces the events of the data folder.
+bool PutEvents(const std::string& folder, const std::vector<EventRecord>& events);
 
 }  // namespace sonaro::desktop

@@ -82,6 +82,17 @@ HWND FindTopWindow(DWORD processId, const std::string& className, const std::str
   return search.found;
 }
 
+std::vector<HWND> ShownWindows(DWORD processId, const std::string& className) {
+  std::vector<HWND> shown;
+  for (HWND window = nullptr;
+       (window = FindWindowExA(nullptr, window, className.c_str(), nullptr)) != nullptr;) {
+    DWORD owner = 0;
+    GetWindowThreadProcessId(window, &owner);
+    if (owner == processId && IsShown(window)) shown.push_back(window);
+  }
+  return shown;
+}
+
 std::vector<HWND> Descendants(HWND window) {
   std::vector<HWND> windows;
   EnumChildWindows(
@@ -134,6 +145,8 @@ void Command(HWND window, int id) { PostMessageA(window, WM_COMMAND, static_cast
 
 void CloseWindowOf(HWND window) { PostMessageA(window, WM_CLOSE, 0, 0); }
 
+void RunTimer(HWND window, int id) { Send(window, WM_TIMER, static_cast<WPARAM>(id)); }
+
 bool IsChecked(HWND button) { return Send(button, BM_GETCHECK) == BST_CHECKED; }
 
 std::vector<std::string> ComboTexts(HWND combo) {
@@ -146,6 +159,22 @@ std::vector<std::string> ComboTexts(HWND combo) {
     texts.emplace_back(text.c_str());
   }
   return texts;
+}
+
+std::string ChosenText(HWND combo) {
+  const LRESULT chosen = Send(combo, CB_GETCURSEL);
+  const std::vector<std::string> texts = ComboTexts(combo);
+  return chosen >= 0 && static_cast<size_t>(chosen) < texts.size() ? texts[static_cast<size_t>(chosen)] : "";
+}
+
+bool ChooseItem(HWND combo, const std::string& text) {
+  const LRESULT found =
+      Send(combo, CB_FINDSTRINGEXACT, static_cast<WPARAM>(-1), reinterpret_cast<LPARAM>(text.c_str()));
+  if (found < 0) return false;
+  Send(combo, CB_SETCURSEL, static_cast<WPARAM>(found));
+  Send(GetParent(combo), WM_COMMAND, MAKEWPARAM(GetDlgCtrlID(combo), CBN_SELCHANGE),
+       reinterpret_cast<LPARAM>(combo));
+  return true;
 }
 
 void PressKey(HWND window, WORD virtualKey, Modifier modifier) {

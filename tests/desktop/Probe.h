@@ -28,6 +28,8 @@ bool WaitUntil(Condition condition, std::chrono::milliseconds limit = std::chron
 // The first top-level window of the process with this class and caption ("" = any), shown or not; null when
 // none.
 HWND FindTopWindow(DWORD processId, const std::string& className, const std::string& caption = "");
+// All top-level windows of the process with this class that are shown.
+std::vector<HWND> ShownWindows(DWORD processId, const std::string& className);
 // The descendant with this number (forms/ControlIds.h); null when there is none.
 HWND Control(HWND window, int id);
 std::vector<HWND> Descendants(HWND window);
@@ -41,6 +43,8 @@ RECT BoundsOf(HWND window);  // on the screen
 void Click(HWND button);
 void Command(HWND window, int id);
 void CloseWindowOf(HWND window);
+// The window's timer comes due at once. Returns when its handler has run.
+void RunTimer(HWND window, int id);
 bool IsChecked(HWND button);
 
 // List views in report style. Rows and columns count from 0.
@@ -60,6 +64,11 @@ void ClickTreeItem(HWND tree, HTREEITEM item);
 
 // Combos and list boxes.
 std::vector<std::string> ComboTexts(HWND combo);
+std::string ChosenText(HWND combo);                    // of a drop-down list
+bool ChooseItem(HWND combo, const std::string& text);  // as a user does, with its notice; false: no such item
+
+// Clicks the day of the month that a month calendar shows; false when it shows no such day.
+bool ClickCalendarDay(HWND calendar, int day);
 
 // The keyboard and the mouse of the display. The window is brought to the front first.
 enum class Modifier { None, Control, Shift, Alt };

@@ -179,4 +179,25 @@ void ClickTreeItem(HWND tree, HTREEITEM item) {
   ClickAt(point.x, point.y);
 }
 
+bool ClickCalendarDay(HWND calendar, int day) {
+  constexpr int kStep = 6;  // smaller than a day's cell
+  RECT face{};
+  GetClientRect(calendar, &face);
+  RemoteMemory memory(calendar);
+  for (POINT at{0, 0}; at.y < face.bottom; at.y += kStep) {
+    for (at.x = 0; at.x < face.right; at.x += kStep) {
+      MCHITTESTINFO hit{};
+      hit.cbSize = sizeof(hit);
+      hit.pt = at;
+      SendMessageA(calendar, MCM_HITTEST, 0, memory.Put(hit));
+      hit = memory.Get<MCHITTESTINFO>();
+      if (hit.uHit != MCHT_CALENDARDATE || hit.st.wDay != day) continue;
+      ClientToScreen(calendar, &at);
+      ClickAt(at.x, at.y);
+      return true;
+    }
+  }
+  return false;
+}
+
 }  // namespace sonaro::desktop
