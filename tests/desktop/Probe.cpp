@@ -7,6 +7,7 @@ namespace sonaro::desktop {
 namespace {
 
 constexpr UINT kAnswerLimitMs = 10000;
+constexpr size_t kComboUnits = 512;
 
 // A message to another process that may be busy or gone: 0 when no answer came.
 LRESULT Send(HWND window, UINT message, WPARAM wParam = 0, LPARAM lParam = 0) {
@@ -153,10 +154,14 @@ std::vector<std::string> ComboTexts(HWND combo) {
   std::vector<std::string> texts;
   const LRESULT count = Send(combo, CB_GETCOUNT);
   for (LRESULT i = 0; i < count; ++i) {
-    const LRESULT length = Send(combo, CB_GETLBTEXTLEN, static_cast<WPARAM>(i), 0);
-    std::string text(static_cast<size_t>(length < 0 ? 0 : length) + 1, '\0');
-    Send(combo, CB_GETLBTEXT, static_cast<WPARAM>(i), reinterpret_cast<LPARAM>(text.data()));
-    texts.emplace_back(text.c_str());
+    std::array<wchar_t, kComboUnits> units{};
+    DWORD_PTR ignored = 0;
+    SendMessageTimeoutW(combo, CB_GETLBTEXT, static_cast<WPARAM>(i), reinterpret_cast<LPARAM>(units.data()),
+                        SMTO_ABORTIFHUNG, kAnswerLimitMs, &ignored);
+    std::array<char, kComboUnits * 4> bytes{};
+    WideCharToMultiByte(CP_UTF8, 0, units.data(), -1, bytes.data(), static_cast<int>(bytes.size()), nullptr,
+                        nullptr);
+    texts.emplace_back(bytes.data());
   }
   return texts;
 }

@@ -14,8 +14,8 @@ constexpr const char* kTimeFormat = "sTimeFormat";
 }  // namespace
 
 void HandClockTest::SetUp() {
-  DesktopTest::SetUp();
   timeFormatBefore_ = ReadText(HKEY_CURRENT_USER, kInternational, kTimeFormat);
+  DesktopTest::SetUp();
   ASSERT_TRUE(clock_.Works()) << "the clock library is not loaded; start these tests by ctest";
   SetTimeFormat("h:mm:ss tt");
   clock_.Set({kThursday, {10, 0, 0}});

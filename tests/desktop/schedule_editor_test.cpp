@@ -1,0 +1,117 @@
+// The schedule's list and its dialogs: adding without a station, changing, deleting, the two clock styles,
+// and what is told after the program was away.
+#include "ScheduleDesk.h"
+#include "forms/ControlIds.h"
+
+namespace sonaro::desktop {
+namespace {
+
+TEST_F(HandClockTest, TheListAddsChangesAndDeletes) {
+  HWND main = MainWithStations();
+  HWND list = OpenList(main);
+  HWND rows = Control(list, lstSched);
+  EXPECT_FALSE(IsWindowEnabled(Control(list, butChangeIt)));
+  EXPECT_FALSE(IsWindowEnabled(Control(list, butDeleteIt)));
+
+  Click(Control(list, butAddIt));
+  HWND dialog = Sonaro().WaitForShownWindow("frmSchedChange");
+  ASSERT_NE(dialog, nullptr);
+  SetText(Control(dialog, txtOneDate), "");
+  ExpectRefusal(dialog, "You Need To Select a Station");  // the station is missed before the date
+  Click(Control(dialog, butSchedIt));
+  HWND picker = Sonaro().WaitForShownWindow("frmSelectStation");
+  ASSERT_NE(picker, nullptr);
+  const auto sources = ComboTexts(Control(picker, cmbSelectGroup));
+  ASSERT_GE(sources.size(), 2u);
+  EXPECT_EQ(sources[sources.size() - 2], "Your Stations");
+  EXPECT_EQ(sources.back(), "Recently Launched Stations");
+  SetText(Control(picker, txtFind), "news");
+  Click(Control(picker, butSearchIt));
+  ASSERT_TRUE(WaitUntil([&] { return RowCount(Control(picker, lstResult)) > 1; }));
+  const std::string name = CellText(Control(picker, lstResult), 1);
+  SelectRow(Control(picker, lstResult), 1);
+  PressOk(picker, dialog);
+  EXPECT_EQ(TextOf(Control(dialog, lblStationToSched)), "Station To Schedule: " + name);
+  ExpectRefusal(dialog, "You Need To Select a Date");
+  EXPECT_FALSE(Exists("Sched.snr"));
+  SetText(Control(dialog, txtOneDate), "6/1/2005");
+  ChooseTime(dialog, "12", "00", "PM");
+  PressOk(dialog, list);
+  ASSERT_TRUE(WaitUntil([&] { return RowCount(rows) == 1; }));
+  EXPECT_EQ(CellText(rows, 0, 0), "Jun 1, 12:00 PM");
+  EXPECT_EQ(CellText(rows, 0, 1), name);
+  EXPECT_EQ(CellText(rows, 0, 2), "at 12:00 PM on 6/1/2005");
+  EXPECT_EQ(CellText(rows, 0, 3), "Notify me ");
+
+  Click(Control(list, butChangeIt));
+  dialog = Sonaro().WaitForShownWindow("frmSchedChange");
+  ASSERT_NE(dialog, nullptr);
+  EXPECT_EQ(TextOf(Control(dialog, txtOneDate)), "June 1 2005 (Wednesday)");
+  EXPECT_EQ(ChosenText(Control(dialog, cmbTimeHour)), "12");
+  EXPECT_EQ(ChosenText(Control(dialog, cmbTimeMinute)), "00");
+  EXPECT_EQ(ChosenText(Control(dialog, cmbTimeAMPM)), "PM");
+  Click(Control(dialog, cmdHowOften + 1));
+  ASSERT_TRUE(WaitUntil([&] { return IsShown(Control(dialog, chkDay)); }));
+  for (int day : {1, 2, 4, 5, 6}) Click(Control(dialog, chkDay + day));
+  SetText(Control(dialog, txtNote), "rehearsal");
+  PressOk(dialog, list);
+  EXPECT_TRUE(WaitUntil([&] { return CellText(rows, 0, 2) == "every Mon, Thr at 12:00 PM"; }));
+  EXPECT_EQ(CellText(rows, 0, 0), "Today 12:00 PM");
+  EXPECT_EQ(CellText(rows, 0, 3), "Notify me - rehearsal");
+  EXPECT_EQ(RowCount(rows), 1);
+  const std::string file = ReadFile("Sched.snr");
+  EXPECT_TRUE(
+      file.ends_with("\t\t12:00 PM\t\tdaily|Mon=-1|Tue=0|Wed=0|Thr=-1|Fri=0|Sat=0|Sun=0|\trehearsal\r\n"))
+      << file;
+
+  Click(Control(list, butDeleteIt));
+  EXPECT_TRUE(WaitUntil([&] { return RowCount(rows) == 0; }));
+  EXPECT_EQ(ReadFile("Sched.snr"), "");
+  TurnTo(11, 59);
+  TurnTo(12, 0);
+  EXPECT_TRUE(Notices().empty());
+}
+
+TEST_F(HandClockTest, WithThe24HourClockThereIsNoHalfOfTheDay) {
+  SetTimeFormat("HH:mm:ss");
+  HWND main = MainWithStations();
+  const std::string name = CellText(Control(main, lstFavs), 0);
+  HWND dialog = ScheduleRow(main, 0);
+  EXPECT_FALSE(IsShown(Control(dialog, cmbTimeAMPM)));
+  const auto hours = ComboTexts(Control(dialog, cmbTimeHour));
+  ASSERT_EQ(hours.size(), 24u);
+  EXPECT_EQ(hours.front(), "0");
+  EXPECT_EQ(hours.back(), "23");
+  Click(Control(dialog, cmdHowOften + 1));
+  ChooseTime(dialog, "0", "05", "");
+  PressOk(dialog, main);
+  EXPECT_NE(ReadFile("Sched.snr").find("\t\t0:05\t\tdaily\t\r\n"), std::string::npos);
+  HWND list = OpenList(main);
+  HWND rows = Control(list, lstSched);
+  ASSERT_TRUE(WaitUntil([&] { return RowCount(rows) == 1; }));
+  EXPECT_EQ(CellText(rows, 0, 0), "Tomorrow 0:05");
+  EXPECT_EQ(CellText(rows, 0, 2), "every day at 0:05");
+  TurnTo(23, 59);
+  TurnTo({{2005, 5, 6}, {0, 4, 0}});
+  ExpectNotice({{2005, 5, 6}, {0, 5, 0}}, "This is your daily 12:05 AM notice for", name);
+}
+
+TEST_F(HandClockTest, WhatCameOnWhileTheProgramWasClosedIsToldTogether) {
+  WriteFile("Sched.snr",
+            "Tea\tN\t\t4:00 PM\t\tdaily\t\r\nOld\tN\t5/2/2005\t4:00 PM\t\tonce\t\r\nCake\tN\t5/5/2005\t5:30 "
+            "PM\t\tonce\t\r\n");
+  StartAndShowMain();
+  TurnTo(10, 1);
+  HWND tray = Sonaro().Window("frmSysTrayMenu");
+  Command(tray, mnuTrayExit);
+  ASSERT_TRUE(Sonaro().WaitForEnd());
+  Clock().Set({kThursday, {18, 0, 0}});
+  SonaroProcess& again = Start();
+  HWND notice = again.WaitForShownWindow("frmNotify");
+  ASSERT_NE(notice, nullptr);
+  EXPECT_EQ(TextOf(Control(notice, txtMissed)), "4:00 PM  Tea\r\n5:30 PM  Cake");
+  EXPECT_FALSE(IsShown(Control(notice, butPlay1It)));
+}
+
+}  // namespace
+}  // namespace sonaro::desktop
