@@ -39,6 +39,7 @@ std::int64_t DaysFromEpoch(const Date& date);  // days since 1 January 1970
 Date DateFromDays(std::int64_t days);
 DateTime AddSeconds(const DateTime& at, std::int64_t seconds);
 std::int64_t SecondsBetween(const DateTime& from, const DateTime& to);
+inline constexpr int kDaysInWeek = 7;
 int Weekday(const Date& date);                 // 0 = Monday ... 6 = Sunday
 std::string_view EnglishDayName(int weekday);  // "Monday" ... "Sunday"; "" outside 0 to 6
 std::string_view EnglishMonthName(int month);  // "January" ... "December"; "" outside 1 to 12

@@ -11,8 +11,6 @@ namespace {
 constexpr std::uint64_t kFirstReserve = 1024 * 1024;  // a length that is only announced is not believed
 constexpr std::size_t kLongestNumber = 15;            // digits, decimal or hexadecimal: far below 64 bits
 
-bool IsDigit(char c) { return c >= '0' && c <= '9'; }
-
 std::string_view TrimWhite(std::string_view text) {
   constexpr std::string_view kWhite = " \t";
   const std::size_t first = text.find_first_not_of(kWhite);

@@ -8,8 +8,6 @@
 namespace sonaro {
 namespace {
 
-bool IsDigit(char c) { return c >= '0' && c <= '9'; }
-
 bool IsSign(char c) { return c == '+' || c == '-'; }
 
 std::string_view TakeDigits(std::string_view& text) {

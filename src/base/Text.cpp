@@ -26,6 +26,14 @@ std::vector<std::string_view> Split(std::string_view text, char separator) {
   return SplitAtMost(text, separator, std::string_view::npos);
 }
 
+std::vector<std::string_view> SplitWords(std::string_view text) {
+  std::vector<std::string_view> words;
+  while (!text.empty()) {
+    if (const std::string_view word = TakeUntil(text, ' '); !word.empty()) words.push_back(word);
+  }
+  return words;
+}
+
 std::vector<std::string_view> SplitAtMost(std::string_view text, char separator, std::size_t count) {
   std::vector<std::string_view> pieces;
   std::size_t cut = 0;

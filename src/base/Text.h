@@ -9,6 +9,9 @@
 
 namespace sonaro {
 
+// Of ASCII, whatever the locale.
+constexpr bool IsDigit(char c) { return c >= '0' && c <= '9'; }
+
 // The text without the blanks (0x20, nothing else) at both ends. The view points into `text`.
 std::string_view TrimBlanks(std::string_view text);
 
@@ -35,6 +38,9 @@ std::vector<std::string_view> SplitLines(std::string_view text);
 
 // Cuts `text` at each `separator`: always one piece more than separators. "" gives one empty piece.
 std::vector<std::string_view> Split(std::string_view text, char separator);
+
+// The words of `text`: what stands between blanks (0x20), none of them empty.
+std::vector<std::string_view> SplitWords(std::string_view text);
 
 // Cuts `text` at its first `count - 1` separators; the last piece takes the rest, separators included.
 std::vector<std::string_view> SplitAtMost(std::string_view text, char separator, std::size_t count);

@@ -9,7 +9,7 @@ namespace {
 char FoldAsciiByte(char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c | 0x20) : c; }
 
 #if SONARO_SSE2
-constexpr std::ptrdiff_t kStep = 16;
+constexpr std::ptrdiff_t kVector = 16;
 
 __m128i Load(const char* at) { return _mm_loadu_si128(reinterpret_cast<const __m128i*>(at)); }
 
@@ -35,11 +35,11 @@ inline void ForEachByte(const char* at, const char* end, char wanted, Found foun
     return false;
   };
   const char* const start = at;
-  for (; end - at >= kStep; at += kStep) {
+  for (; end - at >= kVector; at += kVector) {
     if (report(at, hitsIn(at))) return;
   }
   if (at != start) {  // the last sixteen bytes, without those that were looked at before
-    report(at, hitsIn(end - kStep) >> (kStep - (end - at)));
+    report(at, hitsIn(end - kVector) >> (kVector - (end - at)));
     return;
   }
 #endif
@@ -53,10 +53,10 @@ inline void ForEachByte(const char* at, const char* end, char wanted, Found foun
 const char* SkipWithout(const char* at, const char* end, char wanted) {
   const __m128i pattern = _mm_set1_epi8(wanted);
   const auto hits = [&](const char* from) { return _mm_cmpeq_epi8(Load(from), pattern); };
-  while (end - at >= 4 * kStep &&
-         Mask(_mm_or_si128(_mm_or_si128(hits(at), hits(at + kStep)),
-                           _mm_or_si128(hits(at + 2 * kStep), hits(at + 3 * kStep)))) == 0) {
-    at += 4 * kStep;
+  while (end - at >= 4 * kVector &&
+         Mask(_mm_or_si128(_mm_or_si128(hits(at), hits(at + kVector)),
+                           _mm_or_si128(hits(at + 2 * kVector), hits(at + 3 * kVector)))) == 0) {
+    at += 4 * kVector;
   }
   return at;
 }
@@ -115,12 +115,12 @@ std::size_t CopyFoldedAscii(std::string_view text, char* out) {
     foreign = Mask(bytes);
     return static_cast<std::size_t>(from - start + std::countr_zero(foreign));
   };
-  for (; end - at >= kStep; at += kStep) {
+  for (; end - at >= kVector; at += kVector) {
     const std::size_t ascii = copy(at);
     if (foreign != 0) return ascii;
   }
   if (at != start) {  // the last sixteen bytes; folding some of them again changes nothing
-    const std::size_t ascii = copy(end - kStep);
+    const std::size_t ascii = copy(end - kVector);
     return foreign != 0 ? ascii : text.size();
   }
 #endif

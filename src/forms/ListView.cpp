@@ -14,16 +14,15 @@ namespace sonaro {
 
 namespace {
 
-constexpr UINT_PTR kSubclassId = 1;
-constexpr DWORD kStyle = WS_CHILD | WS_TABSTOP | WS_CLIPSIBLINGS | LVS_REPORT | LVS_OWNERDATA |
-                         LVS_SINGLESEL | LVS_SHOWSELALWAYS | LVS_NOCOLUMNHEADER;
+constexpr DWORD kListStyle = WS_CHILD | WS_TABSTOP | WS_CLIPSIBLINGS | LVS_REPORT | LVS_OWNERDATA |
+                             LVS_SINGLESEL | LVS_SHOWSELALWAYS | LVS_NOCOLUMNHEADER;
 
 }  // namespace
 
 ListView::ListView(HWND form, int id, FormServices& services)
     : services_(services), id_(id), bar_(form, services, [this](int first) { ScrollTo(first); }) {
   list_ =
-      CreateWindowExW(0, WC_LISTVIEWW, L"", kStyle, 0, 0, 0, 0, form,
+      CreateWindowExW(0, WC_LISTVIEWW, L"", kListStyle, 0, 0, 0, 0, form,
                       reinterpret_cast<HMENU>(static_cast<INT_PTR>(id)), GetModuleHandleW(nullptr), nullptr);
   ListView_SetExtendedListViewStyle(list_, LVS_EX_DOUBLEBUFFER | LVS_EX_FULLROWSELECT);
   SetWindowSubclass(list_, &ListView::Subclass, kSubclassId, reinterpret_cast<DWORD_PTR>(this));

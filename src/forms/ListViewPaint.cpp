@@ -10,11 +10,10 @@ namespace sonaro {
 
 namespace {
 
-constexpr int kTextInset = 9;
+constexpr int kCellInset = 9;
 constexpr int kSymbolInset = 9;
 constexpr int kTextAfterSymbol = 28;
-constexpr int kRightGap = 5;
-constexpr int kNeedleBar = 3;
+constexpr int kCellGap = 5;
 // The picture that an empty list shows.
 constexpr int kEmptyWidth = 320;
 constexpr int kEmptyPitch = 8;
@@ -75,8 +74,8 @@ void ListView::PaintCells(HDC dc, int row, const RECT& box, bool selected, bool 
     Color ink = first || selected ? colors.glassText : colors.glassMuted;
     if (selected && focused) ink = colors.rowSelectedText;
     if (model_->IsGreyed(row)) ink = colors.glassMuted;
-    const int inset = look.Px(first && withSymbols_ ? kTextAfterSymbol : kTextInset);
-    const RECT cell = {left + inset, box.top, edges_[i] - look.Px(kRightGap), box.bottom};
+    const int inset = look.Px(first && withSymbols_ ? kTextAfterSymbol : kCellInset);
+    const RECT cell = {left + inset, box.top, edges_[i] - look.Px(kCellGap), box.bottom};
     look.Text(dc, cell, model_->Cell(row, static_cast<int>(i)),
               first && selected ? Type::BodyStrong : Type::Body, ink,
               DT_NOPREFIX | (columns_[i].rightAligned ? DT_RIGHT : 0U));

@@ -15,6 +15,9 @@
 
 namespace sonaro {
 
+// The needle that marks the chosen tab, row or node: the width of its bar, in 96-dpi pixels.
+inline constexpr int kNeedleBar = 3;
+
 constexpr COLORREF ToColorRef(Color color) { return RGB(color.red, color.green, color.blue); }
 
 class Painter {

@@ -8,7 +8,6 @@
 namespace sonaro {
 namespace {
 
-constexpr UINT_PTR kSubclassId = 1;
 constexpr int kSteps = 1000;  // of the control: fine enough for any width
 constexpr int kTickWidth = 2;
 constexpr int kAboveTicks = 4;  // room for the needle

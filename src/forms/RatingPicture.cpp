@@ -10,7 +10,6 @@
 namespace sonaro {
 namespace {
 
-constexpr UINT_PTR kSubclassId = 1;
 constexpr int kFigureTop = 12;  // 96-dpi pixels from the top
 constexpr int kFigureHeight = 22;
 constexpr int kCaptionTop = 44;

@@ -9,14 +9,13 @@ namespace {
 
 // 96-dpi pixels.
 constexpr int kInset = 1;  // of the scale in the dial: its frame
-constexpr int kPitch = 8;
+constexpr int kTickPitch = 8;
 constexpr int kTall = 12;
 constexpr int kShort = 6;
 constexpr int kBelowTicks = 1;
 constexpr int kLabelHeight = 24;
 constexpr int kDividerTop = 5;
 constexpr int kNeedleTop = 27;  // of the bar in the tab
-constexpr int kNeedleBar = 3;
 constexpr int kHeadTop = 23;
 constexpr int kHeadWidth = 11;
 constexpr int kHeadHeight = 7;
@@ -24,7 +23,7 @@ constexpr int kHeadHeight = 7;
 // The ticks of the dial between two pixels counted from the scale's start, which lies at pixel `origin`.
 void PaintTicks(HDC dc, int origin, int from, int to, int bottom, int width, Color color,
                 const Painter& painter) {
-  const int pitch = painter.Px(kPitch);
+  const int pitch = painter.Px(kTickPitch);
   for (int tick = std::max(0, (from + pitch - 1) / pitch); tick * pitch < to; ++tick) {
     const int height = painter.Px(tick % 5 == 0 ? kTall : kShort);
     const int x = origin + tick * pitch;

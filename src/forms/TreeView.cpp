@@ -13,24 +13,22 @@ namespace sonaro {
 
 namespace {
 
-constexpr UINT_PTR kSubclassId = 1;
-constexpr DWORD kStyle = WS_CHILD | WS_TABSTOP | WS_CLIPSIBLINGS | TVS_HASBUTTONS | TVS_LINESATROOT |
-                         TVS_SHOWSELALWAYS | TVS_NOHSCROLL | TVS_NOTOOLTIPS;
+constexpr DWORD kTreeStyle = WS_CHILD | WS_TABSTOP | WS_CLIPSIBLINGS | TVS_HASBUTTONS | TVS_LINESATROOT |
+                             TVS_SHOWSELALWAYS | TVS_NOHSCROLL | TVS_NOTOOLTIPS;
 constexpr int kRow = 22;
 constexpr int kIndent = 14;
 constexpr int kMarkInset = 8;
 constexpr int kMarkSize = 12;
 constexpr int kLeafSize = 4;
 constexpr int kTextAfterMark = 16;
-constexpr int kNeedleBar = 3;
-constexpr int kRightGap = 6;
+constexpr int kCountGap = 6;
 
 }  // namespace
 
 TreeView::TreeView(HWND form, int id, FormServices& services)
     : services_(services), id_(id), bar_(form, services, [this](int first) { ScrollTo(first); }) {
   tree_ =
-      CreateWindowExW(0, WC_TREEVIEWW, L"", kStyle, 0, 0, 0, 0, form,
+      CreateWindowExW(0, WC_TREEVIEWW, L"", kTreeStyle, 0, 0, 0, 0, form,
                       reinterpret_cast<HMENU>(static_cast<INT_PTR>(id)), GetModuleHandleW(nullptr), nullptr);
   SendMessageW(tree_, TVM_SETEXTENDEDSTYLE, TVS_EX_DOUBLEBUFFER, TVS_EX_DOUBLEBUFFER);
   SetWindowSubclass(tree_, &TreeView::Subclass, kSubclassId, reinterpret_cast<DWORD_PTR>(this));
@@ -326,7 +324,7 @@ void TreeView::PaintNode(HDC dc, HTREEITEM node) const {
   const Node* found = NodeOf(node);
   const std::wstring_view figure = found != nullptr ? std::wstring_view(found->figure) : std::wstring_view();
   const int figureWidth = figure.empty() ? 0 : static_cast<int>(look.Measure(figure, Type::Small).cx);
-  const int right = width_ - bar - look.Px(kRightGap);
+  const int right = width_ - bar - look.Px(kCountGap);
   const bool highContrastRow = selected && focused;
   look.Text(paint, {right - figureWidth, box.top, right, box.bottom}, figure, Type::Small,
             highContrastRow ? colors.rowSelectedText : colors.glassMuted, DT_RIGHT | DT_NOPREFIX);

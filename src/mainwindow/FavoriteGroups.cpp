@@ -10,15 +10,6 @@ namespace {
 
 constexpr const char* kFavoritesFile = "\\favs.snr";
 
-std::vector<std::string_view> TokensOf(std::string_view members) {
-  std::vector<std::string_view> tokens;
-  while (!members.empty()) {
-    const std::string_view token = TakeUntil(members, ' ');
-    if (!token.empty()) tokens.push_back(token);
-  }
-  return tokens;
-}
-
 std::string MembersOf(const std::vector<std::string_view>& tokens) {
   std::string members;
   for (const std::string_view token : tokens) {
@@ -89,7 +80,7 @@ std::string_view FavoriteGroups::Members(std::size_t group) const {
 }
 
 std::vector<std::string_view> FavoriteGroups::Tokens(std::size_t group) const {
-  return TokensOf(Members(group));
+  return SplitWords(Members(group));
 }
 
 std::optional<std::size_t> FavoriteGroups::Find(std::string_view name) const {

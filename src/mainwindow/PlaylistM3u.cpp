@@ -9,7 +9,7 @@
 namespace sonaro {
 namespace {
 
-constexpr std::string_view kHead = "#EXTM3U";
+constexpr std::string_view kM3uHead = "#EXTM3U";
 constexpr std::string_view kTitle = "#PLAYLIST:";
 constexpr std::string_view kInfo = "#EXTINF:";
 constexpr std::string_view kHomepage = "# Homepage:";
@@ -92,7 +92,7 @@ void ReadM3u(std::string_view text, Playlist& playlist) {
 }
 
 std::string WriteM3u(const Playlist& playlist) {
-  std::string out = std::string(kHead) + "\r\n";
+  std::string out = std::string(kM3uHead) + "\r\n";
   if (!playlist.title.empty()) out += std::string(kTitle) + playlist.title + "\r\n";
   for (const PlaylistEntry& entry : playlist.entries) {
     out += std::string(kInfo) + "-1," + entry.station.name + "\r\n";

@@ -9,7 +9,7 @@
 namespace sonaro {
 namespace {
 
-constexpr std::string_view kHead = "[playlist]";
+constexpr std::string_view kPlsHead = "[playlist]";
 constexpr std::string_view kTitleKey = "X-Sonaro-Title";
 constexpr std::string_view kFieldKey = "Sonaro-";
 
@@ -73,7 +73,7 @@ void ReadPls(std::string_view text, Playlist& playlist) {
 }
 
 std::string WritePls(const Playlist& playlist) {
-  std::string out = std::string(kHead) + "\r\n";
+  std::string out = std::string(kPlsHead) + "\r\n";
   if (!playlist.title.empty()) out += std::string(kTitleKey) + "=" + playlist.title + "\r\n";
   std::size_t count = 0;
   for (const PlaylistEntry& entry : playlist.entries) {

@@ -16,15 +16,6 @@
 namespace sonaro {
 namespace {
 
-std::vector<std::string_view> TokensOf(std::string_view text) {
-  std::vector<std::string_view> tokens;
-  while (!text.empty()) {
-    const std::string_view token = TakeUntil(text, ' ');
-    if (!token.empty()) tokens.push_back(token);
-  }
-  return tokens;
-}
-
 std::optional<StationRow> PersonalRow(const PersonalStations& personal, std::int32_t index) {
   const PersonalStation* station = personal.Find(index);
   if (!station || station->name.empty()) return std::nullopt;
@@ -67,12 +58,12 @@ void StationLists::FillListFromPersonal(StationRows& list) {
 }
 
 void StationLists::FillListFromGroup(std::string_view members, StationRows& list) {
-  list.Fill(RowsOf(TokensOf(members), Unknown::ShownAsLost));
+  list.Fill(RowsOf(SplitWords(members), Unknown::ShownAsLost));
 }
 
 void StationLists::FillListFromRecent(StationRows& list) {
   const std::string text = recent_.AsText();
-  list.Fill(RowsOf(TokensOf(text), Unknown::LeftOut));
+  list.Fill(RowsOf(SplitWords(text), Unknown::LeftOut));
 }
 
 void StationLists::FillListWithNoStations(StationRows& list) {

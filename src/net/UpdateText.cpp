@@ -8,22 +8,22 @@ namespace sonaro {
 
 namespace {
 
-using Kind = UpdateOutcome::Kind;
+using Outcome = UpdateOutcome::Kind;
 
 std::string Kilobytes(std::uint64_t bytes) { return std::to_string((bytes + 1023) / 1024); }
 
-int SentenceOf(Kind kind) {
+int SentenceOf(Outcome kind) {
   switch (kind) {
-    case Kind::Updated:
+    case Outcome::Updated:
       return IDS_NET_FINISHED;
-    case Kind::UpToDate:
+    case Outcome::UpToDate:
       return IDS_NET_UP_TO_DATE;
-    case Kind::CantConnect:
+    case Outcome::CantConnect:
       return IDS_NET_CANT_CONNECT_SERVER;
-    case Kind::NotComplete:
+    case Outcome::NotComplete:
       return IDS_NET_NOT_ALL;
-    case Kind::Refused:
-    case Kind::Cancelled:
+    case Outcome::Refused:
+    case Outcome::Cancelled:
       break;
   }
   return 0;
@@ -34,14 +34,14 @@ int SentenceOf(Kind kind) {
 std::string OutcomeText(const UpdateOutcome& outcome, const std::string& report, const Strings& strings) {
   const int sentence = SentenceOf(outcome.kind);
   std::string text = sentence == 0 ? std::string() : strings.Load(sentence);
-  const std::string& more = outcome.kind == Kind::Updated ? report : outcome.reason;
+  const std::string& more = outcome.kind == Outcome::Updated ? report : outcome.reason;
   if (!text.empty() && !more.empty()) text += "\r\n\r\n";
   return text + more;
 }
 
 bool MayRetry(const UpdateOutcome& outcome) {
-  return outcome.kind == Kind::CantConnect || outcome.kind == Kind::NotComplete ||
-         outcome.kind == Kind::Refused;
+  return outcome.kind == Outcome::CantConnect || outcome.kind == Outcome::NotComplete ||
+         outcome.kind == Outcome::Refused;
 }
 
 std::string BytesText(std::uint64_t bytes, std::uint64_t expected, const Strings& strings) {

@@ -10,7 +10,7 @@ namespace sonaro {
 
 namespace {
 
-constexpr std::string_view kFile = "\\ownlinks.snr";
+constexpr std::string_view kLinksFile = "\\ownlinks.snr";
 
 ExtraLink Cleaned(const ExtraLink& link) {
   return {CleanField(link.name, PersonalStation::kMaxName), CleanField(link.link, PersonalStation::kMaxLink)};
@@ -30,7 +30,7 @@ ExtraLinks::Line ExtraLinks::ReadLine(std::string_view text) {
 
 bool ExtraLinks::Load() {
   lines_.clear();
-  const ReadResult file = data_.Read(kFile);
+  const ReadResult file = data_.Read(kLinksFile);
   for (const std::string_view text : SplitLines(file.bytes)) lines_.push_back(ReadLine(text));
   return file.status != ReadStatus::Unreadable;
 }
@@ -64,7 +64,7 @@ bool ExtraLinks::Set(std::int32_t stationId, const std::vector<ExtraLink>& links
     }
     text.append("\r\n");
   }
-  if (!data_.Save(kFile, text)) return false;
+  if (!data_.Save(kLinksFile, text)) return false;
   lines_ = std::move(changed);
   return true;
 }

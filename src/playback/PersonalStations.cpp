@@ -12,7 +12,7 @@ namespace sonaro {
 
 namespace {
 
-constexpr std::string_view kFile = "\\personal.snr";
+constexpr std::string_view kPersonalFile = "\\personal.snr";
 constexpr std::size_t kFields = 8;
 
 PersonalStation Cleaned(const PersonalStation& station) {
@@ -43,7 +43,7 @@ bool PersonalStations::Load() {
   lines_.clear();
   lineOf_.clear();
   highestIndex_ = 0;
-  const ReadResult file = data_.Read(kFile);
+  const ReadResult file = data_.Read(kPersonalFile);
   std::vector<Line> lines;
   for (const std::string_view text : SplitLines(file.bytes)) lines.push_back(ReadLine(text));
   Adopt(std::move(lines));
@@ -85,7 +85,7 @@ bool PersonalStations::Save(std::vector<Line> changed) {
   for (const Line& line : changed) {
     text.append(line.station.index != 0 ? LineText(line.station) : line.kept).append("\r\n");
   }
-  if (!data_.Save(kFile, text)) return false;
+  if (!data_.Save(kPersonalFile, text)) return false;
   Adopt(std::move(changed));
   return true;
 }

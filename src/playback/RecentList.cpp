@@ -9,13 +9,13 @@ namespace sonaro {
 
 namespace {
 
-constexpr std::string_view kFile = "\\recent.snr";
+constexpr std::string_view kRecentFile = "\\recent.snr";
 
 }  // namespace
 
 void RecentList::Load() {
   tokens_.clear();
-  const ReadResult file = data_.Read(kFile);
+  const ReadResult file = data_.Read(kRecentFile);
   std::string_view text = file.bytes;
   std::string_view line = TakeUntil(text, '\n');
   if (line.ends_with('\r')) line.remove_suffix(1);
@@ -38,7 +38,7 @@ void RecentList::SaveRecent() {
   std::string line;
   for (std::size_t slot = 0; slot < std::min(tokens_.size(), kSavedSlots); ++slot)
     line += tokens_[slot] + ' ';
-  data_.Save(kFile, std::string(TrimBlanks(line)) + "\r\n");
+  data_.Save(kRecentFile, std::string(TrimBlanks(line)) + "\r\n");
 }
 
 std::string RecentList::AsText() const {

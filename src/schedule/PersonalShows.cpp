@@ -12,7 +12,7 @@ namespace sonaro {
 
 namespace {
 
-constexpr std::string_view kFileName = "\\Shows.snr";
+constexpr std::string_view kShowsFile = "\\Shows.snr";
 constexpr std::string_view kLineEnd = "\r\n";
 
 std::string_view IdentifyingPart(std::string_view showKey) { return showKey.substr(0, showKey.find('X')); }
@@ -32,7 +32,7 @@ std::string_view PersonalShows::DisplayName(std::string_view showKey) {
 
 std::vector<std::string> PersonalShows::List() {
   std::vector<std::string> lines;
-  const ReadResult file = data_.Read(kFileName);
+  const ReadResult file = data_.Read(kShowsFile);
   for (std::string_view line : SplitLines(file.bytes)) {
     if (!line.empty()) lines.emplace_back(line);
   }
@@ -67,7 +67,7 @@ std::string PersonalShows::ReadPersonalShows() {
 
 bool PersonalShows::WritePersonalShows(std::string_view text) {
   const auto last = text.rfind(kLineEnd);
-  return data_.Save(kFileName, last == std::string_view::npos ? "" : text.substr(0, last + kLineEnd.size()));
+  return data_.Save(kShowsFile, last == std::string_view::npos ? "" : text.substr(0, last + kLineEnd.size()));
 }
 
 void PersonalShows::Tell(const char* key, const std::string& text) {

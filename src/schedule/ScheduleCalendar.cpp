@@ -13,7 +13,6 @@ namespace sonaro {
 namespace {
 
 constexpr int kLastHour = 23;
-constexpr int kDaysInWeek = 7;
 
 // From an item's weekday to the day before it. The last row is misspelled and so never names a day; it does
 // no harm and stays, since schedules are shared with programs that have it.

@@ -11,7 +11,7 @@ namespace sonaro {
 
 namespace {
 
-constexpr std::string_view kFileName = "\\Sched.snr";
+constexpr std::string_view kScheduleFile = "\\Sched.snr";
 constexpr std::size_t kFirstSlots = 101;
 constexpr std::size_t kGrowth = 20;
 constexpr std::size_t kTabsInLine = 6;
@@ -44,7 +44,7 @@ void ScheduleStore::LoadSchedule(const Date& today) {
   slots_.assign(kFirstSlots, Slot{});
   strangeLines_.clear();
   ++generation_;
-  const ReadResult file = data_.Read(kFileName);
+  const ReadResult file = data_.Read(kScheduleFile);
   std::size_t next = 0;
   for (std::string_view line : SplitLines(file.bytes)) {
     GrowTo(next);
@@ -96,7 +96,7 @@ bool ScheduleStore::SaveSchedule() {
     }
   }
   for (const std::string& line : strangeLines_) text += line + "\r\n";
-  return data_.Save(kFileName, text);
+  return data_.Save(kScheduleFile, text);
 }
 
 std::size_t ScheduleStore::FirstFreeSlot() {

@@ -8,7 +8,6 @@ namespace sonaro {
 
 namespace {
 
-constexpr std::int64_t kDaysInWeek = 7;
 constexpr std::size_t kShortName = 3;
 
 std::string TwelveHourTime(const ScheduleItem& item) {

@@ -10,7 +10,7 @@ namespace {
 constexpr PathPoint kCentre = {27, 23};
 constexpr double kInner = 14;
 constexpr double kOuter = 20;
-constexpr double kPen = 2;
+constexpr double kRingPen = 2;
 constexpr int kFirstAngle = 150;  // degrees clockwise from the right
 constexpr int kStep = 24;
 
@@ -29,7 +29,7 @@ Coverage RenderRing(int first, int end, int dpi) {
     ticks.push_back({{at(kInner), at(kOuter)}, false});
   }
   const double scale = dpi / 96.0;
-  return Rasterize(StrokePolygons(ticks, kPen), {scale, 0, 0},
+  return Rasterize(StrokePolygons(ticks, kRingPen), {scale, 0, 0},
                    static_cast<int>(std::ceil(kRingWidth * scale)),
                    static_cast<int>(std::ceil(kRingHeight * scale)));
 }

@@ -3,7 +3,7 @@
 namespace sonaro {
 namespace {
 
-constexpr GenreLine kLines[] = {
+constexpr GenreLine kMusicLines[] = {
     // Alternative & Indie
     {'a', "", "alternative|alternativa|alternativo|alternative music|alternative hits|modern alternative"},
     {'a', "Alternative Rock",
@@ -274,6 +274,6 @@ constexpr GenreLine kLines[] = {
 
 }  // namespace
 
-std::span<const GenreLine> MusicTags() { return kLines; }
+std::span<const GenreLine> MusicTags() { return kMusicLines; }
 
 }  // namespace sonaro

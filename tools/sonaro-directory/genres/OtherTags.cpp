@@ -3,7 +3,7 @@
 namespace sonaro {
 namespace {
 
-constexpr GenreLine kLines[] = {
+constexpr GenreLine kOtherLines[] = {
     // Decades & Oldies
     {'o', "",
      "oldies|oldie|goldies|golden oldies|retro|nostalgia|nostalgie|evergreens|evergreen|"
@@ -211,6 +211,6 @@ constexpr GenreLine kLines[] = {
 
 }  // namespace
 
-std::span<const GenreLine> OtherTags() { return kLines; }
+std::span<const GenreLine> OtherTags() { return kOtherLines; }
 
 }  // namespace sonaro

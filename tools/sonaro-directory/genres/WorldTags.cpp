@@ -3,7 +3,7 @@
 namespace sonaro {
 namespace {
 
-constexpr GenreLine kLines[] = {
+constexpr GenreLine kWorldLines[] = {
     // Latin
     {'l', "",
      "latin|latino|latina|musica latina|latin music|musica latinoamericana|latin hits|latin urban|"
@@ -141,6 +141,6 @@ constexpr GenreLine kLines[] = {
 
 }  // namespace
 
-std::span<const GenreLine> WorldTags() { return kLines; }
+std::span<const GenreLine> WorldTags() { return kWorldLines; }
 
 }  // namespace sonaro

@@ -4,7 +4,7 @@ namespace sonaro {
 namespace {
 
 // clang-format off
-constexpr RegionLine kRegions[] = {
+constexpr RegionLine kElsewhere[] = {
     {"AU", "Australian Capital Territory", "ACT|Canberra"},
     {"AU", "New South Wales", "NSW|Sydney|Newcastle|Wollongong|Byron Bay"},
     {"AU", "Northern Territory", "NT|Darwin|Alice Springs"},
@@ -259,6 +259,6 @@ constexpr RegionLine kRegions[] = {
 
 }  // namespace
 
-std::span<const RegionLine> RegionsElsewhere() { return kRegions; }
+std::span<const RegionLine> RegionsElsewhere() { return kElsewhere; }
 
 }  // namespace sonaro

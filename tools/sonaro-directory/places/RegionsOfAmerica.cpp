@@ -4,7 +4,7 @@ namespace sonaro {
 namespace {
 
 // clang-format off
-constexpr RegionLine kRegions[] = {
+constexpr RegionLine kAmerica[] = {
     {"US", "Alabama", "AL|Birmingham|Montgomery|Huntsville"},
     {"US", "Alaska", "AK|Anchorage|Fairbanks|Juneau"},
     {"US", "Arizona", "AZ|Phoenix|Tucson|Flagstaff|Mesa"},
@@ -216,6 +216,6 @@ constexpr RegionLine kRegions[] = {
 
 }  // namespace
 
-std::span<const RegionLine> RegionsOfAmerica() { return kRegions; }
+std::span<const RegionLine> RegionsOfAmerica() { return kAmerica; }
 
 }  // namespace sonaro

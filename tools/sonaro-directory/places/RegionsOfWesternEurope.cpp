@@ -4,7 +4,7 @@ namespace sonaro {
 namespace {
 
 // clang-format off
-constexpr RegionLine kRegions[] = {
+constexpr RegionLine kWesternEurope[] = {
     {"GB", "England", "Kent|Essex|Surrey|Dorset|Manchester|Cornwall|Greater Manchester|West Midlands|Buckinghamshire|Suffolk|Sussex|East Sussex|West Sussex|Bristol|Gloucestershire|Cambridge|Cambridgeshire|Staffordshire|Brighton and Hove|Brighton|Liverpool|Lancashire|North Yorkshire|West Yorkshire|South Yorkshire|Yorkshire|Hampshire|Norfolk|Derby|Derbyshire|Northampton|Northamptonshire|Wiltshire|Cheshire|Shropshire|Oxfordshire|Oxford|Somerset|Merseyside|Berkshire|Lincolnshire|Devon|Hertfordshire|Bedfordshire|Nottingham|Nottinghamshire|Leicester|Leicestershire|Sheffield|Leeds|Birmingham|Newcastle|Tyne and Wear|Durham|Cumbria|Peterborough|North West|Worcestershire|Herefordshire|Warwickshire|Portsmouth|Southampton|Isle of Wight|South Gloucestershire|BANES"},
     {"GB", "London", "Greater London|South London"},
     {"GB", "Northern Ireland", "Belfast|Derry"},
@@ -163,6 +163,6 @@ constexpr RegionLine kRegions[] = {
 
 }  // namespace
 
-std::span<const RegionLine> RegionsOfWesternEurope() { return kRegions; }
+std::span<const RegionLine> RegionsOfWesternEurope() { return kWesternEurope; }
 
 }  // namespace sonaro

@@ -15,7 +15,7 @@ using Json = nlohmann::json;
 
 constexpr int kLongestEvent = 7 * 24 * 60;  // minutes
 
-std::string TextOf(const Json& object, const char* key) {
+std::string ShownTextOf(const Json& object, const char* key) {
   const auto found = object.find(key);
   if (found == object.end()) return {};
   if (found->is_number_integer()) return std::to_string(found->get<std::int64_t>());
@@ -45,17 +45,17 @@ std::vector<SourceEvent> ReadEvents(const std::string& name, std::string_view te
     }
     SourceEvent event;
     event.place = place;
-    event.name = TextOf(object, "name");
-    event.station = TextOf(object, "station");
-    event.category = TextOf(object, "category");
-    event.web = TextOf(object, "web");
-    event.description = TextOf(object, "description");
+    event.name = ShownTextOf(object, "name");
+    event.station = ShownTextOf(object, "station");
+    event.category = ShownTextOf(object, "category");
+    event.web = ShownTextOf(object, "web");
+    event.description = ShownTextOf(object, "description");
     const auto minutes = object.find("minutes");
     if (minutes != object.end() && minutes->is_number_integer()) {
       event.minutes =
           static_cast<int>(std::clamp<std::int64_t>(minutes->get<std::int64_t>(), 0, kLongestEvent));
     }
-    const std::optional<DateTime> start = ParseStart(TextOf(object, "start"));
+    const std::optional<DateTime> start = ParseStart(ShownTextOf(object, "start"));
     if (event.name.empty() || event.station.empty() || !start) {
       skips.Skip(place, event.name, "an event without a name, a station or a start");
       continue;
