@@ -27,8 +27,10 @@ std::string Stamp(const DateTime& at) {
 std::string Escaped(std::string_view text) {
   std::string escaped;
   for (char c : text) {
+    if (c == '\n') escaped += "\\n";
+    if (c == '\n' || c == '\r') continue;
     if (c == '\\' || c == ';' || c == ',') escaped += '\\';
-    const bool control = static_cast<unsigned char>(c) < 0x20 || c == 0x7F;
+    const bool control = (static_cast<unsigned char>(c) < 0x20 && c != '\t') || c == 0x7F;
     escaped += control ? ' ' : c;
   }
   return escaped;
@@ -108,8 +110,9 @@ void AddEntry(std::string& file, std::size_t slot, const ScheduleItem& item, con
   AddLine(file, "DTSTART:" + Stamp(times.start));
   if (!times.rule.empty()) AddLine(file, times.rule);
   AddLine(file, "SUMMARY:" + Escaped(name.Shown()));
-  if (!item.note.empty()) AddLine(file, "DESCRIPTION:" + Escaped(item.note));
-  if (name.webSite.starts_with("http")) AddLine(file, "URL:" + name.webSite);  // an address is not escaped
+  if (!item.note.empty()) AddLine(file, "DESCRIPTION:" + Escaped(NoteFromFile(item.note)));
+  const std::string webSite = WebSiteOf(item.name);
+  if (!webSite.empty()) AddLine(file, "URL:" + webSite);  // an address is not escaped
   AddLine(file, "BEGIN:VALARM");
   AddLine(file, "ACTION:DISPLAY");
   AddLine(file, "TRIGGER:PT0S");

@@ -45,14 +45,6 @@ void AddPersonalLinks(std::vector<PlayChoice>& plays, const StationKey& key, con
   }
 }
 
-// As the web site key opens it: what follows the first ">>>>>", six characters on.
-std::string WebSiteIn(std::string_view name) {
-  const auto mark = name.find(">>>>>");
-  if (mark == std::string_view::npos || mark + 6 >= name.size()) return {};
-  const std::string_view address = name.substr(mark + 6);
-  return (address.starts_with("http") ? "" : "http://") + std::string(address);
-}
-
 }  // namespace
 
 Notification NotificationFor(const ScheduleItem& item, const StationSource& stations,
@@ -61,7 +53,7 @@ Notification NotificationFor(const ScheduleItem& item, const StationSource& stat
   shown.eventName = SplitItemName(item.name).Shown();
   shown.notice = NoticeText(item, shortDatePattern);
   shown.note = NoteFromFile(item.note);
-  shown.webSite = WebSiteIn(item.name);
+  shown.webSite = WebSiteOf(item.name);
   shown.webSiteFirst = OpensWebSite(item.action) && !shown.webSite.empty();
   const StationKey key = StationKey::FromRowKey(StationKeyOf(item.action));
   if (key.kind == StationKey::Kind::Directory) AddDirectoryLinks(shown.plays, key, stations, extraLinks);

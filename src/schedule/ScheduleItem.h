@@ -51,6 +51,8 @@ struct ItemName {
 };
 ItemName SplitItemName(std::string_view nameField);
 std::string JoinItemName(const ItemName& name);
+// The web site of a name field as it is opened, beginning with "http"; "" when there is none.
+std::string WebSiteOf(std::string_view nameField);
 
 // A note as the user writes it, with lines separated by CR LF, in one line of the file, and back.
 std::string NoteForFile(std::string_view note);
