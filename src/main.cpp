@@ -22,11 +22,11 @@
 
 namespace {
 
-// The folder of the executable, without a backslash at its end.
-std::string ProgramFolder() {
+// Full path of the executable.
+std::string ProgramPath() {
   std::string path(32768, '\0');
   path.resize(GetModuleFileNameA(nullptr, path.data(), static_cast<DWORD>(path.size())));
-  return path.substr(0, path.rfind('\\'));
+  return path;
 }
 
 }  // namespace
@@ -48,5 +48,5 @@ int WINAPI WinMain(HINSTANCE, HINSTANCE, LPSTR commandLine, int) {
       std::string("Sonaro/") + sonaro::kVersionText,
       [&strings](sonaro::HttpFault fault) { return sonaro::HttpFaultText(fault, strings); });
   const sonaro::Platform platform = {registry, files, clock, shell, sound, systemInfo, messages, http};
-  return sonaro::Application(platform, strings, ProgramFolder(), commandLine).Run();
+  return sonaro::Application(platform, strings, ProgramPath(), commandLine).Run();
 }

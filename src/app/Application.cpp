@@ -16,6 +16,7 @@
 #include "platform/Sound.h"
 #include "playback/frmScan.h"
 #include "resources/ids.h"
+#include "tray/frmOptions.h"
 #include "tray/frmStartUpInfo.h"
 
 namespace sonaro {
@@ -26,11 +27,11 @@ constexpr char kSeparator = '\\';
 
 }  // namespace
 
-Application::Application(const Platform& platform, const Strings& strings, std::string folder,
+Application::Application(const Platform& platform, const Strings& strings, const std::string& program,
                          std::string commandLine)
     : platform_(platform),
       strings_(strings),
-      data_(platform.files, std::move(folder), kSeparator),
+      data_(platform.files, program.substr(0, program.rfind(kSeparator)), kSeparator),
       reg_(platform.registry),
       alphabets_(BuiltInAlphabets()),
       stations_(data_),
@@ -46,6 +47,7 @@ Application::Application(const Platform& platform, const Strings& strings, std::
       player_(source_, recent_, players_, pages_, strings_),
       scan_(reg_, platform.clock, player_, source_, strings_),
       faceplate_(reg_, data_),
+      options_(reg_, faceplate_, program),
       shape_(data_),
       context_{strings_, faceplate_, shape_},
       messages_(context_, [this]() -> HelpPages& { return help_; }),
@@ -179,6 +181,7 @@ TrayActions Application::MakeTrayActions() {
   actions.scan = [this] { ShowScan(); };
   actions.update = [this] { service_->ShowUpdate(nullptr); };
   actions.schedule = [this] { schedule_->ShowSchedule(nullptr); };
+  actions.options = [this] { ShowOptions(nullptr); };
   actions.help = [this] { help_.OpenHelpPage("index.html"); };
   actions.exit = [this] { Exit(); };
   actions.groupNames = [this] { return GroupNames(); };
@@ -204,6 +207,7 @@ MainWindowCalls Application::MakeMainWindowCalls() {
     schedule_->ScheduleStation(main_->Window(), rowKey);
   };
   calls.showUpdate = [this] { service_->ShowUpdate(main_->Window()); };
+  calls.showOptions = [this] { ShowOptions(main_->Window()); };
   calls.showScan = [this] { ShowScan(); };
   calls.addToScan = [this](const std::vector<std::string>& rowKeys) {
     scan_.Add(rowKeys);

@@ -28,6 +28,7 @@
 #include "playback/StationScan.h"
 #include "playback/StationSource.h"
 #include "playback/WebPages.h"
+#include "tray/OptionsModel.h"
 #include "tray/frmSysTrayMenu.h"
 
 namespace sonaro {
@@ -35,6 +36,7 @@ namespace sonaro {
 class ApplicationSchedule;
 class ApplicationService;
 class SonaroFrm;
+class frmOptions;
 class frmScan;
 class frmSplash;
 struct GuideData;
@@ -42,8 +44,10 @@ struct MainWindowCalls;
 
 class Application final : private StartupView, private LaunchView {
  public:
-  // `folder`: the folder of the executable. `commandLine`: what follows the program's name.
-  Application(const Platform& platform, const Strings& strings, std::string folder, std::string commandLine);
+  // `program`: full path of the executable, whose folder is the data folder. `commandLine`: what follows the
+  // program's name.
+  Application(const Platform& platform, const Strings& strings, const std::string& program,
+              std::string commandLine);
   ~Application() override;
 
   // Runs the program from its start to its end and returns the exit code.
@@ -69,6 +73,7 @@ class Application final : private StartupView, private LaunchView {
   void FinishedLoading();
   std::vector<std::string> GroupNames() const;
   void ShowScan();
+  void ShowOptions(HWND owner);
   void EditPersonalStation(int index);
   void DeletePersonalStation(int index);
   void EditExtraLinks(std::int32_t stationId);
@@ -99,6 +104,7 @@ class Application final : private StartupView, private LaunchView {
   PlayerLaunch player_;
   StationScan scan_;
   Faceplate faceplate_;
+  OptionsModel options_;
   Shape shape_;
   FormContext context_;
   MessageBoxes messages_;
@@ -107,6 +113,7 @@ class Application final : private StartupView, private LaunchView {
   std::unique_ptr<ApplicationSchedule> schedule_;
   std::unique_ptr<ApplicationService> service_;
   std::unique_ptr<frmScan> scanWindow_;
+  std::unique_ptr<frmOptions> optionsWindow_;
   std::unique_ptr<SonaroFrm> main_;
 };
 

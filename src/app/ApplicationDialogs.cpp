@@ -1,5 +1,6 @@
-// The questions and the small dialogs that the main window asks for.
+// The questions and the dialogs that the main window and the tray ask for.
 #include "app/Application.h"
+#include "app/ApplicationService.h"
 #include "app/SettingNames.h"
 #include "app/Strings.h"
 #include "forms/FileDialog.h"
@@ -9,6 +10,9 @@
 #include "mainwindow/frmPersonalStation.h"
 #include "mainwindow/frmPickGroup.h"
 #include "resources/ids.h"
+#include "schedule/frmAboutEventTime.h"
+#include "tray/frmOptions.h"
+#include "tray/frmStartUpInfo.h"
 
 namespace sonaro {
 
@@ -27,6 +31,28 @@ void Application::AddQuestions(MainWindowCalls& calls) {
   calls.askPlaylistToSave = [this](const std::string& name) {
     return AskSavePath(main_->Window(), strings_.Load(IDS_DLG_PLAYLIST_FILTER), name);
   };
+}
+
+void Application::ShowOptions(HWND owner) {
+  if (optionsWindow_ && optionsWindow_->IsOpen()) {
+    optionsWindow_->Show();
+    return;
+  }
+  OptionsCalls calls;
+  calls.playNoticeSound = [this] { PlaySoundFile(kNotifySound); };
+  calls.findProxy = [this] { return service_->BrowserProxy(); };
+  calls.testProxy = [this](HWND window, const ProxyServer& server) {
+    service_->TestProxy(window, server.address, server.port);
+  };
+  calls.choosePlayer = [this](HWND window) {
+    frmStartUpInfo(context_, reg_, help_, playerSetup_, StartUpInfoPage::ChoosePlayer, "").ShowModal(window);
+  };
+  calls.aboutTimes = [this](HWND window) {
+    frmAboutEventTime(context_, platform_.clock, platform_.shell, help_).ShowModal(window);
+  };
+  calls.help = [this] { help_.OpenHelpPage("index.html"); };
+  optionsWindow_ = std::make_unique<frmOptions>(context_, options_, std::move(calls));
+  optionsWindow_->ShowModal(owner);
 }
 
 void Application::AddStationDialogs(MainWindowCalls& calls) {

@@ -87,7 +87,10 @@ void ApplicationService::TestProxy(HWND owner, const std::string& address, const
 }
 
 std::string ApplicationService::DetectProxy() {
-  if (IsYes(needs_.reg.Setting(setting::kProxyUse))) return {};
+  return IsYes(needs_.reg.Setting(setting::kProxyUse)) ? std::string() : BrowserProxy();
+}
+
+std::string ApplicationService::BrowserProxy() {
   const std::string proxy = DetectIeProxy(needs_.reg);
   return proxy.empty() ? DetectNetscapeProxy(needs_.reg, needs_.platform.files) : proxy;
 }

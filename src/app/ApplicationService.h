@@ -51,6 +51,8 @@ class ApplicationService {
 
   // "host:port" of the proxy that a browser is set to, or "". Nothing when a proxy is in use already.
   std::string DetectProxy();
+  // The same, whether or not a proxy is in use.
+  std::string BrowserProxy();
 
  private:
   UpdateNeeds MakeUpdateNeeds();

@@ -27,6 +27,8 @@ class Faceplate {
   void Load();
   // Makes a built-in faceplate the current one and stores its name and its twenty colours.
   void Choose(BuiltInFaceplate faceplate);
+  // Shows a built-in faceplate's colours and stores nothing: name and settings stay, Load ends it.
+  void Try(BuiltInFaceplate faceplate) { SetBase(BuiltInColors(faceplate)); }
 
   const std::string& Name() const { return name_; }
   const FaceplateColors& Colors() const { return shown_; }

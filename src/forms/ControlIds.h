@@ -213,6 +213,22 @@ inline constexpr int lblProxyStuff = 2614;
 inline constexpr int tmrSock = 2615;
 
 // frmOptions: 2701 to 2799.
+inline constexpr int chkStartWindows = 2701;
+inline constexpr int cmbAfterClose = 2702;
+inline constexpr int chkSoundNotice = 2703;
+inline constexpr int butPlaySoundIt = 2704;
+inline constexpr int chkSoundKeys = 2705;
+inline constexpr int optProxy = 2706;  // 2 numbers: connect directly, by way of a proxy
+inline constexpr int txtProxy = 2708;
+inline constexpr int txtPort = 2709;
+inline constexpr int butFindProxyIt = 2710;
+inline constexpr int butTestProxyIt = 2711;
+inline constexpr int lblOptionsInfo = 2712;
+inline constexpr int chkLookForPlayer = 2713;
+inline constexpr int chkLookForProxy = 2714;
+inline constexpr int chkOfferTutorial = 2715;
+inline constexpr int butPlayerIt = 2716;
+inline constexpr int optFaceplate = 2717;  // 2 numbers: Graphite, Porcelain
 
 // frmSysTrayMenu (menu entries): 3001 to 3099.
 inline constexpr int mnuTrayOpen = 3001;

@@ -9,6 +9,7 @@
 #include "forms/FileDialog.h"
 #include "playback/PlayerSetup.h"
 #include "resources/ids.h"
+#include "tray/ProxyChoice.h"
 
 namespace sonaro {
 
@@ -17,6 +18,32 @@ namespace {
 constexpr unsigned char kPlayerPane = 1;
 constexpr unsigned char kProxyPane = 2;
 constexpr const char* kPlayerHelp = "9036.html";
+constexpr const char* kProxyHelp = "index.html";
+
+struct PageTexts {
+  int head;
+  int text;
+};
+
+PageTexts TextsOf(StartUpInfoPage page) {
+  switch (page) {
+    case StartUpInfoPage::Proxy:
+      return {IDS_STARTUP_PROXY_HEAD, IDS_STARTUP_PROXY_TEXT};
+    case StartUpInfoPage::NoPlayer:
+      return {IDS_STARTUP_PLAYER_HEAD, IDS_NOPLAYER_TEXT};
+    case StartUpInfoPage::ChoosePlayer:
+      return {IDS_STARTUP_CHOOSE_HEAD, IDS_STARTUP_CHOOSE_TEXT};
+    case StartUpInfoPage::Player:
+      break;
+  }
+  return {IDS_STARTUP_PLAYER_HEAD, IDS_STARTUP_PLAYER_TEXT};
+}
+
+// The setting that keeps the page from coming again at the start; nullptr for a page that does not.
+const char* CheckOf(StartUpInfoPage page) {
+  if (page == StartUpInfoPage::Player) return setting::kStartPlayer;
+  return page == StartUpInfoPage::Proxy ? setting::kStartProxy : nullptr;
+}
 
 }  // namespace
 
@@ -146,14 +173,11 @@ frmStartUpInfo::frmStartUpInfo(FormContext& context, CReg& reg, HelpPages& help,
 
 void frmStartUpInfo::OnLoad() {
   const bool proxyPage = page_ == StartUpInfoPage::Proxy;
-  const bool noPlayer = page_ == StartUpInfoPage::NoPlayer;
   ShowPane(kPlayerPane, !proxyPage);
   ShowPane(kProxyPane, proxyPage);
-  SetText(lblHead, LoadText(proxyPage ? IDS_STARTUP_PROXY_HEAD : IDS_STARTUP_PLAYER_HEAD));
-  SetText(lblText, LoadText(proxyPage  ? IDS_STARTUP_PROXY_TEXT
-                            : noPlayer ? IDS_NOPLAYER_TEXT
-                                       : IDS_STARTUP_PLAYER_TEXT));
-  ShowControl(chkDontShow, !noPlayer);
+  SetText(lblHead, LoadText(TextsOf(page_).head));
+  SetText(lblText, LoadText(TextsOf(page_).text));
+  ShowControl(chkDontShow, CheckOf(page_) != nullptr);
   Check(chkDontShow);
   if (proxyPage) {
     SetText(lblProxyFound, proxy_);
@@ -214,18 +238,9 @@ bool frmStartUpInfo::StorePlayer() {
   return problem.empty();
 }
 
-void frmStartUpInfo::StoreProxy() {
-  const bool use = IsChecked(optUseProxy);
-  reg_.SetSetting(setting::kProxyUse, use ? "Yes" : "No");
-  if (!use) return;
-  const auto colon = proxy_.find(':');
-  reg_.SetSetting(setting::kProxyAddress, proxy_.substr(0, colon));
-  reg_.SetSetting(setting::kProxyPort, colon == std::string::npos ? "80" : proxy_.substr(colon + 1));
-}
-
 void frmStartUpInfo::butOKIt_Click() {
   if (page_ == StartUpInfoPage::Proxy) {
-    StoreProxy();
+    StoreProxy(reg_, IsChecked(optUseProxy), SplitProxy(proxy_));
   } else if (!StorePlayer()) {
     return;
   }
@@ -233,12 +248,13 @@ void frmStartUpInfo::butOKIt_Click() {
 }
 
 void frmStartUpInfo::Done() {
-  if (page_ != StartUpInfoPage::NoPlayer && IsChecked(chkDontShow)) {
-    reg_.SetSetting(page_ == StartUpInfoPage::Proxy ? setting::kStartProxy : setting::kStartPlayer, "No");
-  }
+  const char* check = CheckOf(page_);
+  if (check != nullptr && IsChecked(chkDontShow)) reg_.SetSetting(check, "No");
   Close();
 }
 
-void frmStartUpInfo::butHelp_Click() { help_.OpenHelpPage(kPlayerHelp); }
+void frmStartUpInfo::butHelp_Click() {
+  help_.OpenHelpPage(page_ == StartUpInfoPage::Proxy ? kProxyHelp : kPlayerHelp);
+}
 
 }  // namespace sonaro

@@ -1,5 +1,5 @@
 // What a user has to know before the guide works fully: that a player is needed, or that a proxy was found.
-// Three pages of one dialog; what it finds and stores is PlayerSetup's and the caller's business.
+// Pages of one dialog; what it finds and stores is PlayerSetup's and the caller's business.
 #pragma once
 
 #include <functional>
@@ -25,7 +25,6 @@ class frmStartUpInfo final : public Form {
   std::span<const EventRow> Events() const override;
   void OnLoad() override;
   void ShowPlayers(const std::string& path);
-  void StoreProxy();
   bool StorePlayer();
   void Done();
 

@@ -1,0 +1,67 @@
+// The user's options: reads them from the settings, checks them, and stores what was changed. Decides for
+// frmOptions; owned by Application. Nothing is stored before Store, the faceplate that is tried included.
+#pragma once
+
+#include <optional>
+#include <string>
+
+#include "faceplate/FaceplateColors.h"
+#include "tray/ProxyChoice.h"
+
+namespace sonaro {
+
+class CReg;
+class Faceplate;
+
+// What closing the main window does.
+enum class AfterClose { Ask, KeepInTray, Exit };
+
+struct Options {
+  bool startWithWindows = false;
+  AfterClose afterClose = AfterClose::Ask;
+  bool soundWithNotice = true;
+  bool clickWithKeys = true;
+  bool useProxy = false;
+  ProxyServer proxy;
+  // What the next start does.
+  bool lookForPlayer = true;
+  bool lookForProxy = true;
+  bool offerTutorial = true;
+  std::optional<BuiltInFaceplate> faceplate;  // none: a faceplate that is not built in
+  friend bool operator==(const Options&, const Options&) = default;
+};
+
+enum class StoreOutcome {
+  Stored,
+  BadProxy,  // see CheckProxy; nothing was stored
+  Refused    // the system kept some value from being written
+};
+
+class OptionsModel {
+ public:
+  // `program`: full path of the executable, which Windows is to start.
+  OptionsModel(CReg& reg, Faceplate& faceplate, std::string program)
+      : reg_(reg), faceplate_(faceplate), program_(std::move(program)) {}
+
+  // As they are now. A port that was never set reads as the usual one.
+  Options Read() const;
+  // Writes the settings in which `wanted` differs from Read, and no other.
+  StoreOutcome Store(Options wanted);
+
+  // Draws with a faceplate that is not chosen yet; windows that are open must be refreshed.
+  void TryFaceplate(BuiltInFaceplate faceplate);
+  // Back to the one that is stored. True when one had been tried.
+  bool EndTrying();
+
+ private:
+  bool StartsWithWindows() const;
+  void StoreStart(bool withWindows);
+  void StoreYesNo(const char* name, bool before, bool wanted, const char* yes, const char* no);
+
+  CReg& reg_;
+  Faceplate& faceplate_;
+  const std::string program_;
+  bool trying_ = false;
+};
+
+}  // namespace sonaro

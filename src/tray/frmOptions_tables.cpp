@@ -1,0 +1,113 @@
+#include "forms/ControlIds.h"
+#include "resources/ids.h"
+#include "tray/frmOptions.h"
+
+namespace sonaro {
+
+namespace {
+
+constexpr int kHeadings = 14;  // of the sections' headings
+constexpr int kBeside = 170;   // of what stands beside them
+constexpr int kLineWidth = 572;
+
+constexpr ControlRow Heading(int text, int y) {
+  return {.kind = Kind::Label,
+          .text = text,
+          .at = {kHeadings, y, 150, 24},
+          .type = Type::MessageStrong,
+          .ink = Ink::TabText};
+}
+
+constexpr ControlRow Line(int y) { return {.kind = Kind::Groove, .at = {kHeadings, y, kLineWidth, 2}}; }
+
+constexpr ControlRow Box(int id, int text, int y) {
+  return {.id = id, .kind = Kind::CheckBox, .text = text, .at = {kBeside, y, 290, 24}};
+}
+
+constexpr ControlRow Caption(int text, DesignRect at) {
+  return {.kind = Kind::Label, .text = text, .at = at, .ink = Ink::Muted};
+}
+
+constexpr ControlRow Key(int id, int text, DesignRect at, Icon icon = Icon::None) {
+  return {.id = id, .kind = Kind::PushKey, .text = text, .at = at, .icon = icon};
+}
+
+}  // namespace
+
+const FormDesign& frmOptions::Design() {
+  static constexpr ControlRow kControls[] = {
+      {.id = lblTitle, .kind = Kind::TitleBar, .text = IDS_OPTIONS_TITLE, .at = {40, 4, 206, 26}},
+
+      Heading(IDS_OPTIONS_GENERAL, 46),
+      Box(chkStartWindows, IDS_OPTIONS_START_WINDOWS, 46),
+      Caption(IDS_OPTIONS_AFTER_CLOSE, {kBeside, 74, 208, 28}),
+      {.id = cmbAfterClose, .kind = Kind::Combo, .at = {386, 74, 200, 28}},
+
+      Line(108),
+      Heading(IDS_OPTIONS_SOUNDS, 116),
+      Box(chkSoundNotice, IDS_OPTIONS_SOUND_NOTICE, 116),
+      Key(butPlaySoundIt, IDS_OPTIONS_PLAY_SOUND, {474, 114, 112, 28}, Icon::Sound),
+      Box(chkSoundKeys, IDS_OPTIONS_SOUND_KEYS, 142),
+
+      Line(170),
+      Heading(IDS_OPTIONS_CONNECTION, 176),
+      {.id = optProxy,
+       .kind = Kind::RadioButton,
+       .text = IDS_OPTIONS_DIRECT,
+       .at = {kBeside, 176, 180, 24},
+       .flags = kGroup},
+      {.id = optProxy + 1,
+       .kind = Kind::RadioButton,
+       .text = IDS_OPTIONS_PROXY,
+       .at = {kBeside, 202, 180, 24}},
+      Key(butFindProxyIt, IDS_OPTIONS_FIND_PROXY, {354, 200, 112, 28}),
+      Key(butTestProxyIt, IDS_OPTIONS_TEST_PROXY, {474, 200, 112, 28}),
+      Caption(IDS_OPTIONS_ADDRESS, {194, 234, 60, 28}),
+      {.id = txtProxy, .kind = Kind::Edit, .at = {254, 234, 190, 28}},
+      Caption(IDS_OPTIONS_PORT, {454, 234, 34, 28}),
+      {.id = txtPort, .kind = Kind::Edit, .at = {490, 234, 96, 28}},
+      {.id = lblOptionsInfo, .kind = Kind::StateLabel, .at = {194, 264, 392, 34}, .flags = kWrap | kNoPrefix},
+
+      Line(300),
+      Heading(IDS_OPTIONS_START, 306),
+      Box(chkLookForPlayer, IDS_OPTIONS_LOOK_PLAYER, 306),
+      Key(butPlayerIt, IDS_OPTIONS_PLAYER, {474, 306, 112, 28}),
+      Box(chkLookForProxy, IDS_OPTIONS_LOOK_PROXY, 330),
+      Box(chkOfferTutorial, IDS_OPTIONS_TUTORIAL, 354),
+
+      Line(380),
+      Heading(IDS_OPTIONS_FACEPLATE, 386),
+      {.id = optFaceplate,
+       .kind = Kind::ToggleKey,
+       .text = IDS_OPTIONS_GRAPHITE,
+       .at = {kBeside, 386, 108, 28},
+       .flags = kGroup},
+      {.id = optFaceplate + 1,
+       .kind = Kind::ToggleKey,
+       .text = IDS_OPTIONS_PORCELAIN,
+       .at = {286, 386, 108, 28}},
+
+      Key(butAboutTimeIt, IDS_OPTIONS_ABOUT_TIME, {kHeadings, 422, 124, 30}, Icon::Sched),
+      {.id = butOKIt, .kind = Kind::PrimaryKey, .text = IDS_APP_OK, .at = {386, 422, 96, 30}},
+      {.id = butCancelIt, .kind = Kind::PushKey, .text = IDS_OPTIONS_CANCEL, .at = {490, 422, 96, 30}},
+      {.id = butHelp,
+       .kind = Kind::StripKey,
+       .text = IDS_APP_HELP,
+       .at = {528, 12, 28, 22},
+       .icon = Icon::Help},
+      {.id = butCloseIt,
+       .kind = Kind::StripKey,
+       .text = IDS_APP_CLOSE,
+       .at = {560, 12, 28, 22},
+       .icon = Icon::Close},
+  };
+  static constexpr FormDesign kDesign = {.name = "frmOptions",
+                                         .caption = IDS_OPTIONS_TITLE,
+                                         .size = {600, 470},
+                                         .outline = "opf60",
+                                         .controls = kControls,
+                                         .firstFocus = chkStartWindows};
+  return kDesign;
+}
+
+}  // namespace sonaro

@@ -1,0 +1,220 @@
+// The options dialog and the proxy's page of the start-up check, as a user works them.
+#include "DesktopTest.h"
+#include "Picture.h"
+#include "forms/ControlIds.h"
+
+namespace sonaro::desktop {
+namespace {
+
+constexpr const char* kRun = "Software\\Microsoft\\Windows\\CurrentVersion\\Run";
+constexpr const char* kRunValue = "SonaroStartUp";
+constexpr const char* kInternet = "Software\\Microsoft\\Windows\\CurrentVersion\\Internet Settings";
+
+class OptionsTest : public DesktopTest {
+ protected:
+  void TearDown() override {
+    SetComputerProxy("", "");
+    RegDeleteKeyValueA(HKEY_LOCAL_MACHINE, kRun, kRunValue);
+    DesktopTest::TearDown();
+  }
+
+  void SetComputerProxy(const std::string& enabled, const std::string& server) {
+    WriteText(HKEY_CURRENT_USER, kInternet, "ProxyEnable", enabled);
+    WriteText(HKEY_CURRENT_USER, kInternet, "ProxyServer", server);
+  }
+  void StartMain() {
+    main_ = StartAndShowMain();
+    ASSERT_NE(main_, nullptr);
+  }
+  void Open() {
+    Click(Control(main_, butOptions));
+    dialog_ = Sonaro().WaitForShownWindow("frmOptions");
+    ASSERT_NE(dialog_, nullptr);
+  }
+  HWND In(int id) const { return Control(dialog_, id); }
+  bool IsOn(int id) const { return IsChecked(In(id)); }
+  // Clicks wait their turn in the program: the answer comes when they are done.
+  void Press(int id) {
+    Click(In(id));
+    SendMessageA(dialog_, WM_NULL, 0, 0);
+  }
+  bool Closed() {
+    return WaitUntil([&] { return !IsWindow(dialog_); });
+  }
+  void ExpectRefused(const char* sentence, int edit) {
+    Press(butOKIt);
+    EXPECT_TRUE(WaitUntil([&] { return TextOf(In(lblOptionsInfo)) == sentence; }))
+        << TextOf(In(lblOptionsInfo));
+    EXPECT_EQ(FocusOf(dialog_), In(edit));
+    EXPECT_TRUE(IsShown(dialog_));
+    EXPECT_EQ(ReadSetting("ProxyUse"), "");
+    EXPECT_EQ(ReadSetting("SoundNotify"), "");
+  }
+
+  HWND main_ = nullptr;
+  HWND dialog_ = nullptr;
+};
+
+TEST_F(OptionsTest, WhatIsChangedIsStoredAndShownAgain) {
+  StartMain();
+  Open();
+  EXPECT_FALSE(IsOn(chkStartWindows));
+  EXPECT_TRUE(IsOn(chkSoundNotice) && IsOn(chkSoundKeys) && IsOn(optProxy) && !IsOn(chkLookForPlayer));
+  EXPECT_FALSE(IsWindowEnabled(In(txtPort)) || IsWindowEnabled(In(butTestProxyIt)));
+  EXPECT_EQ(TextOf(In(txtPort)), "80");
+  for (const int id : {chkStartWindows, chkSoundNotice, chkLookForPlayer, optProxy + 1, optFaceplate + 1})
+    Press(id);
+  SetText(In(txtProxy), " proxy.example.net ");
+  SetText(In(txtPort), "3128");
+  SendMessageA(In(cmbAfterClose), CB_SETCURSEL, 1, 0);
+  Press(butOKIt);
+  ASSERT_TRUE(Closed());
+
+  const SettingValues kStored = {{"SoundNotify", "False"},
+                                 {"SoundClick", ""},
+                                 {"CloseToTray", "Yes"},
+                                 {"ProxyUse", "Yes"},
+                                 {"ProxyAddress", "proxy.example.net"},
+                                 {"ProxyPort", "3128"},
+                                 {"StartPlayer", "Yes"},
+                                 {"StartProxy", "No"},
+                                 {"FacePlateName", "Porcelain"}};
+  for (const auto& [name, text] : kStored) EXPECT_EQ(ReadSetting(name), text) << name;
+  EXPECT_EQ(ReadText(HKEY_LOCAL_MACHINE, kRun, kRunValue), PathOf("Sonaro.exe") + " WinStart=Yes");
+
+  Open();
+  EXPECT_TRUE(IsOn(chkStartWindows) && !IsOn(chkSoundNotice) && IsOn(optProxy + 1));
+  EXPECT_TRUE(IsWindowEnabled(In(txtPort)));
+  EXPECT_EQ(TextOf(In(txtProxy)), "proxy.example.net");
+  EXPECT_EQ(TextOf(In(txtPort)), "3128");
+  EXPECT_EQ(SendMessageA(In(cmbAfterClose), CB_GETCURSEL, 0, 0), 1);
+  Press(chkStartWindows);
+  Press(butOKIt);
+  ASSERT_TRUE(Closed());
+  EXPECT_EQ(ReadText(HKEY_LOCAL_MACHINE, kRun, kRunValue), "");
+
+  // The main window is closed as was chosen, without a question.
+  CloseWindowOf(main_);
+  EXPECT_TRUE(WaitUntil([&] { return !IsShown(main_); }));
+  EXPECT_TRUE(Sonaro().Running());
+}
+
+TEST_F(OptionsTest, AFaceplateShowsAtOnceAndGoesWithCancel) {
+  StartMain();
+  Open();
+  RECT strip = BoundsOf(main_);  // the nameplate, which the dialog leaves free
+  strip.left += 60;
+  strip.top += 20;
+  strip.right = strip.left + 100;
+  strip.bottom = strip.top + 20;
+  const auto graphite = PictureHash(strip);
+  Press(optFaceplate + 1);
+  Press(chkStartWindows);
+  Press(chkSoundKeys);
+  EXPECT_TRUE(WaitUntil([&] { return PictureHash(strip) != graphite; }));
+  PressKey(dialog_, VK_ESCAPE);
+  ASSERT_TRUE(Closed());
+  EXPECT_TRUE(WaitUntil([&] { return PictureHash(strip) == graphite; }));
+  for (const char* name : {"FacePlateName", "ColorBackground", "SoundClick"})
+    EXPECT_EQ(ReadSetting(name), "") << name;
+  EXPECT_EQ(ReadText(HKEY_LOCAL_MACHINE, kRun, kRunValue), "");
+}
+
+TEST_F(OptionsTest, AProxyThatCannotBeOneIsRefusedWithItsSentence) {
+  StartMain();
+  Open();
+  Press(chkSoundNotice);
+  Press(optProxy + 1);
+  ExpectRefused("Type the proxy's address, or choose the direct connection.", txtProxy);
+  SetText(In(txtProxy), "http://proxy.example.net");
+  ExpectRefused("The address is the proxy's name or number alone, such as proxy.example.net.", txtProxy);
+  SetText(In(txtProxy), "proxy.example.net");
+  for (const char* port : {"0", "65536", "80a", ""}) {
+    SetText(In(txtPort), port);
+    ExpectRefused("The port is a number from 1 to 65535.", txtPort);
+  }
+  Press(optProxy);
+  EXPECT_EQ(TextOf(In(lblOptionsInfo)), "");
+  Press(butOKIt);
+  ASSERT_TRUE(Closed());
+  EXPECT_EQ(ReadSetting("SoundNotify"), "False");
+}
+
+TEST_F(OptionsTest, TheComputersProxyIsFoundAndWhatIsTypedIsTested) {
+  StartMain();
+  Open();
+  Press(butFindProxyIt);
+  EXPECT_TRUE(IsOn(optProxy));
+  EXPECT_EQ(TextOf(In(lblOptionsInfo)), "No proxy is set on this computer.");
+  SetComputerProxy("1", "ftp=other:21;http=127.0.0.1:9;https=x:1");
+  Press(butFindProxyIt);
+  EXPECT_TRUE(IsOn(optProxy + 1));
+  EXPECT_EQ(TextOf(In(txtProxy)) + " " + TextOf(In(txtPort)), "127.0.0.1 9");
+
+  Press(butTestProxyIt);
+  HWND test = Sonaro().WaitForShownWindow("frmTestProxy");
+  ASSERT_NE(test, nullptr);
+  EXPECT_EQ(TextOf(Control(test, lblCheckAddress)) + " " + TextOf(Control(test, lblCheckPort)),
+            "127.0.0.1 9");
+  EXPECT_TRUE(WaitUntil([&] { return TextOf(Control(test, lblStatusInfo)).starts_with("This Proxy"); }));
+  Click(Control(test, butOKIt));
+  EXPECT_TRUE(WaitUntil([&] { return !IsWindow(test); }));
+  EXPECT_TRUE(IsWindowEnabled(dialog_));
+  EXPECT_EQ(ReadSetting("ProxyUse"), "");
+}
+
+TEST_F(OptionsTest, TheKeyboardOpensWorksAndConfirmsIt) {
+  StartMain();
+  PressKey(main_, 'O', Modifier::Alt);
+  dialog_ = Sonaro().WaitForShownWindow("frmOptions");
+  ASSERT_NE(dialog_, nullptr);
+  EXPECT_EQ(FocusOf(dialog_), In(chkStartWindows));
+  PressKey(dialog_, 'K', Modifier::Alt);
+  EXPECT_TRUE(WaitUntil([&] { return !IsOn(chkSoundKeys); }));
+  PressKey(dialog_, 'P', Modifier::Alt);
+  EXPECT_TRUE(WaitUntil([&] { return IsOn(optProxy + 1) && IsWindowEnabled(In(txtProxy)); }));
+  PressKey(dialog_, 'A', Modifier::Alt);
+  EXPECT_TRUE(WaitUntil([&] { return FocusOf(dialog_) == In(txtProxy); }));
+  TypeText(dialog_, "proxy");
+  PressKey(dialog_, VK_TAB);
+  TypeText(dialog_, "8080");
+  PressKey(dialog_, VK_RETURN);
+  ASSERT_TRUE(Closed());
+  EXPECT_EQ(ReadSetting("SoundClick"), "False");
+  EXPECT_EQ(ReadSetting("ProxyAddress") + ":" + ReadSetting("ProxyPort"), "proxy:8080");
+}
+
+TEST_F(OptionsTest, TheTrayOpensTheSameDialogOnce) {
+  SonaroProcess& sonaro = Start("WinStart=Yes");
+  ASSERT_NE(sonaro.WaitForWindow("SonaroFrm"), nullptr);
+  HWND tray = sonaro.WaitForWindow("", "frmSysTrayMenu");
+  ASSERT_NE(tray, nullptr);
+  Command(tray, mnuTrayOptions);
+  dialog_ = sonaro.WaitForShownWindow("frmOptions");
+  ASSERT_NE(dialog_, nullptr);
+  Command(tray, mnuTrayOptions);
+  SendMessageA(tray, WM_NULL, 0, 0);
+  EXPECT_EQ(FindWindowA("frmOptions", nullptr), dialog_);
+  EXPECT_EQ(FindWindowExA(nullptr, dialog_, "frmOptions", nullptr), nullptr);
+  // The end of the program ends the dialog, with nothing stored.
+  Press(optFaceplate + 1);
+  Command(tray, mnuTrayExit);
+  EXPECT_EQ(sonaro.WaitForEnd(), 0u);
+  EXPECT_EQ(ReadSetting("FacePlateName"), "");
+}
+
+TEST_F(OptionsTest, AtTheStartAFoundProxyIsOfferedOnce) {
+  SetComputerProxy("1", "proxy.example.net:3128");
+  ResetSettings({{"StartPlayer", "No"}, {"StartQuickStart", "No"}});
+  HWND page = Start().WaitForShownWindow("frmStartUpInfo");
+  ASSERT_NE(page, nullptr);
+  EXPECT_EQ(TextOf(Control(page, lblProxyFound)), "proxy.example.net:3128");
+  Click(Control(page, butOKIt));
+  ASSERT_NE(Sonaro().WaitForShownWindow("SonaroFrm"), nullptr);
+  EXPECT_EQ(ReadSetting("ProxyUse") + " " + ReadSetting("ProxyAddress") + " " + ReadSetting("ProxyPort"),
+            "Yes proxy.example.net 3128");
+  EXPECT_EQ(ReadSetting("StartProxy"), "No");
+}
+
+}  // namespace
+}  // namespace sonaro::desktop
