@@ -75,9 +75,8 @@ bool Form::Create(HWND owner) {
 
 void Form::Show(HWND owner) {
   const auto parts = parts_;
-  const bool wasOpen = IsOpen();
   if (!Create(owner) || !parts->window) return;
-  if (!wasOpen && !parts->placed) CentreOn(owner);
+  if (!parts->placed) CentreOn(owner);
   if (IsIconic(parts->window)) ShowWindow(parts->window, SW_RESTORE);
   ShowWindow(parts->window, SW_SHOW);
   SetForegroundWindow(parts->window);

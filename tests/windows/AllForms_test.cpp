@@ -39,6 +39,7 @@
 #include "schedule/frmSched.h"
 #include "schedule/frmSchedChange.h"
 #include "schedule/frmSelectStation.h"
+#include "tray/frmOptions.h"
 #include "tray/frmStartUpInfo.h"
 #include "windows/FormCheck.h"
 #include "windows/FormContextForTests.h"
@@ -75,6 +76,7 @@ struct EmptyProgram {
   PersonalShows shows{folder, messages, words};
   StationPicker picker{stations, personal, recent, settings, words};
   ScheduleServices schedule{store, calendar, shows, picker, clock, outside.files, shell, messages, help};
+  OptionsModel options{settings, outside.faceplate, "C:\\Guide\\Sonaro.exe"};
   GuideData guide{folder, settings, words, state, stations, personal, extra, recent, favorites, source};
 };
 
@@ -127,6 +129,7 @@ const NamedForm kForms[] = {
     {"frmSchedChange",
      [](EmptyProgram& p) { return Make<frmSchedChange>(p.forms, p.schedule, ScheduleDraft{}); }},
     {"frmSelectStation", [](EmptyProgram& p) { return Make<frmSelectStation>(p.forms, p.picker, p.help); }},
+    {"frmOptions", [](EmptyProgram& p) { return Make<frmOptions>(p.forms, p.options, OptionsCalls{}); }},
     {"frmStartUpInfo",
      [](EmptyProgram& p) {
        return Make<frmStartUpInfo>(p.forms, p.settings, p.help, p.playerSetup, StartUpInfoPage::NoPlayer,

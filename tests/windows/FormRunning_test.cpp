@@ -40,17 +40,23 @@ TEST(FormRunning, ShowModalDisablesTheOthersAndAnswers) {
   DemoForm other(context.forms);
   DemoForm dialog(context.forms);
   owner.Show();
+  owner.MoveToPixels(40, 60);
   other.Show();
   dialog.closeOnClick = true;
   dialog.resultOnClick = 3;
   bool ownerTookInput = true;
   bool otherTookInput = true;
+  RECT place{};
   const Later click([&] {
     ownerTookInput = IsWindowEnabled(owner.Window());
     otherTookInput = IsWindowEnabled(other.Window());
+    GetWindowRect(dialog.Window(), &place);
     SendMessageW(dialog.Control(DemoForm::kPush), BM_CLICK, 0, 0);
   });
   EXPECT_EQ(dialog.ShowModal(owner.Window()), 3);
+  RECT owned{};
+  GetWindowRect(owner.Window(), &owned);
+  EXPECT_TRUE(EqualRect(&place, &owned)) << "it is as large as its owner, on whose middle it stands";
   EXPECT_FALSE(ownerTookInput);
   EXPECT_FALSE(otherTookInput);
   EXPECT_FALSE(dialog.IsOpen());
