@@ -11,7 +11,7 @@ namespace {
 
 constexpr const char* kList = "/data/station.snr";
 
-struct Folder {
+struct RebuiltFolder {
   FakeFiles files;
   DataFolder data{files, "/data", '/'};
   StatList stations{data};
@@ -57,7 +57,7 @@ TEST(StationRebuild, EveryKindOfLineHasADefinedResult) {
        {{1, "A"}, {2, std::string(1 << 20, 'x')}, {3, "C"}}},
   };
   for (const auto& c : cases) {
-    Folder folder;
+    RebuiltFolder folder;
     ASSERT_TRUE(folder.Rebuild(c.list)) << c.what;
     EXPECT_TRUE(folder.stations.Verify()) << c.what;
     EXPECT_EQ(folder.stations.StationCount(), c.names.size()) << c.what;
@@ -72,7 +72,7 @@ TEST(StationRebuild, EveryKindOfLineHasADefinedResult) {
 // The end of a line at, before and behind the end of what is read at once.
 TEST(StationRebuild, LinesAcrossTheReadBuffer) {
   for (std::size_t length = 256 * 1024 - 6; length < 256 * 1024 + 4; ++length) {
-    Folder folder;
+    RebuiltFolder folder;
     ASSERT_TRUE(folder.Rebuild("1\t" + std::string(length, 'x') + "\r\n2\tB\n"));
     EXPECT_EQ(folder.stations.FindStation(1)[StationField::Name].size(), length);
     EXPECT_EQ(folder.stations.FindStation(2)[StationField::Name], "B") << length;
@@ -80,7 +80,7 @@ TEST(StationRebuild, LinesAcrossTheReadBuffer) {
 }
 
 TEST(StationRebuild, MissingFieldsAreEmptyAndSurplusBelongsToTheLast) {
-  Folder folder;
+  RebuiltFolder folder;
   ASSERT_TRUE(folder.Rebuild("1\ta\tb\n2\t1\t2\t3\t4\t5\t6\t7\t8\t9\t10\t11\t12\t13\t14\t15\t16\t17\t\r\n"));
   StationRecord expected{1, {"a", "b"}};
   EXPECT_EQ(folder.stations.FindStation(1), expected);
@@ -108,13 +108,13 @@ std::string Joined(const std::vector<std::string>& lines) {
 
 TEST(StationRebuild, OrderOfTheListDoesNotMatter) {
   std::vector<std::string> lines = ManyLines();
-  Folder inOrder;
+  RebuiltFolder inOrder;
   ASSERT_TRUE(inOrder.Rebuild(Joined(lines)));
   EXPECT_EQ(inOrder.stations.StationCount(), lines.size());
   EXPECT_EQ(inOrder.stations.FindStation(-1'073'741)[StationField::Name].size(), 1999 % 300 + 6);
 
   std::shuffle(lines.begin(), lines.end(), std::mt19937(7));
-  Folder shuffled;
+  RebuiltFolder shuffled;
   ASSERT_TRUE(shuffled.Rebuild(lines[5] + Joined(lines)));
   for (const char* path : {"/data/statorg.isd", "/data/statorg.ism"}) {
     EXPECT_EQ(inOrder.files.Get(path), shuffled.files.Get(path)) << path;
@@ -228,7 +228,7 @@ TEST(StationRebuild, FailureLeavesTheOldTableAndNothingBeside) {
     EXPECT_EQ(files.AllPaths().size(), 3u) << space;
   }
 
-  Folder folder;
+  RebuiltFolder folder;
   EXPECT_FALSE(folder.stations.RebuildStationTable()) << "no list";
   EXPECT_TRUE(folder.files.AllPaths().empty());
 }

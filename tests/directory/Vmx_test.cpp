@@ -16,9 +16,9 @@
 namespace sonaro {
 namespace {
 
-const std::string kTable = "/data/table";
-const std::string kDataFile = kTable + ".isd";
-const std::string kIndexFile = kTable + ".ism";
+const std::string kTablePath = "/data/table";
+const std::string kDataFile = kTablePath + ".isd";
+const std::string kIndexFile = kTablePath + ".ism";
 
 using Fields = std::array<std::string, 3>;
 using Model = std::map<std::int32_t, Fields>;
@@ -31,9 +31,9 @@ struct Table {
 
   Table() {
     files.MakeFolder("/data");
-    EXPECT_EQ(vmx.VmxCreate(kTable, "&,R3$", 2), TableStatus::Success);
+    EXPECT_EQ(vmx.VmxCreate(kTablePath, "&,R3$", 2), TableStatus::Success);
   }
-  void Open(VmxOpenMode mode) { handle = vmx.VmxOpen(kTable, mode); }
+  void Open(VmxOpenMode mode) { handle = vmx.VmxOpen(kTablePath, mode); }
   TableStatus Put(std::int32_t key, const Fields& fields) {
     return vmx.VmxPut(handle, std::to_string(key), fields);
   }
@@ -161,9 +161,9 @@ TEST(Vmx, StatusesOfWrongCalls) {
   for (const char* key : keys) EXPECT_EQ(Get(vmx, table.handle, key).status, TableStatus::NotFound) << key;
   EXPECT_EQ(Get(vmx, table.handle, " +5 ").status, TableStatus::Success);
 
-  const Vmx::Handle writer = vmx.VmxOpen(kTable, VmxOpenMode::Write);
+  const Vmx::Handle writer = vmx.VmxOpen(kTablePath, VmxOpenMode::Write);
   EXPECT_NE(writer, 0);
-  EXPECT_EQ(vmx.VmxOpen(kTable, VmxOpenMode::Write), 0) << "one writer at a time";
+  EXPECT_EQ(vmx.VmxOpen(kTablePath, VmxOpenMode::Write), 0) << "one writer at a time";
   EXPECT_EQ(vmx.VmxPut(writer, "x", Fields{}), TableStatus::BadCall);
   EXPECT_EQ(vmx.VmxPut(writer, "1", std::array<std::string, 2>{}), TableStatus::BadCall);
   EXPECT_EQ(vmx.VmxPut(writer, "5", Fields{"a\tb", "\t", "c\td"}), TableStatus::ReplacedExisting);
@@ -179,12 +179,12 @@ TEST(Vmx, KillRemovesTheTableAndWhatAWriterLeft) {
   table.Fill({{5, {"a", "b", "c"}}});
   for (const std::string& path : {kDataFile, kIndexFile})
     table.files.Put(path + ".new", *table.files.Get(path));
-  EXPECT_EQ(table.vmx.VmxKill(kTable), TableStatus::Success);
+  EXPECT_EQ(table.vmx.VmxKill(kTablePath), TableStatus::Success);
   EXPECT_TRUE(table.files.AllPaths().empty());
-  EXPECT_EQ(table.vmx.VmxKill(kTable), TableStatus::Success) << "no table is no failure";
+  EXPECT_EQ(table.vmx.VmxKill(kTablePath), TableStatus::Success) << "no table is no failure";
   table.files.Put(kDataFile, "");
   table.files.Lock(kDataFile);
-  EXPECT_EQ(table.vmx.VmxKill(kTable), TableStatus::NotWritten);
+  EXPECT_EQ(table.vmx.VmxKill(kTablePath), TableStatus::NotWritten);
 }
 
 // What is in memory is used only for the generation that it was read from.
@@ -193,7 +193,7 @@ TEST(Vmx, SeesATableThatWasReplaced) {
   table.Fill({{1, {"old", "", ""}}});
   Vmx reader(table.files);
   const auto name = [&] {
-    const Vmx::Handle handle = reader.VmxOpen(kTable, VmxOpenMode::Read);
+    const Vmx::Handle handle = reader.VmxOpen(kTablePath, VmxOpenMode::Read);
     const Read read = Get(reader, handle, "1");
     EXPECT_NE(reader.SearchImage(handle), nullptr);
     reader.VmxClose(handle);
@@ -209,18 +209,18 @@ TEST(Vmx, SeesATableThatWasReplaced) {
   damaged.back() ^= 1;
   table.files.Put(kDataFile, damaged);
   Vmx other(table.files);
-  Vmx::Handle handle = other.VmxOpen(kTable, VmxOpenMode::Read);
+  Vmx::Handle handle = other.VmxOpen(kTablePath, VmxOpenMode::Read);
   EXPECT_EQ(Get(other, handle, "1").status, TableStatus::Damaged);
   other.VmxClose(handle);
   table.files.Put(kDataFile, sound);
-  handle = other.VmxOpen(kTable, VmxOpenMode::Read);
+  handle = other.VmxOpen(kTablePath, VmxOpenMode::Read);
   EXPECT_EQ(Get(other, handle, "1").status, TableStatus::Success);
 }
 
 // Opens the table in every way and compares whatever is read with the model. A failure must be a status.
 void ExpectNothingWrong(FakeFiles& files, const Model& model, const std::string& what) {
   Vmx vmx(files);
-  const Vmx::Handle handle = vmx.VmxOpen(kTable, VmxOpenMode::Read);
+  const Vmx::Handle handle = vmx.VmxOpen(kTablePath, VmxOpenMode::Read);
   if (handle == 0) {
     EXPECT_TRUE(vmx.LastStatus() == TableStatus::Damaged || vmx.LastStatus() == TableStatus::NoTable) << what;
     return;
@@ -269,13 +269,13 @@ TEST(VmxDamage, AnyByteOfAnyFile) {
         damaged[at] = static_cast<char>(damaged[at] ^ change);
         table.files.Put(path, damaged);
         const std::string what = path + " byte " + std::to_string(at) + " ^ " + std::to_string(change);
-        EXPECT_EQ(Vmx(table.files).Verify(kTable), TableStatus::Damaged) << what;
+        EXPECT_EQ(Vmx(table.files).Verify(kTablePath), TableStatus::Damaged) << what;
         ExpectNothingWrong(table.files, model, what);
       }
     }
     table.files.Put(path, sound);
   }
-  EXPECT_EQ(Vmx(table.files).Verify(kTable), TableStatus::Success);
+  EXPECT_EQ(Vmx(table.files).Verify(kTablePath), TableStatus::Success);
 }
 
 TEST(VmxDamage, AnyLength) {
@@ -288,11 +288,11 @@ TEST(VmxDamage, AnyLength) {
       if (length == sound.size()) continue;
       table.files.Put(path, length < sound.size() ? sound.substr(0, length) : sound + '\0');
       const std::string what = path + " of length " + std::to_string(length);
-      EXPECT_EQ(Vmx(table.files).Verify(kTable), TableStatus::Damaged) << what;
+      EXPECT_EQ(Vmx(table.files).Verify(kTablePath), TableStatus::Damaged) << what;
       ExpectNothingWrong(table.files, model, what);
     }
     table.files.Remove(path);
-    EXPECT_EQ(Vmx(table.files).Verify(kTable), TableStatus::NoTable) << path;
+    EXPECT_EQ(Vmx(table.files).Verify(kTablePath), TableStatus::NoTable) << path;
     table.files.Put(path, sound);
   }
 }
@@ -305,7 +305,7 @@ TEST(VmxDamage, FilesOfTwoGenerations) {
   other[2] = {"Name", "Text 3", "x"};  // the same lengths
   table.Fill(other);
   table.files.Put(kIndexFile, oldIndex);
-  EXPECT_EQ(table.vmx.VmxOpen(kTable, VmxOpenMode::Read), 0);
+  EXPECT_EQ(table.vmx.VmxOpen(kTablePath, VmxOpenMode::Read), 0);
   EXPECT_EQ(table.vmx.LastStatus(), TableStatus::Damaged);
 }
 
@@ -335,7 +335,7 @@ TEST(VmxDamage, ForgedNumbersWithRightChecksums) {
     table.files.Put(kIndexFile, forged);
 
     Vmx vmx(table.files);
-    const Vmx::Handle handle = vmx.VmxOpen(kTable, VmxOpenMode::Read);
+    const Vmx::Handle handle = vmx.VmxOpen(kTablePath, VmxOpenMode::Read);
     for (const auto& [key, fields] : SmallModel()) Get(vmx, handle, std::to_string(key));
     vmx.VmxBOF(handle);
     while (Next(vmx, handle).status == TableStatus::Success) {
@@ -345,7 +345,7 @@ TEST(VmxDamage, ForgedNumbersWithRightChecksums) {
         image->KeyAt(index);
     }
     vmx.VmxClose(handle);
-    const TableStatus verdict = vmx.Verify(kTable);
+    const TableStatus verdict = vmx.Verify(kTablePath);
     EXPECT_TRUE(verdict == TableStatus::Damaged || verdict == TableStatus::Success);
   }
 }
