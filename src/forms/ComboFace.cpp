@@ -87,10 +87,29 @@ void PaintFrameOfList(const FormParts& parts, HWND list) {
   ReleaseDC(list, dc);
 }
 
-LRESULT CALLBACK ListProcedure(HWND list, UINT message, WPARAM wParam, LPARAM lParam, UINT_PTR id,
+// The list opens exactly as high as its rows, whatever height the system had in mind for it.
+void FitRows(HWND list, HWND combo, WINDOWPOS& pos) {
+  if ((pos.flags & SWP_NOSIZE) != 0) return;
+  const int rows = std::clamp(static_cast<int>(SendMessageW(list, LB_GETCOUNT, 0, 0)), 1, kRowsShown);
+  RECT frame{};
+  AdjustWindowRectEx(&frame, static_cast<DWORD>(GetWindowLongW(list, GWL_STYLE)), FALSE,
+                     static_cast<DWORD>(GetWindowLongW(list, GWL_EXSTYLE)));
+  const int height = rows * static_cast<int>(SendMessageW(list, LB_GETITEMHEIGHT, 0, 0)) +
+                     static_cast<int>(frame.bottom - frame.top);
+  RECT face{};
+  GetWindowRect(combo, &face);
+  const bool above = (pos.flags & SWP_NOMOVE) == 0 && pos.y < face.top;
+  if (above) pos.y += pos.cy - height;
+  pos.cy = height;
+}
+
+LRESULT CALLBACK ListProcedure(HWND list, UINT message, WPARAM wParam, LPARAM lParam, UINT_PTR combo,
                                DWORD_PTR parts) noexcept {
   return Guarded(0, [&]() -> LRESULT {
-    if (message == WM_NCDESTROY) RemoveWindowSubclass(list, ListProcedure, id);
+    if (message == WM_NCDESTROY) RemoveWindowSubclass(list, ListProcedure, combo);
+    if (message == WM_WINDOWPOSCHANGING) {
+      FitRows(list, reinterpret_cast<HWND>(combo), *reinterpret_cast<WINDOWPOS*>(lParam));
+    }
     const LRESULT answer = DefSubclassProc(list, message, wParam, lParam);
     if (message == WM_NCPAINT) PaintFrameOfList(*reinterpret_cast<FormParts*>(parts), list);
     return answer;
@@ -143,15 +162,9 @@ LRESULT HandleComboMessage(FormParts& parts, const FormItem& item, UINT message,
 
 void DressCombo(FormParts& parts, FormItem& item) {
   const COMBOBOXINFO info = InfoOf(item.window);
-  if (info.hwndList) SetWindowSubclass(info.hwndList, ListProcedure, 1, reinterpret_cast<DWORD_PTR>(&parts));
-}
-
-void FitOpenList(FormParts& parts, FormItem& item) {
-  const int rows = std::clamp(static_cast<int>(SendMessageW(item.window, CB_GETCOUNT, 0, 0)), 1, kRowsShown);
-  const int frame = 2 * GetSystemMetrics(SM_CYBORDER);
-  SetWindowPos(item.window, nullptr, 0, 0, item.place.Width(),
-               item.place.Height() + rows * parts.painter->Px(kRowHeight) + frame,
-               SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
+  if (!info.hwndList) return;
+  SetWindowSubclass(info.hwndList, ListProcedure, reinterpret_cast<UINT_PTR>(item.window),
+                    reinterpret_cast<DWORD_PTR>(&parts));
 }
 
 void SizeCombo(FormParts& parts, FormItem& item) {

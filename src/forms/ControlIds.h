@@ -325,5 +325,6 @@ inline constexpr int mnuQuickStart = 3242;
 inline constexpr int mnuKeys = 3243;
 inline constexpr int mnuHideToTray = 3244;
 inline constexpr int mnuExit = 3245;
+inline constexpr int mnuViewPersonalPage = 3246;
 
 }  // namespace sonaro

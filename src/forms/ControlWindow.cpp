@@ -88,6 +88,7 @@ LRESULT HandleControlMessage(FormParts& parts, FormItem& item, UINT message, WPA
   }
   const LRESULT answer = IsCombo(kind) ? HandleComboMessage(parts, item, message, wParam, lParam)
                                        : CallControl(item, message, wParam, lParam);
+  if (item.bar && message == WM_PAINT && parts.window) UpdateLinesBar(parts, item);
   if (ChangesLook(message) && parts.window) AfterChange(parts, item, message);
   return answer;
 }

@@ -169,6 +169,7 @@ void FormParts::BuildControls() {
                                     GetModuleHandleW(nullptr), nullptr);
       WatchControl(*this, item);
       if (IsCombo(row.kind)) DressCombo(*this, item);
+      if (HasLines(row.kind)) DressLines(*this, item);
       if (row.kind == Kind::StripKey) SetTip(item, Narrow(text));
     }
     if (row.flags & kDisabled) EnableWindow(item.Window(), FALSE);

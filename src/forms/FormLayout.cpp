@@ -100,6 +100,7 @@ void FormParts::PlaceControls() {
       } else if (item.window) {
         SetWindowPos(item.window, nullptr, box.left, box.top, box.right - box.left, box.bottom - box.top,
                      SWP_NOZORDER | SWP_NOACTIVATE | SWP_NOCOPYBITS);
+        if (item.bar) PlaceLinesBar(*this, item);
       }
     }
     ShowOrHide(item);
@@ -112,6 +113,7 @@ RECT FormParts::WindowBox(const FormItem& item) const {
   RECT box = ToRect(item.place);
   const auto px = [&](int design96) { return painter->Px(design96); };
   if (IsCheck(item.KindOf())) box.left -= px(kMarkMargin);
+  if (HasLines(item.KindOf())) box.right -= px(ScrollBar::kDesignWidth);
   if (!IsEdit(item.KindOf())) return box;
   box.left += px(8);
   box.right -= px(6);
@@ -135,6 +137,7 @@ void FormParts::ShowOrHide(FormItem& item) {
     item.view->SetShown(item.shown);
   } else if (item.window) {
     ShowWindow(item.window, item.shown ? SW_SHOWNA : SW_HIDE);
+    if (item.bar) item.bar->SetShown(item.shown);
   }
   if (wasShown == item.shown) return;
   if (IsDecoration(item.KindOf())) backdrop.Discard();

@@ -20,6 +20,7 @@ bool IsKey(Kind kind) {
 }
 
 bool IsCheck(Kind kind) { return kind == Kind::CheckBox || kind == Kind::RadioButton; }
+bool HasLines(Kind kind) { return kind == Kind::MultiEdit || kind == Kind::ReadOnlyText; }
 bool IsEdit(Kind kind) { return kind == Kind::Edit || kind == Kind::MultiEdit; }
 bool IsCombo(Kind kind) { return kind == Kind::Combo || kind == Kind::ComboEdit; }
 

@@ -14,6 +14,7 @@
 #include "forms/DrawnKey.h"
 #include "forms/Form.h"
 #include "forms/Painter.h"
+#include "forms/ScrollBar.h"
 #include "forms/portable/Arrange.h"
 
 namespace sonaro {
@@ -35,6 +36,7 @@ struct FormItem {
   SortMark sort = SortMark::None;
   Form::PicturePainter picture;
   std::unique_ptr<FormControl> view;
+  std::unique_ptr<ScrollBar> bar;  // of a text of several lines
 
   int Id() const { return row->id; }
   Kind KindOf() const { return row->kind; }
@@ -47,6 +49,7 @@ bool IsKey(Kind kind);     // pressed by Enter: every key except check boxes and
 bool IsToggle(Kind kind);  // keys that keep a state
 bool IsCheck(Kind kind);   // CheckBox, RadioButton
 bool IsEdit(Kind kind);    // in glass that the form paints
+bool HasLines(Kind kind);  // MultiEdit, ReadOnlyText
 bool IsCombo(Kind kind);
 bool IsFramedView(Kind kind);  // ListView, TreeView: in glass that the form paints
 bool IsDecoration(Kind kind);  // painted by the form, no window
@@ -187,12 +190,16 @@ void WatchControl(FormParts& parts, FormItem& item);
 LRESULT CallControl(const FormItem& item, UINT message, WPARAM wParam,
                     LPARAM lParam);  // its class's own work
 
+// LinesBar.cpp: the scroll bar beside a text of several lines.
+void DressLines(FormParts& parts, FormItem& item);
+void PlaceLinesBar(const FormParts& parts, FormItem& item);
+void UpdateLinesBar(const FormParts& parts, FormItem& item);  // after what may have scrolled the text
+
 // ComboFace.cpp: the drawn face of a combo and its open list.
 LRESULT HandleComboMessage(FormParts& parts, const FormItem& item, UINT message, WPARAM wParam,
                            LPARAM lParam);
 void DressCombo(FormParts& parts, FormItem& item);
 void SizeCombo(FormParts& parts, FormItem& item);
-void FitOpenList(FormParts& parts, FormItem& item);  // as high as its rows, before it opens
 void PaintComboRow(const FormParts& parts, const DRAWITEMSTRUCT& draw);
 
 }  // namespace sonaro

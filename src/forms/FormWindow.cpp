@@ -234,7 +234,6 @@ void FormParts::ComboNotice(FormItem& item, int code) {
     Handle({.id = item.Id(), .kind = Event::Change});
   } else if (code == CBN_DROPDOWN) {
     Handle({.id = item.Id(), .kind = Event::DropDown});
-    FitOpenList(*this, item);
   } else if (code == CBN_SETFOCUS) {
     Handle({.id = item.Id(), .kind = Event::GotFocus});
   } else if (code == CBN_KILLFOCUS) {

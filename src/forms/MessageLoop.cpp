@@ -67,6 +67,15 @@ void NoteKeyboardUse(FormParts& parts, const MSG& message) {
   }
 }
 
+// Alt with an arrow key opens and closes a list; not every system does it for drawn combos.
+bool OpensList(const FormItem* focused, const MSG& message) {
+  if (!focused || !IsCombo(focused->KindOf()) || message.message != WM_SYSKEYDOWN) return false;
+  if ((message.wParam != VK_DOWN && message.wParam != VK_UP) || ModifiersDown() != kAlt) return false;
+  const LRESULT open = SendMessageW(focused->window, CB_GETDROPPEDSTATE, 0, 0);
+  SendMessageW(focused->window, CB_SHOWDROPDOWN, open ? FALSE : TRUE, 0);
+  return true;
+}
+
 bool RunKey(FormParts& parts, MSG& message) {
   NoteKeyboardUse(parts, message);
   FormItem* focused = parts.Focused();
@@ -74,6 +83,7 @@ bool RunKey(FormParts& parts, MSG& message) {
   const bool listOpen =
       focused && IsCombo(focused->KindOf()) && SendMessageW(focused->window, CB_GETDROPPEDSTATE, 0, 0) != 0;
   if (listOpen && (key == VK_RETURN || key == VK_ESCAPE)) return false;
+  if (OpensList(focused, message)) return true;
   if (RunKeyTable(parts, key, focused ? focused->Id() : 0)) return true;
   if (key == VK_RETURN && message.message == WM_KEYDOWN) return RunEnter(parts, focused, message);
   if (key == VK_ESCAPE && message.message == WM_KEYDOWN) {
@@ -107,7 +117,14 @@ bool TranslateFormMessage(MSG& message) {
     const auto parts = found->shared_from_this();
     const bool key = message.message == WM_KEYDOWN || message.message == WM_SYSKEYDOWN;
     if (message.message == WM_MOUSEWHEEL && SendWheelToPointer(root, message)) return TRUE;
-    if (key && RunKey(*parts, message)) return TRUE;
+    if (key && RunKey(*parts, message)) {
+      // The system must hear that Alt was used with another key: letting go of Alt would otherwise open the
+      // system menu, which swallows the next key.
+      if (message.message == WM_SYSKEYDOWN && IsWindow(root)) {
+        DefWindowProcW(root, message.message, message.wParam, message.lParam);
+      }
+      return TRUE;
+    }
     return IsWindow(root) && IsDialogMessageW(root, &message);
   });
   return dealtWith != 0;

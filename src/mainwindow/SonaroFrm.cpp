@@ -88,6 +88,7 @@ void SonaroFrm::BringUpView(std::string_view name) {
   for (const View view : kTabs) {
     if (NameOf(view) == name) ShowView(view);
   }
+  if (name == NameOf(View::PersonalPage)) ShowView(View::PersonalPage);
   if (name == NameOf(View::Search)) Focus(txtQuickSearch);
 }
 
@@ -142,15 +143,22 @@ void SonaroFrm::ShowPanes() {
 
 void SonaroFrm::ShowGroupBar() {
   const ListingState& state = models_.listing.State();
-  const auto shown = state.holds == Holds::Group ? data_.favorites.Find(state.group) : std::nullopt;
+  const std::size_t count = data_.favorites.Count();
+  std::size_t shown = count;  // none
+  if (state.holds == Holds::Group) shown = data_.favorites.Find(state.group).value_or(count);
   for (std::size_t slot = 0; slot < FavoriteGroups::kSlots; ++slot) {
     const int key = butFavs + static_cast<int>(slot);
-    const bool used = slot < data_.favorites.Count();
+    const bool used = slot < count;
     SetText(key, used ? data_.favorites.Name(slot) : std::string_view());
     SetTip(key, used ? data_.favorites.Name(slot) : std::string_view());
     SetDetail(key, std::to_string((slot + 1) % FavoriteGroups::kSlots));
     SetToggle(key, used && shown == slot);
   }
+  ClearItems(cmbFavs);
+  for (std::size_t group = 0; group < count; ++group) {
+    AddItem(cmbFavs, data_.favorites.Name(group), static_cast<int>(group) + 1);
+  }
+  SelectItem(cmbFavs, shown < count ? static_cast<int>(shown) : 0);
 }
 
 void SonaroFrm::ShowSelection() {
@@ -172,6 +180,8 @@ void SonaroFrm::mnuView_Click(int view) {
   }
 }
 
+void SonaroFrm::mnuViewPersonalPage_Click() { ShowView(View::PersonalPage); }
+
 void SonaroFrm::butRanking_Click(int key) {
   models_.listing.ShowRanking(kRankingKeys[static_cast<std::size_t>(key)]);
   ShowEverything();
@@ -186,6 +196,11 @@ void SonaroFrm::mnuActionRanking_Click(int entry) {
 void SonaroFrm::butFavs_Click(int group) {
   models_.listing.ShowFavoriteGroup(static_cast<std::size_t>(group));
   ShowEverything();
+}
+
+void SonaroFrm::cmbFavs_SelChange() {
+  const int group = ItemData(cmbFavs, SelectedItem(cmbFavs));
+  if (group > 0) butFavs_Click(group - 1);
 }
 
 void SonaroFrm::butRecent_Click() {

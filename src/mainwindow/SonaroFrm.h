@@ -33,7 +33,7 @@ class SonaroFrm final : public Form, private FavoritePrompts {
   SonaroFrm(FormContext& context, const GuideData& data, PlayerLaunch& player, WebPageOpener& pages,
             MainWindowCalls calls);
 
-  // Brings up the view "Browse", "Search" or "YourSonaro"; any other name changes nothing.
+  // Brings up the view with this name; a name that no view has changes nothing.
   void BringUpView(std::string_view name);
   // What changed elsewhere and must be shown: plays, groups, personal stations and extra links, the
   // directory after an update, the schedule.
@@ -64,9 +64,11 @@ class SonaroFrm final : public Form, private FavoritePrompts {
   void ShowSelection();
   void butTabs_Click(int tab);
   void mnuView_Click(int view);
+  void mnuViewPersonalPage_Click();
   void butRanking_Click(int key);
   void mnuActionRanking_Click(int entry);
   void butFavs_Click(int group);
+  void cmbFavs_SelChange();
   void butRecent_Click();
   void butSplit_Click(int column);
   void mnuSort_Click(int entry);

@@ -96,6 +96,8 @@ const ControlRow kControls[] = {
      .text = IDS_MAIN_RECENT,
      .at = {876, 94, 90, 28},
      .icon = Icon::Recent},
+    // The groups once more, for who works the window from outside: choosing one does what its key does.
+    {.id = cmbFavs, .kind = Kind::Combo, .at = {14, 94, 82, 28}, .flags = kHidden | kNoTabStop},
     {.kind = Kind::Groove, .at = {14, 130, 952, 2}},
 
     // The left column.
@@ -381,8 +383,10 @@ std::span<const EventRow> SonaroFrm::Events() const {
   static const EventRow kRows[] = {
       {butTabs, Click, &SonaroFrm::butTabs_Click, 5},
       {mnuViewYourSonaro, Click, &SonaroFrm::mnuView_Click, 5},
+      {mnuViewPersonalPage, Click, &SonaroFrm::mnuViewPersonalPage_Click},
       {butFavs, Click, &SonaroFrm::butFavs_Click, 10},
       {cmdFavHit, Click, &SonaroFrm::butFavs_Click, 10},
+      {cmbFavs, SelChange, &SonaroFrm::cmbFavs_SelChange},
       {butFavs, ContextMenu, &SonaroFrm::butFavs_ContextMenu, 10},
       {butRecent, Click, &SonaroFrm::butRecent_Click},
       {mnuRecent, Click, &SonaroFrm::butRecent_Click},

@@ -191,6 +191,7 @@ MenuEntries StationActions::ProgramMenu() const {
                                          {mnuViewByLocation, IDS_MENU_BY_LOCATION},
                                          {mnuViewSearch, IDS_MENU_SEARCH},
                                          {mnuRecent, IDS_MENU_RECENT},
+                                         {mnuViewPersonalPage, IDS_MENU_PERSONAL_PAGE},
                                          {0, 0},
                                          {mnuFavoritesAdd, IDS_GROUP_NEW},
                                          {mnuPersonalAdd, IDS_PERSONAL_ADD},

@@ -6,7 +6,7 @@
 #include <cstddef>
 #include <optional>
 
-#include "mainwindow/MenuText.h"
+#include "forms/portable/MenuText.h"
 #include "mainwindow/Rankings.h"
 #include "mainwindow/StationDetail.h"
 

@@ -34,6 +34,10 @@ void StationListing::ShowView(View view) {
   state_.view = view;
   state_.middle = view == View::YourSonaro ? Middle::EventPage : Middle::StationList;
   if (view == View::Browse) tree_.Show(BrowseMode::ByCategory);
+  if (view == View::PersonalPage) {
+    Hold(Holds::PersonalStations, strings_.Load(IDS_LISTING_YOUR_STATIONS));
+    FillHeld();
+  }
   if (view == View::BrowseLoc) tree_.Show(BrowseMode::ByLocation);
 }
 

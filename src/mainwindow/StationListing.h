@@ -29,7 +29,8 @@ class StationListing {
   const StationRows& Rows() const { return rows_; }
 
   // Brings a panel up. The list view is rebuilt from the listing mode; the browse views build the tree when
-  // it is not built for their mode; all other views leave the list as it is.
+  // it is not built for their mode; the personal page lists the user's own stations; all other views leave
+  // the list as it is.
   void ShowView(View view);
   // Does nothing when the list view is on show.
   void ShowListView();

@@ -6,6 +6,7 @@
 #include "app/Strings.h"
 #include "forms/ControlIds.h"
 #include "forms/ProgressScale.h"
+#include "forms/portable/MenuText.h"
 #include "playback/frmScanTime.h"
 #include "resources/ids.h"
 
@@ -152,7 +153,7 @@ std::vector<MenuEntry> frmScan::GroupEntries() const {
   const std::vector<std::string> names = groups_.names ? groups_.names() : std::vector<std::string>{};
   for (std::size_t group = 0; group < std::min(names.size(), kMostGroups); ++group) {
     entries.push_back({.command = mnuScanToGroup + static_cast<int>(group),
-                       .text = FillIn(LoadText(IDS_SCAN_W_MENU_GROUP), {names[group]})});
+                       .text = FillIn(LoadText(IDS_SCAN_W_MENU_GROUP), {MenuText(names[group])})});
   }
   return entries;
 }

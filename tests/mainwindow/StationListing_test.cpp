@@ -130,6 +130,15 @@ TEST_F(StationListingTest, ARefillKeepsTheSelectedStation) {
   EXPECT_EQ(listing.Rows().SelectedRow()->key, "S3") << "another list begins at its first row";
 }
 
+TEST_F(StationListingTest, ThePersonalPageListsYourStationsAndLeavesTheListingMode) {
+  listing.ShowRanking(Ranking::NewStations);
+  listing.ShowView(View::PersonalPage);
+  EXPECT_EQ(Shown(), "P1 ");
+  EXPECT_EQ(listing.State().caption, Caption(IDS_LISTING_YOUR_STATIONS));
+  listing.ShowListView();
+  EXPECT_EQ(Shown(), "S3 S1 ");
+}
+
 TEST_F(StationListingTest, AGroupCanBeShownInPlace) {
   listing.ShowView(View::YourSonaro);
   EXPECT_EQ(listing.State().middle, Middle::EventPage);

@@ -1,4 +1,4 @@
-#include "mainwindow/MenuText.h"
+#include "forms/portable/MenuText.h"
 
 namespace sonaro {
 
