@@ -1,4 +1,4 @@
-// sonaro-directory: makes, shows, searches and checks data folders.
+// sonaro-directory: makes, shows, searches, checks and publishes data folders.
 #include <iostream>
 #include <string>
 #include <vector>

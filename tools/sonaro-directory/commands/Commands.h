@@ -29,5 +29,7 @@ int RunMake(Arguments arguments, Console& console);
 int RunShow(Arguments arguments, Console& console);
 int RunSearch(Arguments arguments, Console& console);
 int RunCheck(Arguments arguments, Console& console);
+int RunPublish(Arguments arguments, Console& console);
+int RunKeygen(Arguments arguments, Console& console);
 
 }  // namespace sonaro

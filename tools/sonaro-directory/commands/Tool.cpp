@@ -25,6 +25,17 @@ constexpr std::string_view kHelp =
       Lists the identifiers of stations that have all (any) of the words.
   sonaro-directory check DIR
       Verifies every file of a data folder and says what is wrong.
+  sonaro-directory publish DIR --out SITE --date DATE [options]
+      Makes a web site out of a data folder: the update, the help pages and the
+      configuration of a web server. DATE (2026-11-23) is what tells an
+      installation whether it has this directory already.
+        --key FILE         sign the update with this secret key
+        --host HOST        tell installations that the service is on this host
+        --listen ADDRESS   where the server listens: port, or address:port
+                           (80)
+  sonaro-directory keygen DIR
+      Makes a pair of keys in DIR: secret.key signs updates; publish.key beside
+      Sonaro's data makes it refuse every update that the other did not sign.
 
 Exit status: 0 done, 1 failed or something is wrong, 2 wrong use.
 )";
@@ -34,8 +45,12 @@ struct Command {
   int (*run)(Arguments, Console&);
 };
 
-constexpr std::array<Command, 4> kCommands = {
-    {{"make", RunMake}, {"show", RunShow}, {"search", RunSearch}, {"check", RunCheck}}};
+constexpr std::array<Command, 6> kCommands = {{{"make", RunMake},
+                                               {"show", RunShow},
+                                               {"search", RunSearch},
+                                               {"check", RunCheck},
+                                               {"publish", RunPublish},
+                                               {"keygen", RunKeygen}}};
 
 }  // namespace
 

@@ -1,0 +1,210 @@
+#include <gtest/gtest.h>
+
+#include <algorithm>
+
+#include "app/HelpPages.h"
+#include "base/Text.h"
+#include "commands/LocalFolder.h"
+#include "net/UpdateFile.h"
+#include "net/UpdateFormat.h"
+#include "site/UpdateText.h"
+#include "tool/ToolTest.h"
+
+namespace sonaro {
+namespace {
+
+namespace fs = std::filesystem;
+
+constexpr const char* kHelpFolder = "/public/sonaroapp/sonaro4vf/apphelp/2/";
+constexpr const char* kUpdateFolder = "/public/sonaroapp/sonaro4vf/asp/appupdate/";
+
+// A data folder with files of its user's, made once for all tests, and a place for each test's own.
+class PublishTest : public testing::Test {
+ protected:
+  static void SetUpTestSuite() {
+    directory_ = new ScratchFolder;
+    ASSERT_EQ(RunDirectoryTool({"make", ProjectFile("data/playlists/radio-browser_topvote_1-128.json"),
+                                "--out", Directory()})
+                  .status,
+              0);
+    WriteBytes(Directory() + "/favs.snr", "Jazz\t1 \r\n");
+    WriteBytes(Directory() + "/Sched.snr", "Concert\tN\t8/14/2000\t1:30 PM\t\tonce\tnote\r\n");
+  }
+  static void TearDownTestSuite() { delete directory_; }
+
+  static std::string Directory() { return directory_->Path(); }
+  std::string Site() const { return place_.Path() + "/site"; }
+  std::string Installation() const { return place_.Path() + "/installation"; }
+
+  ToolRun Publish(std::vector<std::string> more = {}, const std::string& directory = Directory()) const {
+    std::vector<std::string> words = {"publish", directory, "--out", Site(), "--date", "2026-11-23"};
+    words.insert(words.end(), more.begin(), more.end());
+    return RunDirectoryTool(words);
+  }
+
+  // The update as an installation receives it.
+  std::string PublishedUpdate() const {
+    for (const auto& entry : fs::directory_iterator(Site() + kUpdateFolder)) {
+      if (entry.path().filename().string().starts_with("update-")) return FileBytes(entry.path());
+    }
+    ADD_FAILURE() << "there is no update";
+    return {};
+  }
+
+  UpdateContents Receive(const std::string& update, const std::string& publisherKey = {}) const {
+    fs::remove_all(Installation());
+    fs::create_directory(Installation());
+    WriteBytes(Installation() + "/update.txt", update);
+    if (!publisherKey.empty()) WriteBytes(Installation() + "/publish.key", publisherKey);
+    LocalFolder folder(Installation());
+    return ReadUpdateFile(folder.Data());
+  }
+
+  static ScratchFolder* directory_;
+  ScratchFolder place_;
+};
+
+ScratchFolder* PublishTest::directory_ = nullptr;
+
+TEST_F(PublishTest, AnUpdateBringsTheSameDirectory) {
+  const ToolRun run = Publish();
+  ASSERT_EQ(run.status, 0) << run.err;
+  const std::string update = PublishedUpdate();
+  EXPECT_TRUE(update.ends_with(update::kSentinel));
+  const UpdateContents contents = Receive(update);
+  ASSERT_EQ(contents.status, UpdateFileStatus::Read);
+  EXPECT_EQ(contents.date, "2026-11-23");
+  EXPECT_EQ(contents.skippedSections, 0u);
+  EXPECT_TRUE(contents.received.starts_with("Station.snr\t"));
+
+  std::size_t expected = 0;
+  for (const auto& [name, bytes] : FolderContents(Directory())) {
+    if (!name.ends_with(".snr") || name == "favs.snr" || name == "Sched.snr") continue;
+    const std::string received = EqualIgnoringCase(name, "Station.snr") ? "Station.snr" : name;
+    EXPECT_EQ(FileBytes(Installation() + "/t" + received), bytes) << name;
+    ++expected;
+  }
+  EXPECT_GT(expected, 10u);
+  EXPECT_EQ(std::count(contents.received.begin(), contents.received.end(), '\t'),
+            static_cast<std::ptrdiff_t>(expected));
+}
+
+TEST_F(PublishTest, OnlyTheOwnersSignatureCounts) {
+  for (const char* keys : {"/ours", "/theirs"})
+    ASSERT_EQ(RunDirectoryTool({"keygen", place_.Path() + keys}).status, 0);
+  const std::string ours = FileBytes(place_.Path() + "/ours/publish.key");
+  const std::string theirs = FileBytes(place_.Path() + "/theirs/publish.key");
+  const std::string secret = place_.Path() + "/ours/secret.key";
+  EXPECT_NE(ours, theirs);
+  EXPECT_EQ(RunDirectoryTool({"keygen", place_.Path() + "/ours"}).status, 1) << "a key was overwritten";
+  EXPECT_EQ(FileBytes(place_.Path() + "/ours/publish.key"), ours);
+  EXPECT_EQ(fs::status(secret).permissions() & (fs::perms::group_all | fs::perms::others_all),
+            fs::perms::none);
+
+  ASSERT_EQ(Publish().status, 0);
+  EXPECT_EQ(Receive(PublishedUpdate(), ours).status, UpdateFileStatus::NotSigned);
+  fs::remove_all(Site());
+  ASSERT_EQ(Publish({"--key", secret}).status, 0);
+  std::string update = PublishedUpdate();
+  EXPECT_EQ(Receive(update, ours).status, UpdateFileStatus::Read);
+  EXPECT_EQ(Receive(update).status, UpdateFileStatus::Read) << "nobody has to check";
+  EXPECT_EQ(Receive(update, theirs).status, UpdateFileStatus::WrongSign);
+  update[update.size() / 2] ^= 1;
+  EXPECT_EQ(Receive(update, ours).status, UpdateFileStatus::WrongSign);
+}
+
+TEST_F(PublishTest, TellsInstallationsWhereTheServiceIs) {
+  ASSERT_EQ(Publish({"--host", "radio.example"}).status, 0);
+  const UpdateContents contents = Receive(PublishedUpdate());
+  EXPECT_EQ(contents.refusedValues, 0u);
+  std::vector<std::string> told;
+  for (const ServiceValue& value : contents.values) {
+    told.push_back(value.setting + std::string(" ") + value.value);
+    // What is told is there.
+    const std::string path = "/public" + value.value.substr(std::string("http://radio.example").size());
+    EXPECT_TRUE(path.ends_with("/update.asp") || fs::exists(Site() + path)) << told.back();
+  }
+  EXPECT_EQ(told.size(), 4u);
+  ASSERT_FALSE(told.empty());
+  EXPECT_EQ(told[0], "UpdateURL http://radio.example/sonaroapp/sonaro4vf/asp/appupdate/update.asp");
+}
+
+// Every page that some window opens; each is whole, and leads nowhere else than to another one.
+TEST_F(PublishTest, HasEveryPage) {
+  ASSERT_EQ(Publish().status, 0);
+  std::vector<std::string> pages = {"index.html", "9003.html", "9004.html", "9008.html",
+                                    "9018.html",  "9019.html", "9020.html", "9042.html"};
+  for (const char* key :
+       {"DeletePersonalStation", "ToAddMorePersonalStationYouNeedMoreInfo",
+        "ToSendCommentToFriendYouNeedMoreInfo", "ScheduleStationYourNeedToSelectAStation",
+        "ScheduleStationYourNeedToSelectADate", "ChangingFacePlate", "CantFindProgram",
+        "MissingDataFilesNeedToDownloadThem", "DeleteFavoriteGroup", "AlreadyHave10FavoriteGroups",
+        "TheFavoriteGroupAlreadyExists", "ToSendCommentToSonaroYouNeedMoreInfo", "QuickStart"})
+    pages.emplace_back(HelpPageForMessage(key));
+  const std::string index = FileBytes(Site() + kHelpFolder + "index.html");
+  for (const std::string& page : pages) {
+    const std::string html = FileBytes(Site() + kHelpFolder + page);
+    EXPECT_TRUE(html.ends_with("</html>\n")) << page;
+    EXPECT_GT(html.size(), 700u) << page << " says nothing";
+    EXPECT_TRUE(page == "index.html" || index.find("href=\"" + page + "\"") != std::string::npos) << page;
+    for (std::size_t at = html.find("href=\""); at != std::string::npos; at = html.find("href=\"", at + 1)) {
+      const std::string target = html.substr(at + 6, html.find('"', at + 6) - at - 6);
+      const std::string path = target.starts_with('/') ? "/public" + target : kHelpFolder + target;
+      EXPECT_TRUE(fs::exists(Site() + path)) << page << " leads to " << target;
+    }
+  }
+  EXPECT_TRUE(fs::exists(Site() + "/public/privacy.html"));
+  EXPECT_TRUE(
+      FileBytes(Site() + "/public/sonaroapp/sonaro3/asp/proxy/test.asp").starts_with("cool proxy works!"));
+}
+
+struct SectionCase {
+  std::string bytes;
+  bool fits;
+};
+
+TEST(UpdateText, CarriesLinesOnly) {
+  const std::string end = "cat.SNR" + std::string(update::kSectionEnd);
+  const SectionCase kCases[] = {{"", true},
+                                {"a\r\nb\r\n", true},
+                                {"a\r\n\r\nb\r\n", false},
+                                {"\r\n", false},
+                                {"a\nb\n", false},
+                                {"a\r\nb", false},
+                                {"a\r\n" + end + "\r\n", false},
+                                {"a\r\nx" + end + "\r\n", true}};
+  for (const SectionCase& one : kCases) EXPECT_EQ(FitsInSection("cat.snr", one.bytes), one.fits) << one.bytes;
+}
+
+TEST_F(PublishTest, SaysWhatItCannotPublish) {
+  WriteBytes(place_.Path() + "/bad.key", "12ab\n");
+  const std::string empty = place_.Path() + "/empty";
+  const std::string hollow = place_.Path() + "/hollow";
+  fs::create_directory(empty);
+  fs::create_directory(hollow);
+  WriteBytes(hollow + "/station.snr", "no station\r\n");
+  const struct {
+    ToolRun run;
+    int status;
+    const char* sentence;
+  } kCases[] = {
+      {Publish({"--key", place_.Path() + "/bad.key"}), 1, "The key is not"},
+      {Publish({"--key", place_.Path() + "/none.key"}), 1, "The key \""},
+      {Publish({}, empty), 1, "\""},
+      {Publish({}, hollow), 1, "\"Station.snr\" holds no station."},
+      {Publish({}, empty + "/none"), 1, "There is no folder"},
+      {Publish({"--date", "31/31/2026"}), 2, "--date is a date"},
+      {Publish({"--host", "a b"}), 2, "--host is"},
+      {Publish({"--listen", "80;"}), 2, "--listen is"},
+      {Publish({"--listen", "70000"}), 2, "--listen is"},
+      {Publish({"second"}), 2, "publish takes one"},
+  };
+  for (const auto& one : kCases) {
+    EXPECT_EQ(one.run.status, one.status) << one.sentence;
+    EXPECT_TRUE(one.run.err.starts_with(one.sentence)) << one.run.err;
+  }
+  EXPECT_FALSE(fs::exists(Site() + "/nginx.conf"));
+}
+
+}  // namespace
+}  // namespace sonaro

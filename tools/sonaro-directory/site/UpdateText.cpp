@@ -1,0 +1,110 @@
+#include "site/UpdateText.h"
+
+#include <algorithm>
+
+#include "base/HttpResponse.h"
+#include "base/Text.h"
+#include "directory/StationListFile.h"
+#include "net/UpdateFormat.h"
+#include "net/UpdateSignature.h"
+
+namespace sonaro {
+namespace {
+
+constexpr std::string_view kStationList = "Station.snr";
+constexpr std::string_view kLineEnd = "\r\n";
+
+// A station table is made by the installation itself.
+bool IsTable(std::string_view name) {
+  constexpr std::string_view kEndings[] = {".isd", ".ism", ".isf", ".isl"};
+  return std::any_of(std::begin(kEndings), std::end(kEndings),
+                     [name](std::string_view ending) { return EndsWithIgnoringCase(name, ending); });
+}
+
+// The files that an update may bring, in the order of their names, the station list in front: should the rest
+// not come through, the list is there.
+std::vector<std::string> NamesOf(DataFolder& data) {
+  std::vector<std::string> names;
+  for (std::string& name : data.FileSystem().List(data.Folder())) {
+    if (EqualIgnoringCase(name, kStationList)) name = kStationList;  // as installations compare it
+    if (update::MayBringFile(name) && !IsTable(name)) names.push_back(std::move(name));
+  }
+  std::sort(names.begin(), names.end());
+  const auto list = std::find(names.begin(), names.end(), kStationList);
+  if (list != names.end()) std::rotate(names.begin(), list, list + 1);
+  return names;
+}
+
+bool HoldsStation(std::string_view list) {
+  StationLine station;
+  while (!list.empty()) {
+    if (ParseStationLine(TakeUntil(list, '\n'), station)) return true;
+  }
+  return false;
+}
+
+void AddSection(std::string& text, std::string_view name, std::string_view bytes) {
+  text.append(update::kFile).append(name).append(kLineEnd);
+  text.append(name).append(update::kSectionStart).append(kLineEnd);
+  text.append(bytes);
+  text.append(name).append(update::kSectionEnd).append(kLineEnd);
+}
+
+void AddSections(DataFolder& data, UpdateText& update) {
+  for (const std::string& name : NamesOf(data)) {
+    const ReadResult file = data.Read("\\" + name);
+    if (file.status != ReadStatus::Ok) {
+      update.failure = "\"" + name + "\" could not be read.";
+      return;
+    }
+    const bool isList = name == kStationList;
+    if (isList && !HoldsStation(file.bytes)) {
+      update.failure = "\"" + name + "\" holds no station.";
+    } else if (FitsInSection(name, file.bytes)) {
+      AddSection(update.bytes, name, file.bytes);
+      update.carried.push_back(name);
+    } else if (isList) {
+      update.failure = "\"" + name + "\" is not made of lines ended by CR LF.";
+    } else {
+      update.leftOut.push_back(name);
+    }
+    if (!update.failure.empty()) return;
+  }
+  if (update.carried.empty() || update.carried.front() != kStationList)
+    update.failure = "\"" + data.Folder() + "\" has no station list.";
+}
+
+void AddSignature(const std::string& secretKey, UpdateText& update) {
+  const std::string line = UpdateSignatureLine(update.bytes, secretKey);
+  if (line.empty()) update.failure = "The key is not 128 hexadecimal digits.";
+  update.bytes.append(line).append(kLineEnd);
+}
+
+}  // namespace
+
+bool FitsInSection(std::string_view name, std::string_view bytes) {
+  const std::string end = std::string(name).append(update::kSectionEnd);
+  while (!bytes.empty()) {
+    const std::size_t length = bytes.find('\n');
+    if (length == std::string_view::npos || length < 2 || bytes[length - 1] != '\r') return false;
+    if (EqualIgnoringCase(bytes.substr(0, length - 1), end)) return false;
+    bytes.remove_prefix(length + 1);
+  }
+  return true;
+}
+
+UpdateText MakeUpdateText(DataFolder& data, const UpdateRequest& request) {
+  UpdateText update;
+  for (const ServiceLine& line : request.service)
+    update.bytes.append(line.key).append(line.value).append("::").append(kLineEnd);
+  AddSections(data, update);
+  update.bytes.append(update::kDate).append(request.date).append("::").append(kLineEnd);
+  if (update.failure.empty() && !request.secretKey.empty()) AddSignature(request.secretKey, update);
+  update.bytes.append(update::kSentinel);
+  if (update.failure.empty() && update.bytes.size() > HttpResponse::kLargestBody)
+    update.failure = "The update is larger than an installation takes.";
+  if (!update.failure.empty()) update.bytes.clear();
+  return update;
+}
+
+}  // namespace sonaro

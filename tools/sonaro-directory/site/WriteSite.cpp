@@ -1,0 +1,103 @@
+#include "site/WriteSite.h"
+
+#include "app/ServiceHosts.h"
+#include "app/SettingNames.h"
+#include "base/Signing.h"
+#include "net/ServiceUrlTable.h"
+#include "net/UpdateFormat.h"
+#include "site/HelpSite.h"
+#include "site/NginxConfig.h"
+#include "site/UpdateText.h"
+
+namespace sonaro {
+namespace {
+
+constexpr std::string_view kHelpEdition = "/2/";
+constexpr std::string_view kPrivacyName = "privacy.html";
+constexpr std::size_t kDigitsOfName = 16;
+
+// The path of a service's address on its host.
+std::string PathOf(const char* setting) {
+  const std::string address = ServiceDefault(setting);
+  return address.substr(address.find('/', std::string_view("http://").size()));
+}
+
+std::string FolderOf(const std::string& path) { return path.substr(0, path.rfind('/') + 1); }
+
+// The addresses that this site answers.
+std::vector<ServiceLine> ServiceLines(const std::string& host) {
+  if (host.empty()) return {};
+  const auto line = [&host](const char* key, const char* setting) {
+    return ServiceLine{key, "http://" + host + PathOf(setting)};
+  };
+  return {line("::UpdateURL::", setting::kUpdateUrl), line("::ProxyTest::", setting::kProxyTest),
+          line("::HelpURL::", setting::kHelpUrl), line("::PriacyPol::", setting::kPrivacyPolicy)};
+}
+
+class SiteWriter {
+ public:
+  SiteWriter(DataFolder& site, SiteResult& result) : site_(site), result_(result) {}
+
+  // `path` begins with "/" and lies in the site's folder.
+  void Put(const std::string& path, std::string_view bytes) {
+    if (!result_.failure.empty()) return;
+    std::string name = path;
+    for (char& c : name) c = c == '/' ? '\\' : c;
+    const std::string folder = site_.Path(name.substr(0, name.rfind('\\')));
+    if (!site_.FileSystem().MakeFolder(folder) || !site_.Save(name, bytes)) {
+      result_.failure = "\"" + site_.Path(name) + "\" could not be written.";
+    } else {
+      ++result_.files;
+    }
+  }
+  // A file that is fetched from the host.
+  void PutPublic(const std::string& path, std::string_view bytes) { Put("/public" + path, bytes); }
+
+ private:
+  DataFolder& site_;
+  SiteResult& result_;
+};
+
+void PutPages(SiteWriter& writer) {
+  const std::string folder = PathOf(setting::kHelpUrl).append(kHelpEdition);
+  const std::string style = folder + "style.css";
+  writer.PutPublic(style, PageStyle());
+  for (const WebPage& page : HelpSite(style)) {
+    if (page.name == kPrivacyName) {
+      writer.PutPublic(PathOf(setting::kPrivacyPolicy), page.html);
+    } else {
+      writer.PutPublic(folder + page.name, page.html);
+    }
+  }
+}
+
+}  // namespace
+
+SiteResult WriteSite(DataFolder& directory, DataFolder& site, const SiteOptions& options) {
+  SiteResult result;
+  UpdateText update =
+      MakeUpdateText(directory, {options.date, ServiceLines(options.host), options.secretKey});
+  result.failure = std::move(update.failure);
+  result.leftOut = std::move(update.leftOut);
+  result.updateBytes = update.bytes.size();
+
+  NginxSite server;
+  server.listen = options.listen;
+  server.serverName = options.host.empty() ? HostOf(ServiceHost::Web) : options.host;
+  server.updateScript = PathOf(setting::kUpdateUrl);
+  const std::string folder = FolderOf(server.updateScript);
+  // Another update has another name: caches on the way never mix them up.
+  server.updateFile = folder + "update-" + Sha256Hex(update.bytes).substr(0, kDigitsOfName) + ".txt";
+  server.nothingNewFile = folder + std::string(update::kNothingNew);
+  server.date = options.date;
+
+  SiteWriter writer(site, result);
+  writer.PutPublic(server.updateFile, update.bytes);
+  writer.PutPublic(server.nothingNewFile, "Nothing is newer.\r\n");
+  writer.PutPublic(PathOf(setting::kProxyTest), ServiceDefault(setting::kProxyTestText) + "\r\n");
+  PutPages(writer);
+  writer.Put("/nginx.conf", NginxConfig(server));
+  return result;
+}
+
+}  // namespace sonaro
