@@ -4,10 +4,9 @@
 
 #include <algorithm>
 #include <array>
-#include <map>
-#include <memory>
 #include <random>
 #include <set>
+#include <vector>
 
 #include "base/DataFolder.h"
 #include "fakes/FakeFiles.h"
@@ -20,13 +19,17 @@
 namespace sonaro {
 namespace {
 
-// The sanitizers make each minute about ten times as dear.
+// Ten years in every zone where minutes are cheap; with the sanitizers, which make them ten times as dear, a
+// year north and a year south of the equator.
 #ifdef __SANITIZE_ADDRESS__
 constexpr int kYears = 1;
+constexpr int kItems = 200;
+const std::vector<int> kZones = {0, 1};
 #else
 constexpr int kYears = 10;
-#endif
 constexpr int kItems = 600;
+const std::vector<int> kZones = {0, 1, 2, 3};
+#endif
 
 struct Truth {
   int minuteOfDay = 0;
@@ -34,16 +37,9 @@ struct Truth {
   Date once;
 };
 
-struct Told {
-  std::size_t slot = 0;
-  std::int64_t local = 0;  // seconds of the local clock when it was told
-  auto operator<=>(const Told&) const = default;
-};
-
 // A window that is always there, and a tray that writes down what it is told.
 class Recorder : public ScheduleTimerView, public MessagePost {
  public:
-  explicit Recorder(SimulatedClock& clock) : clock_(clock) {}
   bool IsLoaded() override { return loaded_; }
   void Load() override { loaded_ = true; }
   void SetCloseItCaption(const char*) override {}
@@ -51,15 +47,14 @@ class Recorder : public ScheduleTimerView, public MessagePost {
   void Unload() override { loaded_ = false; }
   bool WindowExists(const std::string&) override { return true; }
   bool PostTo(const std::string&, std::uint32_t, std::uintptr_t slot, std::intptr_t) override {
-    told.push_back({slot, clock_.LocalSeconds()});
+    told.push_back(slot);
     return true;
   }
   bool EarlierInstanceRuns() override { return false; }
 
-  std::vector<Told> told;
+  std::vector<std::size_t> told;  // the slots, since they were last looked at
 
  private:
-  SimulatedClock& clock_;
   bool loaded_ = false;
 };
 
@@ -78,15 +73,21 @@ std::int64_t NthSunday(int year, int month, int nth, int gmtHour) {  // nth < 0:
 // after.
 SimulatedClock::OffsetAt SummerTime(std::int64_t standard, int beginMonth, int beginNth, int endMonth,
                                     int endNth, int beginGmtHour, int endGmtHour) {
-  auto years = std::make_shared<std::map<int, std::pair<std::int64_t, std::int64_t>>>();
+  struct Change {
+    std::int64_t gmt = 0;
+    std::int64_t offset = 0;
+  };
+  std::vector<Change> changes;
   for (int year = 1999; year < 2015; ++year) {
-    (*years)[year] = {NthSunday(year, beginMonth, beginNth, beginGmtHour),
-                      NthSunday(year, endMonth, endNth, endGmtHour)};
+    changes.push_back({NthSunday(year, beginMonth, beginNth, beginGmtHour), standard + 3600});
+    changes.push_back({NthSunday(year, endMonth, endNth, endGmtHour), standard});
   }
-  return [=](std::int64_t gmt) {
-    const auto& [begin, end] = years->at(SimulatedClock::At(gmt).date.year);
-    const bool summer = begin < end ? gmt >= begin && gmt < end : gmt >= begin || gmt < end;
-    return standard + (summer ? 3600 : 0);
+  std::sort(changes.begin(), changes.end(), [](const Change& a, const Change& b) { return a.gmt < b.gmt; });
+  return [changes](std::int64_t gmt) {
+    return std::prev(
+               std::upper_bound(changes.begin(), changes.end(), gmt,
+                                [](std::int64_t now, const Change& change) { return now < change.gmt; }))
+        ->offset;
   };
 }
 
@@ -141,24 +142,24 @@ class Simulation : public testing::TestWithParam<int> {
     }
   }
 
-  // Everything whose local time lies after `from` and not after `to` and that was not told before.
-  void TellByWalking(std::int64_t from, std::int64_t to, std::vector<Told>& expected) {
+  // Everything that comes on after `from` and not after `to`, minute by minute.
+  std::vector<std::size_t> Due(std::int64_t from, std::int64_t to) const {
+    std::vector<std::size_t> due;
     for (std::int64_t minute = from / 60 + 1; minute * 60 <= to; ++minute) {
-      const DateTime at = SimulatedClock::At(minute * 60);
-      for (const auto& [slot, truth] :
-           byMinute_[static_cast<std::size_t>(at.time.hour * 60 + at.time.minute)]) {
-        const bool due =
-            truth.weekdays.empty() ? truth.once == at.date : truth.weekdays.count(Weekday(at.date)) > 0;
-        if (due && walked_.insert({minute, slot}).second) expected.push_back({slot, to});
+      const Date day = DateFromDays(minute / (24 * 60));
+      for (const auto& [slot, truth] : byMinute_[static_cast<std::size_t>(minute % (24 * 60))]) {
+        if (truth.weekdays.empty() ? truth.once == day : truth.weekdays.count(Weekday(day)) > 0)
+          due.push_back(slot);
       }
     }
-    if (walked_.size() > 100000) walked_.erase(walked_.begin());
+    return due;
   }
 
   std::array<std::vector<std::pair<std::size_t, Truth>>, 24 * 60> byMinute_;
-  std::set<std::pair<std::int64_t, std::size_t>> walked_;  // oldest first
 };
 
+// What a minute must tell is what the local clock passed in it: an hour's worth where summer time skips an
+// hour, and nothing in the hour that it repeats, which was told the first time.
 TEST_P(Simulation, TellsEveryItemOnceInItsMinute) {
   FakeFiles files;
   DataFolder data(files, "data", '/');
@@ -166,28 +167,28 @@ TEST_P(Simulation, TellsEveryItemOnceInItsMinute) {
   MakeItems(store, 4000u + static_cast<unsigned>(GetParam()));
   ScheduleCalendar calendar(store, "");
   SimulatedClock clock({{2001, 1, 1}, {12, 0, 17}}, Zone(GetParam()));
-  Recorder recorder(clock);
+  Recorder recorder;
   ScheduleTimer timer(calendar, clock, recorder, recorder);
   timer.EvaluateSchedule();
   timer.Timer1_Timer();  // takes the command that starts the minute ticks
 
-  std::vector<Told> expected;
-  std::int64_t last = clock.LocalSeconds();
+  std::size_t count = 0;
+  std::int64_t latest = clock.LocalSeconds();
   for (std::int64_t minute = 0; minute < std::int64_t{kYears} * 365 * 24 * 60; ++minute) {
     clock.Advance(60);
-    const std::int64_t now = clock.LocalSeconds();
-    if (now > last) TellByWalking(last, now, expected);
-    last = now;
     timer.Timer1_Timer();
+    std::vector<std::size_t> expected = Due(latest, clock.LocalSeconds());
+    latest = std::max(latest, clock.LocalSeconds());
+    std::sort(expected.begin(), expected.end());
+    std::sort(recorder.told.begin(), recorder.told.end());
+    ASSERT_EQ(recorder.told, expected) << "minute " << minute;
+    count += expected.size();
+    recorder.told.clear();
   }
-  std::sort(expected.begin(), expected.end());
-  std::sort(recorder.told.begin(), recorder.told.end());
-  ASSERT_GT(expected.size(), static_cast<std::size_t>(kYears * kItems * 50));
-  EXPECT_TRUE(expected == recorder.told)
-      << expected.size() << " expected, " << recorder.told.size() << " told";
+  ASSERT_GT(count, static_cast<std::size_t>(kYears * kItems * 50));
 }
 
-INSTANTIATE_TEST_SUITE_P(Zones, Simulation, testing::Values(0, 1, 2, 3));
+INSTANTIATE_TEST_SUITE_P(Zones, Simulation, testing::ValuesIn(kZones));
 
 }  // namespace
 }  // namespace sonaro
