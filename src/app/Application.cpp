@@ -81,7 +81,9 @@ int Application::Run() {
                                     .proxyFound = [this] { return !service_->DetectProxy().empty(); }};
   if (!Startup(services, state_, *this).Main()) return 0;
   FinishedLoading();
-  return RunMessageLoop();
+  const int exitCode = RunMessageLoop();
+  service_->Stop();
+  return exitCode;
 }
 
 void Application::ShowSplash() {
@@ -132,6 +134,9 @@ void Application::LoadMainWindow() {
     main_->DirectoryChanged();
     schedule_->DirectoryChanged();
   });
+  service_->SetProgress(
+      [this](int percent) { main_->ShowProgress(strings_.Load(IDS_NET_GETTING_DATA), percent); },
+      [this] { main_->EndProgress(); });
   main_->BringUpView(WhatToShow(state_.commandLine));
 }
 

@@ -43,17 +43,44 @@ void ApplicationService::ShowUpdate(HWND owner) {
 
 std::unique_ptr<frmInetUpdate> ApplicationService::BeginWatched(UpdateOpener opener) {
   return std::make_unique<frmInetUpdate>(needs_.context, MakeUpdateNeeds(), caller::kUpdateDialog,
-                                         kInstallAndRebuild, std::move(opener));
+                                         kInstallAndRebuild, AlsoInTheMainWindow(std::move(opener)));
+}
+
+UpdateOpener ApplicationService::AlsoInTheMainWindow(UpdateOpener opener) {
+  UpdateOpener both;
+  both.progress = std::move(opener.progress);
+  both.bytes = [this, tell = std::move(opener.bytes)](std::uint64_t bytes, std::uint64_t expected) {
+    if (showProgress_) showProgress_(expected == 0 ? -1 : static_cast<int>(bytes * 100 / expected));
+    if (tell) tell(bytes, expected);
+  };
+  both.finished = [this, tell = std::move(opener.finished)](const UpdateOutcome& outcome) {
+    EndProgress();
+    if (tell) tell(outcome);
+  };
+  return both;
+}
+
+void ApplicationService::EndProgress() {
+  if (endProgress_) endProgress_();
+}
+
+void ApplicationService::Stop() {
+  SetDirectoryChanged(nullptr);
+  SetProgress(nullptr, nullptr);
+  dialog_.reset();
+  background_.reset();
 }
 
 void ApplicationService::RunPendingWork() {
   if (!StationListIsDue(needs_.reg)) return;
   UpdateOpener opener;
+  // Nobody reads the texts of such an update; one comes when it has to wait before it tries again.
+  opener.progress = [this](const std::string&) { EndProgress(); };
   opener.finished = [this](const UpdateOutcome& outcome) {
     if (outcome.kind == UpdateOutcome::Kind::Updated && directoryChanged_) directoryChanged_();
   };
   background_ = std::make_unique<frmInetUpdate>(needs_.context, MakeUpdateNeeds(), caller::kBackground,
-                                                kInstallAndRebuild, std::move(opener));
+                                                kInstallAndRebuild, AlsoInTheMainWindow(std::move(opener)));
   background_->Load();
 }
 

@@ -42,6 +42,14 @@ class ApplicationService {
 
   // Called after the station list was replaced.
   void SetDirectoryChanged(std::function<void()> changed) { directoryChanged_ = std::move(changed); }
+  // Called while data comes, with how much of it is there, 0 to 100 or below 0 when that is not known; and
+  // when no more comes.
+  void SetProgress(std::function<void(int percent)> show, std::function<void()> end) {
+    showProgress_ = std::move(show);
+    endProgress_ = std::move(end);
+  }
+  // Ends whatever runs, silently. To be called before anything that the functions above use is gone.
+  void Stop();
 
   // The update dialog; an update that runs unwatched makes way for it.
   void ShowUpdate(HWND owner);
@@ -57,6 +65,8 @@ class ApplicationService {
  private:
   UpdateNeeds MakeUpdateNeeds();
   std::unique_ptr<frmInetUpdate> BeginWatched(UpdateOpener opener);
+  UpdateOpener AlsoInTheMainWindow(UpdateOpener opener);
+  void EndProgress();
   std::string Installed();
   bool Undo();
   std::vector<std::int32_t> StationsOfGroups() const;
@@ -64,6 +74,8 @@ class ApplicationService {
   Needs needs_;
   UpdateInstall install_;
   std::function<void()> directoryChanged_;
+  std::function<void(int percent)> showProgress_;
+  std::function<void()> endProgress_;
   std::unique_ptr<frmUpdateDialog> dialog_;
   std::unique_ptr<frmInetUpdate> background_;
 };

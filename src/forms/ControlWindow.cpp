@@ -86,8 +86,11 @@ LRESULT HandleControlMessage(FormParts& parts, FormItem& item, UINT message, WPA
     default:
       break;
   }
-  const LRESULT answer = IsCombo(kind) ? HandleComboMessage(parts, item, message, wParam, lParam)
-                                       : CallControl(item, message, wParam, lParam);
+  // A label's class would draw a new text at once, in its own way.
+  const LRESULT answer = message == WM_SETTEXT && IsText(kind)
+                             ? DefWindowProcW(window, message, wParam, lParam)
+                         : IsCombo(kind) ? HandleComboMessage(parts, item, message, wParam, lParam)
+                                         : CallControl(item, message, wParam, lParam);
   if (item.bar && message == WM_PAINT && parts.window) UpdateLinesBar(parts, item);
   if (ChangesLook(message) && parts.window) AfterChange(parts, item, message);
   return answer;

@@ -59,6 +59,10 @@ void PaintText(const FormParts& parts, const FormItem& item, HDC dc, const RECT&
     format |= DT_HIDEPREFIX;
   }
   const Color color = IsWindowEnabled(item.window) ? InkColor(item, colors) : colors.textOff;
+  if (item.icon != Icon::None) {  // as large as its row is wide
+    parts.painter->DrawIcon(dc, item.icon, box.left, box.top, item.row->at.width, color);
+    return;
+  }
   parts.painter->Text(dc, box, WindowText(item.window), type, color, format);
 }
 

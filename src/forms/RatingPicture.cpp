@@ -56,6 +56,8 @@ LRESULT CALLBACK RatingPicture::Procedure(HWND window, UINT message, WPARAM wPar
       case WM_NCDESTROY:
         RemoveWindowSubclass(window, Procedure, kSubclassId);
         break;
+      case WM_SETTEXT:  // the class would draw the text at once, in its own way
+        return DefWindowProcW(window, message, wParam, lParam);
       case WM_ERASEBKGND:
         return 1;
       case WM_PAINT:

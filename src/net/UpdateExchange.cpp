@@ -95,10 +95,11 @@ void UpdateExchange::HTTPDataReceived(std::string_view body) {
 }
 
 void UpdateExchange::HTTPDataTransferred(std::uint64_t bytes, std::uint64_t expected) {
+  if (ForDialog() && !dataStarted_) {
+    dataStarted_ = true;
+    view_.ShowProgress(needs_.strings.Load(IDS_NET_GETTING_DATA));
+  }
   if (mode_ == kFileRequest) view_.ShowBytes(bytes, expected);
-  if (!ForDialog() || dataStarted_) return;
-  dataStarted_ = true;
-  view_.ShowProgress(needs_.strings.Load(IDS_NET_GETTING_DATA));
 }
 
 // The update file itself is not looked for behind a second redirect, so no row of redirects can keep the
@@ -199,6 +200,7 @@ void UpdateExchange::Failed() {
   file_.reset();
   if (!ForDialog() && tries_ < kTriesUnwatched) {
     mode_ = kFirstRequest;
+    view_.ShowProgress(needs_.strings.Load(IDS_NET_CANT_CONNECT));
     view_.StartTimer(kTryLater);
     return;
   }

@@ -24,7 +24,7 @@ std::string SettingOrDefault(CReg& reg, const char* setting) {
 
 const FormDesign& frmTestProxy::Design() {
   static constexpr ControlRow kControls[] = {
-      {.id = lblTitle, .kind = Kind::TitleBar, .text = IDS_NET_TEST_TITLE, .at = {14, 4, 182, 26}},
+      {.id = lblTitle, .kind = Kind::TitleBar, .text = IDS_NET_TEST_TITLE, .at = {40, 4, 156, 26}},
       {.kind = Kind::Label, .text = IDS_NET_TEST_ADDRESS, .at = {14, 46, 90, 24}, .type = Type::BodyStrong},
       {.id = lblCheckAddress, .kind = Kind::Label, .at = {110, 46, 290, 24}, .flags = kNoPrefix},
       {.kind = Kind::Label, .text = IDS_NET_TEST_PORT, .at = {14, 70, 90, 24}, .type = Type::BodyStrong},

@@ -16,7 +16,7 @@ constexpr int kSteps = 1000;  // of the progress scale
 
 const FormDesign& frmUpdateDialog::Design() {
   static constexpr ControlRow kControls[] = {
-      {.id = lblTitle, .kind = Kind::TitleBar, .text = IDS_NET_UPDATE_TITLE, .at = {14, 4, 182, 26}},
+      {.id = lblTitle, .kind = Kind::TitleBar, .text = IDS_NET_UPDATE_TITLE, .at = {40, 4, 156, 26}},
       {.kind = Kind::Label, .at = {20, 52, 36, 36}, .icon = Icon::Info, .ink = Ink::Signal},
       {.id = lblStuff,
        .kind = Kind::StateLabel,

@@ -1,0 +1,289 @@
+// Updates of the directory in the real program, against a server that plays the service.
+#include <algorithm>
+
+#include "DesktopTest.h"
+#include "Guide.h"
+#include "forms/ControlIds.h"
+#include "loopback/LoopbackServer.h"
+#include "net/UpdateFormat.h"
+
+namespace sonaro::desktop {
+namespace {
+
+constexpr const char* kService = "http://service.test/update.asp";
+constexpr const char* kFileAt = "http://files.test/u/update7.txt";
+constexpr const char* kFavorites = "Jazz\t18230211 6044347\r\n";  // of the small directory: stays, goes
+
+std::string Section(const std::string& name, const std::string& lines) {
+  return "file::" + name + "\r\n" + name + std::string(update::kSectionStart) + "\r\n" + lines + name +
+         std::string(update::kSectionEnd) + "\r\n";
+}
+
+std::string Complete(const std::string& lines) { return lines + std::string(update::kSentinel); }
+
+class UpdateTest : public DesktopTest {
+ protected:
+  void SetUp() override {
+    DesktopTest::SetUp();
+    if (HasFatalFailure()) return;
+    before_ = ReadFile("station.snr");
+    WriteFile("favs.snr", kFavorites);
+    UseServer(server_.Port());
+    server_.Answer("/update.asp", script::Redirect(kFileAt));
+    server_.Answer("/u/update7.txt", script::Body(Update()));
+  }
+  // By way of a proxy, since without one the service is always on port 80.
+  void UseServer(std::uint16_t port, const std::string& toDo = "") {
+    ResetSettings({{"StartPlayer", "No"},
+                   {"StartProxy", "No"},
+                   {"StartQuickStart", "No"},
+                   {"CloseToTray", "No"},
+                   {"LastUpdate", "1/2/2026"},
+                   {"InstallId", "id 1"},
+                   {"UpdateURL", kService},
+                   {"ProxyUse", "yes "},
+                   {"ProxyAddress", " 127.0.0.1 "},
+                   {"ProxyPort", std::to_string(port)},
+                   {"DoWhat", toDo}});
+  }
+
+  // The directory with a station gone, one changed and two more.
+  std::string Update() const {
+    std::string list = before_.substr(before_.find('\n') + 1);
+    const auto renamed = list.find("Jazz Radio Classic Jazz");
+    list.replace(renamed, 10, "Renamed");
+    list += StationLine(7, "New Seven", "http://127.0.0.1:9/7") +
+            StationLine(8, "New Eight", "http://127.0.0.1:9/8");
+    return Complete("version::7 \r\n::HelpURL::http://127.0.0.1:9/help::\r\n" + Section("Station.snr", list) +
+                    Section("fun.snr", "Most Pop\t7 8 18230211 \r\n") + "date::3/4/2026::\r\n");
+  }
+
+  HWND Dialog() { return Sonaro().WaitForShownWindow("MsgboxFrm", "Update"); }
+  bool Says(HWND dialog, const std::string& text) {
+    return WaitUntil([&] { return TextOf(Control(dialog, lblStuff)).find(text) != std::string::npos; });
+  }
+  bool WaitForRequests(std::size_t count) {
+    return WaitUntil([&] { return server_.Requests().size() == count; });
+  }
+  std::string RequestLine(std::size_t index) {
+    const auto requests = server_.Requests();
+    return index < requests.size() ? requests[index].substr(0, requests[index].find("\r\n")) : "(none)";
+  }
+  // The stations of the user's group, as the window lists them.
+  bool GroupLists(HWND main, const std::vector<std::string>& names) {
+    Click(Control(main, butFavs));
+    return WaitUntil([&] { return ColumnTexts(Control(main, lstFavs)) == names; });
+  }
+  void ExpectTheOldDirectory() {
+    EXPECT_EQ(ReadFile("station.snr"), before_);
+    EXPECT_EQ(ReadSetting("LastUpdate"), "1/2/2026");
+    EXPECT_EQ(ReadSetting("UpdateHold"), "");
+    EXPECT_EQ(ReadFile("favs.snr"), kFavorites);
+    EXPECT_EQ(StationIn(Folder(), "6044347")[StationField::Name], "B5 aktuell");
+  }
+  void ExpectTheNewDirectory() {
+    EXPECT_EQ(ReadSetting("LastUpdate"), "3/4/2026");
+    EXPECT_EQ(ReadSetting("UpdateVersion"), "7");
+    EXPECT_EQ(ReadSetting("HelpURL"), "http://127.0.0.1:9/help");
+    EXPECT_EQ(ReadSetting("UpdateHold"), "");
+    EXPECT_EQ(ReadFile("favs.snr"), kFavorites);
+    EXPECT_EQ(StationIn(Folder(), "7")[StationField::Name], "New Seven");
+    EXPECT_EQ(StationIn(Folder(), "6044347").StationId, 0);
+  }
+
+  LoopbackServer server_;
+  std::string before_;
+};
+
+TEST_F(UpdateTest, F5BringsANewDirectoryAndItCanBeUndone) {
+  const std::string update = Update();
+  server_.Answer("/u/update7.txt", script::HeldBody(update, update.size() / 2));
+  HWND main = StartAndShowMain();
+  PressKey(main, VK_F5);
+  HWND dialog = Dialog();
+  ASSERT_NE(dialog, nullptr);
+  ASSERT_TRUE(Says(dialog, "Getting Data: ")) << TextOf(Control(dialog, lblStuff));
+  EXPECT_EQ(TextOf(Control(dialog, butMsg + 1)), "Cancel");
+  EXPECT_TRUE(WaitUntil([&] { return TextOf(Control(main, lblPercent)) == "50%"; }));
+  EXPECT_EQ(TextOf(Control(main, lblProgress)), "Getting Data");
+  EXPECT_FALSE(IsWindowEnabled(Control(main, butUpdate)));
+  SaveShot("getting-data");
+  Command(main, mnuActionLeastPopular);
+  EXPECT_TRUE(WaitUntil([&] { return TextOf(Control(main, lblListing)) == "Least Popular"; }))
+      << "the window does not work meanwhile";
+
+  server_.Release();
+  ASSERT_TRUE(Says(dialog, "Finished Got It All"));
+  EXPECT_TRUE(Says(dialog, "New stations: 2. Changed: 1. Gone: 1."));
+  EXPECT_TRUE(Says(dialog, "Changed in your groups: Renamed"));
+  EXPECT_TRUE(Says(dialog, "Gone from your groups: B5 aktuell"));
+  EXPECT_EQ(TextOf(Control(dialog, butMsg + 1)), "Close");
+  EXPECT_TRUE(IsWindowEnabled(Control(main, butUpdate)));
+  EXPECT_TRUE(IsShown(Control(main, lblStatus)));
+  SaveShot("finished");
+  EXPECT_EQ(RequestLine(0),
+            std::string("GET ") + kService + "?ajfsfsr=id+1&LastUpdate=1%2F2%2F2026&Version=4.00.2 HTTP/1.0");
+  EXPECT_EQ(RequestLine(1), std::string("GET ") + kFileAt + "?Flush=No HTTP/1.0");
+  ExpectTheNewDirectory();
+  EXPECT_TRUE(GroupLists(main, {"Renamed Classic Jazz", "6044347"}));
+
+  EXPECT_EQ(TextOf(Control(dialog, butMsg)), "&Undo Last Update");
+  Click(Control(dialog, butMsg));
+  EXPECT_TRUE(Says(dialog, "The station list of before the last update is back."));
+  ExpectTheOldDirectory();
+  EXPECT_TRUE(GroupLists(main, {"Jazz Radio Classic Jazz", "B5 aktuell"}));
+  Click(Control(dialog, butMsg + 1));
+  EXPECT_TRUE(WaitUntil([&] { return !IsShown(dialog); }));
+  EXPECT_TRUE(Sonaro().Running());
+}
+
+TEST_F(UpdateTest, NothingNewIsSaid) {
+  server_.Answer("/update.asp", script::Redirect("http://files.test/noupdate.txt"));
+  HWND main = StartAndShowMain();
+  Click(Control(main, butUpdate));
+  HWND dialog = Dialog();
+  ASSERT_NE(dialog, nullptr);
+  EXPECT_TRUE(Says(dialog, "Your current Sonaro Station List is up to date"));
+  EXPECT_FALSE(IsShown(Control(dialog, butMsg)));
+  SaveShot("nothing-new");
+  PressKey(dialog, VK_ESCAPE);
+  EXPECT_TRUE(WaitUntil([&] { return !IsShown(dialog); }));
+  EXPECT_EQ(server_.Requests().size(), 1u);
+  ExpectTheOldDirectory();
+}
+
+TEST_F(UpdateTest, FromTheTrayARefusedUpdateIsTriedAgain) {
+  const std::uint16_t port = UnusedPort();
+  UseServer(port);
+  Start("WinStart=Yes");
+  HWND tray = Sonaro().WaitForWindow("", "frmSysTrayMenu");
+  ASSERT_NE(tray, nullptr);
+  ASSERT_NE(Sonaro().WaitForWindow("SonaroFrm"), nullptr);
+  Command(tray, mnuTrayUpdate);
+  HWND dialog = Dialog();
+  ASSERT_NE(dialog, nullptr);
+  ASSERT_TRUE(
+      Says(dialog, "Can't Connect to the Update Server. Make sure you are connected to the Internet"));
+  EXPECT_EQ(TextOf(Control(dialog, butMsg)), "&Retry");
+  EXPECT_EQ(TextOf(Control(dialog, butMsg + 1)), "Close");
+  SaveShot("refused");
+  ExpectTheOldDirectory();
+
+  LoopbackServer late(port);
+  ASSERT_TRUE(late.Listens());
+  late.Answer("/update.asp", script::Redirect(kFileAt));
+  late.Answer("/u/update7.txt", script::Body(Update()));
+  Click(Control(dialog, butMsg));
+  EXPECT_TRUE(Says(dialog, "Finished Got It All"));
+  ExpectTheNewDirectory();
+}
+
+TEST_F(UpdateTest, AnUpdateOnTheToDoListRunsByItselfAtTheStart) {
+  UseServer(server_.Port(), "/SF//SL/");
+  HWND main = StartAndShowMain();
+  ASSERT_TRUE(WaitUntil([&] { return ReadSetting("DoWhat") == "/SF/"; }));
+  EXPECT_EQ(RequestLine(1), std::string("GET ") + kFileAt + "?Flush=Yes HTTP/1.0");
+  EXPECT_EQ(Sonaro().Window("MsgboxFrm"), nullptr);
+  ExpectTheNewDirectory();
+  EXPECT_TRUE(GroupLists(main, {"Renamed Classic Jazz", "6044347"}));
+}
+
+TEST_F(UpdateTest, AnUpdateThatDidNotComeThroughChangesNothing) {
+  const std::string update = Update();
+  const struct {
+    Script answer;
+    const char* reason;
+  } kCases[] = {
+      {script::CutBody(update, update.size() / 2), "The server ended the connection too early."},
+      {script::Body(update.substr(0, update.size() - 1)), "The update did not come through whole."},
+      {script::Status("500 Broken"), "The server answered with status 500."},
+      {script::Redirect(kFileAt), "The server answered with status 302."},
+      {script::Exactly("220 ready\r\n"), "What answered is not a web server."},
+  };
+  HWND main = StartAndShowMain();
+  Click(Control(main, butUpdate));
+  HWND dialog = Dialog();
+  ASSERT_NE(dialog, nullptr);
+  ASSERT_TRUE(Says(dialog, "Finished"));
+  Click(Control(dialog, butMsg));  // undo
+  ASSERT_TRUE(Says(dialog, "is back"));
+  CloseWindowOf(dialog);
+  ASSERT_TRUE(WaitUntil([&] { return !IsShown(dialog); }));
+  for (const auto& each : kCases) {
+    server_.Answer("/u/update7.txt", each.answer);
+    Click(Control(main, butUpdate));
+    dialog = Dialog();
+    ASSERT_NE(dialog, nullptr);
+    EXPECT_TRUE(Says(dialog,
+                     "Could not get all the update information. Make sure you are connected to the "
+                     "Internet and try again."));
+    EXPECT_TRUE(Says(dialog, each.reason)) << TextOf(Control(dialog, lblStuff));
+    EXPECT_TRUE(IsShown(Control(dialog, butMsg)));
+    SaveShot("not-all");
+    Click(Control(dialog, butMsg + 1));
+    ASSERT_TRUE(WaitUntil([&] { return !IsShown(dialog); }));
+  }
+  EXPECT_EQ(ReadFile("station.snr"), before_);
+  EXPECT_EQ(ReadSetting("LastUpdate"), "1/2/2026");
+  EXPECT_EQ(StationIn(Folder(), "6044347")[StationField::Name], "B5 aktuell");
+}
+
+TEST_F(UpdateTest, CancelAndCloseEndTheTransferAtOnce) {
+  const std::string update = Update();
+  server_.Answer("/u/update7.txt", script::HeldBody(update, update.size() / 2));
+  HWND main = StartAndShowMain();
+  for (const int key : {butMsg + 1, butCloseIt}) {
+    Click(Control(main, butUpdate));
+    HWND dialog = Dialog();
+    ASSERT_NE(dialog, nullptr);
+    ASSERT_TRUE(Says(dialog, "Getting Data: "));
+    ASSERT_EQ(server_.Open(), 1);
+    Click(Control(dialog, key));
+    EXPECT_TRUE(WaitUntil([&] { return !IsShown(dialog) && server_.Open() == 0; }));
+    EXPECT_TRUE(WaitUntil([&] { return IsWindowEnabled(Control(main, butUpdate)); }));
+    ExpectTheOldDirectory();
+  }
+}
+
+TEST_F(UpdateTest, TheProgramEndsCleanlyInTheMiddleOfAnUpdate) {
+  const std::string update = Update();
+  server_.Answer("/u/update7.txt", script::HeldBody(update, update.size() / 2));
+  for (const bool watched : {true, false}) {
+    UseServer(server_.Port(), watched ? "" : "/SL/");
+    SonaroProcess& sonaro = Start();
+    HWND main = sonaro.WaitForShownWindow("SonaroFrm");
+    ASSERT_NE(main, nullptr);
+    if (watched) Click(Control(main, butUpdate));
+    ASSERT_TRUE(WaitUntil([&] { return TextOf(Control(main, lblPercent)) == "50%"; }));
+    CloseWindowOf(main);
+    EXPECT_EQ(sonaro.WaitForEnd(), 0u);
+    EXPECT_TRUE(WaitUntil([&] { return server_.Open() == 0; }));
+    ExpectTheOldDirectory();
+    EXPECT_EQ(ReadSetting("DoWhat"), watched ? "" : "/SL/");
+  }
+}
+
+// Without a proxy the service is reached on port 80, which not everybody may listen on.
+TEST_F(UpdateTest, WithoutAProxyThePathIsAskedOfTheServiceItself) {
+  LoopbackServer direct(80, "127.77.0.1");
+  if (!direct.Listens()) GTEST_SKIP() << "port 80 is not to be had";
+  direct.Answer("/update.asp", script::Redirect("http://127.77.0.1:81/noupdate.txt"));
+  ResetSettings({{"StartPlayer", "No"},
+                 {"StartProxy", "No"},
+                 {"StartQuickStart", "No"},
+                 {"InstallId", "1"},
+                 {"ProxyPort", "3128"},
+                 {"UpdateURL", "http://127.77.0.1/a/update.asp"}});
+  HWND main = StartAndShowMain();
+  PressKey(main, VK_F5);
+  HWND dialog = Dialog();
+  ASSERT_NE(dialog, nullptr);
+  EXPECT_TRUE(Says(dialog, "is up to date")) << TextOf(Control(dialog, lblStuff));
+  ASSERT_EQ(direct.Requests().size(), 1u);
+  EXPECT_TRUE(direct.Requests()[0].starts_with(
+      "GET /a/update.asp?ajfsfsr=1&LastUpdate=&Version=4.00.2 HTTP/1.0\r\nHost: 127.77.0.1\r\n"))
+      << direct.Requests()[0];
+}
+
+}  // namespace
+}  // namespace sonaro::desktop
