@@ -9,7 +9,6 @@ namespace sonaro {
 namespace {
 
 constexpr const char* kHiddenStart = " WinStart=Yes";
-constexpr const char* kUsualPort = "80";
 
 AfterClose ReadAfterClose(const CReg& reg) {
   const std::string keep = reg.Setting(setting::kCloseToTray);
@@ -46,7 +45,7 @@ Options OptionsModel::Read() const {
   now.useProxy = IsYes(reg_.Setting(setting::kProxyUse));
   now.proxy = {std::string(TrimBlanks(reg_.Setting(setting::kProxyAddress))),
                std::string(TrimBlanks(reg_.Setting(setting::kProxyPort)))};
-  if (now.proxy.port.empty()) now.proxy.port = kUsualPort;
+  if (now.proxy.port.empty()) now.proxy.port = kUsualProxyPort;
   now.lookForPlayer = !Says(reg_, setting::kStartPlayer, "No");
   now.lookForProxy = !Says(reg_, setting::kStartProxy, "No");
   now.offerTutorial = !Says(reg_, setting::kStartQuickStart, "No");

@@ -11,7 +11,6 @@ namespace sonaro {
 namespace {
 
 constexpr std::string_view kScheme = "http://";
-constexpr std::string_view kUsualPort = "80";
 constexpr std::size_t kMostPortDigits = 5;
 constexpr std::int64_t kHighestPort = 65535;
 
@@ -41,7 +40,7 @@ ProxyServer SplitProxy(std::string_view found) {
   if (StartsWithIgnoringCase(found, kScheme)) found.remove_prefix(kScheme.size());
   while (!found.empty() && found.back() == '/') found.remove_suffix(1);
   const auto colon = found.rfind(':');
-  if (colon == std::string_view::npos) return {std::string(found), std::string(kUsualPort)};
+  if (colon == std::string_view::npos) return {std::string(found), kUsualProxyPort};
   return {std::string(TrimBlanks(found.substr(0, colon))), std::string(TrimBlanks(found.substr(colon + 1)))};
 }
 

@@ -15,6 +15,9 @@ struct ProxyServer {
   friend bool operator==(const ProxyServer&, const ProxyServer&) = default;
 };
 
+// The port of a proxy that names none.
+inline constexpr const char* kUsualProxyPort = "80";
+
 enum class ProxyFault {
   None,
   NoAddress,
