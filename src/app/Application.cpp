@@ -2,6 +2,7 @@
 
 #include "app/ApplicationSchedule.h"
 #include "app/ApplicationService.h"
+#include "app/CheckDataFiles.h"
 #include "app/InstallId.h"
 #include "app/SettingNames.h"
 #include "app/Strings.h"
@@ -169,7 +170,11 @@ void Application::SayWhyNot(const std::string& sentence) {
 
 void Application::FinishedLoading() {
   tray_.FinishedLoading();
-  service_->RunPendingWork();
+  if (DataFilesMissing(data_)) {
+    service_->ShowUpdate(main_->Window());  // the user has asked for them
+  } else {
+    service_->RunPendingWork();
+  }
   if (!alphabetRefused_) return;
   messages_.Ask({.key = "AlphabetRefused",
                  .caption = strings_.Load(IDS_APP_TITLE),

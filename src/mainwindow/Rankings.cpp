@@ -59,8 +59,8 @@ std::string Rankings::Ids(Ranking ranking) {
 }
 
 void Rankings::ReadRankings() {
-  read_ = true;
   const ReadResult file = data_.Read(kRankingsFile);
+  read_ = file.status == ReadStatus::Ok;
   for (const std::string_view line : SplitLines(file.bytes)) {
     const auto fields = SplitAtMost(line, '\t', 2);
     if (fields.size() < 2) continue;

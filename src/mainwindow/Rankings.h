@@ -1,5 +1,6 @@
 // The ranked lists of the directory: seven out of "\fun.snr" and the reliable list out of "\reliable.snr".
-// Read at the first use and kept for the run, so that an update's new rankings show at the next start.
+// Read at the first use and kept for the run, so that an update's new rankings show at the next start;
+// rankings that were missing show as soon as they are there.
 #pragma once
 
 #include <array>

@@ -1,7 +1,11 @@
 #include "net/frmUpdateDialog.h"
 
+#include <algorithm>
+
 #include "forms/ControlIds.h"
+#include "forms/Painter.h"
 #include "forms/ProgressScale.h"
+#include "forms/WideText.h"
 #include "net/UpdateText.h"
 #include "net/frmInetUpdate.h"
 #include "resources/ids.h"
@@ -11,22 +15,33 @@ namespace sonaro {
 namespace {
 
 constexpr int kSteps = 1000;  // of the progress scale
+constexpr std::uint64_t kTextSteps = 20;
+constexpr std::uint64_t kQuietBytes = 256 * 1024;  // between two texts when the length is not known
+constexpr DesignSize kSize = {420, 248};
+constexpr int kTextWidth = 336;
+constexpr int kTextHeight = 104;
 
 }  // namespace
 
 const FormDesign& frmUpdateDialog::Design() {
+  static constexpr unsigned char kFoot = kLeft | kBottom;
   static constexpr ControlRow kControls[] = {
       {.id = lblTitle, .kind = Kind::TitleBar, .text = IDS_NET_UPDATE_TITLE, .at = {40, 4, 156, 26}},
       {.kind = Kind::Label, .at = {20, 52, 36, 36}, .icon = Icon::Info, .ink = Ink::Signal},
       {.id = lblStuff,
        .kind = Kind::StateLabel,
-       .at = {68, 50, 336, 104},
+       .at = {68, 50, kTextWidth, kTextHeight},
        .flags = kWrap | kNoPrefix,
+       .anchors = kLeft | kTop | kBottom,
        .type = Type::Message},
-      {.id = prgUpdate, .kind = Kind::Progress, .at = {68, 160, 336, 20}},
-      {.kind = Kind::Groove, .at = {14, 190, 392, 2}},
-      {.id = butMsg, .kind = Kind::PushKey, .at = {172, 202, 128, 28}, .flags = kHidden},
-      {.id = butMsg + 1, .kind = Kind::PrimaryKey, .text = IDS_NET_CANCEL, .at = {308, 202, 98, 28}},
+      {.id = prgUpdate, .kind = Kind::Progress, .at = {68, 160, 336, 20}, .anchors = kFoot},
+      {.kind = Kind::Groove, .at = {14, 190, 392, 2}, .anchors = kFoot},
+      {.id = butMsg, .kind = Kind::PushKey, .at = {172, 202, 128, 28}, .flags = kHidden, .anchors = kFoot},
+      {.id = butMsg + 1,
+       .kind = Kind::PrimaryKey,
+       .text = IDS_NET_CANCEL,
+       .at = {308, 202, 98, 28},
+       .anchors = kFoot},
       {.id = butHelp,
        .kind = Kind::StripKey,
        .text = IDS_APP_HELP,
@@ -40,7 +55,7 @@ const FormDesign& frmUpdateDialog::Design() {
   };
   static constexpr FormDesign kDesign = {.name = "MsgboxFrm",
                                          .caption = IDS_NET_UPDATE_TITLE,
-                                         .size = {420, 248},
+                                         .size = kSize,
                                          .outline = "fdf01",
                                          .controls = kControls,
                                          .firstFocus = butMsg + 1};
@@ -70,9 +85,10 @@ void frmUpdateDialog::OnUnload() {
 
 void frmUpdateDialog::Begin() {
   unloading_ = false;
+  textStep_.reset();
   SetOffer(Offer::Nothing);
   SetText(butMsg + 1, LoadText(IDS_NET_CANCEL));
-  SetText(lblStuff, LoadText(IDS_NET_CONNECTING));
+  ShowText(LoadText(IDS_NET_CONNECTING));
   Progress(prgUpdate).SetProgress(0, kSteps);
   UpdateOpener opener;
   opener.progress = [this](const std::string& text) { SetText(lblStuff, text); };
@@ -82,8 +98,19 @@ void frmUpdateDialog::Begin() {
   update_->Load();
 }
 
+// The report names stations of the user's and may be long.
+void frmUpdateDialog::ShowText(const std::string& text) {
+  SetText(lblStuff, text);
+  const Painter painter(FaceplateColors{}, 96);
+  const int needed = painter.WrappedHeight(Widen(text), Type::Message, kTextWidth);
+  Resize({kSize.width, kSize.height + std::max(0, needed - kTextHeight)});
+}
+
+// The text changes in steps: a screen reader says each new one.
 void frmUpdateDialog::ShowBytes(std::uint64_t bytes, std::uint64_t expected) {
-  SetText(lblStuff, BytesText(bytes, expected, strings_));
+  const std::uint64_t step = expected == 0 ? bytes / kQuietBytes : bytes * kTextSteps / expected;
+  if (step != textStep_) SetText(lblStuff, BytesText(bytes, expected, strings_));
+  textStep_ = step;
   if (expected != 0) {
     Progress(prgUpdate).SetProgress(static_cast<int>(bytes * kSteps / expected), kSteps);
   }
@@ -92,7 +119,7 @@ void frmUpdateDialog::ShowBytes(std::uint64_t bytes, std::uint64_t expected) {
 void frmUpdateDialog::Ended(const UpdateOutcome& outcome) {
   if (unloading_) return;
   const bool updated = outcome.kind == UpdateOutcome::Kind::Updated;
-  SetText(lblStuff, OutcomeText(outcome, updated ? calls_.installed() : std::string(), strings_));
+  ShowText(OutcomeText(outcome, updated ? calls_.installed() : std::string(), strings_));
   Progress(prgUpdate).SetProgress(updated ? kSteps : 0, kSteps);
   SetText(butMsg + 1, LoadText(IDS_NET_CLOSE));
   SetOffer(MayRetry(outcome) ? Offer::Retry : calls_.canUndo() ? Offer::Undo : Offer::Nothing);
@@ -110,7 +137,7 @@ void frmUpdateDialog::butMsg_Click() {
   if (offer_ == Offer::Retry) {
     Begin();
   } else if (offer_ == Offer::Undo) {
-    SetText(lblStuff, LoadText(calls_.undo() ? IDS_NET_UNDONE : IDS_NET_NOT_UNDONE));
+    ShowText(LoadText(calls_.undo() ? IDS_NET_UNDONE : IDS_NET_NOT_UNDONE));
     SetOffer(Offer::Nothing);
     Focus(butMsg + 1);
   }

@@ -3,8 +3,10 @@
 // the update's opener is known.
 #pragma once
 
+#include <cstdint>
 #include <functional>
 #include <memory>
+#include <optional>
 #include <string>
 
 #include "forms/Form.h"
@@ -40,6 +42,7 @@ class frmUpdateDialog final : public Form {
   void Begin();
   void Ended(const UpdateOutcome& outcome);
   void SetOffer(Offer offer);
+  void ShowText(const std::string& text);
   void ShowBytes(std::uint64_t bytes, std::uint64_t expected);
 
   void butMsg_Click();
@@ -51,6 +54,7 @@ class frmUpdateDialog final : public Form {
   std::unique_ptr<frmInetUpdate> update_;
   Offer offer_ = Offer::Nothing;
   bool unloading_ = false;
+  std::optional<std::uint64_t> textStep_;  // of the text that tells how much has come
 };
 
 }  // namespace sonaro

@@ -1,99 +1,8 @@
 // Updates of the directory in the real program, against a server that plays the service.
-#include <algorithm>
-
-#include "DesktopTest.h"
-#include "Guide.h"
-#include "forms/ControlIds.h"
-#include "loopback/LoopbackServer.h"
-#include "net/UpdateFormat.h"
+#include "UpdateTest.h"
 
 namespace sonaro::desktop {
 namespace {
-
-constexpr const char* kService = "http://service.test/update.asp";
-constexpr const char* kFileAt = "http://files.test/u/update7.txt";
-constexpr const char* kFavorites = "Jazz\t18230211 6044347\r\n";  // of the small directory: stays, goes
-
-std::string Section(const std::string& name, const std::string& lines) {
-  return "file::" + name + "\r\n" + name + std::string(update::kSectionStart) + "\r\n" + lines + name +
-         std::string(update::kSectionEnd) + "\r\n";
-}
-
-std::string Complete(const std::string& lines) { return lines + std::string(update::kSentinel); }
-
-class UpdateTest : public DesktopTest {
- protected:
-  void SetUp() override {
-    DesktopTest::SetUp();
-    if (HasFatalFailure()) return;
-    before_ = ReadFile("station.snr");
-    WriteFile("favs.snr", kFavorites);
-    UseServer(server_.Port());
-    server_.Answer("/update.asp", script::Redirect(kFileAt));
-    server_.Answer("/u/update7.txt", script::Body(Update()));
-  }
-  // By way of a proxy, since without one the service is always on port 80.
-  void UseServer(std::uint16_t port, const std::string& toDo = "") {
-    ResetSettings({{"StartPlayer", "No"},
-                   {"StartProxy", "No"},
-                   {"StartQuickStart", "No"},
-                   {"CloseToTray", "No"},
-                   {"LastUpdate", "1/2/2026"},
-                   {"InstallId", "id 1"},
-                   {"UpdateURL", kService},
-                   {"ProxyUse", "yes "},
-                   {"ProxyAddress", " 127.0.0.1 "},
-                   {"ProxyPort", std::to_string(port)},
-                   {"DoWhat", toDo}});
-  }
-
-  // The directory with a station gone, one changed and two more.
-  std::string Update() const {
-    std::string list = before_.substr(before_.find('\n') + 1);
-    const auto renamed = list.find("Jazz Radio Classic Jazz");
-    list.replace(renamed, 10, "Renamed");
-    list += StationLine(7, "New Seven", "http://127.0.0.1:9/7") +
-            StationLine(8, "New Eight", "http://127.0.0.1:9/8");
-    return Complete("version::7 \r\n::HelpURL::http://127.0.0.1:9/help::\r\n" + Section("Station.snr", list) +
-                    Section("fun.snr", "Most Pop\t7 8 18230211 \r\n") + "date::3/4/2026::\r\n");
-  }
-
-  HWND Dialog() { return Sonaro().WaitForShownWindow("MsgboxFrm", "Update"); }
-  bool Says(HWND dialog, const std::string& text) {
-    return WaitUntil([&] { return TextOf(Control(dialog, lblStuff)).find(text) != std::string::npos; });
-  }
-  bool WaitForRequests(std::size_t count) {
-    return WaitUntil([&] { return server_.Requests().size() == count; });
-  }
-  std::string RequestLine(std::size_t index) {
-    const auto requests = server_.Requests();
-    return index < requests.size() ? requests[index].substr(0, requests[index].find("\r\n")) : "(none)";
-  }
-  // The stations of the user's group, as the window lists them.
-  bool GroupLists(HWND main, const std::vector<std::string>& names) {
-    Click(Control(main, butFavs));
-    return WaitUntil([&] { return ColumnTexts(Control(main, lstFavs)) == names; });
-  }
-  void ExpectTheOldDirectory() {
-    EXPECT_EQ(ReadFile("station.snr"), before_);
-    EXPECT_EQ(ReadSetting("LastUpdate"), "1/2/2026");
-    EXPECT_EQ(ReadSetting("UpdateHold"), "");
-    EXPECT_EQ(ReadFile("favs.snr"), kFavorites);
-    EXPECT_EQ(StationIn(Folder(), "6044347")[StationField::Name], "B5 aktuell");
-  }
-  void ExpectTheNewDirectory() {
-    EXPECT_EQ(ReadSetting("LastUpdate"), "3/4/2026");
-    EXPECT_EQ(ReadSetting("UpdateVersion"), "7");
-    EXPECT_EQ(ReadSetting("HelpURL"), "http://127.0.0.1:9/help");
-    EXPECT_EQ(ReadSetting("UpdateHold"), "");
-    EXPECT_EQ(ReadFile("favs.snr"), kFavorites);
-    EXPECT_EQ(StationIn(Folder(), "7")[StationField::Name], "New Seven");
-    EXPECT_EQ(StationIn(Folder(), "6044347").StationId, 0);
-  }
-
-  LoopbackServer server_;
-  std::string before_;
-};
 
 TEST_F(UpdateTest, F5BringsANewDirectoryAndItCanBeUndone) {
   const std::string update = Update();
@@ -186,6 +95,21 @@ TEST_F(UpdateTest, AnUpdateOnTheToDoListRunsByItselfAtTheStart) {
   EXPECT_EQ(Sonaro().Window("MsgboxFrm"), nullptr);
   ExpectTheNewDirectory();
   EXPECT_TRUE(GroupLists(main, {"Renamed Classic Jazz", "6044347"}));
+}
+
+TEST_F(UpdateTest, MissingFilesAreFetched) {
+  std::remove(PathOf("fun.snr").c_str());
+  SonaroProcess& sonaro = Start();
+  HWND box = sonaro.WaitForShownWindow("MsgboxFrm", "Files Missing");
+  ASSERT_NE(box, nullptr);
+  Click(Control(box, butMsg));
+  HWND dialog = Dialog();
+  ASSERT_NE(dialog, nullptr);
+  EXPECT_TRUE(Says(dialog, "Finished Got It All"));
+  EXPECT_NE(RequestLine(0).find("&LastUpdate=&"), std::string::npos) << RequestLine(0);
+  HWND main = sonaro.WaitForShownWindow("SonaroFrm");
+  Command(main, mnuActionMostPoular);
+  EXPECT_TRUE(WaitUntil([&] { return RowCount(Control(main, lstFavs)) == 3; }));
 }
 
 TEST_F(UpdateTest, AnUpdateThatDidNotComeThroughChangesNothing) {

@@ -10,6 +10,7 @@
 #include "directory/Scrambling.h"
 #include "directory/StatList.h"
 #include "fakes/FakeClock.h"
+#include "fakes/FakeHttpControl.h"
 #include "fakes/FakeMessageBox.h"
 #include "fakes/FakeShell.h"
 #include "forms/StringTable.h"
@@ -20,6 +21,10 @@
 #include "mainwindow/frmNewFavorite.h"
 #include "mainwindow/frmPersonalStation.h"
 #include "mainwindow/frmPickGroup.h"
+#include "net/UpdateInstall.h"
+#include "net/frmInetUpdate.h"
+#include "net/frmTestProxy.h"
+#include "net/frmUpdateDialog.h"
 #include "playback/PlayerLaunch.h"
 #include "playback/PlayerSetup.h"
 #include "playback/Players.h"
@@ -56,6 +61,7 @@ struct EmptyProgram {
   FakeShell shell;
   FakeClock clock;
   FakeMessageBox messages;
+  FakeHttp http;
   AppState state;
   DataFolder& folder = outside.folder;
   CReg& settings = outside.settings;
@@ -77,6 +83,8 @@ struct EmptyProgram {
   StationPicker picker{stations, personal, recent, settings, words};
   ScheduleServices schedule{store, calendar, shows, picker, clock, outside.files, shell, messages, help};
   OptionsModel options{settings, outside.faceplate, "C:\\Guide\\Sonaro.exe"};
+  UpdateInstall install{folder, settings, stations};
+  UpdateNeeds update{settings, folder, words, install, http, {}};
   GuideData guide{folder, settings, words, state, stations, personal, extra, recent, favorites, source};
 };
 
@@ -112,6 +120,19 @@ const NamedForm kForms[] = {
     {"frmPickGroup",
      [](EmptyProgram& p) {
        return Make<frmPickGroup>(p.forms, std::string("Jazz"), std::vector<std::string>{"Morning"});
+     }},
+    {"frmTestProxy",
+     [](EmptyProgram& p) {
+       return Make<frmTestProxy>(p.forms, p.settings, p.http, std::string("proxy.example.net"),
+                                 std::string("8080"));
+     }},
+    {"frmUpdateDialog",
+     [](EmptyProgram& p) {
+       return Make<frmUpdateDialog>(p.forms, UpdateDialogCalls{.begin = [&p](UpdateOpener opener) {
+                                      return std::make_unique<frmInetUpdate>(
+                                          p.forms, p.update, caller::kUpdateDialog, kInstallAndRebuild,
+                                          std::move(opener));
+                                    }});
      }},
     {"frmScan", [](EmptyProgram& p) { return Make<frmScan>(p.forms, p.scan, p.help, frmScan::Groups{}); }},
     {"frmScanTime", [](EmptyProgram& p) { return Make<frmScanTime>(p.forms, 30); }},

@@ -1,0 +1,105 @@
+// The test of a proxy, with the real words, by way of a server that plays the proxy.
+#include <gtest/gtest.h>
+
+#include "app/SettingNames.h"
+#include "contract/HttpListener.h"
+#include "forms/ControlIds.h"
+#include "forms/StringTable.h"
+#include "loopback/LoopbackServer.h"
+#include "net/frmTestProxy.h"
+#include "platform/win/HttpControlWin.h"
+#include "windows/FormContextForTests.h"
+#include "windows/Pump.h"
+
+namespace sonaro {
+namespace {
+
+constexpr const char* kRuns = "Checking Proxy Setup Now";
+constexpr const char* kWorks = "This Proxy is configured correctly";
+constexpr const char* kFails =
+    "This Proxy setting does not seem to work. Please check your setting and try again.";
+
+class TestProxyTest : public testing::Test {
+ protected:
+  TestProxyTest() { Settings().CheckKeyIsThere(kSettingsKey); }
+
+  CReg& Settings() { return outside_.settings; }
+  std::unique_ptr<frmTestProxy> Show(const std::string& port) {
+    auto form = std::make_unique<frmTestProxy>(forms_, Settings(), http_, "127.0.0.1", port);
+    form->Show();
+    return form;
+  }
+  // The status once the test is over.
+  std::string Result(const std::string& port) {
+    const auto form = Show(port);
+    EXPECT_EQ(form->Text(lblStatusInfo), kRuns);
+    PumpUntil([&] { return form->Text(lblStatusInfo) != kRuns; });
+    return form->Text(lblStatusInfo);
+  }
+
+  FormContextForTests outside_;
+  StringTable words_;
+  FormContext forms_{words_, outside_.faceplate, outside_.shape};
+  HttpControlMakerWin http_{"Test/1.0", [](HttpFault) { return std::string("why"); }, 500};
+  LoopbackServer proxy_;
+};
+
+TEST_F(TestProxyTest, AsksTheProxyForTheTestPage) {
+  proxy_.Answer("/", script::Body("<p>cool proxy works!</p>"));
+  const auto form = Show(std::to_string(proxy_.Port()));
+  char caption[64] = "";
+  GetWindowTextA(form->Window(), caption, sizeof caption);
+  EXPECT_STREQ(caption, "Testing Proxy Setting");
+  EXPECT_EQ(form->Text(lblCheckAddress), "127.0.0.1");
+  EXPECT_EQ(form->Text(lblCheckPort), std::to_string(proxy_.Port()));
+  EXPECT_EQ(form->Text(lblProxyStuff), "* You need to be connected to the Internet for this test to work");
+  EXPECT_EQ(Settings().Setting(setting::kProxyTestText), "cool proxy works!");
+  PumpUntil([&] { return form->Text(lblStatusInfo) != kRuns; });
+  EXPECT_EQ(form->Text(lblStatusInfo), kWorks);
+  const std::string page = "http://www.sonaro.example/sonaroapp/sonaro3/asp/proxy/test.asp";
+  EXPECT_EQ(Settings().Setting(setting::kProxyTest), page);
+  ASSERT_EQ(proxy_.Requests().size(), 1u);
+  EXPECT_TRUE(proxy_.Requests()[0].starts_with("GET " + page + " HTTP/1.0\r\nHost: www.sonaro.example\r\n"))
+      << proxy_.Requests()[0];
+  SendMessageA(form->Control(butOKIt), BM_CLICK, 0, 0);
+  EXPECT_FALSE(form->IsOpen());
+  for (const char* name : {setting::kProxyUse, setting::kProxyAddress, setting::kProxyPort}) {
+    EXPECT_EQ(Settings().Setting(name), "") << name;
+  }
+}
+
+TEST_F(TestProxyTest, SaysWhetherTheProxyWorks) {
+  Settings().SetSetting(setting::kProxyTestText, "it works");
+  const struct {
+    Script answer;
+    const char* result;
+  } kCases[] = {
+      {script::Body("so it works."), kWorks},
+      {script::Body("cool proxy works!"), kFails},
+      {script::Body(""), kFails},
+      {script::Status("407 it works"), kFails},
+      {script::Redirect("http://it works/"), kFails},
+      {script::CutBody("it works, well", 9), kFails},
+      {script::Silent(), kFails},
+      {script::Exactly("it works"), kFails},
+  };
+  for (const auto& each : kCases) {
+    proxy_.Answer("/", each.answer);
+    EXPECT_EQ(Result(std::to_string(proxy_.Port())), each.result);
+  }
+  EXPECT_EQ(Result(std::to_string(UnusedPort())), kFails);
+}
+
+TEST_F(TestProxyTest, ClosingItHangsUp) {
+  proxy_.Answer("/", script::Silent());
+  auto form = Show(std::to_string(proxy_.Port()));
+  PumpUntil([&] { return proxy_.Open() == 1; });
+  SendMessageA(form->Window(), WM_CLOSE, 0, 0);
+  EXPECT_FALSE(form->IsOpen());
+  PumpUntil([&] { return proxy_.Open() == 0; });
+  EXPECT_EQ(proxy_.Open(), 0);
+  form.reset();
+}
+
+}  // namespace
+}  // namespace sonaro
