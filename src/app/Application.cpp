@@ -230,6 +230,7 @@ MainWindowCalls Application::MakeMainWindowCalls() {
   calls.openHelpPage = [this](const std::string& page) { help_.OpenHelpPage(page); };
   calls.comingEvents = [this] { return schedule_->ComingEvents(); };
   calls.notifyMe = [this](std::size_t line) { return schedule_->NotifyMe(main_->Window(), line); };
+  calls.changePersonalShow = [this](std::size_t line) { schedule_->ChangePersonalShow(line); };
   calls.nextNotice = [this] { return schedule_->NextNotice(); };
   AddQuestions(calls);
   AddStationDialogs(calls);

@@ -24,6 +24,11 @@ namespace {
 
 constexpr std::size_t kMostEvents = 200;
 
+// The show of an event as the list of the personal shows keeps it. The number holds no capital X.
+std::string ShowKeyOf(const EventRecord& event) {
+  return std::to_string(event.EventId) + "X" + event[EventField::Name];
+}
+
 // Local date and time in the form of a service time stamp: sorts, and is read back by ParseServiceTime.
 std::string StampOf(const DateTime& at) {
   const auto two = [](int number) { return (number < 10 ? "0" : "") + std::to_string(number); };
@@ -139,7 +144,7 @@ std::vector<EventLine> ApplicationSchedule::ComingEvents() {
     const bool known = station && !needs_.source.NameOf(station).empty();
     lines.push_back({NextShown(local, now, needs_.state.clockStyle), event.record[EventField::Name],
                      event.record[EventField::StationName], known ? station.Token() : "",
-                     IsNoticed(event.record, local)});
+                     IsNoticed(event.record, local), shows_.Contains(ShowKeyOf(event.record))});
   }
   return lines;
 }
@@ -159,6 +164,17 @@ bool ApplicationSchedule::NotifyMe(HWND owner, std::size_t line) {
   if (line >= coming_.size()) return false;
   ScheduleDraft draft = ScheduleDraft::ForEvent(coming_[line].record, needs_.platform.clock);
   return frmSchedChange(needs_.context, services_, std::move(draft)).ShowModal(owner) == 1;
+}
+
+void ApplicationSchedule::ChangePersonalShow(std::size_t line) {
+  if (line >= coming_.size()) return;
+  const std::string show = ShowKeyOf(coming_[line].record);
+  if (shows_.Contains(show)) {
+    shows_.RemovePersonalShow(show);
+  } else {
+    shows_.AddPersonalShow(show);
+  }
+  list_.FillLists();
 }
 
 NextNotice ApplicationSchedule::NextNotice() {

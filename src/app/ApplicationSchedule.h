@@ -82,6 +82,8 @@ class ApplicationSchedule {
   std::vector<EventLine> ComingEvents();
   // Schedules an event of ComingEvents; true when the user will be told of it.
   bool NotifyMe(HWND owner, std::size_t line);
+  // Makes an event of ComingEvents a personal show, or no longer one.
+  void ChangePersonalShow(std::size_t line);
   sonaro::NextNotice NextNotice();
   void DirectoryChanged();
 

@@ -53,6 +53,7 @@ inline constexpr int butRemoveGroup = 1113;
 inline constexpr int lblNextNotice = 1114;
 inline constexpr int lstEvents = 1115;
 inline constexpr int butNotifyMe = 1116;
+inline constexpr int butPersonalShow = 1120;
 inline constexpr int lblNextStation = 1117;
 inline constexpr int lblNextOften = 1118;
 inline constexpr int lblNextHeading = 1119;
@@ -326,5 +327,8 @@ inline constexpr int mnuKeys = 3243;
 inline constexpr int mnuHideToTray = 3244;
 inline constexpr int mnuExit = 3245;
 inline constexpr int mnuViewPersonalPage = 3246;
+// The menu of an event.
+inline constexpr int mnuEventNotifyMe = 3251;
+inline constexpr int mnuEventPersonalShow = 3252;
 
 }  // namespace sonaro

@@ -19,6 +19,7 @@ struct EventLine {
   std::string station;
   std::string token;     // of its station; "" when the guide does not have it
   bool noticed = false;  // the user will be told
+  bool personalShow = false;
 };
 
 // The next thing the user will be told of. Without `when` nothing is scheduled.
@@ -58,6 +59,8 @@ struct MainWindowCalls {
   // The page of the user's own things.
   std::function<std::vector<EventLine>()> comingEvents;
   std::function<bool(std::size_t line)> notifyMe;  // an index into what comingEvents gave last; true: it will
+  // Adds the line's event to the personal shows, or removes it when it is one.
+  std::function<void(std::size_t line)> changePersonalShow;
   std::function<NextNotice()> nextNotice;
 };
 

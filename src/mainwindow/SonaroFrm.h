@@ -132,7 +132,10 @@ class SonaroFrm final : public Form, private FavoritePrompts {
   void mnuActionMoveUp_Click();
   void mnuActionMoveDown_Click();
   void lstEvents_ItemSelected(int row);
+  void lstEvents_ItemActivate(int row);
+  void lstEvents_ContextMenu(int row, POINT at);
   void butNotifyMe_Click();
+  void butPersonalShow_Click();
   void MoveStation(int by);
   void MoveRow(int from, int to);
   void MoveGroup(int from, int to);

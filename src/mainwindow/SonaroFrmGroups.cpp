@@ -151,9 +151,18 @@ void SonaroFrm::MoveRow(int from, int to) {
 }
 
 void SonaroFrm::lstEvents_ItemSelected(int row) {
-  const EventLine* event = yours_.EventAt(row);
-  Enable(butNotifyMe, event && !event->noticed);
+  yours_.ShowEventKeys(row);
   ShowSelection();
+}
+
+void SonaroFrm::lstEvents_ItemActivate(int row) {
+  const EventLine* event = yours_.EventAt(row);
+  if (event && !event->noticed) butNotifyMe_Click();
+}
+
+void SonaroFrm::lstEvents_ContextMenu(int, POINT at) {
+  if (const EventLine* event = yours_.SelectedEvent())
+    PopUpMenu(models_.actions.EventMenu(*event, shown_), at);
 }
 
 void SonaroFrm::butNotifyMe_Click() {
@@ -162,6 +171,13 @@ void SonaroFrm::butNotifyMe_Click() {
   calls_.notifyMe(static_cast<std::size_t>(row));
   yours_.ShowEvents();
   yours_.ShowNextNotice();
+}
+
+void SonaroFrm::butPersonalShow_Click() {
+  const int row = List(lstEvents).Selected();
+  if (row < 0 || !calls_.changePersonalShow) return;
+  calls_.changePersonalShow(static_cast<std::size_t>(row));
+  yours_.ShowEvents();
 }
 
 MessageResult SonaroFrm::Ask(const Message& message) {

@@ -50,8 +50,15 @@ void YoursPane::ShowEvents() {
   const int selected = std::min(list.Selected(), eventRows_.RowCount() - 1);
   list.RowsChanged();
   list.Select(selected < 0 && !events_.empty() ? 0 : selected);
-  const EventLine* event = SelectedEvent();
+  ShowEventKeys(list.Selected());
+}
+
+void YoursPane::ShowEventKeys(int row) {
+  const EventLine* event = EventAt(row);
   form_.Enable(butNotifyMe, event && !event->noticed);
+  form_.Enable(butPersonalShow, event != nullptr);
+  form_.SetText(butPersonalShow,
+                form_.LoadText(event && event->personalShow ? IDS_SHOW_REMOVE : IDS_SHOW_ADD));
 }
 
 const EventLine* YoursPane::SelectedEvent() const { return EventAt(form_.List(lstEvents).Selected()); }

@@ -25,6 +25,8 @@ class YoursPane {
   void ShowGroups();
   void ShowEvents();
   void ShowNextNotice();
+  // What can be done with the event in this row; a row that is none has nothing.
+  void ShowEventKeys(int row);
 
   // What a row of the left column stands for: the coming events, the recent list, then the groups.
   std::optional<std::size_t> GroupAt(int row) const;

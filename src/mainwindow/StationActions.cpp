@@ -6,6 +6,7 @@
 #include "app/Strings.h"
 #include "forms/ControlIds.h"
 #include "mainwindow/FavoriteGroups.h"
+#include "mainwindow/MainWindowCalls.h"
 #include "mainwindow/SortEntries.h"
 #include "mainwindow/StationListing.h"
 #include "resources/ids.h"
@@ -94,6 +95,17 @@ MenuEntries StationActions::ActionMenu(const StationDetail& detail) const {
   AddSeparator(menu);
   menu.push_back(Submenu(strings_.Load(IDS_ACTION_SORT), SortEntriesFor(Place::ActionMenu)));
   menu.push_back(Submenu(strings_.Load(IDS_ACTION_RANKINGS), RankingEntries()));
+  return menu;
+}
+
+MenuEntries StationActions::EventMenu(const EventLine& event, const StationDetail& detail) const {
+  const int show = event.personalShow ? IDS_ACTION_REMOVE_SHOW : IDS_ACTION_ADD_SHOW;
+  MenuEntries menu = {Entry(mnuEventNotifyMe, IDS_ACTION_NOTIFY_EVENT, !event.noticed),
+                      Entry(mnuEventPersonalShow, show)};
+  for (MenuEntry& entry : menu) entry.text = FillIn(entry.text, {MenuText(event.name)});
+  if (!detail.station) return menu;
+  AddSeparator(menu);
+  AddPlayEntries(detail, menu);
   return menu;
 }
 

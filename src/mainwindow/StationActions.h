@@ -22,6 +22,8 @@ inline constexpr std::size_t kExtraPlayCommands = 20;
 // The ranking that a menu command shows.
 std::optional<Ranking> RankingOfCommand(int command);
 
+struct EventLine;
+
 class StationActions {
  public:
   StationActions(const StationListing& listing, const FavoriteGroups& groups, const Strings& strings)
@@ -29,6 +31,8 @@ class StationActions {
 
   // The menu of the selected station, of which `detail` holds the facts.
   MenuEntries ActionMenu(const StationDetail& detail) const;
+  // The menu of a coming event; `detail` is of its station, if the guide has it.
+  MenuEntries EventMenu(const EventLine& event, const StationDetail& detail) const;
   // What the list can be sorted by; the sort in force is checked.
   MenuEntries SortMenu() const;
   // The menu of a group key; `group` may be a free slot.

@@ -39,12 +39,16 @@ std::vector<std::string> PersonalShows::List() {
   return lines;
 }
 
-void PersonalShows::AddPersonalShow(std::string_view showKey) {
-  std::vector<std::string> lines = List();
-  const bool known = std::any_of(lines.begin(), lines.end(), [&](const std::string& line) {
+bool PersonalShows::Contains(std::string_view showKey) {
+  const std::vector<std::string> lines = List();
+  return std::any_of(lines.begin(), lines.end(), [&](const std::string& line) {
     return IdentifyingPart(line) == IdentifyingPart(showKey);
   });
-  if (!known) {
+}
+
+void PersonalShows::AddPersonalShow(std::string_view showKey) {
+  std::vector<std::string> lines = List();
+  if (!Contains(showKey)) {
     lines.emplace_back(showKey);
     WritePersonalShows(EachOnItsLine(lines));
   }

@@ -19,6 +19,7 @@ class PersonalShows {
 
   // Adds the show unless one with the same identifying part is there, and tells the user in either case.
   void AddPersonalShow(std::string_view showKey);
+  bool Contains(std::string_view showKey);
   // Removes the show's line and tells the user.
   void RemovePersonalShow(std::string_view showKey);
   // The whole file, its lines joined by CR LF; "" when it is missing.

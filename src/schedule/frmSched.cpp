@@ -104,6 +104,7 @@ void frmSched::butDeleteIt_Click() {
     const std::vector<std::string> lines = services_.shows.List();
     if (static_cast<std::size_t>(show) < lines.size()) {
       services_.shows.RemovePersonalShow(lines[static_cast<std::size_t>(show)]);
+      services_.changed();
     }
   } else if (const int slot = SlotOfKey(key); slot >= 0) {
     services_.store.FreeSlot(static_cast<std::size_t>(slot));

@@ -37,6 +37,18 @@ std::string StationLine(int identifier, const std::string& name, const std::stri
   return line + "\r\n";
 }
 
+EventRecord Event(int id, const std::string& name, const std::string& station, const std::string& startGmt,
+                  const std::string& webSite) {
+  EventRecord event;
+  event.EventId = id;
+  event[EventField::Name] = name;
+  event[EventField::StationId] = "1";
+  event[EventField::StationName] = station;
+  event[EventField::StartGmt] = startGmt;
+  event[EventField::WebAddress] = webSite;
+  return event;
+}
+
 bool PutEvents(const std::string& folder, const std::vector<EventRecord>& events) {
   FilesWin files;
   DataFolder data(files, folder.substr(0, folder.size() - 1), '\\');

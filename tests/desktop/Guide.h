@@ -13,6 +13,9 @@ namespace sonaro::desktop {
 StationRecord StationIn(const std::string& folder, const std::string& identifier);
 // A line of "station.snr" for a station with this link text (scrambled here).
 std::string StationLine(int identifier, const std::string& name, const std::string& linkText);
+// An event of station 1 at a GMT stamp ("200505052215").
+EventRecord Event(int id, const std::string& name, const std::string& station, const std::string& startGmt,
+                  const std::string& webSite = "");
 // Replaces the events of the data folder.
 bool PutEvents(const std::string& folder, const std::vector<EventRecord>& events);
 

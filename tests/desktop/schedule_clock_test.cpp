@@ -14,18 +14,6 @@ constexpr Date kSaturday{2005, 5, 7};
 constexpr Date kSunday{2005, 5, 8};
 constexpr Date kMonday{2005, 5, 9};
 
-EventRecord Event(int id, const std::string& name, const std::string& station, const std::string& startGmt,
-                  const std::string& webSite = "") {
-  EventRecord event;
-  event.EventId = id;
-  event[EventField::Name] = name;
-  event[EventField::StationId] = "1";
-  event[EventField::StationName] = station;
-  event[EventField::StartGmt] = startGmt;
-  event[EventField::WebAddress] = webSite;
-  return event;
-}
-
 // The identifier of the station that the first line of the schedule names, as "\tNS17\t" does.
 std::string ScheduledStation(const std::string& file) {
   const auto mark = file.find("\tNS");

@@ -1,5 +1,6 @@
 // The schedule's list and its dialogs: adding without a station, changing, deleting, the two clock styles,
 // and what is told after the program was away.
+#include "Guide.h"
 #include "ScheduleDesk.h"
 #include "forms/ControlIds.h"
 
@@ -94,6 +95,47 @@ TEST_F(HandClockTest, WithThe24HourClockThereIsNoHalfOfTheDay) {
   TurnTo(23, 59);
   TurnTo({{2005, 5, 6}, {0, 4, 0}});
   ExpectNotice({{2005, 5, 6}, {0, 5, 0}}, "This is your daily 12:05 AM notice for", name);
+}
+
+TEST_F(HandClockTest, AnEventBecomesAPersonalShowAndNoLongerIsOne) {
+  ASSERT_TRUE(PutEvents(Folder(), {Event(7, "Xylophone hour", "Radio X", "200505052001"),
+                                   Event(9, "Évening show", "Radio X", "200505062001")}));
+  HWND main = StartAndShowMain("DoWhat=BringEvents");
+  HWND events = Control(main, lstEvents);
+  HWND key = Control(main, butPersonalShow);
+  ASSERT_TRUE(WaitUntil([&] { return RowCount(events) == 2 && IsWindowEnabled(key) != FALSE; }));
+  EXPECT_EQ(TextOf(key), "Add to &personal shows");
+  const auto answer = [&](HWND owner, const std::string& expected) {
+    HWND box = Sonaro().WaitForShownWindow("MsgboxFrm");
+    ASSERT_NE(box, nullptr) << expected;
+    EXPECT_EQ(TextOf(Control(box, lblMsg)), expected);
+    Click(Control(box, butMsg));
+    EXPECT_TRUE(WaitUntil([&] { return !IsWindow(box) && IsWindowEnabled(owner) != FALSE; }));
+  };
+  for (int row : {0, 1}) {
+    SelectRow(events, row);
+    ASSERT_TRUE(WaitUntil([&] { return TextOf(key) == "Add to &personal shows"; }));
+    Command(main, mnuEventPersonalShow);
+    answer(main, (row == 0 ? "Xylophone hour" : "Évening show") + std::string(" added as a personal show"));
+  }
+  EXPECT_EQ(ReadFile("Shows.snr"), "7XXylophone hour\r\n9XÉvening show\r\n");
+  EXPECT_TRUE(WaitUntil([&] { return TextOf(key) == "Remove &personal show"; }));
+
+  HWND list = OpenList(main);
+  HWND shows = Control(list, lstShows);
+  ASSERT_TRUE(WaitUntil([&] { return RowCount(shows) == 2; }));
+  EXPECT_EQ(CellText(shows, 0, 1), "Xylophone hour");
+  SelectRow(shows, 0);
+  ASSERT_TRUE(WaitUntil([&] { return IsWindowEnabled(Control(list, butDeleteIt)) != FALSE; }));
+  EXPECT_FALSE(IsWindowEnabled(Control(list, butChangeIt)));
+  Click(Control(list, butDeleteIt));
+  answer(list, "The personal show Xylophone hour was deleted");
+  EXPECT_EQ(ReadFile("Shows.snr"), "9XÉvening show\r\n");
+
+  Click(key);  // the second event is still selected
+  answer(main, "The personal show Évening show was deleted");
+  EXPECT_EQ(ReadFile("Shows.snr"), "");
+  EXPECT_TRUE(WaitUntil([&] { return RowCount(shows) == 0; }));
 }
 
 TEST_F(HandClockTest, WhatCameOnWhileTheProgramWasClosedIsToldTogether) {
