@@ -350,7 +350,7 @@ Options ParseOptions(int argc, char** argv) {
     const std::string name = argv[i];
     const std::string value = argv[i + 1];
     if (name == "--list") options.list = value;
-    if (name == "--dir") options.folder = value;
+    if (name == "--dir") options.folder = fs::path(value) / options.folder;  // which is deleted at the end
     if (name != "--stations") continue;
     options.counts.clear();
     std::stringstream numbers(value);
