@@ -18,6 +18,12 @@ namespace {
 constexpr int kSlots = static_cast<int>(FavoriteGroups::kSlots);
 
 HCURSOR SystemCursor(int id) { return LoadCursorW(nullptr, MAKEINTRESOURCEW(id)); }
+// Where the pointer was when the message came up; it may be elsewhere by now.
+POINT PointOfMessage() {
+  const auto at = static_cast<LPARAM>(GetMessagePos());
+  return {GET_X_LPARAM(at), GET_Y_LPARAM(at)};
+}
+
 constexpr int kHandCursor = 32649;
 constexpr int kNoCursor = 32648;
 
@@ -70,9 +76,7 @@ std::optional<DragPane::Drop> DragPane::Handle(UINT message) {
       Follow();
       return std::nullopt;
     case WM_LBUTTONUP: {
-      POINT at{};
-      GetCursorPos(&at);
-      const Drop drop = DropAt(at);
+      const Drop drop = DropAt(PointOfMessage());
       End();
       return drop;
     }
@@ -114,9 +118,7 @@ DragPane::Drop DragPane::DropAt(POINT screen) const {
 }
 
 void DragPane::Follow() {
-  POINT at{};
-  GetCursorPos(&at);
-  const Drop drop = DropAt(at);
+  const Drop drop = DropAt(PointOfMessage());
   SetCursor(SystemCursor(drop.onto == Thing::Nothing ? kNoCursor : kHandCursor));
   const int slot = drop.onto == Thing::Group ? drop.to : -1;
   if (slot == overSlot_) return;

@@ -24,18 +24,27 @@ int SentenceOf(ImportResult::Status status) {
   return IDS_IMPORT_DONE;
 }
 
+// What the dialog suggests: a name with what no file name may hold taken out would else be refused unseen.
+std::string FileNameFor(std::string_view name) {
+  std::string file(name);
+  for (char& c : file) {
+    if (std::string_view("\\/:*?\"<>|").find(c) != std::string_view::npos) c = '_';
+  }
+  return file + ".m3u";
+}
+
 }  // namespace
 
 void SonaroFrm::mnuFavExport_Click() {
   const auto group = GroupMeant();
   if (!group || !calls_.askPlaylistToSave) return;
-  const std::string path = calls_.askPlaylistToSave(std::string(data_.favorites.Name(*group)));
+  const std::string path = calls_.askPlaylistToSave(FileNameFor(data_.favorites.Name(*group)));
   if (!path.empty() && !models_.transfer.ExportGroup(*group, path)) SayNotExported();
 }
 
 void SonaroFrm::mnuPersonalExport_Click() {
   if (!calls_.askPlaylistToSave) return;
-  const std::string path = calls_.askPlaylistToSave(LoadText(IDS_EXPORT_PERSONAL_NAME));
+  const std::string path = calls_.askPlaylistToSave(FileNameFor(LoadText(IDS_EXPORT_PERSONAL_NAME)));
   if (!path.empty() && !models_.transfer.ExportPersonalStations(path)) SayNotExported();
 }
 

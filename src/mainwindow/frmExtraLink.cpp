@@ -59,7 +59,7 @@ std::span<const EventRow> frmExtraLink::Events() const {
 void frmExtraLink::OnLoad() {
   SetText(lblStation, station_);
   all_ = links_.Of(stationId_);
-  if (all_.empty()) all_.push_back({"", PlayLink{PlayWay::AsxProgram, ""}.ToText()});
+  if (all_.empty()) all_.emplace_back();
   SetText(txtExtraLink, PlayLink::FromText(all_.front().link).address);
   SetText(txtExtraName, all_.front().name);
 }
@@ -78,6 +78,7 @@ void frmExtraLink::butOKIt_Click() {
     return;
   }
   PlayLink played = PlayLink::FromText(all_.front().link);
+  if (all_.front().link.empty()) played.way = PlayWay::AsxProgram;
   played.address = address;
   all_.front() = {Text(txtExtraName), address.empty() ? "" : played.ToText()};
   if (!links_.Set(stationId_, all_)) {

@@ -36,6 +36,8 @@ class DesktopTest : public ::testing::Test {
   // Starts the program in the data folder. The first one started is `Sonaro()`.
   SonaroProcess& Start(const std::string& arguments = "");
   SonaroProcess& Sonaro() { return *processes_.front(); }
+  // The one started last.
+  SonaroProcess& Running() { return *processes_.back(); }
   // Starts the program and waits until its main window is shown; a failure when it does not come.
   HWND StartAndShowMain(const std::string& arguments = "");
 

@@ -1,22 +1,13 @@
 // Browsing, ranking, sorting, searching and groups in the main window.
 #include <algorithm>
 
-#include "DesktopTest.h"
+#include "MainWindowTest.h"
 #include "forms/ControlIds.h"
 
 namespace sonaro::desktop {
 namespace {
 
-class BrowseTest : public DesktopTest {
- public:
-  explicit BrowseTest(Directory directory = Directory::Small) : DesktopTest(directory) {}
-
- protected:
-  HWND List(HWND main) { return Control(main, lstFavs); }
-  bool Listing(HWND main, const std::string& caption) {
-    return WaitUntil([&] { return TextOf(Control(main, lblListing)) == caption; });
-  }
-};
+using BrowseTest = MainWindowTest;
 
 class WholeGuideTest : public BrowseTest {
  public:
@@ -91,54 +82,6 @@ TEST_F(BrowseTest, ASearchIsRememberedAcrossARestart) {
   HWND again = second.WaitForShownWindow("SonaroFrm");
   ASSERT_NE(again, nullptr);
   EXPECT_EQ(ComboTexts(Control(again, txtQuickSearch)).size(), 2u);
-}
-
-class GroupTest : public BrowseTest {
- protected:
-  void NewGroup(HWND main, const std::string& name) {
-    Command(main, mnuFavoritesAdd);
-    HWND dialog = Sonaro().WaitForShownWindow("frmNewFavorite");
-    ASSERT_NE(dialog, nullptr) << name;
-    SetText(Control(dialog, txtGroupName), name);
-    ASSERT_TRUE(WaitUntil([&] { return IsWindowEnabled(Control(dialog, butOKIt)) != FALSE; }));
-    Click(Control(dialog, butOKIt));
-    // Until the dialog is gone the main window takes no command.
-    ASSERT_TRUE(WaitUntil([&] { return !IsShown(dialog) && IsWindowEnabled(main) != FALSE; }));
-  }
-  void AnswerBox(HWND main, int button) {
-    HWND box = Sonaro().WaitForShownWindow("MsgboxFrm");
-    ASSERT_NE(box, nullptr);
-    Click(Control(box, button));
-    ASSERT_TRUE(WaitUntil([&] { return !IsShown(box) && IsWindowEnabled(main) != FALSE; }));
-  }
-};
-
-TEST_F(GroupTest, GroupsLiveFromTheFirstToTheRefusedEleventh) {
-  HWND main = StartAndShowMain();
-  Command(main, mnuActionMostPoular);
-  ASSERT_TRUE(WaitUntil([&] { return RowCount(List(main)) > 3; }));
-  std::string file;
-  for (int group = 1; group <= 10; ++group) {
-    NewGroup(main, "Group " + std::to_string(group));
-    file += "Group " + std::to_string(group) + "\t\r\n";
-    ASSERT_TRUE(WaitUntil([&] { return ReadFile("favs.snr") == file; })) << ReadFile("favs.snr");
-  }
-  EXPECT_EQ(TextOf(Control(main, butFavs + 9)), "Group 10");
-  Command(main, mnuFavoritesAdd);
-  AnswerBox(main, butMsg);
-  EXPECT_EQ(ReadFile("favs.snr"), file);
-
-  const std::string name = CellText(List(main), 0);
-  Command(main, mnuActionStationToGroup + 1);
-  ASSERT_TRUE(WaitUntil([&] { return ReadFile("favs.snr") != file; }));
-  Click(Control(main, butFavs + 1));
-  EXPECT_TRUE(Listing(main, "Group 2"));
-  EXPECT_EQ(ColumnTexts(List(main)), std::vector<std::string>{name});
-  SaveShot("group");
-  Command(main, mnuFavDeleteFav);
-  AnswerBox(main, butMsg);
-  EXPECT_TRUE(Listing(main, "Your Recent"));
-  EXPECT_EQ(TextOf(Control(main, butFavs + 1)), "Group 3");
 }
 
 TEST_F(BrowseTest, EveryStopOfTheKeyboardHasANameAndTabReachesThem) {

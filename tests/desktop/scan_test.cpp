@@ -1,18 +1,24 @@
 // The station scan with real windows.
-#include "DesktopTest.h"
-#include "forms/ControlIds.h"
+#include "Guide.h"
+#include "MainWindowTest.h"
 
 namespace sonaro::desktop {
 namespace {
 
-class ScanTest : public DesktopTest {
+class ScanTest : public MainWindowTest {
  protected:
-  HWND List(HWND main) { return Control(main, lstFavs); }
-  HWND MainWithStations() {
-    HWND main = StartAndShowMain();
-    Command(main, mnuActionMostPoular);
-    EXPECT_TRUE(WaitUntil([&] { return RowCount(List(main)) > 3; }));
-    return main;
+  bool Shows(HWND scan, int label, const std::string& text) {
+    return WaitUntil([&] { return TextOf(Control(scan, label)) == text; });
+  }
+  // Turns the window's clock on by seconds, at most `most`, until the label shows the text; how many it took.
+  int TicksUntil(HWND scan, int label, const std::string& text, int most) {
+    int ticks = 0;
+    while (ticks < most && TextOf(Control(scan, label)) != text) {
+      RunTimer(scan, tmrScan);
+      ++ticks;
+    }
+    EXPECT_EQ(TextOf(Control(scan, label)), text);
+    return ticks;
   }
 };
 
@@ -46,6 +52,44 @@ TEST_F(ScanTest, AScanPlaysItsQueueOneAfterAnother) {
   Click(Control(scan, butFullIt));
   EXPECT_TRUE(WaitUntil([&] { return !IsShown(queue); }));
   SaveShot("compact");
+}
+
+TEST_F(ScanTest, ThreeStationsOfTwentySecondsOneOfThemMute) {
+  WriteFile("tStation.snr", StationLine(7, "One", "mhttp://127.0.0.1:9/1") + StationLine(8, "Mute", "") +
+                                StationLine(9, "Three", "mhttp://127.0.0.1:9/3"));
+  WriteFile("fun.snr", "Most Pop\t7 8 9\r\n");
+  ResetSettings({{"StartPlayer", "No"},
+                 {"StartProxy", "No"},
+                 {"StartQuickStart", "No"},
+                 {"ScanTime", "20"},
+                 {"UpdateHold", "Station.snr\t"}});
+  HWND main = MainWithStations();
+  Command(main, mnuActionAddListToScan);
+  Command(main, mnuScan);
+  HWND scan = Dialog("frmScan");
+  Click(Control(scan, butStartIt));
+  ASSERT_TRUE(Shows(scan, lblCurrentScaning, "Currently Scanning: One"));
+
+  // The real clock may add a second or two of its own.
+  TicksUntil(scan, lblTimeLeft, "Time Left To Scan: 12", 8);
+  Click(Control(scan, butStartIt));
+  ASSERT_TRUE(Shows(scan, butStartIt, "Continue Scan"));
+  const std::string left = TextOf(Control(scan, lblTimeLeft));
+  for (int tick = 0; tick < 30; ++tick) RunTimer(scan, tmrScan);
+  EXPECT_EQ(TextOf(Control(scan, lblTimeLeft)), left) << "a pause keeps the seconds";
+  Click(Control(scan, butStartIt));
+  ASSERT_TRUE(Shows(scan, butStartIt, "Pause Scan"));
+
+  TicksUntil(scan, lblCurrentScaning, "Currently Scanning: Mute", 12);
+  EXPECT_EQ(TicksUntil(scan, lblCurrentScaning, "Currently Scanning: Three", 1), 1) << "nothing to wait for";
+  EXPECT_EQ(Sonaro().Window("MsgboxFrm"), nullptr);
+  EXPECT_GT(TicksUntil(scan, lblCurrentScaning, "Currently Not Scanning ", 20), 15);
+  EXPECT_EQ(TextOf(Control(scan, butStartIt)), "Start Scan");
+  EXPECT_FALSE(IsShown(Control(scan, lblTimeLeft)));
+  HWND history = Control(scan, lstScanedAlready);
+  EXPECT_EQ(ColumnTexts(history), (std::vector<std::string>{"One", "Mute", "Three"}));
+  EXPECT_NE(CellText(history, 1, 1), "") << "the reason";
+  EXPECT_EQ(AsxLines(2).size(), 2u);
 }
 
 }  // namespace

@@ -113,10 +113,19 @@ std::unique_ptr<OutputFile> FilesWin::Create(const std::string& path) {
   return file ? std::make_unique<OutputFileWin>(std::move(file)) : nullptr;
 }
 
-// A move, not ReplaceFile: that one can fail half-way with the old file already renamed.
+// A move, not ReplaceFile: that one can fail half-way with the old file already renamed. Whoever has the old
+// file open for a moment, a virus scanner or an indexer, is waited for.
 bool FilesWin::Replace(const std::string& from, const std::string& to, Durability durability) {
+  constexpr int kTries = 10;
+  constexpr DWORD kPause = 30;  // milliseconds
   const DWORD flush = durability == Durability::Flushed ? MOVEFILE_WRITE_THROUGH : 0;
-  return MoveFileExA(from.c_str(), to.c_str(), MOVEFILE_REPLACE_EXISTING | flush) != 0;
+  for (int tries = 1; MoveFileExA(from.c_str(), to.c_str(), MOVEFILE_REPLACE_EXISTING | flush) == 0;
+       ++tries) {
+    const DWORD error = GetLastError();
+    if (tries == kTries || (error != ERROR_SHARING_VIOLATION && error != ERROR_ACCESS_DENIED)) return false;
+    Sleep(kPause);
+  }
+  return true;
 }
 
 bool FilesWin::Remove(const std::string& path) {

@@ -1,0 +1,49 @@
+// The ground of tests that work the main window: its list, its groups, the boxes and dialogs that it opens.
+#pragma once
+
+#include <string>
+
+#include "DesktopTest.h"
+#include "forms/ControlIds.h"
+
+namespace sonaro::desktop {
+
+class MainWindowTest : public DesktopTest {
+ public:
+  explicit MainWindowTest(Directory directory = Directory::Small) : DesktopTest(directory) {}
+
+ protected:
+  HWND List(HWND main) { return Control(main, lstFavs); }
+  bool Listing(HWND main, const std::string& caption) {
+    return WaitUntil([&] { return TextOf(Control(main, lblListing)) == caption; });
+  }
+  HWND MainWithStations() {
+    HWND main = StartAndShowMain();
+    Command(main, mnuActionMostPoular);
+    EXPECT_TRUE(WaitUntil([&] { return RowCount(List(main)) > 2; }));
+    return main;
+  }
+  HWND Dialog(const std::string& name) {
+    HWND dialog = Running().WaitForShownWindow(name);
+    EXPECT_NE(dialog, nullptr) << name;
+    return dialog;
+  }
+  // Presses a key of a dialog or box that ends with it. Until it is gone the main window takes no command.
+  void EndWith(HWND main, HWND dialog, int key) {
+    EXPECT_TRUE(WaitUntil([&] { return IsWindowEnabled(Control(dialog, key)) != FALSE; }));
+    Click(Control(dialog, key));
+    EXPECT_TRUE(WaitUntil([&] { return !IsShown(dialog) && IsWindowEnabled(main) != FALSE; }));
+  }
+  void AnswerBox(HWND main, int key) { EndWith(main, Dialog("MsgboxFrm"), key); }
+  void NewGroup(HWND main, const std::string& name) {
+    Command(main, mnuFavoritesAdd);
+    HWND dialog = Dialog("frmNewFavorite");
+    SetText(Control(dialog, txtGroupName), name);
+    EndWith(main, dialog, butOKIt);
+  }
+  bool Holds(const std::string& file, const std::string& text) {
+    return WaitUntil([&] { return ReadFile(file) == text; });
+  }
+};
+
+}  // namespace sonaro::desktop

@@ -1,0 +1,146 @@
+// Favourite groups with real windows: their life, their names, their order, the mouse and the keyboard.
+#include "MainWindowTest.h"
+
+namespace sonaro::desktop {
+namespace {
+
+class GroupTest : public MainWindowTest {
+ protected:
+  // The program with these groups in its file.
+  HWND MainWithGroups(const std::string& file) {
+    WriteFile("favs.snr", file);
+    return MainWithStations();
+  }
+  static POINT MiddleOf(HWND window) {
+    const RECT box = BoundsOf(window);
+    return {(box.left + box.right) / 2, (box.top + box.bottom) / 2};
+  }
+  POINT RowAt(HWND main, int row) {
+    const RECT box = BoundsOf(List(main));
+    return {box.left + 60, box.top + 11 + 22 * row};
+  }
+};
+
+TEST_F(GroupTest, GroupsLiveFromTheFirstToTheRefusedEleventh) {
+  HWND main = StartAndShowMain();
+  Command(main, mnuActionMostPoular);
+  ASSERT_TRUE(WaitUntil([&] { return RowCount(List(main)) > 3; }));
+  std::string file;
+  for (int group = 1; group <= 10; ++group) {
+    NewGroup(main, "Group " + std::to_string(group));
+    file += "Group " + std::to_string(group) + "\t\r\n";
+    ASSERT_TRUE(WaitUntil([&] { return ReadFile("favs.snr") == file; })) << ReadFile("favs.snr");
+  }
+  EXPECT_EQ(TextOf(Control(main, butFavs + 9)), "Group 10");
+  Command(main, mnuFavoritesAdd);
+  AnswerBox(main, butMsg);
+  EXPECT_EQ(ReadFile("favs.snr"), file);
+
+  const std::string name = CellText(List(main), 0);
+  Command(main, mnuActionStationToGroup + 1);
+  ASSERT_TRUE(WaitUntil([&] { return ReadFile("favs.snr") != file; }));
+  Click(Control(main, butFavs + 1));
+  EXPECT_TRUE(Listing(main, "Group 2"));
+  EXPECT_EQ(ColumnTexts(List(main)), std::vector<std::string>{name});
+  SaveShot("group");
+  Command(main, mnuFavDeleteFav);
+  AnswerBox(main, butMsg);
+  EXPECT_TRUE(Listing(main, "Your Recent"));
+  EXPECT_EQ(TextOf(Control(main, butFavs + 1)), "Group 3");
+}
+
+TEST_F(GroupTest, StationsAndGroupsAreDragged) {
+  HWND main = MainWithGroups("Rock & Roll\t\r\n東京\t\r\nTalk\t\r\n");
+  const std::vector<std::string> names = ColumnTexts(List(main));
+  for (const int row : {2, 3, 1}) {
+    const std::string before = ReadFile("favs.snr");
+    DragFromTo(RowAt(main, row), MiddleOf(Control(main, butFavs + 1)));
+    ASSERT_TRUE(WaitUntil([&] { return ReadFile("favs.snr") != before; })) << row;
+  }
+  Click(Control(main, butFavs + 1));
+  EXPECT_TRUE(Listing(main, "東京"));
+  EXPECT_EQ(ColumnTexts(List(main)), (std::vector<std::string>{names[2], names[3], names[1]}));
+
+  DragFromTo(RowAt(main, 0), RowAt(main, 2));
+  EXPECT_TRUE(WaitUntil([&] {
+    return ColumnTexts(List(main)) == std::vector<std::string>{names[3], names[1], names[2]};
+  }));
+  DragFromTo(MiddleOf(Control(main, butFavs)), MiddleOf(Control(main, butFavs + 2)));
+  EXPECT_TRUE(WaitUntil([&] { return TextOf(Control(main, butFavs + 2)) == "Rock & Roll"; }));
+  EXPECT_EQ(TextOf(Control(main, butFavs)), "東京");
+  const std::string file = ReadFile("favs.snr");
+  EXPECT_TRUE(file.starts_with("東京\t")) << file;
+  EXPECT_TRUE(file.ends_with("Talk\t\r\nRock & Roll\t\r\n")) << file;
+  // Dropped beside every target nothing changes.
+  DragFromTo(MiddleOf(Control(main, butFavs)), MiddleOf(Control(main, lblStatus)));
+  Click(Control(main, butFavs + 1));
+  EXPECT_TRUE(Listing(main, "Talk"));
+  EXPECT_EQ(ReadFile("favs.snr"), file);
+}
+
+TEST_F(GroupTest, TheGroupOnShowIsRenamedAndDeleted) {
+  HWND main = MainWithGroups("Morning\t\r\nEvening\t\r\nNight\t\r\n");
+  Command(main, mnuActionStationToGroup + 1);
+  ASSERT_TRUE(WaitUntil([&] { return ReadFile("favs.snr").find("Evening\t\r") == std::string::npos; }));
+  const std::string before = ReadFile("favs.snr");
+  Click(Control(main, butFavs + 1));
+  ASSERT_TRUE(Listing(main, "Evening"));
+
+  PressKey(main, VK_F2);
+  HWND dialog = Dialog("frmRenameFav");
+  EXPECT_EQ(TextOf(Control(dialog, txtGroupName)), "Evening");
+  EXPECT_NEAR(MiddleOf(dialog).x, MiddleOf(main).x, 2);
+  EXPECT_NEAR(MiddleOf(dialog).y, MiddleOf(main).y, 2);
+  SetText(Control(dialog, txtGroupName), "NIGHT");
+  Click(Control(dialog, butOKIt));
+  AnswerBox(main, butMsg);
+  EXPECT_EQ(ReadFile("favs.snr"), before) << "another group has the name";
+  PressKey(main, VK_F2);
+  dialog = Dialog("frmRenameFav");
+  SetText(Control(dialog, txtGroupName), "Élan");
+  EndWith(main, dialog, butOKIt);
+  EXPECT_TRUE(Listing(main, "Élan"));
+  EXPECT_EQ(TextOf(Control(main, butFavs + 1)), "Élan");
+  EXPECT_EQ(RowCount(List(main)), 1);
+
+  // By the key, from the group's own button; then without being asked again.
+  const POINT key = MiddleOf(Control(main, butFavs + 1));
+  ClickAt(key.x, key.y);
+  ASSERT_TRUE(WaitUntil([&] { return FocusOf(main) == Control(main, butFavs + 1); }));
+  PressKey(main, VK_DELETE);
+  HWND box = Dialog("MsgboxFrm");
+  Click(Control(box, chkDontAsk));
+  EXPECT_TRUE(WaitUntil([&] { return IsChecked(Control(box, chkDontAsk)); }));
+  EndWith(main, box, butMsg);
+  EXPECT_TRUE(Listing(main, "Your Recent"));
+  EXPECT_TRUE(Holds("favs.snr", "Morning\t\r\nNight\t\r\n"));
+  EXPECT_EQ(ReadSetting("NoShowDelete"), "Yes");
+  Click(Control(main, butFavs));
+  ASSERT_TRUE(Listing(main, "Morning"));
+  Command(main, mnuFavDeleteFav);
+  EXPECT_TRUE(Listing(main, "Your Recent"));
+  EXPECT_EQ(ReadFile("favs.snr"), "Night\t\r\n");
+}
+
+TEST_F(GroupTest, TheKeyboardReachesEveryGroupAndTheSearch) {
+  HWND main = MainWithGroups("Morning\t\r\nEvening\t\r\n");
+  for (int round = 0; round < 2; ++round) {  // letting go of Alt must leave the next key alone
+    PressKey(main, '1', Modifier::Alt);
+    EXPECT_TRUE(Listing(main, "Morning"));
+    PressKey(main, '2', Modifier::Alt);
+    EXPECT_TRUE(Listing(main, "Evening"));
+  }
+  PressKey(main, 'F', Modifier::Control);
+  HWND words = Control(main, txtQuickSearch);
+  EXPECT_TRUE(WaitUntil([&] { return IsChild(words, FocusOf(main)) != FALSE; }));
+  PressKey(main, VK_DOWN, Modifier::Alt);
+  EXPECT_TRUE(WaitUntil([&] { return SendMessageW(words, CB_GETDROPPEDSTATE, 0, 0) != 0; }));
+  PressKey(main, VK_ESCAPE);
+  EXPECT_TRUE(WaitUntil([&] { return SendMessageW(words, CB_GETDROPPEDSTATE, 0, 0) == 0; }));
+  PressKey(main, '1', Modifier::Alt);
+  EXPECT_TRUE(Listing(main, "Morning"));
+  EXPECT_TRUE(WaitUntil([&] { return FocusOf(main) == List(main); })) << "its pane is gone";
+}
+
+}  // namespace
+}  // namespace sonaro::desktop

@@ -1,0 +1,148 @@
+// The user's own stations and links with real windows, and their ways out to playlists and back in.
+#include "Guide.h"
+#include "MainWindowTest.h"
+
+namespace sonaro::desktop {
+namespace {
+
+class PersonalTest : public MainWindowTest {
+ protected:
+  void AddStation(HWND main, const std::string& name, const std::string& link) {
+    Command(main, mnuPersonalAdd);
+    HWND dialog = Dialog("frmPersonalStation");
+    SetText(Control(dialog, txtStationName), name);
+    SetText(Control(dialog, txtLink), link);
+    EndWith(main, dialog, butOKIt);
+  }
+  void ShowYours(HWND main, const std::vector<std::string>& names) {
+    Command(main, mnuViewPersonalPage);
+    EXPECT_TRUE(Listing(main, "Your Stations"));
+    EXPECT_TRUE(WaitUntil([&] { return ColumnTexts(List(main)) == names; }));
+  }
+  // Names the file in the system's dialog and accepts it.
+  void ChooseFile(const std::string& path) {
+    constexpr int kFileName = 0x47C;  // the system's number of its combo
+    HWND dialog = Running().WaitForShownWindow("#32770");
+    ASSERT_NE(dialog, nullptr);
+    ASSERT_TRUE(WaitUntil([&] { return Control(dialog, kFileName) != nullptr; }));
+    SetText(Control(dialog, kFileName), path);
+    Command(dialog, IDOK);
+    EXPECT_TRUE(WaitUntil([&] { return !IsShown(dialog); }));
+  }
+};
+
+TEST_F(PersonalTest, OnesOwnStationsComeAndGoAndTheirTokensStayRight) {
+  HWND main = MainWithStations();
+  Command(main, mnuPersonalAdd);
+  HWND dialog = Dialog("frmPersonalStation");
+  SetText(Control(dialog, txtStationName), "Without a link");
+  Click(Control(dialog, butOKIt));
+  HWND box = Dialog("MsgboxFrm");
+  EXPECT_NE(TextOf(Control(box, lblMsg)), "");
+  Click(Control(box, butMsg));
+  ASSERT_TRUE(WaitUntil([&] { return !IsShown(box) && IsWindowEnabled(dialog) != FALSE; }));
+  EndWith(main, dialog, butCancelIt);
+  EXPECT_FALSE(Exists("personal.snr"));
+
+  AddStation(main, "Garage", "http://127.0.0.1:9/garage");
+  AddStation(main, "Käsekuchen", "http://127.0.0.1:9/k");
+  AddStation(main, "Радио", "http://127.0.0.1:9/r");
+  ShowYours(main, {"Garage", "Käsekuchen", "Радио"});
+  SelectRow(List(main), 2);
+  NewGroup(main, "Mine");
+  Command(main, mnuActionStationToGroup);
+  EXPECT_TRUE(Holds("favs.snr", "Mine\tP3 \r\n"));
+  Click(Control(main, butGoMediaLinkOneIt));
+  const auto lines = AsxLines();
+  ASSERT_EQ(lines.size(), 1u);
+  EXPECT_TRUE(lines[0].ends_with(" http://127.0.0.1:9/r")) << lines[0];
+  EXPECT_TRUE(ReadFile("recent.snr").starts_with("P3"));
+
+  SelectRow(List(main), 0);
+  Command(main, mnuPersonalChange);
+  dialog = Dialog("frmPersonalStation");
+  EXPECT_EQ(TextOf(Control(dialog, txtLink)), "http://127.0.0.1:9/garage");
+  SetText(Control(dialog, txtStationName), "Garage 2");
+  EndWith(main, dialog, butOKIt);
+  ShowYours(main, {"Garage 2", "Käsekuchen", "Радио"});
+  SelectRow(List(main), 1);
+  Command(main, mnuPersonalDelete);
+  AnswerBox(main, butMsg);
+  ShowYours(main, {"Garage 2", "Радио"});
+  AddStation(main, "Fourth", "http://127.0.0.1:9/4");
+  EXPECT_NE(ReadFile("personal.snr").find("\n4\tFourth\t"), std::string::npos) << ReadFile("personal.snr");
+  Command(main, mnuExit);
+  EXPECT_TRUE(Running().WaitForEnd().has_value());
+
+  main = StartAndShowMain();
+  Click(Control(main, butFavs));
+  EXPECT_TRUE(Listing(main, "Mine"));
+  EXPECT_EQ(ColumnTexts(List(main)), std::vector<std::string>{"Радио"});
+}
+
+TEST_F(PersonalTest, AGroupGoesOutToEveryKindOfPlaylistAndComesBackWhole) {
+  WriteFile("favs.snr", "Mine\t\r\nM3U\t\r\nPLS\t\r\nOPML\t\r\n");
+  HWND main = MainWithStations();
+  for (int row = 0; row < 3; ++row) {
+    SelectRow(List(main), row);
+    Command(main, mnuActionStationToGroup);
+  }
+  AddStation(main, "Own <&> \"Größe\"", "http://127.0.0.1:9/own?a=1&b=2");
+  ShowYours(main, {"Own <&> \"Größe\""});
+  Command(main, mnuActionStationToGroup);
+  Click(Control(main, butFavs));
+  ASSERT_TRUE(Listing(main, "Mine"));
+  ASSERT_TRUE(WaitUntil([&] { return RowCount(List(main)) == 4; }));
+  const std::vector<std::string> names = ColumnTexts(List(main));
+  int group = 1;
+  for (const char* name : {"out.m3u", "out.pls", "out.opml"}) {
+    Click(Control(main, butFavs));
+    ASSERT_TRUE(Listing(main, "Mine"));
+    Command(main, mnuFavExport);
+    ChooseFile(PathOf(name));
+    ASSERT_TRUE(WaitUntil([&] { return Exists(name); })) << name;
+    Click(Control(main, butFavs + group));
+    ASSERT_TRUE(WaitUntil([&] { return RowCount(List(main)) == 0; }));
+    Command(main, mnuFavImport);
+    ChooseFile(PathOf(name));
+    AnswerBox(main, butMsg);
+    EXPECT_TRUE(WaitUntil([&] { return ColumnTexts(List(main)) == names; })) << name;
+    ++group;
+  }
+  const std::string file = ReadFile("favs.snr");
+  const std::string members = file.substr(5, file.find('\r') - 5);
+  EXPECT_EQ(file, "Mine\t" + members + "\r\nM3U\t" + members + "\r\nPLS\t" + members + "\r\nOPML\t" +
+                      members + "\r\n");
+}
+
+TEST_F(PersonalTest, AnExtraLinkOutlivesTheDirectoryThatItWasMadeFor) {
+  HWND main = MainWithStations();
+  const std::string name = CellText(List(main), 0);
+  Command(main, mnuActionExtraLink);
+  HWND dialog = Dialog("frmExtraLink");
+  EXPECT_EQ(TextOf(Control(dialog, lblStation)), name);
+  SetText(Control(dialog, txtExtraLink), "http://127.0.0.1:9/extra");
+  EndWith(main, dialog, butOKIt);
+  ASSERT_TRUE(WaitUntil([&] { return Exists("ownlinks.snr"); }));
+  const std::string line = ReadFile("ownlinks.snr");
+  const std::string identifier = line.substr(0, line.find('\t'));
+  Command(main, mnuExit);
+  EXPECT_TRUE(Running().WaitForEnd().has_value());
+
+  WriteFile("tStation.snr", StationLine(std::stoi(identifier), "Renamed", "mhttp://127.0.0.1:9/new"));
+  WriteFile("fun.snr", "Most Pop\t" + identifier + "\r\n");
+  ResetSettings({{"StartPlayer", "No"},
+                 {"StartProxy", "No"},
+                 {"StartQuickStart", "No"},
+                 {"UpdateHold", "Station.snr\t"}});
+  main = StartAndShowMain();
+  Command(main, mnuActionMostPoular);
+  ASSERT_TRUE(WaitUntil([&] { return ColumnTexts(List(main)) == std::vector<std::string>{"Renamed"}; }));
+  Command(main, mnuActionPlayExtra);
+  const auto lines = AsxLines();
+  ASSERT_EQ(lines.size(), 1u) << line;
+  EXPECT_TRUE(lines[0].ends_with(" http://127.0.0.1:9/extra")) << lines[0];
+}
+
+}  // namespace
+}  // namespace sonaro::desktop
