@@ -23,7 +23,7 @@ const FormDesign& MsgboxFrm::Design() {
   static constexpr unsigned char kFoot = kLeft | kBottom;
   static constexpr ControlRow kControls[] = {
       {.id = lblTitle, .kind = Kind::TitleBar, .at = {40, 4, 156, 26}},
-      {.kind = Kind::Label, .at = {20, 52, 36, 36}, .icon = Icon::Info, .ink = Ink::Signal},
+      {.id = picStuff, .kind = Kind::Label, .at = {20, 52, 36, 36}, .icon = Icon::Info, .ink = Ink::Signal},
       {.id = lblMsg,
        .kind = Kind::StateLabel,
        .at = {68, 50, kTextWidth, kTextHeight},
@@ -78,6 +78,10 @@ MessageResult MsgboxFrm::Ask(HWND owner) {
 void MsgboxFrm::OnLoad() {
   SetWindowTextW(Window(), Widen(message_.caption).c_str());
   SetText(lblTitle, message_.caption);
+  if (message_.caption == kFilesMissing) {
+    SetIcon(picStuff, Icon::Warn);
+    SetInk(picStuff, Ink::Accent);
+  }
   SetText(lblMsg, message_.text);
   SetText(butMsg, message_.firstButton);
   SetText(butMsg + 1, message_.secondButton);

@@ -60,7 +60,7 @@ ControlClass ClassOf(const ControlRow& row) {
     case Kind::ComboEdit:
       return {L"COMBOBOX", CBS_DROPDOWN | kCombo};
     case Kind::MonthCalendar:
-      return {MONTHCAL_CLASSW, 0};
+      return {MONTHCAL_CLASSW, MCS_NOTODAY};
     default:
       return {L"BUTTON", BS_OWNERDRAW};
   }

@@ -25,7 +25,7 @@ struct DesignRect {
 // number, a direct child of the form, so that GetDlgItem, the keyboard and screen readers find it.
 enum class Kind : unsigned char {
   // Texts: static controls that let the mouse through to the form, so that dragging works on them.
-  Label,       // one line with an end ellipsis, or wrapped (kWrap)
+  Label,       // one line with an end ellipsis, or wrapped (kWrap); with an icon, that alone, as wide as it
   TitleBar,    // a dialog's title in its nameplate, with the program mark before it; normally lblTitle
   StateLabel,  // as Label, but screen readers are told of every change: status lines, time left
   // Keys: controls of class Button, drawn by Painter. The text is the accessible name and carries the "&".

@@ -1,4 +1,8 @@
 // Look, size and place of a form and its controls: at creation, when the layout changes, at another dpi.
+#include <windows.h>
+
+#include <uxtheme.h>
+
 #include "faceplate/Faceplate.h"
 #include "forms/Dpi.h"
 #include "forms/FormParts.h"
@@ -12,12 +16,15 @@ void RenewBrush(HBRUSH& brush, Color color) {
   brush = CreateSolidBrush(ToColorRef(color));
 }
 
+// A themed calendar ignores colours. The title's ground is also that of the chosen day, on which the month's
+// ground is the text, and the colour of the weekdays.
 void ColourCalendar(HWND calendar, const FaceplateColors& colors) {
+  SetWindowTheme(calendar, L"", L"");
   MonthCal_SetColor(calendar, MCSC_BACKGROUND, ToColorRef(colors.glass));
   MonthCal_SetColor(calendar, MCSC_MONTHBK, ToColorRef(colors.glass));
   MonthCal_SetColor(calendar, MCSC_TEXT, ToColorRef(colors.glassText));
-  MonthCal_SetColor(calendar, MCSC_TITLEBK, ToColorRef(colors.key));
-  MonthCal_SetColor(calendar, MCSC_TITLETEXT, ToColorRef(colors.text));
+  MonthCal_SetColor(calendar, MCSC_TITLEBK, ToColorRef(colors.accent));
+  MonthCal_SetColor(calendar, MCSC_TITLETEXT, ToColorRef(colors.onAccent));
   MonthCal_SetColor(calendar, MCSC_TRAILINGTEXT, ToColorRef(colors.textOff));
 }
 

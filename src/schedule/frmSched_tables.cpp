@@ -54,8 +54,13 @@ const FormDesign& frmSched::Design() {
       {.id = butHelp,
        .kind = Kind::StripKey,
        .text = IDS_SCHED_NOTIFY_HELP,
-       .at = {660, 12, 28, 22},
+       .at = {628, 12, 28, 22},
        .icon = Icon::Help},
+      {.id = butCancelIt,
+       .kind = Kind::StripKey,
+       .text = IDS_SCHED_NOTIFY_CLOSE_TIP,
+       .at = {660, 12, 28, 22},
+       .icon = Icon::Close},
   };
   static constexpr KeyRow kKeys[] = {
       {.key = VK_DELETE, .command = butDeleteIt, .onlyIn = lstSched},
@@ -83,6 +88,7 @@ std::span<const EventRow> frmSched::Events() const {
       {butExportIt, Click, &frmSched::butExportIt_Click},
       {butAboutTimeIt, Click, &frmSched::butAboutTimeIt_Click},
       {butCloseIt, Click, &frmSched::butCloseIt_Click},
+      {butCancelIt, Click, &frmSched::butCloseIt_Click},
       {butHelp, Click, &frmSched::butHelp_Click},
   };
   return kRows;

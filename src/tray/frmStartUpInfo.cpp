@@ -21,6 +21,7 @@ constexpr const char* kPlayerHelp = "9036.html";
 constexpr const char* kProxyHelp = "index.html";
 
 struct PageTexts {
+  int title;
   int head;
   int text;
 };
@@ -28,15 +29,15 @@ struct PageTexts {
 PageTexts TextsOf(StartUpInfoPage page) {
   switch (page) {
     case StartUpInfoPage::Proxy:
-      return {IDS_STARTUP_PROXY_HEAD, IDS_STARTUP_PROXY_TEXT};
+      return {IDS_STARTUP_TITLE, IDS_STARTUP_PROXY_HEAD, IDS_STARTUP_PROXY_TEXT};
     case StartUpInfoPage::NoPlayer:
-      return {IDS_STARTUP_PLAYER_HEAD, IDS_NOPLAYER_TEXT};
+      return {IDS_STARTUP_TITLE, IDS_STARTUP_PLAYER_HEAD, IDS_NOPLAYER_TEXT};
     case StartUpInfoPage::ChoosePlayer:
-      return {IDS_STARTUP_CHOOSE_HEAD, IDS_STARTUP_CHOOSE_TEXT};
+      return {IDS_STARTUP_CHOOSE_TITLE, IDS_STARTUP_CHOOSE_HEAD, IDS_STARTUP_CHOOSE_TEXT};
     case StartUpInfoPage::Player:
       break;
   }
-  return {IDS_STARTUP_PLAYER_HEAD, IDS_STARTUP_PLAYER_TEXT};
+  return {IDS_STARTUP_TITLE, IDS_STARTUP_PLAYER_HEAD, IDS_STARTUP_PLAYER_TEXT};
 }
 
 // The setting that keeps the page from coming again at the start; nullptr for a page that does not.
@@ -175,6 +176,7 @@ void frmStartUpInfo::OnLoad() {
   const bool proxyPage = page_ == StartUpInfoPage::Proxy;
   ShowPane(kPlayerPane, !proxyPage);
   ShowPane(kProxyPane, proxyPage);
+  SetText(lblTitle, LoadText(TextsOf(page_).title));
   SetText(lblHead, LoadText(TextsOf(page_).head));
   SetText(lblText, LoadText(TextsOf(page_).text));
   ShowControl(chkDontShow, CheckOf(page_) != nullptr);
