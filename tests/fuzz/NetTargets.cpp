@@ -1,0 +1,99 @@
+#include <algorithm>
+#include <string>
+
+#include "app/CReg.h"
+#include "app/SettingNames.h"
+#include "base/DataFolder.h"
+#include "base/HttpRequestText.h"
+#include "base/HttpResponse.h"
+#include "base/Text.h"
+#include "fakes/FakeFiles.h"
+#include "fakes/FakeRegistry.h"
+#include "fuzz/Targets.h"
+#include "net/ProxyDetection.h"
+#include "net/ServiceAnswer.h"
+#include "net/ServiceRequest.h"
+#include "net/UpdateFile.h"
+#include "net/UpdateFormat.h"
+
+namespace sonaro {
+
+// The first byte is the size of the pieces; whatever it is, the same comes out.
+void FuzzHttpResponse(std::string_view input) {
+  if (input.empty()) return;
+  const std::size_t piece = 1 + static_cast<unsigned char>(input.front());
+  input.remove_prefix(1);
+  HttpResponse whole;
+  whole.Feed(input);
+  const auto expected = whole.EndOfStream();
+  HttpResponse pieces;
+  for (std::size_t at = 0; at < input.size(); at += piece) pieces.Feed(input.substr(at, piece));
+  Require(pieces.EndOfStream() == expected, "the same outcome");
+  if (expected != HttpResponse::State::Complete) return;
+  Require(pieces.StatusCode() == whole.StatusCode() && whole.StatusCode().size() == 3, "the same status");
+  Require(pieces.Headers() == whole.Headers(), "the same headers");
+  Require(pieces.Body() == whole.Body(), "the same body");
+}
+
+void FuzzUpdateFile(std::string_view input) {
+  FakeFiles files;
+  files.MakeFolder("/d");
+  files.Put("/d/update.txt", input);
+  DataFolder data(files, "/d", '/');
+  const UpdateContents contents = ReadUpdateFile(data);
+  Require(contents.status == UpdateFileStatus::Read, "read without a key");
+  for (std::string_view rest = contents.received; !rest.empty();) {
+    const std::string_view name = TakeUntil(rest, '\t');
+    Require(update::MayBringFile(name), "a name that an update may bring");
+    Require(data.Exists(std::string("\\t").append(name)), "a received file is there");
+  }
+  for (const ServiceValue& value : contents.values)
+    Require(!value.value.empty() && value.value.size() <= 2048, "the length of a value");
+  DropReceived(data, contents.received);
+  Require(files.AllPaths() == std::vector<std::string>{"/d/update.txt"}, "no other file is touched");
+
+  files.Put("/d/publish.key", "d75a980182b10ab7d54bfed3c964073a0ee172f3daa62325af021a68f707511a\n");
+  const UpdateFileStatus guarded = ReadUpdateFile(data).status;
+  Require(guarded == UpdateFileStatus::NotSigned || guarded == UpdateFileStatus::WrongSign, "refused");
+}
+
+// What is sent after a redirect is one request, whatever the headers say.
+void FuzzRedirect(std::string_view input) {
+  const std::string target = RedirectTarget(input);
+  if (!IsServiceAddress(target)) return;
+  for (const char* proxy : {"", "Yes"}) {
+    FakeRegistry registry;
+    CReg reg(registry);
+    reg.CheckKeyIsThere(kSettingsKey);
+    reg.SetSetting(setting::kProxyUse, proxy);
+    reg.SetSetting(setting::kProxyAddress, "127.0.0.1");
+    const ServiceRequest request = BuildServiceRequest(reg, target, "?Flush=No");
+    const auto bytes = HttpRequestBytes(request.host, request.port, request.requestText, "Fuzz/1.0");
+    if (!bytes) continue;
+    Require(bytes->starts_with("GET ") && bytes->find("\r\n\r\n") == bytes->size() - 4, "one request");
+    const std::string line = bytes->substr(0, bytes->find('\r'));
+    Require(line.ends_with("?Flush=No HTTP/1.0"), "the line ends as it must");
+    Require(std::count(bytes->begin(), bytes->end(), '\n') == 5, "no line is added");
+  }
+}
+
+// The system's setting, a zero, and the other browser's preferences.
+void FuzzProxySettings(std::string_view input) {
+  const std::string server(TakeUntil(input, '\0'));
+  FakeRegistry registry;
+  CReg reg(registry);
+  registry.Put(RootKey::CurrentUser, systemkey::kInternetSettings, systemkey::kProxyEnable, "1");
+  registry.Put(RootKey::CurrentUser, systemkey::kInternetSettings, systemkey::kProxyServer, server);
+  const std::string found = DetectIeProxy(reg);
+  Require(server.find(found) != std::string::npos, "what is found is there");
+
+  FakeFiles files;
+  files.Put("/n\\prefs.js", input);
+  registry.Put(RootKey::LocalMachine, "SOFTWARE\\Netscape\\Netscape Navigator\\Users", "CurrentUser", "me");
+  registry.Put(RootKey::LocalMachine, "SOFTWARE\\Netscape\\Netscape Navigator\\Users\\me", "DirRoot", "/n");
+  const std::string other = DetectNetscapeProxy(reg, files);
+  Require(other.empty() || other.find(':') != std::string::npos, "host and port");
+  Require(other.find_first_of("\r\n") == std::string::npos, "one line");
+}
+
+}  // namespace sonaro
