@@ -4,37 +4,23 @@
 
 #include <windows.h>
 
-#include "forms/FormControl.h"
+#include "forms/PaintedControl.h"
 
 namespace sonaro {
 
-class ProgressScale final : public FormControl {
+class ProgressScale final : public PaintedControl {
  public:
   ProgressScale(HWND form, int id, FormServices& services);
-  ~ProgressScale() override;
-  ProgressScale(const ProgressScale&) = delete;
-  ProgressScale& operator=(const ProgressScale&) = delete;
 
   // `done` of `total` steps. A total of 0 or less is an empty scale; more than done is full.
   void SetProgress(int done, int total);
   // Design pixels from tick to tick; 6 unless told otherwise.
   void SetPitch(int design);
 
-  HWND Window() const override { return window_; }
-  void MoveTo(const RECT& place) override;
-  void SetShown(bool shown) override;
-  void LookChanged() override;
-  bool OnNotify(NMHDR&, LRESULT&) override { return false; }
-
  private:
-  static LRESULT CALLBACK Procedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam, UINT_PTR id,
-                                    DWORD_PTR data) noexcept;
-  void Paint();
-  void PaintScale(HDC dc, const RECT& box) const;
+  void PaintOn(HDC dc, const RECT& box) const override;
   void PaintNeedle(HDC dc, int x, int bottom) const;
 
-  FormServices& services_;
-  HWND window_ = nullptr;
   int pitch_ = 6;
 };
 
