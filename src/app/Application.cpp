@@ -132,8 +132,8 @@ void Application::LoadMainWindow() {
   PlaceMainWindow();
   schedule_->SetChanged([this] { main_->ScheduleChanged(); });
   service_->SetDirectoryChanged([this] {
+    schedule_->DirectoryChanged();  // first: the main window asks it for the coming events
     main_->DirectoryChanged();
-    schedule_->DirectoryChanged();
   });
   service_->SetProgress(
       [this](int percent) { main_->ShowProgress(strings_.Load(IDS_NET_GETTING_DATA), percent); },

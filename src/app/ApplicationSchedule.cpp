@@ -98,6 +98,7 @@ void ApplicationSchedule::Minute() {
   timer_.KeepWatch();
   RememberSeen();
   list_.FillLists();
+  if (changed_) changed_();
 }
 
 void ApplicationSchedule::RememberSeen() {
@@ -193,7 +194,10 @@ NextNotice ApplicationSchedule::NextNotice() {
           ScheduleShown(item)};
 }
 
-void ApplicationSchedule::DirectoryChanged() { diary_.Reload(); }
+void ApplicationSchedule::DirectoryChanged() {
+  diary_.Reload();
+  timer_.EvaluateSchedule();
+}
 
 std::vector<PickGroup> ApplicationSchedule::Groups() const {
   std::vector<PickGroup> groups;
@@ -207,6 +211,7 @@ std::vector<PickGroup> ApplicationSchedule::Groups() const {
 // An item was added, changed or deleted.
 void ApplicationSchedule::Changed() {
   timer_.EvaluateSchedule();
+  list_.FillLists();
   if (changed_) changed_();
 }
 

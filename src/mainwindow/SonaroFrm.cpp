@@ -299,7 +299,10 @@ void SonaroFrm::DirectoryChanged() {
 }
 
 void SonaroFrm::ScheduleChanged() {
-  if (IsOpen() && models_.listing.State().view == View::YourSonaro) ShowEverything();
+  if (!IsOpen() || models_.listing.State().view != View::YourSonaro) return;
+  yours_.ShowEvents();
+  yours_.ShowGroups();
+  yours_.ShowNextNotice();
 }
 
 void SonaroFrm::ShowGroupNamed(std::string_view name) {

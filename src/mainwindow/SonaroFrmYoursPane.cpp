@@ -45,11 +45,18 @@ void YoursPane::ShowGroups() {
 }
 
 void YoursPane::ShowEvents() {
-  events_ = calls_.comingEvents ? calls_.comingEvents() : std::vector<EventLine>();
   ListView& list = form_.List(lstEvents);
-  const int selected = std::min(list.Selected(), eventRows_.RowCount() - 1);
+  const EventLine chosen = SelectedEvent() ? *SelectedEvent() : EventLine();
+  events_ = calls_.comingEvents ? calls_.comingEvents() : std::vector<EventLine>();
+  const auto same = std::find_if(events_.begin(), events_.end(), [&](const EventLine& event) {
+    return event.name == chosen.name && event.station == chosen.station;
+  });
   list.RowsChanged();
-  list.Select(selected < 0 && !events_.empty() ? 0 : selected);
+  if (same != events_.end()) {
+    list.Select(static_cast<int>(same - events_.begin()));
+  } else {
+    list.Select(events_.empty() ? -1 : 0);
+  }
   ShowEventKeys(list.Selected());
 }
 

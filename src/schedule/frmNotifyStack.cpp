@@ -44,6 +44,8 @@ void frmNotifyStack::Put(std::unique_ptr<frmNotify> window) {
   const POINT corner = CornerOf(static_cast<std::size_t>(place - windows_.begin()), area, box);
   shown.MoveToPixels(corner.x, corner.y);
   shown.ShowInactive();
+  // Above the window that the user works in, which keeps the focus.
+  SetWindowPos(shown.Window(), HWND_TOPMOST, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
 }
 
 }  // namespace sonaro

@@ -157,12 +157,7 @@ void frmSchedChange::butOKIt_Click() {
   if (Complain(draft_.Fault(services_.shortDatePattern))) return;
   services_.store.SetItem(slot_ ? *slot_ : services_.store.FirstFreeSlot(),
                           draft_.ToItem(services_.clockStyle, services_.shortDatePattern));
-  if (!services_.store.SaveSchedule()) {
-    services_.messages.Ask({.key = "ScheduleNotSaved",
-                            .caption = LoadText(IDS_SCHED_CHANGE_MESSAGE_CAPTION),
-                            .text = LoadText(IDS_SCHED_NOT_SAVED),
-                            .firstButton = LoadText(IDS_SCHED_OK)});
-  }
+  services_.store.SaveSchedule();
   services_.changed();
   Close(1);
 }

@@ -134,11 +134,15 @@ TEST_F(HandClockTest, AnEventIsAnnouncedInLocalTimeAndOpensItsWebSite) {
             "AM\t\tonce\t\r\n");
   EXPECT_TRUE(WaitUntil([&] { return IsWindowEnabled(Control(main, butNotifyMe)) == FALSE; }));
   EXPECT_EQ(TextOf(Control(main, lblNextNotice)), "Tomorrow 12:15 AM");
-
+  TurnTo(23, 59);
+  EXPECT_EQ(TextOf(Control(main, lblNextNotice)), "Tomorrow 12:15 AM");
   TurnTo({kFriday, {0, 14, 0}});
+  EXPECT_EQ(TextOf(Control(main, lblNextNotice)), "Today 12:15 AM");
   HWND notice = ExpectNotice({kFriday, {0, 15, 0}}, "This is your May 6  12:15 AM notice for",
                              "Opening night on Radio Opéra");
   ASSERT_NE(notice, nullptr);
+  EXPECT_NE(GetWindowLongA(notice, GWL_EXSTYLE) & WS_EX_TOPMOST, 0);
+  EXPECT_EQ(RowCount(events), 0);  // it has begun
   ASSERT_TRUE(IsShown(Control(notice, butGoWebSiteIt)));
   Click(Control(notice, butGoWebSiteIt));
   const auto opened = BrowserLines();
