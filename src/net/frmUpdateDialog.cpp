@@ -27,7 +27,7 @@ const FormDesign& frmUpdateDialog::Design() {
   static constexpr unsigned char kFoot = kLeft | kBottom;
   static constexpr ControlRow kControls[] = {
       {.id = lblTitle, .kind = Kind::TitleBar, .text = IDS_NET_UPDATE_TITLE, .at = {40, 4, 156, 26}},
-      {.kind = Kind::Label, .at = {20, 52, 36, 36}, .icon = Icon::Info, .ink = Ink::Signal},
+      {.id = picStuff, .kind = Kind::Label, .at = {20, 52, 36, 36}, .icon = Icon::Info, .ink = Ink::Signal},
       {.id = lblStuff,
        .kind = Kind::StateLabel,
        .at = {68, 50, kTextWidth, kTextHeight},
@@ -86,6 +86,7 @@ void frmUpdateDialog::OnUnload() {
 void frmUpdateDialog::Begin() {
   unloading_ = false;
   textStep_.reset();
+  ShowFailure(false);
   SetOffer(Offer::Nothing);
   SetText(butMsg + 1, LoadText(IDS_NET_CANCEL));
   ShowText(LoadText(IDS_NET_CONNECTING));
@@ -122,7 +123,13 @@ void frmUpdateDialog::Ended(const UpdateOutcome& outcome) {
   ShowText(OutcomeText(outcome, updated ? calls_.installed() : std::string(), strings_));
   Progress(prgUpdate).SetProgress(updated ? kSteps : 0, kSteps);
   SetText(butMsg + 1, LoadText(IDS_NET_CLOSE));
+  ShowFailure(MayRetry(outcome));
   SetOffer(MayRetry(outcome) ? Offer::Retry : calls_.canUndo() ? Offer::Undo : Offer::Nothing);
+}
+
+void frmUpdateDialog::ShowFailure(bool failed) {
+  SetIcon(picStuff, failed ? Icon::Warn : Icon::Info);
+  SetInk(picStuff, failed ? Ink::Accent : Ink::Signal);
 }
 
 void frmUpdateDialog::SetOffer(Offer offer) {

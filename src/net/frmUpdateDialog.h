@@ -42,6 +42,7 @@ class frmUpdateDialog final : public Form {
   void Begin();
   void Ended(const UpdateOutcome& outcome);
   void SetOffer(Offer offer);
+  void ShowFailure(bool failed);
   void ShowText(const std::string& text);
   void ShowBytes(std::uint64_t bytes, std::uint64_t expected);
 

@@ -187,6 +187,38 @@ TEST_F(UpdateTest, TheProgramEndsCleanlyInTheMiddleOfAnUpdate) {
   }
 }
 
+TEST_F(UpdateTest, TheOptionsTryAProxyThatIsTypedAndKeepTheOneThatIsSet) {
+  const std::uint16_t set = UnusedPort();
+  UseServer(set);
+  server_.Answer("/proxy/test.asp", script::Body("cool proxy works!"));
+  HWND main = StartAndShowMain();
+  Click(Control(main, butOptions));
+  HWND options = Sonaro().WaitForShownWindow("frmOptions");
+  ASSERT_NE(options, nullptr);
+  const struct {
+    std::uint16_t port;
+    const char* result;
+  } kCases[] = {
+      {server_.Port(), "This Proxy is configured correctly"},
+      {set, "This Proxy setting does not seem to work. Please check your setting and try again."},
+  };
+  for (const auto& each : kCases) {
+    SetText(Control(options, txtProxy), "127.0.0.1");
+    SetText(Control(options, txtPort), std::to_string(each.port));
+    Click(Control(options, butTestProxyIt));
+    HWND test = Sonaro().WaitForShownWindow("frmTestProxy", "Testing Proxy Setting");
+    ASSERT_NE(test, nullptr);
+    EXPECT_TRUE(WaitUntil([&] { return TextOf(Control(test, lblStatusInfo)) == each.result; }))
+        << TextOf(Control(test, lblStatusInfo));
+    EXPECT_EQ(TextOf(Control(test, lblCheckAddress)), "127.0.0.1");
+    EXPECT_EQ(TextOf(Control(test, lblCheckPort)), std::to_string(each.port));
+    Click(Control(test, butOKIt));
+    EXPECT_TRUE(WaitUntil([&] { return !IsShown(test); }));
+  }
+  EXPECT_EQ(RequestLine(0), "GET http://www.sonaro.example/sonaroapp/sonaro3/asp/proxy/test.asp HTTP/1.0");
+  EXPECT_EQ(ReadSetting("ProxyPort"), std::to_string(set));
+}
+
 // Without a proxy the service is reached on port 80, which not everybody may listen on.
 TEST_F(UpdateTest, WithoutAProxyThePathIsAskedOfTheServiceItself) {
   LoopbackServer direct(80, "127.77.0.1");
