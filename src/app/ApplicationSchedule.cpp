@@ -74,6 +74,7 @@ ScheduleServices ApplicationSchedule::MakeServices() {
           needs_.help,
           needs_.state.clockStyle,
           needs_.state.shortDatePattern,
+          [this](const std::string& key) { return needs_.source.WebSiteOf(StationKey::FromRowKey(key)); },
           [this] { Changed(); }};
 }
 

@@ -54,7 +54,7 @@ Notification NotificationFor(const ScheduleItem& item, const StationSource& stat
   shown.notice = NoticeText(item, shortDatePattern);
   shown.note = NoteFromFile(item.note);
   shown.webSite = WebSiteOf(item.name);
-  shown.webSiteFirst = OpensWebSite(item.action) && !shown.webSite.empty();
+  shown.opensWebSite = OpensWebSite(item.action) && !shown.webSite.empty();
   const StationKey key = StationKey::FromRowKey(StationKeyOf(item.action));
   if (key.kind == StationKey::Kind::Directory) AddDirectoryLinks(shown.plays, key, stations, extraLinks);
   if (key.kind == StationKey::Kind::Personal) AddPersonalLinks(shown.plays, key, stations);

@@ -28,8 +28,8 @@ struct Notification {
   std::string eventName;
   std::string notice;
   std::string note;
-  std::string webSite;  // an address that begins with "http", or ""
-  bool webSiteFirst = false;
+  std::string webSite;            // an address that begins with "http", or ""
+  bool opensWebSite = false;      // by itself, when it comes
   std::vector<PlayChoice> plays;  // at most kPlayKeys
 };
 

@@ -30,6 +30,8 @@ struct ScheduleServices {
   HelpPages& help;
   ClockStyle clockStyle = ClockStyle::Hours24;
   std::string shortDatePattern = {};
+  // The web site of a station by its row key; "" when there is none.
+  std::function<std::string(const std::string& stationKey)> webSiteOf = {};
   std::function<void()> changed = {};  // the table was changed and saved
 };
 

@@ -138,6 +138,7 @@ void frmNotify::butPlay_Click(int index) {
 void frmNotify::Timer1_Timer() {
   StopTimer(Timer1);
   actions_.playSound();
+  if (notification_.opensWebSite) butGoWebSiteIt_Click();
 }
 
 }  // namespace sonaro

@@ -155,6 +155,9 @@ bool frmSchedChange::Complain(DraftFault fault) {
 void frmSchedChange::butOKIt_Click() {
   ReadControls();
   if (Complain(draft_.Fault(services_.shortDatePattern))) return;
+  // The notice opens what the item carries; a station's own site is taken when it is to be opened.
+  if (draft_.openWebSite && draft_.name.webSite.empty())
+    draft_.name.webSite = services_.webSiteOf(draft_.stationKey);
   services_.store.SetItem(slot_ ? *slot_ : services_.store.FirstFreeSlot(),
                           draft_.ToItem(services_.clockStyle, services_.shortDatePattern));
   services_.store.SaveSchedule();

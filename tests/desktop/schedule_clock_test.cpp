@@ -14,9 +14,10 @@ constexpr Date kSaturday{2005, 5, 7};
 constexpr Date kSunday{2005, 5, 8};
 constexpr Date kMonday{2005, 5, 9};
 
-// The identifier of the station that the first line of the schedule names, as "\tNS17\t" does.
-std::string ScheduledStation(const std::string& file) {
-  const auto mark = file.find("\tNS");
+// The identifier of the station that the first line of the schedule names, as "\tNS17\t" does; "W" for an
+// item that opens a web site.
+std::string ScheduledStation(const std::string& file, const std::string& action = "N") {
+  const auto mark = file.find("\t" + action + "S");
   return mark == std::string::npos ? "" : file.substr(mark + 3, file.find('\t', mark + 1) - mark - 3);
 }
 
@@ -90,7 +91,7 @@ TEST_F(HandClockTest, ADailyItemComesOnOnItsDaysOnly) {
   ExpectNotice({kMonday, {10, 1, 0}}, info, name);
 }
 
-TEST_F(HandClockTest, AWeeklyItemAfterMidnightComesOnWithItsDay) {
+TEST_F(HandClockTest, AWeeklyItemAfterMidnightComesOnWithItsDayAndOpensTheWebSite) {
   HWND main = MainWithStations();
   const std::string name = CellText(Control(main, lstFavs), 1);
   HWND dialog = ScheduleRow(main, 1);
@@ -98,10 +99,14 @@ TEST_F(HandClockTest, AWeeklyItemAfterMidnightComesOnWithItsDay) {
   ChooseTime(dialog, "12", "01", "AM");
   ASSERT_TRUE(WaitUntil([&] { return IsShown(Control(dialog, cmbThreeDay)); }));
   EXPECT_TRUE(ChooseItem(Control(dialog, cmbThreeDay), "Sunday"));
+  Click(Control(dialog, chkWebSite));
   PressOk(dialog, main);
 
   const std::string file = ReadFile("Sched.snr");
-  EXPECT_EQ(file, name + "\tNS" + ScheduledStation(file) + "\t\t12:01 AM\tSunday\tweekly\t\r\n");
+  const std::string id = ScheduledStation(file, "W");
+  const std::string site = StationIn(Folder(), id)[StationField::WebSite];
+  ASSERT_FALSE(site.empty());
+  EXPECT_EQ(file, name + ">>>>>>" + site + "\tWS" + id + "\t\t12:01 AM\tSunday\tweekly\t\r\n");
   TurnTo({kThursday, {23, 59, 0}});
   TurnTo({kFriday, {0, 1, 0}});
   EXPECT_TRUE(Notices().empty());
@@ -110,6 +115,9 @@ TEST_F(HandClockTest, AWeeklyItemAfterMidnightComesOnWithItsDay) {
   TurnTo({kSunday, {0, 0, 30}});
   EXPECT_TRUE(Notices().empty());
   ExpectNotice({kSunday, {0, 1, 30}}, "This is your weekly Sunday 12:01 AM notice for", name);
+  const auto opened = BrowserLines();
+  ASSERT_EQ(opened.size(), 1u);
+  EXPECT_NE(opened[0].find(site), std::string::npos) << opened[0];
 }
 
 TEST_F(HandClockTest, AnEventIsAnnouncedInLocalTimeAndOpensItsWebSite) {

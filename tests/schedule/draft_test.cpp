@@ -135,7 +135,7 @@ TEST_F(WithStations, ANotificationOffersTheStationsLinksThenExtraOnesThreeAtMost
   const Notification shown = NotificationFor(item, source_, extra_, "");
   EXPECT_EQ(shown.eventName, "Finale on Radio");
   EXPECT_EQ(shown.webSite, "http://www.x.example");
-  EXPECT_TRUE(shown.webSiteFirst);
+  EXPECT_TRUE(shown.opensWebSite);
   ASSERT_EQ(shown.plays.size(), 3u);
   EXPECT_EQ(shown.plays[0].caption, "Play (MP3)");
   EXPECT_EQ(shown.plays[1].mode, PlayMode::LinkThree);
