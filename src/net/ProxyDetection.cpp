@@ -1,6 +1,8 @@
 #include "net/ProxyDetection.h"
 
+#include <algorithm>
 #include <string_view>
+#include <utility>
 
 #include "app/CReg.h"
 #include "app/SettingNames.h"
@@ -28,6 +30,13 @@ std::string ValueIn(std::string_view line, std::size_t from, char end) {
   return std::string(value.substr(0, value.find(end)));
 }
 
+// No host and no port holds a control character; a setting that does is none.
+std::string WithoutControls(std::string proxy) {
+  const bool damaged =
+      std::any_of(proxy.begin(), proxy.end(), [](char c) { return static_cast<unsigned char>(c) < ' '; });
+  return damaged ? std::string() : std::move(proxy);
+}
+
 }  // namespace
 
 // "ProxyEnable" is a number of four bytes on most systems: as text it is empty exactly when it is 0.
@@ -47,7 +56,7 @@ std::string DetectIeProxy(CReg& reg) {
     proxy.remove_prefix(entry + kHttpEntry.size());
     proxy = proxy.substr(0, proxy.find(';'));
   }
-  return std::string(proxy);
+  return WithoutControls(std::string(proxy));
 }
 
 std::string DetectNetscapeProxy(const CReg& reg, Files& files) {
@@ -62,7 +71,7 @@ std::string DetectNetscapeProxy(const CReg& reg, Files& files) {
     if (line.starts_with(kHostLine)) host = ValueIn(line, kHostLine.size() + 2, '"');  // a blank, a quote
     if (line.starts_with(kPortLine)) port = ValueIn(line, kPortLine.size(), ')');
   }
-  return host.empty() || port.empty() ? std::string() : host + ':' + port;
+  return host.empty() || port.empty() ? std::string() : WithoutControls(host + ':' + port);
 }
 
 }  // namespace sonaro

@@ -93,7 +93,8 @@ void FuzzProxySettings(std::string_view input) {
   registry.Put(RootKey::LocalMachine, "SOFTWARE\\Netscape\\Netscape Navigator\\Users\\me", "DirRoot", "/n");
   const std::string other = DetectNetscapeProxy(reg, files);
   Require(other.empty() || other.find(':') != std::string::npos, "host and port");
-  Require(other.find_first_of("\r\n") == std::string::npos, "one line");
+  for (const std::string& each : {found, other})
+    Require(each.find_first_of(std::string_view("\0\r\n\t", 4)) == std::string::npos, "one plain line");
 }
 
 }  // namespace sonaro

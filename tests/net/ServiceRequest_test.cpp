@@ -148,6 +148,7 @@ TEST(ProxyDetection, ReadsTheBrowserOfTheSystem) {
       {kZero, kOne, "http=proxy:8080;ftp=other:21", "", "proxy:8080"},
       {"", "1", "https=s:1;http=proxy:8080", "", "proxy:8080"},
       {"", "1", "proxyhost", "", "proxyhost"},
+      {"", "1", "proxy\r:3128", "", ""},
       {"", "1", "", "", ""},
   };
   for (const auto& each : kCases) {
@@ -173,6 +174,8 @@ TEST(ProxyDetection, ReadsTheOtherBrowsersPreferences) {
       {"user_pref(\"network.proxy.http_port\",8080);\nuser_pref(\"network.proxy.http\", \" proxy\");",
        "proxy:8080"},
       {"user_pref(\"network.proxy.http\", \"proxy\");\n", ""},
+      {"user_pref(\"network.proxy.http\", \"proxy\");\nuser_pref(\"network.proxy.http_port\", 80\r80);\n",
+       ""},
       {"user_pref(\"network.proxy.http_port\", 8080);\n", ""},
       {"user_pref(\"network.proxy.http\",\nuser_pref(\"network.proxy.http_port\",", ""},
       {"", ""},
