@@ -77,7 +77,7 @@ void Application::DeletePersonalStation(int index) {
                        .caption = strings_.Load(IDS_DLG_OWN_DELETE_CAPTION),
                        .text = FillIn(strings_.Load(IDS_DLG_OWN_DELETE_TEXT), {known->name}),
                        .firstButton = strings_.Load(IDS_DLG_OWN_DELETE),
-                       .secondButton = strings_.Load(IDS_DLG_CANCEL),
+                       .secondButton = strings_.Load(IDS_APP_CANCEL),
                        .dontAskText = strings_.Load(IDS_DONT_ASK_AGAIN)});
     if (result.answer != MessageAnswer::First) return;
     if (result.dontAskAgain) reg_.SetSetting(setting::kNoShowDeletePersonalStation, "Yes");

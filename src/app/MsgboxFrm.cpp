@@ -4,6 +4,7 @@
 
 #include "app/HelpPages.h"
 #include "forms/ControlIds.h"
+#include "forms/DialogRows.h"
 #include "forms/Painter.h"
 #include "forms/WideText.h"
 #include "resources/ids.h"
@@ -38,16 +39,8 @@ const FormDesign& MsgboxFrm::Design() {
        .anchors = kFoot},
       {.id = butMsg, .kind = Kind::PrimaryKey, .at = {196, 202, 104, 28}, .anchors = kFoot},
       {.id = butMsg + 1, .kind = Kind::PushKey, .at = {308, 202, 98, 28}, .flags = kHidden, .anchors = kFoot},
-      {.id = butHelp,
-       .kind = Kind::StripKey,
-       .text = IDS_APP_HELP,
-       .at = {348, 12, 28, 22},
-       .icon = Icon::Help},
-      {.id = butCloseIt,
-       .kind = Kind::StripKey,
-       .text = IDS_APP_CLOSE,
-       .at = {380, 12, 28, 22},
-       .icon = Icon::Close},
+      HelpKey(348),
+      CloseKey(380),
   };
   static constexpr FormDesign kDesign = {.name = "MsgboxFrm",
                                          .caption = IDS_APP_TITLE,

@@ -3,6 +3,7 @@
 #include "app/Message.h"
 #include "base/Text.h"
 #include "forms/ControlIds.h"
+#include "forms/DialogRows.h"
 #include "playback/PlayLink.h"
 #include "resources/ids.h"
 
@@ -30,13 +31,9 @@ const FormDesign& frmExtraLink::Design() {
       {.id = txtExtraName, .kind = Kind::Edit, .at = {126, 114, 280, 28}},
       {.kind = Kind::Label, .text = IDS_DLG_EXTRA_HELP, .at = {126, 148, 280, 24}, .ink = Ink::Muted},
       {.kind = Kind::Groove, .at = {14, 190, 392, 2}},
-      {.id = butOKIt, .kind = Kind::PrimaryKey, .text = IDS_DLG_OK, .at = {214, 201, 92, 30}},
-      {.id = butCancelIt, .kind = Kind::PushKey, .text = IDS_DLG_CANCEL, .at = {314, 201, 92, 30}},
-      {.id = butCloseIt,
-       .kind = Kind::StripKey,
-       .text = IDS_DLG_CLOSE,
-       .at = {380, 12, 28, 22},
-       .icon = Icon::Close},
+      OkKey({214, 201, 92, 30}),
+      CancelKey({314, 201, 92, 30}),
+      CloseKey(380),
   };
   static constexpr FormDesign kDesign = {.name = "frmExtraLink",
                                          .caption = IDS_DLG_EXTRA_TITLE,
@@ -68,7 +65,7 @@ void frmExtraLink::Complain(const char* key, int text) {
   messages_.Ask({.key = key,
                  .caption = LoadText(IDS_DLG_EXTRA_TITLE),
                  .text = LoadText(text),
-                 .firstButton = LoadText(IDS_DLG_OK)});
+                 .firstButton = LoadText(IDS_APP_OK)});
 }
 
 void frmExtraLink::butOKIt_Click() {

@@ -3,6 +3,7 @@
 #include "app/HelpPages.h"
 #include "base/Text.h"
 #include "forms/ControlIds.h"
+#include "forms/DialogRows.h"
 #include "resources/ids.h"
 
 namespace sonaro {
@@ -23,22 +24,10 @@ FormDesign frmNewFavorite::DesignOf(const char* name, int title) {
        .ink = Ink::Muted},
       {.id = txtGroupName, .kind = Kind::Edit, .at = {14, 88, 392, 28}},
       {.kind = Kind::Groove, .at = {14, 190, 392, 2}},
-      {.id = butOKIt,
-       .kind = Kind::PrimaryKey,
-       .text = IDS_DLG_OK,
-       .at = {214, 201, 92, 30},
-       .flags = kDisabled},
-      {.id = butCancelIt, .kind = Kind::PushKey, .text = IDS_DLG_CANCEL, .at = {314, 201, 92, 30}},
-      {.id = butHelp,
-       .kind = Kind::StripKey,
-       .text = IDS_DLG_HELP,
-       .at = {348, 12, 28, 22},
-       .icon = Icon::Help},
-      {.id = butCloseIt,
-       .kind = Kind::StripKey,
-       .text = IDS_DLG_CLOSE,
-       .at = {380, 12, 28, 22},
-       .icon = Icon::Close},
+      OkKey({214, 201, 92, 30}, kDisabled),
+      CancelKey({314, 201, 92, 30}),
+      HelpKey(348),
+      CloseKey(380),
   };
   return {.name = name,
           .caption = title,

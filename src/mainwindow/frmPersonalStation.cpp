@@ -4,6 +4,7 @@
 #include "app/Message.h"
 #include "base/Text.h"
 #include "forms/ControlIds.h"
+#include "forms/DialogRows.h"
 #include "playback/PlayLink.h"
 #include "resources/ids.h"
 
@@ -55,18 +56,10 @@ const FormDesign& frmPersonalStation::Design() {
        .ink = Ink::Muted},
       {.id = txtStationNote, .kind = Kind::Edit, .at = {120, 264, 426, 28}},
       {.kind = Kind::Groove, .at = {14, 368, 532, 2}},
-      {.id = butOKIt, .kind = Kind::PrimaryKey, .text = IDS_DLG_OK, .at = {346, 382, 96, 30}},
-      {.id = butCancelIt, .kind = Kind::PushKey, .text = IDS_DLG_CANCEL, .at = {450, 382, 96, 30}},
-      {.id = butHelp,
-       .kind = Kind::StripKey,
-       .text = IDS_DLG_HELP,
-       .at = {488, 12, 28, 22},
-       .icon = Icon::Help},
-      {.id = butCloseIt,
-       .kind = Kind::StripKey,
-       .text = IDS_DLG_CLOSE,
-       .at = {520, 12, 28, 22},
-       .icon = Icon::Close},
+      OkKey({346, 382, 96, 30}),
+      CancelKey({450, 382, 96, 30}),
+      HelpKey(488),
+      CloseKey(520),
   };
   static constexpr FormDesign kDesign = {.name = "frmPersonalStation",
                                          .caption = IDS_DLG_OWN_TITLE,
@@ -102,7 +95,7 @@ void frmPersonalStation::Complain(const char* key, int text) {
   messages_.Ask({.key = key,
                  .caption = LoadText(IDS_DLG_OWN_TITLE),
                  .text = LoadText(text),
-                 .firstButton = LoadText(IDS_DLG_OK)});
+                 .firstButton = LoadText(IDS_APP_OK)});
 }
 
 void frmPersonalStation::butOKIt_Click() {

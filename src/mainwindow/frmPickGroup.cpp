@@ -1,6 +1,7 @@
 #include "mainwindow/frmPickGroup.h"
 
 #include "forms/ControlIds.h"
+#include "forms/DialogRows.h"
 #include "resources/ids.h"
 
 namespace sonaro {
@@ -25,13 +26,9 @@ const FormDesign& frmPickGroup::Design() {
        .ink = Ink::Muted},
       {.id = cmbGroup, .kind = Kind::Combo, .text = IDS_DLG_PICK_GROUP, .at = {110, 84, 296, 28}},
       {.kind = Kind::Groove, .at = {14, 190, 392, 2}},
-      {.id = butOKIt, .kind = Kind::PrimaryKey, .text = IDS_DLG_OK, .at = {214, 201, 92, 30}},
-      {.id = butCancelIt, .kind = Kind::PushKey, .text = IDS_DLG_CANCEL, .at = {314, 201, 92, 30}},
-      {.id = butCloseIt,
-       .kind = Kind::StripKey,
-       .text = IDS_DLG_CLOSE,
-       .at = {380, 12, 28, 22},
-       .icon = Icon::Close},
+      OkKey({214, 201, 92, 30}),
+      CancelKey({314, 201, 92, 30}),
+      CloseKey(380),
   };
   static constexpr FormDesign kDesign = {.name = "frmPickGroup",
                                          .caption = IDS_DLG_PICK_TITLE,

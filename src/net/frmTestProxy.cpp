@@ -4,6 +4,7 @@
 #include "app/SettingNames.h"
 #include "base/Text.h"
 #include "forms/ControlIds.h"
+#include "forms/DialogRows.h"
 #include "net/ServiceRequest.h"
 #include "net/ServiceUrlTable.h"
 #include "resources/ids.h"
@@ -41,12 +42,8 @@ const FormDesign& frmTestProxy::Design() {
        .flags = kWrap,
        .ink = Ink::Muted},
       {.kind = Kind::Groove, .at = {14, 190, 392, 2}},
-      {.id = butOKIt, .kind = Kind::PrimaryKey, .text = IDS_APP_OK, .at = {308, 202, 98, 28}},
-      {.id = butCloseIt,
-       .kind = Kind::StripKey,
-       .text = IDS_APP_CLOSE,
-       .at = {380, 12, 28, 22},
-       .icon = Icon::Close},
+      OkKey({308, 202, 98, 28}),
+      CloseKey(380),
   };
   static constexpr FormDesign kDesign = {.name = "frmTestProxy",
                                          .caption = IDS_NET_TEST_CAPTION,

@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "forms/ControlIds.h"
+#include "forms/DialogRows.h"
 #include "forms/Painter.h"
 #include "forms/ProgressScale.h"
 #include "forms/WideText.h"
@@ -42,16 +43,8 @@ const FormDesign& frmUpdateDialog::Design() {
        .text = IDS_NET_CANCEL,
        .at = {308, 202, 98, 28},
        .anchors = kFoot},
-      {.id = butHelp,
-       .kind = Kind::StripKey,
-       .text = IDS_APP_HELP,
-       .at = {348, 12, 28, 22},
-       .icon = Icon::Help},
-      {.id = butCloseIt,
-       .kind = Kind::StripKey,
-       .text = IDS_APP_CLOSE,
-       .at = {380, 12, 28, 22},
-       .icon = Icon::Close},
+      HelpKey(348),
+      CloseKey(380),
   };
   static constexpr FormDesign kDesign = {.name = "MsgboxFrm",
                                          .caption = IDS_NET_UPDATE_TITLE,

@@ -3,6 +3,7 @@
 #include <string>
 
 #include "forms/ControlIds.h"
+#include "forms/DialogRows.h"
 #include "playback/StationScan.h"
 #include "resources/ids.h"
 
@@ -14,13 +15,9 @@ const FormDesign& frmScanTime::Design() {
       {.kind = Kind::Label, .text = IDS_SCAN_W_TIME_LABEL, .at = {14, 60, 200, 28}, .type = Type::BodyStrong},
       {.id = cmbScanTime, .kind = Kind::Combo, .text = IDS_SCAN_W_TIME_LABEL, .at = {220, 60, 100, 28}},
       {.kind = Kind::Groove, .at = {14, 190, 392, 2}},
-      {.id = butOKIt, .kind = Kind::PrimaryKey, .text = IDS_APP_OK, .at = {214, 201, 92, 30}},
-      {.id = butCancelIt, .kind = Kind::PushKey, .text = IDS_SCHED_CANCEL, .at = {314, 201, 92, 30}},
-      {.id = butCloseIt,
-       .kind = Kind::StripKey,
-       .text = IDS_APP_CLOSE,
-       .at = {380, 12, 28, 22},
-       .icon = Icon::Close},
+      OkKey({214, 201, 92, 30}),
+      CancelKey({314, 201, 92, 30}),
+      CloseKey(380),
   };
   static constexpr FormDesign kDesign = {.name = "frmScanTime",
                                          .caption = IDS_SCAN_W_TIME_TITLE,

@@ -1,5 +1,6 @@
 // The controls of frmScan in both layouts, and what they call.
 #include "forms/ControlIds.h"
+#include "forms/DialogRows.h"
 #include "playback/frmScan.h"
 #include "resources/ids.h"
 
@@ -101,16 +102,8 @@ const FormDesign& frmScan::Design() {
        .icon = Icon::Skip},
       {.id = butFullIt, .kind = Kind::PushKey, .text = IDS_SCAN_W_COMPACT, .at = {482, 432, 120, 30}},
       {.id = butDoneScanIt, .kind = Kind::PushKey, .text = IDS_SCAN_W_CLOSE, .at = {610, 432, 96, 30}},
-      {.id = butHelp,
-       .kind = Kind::StripKey,
-       .text = IDS_SCAN_W_HELP,
-       .at = {648, 12, 28, 22},
-       .icon = Icon::Help},
-      {.id = butCloseIt,
-       .kind = Kind::StripKey,
-       .text = IDS_APP_CLOSE,
-       .at = {680, 12, 28, 22},
-       .icon = Icon::Close},
+      HelpKey(648),
+      CloseKey(680),
       // Its text is set by whoever adds stations; it is never shown.
       {.id = lblStationsAdd, .kind = Kind::Label, .at = {14, 10, 10, 10}, .flags = kHidden},
   };

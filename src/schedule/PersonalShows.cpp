@@ -78,7 +78,7 @@ void PersonalShows::Tell(const char* key, const std::string& text) {
   messages_.Ask({.key = key,
                  .caption = strings_.Load(IDS_SCHED_SHOWS_CAPTION),
                  .text = text,
-                 .firstButton = strings_.Load(IDS_SCHED_OK)});
+                 .firstButton = strings_.Load(IDS_APP_OK)});
 }
 
 }  // namespace sonaro

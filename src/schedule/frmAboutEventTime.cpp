@@ -3,6 +3,7 @@
 #include "app/HelpPages.h"
 #include "app/Strings.h"
 #include "forms/ControlIds.h"
+#include "forms/DialogRows.h"
 #include "platform/Clock.h"
 #include "platform/Shell.h"
 #include "resources/ids.h"
@@ -51,17 +52,9 @@ const FormDesign& frmAboutEventTime::Design() {
        .flags = kWrap,
        .type = Type::Small},
       {.id = lblChangeIt, .kind = Kind::PushKey, .text = IDS_SCHED_TIME_CHANGE, .at = {148, 202, 150, 28}},
-      {.id = lblCloseIt, .kind = Kind::PrimaryKey, .text = IDS_SCHED_OK, .at = {308, 202, 98, 28}},
-      {.id = butHelp,
-       .kind = Kind::StripKey,
-       .text = IDS_SCHED_NOTIFY_HELP,
-       .at = {348, 12, 28, 22},
-       .icon = Icon::Help},
-      {.id = butCloseIt,
-       .kind = Kind::StripKey,
-       .text = IDS_SCHED_NOTIFY_CLOSE_TIP,
-       .at = {380, 12, 28, 22},
-       .icon = Icon::Close},
+      {.id = lblCloseIt, .kind = Kind::PrimaryKey, .text = IDS_APP_OK, .at = {308, 202, 98, 28}},
+      HelpKey(348),
+      CloseKey(380),
   };
   static constexpr FormDesign kDesign = {.name = "frmAboutEventTime",
                                          .caption = IDS_SCHED_TIME_TITLE,

@@ -2,6 +2,7 @@
 
 #include "app/HelpPages.h"
 #include "forms/ControlIds.h"
+#include "forms/DialogRows.h"
 #include "resources/ids.h"
 
 namespace sonaro {
@@ -31,18 +32,10 @@ const FormDesign& frmDateFinder::Design() {
        .flags = kOnGlass,
        .type = Type::BodyStrong},
       {.id = butToday, .kind = Kind::PushKey, .text = IDS_SCHED_DATE_TODAY, .at = {252, 166, 154, 28}},
-      {.id = butOKIt, .kind = Kind::PrimaryKey, .text = IDS_SCHED_OK, .at = {252, 200, 74, 28}},
-      {.id = butCancelIt, .kind = Kind::PushKey, .text = IDS_SCHED_CANCEL, .at = {332, 200, 74, 28}},
-      {.id = butHelp,
-       .kind = Kind::StripKey,
-       .text = IDS_SCHED_NOTIFY_HELP,
-       .at = {348, 12, 28, 22},
-       .icon = Icon::Help},
-      {.id = butCloseIt,
-       .kind = Kind::StripKey,
-       .text = IDS_SCHED_NOTIFY_CLOSE_TIP,
-       .at = {380, 12, 28, 22},
-       .icon = Icon::Close},
+      OkKey({252, 200, 74, 28}),
+      CancelKey({332, 200, 74, 28}),
+      HelpKey(348),
+      CloseKey(380),
   };
   static constexpr FormDesign kDesign = {.name = "frmDateFinder",
                                          .caption = IDS_SCHED_DATE_TITLE,

@@ -127,7 +127,7 @@ void frmSched::butExportIt_Click() {
   services_.messages.Ask({.key = "CalendarNotWritten",
                           .caption = LoadText(IDS_SCHED_LIST_TITLE),
                           .text = FillIn(LoadText(IDS_SCHED_EXPORT_FAILED), {path}),
-                          .firstButton = LoadText(IDS_SCHED_OK)});
+                          .firstButton = LoadText(IDS_APP_OK)});
 }
 
 void frmSched::butHelp_Click() { services_.help.OpenHelpPage("9019.html"); }

@@ -145,7 +145,7 @@ bool frmSchedChange::Complain(DraftFault fault) {
     services_.messages.Ask({.key = complaint.key,
                             .caption = LoadText(IDS_SCHED_CHANGE_MESSAGE_CAPTION),
                             .text = LoadText(complaint.text),
-                            .firstButton = LoadText(IDS_SCHED_OK)});
+                            .firstButton = LoadText(IDS_APP_OK)});
     Focus(complaint.control);
     return true;
   }

@@ -1,5 +1,6 @@
 // The controls of frmSchedChange and what they call.
 #include "forms/ControlIds.h"
+#include "forms/DialogRows.h"
 #include "resources/ids.h"
 #include "schedule/frmSchedChange.h"
 
@@ -103,18 +104,10 @@ const FormDesign& frmSchedChange::Design() {
        .flags = kOnGlass,
        .ink = Ink::GlassMuted},
       {.id = chkWebSite, .kind = Kind::CheckBox, .text = IDS_SCHED_CHANGE_WEB, .at = {16, 384, 290, 26}},
-      {.id = butOKIt, .kind = Kind::PrimaryKey, .text = IDS_SCHED_OK, .at = {346, 382, 96, 30}},
-      {.id = butCancelIt, .kind = Kind::PushKey, .text = IDS_SCHED_CANCEL, .at = {450, 382, 96, 30}},
-      {.id = butHelp,
-       .kind = Kind::StripKey,
-       .text = IDS_SCHED_NOTIFY_HELP,
-       .at = {488, 12, 28, 22},
-       .icon = Icon::Help},
-      {.id = butCloseIt,
-       .kind = Kind::StripKey,
-       .text = IDS_SCHED_NOTIFY_CLOSE_TIP,
-       .at = {520, 12, 28, 22},
-       .icon = Icon::Close},
+      OkKey({346, 382, 96, 30}),
+      CancelKey({450, 382, 96, 30}),
+      HelpKey(488),
+      CloseKey(520),
   };
   static constexpr FormDesign kDesign = {.name = "frmSchedChange",
                                          .caption = IDS_SCHED_CHANGE_TITLE,

@@ -1,5 +1,6 @@
 // The controls of frmSched and what they call.
 #include "forms/ControlIds.h"
+#include "forms/DialogRows.h"
 #include "resources/ids.h"
 #include "schedule/frmSched.h"
 
@@ -51,16 +52,8 @@ const FormDesign& frmSched::Design() {
       {.id = butExportIt, .kind = Kind::PushKey, .text = IDS_SCHED_EXPORT, .at = {326, 412, 96, 30}},
       {.id = butAboutTimeIt, .kind = Kind::PushKey, .text = IDS_SCHED_ABOUT_TIMES, .at = {458, 412, 120, 30}},
       {.id = butCloseIt, .kind = Kind::PushKey, .text = IDS_SCHED_NOTIFY_CLOSE, .at = {590, 412, 96, 30}},
-      {.id = butHelp,
-       .kind = Kind::StripKey,
-       .text = IDS_SCHED_NOTIFY_HELP,
-       .at = {628, 12, 28, 22},
-       .icon = Icon::Help},
-      {.id = butCancelIt,
-       .kind = Kind::StripKey,
-       .text = IDS_SCHED_NOTIFY_CLOSE_TIP,
-       .at = {660, 12, 28, 22},
-       .icon = Icon::Close},
+      HelpKey(628),
+      CloseKey(660, butCancelIt),
   };
   static constexpr KeyRow kKeys[] = {
       {.key = VK_DELETE, .command = butDeleteIt, .onlyIn = lstSched},

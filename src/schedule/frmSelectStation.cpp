@@ -3,6 +3,7 @@
 #include "app/HelpPages.h"
 #include "base/Text.h"
 #include "forms/ControlIds.h"
+#include "forms/DialogRows.h"
 #include "resources/ids.h"
 
 namespace sonaro {
@@ -43,22 +44,10 @@ const FormDesign& frmSelectStation::Design() {
        .at = {434, 124, 112, 24},
        .flags = kNoTabStop},
       {.id = lstResult, .kind = Kind::ListView, .text = IDS_SCHED_PICK_TITLE, .at = {14, 148, 532, 220}},
-      {.id = butOKIt,
-       .kind = Kind::PrimaryKey,
-       .text = IDS_SCHED_OK,
-       .at = {346, 382, 96, 30},
-       .flags = kDisabled},
-      {.id = butCancelIt, .kind = Kind::PushKey, .text = IDS_SCHED_CANCEL, .at = {450, 382, 96, 30}},
-      {.id = butHelp,
-       .kind = Kind::StripKey,
-       .text = IDS_SCHED_NOTIFY_HELP,
-       .at = {488, 12, 28, 22},
-       .icon = Icon::Help},
-      {.id = butCloseIt,
-       .kind = Kind::StripKey,
-       .text = IDS_SCHED_NOTIFY_CLOSE_TIP,
-       .at = {520, 12, 28, 22},
-       .icon = Icon::Close},
+      OkKey({346, 382, 96, 30}, kDisabled),
+      CancelKey({450, 382, 96, 30}),
+      HelpKey(488),
+      CloseKey(520),
   };
   static constexpr FormDesign kDesign = {.name = "frmSelectStation",
                                          .caption = IDS_SCHED_PICK_TITLE,

@@ -1,4 +1,5 @@
 #include "forms/ControlIds.h"
+#include "forms/DialogRows.h"
 #include "resources/ids.h"
 #include "tray/frmOptions.h"
 
@@ -88,18 +89,10 @@ const FormDesign& frmOptions::Design() {
        .at = {286, 386, 108, 28}},
 
       Key(butAboutTimeIt, IDS_OPTIONS_ABOUT_TIME, {kHeadings, 422, 124, 30}, Icon::Sched),
-      {.id = butOKIt, .kind = Kind::PrimaryKey, .text = IDS_APP_OK, .at = {386, 422, 96, 30}},
-      {.id = butCancelIt, .kind = Kind::PushKey, .text = IDS_OPTIONS_CANCEL, .at = {490, 422, 96, 30}},
-      {.id = butHelp,
-       .kind = Kind::StripKey,
-       .text = IDS_APP_HELP,
-       .at = {528, 12, 28, 22},
-       .icon = Icon::Help},
-      {.id = butCloseIt,
-       .kind = Kind::StripKey,
-       .text = IDS_APP_CLOSE,
-       .at = {560, 12, 28, 22},
-       .icon = Icon::Close},
+      OkKey({386, 422, 96, 30}),
+      CancelKey({490, 422, 96, 30}),
+      HelpKey(528),
+      CloseKey(560),
   };
   static constexpr FormDesign kDesign = {.name = "frmOptions",
                                          .caption = IDS_OPTIONS_TITLE,

@@ -6,6 +6,7 @@
 #include "app/SettingNames.h"
 #include "app/Strings.h"
 #include "forms/ControlIds.h"
+#include "forms/DialogRows.h"
 #include "forms/FileDialog.h"
 #include "playback/PlayerSetup.h"
 #include "resources/ids.h"
@@ -130,16 +131,8 @@ const FormDesign& frmStartUpInfo::Design() {
        .pane = kPlayerPane},
       {.id = butOKIt, .kind = Kind::PrimaryKey, .text = IDS_NOPLAYER_OK, .at = {380, 352, 96, 30}},
       {.id = butDoneIt, .kind = Kind::PushKey, .text = IDS_NOPLAYER_CLOSE, .at = {484, 352, 102, 30}},
-      {.id = butHelp,
-       .kind = Kind::StripKey,
-       .text = IDS_APP_HELP,
-       .at = {528, 12, 28, 22},
-       .icon = Icon::Help},
-      {.id = butCloseIt,
-       .kind = Kind::StripKey,
-       .text = IDS_APP_CLOSE,
-       .at = {560, 12, 28, 22},
-       .icon = Icon::Close},
+      HelpKey(528),
+      CloseKey(560),
   };
   static constexpr FormDesign kDesign = {.name = "frmStartUpInfo",
                                          .caption = IDS_STARTUP_TITLE,

@@ -1,0 +1,29 @@
+// The keys that nearly every dialog has, as rows of its control table.
+#pragma once
+
+#include "forms/ControlIds.h"
+#include "forms/FormDesign.h"
+#include "resources/ids.h"
+
+namespace sonaro {
+
+constexpr ControlRow OkKey(DesignRect at, unsigned flags = kNone) {
+  return {.id = butOKIt, .kind = Kind::PrimaryKey, .text = IDS_APP_OK, .at = at, .flags = flags};
+}
+
+constexpr ControlRow CancelKey(DesignRect at) {
+  return {.id = butCancelIt, .kind = Kind::PushKey, .text = IDS_APP_CANCEL, .at = at};
+}
+
+// The keys in the title strip, whose left edge is at `x`.
+constexpr ControlRow HelpKey(int x) {
+  return {
+      .id = butHelp, .kind = Kind::StripKey, .text = IDS_APP_HELP, .at = {x, 12, 28, 22}, .icon = Icon::Help};
+}
+
+constexpr ControlRow CloseKey(int x, int id = butCloseIt) {
+  return {
+      .id = id, .kind = Kind::StripKey, .text = IDS_APP_CLOSE, .at = {x, 12, 28, 22}, .icon = Icon::Close};
+}
+
+}  // namespace sonaro
