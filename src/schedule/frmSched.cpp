@@ -61,6 +61,7 @@ void frmSched::ShowKeys() {
   const std::string key = SelectedKey();
   Enable(butChangeIt, SlotOfKey(key) >= 0);
   Enable(butDeleteIt, !key.empty());
+  Enable(butExportIt, scheduled_.RowCount() > 0);
 }
 
 std::string frmSched::SelectedKey() {
@@ -112,6 +113,7 @@ void frmSched::butDeleteIt_Click() {
     services_.changed();
   }
   FillLists();
+  Focus(showsUsed_ ? lstShows : lstSched);  // the key may be out of use now
 }
 
 void frmSched::butAboutTimeIt_Click() {

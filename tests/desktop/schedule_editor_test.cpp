@@ -68,6 +68,7 @@ TEST_F(HandClockTest, TheListAddsChangesAndDeletes) {
   Click(Control(list, butDeleteIt));
   EXPECT_TRUE(WaitUntil([&] { return RowCount(rows) == 0; }));
   EXPECT_EQ(ReadFile("Sched.snr"), "");
+  EXPECT_TRUE(WaitUntil([&] { return FocusOf(list) == rows; }));
   TurnTo(11, 59);
   TurnTo(12, 0);
   EXPECT_TRUE(Notices().empty());
