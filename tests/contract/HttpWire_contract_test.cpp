@@ -142,17 +142,6 @@ TEST_F(HttpOnTheWire, AConnectionThatBreaksIsAFailure) {
   EXPECT_TRUE(heard[0] == "failed Lost" || heard[0] == "failed CutShort") << heard[0];
 }
 
-TEST_F(HttpOnTheWire, AnEndlessBodyEndsAtTheLimit) {
-  const std::string piece(1024 * 1024, 'x');
-  EXPECT_EQ(Ask([&](Conversation& talk) {
-              talk.Send("HTTP/1.0 200 OK\r\n\r\n");
-              while (talk.Send(piece)) {
-              }
-            }),
-            Lines{"failed BodyTooLarge"});
-  EXPECT_LE(listener_.bytes, 256u * 1024 * 1024);
-}
-
 TEST_F(HttpOnTheWire, WhereNobodyAnswersIsSaid) {
   EXPECT_EQ(Ask("127.0.0.1", UnusedPort(), "GET /"), Lines{"failed Refused"});
   EXPECT_EQ(Ask("no such host.invalid", 80, "GET /"), Lines{"failed BadRequest"});

@@ -47,8 +47,8 @@ class UpdateKillTest : public UpdateTest {
 };
 
 TEST_F(UpdateKillTest, TheNextStartFindsTheOldDirectoryOrTheNewOne) {
-  constexpr int kRounds = 6;
-  constexpr int kLatest = 1200;  // milliseconds; the update is over then
+  constexpr int kRounds = 4;
+  constexpr int kLatest = 1000;  // milliseconds; the update is over then
   std::mt19937 random(20261123);
   std::string name = kOldName;
   for (int round = 1; round <= kRounds; ++round) {

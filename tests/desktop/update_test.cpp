@@ -54,7 +54,6 @@ TEST_F(UpdateTest, NothingNewIsSaid) {
   ASSERT_NE(dialog, nullptr);
   EXPECT_TRUE(Says(dialog, "Your current Sonaro Station List is up to date"));
   EXPECT_FALSE(IsShown(Control(dialog, butMsg)));
-  SaveShot("nothing-new");
   PressKey(dialog, VK_ESCAPE);
   EXPECT_TRUE(WaitUntil([&] { return !IsShown(dialog); }));
   EXPECT_EQ(server_.Requests().size(), 1u);
@@ -75,7 +74,6 @@ TEST_F(UpdateTest, FromTheTrayARefusedUpdateIsTriedAgain) {
       Says(dialog, "Can't Connect to the Update Server. Make sure you are connected to the Internet"));
   EXPECT_EQ(TextOf(Control(dialog, butMsg)), "&Retry");
   EXPECT_EQ(TextOf(Control(dialog, butMsg + 1)), "Close");
-  SaveShot("refused");
   ExpectTheOldDirectory();
 
   LoopbackServer late(port);
@@ -143,7 +141,6 @@ TEST_F(UpdateTest, AnUpdateThatDidNotComeThroughChangesNothing) {
                      "Internet and try again."));
     EXPECT_TRUE(Says(dialog, each.reason)) << TextOf(Control(dialog, lblStuff));
     EXPECT_TRUE(IsShown(Control(dialog, butMsg)));
-    SaveShot("not-all");
     Click(Control(dialog, butMsg + 1));
     ASSERT_TRUE(WaitUntil([&] { return !IsShown(dialog); }));
   }
