@@ -62,6 +62,7 @@ SearchPanel::Outcome SearchPanel::FindStation(std::string_view text, std::size_t
 
 void SearchPanel::FindOnTheWeb(const std::string& text, const SearchKind& kind, bool allWords) {
   last_ = LastKind::Web;
+  webCaption_ = kind.caption;
   webWords_ = text;
   webAddress_ = ReplaceFirst(kind.urlTemplate, kWordMark, UrlEncodeQuery(text));
   webAddress_ = ReplaceFirst(webAddress_, kOptionMark, allWords ? "all" : "any");

@@ -54,7 +54,8 @@ class SearchPanel {
   Outcome FindStation(std::string_view text, std::size_t kind, bool allWords);
 
   LastKind LastSearch() const { return last_; }
-  // Of the last web search: its words and the address that they made.
+  // Of the last web search: its kind's caption, its words and the address that they made.
+  const std::string& WebCaption() const { return webCaption_; }
   const std::string& WebWords() const { return webWords_; }
   const std::string& WebAddress() const { return webAddress_; }
 
@@ -68,6 +69,7 @@ class SearchPanel {
   TellTray tellTray_;
   std::vector<SearchKind> kinds_;
   LastKind last_ = LastKind::None;
+  std::string webCaption_;
   std::string webWords_;
   std::string webAddress_;
 };

@@ -118,7 +118,11 @@ void SonaroFrm::ShowEverything() {
     SetText(lblListing, LoadText(IDS_COMING_EVENTS));
     SetText(lblCount, "");
   }
-  if (state.middle == Middle::WebSearch) search_.ShowWebSearch();
+  if (state.middle == Middle::WebSearch) {
+    search_.ShowWebSearch();
+    SetText(lblListing, models_.search.WebCaption());
+    SetText(lblCount, "");
+  }
   ShowSelection();
   // What had the focus may have gone with its pane; the focus is then wherever the system put it.
   if (focused != 0 && FocusedControl() != focused) {

@@ -1,38 +1,76 @@
+#include <fstream>
 #include <ostream>
 
+#include "base/Text.h"
 #include "commands/Commands.h"
 #include "commands/LocalFolder.h"
 #include "directory/StatList.h"
 
 namespace sonaro {
+namespace {
 
-int RunSearch(Arguments arguments, Console& console) {
-  bool allWords = true;
-  std::string folderName;
+struct SearchOrder {
+  std::string folder;
+  std::string queries;  // a file of searches; "" = one search for `words`
   std::string words;
-  for (const std::string& argument : arguments) {
-    if (argument == "--any" && words.empty()) {
-      allWords = false;
-    } else if (folderName.empty()) {
-      folderName = argument;
+  bool allWords = true;
+};
+
+SearchOrder ReadOrder(Arguments arguments) {
+  SearchOrder order;
+  for (std::size_t i = 0; i < arguments.size(); ++i) {
+    const std::string& argument = arguments[i];
+    if (argument == "--any" && order.words.empty()) {
+      order.allWords = false;
+    } else if (argument == "--queries" && order.words.empty() && i + 1 < arguments.size()) {
+      order.queries = arguments[++i];
+    } else if (order.folder.empty()) {
+      order.folder = argument;
     } else {
-      words += (words.empty() ? "" : " ") + argument;
+      order.words += (order.words.empty() ? "" : " ") + argument;
     }
   }
-  if (folderName.empty() || words.empty()) {
+  return order;
+}
+
+std::string Joined(const std::vector<std::int32_t>& ids, char separator) {
+  std::string text;
+  for (const std::int32_t id : ids) text += std::to_string(id) + separator;
+  return text;
+}
+
+// Each line is "all" or "any", a TAB and the words; for each, a line of identifiers.
+bool RunQueries(StatList& stations, const std::string& path, std::ostream& out) {
+  std::ifstream file(path, std::ios::binary);
+  for (std::string line; std::getline(file, line);) {
+    std::string_view words = line;
+    const bool allWords = TakeUntil(words, '\t') != "any";
+    out << Joined(stations.SearchStationIds(words, allWords), ' ') << '\n';
+  }
+  return file.eof();
+}
+
+}  // namespace
+
+int RunSearch(Arguments arguments, Console& console) {
+  const SearchOrder order = ReadOrder(arguments);
+  if (order.folder.empty() || (order.words.empty() && order.queries.empty())) {
     console.err << "search needs a data folder and a word; see sonaro-directory --help.\n";
     return kWrongUse;
   }
-  LocalFolder folder(folderName);
+  LocalFolder folder(order.folder);
   StatList stations(folder.Data());
-  const std::vector<std::int32_t> found = stations.SearchStationIds(words, allWords);
+  const std::vector<std::int32_t> found = stations.SearchStationIds(order.words, order.allWords);
   if (stations.LastStatus() == TableStatus::NoTable || stations.LastStatus() == TableStatus::Damaged) {
-    console.err << "There is no readable station table in \"" << folderName << "\".\n";
+    console.err << "There is no readable station table in \"" << order.folder << "\".\n";
     return kFailed;
   }
-  std::string text;
-  for (const std::int32_t id : found) text += std::to_string(id) + '\n';
-  console.out << text;
+  if (order.queries.empty()) {
+    console.out << Joined(found, '\n');
+  } else if (!RunQueries(stations, order.queries, console.out)) {
+    console.err << "The searches in \"" << order.queries << "\" could not be read.\n";
+    return kFailed;
+  }
   return kDone;
 }
 

@@ -22,6 +22,7 @@ constexpr std::string_view kHelp =
   sonaro-directory show DIR ID
       Shows one station, links in plain text.
   sonaro-directory search DIR [--any] WORD...
+  sonaro-directory search DIR --queries FILE
       Lists the identifiers of stations that have all (any) of the words.
   sonaro-directory check DIR
       Verifies every file of a data folder and says what is wrong.
