@@ -107,7 +107,7 @@ TEST_F(PlainSocketTest, WhatBreaksOffLeavesEverythingAsItWas) {
        {Redirect(), Bytes("HTTP/1.0 500 Oops\r\n\r\n" + update)},
        Kind::NotComplete},
   };
-  Installed().http.silence = std::chrono::milliseconds(150);
+  Installed().http.silence = std::chrono::milliseconds(1000);
   for (const auto& one : kCases) {
     SCOPED_TRACE(one.what);
     PlainServer server(one.answers);

@@ -16,7 +16,7 @@ class SocketHttp : public HttpControlMaker {
  public:
   // What stands in for port 80, which a test may not open.
   std::uint16_t port80 = 0;
-  std::chrono::milliseconds silence{400};
+  std::chrono::milliseconds silence{5000};
   int transfers = 0;
 
   // Performs the transfer that waits, with all its events; false when none does.
