@@ -76,7 +76,8 @@ def main():
         hits = functools.reduce(combine, map(stations_with, words))
         return [stations[i][0] for i, bit in enumerate(reversed(f'{hits:b}')) if bit == '1']
 
-    words = [random_word(rng, stations) for _ in range(WORDS)]
+    foreign_names = [(number, fields[:1]) for number, fields in stations if not fields[0].isascii()]
+    words = [random_word(rng, foreign_names if i % 4 == 0 else stations) for i in range(WORDS)]
     foreign = [word for word in words if not word.isascii()]
     searches = [random_search(rng, words, foreign) for _ in range(SEARCHES)]
     with tempfile.TemporaryDirectory() as scratch:
