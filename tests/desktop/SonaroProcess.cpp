@@ -10,10 +10,12 @@ SonaroProcess::SonaroProcess(const std::string& program, const std::string& argu
   STARTUPINFOA startup{};
   startup.cb = sizeof(startup);
   PROCESS_INFORMATION process{};
-  if (!CreateProcessA(program.c_str(), commandLine.data(), nullptr, nullptr, FALSE, 0, nullptr, nullptr,
-                      &startup, &process)) {
-    return;
-  }
+  // On a busy machine Wine may give a new process up before it has answered; the next try succeeds.
+  const bool started = WaitUntil([&] {
+    return CreateProcessA(program.c_str(), commandLine.data(), nullptr, nullptr, FALSE, 0, nullptr, nullptr,
+                          &startup, &process) != FALSE;
+  });
+  if (!started) return;
   CloseHandle(process.hThread);
   process_ = process.hProcess;
   id_ = process.dwProcessId;
