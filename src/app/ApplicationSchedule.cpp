@@ -75,7 +75,14 @@ ScheduleServices ApplicationSchedule::MakeServices() {
           needs_.state.clockStyle,
           needs_.state.shortDatePattern,
           [this](const std::string& key) { return needs_.source.WebSiteOf(StationKey::FromRowKey(key)); },
+          [this](std::string_view show) { return NextBroadcast(show); },
           [this] { Changed(); }};
+}
+
+std::optional<DateTime> ApplicationSchedule::NextBroadcast(std::string_view show) const {
+  Clock& clock = needs_.platform.clock;
+  const std::optional<DateTime> gmt = diary_.Next(show, clock.GmtNow());
+  return gmt ? std::optional(AddSeconds(*gmt, GetZoneOffset(clock))) : std::nullopt;
 }
 
 NotifyActions ApplicationSchedule::MakeNotifyActions() {

@@ -90,6 +90,7 @@ class ApplicationSchedule {
  private:
   ScheduleServices MakeServices();
   NotifyActions MakeNotifyActions();
+  std::optional<DateTime> NextBroadcast(std::string_view show) const;
   std::vector<PickGroup> Groups() const;
   bool IsNoticed(const EventRecord& event, const DateTime& local) const;
   void Changed();

@@ -1,7 +1,6 @@
 #include "schedule/EventDiary.h"
 
 #include <algorithm>
-#include <optional>
 
 #include "base/Text.h"
 #include "directory/EvList.h"
@@ -39,12 +38,22 @@ void EventDiary::Reload() {
   diary_.erase(std::unique(diary_.begin(), diary_.end(), same), diary_.end());
 }
 
+std::vector<BroadcastEvent>::const_iterator EventDiary::After(const DateTime& gmtNow) const {
+  return std::upper_bound(diary_.begin(), diary_.end(), gmtNow,
+                          [](const DateTime& now, const BroadcastEvent& event) { return now < event.gmt; });
+}
+
 std::vector<BroadcastEvent> EventDiary::Coming(const DateTime& gmtNow, std::size_t most) const {
-  const auto first =
-      std::upper_bound(diary_.begin(), diary_.end(), gmtNow,
-                       [](const DateTime& now, const BroadcastEvent& event) { return now < event.gmt; });
+  const auto first = After(gmtNow);
   const auto count = std::min(most, static_cast<std::size_t>(diary_.end() - first));
   return {first, first + static_cast<std::ptrdiff_t>(count)};
+}
+
+std::optional<DateTime> EventDiary::Next(std::string_view name, const DateTime& gmtNow) const {
+  const auto found = std::find_if(After(gmtNow), diary_.end(), [&](const BroadcastEvent& event) {
+    return EqualIgnoringCase(event.record[EventField::Name], name);
+  });
+  return found == diary_.end() ? std::nullopt : std::optional(found->gmt);
 }
 
 std::vector<std::size_t> EventDiary::Starting(const ScheduleStore& store, const DateTime& from,

@@ -2,6 +2,7 @@
 // tables when told to and keeps what it read. Times are GMT; a stamp that is no time leaves its event out.
 #pragma once
 
+#include <optional>
 #include <string_view>
 #include <vector>
 
@@ -28,12 +29,18 @@ class EventDiary {
   // The next events that have not begun, soonest first, at most `most`.
   std::vector<BroadcastEvent> Coming(const DateTime& gmtNow, std::size_t most) const;
 
+  // When the next event of this name begins; letter case is ignored.
+  std::optional<DateTime> Next(std::string_view name, const DateTime& gmtNow) const;
+
   // The slots of live items whose event begins after `from` and not after `to`. A live item waits for the
   // event of its name, on its station when it names one.
   std::vector<std::size_t> Starting(const ScheduleStore& store, const DateTime& from,
                                     const DateTime& to) const;
 
  private:
+  // The first event that has not begun.
+  std::vector<BroadcastEvent>::const_iterator After(const DateTime& gmtNow) const;
+
   EvList& events_;
   std::vector<BroadcastEvent> diary_;  // in order of time
 };

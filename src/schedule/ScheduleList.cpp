@@ -1,9 +1,9 @@
 #include "schedule/ScheduleList.h"
 
 #include <algorithm>
-#include <optional>
 
 #include "base/Numbers.h"
+#include "base/Text.h"
 #include "schedule/PersonalShows.h"
 #include "schedule/ScheduleCalendar.h"
 #include "schedule/ScheduleStore.h"
@@ -25,41 +25,64 @@ std::string ActionAndNote(const ScheduleItem& item) {
   return text;
 }
 
+// Whether one moment comes before another; none comes after all.
+bool Sooner(const std::optional<DateTime>& a, const std::optional<DateTime>& b) {
+  return a.has_value() != b.has_value() ? a.has_value() : a < b;
+}
+
+ScheduleRow RowOf(const ScheduleStore& store, ScheduleCalendar& calendar, std::size_t slot,
+                  const DateTime& now) {
+  const ScheduleItem& item = store.Item(slot);
+  return {.key = "S" + std::to_string(slot) + "\t" + item.action,
+          .at = calendar.Next(slot, now),
+          .cells = {"", SplitItemName(item.name).Shown(), ScheduleShown(item), ActionAndNote(item)}};
+}
+
+void FillNext(std::vector<ScheduleRow>& rows, const DateTime& now, ClockStyle style) {
+  for (ScheduleRow& row : rows) {
+    if (row.at) row.cells[kNextColumn] = NextShown(*row.at, now, style);
+  }
+}
+
 }  // namespace
 
 std::vector<ScheduleRow> ScheduleRows(const ScheduleStore& store, ScheduleCalendar& calendar,
                                       const DateTime& now, ClockStyle style) {
-  struct Timed {
-    std::optional<DateTime> next;
-    ScheduleRow row;
-  };
-  std::vector<Timed> timed;
-  for (std::size_t slot = 0; slot < store.SlotCount(); ++slot) {
-    const ScheduleItem& item = store.Item(slot);
-    if (item.Free()) continue;
-    const std::optional<DateTime> next = calendar.Next(slot, now);
-    timed.push_back(
-        {next,
-         {"S" + std::to_string(slot) + "\t" + item.action, next ? NextShown(*next, now, style) : "",
-          SplitItemName(item.name).Shown(), ScheduleShown(item), ActionAndNote(item)}});
-  }
-  std::stable_sort(timed.begin(), timed.end(), [](const Timed& a, const Timed& b) {
-    if (a.next.has_value() != b.next.has_value()) return a.next.has_value();
-    return a.next < b.next;
-  });
   std::vector<ScheduleRow> rows;
-  rows.reserve(timed.size());
-  for (Timed& each : timed) rows.push_back(std::move(each.row));
+  for (std::size_t slot = 0; slot < store.SlotCount(); ++slot) {
+    if (!store.Item(slot).Free()) rows.push_back(RowOf(store, calendar, slot, now));
+  }
+  FillNext(rows, now, style);
   return rows;
 }
 
-std::vector<ScheduleRow> ShowRows(PersonalShows& shows) {
+std::vector<ScheduleRow> ShowRows(PersonalShows& shows, const ScheduleStore& store,
+                                  ScheduleCalendar& calendar, const NextBroadcast& nextBroadcast,
+                                  const DateTime& now, ClockStyle style) {
   std::vector<ScheduleRow> rows;
   for (const std::string& line : shows.List()) {
-    rows.push_back(
-        {"P" + std::to_string(rows.size()), "", std::string(PersonalShows::DisplayName(line)), "", ""});
+    const std::string_view name = PersonalShows::DisplayName(line);
+    ScheduleRow shown;
+    for (std::size_t slot = 0; slot < store.SlotCount(); ++slot) {
+      if (!EqualIgnoringCase(SplitItemName(store.Item(slot).name).name, name)) continue;
+      ScheduleRow row = RowOf(store, calendar, slot, now);
+      if (shown.key.empty() || Sooner(row.at, shown.at)) shown = std::move(row);
+    }
+    if (!shown.at) shown.at = nextBroadcast(name);
+    shown.key = "P" + std::to_string(rows.size());
+    shown.cells[kNameColumn] = name;
+    rows.push_back(std::move(shown));
   }
+  FillNext(rows, now, style);
   return rows;
+}
+
+void SortRows(std::vector<ScheduleRow>& rows, int column) {
+  const auto index = static_cast<std::size_t>(column);
+  std::stable_sort(rows.begin(), rows.end(), [&](const ScheduleRow& a, const ScheduleRow& b) {
+    return column == kNextColumn ? Sooner(a.at, b.at)
+                                 : CompareIgnoringCase(a.cells[index], b.cells[index]) < 0;
+  });
 }
 
 int SlotOfKey(std::string_view key) { return NumberAfter(key, 'S'); }

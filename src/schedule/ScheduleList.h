@@ -1,6 +1,9 @@
-// The rows of frmSched: every occupied slot of the schedule table, soonest first, and the personal shows.
+// The rows of frmSched: every occupied slot of the schedule table, and the personal shows.
 #pragma once
 
+#include <array>
+#include <functional>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -13,17 +16,27 @@ class PersonalShows;
 class ScheduleCalendar;
 class ScheduleStore;
 
+// The columns of both lists.
+enum ScheduleColumn : int { kNextColumn, kNameColumn, kOftenColumn, kNoteColumn, kScheduleColumns };
+
 struct ScheduleRow {
-  std::string key;   // "S" + slot + TAB + the item's action field; "P" + position for a personal show
-  std::string next;  // "Today 8:00 PM"; "" when it does not come again
-  std::string name;
-  std::string schedule;  // "every Thursday at 8:00 PM"
-  std::string action;    // "Notify me " and the note
+  std::string key;  // "S" + slot + TAB + the item's action field; "P" + position for a personal show
+  std::optional<DateTime> at;  // when it comes next, local time; none when it does not come again
+  // "Today 8:00 PM", "" without `at`; the name; "every Thursday at 8:00 PM"; "Notify me " and the note.
+  std::array<std::string, kScheduleColumns> cells;
 };
 
+// In the order of the slots.
 std::vector<ScheduleRow> ScheduleRows(const ScheduleStore& store, ScheduleCalendar& calendar,
                                       const DateTime& now, ClockStyle style);
-std::vector<ScheduleRow> ShowRows(PersonalShows& shows);
+// A show has the columns of its item in the schedule, the soonest one's if there are several; one without an
+// item that comes again has the local time of its next broadcast.
+using NextBroadcast = std::function<std::optional<DateTime>(std::string_view show)>;
+std::vector<ScheduleRow> ShowRows(PersonalShows& shows, const ScheduleStore& store,
+                                  ScheduleCalendar& calendar, const NextBroadcast& nextBroadcast,
+                                  const DateTime& now, ClockStyle style);
+// By time, what does not come again last, or by the text of another column, letter case ignored.
+void SortRows(std::vector<ScheduleRow>& rows, int column);
 
 // The slot or position that a row's key names; -1 when it names the other kind.
 int SlotOfKey(std::string_view key);

@@ -2,7 +2,9 @@
 #pragma once
 
 #include <functional>
+#include <optional>
 #include <string>
+#include <string_view>
 
 #include "base/Dates.h"
 
@@ -32,6 +34,8 @@ struct ScheduleServices {
   std::string shortDatePattern = {};
   // The web site of a station by its row key; "" when there is none.
   std::function<std::string(const std::string& stationKey)> webSiteOf = {};
+  // When a broadcast event of this name begins next, local time.
+  std::function<std::optional<DateTime>(std::string_view show)> nextBroadcast = {};
   std::function<void()> changed = {};  // the table was changed and saved
 };
 

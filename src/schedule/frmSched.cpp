@@ -19,41 +19,63 @@
 namespace sonaro {
 
 std::string frmSched::Rows::Cell(int row, int column) const {
-  const ScheduleRow& shown = rows[static_cast<std::size_t>(row)];
-  switch (column) {
-    case 0:
-      return shown.next;
-    case 1:
-      return shown.name;
-    case 2:
-      return shown.schedule;
-    default:
-      return shown.action;
+  return rows_[static_cast<std::size_t>(row)].cells[static_cast<std::size_t>(column)];
+}
+
+void frmSched::Rows::Load(int nameText, int emptyText, int emptyHelp) {
+  ListView& list = form_.List(list_);
+  list.SetColumns({{form_.LoadText(IDS_SCHED_COLUMN_NEXT), 129},
+                   {form_.LoadText(nameText), 180},
+                   {form_.LoadText(IDS_SCHED_COLUMN_OFTEN), 172},
+                   {form_.LoadText(IDS_SCHED_COLUMN_NOTE), 190}});
+  list.SetEmptyText(form_.LoadText(emptyText), form_.LoadText(emptyHelp));
+  list.SetModel(this, false);
+}
+
+void frmSched::Rows::Fill(std::vector<ScheduleRow> rows) {
+  const std::string selected = SelectedKey();
+  rows_ = std::move(rows);
+  ShowSorted(selected);
+}
+
+void frmSched::Rows::SortBy(int column) {
+  sortedBy_ = column;
+  ShowSorted(SelectedKey());
+}
+
+void frmSched::Rows::ShowSorted(const std::string& selected) {
+  ListView& list = form_.List(list_);
+  const int place = list.Selected();
+  SortRows(rows_, sortedBy_);
+  for (int column = 0; column < kScheduleColumns; ++column) {
+    form_.SetSortMark(firstHeader_ + column, column == sortedBy_ ? SortMark::Up : SortMark::None);
   }
+  list.RowsChanged();
+  const auto same =
+      std::find_if(rows_.begin(), rows_.end(), [&](const ScheduleRow& row) { return row.key == selected; });
+  list.Select(same != rows_.end() ? static_cast<int>(same - rows_.begin()) : std::min(place, RowCount() - 1));
+}
+
+std::string frmSched::Rows::SelectedKey() const {
+  const int row = form_.List(list_).Selected();
+  return row >= 0 && row < RowCount() ? rows_[static_cast<std::size_t>(row)].key : "";
 }
 
 void frmSched::OnLoad() {
-  List(lstSched).SetColumns({{LoadText(IDS_SCHED_COLUMN_NEXT), 129},
-                             {LoadText(IDS_SCHED_COLUMN_STATION), 180},
-                             {LoadText(IDS_SCHED_COLUMN_OFTEN), 172},
-                             {LoadText(IDS_SCHED_COLUMN_NOTE), 190}});
-  List(lstSched).SetEmptyText(LoadText(IDS_SCHED_LIST_EMPTY), LoadText(IDS_SCHED_LIST_EMPTY_HELP));
-  List(lstSched).SetModel(&scheduled_, false);
-  List(lstShows).SetColumns({{LoadText(IDS_SCHED_COLUMN_NEXT), 0}, {LoadText(IDS_SCHED_COLUMN_SHOW), 671}});
-  List(lstShows).SetEmptyText(LoadText(IDS_SCHED_SHOWS_EMPTY), LoadText(IDS_SCHED_SHOWS_EMPTY_HELP));
-  List(lstShows).SetModel(&shows_, false);
+  scheduled_.Load(IDS_SCHED_COLUMN_STATION, IDS_SCHED_LIST_EMPTY, IDS_SCHED_LIST_EMPTY_HELP);
+  shows_.Load(IDS_SCHED_COLUMN_SHOW, IDS_SCHED_SHOWS_EMPTY, IDS_SCHED_SHOWS_EMPTY_HELP);
+  showsUsed_ = false;
   FillLists();
 }
 
 void frmSched::FillLists() {
   if (!IsOpen()) return;
-  const int selected = List(lstSched).Selected();
-  scheduled_.rows =
-      ScheduleRows(services_.store, services_.calendar, services_.clock.LocalNow(), services_.clockStyle);
-  shows_.rows = ShowRows(services_.shows);
-  List(lstSched).RowsChanged();
-  List(lstShows).RowsChanged();
-  List(lstSched).Select(std::min(std::max(selected, 0), scheduled_.RowCount() - 1));
+  const DateTime now = services_.clock.LocalNow();
+  scheduled_.Fill(ScheduleRows(services_.store, services_.calendar, now, services_.clockStyle));
+  shows_.Fill(ShowRows(services_.shows, services_.store, services_.calendar, services_.nextBroadcast, now,
+                       services_.clockStyle));
+  showsUsed_ = showsUsed_ && shows_.RowCount() > 0;
+  if (SelectedKey().empty()) List(lstSched).Select(std::min(0, scheduled_.RowCount() - 1));
   ShowKeys();
 }
 
@@ -64,13 +86,7 @@ void frmSched::ShowKeys() {
   Enable(butExportIt, scheduled_.RowCount() > 0);
 }
 
-std::string frmSched::SelectedKey() {
-  const Rows& rows = showsUsed_ ? shows_ : scheduled_;
-  const int row = List(showsUsed_ ? lstShows : lstSched).Selected();
-  return row >= 0 && row < rows.RowCount() ? rows.rows[static_cast<std::size_t>(row)].key : "";
-}
-
-void frmSched::lst_ItemSelected(int) {
+void frmSched::lstSched_ItemSelected(int) {
   showsUsed_ = false;
   List(lstShows).Select(-1);
   ShowKeys();

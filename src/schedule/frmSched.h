@@ -3,6 +3,7 @@
 
 #include <vector>
 
+#include "forms/ControlIds.h"
 #include "forms/Form.h"
 #include "forms/ListView.h"
 #include "schedule/ScheduleList.h"
@@ -19,11 +20,28 @@ class frmSched final : public Form {
   void FillLists();
 
  private:
+  // One of the two lists, sorted by one of its columns.
   class Rows final : public ListModel {
    public:
-    int RowCount() const override { return static_cast<int>(rows.size()); }
+    Rows(Form& form, int list, int firstHeader) : form_(form), list_(list), firstHeader_(firstHeader) {}
+    int RowCount() const override { return static_cast<int>(rows_.size()); }
     std::string Cell(int row, int column) const override;
-    std::vector<ScheduleRow> rows;
+
+    void Load(int nameText, int emptyText, int emptyHelp);
+    // The selection stays with its row, or at its place when that is gone.
+    void Fill(std::vector<ScheduleRow> rows);
+    void SortBy(int column);
+    // "" without one.
+    std::string SelectedKey() const;
+
+   private:
+    void ShowSorted(const std::string& selected);
+
+    Form& form_;
+    const int list_;
+    const int firstHeader_;
+    int sortedBy_ = kNextColumn;
+    std::vector<ScheduleRow> rows_;
   };
 
   static const FormDesign& Design();
@@ -31,9 +49,11 @@ class frmSched final : public Form {
   void OnLoad() override;
   void ShowKeys();
   // The key of the selected row of the list that was used last; "" without one.
-  std::string SelectedKey();
+  std::string SelectedKey() const { return (showsUsed_ ? shows_ : scheduled_).SelectedKey(); }
 
-  void lst_ItemSelected(int row);
+  void butSchedSplit_Click(int column) { scheduled_.SortBy(column); }
+  void butShowSplit_Click(int column) { shows_.SortBy(column); }
+  void lstSched_ItemSelected(int row);
   void lstShows_ItemSelected(int row);
   void lstSched_ItemActivate(int row);
   void butAddIt_Click();
@@ -46,8 +66,8 @@ class frmSched final : public Form {
 
   FormContext& context_;
   ScheduleServices& services_;
-  Rows scheduled_;
-  Rows shows_;
+  Rows scheduled_{*this, lstSched, butSchedSplit};
+  Rows shows_{*this, lstShows, butShowSplit};
   bool showsUsed_ = false;
 };
 

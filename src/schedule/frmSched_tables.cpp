@@ -5,27 +5,38 @@
 #include "schedule/frmSched.h"
 
 namespace sonaro {
+namespace {
+
+constexpr int kListLeft = 14;
+
+// The header key over a column of the list whose header is at `y`.
+constexpr ControlRow Header(int id, int text, int y, int column) {
+  constexpr int kEdges[] = {0, 130, 310, 482, 672};
+  return {.id = id + column,
+          .kind = Kind::HeaderKey,
+          .text = text,
+          .at = {kListLeft + kEdges[column], y, kEdges[column + 1] - kEdges[column], 24}};
+}
+
+}  // namespace
 
 const FormDesign& frmSched::Design() {
   static constexpr ControlRow kControls[] = {
       {.id = lblTitle, .kind = Kind::TitleBar, .text = IDS_SCHED_LIST_TITLE, .at = {40, 4, 216, 26}},
-      {.kind = Kind::HeaderKey, .text = IDS_SCHED_COLUMN_NEXT, .at = {14, 66, 130, 24}, .flags = kNoTabStop},
-      {.kind = Kind::HeaderKey,
-       .text = IDS_SCHED_COLUMN_STATION,
-       .at = {144, 66, 180, 24},
-       .flags = kNoTabStop},
-      {.kind = Kind::HeaderKey,
-       .text = IDS_SCHED_COLUMN_OFTEN,
-       .at = {324, 66, 172, 24},
-       .flags = kNoTabStop},
-      {.kind = Kind::HeaderKey, .text = IDS_SCHED_COLUMN_NOTE, .at = {496, 66, 190, 24}, .flags = kNoTabStop},
+      Header(butSchedSplit, IDS_SCHED_COLUMN_NEXT, 66, kNextColumn),
+      Header(butSchedSplit, IDS_SCHED_COLUMN_STATION, 66, kNameColumn),
+      Header(butSchedSplit, IDS_SCHED_COLUMN_OFTEN, 66, kOftenColumn),
+      Header(butSchedSplit, IDS_SCHED_COLUMN_NOTE, 66, kNoteColumn),
       {.kind = Kind::Label,
        .text = IDS_SCHED_LIST_CAPTION,
        .at = {14, 42, 400, 24},
        .type = Type::BodyStrong,
        .ink = Ink::Muted},
       {.id = lstSched, .kind = Kind::ListView, .text = IDS_SCHED_LIST_CAPTION, .at = {14, 90, 672, 162}},
-      {.kind = Kind::HeaderKey, .text = IDS_SCHED_COLUMN_SHOW, .at = {14, 284, 672, 24}, .flags = kNoTabStop},
+      Header(butShowSplit, IDS_SCHED_COLUMN_NEXT, 284, kNextColumn),
+      Header(butShowSplit, IDS_SCHED_COLUMN_SHOW, 284, kNameColumn),
+      Header(butShowSplit, IDS_SCHED_COLUMN_OFTEN, 284, kOftenColumn),
+      Header(butShowSplit, IDS_SCHED_COLUMN_NOTE, 284, kNoteColumn),
       {.kind = Kind::Label,
        .text = IDS_SCHED_LIST_SHOWS,
        .at = {14, 260, 400, 24},
@@ -72,7 +83,9 @@ const FormDesign& frmSched::Design() {
 
 std::span<const EventRow> frmSched::Events() const {
   static const EventRow kRows[] = {
-      {lstSched, ItemSelected, &frmSched::lst_ItemSelected},
+      {butSchedSplit, Click, &frmSched::butSchedSplit_Click, kScheduleColumns},
+      {butShowSplit, Click, &frmSched::butShowSplit_Click, kScheduleColumns},
+      {lstSched, ItemSelected, &frmSched::lstSched_ItemSelected},
       {lstSched, ItemActivated, &frmSched::lstSched_ItemActivate},
       {lstShows, ItemSelected, &frmSched::lstShows_ItemSelected},
       {butAddIt, Click, &frmSched::butAddIt_Click},

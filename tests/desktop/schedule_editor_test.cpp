@@ -100,7 +100,7 @@ TEST_F(HandClockTest, WithThe24HourClockThereIsNoHalfOfTheDay) {
 
 TEST_F(HandClockTest, AnEventBecomesAPersonalShowAndNoLongerIsOne) {
   ASSERT_TRUE(PutEvents(Folder(), {Event(7, "Xylophone hour", "Radio X", "200505052001"),
-                                   Event(9, "Évening show", "Radio X", "200505062001")}));
+                                   Event(9, "An évening show", "Radio X", "200505062001")}));
   HWND main = StartAndShowMain("DoWhat=BringEvents");
   HWND events = Control(main, lstEvents);
   HWND key = Control(main, butPersonalShow);
@@ -117,24 +117,28 @@ TEST_F(HandClockTest, AnEventBecomesAPersonalShowAndNoLongerIsOne) {
     SelectRow(events, row);
     ASSERT_TRUE(WaitUntil([&] { return TextOf(key) == "Add to &personal shows"; }));
     Command(main, mnuEventPersonalShow);
-    answer(main, (row == 0 ? "Xylophone hour" : "Évening show") + std::string(" added as a personal show"));
+    answer(main,
+           (row == 0 ? "Xylophone hour" : "An évening show") + std::string(" added as a personal show"));
   }
-  EXPECT_EQ(ReadFile("Shows.snr"), "7XXylophone hour\r\n9XÉvening show\r\n");
+  EXPECT_EQ(ReadFile("Shows.snr"), "7XXylophone hour\r\n9XAn évening show\r\n");
   EXPECT_TRUE(WaitUntil([&] { return TextOf(key) == "Remove &personal show"; }));
 
   HWND list = OpenList(main);
   HWND shows = Control(list, lstShows);
   ASSERT_TRUE(WaitUntil([&] { return RowCount(shows) == 2; }));
-  EXPECT_EQ(CellText(shows, 0, 1), "Xylophone hour");
+  EXPECT_EQ(ColumnTexts(shows, 0), (std::vector<std::string>{"Today 10:01 PM", "Tomorrow 10:01 PM"}));
   SelectRow(shows, 0);
+  Click(Control(list, butShowSplit + 1));
+  EXPECT_TRUE(WaitUntil([&] { return CellText(shows, 0, 1) == "An évening show"; }));
+  EXPECT_EQ(SelectedRows(shows), std::vector<int>{1});  // it went with its row
   ASSERT_TRUE(WaitUntil([&] { return IsWindowEnabled(Control(list, butDeleteIt)) != FALSE; }));
   EXPECT_FALSE(IsWindowEnabled(Control(list, butChangeIt)));
   Click(Control(list, butDeleteIt));
   answer(list, "The personal show Xylophone hour was deleted");
-  EXPECT_EQ(ReadFile("Shows.snr"), "9XÉvening show\r\n");
+  EXPECT_EQ(ReadFile("Shows.snr"), "9XAn évening show\r\n");
 
   Click(key);  // the second event is still selected
-  answer(main, "The personal show Évening show was deleted");
+  answer(main, "The personal show An évening show was deleted");
   EXPECT_EQ(ReadFile("Shows.snr"), "");
   EXPECT_TRUE(WaitUntil([&] { return RowCount(shows) == 0; }));
 }

@@ -173,6 +173,8 @@ TEST_F(WithStations, TheDiaryKnowsWhatComesAndWhatBegins) {
   const auto coming = diary.Coming(AddSeconds(clock.GmtNow(), -60), 10);
   ASSERT_EQ(coming.size(), 2u);
   EXPECT_EQ(coming[0].record[EventField::Name], "Early");
+  EXPECT_EQ(diary.Next("early", AddSeconds(clock.GmtNow(), -60)), coming[0].gmt);
+  EXPECT_EQ(diary.Next("early", coming[0].gmt), std::nullopt);
 
   ScheduleStore store(data_, "");
   store.SetItem(4, {.name = "late|||Z|||radio", .kind = "live"});
@@ -193,13 +195,14 @@ TEST(ScheduleListRows, SoonestFirstWithKeysThatLeadBack) {
   store.SetItem(
       3, {.name = "weekly", .time = "7:00 AM", .weekday = "Friday", .kind = "weekly", .action = "NS5"});
   store.SetItem(9, {.name = "daily", .time = "7:15 AM", .kind = "daily", .note = "kettle", .action = "W"});
-  const auto rows = ScheduleRows(store, calendar, now, ClockStyle::Hours12);
+  std::vector<ScheduleRow> rows = ScheduleRows(store, calendar, now, ClockStyle::Hours12);
+  SortRows(rows, kNextColumn);
   ASSERT_EQ(rows.size(), 3u);
   EXPECT_EQ(rows[0].key, "S9\tW");
-  EXPECT_EQ(rows[0].next, "Tomorrow 7:15 AM");
-  EXPECT_EQ(rows[0].action, "Go to the website - kettle");
-  EXPECT_EQ(rows[1].next, "Fri 7:00 AM");
-  EXPECT_EQ(rows[2].next, "");
+  EXPECT_EQ(rows[0].cells[kNextColumn], "Tomorrow 7:15 AM");
+  EXPECT_EQ(rows[0].cells[kNoteColumn], "Go to the website - kettle");
+  EXPECT_EQ(rows[1].cells[kNextColumn], "Fri 7:00 AM");
+  EXPECT_EQ(rows[2].cells[kNextColumn], "");
   EXPECT_EQ(SlotOfKey(rows[1].key), 3);
   EXPECT_EQ(ShowOfKey(rows[1].key), -1);
   EXPECT_EQ(AskedItem(BringUpText(9)), 9);

@@ -9,6 +9,8 @@
 #include "fakes/FakeStrings.h"
 #include "schedule/CalendarExport.h"
 #include "schedule/PersonalShows.h"
+#include "schedule/ScheduleCalendar.h"
+#include "schedule/ScheduleList.h"
 #include "schedule/ScheduleStore.h"
 #include "schedule/ScheduleTexts.h"
 
@@ -165,6 +167,50 @@ TEST(PersonalShowList, AddsOnceRemovesByTheIdentifyingPartAndTellsTheUser) {
   EXPECT_EQ(files.Get("data/Shows.snr"), "7XMorning X Ray\r\n");
   shows.WritePersonalShows("a\r\nb\r\nnot written");
   EXPECT_EQ(files.Get("data/Shows.snr"), "a\r\nb\r\n");
+}
+
+TEST(ScheduleLists, AShowHasWhatItsSoonestItemSaysOrItsNextBroadcast) {
+  FakeFiles files;
+  files.MakeFolder("data");
+  files.Put("data/Shows.snr", "1XUnknown\r\n2XGone\r\n3XEvening Show\r\n4XLive Show\r\n");
+  DataFolder data(files, "data", '/');
+  FakeMessageBox box;
+  FakeStrings strings;
+  PersonalShows shows(data, box, strings);
+  ScheduleStore store(data, "");
+  store.SetItem(0, {.name = "evening show|||Z|||Radio",
+                    .time = "9:00 PM",
+                    .weekday = "Monday",
+                    .kind = "weekly",
+                    .note = "tapes"});
+  store.SetItem(1, {.name = "Evening Show", .time = "8:00 PM", .weekday = "Friday", .kind = "weekly"});
+  store.SetItem(2, {.name = "Gone", .date = "8/1/2000", .time = "8:00 PM", .kind = "once", .action = "W"});
+  store.SetItem(3, {.name = "Live Show|||Z|||Radio", .kind = "live"});
+  ScheduleCalendar calendar(store, "");
+  const auto broadcast = [](std::string_view show) {
+    const std::optional<DateTime> tomorrow{{{2000, 8, 17}, {7, 15, 0}}};
+    return show == "Gone" || show == "Live Show" ? tomorrow : std::nullopt;
+  };
+  std::vector<ScheduleRow> rows =
+      ShowRows(shows, store, calendar, broadcast, {kToday, {10, 0, 0}}, ClockStyle::Hours12);
+  const auto shown = [&] {
+    std::string text;
+    for (const ScheduleRow& row : rows) {
+      text += row.key;
+      for (const std::string& cell : row.cells) text += "|" + cell;
+      text += "\n";
+    }
+    return text;
+  };
+  const std::string unknown = "P0||Unknown||\n";
+  const std::string gone = "P1|Tomorrow 7:15 AM|Gone|at 8:00 PM on 8/1/2000|Go to the website \n";
+  const std::string evening = "P2|Fri 8:00 PM|Evening Show|every Friday at 8:00 PM|Notify me \n";
+  const std::string live = "P3|Tomorrow 7:15 AM|Live Show|when the event begins|Notify me \n";
+  EXPECT_EQ(shown(), unknown + gone + evening + live);
+  SortRows(rows, kNextColumn);
+  EXPECT_EQ(shown(), gone + live + evening + unknown);
+  SortRows(rows, kOftenColumn);
+  EXPECT_EQ(shown(), unknown + gone + evening + live);
 }
 
 TEST(Calendar, EntriesFollowTheFormat) {
