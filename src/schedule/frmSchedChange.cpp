@@ -59,14 +59,15 @@ void frmSchedChange::FillChoices() {
   SelectItem(cmbTimeHour, choice.hour);
   SelectItem(cmbTimeMinute, choice.minute);
   SelectItem(cmbTimeAMPM, choice.half);
-  ShowControl(cmbTimeAMPM, services_.clockStyle == ClockStyle::Hours12);
+  ShowPane(kHours12Pane, services_.clockStyle == ClockStyle::Hours12);
+  ShowPane(kHours24Pane, services_.clockStyle == ClockStyle::Hours24);
   SelectItem(cmbThreeDay, draft_.weekday);
 }
 
 void frmSchedChange::ShowKind() {
   const int shown = IndexOf(draft_.kind);
   SetToggleOnly(cmdHowOften, kKindCount, shown);
-  for (int kind = 0; kind < kKindCount; ++kind) ShowPane(kind + 1, kind == shown);
+  for (int kind = 0; kind < kKindCount; ++kind) ShowPane(kOncePane + kind, kind == shown);
   ShowSummary();
 }
 

@@ -17,6 +17,9 @@ class frmSchedChange final : public Form {
                  std::optional<std::size_t> slot = std::nullopt);
 
  private:
+  // What only some items and clocks have.
+  enum Pane : unsigned char { kOncePane = 1, kDailyPane, kWeeklyPane, kHours12Pane, kHours24Pane };
+
   static const FormDesign& Design();
   std::span<const EventRow> Events() const override;
   void OnLoad() override;
