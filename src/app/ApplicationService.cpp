@@ -110,7 +110,8 @@ std::vector<std::int32_t> ApplicationService::StationsOfGroups() const {
 }
 
 void ApplicationService::TestProxy(HWND owner, const std::string& address, const std::string& port) {
-  frmTestProxy(needs_.context, needs_.reg, needs_.platform.http, address, port).ShowModal(owner);
+  frmTestProxy(needs_.context, needs_.reg, needs_.platform.http, needs_.platform.clock, address, port)
+      .ShowModal(owner);
 }
 
 std::string ApplicationService::DetectProxy() {

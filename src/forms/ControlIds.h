@@ -214,6 +214,11 @@ inline constexpr int lblCheckPort = 2612;
 inline constexpr int lblStatusInfo = 2613;
 inline constexpr int lblProxyStuff = 2614;
 inline constexpr int tmrSock = 2615;
+inline constexpr int imgProxyStep = 2616;      // 3 numbers
+inline constexpr int lblProxyStep = 2619;      // 3 numbers
+inline constexpr int lblProxyStepTime = 2622;  // 3 numbers
+inline constexpr int prgProxyTest = 2625;
+inline constexpr int butTestAgainIt = 2626;
 
 // frmOptions: 2701 to 2799.
 inline constexpr int chkStartWindows = 2701;

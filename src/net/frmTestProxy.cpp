@@ -1,12 +1,16 @@
 #include "net/frmTestProxy.h"
 
+#include <iterator>
+
 #include "app/CReg.h"
 #include "app/SettingNames.h"
-#include "base/Text.h"
+#include "app/Strings.h"
 #include "forms/ControlIds.h"
 #include "forms/DialogRows.h"
+#include "forms/ProgressScale.h"
 #include "net/ServiceRequest.h"
 #include "net/ServiceUrlTable.h"
+#include "platform/Clock.h"
 #include "resources/ids.h"
 
 namespace sonaro {
@@ -15,10 +19,43 @@ namespace {
 
 constexpr unsigned kSoon = 100;  // milliseconds until the test begins
 
+// What the test does, one after the other, and how that reads while it lasts and once it is done.
+constexpr struct {
+  int running;
+  int done;
+} kSteps[] = {
+    {IDS_NET_TEST_FIND, IDS_NET_TEST_FOUND},
+    {IDS_NET_TEST_CONNECT, IDS_NET_TEST_CONNECTED},
+    {IDS_NET_TEST_READ, IDS_NET_TEST_PAGE},
+};
+constexpr int kStepCount = static_cast<int>(std::size(kSteps));
+
 // The setting; its default is stored when it is empty.
 std::string SettingOrDefault(CReg& reg, const char* setting) {
   if (reg.Setting(setting).empty()) reg.SetSetting(setting, ServiceDefault(setting));
   return reg.Setting(setting);
+}
+
+// The result line of a step.
+constexpr ControlRow StepIcon(int step) {
+  return {.id = imgProxyStep + step,
+          .kind = Kind::Label,
+          .at = {26, 84 + 24 * step, 16, 16},
+          .icon = Icon::Check,
+          .flags = kOnGlass | kHidden};
+}
+constexpr ControlRow StepText(int step) {
+  return {.id = lblProxyStep + step,
+          .kind = Kind::StateLabel,
+          .at = {50, 80 + 24 * step, 270, 24},
+          .flags = kOnGlass};
+}
+constexpr ControlRow StepTime(int step) {
+  return {.id = lblProxyStepTime + step,
+          .kind = Kind::Label,
+          .at = {324, 80 + 24 * step, 70, 24},
+          .flags = kOnGlass | kRightAligned,
+          .ink = Ink::GlassMuted};
 }
 
 }  // namespace
@@ -26,36 +63,61 @@ std::string SettingOrDefault(CReg& reg, const char* setting) {
 const FormDesign& frmTestProxy::Design() {
   static constexpr ControlRow kControls[] = {
       {.id = lblTitle, .kind = Kind::TitleBar, .text = IDS_NET_TEST_TITLE, .at = {40, 4, 156, 26}},
-      {.kind = Kind::Label, .text = IDS_NET_TEST_ADDRESS, .at = {14, 46, 90, 24}, .type = Type::BodyStrong},
-      {.id = lblCheckAddress, .kind = Kind::Label, .at = {110, 46, 290, 24}, .flags = kNoPrefix},
-      {.kind = Kind::Label, .text = IDS_NET_TEST_PORT, .at = {14, 70, 90, 24}, .type = Type::BodyStrong},
-      {.id = lblCheckPort, .kind = Kind::Label, .at = {110, 70, 290, 24}, .flags = kNoPrefix},
+      {.kind = Kind::Label,
+       .text = IDS_NET_TEST_ADDRESS,
+       .at = {14, 46, 90, 24},
+       .type = Type::BodyStrong,
+       .ink = Ink::Muted},
+      {.id = lblCheckAddress, .kind = Kind::Label, .at = {110, 46, 196, 24}, .flags = kNoPrefix},
+      {.kind = Kind::Label,
+       .text = IDS_NET_TEST_PORT,
+       .at = {314, 46, 34, 24},
+       .type = Type::BodyStrong,
+       .ink = Ink::Muted},
+      {.id = lblCheckPort, .kind = Kind::Label, .at = {350, 46, 56, 24}, .flags = kNoPrefix},
+      {.kind = Kind::Glass, .at = {14, 74, 392, 108}},
+      StepIcon(0),
+      StepText(0),
+      StepTime(0),
+      StepIcon(1),
+      StepText(1),
+      StepTime(1),
+      StepIcon(2),
+      StepText(2),
+      StepTime(2),
+      {.id = prgProxyTest, .kind = Kind::Progress, .at = {26, 156, 368, 16}, .flags = kOnGlass},
       {.id = lblStatusInfo,
        .kind = Kind::StateLabel,
-       .at = {14, 102, 392, 44},
+       .at = {14, 190, 392, 40},
        .flags = kWrap,
        .type = Type::Message},
       {.id = lblProxyStuff,
        .kind = Kind::Label,
        .text = IDS_NET_TEST_NOTE,
-       .at = {14, 152, 392, 34},
-       .flags = kWrap,
+       .at = {14, 230, 392, 20},
        .ink = Ink::Muted},
-      {.kind = Kind::Groove, .at = {14, 190, 392, 2}},
-      OkKey({308, 202, 98, 28}),
+      {.kind = Kind::Groove, .at = {14, 256, 392, 2}},
+      {.id = butTestAgainIt,
+       .kind = Kind::PushKey,
+       .text = IDS_NET_TEST_AGAIN,
+       .at = {196, 268, 104, 28},
+       .flags = kDisabled},
+      OkKey({308, 268, 98, 28}),
       CloseKey(380),
   };
   static constexpr FormDesign kDesign = {.name = "frmTestProxy",
                                          .caption = IDS_NET_TEST_CAPTION,
-                                         .size = {420, 248},
+                                         .size = {420, 314},
                                          .outline = "fdf01",
                                          .controls = kControls,
+                                         .outlineHeight = 248,
                                          .firstFocus = butOKIt};
   return kDesign;
 }
 
 std::span<const EventRow> frmTestProxy::Events() const {
   static const EventRow kRows[] = {
+      {butTestAgainIt, Click, &frmTestProxy::butTestAgainIt_Click},
       {butOKIt, Click, &frmTestProxy::butOKIt_Click},
       {butCloseIt, Click, &frmTestProxy::butOKIt_Click},
   };
@@ -67,40 +129,88 @@ std::span<const TimerRow> frmTestProxy::Timers() const {
   return kRows;
 }
 
-frmTestProxy::frmTestProxy(FormContext& context, CReg& reg, HttpControlMaker& http, std::string address,
-                           std::string port)
+frmTestProxy::frmTestProxy(FormContext& context, CReg& reg, HttpControlMaker& http, Clock& clock,
+                           std::string address, std::string port)
     : Form(context, Design()),
       reg_(reg),
       http_(http.Make()),
+      clock_(clock),
       address_(std::move(address)),
       port_(std::move(port)) {}
 
 void frmTestProxy::OnLoad() {
   SetText(lblCheckAddress, address_);
   SetText(lblCheckPort, port_);
-  SetText(lblStatusInfo, LoadText(IDS_NET_TEST_RUNS));
   expected_ = SettingOrDefault(reg_, setting::kProxyTestText);
+  Begin();
+}
+
+void frmTestProxy::Begin() {
+  works_ = false;
+  SetText(lblStatusInfo, LoadText(IDS_NET_TEST_RUNS));
+  SetInk(lblStatusInfo, Ink::Default);
+  for (int step = 0; step < kStepCount; ++step) {
+    ShowControl(imgProxyStep + step, false);
+    SetText(lblProxyStep + step, "");
+    SetText(lblProxyStepTime + step, "");
+  }
+  if (FocusedControl() == butTestAgainIt) Focus(butOKIt);
+  Enable(butTestAgainIt, false);
+  BeginStep(0);
   StartTimer(tmrSock, kSoon);
 }
 
 void frmTestProxy::tmrSock_Timer() {
   StopTimer(tmrSock);
+  stepBegan_ = clock_.Ticks();
   Send(BuildProxyTest(address_, port_, SettingOrDefault(reg_, setting::kProxyTest)), *http_, *this);
 }
 
-void frmTestProxy::HTTPDataReceived(std::string_view body) {
-  found_ = body.find(expected_) != std::string_view::npos;
+void frmTestProxy::BeginStep(int step) {
+  step_ = step;
+  stepBegan_ = clock_.Ticks();
+  Progress(prgProxyTest).SetProgress(step, kStepCount);
+  if (step < kStepCount) ShowStep(Icon::Scan, Ink::Accent, LoadText(kSteps[step].running));
 }
 
-void frmTestProxy::HTTPObjectError(const std::string&) {
-  failed_ = true;
+void frmTestProxy::StepDone() {
+  ShowStep(Icon::Check, Ink::Signal, LoadText(kSteps[step_].done));
+  SetText(lblProxyStepTime + step_,
+          FillIn(LoadText(IDS_NET_TEST_TIME), {std::to_string(clock_.Ticks() - stepBegan_)}));
+  BeginStep(step_ + 1);
+}
+
+void frmTestProxy::StepFailed(const std::string& reason) { ShowStep(Icon::Warn, Ink::Alert, reason); }
+
+void frmTestProxy::ShowStep(Icon icon, Ink ink, const std::string& text) {
+  SetIcon(imgProxyStep + step_, icon);
+  SetInk(imgProxyStep + step_, ink);
+  ShowControl(imgProxyStep + step_);
+  SetText(lblProxyStep + step_, text);
+}
+
+void frmTestProxy::HTTPDataReceived(std::string_view body) {
+  works_ = body.find(expected_) != std::string_view::npos;
+  if (works_) {
+    StepDone();
+  } else {
+    StepFailed(LoadText(IDS_NET_TEST_OTHER_PAGE));
+  }
+}
+
+void frmTestProxy::HTTPError(const std::string& statusCode, const std::string&) {
+  StepFailed(FillIn(LoadText(IDS_NET_WRONG_STATUS), {statusCode}));
+}
+
+void frmTestProxy::HTTPObjectError(const std::string& reason) {
+  StepFailed(reason);
   ShowResult();
 }
 
 void frmTestProxy::ShowResult() {
-  const bool works = found_ && !failed_;
-  SetText(lblStatusInfo, LoadText(works ? IDS_NET_TEST_WORKS : IDS_NET_TEST_FAILED));
-  SetInk(lblStatusInfo, works ? Ink::Signal : Ink::Alert);
+  SetText(lblStatusInfo, LoadText(works_ ? IDS_NET_TEST_WORKS : IDS_NET_TEST_FAILED));
+  SetInk(lblStatusInfo, works_ ? Ink::Signal : Ink::Alert);
+  Enable(butTestAgainIt);
 }
 
 }  // namespace sonaro

@@ -1,5 +1,6 @@
 // Tries a proxy that the user has typed: fetches the service's test page by way of it and looks for the text
-// that must stand there. Changes no proxy setting.
+// that must stand there. Shows how far it came, how long each step took, and why it stopped. Changes no proxy
+// setting.
 #pragma once
 
 #include <memory>
@@ -10,11 +11,12 @@
 
 namespace sonaro {
 
+class Clock;
 class CReg;
 
 class frmTestProxy final : public Form, private HttpEvents {
  public:
-  frmTestProxy(FormContext& context, CReg& reg, HttpControlMaker& http, std::string address,
+  frmTestProxy(FormContext& context, CReg& reg, HttpControlMaker& http, Clock& clock, std::string address,
                std::string port);
 
  private:
@@ -25,22 +27,33 @@ class frmTestProxy final : public Form, private HttpEvents {
   void OnUnload() override { http_->Cancel(); }
 
   void tmrSock_Timer();
+  void butTestAgainIt_Click() { Begin(); }
   void butOKIt_Click() { Close(1); }
+
+  void Begin();
+  void BeginStep(int step);
+  // The step that runs is done, and the next one begins, if there is one.
+  void StepDone();
+  void StepFailed(const std::string& reason);
+  void ShowStep(Icon icon, Ink ink, const std::string& text);
   void ShowResult();
 
+  void HTTPStep(HttpStep) override { StepDone(); }
   void HTTPDataReceived(std::string_view body) override;
   void HTTPDataTransferred(std::uint64_t, std::uint64_t) override {}
-  void HTTPError(const std::string&, const std::string&) override { failed_ = true; }
+  void HTTPError(const std::string& statusCode, const std::string& headers) override;
   void HTTPObjectError(const std::string& reason) override;
   void HTTPReady() override { ShowResult(); }
 
   CReg& reg_;
   std::unique_ptr<HttpControl> http_;
+  Clock& clock_;
   const std::string address_;
   const std::string port_;
   std::string expected_;
-  bool found_ = false;
-  bool failed_ = false;
+  int step_ = 0;
+  std::uint64_t stepBegan_ = 0;  // ticks of the clock
+  bool works_ = false;
 };
 
 }  // namespace sonaro

@@ -9,11 +9,15 @@
 
 namespace sonaro {
 
+// How far a request has come before its answer.
+enum class HttpStep { HostFound, Connected };
+
 // What a talking window hears. HTTPReady is the last event of every request that was not cancelled, also
 // after HTTPError; after HTTPObjectError nothing more comes.
 class HttpEvents {
  public:
   virtual ~HttpEvents() = default;
+  virtual void HTTPStep(HttpStep) {}  // once each, in order, unless the request fails before
   virtual void HTTPDataReceived(std::string_view body) = 0;  // once, the whole body of a successful answer
   virtual void HTTPDataTransferred(std::uint64_t bytes, std::uint64_t expected) = 0;      // 0 = not announced
   virtual void HTTPError(const std::string& statusCode, const std::string& headers) = 0;  // any other status

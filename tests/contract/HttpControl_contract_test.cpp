@@ -98,6 +98,7 @@ TYPED_TEST(HttpContract, EveryRequestEndsOnceAndLater) {
     this->world_.Settle();
     EXPECT_EQ(listener.heard, each.heard);
     if (each.heard.size() == 2 && each.path == std::string("/body")) {
+      EXPECT_EQ(listener.steps, (std::vector{HttpStep::HostFound, HttpStep::Connected}));
       EXPECT_EQ(listener.bytes, std::string(kBody).size());
       EXPECT_EQ(listener.expected, std::string(kBody).size());
     }
@@ -135,6 +136,22 @@ TYPED_TEST(HttpContract, CancellingOrDestroyingWithinAnEventEndsTheRequestThere)
         EXPECT_EQ(listener.heard.back(), last);
       }
     }
+  }
+}
+
+TYPED_TEST(HttpContract, NothingFollowsAStepThatCancelsOrDestroys) {
+  for (const bool destroy : {false, true}) {
+    Listener listener;
+    std::unique_ptr<HttpControl> control = this->world_.Maker().Make();
+    listener.then = [&](const std::string&) {
+      control->Cancel();
+      if (destroy) control.reset();
+    };
+    this->Ask(*control, "/body", listener);
+    this->world_.Run([&] { return !listener.steps.empty(); });
+    this->world_.Settle();
+    EXPECT_EQ(listener.steps, std::vector{HttpStep::HostFound});
+    EXPECT_EQ(listener.heard, Lines{});
   }
 }
 

@@ -24,10 +24,15 @@ class Listener final : public HttpEvents {
   std::uint64_t bytes = 0;
   std::uint64_t expected = 0;
   int progress = 0;
+  std::vector<HttpStep> steps;
   std::function<void(const std::string& event)> then;
 
   bool Over() const { return over_; }
 
+  void HTTPStep(HttpStep step) override {
+    steps.push_back(step);
+    if (then) then("step");
+  }
   void HTTPDataReceived(std::string_view body) override { Hear("body " + std::string(body)); }
   void HTTPDataTransferred(std::uint64_t now, std::uint64_t all) override {
     ++progress;

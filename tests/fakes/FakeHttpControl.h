@@ -95,6 +95,10 @@ class FakeHttp : public HttpControlMaker {
   void Deliver(std::shared_ptr<Exchange> exchange) {
     const FakeAnswer answer = AnswerTo(exchange->requestText);
     HttpEvents& events = *exchange->events;
+    for (const HttpStep step : {HttpStep::HostFound, HttpStep::Connected}) {
+      if (answer.kind != FakeAnswer::Kind::ObjectError && !exchange->over) events.HTTPStep(step);
+    }
+    if (exchange->over) return;
     switch (answer.kind) {
       case FakeAnswer::Kind::Body:
         events.HTTPDataTransferred(answer.text.size(), answer.text.size());

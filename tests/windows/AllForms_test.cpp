@@ -123,7 +123,7 @@ const NamedForm kForms[] = {
      }},
     {"frmTestProxy",
      [](EmptyProgram& p) {
-       return Make<frmTestProxy>(p.forms, p.settings, p.http, std::string("proxy.example.net"),
+       return Make<frmTestProxy>(p.forms, p.settings, p.http, p.clock, std::string("proxy.example.net"),
                                  std::string("8080"));
      }},
     {"frmUpdateDialog",

@@ -7,6 +7,7 @@
 #include "forms/StringTable.h"
 #include "loopback/LoopbackServer.h"
 #include "net/frmTestProxy.h"
+#include "platform/win/ClockWin.h"
 #include "platform/win/HttpControlWin.h"
 #include "windows/FormContextForTests.h"
 #include "windows/Pump.h"
@@ -15,8 +16,8 @@ namespace sonaro {
 namespace {
 
 constexpr const char* kRuns = "Checking Proxy Setup Now";
-constexpr const char* kWorks = "This Proxy is configured correctly";
-constexpr const char* kFails =
+const std::string kWorks = "This Proxy is configured correctly";
+const std::string kFails =
     "This Proxy setting does not seem to work. Please check your setting and try again.";
 
 class TestProxyTest : public testing::Test {
@@ -25,22 +26,29 @@ class TestProxyTest : public testing::Test {
 
   CReg& Settings() { return outside_.settings; }
   std::unique_ptr<frmTestProxy> Show(const std::string& port) {
-    auto form = std::make_unique<frmTestProxy>(forms_, Settings(), http_, "127.0.0.1", port);
+    auto form = std::make_unique<frmTestProxy>(forms_, Settings(), http_, clock_, "127.0.0.1", port);
     form->Show();
     return form;
   }
-  // The status once the test is over.
-  std::string Result(const std::string& port) {
-    const auto form = Show(port);
-    EXPECT_EQ(form->Text(lblStatusInfo), kRuns);
-    PumpUntil([&] { return form->Text(lblStatusInfo) != kRuns; });
-    return form->Text(lblStatusInfo);
+  // What the test comes to: the status, with the last step that was begun.
+  static std::string Result(frmTestProxy& form) {
+    EXPECT_EQ(form.Text(lblStatusInfo), kRuns);
+    EXPECT_FALSE(form.IsEnabled(butTestAgainIt));
+    PumpUntil([&] { return form.Text(lblStatusInfo) != kRuns; });
+    EXPECT_TRUE(form.IsEnabled(butTestAgainIt));
+    std::string last;
+    for (int step = 0; step < 3; ++step) {
+      const std::string text = form.Text(lblProxyStep + step);
+      if (!text.empty()) last = text;
+    }
+    return form.Text(lblStatusInfo) + "|" + last;
   }
 
   FormContextForTests outside_;
   StringTable words_;
   FormContext forms_{words_, outside_.faceplate, outside_.shape};
   HttpControlMakerWin http_{"Test/1.0", [](HttpFault) { return std::string("why"); }, 500};
+  ClockWin clock_;
   LoopbackServer proxy_;
 };
 
@@ -56,6 +64,7 @@ TEST_F(TestProxyTest, AsksTheProxyForTheTestPage) {
   EXPECT_EQ(Settings().Setting(setting::kProxyTestText), "cool proxy works!");
   PumpUntil([&] { return form->Text(lblStatusInfo) != kRuns; });
   EXPECT_EQ(form->Text(lblStatusInfo), kWorks);
+  EXPECT_EQ(form->Text(lblProxyStep + 1), "Connection accepted");
   const std::string page = "http://www.sonaro.example/sonaroapp/sonaro3/asp/proxy/test.asp";
   EXPECT_EQ(Settings().Setting(setting::kProxyTest), page);
   ASSERT_EQ(proxy_.Requests().size(), 1u);
@@ -70,24 +79,36 @@ TEST_F(TestProxyTest, AsksTheProxyForTheTestPage) {
 
 TEST_F(TestProxyTest, SaysWhetherTheProxyWorks) {
   Settings().SetSetting(setting::kProxyTestText, "it works");
+  const std::string other = "Another page came instead of the test page.";
   const struct {
     Script answer;
-    const char* result;
+    std::string result;
   } kCases[] = {
-      {script::Body("so it works."), kWorks},
-      {script::Body("cool proxy works!"), kFails},
-      {script::Body(""), kFails},
-      {script::Status("407 it works"), kFails},
-      {script::Redirect("http://it works/"), kFails},
-      {script::CutBody("it works, well", 9), kFails},
-      {script::Silent(), kFails},
-      {script::Exactly("it works"), kFails},
+      {script::Body("so it works."), kWorks + "|Test page received"},
+      {script::Body("cool proxy works!"), kFails + "|" + other},
+      {script::Body(""), kFails + "|" + other},
+      {script::Status("407 it works"), kFails + "|The server answered with status 407."},
+      {script::Redirect("http://it works/"), kFails + "|The server answered with status 302."},
+      {script::CutBody("it works, well", 9), kFails + "|why"},
+      {script::Silent(), kFails + "|why"},
+      {script::Exactly("it works"), kFails + "|why"},
   };
   for (const auto& each : kCases) {
     proxy_.Answer("/", each.answer);
-    EXPECT_EQ(Result(std::to_string(proxy_.Port())), each.result);
+    EXPECT_EQ(Result(*Show(std::to_string(proxy_.Port()))), each.result);
   }
-  EXPECT_EQ(Result(std::to_string(UnusedPort())), kFails);
+}
+
+TEST_F(TestProxyTest, ShowsHowFarItCameAndTriesAgain) {
+  const auto form = Show(std::to_string(UnusedPort()));
+  EXPECT_EQ(Result(*form), kFails + "|why");
+  EXPECT_EQ(form->Text(lblProxyStep), "Proxy server found");
+  EXPECT_TRUE(form->Text(lblProxyStepTime).ends_with(" ms"));
+  EXPECT_EQ(form->Text(lblProxyStep + 1), "why");
+  EXPECT_EQ(form->Text(lblProxyStep + 2), "");
+  SendMessageA(form->Control(butTestAgainIt), BM_CLICK, 0, 0);
+  EXPECT_EQ(form->Text(lblProxyStep + 1), "");
+  EXPECT_EQ(Result(*form), kFails + "|why");
 }
 
 TEST_F(TestProxyTest, ClosingItHangsUp) {

@@ -206,7 +206,7 @@ void HttpControlWin::NameFound() {
   next_ = lookup_->found.Get();
   if (next_ == nullptr) {
     Fail(HttpFault::NoSuchHost);
-  } else {
+  } else if (Raise([](HttpEvents& events) { events.HTTPStep(HttpStep::HostFound); })) {
     ConnectNext();
   }
 }
@@ -235,7 +235,11 @@ void HttpControlWin::OnSocket(WPARAM socket, LPARAM event) {
   const int error = WSAGETSELECTERROR(event);
   switch (WSAGETSELECTEVENT(event)) {
     case FD_CONNECT:
-      if (error != 0) ConnectNext();
+      if (error != 0) {
+        ConnectNext();
+      } else {
+        Raise([](HttpEvents& events) { events.HTTPStep(HttpStep::Connected); });
+      }
       break;
     case FD_WRITE:
       SendRest();
