@@ -34,11 +34,12 @@ step() {
 }
 
 # build_preset PRESET TARGET...: from nothing each folder is compiled as one file, several times as fast. A build folder
-# that is there is taken as it is: whoever changes files all day configures by hand and has each compiled by itself.
+# that is there is taken as it is: whoever changes files all day configures by hand and has each compiled by itself
+# (and with what a debugger wants to know).
 build_preset() {
   local preset=$1
   shift
-  [ -f "$build/$preset/build.ninja" ] || cmake --preset "$preset" -DSONARO_WHOLE_FOLDERS=ON
+  [ -f "$build/$preset/build.ninja" ] || cmake --preset "$preset" -DSONARO_WHOLE_FOLDERS=ON -DCMAKE_CXX_FLAGS_DEBUG=-g1
   cmake --build --preset "$preset" ${1:+--target "$@"}
 }
 

@@ -1,7 +1,7 @@
 // OPML: every outline with an address is a station, whatever outlines it lies in. Fields of our own are
 // attributes: sonaro-type="MP3".
+#include "base/OutlineReader.h"
 #include "base/Text.h"
-#include "mainwindow/OutlineReader.h"
 #include "mainwindow/PlaylistFields.h"
 
 namespace sonaro {

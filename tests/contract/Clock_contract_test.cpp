@@ -12,8 +12,8 @@
 namespace sonaro {
 namespace {
 
-struct ByHand {
-  ByHand() {
+struct ClockByHand {
+  ClockByHand() {
     clock.zone.result = 2;
     clock.zone.bias = 300;
     clock.zone.daylightBias = -60;
@@ -23,18 +23,18 @@ struct ByHand {
 };
 
 #ifdef _WIN32
-struct OnMachine {
+struct ClockOnMachine {
   ClockWin clock;
   void Wait() { std::this_thread::sleep_for(std::chrono::milliseconds(30)); }
 };
-using Worlds = testing::Types<ByHand, OnMachine>;
+using ClockWorlds = testing::Types<ClockByHand, ClockOnMachine>;
 #else
-using Worlds = testing::Types<ByHand>;
+using ClockWorlds = testing::Types<ClockByHand>;
 #endif
 
 template <typename World>
 class ClockContract : public testing::Test {};
-TYPED_TEST_SUITE(ClockContract, Worlds);
+TYPED_TEST_SUITE(ClockContract, ClockWorlds);
 
 TYPED_TEST(ClockContract, LocalTimeIsGmtLessTheBiasInForce) {
   TypeParam world;

@@ -16,13 +16,13 @@
 namespace sonaro {
 namespace {
 
-struct InMemory {
-  InMemory() { files.MakeFolder("/scratch"); }
+struct FilesInMemory {
+  FilesInMemory() { files.MakeFolder("/scratch"); }
   FakeFiles files;
   std::string folder = "/scratch/";
 };
 
-struct OnDisk {
+struct FilesOnDisk {
 #ifdef _WIN32
   FilesWin files;
   static constexpr char kSeparator = '\\';
@@ -56,8 +56,8 @@ class FilesContract : public testing::Test {
   World world_;
 };
 
-using Worlds = testing::Types<InMemory, OnDisk>;
-TYPED_TEST_SUITE(FilesContract, Worlds);
+using FilesWorlds = testing::Types<FilesInMemory, FilesOnDisk>;
+TYPED_TEST_SUITE(FilesContract, FilesWorlds);
 
 TYPED_TEST(FilesContract, WhatIsMissing) {
   EXPECT_FALSE(this->Disk().Open(this->In("none")));

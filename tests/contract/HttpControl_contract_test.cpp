@@ -19,7 +19,7 @@ namespace {
 
 constexpr const char* kBody = "the whole body";
 
-struct Canned {
+struct HttpCanned {
   FakeHttp network;
   std::string host = "127.0.0.1";
   std::uint16_t port = 80;
@@ -38,7 +38,7 @@ struct Canned {
 };
 
 #ifdef _WIN32
-struct OnSockets {
+struct HttpOnSockets {
   LoopbackServer server;
   HttpControlMakerWin maker{"Contract/1.0", [](HttpFault) { return std::string("why"); }};
   std::string host = "127.0.0.1";
@@ -58,9 +58,9 @@ struct OnSockets {
     PumpUntil([&] { return GetTickCount64() > end; });
   }
 };
-using Worlds = testing::Types<Canned, OnSockets>;
+using HttpWorlds = testing::Types<HttpCanned, HttpOnSockets>;
 #else
-using Worlds = testing::Types<Canned>;
+using HttpWorlds = testing::Types<HttpCanned>;
 #endif
 
 template <typename World>
@@ -77,7 +77,7 @@ class HttpContract : public testing::Test {
   World world_;
   std::unique_ptr<HttpControl> control_ = world_.Maker().Make();
 };
-TYPED_TEST_SUITE(HttpContract, Worlds);
+TYPED_TEST_SUITE(HttpContract, HttpWorlds);
 
 struct Outcome {
   const char* path;

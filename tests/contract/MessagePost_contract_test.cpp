@@ -13,7 +13,7 @@ namespace {
 constexpr const char* kCaption = "Sonaro contract \u00E9";
 using Posted = FakeMessagePost::Posted;
 
-struct Recorded {
+struct PostRecorded {
   FakeMessagePost messages;
   void OpenWindow() { messages.windows.insert(kCaption); }
   std::vector<Posted> Arrived() { return messages.posted; }
@@ -21,11 +21,11 @@ struct Recorded {
 
 #ifdef _WIN32
 // A window that was never shown, as the tray window is.
-struct OnMachine {
+struct PostOnMachine {
   MessagePostWin messages;
   HWND window = nullptr;
 
-  ~OnMachine() {
+  ~PostOnMachine() {
     if (window) DestroyWindow(window);
   }
   void OpenWindow() {
@@ -41,14 +41,14 @@ struct OnMachine {
     return arrived;
   }
 };
-using Worlds = testing::Types<Recorded, OnMachine>;
+using PostWorlds = testing::Types<PostRecorded, PostOnMachine>;
 #else
-using Worlds = testing::Types<Recorded>;
+using PostWorlds = testing::Types<PostRecorded>;
 #endif
 
 template <typename World>
 class MessagePostContract : public testing::Test {};
-TYPED_TEST_SUITE(MessagePostContract, Worlds);
+TYPED_TEST_SUITE(MessagePostContract, PostWorlds);
 
 TYPED_TEST(MessagePostContract, PostsOnlyToAWindowOfExactlyThisCaption) {
   TypeParam world;

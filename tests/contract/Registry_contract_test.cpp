@@ -12,23 +12,23 @@ namespace {
 
 constexpr const char* kTestKey = "SOFTWARE\\zumo\\SonaroContract";
 
-struct InMemory {
+struct RegistryInMemory {
   FakeRegistry registry;
 };
 
 #ifdef _WIN32
-struct OnMachine {
-  OnMachine() { Clear(); }
-  ~OnMachine() { Clear(); }
+struct RegistryOnMachine {
+  RegistryOnMachine() { Clear(); }
+  ~RegistryOnMachine() { Clear(); }
   static void Clear() {
     RegDeleteTreeA(HKEY_LOCAL_MACHINE, kTestKey);
     RegDeleteTreeA(HKEY_CURRENT_USER, kTestKey);
   }
   RegistryWin registry;
 };
-using Worlds = testing::Types<InMemory, OnMachine>;
+using RegistryWorlds = testing::Types<RegistryInMemory, RegistryOnMachine>;
 #else
-using Worlds = testing::Types<InMemory>;
+using RegistryWorlds = testing::Types<RegistryInMemory>;
 #endif
 
 template <typename World>
@@ -44,7 +44,7 @@ class RegistryContract : public testing::Test {
   World world_;
 };
 
-TYPED_TEST_SUITE(RegistryContract, Worlds);
+TYPED_TEST_SUITE(RegistryContract, RegistryWorlds);
 
 TYPED_TEST(RegistryContract, NothingIsThereAndNothingIsMadeByLooking) {
   EXPECT_FALSE(this->Read("Value"));
@@ -91,7 +91,7 @@ TYPED_TEST(RegistryContract, NamesIgnoreLetterCaseAndTheEmptyNameIsTheDefaultVal
 #ifdef _WIN32
 // What reading through the same functions could hide: the number of bytes that lie in the registry.
 TEST(RegistryWin, StoresNoTerminatingZero) {
-  const OnMachine machine;
+  const RegistryOnMachine machine;
   RegistryWin registry;
   ASSERT_TRUE(registry.CreateKey(RootKey::LocalMachine, kTestKey));
   ASSERT_TRUE(registry.WriteValue(RootKey::LocalMachine, kTestKey, "Text", ValueType::Text, "abc"));

@@ -18,13 +18,13 @@ namespace {
 
 constexpr const char* kEnding = ".sncontract";
 
-struct Recorded {
+struct ShellRecorded {
   FakeFiles files;
   FakeShell shell;
   std::string folder = "/player";
   std::string recorder = "recorder";
 
-  Recorded() { shell.files = &files; }
+  ShellRecorded() { shell.files = &files; }
   void PutFile(const std::string& name) { files.Put(folder + "/" + name, ""); }
   void Register(const std::string& program) { shell.programs[kEnding] = program; }
   std::string Echo(const std::string& text) const { return text; }
@@ -37,13 +37,13 @@ struct Recorded {
 
 #ifdef _WIN32
 // The recorder is the command interpreter, told to write what it gets into a file of its working folder.
-struct OnMachine {
+struct ShellOnMachine {
   ScratchFolder scratch;
   ShellWin shell;
   std::string folder = scratch.Path();
   std::string recorder = "C:\\windows\\system32\\cmd.exe";
 
-  ~OnMachine() {
+  ~ShellOnMachine() {
     RegDeleteTreeA(HKEY_LOCAL_MACHINE, "Software\\Classes\\.sncontract");
     RegDeleteTreeA(HKEY_LOCAL_MACHINE, "Software\\Classes\\SonaroContract");
   }
@@ -72,14 +72,14 @@ struct OnMachine {
                     static_cast<DWORD>(text.size() + 1));
   }
 };
-using Worlds = testing::Types<Recorded, OnMachine>;
+using ShellWorlds = testing::Types<ShellRecorded, ShellOnMachine>;
 #else
-using Worlds = testing::Types<Recorded>;
+using ShellWorlds = testing::Types<ShellRecorded>;
 #endif
 
 template <typename World>
 class ShellContract : public testing::Test {};
-TYPED_TEST_SUITE(ShellContract, Worlds);
+TYPED_TEST_SUITE(ShellContract, ShellWorlds);
 
 TYPED_TEST(ShellContract, FindsTheProgramOfAnExistingFileOnly) {
   TypeParam world;
@@ -111,7 +111,7 @@ TYPED_TEST(ShellContract, RunMinimisedTakesTheLineAsItStands) {
 
 #ifdef _WIN32
 TEST(ShellWin, ProgramsThatAreNotThereDoNotStart) {
-  OnMachine machine;
+  ShellOnMachine machine;
   EXPECT_FALSE(machine.shell.Open("C:\\none\\none.exe", "x", machine.folder));
   EXPECT_FALSE(machine.shell.RunMinimised("C:\\none\\none.exe x"));
 }

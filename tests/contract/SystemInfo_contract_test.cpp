@@ -11,27 +11,27 @@
 namespace sonaro {
 namespace {
 
-struct Chosen {
+struct SystemChosen {
   FakeSystemInfo info;
   std::string file = "other.ini";
   void Put(const std::string& text) { info.PutProfile(file, "Section", "Key", text); }
 };
 
 #ifdef _WIN32
-struct OnMachine {
+struct SystemOnMachine {
   SystemInfoWin info;
   ScratchFolder scratch;
   std::string file = scratch.Path() + "\\other.ini";
   void Put(const std::string& text) { std::ofstream(file) << "[Section]\nKey=" << text << '\n'; }
 };
-using Worlds = testing::Types<Chosen, OnMachine>;
+using SystemWorlds = testing::Types<SystemChosen, SystemOnMachine>;
 #else
-using Worlds = testing::Types<Chosen>;
+using SystemWorlds = testing::Types<SystemChosen>;
 #endif
 
 template <typename World>
 class SystemInfoContract : public testing::Test {};
-TYPED_TEST_SUITE(SystemInfoContract, Worlds);
+TYPED_TEST_SUITE(SystemInfoContract, SystemWorlds);
 
 TYPED_TEST(SystemInfoContract, RegionalSamples) {
   TypeParam world;

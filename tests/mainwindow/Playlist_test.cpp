@@ -2,8 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include "base/OutlineReader.h"
 #include "base/Text.h"
-#include "mainwindow/OutlineReader.h"
 
 namespace sonaro {
 namespace {

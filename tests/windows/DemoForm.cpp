@@ -18,7 +18,9 @@ ControlRow At(Kind kind, int first, int column, const char* text, int y, int hei
           .flags = flags};
 }
 
-const FormDesign& Design() {
+}  // namespace
+
+const FormDesign& DemoForm::Design() {
   static const std::vector<ControlRow> rows = [] {
     std::vector<ControlRow> all;
     all.push_back(
@@ -139,8 +141,6 @@ const FormDesign& Design() {
                                     .firstFocus = DemoForm::kPush + 3};
   return design;
 }
-
-}  // namespace
 
 DemoForm::DemoForm(FormContext& context) : Form(context, Design()) {}
 

@@ -42,6 +42,7 @@ class DemoForm final : public Form {
   DemoForm** destroyOnClick = nullptr;  // the owner's pointer: the handler deletes the form itself
 
  private:
+  static const FormDesign& Design();
   std::span<const EventRow> Events() const override;
   std::span<const TimerRow> Timers() const override;
   void OnLoad() override;

@@ -20,7 +20,7 @@ constexpr ControlRow Header(int index, const char* text, int x, int width) {
   return {.id = ViewsForm::kHeader + index, .kind = Kind::HeaderKey, .text = text, .at = {x, 164, width, 24}};
 }
 
-constexpr ControlRow Rating(int index, const char* text) {
+constexpr ControlRow RatingRow(int index, const char* text) {
   return {.id = ViewsForm::kRating + index,
           .kind = Kind::Rating,
           .text = text,
@@ -28,7 +28,9 @@ constexpr ControlRow Rating(int index, const char* text) {
           .flags = kOnGlass};
 }
 
-const FormDesign& Design() {
+}  // namespace
+
+const FormDesign& ViewsForm::Design() {
   static constexpr ControlRow kRows[] = {
       {.id = 1, .kind = Kind::TitleBar, .text = "Sonaro", .at = {50, 4, 92, 30}, .type = Type::Wordmark},
       {.kind = Kind::Dial, .at = {14, 42, 952, 44}},
@@ -51,10 +53,10 @@ const FormDesign& Design() {
       Header(3, "Station Format", 604, 112),
       {.id = ViewsForm::kList, .kind = Kind::ListView, .at = {224, 188, 492, 398}},
       {.kind = Kind::Glass, .at = {726, 140, 240, 446}, .cut = 18},
-      Rating(0, "Overall"),
-      Rating(1, "Sound"),
-      Rating(2, "Speed"),
-      Rating(3, "Website"),
+      RatingRow(0, "Overall"),
+      RatingRow(1, "Sound"),
+      RatingRow(2, "Speed"),
+      RatingRow(3, "Website"),
       {.kind = Kind::Glass, .at = {14, 599, 546, 24}},
       {.id = ViewsForm::kProgress, .kind = Kind::Progress, .at = {126, 601, 366, 20}, .flags = kOnGlass},
   };
@@ -67,6 +69,8 @@ const FormDesign& Design() {
                                          .firstFocus = ViewsForm::kList};
   return kDesign;
 }
+
+namespace {
 
 constexpr std::array<const char*, 18> kNames = {"Amber Tram FM",
                                                 "Bayside Gospel Hour",

@@ -34,6 +34,7 @@ class ViewsForm final : public Form {
   std::vector<std::string> log;  // one entry for each event: "ItemActivated 3", "NodeClick 12"
 
  private:
+  static const FormDesign& Design();
   std::span<const EventRow> Events() const override;
   void OnLoad() override;
   void Tabs_Click(int index);

@@ -1,4 +1,4 @@
-#include "mainwindow/OutlineReader.h"
+#include "base/OutlineReader.h"
 
 #include <charconv>
 #include <cstdint>
