@@ -15,7 +15,7 @@ namespace sonaro {
 
 namespace {
 
-constexpr int kSteps = 1000;  // of the progress scale
+constexpr int kScaleSteps = 1000;
 constexpr std::uint64_t kTextSteps = 20;
 constexpr std::uint64_t kQuietBytes = 256 * 1024;  // between two texts when the length is not known
 constexpr DesignSize kSize = {420, 248};
@@ -83,7 +83,7 @@ void frmUpdateDialog::Begin() {
   SetOffer(Offer::Nothing);
   SetText(butMsg + 1, LoadText(IDS_NET_CANCEL));
   ShowText(LoadText(IDS_NET_CONNECTING));
-  Progress(prgUpdate).SetProgress(0, kSteps);
+  Progress(prgUpdate).SetProgress(0, kScaleSteps);
   UpdateOpener opener;
   opener.progress = [this](const std::string& text) { SetText(lblStuff, text); };
   opener.bytes = [this](std::uint64_t bytes, std::uint64_t expected) { ShowBytes(bytes, expected); };
@@ -106,7 +106,7 @@ void frmUpdateDialog::ShowBytes(std::uint64_t bytes, std::uint64_t expected) {
   if (step != textStep_) SetText(lblStuff, BytesText(bytes, expected, strings_));
   textStep_ = step;
   if (expected != 0) {
-    Progress(prgUpdate).SetProgress(static_cast<int>(bytes * kSteps / expected), kSteps);
+    Progress(prgUpdate).SetProgress(static_cast<int>(bytes * kScaleSteps / expected), kScaleSteps);
   }
 }
 
@@ -114,7 +114,7 @@ void frmUpdateDialog::Ended(const UpdateOutcome& outcome) {
   if (unloading_) return;
   const bool updated = outcome.kind == UpdateOutcome::Kind::Updated;
   ShowText(OutcomeText(outcome, updated ? calls_.installed() : std::string(), strings_));
-  Progress(prgUpdate).SetProgress(updated ? kSteps : 0, kSteps);
+  Progress(prgUpdate).SetProgress(updated ? kScaleSteps : 0, kScaleSteps);
   SetText(butMsg + 1, LoadText(IDS_NET_CLOSE));
   ShowFailure(MayRetry(outcome));
   SetOffer(MayRetry(outcome) ? Offer::Retry : calls_.canUndo() ? Offer::Undo : Offer::Nothing);
