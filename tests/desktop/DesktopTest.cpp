@@ -116,6 +116,16 @@ HWND DesktopTest::StartAndShowMain(const std::string& arguments) {
   return window;
 }
 
+void DesktopTest::ChooseFile(const std::string& path) {
+  constexpr int kFileName = 0x47C;  // the system's number of its combo
+  HWND dialog = Running().WaitForShownWindow("#32770");
+  ASSERT_NE(dialog, nullptr);
+  ASSERT_TRUE(WaitUntil([&] { return Control(dialog, kFileName) != nullptr; }));
+  SetText(Control(dialog, kFileName), path);
+  Command(dialog, IDOK);
+  EXPECT_TRUE(WaitUntil([&] { return !IsShown(dialog); }));
+}
+
 std::vector<std::string> DesktopTest::Lines(const std::string& program, size_t count) const {
   std::vector<std::string> lines;
   WaitUntil([&] {

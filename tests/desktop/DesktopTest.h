@@ -41,6 +41,9 @@ class DesktopTest : public ::testing::Test {
   // Starts the program and waits until its main window is shown; a failure when it does not come.
   HWND StartAndShowMain(const std::string& arguments = "");
 
+  // Names the file in the system's dialog for opening or saving one, and accepts it.
+  void ChooseFile(const std::string& path);
+
   // The command lines that the recording programs were started with, after waiting for `count` of them.
   std::vector<std::string> PlayerLines(size_t count = 1) const { return Lines(realPlayer_, count); }
   std::vector<std::string> AsxLines(size_t count = 1) const { return Lines(asxPlayer_, count); }

@@ -19,16 +19,6 @@ class PersonalTest : public MainWindowTest {
     EXPECT_TRUE(Listing(main, "Your Stations"));
     EXPECT_TRUE(WaitUntil([&] { return ColumnTexts(List(main)) == names; }));
   }
-  // Names the file in the system's dialog and accepts it.
-  void ChooseFile(const std::string& path) {
-    constexpr int kFileName = 0x47C;  // the system's number of its combo
-    HWND dialog = Running().WaitForShownWindow("#32770");
-    ASSERT_NE(dialog, nullptr);
-    ASSERT_TRUE(WaitUntil([&] { return Control(dialog, kFileName) != nullptr; }));
-    SetText(Control(dialog, kFileName), path);
-    Command(dialog, IDOK);
-    EXPECT_TRUE(WaitUntil([&] { return !IsShown(dialog); }));
-  }
 };
 
 TEST_F(PersonalTest, OnesOwnStationsComeAndGoAndTheirTokensStayRight) {

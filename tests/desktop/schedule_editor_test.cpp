@@ -143,6 +143,24 @@ TEST_F(HandClockTest, AnEventBecomesAPersonalShowAndNoLongerIsOne) {
   EXPECT_TRUE(WaitUntil([&] { return RowCount(shows) == 0; }));
 }
 
+TEST_F(HandClockTest, TheScheduleIsExportedAsACalendar) {
+  WriteFile("Sched.snr",
+            "Tee früh\tN\t\t4:00 PM\t\tdaily\tpot\r\nCake\tN\t5/9/2005\t5:30 PM\t\tonce\t\r\n"
+            "Talk|||Z|||Radio X\tN\t\t\t\tlive\t\r\n");  // without a time of its own
+  HWND list = OpenList(StartAndShowMain());
+  ASSERT_TRUE(WaitUntil([&] { return IsWindowEnabled(Control(list, butExportIt)) != FALSE; }));
+  Click(Control(list, butExportIt));
+  ChooseFile(PathOf("Thursday"));  // the ending comes by itself
+  ASSERT_TRUE(WaitUntil([&] { return Exists("Thursday.ics"); }));
+  const std::string calendar = ReadFile("Thursday.ics");
+  EXPECT_TRUE(calendar.starts_with("BEGIN:VCALENDAR\r\n")) << calendar;
+  EXPECT_TRUE(calendar.ends_with("\r\nEND:VCALENDAR\r\n")) << calendar;
+  std::size_t events = 0;
+  for (std::size_t at = 0; (at = calendar.find("BEGIN:VEVENT\r\n", at)) != std::string::npos; ++at) ++events;
+  EXPECT_EQ(events, 2u);
+  EXPECT_NE(calendar.find("SUMMARY:Tee früh\r\n"), std::string::npos) << calendar;
+}
+
 TEST_F(HandClockTest, WhatCameOnWhileTheProgramWasClosedIsToldTogether) {
   WriteFile("Sched.snr",
             "Tea\tN\t\t4:00 PM\t\tdaily\t\r\nOld\tN\t5/2/2005\t4:00 PM\t\tonce\t\r\nCake\tN\t5/5/2005\t5:30 "
