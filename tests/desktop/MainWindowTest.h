@@ -19,7 +19,7 @@ class MainWindowTest : public DesktopTest {
   }
   HWND MainWithStations() {
     HWND main = StartAndShowMain();
-    Command(main, mnuActionMostPoular);
+    CommandNow(main, mnuActionMostPoular);
     EXPECT_TRUE(WaitUntil([&] { return RowCount(List(main)) > 2; }));
     return main;
   }
