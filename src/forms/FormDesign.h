@@ -156,13 +156,16 @@ struct Layout {
   std::span<const Place> places;
 };
 
-// A key of the keyboard that does what pressing the control (or choosing the menu entry) `command` does.
+// A key of the keyboard that does what pressing the control (or choosing the menu entry) `command` does. A
+// row can stand for a run of keys, each with the next command: '1' to '9' for a control array.
 enum KeyModifier : unsigned char { kPlain = 0, kShift = 1, kCtrl = 2, kAlt = 4 };
 struct KeyRow {
   int key = 0;  // virtual key code: 'F', VK_F5
   unsigned char modifiers = kPlain;
   int command = 0;
   int onlyIn = 0;  // only while this control has the focus; 0 = everywhere in the window
+  int keys = 1;
+  int controls = 1;  // from `onlyIn` on
 };
 
 struct FormDesign {

@@ -16,11 +16,13 @@ unsigned ModifiersDown() {
   return modifiers;
 }
 
+bool IsInRun(int number, int first, int count) { return number >= first && number < first + count; }
+
 bool RunKeyTable(FormParts& parts, int key, int focusedId) {
   for (const KeyRow& row : parts.design.keys) {
-    if (row.key != key || row.modifiers != ModifiersDown()) continue;
-    if (row.onlyIn != 0 && row.onlyIn != focusedId) continue;
-    parts.Press(row.command);
+    if (!IsInRun(key, row.key, row.keys) || row.modifiers != ModifiersDown()) continue;
+    if (row.onlyIn != 0 && !IsInRun(focusedId, row.onlyIn, row.controls)) continue;
+    parts.Press(row.command + key - row.key);
     return true;
   }
   if (key == VK_F1 && ModifiersDown() == kPlain && parts.Find(butHelp)) {

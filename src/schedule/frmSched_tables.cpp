@@ -67,8 +67,7 @@ const FormDesign& frmSched::Design() {
       CloseKey(660, butCancelIt),
   };
   static constexpr KeyRow kKeys[] = {
-      {.key = VK_DELETE, .command = butDeleteIt, .onlyIn = lstSched},
-      {.key = VK_DELETE, .command = butDeleteIt, .onlyIn = lstShows},
+      {.key = VK_DELETE, .command = butDeleteIt, .onlyIn = lstSched, .controls = 2},
       {.key = VK_INSERT, .command = butAddIt},
   };
   static constexpr FormDesign kDesign = {.name = "frmSched",
