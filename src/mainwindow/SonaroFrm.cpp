@@ -214,6 +214,8 @@ void SonaroFrm::butRecent_Click() {
 
 void SonaroFrm::butSplit_Click(int column) { SortBy(butSplit1 + column); }
 
+void SonaroFrm::butSplit_ContextMenu(int, POINT at) { PopUpMenu(models_.actions.SortMenu(), at); }
+
 void SonaroFrm::mnuSort_Click(int entry) {
   Call(context_.clickSound);
   SortBy(mnuSortByName + entry);

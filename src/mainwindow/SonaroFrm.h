@@ -71,6 +71,7 @@ class SonaroFrm final : public Form, private FavoritePrompts {
   void cmbFavs_SelChange();
   void butRecent_Click();
   void butSplit_Click(int column);
+  void butSplit_ContextMenu(int column, POINT at);
   void mnuSort_Click(int entry);
   void SortBy(int command);
   void butMenu_Click();

@@ -55,6 +55,7 @@ void SonaroFrm::butNewGroup_Click() {
 void SonaroFrm::DropRowOnGroup(int row, int slot) {
   if (row < 0 || row >= static_cast<int>(models_.listing.Rows().Count())) return;
   const std::string token = models_.listing.Rows().At(static_cast<std::size_t>(row)).Token();
+  if (token.empty()) return;
   auto group = static_cast<std::size_t>(slot);
   if (group >= data_.favorites.Count()) {
     if (!favorites_.AddFavoriteGroup()) return;

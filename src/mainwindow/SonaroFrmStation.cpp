@@ -50,13 +50,13 @@ void SonaroFrm::mnuActionPlay_Click(int link) {
 void SonaroFrm::mnuActionPlayExtra_Click(int link) {
   const auto index = static_cast<std::size_t>(link);
   if (index >= shown_.extraKeys.size()) return;
-  // A bare link does not tell whose it is, so the play is noted here.
-  data_.recent.AddRecent(shown_.station.Token());
   Play(shown_.extraKeys[index]);
 }
 
 void SonaroFrm::Play(const PlayKey& key) {
   const PlayRequest request = key.request;  // what is shown changes with the recent list
+  // A bare link does not tell whose it is, so the play is noted here.
+  if (request.mode == PlayMode::KeyItself) data_.recent.AddRecent(shown_.station.Token());
   player_.LaunchStation(request.key, request.mode);
   RecentChanged();
 }

@@ -37,6 +37,7 @@ std::span<const EventRow> SonaroFrm::Events() const {
       {mnuEventPersonalShow, Click, &SonaroFrm::butPersonalShow_Click},
 
       {butSplit1, Click, &SonaroFrm::butSplit_Click, 4},
+      {butSplit1, ContextMenu, &SonaroFrm::butSplit_ContextMenu, 4},
       {mnuSortByName, Click, &SonaroFrm::mnuSort_Click, 18},  // the sort menu's and the action menu's
       {lstFavs, ItemSelected, &SonaroFrm::lstFavs_ItemSelected},
       {lstFavs, ItemActivated, &SonaroFrm::lstFavs_ItemActivate},

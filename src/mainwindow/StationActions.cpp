@@ -90,7 +90,8 @@ MenuEntries StationActions::ActionMenu(const StationDetail& detail) const {
     menu.push_back(StationEntry(mnuPersonalChange, IDS_ACTION_CHANGE_PERSONAL, detail));
     menu.push_back(StationEntry(mnuPersonalDelete, IDS_ACTION_DELETE_PERSONAL, detail));
   } else {
-    menu.push_back(StationEntry(mnuActionExtraLink, IDS_ACTION_EXTRA_LINK, detail));
+    menu.push_back(selected ? StationEntry(mnuActionExtraLink, IDS_ACTION_EXTRA_LINK, detail)
+                            : Entry(mnuActionExtraLink, IDS_ACTION_EXTRA_LINK_NONE, false));
   }
   AddSeparator(menu);
   menu.push_back(Submenu(strings_.Load(IDS_ACTION_SORT), SortEntriesFor(Place::ActionMenu)));

@@ -32,7 +32,9 @@ std::string_view NameOf(View view) {
 void StationListing::ShowView(View view) {
   if (view == View::List) return ShowListView();
   state_.view = view;
-  state_.middle = view == View::YourSonaro ? Middle::EventPage : Middle::StationList;
+  state_.middle = view == View::YourSonaro                   ? Middle::EventPage
+                  : view == View::Search && webSearchIsLast_ ? Middle::WebSearch
+                                                             : Middle::StationList;
   if (view == View::Browse) tree_.Show(BrowseMode::ByCategory);
   if (view == View::PersonalPage) {
     Hold(Holds::PersonalStations, strings_.Load(IDS_LISTING_YOUR_STATIONS));
@@ -131,10 +133,16 @@ void StationListing::treeBrowse_NodeClick(const BrowseNode& node) {
 void StationListing::ShowSearch(std::string_view text, bool allWords) {
   searchText_ = text;
   searchAllWords_ = allWords;
+  webSearchIsLast_ = false;
   LeaveForList();
   state_.listingMode = ListingState::kLastSearch;
   Hold(Holds::Search, FillIn(strings_.Load(IDS_LISTING_SEARCH), {text}));
   FillHeld();
+}
+
+void StationListing::ShowWebSearch() {
+  webSearchIsLast_ = true;
+  state_.middle = Middle::WebSearch;
 }
 
 void StationListing::GroupsChanged() {

@@ -47,8 +47,9 @@ class StationListing {
   void ShowSearch(std::string_view text, bool allWords);
   // What the last search found: identifiers in the directory's order, each followed by one blank.
   const std::string& LastSearchIds() const { return foundIds_; }
-  // The middle shows what was asked of the web in place of the list.
-  void ShowWebSearch() { state_.middle = Middle::WebSearch; }
+  // The middle shows what was asked of the web in place of the list, and does so again whenever the search
+  // view comes back, until the directory is searched.
+  void ShowWebSearch();
 
   // The groups changed: fills the list again when it shows one. The selection stays on its station.
   void GroupsChanged();
@@ -77,6 +78,7 @@ class StationListing {
   ListingState state_;
   std::string searchText_;
   bool searchAllWords_ = true;
+  bool webSearchIsLast_ = false;
   std::string foundIds_;
 };
 

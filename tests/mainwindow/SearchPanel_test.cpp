@@ -69,6 +69,11 @@ TEST_F(SearchPanelTest, AWebSearchFillsTheTemplateAndLeavesTheListAlone) {
   EXPECT_EQ(settings.Setting("SearchList"), "");
   listing.ShowListView();
   EXPECT_EQ(listing.State().middle, Middle::StationList);
+  listing.ShowView(View::Search);
+  EXPECT_EQ(listing.State().middle, Middle::WebSearch) << "what was asked last";
+  panel.FindStation("rock", 0, true);
+  listing.ShowView(View::Search);
+  EXPECT_EQ(listing.State().middle, Middle::StationList);
 }
 
 }  // namespace

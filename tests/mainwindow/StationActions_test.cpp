@@ -60,8 +60,7 @@ TEST_F(StationActionsTest, WithoutAStationTheEntriesAreForAnyStationAndDisabled)
     EXPECT_FALSE(Entry(command).enabled) << command;
     EXPECT_EQ(Entry(command).command, command);
   }
-  EXPECT_EQ(Entry(mnuActionExtraLink).text,
-            Text(IDS_ACTION_EXTRA_LINK, FillIn(strings.Load(IDS_ACTION_ANY_STATION), {})));
+  EXPECT_EQ(Entry(mnuActionExtraLink).text, strings.Load(IDS_ACTION_EXTRA_LINK_NONE));
   EXPECT_EQ(Entry(mnuActionSchedule).text, strings.Load(IDS_ACTION_SCHEDULE_NONE));
 }
 
