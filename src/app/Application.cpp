@@ -223,6 +223,10 @@ MainWindowCalls Application::MakeMainWindowCalls() {
     scan_.Add(rowKeys);
     if (scanWindow_) scanWindow_->StationsAdded();
   };
+  calls.scanIsAt = [this](int x, int y) { return scanWindow_ && scanWindow_->IsAt({x, y}); };
+  calls.dropOnScan = [this](const std::string& rowKey, int x, int y) {
+    if (scanWindow_) scanWindow_->TakeDropped(rowKey, {x, y});
+  };
   calls.tellTray = [this](const std::string& text) { tray_.Tell(text); };
   calls.hideToTray = [this] { main_->Hide(); };
   calls.closeAsked = [this] { CloseAsked(); };

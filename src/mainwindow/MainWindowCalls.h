@@ -33,6 +33,10 @@ struct MainWindowCalls {
   // Other windows.
   std::function<void()> showScan;
   std::function<void(const std::vector<std::string>& rowKeys)> addToScan;
+  // A row dragged out of the main window: whether the scan's window is at that point of the screen, and what
+  // was dropped on it.
+  std::function<bool(int x, int y)> scanIsAt;
+  std::function<void(const std::string& rowKey, int x, int y)> dropOnScan;
   std::function<void()> showSchedule;
   std::function<void(const std::string& rowKey)> scheduleStation;
   std::function<void()> showUpdate;

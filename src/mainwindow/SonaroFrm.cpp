@@ -72,10 +72,12 @@ void SonaroFrm::OnLoad() {
   search_.Load();
   detail_.Load();
   yours_.Load();
-  drag_.Load([this](int slot) {
-    ShowGroupBar();
-    if (slot >= 0) SetToggle(butFavs + slot, true);
-  });
+  drag_.Load(
+      [this](int slot) {
+        ShowGroupBar();
+        if (slot >= 0) SetToggle(butFavs + slot, true);
+      },
+      calls_.scanIsAt);
   ShowPane(kProgressPane, false);
   Enable(butUpdate, calls_.showUpdate != nullptr);
   Enable(butOptions, calls_.showOptions != nullptr);
@@ -268,6 +270,7 @@ void SonaroFrm::EndDrag(const DragPane::Drop& drop) {
   using Thing = DragPane::Thing;
   if (drop.what == Thing::Row && drop.onto == Thing::Group) DropRowOnGroup(drop.from, drop.to);
   if (drop.what == Thing::Row && drop.onto == Thing::Row) MoveRow(drop.from, drop.to);
+  if (drop.what == Thing::Row && drop.onto == Thing::Scan) DropRowOnScan(drop.from, drop.at);
   if (drop.what == Thing::Group && drop.onto == Thing::Group) MoveGroup(drop.from, drop.to);
 }
 

@@ -101,6 +101,7 @@ class SonaroFrm final : public Form, private FavoritePrompts {
   void mnuActionCopyLink_Click();
   void mnuActionAddToScan_Click();
   void mnuActionAddListToScan_Click();
+  void DropRowOnScan(int row, POINT at);
   void mnuActionSchedule_Click();
   void mnuActionExtraLink_Click();
   void mnuPersonalAdd_Click();

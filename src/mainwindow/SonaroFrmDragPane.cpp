@@ -29,8 +29,9 @@ constexpr int kNoCursor = 32648;
 
 }  // namespace
 
-void DragPane::Load(std::function<void(int slot)> over) {
+void DragPane::Load(std::function<void(int slot)> over, std::function<bool(int x, int y)> scanIsAt) {
   over_ = std::move(over);
+  scanIsAt_ = std::move(scanIsAt);
   for (int slot = 0; slot < kSlots; ++slot) {
     SetWindowSubclass(form_.Control(butFavs + slot), GroupKeyProcedure, static_cast<UINT_PTR>(slot),
                       reinterpret_cast<DWORD_PTR>(this));
@@ -106,8 +107,11 @@ int DragPane::SlotAt(POINT screen) const {
 }
 
 DragPane::Drop DragPane::DropAt(POINT screen) const {
-  Drop drop{what_, from_, Thing::Nothing, 0};
-  if (const int slot = SlotAt(screen); slot >= 0) {
+  Drop drop{what_, from_, Thing::Nothing, 0, screen};
+  // First: it may lie over the main window.
+  if (what_ == Thing::Row && scanIsAt_ && scanIsAt_(screen.x, screen.y)) {
+    drop.onto = Thing::Scan;
+  } else if (const int slot = SlotAt(screen); slot >= 0) {
     drop.onto = Thing::Group;
     drop.to = slot;
   } else if (what_ == Thing::Row && WindowFromPoint(screen) == form_.Control(lstFavs)) {

@@ -83,6 +83,13 @@ void SonaroFrm::mnuActionAddListToScan_Click() {
   if (!keys.empty() && calls_.addToScan) calls_.addToScan(keys);
 }
 
+void SonaroFrm::DropRowOnScan(int row, POINT at) {
+  const StationRows& rows = models_.listing.Rows();
+  if (row < 0 || row >= static_cast<int>(rows.Count()) || !calls_.dropOnScan) return;
+  const StationRow& dropped = rows.At(static_cast<std::size_t>(row));
+  if (!dropped.lost) calls_.dropOnScan(dropped.key, static_cast<int>(at.x), static_cast<int>(at.y));
+}
+
 void SonaroFrm::mnuActionSchedule_Click() {
   if (shown_.station && calls_.scheduleStation) calls_.scheduleStation(shown_.station.RowKey());
 }

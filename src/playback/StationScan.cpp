@@ -255,10 +255,15 @@ void StationScan::SetScanTime(int seconds) {
   if (!current_) scanTime_ = seconds;
 }
 
-void StationScan::ReadScanTime() {
+int StationScan::StoredScanTime() const {
   const std::int64_t seconds = NumberValue(reg_.Setting(setting::kScanTime));
-  scanTime_ = IsScanTime(seconds) ? static_cast<int>(seconds) : kDefault;
-  if (scanTime_ != seconds) reg_.SetSetting(setting::kScanTime, std::to_string(scanTime_));
+  return IsScanTime(seconds) ? static_cast<int>(seconds) : kDefault;
+}
+
+void StationScan::ReadScanTime() {
+  scanTime_ = StoredScanTime();
+  if (NumberValue(reg_.Setting(setting::kScanTime)) != scanTime_)
+    reg_.SetSetting(setting::kScanTime, std::to_string(scanTime_));
 }
 
 void StationScan::ShowState() {

@@ -109,6 +109,8 @@ class StationScan {
 
   // The dialog "Set Scan Time". Out of range: ignored. The station that plays keeps its time.
   void SetScanTime(int seconds);
+  // The time that was set last: that of the next station.
+  int StoredScanTime() const;
 
  private:
   // Values of the elapsed counter that are no seconds: from kNeverShown up nothing is shown.

@@ -71,6 +71,16 @@ void frmScan::StationsAdded() {
   ShowLists();
 }
 
+bool frmScan::IsAt(POINT screen) const {
+  return IsOpen() && GetAncestor(WindowFromPoint(screen), GA_ROOT) == Window();
+}
+
+void frmScan::TakeDropped(const std::string& rowKey, POINT screen) {
+  const bool onQueue = WindowFromPoint(screen) == Control(lstToScan);
+  const int row = onQueue ? List(lstToScan).RowAt(screen) : -1;
+  scan_.Add({&rowKey, 1}, row >= 0 ? std::optional(static_cast<std::size_t>(row)) : std::nullopt);
+}
+
 void frmScan::ShowState() {
   if (!IsOpen()) return;
   SetText(butStartIt, scan_.StartCaption());
@@ -138,7 +148,7 @@ void frmScan::butRemoveStationIt_Click() {
 }
 
 void frmScan::butScanTimeIt_Click() {
-  frmScanTime dialog(context_, scan_.ScanTime());
+  frmScanTime dialog(context_, scan_.StoredScanTime());
   if (dialog.ShowModal(Window()) == 1) scan_.SetScanTime(dialog.Chosen());
 }
 

@@ -27,6 +27,10 @@ class frmScan final : public Form, private ScanView {
 
   // Stations were added to the queue from elsewhere.
   void StationsAdded();
+  // Whether the window is what the user sees at the point of the screen.
+  bool IsAt(POINT screen) const;
+  // A station was dropped there: it comes before the row of the queue at the point, else at the end.
+  void TakeDropped(const std::string& rowKey, POINT screen);
 
  private:
   class QueueRows final : public ListModel {

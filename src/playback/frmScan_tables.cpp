@@ -116,7 +116,8 @@ const FormDesign& frmScan::Design() {
       {butCloseIt, {400, 12, 28, 22}},
   };
   static constexpr Layout kLayouts[] = {{.size = {440, 150}, .outline = "scc44", .places = kCompact}};
-  static constexpr KeyRow kKeys[] = {{.key = VK_DELETE, .command = butRemoveStationIt, .onlyIn = lstToScan}};
+  static constexpr KeyRow kKeys[] = {{.key = VK_DELETE, .command = butRemoveStationIt, .onlyIn = lstToScan},
+                                     {.key = 'F', .modifiers = kAlt, .command = butFullIt}};
   static constexpr FormDesign kDesign = {.name = "frmScan",
                                          .caption = IDS_SCAN_W_TITLE,
                                          .size = {720, 480},

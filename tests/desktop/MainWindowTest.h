@@ -14,6 +14,16 @@ class MainWindowTest : public DesktopTest {
 
  protected:
   HWND List(HWND main) { return Control(main, lstFavs); }
+  static POINT MiddleOf(HWND window) {
+    const RECT box = BoundsOf(window);
+    return {(box.left + box.right) / 2, (box.top + box.bottom) / 2};
+  }
+  // A point on the name of a row of a list.
+  static POINT RowOf(HWND list, int row) {
+    const RECT box = BoundsOf(list);
+    return {box.left + 60, box.top + 11 + 22 * row};
+  }
+  POINT RowAt(HWND main, int row) { return RowOf(List(main), row); }
   bool Listing(HWND main, const std::string& caption) {
     return WaitUntil([&] { return TextOf(Control(main, lblListing)) == caption; });
   }

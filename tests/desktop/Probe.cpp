@@ -75,6 +75,13 @@ WORD KeyOf(Modifier modifier) {
   return 0;
 }
 
+bool HasTakenMouse(HWND window) {
+  GUITHREADINFO info{};
+  info.cbSize = sizeof(info);
+  return GetGUIThreadInfo(GetWindowThreadProcessId(window, nullptr), &info) &&
+         (info.hwndCapture != nullptr || info.hwndMoveSize != nullptr);
+}
+
 }  // namespace
 
 HWND FindTopWindow(DWORD processId, const std::string& className, const std::string& caption) {
@@ -219,8 +226,13 @@ void ClickAt(int screenX, int screenY, bool rightButton) {
 
 void DragFromTo(POINT from, POINT to) {
   constexpr int kSteps = 8;
+  constexpr int kFirstStep = 8;
   SetCursorPos(from.x, from.y);
   SendInputs({MouseInput(MOUSEEVENTF_LEFTDOWN)});
+  // A window takes the mouse with the first movement; before it has, a place further on may be another
+  // window's.
+  SetCursorPos(from.x + (to.x > from.x ? kFirstStep : -kFirstStep), from.y);
+  WaitUntil([window = WindowFromPoint(from)] { return HasTakenMouse(window); }, std::chrono::seconds(2));
   for (int i = 1; i <= kSteps; ++i) {
     Sleep(20);  // the move loop takes the pointer's places one by one
     SetCursorPos(from.x + (to.x - from.x) * i / kSteps, from.y + (to.y - from.y) * i / kSteps);

@@ -11,14 +11,6 @@ class GroupTest : public MainWindowTest {
     WriteFile("favs.snr", file);
     return MainWithStations();
   }
-  static POINT MiddleOf(HWND window) {
-    const RECT box = BoundsOf(window);
-    return {(box.left + box.right) / 2, (box.top + box.bottom) / 2};
-  }
-  POINT RowAt(HWND main, int row) {
-    const RECT box = BoundsOf(List(main));
-    return {box.left + 60, box.top + 11 + 22 * row};
-  }
 };
 
 TEST_F(GroupTest, GroupsLiveFromTheFirstToTheRefusedEleventh) {

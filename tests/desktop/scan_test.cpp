@@ -10,6 +10,14 @@ class ScanTest : public MainWindowTest {
   bool Shows(HWND scan, int label, const std::string& text) {
     return WaitUntil([&] { return TextOf(Control(scan, label)) == text; });
   }
+  // Drags until the queue has one row more than `rows`: the keyboard comes to the dragged row's window late
+  // on this display, and that ends a drag.
+  bool DropOn(HWND queue, int rows, POINT from, POINT to) {
+    return WaitUntil([&] {
+      DragFromTo(from, to);
+      return WaitUntil([&] { return RowCount(queue) == rows + 1; }, std::chrono::seconds(2));
+    });
+  }
   // Turns the window's clock on by seconds, at most `most`, until the label shows the text; how many it took.
   int TicksUntil(HWND scan, int label, const std::string& text, int most) {
     int ticks = 0;
@@ -52,6 +60,22 @@ TEST_F(ScanTest, AScanPlaysItsQueueOneAfterAnother) {
   Click(Control(scan, butFullIt));
   EXPECT_TRUE(WaitUntil([&] { return !IsShown(queue); }));
   SaveShot("compact");
+}
+
+TEST_F(ScanTest, StationsAreDroppedIntoTheQueue) {
+  HWND main = MainWithStations();
+  const std::vector<std::string> names = ColumnTexts(List(main));
+  Command(main, mnuScan);
+  HWND scan = Dialog("frmScan");
+  // A click raises the main window, so the queue lies below it.
+  SetWindowPos(main, nullptr, 0, 0, 0, 0, SWP_NOSIZE | SWP_NOZORDER);
+  SetWindowPos(scan, nullptr, 500, 480, 0, 0, SWP_NOSIZE | SWP_NOZORDER);
+  HWND queue = Control(scan, lstToScan);
+  ASSERT_TRUE(WaitUntil([&] { return BoundsOf(queue).top >= BoundsOf(main).bottom; }));
+  ASSERT_TRUE(DropOn(queue, 0, RowAt(main, 1), MiddleOf(queue)));
+  ASSERT_TRUE(DropOn(queue, 1, RowAt(main, 2), MiddleOf(queue)));
+  ASSERT_TRUE(DropOn(queue, 2, RowAt(main, 0), RowOf(queue, 1)));
+  EXPECT_EQ(ColumnTexts(queue), (std::vector<std::string>{names[1], names[0], names[2]}));
 }
 
 TEST_F(ScanTest, ThreeStationsOfTwentySecondsOneOfThemMute) {

@@ -206,6 +206,7 @@ TEST_F(StationScanTest, ScanTimeIsReadWhenAStationIsOver) {
   scan_.SetScanTime(60);
   scan_.SetScanTime(19);
   EXPECT_EQ(reg.Setting("ScanTime"), "60");
+  EXPECT_EQ(scan_.StoredScanTime(), 60) << "while the station that plays still has 40";
   TickFor(39);
   EXPECT_EQ(Playing(), "1://x");
   TickFor(1);
