@@ -1,11 +1,8 @@
 #include "app/MsgboxFrm.h"
 
-#include <algorithm>
-
 #include "app/HelpPages.h"
 #include "forms/ControlIds.h"
 #include "forms/DialogRows.h"
-#include "forms/Painter.h"
 #include "forms/WideText.h"
 #include "resources/ids.h"
 
@@ -13,9 +10,6 @@ namespace sonaro {
 
 namespace {
 
-constexpr DesignSize kSize = {420, 248};
-constexpr int kTextWidth = 336;
-constexpr int kTextHeight = 132;
 constexpr const char* kFilesMissing = "Files Missing";
 
 }  // namespace
@@ -24,13 +18,8 @@ const FormDesign& MsgboxFrm::Design() {
   static constexpr unsigned char kFoot = kLeft | kBottom;
   static constexpr ControlRow kControls[] = {
       {.id = lblTitle, .kind = Kind::TitleBar, .at = {40, 4, 156, 26}},
-      {.id = picStuff, .kind = Kind::Label, .at = {20, 52, 36, 36}, .icon = Icon::Info, .ink = Ink::Signal},
-      {.id = lblMsg,
-       .kind = Kind::StateLabel,
-       .at = {68, 50, kTextWidth, kTextHeight},
-       .flags = kWrap | kNoPrefix,
-       .anchors = kLeft | kTop | kBottom,
-       .type = Type::Message},
+      MessagePicture(),
+      MessageText(lblMsg, 132),
       {.kind = Kind::Groove, .at = {14, 190, 392, 2}, .anchors = kFoot},
       {.id = chkDontAsk,
        .kind = Kind::CheckBox,
@@ -44,7 +33,7 @@ const FormDesign& MsgboxFrm::Design() {
   };
   static constexpr FormDesign kDesign = {.name = "MsgboxFrm",
                                          .caption = IDS_APP_TITLE,
-                                         .size = kSize,
+                                         .size = {420, 248},
                                          .outline = "fdf01",
                                          .controls = kControls,
                                          .firstFocus = butMsg};
@@ -75,22 +64,15 @@ void MsgboxFrm::OnLoad() {
     SetIcon(picStuff, Icon::Warn);
     SetInk(picStuff, Ink::Accent);
   }
-  SetText(lblMsg, message_.text);
+  SetTextAndGrow(lblMsg, message_.text);
   SetText(butMsg, message_.firstButton);
   SetText(butMsg + 1, message_.secondButton);
   ShowControl(butMsg + 1, !message_.secondButton.empty());
   SetText(chkDontAsk, message_.dontAskText);
   ShowControl(chkDontAsk, !message_.dontAskText.empty());
-  GrowForText();
 }
 
 void MsgboxFrm::OnUnload() { dontAskAgain_ = IsChecked(chkDontAsk); }
-
-void MsgboxFrm::GrowForText() {
-  const Painter painter(FaceplateColors{}, 96);
-  const int needed = painter.WrappedHeight(Widen(message_.text), Type::Message, kTextWidth);
-  if (needed > kTextHeight) Resize({kSize.width, kSize.height + needed - kTextHeight});
-}
 
 // Leaving without an answer: the last key, as Esc does everywhere.
 void MsgboxFrm::OnEscape() {

@@ -24,7 +24,6 @@ class MsgboxFrm final : public Form {
   void OnLoad() override;
   void OnUnload() override;
   void OnEscape() override;
-  void GrowForText();
 
   void butMsg_Click(int index);
   void butCloseIt_Click() { Close(0); }

@@ -1,5 +1,6 @@
 #include "forms/Form.h"
 
+#include <algorithm>
 #include <vector>
 
 #include "app/Strings.h"
@@ -8,6 +9,8 @@
 #include "forms/FormParts.h"
 #include "forms/HighContrast.h"
 #include "forms/MessageLoop.h"
+#include "forms/Painter.h"
+#include "forms/WideText.h"
 
 namespace sonaro {
 namespace {
@@ -156,6 +159,17 @@ void Form::UseLayout(int layout) {
 void Form::Resize(DesignSize size) {
   parts_->grown = size;
   if (parts_->window) parts_->ResizeWindow();
+}
+
+void Form::SetTextAndGrow(int id, std::string_view text) {
+  SetText(id, text);
+  const FormItem* item = parts_->Find(id);
+  if (!item) return;
+  const Painter asDesigned(FaceplateColors{}, 96);
+  const ControlRow& row = *item->row;
+  const int needed = asDesigned.WrappedHeight(Widen(text), FontTypeOf(row), row.at.width);
+  const DesignSize size = parts_->design.size;
+  Resize({size.width, size.height + std::max(0, needed - row.at.height)});
 }
 
 void Form::MoveToPixels(int left, int top) {

@@ -171,6 +171,9 @@ class Form {
   // Size, place and layout.
   void UseLayout(int layout);  // 0 = the design; keeps the top-left corner, changes outline and places
   int CurrentLayout() const;
+  // Sets the text of a wrapped label that is anchored to top and bottom, and makes the window as much higher
+  // than designed as the text needs.
+  void SetTextAndGrow(int id, std::string_view text);
   void Resize(DesignSize size);              // a message box that grows; anchors move the controls
   void MoveToPixels(int left, int top);      // kept inside the visible screens
   void CentreOn(HWND other);                 // nullptr: the work area

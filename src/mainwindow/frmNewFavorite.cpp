@@ -17,11 +17,7 @@ constexpr int kMostNameBytes = 100;
 FormDesign frmNewFavorite::DesignOf(const char* name, int title) {
   static constexpr ControlRow kControls[] = {
       {.id = lblTitle, .kind = Kind::TitleBar, .at = {40, 4, 300, 26}},
-      {.kind = Kind::Label,
-       .text = IDS_DLG_GROUP_NAME,
-       .at = {14, 60, 392, 24},
-       .type = Type::BodyStrong,
-       .ink = Ink::Muted},
+      Caption(IDS_DLG_GROUP_NAME, {14, 60, 392, 24}),
       {.id = txtGroupName, .kind = Kind::Edit, .at = {14, 88, 392, 28}},
       {.kind = Kind::Groove, .at = {14, 190, 392, 2}},
       OkKey({214, 201, 92, 30}, kDisabled),

@@ -1,12 +1,8 @@
 #include "net/frmUpdateDialog.h"
 
-#include <algorithm>
-
 #include "forms/ControlIds.h"
 #include "forms/DialogRows.h"
-#include "forms/Painter.h"
 #include "forms/ProgressScale.h"
-#include "forms/WideText.h"
 #include "net/UpdateText.h"
 #include "net/frmInetUpdate.h"
 #include "resources/ids.h"
@@ -18,9 +14,6 @@ namespace {
 constexpr int kScaleSteps = 1000;
 constexpr std::uint64_t kTextSteps = 20;
 constexpr std::uint64_t kQuietBytes = 256 * 1024;  // between two texts when the length is not known
-constexpr DesignSize kSize = {420, 248};
-constexpr int kTextWidth = 336;
-constexpr int kTextHeight = 104;
 
 }  // namespace
 
@@ -28,13 +21,8 @@ const FormDesign& frmUpdateDialog::Design() {
   static constexpr unsigned char kFoot = kLeft | kBottom;
   static constexpr ControlRow kControls[] = {
       {.id = lblTitle, .kind = Kind::TitleBar, .text = IDS_NET_UPDATE_TITLE, .at = {40, 4, 156, 26}},
-      {.id = picStuff, .kind = Kind::Label, .at = {20, 52, 36, 36}, .icon = Icon::Info, .ink = Ink::Signal},
-      {.id = lblStuff,
-       .kind = Kind::StateLabel,
-       .at = {68, 50, kTextWidth, kTextHeight},
-       .flags = kWrap | kNoPrefix,
-       .anchors = kLeft | kTop | kBottom,
-       .type = Type::Message},
+      MessagePicture(),
+      MessageText(lblStuff, 104),
       {.id = prgUpdate, .kind = Kind::Progress, .at = {68, 160, 336, 20}, .anchors = kFoot},
       {.kind = Kind::Groove, .at = {14, 190, 392, 2}, .anchors = kFoot},
       {.id = butMsg, .kind = Kind::PushKey, .at = {172, 202, 128, 28}, .flags = kHidden, .anchors = kFoot},
@@ -48,7 +36,7 @@ const FormDesign& frmUpdateDialog::Design() {
   };
   static constexpr FormDesign kDesign = {.name = "MsgboxFrm",
                                          .caption = IDS_NET_UPDATE_TITLE,
-                                         .size = kSize,
+                                         .size = {420, 248},
                                          .outline = "fdf01",
                                          .controls = kControls,
                                          .firstFocus = butMsg + 1};
@@ -82,7 +70,7 @@ void frmUpdateDialog::Begin() {
   ShowFailure(false);
   SetOffer(Offer::Nothing);
   SetText(butMsg + 1, LoadText(IDS_NET_CANCEL));
-  ShowText(LoadText(IDS_NET_CONNECTING));
+  SetTextAndGrow(lblStuff, LoadText(IDS_NET_CONNECTING));
   Progress(prgUpdate).SetProgress(0, kScaleSteps);
   UpdateOpener opener;
   opener.progress = [this](const std::string& text) { SetText(lblStuff, text); };
@@ -90,14 +78,6 @@ void frmUpdateDialog::Begin() {
   opener.finished = [this](const UpdateOutcome& outcome) { Ended(outcome); };
   update_ = calls_.begin(std::move(opener));
   update_->Load();
-}
-
-// The report names stations of the user's and may be long.
-void frmUpdateDialog::ShowText(const std::string& text) {
-  SetText(lblStuff, text);
-  const Painter painter(FaceplateColors{}, 96);
-  const int needed = painter.WrappedHeight(Widen(text), Type::Message, kTextWidth);
-  Resize({kSize.width, kSize.height + std::max(0, needed - kTextHeight)});
 }
 
 // The text changes in steps: a screen reader says each new one.
@@ -113,7 +93,7 @@ void frmUpdateDialog::ShowBytes(std::uint64_t bytes, std::uint64_t expected) {
 void frmUpdateDialog::Ended(const UpdateOutcome& outcome) {
   if (unloading_) return;
   const bool updated = outcome.kind == UpdateOutcome::Kind::Updated;
-  ShowText(OutcomeText(outcome, updated ? calls_.installed() : std::string(), strings_));
+  SetTextAndGrow(lblStuff, OutcomeText(outcome, updated ? calls_.installed() : std::string(), strings_));
   Progress(prgUpdate).SetProgress(updated ? kScaleSteps : 0, kScaleSteps);
   SetText(butMsg + 1, LoadText(IDS_NET_CLOSE));
   ShowFailure(MayRetry(outcome));
@@ -137,7 +117,7 @@ void frmUpdateDialog::butMsg_Click() {
   if (offer_ == Offer::Retry) {
     Begin();
   } else if (offer_ == Offer::Undo) {
-    ShowText(LoadText(calls_.undo() ? IDS_NET_UNDONE : IDS_NET_NOT_UNDONE));
+    SetTextAndGrow(lblStuff, LoadText(calls_.undo() ? IDS_NET_UNDONE : IDS_NET_NOT_UNDONE));
     SetOffer(Offer::Nothing);
     Focus(butMsg + 1);
   }

@@ -43,7 +43,6 @@ class frmUpdateDialog final : public Form {
   void Ended(const UpdateOutcome& outcome);
   void SetOffer(Offer offer);
   void ShowFailure(bool failed);
-  void ShowText(const std::string& text);
   void ShowBytes(std::uint64_t bytes, std::uint64_t expected);
 
   void butMsg_Click();

@@ -30,8 +30,8 @@ bool Sooner(const std::optional<DateTime>& a, const std::optional<DateTime>& b) 
   return a.has_value() != b.has_value() ? a.has_value() : a < b;
 }
 
-ScheduleRow RowOf(const ScheduleStore& store, ScheduleCalendar& calendar, std::size_t slot,
-                  const DateTime& now) {
+ScheduleRow RowOfSlot(const ScheduleStore& store, ScheduleCalendar& calendar, std::size_t slot,
+                      const DateTime& now) {
   const ScheduleItem& item = store.Item(slot);
   return {.key = "S" + std::to_string(slot) + "\t" + item.action,
           .at = calendar.Next(slot, now),
@@ -50,7 +50,7 @@ std::vector<ScheduleRow> ScheduleRows(const ScheduleStore& store, ScheduleCalend
                                       const DateTime& now, ClockStyle style) {
   std::vector<ScheduleRow> rows;
   for (std::size_t slot = 0; slot < store.SlotCount(); ++slot) {
-    if (!store.Item(slot).Free()) rows.push_back(RowOf(store, calendar, slot, now));
+    if (!store.Item(slot).Free()) rows.push_back(RowOfSlot(store, calendar, slot, now));
   }
   FillNext(rows, now, style);
   return rows;
@@ -65,7 +65,7 @@ std::vector<ScheduleRow> ShowRows(PersonalShows& shows, const ScheduleStore& sto
     ScheduleRow shown;
     for (std::size_t slot = 0; slot < store.SlotCount(); ++slot) {
       if (!EqualIgnoringCase(SplitItemName(store.Item(slot).name).name, name)) continue;
-      ScheduleRow row = RowOf(store, calendar, slot, now);
+      ScheduleRow row = RowOfSlot(store, calendar, slot, now);
       if (shown.key.empty() || Sooner(row.at, shown.at)) shown = std::move(row);
     }
     if (!shown.at) shown.at = nextBroadcast(name);

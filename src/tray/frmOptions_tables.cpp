@@ -25,7 +25,7 @@ constexpr ControlRow Box(int id, int text, int y) {
   return {.id = id, .kind = Kind::CheckBox, .text = text, .at = {kBeside, y, 290, 24}};
 }
 
-constexpr ControlRow Caption(int text, DesignRect at) {
+constexpr ControlRow PlainCaption(int text, DesignRect at) {
   return {.kind = Kind::Label, .text = text, .at = at, .ink = Ink::Muted};
 }
 
@@ -41,7 +41,7 @@ const FormDesign& frmOptions::Design() {
 
       Heading(IDS_OPTIONS_GENERAL, 46),
       Box(chkStartWindows, IDS_OPTIONS_START_WINDOWS, 46),
-      Caption(IDS_OPTIONS_AFTER_CLOSE, {kBeside, 74, 208, 28}),
+      PlainCaption(IDS_OPTIONS_AFTER_CLOSE, {kBeside, 74, 208, 28}),
       {.id = cmbAfterClose, .kind = Kind::Combo, .at = {386, 74, 200, 28}},
 
       Line(108),
@@ -63,9 +63,9 @@ const FormDesign& frmOptions::Design() {
        .at = {kBeside, 202, 180, 24}},
       Key(butFindProxyIt, IDS_OPTIONS_FIND_PROXY, {354, 200, 112, 28}),
       Key(butTestProxyIt, IDS_OPTIONS_TEST_PROXY, {474, 200, 112, 28}),
-      Caption(IDS_OPTIONS_ADDRESS, {194, 234, 60, 28}),
+      PlainCaption(IDS_OPTIONS_ADDRESS, {194, 234, 60, 28}),
       {.id = txtProxy, .kind = Kind::Edit, .at = {254, 234, 190, 28}},
-      Caption(IDS_OPTIONS_PORT, {454, 234, 34, 28}),
+      PlainCaption(IDS_OPTIONS_PORT, {454, 234, 34, 28}),
       {.id = txtPort, .kind = Kind::Edit, .at = {490, 234, 96, 28}},
       {.id = lblOptionsInfo, .kind = Kind::StateLabel, .at = {194, 264, 392, 34}, .flags = kWrap | kNoPrefix},
 
