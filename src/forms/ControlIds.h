@@ -297,6 +297,7 @@ inline constexpr int mnuActionSchedule = 3161;
 inline constexpr int mnuActionExtraLink = 3162;
 inline constexpr int mnuActionMoveUp = 3163;
 inline constexpr int mnuActionMoveDown = 3164;
+inline constexpr int mnuRemoveRow = 3175;             // a key only: what removing means for the list on show
 inline constexpr int mnuActionStationToGroup = 3165;  // 10 numbers: one for each group key
 // Favourite groups: the group bar's own menu and the program menu.
 inline constexpr int mnuAddFavGroupButton = 3191;

@@ -131,6 +131,7 @@ class SonaroFrm final : public Form, private FavoritePrompts {
   void mnuActionStationToFavList_Click();
   void mnuActionStationToGroup_Click(int group);
   void mnuActionRemoveFromFavList_Click();
+  void mnuRemoveRow_Click();
   void mnuActionMoveUp_Click();
   void mnuActionMoveDown_Click();
   void lstEvents_ItemSelected(int row);

@@ -132,6 +132,12 @@ void SonaroFrm::mnuActionRemoveFromFavList_Click() {
   ShowEverything();
 }
 
+// What removing means for the list on show: a group loses a member, the user's own stations one of them.
+void SonaroFrm::mnuRemoveRow_Click() {
+  const bool ownStations = models_.listing.State().holds == Holds::PersonalStations;
+  ownStations ? mnuPersonalDelete_Click() : mnuActionRemoveFromFavList_Click();
+}
+
 void SonaroFrm::mnuActionMoveUp_Click() { MoveStation(-1); }
 
 void SonaroFrm::mnuActionMoveDown_Click() { MoveStation(1); }

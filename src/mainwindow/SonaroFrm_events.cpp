@@ -73,6 +73,7 @@ std::span<const EventRow> SonaroFrm::Events() const {
       {mnuActionStationToFavList, Click, &SonaroFrm::mnuActionStationToFavList_Click},
       {mnuActionStationToGroup, Click, &SonaroFrm::mnuActionStationToGroup_Click, 10},
       {mnuActionRemoveFromFavList, Click, &SonaroFrm::mnuActionRemoveFromFavList_Click},
+      {mnuRemoveRow, Click, &SonaroFrm::mnuRemoveRow_Click},
       {mnuActionMoveUp, Click, &SonaroFrm::mnuActionMoveUp_Click},
       {mnuActionMoveDown, Click, &SonaroFrm::mnuActionMoveDown_Click},
 

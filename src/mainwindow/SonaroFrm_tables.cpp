@@ -333,7 +333,7 @@ constexpr KeyRow kKeys[] = {
     {VK_F2, kPlain, mnuFavRenameFav},
     {VK_RETURN, kShift, mnuActionPlayTwo, lstFavs},
     {VK_RETURN, kCtrl, mnuActionPlayThree, lstFavs},
-    {VK_DELETE, kPlain, mnuActionRemoveFromFavList, lstFavs},
+    {VK_DELETE, kPlain, mnuRemoveRow, lstFavs},
     {VK_DELETE, kPlain, butRemoveGroup, lstGroups},
     {.key = VK_DELETE, .command = mnuFavDeleteFav, .onlyIn = butFavs, .controls = 10},
     {VK_UP, kAlt, mnuActionMoveUp, lstFavs},

@@ -55,8 +55,10 @@ TEST_F(PersonalTest, OnesOwnStationsComeAndGoAndTheirTokensStayRight) {
   SetText(Control(dialog, txtStationName), "Garage 2");
   EndWith(main, dialog, butOKIt);
   ShowYours(main, {"Garage 2", "Käsekuchen", "Радио"});
-  SelectRow(List(main), 1);
-  Command(main, mnuPersonalDelete);
+  const POINT row = RowAt(main, 1);
+  ClickAt(row.x, row.y);
+  ASSERT_TRUE(WaitUntil([&] { return FocusOf(main) == List(main); }));
+  PressKey(main, VK_DELETE);
   AnswerBox(main, butMsg);
   ShowYours(main, {"Garage 2", "Радио"});
   AddStation(main, "Fourth", "http://127.0.0.1:9/4");
