@@ -217,6 +217,8 @@ MainWindowCalls Application::MakeMainWindowCalls() {
     schedule_->ScheduleStation(main_->Window(), rowKey);
   };
   calls.showUpdate = [this] { service_->ShowUpdate(main_->Window()); };
+  calls.canUndoUpdate = [this] { return service_->CanUndoUpdate(); };
+  calls.undoUpdate = [this] { service_->OfferUndo(main_->Window()); };
   calls.showOptions = [this] { ShowOptions(main_->Window()); };
   calls.showScan = [this] { ShowScan(); };
   calls.addToScan = [this](const std::vector<std::string>& rowKeys) {

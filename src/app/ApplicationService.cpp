@@ -25,8 +25,11 @@ UpdateNeeds ApplicationService::MakeUpdateNeeds() {
   return {needs_.reg, needs_.data, needs_.strings, install_, needs_.platform.http, {}};
 }
 
-void ApplicationService::ShowUpdate(HWND owner) {
-  if (dialog_ && dialog_->IsOpen()) {
+void ApplicationService::ShowUpdate(HWND owner) { OpenDialog(owner, UpdateOpening::Begin); }
+void ApplicationService::OfferUndo(HWND owner) { OpenDialog(owner, UpdateOpening::OfferUndo); }
+
+void ApplicationService::OpenDialog(HWND owner, UpdateOpening opening) {
+  if (dialog_ && dialog_->IsUpdating()) {
     dialog_->Show(owner);
     return;
   }
@@ -37,7 +40,7 @@ void ApplicationService::ShowUpdate(HWND owner) {
   calls.canUndo = [this] { return install_.CanUndo(); };
   calls.undo = [this] { return Undo(); };
   calls.help = [this] { needs_.help.OpenHelpPage("index.html"); };
-  dialog_ = std::make_unique<frmUpdateDialog>(needs_.context, std::move(calls));
+  dialog_ = std::make_unique<frmUpdateDialog>(needs_.context, std::move(calls), opening);
   dialog_->Show(owner);
 }
 

@@ -22,6 +22,7 @@ class StatList;
 class Strings;
 class frmInetUpdate;
 class frmUpdateDialog;
+enum class UpdateOpening;
 struct UpdateOpener;
 
 class ApplicationService {
@@ -53,6 +54,9 @@ class ApplicationService {
 
   // The update dialog; an update that runs unwatched makes way for it.
   void ShowUpdate(HWND owner);
+  // The same dialog, with nothing but the way back to the station list of before the last update.
+  bool CanUndoUpdate() const { return install_.CanUndo(); }
+  void OfferUndo(HWND owner);
   // Once, when the program has finished loading: an update that is on the to-do list, unwatched.
   void RunPendingWork();
   void TestProxy(HWND owner, const std::string& address, const std::string& port);
@@ -63,6 +67,7 @@ class ApplicationService {
   std::string BrowserProxy();
 
  private:
+  void OpenDialog(HWND owner, UpdateOpening opening);
   UpdateNeeds MakeUpdateNeeds();
   std::unique_ptr<frmInetUpdate> BeginWatched(UpdateOpener opener);
   UpdateOpener AlsoInTheMainWindow(UpdateOpener opener);

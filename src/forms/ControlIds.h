@@ -335,6 +335,7 @@ inline constexpr int mnuKeys = 3243;
 inline constexpr int mnuHideToTray = 3244;
 inline constexpr int mnuExit = 3245;
 inline constexpr int mnuViewPersonalPage = 3246;
+inline constexpr int mnuUndoUpdate = 3247;
 // The menu of an event.
 inline constexpr int mnuEventNotifyMe = 3251;
 inline constexpr int mnuEventPersonalShow = 3252;

@@ -40,6 +40,8 @@ struct MainWindowCalls {
   std::function<void()> showSchedule;
   std::function<void(const std::string& rowKey)> scheduleStation;
   std::function<void()> showUpdate;
+  std::function<bool()> canUndoUpdate;
+  std::function<void()> undoUpdate;
   std::function<void()> showOptions;
   std::function<void(int index)> editPersonalStation;  // 0: a new one
   std::function<void(int index)> deletePersonalStation;

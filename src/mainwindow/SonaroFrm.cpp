@@ -235,6 +235,7 @@ void SonaroFrm::butMenu_Click() {
   std::vector<MenuEntry> menu = models_.actions.ProgramMenu();
   for (MenuEntry& entry : menu) {
     if (entry.command == mnuUpdate) entry.enabled = calls_.showUpdate != nullptr;
+    if (entry.command == mnuUndoUpdate) entry.enabled = calls_.canUndoUpdate && calls_.canUndoUpdate();
     if (entry.command == mnuOptions) entry.enabled = calls_.showOptions != nullptr;
   }
   PopUpMenuUnder(menu, butMenu);
@@ -253,6 +254,7 @@ void SonaroFrm::butMin_Click() { ShowWindow(Window(), SW_MINIMIZE); }
 void SonaroFrm::butCloseIt_Click() { Call(calls_.closeAsked); }
 void SonaroFrm::mnuExit_Click() { Call(calls_.exit); }
 void SonaroFrm::butUpdate_Click() { Call(calls_.showUpdate); }
+void SonaroFrm::mnuUndoUpdate_Click() { Call(calls_.undoUpdate); }
 void SonaroFrm::butScan_Click() { Call(calls_.showScan); }
 void SonaroFrm::butSchedule_Click() { Call(calls_.showSchedule); }
 void SonaroFrm::butOptions_Click() { Call(calls_.showOptions); }

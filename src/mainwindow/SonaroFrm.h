@@ -82,6 +82,7 @@ class SonaroFrm final : public Form, private FavoritePrompts {
   void mnuExit_Click();
   void mnuQuickStart_Click();
   void butUpdate_Click();
+  void mnuUndoUpdate_Click();
   void butScan_Click();
   void butSchedule_Click();
   void butOptions_Click();

@@ -79,6 +79,7 @@ std::span<const EventRow> SonaroFrm::Events() const {
 
       {butUpdate, Click, &SonaroFrm::butUpdate_Click},
       {mnuUpdate, Click, &SonaroFrm::butUpdate_Click},
+      {mnuUndoUpdate, Click, &SonaroFrm::mnuUndoUpdate_Click},
       {butScan, Click, &SonaroFrm::butScan_Click},
       {mnuScan, Click, &SonaroFrm::butScan_Click},
       {butSchedule, Click, &SonaroFrm::butSchedule_Click},

@@ -214,6 +214,7 @@ MenuEntries StationActions::ProgramMenu() const {
                                          {mnuScan, IDS_MENU_SCAN},
                                          {mnuSchedule, IDS_MENU_SCHEDULE},
                                          {mnuUpdate, IDS_MENU_UPDATE},
+                                         {mnuUndoUpdate, IDS_MENU_UNDO_UPDATE},
                                          {mnuOptions, IDS_MENU_OPTIONS},
                                          {0, 0},
                                          {mnuFullHelp, IDS_MENU_HELP},

@@ -53,10 +53,21 @@ std::span<const EventRow> frmUpdateDialog::Events() const {
   return kRows;
 }
 
-frmUpdateDialog::frmUpdateDialog(FormContext& context, UpdateDialogCalls calls)
-    : Form(context, Design()), strings_(context.strings), calls_(std::move(calls)) {}
+frmUpdateDialog::frmUpdateDialog(FormContext& context, UpdateDialogCalls calls, UpdateOpening opening)
+    : Form(context, Design()), strings_(context.strings), calls_(std::move(calls)), opening_(opening) {}
 
 frmUpdateDialog::~frmUpdateDialog() = default;
+
+void frmUpdateDialog::OnLoad() {
+  if (opening_ == UpdateOpening::Begin) {
+    Begin();
+    return;
+  }
+  SetTextAndGrow(lblStuff, LoadText(IDS_NET_ASK_UNDO));
+  ShowControl(prgUpdate, false);
+  SetText(butMsg + 1, LoadText(IDS_NET_CLOSE));
+  SetOffer(Offer::Undo);
+}
 
 // Closing the dialog ends the update that runs.
 void frmUpdateDialog::OnUnload() {
@@ -66,6 +77,7 @@ void frmUpdateDialog::OnUnload() {
 
 void frmUpdateDialog::Begin() {
   unloading_ = false;
+  updating_ = true;
   textStep_.reset();
   ShowFailure(false);
   SetOffer(Offer::Nothing);
@@ -92,6 +104,7 @@ void frmUpdateDialog::ShowBytes(std::uint64_t bytes, std::uint64_t expected) {
 
 void frmUpdateDialog::Ended(const UpdateOutcome& outcome) {
   if (unloading_) return;
+  updating_ = false;
   const bool updated = outcome.kind == UpdateOutcome::Kind::Updated;
   SetTextAndGrow(lblStuff, OutcomeText(outcome, updated ? calls_.installed() : std::string(), strings_));
   Progress(prgUpdate).SetProgress(updated ? kScaleSteps : 0, kScaleSteps);

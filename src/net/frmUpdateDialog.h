@@ -27,17 +27,21 @@ struct UpdateDialogCalls {
   std::function<void()> help;
 };
 
+enum class UpdateOpening { Begin, OfferUndo };
+
 class frmUpdateDialog final : public Form {
  public:
-  frmUpdateDialog(FormContext& context, UpdateDialogCalls calls);
+  frmUpdateDialog(FormContext& context, UpdateDialogCalls calls, UpdateOpening opening);
   ~frmUpdateDialog() override;
+
+  bool IsUpdating() const { return IsOpen() && updating_; }
 
  private:
   enum class Offer { Nothing, Retry, Undo };
 
   static const FormDesign& Design();
   std::span<const EventRow> Events() const override;
-  void OnLoad() override { Begin(); }
+  void OnLoad() override;
   void OnUnload() override;
   void Begin();
   void Ended(const UpdateOutcome& outcome);
@@ -51,8 +55,10 @@ class frmUpdateDialog final : public Form {
 
   const Strings& strings_;
   UpdateDialogCalls calls_;
+  const UpdateOpening opening_;
   std::unique_ptr<frmInetUpdate> update_;
   Offer offer_ = Offer::Nothing;
+  bool updating_ = false;
   bool unloading_ = false;
   std::optional<std::uint64_t> textStep_;  // of the text that tells how much has come
 };

@@ -46,6 +46,25 @@ TEST_F(UpdateTest, F5BringsANewDirectoryAndItCanBeUndone) {
   EXPECT_TRUE(Sonaro().Running());
 }
 
+TEST_F(UpdateTest, OfflineTheMenuOffersToUndoTheLastUpdate) {
+  HWND main = StartAndShowMain();
+  Click(Control(main, butUpdate));
+  HWND dialog = Dialog();
+  ASSERT_NE(dialog, nullptr);
+  ASSERT_TRUE(Says(dialog, "Finished Got It All"));
+  WriteText(HKEY_LOCAL_MACHINE, "Software\\zumo\\Sonaro", "ProxyPort", std::to_string(UnusedPort()));
+  PressKey(main, VK_F5);  // in place of the dialog that has done its work
+  ASSERT_TRUE(WaitUntil([&] { return (dialog = Dialog()) && Says(dialog, "Can't Connect"); }));
+  Command(main, mnuUndoUpdate);
+  ASSERT_TRUE(WaitUntil([&] { return (dialog = Dialog()) && Says(dialog, "can be brought back"); }));
+  ExpectTheNewDirectory();
+  SaveShot("offer");
+  Click(Control(dialog, butMsg));
+  EXPECT_TRUE(Says(dialog, "The station list of before the last update is back."));
+  EXPECT_FALSE(IsShown(Control(dialog, butMsg)));
+  ExpectTheOldDirectory();
+}
+
 TEST_F(UpdateTest, NothingNewIsSaid) {
   server_.Answer("/update.asp", script::Redirect("http://files.test/noupdate.txt"));
   HWND main = StartAndShowMain();

@@ -128,11 +128,14 @@ const NamedForm kForms[] = {
      }},
     {"frmUpdateDialog",
      [](EmptyProgram& p) {
-       return Make<frmUpdateDialog>(p.forms, UpdateDialogCalls{.begin = [&p](UpdateOpener opener) {
-                                      return std::make_unique<frmInetUpdate>(
-                                          p.forms, p.update, caller::kUpdateDialog, kInstallAndRebuild,
-                                          std::move(opener));
-                                    }});
+       return Make<frmUpdateDialog>(p.forms,
+                                    UpdateDialogCalls{.begin =
+                                                          [&p](UpdateOpener opener) {
+                                                            return std::make_unique<frmInetUpdate>(
+                                                                p.forms, p.update, caller::kUpdateDialog,
+                                                                kInstallAndRebuild, std::move(opener));
+                                                          }},
+                                    UpdateOpening::Begin);
      }},
     {"frmScan", [](EmptyProgram& p) { return Make<frmScan>(p.forms, p.scan, p.help, frmScan::Groups{}); }},
     {"frmScanTime", [](EmptyProgram& p) { return Make<frmScanTime>(p.forms, 30); }},
