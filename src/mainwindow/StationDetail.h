@@ -65,6 +65,7 @@ class StationDetails {
   RatingFigure Rating(const std::string& digit, int nameId) const;
 
  private:
+  void MakeLost(StationDetail& detail) const;
   void AddDirectoryStation(StationDetail& detail) const;
   void AddPersonalStation(StationDetail& detail) const;
   void AddExtraLinks(StationDetail& detail) const;

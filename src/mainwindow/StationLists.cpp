@@ -83,13 +83,14 @@ std::vector<StationRow> StationLists::RowsOf(const std::vector<std::string_view>
   rows.reserve(tokens.size());
   for (const std::string_view token : tokens) {
     const StationKey key = StationKey::FromToken(token);
+    std::optional<StationRow> row;
     if (token.starts_with('P')) {
-      if (auto row = PersonalRow(personal_, key.number)) rows.push_back(std::move(*row));
+      row = PersonalRow(personal_, key.number);
     } else if (key && next != known.end() && next->key == key.RowKey()) {
-      rows.push_back(std::move(*next++));
-    } else if (unknown == Unknown::ShownAsLost) {
-      rows.push_back(RowOfLostStation(std::string(token)));
+      row = std::move(*next++);
     }
+    if (!row && unknown == Unknown::ShownAsLost) row = RowOfLostStation(std::string(token));
+    if (row) rows.push_back(std::move(*row));
   }
   return rows;
 }

@@ -30,8 +30,8 @@ class StationLists {
   std::string FillListFromSearch(std::string_view text, bool allWords, StationRows& list);
   // Every personal station that has a name, in table order.
   void FillListFromPersonal(StationRows& list);
-  // The members of a favourite group: identifiers and "P" + index. A member that the directory does not know
-  // is listed as its identifier, marked lost, so that it can be seen and removed.
+  // The members of a favourite group: identifiers and "P" + index. A member that is no longer
+  // there is listed as its token, marked lost, so that it can be seen and removed.
   void FillListFromGroup(std::string_view members, StationRows& list);
   // The stations played last that are still there, most recent first.
   void FillListFromRecent(StationRows& list);

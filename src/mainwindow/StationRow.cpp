@@ -53,7 +53,7 @@ StationRow RowOfPersonalStation(std::int32_t index, std::string name, std::strin
 
 StationRow RowOfLostStation(std::string token) {
   StationRow row;
-  row.key = "S" + token;
+  row.key = token.starts_with('P') ? token : "S" + token;
   row.text = std::move(token);
   row.lost = true;
   return row;

@@ -92,12 +92,17 @@ TEST_F(StationActionsTest, GroupsThatHoldTheStationCannotTakeItAgain) {
 }
 
 TEST_F(StationActionsTest, ALostStationCanBeTakenOutOfItsGroup) {
+  personal.Delete(1);
   listing.ShowFavoriteGroup(0);
-  listing.Rows().Select(1);
-  EXPECT_TRUE(Entry(mnuActionRemoveFromFavList).enabled);
-  EXPECT_EQ(Entry(mnuActionRemoveFromFavList).text, Text(IDS_ACTION_REMOVE_FROM_GROUP, "77", "Jazz"));
-  for (const int command : {mnuActionPlayOne, mnuActionSchedule, mnuActionAddToScan, mnuActionExtraLink}) {
-    EXPECT_FALSE(Entry(command).enabled) << command;
+  ASSERT_EQ(Shown(), "S4 [77] [P1] S1 ");
+  for (const auto& [row, token] : {std::pair{1U, "77"}, {2U, "P1"}}) {
+    listing.Rows().Select(row);
+    EXPECT_EQ(listing.Rows().SelectedRow()->Token(), token);
+    EXPECT_TRUE(Entry(mnuActionRemoveFromFavList).enabled);
+    EXPECT_EQ(Entry(mnuActionRemoveFromFavList).text, Text(IDS_ACTION_REMOVE_FROM_GROUP, token, "Jazz"));
+    for (const int command : {mnuActionPlayOne, mnuActionSchedule, mnuActionAddToScan, mnuActionExtraLink}) {
+      EXPECT_FALSE(Entry(command).enabled) << command << " of " << token;
+    }
   }
 }
 
