@@ -95,13 +95,6 @@ bool FavoriteGroups::Contains(std::size_t group, std::string_view token) const {
   return std::find(tokens.begin(), tokens.end(), token) != tokens.end();
 }
 
-bool FavoriteGroups::IsTokenInUse(std::string_view token) const {
-  for (std::size_t group = 0; group < Count(); ++group) {
-    if (Contains(group, token)) return true;
-  }
-  return false;
-}
-
 FavoriteChange FavoriteGroups::Add(std::string_view name) {
   const std::string cleanName = CleanName(name);
   if (cleanName.empty() || Find(cleanName)) return FavoriteChange::Nothing;

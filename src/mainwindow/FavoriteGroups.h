@@ -42,8 +42,6 @@ class FavoriteGroups {
   // The group of this name, letter case ignored.
   std::optional<std::size_t> Find(std::string_view name) const;
   bool Contains(std::size_t group, std::string_view token) const;
-  // True when any group names the token: its index must not be given to another personal station.
-  bool IsTokenInUse(std::string_view token) const;
 
   // The changes. `name` is cleaned first; an empty one changes nothing.
   FavoriteChange Add(std::string_view name);

@@ -47,7 +47,6 @@ class SonaroFrm final : public Form, private FavoritePrompts {
   void EndProgress() { status_.EndProgress(); }
   // What the tray menu asks for.
   void ShowGroupNamed(std::string_view name);
-  void SearchFor(const std::string& text);
 
  private:
   static const FormDesign& Design();

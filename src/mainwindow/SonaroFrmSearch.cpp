@@ -23,12 +23,6 @@ void SonaroFrm::FindStation() {
   }
 }
 
-void SonaroFrm::SearchFor(const std::string& text) {
-  SetText(txtQuickSearch, text);
-  Check(optSearchType);
-  FindStation();
-}
-
 void SonaroFrm::butWebOpen_Click() {
   if (!models_.search.WebAddress().empty()) pages_.OpenWebPage(models_.search.WebAddress());
 }

@@ -33,7 +33,10 @@ TEST_F(WholeGuideTest, RankingsAndSortsOfTheRealDirectory) {
     EXPECT_GT(RowCount(List(main)), 100) << ranking.caption;
     EXPECT_EQ(SelectedRows(List(main)), std::vector<int>{0}) << ranking.caption;
   }
-  Command(main, mnuSortByMediaType);
+  const POINT header = MiddleOf(Control(main, butSplit3));
+  ClickAt(header.x, header.y, true);
+  ASSERT_TRUE(WaitUntil([&] { return Running().Window("#32768") != nullptr; }));
+  PressKey(main, 'M');
   const auto sorted = [&] {
     const auto types = ColumnTexts(List(main), 2);
     return std::is_sorted(types.begin(), types.end());
