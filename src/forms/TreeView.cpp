@@ -73,6 +73,14 @@ HTREEITEM TreeView::Add(HTREEITEM parent, std::string_view text, std::string_vie
       SendMessageW(tree_, TVM_INSERTITEMW, 0, reinterpret_cast<LPARAM>(&insert)));
 }
 
+void TreeView::SetFigure(HTREEITEM node, std::string_view figure) {
+  const Node* found = NodeOf(node);
+  std::wstring wide = Widen(figure);
+  if (found == nullptr || found->figure == wide) return;
+  nodes_[static_cast<std::size_t>(found - nodes_.data())].figure = std::move(wide);
+  Repaint(node);
+}
+
 const TreeView::Node* TreeView::NodeOf(HTREEITEM node) const {
   if (node == nullptr) return nullptr;
   TVITEMW item{};

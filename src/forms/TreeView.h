@@ -27,6 +27,7 @@ class TreeView final : public FormControl {
   void Clear();
   // Adds a node as the last child of `parent` (nullptr: a root). `figure` is a number as text, or "".
   HTREEITEM Add(HTREEITEM parent, std::string_view text, std::string_view figure, int data);
+  void SetFigure(HTREEITEM node, std::string_view figure);
   int Data(HTREEITEM node) const;  // -1 for nullptr
   HTREEITEM Selected() const;
   void Select(HTREEITEM node);  // no event

@@ -295,7 +295,6 @@ void SonaroFrm::GroupsChanged() {
 
 void SonaroFrm::PersonalStationsChanged() {
   if (!IsOpen()) return;
-  browse_.TreeChanged();
   models_.listing.StationsChanged();
   ShowEverything();
 }

@@ -8,23 +8,26 @@
 namespace sonaro {
 
 void BrowsePane::Show(std::size_t personalStations) {
-  if (shown_ == tree_.Mode()) return;
-  shown_ = tree_.Mode();
   TreeView& view = form_.Tree(treeBrowse);
-  view.BeginFill();
-  view.Clear();
-  for (const int root : tree_.Roots()) Add(nullptr, root, personalStations);
-  view.EndFill();
+  if (shown_ != tree_.Mode()) {
+    shown_ = tree_.Mode();
+    view.BeginFill();
+    view.Clear();
+    for (const int root : tree_.Roots()) Add(nullptr, root);
+    view.EndFill();
+  }
+  view.SetFigure(personal_, Figure(personalStations));
 }
 
-void BrowsePane::Add(HTREEITEM parent, int node, std::size_t personalStations) {
+void BrowsePane::Add(HTREEITEM parent, int node) {
   const BrowseNode& facts = tree_.Node(node);
-  const bool personal = BrowseTree::ClickOn(facts).fill == NodeClick::Fill::PersonalStations;
-  const std::size_t count = personal ? personalStations : facts.stationCount;
-  const HTREEITEM item =
-      form_.Tree(treeBrowse)
-          .Add(parent, facts.text, count > 0 ? FigureText(count, state_.decimalMode) : std::string(), node);
-  for (const int child : facts.children) Add(item, child, personalStations);
+  const HTREEITEM item = form_.Tree(treeBrowse).Add(parent, facts.text, Figure(facts.stationCount), node);
+  if (BrowseTree::ClickOn(facts).fill == NodeClick::Fill::PersonalStations) personal_ = item;
+  for (const int child : facts.children) Add(item, child);
+}
+
+std::string BrowsePane::Figure(std::size_t count) const {
+  return count > 0 ? FigureText(count, state_.decimalMode) : std::string();
 }
 
 const BrowseNode* BrowsePane::NodeAt(HTREEITEM item) const {

@@ -6,6 +6,7 @@
 #include <commctrl.h>
 
 #include <cstddef>
+#include <string>
 
 #include "app/AppState.h"
 #include "mainwindow/BrowseTree.h"
@@ -19,7 +20,8 @@ class BrowsePane {
   BrowsePane(Form& form, const BrowseTree& tree, const AppState& state)
       : form_(form), tree_(tree), state_(state) {}
 
-  // Shows the tree as it is built; the same tree keeps its expansion and its selection.
+  // Shows the tree as it is built; the same tree keeps its expansion and its selection, whatever the number
+  // of the user's own stations.
   void Show(std::size_t personalStations);
   // The next Show takes the tree over anew.
   void TreeChanged() { shown_ = BrowseMode::NotBuilt; }
@@ -27,12 +29,14 @@ class BrowsePane {
   const BrowseNode* NodeAt(HTREEITEM item) const;
 
  private:
-  void Add(HTREEITEM parent, int node, std::size_t personalStations);
+  void Add(HTREEITEM parent, int node);
+  std::string Figure(std::size_t count) const;
 
   Form& form_;
   const BrowseTree& tree_;
   const AppState& state_;
   BrowseMode shown_ = BrowseMode::NotBuilt;
+  HTREEITEM personal_ = nullptr;  // "Your Stations"
 };
 
 }  // namespace sonaro

@@ -62,6 +62,13 @@ TEST_F(WholeGuideTest, AnEntryOfTheTreeFillsTheListAndTheTreeStays) {
   EXPECT_TRUE(WaitUntil([&] { return RowCount(List(main)) > 20; }));
   EXPECT_TRUE(IsShown(tree));
   SaveShot("jazz");
+  Command(main, mnuPersonalAdd);
+  HWND dialog = Dialog("frmPersonalStation");
+  SetText(Control(dialog, txtStationName), "Garage");
+  SetText(Control(dialog, txtLink), "http://127.0.0.1:9/");
+  EndWith(main, dialog, butOKIt);
+  EXPECT_EQ(TreeView_GetSelection(tree), entries.front()) << "the tree stays as it is";
+  EXPECT_GT(RowCount(List(main)), 20);
 }
 
 TEST_F(BrowseTest, ASearchIsRememberedAcrossARestart) {
