@@ -137,15 +137,17 @@ void PaintPlayKey(const Canvas& c) {
       numbered ? static_cast<int>(c.box.right) - c.Px(28) : static_cast<int>(c.box.right) - c.Px(6);
   if (numbered) {
     const int x = left + c.Px(40);
-    const Color line = c.key.secondary ? c.face.edge : c.face.text;
+    const Color line = c.key.secondary ? c.painter.Colors().milled : c.face.text;
     c.painter.Fill(c.dc, {x, top + c.Px(8), x + c.painter.Line(), top + c.Px(32)}, line);
     c.DrawText({c.box.right - c.Px(26), top, c.box.right - c.Px(10), c.box.bottom}, detail.substr(tab + 1),
                Type::BodyStrong, c.face.secondText, DT_NOPREFIX | DT_RIGHT);
   }
-  c.DrawText({textLeft, top + c.Px(4), textRight, top + c.Px(22)}, c.key.text, Type::MessageStrong,
-             c.face.text, c.Prefix());
-  c.DrawText({textLeft, top + c.Px(20), textRight, top + c.Px(35)}, detail.substr(0, tab), Type::Small,
-             c.face.secondText, DT_NOPREFIX);
+  const std::wstring_view bitRate = detail.substr(0, tab);
+  const int lines = top + c.Px(bitRate.empty() ? 11 : 4);  // one line stands in the middle
+  c.DrawText({textLeft, lines, textRight, lines + c.Px(18)}, c.key.text, Type::MessageStrong, c.face.text,
+             c.Prefix());
+  c.DrawText({textLeft, top + c.Px(20), textRight, top + c.Px(35)}, bitRate, Type::Small, c.face.secondText,
+             DT_NOPREFIX);
   PaintFocus(c, c.Px(kPlayCut));
 }
 
@@ -230,7 +232,8 @@ void PaintCheck(const Canvas& c) {
 
 TabPicture TabOf(const Canvas& c) {
   const KeyState& state = c.key.state;
-  return {c.key.text, c.Prefix(), state.active, state.hover, state.pressed, c.key.focused, c.key.dialOffset};
+  return {c.key.text,    c.Prefix(),    state.active,     state.hover,
+          state.pressed, c.key.focused, c.key.dialOffset, c.key.needle};
 }
 
 }  // namespace

@@ -4,6 +4,7 @@
 
 #include <windows.h>
 
+#include <optional>
 #include <string>
 
 #include "forms/FormDesign.h"
@@ -24,7 +25,8 @@ struct KeyPicture {
   std::wstring detail;  // PlayKey: second line, and after a tab the link's number; GroupKey: its figure
   Icon icon = Icon::None;
   SortMark sort = SortMark::None;
-  int dialOffset = 0;  // TabKey: pixels from the dial's left edge
+  int dialOffset = 0;         // TabKey: pixels from the dial's left edge
+  std::optional<int> needle;  // TabKey: where the needle stands, pixels from the key's left edge
 };
 
 // `dc` already shows what lies behind the key; `box` is the whole control.

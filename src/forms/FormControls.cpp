@@ -142,6 +142,8 @@ bool Form::IsChecked(int id) const { return Ask(*parts_, id, BM_GETCHECK) == BST
 void Form::SetToggle(int id, bool active) {
   if (IsToggled(id) == active) return;
   Ask(*parts_, id, BM_SETCHECK, active ? BST_CHECKED : BST_UNCHECKED);
+  const FormItem* item = parts_->Find(id);
+  if (active && item && item->KindOf() == Kind::TabKey) parts_->MoveNeedle(*item);
 }
 
 bool Form::IsToggled(int id) const { return IsChecked(id); }

@@ -94,6 +94,7 @@ void FormParts::ResizeWindow() {
 }
 
 void FormParts::PlaceControls() {
+  StopNeedle();
   const int dpi = painter->Dpi();
   const DesignSize made = SizeOf(design, layout);
   const PixelSize client = ScaleToDpi(Size(), dpi);

@@ -234,7 +234,10 @@ KeyPicture FormParts::PictureOf(const FormItem& item) const {
   key.state.active = (IsToggle(item.KindOf()) || IsCheck(item.KindOf())) &&
                      SendMessageW(item.window, BM_GETCHECK, 0, 0) == BST_CHECKED;
   key.state.empty = item.KindOf() == Kind::GroupKey && key.text.empty();
-  if (key.kind == Kind::TabKey) key.dialOffset = DialOffset(item);
+  if (key.kind == Kind::TabKey) {
+    key.dialOffset = DialOffset(item);
+    key.needle = NeedleOn(item, key.state.active);
+  }
   return key;
 }
 

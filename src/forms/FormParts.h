@@ -8,6 +8,7 @@
 #include <bitset>
 #include <functional>
 #include <memory>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -16,6 +17,7 @@
 #include "forms/Painter.h"
 #include "forms/ScrollBar.h"
 #include "forms/portable/Arrange.h"
+#include "forms/portable/NeedleSlide.h"
 
 namespace sonaro {
 
@@ -134,6 +136,13 @@ class FormParts final : public FormServices, public std::enable_shared_from_this
   int DialOffset(const FormItem& tab) const;
   void RepaintItem(const FormItem& item);
 
+  // FormNeedle.cpp
+  void MoveNeedle(const FormItem& tab);  // the tab is the active one now
+  void StopNeedle();                     // where it belongs, at once
+  bool StepNeedle(WPARAM timer);         // false: the timer is another one
+  // Where the needle stands, in pixels from the tab's left edge, perhaps beside the tab; nothing without one.
+  std::optional<int> NeedleOn(const FormItem& tab, bool active) const;
+
   Form* form;  // nullptr once the form is gone
   FormContext& context;
   const FormDesign& design;
@@ -149,6 +158,8 @@ class FormParts final : public FormServices, public std::enable_shared_from_this
   HBRUSH offBrush = nullptr;
   DesignSize grown;  // by Resize; {} = the layout's size
   int layout = 0;
+  int needleTab = 0;                       // the tab that was made active last
+  std::optional<NeedleSlide> needleSlide;  // while it moves, in pixels of the form
   bool moving = false;
   bool quiet = false;       // the program sets a text: no Change event
   bool modal = false;       // ShowModal runs

@@ -88,7 +88,7 @@ LRESULT FormParts::HandleMessage(UINT message, WPARAM wParam, LPARAM lParam) {
     case WM_NOTIFY:
       return HandleNotice(*reinterpret_cast<NMHDR*>(lParam));
     case WM_TIMER:
-      RunTimer(static_cast<int>(wParam));
+      if (!StepNeedle(wParam)) RunTimer(static_cast<int>(wParam));
       return 0;
     case WM_ERASEBKGND:
       return 1;
@@ -183,6 +183,8 @@ void FormParts::Forget() {
   window = nullptr;
   tips = nullptr;
   moving = false;
+  needleTab = 0;
+  needleSlide.reset();
   backdrop.Discard();
   for (FormItem& item : items) item.window = nullptr;
 }

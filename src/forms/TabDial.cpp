@@ -31,10 +31,10 @@ void PaintTicks(HDC dc, int origin, int from, int to, int bottom, int width, Col
   }
 }
 
-void PaintNeedle(HDC dc, const RECT& box, const Painter& painter) {
+void PaintNeedle(HDC dc, const RECT& box, int at, const Painter& painter) {
   const Color accent = painter.Colors().accent;
   const int bar = painter.Px(kNeedleBar);
-  const int middle = static_cast<int>(box.left + box.right) / 2;
+  const int middle = static_cast<int>(box.left) + at;
   painter.Fill(dc, {middle - bar / 2, box.top + painter.Px(kNeedleTop), middle - bar / 2 + bar, box.bottom},
                accent);
   const int width = painter.Px(kHeadWidth);
@@ -71,7 +71,7 @@ void PaintTab(HDC dc, const RECT& box, const TabPicture& tab, const Painter& pai
   if (start > 0)
     painter.Fill(dc, {box.left, box.top + painter.Px(kDividerTop), box.left + painter.Line(), bottom},
                  colors.hair);
-  if (tab.active) PaintNeedle(dc, box, painter);
+  if (tab.needle) PaintNeedle(dc, box, *tab.needle, painter);
   const int down = tab.pressed ? painter.Line() : 0;
   painter.Text(dc, {box.left, box.top + down, box.right, box.top + painter.Px(kLabelHeight) + down}, tab.text,
                tab.active ? Type::MessageStrong : Type::Message,

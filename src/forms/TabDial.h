@@ -4,6 +4,7 @@
 
 #include <windows.h>
 
+#include <optional>
 #include <string_view>
 
 namespace sonaro {
@@ -20,7 +21,8 @@ struct TabPicture {
   bool hover = false;
   bool pressed = false;
   bool focused = false;
-  int offset = 0;  // pixels from the dial's left edge to the tab's
+  int offset = 0;             // pixels from the dial's left edge to the tab's
+  std::optional<int> needle;  // pixels from the tab's left edge, perhaps beside the tab
 };
 
 // `dc` already shows the dial behind the tab; `box` is the whole tab, which ends above the dial's frame.
