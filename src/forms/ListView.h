@@ -38,6 +38,7 @@ class ListView final : public FormControl {
     std::string name;
     int width = 0;
     bool rightAligned = false;
+    bool figure = false;  // a number beside the texts: small and muted
   };
   void SetColumns(std::vector<Column> columns);
   // Rows with a reliability symbol keep its place free before the first column's text.

@@ -69,16 +69,22 @@ void ListView::PaintCells(HDC dc, int row, const RECT& box, bool selected, bool 
   const FaceplateColors& colors = look.Colors();
   const int symbol = withSymbols_ ? model_->Symbol(row) : -1;
   int left = box.left;
+  bool leading = true;  // until the first text of the row
   for (std::size_t i = 0; i < edges_.size(); ++i) {
     const bool first = i == 0;
-    Color ink = first || selected ? colors.glassText : colors.glassMuted;
+    const Column& column = columns_[i];
+    const bool strong = leading && !column.figure;
+    leading = leading && !strong;
+    Color ink = strong || (selected && !column.figure) ? colors.glassText : colors.glassMuted;
     if (selected && focused) ink = colors.rowSelectedText;
     if (model_->IsGreyed(row)) ink = colors.glassMuted;
     const int inset = look.Px(first && withSymbols_ ? kTextAfterSymbol : kCellInset);
     const RECT cell = {left + inset, box.top, edges_[i] - look.Px(kCellGap), box.bottom};
     look.Text(dc, cell, model_->Cell(row, static_cast<int>(i)),
-              first && selected ? Type::BodyStrong : Type::Body, ink,
-              DT_NOPREFIX | (columns_[i].rightAligned ? DT_RIGHT : 0U));
+              column.figure        ? Type::Small
+              : strong && selected ? Type::BodyStrong
+                                   : Type::Body,
+              ink, DT_NOPREFIX | (column.rightAligned ? DT_RIGHT : 0U));
     left = edges_[i];
   }
   if (symbol >= 0) {

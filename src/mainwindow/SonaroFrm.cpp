@@ -148,10 +148,8 @@ void SonaroFrm::ShowPanes() {
 }
 
 void SonaroFrm::ShowGroupBar() {
-  const ListingState& state = models_.listing.State();
   const std::size_t count = data_.favorites.Count();
-  std::size_t shown = count;  // none
-  if (state.holds == Holds::Group) shown = data_.favorites.Find(state.group).value_or(count);
+  const std::size_t shown = GroupOnShow().value_or(count);
   for (std::size_t slot = 0; slot < FavoriteGroups::kSlots; ++slot) {
     const int key = butFavs + static_cast<int>(slot);
     const bool used = slot < count;

@@ -143,6 +143,7 @@ class SonaroFrm final : public Form, private FavoritePrompts {
   void MoveRow(int from, int to);
   void MoveGroup(int from, int to);
   void DropRowOnGroup(int row, int slot);
+  std::optional<std::size_t> GroupOnShow() const;  // in the middle of the window
   std::optional<std::size_t> GroupMeant() const;
   std::string SelectedToken() const;
   MessageResult Ask(const Message& message) override;

@@ -35,14 +35,19 @@ void SonaroFrm::lstGroups_ContextMenu(int row, POINT at) {
 }
 
 // The group that a command without a menu means: that of the key with the focus, else the one on show.
+std::optional<std::size_t> SonaroFrm::GroupOnShow() const {
+  const ListingState& state = models_.listing.State();
+  if (state.holds != Holds::Group || state.middle != Middle::StationList) return std::nullopt;
+  return data_.favorites.Find(state.group);
+}
+
 std::optional<std::size_t> SonaroFrm::GroupMeant() const {
   std::optional<std::size_t> group = menuGroup_;
   const int focused = FocusedControl() - butFavs;
   if (!group && focused >= 0 && focused < static_cast<int>(FavoriteGroups::kSlots)) {
     group = static_cast<std::size_t>(focused);
   }
-  const ListingState& state = models_.listing.State();
-  if (!group && state.holds == Holds::Group) group = data_.favorites.Find(state.group);
+  if (!group) group = GroupOnShow();
   return group && *group < data_.favorites.Count() ? group : std::nullopt;
 }
 

@@ -26,8 +26,9 @@ YoursPane::YoursPane(Form& form, const FavoriteGroups& groups, const RecentList&
 void YoursPane::Load() {
   ListView& groups = form_.List(lstGroups);
   groups.SetRowHeight(26);
-  groups.SetColumns(
-      {{"#", 24}, {form_.LoadText(IDS_COLUMN_GROUP), 130}, {form_.LoadText(IDS_COLUMN_STATIONS), 0, true}});
+  groups.SetColumns({{.name = "#", .width = 24, .figure = true},
+                     {.name = form_.LoadText(IDS_COLUMN_GROUP), .width = 130},
+                     {.name = form_.LoadText(IDS_COLUMN_STATIONS), .rightAligned = true, .figure = true}});
   groups.SetColumnLines(false);
   groups.SetModel(&groupRows_, false);
   ListView& events = form_.List(lstEvents);

@@ -12,7 +12,7 @@ namespace sonaro {
 const FormDesign& frmScanTime::Design() {
   static constexpr ControlRow kControls[] = {
       {.id = lblTitle, .kind = Kind::TitleBar, .text = IDS_SCAN_W_TIME_TITLE, .at = {40, 4, 156, 26}},
-      {.kind = Kind::Label, .text = IDS_SCAN_W_TIME_LABEL, .at = {14, 60, 200, 28}, .type = Type::BodyStrong},
+      Caption(IDS_SCAN_W_TIME_LABEL, {14, 60, 200, 28}),
       {.id = cmbScanTime, .kind = Kind::Combo, .text = IDS_SCAN_W_TIME_LABEL, .at = {220, 60, 100, 28}},
       {.kind = Kind::Groove, .at = {14, 190, 392, 2}},
       OkKey({214, 201, 92, 30}),

@@ -108,7 +108,7 @@ const FormDesign& frmScan::Design() {
       {.id = lblStationsAdd, .kind = Kind::Label, .at = {14, 10, 10, 10}, .flags = kHidden},
   };
   static constexpr Place kCompact[] = {
-      {lblTitle, {14, 4, 182, 26}},           {panScanCompact, {12, 44, 416, 52}},
+      {lblTitle, {40, 4, 156, 26}},           {panScanCompact, {12, 44, 416, 52}},
       {lblCurrentScaning, {22, 47, 250, 22}}, {lblTimeLeft, {274, 47, 144, 22}},
       {picScan, {22, 72, 396, 18}},           {butStartIt, {12, 104, 124, 28}},
       {butMoveNextIt, {142, 104, 76, 28}},    {butFullIt, {246, 104, 92, 28}},

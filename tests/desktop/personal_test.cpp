@@ -19,6 +19,14 @@ class PersonalTest : public MainWindowTest {
     EXPECT_TRUE(Listing(main, "Your Stations"));
     EXPECT_TRUE(WaitUntil([&] { return ColumnTexts(List(main)) == names; }));
   }
+  // Opens the program's menu and presses a letter in it.
+  void ChooseFromMenu(HWND main, char letter) {
+    Click(Control(main, butMenu));
+    HWND menu = Running().WaitForShownWindow("#32768");
+    ASSERT_NE(menu, nullptr);
+    PostMessageA(main, WM_CHAR, static_cast<WPARAM>(letter), 0);  // a key of the display could miss the menu
+    ASSERT_TRUE(WaitUntil([&] { return !IsShown(menu); }));
+  }
 };
 
 TEST_F(PersonalTest, OnesOwnStationsComeAndGoAndTheirTokensStayRight) {
@@ -105,6 +113,42 @@ TEST_F(PersonalTest, AGroupGoesOutToEveryKindOfPlaylistAndComesBackWhole) {
   const std::string members = file.substr(5, file.find('\r') - 5);
   EXPECT_EQ(file, "Mine\t" + members + "\r\nM3U\t" + members + "\r\nPLS\t" + members + "\r\nOPML\t" +
                       members + "\r\n");
+}
+
+TEST_F(PersonalTest, AllOfThemGoOutAtOnceAndComeBackWhole) {
+  const std::string garage =
+      "\tGarage <&> \"Größe\"\thttp://127.0.0.1:9/a?x=1&y=2\thttp://127.0.0.1:9/b\t\t"
+      "http://127.0.0.1:9/\tMP3\tLoud\r\n";
+  const std::string radio = "\tРадио\thttp://127.0.0.1:9/r\t\t\t\tOGG\t\r\n";
+  const std::vector<std::string> names = {"Garage <&> \"Größe\"", "Радио"};
+  WriteFile("personal.snr", "1" + garage + "4" + radio);
+  ResetSettings({{"StartPlayer", "No"},
+                 {"StartProxy", "No"},
+                 {"StartQuickStart", "No"},
+                 {"NoShowDeletePersonalStation", "Yes"}});
+  HWND main = MainWithStations();
+  ShowYours(main, names);
+  const std::vector<const char*> files = {"all.m3u", "all.pls", "all.opml"};
+  for (const char* name : files) {
+    ChooseFromMenu(main, 'e');
+    ChooseFile(PathOf(name));
+    ASSERT_TRUE(WaitUntil([&] { return Exists(name) && IsWindowEnabled(main) != FALSE; })) << name;
+  }
+  int index = 4;
+  for (const char* name : files) {
+    for (int left = 1; left >= 0; --left) {
+      Command(main, mnuPersonalDelete);
+      ASSERT_TRUE(WaitUntil([&] { return RowCount(List(main)) == left; })) << name;
+    }
+    ChooseFromMenu(main, 'i');
+    ChooseFile(PathOf(name));
+    AnswerBox(main, butMsg);
+    ShowYours(main, names);
+    const std::string file = ReadFile("personal.snr");
+    const std::string first = std::to_string(++index);
+    const std::string second = std::to_string(++index);
+    EXPECT_TRUE(file.ends_with(first + garage + second + radio)) << name << "\n" << file;
+  }
 }
 
 TEST_F(PersonalTest, AnExtraLinkOutlivesTheDirectoryThatItWasMadeFor) {

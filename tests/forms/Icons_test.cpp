@@ -171,8 +171,9 @@ TEST(ProgramMark, HasItsColoursWhereTheyBelong) {
   EXPECT_EQ(at(50, 67), 0xFFFFB03A);  // hub
   EXPECT_EQ(at(30, 80), 0xFF262A30);  // ground
   EXPECT_EQ(at(50, 27), 0xFFEEF0F2);  // the middle tick
-  const Pixels small = RenderProgramMark(20, colors);
-  EXPECT_EQ(small[4 * 20 + 9] >> 24, 0U) << "ticks at 20 pixels";
+  const Pixels icon = RenderProgramMark(20, colors, &ground);
+  EXPECT_EQ(icon[4 * 20 + 9] & 0xFFFFFF, 0x262A30U) << "a tick in the tray's icon";
+  EXPECT_NE(RenderProgramMark(18, colors)[4 * 18 + 9] >> 24, 0U) << "no ticks in the windows' titles";
 }
 
 }  // namespace

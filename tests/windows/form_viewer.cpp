@@ -1,4 +1,5 @@
-// Shows the form of components until it is closed, for a look by eye: form_viewer [Graphite|Porcelain] [dpi]
+// Shows the form of components until it is closed, for a look by eye:
+//   form_viewer [Graphite|Porcelain|Contrast] [dpi]
 #include <windows.h>
 
 #include <commctrl.h>
@@ -9,15 +10,16 @@
 #include "forms/MessageLoop.h"
 #include "windows/DemoForm.h"
 #include "windows/FormContextForTests.h"
+#include "windows/ViewerLook.h"
 
 int main(int argc, char** argv) {
   using namespace sonaro;
   INITCOMMONCONTROLSEX classes = {sizeof(classes), ICC_WIN95_CLASSES | ICC_DATE_CLASSES};
   InitCommonControlsEx(&classes);
   FormContextForTests context;
-  if (argc > 1 && std::string(argv[1]) == "Porcelain") context.faceplate.Choose(BuiltInFaceplate::Porcelain);
   DemoForm form(context.forms);
   if (!form.Create()) return 1;
+  DressForm(form, context, argc > 1 ? argv[1] : "");
   if (argc > 2) {
     const int dpi = std::atoi(argv[2]);
     RECT place = {0, 0, MulDiv(980, dpi, 96), MulDiv(760, dpi, 96)};

@@ -1,6 +1,6 @@
 // Shows the list, the tree and the other views until the window is closed, for a look by eye, or measures
 // them:
-//   views_viewer [Graphite|Porcelain] [dpi] [rows]
+//   views_viewer [Graphite|Porcelain|Contrast] [dpi] [rows]
 //   views_viewer --bench
 #include <windows.h>
 
@@ -14,6 +14,7 @@
 
 #include "forms/MessageLoop.h"
 #include "windows/FormContextForTests.h"
+#include "windows/ViewerLook.h"
 #include "windows/ViewsForm.h"
 
 namespace sonaro {
@@ -85,10 +86,10 @@ int main(int argc, char** argv) {
   InitCommonControlsEx(&classes);
   FormContextForTests context;
   context.files.Put("/d/Depot/sshape.pts", kOutline);
-  if (first == "Porcelain") context.faceplate.Choose(BuiltInFaceplate::Porcelain);
   MadeUpStations stations(argc > 3 ? std::atoi(argv[3]) : 40000);
   ViewsForm form(context.forms, stations);
   if (!form.Create()) return 1;
+  DressForm(form, context, first);
   if (argc > 2) {
     const int dpi = std::atoi(argv[2]);
     RECT place = {0, 0, MulDiv(980, dpi, 96), MulDiv(640, dpi, 96)};

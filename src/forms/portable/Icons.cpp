@@ -121,7 +121,8 @@ Pixels RenderProgramMark(int size, const MarkColors& colors, const Color* ground
   };
   if (ground) paint(FillPolygons(ParsePath(kOctagon, tolerance)), *ground);
   paint(StrokePolygons(ParsePath(kOctagon, tolerance), kOctagonPen), colors.ink);
-  if (size >= kTicksFrom) paint(StrokePolygons(ParsePath(kTicks, tolerance), kTickPen), colors.ink);
+  if (!ground || size >= kTicksFrom)
+    paint(StrokePolygons(ParsePath(kTicks, tolerance), kTickPen), colors.ink);
   paint(StrokePolygons(ParsePath(kNeedle, tolerance), kNeedlePen), colors.needle);
   paint(FillPolygons(ParsePath(kHub, tolerance)), colors.needle);
   return pixels;

@@ -19,8 +19,8 @@ const IconShape& ShapeOf(Icon icon);
 // blurs are moved down by half a pixel when that makes them crisper.
 Coverage RenderIcon(Icon icon, int designSize, int size);
 
-// The program mark in its two colours; `ground` fills the octagon (nullptr: see-through). The ticks are left
-// out up to 20 pixels.
+// The program mark in its two colours; `ground` fills the octagon (nullptr: see-through). As an
+// icon of the system (with a ground) it leaves the ticks out up to 20 pixels.
 struct MarkColors {
   Color ink;
   Color needle;
