@@ -130,6 +130,7 @@ void Application::LoadMainWindow() {
       player_, pages_, MakeMainWindowCalls());
   main_->Create();
   PlaceMainWindow();
+  recent_.SetChanged([this] { main_->RecentChanged(); });
   schedule_->SetChanged([this] { main_->ScheduleChanged(); });
   service_->SetDirectoryChanged([this] {
     schedule_->DirectoryChanged();  // first: the main window asks it for the coming events

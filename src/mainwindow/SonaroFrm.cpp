@@ -281,8 +281,13 @@ std::size_t SonaroFrm::PersonalCount() const { return data_.personal.All().size(
 
 void SonaroFrm::RecentChanged() {
   if (!IsOpen()) return;
-  if (models_.listing.State().holds == Holds::Recent) models_.listing.StationsChanged();
-  ShowEverything();
+  const ListingState& state = models_.listing.State();
+  if (state.holds == Holds::Recent) {
+    models_.listing.StationsChanged();
+    ShowEverything();
+  } else if (state.view == View::YourSonaro) {
+    yours_.ShowGroups();
+  }
 }
 
 void SonaroFrm::GroupsChanged() {

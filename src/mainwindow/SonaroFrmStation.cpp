@@ -58,7 +58,6 @@ void SonaroFrm::Play(const PlayKey& key) {
   // A bare link does not tell whose it is, so the play is noted here.
   if (request.mode == PlayMode::KeyItself) data_.recent.AddRecent(shown_.station.Token());
   player_.LaunchStation(request.key, request.mode);
-  RecentChanged();
 }
 
 void SonaroFrm::butGoWebPageIt_Click() {

@@ -32,6 +32,7 @@ void RecentList::AddRecent(const std::string& token) {
   tokens_.insert(tokens_.begin(), token);
   if (tokens_.size() > kSlots) tokens_.resize(kSlots);
   SaveRecent();
+  if (changed_) changed_();
 }
 
 void RecentList::SaveRecent() {

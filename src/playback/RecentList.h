@@ -1,8 +1,10 @@
 // The stations played last, most recent first, kept in "\recent.snr". Owned by Application.
 #pragma once
 
+#include <functional>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 namespace sonaro {
@@ -25,6 +27,8 @@ class RecentList {
   void AddRecent(const std::string& token);
   // Errors are ignored.
   void SaveRecent();
+  // Called after every play that was noted, whoever played.
+  void SetChanged(std::function<void()> changed) { changed_ = std::move(changed); }
 
   // Most recent first, at most kSlots.
   const std::vector<std::string>& Tokens() const { return tokens_; }
@@ -34,6 +38,7 @@ class RecentList {
  private:
   DataFolder& data_;
   std::vector<std::string> tokens_;
+  std::function<void()> changed_;
 };
 
 }  // namespace sonaro

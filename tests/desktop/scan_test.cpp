@@ -89,6 +89,7 @@ TEST_F(ScanTest, ThreeStationsOfTwentySecondsOneOfThemMute) {
                  {"UpdateHold", "Station.snr\t"}});
   HWND main = MainWithStations();
   Command(main, mnuActionAddListToScan);
+  Command(main, mnuRecent);
   Command(main, mnuScan);
   HWND scan = Dialog("frmScan");
   Click(Control(scan, butStartIt));
@@ -114,6 +115,7 @@ TEST_F(ScanTest, ThreeStationsOfTwentySecondsOneOfThemMute) {
   EXPECT_EQ(ColumnTexts(history), (std::vector<std::string>{"One", "Mute", "Three"}));
   EXPECT_NE(CellText(history, 1, 1), "") << "the reason";
   EXPECT_EQ(AsxLines(2).size(), 2u);
+  EXPECT_EQ(ColumnTexts(List(main)), (std::vector<std::string>{"Three", "One"})) << "Your Recent goes along";
 }
 
 }  // namespace
