@@ -20,20 +20,24 @@ void FormParts::MoveNeedle(const FormItem& tab) {
   const FormItem* before = Find(needleTab);
   needleTab = tab.Id();
   if (!before || !IsWindowVisible(window) || !SystemAnimates()) return StopNeedle();
-  const std::uint64_t now = GetTickCount64();
-  needleSlide = {needleSlide ? needleSlide->At(now) : MiddleOf(*before), MiddleOf(tab), now};
+  if (!needleAt) needleAt = MiddleOf(*before);
+  needleSlide = {*needleAt, MiddleOf(tab)};
   SetTimer(window, kNeedleTimer, NeedleSlide::kFrame, nullptr);
 }
 
 void FormParts::StopNeedle() {
-  if (!needleSlide) return;
-  needleSlide.reset();
+  if (!needleAt) return;
+  needleSlide = {};
+  needleAt.reset();
   KillTimer(window, kNeedleTimer);
 }
 
 bool FormParts::StepNeedle(WPARAM timer) {
   if (timer != kNeedleTimer) return false;
-  if (!needleSlide || needleSlide->IsOver(GetTickCount64()) || !IsWindowVisible(window)) StopNeedle();
+  const std::uint64_t now = GetTickCount64();
+  if (needleSlide.start == 0) needleSlide.start = now;  // what the tab shows is filled by now
+  if (needleAt) needleAt = needleSlide.At(now);
+  if (needleSlide.IsOver(now) || !IsWindowVisible(window)) StopNeedle();
   for (const FormItem& item : items) {
     if (item.KindOf() == Kind::TabKey) RepaintItem(item);
   }
@@ -41,7 +45,7 @@ bool FormParts::StepNeedle(WPARAM timer) {
 }
 
 std::optional<int> FormParts::NeedleOn(const FormItem& tab, bool active) const {
-  if (needleSlide) return needleSlide->At(GetTickCount64()) - tab.place.left;
+  if (needleAt) return *needleAt - tab.place.left;
   if (active) return MiddleOf(tab) - tab.place.left;
   return std::nullopt;
 }

@@ -70,6 +70,7 @@ void PaintText(const FormParts& parts, const FormItem& item, HDC dc, const RECT&
 // shoulder.
 void PaintSlots(HDC dc, const RECT& box, const Painter& painter) {
   const FaceplateColors& colors = painter.Colors();
+  if (colors.highContrast) return;  // mere decoration would be the loudest thing in the window
   const int pitch = painter.Px(10);
   const int width = painter.Px(4);
   const int step = painter.Px(8);

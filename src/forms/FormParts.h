@@ -158,8 +158,9 @@ class FormParts final : public FormServices, public std::enable_shared_from_this
   HBRUSH offBrush = nullptr;
   DesignSize grown;  // by Resize; {} = the layout's size
   int layout = 0;
-  int needleTab = 0;                       // the tab that was made active last
-  std::optional<NeedleSlide> needleSlide;  // while it moves, in pixels of the form
+  int needleTab = 0;            // the tab that was made active last
+  std::optional<int> needleAt;  // while it moves, in pixels of the form; set by its timer
+  NeedleSlide needleSlide;      // begins with the timer's first tick
   bool moving = false;
   bool quiet = false;       // the program sets a text: no Change event
   bool modal = false;       // ShowModal runs

@@ -184,7 +184,7 @@ void FormParts::Forget() {
   tips = nullptr;
   moving = false;
   needleTab = 0;
-  needleSlide.reset();
+  needleAt.reset();
   backdrop.Discard();
   for (FormItem& item : items) item.window = nullptr;
 }

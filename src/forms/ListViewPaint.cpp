@@ -89,7 +89,7 @@ void ListView::PaintCells(HDC dc, int row, const RECT& box, bool selected, bool 
   }
   if (symbol >= 0) {
     const int top = box.top + (box.bottom - box.top - look.Px(kReliabilitySize)) / 2;
-    PaintReliability(dc, look, box.left + look.Px(kSymbolInset), top, symbol);
+    PaintReliability(dc, look, box.left + look.Px(kSymbolInset), top, symbol, selected && focused);
   }
 }
 

@@ -14,9 +14,10 @@ constexpr int kPitch = 3;
 
 }  // namespace
 
-void PaintReliability(HDC dc, const Painter& painter, int x, int y, int level) {
+void PaintReliability(HDC dc, const Painter& painter, int x, int y, int level, bool selected) {
   const FaceplateColors& colors = painter.Colors();
-  const Color lit = level == 1 ? colors.alert : colors.signal;
+  Color lit = level == 1 ? colors.alert : colors.signal;
+  if (selected && colors.highContrast) lit = colors.rowSelectedText;
   const int bottom = y + painter.Px(kReliabilitySize);
   const int width = std::max(2, painter.Px(kBarWidth));
   for (int bar = 0; bar < 4; ++bar) {
