@@ -21,11 +21,12 @@ PickRow RowOf(const StationRecord& record) {
           record[StationField::MediaType], static_cast<int>(NumberValue(record[StationField::Reliability]))};
 }
 
-PickRow RowOf(const PersonalStation& station) {
-  return {"P" + std::to_string(station.index), station.name, {}, station.type, -1};
-}
-
 }  // namespace
+
+PickRow StationPicker::RowOfOwn(const PersonalStation& station) const {
+  return {"P" + std::to_string(station.index), station.name, strings_.Load(IDS_SCAN_YOUR_STATION),
+          station.type};
+}
 
 std::vector<std::string> StationPicker::Sources() const {
   std::vector<std::string> names;
@@ -70,7 +71,7 @@ std::vector<PickRow> StationPicker::RowsOfTokens(std::string_view tokens) {
   std::vector<PickRow> rows;
   for (const StationKey& key : keys) {
     if (key.kind == StationKey::Kind::Personal) {
-      if (const PersonalStation* own = personal_.Find(key.number)) rows.push_back(RowOf(*own));
+      if (const PersonalStation* own = personal_.Find(key.number)) rows.push_back(RowOfOwn(*own));
     } else if (const auto found = known.find(key.number); found != known.end()) {
       rows.push_back(found->second);
     }
@@ -80,7 +81,7 @@ std::vector<PickRow> StationPicker::RowsOfTokens(std::string_view tokens) {
 
 std::vector<PickRow> StationPicker::PersonalRows() const {
   std::vector<PickRow> rows;
-  for (const PersonalStation& station : personal_.All()) rows.push_back(RowOf(station));
+  for (const PersonalStation& station : personal_.All()) rows.push_back(RowOfOwn(station));
   return rows;
 }
 

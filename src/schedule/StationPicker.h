@@ -11,6 +11,7 @@ namespace sonaro {
 
 class CReg;
 class PersonalStations;
+struct PersonalStation;
 class RecentList;
 class StatList;
 class Strings;
@@ -20,7 +21,7 @@ struct PickRow {
   std::string name;
   std::string location;
   std::string mediaType;
-  int reliability = 0;  // 0 to 4, -1 for a personal station
+  int reliability = 0;  // 0 to 4
 };
 
 struct PickGroup {
@@ -48,6 +49,7 @@ class StationPicker {
  private:
   std::vector<PickGroup> Groups() const { return groups_ ? groups_() : std::vector<PickGroup>{}; }
   std::vector<PickRow> RowsOfTokens(std::string_view tokens);
+  PickRow RowOfOwn(const PersonalStation& station) const;
   std::vector<PickRow> PersonalRows() const;
 
   StatList& stations_;
