@@ -70,6 +70,15 @@ class UpdateTest : public DesktopTest {
   bool Says(HWND dialog, const std::string& text) {
     return WaitUntil([&] { return TextOf(Control(dialog, lblStuff)).find(text) != std::string::npos; });
   }
+  // The dialog once it says that; null when it never does. It may take the place of an older one meanwhile.
+  HWND DialogSaying(const std::string& text) {
+    HWND dialog = nullptr;
+    const bool says = WaitUntil([&] {
+      dialog = Sonaro().Window("MsgboxFrm", "Update");
+      return IsShown(dialog) && TextOf(Control(dialog, lblStuff)).find(text) != std::string::npos;
+    });
+    return says ? dialog : nullptr;
+  }
   bool WaitForRequests(std::size_t count) {
     return WaitUntil([&] { return server_.Requests().size() == count; });
   }

@@ -49,14 +49,14 @@ TEST_F(UpdateTest, F5BringsANewDirectoryAndItCanBeUndone) {
 TEST_F(UpdateTest, OfflineTheMenuOffersToUndoTheLastUpdate) {
   HWND main = StartAndShowMain();
   Click(Control(main, butUpdate));
-  HWND dialog = Dialog();
+  HWND dialog = DialogSaying("Finished Got It All");
   ASSERT_NE(dialog, nullptr);
-  ASSERT_TRUE(Says(dialog, "Finished Got It All"));
   WriteText(HKEY_LOCAL_MACHINE, "Software\\zumo\\Sonaro", "ProxyPort", std::to_string(UnusedPort()));
   PressKey(main, VK_F5);  // in place of the dialog that has done its work
-  ASSERT_TRUE(WaitUntil([&] { return (dialog = Dialog()) && Says(dialog, "Can't Connect"); }));
+  ASSERT_NE(DialogSaying("Can't Connect"), nullptr);
   Command(main, mnuUndoUpdate);
-  ASSERT_TRUE(WaitUntil([&] { return (dialog = Dialog()) && Says(dialog, "can be brought back"); }));
+  dialog = DialogSaying("can be brought back");
+  ASSERT_NE(dialog, nullptr);
   ExpectTheNewDirectory();
   SaveShot("offer");
   Click(Control(dialog, butMsg));
