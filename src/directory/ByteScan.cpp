@@ -28,13 +28,19 @@ inline void ForEachByte(const char* at, const char* end, char wanted, Found foun
 #if SONARO_SSE2
   const __m128i pattern = _mm_set1_epi8(wanted);
   const auto hitsIn = [&](const char* from) { return Mask(_mm_cmpeq_epi8(Load(from), pattern)); };
-  const auto report = [&](const char* from, std::uint32_t hits) {
+  const auto report = [&](const char* from, std::uint64_t hits) {
     for (; hits != 0; hits &= hits - 1) {
       if (found(from + std::countr_zero(hits))) return true;
     }
     return false;
   };
   const char* const start = at;
+  // Four vectors at a time: what ends the loop over a mask is guessed wrong once in 64 bytes, not in 16.
+  for (; end - at >= 4 * kVector; at += 4 * kVector) {
+    std::uint64_t hits = 0;
+    for (int i = 0; i < 4; ++i) hits |= std::uint64_t{hitsIn(at + i * kVector)} << (i * kVector);
+    if (report(at, hits)) return;
+  }
   for (; end - at >= kVector; at += kVector) {
     if (report(at, hitsIn(at))) return;
   }
