@@ -139,8 +139,11 @@ void SonaroFrm::mnuActionRemoveFromFavList_Click() {
 
 // What removing means for the list on show: a group loses a member, the user's own stations one of them.
 void SonaroFrm::mnuRemoveRow_Click() {
-  const bool ownStations = models_.listing.State().holds == Holds::PersonalStations;
-  ownStations ? mnuPersonalDelete_Click() : mnuActionRemoveFromFavList_Click();
+  if (models_.listing.State().holds == Holds::PersonalStations) {
+    mnuPersonalDelete_Click();
+  } else {
+    mnuActionRemoveFromFavList_Click();
+  }
 }
 
 void SonaroFrm::mnuActionMoveUp_Click() { MoveStation(-1); }
