@@ -77,6 +77,22 @@ void PressKey(HWND window, WORD virtualKey, Modifier modifier = Modifier::None);
 void TypeText(HWND window, const std::string& text);
 void ClickAt(int screenX, int screenY, bool rightButton = false);
 void DragFromTo(POINT from, POINT to);
+// The same until the condition holds; false when it never does. On a display without a window manager a
+// window that is closing can still take a click, and the focus that comes late ends a drag.
+template <typename Condition>
+bool ClickUntil(POINT at, Condition condition) {
+  return WaitUntil([&] {
+    ClickAt(at.x, at.y);
+    return WaitUntil(condition, std::chrono::seconds(2));
+  });
+}
+template <typename Condition>
+bool DragUntil(POINT from, POINT to, Condition condition) {
+  return WaitUntil([&] {
+    DragFromTo(from, to);
+    return WaitUntil(condition, std::chrono::seconds(2));
+  });
+}
 // The control with the keyboard focus in the window's thread; null when the thread has none.
 HWND FocusOf(HWND window);
 

@@ -46,19 +46,19 @@ TEST_F(GroupTest, StationsAndGroupsAreDragged) {
   const std::vector<std::string> names = ColumnTexts(List(main));
   for (const int row : {2, 3, 1}) {
     const std::string before = ReadFile("favs.snr");
-    DragFromTo(RowAt(main, row), MiddleOf(Control(main, butFavs + 1)));
-    ASSERT_TRUE(WaitUntil([&] { return ReadFile("favs.snr") != before; })) << row;
+    ASSERT_TRUE(DragUntil(RowAt(main, row), MiddleOf(Control(main, butFavs + 1)), [&] {
+      return ReadFile("favs.snr") != before;
+    })) << row;
   }
   Click(Control(main, butFavs + 1));
   EXPECT_TRUE(Listing(main, "東京"));
   EXPECT_EQ(ColumnTexts(List(main)), (std::vector<std::string>{names[2], names[3], names[1]}));
 
-  DragFromTo(RowAt(main, 0), RowAt(main, 2));
-  EXPECT_TRUE(WaitUntil([&] {
+  EXPECT_TRUE(DragUntil(RowAt(main, 0), RowAt(main, 2), [&] {
     return ColumnTexts(List(main)) == std::vector<std::string>{names[3], names[1], names[2]};
   }));
-  DragFromTo(MiddleOf(Control(main, butFavs)), MiddleOf(Control(main, butFavs + 2)));
-  EXPECT_TRUE(WaitUntil([&] { return TextOf(Control(main, butFavs + 2)) == "Rock & Roll"; }));
+  EXPECT_TRUE(DragUntil(MiddleOf(Control(main, butFavs)), MiddleOf(Control(main, butFavs + 2)),
+                        [&] { return TextOf(Control(main, butFavs + 2)) == "Rock & Roll"; }));
   EXPECT_EQ(TextOf(Control(main, butFavs)), "東京");
   const std::string file = ReadFile("favs.snr");
   EXPECT_TRUE(file.starts_with("東京\t")) << file;
@@ -96,9 +96,8 @@ TEST_F(GroupTest, TheGroupOnShowIsRenamedAndDeleted) {
   EXPECT_EQ(RowCount(List(main)), 1);
 
   // By the key, from the group's own button; then without being asked again.
-  const POINT key = MiddleOf(Control(main, butFavs + 1));
-  ClickAt(key.x, key.y);
-  ASSERT_TRUE(WaitUntil([&] { return FocusOf(main) == Control(main, butFavs + 1); }));
+  HWND key = Control(main, butFavs + 1);
+  ASSERT_TRUE(ClickUntil(MiddleOf(key), [&] { return FocusOf(main) == key; }));
   PressKey(main, VK_DELETE);
   HWND box = Dialog("MsgboxFrm");
   Click(Control(box, chkDontAsk));

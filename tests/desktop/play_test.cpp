@@ -63,8 +63,8 @@ TEST_F(PlayTest, EnterOnARowPlaysItAndTwentyOfTwentyFivePlaysAreKept) {
   EXPECT_EQ(CellText(List(main), 0), names.back());
 
   const RECT rows = BoundsOf(List(main));
-  ClickAt(rows.left + 60, rows.top + 33);  // the second row
-  ASSERT_TRUE(WaitUntil([&] { return SelectedRows(List(main)) == std::vector<int>{1}; }));
+  const POINT second{rows.left + 60, rows.top + 33};
+  ASSERT_TRUE(ClickUntil(second, [&] { return SelectedRows(List(main)) == std::vector<int>{1}; }));
   PressKey(main, VK_RETURN);
   EXPECT_EQ(AsxLines(26).size(), 26u);
 }

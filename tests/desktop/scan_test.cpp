@@ -10,13 +10,8 @@ class ScanTest : public MainWindowTest {
   bool Shows(HWND scan, int label, const std::string& text) {
     return WaitUntil([&] { return TextOf(Control(scan, label)) == text; });
   }
-  // Drags until the queue has one row more than `rows`: the keyboard comes to the dragged row's window late
-  // on this display, and that ends a drag.
   bool DropOn(HWND queue, int rows, POINT from, POINT to) {
-    return WaitUntil([&] {
-      DragFromTo(from, to);
-      return WaitUntil([&] { return RowCount(queue) == rows + 1; }, std::chrono::seconds(2));
-    });
+    return DragUntil(from, to, [&] { return RowCount(queue) == rows + 1; });
   }
   // Turns the window's clock on by seconds, at most `most`, until the label shows the text; how many it took.
   int TicksUntil(HWND scan, int label, const std::string& text, int most) {
