@@ -16,7 +16,8 @@
 #include "net/ServiceUrlTable.h"
 #include "platform/Sound.h"
 #include "playback/frmScan.h"
-#include "resources/ids.h"
+#include "resources/texts/app.h"
+#include "resources/texts/net.h"
 #include "tray/frmOptions.h"
 #include "tray/frmStartUpInfo.h"
 

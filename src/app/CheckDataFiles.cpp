@@ -10,7 +10,7 @@
 #include "app/Strings.h"
 #include "base/DataFolder.h"
 #include "base/Text.h"
-#include "resources/ids.h"
+#include "resources/texts/app.h"
 
 namespace sonaro {
 

@@ -1,5 +1,5 @@
 // What the message box is asked to show, as a value: portable code builds one, MsgboxFrm shows it. Texts come
-// from the string table (resources/ids.h) unless they are put together at run time.
+// from the string table (resources/texts) unless they are put together at run time.
 #pragma once
 
 #include <string>

@@ -4,7 +4,7 @@
 #include "forms/ControlIds.h"
 #include "forms/DialogRows.h"
 #include "forms/WideText.h"
-#include "resources/ids.h"
+#include "resources/texts/app.h"
 
 namespace sonaro {
 

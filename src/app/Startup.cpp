@@ -16,7 +16,7 @@
 #include "directory/StatList.h"
 #include "platform/MessagePost.h"
 #include "playback/Players.h"
-#include "resources/ids.h"
+#include "resources/texts/app.h"
 
 namespace sonaro {
 

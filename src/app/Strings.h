@@ -1,4 +1,4 @@
-// Dialog texts by their number in the string table (resources/ids.h, 10000 upward). The program loads them
+// Dialog texts by their number in the string table (resources/texts, 10000 upward). The program loads them
 // from its resources; tests give each number's own decimal text, so that they do not depend on the wording.
 #pragma once
 

@@ -5,7 +5,7 @@
 #include "forms/ControlIds.h"
 #include "forms/Painter.h"
 #include "forms/ProgressScale.h"
-#include "resources/ids.h"
+#include "resources/texts/app.h"
 
 namespace sonaro {
 

@@ -3,7 +3,7 @@
 
 #include "forms/ControlIds.h"
 #include "forms/FormDesign.h"
-#include "resources/ids.h"
+#include "resources/texts/app.h"
 
 namespace sonaro {
 

@@ -244,7 +244,7 @@ class Form {
   void PopUpMenu(std::span<const MenuEntry> entries, POINT at);
   void PopUpMenuUnder(std::span<const MenuEntry> entries, int id);  // below the control
 
-  std::string LoadText(int stringId) const;  // from strings.rc
+  std::string LoadText(int stringId) const;  // from resources/texts
 
   // For checks of the form as a whole.
   const FormDesign& Description() const;

@@ -118,7 +118,7 @@ enum class Ink : unsigned char {
   Off
 };
 
-// Words: the number of a text in strings.rc, or a text that is not a dialog word ("...", ":").
+// Words: the number of a text (resources/texts), or a text that is not a dialog word ("...", ":").
 struct Words {
   constexpr Words() = default;
   constexpr Words(int stringId) : id(stringId) {}      // NOLINT: rows read better without a conversion

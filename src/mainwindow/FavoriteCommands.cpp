@@ -7,7 +7,7 @@
 #include "app/Strings.h"
 #include "mainwindow/FavoriteGroups.h"
 #include "mainwindow/StationListing.h"
-#include "resources/ids.h"
+#include "resources/texts/mainwindow.h"
 
 namespace sonaro {
 namespace {

@@ -2,7 +2,7 @@
 
 #include "base/DataFolder.h"
 #include "base/Text.h"
-#include "resources/ids.h"
+#include "resources/texts/mainwindow.h"
 
 namespace sonaro {
 namespace {

@@ -8,7 +8,7 @@
 #include "mainwindow/SonaroFrm_panes.h"
 #include "mainwindow/SortEntries.h"
 #include "playback/PersonalStations.h"
-#include "resources/ids.h"
+#include "resources/texts/mainwindow.h"
 
 namespace sonaro {
 namespace {

@@ -8,7 +8,7 @@
 #include "mainwindow/FigureText.h"
 #include "mainwindow/SortEntries.h"
 #include "mainwindow/StationListing.h"
-#include "resources/ids.h"
+#include "resources/texts/mainwindow.h"
 
 namespace sonaro {
 

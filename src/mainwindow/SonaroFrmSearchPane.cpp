@@ -4,7 +4,7 @@
 #include "forms/ControlIds.h"
 #include "forms/Form.h"
 #include "mainwindow/SearchPanel.h"
-#include "resources/ids.h"
+#include "resources/texts/mainwindow.h"
 
 namespace sonaro {
 

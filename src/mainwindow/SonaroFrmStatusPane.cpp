@@ -12,7 +12,7 @@
 #include "mainwindow/FigureText.h"
 #include "mainwindow/MainModels.h"
 #include "mainwindow/SonaroFrm_panes.h"
-#include "resources/ids.h"
+#include "resources/texts/mainwindow.h"
 
 namespace sonaro {
 

@@ -2,7 +2,7 @@
 #include "app/Strings.h"
 #include "forms/ControlIds.h"
 #include "mainwindow/SonaroFrm.h"
-#include "resources/ids.h"
+#include "resources/texts/mainwindow.h"
 
 namespace sonaro {
 namespace {

@@ -7,7 +7,7 @@
 #include "mainwindow/FavoriteGroups.h"
 #include "mainwindow/StationListing.h"
 #include "playback/RecentList.h"
-#include "resources/ids.h"
+#include "resources/texts/mainwindow.h"
 
 namespace sonaro {
 namespace {

@@ -3,7 +3,7 @@
 #include "forms/ControlIds.h"
 #include "mainwindow/SonaroFrm.h"
 #include "mainwindow/SonaroFrm_panes.h"
-#include "resources/ids.h"
+#include "resources/texts/mainwindow.h"
 
 namespace sonaro {
 namespace {

@@ -1,7 +1,7 @@
 #include "mainwindow/SortEntries.h"
 
 #include "forms/ControlIds.h"
-#include "resources/ids.h"
+#include "resources/texts/mainwindow.h"
 
 namespace sonaro {
 namespace {

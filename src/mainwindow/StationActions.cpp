@@ -9,7 +9,7 @@
 #include "mainwindow/MainWindowCalls.h"
 #include "mainwindow/SortEntries.h"
 #include "mainwindow/StationListing.h"
-#include "resources/ids.h"
+#include "resources/texts/mainwindow.h"
 
 namespace sonaro {
 namespace {

@@ -8,7 +8,7 @@
 #include "playback/ExtraLinks.h"
 #include "playback/PersonalStations.h"
 #include "playback/PlayLink.h"
-#include "resources/ids.h"
+#include "resources/texts/mainwindow.h"
 
 namespace sonaro {
 namespace {

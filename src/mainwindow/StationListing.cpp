@@ -7,7 +7,7 @@
 #include "mainwindow/BrowseTree.h"
 #include "mainwindow/FavoriteGroups.h"
 #include "mainwindow/StationLists.h"
-#include "resources/ids.h"
+#include "resources/texts/mainwindow.h"
 
 namespace sonaro {
 

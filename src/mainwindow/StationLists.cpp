@@ -11,7 +11,7 @@
 #include "playback/PersonalStations.h"
 #include "playback/RecentList.h"
 #include "playback/StationKey.h"
-#include "resources/ids.h"
+#include "resources/texts/mainwindow.h"
 
 namespace sonaro {
 namespace {

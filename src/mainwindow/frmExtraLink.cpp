@@ -5,7 +5,8 @@
 #include "forms/ControlIds.h"
 #include "forms/DialogRows.h"
 #include "playback/PlayLink.h"
-#include "resources/ids.h"
+#include "resources/texts/app.h"
+#include "resources/texts/mainwindow.h"
 
 namespace sonaro {
 

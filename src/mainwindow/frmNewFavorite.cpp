@@ -4,7 +4,7 @@
 #include "base/Text.h"
 #include "forms/ControlIds.h"
 #include "forms/DialogRows.h"
-#include "resources/ids.h"
+#include "resources/texts/mainwindow.h"
 
 namespace sonaro {
 

@@ -2,7 +2,7 @@
 
 #include "forms/ControlIds.h"
 #include "forms/DialogRows.h"
-#include "resources/ids.h"
+#include "resources/texts/mainwindow.h"
 
 namespace sonaro {
 

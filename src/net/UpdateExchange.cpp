@@ -14,7 +14,7 @@
 #include "net/UpdateFormat.h"
 #include "net/UpdateInstall.h"
 #include "net/WhatIsNew.h"
-#include "resources/ids.h"
+#include "resources/texts/net.h"
 
 namespace sonaro {
 

@@ -5,7 +5,7 @@
 #include "app/Strings.h"
 #include "base/Text.h"
 #include "directory/StationListFile.h"
-#include "resources/ids.h"
+#include "resources/texts/net.h"
 
 namespace sonaro {
 

@@ -2,7 +2,7 @@
 
 #include "app/Strings.h"
 #include "net/UpdateExchange.h"
-#include "resources/ids.h"
+#include "resources/texts/net.h"
 
 namespace sonaro {
 

@@ -11,7 +11,7 @@
 #include "net/ServiceRequest.h"
 #include "net/ServiceUrlTable.h"
 #include "platform/Clock.h"
-#include "resources/ids.h"
+#include "resources/texts/net.h"
 
 namespace sonaro {
 

@@ -5,7 +5,7 @@
 #include "forms/ProgressScale.h"
 #include "net/UpdateText.h"
 #include "net/frmInetUpdate.h"
-#include "resources/ids.h"
+#include "resources/texts/net.h"
 
 namespace sonaro {
 

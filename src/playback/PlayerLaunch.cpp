@@ -7,7 +7,7 @@
 #include "playback/Players.h"
 #include "playback/RecentList.h"
 #include "playback/WebPages.h"
-#include "resources/ids.h"
+#include "resources/texts/playback.h"
 
 namespace sonaro {
 

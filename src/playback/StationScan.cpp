@@ -10,7 +10,7 @@
 #include "platform/Clock.h"
 #include "playback/PlayerLaunch.h"
 #include "playback/StationSource.h"
-#include "resources/ids.h"
+#include "resources/texts/playback.h"
 
 namespace sonaro {
 

@@ -8,7 +8,7 @@
 #include "forms/ProgressScale.h"
 #include "forms/portable/MenuText.h"
 #include "playback/frmScanTime.h"
-#include "resources/ids.h"
+#include "resources/texts/playback.h"
 
 namespace sonaro {
 

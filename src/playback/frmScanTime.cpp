@@ -5,7 +5,7 @@
 #include "forms/ControlIds.h"
 #include "forms/DialogRows.h"
 #include "playback/StationScan.h"
-#include "resources/ids.h"
+#include "resources/texts/playback.h"
 
 namespace sonaro {
 

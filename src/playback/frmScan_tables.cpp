@@ -2,7 +2,7 @@
 #include "forms/ControlIds.h"
 #include "forms/DialogRows.h"
 #include "playback/frmScan.h"
-#include "resources/ids.h"
+#include "resources/texts/playback.h"
 
 namespace sonaro {
 

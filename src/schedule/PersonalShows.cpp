@@ -6,7 +6,8 @@
 #include "app/Strings.h"
 #include "base/DataFolder.h"
 #include "base/Text.h"
-#include "resources/ids.h"
+#include "resources/texts/app.h"
+#include "resources/texts/schedule.h"
 
 namespace sonaro {
 

@@ -10,7 +10,8 @@
 #include "playback/PersonalStations.h"
 #include "playback/RecentList.h"
 #include "playback/StationKey.h"
-#include "resources/ids.h"
+#include "resources/texts/playback.h"
+#include "resources/texts/schedule.h"
 
 namespace sonaro {
 

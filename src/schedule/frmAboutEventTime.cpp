@@ -6,7 +6,8 @@
 #include "forms/DialogRows.h"
 #include "platform/Clock.h"
 #include "platform/Shell.h"
-#include "resources/ids.h"
+#include "resources/texts/app.h"
+#include "resources/texts/schedule.h"
 #include "schedule/TimeZone.h"
 
 namespace sonaro {

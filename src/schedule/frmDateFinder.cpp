@@ -3,7 +3,7 @@
 #include "app/HelpPages.h"
 #include "forms/ControlIds.h"
 #include "forms/DialogRows.h"
-#include "resources/ids.h"
+#include "resources/texts/schedule.h"
 
 namespace sonaro {
 

@@ -1,7 +1,8 @@
 #include "schedule/frmNotify.h"
 
 #include "forms/ControlIds.h"
-#include "resources/ids.h"
+#include "resources/texts/app.h"
+#include "resources/texts/schedule.h"
 
 namespace sonaro {
 

@@ -1,7 +1,7 @@
 // The controls of frmSchedChange and what they call.
 #include "forms/ControlIds.h"
 #include "forms/DialogRows.h"
-#include "resources/ids.h"
+#include "resources/texts/schedule.h"
 #include "schedule/frmSchedChange.h"
 
 namespace sonaro {

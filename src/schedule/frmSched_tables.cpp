@@ -1,7 +1,7 @@
 // The controls of frmSched and what they call.
 #include "forms/ControlIds.h"
 #include "forms/DialogRows.h"
-#include "resources/ids.h"
+#include "resources/texts/schedule.h"
 #include "schedule/frmSched.h"
 
 namespace sonaro {

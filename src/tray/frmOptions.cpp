@@ -4,7 +4,7 @@
 #include "base/Text.h"
 #include "forms/ControlIds.h"
 #include "forms/MessageLoop.h"
-#include "resources/ids.h"
+#include "resources/texts/tray.h"
 
 namespace sonaro {
 

@@ -1,6 +1,6 @@
 #include "forms/ControlIds.h"
 #include "forms/DialogRows.h"
-#include "resources/ids.h"
+#include "resources/texts/tray.h"
 #include "tray/frmOptions.h"
 
 namespace sonaro {

@@ -9,7 +9,8 @@
 #include "forms/DialogRows.h"
 #include "forms/FileDialog.h"
 #include "playback/PlayerSetup.h"
-#include "resources/ids.h"
+#include "resources/texts/playback.h"
+#include "resources/texts/tray.h"
 #include "tray/ProxyChoice.h"
 
 namespace sonaro {

@@ -7,7 +7,8 @@
 
 #include "forms/ControlIds.h"
 #include "forms/WideText.h"
-#include "resources/ids.h"
+#include "resources/icon.h"
+#include "resources/texts/tray.h"
 
 namespace sonaro {
 

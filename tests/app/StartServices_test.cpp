@@ -13,7 +13,7 @@
 #include "fakes/FakeMessageBox.h"
 #include "fakes/FakeRegistry.h"
 #include "fakes/FakeStrings.h"
-#include "resources/ids.h"
+#include "resources/texts/app.h"
 
 namespace sonaro {
 namespace {

@@ -16,7 +16,7 @@
 #include "fakes/FakeStrings.h"
 #include "fakes/FakeSystemInfo.h"
 #include "playback/Players.h"
-#include "resources/ids.h"
+#include "resources/texts/app.h"
 
 namespace sonaro {
 namespace {

@@ -9,7 +9,7 @@
 #include "mainwindow/SortEntries.h"
 #include "playback/ExtraLinks.h"
 #include "playback/StationSource.h"
-#include "resources/ids.h"
+#include "resources/texts/mainwindow.h"
 
 namespace sonaro {
 namespace {

@@ -1,7 +1,7 @@
 #include "mainwindow/StationListing.h"
 
 #include "mainwindow/Models.h"
-#include "resources/ids.h"
+#include "resources/texts/mainwindow.h"
 
 namespace sonaro {
 namespace {

@@ -7,7 +7,7 @@
 
 #include "app/DeferredSwap.h"
 #include "net/NetWorld.h"
-#include "resources/ids.h"
+#include "resources/texts/net.h"
 
 namespace sonaro {
 namespace {

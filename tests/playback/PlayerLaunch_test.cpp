@@ -3,7 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "playback/PlaybackWorld.h"
-#include "resources/ids.h"
+#include "resources/texts/playback.h"
 
 namespace sonaro {
 namespace {

@@ -4,7 +4,7 @@
 
 #include "fakes/FakeClock.h"
 #include "playback/PlaybackWorld.h"
-#include "resources/ids.h"
+#include "resources/texts/playback.h"
 
 namespace sonaro {
 namespace {
