@@ -21,7 +21,7 @@ const FormDesign& MsgboxFrm::Design() {
       {.id = lblTitle, .kind = Kind::TitleBar, .at = {40, 4, 156, 26}},
       MessagePicture(),
       MessageText(lblMsg, 132),
-      {.id = picGroove, .kind = Kind::Groove, .at = {14, 190, 392, 2}, .anchors = kFoot},
+      {.kind = Kind::Groove, .at = {14, 190, 392, 2}, .anchors = kFoot},
       {.id = chkDontAsk,
        .kind = Kind::CheckBox,
        .at = {16, 202, 172, 28},
@@ -33,12 +33,9 @@ const FormDesign& MsgboxFrm::Design() {
       CloseKey(380),
   };
   // A sentence that asks nothing: its one key stands where the window's edge is lowered for it.
-  static constexpr Place kOneKey[] = {
-      {lblTitle, {40, 4, 156, 26}}, {picStuff, {20, 52, 36, 36}},     {picGroove, {14, 190, 392, 2}},
-      {lblMsg, {68, 50, 336, 132}}, {chkDontAsk, {16, 202, 172, 28}}, {butMsg, {302, 202, 104, 28}},
-      {butHelp, {348, 12, 28, 22}}, {butCloseIt, {380, 12, 28, 22}},
-  };
-  static constexpr Layout kLayouts[] = {{.size = {420, 248}, .outline = "fdf01", .places = kOneKey}};
+  static constexpr Place kOneKey[] = {{butMsg, {302, 202, 104, 28}}};
+  static constexpr Layout kLayouts[] = {
+      {.size = {420, 248}, .outline = "fdf01", .places = kOneKey, .others = Layout::Others::AsDesigned}};
   static constexpr FormDesign kDesign = {.name = "MsgboxFrm",
                                          .caption = IDS_APP_TITLE,
                                          .size = {420, 248},

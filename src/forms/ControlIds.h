@@ -119,7 +119,6 @@ inline constexpr int butMsg = 2102;  // 2 numbers
 inline constexpr int chkDontAsk = 2104;
 inline constexpr int lblStuff = 2105;
 inline constexpr int picStuff = 2106;
-inline constexpr int picGroove = 2107;
 inline constexpr int lblClose = 2121;
 inline constexpr int lblLoading = 2122;
 inline constexpr int lblVersion = 2123;

@@ -144,8 +144,8 @@ struct ControlRow {
   unsigned char cut = 0;   // corner cut of Glass
 };
 
-// Another layout of the same controls, such as the compact form of a window. Controls without a place in it
-// are hidden; decorations need a number to have one.
+// Another layout of the same controls, such as the compact form of a window. Controls that it does not name
+// are hidden, or stay where they are; decorations need a number to be named.
 struct Place {
   int id = 0;
   DesignRect at;
@@ -154,6 +154,7 @@ struct Layout {
   DesignSize size;
   const char* outline = "";
   std::span<const Place> places;
+  enum class Others { Hidden, AsDesigned } others = Others::Hidden;
 };
 
 // A key of the keyboard that does what pressing the control (or choosing the menu entry) `command` does. A

@@ -81,9 +81,7 @@ void FormParts::RenewLook() { UseDpi(painter->Dpi()); }
 
 void FormParts::ResizeWindow() {
   const int dpi = painter->Dpi();
-  DesignSize cut = SizeOf(design, layout);
-  if (layout == 0 && design.outlineHeight > 0) cut.height = design.outlineHeight;
-  const PixelSize made = ScaleToDpi(cut, dpi);
+  const PixelSize made = ScaleToDpi(OutlineSizeOf(design, layout), dpi);
   const PixelSize size = ScaleToDpi(Size(), dpi);
   SetWindowPos(window, nullptr, 0, 0, size.width, size.height, SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
   RECT shaped{};

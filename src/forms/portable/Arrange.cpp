@@ -68,11 +68,11 @@ PixelRect Arrange(const DesignRect& at, unsigned anchors, DesignSize design, Pix
 
 const DesignRect* PlaceIn(const FormDesign& design, int layout, const ControlRow& row) {
   if (layout == 0) return &row.at;
-  if (row.id == 0) return nullptr;
-  for (const Place& place : design.layouts[static_cast<std::size_t>(layout - 1)].places) {
-    if (place.id == row.id) return &place.at;
+  const Layout& other = design.layouts[static_cast<std::size_t>(layout - 1)];
+  for (const Place& place : other.places) {
+    if (row.id != 0 && place.id == row.id) return &place.at;
   }
-  return nullptr;
+  return other.others == Layout::Others::AsDesigned ? &row.at : nullptr;
 }
 
 DesignSize SizeOf(const FormDesign& design, int layout) {
@@ -81,6 +81,12 @@ DesignSize SizeOf(const FormDesign& design, int layout) {
 
 const char* OutlineOf(const FormDesign& design, int layout) {
   return layout == 0 ? design.outline : design.layouts[static_cast<std::size_t>(layout - 1)].outline;
+}
+
+DesignSize OutlineSizeOf(const FormDesign& design, int layout) {
+  DesignSize size = SizeOf(design, layout);
+  if (layout == 0 && design.outlineHeight > 0) size.height = design.outlineHeight;
+  return size;
 }
 
 int FittingDpi(DesignSize size, PixelSize room, int dpi) {

@@ -33,11 +33,12 @@ PixelSize ScaleToDpi(DesignSize size, int dpi);
 // is not anchored to; an axis without an anchor keeps its middle.
 PixelRect Arrange(const DesignRect& at, unsigned anchors, DesignSize design, PixelSize client, int dpi);
 
-// A row as the layout places it; nullptr: the layout has no place for it. Layout 0 is the table itself. Rows
-// with number 0 have a place in layout 0 only.
+// A row as the layout places it; nullptr: the layout has no place for it. Layout 0 is the table itself.
 const DesignRect* PlaceIn(const FormDesign& design, int layout, const ControlRow& row);
 DesignSize SizeOf(const FormDesign& design, int layout);
+// The window's outline, and the size of the window that it was made for.
 const char* OutlineOf(const FormDesign& design, int layout);
+DesignSize OutlineSizeOf(const FormDesign& design, int layout);
 
 // The largest of 96, 120, 144 and 192 that is not above `dpi` and at which `size` fits into `room`; `dpi`
 // itself when it fits, 96 when nothing does.
