@@ -145,7 +145,8 @@ struct ControlRow {
 };
 
 // Another layout of the same controls, such as the compact form of a window. Controls that it does not name
-// are hidden, or stay where they are; decorations need a number to be named.
+// are hidden, or stay where they are; a place without a size hides its control. Decorations need a number to
+// be named.
 struct Place {
   int id = 0;
   DesignRect at;

@@ -44,8 +44,9 @@ TEST(Arrange, MovesTheEdgesThatAreAnchoredToTheFarSide) {
 TEST(PlaceIn, OfALayoutIsWhatItNamesAndTheRestHiddenOrAsDesigned) {
   static constexpr ControlRow kRows[] = {{.id = 1, .kind = Kind::PushKey, .at = {1, 2, 3, 4}},
                                          {.id = 2, .kind = Kind::PushKey},
-                                         {.id = 0, .kind = Kind::Label}};
-  static constexpr Place kPlaces[] = {{2, {5, 6, 7, 8}}, {0, {1, 1, 1, 1}}};
+                                         {.id = 0, .kind = Kind::Label},
+                                         {.id = 3, .kind = Kind::PushKey}};
+  static constexpr Place kPlaces[] = {{2, {5, 6, 7, 8}}, {0, {1, 1, 1, 1}}, {3, {}}};
   static constexpr Layout kLayouts[] = {{{440, 150}, "scc44", kPlaces},
                                         {.places = kPlaces, .others = Layout::Others::AsDesigned}};
   const FormDesign design = {.size = {720, 480}, .outline = "scf72", .controls = kRows, .layouts = kLayouts};
@@ -55,6 +56,7 @@ TEST(PlaceIn, OfALayoutIsWhatItNamesAndTheRestHiddenOrAsDesigned) {
   EXPECT_EQ(PlaceIn(design, 1, kRows[2]), nullptr) << "an unnumbered caption belongs to the design only";
   EXPECT_EQ(PlaceIn(design, 2, kRows[0]), &kRows[0].at);
   EXPECT_EQ(PlaceIn(design, 2, kRows[1]), &kPlaces[0].at);
+  EXPECT_EQ(PlaceIn(design, 2, kRows[3]), nullptr);
   EXPECT_EQ(SizeOf(design, 1).width, 440);
   EXPECT_STREQ(OutlineOf(design, 1), "scc44");
   EXPECT_STREQ(OutlineOf(design, 0), "scf72");

@@ -70,7 +70,7 @@ const DesignRect* PlaceIn(const FormDesign& design, int layout, const ControlRow
   if (layout == 0) return &row.at;
   const Layout& other = design.layouts[static_cast<std::size_t>(layout - 1)];
   for (const Place& place : other.places) {
-    if (row.id != 0 && place.id == row.id) return &place.at;
+    if (row.id != 0 && place.id == row.id) return place.at.width > 0 ? &place.at : nullptr;
   }
   return other.others == Layout::Others::AsDesigned ? &row.at : nullptr;
 }
