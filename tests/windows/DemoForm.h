@@ -1,4 +1,4 @@
-// A form with one of each kind of control in each of its states, as the sheet of components shows them.
+// A form with rows of the controls that forms are made of, and a log of their events.
 #pragma once
 
 #include <string>
@@ -10,26 +10,20 @@ namespace sonaro {
 
 class DemoForm final : public Form {
  public:
-  // Controls of one kind stand in a row of six: normal, hover, pressed, focused, disabled, active.
+  // Controls of one kind stand in a row of five or six, of which the fifth is disabled.
   enum Number {
     kPush = 5001,
     kPrimary = 5011,
     kRanking = 5021,
     kGroups = 5031,
-    kStrip = 5041,
-    kPlay = 5051,
-    kPlayMore = 5061,
     kCheck = 5071,
     kRadio = 5081,
     kCombo = 5091,
     kEdit = 5101,
     kSearch = 5111,
     kNotes = 5112,
-    kHeader = 5121,
     kToggle = 5131,
     kState = 5141,
-    kReadOnly = 5142,
-    kPicture = 5143,
     kTimer = 5150,
     kMenuEntry = 5160
   };

@@ -5,7 +5,6 @@
 
 #include "forms/ControlIds.h"
 #include "windows/DemoForm.h"
-#include "windows/FormCheck.h"
 #include "windows/FormContextForTests.h"
 #include "windows/Pump.h"
 
@@ -24,17 +23,6 @@ class FormTest : public testing::Test {
   FormContextForTests context;
   DemoForm form{context.forms};
 };
-
-TEST_F(FormTest, HoldsWhatHoldsForEveryForm) {
-  // Words that are too long and keys without a handler are part of the demonstration.
-  for (const std::string& problem : ProblemsOf(form)) {
-    if (problem.find("has room for") != std::string::npos && problem.find("Media Type") != std::string::npos)
-      continue;
-    if (problem.find("does nothing") != std::string::npos) continue;
-    if (problem.find("shares its access key") != std::string::npos) continue;
-    ADD_FAILURE() << problem;
-  }
-}
 
 TEST_F(FormTest, IsFoundFromOutsideByItsClassAndItsNumbers) {
   const HWND window = FindWindowA("frmDemo", "Components");

@@ -1,5 +1,4 @@
-// A form with the views of the main window at their places: tab dial, tree, list with its header keys,
-// ratings, progress, vent slots.
+// A form with the main window's list and tree, and a log of their events.
 #pragma once
 
 #include <string>
@@ -26,7 +25,7 @@ class MadeUpStations final : public ListModel {
 
 class ViewsForm final : public Form {
  public:
-  enum Number { kTabs = 5201, kTree = 5210, kList = 5211, kHeader = 5220, kRating = 5230, kProgress = 5240 };
+  enum Number { kTree = 5210, kList = 5211 };
 
   ViewsForm(FormContext& context, MadeUpStations& stations);
   void FillTree();
@@ -37,7 +36,6 @@ class ViewsForm final : public Form {
   static const FormDesign& Design();
   std::span<const EventRow> Events() const override;
   void OnLoad() override;
-  void Tabs_Click(int index);
   void List_ItemActivate(int row) { Note("ItemActivated", row); }
   void List_ItemSelect(int row) { Note("ItemSelected", row); }
   void List_ContextMenu(int row, POINT) { Note("ContextMenu", row); }
