@@ -10,7 +10,6 @@ class FakeClock : public Clock {
   ZoneReport zone;
 
   void SetGmt(const DateTime& gmt) { gmt_ = gmt; }
-  void SetLocal(const DateTime& local) { gmt_ = AddSeconds(local, BiasMinutes() * 60); }
   // Time passes while the machine is awake.
   void Advance(std::int64_t seconds) {
     gmt_ = AddSeconds(gmt_, seconds);

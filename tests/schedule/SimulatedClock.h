@@ -17,8 +17,6 @@ class SimulatedClock : public Clock {
 
   void SetGmt(const DateTime& gmt) { gmt_ = Seconds(gmt); }
   void Advance(std::int64_t seconds) { gmt_ += seconds; }
-  // The user sets the clock: local time jumps while the world goes on evenly.
-  void SetOffset(OffsetAt offset) { offset_ = std::move(offset); }
 
   std::int64_t LocalSeconds() const { return gmt_ + offset_(gmt_); }
 

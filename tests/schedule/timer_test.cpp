@@ -48,10 +48,6 @@ class Timer : public testing::Test {
       timer_.Timer1_Timer();
     }
   }
-  void SetLocal(const DateTime& local) {
-    clock_.SetGmt(local);
-    Start();
-  }
   std::size_t Told() const { return messages_.posted.size(); }
 
   FakeFiles files_;
