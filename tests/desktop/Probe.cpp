@@ -151,6 +151,8 @@ void Click(HWND button) { PostMessageA(button, BM_CLICK, 0, 0); }
 
 void Command(HWND window, int id) { PostMessageA(window, WM_COMMAND, static_cast<WPARAM>(id), 0); }
 
+void ClickNow(HWND button) { Send(button, BM_CLICK); }
+
 void CommandNow(HWND window, int id) { Send(window, WM_COMMAND, static_cast<WPARAM>(id)); }
 
 void CloseWindowOf(HWND window) { PostMessageA(window, WM_CLOSE, 0, 0); }

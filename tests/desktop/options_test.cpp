@@ -32,11 +32,7 @@ class OptionsTest : public DesktopTest {
   }
   HWND In(int id) const { return Control(dialog_, id); }
   bool IsOn(int id) const { return IsChecked(In(id)); }
-  // Clicks wait their turn in the program: the answer comes when they are done.
-  void Press(int id) {
-    Click(In(id));
-    SendMessageA(dialog_, WM_NULL, 0, 0);
-  }
+  void Press(int id) { ClickNow(In(id)); }
   bool Closed() {
     return WaitUntil([&] { return !IsWindow(dialog_); });
   }
@@ -153,7 +149,7 @@ TEST_F(OptionsTest, TheComputersProxyIsFoundAndWhatIsTypedIsTested) {
   EXPECT_TRUE(IsOn(optProxy + 1));
   EXPECT_EQ(TextOf(In(txtProxy)) + " " + TextOf(In(txtPort)), "127.0.0.1 9");
 
-  Press(butTestProxyIt);
+  Click(In(butTestProxyIt));
   HWND test = Sonaro().WaitForShownWindow("frmTestProxy");
   ASSERT_NE(test, nullptr);
   EXPECT_EQ(TextOf(Control(test, lblCheckAddress)) + " " + TextOf(Control(test, lblCheckPort)),
@@ -194,8 +190,7 @@ TEST_F(OptionsTest, TheTrayOpensTheSameDialogOnce) {
   Command(tray, mnuTrayOptions);
   dialog_ = sonaro.WaitForShownWindow("frmOptions");
   ASSERT_NE(dialog_, nullptr);
-  Command(tray, mnuTrayOptions);
-  SendMessageA(tray, WM_NULL, 0, 0);
+  CommandNow(tray, mnuTrayOptions);
   EXPECT_EQ(FindWindowA("frmOptions", nullptr), dialog_);
   EXPECT_EQ(FindWindowExA(nullptr, dialog_, "frmOptions", nullptr), nullptr);
   // The end of the program ends the dialog, with nothing stored.
