@@ -34,8 +34,7 @@ const FormDesign& MsgboxFrm::Design() {
   };
   // A sentence that asks nothing: its one key stands where the window's edge is lowered for it.
   static constexpr Place kOneKey[] = {{butMsg, {302, 202, 104, 28}}, {butMsg + 1, {}}};
-  static constexpr Layout kLayouts[] = {
-      {.size = {420, 248}, .outline = "fdf01", .places = kOneKey, .others = Layout::Others::AsDesigned}};
+  static constexpr Layout kLayouts[] = {{.places = kOneKey, .others = Layout::Others::AsDesigned}};
   static constexpr FormDesign kDesign = {.name = "MsgboxFrm",
                                          .caption = IDS_APP_TITLE,
                                          .size = {420, 248},

@@ -22,15 +22,6 @@ COMBOBOXINFO InfoOf(HWND combo) {
   return info;
 }
 
-std::wstring RowText(HWND combo, int row) {
-  const LRESULT length = SendMessageW(combo, CB_GETLBTEXTLEN, static_cast<WPARAM>(row), 0);
-  if (length <= 0) return {};
-  std::wstring text(static_cast<std::size_t>(length) + 1, L'\0');
-  SendMessageW(combo, CB_GETLBTEXT, static_cast<WPARAM>(row), reinterpret_cast<LPARAM>(text.data()));
-  text.resize(static_cast<std::size_t>(length));
-  return text;
-}
-
 // Between the left inset and the drop zone, one line high.
 RECT TextPlace(HWND combo, const Painter& painter) {
   RECT box{};
@@ -68,7 +59,7 @@ void PaintFace(const FormParts& parts, const FormItem& item, HDC dc) {
   if (item.KindOf() == Kind::Combo) {
     const int row = static_cast<int>(SendMessageW(item.window, CB_GETCURSEL, 0, 0));
     if (row >= 0) {
-      painter.Text(dc, TextPlace(item.window, painter), std::wstring_view(RowText(item.window, row)),
+      painter.Text(dc, TextPlace(item.window, painter), std::wstring_view(ComboRowText(item.window, row)),
                    Type::Body, enabled ? colors.glassText : colors.textOff);
     }
   }
@@ -117,6 +108,15 @@ LRESULT CALLBACK ListProcedure(HWND list, UINT message, WPARAM wParam, LPARAM lP
 }
 
 }  // namespace
+
+std::wstring ComboRowText(HWND combo, int row) {
+  const LRESULT length = row < 0 ? 0 : SendMessageW(combo, CB_GETLBTEXTLEN, static_cast<WPARAM>(row), 0);
+  if (length <= 0) return {};
+  std::wstring text(static_cast<std::size_t>(length) + 1, L'\0');
+  SendMessageW(combo, CB_GETLBTEXT, static_cast<WPARAM>(row), reinterpret_cast<LPARAM>(text.data()));
+  text.resize(static_cast<std::size_t>(length));
+  return text;
+}
 
 LRESULT HandleComboMessage(FormParts& parts, const FormItem& item, UINT message, WPARAM wParam,
                            LPARAM lParam) {
@@ -202,8 +202,9 @@ void PaintComboRow(const FormParts& parts, const DRAWITEMSTRUCT& draw) {
   }
   const RECT place = {draw.rcItem.left + painter.Px(kTextInset), draw.rcItem.top,
                       draw.rcItem.right - painter.Px(4), draw.rcItem.bottom};
-  painter.Text(buffer.Dc(), place, std::wstring_view(RowText(draw.hwndItem, static_cast<int>(draw.itemID))),
-               Type::Body, selected ? colors.rowSelectedText : colors.glassText);
+  painter.Text(buffer.Dc(), place,
+               std::wstring_view(ComboRowText(draw.hwndItem, static_cast<int>(draw.itemID))), Type::Body,
+               selected ? colors.rowSelectedText : colors.glassText);
 }
 
 }  // namespace sonaro

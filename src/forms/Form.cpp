@@ -144,7 +144,6 @@ void Form::Close(int result) {
 bool Form::IsOpen() const { return parts_->window && !parts_->closing; }
 bool Form::IsShown() const { return IsOpen() && IsWindowVisible(parts_->window); }
 HWND Form::Window() const { return parts_->closing ? nullptr : parts_->window; }
-bool Form::IsMoving() const { return parts_->moving; }
 int Form::CurrentLayout() const { return parts_->layout; }
 const FormDesign& Form::Description() const { return parts_->design; }
 std::string Form::LoadText(int stringId) const { return parts_->context.strings.Load(stringId); }
@@ -156,20 +155,16 @@ void Form::UseLayout(int layout) {
   if (parts_->window) parts_->ResizeWindow();
 }
 
-void Form::Resize(DesignSize size) {
-  parts_->grown = size;
-  if (parts_->window) parts_->ResizeWindow();
-}
-
 void Form::SetTextAndGrow(int id, std::string_view text) {
   SetText(id, text);
   const FormItem* item = parts_->Find(id);
-  if (!item) return;
+  const DesignRect* at = item ? PlaceIn(parts_->design, parts_->layout, *item->row) : nullptr;
+  if (!at) return;
   const Painter asDesigned(FaceplateColors{}, 96);
-  const ControlRow& row = *item->row;
-  const int needed = asDesigned.WrappedHeight(Widen(text), FontTypeOf(row), row.at.width);
-  const DesignSize size = parts_->design.size;
-  Resize({size.width, size.height + std::max(0, needed - row.at.height)});
+  const int needed = asDesigned.WrappedHeight(Widen(text), FontTypeOf(*item->row), at->width);
+  const DesignSize size = SizeOf(parts_->design, parts_->layout);
+  parts_->grown = {size.width, size.height + std::max(0, needed - at->height)};
+  if (parts_->window) parts_->ResizeWindow();
 }
 
 void Form::MoveToPixels(int left, int top) {
@@ -196,20 +191,6 @@ void Form::CentreOn(HWND other) {
   }
   MoveToPixels((ground.left + ground.right - static_cast<int>(box.right - box.left)) / 2,
                (ground.top + ground.bottom - static_cast<int>(box.bottom - box.top)) / 2);
-}
-
-void Form::MoveToWorkAreaCorner(int designGap) {
-  if (!parts_->window) return;
-  RECT box{};
-  GetWindowRect(parts_->window, &box);
-  const PixelRect ground = WorkAreaOf(nullptr);
-  const int gap = parts_->painter->Px(designGap);
-  MoveToPixels(ground.right - gap - static_cast<int>(box.right - box.left),
-               ground.bottom - gap - static_cast<int>(box.bottom - box.top));
-}
-
-void Form::RefreshLook() {
-  if (parts_->window) parts_->RenewLook();
 }
 
 void Form::PopUpMenu(std::span<const MenuEntry> entries, POINT at) {

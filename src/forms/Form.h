@@ -97,10 +97,18 @@ struct FormContext {
 class EventRow {
  public:
   using Kind = FormEvent::Kind;
-  enum Plain { Click, Change, SelChange, DropDown, EnterPressed, GotFocus, LostFocus };
-  enum OfRow { ItemActivated, ItemSelected };
+  enum Plain : unsigned char {
+    Click = static_cast<unsigned char>(Kind::Click),
+    Change = static_cast<unsigned char>(Kind::Change),
+    SelChange = static_cast<unsigned char>(Kind::SelChange),
+    EnterPressed = static_cast<unsigned char>(Kind::EnterPressed)
+  };
+  enum OfRow : unsigned char {
+    ItemActivated = static_cast<unsigned char>(Kind::ItemActivated),
+    ItemSelected = static_cast<unsigned char>(Kind::ItemSelected)
+  };
   enum AtPoint { ContextMenu };
-  enum OfNode { NodeClick, NodeSelected, NodeExpanding };
+  enum OfNode { NodeClick };
 
   template <class T>
   EventRow(int id, Plain event, void (T::*handler)())
@@ -114,9 +122,7 @@ class EventRow {
         withIndex(static_cast<void (Form::*)(int)>(handler)) {}
   template <class T>
   EventRow(int id, OfRow event, void (T::*handler)(int row))
-      : first(id),
-        kind(event == ItemActivated ? Kind::ItemActivated : Kind::ItemSelected),
-        withRow(static_cast<void (Form::*)(int)>(handler)) {}
+      : first(id), kind(static_cast<Kind>(event)), withRow(static_cast<void (Form::*)(int)>(handler)) {}
   template <class T>  // row of a list, or index of a control array (count > 1), -1: none; screen pixels
   EventRow(int id, AtPoint, void (T::*handler)(int row, POINT at), int arraySize = 1)
       : first(id),
@@ -124,10 +130,8 @@ class EventRow {
         kind(Kind::ContextMenu),
         atPoint(static_cast<void (Form::*)(int, POINT)>(handler)) {}
   template <class T>
-  EventRow(int id, OfNode event, void (T::*handler)(HTREEITEM node))
-      : first(id),
-        kind(static_cast<Kind>(static_cast<int>(Kind::NodeClick) + event)),
-        withNode(static_cast<void (Form::*)(HTREEITEM)>(handler)) {}
+  EventRow(int id, OfNode, void (T::*handler)(HTREEITEM node))
+      : first(id), kind(Kind::NodeClick), withNode(static_cast<void (Form::*)(HTREEITEM)>(handler)) {}
 
   // For Form only.
   int first = 0;
@@ -172,14 +176,10 @@ class Form {
   void UseLayout(int layout);  // 0 = the design; keeps the top-left corner, changes outline and places
   int CurrentLayout() const;
   // Sets the text of a wrapped label that is anchored to top and bottom, and makes the window as much higher
-  // than designed as the text needs.
+  // than its layout as the text needs; anchors move the controls.
   void SetTextAndGrow(int id, std::string_view text);
-  void Resize(DesignSize size);              // a message box that grows; anchors move the controls
-  void MoveToPixels(int left, int top);      // kept inside the visible screens
-  void CentreOn(HWND other);                 // nullptr: the work area
-  void MoveToWorkAreaCorner(int designGap);  // lower right
-  bool IsMoving() const;                     // the user is dragging the form
-  void RefreshLook();                        // colours or outline file changed
+  void MoveToPixels(int left, int top);  // kept inside the visible screens
+  void CentreOn(HWND other);             // nullptr: the work area
 
   // Controls by number. A number that the form does not have is ignored, and reads as "", 0 or false. What
   // the program sets raises no event.
@@ -197,7 +197,6 @@ class Form {
   void ShowPane(int pane, bool shown = true);
   void Focus(int id);
   int FocusedControl() const;  // 0: none of this form
-  void Repaint(int id);
 
   // Check boxes, radio buttons (checking one clears its group) and toggles.
   void Check(int id, bool checked = true);
@@ -221,7 +220,6 @@ class Form {
   int ItemData(int id, int row) const;
   int SelectedItem(int id) const;
   void SelectItem(int id, int row);
-  int FindItem(int id, std::string_view text) const;  // exact, letter case ignored
   bool SelectItemData(int id, int data);
 
   // Views with a class of their own. The number must be of that kind.
@@ -254,16 +252,11 @@ class Form {
   static constexpr auto Click = EventRow::Click;
   static constexpr auto Change = EventRow::Change;
   static constexpr auto SelChange = EventRow::SelChange;
-  static constexpr auto DropDown = EventRow::DropDown;
   static constexpr auto EnterPressed = EventRow::EnterPressed;
-  static constexpr auto GotFocus = EventRow::GotFocus;
-  static constexpr auto LostFocus = EventRow::LostFocus;
   static constexpr auto ItemActivated = EventRow::ItemActivated;
   static constexpr auto ItemSelected = EventRow::ItemSelected;
   static constexpr auto ContextMenu = EventRow::ContextMenu;
   static constexpr auto NodeClick = EventRow::NodeClick;
-  static constexpr auto NodeSelected = EventRow::NodeSelected;
-  static constexpr auto NodeExpanding = EventRow::NodeExpanding;
 
   virtual std::span<const EventRow> Events() const { return {}; }
   virtual std::span<const TimerRow> Timers() const { return {}; }

@@ -21,9 +21,7 @@ constexpr WORD kNoNumber = 0xFFFF;
 
 DWORD EditStyle(const ControlRow& row) {
   DWORD style = row.kind == Kind::Edit ? ES_AUTOHSCROLL : ES_MULTILINE | ES_AUTOVSCROLL;
-  if (row.kind == Kind::ReadOnlyText || (row.flags & kReadOnly)) style |= ES_READONLY;
-  if (row.flags & kPassword) style |= ES_PASSWORD;
-  if (row.flags & kDigits) style |= ES_NUMBER;
+  if (row.kind == Kind::ReadOnlyText) style |= ES_READONLY;
   if (row.flags & kRightAligned) style |= ES_RIGHT;
   return style;
 }
@@ -111,10 +109,7 @@ LRESULT CALLBACK BringUpProcedure(HWND label, UINT message, WPARAM wParam, LPARA
     const LRESULT answer = DefSubclassProc(label, message, wParam, lParam);
     if (message == WM_SETTEXT) {
       const auto kept = reinterpret_cast<FormParts*>(parts)->shared_from_this();
-      std::wstring caption(static_cast<std::size_t>(GetWindowTextLengthW(label)) + 1, L'\0');
-      caption.resize(
-          static_cast<std::size_t>(GetWindowTextW(label, caption.data(), static_cast<int>(caption.size()))));
-      if (kept->context.bringUp) kept->context.bringUp(Narrow(caption));
+      if (kept->context.bringUp) kept->context.bringUp(Narrow(TextOfWindow(label)));
     }
     return answer;
   });

@@ -17,16 +17,11 @@ struct FormEvent {
     Click,
     Change,
     SelChange,
-    DropDown,
     EnterPressed,
-    GotFocus,
-    LostFocus,
     ItemActivated,
     ItemSelected,  // row
     ContextMenu,   // row (-1: none) and point
-    NodeClick,
-    NodeSelected,
-    NodeExpanding  // node
+    NodeClick      // node
   };
   int id = 0;
   Kind kind = Kind::Click;

@@ -1,7 +1,6 @@
 // The part of Form that speaks about controls by number.
 #include <algorithm>
 
-#include "base/Text.h"
 #include "forms/FormParts.h"
 #include "forms/WideText.h"
 
@@ -16,14 +15,6 @@ HWND WindowOf(FormParts& parts, int id) {
 LRESULT Ask(FormParts& parts, int id, UINT message, WPARAM wParam = 0, LPARAM lParam = 0) {
   const HWND window = WindowOf(parts, id);
   return window ? SendMessageW(window, message, wParam, lParam) : 0;
-}
-
-std::string TextOfWindow(HWND window) {
-  const LRESULT length = SendMessageW(window, WM_GETTEXTLENGTH, 0, 0);
-  std::wstring text(static_cast<std::size_t>(length) + 1, L'\0');
-  const LRESULT copied = SendMessageW(window, WM_GETTEXT, text.size(), reinterpret_cast<LPARAM>(text.data()));
-  text.resize(static_cast<std::size_t>(copied));
-  return Narrow(text);
 }
 
 // Sets a flag for as long as it lives.
@@ -45,14 +36,14 @@ HWND Form::Control(int id) const { return WindowOf(*parts_, id); }
 
 std::string Form::Text(int id) const {
   const HWND window = WindowOf(*parts_, id);
-  return window ? TextOfWindow(window) : std::string();
+  return window ? Narrow(TextOfWindow(window)) : std::string();
 }
 
 void Form::SetText(int id, std::string_view text) {
   const HWND window = WindowOf(*parts_, id);
   if (!window) return;
   const std::wstring wide = Widen(text);
-  if (TextOfWindow(window) == text) return;  // an edit keeps its caret, a label does not flicker
+  if (TextOfWindow(window) == wide) return;  // an edit keeps its caret, a label does not flicker
   const Quietly quietly(parts_->quiet);
   SetWindowTextW(window, wide.c_str());
 }
@@ -122,10 +113,6 @@ int Form::FocusedControl() const {
   return item ? item->Id() : 0;
 }
 
-void Form::Repaint(int id) {
-  if (const FormItem* item = parts_->Find(id)) parts_->RepaintItem(*item);
-}
-
 void Form::Check(int id, bool checked) {
   const FormItem* item = parts_->Find(id);
   if (!item || !item->window) return;
@@ -191,12 +178,8 @@ void Form::ClearItems(int id) {
 int Form::ItemCount(int id) const { return static_cast<int>(Ask(*parts_, id, CB_GETCOUNT)); }
 
 std::string Form::ItemText(int id, int row) const {
-  const LRESULT length = Ask(*parts_, id, CB_GETLBTEXTLEN, static_cast<WPARAM>(row));
-  if (row < 0 || length <= 0) return {};
-  std::wstring text(static_cast<std::size_t>(length) + 1, L'\0');
-  Ask(*parts_, id, CB_GETLBTEXT, static_cast<WPARAM>(row), reinterpret_cast<LPARAM>(text.data()));
-  text.resize(static_cast<std::size_t>(length));
-  return Narrow(text);
+  const HWND window = WindowOf(*parts_, id);
+  return window ? Narrow(ComboRowText(window, row)) : std::string();
 }
 
 int Form::ItemData(int id, int row) const {
@@ -211,13 +194,6 @@ int Form::SelectedItem(int id) const {
 void Form::SelectItem(int id, int row) {
   const Quietly quietly(parts_->quiet);
   Ask(*parts_, id, CB_SETCURSEL, static_cast<WPARAM>(row));
-}
-
-int Form::FindItem(int id, std::string_view text) const {
-  for (int row = 0; row < ItemCount(id); ++row) {
-    if (EqualIgnoringCase(ItemText(id, row), text)) return row;
-  }
-  return -1;
 }
 
 bool Form::SelectItemData(int id, int data) {

@@ -76,12 +76,9 @@ enum ControlFlag : unsigned {
   kWrap = 32,      // Label: several lines
   kRightAligned = 64,
   kCentred = 128,
-  kPassword = 256,    // Edit
-  kDigits = 512,      // Edit: digits only
-  kOnGlass = 1024,    // the control stands on glass: default colours and corners are those of glass
-  kSecondary = 2048,  // PlayKey: not the first link, drawn as a plain key. Label: muted
-  kNoPrefix = 4096,   // "&" in the text is an ordinary character (names of stations and groups)
-  kReadOnly = 8192,   // Edit
+  kOnGlass = 256,    // the control stands on glass: default colours and corners are those of glass
+  kSecondary = 512,  // PlayKey: not the first link, drawn as a plain key. Label: muted
+  kNoPrefix = 1024,  // "&" in the text is an ordinary character (names of stations and groups)
 };
 
 // What a header key says about the order of its list.
@@ -146,13 +143,13 @@ struct ControlRow {
 
 // Another layout of the same controls, such as the compact form of a window. Controls that it does not name
 // are hidden, or stay where they are; a place without a size hides its control. Decorations need a number to
-// be named.
+// be named. Without a size of its own the layout has the size and the outline of the design.
 struct Place {
   int id = 0;
   DesignRect at;
 };
 struct Layout {
-  DesignSize size;
+  DesignSize size = {};
   const char* outline = "";
   std::span<const Place> places;
   enum class Others { Hidden, AsDesigned } others = Others::Hidden;

@@ -48,8 +48,11 @@ void FormParts::ChooseDpi(HMONITOR monitor) {
   info.cbSize = sizeof(info);
   GetMonitorInfoW(monitor, &info);
   const PixelRect room = ToPixelRect(info.rcWork);
-  painter = std::make_unique<Painter>(
-      context.faceplate.Colors(), FittingDpi(Size(), {room.Width(), room.Height()}, DpiOfMonitor(monitor)));
+  MakePainter(FittingDpi(Size(), {room.Width(), room.Height()}, DpiOfMonitor(monitor)));
+}
+
+void FormParts::MakePainter(int dpi) {
+  painter = std::make_unique<Painter>(context.faceplate.Colors(), dpi);
   RenewBrush(glassBrush, painter->Colors().glass);
   RenewBrush(plateBrush, painter->Colors().plate);
   RenewBrush(offBrush, painter->Colors().keyOff);
@@ -59,10 +62,7 @@ void FormParts::UseDpi(int dpi, Fit fit) {
   const PixelRect room = WorkAreaOf(window);
   const int fitting = fit == Fit::Yes ? FittingDpi(Size(), {room.Width(), room.Height()}, dpi) : dpi;
   const auto old = std::move(painter);  // its fonts are in use until the controls have the new ones
-  painter = std::make_unique<Painter>(context.faceplate.Colors(), fitting);
-  RenewBrush(glassBrush, painter->Colors().glass);
-  RenewBrush(plateBrush, painter->Colors().plate);
-  RenewBrush(offBrush, painter->Colors().keyOff);
+  MakePainter(fitting);
   backdrop.Discard();
   for (FormItem& item : items) {
     if (item.view) item.view->LookChanged();

@@ -9,15 +9,6 @@
 namespace sonaro {
 namespace {
 
-std::wstring WindowText(HWND window) {
-  std::wstring text(static_cast<std::size_t>(GetWindowTextLengthW(window)), L'\0');
-  if (!text.empty()) {
-    const int copied = GetWindowTextW(window, text.data(), static_cast<int>(text.size()) + 1);
-    text.resize(static_cast<std::size_t>(copied));
-  }
-  return text;
-}
-
 Color InkColor(const FormItem& item, const FaceplateColors& colors) {
   const bool glass = item.Has(kOnGlass);
   switch (item.ink) {
@@ -63,7 +54,7 @@ void PaintText(const FormParts& parts, const FormItem& item, HDC dc, const RECT&
     parts.painter->DrawIcon(dc, item.icon, box.left, box.top, item.row->at.width, color);
     return;
   }
-  parts.painter->Text(dc, box, WindowText(item.window), type, color, format);
+  parts.painter->Text(dc, box, TextOfWindow(item.window), type, color, format);
 }
 
 // Slots of a vent, cut at 45 degrees; the left ones end higher, the right ones start lower, like the
@@ -222,7 +213,7 @@ KeyPicture FormParts::PictureOf(const FormItem& item) const {
   KeyPicture key;
   key.kind = item.KindOf();
   key.secondary = item.Has(kSecondary);
-  key.text = WindowText(item.window);
+  key.text = TextOfWindow(item.window);
   key.detail = Widen(item.detail);
   key.icon = item.icon;
   key.sort = item.sort;

@@ -107,7 +107,7 @@ class FormParts final : public FormServices, public std::enable_shared_from_this
   void SetTip(FormItem& item, const std::string& text);
 
   // FormLayout.cpp
-  void ChooseDpi(HMONITOR monitor);  // makes painter and brushes
+  void ChooseDpi(HMONITOR monitor);  // makes the painter
   // Makes everything anew for `dpi`, with Fit for the largest that lets the form fit its work area. The
   // window keeps its corner.
   enum class Fit : bool { No, Yes };
@@ -156,17 +156,16 @@ class FormParts final : public FormServices, public std::enable_shared_from_this
   HBRUSH glassBrush = nullptr;
   HBRUSH plateBrush = nullptr;
   HBRUSH offBrush = nullptr;
-  DesignSize grown;  // by Resize; {} = the layout's size
+  DesignSize grown;  // by SetTextAndGrow; {} = the layout's size
   int layout = 0;
   int needleTab = 0;            // the tab that was made active last
   std::optional<int> needleAt;  // while it moves, in pixels of the form; set by its timer
   NeedleSlide needleSlide;      // begins with the timer's first tick
-  bool moving = false;
-  bool quiet = false;       // the program sets a text: no Change event
-  bool modal = false;       // ShowModal runs
-  bool closing = false;     // Close was called
-  bool placed = false;      // the program has said where the window lies
-  bool focusGiven = false;  // the first focus is set at the first showing
+  bool quiet = false;           // the program sets a text: no Change event
+  bool modal = false;           // ShowModal runs
+  bool closing = false;         // Close was called
+  bool placed = false;          // the program has said where the window lies
+  bool focusGiven = false;      // the first focus is set at the first showing
   bool showFocus = false;
   bool showAccessKeys = false;
   int result = 0;
@@ -174,9 +173,10 @@ class FormParts final : public FormServices, public std::enable_shared_from_this
 
  private:
   void Load();
+  void MakePainter(int dpi);
   LRESULT HandleCommand(WPARAM wParam, LPARAM lParam);
   LRESULT HandleNotice(NMHDR& notice);
-  LRESULT HandleDrawing(UINT message, WPARAM wParam, LPARAM lParam);
+  LRESULT HandleDrawing(UINT message, LPARAM lParam);
   LRESULT HandleControlColor(UINT message, HDC dc, HWND control);
   LRESULT HandlePointer(UINT message, LPARAM lParam);
   LRESULT HandleContextMenu(HWND control, LPARAM lParam);
@@ -208,6 +208,7 @@ void PlaceLinesBar(const FormParts& parts, FormItem& item);
 void UpdateLinesBar(const FormParts& parts, FormItem& item);  // after what may have scrolled the text
 
 // ComboFace.cpp: the drawn face of a combo and its open list.
+std::wstring ComboRowText(HWND combo, int row);  // "" for a row that it does not have
 LRESULT HandleComboMessage(FormParts& parts, const FormItem& item, UINT message, WPARAM wParam,
                            LPARAM lParam);
 void DressCombo(FormParts& parts, FormItem& item);

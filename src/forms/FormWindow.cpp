@@ -95,7 +95,7 @@ LRESULT FormParts::HandleMessage(UINT message, WPARAM wParam, LPARAM lParam) {
     case WM_PAINT:
     case WM_DRAWITEM:
     case WM_MEASUREITEM:
-      return HandleDrawing(message, wParam, lParam);
+      return HandleDrawing(message, lParam);
     case WM_CTLCOLOREDIT:
     case WM_CTLCOLORSTATIC:
     case WM_CTLCOLORLISTBOX:
@@ -182,7 +182,6 @@ void FormParts::Forget() {
   SetWindowLongPtrW(window, GWLP_USERDATA, 0);
   window = nullptr;
   tips = nullptr;
-  moving = false;
   needleTab = 0;
   needleAt.reset();
   backdrop.Discard();
@@ -218,8 +217,6 @@ LRESULT FormParts::HandleCommand(WPARAM wParam, LPARAM lParam) {
 void FormParts::EditNotice(FormItem& item, int code) {
   using Event = FormEvent::Kind;
   if (code == EN_CHANGE && !quiet) Handle({.id = item.Id(), .kind = Event::Change});
-  if (code == EN_SETFOCUS) Handle({.id = item.Id(), .kind = Event::GotFocus});
-  if (code == EN_KILLFOCUS) Handle({.id = item.Id(), .kind = Event::LostFocus});
 }
 
 void FormParts::ComboNotice(FormItem& item, int code) {
@@ -229,17 +226,11 @@ void FormParts::ComboNotice(FormItem& item, int code) {
     if (item.KindOf() == Kind::ComboEdit) {
       // The system sets the edit field only after this notice; a handler would read the old text.
       const int row = static_cast<int>(SendMessageW(item.window, CB_GETCURSEL, 0, 0));
-      SetWindowTextW(item.window, Widen(form->ItemText(item.Id(), row)).c_str());
+      SetWindowTextW(item.window, ComboRowText(item.window, row).c_str());
     }
     Handle({.id = item.Id(), .kind = Event::SelChange});
   } else if (code == CBN_EDITCHANGE && !quiet) {
     Handle({.id = item.Id(), .kind = Event::Change});
-  } else if (code == CBN_DROPDOWN) {
-    Handle({.id = item.Id(), .kind = Event::DropDown});
-  } else if (code == CBN_SETFOCUS) {
-    Handle({.id = item.Id(), .kind = Event::GotFocus});
-  } else if (code == CBN_KILLFOCUS) {
-    Handle({.id = item.Id(), .kind = Event::LostFocus});
   }
 }
 
@@ -261,7 +252,7 @@ LRESULT FormParts::HandleNotice(NMHDR& notice) {
   return 0;
 }
 
-LRESULT FormParts::HandleDrawing(UINT message, WPARAM, LPARAM lParam) {
+LRESULT FormParts::HandleDrawing(UINT message, LPARAM lParam) {
   if (message == WM_PAINT) {
     PAINTSTRUCT paint{};
     const HDC dc = BeginPaint(window, &paint);
@@ -314,10 +305,8 @@ LRESULT FormParts::HandlePointer(UINT message, LPARAM lParam) {
 void FormParts::Drag() {
   RECT before{};
   GetWindowRect(window, &before);
-  moving = true;
   ReleaseCapture();
   SendMessageA(window, WM_NCLBUTTONDOWN, HTCAPTION, 0);  // returns when the system's move loop has ended
-  moving = false;
   RECT after{};
   if (!window || !GetWindowRect(window, &after)) return;
   if (form && !EqualRect(&before, &after)) form->OnMoved();
@@ -347,7 +336,7 @@ LRESULT FormParts::HandleSurroundings(UINT message, WPARAM wParam, LPARAM lParam
   if (message == WM_DISPLAYCHANGE) {
     RECT box{};
     GetWindowRect(window, &box);
-    form->MoveToPixels(box.left, box.top);
+    if (form) form->MoveToPixels(box.left, box.top);
     return 0;
   }
   if (message != WM_SETTINGCHANGE || wParam == SPI_SETHIGHCONTRAST) {

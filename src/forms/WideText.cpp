@@ -1,7 +1,5 @@
 #include "forms/WideText.h"
 
-#include <windows.h>
-
 namespace sonaro {
 
 std::wstring Widen(std::string_view text) {
@@ -18,6 +16,15 @@ std::string Narrow(std::wstring_view text) {
   std::string narrow(static_cast<std::size_t>(count), '\0');
   WideCharToMultiByte(CP_ACP, 0, text.data(), length, narrow.data(), count, nullptr, nullptr);
   return narrow;
+}
+
+std::wstring TextOfWindow(HWND window) {
+  const LRESULT length = SendMessageW(window, WM_GETTEXTLENGTH, 0, 0);
+  if (length <= 0) return {};
+  std::wstring text(static_cast<std::size_t>(length) + 1, L'\0');
+  const LRESULT copied = SendMessageW(window, WM_GETTEXT, text.size(), reinterpret_cast<LPARAM>(text.data()));
+  text.resize(static_cast<std::size_t>(copied));
+  return text;
 }
 
 std::wstring WithoutAccessKey(std::wstring_view caption) {

@@ -2,6 +2,8 @@
 // by the manifest); windows are Unicode inside, so that typed and shown text of any script survives.
 #pragma once
 
+#include <windows.h>
+
 #include <string>
 #include <string_view>
 
@@ -10,6 +12,9 @@ namespace sonaro {
 // Bytes that are not valid in the code page become U+FFFD or "?".
 std::wstring Widen(std::string_view text);
 std::string Narrow(std::wstring_view text);
+
+// A window's caption or a control's text.
+std::wstring TextOfWindow(HWND window);
 
 // The words of a caption whose "&" marks an access key; "&&" is one "&".
 std::wstring WithoutAccessKey(std::wstring_view caption);

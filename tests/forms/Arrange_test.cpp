@@ -60,6 +60,8 @@ TEST(PlaceIn, OfALayoutIsWhatItNamesAndTheRestHiddenOrAsDesigned) {
   EXPECT_EQ(SizeOf(design, 1).width, 440);
   EXPECT_STREQ(OutlineOf(design, 1), "scc44");
   EXPECT_STREQ(OutlineOf(design, 0), "scf72");
+  EXPECT_EQ(SizeOf(design, 2).width, 720) << "without a size of its own";
+  EXPECT_STREQ(OutlineOf(design, 2), "scf72");
 }
 
 TEST(FittingDpi, TakesTheLargestStepThatFits) {

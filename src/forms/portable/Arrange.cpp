@@ -66,26 +66,43 @@ PixelRect Arrange(const DesignRect& at, unsigned anchors, DesignSize design, Pix
   return {across.low, down.low, std::max(across.low, across.high), std::max(down.low, down.high)};
 }
 
+namespace {
+
+// nullptr: the design itself.
+const Layout* LayoutOf(const FormDesign& design, int layout) {
+  return layout == 0 ? nullptr : &design.layouts[static_cast<std::size_t>(layout - 1)];
+}
+
+// The layout when it has a size and an outline of its own.
+const Layout* SizedLayoutOf(const FormDesign& design, int layout) {
+  const Layout* other = LayoutOf(design, layout);
+  return other && other->size.width > 0 ? other : nullptr;
+}
+
+}  // namespace
+
 const DesignRect* PlaceIn(const FormDesign& design, int layout, const ControlRow& row) {
-  if (layout == 0) return &row.at;
-  const Layout& other = design.layouts[static_cast<std::size_t>(layout - 1)];
-  for (const Place& place : other.places) {
+  const Layout* other = LayoutOf(design, layout);
+  if (!other) return &row.at;
+  for (const Place& place : other->places) {
     if (row.id != 0 && place.id == row.id) return place.at.width > 0 ? &place.at : nullptr;
   }
-  return other.others == Layout::Others::AsDesigned ? &row.at : nullptr;
+  return other->others == Layout::Others::AsDesigned ? &row.at : nullptr;
 }
 
 DesignSize SizeOf(const FormDesign& design, int layout) {
-  return layout == 0 ? design.size : design.layouts[static_cast<std::size_t>(layout - 1)].size;
+  const Layout* other = SizedLayoutOf(design, layout);
+  return other ? other->size : design.size;
 }
 
 const char* OutlineOf(const FormDesign& design, int layout) {
-  return layout == 0 ? design.outline : design.layouts[static_cast<std::size_t>(layout - 1)].outline;
+  const Layout* other = SizedLayoutOf(design, layout);
+  return other ? other->outline : design.outline;
 }
 
 DesignSize OutlineSizeOf(const FormDesign& design, int layout) {
   DesignSize size = SizeOf(design, layout);
-  if (layout == 0 && design.outlineHeight > 0) size.height = design.outlineHeight;
+  if (!SizedLayoutOf(design, layout) && design.outlineHeight > 0) size.height = design.outlineHeight;
   return size;
 }
 
