@@ -29,7 +29,7 @@ class MainWindowTest : public DesktopTest {
   }
   HWND MainWithStations() {
     HWND main = StartAndShowMain();
-    CommandNow(main, mnuActionMostPoular);
+    Command(main, mnuActionMostPoular);
     EXPECT_TRUE(WaitUntil([&] { return RowCount(List(main)) > 2; }));
     return main;
   }

@@ -16,6 +16,13 @@ LRESULT Send(HWND window, UINT message, WPARAM wParam = 0, LPARAM lParam = 0) {
   return static_cast<LRESULT>(result);
 }
 
+// A message whose work may open a modal window: the second one is answered when the work is done, or by the
+// loop of that window.
+void Tell(HWND window, UINT message, WPARAM wParam = 0) {
+  SendNotifyMessageA(window, message, wParam, 0);
+  Send(window, WM_NULL);
+}
+
 struct TopWindowSearch {
   DWORD processId;
   const std::string& className;
@@ -147,15 +154,11 @@ RECT BoundsOf(HWND window) {
   return bounds;
 }
 
-void Click(HWND button) { PostMessageA(button, BM_CLICK, 0, 0); }
+void Click(HWND button) { Tell(button, BM_CLICK); }
 
-void Command(HWND window, int id) { PostMessageA(window, WM_COMMAND, static_cast<WPARAM>(id), 0); }
+void Command(HWND window, int id) { Tell(window, WM_COMMAND, static_cast<WPARAM>(id)); }
 
-void ClickNow(HWND button) { Send(button, BM_CLICK); }
-
-void CommandNow(HWND window, int id) { Send(window, WM_COMMAND, static_cast<WPARAM>(id)); }
-
-void CloseWindowOf(HWND window) { PostMessageA(window, WM_CLOSE, 0, 0); }
+void CloseWindowOf(HWND window) { Tell(window, WM_CLOSE); }
 
 void RunTimer(HWND window, int id) { Send(window, WM_TIMER, static_cast<WPARAM>(id)); }
 

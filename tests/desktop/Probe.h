@@ -39,13 +39,10 @@ void SetText(HWND window, const std::string& text);
 bool IsShown(HWND window);
 RECT BoundsOf(HWND window);  // on the screen
 
-// Posted, so that a click that opens a modal window returns as well.
+// These return when their work is done, or waits in a modal window or menu that it has opened. (A posted
+// message would be overtaken by everything that is sent after it.)
 void Click(HWND button);
 void Command(HWND window, int id);
-// The same, waiting until it is carried out: not for what opens a modal window. (A message that is sent
-// overtakes the posted ones, so that sending another one afterwards does not wait for them.)
-void ClickNow(HWND button);
-void CommandNow(HWND window, int id);
 void CloseWindowOf(HWND window);
 // The window's timer comes due at once. Returns when its handler has run.
 void RunTimer(HWND window, int id);

@@ -84,7 +84,7 @@ TEST_F(BrowseTest, ASearchIsRememberedAcrossARestart) {
   Click(Control(main, butSearchList));
   EXPECT_TRUE(WaitUntil([&] { return RowCount(List(main)) <= 1; }));
   SaveShot("nothing-found");
-  ClickNow(Control(main, butGoMediaLinkOneIt));
+  Click(Control(main, butGoMediaLinkOneIt));
   EXPECT_EQ(ReadSetting("SearchList"), "\tradio\tzzzz-nothing-zzzz\t");
   EXPECT_EQ(AsxLines(0).size(), 0u);
   Command(main, mnuExit);

@@ -32,7 +32,7 @@ class OptionsTest : public DesktopTest {
   }
   HWND In(int id) const { return Control(dialog_, id); }
   bool IsOn(int id) const { return IsChecked(In(id)); }
-  void Press(int id) { ClickNow(In(id)); }
+  void Press(int id) { Click(In(id)); }
   bool Closed() {
     return WaitUntil([&] { return !IsWindow(dialog_); });
   }
@@ -190,7 +190,7 @@ TEST_F(OptionsTest, TheTrayOpensTheSameDialogOnce) {
   Command(tray, mnuTrayOptions);
   dialog_ = sonaro.WaitForShownWindow("frmOptions");
   ASSERT_NE(dialog_, nullptr);
-  CommandNow(tray, mnuTrayOptions);
+  Command(tray, mnuTrayOptions);
   EXPECT_EQ(FindWindowA("frmOptions", nullptr), dialog_);
   EXPECT_EQ(FindWindowExA(nullptr, dialog_, "frmOptions", nullptr), nullptr);
   // The end of the program ends the dialog, with nothing stored.
