@@ -54,10 +54,16 @@ INPUT KeyInput(WORD virtualKey, DWORD flags) {
   return input;
 }
 
-INPUT MouseInput(DWORD flags) {
+// A button's change at this place of the screen, in one with the movement: where the pointer was put by
+// itself, a movement that the display reports late can take it away again before the button goes down.
+INPUT MouseInput(POINT at, DWORD button) {
+  constexpr int kWhole = 65536;  // of the screen's width and height
+  const auto share = [](int pixel, int pixels) { return (pixel * kWhole + pixels - 1) / pixels; };
   INPUT input{};
   input.type = INPUT_MOUSE;
-  input.mi.dwFlags = flags;
+  input.mi.dx = share(at.x, GetSystemMetrics(SM_CXSCREEN));
+  input.mi.dy = share(at.y, GetSystemMetrics(SM_CYSCREEN));
+  input.mi.dwFlags = MOUSEEVENTF_MOVE | MOUSEEVENTF_ABSOLUTE | button;
   return input;
 }
 
@@ -224,16 +230,17 @@ void TypeText(HWND window, const std::string& text) {
 }
 
 void ClickAt(int screenX, int screenY, bool rightButton) {
-  SetCursorPos(screenX, screenY);
-  SendInputs({MouseInput(rightButton ? MOUSEEVENTF_RIGHTDOWN : MOUSEEVENTF_LEFTDOWN),
-              MouseInput(rightButton ? MOUSEEVENTF_RIGHTUP : MOUSEEVENTF_LEFTUP)});
+  const POINT at = {screenX, screenY};
+  SetCursorPos(at.x, at.y);
+  SendInputs({MouseInput(at, rightButton ? MOUSEEVENTF_RIGHTDOWN : MOUSEEVENTF_LEFTDOWN),
+              MouseInput(at, rightButton ? MOUSEEVENTF_RIGHTUP : MOUSEEVENTF_LEFTUP)});
 }
 
 void DragFromTo(POINT from, POINT to) {
   constexpr int kSteps = 8;
   constexpr int kFirstStep = 8;
   SetCursorPos(from.x, from.y);
-  SendInputs({MouseInput(MOUSEEVENTF_LEFTDOWN)});
+  SendInputs({MouseInput(from, MOUSEEVENTF_LEFTDOWN)});
   // A window takes the mouse with the first movement; before it has, a place further on may be another
   // window's.
   SetCursorPos(from.x + (to.x > from.x ? kFirstStep : -kFirstStep), from.y);
@@ -243,7 +250,7 @@ void DragFromTo(POINT from, POINT to) {
     SetCursorPos(from.x + (to.x - from.x) * i / kSteps, from.y + (to.y - from.y) * i / kSteps);
   }
   Sleep(20);
-  SendInputs({MouseInput(MOUSEEVENTF_LEFTUP)});
+  SendInputs({MouseInput(to, MOUSEEVENTF_LEFTUP)});
 }
 
 HWND FocusOf(HWND window) {
