@@ -3,36 +3,37 @@
 namespace sonaro {
 namespace {
 
+// In the order in which the tree shows them. A code stays with its category: it is part of the keys.
 constexpr Genre kGenres[] = {
     {'a', "Alternative & Indie", "genre-alternative"},
     {'b', "Blues", "genre-blues"},
+    {'k', "Children & Family", "genre-children"},
     {'c', "Classical", "genre-classical"},
+    {'q', "Comedy & Stories", "genre-stories"},
+    {'u', "Community & Campus", "genre-community"},
     {'d', "Country & Americana", "genre-country"},
+    {'2', "Culture & Education", "genre-culture"},
     {'e', "Dance & Electronic", "genre-electronic"},
+    {'o', "Decades & Oldies", "genre-decades"},
     {'f', "Easy Listening & Chillout", "genre-easy"},
     {'g', "Folk & Traditional", "genre-folk"},
     {'h', "Hip-Hop, R&B & Soul", "genre-urban"},
     {'i', "Holiday", "genre-holiday"},
     {'j', "Jazz", "genre-jazz"},
-    {'k', "Children & Family", "genre-children"},
     {'l', "Latin", "genre-latin"},
     {'m', "Metal & Hard Rock", "genre-metal"},
     {'n', "News & Talk", "genre-talk"},
-    {'o', "Decades & Oldies", "genre-decades"},
     {'p', "Pop & Hits", "genre-pop"},
-    {'q', "Comedy & Stories", "genre-stories"},
     {'r', "Reggae & Caribbean", "genre-reggae"},
-    {'s', "Rock", "genre-rock"},
-    {'t', "Religious", "genre-religious"},
-    {'u', "Community & Campus", "genre-community"},
-    {'v', "Variety", "genre-variety"},
-    {'w', "World", "genre-world"},
     {'x', "Regional Mexican", "genre-mexican"},
+    {'t', "Religious", "genre-religious"},
+    {'s', "Rock", "genre-rock"},
     {'y', "Schlager & Volksmusik", "genre-schlager"},
-    {kOtherGenre, "Other", "genre-other"},
     {'0', "Soundtracks, Games & Anime", "genre-soundtracks"},
     {'1', "Sports", "genre-sports"},
-    {'2', "Culture & Education", "genre-culture"},
+    {'v', "Variety", "genre-variety"},
+    {'w', "World", "genre-world"},
+    {kOtherGenre, "Other", "genre-other"},
 };
 
 // Words that list makers add to everything, and owners of networks; places and frequencies are recognised
