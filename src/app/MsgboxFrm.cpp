@@ -11,6 +11,7 @@ namespace sonaro {
 namespace {
 
 constexpr int kOneKeyLayout = 1;
+constexpr int kWideKeyLayout = 2;
 constexpr const char* kFilesMissing = "Files Missing";
 
 }  // namespace
@@ -34,7 +35,10 @@ const FormDesign& MsgboxFrm::Design() {
   };
   // A sentence that asks nothing: its one key stands where the window's edge is lowered for it.
   static constexpr Place kOneKey[] = {{butMsg, {302, 202, 104, 28}}, {butMsg + 1, {}}};
-  static constexpr Layout kLayouts[] = {{.places = kOneKey, .others = Layout::Others::AsDesigned}};
+  // Without the check box its room is the first key's, whose words can be longer.
+  static constexpr Place kWideKey[] = {{butMsg, {176, 202, 124, 28}}, {chkDontAsk, {}}};
+  static constexpr Layout kLayouts[] = {{.places = kOneKey, .others = Layout::Others::AsDesigned},
+                                        {.places = kWideKey, .others = Layout::Others::AsDesigned}};
   static constexpr FormDesign kDesign = {.name = "MsgboxFrm",
                                          .caption = IDS_APP_TITLE,
                                          .size = {420, 248},
@@ -69,7 +73,11 @@ void MsgboxFrm::OnLoad() {
     SetIcon(picStuff, Icon::Warn);
     SetInk(picStuff, Ink::Accent);
   }
-  if (message_.secondButton.empty()) UseLayout(kOneKeyLayout);
+  if (message_.secondButton.empty()) {
+    UseLayout(kOneKeyLayout);
+  } else if (message_.dontAskText.empty()) {
+    UseLayout(kWideKeyLayout);
+  }
   SetTextAndGrow(lblMsg, message_.text);
   SetText(butMsg, message_.firstButton);
   SetText(butMsg + 1, message_.secondButton);
