@@ -154,16 +154,22 @@ void PaintPlayKey(const Canvas& c) {
 void PaintHeaderKey(const Canvas& c) {
   PaintShape(c, 0);
   const bool sorted = c.key.sort != SortMark::None;
-  int right = static_cast<int>(c.box.right) - c.Px(2);
+  RECT text{c.box.left + c.Px(9), c.box.top, c.box.right - c.Px(2), c.box.bottom};
   if (sorted) {
     c.painter.Fill(c.dc, {c.box.left, c.box.bottom - c.Px(3), c.box.right, c.box.bottom},
                    c.painter.Colors().accent);
-    right = static_cast<int>(c.box.right) - c.Px(18);
-    c.painter.DrawIcon(c.dc, c.key.sort == SortMark::Up ? Icon::Sort : Icon::TriDown, right,
-                       static_cast<int>(c.box.top) + c.Px(5) + c.Down(), 12, c.painter.Colors().accent);
+    text.bottom -= c.painter.Line();
+    const LONG mark = c.box.right - c.Px(18);
+    const LONG markInk = mark + c.Px(3);  // the triangle fills the middle of its square only
+    // In a key too narrow for both, the whole name says more than the triangle: the lit key tells the order.
+    if (text.left + c.painter.Measure(c.key.text, Type::BodyStrong, c.Prefix()).cx <= markInk) {
+      text.right = markInk;
+      c.painter.DrawIcon(c.dc, c.key.sort == SortMark::Up ? Icon::Sort : Icon::TriDown,
+                         static_cast<int>(mark), static_cast<int>(c.box.top) + c.Px(5) + c.Down(), 12,
+                         c.painter.Colors().accent);
+    }
   }
-  c.DrawText({c.box.left + c.Px(9), c.box.top, right, c.box.bottom - (sorted ? c.painter.Line() : 0)},
-             c.key.text, Type::BodyStrong, c.face.text, c.Prefix());
+  c.DrawText(text, c.key.text, Type::BodyStrong, c.face.text, c.Prefix());
   PaintFocus(c, 0);
 }
 
