@@ -57,6 +57,15 @@ FormParts* FormPartsOf(HWND window) {
   return reinterpret_cast<FormParts*>(GetWindowLongPtrW(window, GWLP_USERDATA));
 }
 
+// What Alt+Space opens: moving, minimising and closing by the keyboard.
+void ShowSystemMenu(HWND window) {
+  RECT place{};
+  GetWindowRect(window, &place);
+  const BOOL command =
+      TrackPopupMenu(GetSystemMenu(window, FALSE), TPM_RETURNCMD, place.left, place.top, 0, window, nullptr);
+  if (command != 0) PostMessageW(window, WM_SYSCOMMAND, static_cast<WPARAM>(command), 0);
+}
+
 LRESULT CALLBACK FormProcedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam) noexcept {
   return Guarded(0, [&]() -> LRESULT {
     auto* known = reinterpret_cast<FormParts*>(GetWindowLongPtrW(window, GWLP_USERDATA));
@@ -111,6 +120,12 @@ LRESULT FormParts::HandleMessage(UINT message, WPARAM wParam, LPARAM lParam) {
       break;
     case WM_CONTEXTMENU:
       return HandleContextMenu(reinterpret_cast<HWND>(wParam), lParam);
+    case WM_SYSCOMMAND:
+      if ((wParam & 0xFFF0) != SC_KEYMENU) break;
+      // The system would walk along a menu bar that is not there, and draw its picture into the window's
+      // corner.
+      if (lParam == L' ') ShowSystemMenu(window);
+      return 0;
     case WM_CLOSE:
       CloseRequest();
       return 0;

@@ -1,5 +1,8 @@
 // The keyboard of a form: what the dialog keyboard of the system gives and what the key tables add.
 #include <gtest/gtest.h>
+#include <windows.h>
+
+#include <commctrl.h>
 
 #include "windows/DemoForm.h"
 #include "windows/FormContextForTests.h"
@@ -128,6 +131,26 @@ TEST_F(FormKeyboardTest, ShowsTheFocusOnlyAfterTheKeyboardWasUsed) {
 TEST_F(FormKeyboardTest, PressesByAccessKey) {
   PressAccessKey(L'd');  // "Sche&dule": several have it, the first after the focus is taken
   EXPECT_EQ(form.log.size(), 1U);
+}
+
+LRESULT CALLBACK CountMenus(HWND window, UINT message, WPARAM wParam, LPARAM lParam, UINT_PTR,
+                            DWORD_PTR data) {
+  if (message == WM_ENTERMENULOOP) ++*reinterpret_cast<int*>(data);
+  return DefSubclassProc(window, message, wParam, lParam);
+}
+
+TEST_F(FormKeyboardTest, OnlyTheSpaceOpensTheSystemMenu) {
+  int menus = 0;
+  SetWindowSubclass(form.Window(), CountMenus, 1, reinterpret_cast<DWORD_PTR>(&menus));
+  for (const auto& [letter, expected] : {std::pair(L'\0', 0), {L'q', 0}, {L' ', 1}}) {
+    PostMessageW(form.Window(), WM_KEYDOWN, VK_ESCAPE, 1);  // ends a menu
+    SendMessageW(form.Window(), WM_SYSCOMMAND, SC_KEYMENU, letter);
+    MSG left{};
+    while (PeekMessageW(&left, nullptr, WM_KEYFIRST, WM_KEYLAST, PM_REMOVE)) {
+    }
+    EXPECT_EQ(menus, expected) << "after Alt and " << static_cast<int>(letter);
+  }
+  RemoveWindowSubclass(form.Window(), CountMenus, 1);
 }
 
 TEST_F(FormKeyboardTest, MovesTheFocusOnWhenItsControlGoes) {
