@@ -221,18 +221,17 @@ LRESULT ListView::Handle(UINT message, WPARAM wParam, LPARAM lParam) {
       SelectByKey(wParam, lParam);
       return 0;
     case WM_LBUTTONDOWN: {
-      POINT at = {GET_X_LPARAM(lParam), GET_Y_LPARAM(lParam)};
-      ClientToScreen(list_, &at);
-      const int row = RowAt(at);
-      if (const int before = Selected(); row >= 0 && row != before) Deselect(before);
+      const int row = RowUnder(lParam);
+      if (row < 0) return FocusOnly();
+      if (const int before = Selected(); row != before) Deselect(before);
       break;
     }
-    case WM_MOUSEMOVE: {
-      POINT at = {GET_X_LPARAM(lParam), GET_Y_LPARAM(lParam)};
-      ClientToScreen(list_, &at);
-      SetHover(RowAt(at));
+    case WM_RBUTTONDOWN:
+      if (RowUnder(lParam) < 0) return FocusOnly();
       break;
-    }
+    case WM_MOUSEMOVE:
+      SetHover(RowUnder(lParam));
+      break;
     case WM_MOUSELEAVE:
       SetHover(-1);
       break;
@@ -250,6 +249,18 @@ LRESULT ListView::Handle(UINT message, WPARAM wParam, LPARAM lParam) {
   // Whatever scrolled, by wheel, key or program, paints.
   if (message == WM_PAINT || message == WM_MOUSEWHEEL) SyncScrollBar();
   return result;
+}
+
+int ListView::RowUnder(LPARAM pointer) const {
+  POINT at = {GET_X_LPARAM(pointer), GET_Y_LPARAM(pointer)};
+  ClientToScreen(list_, &at);
+  return RowAt(at);
+}
+
+// A click below the rows: the system would take the selection away, and the keys would act on nothing.
+LRESULT ListView::FocusOnly() {
+  SetFocus(list_);
+  return 0;
 }
 
 // The keys are the system's; only its way of moving the selection is shortened.

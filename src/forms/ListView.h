@@ -78,6 +78,8 @@ class ListView final : public FormControl {
   void ScrollTo(int first);
   void RepaintRow(int row);
   void SetHover(int row);
+  int RowUnder(LPARAM pointer) const;
+  LRESULT FocusOnly();
   void SelectByKey(WPARAM key, LPARAM lParam);
   void Deselect(int row);
   void PaintBelowRows(HDC dc) const;

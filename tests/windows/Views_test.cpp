@@ -135,6 +135,21 @@ TEST_F(ViewsTest, ClickingAndTypingSelect) {
   EXPECT_EQ(Events(), Log{"ItemActivated 8"});
 }
 
+TEST_F(ViewsTest, AClickBelowTheRowsTakesNothingAway) {
+  Open(3);
+  List().Select(1);
+  form.Focus(ViewsForm::kTree);
+  RECT box{};
+  GetClientRect(list, &box);
+  for (const UINT button : {UINT{WM_LBUTTONDOWN}, UINT{WM_RBUTTONDOWN}}) {
+    const LPARAM at = MAKELPARAM(60, box.bottom - 10);
+    PostMessageW(list, button + 1, 0, at);  // the control may wait for its going up
+    SendMessageW(list, button, button == WM_LBUTTONDOWN ? MK_LBUTTON : MK_RBUTTON, at);
+    EXPECT_EQ(List().Selected(), 1);
+    EXPECT_EQ(GetFocus(), list);
+  }
+}
+
 TEST_F(ViewsTest, TheProgramSelectsInSilence) {
   Open(40000);
   List().Select(39000);
