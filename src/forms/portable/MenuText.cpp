@@ -1,13 +1,23 @@
 #include "forms/portable/MenuText.h"
 
+#include "base/Text.h"
+
 namespace sonaro {
 
+namespace {
+
+constexpr std::size_t kMostBytes = 60;  // two names and the words around them stay on the screen
+
+}  // namespace
+
 std::string MenuText(std::string_view text) {
+  const std::string_view shown = CutForShow(text, kMostBytes);
   std::string out;
-  for (const char c : text) {
+  for (const char c : shown) {
     if (c == '&') out += '&';
     out += c == '\t' ? ' ' : c;
   }
+  if (shown.size() < text.size()) out += "...";
   return out;
 }
 
