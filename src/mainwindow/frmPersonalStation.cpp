@@ -88,8 +88,10 @@ void frmPersonalStation::butOKIt_Click() {
     stored = address.empty() ? "" : played.ToText();
     anyLink = anyLink || !address.empty();
   }
-  if (TrimBlanks(station_.name).empty() || !anyLink) {
+  const bool noName = TrimBlanks(station_.name).empty();
+  if (noName || !anyLink) {
     Complain("ToAddMorePersonalStationYouNeedMoreInfo", IDS_DLG_OWN_NEED_MORE);
+    Focus(noName ? txtStationName : txtLink);
     return;
   }
   station_.webSite = Text(txtWebSite);

@@ -32,6 +32,7 @@ TEST_F(PersonalTest, OnesOwnStationsComeAndGoAndTheirTokensStayRight) {
   EXPECT_NE(TextOf(Control(box, lblMsg)), "");
   Click(Control(box, butMsg));
   ASSERT_TRUE(WaitUntil([&] { return !IsShown(box) && IsWindowEnabled(dialog) != FALSE; }));
+  EXPECT_TRUE(WaitUntil([&] { return FocusOf(main) == Control(dialog, txtLink); })) << "what is missing";
   EndWith(main, dialog, butCancelIt);
   EXPECT_FALSE(Exists("personal.snr"));
 
