@@ -110,7 +110,9 @@ void frmScan::ShowLists() {
   List(lstToScan).RowsChanged();
   List(lstToScan).Select(std::min(std::max(selected, 0), queue_.RowCount() - 1));
   List(lstScanedAlready).RowsChanged();
-  SetText(lblQueueCount, FillIn(LoadText(IDS_SCAN_W_QUEUE_COUNT), {std::to_string(scan_.QueueCount())}));
+  const std::size_t count = scan_.QueueCount();
+  SetText(lblQueueCount, FillIn(LoadText(count == 1 ? IDS_SCAN_W_QUEUE_ONE : IDS_SCAN_W_QUEUE_COUNT),
+                                {std::to_string(count)}));
 }
 
 void frmScan::SelectQueueRow(std::size_t row) { List(lstToScan).Select(static_cast<int>(row)); }
