@@ -20,6 +20,8 @@ std::span<const EventRow> frmOptions::Events() const {
   static const EventRow kRows[] = {
       {butPlaySoundIt, Click, &frmOptions::butPlaySoundIt_Click},
       {optProxy, Click, &frmOptions::optProxy_Click, 2},
+      {txtProxy, Change, &frmOptions::txtProxy_Change},
+      {txtPort, Change, &frmOptions::txtProxy_Change},
       {butFindProxyIt, Click, &frmOptions::butFindProxyIt_Click},
       {butTestProxyIt, Click, &frmOptions::butTestProxyIt_Click},
       {butPlayerIt, Click, &frmOptions::butPlayerIt_Click},
@@ -95,6 +97,9 @@ void frmOptions::optProxy_Click(int) {
   ShowProxyControls();
   Inform("", Ink::Text);
 }
+
+// What was said about the proxy was said about another text.
+void frmOptions::txtProxy_Change() { Inform("", Ink::Text); }
 
 void frmOptions::butFindProxyIt_Click() {
   const std::string found = calls_.findProxy();

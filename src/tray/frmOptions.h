@@ -39,6 +39,7 @@ class frmOptions final : public Form {
 
   void butPlaySoundIt_Click() { calls_.playNoticeSound(); }
   void optProxy_Click(int way);
+  void txtProxy_Change();
   void butFindProxyIt_Click();
   void butTestProxyIt_Click();
   void butPlayerIt_Click() { calls_.choosePlayer(Window()); }
