@@ -92,6 +92,8 @@ void frmScan::ShowState() {
   Enable(butStartIt, can.start);
   Enable(butMoveNextIt, can.moveNext);
   Enable(butMoveUpIt, can.moveUp);
+  // Left to itself the focus would go on to Remove, below a finger that is still pressing Enter.
+  if (can.moveUp && !can.moveDown && FocusedControl() == butMoveDownIt) Focus(butMoveUpIt);
   Enable(butMoveDownIt, can.moveDown);
   Enable(butRemoveStationIt, can.remove);
   Enable(butClearIt, can.clear);

@@ -45,6 +45,11 @@ TEST_F(ScanTest, AScanPlaysItsQueueOneAfterAnother) {
   EXPECT_EQ(AsxLines(1).size(), 1u);
   EXPECT_TRUE(
       WaitUntil([&] { return TextOf(Control(scan, lblTimeLeft)).starts_with("Time Left To Scan: "); }));
+  PressKey(scan, 'D', Modifier::Alt);
+  EXPECT_TRUE(WaitUntil([&] { return ColumnTexts(queue) == std::vector{names[2], names[1]}; }));
+  EXPECT_TRUE(WaitUntil([&] { return FocusOf(scan) == Control(scan, butMoveUpIt); })) << "not on Remove";
+  PressKey(scan, VK_RETURN);
+  EXPECT_TRUE(WaitUntil([&] { return ColumnTexts(queue) == std::vector{names[1], names[2]}; }));
   SaveShot("scan");
   Click(Control(scan, butMoveNextIt));
   EXPECT_TRUE(WaitUntil(
