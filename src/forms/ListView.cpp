@@ -87,9 +87,10 @@ void ListView::RowsChanged() {
   SyncScrollBar();
 }
 
+int ListView::FocusedRow() const { return ListView_GetNextItem(list_, -1, LVNI_FOCUSED); }
+
 int ListView::Selected() const {
-  const int focused =
-      ListView_GetNextItem(list_, -1, LVNI_FOCUSED);  // nearly always the one, and found at once
+  const int focused = FocusedRow();  // nearly always the one, and found at once
   if (focused >= 0 && (ListView_GetItemState(list_, focused, LVIS_SELECTED) & LVIS_SELECTED) != 0)
     return focused;
   return ListView_GetNextItem(list_, -1, LVNI_SELECTED);
@@ -237,7 +238,7 @@ LRESULT ListView::Handle(UINT message, WPARAM wParam, LPARAM lParam) {
       break;
     case WM_SETFOCUS:
     case WM_KILLFOCUS:
-      InvalidateRect(list_, nullptr, FALSE);
+      InvalidateRect(list_, nullptr, TRUE);  // the frame of an empty list stands on its ground
       break;
     case WM_CONTEXTMENU:
       ShowContextMenu({GET_X_LPARAM(lParam), GET_Y_LPARAM(lParam)});
@@ -321,6 +322,7 @@ bool ListView::OnNotify(NMHDR& notice, LRESULT& result) {
     case LVN_ITEMCHANGED: {
       const auto& change = reinterpret_cast<const NMLISTVIEW&>(notice);
       RepaintRow(change.iItem);
+      if (change.iItem > 0) RepaintRow(0);  // it may have had the frame
       const bool selected =
           (change.uNewState & LVIS_SELECTED) != 0 && (change.uOldState & LVIS_SELECTED) == 0;
       if (selected && !quiet_ && change.iItem >= 0) {

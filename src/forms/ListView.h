@@ -78,6 +78,7 @@ class ListView final : public FormControl {
   void ScrollTo(int first);
   void RepaintRow(int row);
   void SetHover(int row);
+  int FocusedRow() const;  // -1: none
   int RowUnder(LPARAM pointer) const;
   LRESULT FocusOnly();
   void SelectByKey(WPARAM key, LPARAM lParam);

@@ -49,9 +49,10 @@ void ListView::PaintRow(HDC dc, int row) const {
   look.Fill(buffer.Dc(), box, ground);
   PaintColumnLines(buffer.Dc(), box.top, box.bottom);
   PaintCells(buffer.Dc(), row, box, selected, focused);
-  if (!selected) return;
-  look.Fill(buffer.Dc(), {box.left, box.top, box.left + look.Px(kNeedleBar), box.bottom}, colors.accent);
-  if (focused) {
+  if (selected)
+    look.Fill(buffer.Dc(), {box.left, box.top, box.left + look.Px(kNeedleBar), box.bottom}, colors.accent);
+  // While none is selected the frame shows from where the keys would go on.
+  if (focused && (selected || (row == std::max(0, FocusedRow()) && Selected() < 0))) {
     const RECT frame = {box.left + look.Px(4), box.top + look.Line(),
                         edges_.empty() ? box.right : edges_.back(), box.bottom - look.Line()};
     look.Frame(buffer.Dc(), frame, colors.focus, look.Line());

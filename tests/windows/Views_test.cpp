@@ -223,9 +223,14 @@ TEST_F(ViewsTest, ListsLookAsDesigned) {
   SetFocus(list);
   PressKey(VK_DOWN);
   EXPECT_EQ(PixelOf(list, 0, middle(1)), colors.zebra) << "nothing is left of the bar";
+  List().Select(-1);
+  EXPECT_EQ(PixelOf(list, 4, middle(2)), colors.focus) << "from here the keys go on";
   stations.SetCount(0);
   List().RowsChanged();
   EXPECT_EQ(PixelOf(list, 245, 155), colors.accent) << "needle of the empty list";
+  EXPECT_EQ(PixelOf(list, 0, 50), colors.focus);
+  SetFocus(tree);
+  EXPECT_EQ(PixelOf(list, 0, 50), colors.glass);
 }
 
 TEST_F(ViewsTest, NodesAreClickedByPointerAndKeyboardAlike) {
