@@ -127,7 +127,7 @@ TableStatus OpenTable::WriteChanges() {
 }
 
 const TableImage* OpenTable::SearchImage() {
-  return image_->LoadColumn(files_) == TableStatus::Success ? image_.get() : nullptr;
+  return image_->LoadSearch(files_) == TableStatus::Success ? image_.get() : nullptr;
 }
 
 }  // namespace sonaro

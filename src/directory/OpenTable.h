@@ -41,7 +41,7 @@ class OpenTable {
   // Writes the changes as a new generation and closes the files. Without changes nothing is written.
   TableStatus Close();
 
-  // The records on disk, with the search column loaded, or null when that is damaged.
+  // The records on disk, ready to be searched, or null when they are damaged.
   const TableImage* SearchImage();
   std::uint32_t RecordCount() const { return image_->RecordCount(); }
   std::uint32_t FieldCount() const { return image_->Header().fieldCount; }

@@ -130,7 +130,8 @@ std::vector<std::int32_t> StatList::Search(Handle handle, std::string_view text,
   const TableImage* const image = vmx_->SearchImage(handle);
   status_ = vmx_->LastStatus();
   if (!image) return ids;
-  const std::vector<std::uint32_t> found = FindRecords(image->Column(), SearchWords(text), allWords);
+  const std::vector<std::uint32_t> found =
+      FindRecords(image->Column(), image->Index(), SearchWords(text), allWords);
   ids.reserve(found.size());
   for (const std::uint32_t index : found) ids.push_back(image->KeyAt(index));
   return ids;

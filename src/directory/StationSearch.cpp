@@ -1,11 +1,12 @@
 #include "directory/StationSearch.h"
 
 #include <algorithm>
+#include <bit>
 #include <bitset>
 
 #include "base/Text.h"
+#include "directory/VmxFormat.h"
 #include "directory/WordFinder.h"
-#include "directory/WordSetFinder.h"
 
 namespace sonaro {
 namespace {
@@ -46,64 +47,85 @@ std::vector<std::string> FoldedWords(const std::vector<std::string>& words) {
   return folded;
 }
 
+// A word on its way through a column.
+struct Wanted {
+  Wanted(const std::string& word, const SearchIndex& index)
+      : finder(word, index.Frequencies()), slots(SearchIndex::SlotsOf(word)) {}
+  WordFinder finder;
+  std::vector<std::uint16_t> slots;
+};
+
+std::vector<Wanted> WantedWords(const std::vector<std::string>& words, const SearchIndex& index) {
+  std::vector<Wanted> wanted;
+  for (const std::string& word : words) wanted.emplace_back(word, index);
+  return wanted;
+}
+
+// Calls `visit(first, last)` for the records, from `first` to before `last`, of each run of blocks of a
+// group. One run over all of them is faster than many short ones.
+template <typename Visit>
+void ForEachRun(std::uint64_t blocks, std::size_t group, std::size_t recordCount, Visit visit) {
+  const std::size_t start = group * SearchIndex::kGroupRecords;
+  if (std::popcount(blocks) > 32) blocks = ~std::uint64_t{0};
+  while (blocks != 0) {
+    const int from = std::countr_zero(blocks);
+    const int to = from + std::countr_one(blocks >> from);
+    const std::size_t first = start + static_cast<std::size_t>(from) * SearchIndex::kBlockRecords;
+    const std::size_t last = start + static_cast<std::size_t>(to) * SearchIndex::kBlockRecords;
+    if (first >= recordCount) return;
+    visit(first, std::min(last, recordCount));
+    blocks = to == 64 ? 0 : blocks & ~std::uint64_t{0} << to;
+  }
+}
+
 // The rarest word leads through the column; the others are looked for only in the records where it stands.
-std::vector<std::uint32_t> FindAll(const SearchColumn& column, const std::vector<std::string>& words) {
-  const ByteFrequencies frequencies(column.text);
-  std::vector<WordFinder> finders;
-  for (const std::string& word : words) finders.emplace_back(word, frequencies);
-  std::sort(finders.begin(), finders.end(),
-            [](const WordFinder& a, const WordFinder& b) { return a.Commonness() < b.Commonness(); });
+std::vector<std::uint32_t> FindAll(const SearchColumn& column, const SearchIndex& index,
+                                   const std::vector<std::string>& words) {
+  std::vector<Wanted> wanted = WantedWords(words, index);
+  std::sort(wanted.begin(), wanted.end(),
+            [](const Wanted& a, const Wanted& b) { return a.finder.Commonness() < b.finder.Commonness(); });
   std::vector<std::uint32_t> records;
-  RecordCursor cursor(column, 0);
-  const char* const end = column.text.data() + column.text.size();
-  for (const char* at = column.text.data(); (at = finders.front().Find(at, end)) != end; at = cursor.End()) {
-    cursor.MoveTo(at);
-    const auto stands = [&](const WordFinder& finder) {
-      return finder.Find(cursor.Begin(), cursor.End()) != cursor.End();
-    };
-    if (std::all_of(finders.begin() + 1, finders.end(), stands)) records.push_back(cursor.Record());
+  const auto search = [&](std::size_t first, std::size_t last) {
+    const char* const end = column.text.data() + column.starts[last];
+    RecordCursor cursor(column, first);
+    for (const char* at = cursor.Begin(); (at = wanted.front().finder.Find(at, end)) != end;
+         at = cursor.End()) {
+      cursor.MoveTo(at);
+      const auto stands = [&](const Wanted& word) {
+        return word.finder.Find(cursor.Begin(), cursor.End()) != cursor.End();
+      };
+      if (std::all_of(wanted.begin() + 1, wanted.end(), stands)) records.push_back(cursor.Record());
+    }
+  };
+  for (std::size_t group = 0; group < index.GroupCount(); ++group) {
+    std::uint64_t blocks = ~std::uint64_t{0};
+    for (const Wanted& word : wanted) blocks &= index.BlocksWith(word.slots, group);
+    ForEachRun(blocks, group, column.starts.size() - 1, search);
   }
   return records;
 }
 
-constexpr std::size_t kRecordsAtOnce = 1024;
-using Matches = std::bitset<kRecordsAtOnce>;
-
-// Marks the records from `first` to before `last` in which the finder finds something.
-template <typename Finder>
-void Mark(const Finder& finder, const SearchColumn& column, std::size_t first, std::size_t last,
-          Matches& matches) {
-  const char* const end = column.text.data() + column.starts[last];
-  RecordCursor cursor(column, first);
-  for (const char* at = cursor.Begin(); (at = finder.Find(at, end)) != end; at = cursor.End()) {
-    cursor.MoveTo(at);
-    matches.set(cursor.Record() - first);
-  }
-}
-
-// Word after word over a part of the column at a time, which stays in the cache meanwhile; many words
-// together.
-std::vector<std::uint32_t> FindAny(const SearchColumn& column, const std::vector<std::string>& words) {
-  constexpr std::size_t kManyWords = 24;
-  const ByteFrequencies frequencies(column.text);
-  std::vector<WordFinder> finders;
-  WordSetFinder together;
-  for (const std::string& word : words) {
-    if (words.size() >= kManyWords && word.size() >= WordSetFinder::kShortestWord) {
-      together.Add(word, frequencies);
-    } else {
-      finders.emplace_back(word, frequencies);
-    }
-  }
-  const std::size_t count = column.starts.size() - 1;
+// Word after word over a group at a time, which stays in the cache meanwhile.
+std::vector<std::uint32_t> FindAny(const SearchColumn& column, const SearchIndex& index,
+                                   const std::vector<std::string>& words) {
+  const std::vector<Wanted> wanted = WantedWords(words, index);
   std::vector<std::uint32_t> records;
-  for (std::size_t first = 0; first < count; first += kRecordsAtOnce) {
-    const std::size_t last = std::min(first + kRecordsAtOnce, count);
-    Matches matches;
-    for (const WordFinder& finder : finders) Mark(finder, column, first, last, matches);
-    if (together.Count() != 0) Mark(together, column, first, last, matches);
-    for (std::size_t i = 0; i < last - first; ++i) {
-      if (matches[i]) records.push_back(static_cast<std::uint32_t>(first + i));
+  for (std::size_t group = 0; group < index.GroupCount(); ++group) {
+    std::bitset<SearchIndex::kGroupRecords> matches;
+    const std::size_t start = group * SearchIndex::kGroupRecords;
+    for (const Wanted& word : wanted) {
+      const auto mark = [&](std::size_t first, std::size_t last) {
+        const char* const end = column.text.data() + column.starts[last];
+        RecordCursor cursor(column, first);
+        for (const char* at = cursor.Begin(); (at = word.finder.Find(at, end)) != end; at = cursor.End()) {
+          cursor.MoveTo(at);
+          matches.set(cursor.Record() - start);
+        }
+      };
+      ForEachRun(index.BlocksWith(word.slots, group), group, column.starts.size() - 1, mark);
+    }
+    for (std::size_t i = 0; i < matches.size(); ++i) {
+      if (matches[i]) records.push_back(static_cast<std::uint32_t>(start + i));
     }
   }
   return records;
@@ -121,12 +143,12 @@ std::vector<std::string> SearchWords(std::string_view text) {
   return words;
 }
 
-std::vector<std::uint32_t> FindRecords(const SearchColumn& column, const std::vector<std::string>& words,
-                                       bool allWords) {
+std::vector<std::uint32_t> FindRecords(const SearchColumn& column, const SearchIndex& index,
+                                       const std::vector<std::string>& words, bool allWords) {
   if (column.text.empty()) return {};
   const std::vector<std::string> folded = FoldedWords(words);
   if (folded.empty() || (allWords && folded.size() < words.size())) return {};
-  return allWords ? FindAll(column, folded) : FindAny(column, folded);
+  return allWords ? FindAll(column, index, folded) : FindAny(column, index, folded);
 }
 
 }  // namespace sonaro

@@ -1,5 +1,5 @@
-// The search for words in the station directory: one pass over the folded search column of a table, whatever
-// the number of stations that match. Owns nothing; StatList hands in the column.
+// The search for words in the station directory: one pass over those parts of the folded search column of a
+// table that can hold them. Owns nothing; StatList hands in the column and its index.
 #pragma once
 
 #include <cstdint>
@@ -7,7 +7,7 @@
 #include <string_view>
 #include <vector>
 
-#include "directory/TableImage.h"
+#include "directory/SearchIndex.h"
 
 namespace sonaro {
 
@@ -18,7 +18,7 @@ std::vector<std::string> SearchWords(std::string_view text);
 
 // The indices, ascending, of the records in which all words, or any word, occur. A word occurs when it stands
 // anywhere in one of the searched fields, letter case ignored. No words match no record.
-std::vector<std::uint32_t> FindRecords(const SearchColumn& column, const std::vector<std::string>& words,
-                                       bool allWords);
+std::vector<std::uint32_t> FindRecords(const SearchColumn& column, const SearchIndex& index,
+                                       const std::vector<std::string>& words, bool allWords);
 
 }  // namespace sonaro

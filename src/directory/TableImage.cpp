@@ -97,6 +97,12 @@ TableStatus TableImage::LoadColumn(TableFiles& files) {
   return TableStatus::Success;
 }
 
+TableStatus TableImage::LoadSearch(TableFiles& files) {
+  const TableStatus status = LoadColumn(files);
+  if (status == TableStatus::Success && !searchIndex_) searchIndex_ = std::make_unique<SearchIndex>(Column());
+  return status;
+}
+
 TableStatus TableImage::Verify(TableFiles& files) {
   TableImage image(files.indexHeader);
   if (image.LoadDirectory(files) != TableStatus::Success || image.LoadColumn(files) != TableStatus::Success) {

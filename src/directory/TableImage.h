@@ -6,22 +6,16 @@
 
 #include <cstdint>
 #include <memory>
-#include <span>
 #include <string_view>
 #include <vector>
 
 #include "directory/RecordTexts.h"
+#include "directory/SearchIndex.h"
 #include "directory/TableFiles.h"
 #include "directory/TableStatus.h"
 #include "directory/VmxFormat.h"
 
 namespace sonaro {
-
-// The folded searched fields of all records in key order, each field followed by a tab.
-struct SearchColumn {
-  std::string_view text;                  // kColumnPadding more bytes can be read behind it
-  std::span<const std::uint32_t> starts;  // where each record begins, and the end of the last one
-};
 
 class TableImage {
  public:
@@ -47,19 +41,18 @@ class TableImage {
   // `index` is less than RecordCount.
   TableStatus Get(TableFiles& files, std::uint32_t index, Record& record);
 
-  // Reads the search column and all entries.
-  TableStatus LoadColumn(TableFiles& files);
-  // Empty before LoadColumn.
-  SearchColumn Column() const {
-    return {{column_.get(), columnStarts_.empty() ? 0 : columnStarts_.back()}, columnStarts_};
-  }
-  // After LoadColumn.
+  // Reads the search column and all entries, and makes the column's index. The functions below may be called
+  // after a success.
+  TableStatus LoadSearch(TableFiles& files);
+  SearchColumn Column() const { return {{column_.get(), columnStarts_.back()}, columnStarts_}; }
+  const SearchIndex& Index() const { return *searchIndex_; }
   std::int32_t KeyAt(std::uint32_t index) const { return EntryAt(index).key; }
 
   // Reads and checks everything that the files hold, whatever is in memory already.
   static TableStatus Verify(TableFiles& files);
 
  private:
+  TableStatus LoadColumn(TableFiles& files);
   TableStatus LoadPage(TableFiles& files, std::uint32_t page);
   const Entry& EntryAt(std::uint32_t index) const;
   std::uint32_t EntriesIn(std::uint32_t page) const;
@@ -72,6 +65,7 @@ class TableImage {
   RecordTexts texts_;
   std::unique_ptr<char[]> column_;
   std::vector<std::uint32_t> columnStarts_;
+  std::unique_ptr<SearchIndex> searchIndex_;
 };
 
 }  // namespace sonaro

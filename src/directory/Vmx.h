@@ -69,8 +69,7 @@ class Vmx {
   TableStatus VmxPut(Handle handle, std::string_view key, std::span<const std::string> fields);
   TableStatus VmxDelete(Handle handle, std::string_view key);
 
-  // The records on disk with the search column loaded, valid until the table is closed; null when that is
-  // damaged.
+  // The records on disk, ready to be searched, valid until the table is closed; null when they are damaged.
   const TableImage* SearchImage(Handle handle);
   std::uint32_t RecordCount(Handle handle);  // on disk
   // Reads and checks every byte of the table.

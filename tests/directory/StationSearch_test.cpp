@@ -2,13 +2,14 @@
 
 #include <gtest/gtest.h>
 
+#include <bit>
 #include <random>
 
 #include "base/DataFolder.h"
 #include "base/Text.h"
 #include "directory/StatList.h"
+#include "directory/VmxFormat.h"
 #include "directory/WordFinder.h"
-#include "directory/WordSetFinder.h"
 #include "fakes/FakeFiles.h"
 
 namespace sonaro {
@@ -151,38 +152,37 @@ TEST(StationSearch, WideAndPlainSearchAgree) {
   }
 }
 
-// Some place of a word is found exactly when one of the words stands in the text, and it is one of theirs.
-TEST(StationSearch, ManyWordsAtOnceAreFoundLikeOneByOne) {
+// A block is passed over only when the word is not in it, and a word that is nowhere is looked for almost
+// nowhere.
+TEST(StationSearch, TheIndexLeavesOutWhatCannotHoldTheWord) {
   std::mt19937 random(4);
-  const auto letters = [&](std::size_t length) {
-    std::string text(length, 'a');
-    for (char& c : text) c = static_cast<char>('a' + random() % 4);
-    return text;
+  const auto word = [&] {
+    std::string letters(1 + random() % 9, 'a');
+    for (char& c : letters) c = static_cast<char>('a' + random() % 12);
+    return letters;
   };
-  int found = 0;
-  for (int round = 0; round < 2000; ++round) {
-    const std::string text = letters(random() % 60);
-    const ByteFrequencies frequencies(text);
-    WordSetFinder finder;
-    std::vector<std::string> words;
-    for (std::size_t n = 1 + random() % 8; n > 0; --n) {
-      words.push_back(letters(4 + random() % 3));
-      finder.Add(words.back(), frequencies);
-    }
-    const bool stands = std::any_of(words.begin(), words.end(), [&](const std::string& word) {
-      return text.find(word) != std::string::npos;
-    });
-    const std::string padded = text + words[0] + std::string(kColumnPadding, 'a');
-    const char* const end = padded.data() + text.size();
-    const char* const place = finder.Find(padded.data(), end);
-    ASSERT_EQ(place != end, stands) << text;
-    const std::string_view rest(place, static_cast<std::size_t>(end - place));
-    ASSERT_TRUE(!stands || std::any_of(words.begin(), words.end(),
-                                       [&](const std::string& word) { return rest.starts_with(word); }));
-    found += stands ? 1 : 0;
+  std::string text;
+  std::vector<std::uint32_t> starts;
+  std::vector<std::string> words;  // one of each record, somewhere in it
+  for (int record = 0; record < 2500; ++record) {
+    starts.push_back(static_cast<std::uint32_t>(text.size()));
+    words.push_back(word());
+    for (int n = 0; n < 12; ++n)
+      text += word() + (n == record % 12 ? words.back() : "") + (n % 3 == 2 ? '\t' : ' ');
   }
-  EXPECT_GT(found, 200);
-  EXPECT_LT(found, 1800);
+  starts.push_back(static_cast<std::uint32_t>(text.size()));
+  text.append(kColumnPadding, '\0');
+  const SearchIndex index({{text.data(), starts.back()}, starts});
+  ASSERT_EQ(index.GroupCount(), 3u);
+  for (std::size_t record = 0; record < words.size(); ++record) {
+    const std::uint64_t blocks =
+        index.BlocksWith(SearchIndex::SlotsOf(words[record]), record / SearchIndex::kGroupRecords);
+    const std::size_t block = record % SearchIndex::kGroupRecords / SearchIndex::kBlockRecords;
+    ASSERT_TRUE(blocks >> block & 1) << words[record] << " of record " << record;
+  }
+  const std::vector<std::uint16_t> absent = SearchIndex::SlotsOf("xyzzyxyz");
+  EXPECT_LE(std::popcount(index.BlocksWith(absent, 0)), 3);
+  EXPECT_EQ(std::popcount(index.BlocksWith(SearchIndex::SlotsOf("xyz"), 0)), 64) << "too short to tell";
 }
 
 }  // namespace

@@ -341,7 +341,8 @@ TEST(VmxDamage, ForgedNumbersWithRightChecksums) {
     while (Next(vmx, handle).status == TableStatus::Success) {
     }
     if (const TableImage* image = vmx.SearchImage(handle)) {
-      for (const std::uint32_t index : FindRecords(image->Column(), {"t", "e"}, round % 2 == 0))
+      for (const std::uint32_t index :
+           FindRecords(image->Column(), image->Index(), {"t", "e"}, round % 2 == 0))
         image->KeyAt(index);
     }
     vmx.VmxClose(handle);

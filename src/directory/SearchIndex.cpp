@@ -1,0 +1,47 @@
+#include "directory/SearchIndex.h"
+
+#include <algorithm>
+#include <cstring>
+
+namespace sonaro {
+namespace {
+
+constexpr std::size_t kGram = 4;
+constexpr std::size_t kMostGrams = 8;  // of a word; they leave so few blocks that more would not pay
+
+}  // namespace
+
+std::uint16_t SearchIndex::SlotAt(const char* fourBytes) {
+  std::uint32_t gram;
+  std::memcpy(&gram, fourBytes, sizeof gram);
+  return static_cast<std::uint16_t>((gram * 0x9E3779B1u) >> (32 - kSlotBits));
+}
+
+// The grams that begin in a block's last three bytes reach into the next block or the padding: they set a few
+// slots more than needed, which does no harm.
+SearchIndex::SearchIndex(const SearchColumn& column) : frequencies_(column.text) {
+  const std::size_t count = column.starts.size() - 1;
+  slots_.resize((count + kGroupRecords - 1) / kGroupRecords * kSlots);
+  for (std::size_t first = 0; first < count; first += kBlockRecords) {
+    std::uint64_t* const slots = &slots_[first / kGroupRecords * kSlots];
+    const std::uint64_t block = std::uint64_t{1} << (first % kGroupRecords / kBlockRecords);
+    const char* const end = column.text.data() + column.starts[std::min(first + kBlockRecords, count)];
+    for (const char* at = column.text.data() + column.starts[first]; at < end; ++at)
+      slots[SlotAt(at)] |= block;
+  }
+}
+
+std::vector<std::uint16_t> SearchIndex::SlotsOf(std::string_view word) {
+  std::vector<std::uint16_t> slots;
+  for (std::size_t at = 0; at + kGram <= word.size() && slots.size() < kMostGrams; ++at)
+    slots.push_back(SlotAt(word.data() + at));
+  return slots;
+}
+
+std::uint64_t SearchIndex::BlocksWith(std::span<const std::uint16_t> slots, std::size_t group) const {
+  std::uint64_t blocks = ~std::uint64_t{0};
+  for (const std::uint16_t slot : slots) blocks &= slots_[group * kSlots + slot];
+  return blocks;
+}
+
+}  // namespace sonaro
