@@ -44,7 +44,7 @@ void MeasureWord(HWND main, const std::string& word) {
   HWND list = Control(main, lstFavs);
   Milliseconds fill, paint, scroll;
   for (int round = 0; round < kRounds; ++round) {
-    CommandNow(main, mnuActionMostPoular);
+    Command(main, mnuActionMostPoular);
     SetText(Control(main, txtQuickSearch), word);
     fill.Measure([&] { SendMessageW(Control(main, butSearchList), BM_CLICK, 0, 0); });
     paint.Measure([&] { PaintNow(list); });
