@@ -25,6 +25,7 @@ ListView::ListView(HWND form, int id, FormServices& services)
       CreateWindowExW(0, WC_LISTVIEWW, L"", kListStyle, 0, 0, 0, 0, form,
                       reinterpret_cast<HMENU>(static_cast<INT_PTR>(id)), GetModuleHandleW(nullptr), nullptr);
   ListView_SetExtendedListViewStyle(list_, LVS_EX_DOUBLEBUFFER | LVS_EX_FULLROWSELECT);
+  tip_ = std::make_unique<CellTip>(list_);
   SetWindowSubclass(list_, &ListView::Subclass, kSubclassId, reinterpret_cast<DWORD_PTR>(this));
   UseRowHeight();
 }
@@ -81,6 +82,7 @@ void ListView::UseRowHeight() {
 void ListView::RowsChanged() {
   SendMessageW(list_, WM_SETREDRAW, FALSE, 0);
   hover_ = -1;
+  tip_->Clear();
   ListView_SetItemCountEx(list_, model_ != nullptr ? model_->RowCount() : 0, LVSICF_NOSCROLL);
   SendMessageW(list_, WM_SETREDRAW, TRUE, 0);
   InvalidateRect(list_, nullptr, TRUE);
@@ -207,6 +209,7 @@ LRESULT CALLBACK ListView::Subclass(HWND window, UINT message, WPARAM wParam, LP
 }
 
 LRESULT ListView::Handle(UINT message, WPARAM wParam, LPARAM lParam) {
+  tip_->Relay(message, wParam, lParam);
   switch (message) {
     case WM_ERASEBKGND:
       PaintBelowRows(reinterpret_cast<HDC>(wParam));
@@ -232,6 +235,7 @@ LRESULT ListView::Handle(UINT message, WPARAM wParam, LPARAM lParam) {
       break;
     case WM_MOUSEMOVE:
       SetHover(RowUnder(lParam));
+      ShowTipAt(lParam);
       break;
     case WM_MOUSELEAVE:
       SetHover(-1);
@@ -249,6 +253,10 @@ LRESULT ListView::Handle(UINT message, WPARAM wParam, LPARAM lParam) {
   const LRESULT result = DefSubclassProc(list_, message, wParam, lParam);
   // Whatever scrolled, by wheel, key or program, paints.
   if (message == WM_PAINT || message == WM_MOUSEWHEEL) SyncScrollBar();
+  if (message == WM_MOUSEWHEEL) {  // another row came below the pointer
+    tip_->Clear();
+    SetHover(RowAt({GET_X_LPARAM(lParam), GET_Y_LPARAM(lParam)}));
+  }
   return result;
 }
 

@@ -11,6 +11,7 @@
 #include <string>
 #include <vector>
 
+#include "forms/CellTip.h"
 #include "forms/FormControl.h"
 #include "forms/ScrollBar.h"
 
@@ -78,6 +79,7 @@ class ListView final : public FormControl {
   void ScrollTo(int first);
   void RepaintRow(int row);
   void SetHover(int row);
+  void ShowTipAt(LPARAM pointer);
   int FocusedRow() const;  // -1: none
   int RowUnder(LPARAM pointer) const;
   LRESULT FocusOnly();
@@ -94,10 +96,12 @@ class ListView final : public FormControl {
   LRESULT FindTyped(const NMLVFINDITEMW& find) const;
   void ShowContextMenu(POINT screen);
   RECT ItemBox(int row) const;
+  RECT TextBox(std::size_t column, const RECT& row) const;
 
   FormServices& services_;
   const int id_;
   HWND list_ = nullptr;
+  std::unique_ptr<CellTip> tip_;
   ScrollBar bar_;
   HIMAGELIST rowHeight_ = nullptr;  // an empty picture as high as a row
   const ListModel* model_ = nullptr;

@@ -1,10 +1,13 @@
 // How a list's rows look.
 
+#include <windowsx.h>
+
 #include <algorithm>
 
 #include "forms/ListView.h"
 #include "forms/Painter.h"
 #include "forms/ReliabilitySymbol.h"
+#include "forms/WideText.h"
 
 namespace sonaro {
 
@@ -69,29 +72,44 @@ void ListView::PaintCells(HDC dc, int row, const RECT& box, bool selected, bool 
   const Painter& look = services_.Look();
   const FaceplateColors& colors = look.Colors();
   const int symbol = withSymbols_ ? model_->Symbol(row) : -1;
-  int left = box.left;
   bool leading = true;  // until the first text of the row
   for (std::size_t i = 0; i < edges_.size(); ++i) {
-    const bool first = i == 0;
     const Column& column = columns_[i];
     const bool strong = leading && !column.figure;
     leading = leading && !strong;
     Color ink = strong || (selected && !column.figure) ? colors.glassText : colors.glassMuted;
     if (selected && focused) ink = colors.rowSelectedText;
     if (model_->IsGreyed(row)) ink = colors.glassMuted;
-    const int inset = look.Px(first && withSymbols_ ? kTextAfterSymbol : kCellInset);
-    const RECT cell = {left + inset, box.top, edges_[i] - look.Px(kCellGap), box.bottom};
-    look.Text(dc, cell, model_->Cell(row, static_cast<int>(i)),
+    look.Text(dc, TextBox(i, box), model_->Cell(row, static_cast<int>(i)),
               column.figure        ? Type::Small
               : strong && selected ? Type::BodyStrong
                                    : Type::Body,
               ink, DT_NOPREFIX | (column.rightAligned ? DT_RIGHT : 0U));
-    left = edges_[i];
   }
   if (symbol >= 0) {
     const int top = box.top + (box.bottom - box.top - look.Px(kReliabilitySize)) / 2;
     PaintReliability(dc, look, box.left + look.Px(kSymbolInset), top, symbol, selected && focused);
   }
+}
+
+RECT ListView::TextBox(std::size_t column, const RECT& row) const {
+  const Painter& look = services_.Look();
+  const int left = column == 0 ? static_cast<int>(row.left) : edges_[column - 1];
+  const int inset = look.Px(column == 0 && withSymbols_ ? kTextAfterSymbol : kCellInset);
+  return {left + inset, row.top, edges_[column] - look.Px(kCellGap), row.bottom};
+}
+
+// A text that its column cuts short can be read whole.
+void ListView::ShowTipAt(LPARAM pointer) {
+  const int row = RowUnder(pointer);
+  const auto edge = std::upper_bound(edges_.begin(), edges_.end(), GET_X_LPARAM(pointer));
+  if (row < 0 || model_->IsNotice() || edge == edges_.end()) return tip_->Clear();
+  const auto column = static_cast<std::size_t>(edge - edges_.begin());
+  const RECT box = TextBox(column, ItemBox(row));
+  const std::wstring text = Widen(model_->Cell(row, static_cast<int>(column)));
+  const Type type = row == Selected() && column == 0 ? Type::BodyStrong : Type::Body;
+  if (services_.Look().Measure(text, type).cx <= box.right - box.left) return tip_->Clear();
+  tip_->Set(box, text);
 }
 
 // Rows go on to the bottom as empty ones.

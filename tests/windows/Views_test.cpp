@@ -2,6 +2,8 @@
 // a screen reader gets.
 #include <gtest/gtest.h>
 
+#include <array>
+
 #include "forms/Painter.h"
 #include "forms/TreeView.h"
 #include "forms/WideText.h"
@@ -148,6 +150,46 @@ TEST_F(ViewsTest, AClickBelowTheRowsTakesNothingAway) {
     EXPECT_EQ(List().Selected(), 1);
     EXPECT_EQ(GetFocus(), list);
   }
+}
+
+// What the tip of the list holds ready for the place under the pointer; "" when it has nothing to say.
+std::string TipOf(HWND list) {
+  std::pair<HWND, std::string> found{list, ""};
+  EnumThreadWindows(
+      GetCurrentThreadId(),
+      [](HWND window, LPARAM data) {
+        auto& [owner, text] = *reinterpret_cast<std::pair<HWND, std::string>*>(data);
+        std::array<wchar_t, 300> buffer{};
+        GetClassNameW(window, buffer.data(), 100);
+        if (std::wstring_view(buffer.data()) != TOOLTIPS_CLASSW) return TRUE;
+        buffer = {};
+        TTTOOLINFOW tool{};
+        tool.cbSize = TTTOOLINFOW_V1_SIZE;
+        tool.hwnd = owner;
+        tool.lpszText = buffer.data();
+        SendMessageW(window, TTM_GETTEXTW, buffer.size(), reinterpret_cast<LPARAM>(&tool));
+        if (buffer[0] != L'\0') text = Narrow(buffer.data());
+        return TRUE;
+      },
+      reinterpret_cast<LPARAM>(&found));
+  return found.second;
+}
+
+TEST_F(ViewsTest, ATipHoldsTheTextThatItsColumnCuts) {
+  Open(60);
+  List().SetColumns({{"Name", 50}, {"Rest", 200}});
+  const auto pointAt = [&](int x, int row) {
+    SendMessageW(list, WM_MOUSEMOVE, 0, MAKELPARAM(x, 22 * row + 11));
+  };
+  pointAt(30, 2);
+  EXPECT_EQ(TipOf(list), stations.Cell(2, 0));
+  pointAt(30, 3);
+  EXPECT_EQ(TipOf(list), stations.Cell(3, 0));
+  pointAt(100, 3);
+  EXPECT_EQ(TipOf(list), "") << "the second column shows its text whole";
+  pointAt(30, 3);
+  List().RowsChanged();
+  EXPECT_EQ(TipOf(list), "") << "another station may stand there now";
 }
 
 TEST_F(ViewsTest, TheProgramSelectsInSilence) {
