@@ -183,9 +183,15 @@ void FormParts::SetTip(FormItem& item, const std::string& text) {
   std::wstring wide = WithoutAccessKey(Widen(text));
   TTTOOLINFOW tool{};
   tool.cbSize = TTTOOLINFOW_V1_SIZE;
-  tool.uFlags = TTF_IDISHWND | TTF_SUBCLASS;
   tool.hwnd = window;
-  tool.uId = reinterpret_cast<UINT_PTR>(item.Window());
+  if (IsText(item.KindOf())) {  // it lets the mouse through to the form
+    tool.uFlags = TTF_SUBCLASS;
+    tool.uId = static_cast<UINT_PTR>(item.Id());
+    tool.rect = ToRect(item.place);
+  } else {
+    tool.uFlags = TTF_SUBCLASS | TTF_IDISHWND;
+    tool.uId = reinterpret_cast<UINT_PTR>(item.Window());
+  }
   tool.lpszText = wide.data();
   SendMessageW(tips, TTM_DELTOOLW, 0, reinterpret_cast<LPARAM>(&tool));
   if (!wide.empty()) SendMessageW(tips, TTM_ADDTOOLW, 0, reinterpret_cast<LPARAM>(&tool));

@@ -1,6 +1,7 @@
 // Controls and events of a form, on a real window.
 #include "forms/Form.h"
 
+#include <commctrl.h>
 #include <gtest/gtest.h>
 
 #include "forms/ControlIds.h"
@@ -32,6 +33,33 @@ TEST_F(FormTest, IsFoundFromOutsideByItsClassAndItsNumbers) {
   EXPECT_STREQ(text, "Time Left To Scan: 17");
   GetClassNameA(GetDlgItem(window, DemoForm::kRanking), text, 64);
   EXPECT_STREQ(text, "Button");
+}
+
+// Whether some tip answers for what the pointer would reach in the middle of this control.
+bool HasTip(HWND control) {
+  RECT box{};
+  GetWindowRect(control, &box);
+  const POINT middle = {(box.left + box.right) / 2, (box.top + box.bottom) / 2};
+  TTHITTESTINFOW hit{};
+  hit.hwnd = WindowFromPoint(middle);
+  hit.pt = middle;
+  ScreenToClient(hit.hwnd, &hit.pt);
+  hit.ti.cbSize = TTTOOLINFOW_V1_SIZE;
+  for (HWND tips = nullptr; (tips = FindWindowExW(nullptr, tips, TOOLTIPS_CLASSW, nullptr)) != nullptr;) {
+    if (GetWindowThreadProcessId(tips, nullptr) != GetCurrentThreadId()) continue;
+    if (SendMessageW(tips, TTM_HITTESTW, 0, reinterpret_cast<LPARAM>(&hit))) return true;
+  }
+  return false;
+}
+
+TEST_F(FormTest, TipsBelongToWhatThePointerReaches) {
+  for (const int id : {int{DemoForm::kState}, DemoForm::kPush + 1}) {
+    EXPECT_FALSE(HasTip(form.Control(id))) << id;
+    form.SetTip(id, "All of it");
+    EXPECT_TRUE(HasTip(form.Control(id))) << id;
+    form.SetTip(id, "");
+    EXPECT_FALSE(HasTip(form.Control(id))) << id;
+  }
 }
 
 TEST_F(FormTest, TakesEveryClickOnAKey) {
