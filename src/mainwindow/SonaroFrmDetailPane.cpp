@@ -45,6 +45,7 @@ void DetailPane::Show(const StationDetail& detail) {
   form_.SetText(lblStationLocation, detail.location);
   form_.ShowControl(picPin, !detail.location.empty());
   form_.SetText(txtDescription, detail.description);
+  form_.ShowControl(txtDescription, !detail.description.empty());  // else Tab stops where nothing is seen
   ShowRatings(detail);
   ShowPlayKeys(detail);
   form_.Enable(butGoWebPageIt, detail.hasWebSite);
