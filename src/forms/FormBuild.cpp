@@ -184,8 +184,7 @@ void FormParts::SetTip(FormItem& item, const std::string& text) {
   TTTOOLINFOW tool{};
   tool.cbSize = TTTOOLINFOW_V1_SIZE;
   tool.hwnd = window;
-  if (IsText(item.KindOf())) {  // it lets the mouse through to the form
-    tool.uFlags = TTF_SUBCLASS;
+  if (IsText(item.KindOf())) {  // it lets the mouse through to the form, which tells the tips itself
     tool.uId = static_cast<UINT_PTR>(item.Id());
     tool.rect = ToRect(item.place);
   } else {
@@ -195,6 +194,14 @@ void FormParts::SetTip(FormItem& item, const std::string& text) {
   tool.lpszText = wide.data();
   SendMessageW(tips, TTM_DELTOOLW, 0, reinterpret_cast<LPARAM>(&tool));
   if (!wide.empty()) SendMessageW(tips, TTM_ADDTOOLW, 0, reinterpret_cast<LPARAM>(&tool));
+}
+
+// Not by a subclass of the form: a form is known by its window procedure.
+void FormParts::TellTips(UINT message, WPARAM wParam, LPARAM lParam) const {
+  if (!tips || (message != WM_MOUSEMOVE && message != WM_LBUTTONDOWN)) return;
+  MSG mouse{window, message, wParam, lParam, 0, {}};
+  GetCursorPos(&mouse.pt);
+  SendMessageW(tips, TTM_RELAYEVENT, 0, reinterpret_cast<LPARAM>(&mouse));
 }
 
 }  // namespace sonaro

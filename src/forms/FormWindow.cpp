@@ -91,6 +91,7 @@ LRESULT FormParts::HandleMessage(UINT message, WPARAM wParam, LPARAM lParam) {
   const HWND self = window;
   LRESULT answer = 0;
   if (form && form->OnMessage(message, wParam, lParam, answer)) return answer;
+  TellTips(message, wParam, lParam);
   switch (message) {
     case WM_COMMAND:
       return HandleCommand(wParam, lParam);

@@ -53,10 +53,13 @@ bool HasTip(HWND control) {
 }
 
 TEST_F(FormTest, TipsBelongToWhatThePointerReaches) {
+  int focused = form.FocusedControl();
   for (const int id : {int{DemoForm::kState}, DemoForm::kPush + 1}) {
     EXPECT_FALSE(HasTip(form.Control(id))) << id;
     form.SetTip(id, "All of it");
     EXPECT_TRUE(HasTip(form.Control(id))) << id;
+    PressKey(VK_TAB);
+    EXPECT_NE(form.FocusedControl(), std::exchange(focused, form.FocusedControl())) << "still a form";
     form.SetTip(id, "");
     EXPECT_FALSE(HasTip(form.Control(id))) << id;
   }
