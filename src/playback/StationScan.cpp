@@ -152,6 +152,7 @@ void StationScan::CountFromNow() {
 void StationScan::PlayFirst() {
   const StationKey key = queue_.front();
   queue_.pop_front();
+  if (view_) view_->FirstQueueRowLeft();
   current_ = Describe(key);
   current_->reason = player_.WhyNot(player_.TryLaunch(key));
   elapsed_ = 0;

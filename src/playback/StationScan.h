@@ -31,6 +31,8 @@ class ScanView {
   virtual void ShowTimeLeft() = 0;  // only the seconds changed
   virtual void ShowLists() = 0;     // rows came or went
   virtual void SelectQueueRow(std::size_t row) = 0;
+  // The first row left the queue: what is selected or dragged now stands one row higher.
+  virtual void FirstQueueRowLeft() = 0;
   virtual void EnableTimer(bool on) = 0;  // tmrScan, which calls Tick every 1000 milliseconds
 };
 

@@ -119,6 +119,16 @@ void frmScan::ShowLists() {
 
 void frmScan::SelectQueueRow(std::size_t row) { List(lstToScan).Select(static_cast<int>(row)); }
 
+void frmScan::FirstQueueRowLeft() {
+  if (draggedRow_ == 0) {
+    ReleaseCapture();  // the dragged station itself went to play
+  } else if (draggedRow_ > 0) {
+    --draggedRow_;
+  }
+  const int selected = List(lstToScan).Selected();
+  if (selected > 0) List(lstToScan).Select(selected - 1);
+}
+
 void frmScan::EnableTimer(bool on) {
   if (on) {
     StartTimer(tmrScan, kSecond);

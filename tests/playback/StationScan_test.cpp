@@ -19,6 +19,9 @@ class FakeScanView : public ScanView {
   void ShowTimeLeft() override {}
   void ShowLists() override { ++listsShown; }
   void SelectQueueRow(std::size_t row) override { selected = row; }
+  void FirstQueueRowLeft() override {
+    if (selected && *selected > 0) --*selected;
+  }
   void EnableTimer(bool on) override { timer.push_back(on); }
   bool TimerOn() const { return !timer.empty() && timer.back(); }
 };
@@ -268,6 +271,17 @@ TEST_F(StationScanTest, QueueEdits) {
   EXPECT_EQ(scan_.Add(dropped, 1), 2u);
   EXPECT_EQ(scan_.Add(dropped, 99), 2u);
   EXPECT_EQ(Queue(), "S1 S3 S3 P1 S2 S3 S3 ");
+}
+
+TEST_F(StationScanTest, TheSelectionStaysOnItsStationWhileTheQueuePlays) {
+  Add({"S1", "S2", "S3", "P1"});
+  scan_.MoveDown(2);  // selects the row that S3 goes to
+  scan_.StartPauseContinue();
+  ASSERT_EQ(Queue(), "S2 P1 S3 ");
+  EXPECT_EQ(scan_.QueueRow(*view_.selected).key.RowKey(), "S3");
+  TickFor(20);
+  ASSERT_EQ(Queue(), "P1 S3 ");
+  EXPECT_EQ(scan_.QueueRow(*view_.selected).key.RowKey(), "S3");
 }
 
 TEST_F(StationScanTest, ClearKeepsTheStationThatPlays) {
