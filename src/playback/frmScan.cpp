@@ -189,6 +189,7 @@ void frmScan::lstToScan_ContextMenu(int row, POINT at) {
   if (!menu.empty()) menu.push_back({});
   menu.push_back({.command = mnuScanRemove, .text = LoadText(IDS_SCAN_W_MENU_REMOVE)});
   PopUpMenu(menu, at);
+  menuStation_ = {};
 }
 
 void frmScan::lstScanedAlready_ItemActivate(int row) {
@@ -204,6 +205,13 @@ void frmScan::lstScanedAlready_ContextMenu(int row, POINT at) {
   if (!groups.empty()) menu.push_back({});
   menu.insert(menu.end(), groups.begin(), groups.end());
   PopUpMenu(menu, at);
+  menuStation_ = {};
+}
+
+// While the menu was open the scan may have played its station; the row then holds the next one.
+void frmScan::mnuScanRemove_Click() {
+  const auto row = QueueRow();
+  if (row && (!menuStation_ || scan_.QueueRow(*row).key == menuStation_)) scan_.Remove(*row);
 }
 
 void frmScan::mnuScanPutBack_Click() { lstScanedAlready_ItemActivate(menuHistoryRow_); }

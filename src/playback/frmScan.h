@@ -88,6 +88,7 @@ class frmScan final : public Form, private ScanView {
   void lstToScan_ContextMenu(int row, POINT at);
   void lstScanedAlready_ItemActivate(int row);
   void lstScanedAlready_ContextMenu(int row, POINT at);
+  void mnuScanRemove_Click();
   void mnuScanPutBack_Click();
   void mnuScanToGroup_Click(int group);
 

@@ -136,7 +136,7 @@ std::span<const EventRow> frmScan::Events() const {
       {butMoveUpIt, Click, &frmScan::butMoveUpIt_Click},
       {butMoveDownIt, Click, &frmScan::butMoveDownIt_Click},
       {butRemoveStationIt, Click, &frmScan::butRemoveStationIt_Click},
-      {mnuScanRemove, Click, &frmScan::butRemoveStationIt_Click},
+      {mnuScanRemove, Click, &frmScan::mnuScanRemove_Click},
       {butClearIt, Click, &frmScan::butClearIt_Click},
       {butFullIt, Click, &frmScan::butFullIt_Click},
       {butScanTimeIt, Click, &frmScan::butScanTimeIt_Click},
