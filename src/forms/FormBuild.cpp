@@ -175,22 +175,33 @@ void FormParts::BuildControls() {
   SetWindowSubclass(bringUp, BringUpProcedure, 1, reinterpret_cast<DWORD_PTR>(this));
 }
 
-void FormParts::SetTip(FormItem& item, const std::string& text) {
-  if (!tips) {
-    tips = CreateWindowExW(WS_EX_TOPMOST, TOOLTIPS_CLASSW, nullptr, WS_POPUP | TTS_ALWAYSTIP | TTS_NOPREFIX,
-                           0, 0, 0, 0, window, nullptr, GetModuleHandleW(nullptr), nullptr);
-  }
-  std::wstring wide = WithoutAccessKey(Widen(text));
+// A label lets the mouse through to the form, which tells the tips itself.
+TTTOOLINFOW FormParts::ToolOf(const FormItem& item) const {
   TTTOOLINFOW tool{};
   tool.cbSize = TTTOOLINFOW_V1_SIZE;
   tool.hwnd = window;
-  if (IsText(item.KindOf())) {  // it lets the mouse through to the form, which tells the tips itself
+  if (IsText(item.KindOf())) {
     tool.uId = static_cast<UINT_PTR>(item.Id());
     tool.rect = ToRect(item.place);
   } else {
     tool.uFlags = TTF_SUBCLASS | TTF_IDISHWND;
     tool.uId = reinterpret_cast<UINT_PTR>(item.Window());
   }
+  return tool;
+}
+
+void FormParts::PlaceTip(const FormItem& item) const {
+  TTTOOLINFOW tool = ToolOf(item);
+  SendMessageW(tips, TTM_NEWTOOLRECTW, 0, reinterpret_cast<LPARAM>(&tool));
+}
+
+void FormParts::SetTip(FormItem& item, const std::string& text) {
+  if (!tips) {
+    tips = CreateWindowExW(WS_EX_TOPMOST, TOOLTIPS_CLASSW, nullptr, WS_POPUP | TTS_ALWAYSTIP | TTS_NOPREFIX,
+                           0, 0, 0, 0, window, nullptr, GetModuleHandleW(nullptr), nullptr);
+  }
+  std::wstring wide = WithoutAccessKey(Widen(text));
+  TTTOOLINFOW tool = ToolOf(item);
   tool.lpszText = wide.data();
   SendMessageW(tips, TTM_DELTOOLW, 0, reinterpret_cast<LPARAM>(&tool));
   if (!wide.empty()) SendMessageW(tips, TTM_ADDTOOLW, 0, reinterpret_cast<LPARAM>(&tool));

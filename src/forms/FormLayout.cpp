@@ -109,6 +109,7 @@ void FormParts::PlaceControls() {
         SetWindowPos(item.window, nullptr, box.left, box.top, box.right - box.left, box.bottom - box.top,
                      SWP_NOZORDER | SWP_NOACTIVATE | SWP_NOCOPYBITS);
         if (item.bar) PlaceLinesBar(*this, item);
+        if (tips && IsText(item.KindOf())) PlaceTip(item);
       }
     }
     ShowOrHide(item);

@@ -4,6 +4,8 @@
 
 #include <windows.h>
 
+#include <commctrl.h>
+
 #include <array>
 #include <bitset>
 #include <functional>
@@ -105,6 +107,7 @@ class FormParts final : public FormServices, public std::enable_shared_from_this
   void BuildControls();
   std::unique_ptr<FormControl> MakeView(const ControlRow& row);  // FormViews.cpp; nullptr for the other kinds
   void SetTip(FormItem& item, const std::string& text);
+  void PlaceTip(const FormItem& item) const;  // of a label that has moved
   void TellTips(UINT message, WPARAM wParam, LPARAM lParam) const;
 
   // FormLayout.cpp
@@ -173,6 +176,7 @@ class FormParts final : public FormServices, public std::enable_shared_from_this
   int depth = 0;  // nested calls of the window procedure
 
  private:
+  TTTOOLINFOW ToolOf(const FormItem& item) const;
   void Load();
   void MakePainter(int dpi);
   LRESULT HandleCommand(WPARAM wParam, LPARAM lParam);

@@ -139,8 +139,10 @@ void StationActions::AddGroupEntries(const StationDetail& detail, MenuEntries& m
   if (!groupShown) return;
   // In a sorted list the places of a group's members cannot be seen, so they are not moved there.
   const bool canMove = menu.back().enabled && !listing_.Rows().Sort().on;
-  menu.push_back(Entry(mnuActionMoveUp, IDS_ACTION_MOVE_UP, canMove));
-  menu.push_back(Entry(mnuActionMoveDown, IDS_ACTION_MOVE_DOWN, canMove));
+  const std::size_t row = listing_.Rows().Selected().value_or(0);
+  menu.push_back(Entry(mnuActionMoveUp, IDS_ACTION_MOVE_UP, canMove && row > 0));
+  menu.push_back(
+      Entry(mnuActionMoveDown, IDS_ACTION_MOVE_DOWN, canMove && row + 1 < listing_.Rows().Count()));
 }
 
 MenuEntries StationActions::GroupChoices(const StationDetail& detail) const {

@@ -4,6 +4,7 @@
 #include "base/Text.h"
 #include "forms/ControlIds.h"
 #include "forms/DialogRows.h"
+#include "playback/PersonalStations.h"
 #include "playback/PlayLink.h"
 #include "resources/texts/app.h"
 #include "resources/texts/mainwindow.h"
@@ -47,6 +48,8 @@ std::span<const EventRow> frmExtraLink::Events() const {
 }
 
 void frmExtraLink::OnLoad() {
+  LimitText(txtExtraLink, PersonalStation::kMaxAddress);
+  LimitText(txtExtraName, PersonalStation::kMaxName);
   SetText(lblStation, station_);
   all_ = links_.Of(stationId_);
   if (all_.empty()) all_.emplace_back();

@@ -54,6 +54,10 @@ std::span<const EventRow> frmPersonalStation::Events() const {
 }
 
 void frmPersonalStation::OnLoad() {
+  for (const int text : {txtStationName, txtType}) LimitText(text, PersonalStation::kMaxName);
+  for (int link = 0; link < 3; ++link) LimitText(txtLink + link, PersonalStation::kMaxAddress);
+  LimitText(txtWebSite, PersonalStation::kMaxLink);
+  LimitText(txtStationNote, PersonalStation::kMaxNote);
   SetText(txtStationName, station_.name);
   for (int link = 0; link < 3; ++link) {
     // The user sees plain addresses; how they are played stands in the stored text.

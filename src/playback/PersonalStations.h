@@ -21,6 +21,7 @@ class DataFolder;
 struct PersonalStation {
   static constexpr std::size_t kMaxName = 200;  // bytes
   static constexpr std::size_t kMaxLink = 2000;
+  static constexpr std::size_t kMaxAddress = kMaxLink - 1;  // of a link, which can have a prefix
   static constexpr std::size_t kMaxNote = 4000;
 
   std::int32_t index = 0;  // from 1; 0: not stored yet

@@ -83,7 +83,12 @@ TEST_F(StationActionsTest, GroupsThatHoldTheStationCannotTakeItAgain) {
   EXPECT_TRUE(Entry(mnuActionStationToGroup + 2).checked);
   EXPECT_FALSE(Entry(mnuActionStationToGroup + 2).enabled);
   EXPECT_TRUE(Entry(mnuActionStationToGroup).enabled);
+  listing.ShowFavoriteGroup(0);
+  EXPECT_FALSE(Entry(mnuActionMoveUp).enabled) << "the first";
+  EXPECT_TRUE(Entry(mnuActionMoveDown).enabled);
+  listing.Rows().Select(listing.Rows().Count() - 1);
   EXPECT_TRUE(Entry(mnuActionMoveUp).enabled);
+  EXPECT_FALSE(Entry(mnuActionMoveDown).enabled) << "the last";
   listing.Rows().SortBy(0, SortOrder::Ascending);
   EXPECT_FALSE(Entry(mnuActionMoveUp).enabled) << "a sorted list shows no places";
   listing.ShowRecent();

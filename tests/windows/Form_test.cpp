@@ -5,6 +5,7 @@
 #include <gtest/gtest.h>
 
 #include "forms/ControlIds.h"
+#include "forms/FormParts.h"
 #include "windows/DemoForm.h"
 #include "windows/FormContextForTests.h"
 #include "windows/Pump.h"
@@ -54,12 +55,16 @@ bool HasTip(HWND control) {
 
 TEST_F(FormTest, TipsBelongToWhatThePointerReaches) {
   int focused = form.FocusedControl();
+  form.MoveToPixels(0, 0);
   for (const int id : {int{DemoForm::kState}, DemoForm::kPush + 1}) {
     EXPECT_FALSE(HasTip(form.Control(id))) << id;
     form.SetTip(id, "All of it");
     EXPECT_TRUE(HasTip(form.Control(id))) << id;
     PressKey(VK_TAB);
     EXPECT_NE(form.FocusedControl(), std::exchange(focused, form.FocusedControl())) << "still a form";
+    FormPartsOf(form.Window())->UseDpi(120);
+    EXPECT_TRUE(HasTip(form.Control(id))) << id << " at its new place";
+    FormPartsOf(form.Window())->UseDpi(96);
     form.SetTip(id, "");
     EXPECT_FALSE(HasTip(form.Control(id))) << id;
   }
