@@ -78,6 +78,18 @@ void ForEachRun(std::uint64_t blocks, std::size_t group, std::size_t recordCount
   }
 }
 
+// Calls `visit(cursor)` for each record from `first` to before `last` in which the word stands.
+template <typename Visit>
+void ForEachRecord(const WordFinder& finder, const SearchColumn& column, std::size_t first, std::size_t last,
+                   Visit visit) {
+  const char* const end = column.text.data() + column.starts[last];
+  RecordCursor cursor(column, first);
+  for (const char* at = cursor.Begin(); (at = finder.Find(at, end)) != end; at = cursor.End()) {
+    cursor.MoveTo(at);
+    visit(cursor);
+  }
+}
+
 // The rarest word leads through the column; the others are looked for only in the records where it stands.
 std::vector<std::uint32_t> FindAll(const SearchColumn& column, const SearchIndex& index,
                                    const std::vector<std::string>& words) {
@@ -85,22 +97,18 @@ std::vector<std::uint32_t> FindAll(const SearchColumn& column, const SearchIndex
   std::sort(wanted.begin(), wanted.end(),
             [](const Wanted& a, const Wanted& b) { return a.finder.Commonness() < b.finder.Commonness(); });
   std::vector<std::uint32_t> records;
-  const auto search = [&](std::size_t first, std::size_t last) {
-    const char* const end = column.text.data() + column.starts[last];
-    RecordCursor cursor(column, first);
-    for (const char* at = cursor.Begin(); (at = wanted.front().finder.Find(at, end)) != end;
-         at = cursor.End()) {
-      cursor.MoveTo(at);
-      const auto stands = [&](const Wanted& word) {
-        return word.finder.Find(cursor.Begin(), cursor.End()) != cursor.End();
-      };
-      if (std::all_of(wanted.begin() + 1, wanted.end(), stands)) records.push_back(cursor.Record());
-    }
+  const auto take = [&](const RecordCursor& cursor) {
+    const auto stands = [&](const Wanted& word) {
+      return word.finder.Find(cursor.Begin(), cursor.End()) != cursor.End();
+    };
+    if (std::all_of(wanted.begin() + 1, wanted.end(), stands)) records.push_back(cursor.Record());
   };
   for (std::size_t group = 0; group < index.GroupCount(); ++group) {
     std::uint64_t blocks = ~std::uint64_t{0};
     for (const Wanted& word : wanted) blocks &= index.BlocksWith(word.slots, group);
-    ForEachRun(blocks, group, column.starts.size() - 1, search);
+    ForEachRun(blocks, group, column.starts.size() - 1, [&](std::size_t first, std::size_t last) {
+      ForEachRecord(wanted.front().finder, column, first, last, take);
+    });
   }
   return records;
 }
@@ -113,16 +121,12 @@ std::vector<std::uint32_t> FindAny(const SearchColumn& column, const SearchIndex
   for (std::size_t group = 0; group < index.GroupCount(); ++group) {
     std::bitset<SearchIndex::kGroupRecords> matches;
     const std::size_t start = group * SearchIndex::kGroupRecords;
+    const auto mark = [&](const RecordCursor& cursor) { matches.set(cursor.Record() - start); };
     for (const Wanted& word : wanted) {
-      const auto mark = [&](std::size_t first, std::size_t last) {
-        const char* const end = column.text.data() + column.starts[last];
-        RecordCursor cursor(column, first);
-        for (const char* at = cursor.Begin(); (at = word.finder.Find(at, end)) != end; at = cursor.End()) {
-          cursor.MoveTo(at);
-          matches.set(cursor.Record() - start);
-        }
-      };
-      ForEachRun(index.BlocksWith(word.slots, group), group, column.starts.size() - 1, mark);
+      ForEachRun(index.BlocksWith(word.slots, group), group, column.starts.size() - 1,
+                 [&](std::size_t first, std::size_t last) {
+                   ForEachRecord(word.finder, column, first, last, mark);
+                 });
     }
     for (std::size_t i = 0; i < matches.size(); ++i) {
       if (matches[i]) records.push_back(static_cast<std::uint32_t>(start + i));

@@ -7,6 +7,7 @@
 #include "forms/Dpi.h"
 #include "forms/FormParts.h"
 #include "forms/Guard.h"
+#include "forms/ToolTips.h"
 #include "forms/WideText.h"
 
 namespace sonaro {
@@ -196,23 +197,12 @@ void FormParts::PlaceTip(const FormItem& item) const {
 }
 
 void FormParts::SetTip(FormItem& item, const std::string& text) {
-  if (!tips) {
-    tips = CreateWindowExW(WS_EX_TOPMOST, TOOLTIPS_CLASSW, nullptr, WS_POPUP | TTS_ALWAYSTIP | TTS_NOPREFIX,
-                           0, 0, 0, 0, window, nullptr, GetModuleHandleW(nullptr), nullptr);
-  }
+  if (!tips) tips = MakeTips(window);
   std::wstring wide = WithoutAccessKey(Widen(text));
   TTTOOLINFOW tool = ToolOf(item);
   tool.lpszText = wide.data();
   SendMessageW(tips, TTM_DELTOOLW, 0, reinterpret_cast<LPARAM>(&tool));
   if (!wide.empty()) SendMessageW(tips, TTM_ADDTOOLW, 0, reinterpret_cast<LPARAM>(&tool));
-}
-
-// Not by a subclass of the form: a form is known by its window procedure.
-void FormParts::TellTips(UINT message, WPARAM wParam, LPARAM lParam) const {
-  if (!tips || (message != WM_MOUSEMOVE && message != WM_LBUTTONDOWN)) return;
-  MSG mouse{window, message, wParam, lParam, 0, {}};
-  GetCursorPos(&mouse.pt);
-  SendMessageW(tips, TTM_RELAYEVENT, 0, reinterpret_cast<LPARAM>(&mouse));
 }
 
 }  // namespace sonaro

@@ -108,7 +108,6 @@ class FormParts final : public FormServices, public std::enable_shared_from_this
   std::unique_ptr<FormControl> MakeView(const ControlRow& row);  // FormViews.cpp; nullptr for the other kinds
   void SetTip(FormItem& item, const std::string& text);
   void PlaceTip(const FormItem& item) const;  // of a label that has moved
-  void TellTips(UINT message, WPARAM wParam, LPARAM lParam) const;
 
   // FormLayout.cpp
   void ChooseDpi(HMONITOR monitor);  // makes the painter

@@ -6,6 +6,7 @@
 #include "forms/FormParts.h"
 #include "forms/Guard.h"
 #include "forms/HighContrast.h"
+#include "forms/ToolTips.h"
 #include "forms/WideText.h"
 
 namespace sonaro {
@@ -45,6 +46,15 @@ void LetGo(std::shared_ptr<FormParts> parts) {
 
 namespace {
 
+// What Alt+Space opens: moving, minimising and closing by the keyboard.
+void ShowSystemMenu(HWND window) {
+  RECT place{};
+  GetWindowRect(window, &place);
+  const BOOL command =
+      TrackPopupMenu(GetSystemMenu(window, FALSE), TPM_RETURNCMD, place.left, place.top, 0, window, nullptr);
+  if (command != 0) PostMessageW(window, WM_SYSCOMMAND, static_cast<WPARAM>(command), 0);
+}
+
 POINT PointOf(LPARAM lParam) {
   return {static_cast<short>(LOWORD(lParam)), static_cast<short>(HIWORD(lParam))};
 }
@@ -55,15 +65,6 @@ FormParts* FormPartsOf(HWND window) {
   if (!window || GetWindowThreadProcessId(window, nullptr) != GetCurrentThreadId()) return nullptr;
   if (GetWindowLongPtrW(window, GWLP_WNDPROC) != reinterpret_cast<LONG_PTR>(&FormProcedure)) return nullptr;
   return reinterpret_cast<FormParts*>(GetWindowLongPtrW(window, GWLP_USERDATA));
-}
-
-// What Alt+Space opens: moving, minimising and closing by the keyboard.
-void ShowSystemMenu(HWND window) {
-  RECT place{};
-  GetWindowRect(window, &place);
-  const BOOL command =
-      TrackPopupMenu(GetSystemMenu(window, FALSE), TPM_RETURNCMD, place.left, place.top, 0, window, nullptr);
-  if (command != 0) PostMessageW(window, WM_SYSCOMMAND, static_cast<WPARAM>(command), 0);
 }
 
 LRESULT CALLBACK FormProcedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam) noexcept {
@@ -91,7 +92,7 @@ LRESULT FormParts::HandleMessage(UINT message, WPARAM wParam, LPARAM lParam) {
   const HWND self = window;
   LRESULT answer = 0;
   if (form && form->OnMessage(message, wParam, lParam, answer)) return answer;
-  TellTips(message, wParam, lParam);
+  RelayMouse(tips, window, message, wParam, lParam);
   switch (message) {
     case WM_COMMAND:
       return HandleCommand(wParam, lParam);

@@ -11,9 +11,9 @@
 #include <string>
 #include <vector>
 
-#include "forms/CellTip.h"
 #include "forms/FormControl.h"
 #include "forms/ScrollBar.h"
+#include "forms/ToolTips.h"
 
 namespace sonaro {
 

@@ -1,8 +1,19 @@
-#include "forms/CellTip.h"
+#include "forms/ToolTips.h"
 
 #include <commctrl.h>
 
 namespace sonaro {
+
+HWND MakeTips(HWND form) {
+  return CreateWindowExW(WS_EX_TOPMOST, TOOLTIPS_CLASSW, nullptr, WS_POPUP | TTS_ALWAYSTIP | TTS_NOPREFIX, 0,
+                         0, 0, 0, form, nullptr, GetModuleHandleW(nullptr), nullptr);
+}
+
+void RelayMouse(HWND tips, HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
+  if (!tips || message < WM_MOUSEFIRST || message > WM_MBUTTONUP) return;
+  MSG mouse{window, message, wParam, lParam, 0, {}};
+  SendMessageW(tips, TTM_RELAYEVENT, 0, reinterpret_cast<LPARAM>(&mouse));
+}
 
 CellTip::~CellTip() {
   if (IsWindow(tip_)) DestroyWindow(tip_);
@@ -10,11 +21,7 @@ CellTip::~CellTip() {
 
 void CellTip::Set(const RECT& cell, const std::wstring& text) {
   if (text == text_ && EqualRect(&cell, &cell_)) return;
-  if (!tip_) {
-    tip_ =
-        CreateWindowExW(WS_EX_TOPMOST, TOOLTIPS_CLASSW, nullptr, WS_POPUP | TTS_ALWAYSTIP | TTS_NOPREFIX, 0,
-                        0, 0, 0, GetAncestor(list_, GA_ROOT), nullptr, GetModuleHandleW(nullptr), nullptr);
-  }
+  if (!tip_) tip_ = MakeTips(GetAncestor(list_, GA_ROOT));
   // A new cell is a new tool: one that was only moved would keep its tip up, or never show it again.
   TTTOOLINFOW tool{};
   tool.cbSize = TTTOOLINFOW_V1_SIZE;
@@ -28,9 +35,7 @@ void CellTip::Set(const RECT& cell, const std::wstring& text) {
 }
 
 void CellTip::Relay(UINT message, WPARAM wParam, LPARAM lParam) {
-  if (text_.empty() || message < WM_MOUSEFIRST || message > WM_MBUTTONUP) return;
-  MSG mouse{list_, message, wParam, lParam, 0, {}};
-  SendMessageW(tip_, TTM_RELAYEVENT, 0, reinterpret_cast<LPARAM>(&mouse));
+  if (!text_.empty()) RelayMouse(tip_, list_, message, wParam, lParam);
 }
 
 }  // namespace sonaro

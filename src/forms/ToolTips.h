@@ -1,5 +1,4 @@
-// The tip with the whole text of a list's cell that is cut short. Owned by the list, which says what lies
-// under the pointer and passes the mouse on; it reads no list itself.
+// What the forms' and the lists' tool tips have in common, and the tip of a list's cell.
 #pragma once
 
 #include <windows.h>
@@ -8,6 +7,14 @@
 
 namespace sonaro {
 
+// A control that shows tips for tools of the form; it goes with the form's window.
+HWND MakeTips(HWND form);
+// Tells the tips a message of the window, which hears it first. Not by the tips' own subclass: a form is
+// known by its window procedure. Only the mouse's messages count.
+void RelayMouse(HWND tips, HWND window, UINT message, WPARAM wParam, LPARAM lParam);
+
+// The whole text of a list's cell that is cut short. Owned by the list, which says what lies under the
+// pointer and passes its messages on; it reads no list itself.
 class CellTip {
  public:
   explicit CellTip(HWND list) : list_(list) {}
@@ -18,7 +25,6 @@ class CellTip {
   // The cell under the pointer, in client pixels of the list. Without a text there is nothing to show.
   void Set(const RECT& cell, const std::wstring& text);
   void Clear() { Set({}, L""); }
-  // Every message of the list's window: the tip comes and goes with the mouse's.
   void Relay(UINT message, WPARAM wParam, LPARAM lParam);
 
  private:
