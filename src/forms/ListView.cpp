@@ -209,6 +209,7 @@ LRESULT CALLBACK ListView::Subclass(HWND window, UINT message, WPARAM wParam, LP
 }
 
 LRESULT ListView::Handle(UINT message, WPARAM wParam, LPARAM lParam) {
+  if (message == WM_MOUSEMOVE) ShowTipAt(lParam);  // before the tip hears of it
   tip_->Relay(message, wParam, lParam);
   switch (message) {
     case WM_ERASEBKGND:
@@ -235,7 +236,6 @@ LRESULT ListView::Handle(UINT message, WPARAM wParam, LPARAM lParam) {
       break;
     case WM_MOUSEMOVE:
       SetHover(RowUnder(lParam));
-      ShowTipAt(lParam);
       break;
     case WM_MOUSELEAVE:
       SetHover(-1);
