@@ -55,7 +55,7 @@ void ForEachPlaylistField(const PlaylistEntry& entry,
 void SetPlaylistField(PlaylistEntry& entry, std::string_view name, std::string_view value) {
   PersonalStation& station = entry.station;
   for (std::size_t i = 0; i < kLinkNames.size(); ++i) {
-    if (name == kLinkNames[i] && IsSafeArgument(PlayLink::FromText(value).address)) station.links[i] = value;
+    if (name == kLinkNames[i] && IsPlayerAddress(PlayLink::FromText(value).address)) station.links[i] = value;
   }
   if (name == kSite) station.webSite = value;
   if (name == kType) station.type = value;
@@ -70,7 +70,7 @@ std::string AddressOf(const PlaylistEntry& entry) {
 void TakeAddress(PlaylistEntry& entry, std::string_view address) {
   const std::string_view clean = TrimBlanks(address);
   if (!entry.station.links[0].empty()) return;
-  if (clean.find("://") == std::string_view::npos || !IsSafeArgument(clean)) return;
+  if (clean.find("://") == std::string_view::npos || !IsPlayerAddress(clean)) return;
   entry.station.links[0] = LinkTextOf(clean);
 }
 

@@ -66,7 +66,7 @@ void frmExtraLink::Complain(const char* key, int text) {
 
 void frmExtraLink::butOKIt_Click() {
   const std::string address(TrimBlanks(Text(txtExtraLink)));
-  if (!address.empty() && !IsSafeArgument(address)) {
+  if (!address.empty() && !IsPlayerAddress(address)) {
     Complain("PersonalStationLink", IDS_DLG_OWN_BAD_LINK);
     return;
   }

@@ -80,7 +80,7 @@ void frmPersonalStation::butOKIt_Click() {
   bool anyLink = false;
   for (int link = 0; link < 3; ++link) {
     const std::string address(TrimBlanks(Text(txtLink + link)));
-    if (!address.empty() && !IsSafeArgument(address)) {
+    if (!address.empty() && !IsPlayerAddress(address)) {
       Complain("PersonalStationLink", IDS_DLG_OWN_BAD_LINK);
       Focus(txtLink + link);
       return;

@@ -2,6 +2,7 @@
 // "m" the program for .asx files, anything else the RealPlayer-compatible player.
 #pragma once
 
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -20,9 +21,18 @@ struct PlayLink {
   bool operator==(const PlayLink&) const = default;
 };
 
-// True when `link` can be handed to another program as one argument that is nothing but an argument: not
-// empty, without control characters, double quotes and blanks inside, and not beginning like a switch ("-",
-// "/"). Links come out of downloaded files and are not to be trusted.
-bool IsSafeArgument(std::string_view link);
+// What a player link may be, for everyone who takes one: the launch, the dialogs, imports, the directory
+// tool. Links come out of downloaded files and are not to be trusted: a player is told to open one on this
+// user's behalf, so nothing that reaches into this computer passes. Allowed is SCHEME://HOST with anything
+// behind it, or HOST alone (with a dot or a port), which is meant for the web. Refused are a path of any
+// form, a drive letter, a variable between percent signs, the schemes of files, scripts and system commands,
+// and what could be more than one argument or a switch: blanks inside, control characters, double quotes, "-"
+// or "/" in front.
+//
+// The argument for the player: `address` (UTF-8, without the letter of its kind) without blanks at its ends,
+// with every byte beyond ASCII percent-encoded, since such characters turn into quotes, blanks and dashes on
+// their way through other code pages, and with "http://" in front of a bare host. Nothing when refused.
+std::optional<std::string> PlayerArgument(std::string_view address);
+inline bool IsPlayerAddress(std::string_view address) { return PlayerArgument(address).has_value(); }
 
 }  // namespace sonaro

@@ -1,5 +1,7 @@
 #include "playback/PlayerLaunch.h"
 
+#include <optional>
+
 #include "app/Strings.h"
 #include "base/Numbers.h"
 #include "base/Text.h"
@@ -106,14 +108,15 @@ LaunchOutcome PlayerLaunch::HandOver(const std::string& linkText) {
   const PlayLink link = PlayLink::FromText(linkText);
   if (link.way == PlayWay::WebPage) return FromWebPage(pages_.Open(link.address));
   if (TrimBlanks(link.address).empty()) return LaunchOutcome::NoLink;
-  if (!IsSafeArgument(link.address)) return LaunchOutcome::RefusedLink;
+  const std::optional<std::string> argument = PlayerArgument(link.address);
+  if (!argument) return LaunchOutcome::RefusedLink;
   if (link.way == PlayWay::AsxProgram) {
     player = players_.FindAsxProgram();
     if (player.empty()) return LaunchOutcome::NoAsxProgram;
   } else if (!IsRealPlayer(player)) {
     return LaunchOutcome::NoPlayer;
   }
-  return players_.Play(player, link.address) ? LaunchOutcome::Started : LaunchOutcome::NotStarted;
+  return players_.Play(player, *argument) ? LaunchOutcome::Started : LaunchOutcome::NotStarted;
 }
 
 LaunchOutcome PlayerLaunch::OpenWebSite(const StationKey& station) {

@@ -42,7 +42,8 @@ PlayerChoiceOutcome PlayerSetup::Choose(const std::string& path) {
 }
 
 bool PlayerSetup::Test(const std::string& path, const std::string& testLink) const {
-  return files_.Exists(path) && IsSafeArgument(testLink) && players_.Play(path, testLink);
+  const std::optional<std::string> link = PlayerArgument(testLink);
+  return link && files_.Exists(path) && players_.Play(path, *link);
 }
 
 }  // namespace sonaro

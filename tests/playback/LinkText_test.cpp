@@ -1,4 +1,4 @@
-// The small texts of playback: link prefixes, arguments that are safe to hand over, web addresses, station
+// The small texts of playback: link prefixes, what a player may be handed, web addresses, station
 // keys.
 #include <gtest/gtest.h>
 
@@ -33,16 +33,94 @@ TEST(PlayLinkText, AddressThatReadsAsPrefixIsWrittenForTheAsxProgram) {
   EXPECT_EQ((PlayLink{PlayWay::WebPage, ""}.ToText()), "");
 }
 
-TEST(SafeArgument, OnlyWhatCannotBeAnythingButOneArgument) {
-  for (const char* link : {"http://a.example/x?y=1&z=%20", "C:\\music\\a.mp3", " http://a.example/ ",
-                           "rtsp://\xC3\xBC.example/", "x"}) {
-    EXPECT_TRUE(IsSafeArgument(link)) << link;
+TEST(PlayerAddress, WhatIsHandedOver) {
+  const struct {
+    const char* address;
+    const char* argument;
+  } kCases[] = {
+      {"http://a.example/x?y=1&z=%20#t", "http://a.example/x?y=1&z=%20#t"},
+      {" rtsp://a.example/x ", "rtsp://a.example/x"},
+      {"MMS://10.0.0.1:554/x;stream.nsv", "MMS://10.0.0.1:554/x;stream.nsv"},
+      {"http://[::1]:80/", "http://[::1]:80/"},
+      {"strange+9.x://host", "strange+9.x://host"},
+      {"http://a.example/?u=file:///x", "http://a.example/?u=file:///x"},
+      {"search-radio://a.example/", "search-radio://a.example/"},
+      {"a.example/x.mp3", "http://a.example/x.mp3"},
+      {"a.example:8000", "http://a.example:8000"},
+      {"server:8000/live", "http://server:8000/live"},
+      // Full-width quote, ideographic blank, full-width dash: ASCII in some code pages.
+      {"http://a/\xEF\xBC\x82\xE3\x80\x80\xEF\xBC\x8D", "http://a/%EF%BC%82%E3%80%80%EF%BC%8D"},
+      {"rtsp://\xC3\xBC.example/\xFF", "rtsp://%C3%BC.example/%FF"},
+  };
+  for (const auto& c : kCases) EXPECT_EQ(PlayerArgument(c.address), c.argument) << c.address;
+}
+
+TEST(PlayerAddress, WhatReachesIntoThisComputerOrIsMoreThanAnArgumentIsRefused) {
+  for (const char* address : {"",
+                              "   ",
+                              "-play",
+                              " -play",
+                              "-a.example",
+                              "/play",
+                              "//host/share",
+                              "\\\\host\\share",
+                              "\\x",
+                              "x",
+                              "C:\\music\\a.mp3",
+                              "C:/music/a.mp3",
+                              "c://music/a.mp3",
+                              "C:a.mp3",
+                              "..\\a.example",
+                              "../a.example",
+                              "./a.example",
+                              ".\\a",
+                              "music/a.mp3",
+                              "music\\a.mp3",
+                              "a..b/x",
+                              "a\" /x",
+                              "http://a/ /play",
+                              "a.b\tc",
+                              "a.b\r\nc",
+                              "a.b\x7F",
+                              "%SystemRoot%/x",
+                              "%SystemRoot%.example",
+                              "http://a/%TEMP%",
+                              "http://a/100%",
+                              "http://a/%4",
+                              "http://",
+                              "http:///x",
+                              "http:a.example",
+                              "://a",
+                              "http://?x",
+                              "x/y://a",
+                              "file://host/x",
+                              "FILE:///C:/x",
+                              "file:x",
+                              "res://a.dll/x",
+                              "mk:@x",
+                              "mk://x",
+                              "javascript:alert(1)",
+                              "javascript://a",
+                              "vbscript://a",
+                              "data:text/html,x",
+                              "data://a",
+                              "about:blank",
+                              "about://a",
+                              "shell:startup",
+                              "shell://a",
+                              "search://a",
+                              "search-ms:query=x",
+                              "search-ms://a",
+                              "ms-settings:x",
+                              "Ms-Word://a",
+                              "ldap://a",
+                              "smb://a/b",
+                              "jar://a",
+                              "mailto:a@b.example",
+                              "f\xC4\xB1le://a" /* dotless i */}) {
+    EXPECT_FALSE(IsPlayerAddress(address)) << address;
   }
-  for (const char* link : {"", "   ", "-play", " -play", "/play", "a\" /x", "http://a/ /play", "a\tb",
-                           "a\r\nb", "a\x7F", "a\x01"}) {
-    EXPECT_FALSE(IsSafeArgument(link)) << link;
-  }
-  EXPECT_FALSE(IsSafeArgument(std::string_view("a\0b", 3)));
+  EXPECT_FALSE(IsPlayerAddress(std::string_view("http://a\0b", 10)));
 }
 
 TEST(WebAddress, OnlyHttpWithAHost) {

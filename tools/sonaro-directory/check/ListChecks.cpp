@@ -50,7 +50,7 @@ void CheckOwnLinks(CheckContext& context) {
       return;
     }
     context.CheckTokens(kName, number, columns[0]);
-    if (!IsSafeArgument(PlayLink::FromText(columns[2]).address))
+    if (!IsPlayerAddress(PlayLink::FromText(columns[2]).address))
       context.Add(kName, number, "the link cannot be opened");
   });
 }

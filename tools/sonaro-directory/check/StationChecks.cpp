@@ -70,7 +70,7 @@ class RecordCheck {
       const std::string text = Plain(field);
       if (text.empty()) continue;
       const PlayLink link = PlayLink::FromText(text);
-      if (!IsSafeArgument(link.address) || link.address.find("://") == std::string::npos) {
+      if (!IsPlayerAddress(link.address) || link.address.find("://") == std::string::npos) {
         Add("the link in field " + std::to_string(static_cast<int>(field)) + " cannot be opened");
       }
     }

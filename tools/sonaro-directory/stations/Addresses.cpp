@@ -67,7 +67,7 @@ std::string_view ProblemOf(std::string_view address, std::span<const std::string
   if (address.find('"') != std::string_view::npos) return "double quote in the address";
   if (address.find(' ') != std::string_view::npos) return "blank in the address";
   if (address.find('\\') != std::string_view::npos) return "backslash in the address";
-  if (!IsSafeArgument(address)) return "begins like a switch";
+  if (address[0] == '-' || address[0] == '/') return "begins like a switch";
   const std::size_t schemeEnd = address.find("://");
   if (schemeEnd == std::string_view::npos) return "not an address on the web";
   if (std::find(schemes.begin(), schemes.end(), address.substr(0, schemeEnd)) == schemes.end()) {
