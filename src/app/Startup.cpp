@@ -70,11 +70,17 @@ void Startup::ShowSplashAndFaceplate() {
   view_.LoadFaceplate();
 }
 
-// A table that is there and damaged is made anew from the station list, and nobody has to know.
+// A table that is not that of the station list is made anew, and nobody has to know unless that fails: then
+// the next start finds it so again.
 void Startup::SwapInDownloads() {
-  const bool rebuilt = RunDeferredSwap(use_.data, use_.reg, [this] { use_.stations.RebuildStationTable(); });
-  if (rebuilt || !use_.data.Exists("\\Statorg.isd") || !use_.data.Exists("\\Statorg.ism")) return;
-  if (!use_.stations.Verify()) use_.stations.RebuildStationTable();
+  RunDeferredSwap(use_.data, use_.reg, [this] { use_.stations.RebuildStationTable(); });
+  if (use_.stations.EnsureStationTable() != TableCare::NotMade) return;
+  Message message;
+  message.key = "StationTableNotMade";
+  message.caption = use_.strings.Load(IDS_APP_TITLE);
+  message.text = use_.strings.Load(IDS_TABLE_NOT_MADE);
+  message.firstButton = use_.strings.Load(IDS_APP_OK);
+  use_.messageBox.Ask(message);
 }
 
 bool Startup::CheckDataFiles(bool askUser, bool& end) {

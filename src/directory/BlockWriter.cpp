@@ -40,8 +40,8 @@ void BlockWriter::WriteBlock(std::string_view block) {
   written_ += block.size();
 }
 
-std::uint64_t ChainedChecksum(std::string_view stream) {
-  std::uint64_t check = 0;
+std::uint64_t ChainedChecksum(std::string_view stream, std::uint64_t before) {
+  std::uint64_t check = before;
   for (; !stream.empty(); stream.remove_prefix(std::min(stream.size(), kColumnBlock))) {
     check = Checksum(stream.substr(0, kColumnBlock), check);
   }

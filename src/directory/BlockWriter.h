@@ -62,7 +62,8 @@ class BlockWriter {
   bool failed_ = false;
 };
 
-// The checksum of a whole stream, chained over its blocks as BlockWriter does.
-std::uint64_t ChainedChecksum(std::string_view stream);
+// The checksum of a stream, chained over its blocks as BlockWriter does. A stream can be given in pieces,
+// each with the checksum of what came before; all but the last must be whole blocks.
+std::uint64_t ChainedChecksum(std::string_view stream, std::uint64_t before = 0);
 
 }  // namespace sonaro

@@ -3,12 +3,14 @@
 #include <algorithm>
 #include <cstring>
 
+#include "directory/BlockWriter.h"
 #include "directory/ByteScan.h"
 
 namespace sonaro {
 namespace {
 
 constexpr std::size_t kBufferSize = 256 * 1024;
+static_assert(kBufferSize % kColumnBlock == 0, "what is read at once are whole blocks of the checksum");
 
 }  // namespace
 
@@ -42,6 +44,7 @@ bool LineReader::Fill() {
   if (buffer_.size() - end_ < left) buffer_.resize(std::max(end_ + left, 2 * buffer_.size()));
   failed_ = !file_.ReadAt(position_, buffer_.data() + end_, left);
   if (failed_) return false;
+  check_ = ChainedChecksum({buffer_.data() + end_, left}, check_);
   const bool marked =
       position_ == 0 && std::string_view(buffer_.data(), left).starts_with(kByteOrderMarkUtf8);
   if (marked) begin_ = kByteOrderMarkUtf8.size();

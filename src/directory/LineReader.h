@@ -18,6 +18,8 @@ class LineReader {
   // The next line without its line feed (a carriage return before it stays), valid until the next call. A
   // UTF-8 byte order mark at the start of the file is left out. False at the end and after a failure.
   bool Next(std::string_view& line);
+  // ChainedChecksum of all that was read, of the whole file once Next has come to its end.
+  std::uint64_t Check() const { return check_; }
   // True when the file could not be read to its end.
   bool Failed() const { return failed_; }
 
@@ -29,6 +31,7 @@ class LineReader {
   std::size_t begin_ = 0;  // of what was read and not yet given out
   std::size_t end_ = 0;
   std::uint64_t position_ = 0;  // in the file, of what comes next into the buffer
+  std::uint64_t check_ = 0;
   bool failed_ = false;
 };
 

@@ -70,6 +70,37 @@ bool StatList::RebuildStationTable() {
   return status_ == TableStatus::Success;
 }
 
+// Whether the table is whole and was made of this list. A list that cannot be read to its end is no reason to
+// doubt the table.
+bool StatList::MadeOf(InputFile& list) {
+  TableSource source{};
+  if (vmx_->Source(TablePath(data_, kTableName), source) != TableStatus::Success) return false;
+  if (source.size != list.Size()) return false;
+  const auto found = SourceOf(list);
+  return (!found || *found == source) && Verify();
+}
+
+TableCare StatList::KeepWithoutList() {
+  if (Verify() && StationCount() > 0) return TableCare::Sound;
+  if (status_ != TableStatus::NoTable) vmx_->VmxKill(TablePath(data_, kTableName));
+  return TableCare::NoDirectory;
+}
+
+TableCare StatList::EnsureStationTable() {
+  Files& files = data_.FileSystem();
+  const std::string path = data_.Path(kListName);
+  try {
+    const std::unique_ptr<InputFile> list = files.Open(path);
+    if (!list && files.Exists(path)) return Verify() ? TableCare::Sound : TableCare::NotMade;
+    if (list && MadeOf(*list) && StationCount() > 0) return TableCare::Sound;
+    if (!list || !HoldsStation(*list)) return KeepWithoutList();
+  } catch (const std::bad_alloc&) {
+    status_ = TableStatus::NoMemory;
+    return TableCare::NotMade;
+  }
+  return RebuildStationTable() ? TableCare::Made : TableCare::NotMade;
+}
+
 // Opens the station table for one operation, whose status stays the last one. Without a table, or without
 // memory for the result, the result is empty.
 template <typename Operation>

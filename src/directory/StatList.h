@@ -18,8 +18,17 @@
 namespace sonaro {
 
 class DataFolder;
+class InputFile;
 class Vmx;
 struct VmxRecord;
+
+// How EnsureStationTable left the table.
+enum class TableCare {
+  Sound,       // as it was: whole, and made of the list that is there
+  Made,        // made anew from the list
+  NotMade,     // it ought to be made anew and could not be; what was there stays
+  NoDirectory  // there is no table, and no list with a station to make one of
+};
 
 class StatList {
  public:
@@ -47,6 +56,11 @@ class StatList {
   // new table. False when the list could not be read or the table not written; the old table then stays.
   bool RebuildStationTable();
 
+  // The table that belongs to "\station.snr": one that is missing, damaged or of another list is made anew.
+  // Without a list that holds a station a whole table stays, and a damaged or empty one is removed, so that
+  // the directory counts as missing. Compares lengths first, then reads list and table once each.
+  [[nodiscard]] TableCare EnsureStationTable();
+
   // Opens the table once for all of them. Unknown identifiers are left out; the order is that of `ids`.
   std::vector<StationRecord> GetStations(std::span<const std::int32_t> ids);
   // The same without a copy of every record: `visit` is given one record after the other in the same place,
@@ -68,6 +82,8 @@ class StatList {
   bool Verify();
 
  private:
+  bool MadeOf(InputFile& list);
+  TableCare KeepWithoutList();
   bool Read(Handle handle, std::int32_t stationId, StationRecord& record);
   std::vector<std::int32_t> Search(Handle handle, std::string_view text, bool allWords);
   std::vector<StationRecord> GetAll(Handle handle, std::span<const std::int32_t> ids);

@@ -9,6 +9,7 @@
 
 #include "base/DataFolder.h"
 #include "base/Numbers.h"
+#include "directory/BlockWriter.h"
 #include "directory/ByteScan.h"
 #include "directory/LineReader.h"
 #include "directory/TableWriter.h"
@@ -30,6 +31,7 @@ Pass AppendInOrder(InputFile& list, TableWriter& writer) {
     if (!writer.Append(station.id, station.text)) return Pass::Failed;
     last = station.id;
   }
+  writer.SetSource({list.Size(), lines.Check()});
   return lines.Failed() ? Pass::Failed : Pass::Complete;
 }
 
@@ -82,6 +84,7 @@ std::vector<Place> PlacesIn(std::string_view list) {
 // Copies a list in any order to the table, which takes the whole list in memory.
 Pass AppendSorted(std::string_view list, TableWriter& writer) {
   if (list.size() > kLargestText) return Pass::Failed;
+  writer.SetSource({list.size(), ChainedChecksum(list)});
   std::vector<Place> places = PlacesIn(list);
   SortById(places);
   constexpr std::size_t kAhead = 16;  // lines whose bytes are asked for before they are needed
@@ -128,6 +131,25 @@ bool ParseStationLine(std::string_view line, StationLine& station) {
   }
   station = {id, line.substr(std::min(end + 1, line.size()))};
   return id != 0;
+}
+
+std::optional<TableSource> SourceOf(InputFile& list) {
+  LineReader lines(list);
+  std::string_view line;
+  while (lines.Next(line)) {
+  }
+  if (lines.Failed()) return {};
+  return TableSource{list.Size(), lines.Check()};
+}
+
+bool HoldsStation(InputFile& list) {
+  LineReader lines(list);
+  std::string_view line;
+  StationLine station;
+  while (lines.Next(line)) {
+    if (ParseStationLine(line, station)) return true;
+  }
+  return false;
 }
 
 TableStatus BuildStationTable(Files& files, const std::string& listPath, const std::string& tablePath) {

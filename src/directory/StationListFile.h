@@ -3,6 +3,7 @@
 #pragma once
 
 #include <cstdint>
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -25,6 +26,11 @@ struct StationLine {
 // number of 32 bits, or with the identifier 0. Fields that are missing are empty, what there is too much
 // belongs to the last one.
 bool ParseStationLine(std::string_view line, StationLine& station);
+
+// What a table of this list would carry. Reads the whole list; nothing when that fails.
+std::optional<TableSource> SourceOf(InputFile& list);
+// True when a line of the list holds a station. Reads no further than to the first one.
+bool HoldsStation(InputFile& list);
 
 // Puts a table of all stations of the list in the place of the one at `tablePath` (without an extension). Of
 // two lines with one identifier the later one counts. Success or NotWritten; the old table stays then. A list

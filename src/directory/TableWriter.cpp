@@ -82,6 +82,7 @@ bool TableWriter::Finish() {
   index.searchedFields = definition_.searchedFields;
   index.foldVersion = kFoldCaseVersion;
   index.dataFileSize = data.fileSize;
+  index.source = source_;
   index.columnSize = index_->Size();
   index_->Append(std::string(kColumnPadding, '\0'));
   index.columnCheck = index_->Flush();

@@ -28,6 +28,8 @@ class TableWriter {
   // `text` is the record's fields with a tab between them; the last one may hold tabs. Keys must ascend.
   // False when the table grows beyond what its files can hold (4 GiB of text).
   bool Append(std::int32_t key, std::string_view text);
+  // What the records come from; without it the table is one of no list.
+  void SetSource(const TableSource& source) { source_ = source; }
   // Completes the neighbours. False when anything could not be written.
   bool Finish();
   // Replaces the table by the finished neighbours; no file of the table may be open. False when the table is
@@ -46,6 +48,7 @@ class TableWriter {
   std::vector<Entry> entries_;
   std::string folded_;  // kept for its memory
   std::uint64_t generation_ = 0;
+  TableSource source_{};
   bool tooLarge_ = false;
   bool putInPlace_ = false;
 };

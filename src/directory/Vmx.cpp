@@ -157,6 +157,15 @@ std::uint32_t Vmx::RecordCount(Handle handle) {
   return count;
 }
 
+TableStatus Vmx::Source(const std::string& path, TableSource& source) {
+  return Run([&] {
+    TableFiles files;
+    const TableStatus status = OpenTableFiles(files_, path, files);
+    source = files.indexHeader.source;
+    return status;
+  });
+}
+
 TableStatus Vmx::Verify(const std::string& path) {
   return Run([&] {
     TableFiles files;

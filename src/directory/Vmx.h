@@ -72,6 +72,8 @@ class Vmx {
   // The records on disk, ready to be searched, valid until the table is closed; null when they are damaged.
   const TableImage* SearchImage(Handle handle);
   std::uint32_t RecordCount(Handle handle);  // on disk
+  // What the table says it was made of; reads the headers only.
+  TableStatus Source(const std::string& path, TableSource& source);
   // Reads and checks every byte of the table.
   TableStatus Verify(const std::string& path);
 

@@ -37,13 +37,22 @@ inline constexpr std::string_view kDataExtension = ".isd";
 inline constexpr std::string_view kIndexExtension = ".ism";
 inline constexpr std::string_view kNeighbourExtension = ".new";  // appended to a file that is being written
 
-inline constexpr std::uint32_t kFormatVersion = 1;
+inline constexpr std::uint32_t kFormatVersion = 2;
 inline constexpr std::uint32_t kByteOrderMark = 0x01020304;
 inline constexpr char kFieldSeparator = '\t';
 inline constexpr std::size_t kColumnPadding = 64;
-inline constexpr std::size_t kColumnBlock = 64 * 1024;  // the column's checksum is chained over such blocks
+inline constexpr std::size_t kColumnBlock =
+    64 * 1024;  // checksums of long streams are chained over such blocks
 inline constexpr std::uint32_t kPageEntries = 512;
 inline constexpr std::uint64_t kLargestText = std::numeric_limits<std::uint32_t>::max();
+
+// The list that a table was made of: its length and its checksum (ChainedChecksum). Two zeros for a table
+// that was made of none, or changed since.
+struct TableSource {
+  std::uint64_t size;
+  std::uint64_t check;
+  bool operator==(const TableSource&) const = default;
+};
 
 struct Entry {
   std::int32_t key;
@@ -83,11 +92,12 @@ struct IndexHeader {
   std::uint64_t columnSize;  // without the padding
   std::uint64_t columnCheck;
   std::uint64_t directoryCheck;
+  TableSource source;
   std::uint64_t check;  // of the bytes before it
 };
 
 static_assert(sizeof(Entry) == 16 && sizeof(PageItem) == 16);
-static_assert(sizeof(DataHeader) == 48 && sizeof(IndexHeader) == 88);
+static_assert(sizeof(DataHeader) == 48 && sizeof(IndexHeader) == 104);
 
 // Where the sections of an index file lie.
 struct IndexLayout {

@@ -84,7 +84,7 @@ bool UpdateInstall::PutInPlace(const std::string& received, bool rebuild) {
     if (swapped && rebuild && IsStationList(name)) rebuilt = stations_.RebuildStationTable();
   }
   if (!rebuilt) data_.Replace(kPreviousList, kStationList);
-  if (NamesStationTable(received) && !stations_.Verify()) stations_.RebuildStationTable();
+  if (NamesStationTable(received)) rebuilt = stations_.EnsureStationTable() != TableCare::NotMade && rebuilt;
   reg_.SetSetting(setting::kUpdateHold, waiting);
   return rebuilt;
 }

@@ -285,28 +285,65 @@ TEST_F(StartupTest, MissingFilesAskBeforeAnythingElseIsChecked) {
   }
 }
 
-TEST_F(StartupTest, ADamagedTableIsMadeAnewWithoutAWord) {
+TEST_F(StartupTest, TheTableOfTheListIsMadeAnewWithoutAWord) {
   AllChecksDone();
-  for (const char* name : {"/d/Statorg.isd", "/d/Statorg.ism"}) {
-    std::string path;
-    for (const std::string& there : files_.AllPaths()) {
-      if (EqualIgnoringCase(there, name)) path = there;
-    }
+  const std::string table[] = {data_.Path("\\Statorg.isd"), data_.Path("\\Statorg.ism")};
+  const auto damage = [&](const std::string& path) {
     std::string bytes = files_.Get(path).value_or("");
-    ASSERT_FALSE(bytes.empty()) << name;
-    bytes[bytes.size() / 2] = static_cast<char>(bytes[bytes.size() / 2] ^ 0x40);
+    bytes.at(bytes.size() / 2) ^= 0x40;
     files_.Put(path, bytes);
-    ASSERT_FALSE(StatList(data_).Verify());
-    EXPECT_TRUE(Main(""));
-    EXPECT_TRUE(StatList(data_).Verify()) << name;
-    EXPECT_EQ(StationName(), "Old");
+  };
+  const std::pair<const char*, std::function<void()>> cases[] = {
+      {"damaged records", [&] { damage(table[0]); }},
+      {"damaged index", [&] { damage(table[1]); }},
+      {"no index", [&] { files_.Remove(table[1]); }},
+      {"no table",
+       [&] { StatList(data_).RebuildStationTable(), files_.Remove(table[0]), files_.Remove(table[1]); }},
+      {"a held list whose table comes with it and is none",
+       [&] {
+         PutSetting("UpdateHold", "Station.snr\tStatorg.isd\t");
+         files_.Put("/d/tStation.snr", "1\tOld\r\n");
+         files_.Put("/d/tStatorg.isd", "not a table");
+       }},
+  };
+  for (const auto& [what, happens] : cases) {
+    happens();
+    EXPECT_TRUE(Main("")) << what;
+    EXPECT_TRUE(StatList(data_).Verify()) << what;
+    EXPECT_EQ(StationName(), "Old") << what;
   }
   EXPECT_TRUE(view_.asked.empty());
 }
 
+TEST_F(StartupTest, ATableThatCannotBeMadeIsToldAndTriedAgain) {
+  AllChecksDone();
+  PutSetting("UpdateHold", "Station.snr\t");
+  files_.Put("/d/tStation.snr", "1\tNew\r\n");
+  files_.SetSpaceLeft(20);
+  EXPECT_TRUE(Main(""));
+  EXPECT_TRUE(Happened("ask StationTableNotMade"));
+  EXPECT_EQ(Setting("UpdateHold"), "");
+  EXPECT_EQ(StationName(), "Old");
+  files_.SetSpaceLeft({});
+  journal_.clear();
+  EXPECT_TRUE(Main(""));
+  EXPECT_FALSE(Happened("ask StationTableNotMade"));
+  EXPECT_EQ(StationName(), "New");
+}
+
+TEST_F(StartupTest, ADamagedTableWithoutAListIsAMissingOne) {
+  AllChecksDone();
+  files_.Remove("/d/station.snr");
+  EXPECT_TRUE(Main(""));
+  EXPECT_TRUE(view_.asked.empty()) << "a whole table does without its list";
+  files_.Put(data_.Path("\\Statorg.isd"), "damaged");
+  EXPECT_FALSE(Main(""));
+  EXPECT_TRUE(Happened("ask MissingDataFilesNeedToDownloadThem"));
+}
+
 // An update waits, and the machine dies at any moment of the start: the next start finishes it, and list and
-// table belong together.
-TEST(StartupCrash, TheNextStartFinishesTheUpdate) {
+// table belong together, even if the settings are those of after the update because the disk kept them.
+void CrashDuringTheSwap(bool holdIsKept) {
   Journal journal;
   JournalRegistry registry(journal);
   CReg reg(registry);
@@ -339,17 +376,21 @@ TEST(StartupCrash, TheNextStartFinishesTheUpdate) {
       },
       [&](FakeFiles& files) {
         start(files);
-        if (files.Crashed()) reg.SetSetting("UpdateHold", "Station.snr\t");  // the dead write no settings
+        if (files.Crashed()) reg.SetSetting("UpdateHold", holdIsKept ? "Station.snr\t" : "");
       },
       [&](FakeFiles& files, const CrashPoint& point) {
         DataFolder data(files, "/d", '/');
         start(files);
-        EXPECT_EQ(files.Get("/d/Station.snr"), "1\tNew\r\n") << point.operation;
-        EXPECT_EQ(StatList(data).FindStation(1)[StationField::Name], "New") << point.operation;
+        const std::string name = StatList(data).FindStation(1)[StationField::Name];
+        EXPECT_EQ(files.Get("/d/Station.snr"), "1\t" + name + "\r\n") << point.operation;
+        EXPECT_TRUE(name == "New" || !holdIsKept) << point.operation;
         EXPECT_TRUE(StatList(data).Verify()) << point.operation;
       });
   EXPECT_GT(operations, 5);
 }
+
+TEST(StartupCrash, TheNextStartFinishesTheUpdate) { CrashDuringTheSwap(true); }
+TEST(StartupCrash, ListAndTableAgreeWhenTheSettingsAreAhead) { CrashDuringTheSwap(false); }
 
 }  // namespace
 }  // namespace sonaro

@@ -4,6 +4,7 @@
 
 #include "base/DataFolder.h"
 #include "directory/StatList.h"
+#include "directory/VmxFormat.h"
 #include "fakes/FakeFiles.h"
 
 namespace sonaro {
@@ -116,9 +117,11 @@ TEST(StationRebuild, OrderOfTheListDoesNotMatter) {
   std::shuffle(lines.begin(), lines.end(), std::mt19937(7));
   RebuiltFolder shuffled;
   ASSERT_TRUE(shuffled.Rebuild(lines[5] + Joined(lines)));
-  for (const char* path : {"/data/statorg.isd", "/data/statorg.ism"}) {
-    EXPECT_EQ(inOrder.files.Get(path), shuffled.files.Get(path)) << path;
-  }
+  EXPECT_TRUE(inOrder.files.Get("/data/statorg.isd") == shuffled.files.Get("/data/statorg.isd"));
+  const auto behindHeader = [](const FakeFiles& files) {  // which tells the list
+    return files.Get("/data/statorg.ism")->substr(sizeof(IndexHeader));
+  };
+  EXPECT_TRUE(behindHeader(inOrder.files) == behindHeader(shuffled.files));
 }
 
 // The state of the table: "old", "new", a status when it does not open, or what is wrong with it.

@@ -50,7 +50,7 @@ class Installation : private UpdateView {
   // What a start does before anything is shown.
   void StartAgain() {
     RunDeferredSwap(data, reg, [this] { stations.RebuildStationTable(); });
-    if (!stations.Verify()) stations.RebuildStationTable();
+    (void)stations.EnsureStationTable();
   }
 
   std::string Bytes(const std::string& name) { return data.Read("\\" + name).bytes; }

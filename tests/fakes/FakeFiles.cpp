@@ -30,6 +30,7 @@ class FakeFiles::Reader : public InputFile {
     if (owner_.crashed_ || file_->gone || offset > bytes.size() || length > bytes.size() - offset)
       return false;
     bytes.copy(buffer, length, static_cast<std::size_t>(offset));
+    owner_.bytesRead_ += length;
     return true;
   }
 

@@ -48,6 +48,8 @@ class FakeFiles : public Files {
   // "replace /d/a /d/b flushed", "remove /d/a", "folder /d".
   const std::vector<std::string>& Log() const { return log_; }
   void ClearLog() { log_.clear(); }
+  // What all readers together were given.
+  std::uint64_t BytesRead() const { return bytesRead_; }
 
   std::unique_ptr<InputFile> Open(const std::string& path) override;
   std::unique_ptr<OutputFile> Create(const std::string& path) override;
@@ -91,6 +93,7 @@ class FakeFiles : public Files {
   std::optional<std::uint64_t> spaceLeft_;
   int operationsUntilCrash_ = 0;
   bool crashed_ = false;
+  std::uint64_t bytesRead_ = 0;
   std::vector<std::string> log_;
 };
 
