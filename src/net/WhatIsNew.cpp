@@ -10,6 +10,7 @@
 #include "base/Dates.h"
 #include "base/Numbers.h"
 #include "base/Text.h"
+#include "net/ServiceRequest.h"
 
 namespace sonaro {
 
@@ -36,15 +37,17 @@ std::int64_t SideFileSize(const DataFolder& data) {
   return file ? static_cast<std::int64_t>(file->Size()) : 0;
 }
 
-// The entry is a size, an address that begins with "http", "::" and a value.
+// The entry is a size, an address that begins with "http", "::" and a value. One whose address cannot be
+// asked for is no entry.
 void CheckSideFile(std::string_view entry, const DataFolder& data, WhatIsNew& found) {
   const std::size_t address = entry.find("http");
   if (address == std::string_view::npos) return;
   const std::string_view size = entry.substr(0, address);
   if (!IsNumeric(size) || NumberValue(size) == SideFileSize(data)) return;
-  found.toDo += kToDoSideFile;
   entry.remove_prefix(address);
   const std::size_t cut = entry.find("::");
+  if (!IsServiceAddress(entry.substr(0, cut))) return;
+  found.toDo += kToDoSideFile;
   found.sideFileUrl = entry.substr(0, cut);
   if (cut != std::string_view::npos) found.sideFileValue = entry.substr(cut + 2);
 }

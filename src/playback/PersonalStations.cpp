@@ -56,7 +56,7 @@ PersonalStations::Line PersonalStations::ReadLine(std::string_view text) {
   std::int32_t index = 0;
   const bool numbered = ParseStationId(fields[0], index) && index > 0;
   if (numbered) highestIndex_ = std::max(highestIndex_, index);
-  if (!numbered || fields.size() != kFields || TrimBlanks(fields[1]).empty() ||
+  if (!numbered || fields.size() != kFields || CleanField(fields[1], PersonalStation::kMaxName).empty() ||
       !lineOf_.emplace(index, 0).second) {
     return {{}, std::string(text)};
   }

@@ -15,6 +15,7 @@
 #include "net/ServiceRequest.h"
 #include "net/UpdateFile.h"
 #include "net/UpdateFormat.h"
+#include "net/WhatIsNew.h"
 
 namespace sonaro {
 
@@ -95,6 +96,26 @@ void FuzzProxySettings(std::string_view input) {
   Require(other.empty() || other.find(':') != std::string::npos, "host and port");
   for (const std::string& each : {found, other})
     Require(each.find_first_of(std::string_view("\0\r\n\t", 4)) == std::string::npos, "one plain line");
+}
+
+// A service's answer. The to-do list holds known marks only, and an address to fetch is one plain line.
+void FuzzWhatIsNew(std::string_view input) {
+  FakeFiles files;
+  files.MakeFolder("/d");
+  DataFolder data(files, "/d", '/');
+  FakeRegistry registry;
+  CReg reg(registry);
+  reg.CheckKeyIsThere(kSettingsKey);
+  const WhatIsNew found = CheckWhatIsNew(input, "M/d/yyyy", data, reg);
+  for (const std::string_view known : {"", "/SL/", "/SF/", "/SL//SF/"}) {
+    if (found.toDo != known) continue;
+    Require(reg.Setting(setting::kDoWhat) == known, "the to-do list is stored");
+    Require(found.sideFileUrl.empty() == (known.find("/SF/") == std::string_view::npos),
+            "an address to fetch");
+    Require(found.sideFileUrl.find_first_of(std::string_view("\0\r\n", 3)) == std::string::npos, "one line");
+    return;
+  }
+  Require(false, "known marks only");
 }
 
 }  // namespace sonaro

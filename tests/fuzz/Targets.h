@@ -21,6 +21,14 @@ void FuzzProxySettings(std::string_view input);
 void FuzzPlaylist(std::string_view input);
 void FuzzStationList(std::string_view input);
 void FuzzTable(std::string_view input);
+void FuzzWhatIsNew(std::string_view input);
+void FuzzSchedule(std::string_view input);
+void FuzzPersonalStations(std::string_view input);
+void FuzzExtraLinks(std::string_view input);
+void FuzzGroups(std::string_view input);
+void FuzzCategories(std::string_view input);
+void FuzzOutlines(std::string_view input);
+void FuzzToolReaders(std::string_view input);
 
 inline constexpr FuzzTarget kFuzzTargets[] = {{"http_response", FuzzHttpResponse},
                                               {"update_file", FuzzUpdateFile},
@@ -28,7 +36,15 @@ inline constexpr FuzzTarget kFuzzTargets[] = {{"http_response", FuzzHttpResponse
                                               {"proxy_settings", FuzzProxySettings},
                                               {"playlist", FuzzPlaylist},
                                               {"station_list", FuzzStationList},
-                                              {"table", FuzzTable}};
+                                              {"table", FuzzTable},
+                                              {"what_is_new", FuzzWhatIsNew},
+                                              {"schedule", FuzzSchedule},
+                                              {"personal_stations", FuzzPersonalStations},
+                                              {"extra_links", FuzzExtraLinks},
+                                              {"groups", FuzzGroups},
+                                              {"categories", FuzzCategories},
+                                              {"outlines", FuzzOutlines},
+                                              {"tool_readers", FuzzToolReaders}};
 
 // Ends the process at a broken promise, which is what a fuzzer looks for.
 inline void Require(bool promise, const char* what) {
