@@ -59,8 +59,9 @@ void CheckCalendar(const std::string& calendar) {
       open.pop_back();
     } else {
       const std::string_view name = line.substr(0, line.find(':'));
-      constexpr std::string_view kNames[] = {"VERSION", "PRODID",  "UID",         "DTSTAMP", "DTSTART", "RRULE",
-                                             "SUMMARY", "ACTION",  "DESCRIPTION", "URL",     "TRIGGER"};
+      constexpr std::string_view kNames[] = {"VERSION",     "PRODID", "UID",     "DTSTAMP",
+                                             "DTSTART",     "RRULE",  "SUMMARY", "ACTION",
+                                             "DESCRIPTION", "URL",    "TRIGGER"};
       Require(std::find(std::begin(kNames), std::end(kNames), name) != std::end(kNames), "no other property");
     }
   }

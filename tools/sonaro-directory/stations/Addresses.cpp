@@ -43,10 +43,21 @@ std::size_t CountOf(std::string_view text, std::string_view part) {
   return count;
 }
 
-bool IsUsableHost(std::string_view host) {
-  if (host.starts_with('[')) return host.find(']') != std::string_view::npos;
+// The host of an authority, which may name a user before it and a port behind it; of one in brackets the
+// closing bracket is missing.
+std::string_view HostIn(std::string_view authority) {
+  if (const std::size_t user = authority.rfind('@'); user != std::string_view::npos)
+    authority.remove_prefix(user + 1);
+  const std::size_t end = authority.find(authority.starts_with('[') ? ']' : ':');
+  return authority.substr(0, end);
+}
+
+bool IsUsableHost(std::string_view authority) {
+  const std::string_view host = HostIn(authority);
+  if (host.starts_with('[')) return host.size() > 1 && authority.find(']') != std::string_view::npos;
   return host.find('.') != std::string_view::npos && !host.starts_with('.') &&
-         host.find_first_of("<>{}|^`%!$&*()+,;='") == std::string_view::npos;
+         !EqualIgnoringCase(host, "www.") &&
+         authority.find_first_of("<>{}|^`%!$&*()+,;='") == std::string_view::npos;
 }
 
 // Where the host begins and how long it is with user and port.
@@ -121,10 +132,7 @@ CheckedAddress CheckWebSite(std::string_view raw) {
 }
 
 std::string HostOfAddress(std::string_view address) {
-  std::string_view host = Authority(address);
-  if (const std::size_t user = host.rfind('@'); user != std::string_view::npos) host.remove_prefix(user + 1);
-  host = host.starts_with('[') ? host.substr(0, host.find(']')) : host.substr(0, host.find(':'));
-  std::string folded = FoldCase(host);
+  std::string folded = FoldCase(HostIn(Authority(address)));
   if (folded.starts_with("www.")) folded.erase(0, 4);
   return folded;
 }
