@@ -1,5 +1,6 @@
 #include "net/WhatIsNew.h"
 
+#include <algorithm>
 #include <cstdint>
 #include <memory>
 #include <optional>
@@ -10,7 +11,6 @@
 #include "base/Dates.h"
 #include "base/Numbers.h"
 #include "base/Text.h"
-#include "net/ServiceRequest.h"
 
 namespace sonaro {
 
@@ -37,8 +37,12 @@ std::int64_t SideFileSize(const DataFolder& data) {
   return file ? static_cast<std::int64_t>(file->Size()) : 0;
 }
 
-// The entry is a size, an address that begins with "http", "::" and a value. One whose address cannot be
-// asked for is no entry.
+bool HoldsControlOrBlank(std::string_view text) {
+  return std::any_of(text.begin(), text.end(), [](unsigned char c) { return c <= ' ' || c == 0x7F; });
+}
+
+// The entry is a size, an address that begins with "http", "::" and a value. What holds a line break or a
+// blank is no address.
 void CheckSideFile(std::string_view entry, const DataFolder& data, WhatIsNew& found) {
   const std::size_t address = entry.find("http");
   if (address == std::string_view::npos) return;
@@ -46,7 +50,7 @@ void CheckSideFile(std::string_view entry, const DataFolder& data, WhatIsNew& fo
   if (!IsNumeric(size) || NumberValue(size) == SideFileSize(data)) return;
   entry.remove_prefix(address);
   const std::size_t cut = entry.find("::");
-  if (!IsServiceAddress(entry.substr(0, cut))) return;
+  if (HoldsControlOrBlank(entry.substr(0, cut))) return;
   found.toDo += kToDoSideFile;
   found.sideFileUrl = entry.substr(0, cut);
   if (cut != std::string_view::npos) found.sideFileValue = entry.substr(cut + 2);

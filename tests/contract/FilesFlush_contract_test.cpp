@@ -50,7 +50,9 @@ Function* ImportOf(Function function) {
 template <typename Function>
 class StandIn {
  public:
-  StandIn(Function function, Function standIn) : function_(function), entry_(ImportOf(function)) { Put(standIn); }
+  StandIn(Function function, Function standIn) : function_(function), entry_(ImportOf(function)) {
+    Put(standIn);
+  }
   ~StandIn() { Put(function_); }
   bool InPlace() const { return entry_ != nullptr; }
 

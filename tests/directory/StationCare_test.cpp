@@ -52,14 +52,16 @@ TEST_F(StationCare, EverySituationHasOneAnswer) {
       {"no list", [&] { files_.Remove(kList); }, TableCare::Sound, "Old"},
       {"a list without a station", [&] { files_.Put(kList, "\0\0\0\n"); }, TableCare::Sound, "Old"},
       {"a list in use", [&] { files_.Lock(kList); }, TableCare::Sound, "Old"},
-      {"a list in use and no table", [&] { files_.Remove(kData), files_.Lock(kList); }, TableCare::NotMade, ""},
-      {"a list in use and a damaged table",
-       [&] { files_.Put(kData, "x"), files_.Lock(kList); }, TableCare::NotMade, ""},
-      {"a full disk", [&] { files_.Put(kList, "1\tNew\n"), files_.SetSpaceLeft(9); }, TableCare::NotMade, "Old"},
-      {"a damaged table and no list",
-       [&] { files_.Put(kData, "x"), files_.Remove(kList); }, TableCare::NoDirectory, ""},
-      {"a table of an empty list",
-       [&] { files_.Put(kList, ""), StatList(data_).RebuildStationTable(); }, TableCare::NoDirectory, ""},
+      {"a list in use and no table", [&] { files_.Remove(kData), files_.Lock(kList); }, TableCare::NotMade,
+       ""},
+      {"a list in use and a damaged table", [&] { files_.Put(kData, "x"), files_.Lock(kList); },
+       TableCare::NotMade, ""},
+      {"a full disk", [&] { files_.Put(kList, "1\tNew\n"), files_.SetSpaceLeft(9); }, TableCare::NotMade,
+       "Old"},
+      {"a damaged table and no list", [&] { files_.Put(kData, "x"), files_.Remove(kList); },
+       TableCare::NoDirectory, ""},
+      {"a table of an empty list", [&] { files_.Put(kList, ""), StatList(data_).RebuildStationTable(); },
+       TableCare::NoDirectory, ""},
   };
   for (const auto& c : cases) {
     Install("1\tOld\n");
@@ -72,13 +74,14 @@ TEST_F(StationCare, EverySituationHasOneAnswer) {
   }
 }
 
-// The start pays for what it learns: a list of another length is not read to find that out, and nothing is read
-// twice.
+// The start pays for what it learns: a list of another length is not read to find that out, and nothing is
+// read twice.
 TEST_F(StationCare, ReadsNoMoreThanItMust) {
   std::string list;
-  for (int id = 1; id <= 3000; ++id) list += std::to_string(id) + "\tStation\t" + std::string(400, 'x') + "\n";
+  for (int id = 1; id <= 3000; ++id)
+    list += std::to_string(id) + "\tStation\t" + std::string(400, 'x') + "\n";
   Install(list);
-  constexpr std::uint64_t kHeaders = 4096;  // and page directories
+  constexpr std::uint64_t kHeaders = 4096;           // and page directories
   constexpr std::uint64_t kFirstPiece = 256 * 1024;  // of the list, to see that it holds a station
   const auto readBy = [&](TableCare expected) {
     const std::uint64_t before = files_.BytesRead();

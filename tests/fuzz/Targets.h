@@ -38,10 +38,8 @@ inline constexpr FuzzTarget kFuzzTargets[] = {{"http_response", FuzzHttpResponse
                                               {"station_list", FuzzStationList},
                                               {"table", FuzzTable},
                                               {"what_is_new", FuzzWhatIsNew},
-                                              {"schedule", FuzzSchedule},
                                               {"personal_stations", FuzzPersonalStations},
                                               {"extra_links", FuzzExtraLinks},
-                                              {"groups", FuzzGroups},
                                               {"categories", FuzzCategories},
                                               {"outlines", FuzzOutlines},
                                               {"tool_readers", FuzzToolReaders}};
