@@ -1,6 +1,8 @@
 #include "directory/TableImage.h"
 
 #include <algorithm>
+#include <limits>
+#include <utility>
 
 #include "directory/BlockWriter.h"
 
@@ -109,9 +111,11 @@ TableStatus TableImage::Verify(TableFiles& files) {
     return TableStatus::Damaged;
   }
   std::uint64_t generation = files.indexHeader.fieldCount;
+  std::int64_t last = std::numeric_limits<std::int64_t>::min();
   for (std::uint32_t i = 0; i < image.RecordCount(); ++i) {
     Record record;
     if (image.Get(files, i, record) != TableStatus::Success) return TableStatus::Damaged;
+    if (record.key <= std::exchange(last, record.key)) return TableStatus::Damaged;
     generation = GenerationOf(generation, RecordDigest(record.key, record.text));
   }
   return generation == files.indexHeader.generation ? TableStatus::Success : TableStatus::Damaged;

@@ -1,11 +1,10 @@
-#include <cstring>
 #include <string>
 
 #include "base/DataFolder.h"
 #include "base/Text.h"
 #include "directory/StatList.h"
-#include "directory/VmxFormat.h"
 #include "fakes/FakeFiles.h"
+#include "fakes/ForgedTable.h"
 #include "fuzz/Targets.h"
 #include "mainwindow/Playlist.h"
 
@@ -17,38 +16,44 @@ constexpr const char* kList = "/d/Station.snr";
 // Everything that the program does with a table.
 void UseTable(StatList& stations, std::string_view word) {
   const std::vector<std::int32_t> found = stations.SearchStationIds(word, true);
-  Require(found.size() <= 100, "at most a hundred are found");
-  for (const StationRecord& record : stations.GetStations(found))
-    Require(!record.Empty(), "what is found is there");
+  Require(found.size() <= stations.StationCount(), "no more are found than there are");
+  const bool whole = stations.Verify();
+  const std::size_t there = stations.GetStations(found).size();
+  Require(!whole || there == found.size(), "what is found in a whole table is there");
+  stations.SearchStationIds("a", false);
   for (const std::int32_t id : {1, 7, -3, 2147483647}) {
     const StationRecord record = stations.FindStation(id);
     Require(record.Empty() || record.StationId == id, "the record of its identifier");
   }
-  stations.StationCount();
 }
 
-// The table of three stations, made once.
-const FakeFiles& TableOfThree() {
-  static const FakeFiles* const files = [] {
-    auto* made = new FakeFiles;
-    made->MakeFolder("/d");
-    made->Put(
-        kList,
-        "1\tAmber Radio\tMP3\tNorway\tJazz\tlate night\r\n7\tSeven\tAAC\tJapan\tNews\t\r\n-3\tThird\r\n");
-    DataFolder data(*made, "/d", '/');
-    StatList(data).RebuildStationTable();
-    return made;
+// The files of a table of three stations, and of one whose entries fill more than a page; made once.
+struct TableBytes {
+  std::string data;
+  std::string index;
+};
+
+TableBytes TableOf(std::string_view list) {
+  FakeFiles files;
+  files.Put(kList, list);
+  DataFolder folder(files, "/d", '/');
+  Require(StatList(folder).RebuildStationTable(), "a table of the list");
+  return {files.Get("/d/statorg.isd").value_or(""), files.Get("/d/statorg.ism").value_or("")};
+}
+
+const TableBytes& SmallTable() {
+  static const TableBytes bytes = TableOf(
+      "1\tAmber Radio\tMP3\tNorway\tJazz\tlate night\r\n7\tSeven\tAAC\tJapan\tNews\t\r\n-3\tThird\r\n");
+  return bytes;
+}
+
+const TableBytes& TwoPages() {
+  static const TableBytes bytes = [] {
+    std::string list;
+    for (std::uint32_t id = 1; id <= kPageEntries + 40; ++id) list += std::to_string(id) + "\tAmber\r\n";
+    return TableOf(list);
   }();
-  return *files;
-}
-
-// Puts the header's own checksum right again, so that what it says is looked at.
-template <typename Header>
-void SealAgain(std::string& bytes) {
-  Header header{};
-  if (bytes.size() < sizeof header) return;
-  std::memcpy(&header, bytes.data(), sizeof header);
-  bytes.replace(0, sizeof header, Seal(header));
+  return bytes;
 }
 
 }  // namespace
@@ -72,17 +77,19 @@ void FuzzStationList(std::string_view input) {
   StatList stations(data);
   if (!stations.RebuildStationTable()) return;
   Require(stations.Verify(), "a new table is whole");
+  const TableCare expected = stations.StationCount() > 0 ? TableCare::Sound : TableCare::NoDirectory;
+  Require(stations.EnsureStationTable() == expected, "a new table is that of its list");
   UseTable(stations, input.substr(0, 8));
 }
 
-// Changes to a table's files: three bytes each, the file and the place (15 bits) and the new byte. Damage is
-// noticed or harmless.
+// First a byte: which table, and whether the checksums are left as they are. Then changes to its files, three
+// bytes each: the file and the place (15 bits) and the new byte. Whatever a table says, it is damage that is
+// noticed, or harmless.
 void FuzzTable(std::string_view input) {
-  FakeFiles files;
-  files.MakeFolder("/d");
-  std::string data = TableOfThree().Get("/d/statorg.isd").value_or("");
-  std::string index = TableOfThree().Get("/d/statorg.ism").value_or("");
-  Require(!data.empty() && !index.empty(), "there is a table");
+  if (input.empty()) return;
+  const bool forged = (input[0] & 1) == 0;
+  auto [data, index] = (input[0] & 2) == 0 ? SmallTable() : TwoPages();
+  input.remove_prefix(1);
   for (; input.size() >= 3; input.remove_prefix(3)) {
     const unsigned high = static_cast<unsigned char>(input[0]);
     std::string& file = (high & 0x80) != 0 ? index : data;
@@ -90,14 +97,14 @@ void FuzzTable(std::string_view input) {
     file[place % file.size()] = input[2];
   }
   if (!input.empty()) index.resize(index.size() / 2);  // a rest cuts a file off
-  SealAgain<DataHeader>(data);
-  SealAgain<IndexHeader>(index);
+  if (forged) ResealTable(data, index);
+  FakeFiles files;
   files.Put("/d/statorg.isd", data);
   files.Put("/d/statorg.ism", index);
   DataFolder folder(files, "/d", '/');
   StatList stations(folder);
   UseTable(stations, "amber");
-  stations.Verify();
+  Require(stations.EnsureStationTable() != TableCare::Made, "no table is made of no list");
 }
 
 }  // namespace sonaro
