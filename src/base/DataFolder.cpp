@@ -54,14 +54,16 @@ bool DataFolder::Replace(std::string_view from, std::string_view to) {
 }
 
 bool SaveWholeFile(Files& files, const std::string& path, std::string_view bytes) {
-  const std::string neighbour = path + ".new";
-  std::unique_ptr<OutputFile> file = files.Create(neighbour);
+  const std::string temporary = TemporaryPath(path);
+  std::unique_ptr<OutputFile> file = files.Create(temporary);
   bool saved = file && file->Append(bytes) && file->Commit(Durability::Flushed);
   file.reset();
-  saved = saved && files.Replace(neighbour, path, Durability::Flushed);
-  if (!saved) files.Remove(neighbour);
+  saved = saved && files.Replace(temporary, path, Durability::Flushed);
+  if (!saved) files.Remove(temporary);
   return saved;
 }
+
+std::string TemporaryPath(std::string_view path) { return std::string(path) + ".new"; }
 
 ReadResult ReadWholeFile(Files& files, const std::string& path) {
   const std::unique_ptr<InputFile> file = files.Open(path);

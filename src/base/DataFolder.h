@@ -8,6 +8,8 @@
 #include <set>
 #include <string>
 #include <string_view>
+#include <utility>
+#include <vector>
 
 #include "base/Files.h"
 
@@ -18,6 +20,17 @@ enum class ReadStatus { Ok, Missing, Unreadable };
 struct ReadResult {
   ReadStatus status = ReadStatus::Missing;
   std::string bytes;  // the whole file when status is Ok, otherwise empty
+};
+
+// Something about one of the user's files that he is told once.
+struct FileNote {
+  enum class Kind {
+    Unreadable,  // it could not be read; it is tried again before anything is written
+    KeptBeside   // it was not understood; its bytes are in `beside`
+  };
+  Kind kind = Kind::Unreadable;
+  std::string name;    // "Sched.snr"
+  std::string beside;  // "Sched.snr.bad"
 };
 
 class DataFolder {
@@ -35,24 +48,33 @@ class DataFolder {
   bool Exists(std::string_view name) const;
   // Reads a whole file. A file that exists but could not be read is remembered; see Save.
   ReadResult Read(std::string_view name);
-  // Replaces the file as a whole: writes a neighbour (the name followed by ".new"), flushes it and puts it in
-  // place in one step, so that a crash or a full disk leaves the old file. Refused (false) when the last Read
-  // of this name found the file unreadable: what could not be loaded is not overwritten.
-  bool Save(std::string_view name, std::string_view bytes);
+  // Replaces the file as a whole, as SaveWholeFile does. Refused (false) when the last Read of this name
+  // found the file unreadable: what could not be loaded is not overwritten. What the user made is saved
+  // through UserFile, which also minds what others have written meanwhile.
+  [[nodiscard]] bool Save(std::string_view name, std::string_view bytes);
   bool Remove(std::string_view name);
   // Puts file `from` in the place of `to` in one step (Files::Replace).
-  bool Replace(std::string_view from, std::string_view to);
+  [[nodiscard]] bool Replace(std::string_view from, std::string_view to);
+
+  // What the user has to be told of his files; taken by the window that tells it.
+  void Note(FileNote note) { notes_.push_back(std::move(note)); }
+  std::vector<FileNote> TakeNotes() { return std::exchange(notes_, {}); }
 
  private:
   Files& files_;
   std::string folder_;
   char separator_;
   std::set<std::string> unreadable_;  // folded names
+  std::vector<FileNote> notes_;
 };
 
 // Reads a whole file by its path.
 ReadResult ReadWholeFile(Files& files, const std::string& path);
-// Replaces a file as a whole, as DataFolder::Save does, by its path.
-bool SaveWholeFile(Files& files, const std::string& path, std::string_view bytes);
+// Replaces a file as a whole, by its path: writes a temporary file beside it, flushes it and puts it in place
+// in one step, so that a crash or a full disk leaves the old file. False when that could not be done.
+[[nodiscard]] bool SaveWholeFile(Files& files, const std::string& path, std::string_view bytes);
+// Where a file is written before it is put in place: the same name followed by ".new". The one rule for every
+// temporary file of the program but those of an update, which are announced by the service.
+std::string TemporaryPath(std::string_view path);
 
 }  // namespace sonaro

@@ -46,4 +46,40 @@ void AppendUtf8(std::string& text, char32_t code) {
   put(0x80 | (code & 0x3F));
 }
 
+namespace {
+
+constexpr char32_t kReplacementCharacter = 0xFFFD;
+
+Utf16Text DecodeUtf16(std::string_view bytes, bool bigEndian) {
+  Utf16Text decoded;
+  char32_t high = 0;  // the first half of a character, waiting for its second
+  const auto appendHalf = [&] {
+    AppendUtf8(decoded.text, kReplacementCharacter);
+    decoded.damaged = true;
+  };
+  for (std::size_t i = 0; i + 1 < bytes.size(); i += 2) {
+    const char32_t first = static_cast<unsigned char>(bytes[i]);
+    const char32_t second = static_cast<unsigned char>(bytes[i + 1]);
+    const char32_t unit = bigEndian ? first << 8 | second : second << 8 | first;
+    const bool low = unit >= 0xDC00 && unit <= 0xDFFF;
+    if (high != 0 && low) {
+      AppendUtf8(decoded.text, 0x10000 + ((high - 0xD800) << 10) + (unit - 0xDC00));
+    } else {
+      if (high != 0 || low) appendHalf();
+      if (!low && (unit < 0xD800 || unit > 0xDBFF)) AppendUtf8(decoded.text, unit);
+    }
+    high = unit >= 0xD800 && unit <= 0xDBFF ? unit : 0;
+  }
+  if (high != 0 || bytes.size() % 2 != 0) appendHalf();
+  return decoded;
+}
+
+}  // namespace
+
+std::optional<Utf16Text> DecodeMarkedUtf16(std::string_view bytes) {
+  const bool little = bytes.starts_with(kMarkOfUtf16Little);
+  if (!little && !bytes.starts_with(kMarkOfUtf16Big)) return std::nullopt;
+  return DecodeUtf16(bytes.substr(kMarkOfUtf16Little.size()), !little);
+}
+
 }  // namespace sonaro

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cstring>
 
+#include "base/Utf8.h"
 #include "directory/BlockWriter.h"
 #include "directory/ByteScan.h"
 
@@ -45,9 +46,8 @@ bool LineReader::Fill() {
   failed_ = !file_.ReadAt(position_, buffer_.data() + end_, left);
   if (failed_) return false;
   check_ = ChainedChecksum({buffer_.data() + end_, left}, check_);
-  const bool marked =
-      position_ == 0 && std::string_view(buffer_.data(), left).starts_with(kByteOrderMarkUtf8);
-  if (marked) begin_ = kByteOrderMarkUtf8.size();
+  const bool marked = position_ == 0 && std::string_view(buffer_.data(), left).starts_with(kMarkOfUtf8);
+  if (marked) begin_ = kMarkOfUtf8.size();
   end_ += left;
   position_ += left;
   return true;

@@ -35,6 +35,4 @@ class LineReader {
   bool failed_ = false;
 };
 
-inline constexpr std::string_view kByteOrderMarkUtf8 = "\xEF\xBB\xBF";
-
 }  // namespace sonaro

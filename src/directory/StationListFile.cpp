@@ -9,6 +9,7 @@
 
 #include "base/DataFolder.h"
 #include "base/Numbers.h"
+#include "base/Utf8.h"
 #include "directory/BlockWriter.h"
 #include "directory/ByteScan.h"
 #include "directory/LineReader.h"
@@ -70,7 +71,7 @@ std::string_view LineAt(std::string_view list, std::size_t position) {
 std::vector<Place> PlacesIn(std::string_view list) {
   std::vector<Place> places;
   StationLine station;
-  std::size_t position = list.starts_with(kByteOrderMarkUtf8) ? kByteOrderMarkUtf8.size() : 0;
+  std::size_t position = list.starts_with(kMarkOfUtf8) ? kMarkOfUtf8.size() : 0;
   while (position < list.size()) {
     const std::string_view line = LineAt(list, position);
     if (ParseStationLine(line, station)) {

@@ -3,6 +3,8 @@
 #include <optional>
 #include <string_view>
 
+#include "base/DataFolder.h"
+
 namespace sonaro {
 namespace {
 
@@ -31,10 +33,8 @@ TablePaths TablePaths::Of(const std::string& path) {
 }
 
 TablePaths TablePaths::NeighboursOf(const std::string& path) {
-  TablePaths paths = Of(path);
-  paths.data += kNeighbourExtension;
-  paths.index += kNeighbourExtension;
-  return paths;
+  const TablePaths paths = Of(path);
+  return {TemporaryPath(paths.data), TemporaryPath(paths.index)};
 }
 
 TableStatus OpenTableFiles(Files& files, const std::string& path, TableFiles& opened) {

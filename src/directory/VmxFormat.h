@@ -35,7 +35,6 @@ static_assert(std::endian::native == std::endian::little, "table files are littl
 
 inline constexpr std::string_view kDataExtension = ".isd";
 inline constexpr std::string_view kIndexExtension = ".ism";
-inline constexpr std::string_view kNeighbourExtension = ".new";  // appended to a file that is being written
 
 inline constexpr std::uint32_t kFormatVersion = 2;
 inline constexpr std::uint32_t kByteOrderMark = 0x01020304;

@@ -1,13 +1,13 @@
 #include "mainwindow/Playlist.h"
 
+#include <optional>
+
 #include "base/Text.h"
 #include "base/Utf8.h"
 #include "mainwindow/PlaylistFields.h"
 
 namespace sonaro {
 namespace {
-
-constexpr std::string_view kUtf8Mark = "\xEF\xBB\xBF";
 
 bool IsUtf8(std::string_view text) {
   for (std::size_t at = 0; at < text.size();) {
@@ -19,7 +19,8 @@ bool IsUtf8(std::string_view text) {
 }
 
 std::string Decoded(std::string_view bytes) {
-  if (bytes.starts_with(kUtf8Mark)) bytes.remove_prefix(kUtf8Mark.size());
+  if (const std::optional<Utf16Text> wide = DecodeMarkedUtf16(bytes)) return wide->text;
+  if (bytes.starts_with(kMarkOfUtf8)) bytes.remove_prefix(kMarkOfUtf8.size());
   if (IsUtf8(bytes)) return std::string(bytes);
   std::string text;
   for (const char c : bytes) AppendUtf8(text, static_cast<unsigned char>(c));

@@ -62,13 +62,7 @@ PlaylistEntry PlaylistTransfer::EntryOf(std::string_view token) const {
 
 bool PlaylistTransfer::Save(Playlist playlist, const std::string& path) {
   playlist.format = FormatOfFileName(path);
-  const std::string neighbour = path + ".new";
-  auto file = files_.Create(neighbour);
-  const bool written = file && file->Append(WritePlaylist(playlist)) && file->Commit(Durability::Flushed);
-  file.reset();
-  const bool saved = written && files_.Replace(neighbour, path, Durability::Flushed);
-  if (!saved) files_.Remove(neighbour);
-  return saved;
+  return SaveWholeFile(files_, path, WritePlaylist(playlist));
 }
 
 ImportResult PlaylistTransfer::Read(const std::string& path, Playlist& playlist) {

@@ -83,7 +83,7 @@ bool UpdateInstall::PutInPlace(const std::string& received, bool rebuild) {
     if (!swapped) waiting.append(name).append("\t");
     if (swapped && rebuild && IsStationList(name)) rebuilt = stations_.RebuildStationTable();
   }
-  if (!rebuilt) data_.Replace(kPreviousList, kStationList);
+  if (!rebuilt) static_cast<void>(data_.Replace(kPreviousList, kStationList));  // the outcome is bad already
   if (NamesStationTable(received)) rebuilt = stations_.EnsureStationTable() != TableCare::NotMade && rebuilt;
   reg_.SetSetting(setting::kUpdateHold, waiting);
   return rebuilt;
@@ -107,7 +107,7 @@ bool UpdateInstall::UndoLastUpdate() {
   reg_.SetSetting(setting::kUpdateHold, kStationListOnly);
   const bool swapped = SwapInDownloaded(data_, "Station.snr");
   const bool rebuilt = swapped && stations_.RebuildStationTable();
-  if (swapped && !rebuilt) data_.Save(kStationList, current.bytes);
+  if (swapped && !rebuilt) static_cast<void>(data_.Save(kStationList, current.bytes));  // it failed already
   if (rebuilt) {
     reg_.SetSetting(setting::kLastUpdate, reg_.Setting(setting::kPreviousUpdate));
     data_.Remove(kPreviousList);

@@ -1,4 +1,5 @@
-// The stations played last, most recent first, kept in "\recent.snr". Owned by Application.
+// The stations played last, most recent first, kept in "\recent.snr". Owned by Application. A play that could
+// not be written down is kept in memory and written with the next one; nobody is told.
 #pragma once
 
 #include <functional>
@@ -6,6 +7,8 @@
 #include <string_view>
 #include <utility>
 #include <vector>
+
+#include "base/UserFile.h"
 
 namespace sonaro {
 
@@ -17,15 +20,16 @@ class RecentList {
   // The last slot is never written: the file holds one entry less than memory.
   static constexpr std::size_t kSavedSlots = kSlots - 1;
 
-  explicit RecentList(DataFolder& data) : data_(data) {}
+  explicit RecentList(DataFolder& data) : file_(data, "\\recent.snr") {}
 
-  // Reads the file back.
+  // Reads the file back; what was in memory is forgotten.
   void Load();
+  // True when a file that could not be read before has been read now.
+  bool LoadUnread();
 
   // Puts a station's token ("1204", "P3") in front, moving it there when it is in the list already, and
   // saves. A token that the file could not hold (empty, with blanks or control characters) is ignored.
   void AddRecent(const std::string& token);
-  // Errors are ignored.
   void SaveRecent();
   // Called after every play that was noted, whoever played.
   void SetChanged(std::function<void()> changed) { changed_ = std::move(changed); }
@@ -36,7 +40,10 @@ class RecentList {
   std::string AsText() const;
 
  private:
-  DataFolder& data_;
+  void TakeOver(std::vector<std::string> first);
+
+  UserFile file_;
+  bool unsaved_ = false;  // memory holds plays that the file does not
   std::vector<std::string> tokens_;
   std::function<void()> changed_;
 };

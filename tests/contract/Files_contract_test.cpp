@@ -3,11 +3,14 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <functional>
 
 #include "base/DataFolder.h"
 #include "contract/ScratchFolder.h"
 #include "fakes/FakeFiles.h"
 #ifdef _WIN32
+#include <windows.h>
+
 #include "platform/win/FilesWin.h"
 #else
 #include "platform/posix/FilesPosix.h"
@@ -124,6 +127,49 @@ TYPED_TEST(FilesContract, ReplaceMovesOntoAnyName) {
   EXPECT_FALSE(this->Disk().Replace(this->In("elsewhere"), this->In("folder"), Durability::Cached));
   EXPECT_EQ(this->Content(this->In("elsewhere")), "new");
 }
+
+#ifdef _WIN32
+// A scanner that has the file for a moment is waited for, whatever is to be done with the file; one that
+// keeps it is waited for ten times.
+TEST(FilesWinPatience, EveryOperationWaitsForAFileInUse) {
+  const ScratchFolder scratch;
+  const std::string path = scratch.Path() + "\\mine";
+  HANDLE holder = INVALID_HANDLE_VALUE;
+  int pauses = 0;
+  int heldFor = 0;
+  FilesWin disk([&] {
+    if (++pauses == heldFor) CloseHandle(holder);
+  });
+  const auto write = [&](const std::string& where) {
+    const auto file = disk.Create(where);
+    return file && file->Append("mine") && file->Commit(Durability::Cached);
+  };
+  struct Case {
+    const char* what;
+    std::function<bool()> act;
+  };
+  const Case cases[] = {
+      {"read", [&] { return ReadWholeFile(disk, path).status == ReadStatus::Ok; }},
+      {"write", [&] { return write(path); }},
+      {"replace", [&] { return disk.Replace(path + ".new", path, Durability::Cached); }},
+      {"remove", [&] { return disk.Remove(path); }},
+  };
+  for (const Case& c : cases) {
+    ASSERT_TRUE(write(path) && write(path + ".new"));
+    for (const int shortly : {3, 100}) {
+      pauses = 0;
+      heldFor = shortly;
+      holder = CreateFileA(path.c_str(), GENERIC_READ, 0, nullptr, OPEN_EXISTING, 0, nullptr);
+      ASSERT_NE(holder, INVALID_HANDLE_VALUE);
+      const bool done = shortly == 100 ? !c.act() : c.act();
+      EXPECT_TRUE(done) << c.what << " " << shortly;
+      EXPECT_EQ(pauses, shortly == 100 ? 9 : 3) << c.what;
+      if (shortly == 100) CloseHandle(holder);
+      ASSERT_TRUE(write(path) && write(path + ".new"));
+    }
+  }
+}
+#endif
 
 // Systems differ in whether a file that is being read can be replaced; none may leave half a job.
 TYPED_TEST(FilesContract, ReplacingAFileInUseIsWholeOrNotAtAll) {

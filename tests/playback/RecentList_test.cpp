@@ -62,14 +62,29 @@ TEST_F(RecentListTest, ReadsWhatIsThere) {
   }
 }
 
-TEST_F(RecentListTest, AFileThatCouldNotBeReadIsNotOverwritten) {
+TEST_F(RecentListTest, PlaysOfALockedFileOfAFullDiskAndOfAnotherSessionComeTogether) {
   files_.Put("/d/recent.snr", "1 2 3\r\n");
   files_.Lock("/d/recent.snr");
   recent_.Load();
-  files_.Unlock("/d/recent.snr");
   recent_.AddRecent("9");
   EXPECT_EQ(recent_.AsText(), "9 ");
+  EXPECT_FALSE(recent_.LoadUnread());
+  files_.Unlock("/d/recent.snr");
+  EXPECT_TRUE(recent_.LoadUnread());
+  EXPECT_EQ(recent_.AsText(), "9 1 2 3 ");
+
+  files_.SetSpaceLeft(1);
+  recent_.AddRecent("10");
+  files_.SetSpaceLeft(std::nullopt);
   EXPECT_EQ(File(), "1 2 3\r\n");
+
+  RecentList other(data_);
+  other.Load();
+  other.AddRecent("P4");
+  recent_.AddRecent("11");
+  EXPECT_EQ(File(), "11 10 9 1 2 3 P4\r\n");
+  other.AddRecent("12");
+  EXPECT_EQ(File(), "12 11 10 9 1 2 3 P4\r\n");
 }
 
 }  // namespace

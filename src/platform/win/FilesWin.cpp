@@ -14,6 +14,23 @@ namespace {
 // The most that one call transfers.
 constexpr std::size_t kLargestTransfer = std::size_t{1} << 30;
 
+constexpr int kTries = 10;
+constexpr DWORD kPause = 30;  // milliseconds
+
+// Does `act` until it is true, or fails otherwise than by somebody else's use of the file. Access is denied
+// to a file that is on its way out, too.
+template <typename Act>
+bool WithPatience(const FilesWin::Pause& pause, Act act) {
+  for (int tries = 1; !act(); ++tries) {
+    const DWORD error = GetLastError();
+    const bool inUse =
+        error == ERROR_SHARING_VIOLATION || error == ERROR_LOCK_VIOLATION || error == ERROR_ACCESS_DENIED;
+    if (tries == kTries || !inUse) return false;
+    pause();
+  }
+  return true;
+}
+
 // A position for one transfer of a handle that was opened for waiting calls.
 OVERLAPPED PositionAt(std::uint64_t offset) {
   OVERLAPPED position{};
@@ -24,7 +41,8 @@ OVERLAPPED PositionAt(std::uint64_t offset) {
 
 class InputFileWin : public InputFile {
  public:
-  InputFileWin(FileHandle file, std::uint64_t size) : file_(std::move(file)), size_(size) {}
+  InputFileWin(FileHandle file, std::uint64_t size, FilesWin::Pause pause)
+      : file_(std::move(file)), size_(size), pause_(std::move(pause)) {}
 
   std::uint64_t Size() const override { return size_; }
 
@@ -34,7 +52,9 @@ class InputFileWin : public InputFile {
       OVERLAPPED position = PositionAt(offset);
       DWORD count = 0;
       const auto wanted = static_cast<DWORD>(std::min(length, kLargestTransfer));
-      if (!ReadFile(file_.Get(), buffer, wanted, &count, &position) || count == 0) return false;
+      const bool read =
+          WithPatience(pause_, [&] { return ReadFile(file_.Get(), buffer, wanted, &count, &position) != 0; });
+      if (!read || count == 0) return false;
       buffer += count;
       offset += count;
       length -= count;
@@ -45,6 +65,7 @@ class InputFileWin : public InputFile {
  private:
   FileHandle file_;
   std::uint64_t size_;
+  FilesWin::Pause pause_;
 };
 
 class OutputFileWin : public OutputFile {
@@ -95,41 +116,48 @@ bool IsFolder(const std::string& path) {
   return attributes != INVALID_FILE_ATTRIBUTES && (attributes & FILE_ATTRIBUTE_DIRECTORY) != 0;
 }
 
+// A folder is denied like a file in use; nothing is worth waiting for there.
+FileHandle OpenPatiently(const FilesWin::Pause& pause, const std::string& path, DWORD access, DWORD sharing,
+                         DWORD disposition) {
+  FileHandle file;
+  WithPatience(pause, [&] {
+    file.Reset(
+        CreateFileA(path.c_str(), access, sharing, nullptr, disposition, FILE_ATTRIBUTE_NORMAL, nullptr));
+    if (file) return true;
+    const DWORD error = GetLastError();
+    SetLastError(error == ERROR_ACCESS_DENIED && IsFolder(path) ? ERROR_DIRECTORY : error);
+    return false;
+  });
+  return file;
+}
+
 bool SaysMissing(DWORD error) { return error == ERROR_FILE_NOT_FOUND || error == ERROR_PATH_NOT_FOUND; }
 
 }  // namespace
 
+FilesWin::FilesWin() : FilesWin([] { Sleep(kPause); }) {}
+
 std::unique_ptr<InputFile> FilesWin::Open(const std::string& path) {
-  FileHandle file(CreateFileA(path.c_str(), GENERIC_READ, FILE_SHARE_READ, nullptr, OPEN_EXISTING,
-                              FILE_ATTRIBUTE_NORMAL, nullptr));
+  FileHandle file = OpenPatiently(pause_, path, GENERIC_READ, FILE_SHARE_READ, OPEN_EXISTING);
   LARGE_INTEGER size{};
   if (!file || !GetFileSizeEx(file.Get(), &size)) return nullptr;
-  return std::make_unique<InputFileWin>(std::move(file), static_cast<std::uint64_t>(size.QuadPart));
+  return std::make_unique<InputFileWin>(std::move(file), static_cast<std::uint64_t>(size.QuadPart), pause_);
 }
 
 std::unique_ptr<OutputFile> FilesWin::Create(const std::string& path) {
-  FileHandle file(
-      CreateFileA(path.c_str(), GENERIC_WRITE, 0, nullptr, CREATE_ALWAYS, FILE_ATTRIBUTE_NORMAL, nullptr));
+  FileHandle file = OpenPatiently(pause_, path, GENERIC_WRITE, 0, CREATE_ALWAYS);
   return file ? std::make_unique<OutputFileWin>(std::move(file)) : nullptr;
 }
 
-// A move, not ReplaceFile: that one can fail half-way with the old file already renamed. Whoever has the old
-// file open for a moment, a virus scanner or an indexer, is waited for.
+// A move, not ReplaceFile: that one can fail half-way with the old file already renamed.
 bool FilesWin::Replace(const std::string& from, const std::string& to, Durability durability) {
-  constexpr int kTries = 10;
-  constexpr DWORD kPause = 30;  // milliseconds
   const DWORD flush = durability == Durability::Flushed ? MOVEFILE_WRITE_THROUGH : 0;
-  for (int tries = 1; MoveFileExA(from.c_str(), to.c_str(), MOVEFILE_REPLACE_EXISTING | flush) == 0;
-       ++tries) {
-    const DWORD error = GetLastError();
-    if (tries == kTries || (error != ERROR_SHARING_VIOLATION && error != ERROR_ACCESS_DENIED)) return false;
-    Sleep(kPause);
-  }
-  return true;
+  return WithPatience(
+      pause_, [&] { return MoveFileExA(from.c_str(), to.c_str(), MOVEFILE_REPLACE_EXISTING | flush) != 0; });
 }
 
 bool FilesWin::Remove(const std::string& path) {
-  return DeleteFileA(path.c_str()) || SaysMissing(GetLastError());
+  return WithPatience(pause_, [&] { return DeleteFileA(path.c_str()) != 0 || SaysMissing(GetLastError()); });
 }
 
 // A file that may not even be looked at is there: taking it for missing would let it be overwritten.

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 #include <cstdint>
+#include <optional>
 
 #include "base/Utf8.h"
 
@@ -17,32 +18,6 @@ constexpr std::array<char16_t, 32> kWindows1252 = {
     0x2039, 0x0152, 0xFFFD, 0x017D, 0xFFFD, 0xFFFD, 0x2018, 0x2019, 0x201C, 0x201D, 0x2022,
     0x2013, 0x2014, 0x02DC, 0x2122, 0x0161, 0x203A, 0x0153, 0xFFFD, 0x017E, 0x0178};
 
-std::uint8_t ByteAt(std::string_view text, std::size_t position) {
-  return static_cast<std::uint8_t>(text[position]);
-}
-
-std::string DecodeUtf16(std::string_view bytes, bool bigEndian) {
-  std::string text;
-  char32_t high = 0;
-  for (std::size_t i = 0; i + 1 < bytes.size(); i += 2) {
-    const char32_t first = ByteAt(bytes, i);
-    const char32_t second = ByteAt(bytes, i + 1);
-    const char32_t unit = bigEndian ? first << 8 | second : second << 8 | first;
-    if (unit >= 0xD800 && unit <= 0xDBFF) {
-      high = unit;
-      continue;
-    }
-    const bool low = unit >= 0xDC00 && unit <= 0xDFFF;
-    if (low && high != 0) {
-      AppendUtf8(text, 0x10000 + ((high - 0xD800) << 10) + (unit - 0xDC00));
-    } else {
-      AppendUtf8(text, low ? kReplacementCharacter : unit);
-    }
-    high = 0;
-  }
-  return text;
-}
-
 }  // namespace
 
 char32_t NextCharacter(std::string_view text, std::size_t& position) {
@@ -52,9 +27,8 @@ char32_t NextCharacter(std::string_view text, std::size_t& position) {
 }
 
 std::string DecodeFileText(std::string_view bytes) {
-  if (bytes.starts_with("\xEF\xBB\xBF")) bytes.remove_prefix(3);
-  if (bytes.starts_with("\xFF\xFE")) return DecodeUtf16(bytes.substr(2), false);
-  if (bytes.starts_with("\xFE\xFF")) return DecodeUtf16(bytes.substr(2), true);
+  if (bytes.starts_with(kMarkOfUtf8)) bytes.remove_prefix(kMarkOfUtf8.size());
+  if (const std::optional<Utf16Text> wide = DecodeMarkedUtf16(bytes)) return wide->text;
 
   // One broken character in a UTF-8 list must not garble all the others, so the majority decides.
   std::size_t characters = 0;
