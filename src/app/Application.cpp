@@ -34,7 +34,8 @@ Application::Application(const Platform& platform, const Strings& strings, const
     : platform_(platform),
       strings_(strings),
       data_(platform.files, program.substr(0, program.rfind(kSeparator)), kSeparator),
-      reg_(platform.registry),
+      settings_(platform.registry, platform.files, data_.Path(std::string("\\") + kPortableFile)),
+      reg_(settings_),
       alphabets_(BuiltInAlphabets()),
       stations_(data_),
       personal_(data_),
@@ -49,7 +50,7 @@ Application::Application(const Platform& platform, const Strings& strings, const
       player_(source_, recent_, players_, pages_, strings_),
       scan_(reg_, platform.clock, player_, source_, strings_),
       faceplate_(reg_, data_),
-      options_(reg_, faceplate_, program),
+      options_(reg_, faceplate_, program, settings_.Place() == SettingsPlace::PortableFile),
       shape_(data_),
       context_{strings_, faceplate_, shape_},
       messages_(context_, [this]() -> HelpPages& { return help_; }),
@@ -177,10 +178,22 @@ void Application::FinishedLoading() {
   } else {
     service_->RunPendingWork();
   }
+  SayWhatSettingsLack();
   if (!alphabetRefused_) return;
   messages_.Ask({.key = "AlphabetRefused",
                  .caption = strings_.Load(IDS_APP_TITLE),
                  .text = strings_.Load(IDS_ALPHABET_REFUSED),
+                 .firstButton = strings_.Load(IDS_APP_OK)});
+}
+
+// Asked at the start and every minute: a setting may be written in the middle of anything.
+void Application::SayWhatSettingsLack() {
+  const SettingsFault fault = settings_.TakeFault();
+  if (fault == SettingsFault::None) return;
+  const int text = fault == SettingsFault::FileDamaged ? IDS_SETTINGS_DAMAGED : IDS_SETTINGS_NOT_WRITTEN;
+  messages_.Ask({.key = "SettingsNotWritten",
+                 .caption = strings_.Load(IDS_APP_TITLE),
+                 .text = strings_.Load(text),
                  .firstButton = strings_.Load(IDS_APP_OK)});
 }
 
@@ -205,7 +218,10 @@ TrayActions Application::MakeTrayActions() {
   };
   actions.scheduleItemDue = [this](int slot) { schedule_->AskForNotification(*main_, slot); };
   actions.startUp = [this] { schedule_->StartWatching(); };
-  actions.minute = [this] { schedule_->Minute(); };
+  actions.minute = [this] {
+    schedule_->Minute();
+    SayWhatSettingsLack();
+  };
   actions.clockChanged = [this] {
     if (schedule_) schedule_->Minute();
   };

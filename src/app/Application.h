@@ -10,6 +10,7 @@
 #include "app/CReg.h"
 #include "app/HelpPages.h"
 #include "app/MsgboxFrm.h"
+#include "app/SettingsRegistry.h"
 #include "app/Startup.h"
 #include "base/DataFolder.h"
 #include "directory/Scrambling.h"
@@ -71,6 +72,7 @@ class Application final : private StartupView, private LaunchView {
   void AddStationDialogs(MainWindowCalls& calls);
   void ReadData();
   void FinishedLoading();
+  void SayWhatSettingsLack();
   std::vector<std::string> GroupNames() const;
   void ShowScan();
   void ShowOptions(HWND owner);
@@ -88,6 +90,7 @@ class Application final : private StartupView, private LaunchView {
   const Strings& strings_;
   AppState state_;
   DataFolder data_;
+  SettingsRegistry settings_;
   CReg reg_;
   ScramblingAlphabets alphabets_;
   bool alphabetRefused_ = false;

@@ -11,7 +11,8 @@
 
 namespace sonaro {
 
-// The program's own keys under HKEY_LOCAL_MACHINE.
+// The program's own keys under HKEY_LOCAL_MACHINE, as everybody names them; where they really live
+// SettingsRegistry decides.
 inline constexpr const char* kSettingsKey = "SOFTWARE\\zumo\\Sonaro";
 inline constexpr const char* kAdsKey = "SOFTWARE\\zumo\\Sonaro\\ads";
 
@@ -40,6 +41,7 @@ class CReg {
   void SetSetting(const std::string& valueName, std::string_view data);
 
  private:
+  friend class SettingsBatch;
   Registry& registry_;
   RootKey mainKey_ = RootKey::LocalMachine;
 };
@@ -55,6 +57,18 @@ class MainKeyScope {
  private:
   CReg& reg_;
   RootKey saved_;
+};
+
+// For the length of a block that writes many settings: they are brought to the disk together at its end.
+class SettingsBatch {
+ public:
+  explicit SettingsBatch(CReg& reg) : registry_(reg.registry_) { registry_.BeginWrites(); }
+  ~SettingsBatch() { registry_.EndWrites(); }
+  SettingsBatch(const SettingsBatch&) = delete;
+  SettingsBatch& operator=(const SettingsBatch&) = delete;
+
+ private:
+  Registry& registry_;
 };
 
 }  // namespace sonaro

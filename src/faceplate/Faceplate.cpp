@@ -36,6 +36,7 @@ void Faceplate::Load() {
 void Faceplate::Choose(BuiltInFaceplate faceplate) {
   name_ = kBuiltInNames[static_cast<std::size_t>(faceplate)];
   const BaseColors base = BuiltInColors(faceplate);
+  const SettingsBatch batch(settings_);
   settings_.SetSetting(setting::kFacePlateName, name_);
   for (const ColorSetting& setting : ColorSettings())
     settings_.SetSetting(setting.name, FormatColor(base.*setting.member));

@@ -74,6 +74,7 @@ std::optional<std::string_view> ValueBehind(std::string_view line, std::string_v
 }  // namespace
 
 void WriteServiceDefaults(CReg& reg) {
+  const SettingsBatch batch(reg);
   for (const Row& row : kRows) {
     if (row.fallback.empty() || !reg.Setting(row.setting).empty()) continue;
     reg.SetSetting(row.setting, DefaultOf(row));

@@ -90,6 +90,7 @@ bool UpdateInstall::PutInPlace(const std::string& received, bool rebuild) {
 }
 
 void UpdateInstall::StoreValues(const UpdateContents& contents) {
+  const SettingsBatch batch(reg_);
   for (const ServiceValue& value : contents.values) {
     reg_.CheckKeyIsThere(value.key);
     const MainKeyScope scope(reg_, RootKey::LocalMachine);

@@ -23,6 +23,8 @@ class Registry {
  public:
   virtual ~Registry() = default;
   virtual bool KeyExists(RootKey root, const std::string& key) = 0;
+  // True when the key is there and its values may be written.
+  virtual bool CanWrite(RootKey root, const std::string& key) = 0;
   // Creates the key and its parents; true when it is there afterwards.
   virtual bool CreateKey(RootKey root, const std::string& key) = 0;
   // The stored bytes, exactly: a terminating zero only when one was stored. The empty value name is the key's
@@ -33,6 +35,10 @@ class Registry {
   virtual bool WriteValue(RootKey root, const std::string& key, const std::string& name, ValueType type,
                           std::string_view bytes) = 0;
   virtual bool RemoveValue(RootKey root, const std::string& key, const std::string& name) = 0;
+  // Brackets around many writes, which may be nested: where values are kept in a file it is saved once, at
+  // the outer end.
+  virtual void BeginWrites() {}
+  virtual void EndWrites() {}
 };
 
 }  // namespace sonaro

@@ -54,6 +54,7 @@ Options OptionsModel::Read() const {
 }
 
 StoreOutcome OptionsModel::Store(Options wanted) {
+  const SettingsBatch batch(reg_);
   const Options before = Read();
   if (!wanted.useProxy) {
     wanted.proxy = before.proxy;
@@ -81,6 +82,7 @@ void OptionsModel::StoreYesNo(const char* name, bool before, bool wanted, const 
 }
 
 bool OptionsModel::StartsWithWindows() const {
+  if (portable_) return false;  // what stands there starts another Sonaro
   for (const RootKey root : {RootKey::LocalMachine, RootKey::CurrentUser}) {
     const MainKeyScope scope(reg_, root);
     if (!reg_.GetData(systemkey::kRun, systemkey::kRunValue).empty()) return true;
@@ -88,17 +90,22 @@ bool OptionsModel::StartsWithWindows() const {
   return false;
 }
 
+// A user who may not write the machine's list is started from his own.
 void OptionsModel::StoreStart(bool withWindows) {
+  if (portable_) return;
   {
     const MainKeyScope user(reg_, RootKey::CurrentUser);
     reg_.DeleteValue(systemkey::kRun, systemkey::kRunValue);
   }
-  const MainKeyScope machine(reg_, RootKey::LocalMachine);
-  if (withWindows) {
+  for (const RootKey root : {RootKey::LocalMachine, RootKey::CurrentUser}) {
+    const MainKeyScope scope(reg_, root);
+    if (!withWindows) {
+      reg_.DeleteValue(systemkey::kRun, systemkey::kRunValue);
+      continue;
+    }
     reg_.CheckKeyIsThere(systemkey::kRun);
     reg_.SetData(systemkey::kRun, systemkey::kRunValue, program_ + kHiddenStart);
-  } else {
-    reg_.DeleteValue(systemkey::kRun, systemkey::kRunValue);
+    if (!reg_.GetData(systemkey::kRun, systemkey::kRunValue).empty()) return;
   }
 }
 

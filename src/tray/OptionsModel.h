@@ -40,8 +40,11 @@ enum class StoreOutcome {
 class OptionsModel {
  public:
   // `program`: full path of the executable, which Windows is to start.
-  OptionsModel(CReg& reg, Faceplate& faceplate, std::string program)
-      : reg_(reg), faceplate_(faceplate), program_(std::move(program)) {}
+  // `portable`: the program writes nothing outside its folder, and so cannot be started by Windows.
+  OptionsModel(CReg& reg, Faceplate& faceplate, std::string program, bool portable = false)
+      : reg_(reg), faceplate_(faceplate), program_(std::move(program)), portable_(portable) {}
+
+  bool CanStartWithWindows() const { return !portable_; }
 
   // As they are now. A port that was never set reads as the usual one.
   Options Read() const;
@@ -61,6 +64,7 @@ class OptionsModel {
   CReg& reg_;
   Faceplate& faceplate_;
   const std::string program_;
+  const bool portable_;
   bool trying_ = false;
 };
 

@@ -42,6 +42,10 @@ void frmOptions::OnLoad() {
                                      std::pair(IDS_OPTIONS_CLOSE_TRAY, AfterClose::KeepInTray),
                                      std::pair(IDS_OPTIONS_CLOSE_EXIT, AfterClose::Exit)})
     AddItem(cmbAfterClose, LoadText(text), static_cast<int>(choice));
+  if (!model_.CanStartWithWindows()) {
+    Enable(chkStartWindows, false);
+    SetText(chkStartWindows, LoadText(IDS_OPTIONS_NO_START));
+  }
   options_ = model_.Read();
   Fill(options_);
 }

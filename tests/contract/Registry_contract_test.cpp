@@ -1,5 +1,7 @@
 #include <gtest/gtest.h>
 
+#include "app/SettingsRegistry.h"
+#include "fakes/FakeFiles.h"
 #include "fakes/FakeRegistry.h"
 #ifdef _WIN32
 #include <windows.h>
@@ -13,11 +15,22 @@ namespace {
 constexpr const char* kTestKey = "SOFTWARE\\zumo\\SonaroContract";
 
 struct RegistryInMemory {
+  static constexpr const char* kKey = kTestKey;
   FakeRegistry registry;
+};
+
+// The program's own key in the portable file.
+struct RegistryInFile {
+  static constexpr const char* kKey = "SOFTWARE\\zumo\\Sonaro\\contract";
+  RegistryInFile() { files.Put("/d/portable.ini", ""); }
+  FakeRegistry system;
+  FakeFiles files;
+  SettingsRegistry registry{system, files, "/d/portable.ini"};
 };
 
 #ifdef _WIN32
 struct RegistryOnMachine {
+  static constexpr const char* kKey = kTestKey;
   RegistryOnMachine() { Clear(); }
   ~RegistryOnMachine() { Clear(); }
   static void Clear() {
@@ -26,19 +39,20 @@ struct RegistryOnMachine {
   }
   RegistryWin registry;
 };
-using RegistryWorlds = testing::Types<RegistryInMemory, RegistryOnMachine>;
+using RegistryWorlds = testing::Types<RegistryInMemory, RegistryInFile, RegistryOnMachine>;
 #else
-using RegistryWorlds = testing::Types<RegistryInMemory>;
+using RegistryWorlds = testing::Types<RegistryInMemory, RegistryInFile>;
 #endif
 
 template <typename World>
 class RegistryContract : public testing::Test {
  protected:
-  std::optional<std::string> Read(const std::string& name) { return Reg().ReadValue(kRoot, kTestKey, name); }
+  std::optional<std::string> Read(const std::string& name) { return Reg().ReadValue(kRoot, TestKey(), name); }
   bool Write(const std::string& name, std::string_view bytes, ValueType type = ValueType::Text) {
-    return Reg().WriteValue(kRoot, kTestKey, name, type, bytes);
+    return Reg().WriteValue(kRoot, TestKey(), name, type, bytes);
   }
   Registry& Reg() { return world_.registry; }
+  static std::string TestKey() { return World::kKey; }
 
   static constexpr RootKey kRoot = RootKey::LocalMachine;
   World world_;
@@ -49,20 +63,22 @@ TYPED_TEST_SUITE(RegistryContract, RegistryWorlds);
 TYPED_TEST(RegistryContract, NothingIsThereAndNothingIsMadeByLooking) {
   EXPECT_FALSE(this->Read("Value"));
   EXPECT_FALSE(this->Write("Value", "x"));
-  EXPECT_FALSE(this->Reg().RemoveValue(this->kRoot, kTestKey, "Value"));
-  EXPECT_FALSE(this->Reg().KeyExists(this->kRoot, kTestKey));
+  EXPECT_FALSE(this->Reg().RemoveValue(this->kRoot, this->TestKey(), "Value"));
+  EXPECT_FALSE(this->Reg().KeyExists(this->kRoot, this->TestKey()));
 }
 
 TYPED_TEST(RegistryContract, KeysAreMadeWithTheirParentsInTheirOwnRoot) {
-  const std::string deep = std::string(kTestKey) + "\\a\\b";
+  const std::string deep = this->TestKey() + "\\a\\b";
   EXPECT_TRUE(this->Reg().CreateKey(this->kRoot, deep));
   EXPECT_TRUE(this->Reg().CreateKey(this->kRoot, deep));
-  EXPECT_TRUE(this->Reg().KeyExists(this->kRoot, "software\\ZUMO\\sonarocontract\\A"));
-  EXPECT_FALSE(this->Reg().KeyExists(RootKey::CurrentUser, kTestKey));
+  EXPECT_TRUE(this->Reg().CanWrite(this->kRoot, deep));
+  EXPECT_FALSE(this->Reg().CanWrite(this->kRoot, deep + "\\c"));
+  EXPECT_TRUE(this->Reg().KeyExists(this->kRoot, FoldCase(this->TestKey()) + "\\A"));
+  EXPECT_FALSE(this->Reg().KeyExists(RootKey::CurrentUser, this->TestKey()));
 }
 
 TYPED_TEST(RegistryContract, StoresExactlyTheBytes) {
-  ASSERT_TRUE(this->Reg().CreateKey(this->kRoot, kTestKey));
+  ASSERT_TRUE(this->Reg().CreateKey(this->kRoot, this->TestKey()));
   const std::string texts[] = {"abc",          "",         std::string("abc\0", 4),
                                "\u00E9\u96FB", "a\tb\r\n", std::string(10000, 'x')};
   for (const std::string& text : texts) {
@@ -75,16 +91,16 @@ TYPED_TEST(RegistryContract, StoresExactlyTheBytes) {
 }
 
 TYPED_TEST(RegistryContract, NamesIgnoreLetterCaseAndTheEmptyNameIsTheDefaultValue) {
-  ASSERT_TRUE(this->Reg().CreateKey(this->kRoot, kTestKey));
+  ASSERT_TRUE(this->Reg().CreateKey(this->kRoot, this->TestKey()));
   EXPECT_FALSE(this->Read(""));
   EXPECT_TRUE(this->Write("", "default"));
   EXPECT_TRUE(this->Write("Value", "one"));
   EXPECT_TRUE(this->Write("VALUE", "two"));
   EXPECT_EQ(this->Read(""), "default");
   EXPECT_EQ(this->Read("value"), "two");
-  EXPECT_TRUE(this->Reg().RemoveValue(this->kRoot, kTestKey, "vALUE"));
+  EXPECT_TRUE(this->Reg().RemoveValue(this->kRoot, this->TestKey(), "vALUE"));
   EXPECT_FALSE(this->Read("Value"));
-  EXPECT_FALSE(this->Reg().RemoveValue(this->kRoot, kTestKey, "Value"));
+  EXPECT_FALSE(this->Reg().RemoveValue(this->kRoot, this->TestKey(), "Value"));
   EXPECT_EQ(this->Read(""), "default");
 }
 

@@ -29,7 +29,8 @@ class FakeRegistry : public Registry {
 
   bool readsDenied = false;
   bool writesDenied = false;
-  std::vector<Write> writes;  // every successful WriteValue, in order
+  std::set<RootKey> deniedRoots;  // below which nothing may be written
+  std::vector<Write> writes;      // every successful WriteValue, in order
 
   // Creates the key as needed; not a logged write.
   void Put(RootKey root, const std::string& key, const std::string& name, std::string_view text) {
@@ -46,8 +47,11 @@ class FakeRegistry : public Registry {
   bool KeyExists(RootKey root, const std::string& key) override {
     return !readsDenied && keys_.contains(Id(root, key));
   }
+  bool CanWrite(RootKey root, const std::string& key) override {
+    return !Denied(root) && keys_.contains(Id(root, key));
+  }
   bool CreateKey(RootKey root, const std::string& key) override {
-    if (!writesDenied) AddKeys(root, key);
+    if (!Denied(root)) AddKeys(root, key);
     return KeyExists(root, key);
   }
   std::optional<std::string> ReadValue(RootKey root, const std::string& key,
@@ -57,17 +61,18 @@ class FakeRegistry : public Registry {
   }
   bool WriteValue(RootKey root, const std::string& key, const std::string& name, ValueType type,
                   std::string_view bytes) override {
-    if (writesDenied || !keys_.contains(Id(root, key))) return false;
+    if (Denied(root) || !keys_.contains(Id(root, key))) return false;
     values_[Id(root, key)][FoldCase(name)] = {type, std::string(bytes)};
     writes.push_back({root, key, name, {type, std::string(bytes)}});
     return true;
   }
   bool RemoveValue(RootKey root, const std::string& key, const std::string& name) override {
     const auto names = values_.find(Id(root, key));
-    return !writesDenied && names != values_.end() && names->second.erase(FoldCase(name)) == 1;
+    return !Denied(root) && names != values_.end() && names->second.erase(FoldCase(name)) == 1;
   }
 
  private:
+  bool Denied(RootKey root) const { return writesDenied || deniedRoots.contains(root); }
   using KeyId = std::pair<RootKey, std::string>;
   static KeyId Id(RootKey root, const std::string& key) { return {root, FoldCase(key)}; }
 

@@ -165,6 +165,22 @@ TEST_F(OptionsTest, StartingWithWindowsIsOneValueForTheMachine) {
   EXPECT_EQ(reg_.MainKey(), RootKey::LocalMachine);
 }
 
+TEST_F(OptionsTest, WithoutTheMachinesListTheUsersOwnStartsIt) {
+  registry_.deniedRoots = {RootKey::LocalMachine};
+  Options wanted = model_.Read();
+  wanted.startWithWindows = true;
+  EXPECT_EQ(model_.Store(wanted), StoreOutcome::Stored);
+  EXPECT_EQ(RunValue(RootKey::CurrentUser), "C:\\Guide of mine\\Sonaro.exe WinStart=Yes");
+  // A portable folder's program neither sees that one nor touches it.
+  OptionsModel portable(reg_, faceplate_, kProgram, true);
+  EXPECT_FALSE(portable.CanStartWithWindows());
+  EXPECT_FALSE(portable.Read().startWithWindows);
+  EXPECT_EQ(portable.Store(wanted), StoreOutcome::Refused);
+  EXPECT_NE(RunValue(RootKey::CurrentUser), "(none)");
+  EXPECT_EQ(StoreWith([](Options& o) { o.startWithWindows = false; }), StoreOutcome::Stored);
+  EXPECT_EQ(RunValue(RootKey::CurrentUser), "(none)");
+}
+
 TEST_F(OptionsTest, WhatTheSystemRefusesIsNoticed) {
   registry_.writesDenied = true;
   EXPECT_EQ(StoreWith([](Options&) {}), StoreOutcome::Stored);

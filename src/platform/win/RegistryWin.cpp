@@ -24,6 +24,10 @@ bool RegistryWin::KeyExists(RootKey root, const std::string& key) {
   return static_cast<bool>(OpenKey(root, key, KEY_QUERY_VALUE));
 }
 
+bool RegistryWin::CanWrite(RootKey root, const std::string& key) {
+  return static_cast<bool>(OpenKey(root, key, kAllSpecificRights));
+}
+
 bool RegistryWin::CreateKey(RootKey root, const std::string& key) {
   RegistryKey created;
   return RegCreateKeyA(Root(root), key.c_str(), created.Receive()) == ERROR_SUCCESS;

@@ -8,6 +8,7 @@ namespace sonaro {
 class RegistryWin : public Registry {
  public:
   bool KeyExists(RootKey root, const std::string& key) override;
+  bool CanWrite(RootKey root, const std::string& key) override;
   bool CreateKey(RootKey root, const std::string& key) override;
   std::optional<std::string> ReadValue(RootKey root, const std::string& key,
                                        const std::string& name) override;

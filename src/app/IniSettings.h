@@ -1,0 +1,87 @@
+// The settings of a portable folder: named texts under key names, kept in one INI file. The file is the user's: it may be
+// read and changed with an editor, and is saved as a whole, so that a crash leaves the old one or the new one. Owned by
+// SettingsRegistry; knows neither registry nor setting names.
+//
+//   [Sonaro]             a key; below it its values. A name or text may hold any byte: \\ \t \r \n, and \x20 for one byte
+//   ScanTime=30          in hexadecimal (blanks at the ends, control characters). A backslash before anything else
+//   [Sonaro\\ads]        stands for itself. "@" names a key's default value. Lines after ";" are for the reader.
+#pragma once
+
+#include <map>
+#include <optional>
+#include <string>
+#include <string_view>
+
+#include "base/Files.h"
+
+namespace sonaro {
+
+class IniSettings {
+ public:
+  enum class Condition {
+    Whole,       // also a file without a value, and one that is not there
+    Damaged,     // something in it could not be understood; it was kept beside as FILE.bad
+    Unreadable,  // there, and not to be read now; it is tried again before the first save
+    NotSaved     // the last change is not on disk; the next one tries again
+  };
+
+  // Reads `path`. A file that holds no text, as one that was just unpacked, takes over the values of FILE.old, and so does
+  // a damaged one for what it lacks.
+  IniSettings(Files& files, std::string path);
+  // Leaves a copy as FILE.old.
+  ~IniSettings();
+  IniSettings(const IniSettings&) = delete;
+  IniSettings& operator=(const IniSettings&) = delete;
+
+  Condition State() const { return condition_; }
+
+  // Key and value names ignore letter case.
+  bool HasKey(std::string_view key) const { return Find(key) != nullptr; }
+  bool AddKey(std::string_view key);
+  std::optional<std::string> Read(std::string_view key, std::string_view name) const;
+  // False when the key is missing or the file could not be saved. Nothing is saved when nothing changes.
+  bool Write(std::string_view key, std::string_view name, std::string_view bytes);
+  bool Remove(std::string_view key, std::string_view name);
+
+  // Between the two, which may be nested, changes are kept in memory; the outer End saves once.
+  void Begin() { ++holds_; }
+  void End();
+
+ private:
+  struct Value {
+    std::string name;
+    std::string bytes;
+  };
+  struct Key {
+    std::string name;
+    std::map<std::string, Value> values;  // by folded name
+  };
+  using Keys = std::map<std::string, Key>;  // by folded name
+
+  struct Parsed {
+    Keys keys;
+    bool damaged = false;
+  };
+
+  static Parsed Parse(std::string_view text);
+  static bool ParseLine(std::string_view line, Keys& keys, Key*& current);
+  static std::string TextOf(const Keys& keys);
+  static void Merge(Keys& keys, const Keys& over);
+  static Key& Make(Keys& keys, std::string_view name);
+  static bool HoldsText(const Keys& keys);
+  const Key* Find(std::string_view key) const;
+  bool Load();
+  bool Changed();
+  bool Save();
+  void KeepOld();
+
+  Files& files_;
+  const std::string path_;
+  Keys keys_;
+  Condition condition_ = Condition::Whole;
+  bool loaded_ = false;
+  bool changed_ = false;
+  int holds_ = 0;
+};
+
+}  // namespace sonaro
