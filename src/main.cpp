@@ -32,6 +32,9 @@ std::string ProgramPath() {
 }  // namespace
 
 int WINAPI WinMain(HINSTANCE, HINSTANCE, LPSTR commandLine, int) {
+  // First of all: what the system loads for us later is never taken from the program's folder or the current
+  // one.
+  SetDefaultDllDirectories(LOAD_LIBRARY_SEARCH_SYSTEM32);
   const INITCOMMONCONTROLSEX classes = {
       sizeof classes, ICC_STANDARD_CLASSES | ICC_LISTVIEW_CLASSES | ICC_TREEVIEW_CLASSES | ICC_DATE_CLASSES};
   InitCommonControlsEx(&classes);

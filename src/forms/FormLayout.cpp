@@ -7,6 +7,7 @@
 #include "forms/Dpi.h"
 #include "forms/FormParts.h"
 #include "forms/WindowShape.h"
+#include "platform/SystemFunction.h"
 
 namespace sonaro {
 namespace {
@@ -19,7 +20,9 @@ void RenewBrush(HBRUSH& brush, Color color) {
 // A themed calendar ignores colours. The title's ground is also that of the chosen day, on which the month's
 // ground is the text, and the colour of the weekdays.
 void ColourCalendar(HWND calendar, const FaceplateColors& colors) {
-  SetWindowTheme(calendar, L"", L"");
+  static const auto setTheme =
+      reinterpret_cast<decltype(&SetWindowTheme)>(SystemFunction(L"uxtheme.dll", "SetWindowTheme"));
+  if (setTheme) setTheme(calendar, L"", L"");
   MonthCal_SetColor(calendar, MCSC_BACKGROUND, ToColorRef(colors.glass));
   MonthCal_SetColor(calendar, MCSC_MONTHBK, ToColorRef(colors.glass));
   MonthCal_SetColor(calendar, MCSC_TEXT, ToColorRef(colors.glassText));

@@ -35,7 +35,7 @@ void BlendBitmap::Draw(HDC dc, int x, int y) const {
   const HDC source = CreateCompatibleDC(dc);
   const HGDIOBJ before = SelectObject(source, bitmap_);
   const BLENDFUNCTION blend = {AC_SRC_OVER, 0, 255, AC_SRC_ALPHA};
-  AlphaBlend(dc, x, y, width_, height_, source, 0, 0, width_, height_, blend);
+  GdiAlphaBlend(dc, x, y, width_, height_, source, 0, 0, width_, height_, blend);
   SelectObject(source, before);
   DeleteDC(source);
 }

@@ -126,7 +126,7 @@ void Painter::Gradient(HDC dc, const RECT& box, Color top, Color bottom) const {
   };
   TRIVERTEX corners[] = {corner(box.left, box.top, top), corner(box.right, box.bottom, bottom)};
   GRADIENT_RECT whole = {0, 1};
-  GradientFill(dc, corners, 2, &whole, 1, GRADIENT_FILL_RECT_V);
+  GdiGradientFill(dc, corners, 2, &whole, 1, GRADIENT_FILL_RECT_V);
 }
 
 void Painter::Frame(HDC dc, const RECT& box, Color color, int width) const {

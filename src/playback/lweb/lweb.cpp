@@ -10,6 +10,7 @@
 #include "playback/WebAddress.h"
 
 int WINAPI WinMain(HINSTANCE, HINSTANCE, LPSTR commandLine, int) {
+  SetDefaultDllDirectories(LOAD_LIBRARY_SEARCH_SYSTEM32);  // nothing out of the program's folder
   constexpr INT_PTR kLastFailureCode = 32;
   const std::string address(sonaro::TrimBlanks(commandLine));
   if (!sonaro::IsWebAddress(address)) return 1;
