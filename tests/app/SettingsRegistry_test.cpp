@@ -171,7 +171,7 @@ TEST_F(SettingsRegistryTest, ABatchIsOneSaveAndACrashLeavesTheOldOrTheNewSetting
     {
       const SettingsBatch outer(reg);
       const SettingsBatch inner(reg);
-      for (int i = 0; i < 1000; ++i) reg.SetSetting("V" + std::to_string(i), "x");
+      for (int i = 0; i < 100; ++i) reg.SetSetting("V" + std::to_string(i), "x");
       reg.SetSetting("A", "new");
       reg.SetSetting("B", "new");
     }
@@ -185,7 +185,7 @@ TEST_F(SettingsRegistryTest, ABatchIsOneSaveAndACrashLeavesTheOldOrTheNewSetting
     const auto a = settings.ReadValue(kMachine, kSettingsKey, "A");
     EXPECT_TRUE(a == "old" || a == "new");
     EXPECT_EQ(settings.ReadValue(kMachine, kSettingsKey, "B"), a);
-    EXPECT_EQ(settings.ReadValue(kMachine, kSettingsKey, "V999").has_value(), a == "new");
+    EXPECT_EQ(settings.ReadValue(kMachine, kSettingsKey, "V99").has_value(), a == "new");
     EXPECT_NE(settings.TakeFault(), SettingsFault::FileDamaged);
   });
   EXPECT_GE(operations, 8);
