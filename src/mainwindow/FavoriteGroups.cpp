@@ -1,6 +1,7 @@
 #include "mainwindow/FavoriteGroups.h"
 
 #include <algorithm>
+#include <unordered_set>
 
 #include "base/DataFolder.h"
 #include "base/Text.h"
@@ -127,13 +128,26 @@ FavoriteChange FavoriteGroups::AddStation(std::size_t group, std::string_view to
 }
 
 FavoriteChange FavoriteGroups::AddStations(std::size_t group, const std::vector<std::string>& tokens) {
+  if (group >= Count()) return FavoriteChange::Nothing;
+  const auto members = Tokens(group);
+  std::unordered_set<std::string> known;
+  for (const std::string_view member : members) known.emplace(member);
   bool changed = false;
-  for (const std::string& token : tokens) changed = Append(group, token) || changed;
+  for (const std::string& token : tokens) {
+    if (token.empty() || !known.insert(token).second) continue;
+    AppendToken(group, token);
+    changed = true;
+  }
   return changed ? SaveFavoriteGroups() : FavoriteChange::Nothing;
 }
 
 bool FavoriteGroups::Append(std::size_t group, std::string_view token) {
   if (group >= Count() || token.empty() || Contains(group, token)) return false;
+  AppendToken(group, token);
+  return true;
+}
+
+void FavoriteGroups::AppendToken(std::size_t group, std::string_view token) {
   std::string& text = groups_[group];
   if (TrimBlanks(Members(group)).empty()) {
     text.resize(text.find('\t') + 1);
@@ -142,7 +156,6 @@ bool FavoriteGroups::Append(std::size_t group, std::string_view token) {
   }
   text += token;
   text += ' ';
-  return true;
 }
 
 FavoriteChange FavoriteGroups::RemoveStation(std::size_t group, std::string_view token) {

@@ -61,6 +61,7 @@ class FavoriteGroups {
  private:
   std::string FileText() const;
   bool Append(std::size_t group, std::string_view token);
+  void AppendToken(std::size_t group, std::string_view token);
 
   DataFolder& data_;
   std::vector<std::string> groups_;  // name, tab, members

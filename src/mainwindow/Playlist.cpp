@@ -1,10 +1,12 @@
 #include "mainwindow/Playlist.h"
 
+#include <algorithm>
 #include <optional>
 
 #include "base/Text.h"
 #include "base/Utf8.h"
 #include "mainwindow/PlaylistFields.h"
+#include "playback/FieldText.h"
 
 namespace sonaro {
 namespace {
@@ -16,6 +18,19 @@ bool IsUtf8(std::string_view text) {
     at += length;
   }
   return true;
+}
+
+// Bytes that are no UTF-8 become the Latin-1 characters that they stand for, so that the rest stays what it
+// is.
+std::string Repaired(std::string_view text) {
+  std::string out;
+  while (!text.empty()) {
+    const std::size_t length = DecodeUtf8(text, 0).length;
+    if (length == 0) AppendUtf8(out, static_cast<unsigned char>(text[0]));
+    out += text.substr(0, length);
+    text.remove_prefix(std::max<std::size_t>(length, 1));
+  }
+  return out;
 }
 
 std::string Decoded(std::string_view bytes) {
@@ -68,10 +83,13 @@ Playlist ReadPlaylist(std::string_view bytes) {
     case PlaylistFormat::NotAPlaylist:
       break;
   }
+  playlist.title = CleanField(playlist.title, PersonalStation::kMaxName);
   return playlist;
 }
 
-std::string WritePlaylist(const Playlist& playlist) {
+namespace {
+
+std::string Written(const Playlist& playlist) {
   switch (playlist.format) {
     case PlaylistFormat::M3u:
       return WriteM3u(playlist);
@@ -84,6 +102,10 @@ std::string WritePlaylist(const Playlist& playlist) {
   }
   return {};
 }
+
+}  // namespace
+
+std::string WritePlaylist(const Playlist& playlist) { return Repaired(Written(playlist)); }
 
 PlaylistFormat FormatOfFileName(std::string_view name) {
   if (EndsWithIgnoringCase(name, ".pls")) return PlaylistFormat::Pls;

@@ -3,7 +3,8 @@
 #include <array>
 #include <utility>
 
-#include "base/Text.h"
+#include "playback/FieldText.h"
+#include "playback/OwnLink.h"
 #include "playback/PlayLink.h"
 
 namespace sonaro {
@@ -17,13 +18,6 @@ constexpr std::string_view kStation = "station";
 
 std::string LinkTextOf(std::string_view address) {
   return PlayLink{PlayWay::AsxProgram, std::string(address)}.ToText();
-}
-
-std::string CleanName(std::string name) {
-  for (char& c : name) {
-    if (static_cast<unsigned char>(c) < ' ' || c == '\x7F') c = ' ';
-  }
-  return std::string(TrimBlanks(name));
 }
 
 bool HasSomethingToPlay(const PlaylistEntry& entry) {
@@ -55,7 +49,7 @@ void ForEachPlaylistField(const PlaylistEntry& entry,
 void SetPlaylistField(PlaylistEntry& entry, std::string_view name, std::string_view value) {
   PersonalStation& station = entry.station;
   for (std::size_t i = 0; i < kLinkNames.size(); ++i) {
-    if (name == kLinkNames[i] && IsPlayerAddress(PlayLink::FromText(value).address)) station.links[i] = value;
+    if (name == kLinkNames[i]) station.links[i] = OwnLinkText(value).value_or("");
   }
   if (name == kSite) station.webSite = value;
   if (name == kType) station.type = value;
@@ -68,14 +62,13 @@ std::string AddressOf(const PlaylistEntry& entry) {
 }
 
 void TakeAddress(PlaylistEntry& entry, std::string_view address) {
-  const std::string_view clean = TrimBlanks(address);
   if (!entry.station.links[0].empty()) return;
-  if (clean.find("://") == std::string_view::npos || !IsPlayerAddress(clean)) return;
-  entry.station.links[0] = LinkTextOf(clean);
+  if (const auto own = OwnAddress(address)) entry.station.links[0] = LinkTextOf(*own);
 }
 
 void AddEntry(Playlist& playlist, PlaylistEntry entry) {
-  entry.station.name = CleanName(entry.station.name);
+  entry.station = Cleaned(entry.station);
+  entry.stationId = CleanField(entry.stationId, PersonalStation::kMaxName);
   if (entry.station.name.empty() || !HasSomethingToPlay(entry) ||
       playlist.entries.size() >= Playlist::kMostEntries) {
     ++playlist.skipped;

@@ -18,9 +18,14 @@ void SetPlaylistField(PlaylistEntry& entry, std::string_view name, std::string_v
 
 // What other programs are given as the entry's address: that of its first link; "" when it has none.
 std::string AddressOf(const PlaylistEntry& entry);
-// Takes an address out of a file as the first link, unless a field has set that already. Addresses without a
-// scheme, or that could not be handed to a player, are not taken.
+// Takes an address out of a file as the first link, unless a field has set that already. Only what an
+// own link may be (OwnLink.h) is taken.
 void TakeAddress(PlaylistEntry& entry, std::string_view address);
+
+// The name out of what follows "#EXTINF:" in an M3U file: the duration, attributes, and the name, with a
+// comma before it or, as some programs write, a blank. `looked` grows by the bytes that were looked at, at
+// most twice as many as there are.
+std::string_view NameInInfo(std::string_view info, std::size_t& looked);
 
 // Adds a complete entry, or counts it as skipped when it has no name or nothing to play.
 void AddEntry(Playlist& playlist, PlaylistEntry entry);

@@ -1,6 +1,7 @@
 // M3U: an "#EXTINF" line with the name, then the address. Fields of our own stand between the two as
 // comments:
 // "#SONARO:type=MP3".
+#include <algorithm>
 #include <optional>
 
 #include "base/Text.h"
@@ -15,30 +16,41 @@ constexpr std::string_view kInfo = "#EXTINF:";
 constexpr std::string_view kHomepage = "# Homepage:";
 constexpr std::string_view kField = "#SONARO:";
 
-// The length of an attribute like tvg-logo="..." at the start of the text; 0 when there is none.
-std::size_t AttributeLength(std::string_view text) {
-  const std::size_t quote = text.find("=\"");
-  if (quote == std::string_view::npos || quote == 0) return 0;
-  if (text.substr(0, quote).find_first_of(" ,\"") != std::string_view::npos) return 0;
-  const std::size_t end = text.find('"', quote + 2);
-  return end == std::string_view::npos ? 0 : end + 1;
-}
+// Goes through the text behind "#EXTINF:" from its start to its end, and counts what it looked at.
+class InfoScanner {
+ public:
+  InfoScanner(std::string_view rest, std::size_t& looked) : rest_(rest), looked_(looked) {}
 
-// The name out of what follows "#EXTINF:": the duration, attributes, and the name, with a comma before it or,
-// as some programs write, a blank.
-std::string_view NameIn(std::string_view info) {
-  const std::size_t duration = info.find_first_not_of("-.0123456789");
-  if (duration == std::string_view::npos) return {};
-  info.remove_prefix(duration);
-  while (info.starts_with(' ')) {
-    info.remove_prefix(1);
-    const std::size_t attribute = AttributeLength(info);
-    if (attribute == 0 && !info.starts_with(' ')) break;
-    info.remove_prefix(attribute);
+  std::string_view Rest() const { return rest_; }
+  void SkipAllOf(std::string_view characters) { Skip(rest_.find_first_not_of(characters)); }
+  void SkipToOneOf(std::string_view characters) { Skip(rest_.find_first_of(characters)); }
+  bool SkipIf(std::string_view start) {
+    if (!rest_.starts_with(start)) return false;
+    Skip(start.size());
+    return true;
   }
-  if (info.starts_with(',')) info.remove_prefix(1);
-  return TrimBlanks(info);
-}
+  // An attribute like tvg-logo="...". Without one the rest stays as it is.
+  bool SkipAttribute() {
+    const std::string_view before = rest_;
+    SkipToOneOf(" ,\"=");
+    if (rest_.size() < before.size() && SkipIf("=\"")) {
+      SkipToOneOf("\"");
+      if (SkipIf("\"")) return true;
+    }
+    rest_ = before;
+    return false;
+  }
+
+ private:
+  void Skip(std::size_t length) {
+    const std::size_t taken = std::min(length, rest_.size());
+    looked_ += taken;
+    rest_.remove_prefix(taken);
+  }
+
+  std::string_view rest_;
+  std::size_t& looked_;
+};
 
 class M3uReader {
  public:
@@ -48,7 +60,7 @@ class M3uReader {
     if (line.empty()) return;
     if (StartsWithIgnoringCase(line, kInfo)) {
       Finish();
-      Entry().station.name = NameIn(line.substr(kInfo.size()));
+      Entry().station.name = NameInInfo(line.substr(kInfo.size()), looked_);
     } else if (StartsWithIgnoringCase(line, kHomepage)) {
       homepage_ = TrimBlanks(line.substr(kHomepage.size()));
     } else if (line.starts_with(kField)) {
@@ -81,9 +93,22 @@ class M3uReader {
   Playlist& playlist_;
   std::optional<PlaylistEntry> entry_;
   std::string homepage_;
+  std::size_t looked_ = 0;
 };
 
 }  // namespace
+
+std::string_view NameInInfo(std::string_view info, std::size_t& looked) {
+  InfoScanner scanner(info, looked);
+  scanner.SkipAllOf("-.0123456789");
+  bool more = true;
+  while (more && scanner.SkipIf(" ")) {
+    scanner.SkipAllOf(" ");
+    more = scanner.SkipAttribute();
+  }
+  scanner.SkipIf(",");
+  return TrimBlanks(scanner.Rest());
+}
 
 void ReadM3u(std::string_view text, Playlist& playlist) {
   M3uReader reader(playlist);

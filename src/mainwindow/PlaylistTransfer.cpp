@@ -1,6 +1,9 @@
 #include "mainwindow/PlaylistTransfer.h"
 
 #include <algorithm>
+#include <functional>
+#include <tuple>
+#include <unordered_set>
 #include <utility>
 
 #include "base/DataFolder.h"
@@ -13,21 +16,61 @@
 namespace sonaro {
 namespace {
 
-bool SameStation(const PersonalStation& a, const PersonalStation& b) {
-  PersonalStation other = b;
-  other.index = a.index;
-  return a == other;
-}
+auto WithoutIndex(const PersonalStation& s) { return std::tie(s.name, s.links, s.webSite, s.type, s.note); }
 
 bool HasNoLink(const PersonalStation& station) { return station.links == std::array<std::string, 3>(); }
 
+struct HashOfStation {
+  std::size_t operator()(const PersonalStation* station) const {
+    std::string text = station->name;  // and all else, or a file could be made of stations that collide
+    for (const std::string* field : {&station->links[0], &station->links[1], &station->links[2],
+                                     &station->webSite, &station->type, &station->note}) {
+      text.append(1, '\t').append(*field);
+    }
+    return std::hash<std::string>()(text);
+  }
+};
+
+struct SameStation {
+  std::size_t& compared;
+  bool operator()(const PersonalStation* a, const PersonalStation* b) const {
+    ++compared;
+    return WithoutIndex(*a) == WithoutIndex(*b);
+  }
+};
+
 }  // namespace
+
+// The user's own stations for one import, found by everything but their index.
+class OwnStationIndex {
+ public:
+  // `compared` grows by one for each pair of stations that is compared.
+  OwnStationIndex(std::vector<PersonalStation> stations, std::size_t& compared)
+      : stations_(std::move(stations)), known_(stations_.size(), HashOfStation(), SameStation{compared}) {
+    for (const PersonalStation& station : stations_) known_.insert(&station);
+  }
+  OwnStationIndex(const OwnStationIndex&) = delete;
+  OwnStationIndex& operator=(const OwnStationIndex&) = delete;
+
+  // Null when there is none.
+  const PersonalStation* Find(const PersonalStation& wanted) const {
+    const auto found = known_.find(&wanted);
+    return found == known_.end() ? nullptr : *found;
+  }
+
+ private:
+  const std::vector<PersonalStation> stations_;
+  std::unordered_set<const PersonalStation*, HashOfStation, SameStation> known_;
+};
 
 bool PlaylistTransfer::ExportGroup(std::size_t group, const std::string& path) {
   if (group >= groups_.Count()) return false;
   Playlist playlist;
   playlist.title = groups_.Name(group);
-  for (const std::string_view token : groups_.Tokens(group)) playlist.entries.push_back(EntryOf(token));
+  for (const std::string_view token : groups_.Tokens(group)) {
+    PlaylistEntry entry = EntryOf(token);
+    if (!entry.station.name.empty()) playlist.entries.push_back(std::move(entry));
+  }
   return Save(std::move(playlist), path);
 }
 
@@ -107,7 +150,7 @@ ImportResult PlaylistTransfer::ImportIntoGroup(std::size_t group, const std::str
 
 std::vector<std::string> PlaylistTransfer::TokensFor(const std::vector<PlaylistEntry>& entries,
                                                      ImportResult& result) {
-  std::vector<PersonalStation> own = personal_.All();
+  const OwnStationIndex own(personal_.All(), result.compared);
   std::vector<std::string> tokens;
   std::vector<PersonalStation> fresh;
   std::vector<std::size_t> places;  // of the fresh ones in `tokens`
@@ -131,8 +174,7 @@ std::vector<std::string> PlaylistTransfer::TokensFor(const std::vector<PlaylistE
   return tokens;
 }
 
-std::string PlaylistTransfer::KnownToken(const PlaylistEntry& entry,
-                                         const std::vector<PersonalStation>& own) const {
+std::string PlaylistTransfer::KnownToken(const PlaylistEntry& entry, const OwnStationIndex& own) const {
   const StationKey key = StationKey::FromToken(entry.stationId);
   if (key.kind == StationKey::Kind::Directory) {
     const StationRecord record = source_.Record(key.number);
@@ -142,11 +184,8 @@ std::string PlaylistTransfer::KnownToken(const PlaylistEntry& entry,
       return entry.stationId;
     }
   }
-  const auto same = std::find_if(own.begin(), own.end(), [&entry](const PersonalStation& station) {
-    return SameStation(station, entry.station);
-  });
-  if (same == own.end()) return {};
-  return StationKey{StationKey::Kind::Personal, same->index}.Token();
+  const PersonalStation* const same = own.Find(entry.station);
+  return same ? StationKey{StationKey::Kind::Personal, same->index}.Token() : std::string();
 }
 
 }  // namespace sonaro

@@ -14,6 +14,7 @@ namespace sonaro {
 
 class FavoriteGroups;
 class Files;
+class OwnStationIndex;
 class PersonalStations;
 class StationSource;
 
@@ -26,9 +27,10 @@ struct ImportResult {
   };
   Status status = Status::Ok;
   std::size_t added = 0;
-  std::size_t known = 0;    // were there already
-  std::size_t skipped = 0;  // entries that cannot be used
-  bool damaged = false;     // the file breaks off
+  std::size_t known = 0;     // were there already
+  std::size_t skipped = 0;   // entries that cannot be used
+  bool damaged = false;      // the file breaks off
+  std::size_t compared = 0;  // pairs of stations: the work that a long list costs
 };
 
 class PlaylistTransfer {
@@ -50,7 +52,7 @@ class PlaylistTransfer {
   ImportResult Read(const std::string& path, Playlist& playlist);
   // The tokens of the entries in their order, stations that were missing having been added to the user's own.
   std::vector<std::string> TokensFor(const std::vector<PlaylistEntry>& entries, ImportResult& result);
-  std::string KnownToken(const PlaylistEntry& entry, const std::vector<PersonalStation>& own) const;
+  std::string KnownToken(const PlaylistEntry& entry, const OwnStationIndex& own) const;
 
   Files& files_;
   FavoriteGroups& groups_;

@@ -1,9 +1,9 @@
 #include "mainwindow/frmExtraLink.h"
 
 #include "app/Message.h"
-#include "base/Text.h"
 #include "forms/ControlIds.h"
 #include "forms/DialogRows.h"
+#include "playback/OwnLink.h"
 #include "playback/PersonalStations.h"
 #include "playback/PlayLink.h"
 #include "resources/texts/app.h"
@@ -65,15 +65,12 @@ void frmExtraLink::Complain(const char* key, int text) {
 }
 
 void frmExtraLink::butOKIt_Click() {
-  const std::string address(TrimBlanks(Text(txtExtraLink)));
-  if (!address.empty() && !IsPlayerAddress(address)) {
+  const auto linkText = OwnLinkFromField(Text(txtExtraLink), all_.front().link);
+  if (!linkText) {
     Complain("PersonalStationLink", IDS_DLG_OWN_BAD_LINK);
     return;
   }
-  PlayLink played = PlayLink::FromText(all_.front().link);
-  if (all_.front().link.empty()) played.way = PlayWay::AsxProgram;
-  played.address = address;
-  all_.front() = {Text(txtExtraName), address.empty() ? "" : played.ToText()};
+  all_.front() = {Text(txtExtraName), *linkText};
   if (!links_.Set(stationId_, all_)) {
     Complain("PersonalStationNotSaved", IDS_DLG_OWN_NOT_SAVED);
     return;

@@ -5,6 +5,7 @@
 #include "base/Text.h"
 #include "forms/ControlIds.h"
 #include "forms/DialogRows.h"
+#include "playback/OwnLink.h"
 #include "playback/PlayLink.h"
 #include "resources/texts/app.h"
 #include "resources/texts/mainwindow.h"
@@ -79,18 +80,15 @@ void frmPersonalStation::butOKIt_Click() {
   station_.name = Text(txtStationName);
   bool anyLink = false;
   for (int link = 0; link < 3; ++link) {
-    const std::string address(TrimBlanks(Text(txtLink + link)));
-    if (!address.empty() && !IsPlayerAddress(address)) {
+    std::string& stored = station_.links[static_cast<std::size_t>(link)];
+    const auto linkText = OwnLinkFromField(Text(txtLink + link), stored);
+    if (!linkText) {
       Complain("PersonalStationLink", IDS_DLG_OWN_BAD_LINK);
       Focus(txtLink + link);
       return;
     }
-    std::string& stored = station_.links[static_cast<std::size_t>(link)];
-    PlayLink played = PlayLink::FromText(stored);
-    if (stored.empty()) played.way = PlayWay::AsxProgram;
-    played.address = address;
-    stored = address.empty() ? "" : played.ToText();
-    anyLink = anyLink || !address.empty();
+    stored = *linkText;
+    anyLink = anyLink || !stored.empty();
   }
   const bool noName = TrimBlanks(station_.name).empty();
   if (noName || !anyLink) {

@@ -4,6 +4,7 @@
 #include "base/Numbers.h"
 #include "base/Text.h"
 #include "playback/FieldText.h"
+#include "playback/OwnLink.h"
 #include "playback/PersonalStations.h"
 
 namespace sonaro {
@@ -13,7 +14,7 @@ namespace {
 constexpr std::string_view kLinksFile = "\\ownlinks.snr";
 
 ExtraLink Cleaned(const ExtraLink& link) {
-  return {CleanField(link.name, PersonalStation::kMaxName), CleanField(link.link, PersonalStation::kMaxLink)};
+  return {CleanField(link.name, PersonalStation::kMaxName), CleanedLink(link.link)};
 }
 
 }  // namespace

@@ -16,7 +16,7 @@ struct ExtraLink {
   static constexpr std::size_t kMaxPerStation = 20;
 
   std::string name;  // what the play entry says; may be empty
-  std::string link;  // link text, see PlayLink
+  std::string link;  // link text, see PlayLink and OwnLink
   bool operator==(const ExtraLink&) const = default;
 };
 

@@ -15,19 +15,6 @@ namespace {
 constexpr std::string_view kPersonalFile = "\\personal.snr";
 constexpr std::size_t kFields = 8;
 
-PersonalStation Cleaned(const PersonalStation& station) {
-  PersonalStation clean;
-  clean.index = station.index;
-  clean.name = CleanField(station.name, PersonalStation::kMaxName);
-  for (std::size_t i = 0; i < clean.links.size(); ++i) {
-    clean.links[i] = CleanField(station.links[i], PersonalStation::kMaxLink);
-  }
-  clean.webSite = CleanField(station.webSite, PersonalStation::kMaxLink);
-  clean.type = CleanField(station.type, PersonalStation::kMaxName);
-  clean.note = CleanField(station.note, PersonalStation::kMaxNote);
-  return clean;
-}
-
 std::string LineText(const PersonalStation& station) {
   std::string text = std::to_string(station.index);
   for (const std::string* field : {&station.name, &station.links[0], &station.links[1], &station.links[2],
@@ -38,6 +25,19 @@ std::string LineText(const PersonalStation& station) {
 }
 
 }  // namespace
+
+PersonalStation Cleaned(const PersonalStation& station) {
+  PersonalStation clean;
+  clean.index = station.index;
+  clean.name = CleanField(station.name, PersonalStation::kMaxName);
+  for (std::size_t i = 0; i < clean.links.size(); ++i) {
+    clean.links[i] = CleanedLink(station.links[i]);
+  }
+  clean.webSite = CleanField(station.webSite, PersonalStation::kMaxLink);
+  clean.type = CleanField(station.type, PersonalStation::kMaxName);
+  clean.note = CleanField(station.note, PersonalStation::kMaxNote);
+  return clean;
+}
 
 bool PersonalStations::Load() {
   lines_.clear();

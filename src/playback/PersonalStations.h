@@ -14,24 +14,31 @@
 #include <unordered_map>
 #include <vector>
 
+#include "playback/OwnLink.h"
+
 namespace sonaro {
 
 class DataFolder;
 
 struct PersonalStation {
   static constexpr std::size_t kMaxName = 200;  // bytes
-  static constexpr std::size_t kMaxLink = 2000;
+  static constexpr std::size_t kMaxLink = kMaxOwnLink;
   static constexpr std::size_t kMaxAddress = kMaxLink - 1;  // of a link, which can have a prefix
   static constexpr std::size_t kMaxNote = 4000;
 
   std::int32_t index = 0;  // from 1; 0: not stored yet
   std::string name;
-  std::array<std::string, 3> links;  // link texts, see PlayLink
+  std::array<std::string, 3> links;  // link texts, see PlayLink and OwnLink
   std::string webSite;
   std::string type;  // what the lists show as the media type
   std::string note;
   bool operator==(const PersonalStation&) const = default;
 };
+
+// The station as it is stored: control characters become blanks, blanks at the ends go, what is too long is
+// cut, and a link without a scheme gets one. A link that the rule for own links refuses stays as it is: the
+// file may hold one from earlier times, and playing it is refused with a word.
+PersonalStation Cleaned(const PersonalStation& station);
 
 class PersonalStations {
  public:
@@ -46,8 +53,8 @@ class PersonalStations {
   // The station with this index, or null. Valid until the next change.
   const PersonalStation* Find(std::int32_t index) const;
 
-  // Each change is saved at once; one that cannot be saved is undone. Texts are cleaned: control characters
-  // become blanks, blanks at the ends go, and what is too long is cut. A station needs a name.
+  // Each change is saved at once; one that cannot be saved is undone. The station is stored as
+  // Cleaned gives it, and needs a name.
   // The new station's index, or 0.
   std::int32_t Add(const PersonalStation& station);
   // Adds all with one write. The indices in order, 0 for a station without a name; empty when nothing was

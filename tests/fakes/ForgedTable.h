@@ -31,8 +31,8 @@ inline std::uint64_t PlaceOfEntry(const IndexLayout& layout, std::uint32_t numbe
   return layout.pages + (number + std::uint64_t{number / kPageEntries}) * sizeof(Entry);
 }
 
-// The checksums of records, pages, directory and column; gives the generation of the records. Only for an index
-// whose sections fill the file.
+// The checksums of records, pages, directory and column; gives the generation of the records. Only for an
+// index whose sections fill the file.
 inline std::uint64_t ResealSections(std::string_view data, std::string& index, IndexHeader& header) {
   const IndexLayout layout = LayoutOf(header);
   const std::string_view texts = data.substr(std::min(data.size(), sizeof(DataHeader)));
@@ -57,11 +57,13 @@ inline std::uint64_t ResealSections(std::string_view data, std::string& index, I
     PutPart(index, place, item);
   }
   header.directoryCheck = Checksum(std::string_view(index).substr(layout.directory));
-  header.columnCheck = ChainedChecksum(std::string_view(index).substr(layout.column, layout.pages - layout.column));
+  header.columnCheck =
+      ChainedChecksum(std::string_view(index).substr(layout.column, layout.pages - layout.column));
   return generation;
 }
 
-// Makes every checksum of the two files right; sizes and generations are made to fit as well, other numbers stay.
+// Makes every checksum of the two files right; sizes and generations are made to fit as well, other numbers
+// stay.
 inline void ResealTable(std::string& data, std::string& index) {
   if (data.size() < sizeof(DataHeader) || index.size() < sizeof(IndexHeader)) return;
   auto dataHeader = PartAt<DataHeader>(data, 0);

@@ -1,5 +1,7 @@
 #include "mainwindow/PlaylistTransfer.h"
 
+#include <random>
+
 #include "directory/Scrambling.h"
 #include "mainwindow/Models.h"
 #include "playback/StationSource.h"
@@ -71,6 +73,102 @@ TEST_F(PlaylistTransferTest, WhatGoesWrongIsTold) {
   EXPECT_FALSE(transfer.ExportGroup(0, "/out/full.m3u"));
   EXPECT_EQ(files.Get("/out/full.m3u"), std::nullopt);
   EXPECT_EQ(files.Get("/out/full.m3u.new"), std::nullopt);
+}
+
+// Pieces of what people type, and of what hurts in a file.
+std::string Typed(std::mt19937& random, std::size_t most) {
+  static const char* const kPieces[] = {"http://",
+                                        "rtsp://",
+                                        "mms://",
+                                        "www.",
+                                        "a.example",
+                                        "b.example:8000",
+                                        "/live",
+                                        "?x=1&y=%20",
+                                        "=",
+                                        ";",
+                                        "#",
+                                        ",",
+                                        "w",
+                                        "m",
+                                        " ",
+                                        "\"",
+                                        "<b>",
+                                        "&amp;",
+                                        "'",
+                                        "C:\\",
+                                        "\xC3\xA9",
+                                        "-1",
+                                        "\t",
+                                        "\r\n",
+                                        "#EXTINF:-1,",
+                                        "[playlist]",
+                                        "File1=",
+                                        "tvg-logo=\"x\"",
+                                        "\xE2\x80\xA8",
+                                        "]]>"};
+  std::string text;
+  for (std::size_t pieces = random() % (most + 1); pieces > 0; --pieces)
+    text += kPieces[random() % std::size(kPieces)];
+  return text;
+}
+
+// Whatever the dialog takes goes out and comes back, in every format, without a change and without a loss.
+TEST_F(PlaylistTransferTest, OnesOwnStationsComeBackWhateverWasTyped) {
+  std::mt19937 random(1103);
+  std::size_t taken = 0;
+  for (int round = 0; round < 20; ++round) {
+    files.Put("/d/personal.snr", "");
+    ASSERT_TRUE(personal.Load());
+    for (int each = 0; each < 40; ++each) {
+      PersonalStation station;
+      station.name = Typed(random, 4);
+      for (std::string& link : station.links) {
+        const char* const before[] = {"", "whttp://old.example/", "rtsp://old.example/"};
+        const char* const starts[] = {"", "http://a.example/", "www.a.example:8000", "mms://b.example/"};
+        const std::string typed = starts[random() % 4] + Typed(random, 2);
+        link = OwnLinkFromField(typed, before[random() % 3]).value_or("");
+      }
+      station.webSite = Typed(random, 2);
+      station.type = Typed(random, 1);
+      station.note = Typed(random, 6);
+      if (station.links != std::array<std::string, 3>() && personal.Add(station) != 0) ++taken;
+    }
+    const std::vector<PersonalStation> before = personal.All();
+    for (const char* path : {"/out/own.m3u", "/out/own.pls", "/out/own.opml"}) {
+      ASSERT_TRUE(transfer.ExportPersonalStations(path));
+      EXPECT_EQ(transfer.ImportPersonalStations(path).known, before.size()) << path << *files.Get(path);
+      files.Put("/d/personal.snr", "");
+      ASSERT_TRUE(personal.Load());
+      const ImportResult result = transfer.ImportPersonalStations(path);
+      EXPECT_EQ(result.added, before.size()) << path;
+      EXPECT_EQ(result.skipped, 0U) << path;
+      std::vector<PersonalStation> after = personal.All();
+      ASSERT_EQ(after.size(), before.size()) << path;
+      for (std::size_t i = 0; i < after.size(); ++i) {
+        after[i].index = before[i].index;
+        EXPECT_EQ(after[i], before[i]) << path << before[i].name;
+      }
+    }
+  }
+  EXPECT_GT(taken, 200U) << "the dialog should take enough of what was typed";
+}
+
+// Twice as many stations are twice the work, also when they all look alike.
+TEST_F(PlaylistTransferTest, ALongListIsComparedInProportion) {
+  for (const std::size_t count : {std::size_t{300}, std::size_t{600}}) {
+    std::string list = "#EXTM3U\n";
+    for (std::size_t i = 0; i < count; ++i)
+      list += "#EXTINF:-1,Same\n#SONARO:note=" + std::to_string(i) + "\nhttp://a.example/\n";
+    files.Put("/in/long.m3u", list);
+    files.Put("/d/personal.snr", "");
+    ASSERT_TRUE(personal.Load());
+    EXPECT_EQ(transfer.ImportPersonalStations("/in/long.m3u").added, count);
+    const ImportResult again = transfer.ImportPersonalStations("/in/long.m3u");
+    EXPECT_EQ(again.known, count);
+    EXPECT_GE(again.compared, count);
+    EXPECT_LE(again.compared, 2 * count);
+  }
 }
 
 }  // namespace

@@ -4,6 +4,7 @@
 
 #include "base/OutlineReader.h"
 #include "base/Text.h"
+#include "mainwindow/PlaylistFields.h"
 
 namespace sonaro {
 namespace {
@@ -142,6 +143,18 @@ TEST(Playlist, TellsTheFormatByTheContent) {
       {"[{\"url\":\"http://a/\"}]", PlaylistFormat::NotAPlaylist}};
   for (const auto& [text, format] : cases) EXPECT_EQ(RecognisePlaylist(text), format) << text;
   EXPECT_TRUE(ReadPlaylist("MZ\x90\x00\x03 binary").entries.empty());
+}
+
+// The work for a line grows with its length and no faster, whatever it is made of.
+TEST(Playlist, TheInfoOfALineIsLookedAtOnce) {
+  for (const char* piece : {" ", "a=\"b\" ", "a=\" ", "a= ", " =\"", "\" ", "a=\"\"", " ,", "= ", "-1 "}) {
+    std::string info = "-1";
+    while (info.size() < 30000) info.append(" ").append(piece);
+    std::size_t looked = 0;
+    NameInInfo(info, looked);
+    EXPECT_GT(looked, 0U) << piece;
+    EXPECT_LE(looked, 2 * info.size()) << piece;
+  }
 }
 
 TEST(Playlist, HostileLinksAreNotTaken) {

@@ -1,4 +1,4 @@
-// The user's own data: personal stations and extra links.
+// The user's own data: personal stations and extra links, and what a link of the user's own may be.
 #include "playback/PersonalStations.h"
 
 #include <gtest/gtest.h>
@@ -8,6 +8,7 @@
 #include "base/DataFolder.h"
 #include "fakes/FakeFiles.h"
 #include "playback/ExtraLinks.h"
+#include "playback/OwnLink.h"
 
 namespace sonaro {
 namespace {
@@ -16,6 +17,41 @@ PersonalStation Named(const std::string& name) {
   PersonalStation station;
   station.name = name;
   return station;
+}
+
+TEST(OwnLink, IsAPlayerLinkWithAScheme) {
+  const std::string longest(kMaxOwnLink - 1 - 17, 'x');
+  const struct {
+    std::string typed;
+    std::string before;  // what the dialog showed
+    std::optional<std::string> stored;
+  } kCases[] = {
+      {" http://a.example/ ", "", "mhttp://a.example/"},
+      {"a.example:8000/live", "", "mhttp://a.example:8000/live"},
+      {"www.a.example", "whttp://b.example/", "whttp://www.a.example"},
+      {"rtsp://a.example/x", "http://b.example/", "rtsp://a.example/x"},
+      {"mms://a.example/x", "http://b.example/", "mmms://a.example/x"},
+      {"http://a.example/\xC3\xA9", "", "mhttp://a.example/\xC3\xA9"},
+      {"a.example/?u=http://b", "", "mhttp://a.example/?u=http://b"},
+      {"   ", "mhttp://b.example/", ""},
+      {"http://a.example/" + longest, "", "mhttp://a.example/" + longest},
+      {"http://a.example/" + longest + "x", "", std::nullopt},
+      {"a.example/" + longest + "x", "", std::nullopt},
+      {"C:\\music\\a.mp3", "", std::nullopt},
+      {"\\\\server\\a.mp3", "", std::nullopt},
+      {"//server/a", "", std::nullopt},
+      {"file:///etc/x", "", std::nullopt},
+      {"javascript://a.example/%0aalert", "", std::nullopt},
+      {"%SystemRoot%", "", std::nullopt},
+      {"nowhere", "", std::nullopt},
+  };
+  for (const auto& c : kCases) {
+    const auto stored = OwnLinkFromField(c.typed, c.before);
+    EXPECT_EQ(stored, c.stored) << c.typed;
+    if (stored && !stored->empty()) {
+      EXPECT_EQ(OwnLinkText(*stored), stored) << "what is stored stays as it is";
+    }
+  }
 }
 
 class OwnDataTest : public testing::Test {
@@ -145,6 +181,15 @@ TEST_F(OwnDataTest, ExtraLinksSurviveARestartAndKeepForeignLines) {
   files_.SetSpaceLeft(0);
   EXPECT_FALSE(again.Set(-5, {}));
   EXPECT_EQ(again.Of(-5).size(), 2u);
+}
+
+// From times when other links were taken: what can be made a link of today is, the rest stays in the file.
+TEST_F(OwnDataTest, OldLinksGetASchemeOrStayAsTheyAre) {
+  files_.Put("/d/personal.snr", "1\tA\tma.example/x\tmC:\\a.mp3\t\t\t\t\r\n");
+  files_.Put("/d/ownlinks.snr", "12\tOld\twa.example\r\n12\tPath\tm//b/c\r\n");
+  ASSERT_TRUE(stations_.Load() && links_.Load());
+  EXPECT_EQ(stations_.Find(1)->links, (std::array<std::string, 3>{"mhttp://a.example/x", "mC:\\a.mp3", ""}));
+  EXPECT_EQ(links_.Of(12), (std::vector<ExtraLink>{{"Old", "whttp://a.example"}, {"Path", "m//b/c"}}));
 }
 
 // Whenever the program dies while it saves, the file is the old or the new one.
