@@ -3,6 +3,8 @@
 #include <functional>
 
 #include "base/Text.h"
+#include "commands/LocalFolder.h"
+#include "directory/StatList.h"
 #include "tool/ToolTest.h"
 
 namespace sonaro {
@@ -135,6 +137,7 @@ const Damage kDamages[] = {
     {"personal.snr", Appending("1\tTwice\t\r\n"), "personal.snr:2: the index 1 stands there twice"},
     {"Depot/sshape.pts", Replacing("=", "-="), "Depot\\sshape.pts:1: the line does not begin with a key"},
     {"Depot/sshape.pts", Replacing("=000", "=0x0"), "Depot\\sshape.pts:1: the points are not groups"},
+    {"unfinished.snr", Appending("x"), "unfinished.snr: make was cut short here"},
     {"alphabet.snr", Appending("abc\nabc\n"), "alphabet.snr: is not two lines"},
 };
 
@@ -162,6 +165,20 @@ TEST_F(CheckTest, FindsEveryDamage) {
     }
   }
   EXPECT_EQ(RunDirectoryTool({"check", Folder()}).status, 0);
+}
+
+// A table made of the list is what the check expects of it, whatever is odd about the list's identifiers.
+TEST_F(CheckTest, ReadsTheListAsTheProgramDoes) {
+  const std::string list = FileBytes(Folder() + "/station.snr");
+  const std::string first = list.substr(0, list.find('\n') + 1);
+  std::string again = first;
+  again.insert(again.find('\t') + 1, "Renamed ");
+  WriteBytes(Folder() + "/station.snr",
+             "\xEF\xBB\xBF" + list + again + "-5" + first.substr(first.find('\t')));
+  LocalFolder folder(Folder());
+  ASSERT_TRUE(StatList(folder.Data()).RebuildStationTable());
+  const ToolRun run = RunDirectoryTool({"check", Folder()});
+  EXPECT_EQ(run.out, "station.snr:128: station " + *id_ + " stands there twice; this line counts\n");
 }
 
 TEST_F(CheckTest, CountsWhatItDoesNotList) {

@@ -5,6 +5,7 @@
 #include <set>
 
 #include "base/Text.h"
+#include "directory/Scrambling.h"
 #include "text/CleanText.h"
 #include "tool/ToolTest.h"
 
@@ -184,6 +185,21 @@ TEST(Make, RanksByBelievableVotes) {
   }
   EXPECT_EQ(rankings, (std::vector<std::string>{"New Stations", "Most Pop", "Least Pop", "Best Overall",
                                                 "Best Sound", "Best Speed", "Best Website"}));
+}
+
+TEST(Make, WritesLinksInTheAlphabetsOfTheFolder) {
+  const ScratchFolder scratch;
+  const std::string list = scratch.Path() + "/list.m3u";
+  const std::string folder = scratch.Path() + "/data";
+  WriteBytes(list, "#EXTM3U\n#EXTINF:-1,A\nhttp://a.example/live\n");
+  std::filesystem::create_directory(folder);
+  std::string other = BuiltInAlphabets().source;
+  std::rotate(other.begin(), other.begin() + 7, other.end());
+  WriteBytes(folder + "/alphabet.snr", BuiltInAlphabets().source + "\r\n" + other + "\r\n");
+  ASSERT_EQ(RunDirectoryTool({"make", list, "--out", folder}).status, 0);
+  std::string link = StationRows(folder)[0][6];
+  EXPECT_EQ(UnscrambleText(link, {BuiltInAlphabets().source, other}), "mhttp://a.example/live");
+  EXPECT_EQ(RunDirectoryTool({"check", folder}).status, 0);
 }
 
 TEST(Make, KeepsIdentifiersOfThePreviousFolder) {

@@ -3,6 +3,7 @@
 #include "base/Numbers.h"
 #include "base/Text.h"
 #include "check/Checks.h"
+#include "output/DirectoryWriter.h"
 #include "text/CleanText.h"
 
 namespace sonaro {
@@ -57,6 +58,7 @@ void CheckContext::CheckTokens(std::string_view name, std::size_t line, std::str
 
 void CheckFolder(DataFolder& data, Findings& findings) {
   CheckContext context{data, findings, BuiltInAlphabets(), {}, {}, {}};
+  if (data.Exists(kUnfinishedMark)) context.Add(kUnfinishedMark, 0, "make was cut short here; run it again");
   CheckAlphabets(context);
   CheckStationList(context);
   CheckStationTable(context);

@@ -1,6 +1,7 @@
 // The station list, the station table and the event tables.
 #include <algorithm>
 #include <array>
+#include <map>
 
 #include "base/Dates.h"
 #include "base/Numbers.h"
@@ -9,6 +10,7 @@
 #include "check/Checks.h"
 #include "directory/EvList.h"
 #include "directory/StatList.h"
+#include "directory/StationListFile.h"
 #include "playback/PlayLink.h"
 #include "playback/WebAddress.h"
 
@@ -100,26 +102,33 @@ class RecordCheck {
   const StationRecord& record_;
 };
 
-void CheckStationLine(CheckContext& context, std::size_t number, std::string_view line) {
+// The stations by identifier, of several lines with the same one the last.
+using StationsById = std::map<std::int32_t, StationRecord>;
+
+void CheckStationLine(CheckContext& context, std::size_t number, std::string_view line,
+                      StationsById& stations) {
   const std::vector<std::string_view> columns = Split(line, '\t');
-  StationRecord record;
   if (columns.size() != kColumns) {
     context.Add(
         kListName, number,
         "the line has " + std::to_string(columns.size()) + " columns, not " + std::to_string(kColumns));
   }
-  if (!ParseStationId(columns[0], record.StationId) || record.StationId <= 0) {
+  StationLine station;
+  if (!ParseStationLine(line, station)) {
     context.Add(kListName, number,
                 "\"" + std::string(CutForShow(columns[0], 40)) + "\" is no station identifier");
     return;
   }
-  for (std::size_t i = 1; i < std::min(columns.size(), kColumns); ++i) record.fields[i - 1] = columns[i];
-  if (!context.ids.insert(record.StationId).second) {
-    context.Add(kListName, number, "station " + std::to_string(record.StationId) + " stands there twice");
-    return;
+  StationRecord record;
+  record.StationId = station.id;
+  const auto fields = SplitAtMost(station.text, '\t', StationRecord::kFieldCount);
+  std::copy(fields.begin(), fields.end(), record.fields.begin());
+  if (stations.count(station.id) > 0) {
+    context.Add(kListName, number,
+                "station " + std::to_string(station.id) + " stands there twice; this line counts");
   }
   RecordCheck(context, number, record).Run();
-  context.stations.push_back(std::move(record));
+  stations[station.id] = std::move(record);
 }
 
 bool IsGmtStamp(const std::string& text) {
@@ -145,14 +154,19 @@ void CheckEvent(CheckContext& context, std::string_view table, const EventRecord
 void CheckStationList(CheckContext& context) {
   const std::optional<std::string> text = context.Read(kListName, CheckContext::Need::Required);
   if (!text) return;
+  StationsById stations;
   std::size_t number = 0;
-  for (const std::string_view line : SplitLines(*text)) {
+  const bool marked = text->starts_with(kMarkOfUtf8);
+  for (const std::string_view line :
+       SplitLines(std::string_view(*text).substr(marked ? kMarkOfUtf8.size() : 0))) {
     ++number;
-    if (!line.empty()) CheckStationLine(context, number, line);
+    if (!line.empty()) CheckStationLine(context, number, line, stations);
   }
-  if (context.stations.empty()) context.Add(kListName, 0, "holds no station");
-  std::sort(context.stations.begin(), context.stations.end(),
-            [](const StationRecord& a, const StationRecord& b) { return a.StationId < b.StationId; });
+  if (stations.empty()) context.Add(kListName, 0, "holds no station");
+  for (auto& [id, record] : stations) {
+    context.ids.insert(id);
+    context.stations.push_back(std::move(record));
+  }
 }
 
 void CheckStationTable(CheckContext& context) {

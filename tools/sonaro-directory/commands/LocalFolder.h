@@ -45,11 +45,10 @@ class LocalFolder {
   DataFolder data_;
 };
 
-// The alphabets of a data folder: its own in "\alphabet.snr", else the built-in ones.
+// The alphabets that the program uses with a data folder.
 inline ScramblingAlphabets AlphabetsOf(DataFolder& data) {
-  ScramblingAlphabets alphabets = BuiltInAlphabets();
-  const ReadResult file = data.Read("\\alphabet.snr");
-  if (file.status == ReadStatus::Ok) ParseAlphabets(file.bytes, alphabets);
+  ScramblingAlphabets alphabets;
+  LoadAlphabets(data, alphabets);
   return alphabets;
 }
 

@@ -174,6 +174,7 @@ int Maker::Run() {
   LocalFolder folder(options_.out);
   WriteOptions write;
   write.player = options_.player;
+  write.alphabets = AlphabetsOf(folder.Data());
   const std::string problem = WriteDirectory(folder.Data(), built.directory, events, write);
   if (!problem.empty()) return Fail(problem);
   Summarise(built, events);

@@ -8,6 +8,7 @@
 #include "commands/Commands.h"
 #include "commands/LocalFolder.h"
 #include "commands/Progress.h"
+#include "output/DirectoryWriter.h"
 #include "site/WriteSite.h"
 
 namespace sonaro {
@@ -103,6 +104,8 @@ int RunPublish(Arguments arguments, Console& console) {
   LocalFolder directory(options->directory);
   LocalFolder site(options->out);
   if (!directory.IsThere()) problem = "There is no folder \"" + options->directory + "\".";
+  if (directory.Data().Exists(kUnfinishedMark))
+    problem = "\"" + options->directory + "\" is unfinished; run make again.";
   if (problem.empty() && !options->keyFile.empty())
     options->site.secretKey = ReadKey(directory, options->keyFile, problem);
   SiteResult result;

@@ -22,7 +22,7 @@ class Saver {
  public:
   explicit Saver(DataFolder& data) : data_(data) {}
 
-  void Save(const std::string& name, std::string_view bytes) {
+  void Save(std::string_view name, std::string_view bytes) {
     if (failed_.empty() && !data_.Save(name, bytes)) failed_ = data_.Path(name);
   }
   const std::string& Failed() const { return failed_; }
@@ -96,7 +96,11 @@ std::string WriteDirectory(DataFolder& data, const Directory& directory, const E
   if (!data.FileSystem().MakeFolder(data.Folder()))
     return "Cannot make the folder \"" + data.Folder() + "\".";
   Saver saver(data);
+  const bool wasUnfinished = data.Exists(kUnfinishedMark);
+  saver.Save(kUnfinishedMark, "These files belong to two directories. Run sonaro-directory make again.\r\n");
+  if (!saver.Failed().empty()) return CannotWrite(saver.Failed());
   saver.Save("\\station.snr", StationListText(directory, options));
+  if (!saver.Failed().empty() && !wasUnfinished) data.Remove(kUnfinishedMark);  // nothing was changed
   if (!saver.Failed().empty()) return CannotWrite(saver.Failed());
   StatList stations(data);
   if (!stations.RebuildStationTable()) return CannotWrite(data.Path("\\Statorg.isd"));
@@ -113,7 +117,7 @@ std::string WriteDirectory(DataFolder& data, const Directory& directory, const E
   saver.Save("\\searchst.snr", SearchKindsText());
   if (!saver.Failed().empty()) return CannotWrite(saver.Failed());
   RemoveStaleLists(data, written);
-  return {};
+  return data.Remove(kUnfinishedMark) ? std::string() : CannotWrite(data.Path(kUnfinishedMark));
 }
 
 }  // namespace sonaro

@@ -1,5 +1,6 @@
 // Writes a directory into a data folder: the station list and table, the event tables, the browse tree, the
 // rankings and the kinds of search. Each file is put in place as a whole; what the user has made there stays.
+// While files of two directories may lie side by side the folder is marked as unfinished.
 #pragma once
 
 #include <string>
@@ -10,6 +11,9 @@
 #include "stations/StationTexts.h"
 
 namespace sonaro {
+
+// The file that marks a folder in which the writing has begun and not ended.
+inline constexpr std::string_view kUnfinishedMark = "\\unfinished.snr";
 
 struct WriteOptions {
   LinkPlayer player = LinkPlayer::Asx;
@@ -22,7 +26,8 @@ std::string StationListText(const Directory& directory, const WriteOptions& opti
 // The text of "\searchst.snr": the directory first, then the service's searches of the web.
 std::string SearchKindsText();
 
-// "" when everything was written, else one sentence about what was not.
+// "" when everything was written, else one sentence about what was not. A folder that this fails or dies in
+// is as it was, or stays marked until it is written again.
 std::string WriteDirectory(DataFolder& data, const Directory& directory, const EventRecords& events,
                            const WriteOptions& options);
 

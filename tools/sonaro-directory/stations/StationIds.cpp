@@ -5,6 +5,7 @@
 
 #include "base/Numbers.h"
 #include "base/Text.h"
+#include "directory/StationListFile.h"
 #include "directory/StationRecord.h"
 #include "playback/PlayLink.h"
 #include "stations/Addresses.h"
@@ -22,11 +23,18 @@ std::string Identity(std::string_view name, std::string_view address) {
 
 EarlierIds::EarlierIds(std::string_view stationList, const ScramblingAlphabets& alphabets) {
   constexpr std::size_t kColumns = StationRecord::kFieldCount + 1;
-  for (const std::string_view line : SplitLines(stationList)) {
+  const std::vector<std::string_view> lines = SplitLines(stationList);
+  StationLine station;
+  std::unordered_map<std::int32_t, std::string_view> lastLines;  // of several with one identifier
+  for (const std::string_view line : lines) {
+    if (ParseStationLine(line, station)) lastLines[station.id] = line;
+  }
+  for (const std::string_view line : lines) {
     const std::vector<std::string_view> columns = SplitAtMost(line, '\t', kColumns);
-    std::int32_t id = 0;
-    if (columns.size() < kColumns || !ParseStationId(columns[0], id) || id <= 0) continue;
-    if (!ids_.insert(id).second) continue;
+    if (columns.size() < kColumns || !ParseStationLine(line, station)) continue;
+    const std::int32_t id = station.id;
+    if (lastLines[id].data() != line.data()) continue;
+    ids_.insert(id);
     const auto plain = [&](StationField field) {
       std::string text(columns[static_cast<std::size_t>(field)]);
       return UnscrambleText(text, alphabets);
