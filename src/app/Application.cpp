@@ -14,6 +14,7 @@
 #include "forms/MessageLoop.h"
 #include "mainwindow/SonaroFrm.h"
 #include "net/ServiceUrlTable.h"
+#include "platform/Shell.h"
 #include "platform/Sound.h"
 #include "playback/frmScan.h"
 #include "resources/texts/app.h"
@@ -44,8 +45,10 @@ Application::Application(const Platform& platform, const Strings& strings, const
       favorites_(data_),
       source_(stations_, personal_, alphabets_),
       players_(reg_, data_, platform.shell),
-      playerSetup_(reg_, platform.files, players_),
-      pages_(source_, data_, platform.shell),
+      installedPlayers_(reg_, data_, players_),
+      playerSetup_(reg_, platform.files, players_, installedPlayers_),
+      playerReporter_(players_, data_, source_, strings_, state_),
+      pages_(source_, data_, platform.shell, strings_),
       help_(reg_, pages_),
       player_(source_, recent_, players_, pages_, strings_),
       scan_(reg_, platform.clock, player_, source_, strings_),
@@ -59,6 +62,7 @@ Application::Application(const Platform& platform, const Strings& strings, const
           platform_, context_, data_, reg_, strings_, stations_, favorites_, help_})) {
   state_.commandLine = std::move(commandLine);
   player_.SetView(this);
+  pages_.SetSayWhyNot([this](const std::string& sentence) { SayWhyNot(sentence); });
   context_.clickSound = [this] {
     // Keys click unless the user switched it off.
     if (!EqualIgnoringCase(reg_.Setting(setting::kSoundClick), "False")) PlaySoundFile(kClickSound);
@@ -104,9 +108,20 @@ void Application::LoadFaceplate() {
   RefreshAllForms();
 }
 
+// True when the user has chosen a player.
+bool Application::ChoosePlayer(StartUpInfoPage page, HWND owner) {
+  LoadAlphabets(data_, alphabets_);  // the page counts links, perhaps before the data is read
+  return frmStartUpInfo(context_, StartUpInfoNeeds{reg_, help_, playerSetup_, playerReporter_}, page, "")
+             .ShowModal(owner) == 1;
+}
+
 void Application::ShowStartUpInfo(StartUpInfoPage page) {
-  frmStartUpInfo(context_, reg_, help_, playerSetup_, page,
-                 page == StartUpInfoPage::Proxy ? service_->DetectProxy() : std::string())
+  if (page != StartUpInfoPage::Proxy) {
+    ChoosePlayer(page, GetActiveWindow());
+    return;
+  }
+  frmStartUpInfo(context_, StartUpInfoNeeds{reg_, help_, playerSetup_, playerReporter_}, page,
+                 service_->DetectProxy())
       .ShowModal(GetActiveWindow());
 }
 
@@ -131,6 +146,7 @@ void Application::LoadMainWindow() {
       GuideData{data_, reg_, strings_, state_, stations_, personal_, extra_, recent_, favorites_, source_},
       player_, pages_, MakeMainWindowCalls());
   main_->Create();
+  platform_.shell.SetMainWindow(main_->Window());
   PlaceMainWindow();
   recent_.SetChanged([this] { main_->RecentChanged(); });
   schedule_->SetChanged([this] { main_->ScheduleChanged(); });
@@ -169,6 +185,16 @@ void Application::SayWhyNot(const std::string& sentence) {
                  .caption = strings_.Load(IDS_WHYNOT_CAPTION),
                  .text = sentence,
                  .firstButton = strings_.Load(IDS_APP_OK)});
+}
+
+bool Application::OfferPlayers(const std::string& sentence) {
+  const MessageResult result = messages_.Ask({.key = "CantFindProgram",
+                                              .caption = strings_.Load(IDS_WHYNOT_CAPTION),
+                                              .text = sentence,
+                                              .firstButton = strings_.Load(IDS_APP_OK),
+                                              .secondButton = strings_.Load(IDS_WHYNOT_CHOOSE_PLAYER)});
+  return result.answer == MessageAnswer::Second &&
+         ChoosePlayer(StartUpInfoPage::ChoosePlayer, GetActiveWindow());
 }
 
 void Application::FinishedLoading() {
@@ -239,10 +265,7 @@ MainWindowCalls Application::MakeMainWindowCalls() {
   calls.undoUpdate = [this] { service_->OfferUndo(main_->Window()); };
   calls.showOptions = [this] { ShowOptions(main_->Window()); };
   calls.showScan = [this] { ShowScan(); };
-  calls.addToScan = [this](const std::vector<std::string>& rowKeys) {
-    scan_.Add(rowKeys);
-    if (scanWindow_) scanWindow_->StationsAdded();
-  };
+  calls.addToScan = [this](const std::vector<std::string>& rowKeys) { scan_.Add(rowKeys); };
   calls.scanIsAt = [this](int x, int y) { return scanWindow_ && scanWindow_->IsAt({x, y}); };
   calls.dropOnScan = [this](const std::string& rowKey, int x, int y) {
     if (scanWindow_) scanWindow_->TakeDropped(rowKey, {x, y});

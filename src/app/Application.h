@@ -21,8 +21,10 @@
 #include "mainwindow/FavoriteGroups.h"
 #include "platform/Platform.h"
 #include "playback/ExtraLinks.h"
+#include "playback/InstalledPlayers.h"
 #include "playback/PersonalStations.h"
 #include "playback/PlayerLaunch.h"
+#include "playback/PlayerReport.h"
 #include "playback/PlayerSetup.h"
 #include "playback/Players.h"
 #include "playback/RecentList.h"
@@ -63,8 +65,9 @@ class Application final : private StartupView, private LaunchView {
   void LoadMainWindow() override;
   void ShowMainWindow() override;
   // What the player launch asks for.
-  void ShowNoPlayer() override { ShowStartUpInfo(StartUpInfoPage::NoPlayer); }
+  bool ShowNoPlayer() override { return ChoosePlayer(StartUpInfoPage::NoPlayer, GetActiveWindow()); }
   void SayWhyNot(const std::string& sentence) override;
+  bool OfferPlayers(const std::string& sentence) override;
 
   TrayActions MakeTrayActions();
   MainWindowCalls MakeMainWindowCalls();
@@ -76,6 +79,7 @@ class Application final : private StartupView, private LaunchView {
   std::vector<std::string> GroupNames() const;
   void ShowScan();
   void ShowOptions(HWND owner);
+  bool ChoosePlayer(StartUpInfoPage page, HWND owner);
   void EditPersonalStation(int index);
   void DeletePersonalStation(int index);
   void EditExtraLinks(std::int32_t stationId);
@@ -101,7 +105,9 @@ class Application final : private StartupView, private LaunchView {
   FavoriteGroups favorites_;
   StationSource source_;
   Players players_;
+  InstalledPlayers installedPlayers_;
   PlayerSetup playerSetup_;
+  PlayerReporter playerReporter_;
   WebPages pages_;
   HelpPages help_;
   PlayerLaunch player_;

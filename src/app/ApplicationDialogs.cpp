@@ -13,7 +13,6 @@
 #include "resources/texts/mainwindow.h"
 #include "schedule/frmAboutEventTime.h"
 #include "tray/frmOptions.h"
-#include "tray/frmStartUpInfo.h"
 
 namespace sonaro {
 
@@ -45,9 +44,7 @@ void Application::ShowOptions(HWND owner) {
   calls.testProxy = [this](HWND window, const ProxyServer& server) {
     service_->TestProxy(window, server.address, server.port);
   };
-  calls.choosePlayer = [this](HWND window) {
-    frmStartUpInfo(context_, reg_, help_, playerSetup_, StartUpInfoPage::ChoosePlayer, "").ShowModal(window);
-  };
+  calls.choosePlayer = [this](HWND window) { ChoosePlayer(StartUpInfoPage::ChoosePlayer, window); };
   calls.aboutTimes = [this](HWND window) {
     frmAboutEventTime(context_, platform_.clock, platform_.shell, help_).ShowModal(window);
   };

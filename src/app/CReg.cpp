@@ -46,6 +46,10 @@ std::string CReg::GetData(const std::string& key, const std::string& valueName) 
   return TextOf(registry_.ReadValue(mainKey_, key, valueName));
 }
 
+std::vector<std::string> CReg::ValueNames(const std::string& key) const {
+  return registry_.ValueNames(mainKey_, key);
+}
+
 void CReg::CheckKeyIsThere(const std::string& key) {
   if (!registry_.KeyExists(mainKey_, key)) registry_.CreateKey(mainKey_, key);
 }

@@ -6,6 +6,7 @@
 
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "platform/Registry.h"
 
@@ -33,6 +34,8 @@ class CReg {
   void DeleteValue(const std::string& key, const std::string& valueName);
   // The value's text up to its first zero character, or all of it when it has none.
   std::string GetData(const std::string& key, const std::string& valueName) const;
+  // The names of the key's values.
+  std::vector<std::string> ValueNames(const std::string& key) const;
   // Creates the key when it is not there.
   void CheckKeyIsThere(const std::string& key);
 

@@ -202,6 +202,14 @@ bool IniSettings::AddKey(std::string_view key) {
   return Changed();
 }
 
+std::vector<std::string> IniSettings::Names(std::string_view key) const {
+  std::vector<std::string> names;
+  if (const Key* const found = Find(key)) {
+    for (const auto& [folded, value] : found->values) names.push_back(value.name);
+  }
+  return names;
+}
+
 std::optional<std::string> IniSettings::Read(std::string_view key, std::string_view name) const {
   const Key* there = Find(key);
   if (!there) return std::nullopt;

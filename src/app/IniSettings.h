@@ -11,6 +11,7 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "base/Files.h"
 
@@ -38,6 +39,7 @@ class IniSettings {
   // Key and value names ignore letter case.
   bool HasKey(std::string_view key) const { return Find(key) != nullptr; }
   bool AddKey(std::string_view key);
+  std::vector<std::string> Names(std::string_view key) const;  // of the key's values
   std::optional<std::string> Read(std::string_view key, std::string_view name) const;
   // False when the key is missing or the file could not be saved. Nothing is saved when nothing changes.
   bool Write(std::string_view key, std::string_view name, std::string_view bytes);

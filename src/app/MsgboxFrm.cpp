@@ -12,6 +12,8 @@ namespace {
 
 constexpr int kOneKeyLayout = 1;
 constexpr int kWideKeyLayout = 2;
+constexpr int kWideSecondLayout = 3;
+constexpr std::size_t kLongWords = 14;  // bytes of what the second key has room for
 constexpr const char* kFilesMissing = "Files Missing";
 
 }  // namespace
@@ -37,8 +39,11 @@ const FormDesign& MsgboxFrm::Design() {
   static constexpr Place kOneKey[] = {{butMsg, {302, 202, 104, 28}}, {butMsg + 1, {}}};
   // Without the check box its room is the first key's, whose words can be longer.
   static constexpr Place kWideKey[] = {{butMsg, {176, 202, 124, 28}}, {chkDontAsk, {}}};
+  static constexpr Place kWideSecond[] = {
+      {butMsg, {150, 202, 96, 28}}, {butMsg + 1, {254, 202, 152, 28}}, {chkDontAsk, {}}};
   static constexpr Layout kLayouts[] = {{.places = kOneKey, .others = Layout::Others::AsDesigned},
-                                        {.places = kWideKey, .others = Layout::Others::AsDesigned}};
+                                        {.places = kWideKey, .others = Layout::Others::AsDesigned},
+                                        {.places = kWideSecond, .others = Layout::Others::AsDesigned}};
   static constexpr FormDesign kDesign = {.name = "MsgboxFrm",
                                          .caption = IDS_APP_TITLE,
                                          .size = {420, 248},
@@ -76,7 +81,7 @@ void MsgboxFrm::OnLoad() {
   if (message_.secondButton.empty()) {
     UseLayout(kOneKeyLayout);
   } else if (message_.dontAskText.empty()) {
-    UseLayout(kWideKeyLayout);
+    UseLayout(message_.secondButton.size() > kLongWords ? kWideSecondLayout : kWideKeyLayout);
   }
   SetTextAndGrow(lblMsg, message_.text);
   SetText(butMsg, message_.firstButton);

@@ -47,6 +47,7 @@ inline constexpr const char* kProxyAddress = "ProxyAddress";                    
 inline constexpr const char* kProxyPort = "ProxyPort";                           // Proxy, options: 80
 
 // Lists, playing and schedule
+inline constexpr const char* kPlayWith = "PlayWith";                             // playback/Players: the kind of the link decides
 inline constexpr const char* kScanTime = "ScanTime";                             // playback/StationScan: its default seconds
 inline constexpr const char* kSearchList = "SearchList";                         // mainwindow/SearchHistory: no earlier searches
 inline constexpr const char* kNoShowDelete = "NoShowDelete";                     // mainwindow, favourite groups: ask
@@ -113,5 +114,15 @@ inline constexpr const char* kPlayerVersion =
     "SOFTWARE\\Classes\\Software\\RealNetworks\\RealPlayer\\CurrentVersion";
 inline constexpr const char* kPlayer = "SOFTWARE\\Classes\\Software\\RealNetworks\\RealPlayer\\";
 inline constexpr const char* kPlayerMainApp = "\\Preferences\\MainApp";
+
+// HKEY_LOCAL_MACHINE and HKEY_CURRENT_USER: a value for each registered application, the key of its
+// capabilities; below that the classes of file that it opens, and its name.
+inline constexpr const char* kRegisteredApplications = "SOFTWARE\\RegisteredApplications";
+inline constexpr const char* kFileAssociations = "\\FileAssociations";
+inline constexpr const char* kApplicationName = "ApplicationName";
+
+// HKEY_CLASSES_ROOT: the command of a class, and the classes that a kind of file can be opened with.
+inline constexpr const char* kOpenCommand = "\\shell\\open\\command";
+inline constexpr const char* kOpenWith = "\\OpenWithProgids";
 
 }  // namespace sonaro::systemkey

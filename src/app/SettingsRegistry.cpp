@@ -96,6 +96,11 @@ bool SettingsRegistry::WriteValue(RootKey root, const std::string& key, const st
   return Note(written);
 }
 
+std::vector<std::string> SettingsRegistry::ValueNames(RootKey root, const std::string& key) {
+  if (const auto own = InFile(root, key)) return file_->Names(*own);
+  return system_.ValueNames(Home(root, key), key);
+}
+
 bool SettingsRegistry::RemoveValue(RootKey root, const std::string& key, const std::string& name) {
   if (const auto own = InFile(root, key)) return file_->Remove(*own, name);
   return !file_ && system_.RemoveValue(Home(root, key), key, name);

@@ -40,6 +40,7 @@ class SettingsRegistry final : public Registry {
                                        const std::string& name) override;
   bool WriteValue(RootKey root, const std::string& key, const std::string& name, ValueType type,
                   std::string_view bytes) override;
+  std::vector<std::string> ValueNames(RootKey root, const std::string& key) override;
   bool RemoveValue(RootKey root, const std::string& key, const std::string& name) override;
   void BeginWrites() override;
   void EndWrites() override;

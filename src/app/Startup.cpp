@@ -94,7 +94,7 @@ bool Startup::CheckDataFiles(bool askUser, bool& end) {
 
 void Startup::FirstRunChecks() {
   if (!IsDone(use_.reg, setting::kStartPlayer)) {
-    if (use_.players.RegisteredRealPlayer().empty()) {
+    if (use_.players.RegisteredRealPlayer().empty() && use_.players.Chosen().empty()) {
       view_.ShowStartUpInfo(StartUpInfoPage::Player);
     } else {
       use_.reg.SetSetting(setting::kStartPlayer, kDone);

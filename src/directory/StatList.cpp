@@ -148,6 +148,22 @@ void StatList::VisitStations(std::span<const std::int32_t> ids,
   });
 }
 
+void StatList::VisitAllStations(const std::function<void(const StationRecord&)>& visit) {
+  WithTable([&](Handle handle) {
+    StationRecord record;
+    status_ = vmx_->VmxBOF(handle);
+    while (status_ == TableStatus::Success) {
+      status_ = vmx_->VmxGet(handle, {}, VmxReadMode::Next, *buffer_);
+      if (status_ != TableStatus::Success) break;
+      record.StationId = buffer_->key;
+      buffer_->CopyFields(record.fields);
+      visit(record);
+    }
+    if (status_ == TableStatus::NotFound) status_ = TableStatus::Success;  // the end
+    return true;
+  });
+}
+
 std::vector<StationRecord> StatList::GetStations(std::span<const std::int32_t> ids) {
   return WithTable([&](Handle handle) { return GetAll(handle, ids); });
 }

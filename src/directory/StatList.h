@@ -67,6 +67,8 @@ class StatList {
   // for whoever needs a few fields of many stations.
   void VisitStations(std::span<const std::int32_t> ids,
                      const std::function<void(const StationRecord&)>& visit);
+  // The same for every station of the table, in key order.
+  void VisitAllStations(const std::function<void(const StationRecord&)>& visit);
   // One look-up: open, get, close.
   StationRecord FindStation(std::int32_t stationId);
 

@@ -126,17 +126,18 @@ inline constexpr int picDial = 2124;
 inline constexpr int picMark = 2125;
 inline constexpr int lblHead = 2141;
 inline constexpr int lblText = 2142;
-inline constexpr int txtProgram = 2143;
+inline constexpr int cmbPlayWith = 2143;
 inline constexpr int butBrowseIt = 2144;
 inline constexpr int butFindIt = 2145;
 inline constexpr int butTestProgramIt = 2146;
 inline constexpr int butPlayerWebSiteIt = 2147;
-inline constexpr int lblFound = 2148;
-inline constexpr int lblAsxFound = 2149;
+inline constexpr int lblFound = 2148;  // links of .asx programs
+inline constexpr int lblOthersFound = 2149;
 inline constexpr int lblProxyFound = 2150;
 inline constexpr int optUseProxy = 2151;  // 2 numbers: use it, connect directly
 inline constexpr int chkDontShow = 2153;
 inline constexpr int butDoneIt = 2154;
+inline constexpr int lblWebFound = 2155;
 
 // frmNewFavorite, frmRenameFav, dialogs of personal stations and extra links: 2201 to 2299.
 inline constexpr int txtGroupName = 2201;

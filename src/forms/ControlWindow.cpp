@@ -48,6 +48,10 @@ void AfterChange(FormParts& parts, const FormItem& item, UINT message) {
     const RECT box = {item.place.left, item.place.top, item.place.right, item.place.bottom};
     InvalidateRect(parts.window, &box, FALSE);
   }
+  // A label's text is a request from outside when the program did not set it itself.
+  if (message == WM_SETTEXT && item.KindOf() == Kind::Label && !parts.quiet) {
+    parts.Handle({.id = item.Id(), .kind = FormEvent::Kind::Change});
+  }
   if (message == WM_SETTEXT && item.KindOf() == Kind::StateLabel) {
     constexpr DWORD kLiveRegionChanged = 0x8019;
     NotifyWinEvent(kLiveRegionChanged, item.window, OBJID_CLIENT, CHILDID_SELF);

@@ -1,9 +1,9 @@
 #include "mainwindow/SonaroFrmBrowsePane.h"
 
+#include "app/FigureText.h"
 #include "forms/ControlIds.h"
 #include "forms/Form.h"
 #include "forms/TreeView.h"
-#include "mainwindow/FigureText.h"
 
 namespace sonaro {
 

@@ -2,10 +2,10 @@
 
 #include <algorithm>
 
+#include "app/FigureText.h"
 #include "app/Strings.h"
 #include "forms/ControlIds.h"
 #include "forms/Form.h"
-#include "mainwindow/FigureText.h"
 #include "mainwindow/SortEntries.h"
 #include "mainwindow/StationListing.h"
 #include "resources/texts/mainwindow.h"

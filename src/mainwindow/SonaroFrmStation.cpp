@@ -37,8 +37,8 @@ void SonaroFrm::butGoMediaLink_Click(int link) {
   while (link == 0 && wanted + 1 < StationDetail::kPlayKeys && !shown_.playKeys[wanted].shown) ++wanted;
   if (shown_.playKeys[wanted].shown) {
     Play(shown_.playKeys[wanted]);
-  } else if (link == 0 && shown_.hasWebSite) {
-    butGoWebPageIt_Click();
+  } else if (link == 0 && shown_.station) {
+    Play(shown_.playKeys[0]);  // without a link of its own: its web site, and it was listened to all the same
   }
 }
 

@@ -3,13 +3,13 @@
 #include <algorithm>
 
 #include "app/CReg.h"
+#include "app/FigureText.h"
 #include "app/SettingNames.h"
 #include "app/Strings.h"
 #include "directory/StatList.h"
 #include "forms/ControlIds.h"
 #include "forms/Form.h"
 #include "forms/ProgressScale.h"
-#include "mainwindow/FigureText.h"
 #include "mainwindow/MainModels.h"
 #include "mainwindow/SonaroFrm_panes.h"
 #include "resources/texts/mainwindow.h"

@@ -5,6 +5,7 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace sonaro {
 
@@ -34,6 +35,8 @@ class Registry {
   // Writes exactly these bytes. Does not create the key: false when it cannot be opened for writing.
   virtual bool WriteValue(RootKey root, const std::string& key, const std::string& name, ValueType type,
                           std::string_view bytes) = 0;
+  // The names of all values of a key; the default value's is "". Empty when the key may not be read.
+  virtual std::vector<std::string> ValueNames(RootKey root, const std::string& key) = 0;
   virtual bool RemoveValue(RootKey root, const std::string& key, const std::string& name) = 0;
   // Brackets around many writes, which may be nested: where values are kept in a file it is saved once, at
   // the outer end.

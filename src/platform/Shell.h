@@ -14,6 +14,9 @@ struct FoundProgram {
 class Shell {
  public:
   virtual ~Shell() = default;
+  // The program's main window as the platform's own handle: what the platform itself has to say about a
+  // program that is opened stands before it. nullptr, as at the start: before no window.
+  virtual void SetMainWindow(void* window) = 0;
   // The program registered for an existing file `name` in `folder` (the platform looks at the real file).
   virtual FoundProgram FindProgramFor(const std::string& name, const std::string& folder) = 0;
   // Verb "Open", normal window: `program` gets `parameters` verbatim as its command line. True when started.

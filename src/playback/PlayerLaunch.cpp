@@ -38,27 +38,33 @@ LaunchOutcome FromWebPage(WebPageOutcome outcome) {
     case WebPageOutcome::NoAddress:
       return LaunchOutcome::NoLink;
     case WebPageOutcome::Refused:
-      return LaunchOutcome::RefusedLink;
+      return LaunchOutcome::RefusedPage;
     case WebPageOutcome::NotStarted:
       break;
   }
-  return LaunchOutcome::NotStarted;
-}
-
-bool IsRealPlayer(std::string_view path) {
-  const std::string_view fileName = path.substr(path.rfind('\\') + 1);
-  return StartsWithIgnoringCase(fileName, "r");
+  return LaunchOutcome::PageNotStarted;
 }
 
 }  // namespace
 
 void PlayerLaunch::LaunchStation(const std::string& key, PlayMode mode) {
-  const LaunchOutcome outcome = TryLaunch(key, mode);
-  if (!view_) return;
-  if (outcome == LaunchOutcome::NoPlayer) {
-    ShowNoPlayerGuarded();
-  } else if (const std::string sentence = WhyNot(outcome); !sentence.empty()) {
-    view_->SayWhyNot(sentence);
+  while (Tell(TryLaunch(key, mode))) {
+  }
+}
+
+// True when the user has chosen a player, so that it is worth another try.
+bool PlayerLaunch::Tell(LaunchOutcome outcome) {
+  const std::string sentence = WhyNot(outcome);
+  if (!view_ || sentence.empty()) return false;
+  switch (outcome) {
+    case LaunchOutcome::NoPlayer:
+      return ShowNoPlayer();
+    case LaunchOutcome::NoAsxProgram:
+    case LaunchOutcome::NotStarted:
+      return view_->OfferPlayers(sentence);
+    default:
+      view_->SayWhyNot(sentence);
+      return false;
   }
 }
 
@@ -110,10 +116,12 @@ LaunchOutcome PlayerLaunch::HandOver(const std::string& linkText) {
   if (TrimBlanks(link.address).empty()) return LaunchOutcome::NoLink;
   const std::optional<std::string> argument = PlayerArgument(link.address);
   if (!argument) return LaunchOutcome::RefusedLink;
-  if (link.way == PlayWay::AsxProgram) {
+  if (const std::string chosen = players_.Chosen(); !chosen.empty()) {
+    player = chosen;
+  } else if (link.way == PlayWay::AsxProgram) {
     player = players_.FindAsxProgram();
     if (player.empty()) return LaunchOutcome::NoAsxProgram;
-  } else if (!IsRealPlayer(player)) {
+  } else if (!Players::IsRealPlayer(player)) {
     return LaunchOutcome::NoPlayer;
   }
   return players_.Play(player, *argument) ? LaunchOutcome::Started : LaunchOutcome::NotStarted;
@@ -125,17 +133,27 @@ LaunchOutcome PlayerLaunch::OpenWebSite(const StationKey& station) {
 }
 
 // A launch by a timer can come while the dialog of an earlier one is open; there is only ever one.
-void PlayerLaunch::ShowNoPlayerGuarded() {
-  if (noPlayerGuard_ == kNoPlayerShown) return;
+bool PlayerLaunch::ShowNoPlayer() {
+  if (!view_ || noPlayerGuard_ == kNoPlayerShown) return false;
   noPlayerGuard_ = kNoPlayerShown;
-  view_->ShowNoPlayer();
+  const bool chosen = view_->ShowNoPlayer();
   noPlayerGuard_ = 0;
+  return chosen;
+}
+
+bool PlayerLaunch::AnythingPlays() const {
+  return !players_.Chosen().empty() || Players::IsRealPlayer(players_.FindRealPlayer(false)) ||
+         !players_.FindAsxProgram().empty();
 }
 
 std::string PlayerLaunch::WhyNot(LaunchOutcome outcome) const {
   switch (outcome) {
     case LaunchOutcome::NoLink:
       return strings_.Load(IDS_WHYNOT_NO_LINK);
+    case LaunchOutcome::RefusedPage:
+      return pages_.WhyNot(WebPageOutcome::Refused);
+    case LaunchOutcome::PageNotStarted:
+      return pages_.WhyNot(WebPageOutcome::NotStarted);
     case LaunchOutcome::RefusedLink:
       return strings_.Load(IDS_WHYNOT_REFUSED_LINK);
     case LaunchOutcome::NoPlayer:

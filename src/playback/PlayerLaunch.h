@@ -17,23 +17,28 @@ class WebPages;
 
 // What became of a request.
 enum class LaunchOutcome {
-  Started,       // a player was given the link
-  WebPage,       // the browser was given the page
-  NoLink,        // there is nothing to play
-  RefusedLink,   // the link is not safe to hand over
-  NoPlayer,      // no RealPlayer-compatible player on this machine
-  NoAsxProgram,  // no program for .asx files
-  NotStarted     // the program was found but did not start
+  Started,        // a player was given the link
+  WebPage,        // the browser was given the page
+  NoLink,         // there is nothing to play
+  RefusedLink,    // the link is not one that a player may be handed
+  RefusedPage,    // nor the page one that the browser may be
+  NoPlayer,       // no RealPlayer-compatible player on this machine
+  NoAsxProgram,   // no program for .asx files
+  NotStarted,     // the player was found but did not start
+  PageNotStarted  // the program that opens web pages did not start
 };
 
 // What only a window can do.
 class LaunchView {
  public:
   virtual ~LaunchView() = default;
-  // Shows the "NoPlayer" page of frmStartUpInfo and returns when it is closed.
-  virtual void ShowNoPlayer() = 0;
+  // Shows the "NoPlayer" page of frmStartUpInfo and returns when it is closed. True when the user has chosen
+  // a player there.
+  virtual bool ShowNoPlayer() = 0;
   // Tells the user in one sentence why nothing plays.
   virtual void SayWhyNot(const std::string& sentence) = 0;
+  // The same, with the choice of a player as a way out. True when the user has chosen one.
+  virtual bool OfferPlayers(const std::string& sentence) = 0;
 };
 
 class PlayerLaunch {
@@ -50,13 +55,18 @@ class PlayerLaunch {
   }
 
   // Plays a station. `key` is what `mode` says: a decimal station identifier, an index, or a link. Says to
-  // the user why nothing plays.
+  // the user why nothing plays; when a player is chosen thereupon, it plays after all.
   void LaunchStation(const std::string& key, PlayMode mode);
   // The same without a word, for those who play by themselves and must not stop in a dialog.
   LaunchOutcome TryLaunch(const std::string& key, PlayMode mode);
   // The same for a station as a whole: its first link, or the alternate one. Never opens its web site
   // instead.
   LaunchOutcome TryLaunch(const StationKey& station);
+
+  // Shows the "NoPlayer" page unless it is shown already. True when the user has chosen a player there.
+  bool ShowNoPlayer();
+  // False when no program on this computer plays any stream link.
+  bool AnythingPlays() const;
 
   // One sentence for the user; "" for an outcome that needs none.
   std::string WhyNot(LaunchOutcome outcome) const;
@@ -65,7 +75,7 @@ class PlayerLaunch {
   std::string LinkFor(const StationKey& station, const std::string& key, PlayMode mode) const;
   LaunchOutcome HandOver(const std::string& linkText);
   LaunchOutcome OpenWebSite(const StationKey& station);
-  void ShowNoPlayerGuarded();
+  bool Tell(LaunchOutcome outcome);
 
   static constexpr int kNoPlayerShown = 100;
 

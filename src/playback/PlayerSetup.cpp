@@ -1,6 +1,9 @@
 #include "playback/PlayerSetup.h"
 
+#include <algorithm>
+
 #include "app/CReg.h"
+#include "app/SettingNames.h"
 #include "base/Files.h"
 #include "base/Text.h"
 #include "playback/PlayLink.h"
@@ -8,42 +11,32 @@
 
 namespace sonaro {
 
-namespace {
-
-constexpr const char* kPlayerKey = "SOFTWARE\\Classes\\Software\\RealNetworks\\RealPlayer";
-constexpr const char* kOwnVersion = "Sonaro";  // for a player whose installation registered none
-
-std::string FileNameOf(const std::string& path) { return path.substr(path.find_last_of("\\/") + 1); }
-
-}  // namespace
-
-std::string PlayerSetup::Find() const {
-  const std::string registered = players_.FindRealPlayer(false);
-  return registered.empty() ? players_.FindRealPlayer(true) : registered;
+std::vector<PlayerProgram> PlayerSetup::Programs() const {
+  std::vector<PlayerProgram> programs = installed_.Find();
+  const std::string chosen = Chosen();
+  const bool offered = std::any_of(programs.begin(), programs.end(), [&](const PlayerProgram& program) {
+    return EqualIgnoringCase(program.path, chosen);
+  });
+  if (!chosen.empty() && !offered)
+    programs.push_back({chosen.substr(chosen.find_last_of("\\/") + 1), chosen});
+  return programs;
 }
 
-std::string PlayerSetup::FindAsxProgram() const { return players_.FindAsxProgram(); }
+std::string PlayerSetup::Chosen() const { return players_.Chosen(); }
 
 PlayerChoiceOutcome PlayerSetup::Choose(const std::string& path) {
-  if (path.empty() || !files_.Exists(path)) return PlayerChoiceOutcome::NoSuchFile;
-  if (!StartsWithIgnoringCase(FileNameOf(path), "r")) return PlayerChoiceOutcome::NotCompatible;
-  const std::string versionKey = std::string(kPlayerKey) + "\\CurrentVersion";
-  std::string version = reg_.GetData(versionKey, "");
-  if (version.empty()) {
-    version = kOwnVersion;
-    reg_.CheckKeyIsThere(versionKey);
-    reg_.SetData(versionKey, "", version);
-  }
-  const std::string programKey = std::string(kPlayerKey) + "\\" + version + "\\Preferences\\MainApp";
-  reg_.CheckKeyIsThere(programKey);
-  reg_.SetData(programKey, "", path);
-  return players_.RegisteredRealPlayer() == path ? PlayerChoiceOutcome::Stored
-                                                 : PlayerChoiceOutcome::NotStored;
+  if (path == Chosen()) return PlayerChoiceOutcome::Stored;
+  if (!path.empty() && !files_.Exists(path)) return PlayerChoiceOutcome::NoSuchFile;
+  reg_.SetSetting(setting::kPlayWith, path);
+  return Chosen() == path ? PlayerChoiceOutcome::Stored : PlayerChoiceOutcome::NotStored;
 }
 
 bool PlayerSetup::Test(const std::string& path, const std::string& testLink) const {
   const std::optional<std::string> link = PlayerArgument(testLink);
-  return link && files_.Exists(path) && players_.Play(path, *link);
+  std::string program = path;
+  if (program.empty()) program = players_.FindRealPlayer(false);
+  if (program.empty()) program = players_.FindAsxProgram();
+  return link && files_.Exists(program) && players_.Play(program, *link);
 }
 
 }  // namespace sonaro

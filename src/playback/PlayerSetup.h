@@ -1,8 +1,11 @@
-// Lets the user find, choose and try the RealPlayer-compatible player. The partner of frmStartUpInfo's player
-// pages. A choice is stored where the player's own installation would store it, so that the look-up finds it.
+// Lets the user choose and try the program that plays every stream link. The partner of frmStartUpInfo's
+// player pages. A choice is the setting "PlayWith"; without one the kind of the link decides.
 #pragma once
 
 #include <string>
+#include <vector>
+
+#include "playback/InstalledPlayers.h"
 
 namespace sonaro {
 
@@ -10,29 +13,28 @@ class CReg;
 class Files;
 class Players;
 
-enum class PlayerChoiceOutcome {
-  Stored,
-  NoSuchFile,
-  NotCompatible,  // its file name does not begin with "r"
-  NotStored
-};
+enum class PlayerChoiceOutcome { Stored, NoSuchFile, NotStored };
 
 class PlayerSetup {
  public:
-  PlayerSetup(CReg& reg, Files& files, const Players& players)
-      : reg_(reg), files_(files), players_(players) {}
+  PlayerSetup(CReg& reg, Files& files, const Players& players, const InstalledPlayers& installed)
+      : reg_(reg), files_(files), players_(players), installed_(installed) {}
 
-  // Full path, or "".
-  std::string Find() const;
-  std::string FindAsxProgram() const;
-  PlayerChoiceOutcome Choose(const std::string& path);
-  // Plays the service's test link with the program. False when it did not start.
+  // What can be chosen by name: the installed players, and the chosen program when it is none of them.
+  std::vector<PlayerProgram> Programs() const;
+  // Full path, or "" when the kind of the link decides.
+  std::string Chosen() const;
+  // Any executable; "" leaves it to the kind of the link again.
+  [[nodiscard]] PlayerChoiceOutcome Choose(const std::string& path);
+  // Plays the service's test link with the program, or with the one that the system has when it is "". False
+  // when none did start.
   bool Test(const std::string& path, const std::string& testLink) const;
 
  private:
   CReg& reg_;
   Files& files_;
   const Players& players_;
+  const InstalledPlayers& installed_;
 };
 
 }  // namespace sonaro

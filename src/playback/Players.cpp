@@ -5,6 +5,7 @@
 #include "app/CReg.h"
 #include "app/SettingNames.h"
 #include "base/DataFolder.h"
+#include "base/Text.h"
 #include "platform/Shell.h"
 
 namespace sonaro {
@@ -40,13 +41,24 @@ std::string Players::RegisteredRealPlayer() const { return RegisteredPath(Regist
 std::string Players::FindRealPlayer(bool force) const {
   const std::string version = RegisteredVersion();
   if (!version.empty() && !force) return RegisteredPath(version);
-  const std::string path = AssociatedProgram("dummy.ram");
+  const std::string path = ProgramOfMarker("dummy.ram");
   return !path.empty() && data_.FileSystem().Exists(path) ? path : std::string();
 }
 
-std::string Players::FindAsxProgram() const { return AssociatedProgram("dummy.asx"); }
+std::string Players::FindAsxProgram() const { return ProgramOfMarker("dummy.asx"); }
 
-std::string Players::AssociatedProgram(const std::string& markerFile) const {
+std::string Players::AssociatedProgram(const std::string& ending) const {
+  const std::string marker = "dummy" + ending;
+  const std::string program = ProgramOfMarker(marker);
+  data_.FileSystem().Remove(data_.Path("\\" + marker));
+  return program;
+}
+
+bool Players::IsRealPlayer(std::string_view path) {
+  return StartsWithIgnoringCase(path.substr(path.rfind('\\') + 1), "r");
+}
+
+std::string Players::ProgramOfMarker(const std::string& markerFile) const {
   constexpr std::string_view kExe = ".exe";
   const std::string marker = data_.Path("\\" + markerFile);
   data_.FileSystem().Remove(marker);
@@ -58,6 +70,8 @@ std::string Players::AssociatedProgram(const std::string& markerFile) const {
   const std::size_t exe = found.path.find(kExe);
   return exe == std::string::npos ? found.path : found.path.substr(0, exe + kExe.size());
 }
+
+std::string Players::Chosen() const { return std::string(TrimBlanks(reg_.Setting(setting::kPlayWith))); }
 
 bool Players::Play(const std::string& program, const std::string& link) const {
   return shell_.Open(program, link, data_.Folder());

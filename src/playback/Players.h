@@ -2,6 +2,7 @@
 #pragma once
 
 #include <string>
+#include <string_view>
 
 namespace sonaro {
 
@@ -20,6 +21,14 @@ class Players {
   std::string RegisteredRealPlayer() const;
   // The program that is associated with .asx files, or "".
   std::string FindAsxProgram() const;
+  // The program that is associated with files of this ending (".mp3"), in lower case and cut after the first
+  // ".exe", or "". Leaves no file behind.
+  std::string AssociatedProgram(const std::string& ending) const;
+  // Whether the path of a program is that of a RealPlayer-compatible player: its file name begins with "r".
+  static bool IsRealPlayer(std::string_view path);
+
+  // The program that the user has chosen for every stream link, or "" when the kind of the link decides.
+  std::string Chosen() const;
 
   // Opens `program` with `link` as its only parameter, exactly as it stands. The caller has checked the link.
   bool Play(const std::string& program, const std::string& link) const;
@@ -27,9 +36,9 @@ class Players {
  private:
   std::string RegisteredVersion() const;
   std::string RegisteredPath(const std::string& version) const;
-  // The program for an empty file of this name, which is made anew in the program folder: the platform looks
-  // at a real file. In lower case, cut after the first ".exe".
-  std::string AssociatedProgram(const std::string& markerFile) const;
+  // The program for an empty file of this name, which is made anew in the program folder and stays: the
+  // platform looks at a real file. In lower case, cut after the first ".exe".
+  std::string ProgramOfMarker(const std::string& markerFile) const;
 
   CReg& reg_;
   DataFolder& data_;

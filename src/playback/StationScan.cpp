@@ -47,7 +47,11 @@ void StationScan::StartPauseContinue() {
       EnableTimer(false);
       break;
     case ScanState::Paused:
-      Resume();
+      if (currentWaits_) {
+        PlayCurrent();
+      } else {
+        Resume();
+      }
       break;
     case ScanState::Idle:
       if (queue_.empty()) return;
@@ -60,6 +64,7 @@ void StationScan::StartPauseContinue() {
 
 void StationScan::MoveNext() {
   elapsed_ = kNeverShown;
+  currentWaits_ = false;
   if (state_ == ScanState::Scanning) return;
   Resume();
   ShowState();
@@ -114,7 +119,8 @@ void StationScan::Clear() {
 }
 
 void StationScan::Tick() {
-  if (state_ != ScanState::Scanning) return;  // a tick that was under way when the timer was stopped
+  // Also a tick that was under way when the timer was stopped.
+  if (state_ != ScanState::Scanning || launching_) return;
   elapsed_ = CountTick();
   if (elapsed_ < kNeverShown) {
     timeLeft_ = scanTime_ - elapsed_;
@@ -148,17 +154,40 @@ void StationScan::CountFromNow() {
   countedFrom_ = clock_.Ticks() - static_cast<std::uint64_t>(elapsed_) * kSecond;
 }
 
-// A station that does not play is over with the next tick; a dialog would stop the whole scan.
 void StationScan::PlayFirst() {
   const StationKey key = queue_.front();
   queue_.pop_front();
   if (view_) view_->FirstQueueRowLeft();
   current_ = Describe(key);
-  current_->reason = player_.WhyNot(player_.TryLaunch(key));
-  elapsed_ = 0;
-  Resume();
-  if (!current_->reason.empty()) elapsed_ = kNeverShown;
   ShowLists();
+  PlayCurrent();
+}
+
+// A station that does not play is over with the next tick; a dialog would stop the whole scan. Where nothing
+// plays at all the scan waits instead.
+void StationScan::PlayCurrent() {
+  const unsigned launch = ++launch_;
+  state_ = ScanState::Scanning;
+  currentWaits_ = false;
+  elapsed_ = 0;
+  launching_ = true;
+  ShowState();
+  const LaunchOutcome outcome = player_.TryLaunch(StationKey(current_->key));
+  if (launch != launch_) return;  // ended meanwhile, perhaps begun anew
+  launching_ = false;
+  const bool missing = outcome == LaunchOutcome::NoPlayer || outcome == LaunchOutcome::NoAsxProgram;
+  if (missing && !player_.AnythingPlays()) return PauseForPlayer();
+  current_->reason = player_.WhyNot(outcome);
+  if (!current_->reason.empty()) elapsed_ = kNeverShown;
+  if (state_ == ScanState::Scanning) Resume();
+}
+
+void StationScan::PauseForPlayer() {
+  state_ = ScanState::Paused;
+  currentWaits_ = true;
+  EnableTimer(false);
+  ShowState();
+  player_.ShowNoPlayer();
 }
 
 void StationScan::AddCurrentToHistory() {
@@ -169,6 +198,9 @@ void StationScan::AddCurrentToHistory() {
 
 void StationScan::GoIdle() {
   state_ = ScanState::Idle;
+  ++launch_;
+  launching_ = false;
+  currentWaits_ = false;
   current_.reset();
   elapsed_ = 0;
   EnableTimer(false);

@@ -122,6 +122,8 @@ class StationScan {
   void ReadScanTime();
   ScanRow Describe(const StationKey& key) const;
   void PlayFirst();
+  void PlayCurrent();
+  void PauseForPlayer();
   void AddCurrentToHistory();
   void GoIdle();
   void Resume();
@@ -142,7 +144,12 @@ class StationScan {
   std::vector<ScanRow> history_;
   ScanState state_ = ScanState::Idle;
   std::optional<ScanRow> current_;
-  int elapsed_ = 0;  // whole seconds of the current station
+  // Starting a program lets messages in: ticks, keys and the closing of the window can come before it
+  // returns.
+  unsigned launch_ = 0;        // number of the latest launch, or of the end that made it void
+  bool launching_ = false;     // no seconds are counted
+  bool currentWaits_ = false;  // for a player: to be launched when the scan goes on
+  int elapsed_ = 0;            // whole seconds of the current station
   int scanTime_ = kDefault;
   int timeLeft_ = 0;
   std::uint64_t countedFrom_ = 0;  // clock ticks at which the current station had been playing for 0 seconds

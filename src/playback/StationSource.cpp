@@ -1,8 +1,10 @@
 #include "playback/StationSource.h"
 
+#include "base/Text.h"
 #include "directory/Scrambling.h"
 #include "directory/StatList.h"
 #include "playback/PersonalStations.h"
+#include "playback/PlayLink.h"
 
 namespace sonaro {
 
@@ -52,6 +54,25 @@ std::string StationSource::FirstLinkOf(const StationKey& key) const {
 std::string StationSource::AlternateLinkOf(const StationKey& key) const {
   if (key.kind != StationKey::Kind::Directory) return {};
   return Record(key.number)[StationField::AlternateLink];
+}
+
+LinkCounts StationSource::CountLinks() const {
+  LinkCounts counts;
+  stations_.VisitAllStations([&](const StationRecord& record) {
+    std::string link;
+    for (const StationField field : {StationField::LinkOne, StationField::LinkTwo, StationField::LinkThree,
+                                     StationField::AlternateLink}) {
+      if (!TrimBlanks(link).empty()) break;
+      link = record[field];
+      UnscrambleText(link, alphabets_);
+    }
+    if (TrimBlanks(link).empty()) return;
+    const PlayWay way = PlayLink::FromText(link).way;
+    ++(way == PlayWay::AsxProgram ? counts.asxProgram
+       : way == PlayWay::WebPage  ? counts.webPage
+                                  : counts.realPlayer);
+  });
+  return counts;
 }
 
 const PersonalStation* StationSource::Personal(const StationKey& key) const {

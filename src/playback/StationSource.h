@@ -2,6 +2,7 @@
 // user's own, in plain text. Owned by Application; changes nothing.
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
 #include <string>
 
@@ -25,6 +26,14 @@ enum class PlayMode : int {
   KeyItself = 20   // the key is the link
 };
 
+// How many stations of the directory are played by whom, counted by the link that a play of the station
+// takes.
+struct LinkCounts {
+  std::size_t asxProgram = 0;
+  std::size_t realPlayer = 0;
+  std::size_t webPage = 0;
+};
+
 class StationSource {
  public:
   StationSource(StatList& stations, const PersonalStations& personal, const ScramblingAlphabets& alphabets)
@@ -42,6 +51,8 @@ class StationSource {
   std::string FirstLinkOf(const StationKey& key) const;
   // The link to play when the one asked for is empty. Personal stations have none.
   std::string AlternateLinkOf(const StationKey& key) const;
+  // One pass over the whole table, so not for every day.
+  LinkCounts CountLinks() const;
 
  private:
   const PersonalStation* Personal(const StationKey& key) const;

@@ -1,10 +1,12 @@
 #include "playback/WebPages.h"
 
+#include "app/Strings.h"
 #include "base/DataFolder.h"
 #include "base/Text.h"
 #include "platform/Shell.h"
 #include "playback/StationSource.h"
 #include "playback/WebAddress.h"
+#include "resources/texts/playback.h"
 
 namespace sonaro {
 
@@ -17,6 +19,25 @@ std::string WithScheme(const std::string& address) {
 }
 
 }  // namespace
+
+void WebPages::OpenWebPage(const std::string& textOrKey) {
+  const std::string sentence = WhyNot(Open(textOrKey));
+  if (!sentence.empty() && sayWhyNot_) sayWhyNot_(sentence);
+}
+
+std::string WebPages::WhyNot(WebPageOutcome outcome) const {
+  switch (outcome) {
+    case WebPageOutcome::NoAddress:
+      return strings_.Load(IDS_WHYNOT_NO_PAGE);
+    case WebPageOutcome::Refused:
+      return strings_.Load(IDS_WHYNOT_REFUSED_PAGE);
+    case WebPageOutcome::NotStarted:
+      return strings_.Load(IDS_WHYNOT_PAGE_NOT_STARTED);
+    case WebPageOutcome::Opened:
+      break;
+  }
+  return {};
+}
 
 WebPageOutcome WebPages::Open(const std::string& textOrKey) {
   if (BeginsLikeAddress(textOrKey)) return RunBrowser(textOrKey);

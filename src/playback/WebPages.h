@@ -1,6 +1,7 @@
 // Opens web pages through the small program lweb, which lies beside the program. Owned by Application.
 #pragma once
 
+#include <functional>
 #include <string>
 
 #include "app/WebPageOpener.h"
@@ -10,25 +11,39 @@ namespace sonaro {
 class DataFolder;
 class Shell;
 class StationSource;
+class Strings;
 
-enum class WebPageOutcome { Opened, NoAddress, Refused /* not an address that may be opened */, NotStarted };
+enum class WebPageOutcome {
+  Opened,
+  NoAddress,
+  Refused,    // not an address that may be opened
+  NotStarted  // lweb is missing or did not start
+};
 
 class WebPages : public WebPageOpener {
  public:
-  WebPages(const StationSource& stations, DataFolder& data, Shell& shell)
-      : stations_(stations), data_(data), shell_(shell) {}
+  WebPages(const StationSource& stations, DataFolder& data, Shell& shell, const Strings& strings)
+      : stations_(stations), data_(data), shell_(shell), strings_(strings) {}
 
-  // A text that does not begin with "http" is a station's token, whose web site is opened.
-  void OpenWebPage(const std::string& textOrKey) override { Open(textOrKey); }
-  // The same, with the outcome.
+  // Tells the user in one sentence why a page was not opened. May be set late; without it nothing is said.
+  void SetSayWhyNot(std::function<void(const std::string& sentence)> say) { sayWhyNot_ = std::move(say); }
+
+  // A text that does not begin with "http" is a station's token, whose web site is opened. Says to the user
+  // why nothing opens.
+  void OpenWebPage(const std::string& textOrKey) override;
+  // The same without a word, with the outcome.
   WebPageOutcome Open(const std::string& textOrKey);
   // Starts lweb with the address, which must be one that may be opened (IsWebAddress).
   WebPageOutcome RunBrowser(const std::string& url);
+  // One sentence for the user; "" for an outcome that needs none.
+  std::string WhyNot(WebPageOutcome outcome) const;
 
  private:
   const StationSource& stations_;
   DataFolder& data_;
   Shell& shell_;
+  const Strings& strings_;
+  std::function<void(const std::string&)> sayWhyNot_;
 };
 
 }  // namespace sonaro

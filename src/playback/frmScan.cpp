@@ -66,11 +66,6 @@ void frmScan::OnLoad() {
 
 void frmScan::OnUnload() { scan_.Close(); }
 
-void frmScan::StationsAdded() {
-  if (IsOpen()) SetText(lblStationsAdd, "");
-  ShowLists();
-}
-
 bool frmScan::IsAt(POINT screen) const {
   return IsOpen() && GetAncestor(WindowFromPoint(screen), GA_ROOT) == Window();
 }

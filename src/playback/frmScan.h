@@ -25,8 +25,6 @@ class frmScan final : public Form, private ScanView {
   frmScan(FormContext& context, StationScan& scan, HelpPages& help, Groups groups);
   ~frmScan() override;
 
-  // Stations were added to the queue from elsewhere.
-  void StationsAdded();
   // Whether the window is what the user sees at the point of the screen.
   bool IsAt(POINT screen) const;
   // A station was dropped there: it comes before the row of the queue at the point, else at the end.

@@ -104,7 +104,7 @@ const FormDesign& frmScan::Design() {
       {.id = butDoneScanIt, .kind = Kind::PushKey, .text = IDS_SCAN_W_CLOSE, .at = {610, 432, 96, 30}},
       HelpKey(648),
       CloseKey(680),
-      // Its text is set by whoever adds stations; it is never shown.
+      // Whoever sets its caption, another process too, adds the stations that it names; it is never shown.
       {.id = lblStationsAdd, .kind = Kind::Label, .at = {14, 10, 10, 10}, .flags = kHidden},
   };
   static constexpr Place kCompact[] = {

@@ -1,5 +1,7 @@
 #include "tray/frmStartUpInfo.h"
 
+#include <algorithm>
+
 #include "app/CReg.h"
 #include "app/HelpPages.h"
 #include "app/ServiceHosts.h"
@@ -8,6 +10,8 @@
 #include "forms/ControlIds.h"
 #include "forms/DialogRows.h"
 #include "forms/FileDialog.h"
+#include "forms/WideText.h"
+#include "playback/PlayerReport.h"
 #include "playback/PlayerSetup.h"
 #include "resources/texts/playback.h"
 #include "resources/texts/tray.h"
@@ -22,30 +26,18 @@ constexpr unsigned char kProxyPane = 2;
 constexpr const char* kPlayerHelp = "9036.html";
 constexpr const char* kProxyHelp = "index.html";
 
-struct PageTexts {
-  int title;
-  int head;
-  int text;
-};
-
-PageTexts TextsOf(StartUpInfoPage page) {
-  switch (page) {
-    case StartUpInfoPage::Proxy:
-      return {IDS_STARTUP_TITLE, IDS_STARTUP_PROXY_HEAD, IDS_STARTUP_PROXY_TEXT};
-    case StartUpInfoPage::NoPlayer:
-      return {IDS_STARTUP_TITLE, IDS_STARTUP_PLAYER_HEAD, IDS_NOPLAYER_TEXT};
-    case StartUpInfoPage::ChoosePlayer:
-      return {IDS_STARTUP_CHOOSE_TITLE, IDS_STARTUP_CHOOSE_HEAD, IDS_STARTUP_CHOOSE_TEXT};
-    case StartUpInfoPage::Player:
-      break;
-  }
-  return {IDS_STARTUP_TITLE, IDS_STARTUP_PLAYER_HEAD, IDS_STARTUP_PLAYER_TEXT};
-}
-
 // The setting that keeps the page from coming again at the start; nullptr for a page that does not.
 const char* CheckOf(StartUpInfoPage page) {
   if (page == StartUpInfoPage::Player) return setting::kStartPlayer;
   return page == StartUpInfoPage::Proxy ? setting::kStartProxy : nullptr;
+}
+
+constexpr ControlRow ReportLine(int id, int y) {
+  return {.id = id,
+          .kind = Kind::StateLabel,
+          .at = {30, y, 540, 20},
+          .flags = kOnGlass | kNoPrefix,
+          .pane = kPlayerPane};
 }
 
 }  // namespace
@@ -57,43 +49,36 @@ const FormDesign& frmStartUpInfo::Design() {
       {.id = lblText, .kind = Kind::StateLabel, .at = {14, 80, 572, 56}, .flags = kWrap},
       {.kind = Kind::Glass, .at = {14, 142, 572, 160}, .cut = 12},
       {.kind = Kind::Label,
-       .text = IDS_STARTUP_PROGRAM,
-       .at = {30, 150, 400, 22},
+       .text = IDS_STARTUP_PLAY_WITH,
+       .at = {30, 148, 400, 22},
        .flags = kOnGlass,
        .type = Type::BodyStrong,
        .pane = kPlayerPane},
-      {.id = txtProgram,
-       .kind = Kind::Edit,
-       .at = {30, 174, 436, 28},
+      {.id = cmbPlayWith,
+       .kind = Kind::Combo,
+       .text = IDS_STARTUP_PLAY_WITH,
+       .at = {30, 172, 436, 28},
        .flags = kOnGlass,
        .pane = kPlayerPane},
       {.id = butBrowseIt,
        .kind = Kind::PushKey,
        .text = IDS_NOPLAYER_BROWSE,
-       .at = {474, 174, 98, 28},
+       .at = {474, 172, 98, 28},
        .flags = kOnGlass,
        .pane = kPlayerPane},
-      {.id = lblFound,
-       .kind = Kind::StateLabel,
-       .at = {30, 206, 540, 22},
-       .flags = kOnGlass | kNoPrefix,
-       .pane = kPlayerPane},
-      {.id = lblAsxFound,
-       .kind = Kind::StateLabel,
-       .at = {30, 228, 540, 22},
-       .flags = kOnGlass | kNoPrefix,
-       .ink = Ink::GlassMuted,
-       .pane = kPlayerPane},
+      ReportLine(lblFound, 204),
+      ReportLine(lblOthersFound, 223),
+      ReportLine(lblWebFound, 242),
       {.id = butFindIt,
        .kind = Kind::PushKey,
        .text = IDS_NOPLAYER_FIND_IT,
-       .at = {30, 260, 104, 30},
+       .at = {30, 266, 104, 30},
        .flags = kOnGlass,
        .pane = kPlayerPane},
       {.id = butTestProgramIt,
        .kind = Kind::PushKey,
        .text = IDS_NOPLAYER_TEST_PROGRAM,
-       .at = {142, 260, 124, 30},
+       .at = {142, 266, 124, 30},
        .flags = kOnGlass,
        .pane = kPlayerPane},
       {.kind = Kind::Label,
@@ -145,6 +130,7 @@ const FormDesign& frmStartUpInfo::Design() {
 
 std::span<const EventRow> frmStartUpInfo::Events() const {
   static const EventRow kRows[] = {
+      {cmbPlayWith, SelChange, &frmStartUpInfo::cmbPlayWith_SelChange},
       {butBrowseIt, Click, &frmStartUpInfo::butBrowseIt_Click},
       {butFindIt, Click, &frmStartUpInfo::butFindIt_Click},
       {butTestProgramIt, Click, &frmStartUpInfo::butTestProgramIt_Click},
@@ -157,100 +143,141 @@ std::span<const EventRow> frmStartUpInfo::Events() const {
   return kRows;
 }
 
-frmStartUpInfo::frmStartUpInfo(FormContext& context, CReg& reg, HelpPages& help, PlayerSetup& player,
-                               StartUpInfoPage page, std::string proxy)
-    : Form(context, Design()),
-      reg_(reg),
-      help_(help),
-      player_(player),
-      page_(page),
-      proxy_(std::move(proxy)) {}
+frmStartUpInfo::frmStartUpInfo(FormContext& context, const StartUpInfoNeeds& needs, StartUpInfoPage page,
+                               std::string proxy)
+    : Form(context, Design()), needs_(needs), page_(page), proxy_(std::move(proxy)) {}
 
 void frmStartUpInfo::OnLoad() {
   const bool proxyPage = page_ == StartUpInfoPage::Proxy;
   ShowPane(kPlayerPane, !proxyPage);
   ShowPane(kProxyPane, proxyPage);
-  SetText(lblTitle, LoadText(TextsOf(page_).title));
-  SetText(lblHead, LoadText(TextsOf(page_).head));
-  SetText(lblText, LoadText(TextsOf(page_).text));
   ShowControl(chkDontShow, CheckOf(page_) != nullptr);
-  Check(chkDontShow);
   if (proxyPage) {
+    ShowTexts(IDS_STARTUP_TITLE, IDS_STARTUP_PROXY_HEAD, IDS_STARTUP_PROXY_TEXT);
     SetText(lblProxyFound, proxy_);
     Check(optUseProxy);
   } else {
-    ShowPlayers(player_.Find());
+    counts_ = needs_.reporter.CountLinks();
+    OfferPrograms(needs_.player.Chosen());
   }
 }
 
-void frmStartUpInfo::ShowPlayers(const std::string& path) {
-  SetText(txtProgram, path);
-  SetText(lblFound, path.empty() ? LoadText(IDS_STARTUP_NONE) : FillIn(LoadText(IDS_STARTUP_READY), {path}));
-  SetInk(lblFound, path.empty() ? Ink::Alert : Ink::Signal);
-  const std::string asx = player_.FindAsxProgram();
-  SetText(lblAsxFound,
-          asx.empty() ? LoadText(IDS_STARTUP_ASX_NONE) : FillIn(LoadText(IDS_STARTUP_ASX_READY), {asx}));
+void frmStartUpInfo::ShowTexts(int title, int head, int text) {
+  SetWindowTextW(Window(), Widen(LoadText(title)).c_str());
+  SetText(lblTitle, LoadText(title));
+  SetText(lblHead, LoadText(head));
+  SetText(lblText, LoadText(text));
+}
+
+void frmStartUpInfo::OfferPrograms(const std::string& selected) {
+  paths_.clear();
+  ClearItems(cmbPlayWith);
+  AddItem(cmbPlayWith, LoadText(IDS_STARTUP_BY_KIND));
+  SelectItem(cmbPlayWith, 0);
+  for (const PlayerProgram& program : needs_.player.Programs()) OfferProgram(program);
+  const auto at = std::find(paths_.begin(), paths_.end(), selected);
+  if (at != paths_.end()) SelectItem(cmbPlayWith, static_cast<int>(at - paths_.begin()) + 1);
+  ShowReport();
+}
+
+void frmStartUpInfo::OfferProgram(const PlayerProgram& program) {
+  AddItem(cmbPlayWith, program.name);
+  paths_.push_back(program.path);
+}
+
+std::string frmStartUpInfo::Selected() const {
+  const int row = SelectedItem(cmbPlayWith);
+  return row > 0 ? paths_[static_cast<std::size_t>(row) - 1] : std::string();
+}
+
+void frmStartUpInfo::ShowReport() {
+  using Plays = PlayerReport::Plays;
+  const PlayerReport report = needs_.reporter.Report(counts_, Selected());
+  constexpr int kLines[] = {lblFound, lblOthersFound, lblWebFound};
+  for (std::size_t line = 0; line < report.lines.size(); ++line) {
+    SetInk(kLines[line], report.lines[line].missing ? Ink::Alert : Ink::Signal);
+    SetText(kLines[line], report.lines[line].text);
+  }
+  const int none = IDS_STARTUP_PLAYER_HEAD;
+  const int some = report.plays == Plays::Some ? IDS_STARTUP_SOME_HEAD : IDS_STARTUP_WELL_HEAD;
+  const int head = report.plays == Plays::Nothing ? none : some;
+  switch (page_) {
+    case StartUpInfoPage::NoPlayer:
+      return ShowTexts(IDS_STARTUP_CHOOSE_TITLE, head == none ? none : IDS_STARTUP_THIS_HEAD,
+                       IDS_NOPLAYER_TEXT);
+    case StartUpInfoPage::ChoosePlayer:
+      return ShowTexts(IDS_STARTUP_CHOOSE_TITLE, head, IDS_STARTUP_CHOOSE_TEXT);
+    default:
+      return ShowTexts(IDS_STARTUP_TITLE, head,
+                       head == none ? IDS_STARTUP_PLAYER_TEXT : IDS_STARTUP_CHOOSE_TEXT);
+  }
+}
+
+void frmStartUpInfo::Complain(const std::string& sentence) {
+  SetInk(lblFound, Ink::Alert);
+  SetText(lblFound, sentence);
 }
 
 void frmStartUpInfo::butBrowseIt_Click() {
   const std::string path = AskOpenPath(Window(), LoadText(IDS_NOPLAYER_FILE_FILTER));
   if (path.empty()) return;
-  SetText(txtProgram, path);
-  StorePlayer();
+  if (std::find(paths_.begin(), paths_.end(), path) == paths_.end())
+    OfferProgram({path.substr(path.rfind('\\') + 1), path});
+  SelectItem(cmbPlayWith,
+             static_cast<int>(std::find(paths_.begin(), paths_.end(), path) - paths_.begin()) + 1);
+  ShowReport();
 }
 
-void frmStartUpInfo::butFindIt_Click() { ShowPlayers(player_.Find()); }
+// What was found is selected only where nothing would play without it.
+void frmStartUpInfo::butFindIt_Click() {
+  OfferPrograms(Selected());
+  if (paths_.empty()) return Complain(LoadText(IDS_STARTUP_NONE));
+  if (needs_.reporter.Report(counts_, Selected()).plays != PlayerReport::Plays::Nothing) return;
+  SelectItem(cmbPlayWith, 1);
+  ShowReport();
+}
 
 void frmStartUpInfo::butTestProgramIt_Click() {
-  const std::string path = Text(txtProgram);
-  std::string link = reg_.Setting(setting::kTestRealUrl);
+  std::string link = needs_.reg.Setting(setting::kTestRealUrl);
   if (link.empty()) link = ServiceAddress(ServiceHost::Web, "/sonaroapp/sonaro3/testrealurl.ram");
-  if (player_.Test(path, link)) return;
-  SetText(lblFound, LoadText(IDS_NOPLAYER_CANT_FIND) + path);
-  SetInk(lblFound, Ink::Alert);
+  const std::string path = Selected();
+  if (needs_.player.Test(path, link)) return;
+  Complain(path.empty() ? LoadText(IDS_STARTUP_NONE) : LoadText(IDS_NOPLAYER_CANT_FIND) + path);
 }
 
-void frmStartUpInfo::butPlayerWebSiteIt_Click() { help_.OpenHelpPage(kPlayerHelp); }
+void frmStartUpInfo::butPlayerWebSiteIt_Click() { needs_.help.OpenHelpPage(kPlayerHelp); }
 
 bool frmStartUpInfo::StorePlayer() {
-  const std::string path = Text(txtProgram);
-  if (path.empty()) return true;  // none was chosen: the guide works without one
-  std::string problem;
-  switch (player_.Choose(path)) {
+  const std::string path = Selected();
+  switch (needs_.player.Choose(path)) {
     case PlayerChoiceOutcome::Stored:
-      break;
+      return true;
     case PlayerChoiceOutcome::NoSuchFile:
-      problem = LoadText(IDS_NOPLAYER_CANT_FIND) + path;
-      break;
-    case PlayerChoiceOutcome::NotCompatible:
-      problem = LoadText(IDS_STARTUP_INCOMPATIBLE);
+      Complain(LoadText(IDS_NOPLAYER_CANT_FIND) + path);
       break;
     case PlayerChoiceOutcome::NotStored:
-      problem = LoadText(IDS_STARTUP_NOT_SAVED);
+      Complain(LoadText(IDS_STARTUP_NOT_SAVED));
       break;
   }
-  SetText(lblFound, problem.empty() ? FillIn(LoadText(IDS_STARTUP_READY), {path}) : problem);
-  SetInk(lblFound, problem.empty() ? Ink::Signal : Ink::Alert);
-  return problem.empty();
+  return false;
 }
 
 void frmStartUpInfo::butOKIt_Click() {
   if (page_ == StartUpInfoPage::Proxy) {
-    StoreProxy(reg_, IsChecked(optUseProxy), SplitProxy(proxy_));
-  } else if (!StorePlayer()) {
-    return;
+    StoreProxy(needs_.reg, IsChecked(optUseProxy), SplitProxy(proxy_));
+    return Done(0);
   }
-  Done();
+  if (StorePlayer()) Done(Selected().empty() ? 0 : 1);
 }
 
-void frmStartUpInfo::Done() {
+void frmStartUpInfo::Done(int result) {
   const char* check = CheckOf(page_);
-  if (check != nullptr && IsChecked(chkDontShow)) reg_.SetSetting(check, "No");
-  Close();
+  if (check != nullptr && IsChecked(chkDontShow)) needs_.reg.SetSetting(check, "No");
+  Close(result);
 }
 
 void frmStartUpInfo::butHelp_Click() {
-  help_.OpenHelpPage(page_ == StartUpInfoPage::Proxy ? kProxyHelp : kPlayerHelp);
+  needs_.help.OpenHelpPage(page_ == StartUpInfoPage::Proxy ? kProxyHelp : kPlayerHelp);
 }
 
 }  // namespace sonaro

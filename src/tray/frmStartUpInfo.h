@@ -1,46 +1,64 @@
-// What a user has to know before the guide works fully: that a player is needed, or that a proxy was found.
+// What a user has to know before the guide works fully: what plays the stations and what does not, or that a
+// proxy was found.
 // Pages of one dialog; what it finds and stores is PlayerSetup's and the caller's business.
 #pragma once
 
 #include <functional>
 #include <string>
+#include <vector>
 
 #include "app/StartUpInfoPage.h"
 #include "forms/Form.h"
+#include "playback/StationSource.h"
 
 namespace sonaro {
 
 class CReg;
 class HelpPages;
+class PlayerReporter;
 class PlayerSetup;
+struct PlayerProgram;
+
+struct StartUpInfoNeeds {
+  CReg& reg;
+  HelpPages& help;
+  PlayerSetup& player;
+  const PlayerReporter& reporter;
+};
 
 class frmStartUpInfo final : public Form {
  public:
-  // `proxy`: "host:port" that was found, for the page "Proxy".
-  frmStartUpInfo(FormContext& context, CReg& reg, HelpPages& help, PlayerSetup& player, StartUpInfoPage page,
+  // `proxy`: "host:port" that was found, for the page "Proxy". ShowModal gives 1 when a player was chosen.
+  frmStartUpInfo(FormContext& context, const StartUpInfoNeeds& needs, StartUpInfoPage page,
                  std::string proxy);
 
  private:
   static const FormDesign& Design();
   std::span<const EventRow> Events() const override;
   void OnLoad() override;
-  void ShowPlayers(const std::string& path);
+  void ShowTexts(int title, int head, int text);
+  void OfferPrograms(const std::string& selected);
+  void OfferProgram(const PlayerProgram& program);
+  std::string Selected() const;
+  void ShowReport();
+  void Complain(const std::string& sentence);
   bool StorePlayer();
-  void Done();
+  void Done(int result);
 
+  void cmbPlayWith_SelChange() { ShowReport(); }
   void butBrowseIt_Click();
   void butFindIt_Click();
   void butTestProgramIt_Click();
   void butPlayerWebSiteIt_Click();
   void butOKIt_Click();
-  void butCloseIt_Click() { Done(); }
+  void butCloseIt_Click() { Done(0); }
   void butHelp_Click();
 
-  CReg& reg_;
-  HelpPages& help_;
-  PlayerSetup& player_;
+  const StartUpInfoNeeds needs_;
   const StartUpInfoPage page_;
   const std::string proxy_;
+  LinkCounts counts_;
+  std::vector<std::string> paths_;  // of the programs that are offered, after the row for none
 };
 
 }  // namespace sonaro

@@ -172,7 +172,7 @@ TEST_F(StartupTest, StepsOfAFirstStartInOrder) {
             "splash, faceplate, "
             "read UpdateHold, write UpdateHold=, "
             "8.5, "
-            "read StartPlayer, read CurrentVersion, read MainApp, page Player, "
+            "read StartPlayer, read CurrentVersion, read MainApp, read PlayWith, page Player, "
             "read StartProxy, find proxy, page Proxy, "
             "load main, show main, close splash, "
             "read StartQuickStart, ask QuickStart, read HelpURL, open 9070.html, write StartQuickStart=No, ");

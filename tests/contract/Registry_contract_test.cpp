@@ -98,10 +98,13 @@ TYPED_TEST(RegistryContract, NamesIgnoreLetterCaseAndTheEmptyNameIsTheDefaultVal
   EXPECT_TRUE(this->Write("VALUE", "two"));
   EXPECT_EQ(this->Read(""), "default");
   EXPECT_EQ(this->Read("value"), "two");
+  EXPECT_EQ(this->Reg().ValueNames(this->kRoot, this->TestKey()).size(), 2u);
   EXPECT_TRUE(this->Reg().RemoveValue(this->kRoot, this->TestKey(), "vALUE"));
   EXPECT_FALSE(this->Read("Value"));
   EXPECT_FALSE(this->Reg().RemoveValue(this->kRoot, this->TestKey(), "Value"));
   EXPECT_EQ(this->Read(""), "default");
+  EXPECT_EQ(this->Reg().ValueNames(this->kRoot, this->TestKey()), std::vector<std::string>{""});
+  EXPECT_TRUE(this->Reg().ValueNames(RootKey::CurrentUser, this->TestKey()).empty());
 }
 
 #ifdef _WIN32

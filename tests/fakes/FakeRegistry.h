@@ -66,6 +66,13 @@ class FakeRegistry : public Registry {
     writes.push_back({root, key, name, {type, std::string(bytes)}});
     return true;
   }
+  std::vector<std::string> ValueNames(RootKey root, const std::string& key) override {
+    std::vector<std::string> names;
+    const auto found = values_.find(Id(root, key));
+    if (readsDenied || found == values_.end()) return names;
+    for (const auto& [name, value] : found->second) names.push_back(name);
+    return names;
+  }
   bool RemoveValue(RootKey root, const std::string& key, const std::string& name) override {
     const auto names = values_.find(Id(root, key));
     return !Denied(root) && names != values_.end() && names->second.erase(FoldCase(name)) == 1;

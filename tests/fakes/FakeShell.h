@@ -1,8 +1,10 @@
 // Records what would be started. Programs are registered by the ending of a file's name.
 #pragma once
 
+#include <functional>
 #include <map>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "base/Files.h"
@@ -28,9 +30,12 @@ class FakeShell : public Shell {
   Files* files = nullptr;                       // when set, FindProgramFor looks for the file
   std::string separator = "/";
   bool startsFail = false;
+  std::function<void()> whileStarting;  // what comes in while the next program starts; called once
+  void* mainWindow = nullptr;
   std::vector<Opened> opened;
   std::vector<std::string> runMinimised;
 
+  void SetMainWindow(void* window) override { mainWindow = window; }
   FoundProgram FindProgramFor(const std::string& name, const std::string& folder) override {
     if (files && !files->Exists(folder + separator + name)) return {kFileMissing, ""};
     for (const auto& [ending, program] : programs) {
@@ -39,6 +44,7 @@ class FakeShell : public Shell {
     return {kNothingRegistered, ""};
   }
   bool Open(const std::string& program, const std::string& parameters, const std::string& folder) override {
+    if (const auto meanwhile = std::exchange(whileStarting, nullptr)) meanwhile();
     if (!startsFail) opened.push_back({program, parameters, folder});
     return !startsFail;
   }

@@ -11,14 +11,29 @@ namespace {
 class FakeLaunchView : public LaunchView {
  public:
   int noPlayerPages = 0;
+  int offers = 0;
   std::function<void()> whileShown;
+  std::function<void()> choose;  // what the user does with an offer of players, which counts as a choice
   std::vector<std::string> sentences;
 
-  void ShowNoPlayer() override {
+  bool ShowNoPlayer() override {
     ++noPlayerPages;
     if (whileShown) whileShown();
+    return Choose();
   }
   void SayWhyNot(const std::string& sentence) override { sentences.push_back(sentence); }
+  bool OfferPlayers(const std::string& sentence) override {
+    ++offers;
+    sentences.push_back(sentence);
+    return Choose();
+  }
+
+ private:
+  bool Choose() {
+    const auto chosen = std::exchange(choose, nullptr);
+    if (chosen) chosen();
+    return chosen != nullptr;
+  }
 };
 
 using Opened = FakeShell::Opened;
@@ -136,14 +151,15 @@ TEST_F(PlayerLaunchTest, WithoutALinkTheAlternateOneOrTheWebSite) {
 
 TEST_F(PlayerLaunchTest, HostileLinksReachNoProgram) {
   InstallRealPlayer();
-  for (const char* link :
-       {"m-play http://a", "m/open", "-x", "/x", "http://a\" \"b", "mhttp://a /delete", "m \r\nx",
-        "wfile:///etc/passwd", "whttp://a.example/ -x", "wjavascript:alert(1)"}) {
+  for (const char* link : {"m-play http://a", "m/open", "m\\\\host\\share", "C:\\x.mp3", "file://host/x",
+                           "m%TEMP%", "-x", "/x", "http://a\" \"b", "mhttp://a /delete", "m \r\nx",
+                           "wfile:///etc/passwd", "whttp://a.example/ -x", "wjavascript:alert(1)"}) {
     ClearShell();
     launch.LaunchStation(link, PlayMode::KeyItself);
     EXPECT_EQ(Played(), "(none)") << link;
     EXPECT_EQ(Browsed(), "(none)") << link;
-    EXPECT_EQ(view_.sentences, std::vector<std::string>{std::to_string(IDS_WHYNOT_REFUSED_LINK)}) << link;
+    const int refused = link[0] == 'w' ? IDS_WHYNOT_REFUSED_PAGE : IDS_WHYNOT_REFUSED_LINK;
+    EXPECT_EQ(view_.sentences, std::vector<std::string>{std::to_string(refused)}) << link;
   }
 }
 
@@ -170,10 +186,39 @@ TEST_F(PlayerLaunchTest, FailuresThatTheUserIsTold) {
   shell.programs[".asx"] = "p.exe";
   shell.startsFail = true;
   launch.LaunchStation("mhttp://a/", PlayMode::KeyItself);
+  EXPECT_EQ(view_.offers, 2);
   launch.LaunchStation("whttp://a/", PlayMode::KeyItself);
-  const std::string notStarted = std::to_string(IDS_WHYNOT_NOT_STARTED);
-  EXPECT_EQ(view_.sentences,
-            (std::vector<std::string>{std::to_string(IDS_WHYNOT_NO_ASX_PROGRAM), notStarted, notStarted}));
+  EXPECT_EQ(view_.offers, 2) << "another player would not open the page";
+  EXPECT_EQ(view_.sentences, (std::vector<std::string>{std::to_string(IDS_WHYNOT_NO_ASX_PROGRAM),
+                                                       std::to_string(IDS_WHYNOT_NOT_STARTED),
+                                                       std::to_string(IDS_WHYNOT_PAGE_NOT_STARTED)}));
+}
+
+TEST_F(PlayerLaunchTest, AChosenPlayerGetsEveryStreamAndNoPage) {
+  InstallRealPlayer();
+  reg.SetSetting("PlayWith", "C:\\My Music\\Any.exe");
+  for (const char* link : {"mhttp://a/s", "http://a/s"}) {
+    launch.LaunchStation(link, PlayMode::KeyItself);
+    EXPECT_EQ(shell.opened.back(), (Opened{"C:\\My Music\\Any.exe", "http://a/s", "/d"}));
+  }
+  launch.LaunchStation("whttp://a/", PlayMode::KeyItself);
+  EXPECT_EQ(shell.opened.size(), 2u);
+  EXPECT_EQ(Browsed(), "/d/lweb.exe http://a/");
+}
+
+TEST_F(PlayerLaunchTest, WhatDidNotPlayPlaysWithThePlayerChosenThereupon) {
+  shell.programs.clear();
+  EXPECT_FALSE(launch.AnythingPlays());
+  for (const char* link : {"mhttp://a/s", "http://a/s"}) {
+    reg.SetSetting("PlayWith", "");
+    view_.choose = [this] { reg.SetSetting("PlayWith", "C:\\any.exe"); };
+    launch.LaunchStation(link, PlayMode::KeyItself);
+    EXPECT_EQ(Played(), "C:\\any.exe|http://a/s");
+    ClearShell();
+  }
+  EXPECT_EQ(view_.offers, 1);
+  EXPECT_EQ(view_.noPlayerPages, 1);
+  EXPECT_TRUE(launch.AnythingPlays());
 }
 
 TEST_F(PlayerLaunchTest, FindRealPlayer) {
@@ -219,13 +264,23 @@ TEST_F(PlayerLaunchTest, WebPagesByAddressAndByStation) {
     EXPECT_EQ(pages.Open(c.text), c.outcome) << c.text;
     EXPECT_EQ(Browsed(), c.browsed) << c.text;
   }
+  std::vector<std::string> said;
+  pages.SetSayWhyNot([&](const std::string& sentence) { said.push_back(sentence); });
+  pages.OpenWebPage("12");
+  pages.OpenWebPage("99");
+  pages.OpenWebPage("http://");
+  shell.startsFail = true;
+  pages.OpenWebPage("12");
+  EXPECT_EQ(said, (std::vector<std::string>{std::to_string(IDS_WHYNOT_NO_PAGE),
+                                            std::to_string(IDS_WHYNOT_REFUSED_PAGE),
+                                            std::to_string(IDS_WHYNOT_PAGE_NOT_STARTED)}));
 }
 
 TEST(WebPagesFolder, AFolderWithBlanksIsQuoted) {
   PlaybackWorld world;
   world.files.MakeFolder("/Program Files/S");
   DataFolder data(world.files, "/Program Files/S", '/');
-  WebPages pages(world.source, data, world.shell);
+  WebPages pages(world.source, data, world.shell, world.strings);
   pages.RunBrowser("http://a.example/");
   EXPECT_EQ(world.shell.runMinimised,
             std::vector<std::string>{"\"/Program Files/S/lweb.exe\" http://a.example/"});

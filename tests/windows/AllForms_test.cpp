@@ -26,6 +26,7 @@
 #include "net/frmTestProxy.h"
 #include "net/frmUpdateDialog.h"
 #include "playback/PlayerLaunch.h"
+#include "playback/PlayerReport.h"
 #include "playback/PlayerSetup.h"
 #include "playback/Players.h"
 #include "playback/RecentList.h"
@@ -72,8 +73,10 @@ struct EmptyProgram {
   FavoriteGroups favorites{folder};
   StationSource source{stations, personal, BuiltInAlphabets()};
   Players players{settings, folder, shell};
-  PlayerSetup playerSetup{settings, outside.files, players};
-  WebPages pages{source, folder, shell};
+  InstalledPlayers installed{settings, folder, players};
+  PlayerSetup playerSetup{settings, outside.files, players, installed};
+  PlayerReporter reporter{players, folder, source, words, state};
+  WebPages pages{source, folder, shell, words};
   HelpPages help{settings, pages};
   PlayerLaunch player{source, recent, players, pages, words};
   StationScan scan{settings, clock, player, source, words};
@@ -156,8 +159,8 @@ const NamedForm kForms[] = {
     {"frmOptions", [](EmptyProgram& p) { return Make<frmOptions>(p.forms, p.options, OptionsCalls{}); }},
     {"frmStartUpInfo",
      [](EmptyProgram& p) {
-       return Make<frmStartUpInfo>(p.forms, p.settings, p.help, p.playerSetup, StartUpInfoPage::NoPlayer,
-                                   std::string());
+       return Make<frmStartUpInfo>(p.forms, StartUpInfoNeeds{p.settings, p.help, p.playerSetup, p.reporter},
+                                   StartUpInfoPage::NoPlayer, std::string());
      }},
 };
 

@@ -53,6 +53,22 @@ std::optional<std::string> RegistryWin::ReadValue(RootKey root, const std::strin
   return bytes;
 }
 
+std::vector<std::string> RegistryWin::ValueNames(RootKey root, const std::string& key) {
+  constexpr DWORD kLongestName = 16384;  // of the system, with its terminating zero
+  std::vector<std::string> names;
+  const RegistryKey opened = OpenKey(root, key, KEY_QUERY_VALUE);
+  if (!opened) return names;
+  std::vector<char> name(kLongestName);
+  for (DWORD index = 0;; ++index) {
+    DWORD length = kLongestName;
+    if (RegEnumValueA(opened.Get(), index, name.data(), &length, nullptr, nullptr, nullptr, nullptr) !=
+        ERROR_SUCCESS) {
+      return names;
+    }
+    names.emplace_back(name.data(), length);
+  }
+}
+
 bool RegistryWin::WriteValue(RootKey root, const std::string& key, const std::string& name, ValueType type,
                              std::string_view bytes) {
   const RegistryKey opened = OpenKey(root, key, kAllSpecificRights);

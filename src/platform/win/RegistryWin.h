@@ -14,6 +14,7 @@ class RegistryWin : public Registry {
                                        const std::string& name) override;
   bool WriteValue(RootKey root, const std::string& key, const std::string& name, ValueType type,
                   std::string_view bytes) override;
+  std::vector<std::string> ValueNames(RootKey root, const std::string& key) override;
   bool RemoveValue(RootKey root, const std::string& key, const std::string& name) override;
 };
 

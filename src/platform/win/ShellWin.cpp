@@ -26,8 +26,8 @@ FoundProgram ShellWin::FindProgramFor(const std::string& name, const std::string
 }
 
 bool ShellWin::Open(const std::string& program, const std::string& parameters, const std::string& folder) {
-  return ShellCode(ShellExecuteA(nullptr, "Open", program.c_str(), OrNull(parameters), OrNull(folder),
-                                 SW_SHOWNORMAL)) > kLastFailure;
+  return ShellCode(ShellExecuteA(static_cast<HWND>(mainWindow_), "Open", program.c_str(), OrNull(parameters),
+                                 OrNull(folder), SW_SHOWNORMAL)) > kLastFailure;
 }
 
 bool ShellWin::RunMinimised(const std::string& commandLine) {

@@ -7,9 +7,13 @@ namespace sonaro {
 
 class ShellWin : public Shell {
  public:
+  void SetMainWindow(void* window) override { mainWindow_ = window; }
   FoundProgram FindProgramFor(const std::string& name, const std::string& folder) override;
   bool Open(const std::string& program, const std::string& parameters, const std::string& folder) override;
   bool RunMinimised(const std::string& commandLine) override;
+
+ private:
+  void* mainWindow_ = nullptr;
 };
 
 }  // namespace sonaro

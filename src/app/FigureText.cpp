@@ -1,4 +1,4 @@
-#include "mainwindow/FigureText.h"
+#include "app/FigureText.h"
 
 namespace sonaro {
 

@@ -1,4 +1,4 @@
-// Figures as the main window shows them.
+// Figures as windows show them.
 #pragma once
 
 #include <cstddef>
