@@ -46,7 +46,8 @@ TableStatus TableImage::LoadPage(TableFiles& files, std::uint32_t page) {
   char* const bytes = reinterpret_cast<char*>(&entries_[first]);
   const std::size_t size = (EntriesIn(page) + 1) * sizeof(Entry);
   const bool sound = files.index->ReadAt(layout_.pages + first * sizeof(Entry), bytes, size) &&
-                     Checksum({bytes, size}) == directory_[page].check;
+                     Checksum({bytes, size}) == directory_[page].check &&
+                     entries_[first].key == directory_[page].firstKey;
   checkedPages_[page] = sound;
   return sound ? TableStatus::Success : TableStatus::Damaged;
 }

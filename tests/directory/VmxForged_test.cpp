@@ -115,6 +115,13 @@ TEST_F(VmxForged, PositionsAndKeysInDisorderAreDamage) {
   index_ = sound;
   swapped(1, 3, &Entry::key);
   EXPECT_EQ(Verdict(), TableStatus::Damaged);
+
+  index_ = sound;
+  auto page = PartAt<PageItem>(index_, layout_.directory);
+  ++page.firstKey;  // the first station would not be found
+  PutPart(index_, layout_.directory, page);
+  Forge();
+  EXPECT_EQ(Verdict(), TableStatus::Damaged);
 }
 
 }  // namespace
