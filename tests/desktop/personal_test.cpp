@@ -27,18 +27,22 @@ TEST_F(PersonalTest, OnesOwnStationsComeAndGoAndTheirTokensStayRight) {
   Command(main, mnuPersonalAdd);
   HWND dialog = Dialog("frmPersonalStation");
   SetText(Control(dialog, txtStationName), "Without a link");
-  Click(Control(dialog, butOKIt));
-  HWND box = Dialog("MsgboxFrm");
-  EXPECT_NE(TextOf(Control(box, lblMsg)), "");
-  Click(Control(box, butMsg));
-  ASSERT_TRUE(WaitUntil([&] { return !IsShown(box) && IsWindowEnabled(dialog) != FALSE; }));
-  EXPECT_TRUE(WaitUntil([&] { return FocusOf(main) == Control(dialog, txtLink); })) << "what is missing";
+  for (const char* refused : {"", "C:\\music\\a.mp3"}) {
+    SetText(Control(dialog, txtLink), refused);
+    Click(Control(dialog, butOKIt));
+    HWND box = Dialog("MsgboxFrm");
+    EXPECT_NE(TextOf(Control(box, lblMsg)), "");
+    Click(Control(box, butMsg));
+    ASSERT_TRUE(WaitUntil([&] { return !IsShown(box) && IsWindowEnabled(dialog) != FALSE; }));
+    EXPECT_TRUE(WaitUntil([&] { return FocusOf(main) == Control(dialog, txtLink); })) << "what is wrong";
+  }
   EndWith(main, dialog, butCancelIt);
   EXPECT_FALSE(Exists("personal.snr"));
 
   AddStation(main, "Garage", "http://127.0.0.1:9/garage");
   AddStation(main, "Käsekuchen", "http://127.0.0.1:9/k");
-  AddStation(main, "Радио", "http://127.0.0.1:9/r");
+  AddStation(main, "Радио", "127.0.0.1:9/r");
+  EXPECT_NE(ReadFile("personal.snr").find("\tmhttp://127.0.0.1:9/r\t"), std::string::npos);
   ShowYours(main, {"Garage", "Käsekuchen", "Радио"});
   SelectRow(List(main), 2);
   NewGroup(main, "Mine");
