@@ -102,6 +102,27 @@ bool TakeByPattern(Cursor& cursor, std::string_view pattern, Date& date) {
   return true;
 }
 
+// The numbers in the order of the pattern's letters.
+bool TakeInOrder(Cursor& cursor, std::string_view pattern, Date& date) {
+  bool quoted = false;
+  std::string order;
+  for (char letter : pattern) {
+    quoted ^= letter == '\'';
+    if (!quoted && std::string_view("dMy").find(letter) != std::string_view::npos &&
+        order.find(letter) == std::string::npos) {
+      order += letter;
+    }
+  }
+  if (order.size() != 3) return false;
+  for (std::size_t i = 0; i < order.size(); ++i) {
+    if (i > 0 && !cursor.Take("/") && !cursor.Take(".") && !cursor.Take("-")) return false;
+    const bool taken = order[i] == 'y' ? TakeYear(cursor, 4, date.year) || TakeYear(cursor, 2, date.year)
+                                       : cursor.TakeNumber(1, 2, order[i] == 'd' ? date.day : date.month);
+    if (!taken) return false;
+  }
+  return true;
+}
+
 // What follows a date: nothing, or a time of day set off by blanks or, in the ISO manner, a T.
 std::optional<DateTime> WithTimeAfter(Cursor cursor, const Date& date) {
   if (!IsValid(date)) return std::nullopt;
@@ -112,24 +133,34 @@ std::optional<DateTime> WithTimeAfter(Cursor cursor, const Date& date) {
   return DateTime{date, *time};
 }
 
+// One form of a date, from the start of the text to its end.
+template <class Take>
+std::optional<DateTime> Attempt(std::string_view text, Take take) {
+  Cursor cursor(TrimBlanks(text));
+  Date date;
+  return take(cursor, date) ? WithTimeAfter(cursor, date) : std::nullopt;
+}
+
 }  // namespace
 
 std::optional<DateTime> ParseDate(std::string_view text, std::string_view shortDatePattern) {
-  const Cursor start(TrimBlanks(text));
-  const auto attempt = [&](auto take) -> std::optional<DateTime> {
-    Cursor cursor = start;
-    Date date;
-    return take(cursor, date) ? WithTimeAfter(cursor, date) : std::nullopt;
-  };
-  if (const auto found = attempt(TakeMonthDayYear)) return found;
+  if (const auto found = Attempt(text, TakeMonthDayYear)) return found;
   if (!shortDatePattern.empty()) {
     const auto byPattern = [&](Cursor& cursor, Date& date) {
       return TakeByPattern(cursor, shortDatePattern, date);
     };
-    if (const auto found = attempt(byPattern)) return found;
+    if (const auto found = Attempt(text, byPattern)) return found;
   }
-  if (const auto found = attempt(TakeIso)) return found;
-  return attempt(TakeLong);
+  if (const auto found = Attempt(text, TakeIso)) return found;
+  return Attempt(text, TakeLong);
+}
+
+std::optional<DateTime> ParseTypedDate(std::string_view text, std::string_view shortDatePattern) {
+  const auto inOrder = [&](Cursor& cursor, Date& date) {
+    return TakeInOrder(cursor, shortDatePattern, date);
+  };
+  const auto found = Attempt(text, inOrder);
+  return found ? found : ParseDate(text, shortDatePattern);
 }
 
 std::optional<TimeOfDay> ParseTime(std::string_view text) {

@@ -53,9 +53,14 @@ std::string FormatTimeWithSeconds(const TimeOfDay& time);  // "h:nn:ss AMPM": 1:
 // The date by a pattern of the user's regional settings made of d, dd, M, MM, yy, yyyy and separators.
 std::string FormatByPattern(const Date& date, std::string_view shortDatePattern);
 
-// A date in m/d/yyyy, in the user's short-date pattern ("" when unknown), in ISO form (yyyy-mm-dd) or in the
-// long form of FormatLongDate, with an optional time of day after it. An impossible date is no date.
+// A date as it is stored: in m/d/yyyy, in the user's short-date pattern ("" when unknown), in ISO form
+// (yyyy-mm-dd) or in the long form of FormatLongDate, with an optional time of day after it. An impossible
+// date is no date.
 std::optional<DateTime> ParseDate(std::string_view text, std::string_view shortDatePattern = {});
+// A date as the user types it. Where a text can be read in two ways, the order of the user's pattern decides;
+// "/", ".", and "-" stand for each other, and a year has two or four digits. What this order does not explain
+// is read as ParseDate reads it.
+std::optional<DateTime> ParseTypedDate(std::string_view text, std::string_view shortDatePattern);
 // A time of day: h:mm or h:mm:ss, 24-hour or followed by AM or PM in any letter case, blanks allowed around.
 std::optional<TimeOfDay> ParseTime(std::string_view text);
 

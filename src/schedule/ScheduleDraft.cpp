@@ -83,7 +83,7 @@ std::string ScheduleDraft::StationShown() const {
 
 DraftFault ScheduleDraft::Fault(std::string_view shortDatePattern) const {
   if (TrimBlanks(name.name).empty()) return DraftFault::NoStation;
-  if (kind == ScheduleKind::Once && !ParseDate(dateText, shortDatePattern)) return DraftFault::NoDate;
+  if (kind == ScheduleKind::Once && !ParseTypedDate(dateText, shortDatePattern)) return DraftFault::NoDate;
   if (kind == ScheduleKind::Daily && !AnyDay(days)) return DraftFault::NoDay;
   return DraftFault::None;
 }
@@ -107,7 +107,8 @@ ScheduleItem ScheduleDraft::ToItem(ClockStyle style, std::string_view shortDateP
       break;
     default:
       item.kind = "once";
-      if (const auto date = ParseDate(dateText, shortDatePattern)) item.date = FormatShortDate(date->date);
+      if (const auto date = ParseTypedDate(dateText, shortDatePattern))
+        item.date = FormatShortDate(date->date);
   }
   return item;
 }
@@ -123,7 +124,7 @@ std::string ScheduleDraft::Summary(ClockStyle style, std::string_view shortDateP
     case ScheduleKind::Live:
       return "When the event begins";
     default:
-      return "Once, " + FormatLongDate(ParseDate(dateText, shortDatePattern)->date) + at;
+      return "Once, " + FormatLongDate(ParseTypedDate(dateText, shortDatePattern)->date) + at;
   }
 }
 

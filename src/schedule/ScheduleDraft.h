@@ -24,7 +24,7 @@ struct ScheduleDraft {
   DraftMode mode = DraftMode::AddMain;
   ScheduleKind kind = ScheduleKind::Once;
   TimeOfDay time{20, 0, 0};
-  std::string dateText;  // as the date box holds it, in any form that is read as a date
+  std::string dateText;  // as the date box holds it: as the user types dates, or in the long form
   int weekday = 0;       // 0 = Monday
   DayFlags days{true, true, true, true, true, true, true};
   std::string note;  // lines separated by CR LF

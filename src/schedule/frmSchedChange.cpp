@@ -80,6 +80,8 @@ void frmSchedChange::ShowSummary() {
     const ScheduleItem item = draft_.ToItem(services_.clockStyle, services_.shortDatePattern);
     if (const auto at = ScheduleCalendar::NextOf(item, now, services_.shortDatePattern)) {
       next = FillIn(LoadText(IDS_SCHED_CHANGE_NEXT), {NextShown(*at, now, services_.clockStyle)});
+    } else if (draft_.kind == ScheduleKind::Once) {
+      next = LoadText(IDS_SCHED_CHANGE_PASSED);
     }
   }
   SetText(lblNextTime, next);
@@ -124,7 +126,7 @@ void frmSchedChange::butSchedIt_Click() {
 
 void frmSchedChange::butPickDateIt_Click() {
   const Date today = services_.clock.LocalNow().date;
-  const auto typed = ParseDate(Text(txtOneDate), services_.shortDatePattern);
+  const auto typed = ParseTypedDate(Text(txtOneDate), services_.shortDatePattern);
   frmDateFinder finder(context_, services_.help, today, typed ? typed->date : today);
   if (const std::optional<Date> date = finder.Choose(Window())) SetText(txtOneDate, FormatLongDate(*date));
   Any_Change();

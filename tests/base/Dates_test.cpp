@@ -117,6 +117,27 @@ TEST(ParseDate, AcceptedForms) {
   for (const auto& c : cases) EXPECT_EQ(ParseDate(c.text, c.pattern), c.expected) << c.text;
 }
 
+TEST(ParseDate, WhatIsTypedFollowsTheUsersOrder) {
+  const struct {
+    const char* text;
+    const char* pattern;
+    std::optional<DateTime> expected;
+  } cases[] = {
+      {"3/8/2026", "dd/MM/yyyy", At(2026, 8, 3)},
+      {"3/8/2026", "M/d/yyyy", At(2026, 3, 8)},
+      {"3/8/2026", "d.M.yy", At(2026, 8, 3)},
+      {"3-8-26", "dd/MM/yyyy", At(2026, 8, 3)},
+      {"26.08.03", "yyyy-MM-dd", At(2026, 8, 3)},
+      {"8/13/2026", "dd/MM/yyyy", At(2026, 8, 13)},  // cannot be meant otherwise
+      {"2026-08-03", "dd/MM/yyyy", At(2026, 8, 3)},
+      {"August 3 2026 (Monday)", "dd/MM/yyyy", At(2026, 8, 3)},
+      {"3/8/2026", "", At(2026, 3, 8)},
+      {"31/2/2026", "dd/MM/yyyy", std::nullopt},
+  };
+  for (const auto& c : cases)
+    EXPECT_EQ(ParseTypedDate(c.text, c.pattern), c.expected) << c.text << " " << c.pattern;
+}
+
 TEST(ParseDate, EverythingElseIsNoDate) {
   for (const char* text : {"",
                            "x",
