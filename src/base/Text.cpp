@@ -70,6 +70,13 @@ std::string_view CutForShow(std::string_view text, std::size_t maxBytes) {
   return text.substr(0, maxBytes);
 }
 
+std::string OnOneLine(std::string_view text) {
+  std::string line(text);
+  std::replace_if(
+      line.begin(), line.end(), [](char c) { return c == '\r' || c == '\n'; }, ' ');
+  return line;
+}
+
 bool IsYes(std::string_view setting) { return EqualIgnoringCase(TrimBlanks(setting), "Yes"); }
 
 }  // namespace sonaro

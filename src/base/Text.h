@@ -55,6 +55,9 @@ std::string ReplaceFirst(std::string_view text, std::string_view part, std::stri
 // At most `maxBytes` bytes from the start of `text`, never ending inside a UTF-8 character.
 std::string_view CutForShow(std::string_view text, std::size_t maxBytes);
 
+// The text with a blank for each carriage return and line feed: fit for one line of a file of lines.
+std::string OnOneLine(std::string_view text);
+
 // A yes/no setting is on only when it reads "Yes", trimmed and ignoring letter case.
 bool IsYes(std::string_view setting);
 

@@ -1,10 +1,13 @@
 #include "schedule/CalendarExport.h"
 
+#include <algorithm>
 #include <array>
 #include <cstdio>
 #include <optional>
+#include <set>
 #include <string_view>
 
+#include "base/Signing.h"
 #include "base/Text.h"
 #include "schedule/ScheduleItem.h"
 #include "schedule/ScheduleStore.h"
@@ -30,14 +33,17 @@ std::string Escaped(std::string_view text) {
     if (c == '\n') escaped += "\\n";
     if (c == '\n' || c == '\r') continue;
     if (c == '\\' || c == ';' || c == ',') escaped += '\\';
-    const bool control = (static_cast<unsigned char>(c) < 0x20 && c != '\t') || c == 0x7F;
-    escaped += control ? ' ' : c;
+    escaped += c;
   }
   return escaped;
 }
 
-// Appends a content line, folded so that no line is too long and no character is cut in two.
-void AddLine(std::string& file, std::string_view line) {
+// Appends a content line, folded so that no line is too long and no character is cut in two. A control
+// character, which might end the line, becomes a blank whatever value it stands in.
+void AddLine(std::string& file, std::string content) {
+  const auto control = [](unsigned char c) { return (c < 0x20 && c != '\t') || c == 0x7F; };
+  std::replace_if(content.begin(), content.end(), control, ' ');
+  std::string_view line = content;
   std::string_view piece = CutForShow(line, kLineBytes);
   file.append(piece).append("\r\n");
   for (line.remove_prefix(piece.size()); !line.empty(); line.remove_prefix(piece.size())) {
@@ -101,11 +107,28 @@ std::optional<Times> TimesOf(const ScheduleItem& item, const Date& today,
   }
 }
 
-void AddEntry(std::string& file, std::size_t slot, const ScheduleItem& item, const Times& times,
+// The same for one item in every export, wherever it stands in the schedule and whatever its note says, so
+// that a calendar knows it again. `earlier`: the identities of the items in front, since two may be alike.
+std::string IdentityOf(const ScheduleItem& item, std::set<std::string>& earlier) {
+  constexpr std::size_t kDigits = 32;
+  std::string text;
+  for (const std::string* field :
+       {&item.name, &item.action, &item.date, &item.time, &item.weekday, &item.kind}) {
+    text += *field + '\t';
+  }
+  std::string identity;
+  do {
+    identity = Sha256Hex(text).substr(0, kDigits);
+    text += '\t';
+  } while (!earlier.insert(identity).second);
+  return identity;
+}
+
+void AddEntry(std::string& file, const std::string& identity, const ScheduleItem& item, const Times& times,
               const DateTime& gmtNow) {
   const ItemName name = SplitItemName(item.name);
   AddLine(file, "BEGIN:VEVENT");
-  AddLine(file, "UID:" + std::to_string(slot) + "-" + Stamp(times.start) + "@sonaro.example");
+  AddLine(file, "UID:" + identity + "@sonaro.example");
   AddLine(file, "DTSTAMP:" + Stamp(gmtNow) + "Z");
   AddLine(file, "DTSTART:" + Stamp(times.start));
   if (!times.rule.empty()) AddLine(file, times.rule);
@@ -129,10 +152,13 @@ std::string ExportCalendar(const ScheduleStore& store, const Date& today, const 
   AddLine(file, "BEGIN:VCALENDAR");
   AddLine(file, "VERSION:2.0");
   AddLine(file, "PRODID:-//Sonaro//Schedule//EN");
+  std::set<std::string> identities;
   for (std::size_t slot = 0; slot < store.SlotCount(); ++slot) {
     const ScheduleItem& item = store.Item(slot);
     if (item.Free()) continue;
-    if (const auto times = TimesOf(item, today, shortDatePattern)) AddEntry(file, slot, item, *times, gmtNow);
+    if (const auto times = TimesOf(item, today, shortDatePattern)) {
+      AddEntry(file, IdentityOf(item, identities), item, *times, gmtNow);
+    }
   }
   AddLine(file, "END:VCALENDAR");
   return file;

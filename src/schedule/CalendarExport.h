@@ -10,6 +10,8 @@ namespace sonaro {
 
 class ScheduleStore;
 
+// An item has one identity in all exports for as long as its name, station and times stay.
+//
 // The whole file, UTF-8, lines ended by CR LF and folded at 75 bytes. Live items and items whose time or date
 // cannot be read have no moment to write and are left out. `gmtNow` stamps the entries; daily and weekly
 // items begin on their first day from `today` on.

@@ -50,7 +50,7 @@ bool PersonalShows::Contains(std::string_view showKey) {
 void PersonalShows::AddPersonalShow(std::string_view showKey) {
   std::vector<std::string> lines = List();
   if (!Contains(showKey)) {
-    lines.emplace_back(showKey);
+    lines.push_back(OnOneLine(showKey));
     WritePersonalShows(EachOnItsLine(lines));
   }
   Tell("AddPersonalShow", FillIn(strings_.Load(IDS_SCHED_SHOW_ADDED), {DisplayName(showKey)}));

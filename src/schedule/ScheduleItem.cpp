@@ -73,11 +73,8 @@ std::string JoinItemName(const ItemName& name) {
 }
 
 std::string WebSiteOf(std::string_view nameField) {
-  constexpr std::string_view kMark = ">>>>>";  // one short: the address begins six characters on
-  const auto mark = nameField.find(kMark);
-  if (mark == std::string_view::npos || mark + kWebSiteMark.size() >= nameField.size()) return {};
-  const std::string_view address = nameField.substr(mark + kWebSiteMark.size());
-  return (address.starts_with("http") ? "" : "http://") + std::string(address);
+  const std::string address = SplitItemName(nameField).webSite;
+  return address.empty() || address.starts_with("http") ? address : "http://" + address;
 }
 
 std::string NoteForFile(std::string_view note) {

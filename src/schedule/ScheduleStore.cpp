@@ -12,27 +12,39 @@ namespace sonaro {
 namespace {
 
 constexpr std::string_view kScheduleFile = "\\Sched.snr";
+constexpr std::string_view kDroppedFile = "\\Sched.old";
 constexpr std::size_t kFirstSlots = 101;
 constexpr std::size_t kGrowth = 20;
 constexpr std::size_t kTabsInLine = 6;
 constexpr std::int64_t kDaysKept = 2;
 
-// A tab or a line break inside a field would be read back as the next field or item.
-std::string OnOneLine(std::string_view field, bool tabsAllowed) {
-  std::string clean(field);
-  for (char& c : clean) {
-    if (c == '\r' || c == '\n' || (c == '\t' && !tabsAllowed)) c = ' ';
-  }
-  return clean;
+// The fields in the order of the line; the note, which takes the rest of it, is the last.
+template <class Item>
+auto FieldsOf(Item& item) {
+  return std::array{&item.name, &item.action, &item.date, &item.time, &item.weekday, &item.kind, &item.note};
 }
 
 std::string LineOf(const ScheduleItem& item) {
   std::string line;
-  for (const std::string* field :
-       {&item.name, &item.action, &item.date, &item.time, &item.weekday, &item.kind}) {
-    line += OnOneLine(*field, false) + '\t';
-  }
-  return line + OnOneLine(item.note, true);
+  for (const std::string* field : FieldsOf(item)) line += (line.empty() ? "" : "\t") + *field;
+  return line;
+}
+
+// The text between tabs goes to the fields, and what follows the sixth to the last one; fewer tabs fill the
+// fields in front of them.
+ScheduleItem ItemOf(std::string_view line) {
+  ScheduleItem item;
+  const std::vector<std::string_view> pieces = SplitAtMost(line, '\t', kTabsInLine + 1);
+  const auto fields = FieldsOf(item);
+  for (std::size_t i = 0; i + 1 < pieces.size(); ++i) *fields[i] = pieces[i];
+  if (pieces.size() == fields.size()) item.note = pieces.back();
+  return item;
+}
+
+// Whether the table does not hold all that the line says: text behind its last tab, or a line without a name.
+bool LosesText(const ScheduleItem& item, std::string_view line) {
+  if (item.Free()) return line.find_first_not_of(" \t") != std::string_view::npos;
+  return !LineOf(item).starts_with(line);
 }
 
 }  // namespace
@@ -41,68 +53,79 @@ ScheduleStore::ScheduleStore(DataFolder& data, std::string shortDatePattern)
     : data_(data), shortDatePattern_(std::move(shortDatePattern)), slots_(kFirstSlots) {}
 
 void ScheduleStore::LoadSchedule(const Date& today) {
-  slots_.assign(kFirstSlots, Slot{});
-  strangeLines_.clear();
+  slots_.assign(kFirstSlots, ScheduleItem{});
+  dropped_.clear();
   ++generation_;
+  const ReadResult old = data_.Read(kDroppedFile);
+  for (std::string_view line : SplitLines(old.bytes)) dropped_.emplace_back(line);
+  droppedChanged_ = false;
   const ReadResult file = data_.Read(kScheduleFile);
   std::size_t next = 0;
   for (std::string_view line : SplitLines(file.bytes)) {
     GrowTo(next);
-    LoadLine(slots_[next++], line);
+    ScheduleItem& item = slots_[next++];
+    item = ItemOf(line);
+    const bool expired = Expired(item, today);
+    if (expired || LosesText(item, line)) Drop(line);
+    if (!expired) continue;
+    item.name.clear();
+    item.action.clear();
   }
-  for (Slot& slot : slots_) {
-    if (!Expired(slot.item, today)) continue;
-    slot.item.name.clear();
-    slot.item.action.clear();
-    slot.partialLine.clear();
-  }
+  BringBack(today);
+}
+
+// A line that an earlier save wrote there, but that is still in the table's file, stands there once.
+void ScheduleStore::Drop(std::string_view line) {
+  if (std::find(dropped_.begin(), dropped_.end(), line) != dropped_.end()) return;
+  if (dropped_.size() >= kMostDropped) dropped_.erase(dropped_.begin());
+  dropped_.emplace_back(line);
+  droppedChanged_ = true;
+}
+
+bool ScheduleStore::BringBack(const Date& today) {
+  const std::size_t before = dropped_.size();
+  std::erase_if(dropped_, [&](const std::string& line) {
+    ScheduleItem item = ItemOf(line);
+    if (!HasDay(item) || Expired(item, today)) return false;
+    if (std::find(slots_.begin(), slots_.end(), item) == slots_.end()) SetItem(FirstFreeSlot(), item);
+    return true;
+  });
+  if (dropped_.size() == before) return false;
+  droppedChanged_ = true;
+  return true;
 }
 
 void ScheduleStore::GrowTo(std::size_t slot) {
   if (slot >= slots_.size()) slots_.resize(slot + kGrowth + 1);
 }
 
-void ScheduleStore::LoadLine(Slot& slot, std::string_view line) {
-  const std::vector<std::string_view> pieces = SplitAtMost(line, '\t', kTabsInLine + 1);
-  if (pieces.size() == 1) {
-    if (!line.empty()) strangeLines_.emplace_back(line);
-    return;
-  }
-  ScheduleItem& item = slot.item;
-  const std::array<std::string*, kTabsInLine> fields = {&item.name, &item.action,  &item.date,
-                                                        &item.time, &item.weekday, &item.kind};
-  // The text after the last tab belongs to a field only when that tab is the sixth.
-  for (std::size_t i = 0; i + 1 < pieces.size(); ++i) *fields[i] = pieces[i];
-  if (pieces.size() == kTabsInLine + 1) {
-    item.note = pieces[kTabsInLine];
-  } else {
-    slot.partialLine = line;
-  }
+// Whether the item is for one readable day.
+bool ScheduleStore::HasDay(const ScheduleItem& item) const {
+  return !item.Free() && KindOf(item.kind) == ScheduleKind::Once && ParseDate(item.date, shortDatePattern_);
 }
 
 bool ScheduleStore::Expired(const ScheduleItem& item, const Date& today) const {
-  if (item.Free() || KindOf(item.kind) != ScheduleKind::Once) return false;
-  const std::optional<DateTime> date = ParseDate(item.date, shortDatePattern_);
-  return date && DaysFromEpoch(today) - DaysFromEpoch(date->date) > kDaysKept;
+  if (!HasDay(item)) return false;
+  const Date day = ParseDate(item.date, shortDatePattern_)->date;
+  return DaysFromEpoch(today) - DaysFromEpoch(day) > kDaysKept;
 }
 
 bool ScheduleStore::SaveSchedule() {
-  std::string text;
-  for (const Slot& slot : slots_) {
-    if (!slot.partialLine.empty()) {
-      text += slot.partialLine + "\r\n";
-    } else if (!slot.item.Free()) {
-      text += LineOf(slot.item) + "\r\n";
-    }
+  if (droppedChanged_) {
+    std::string text;
+    for (const std::string& line : dropped_) text += line + "\r\n";
+    droppedChanged_ = !data_.Save(kDroppedFile, text);  // tried again at the next save
   }
-  for (const std::string& line : strangeLines_) text += line + "\r\n";
+  std::string text;
+  for (const ScheduleItem& item : slots_) {
+    if (!item.Free()) text += LineOf(item) + "\r\n";
+  }
   return data_.Save(kScheduleFile, text);
 }
 
 std::size_t ScheduleStore::FirstFreeSlot() {
-  const auto free = std::find_if(slots_.begin(), slots_.end(), [](const Slot& slot) {
-    return slot.item.Free() && slot.partialLine.empty();
-  });
+  const auto free =
+      std::find_if(slots_.begin(), slots_.end(), [](const ScheduleItem& item) { return item.Free(); });
   const auto slot = static_cast<std::size_t>(free - slots_.begin());
   GrowTo(slot);
   return slot;
@@ -110,7 +133,11 @@ std::size_t ScheduleStore::FirstFreeSlot() {
 
 void ScheduleStore::SetItem(std::size_t slot, ScheduleItem item) {
   GrowTo(slot);
-  slots_[slot] = Slot{std::move(item), {}};
+  for (std::string* field : FieldsOf(item)) {
+    *field = OnOneLine(*field);
+    if (field != &item.note) std::replace(field->begin(), field->end(), '\t', ' ');
+  }
+  slots_[slot] = std::move(item);
   ++generation_;
 }
 

@@ -1,5 +1,9 @@
 // The schedule table and its file "\Sched.snr". One instance, owned by Application: the evaluator reads it on
 // every run, the editor changes it and saves. Knows neither when an item comes on nor how it is shown.
+//
+// A save drops what loading did not take over: the end of a line with fewer than six tabs, and "once" items
+// whose day has passed. Those lines go to "\Sched.old" first, the latest kMostDropped of them, and items
+// whose day has not passed after all (the clock had been ahead) come back from there.
 #pragma once
 
 #include <cstddef>
@@ -17,42 +21,42 @@ class DataFolder;
 
 class ScheduleStore {
  public:
+  static constexpr std::size_t kMostDropped = 200;
+
   ScheduleStore(DataFolder& data, std::string shortDatePattern);
 
   // Replaces the table by the file's lines, each in the next slot, and frees "once" items that are more than
   // two days before `today`. A missing or unreadable file leaves an empty table.
   void LoadSchedule(const Date& today);
-  // Writes every occupied slot, and the lines that could not be understood as they were read. False when the
-  // file could not be written; the old one is then still whole.
+  // Writes every occupied slot. False when the file could not be written; the old one is then still whole.
   bool SaveSchedule();
+  // Puts the "once" items back into the table that were dropped under a later date than `today`. True when
+  // there was one.
+  bool BringBack(const Date& today);
 
   // Slots 0 to SlotCount() - 1, free ones included.
   std::size_t SlotCount() const { return slots_.size(); }
-  const ScheduleItem& Item(std::size_t slot) const { return slots_.at(slot).item; }
+  const ScheduleItem& Item(std::size_t slot) const { return slots_.at(slot); }
   // Grows with every change; whoever keeps something derived from the items compares it.
   std::uint64_t Generation() const { return generation_; }
 
   // The first slot that an item can be put into; the table grows when every slot is taken.
   std::size_t FirstFreeSlot();
+  // Line breaks in the item, and tabs in front of its last field, become blanks: they would end the field.
   void SetItem(std::size_t slot, ScheduleItem item);
   void FreeSlot(std::size_t slot);
 
  private:
-  struct Slot {
-    ScheduleItem item;
-    // A line with fewer than six tabs holds more than its fields; it is written back as it was until the item
-    // is changed.
-    std::string partialLine;
-  };
-
-  void LoadLine(Slot& slot, std::string_view line);
+  bool HasDay(const ScheduleItem& item) const;
   bool Expired(const ScheduleItem& item, const Date& today) const;
+  void Drop(std::string_view line);
   void GrowTo(std::size_t slot);
 
   DataFolder& data_;
   std::string shortDatePattern_;
-  std::vector<Slot> slots_;
-  std::vector<std::string> strangeLines_;  // lines without a tab: no item, but not ours to lose
+  std::vector<ScheduleItem> slots_;
+  std::vector<std::string> dropped_;  // the lines of "\Sched.old", or what it becomes at the next save
+  bool droppedChanged_ = false;
   std::uint64_t generation_ = 0;
 };
 

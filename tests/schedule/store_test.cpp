@@ -2,8 +2,10 @@
 #include <gtest/gtest.h>
 
 #include <memory>
+#include <set>
 
 #include "base/DataFolder.h"
+#include "base/Text.h"
 #include "fakes/FakeFiles.h"
 #include "fakes/FakeMessageBox.h"
 #include "fakes/FakeStrings.h"
@@ -22,10 +24,11 @@ const Date kToday{2000, 8, 16};
 class ScheduleFile : public testing::Test {
  protected:
   void SetUp() override { files_.MakeFolder("data"); }
-  void Load(std::string_view text) {
+  void Load(std::string_view text, const Date& today = kToday) {
     files_.Put("data/Sched.snr", text);
-    store_.LoadSchedule(kToday);
+    store_.LoadSchedule(today);
   }
+  auto Aside() { return files_.Get("data/Sched.old"); }
   std::string Saved() {
     EXPECT_TRUE(store_.SaveSchedule());
     return files_.Get("data/Sched.snr").value_or("(none)");
@@ -50,15 +53,42 @@ TEST_F(ScheduleFile, FieldsStandInTheLinesOwnOrderAndComeBackByteForByte) {
   EXPECT_EQ(Saved(), line);
 }
 
-TEST_F(ScheduleFile, LinesThatAreNotUnderstoodAreKept) {
-  Load("no tabs at all\r\nShort\tN\t8/14/2000\r\n\r\nFull\tN\t\t1:00 PM\t\tdaily\t\n");
+TEST_F(ScheduleFile, WhatTheTableDoesNotTakeOverGoesAside) {
+  Load("no tabs at all\r\nShort\tN\t8/14/2000\r\n\r\nBare\tN\t\r\nFull\tN\t\t1:00 PM\t\tdaily\t\n");
   EXPECT_TRUE(store_.Item(0).Free());
-  EXPECT_EQ(store_.Item(1).name, "Short");
-  EXPECT_EQ(store_.Item(1).date, "");  // no tab stands behind it
-  EXPECT_EQ(store_.Item(3).name, "Full");
-  EXPECT_EQ(Saved(), "Short\tN\t8/14/2000\r\nFull\tN\t\t1:00 PM\t\tdaily\t\r\nno tabs at all\r\n");
-  store_.FreeSlot(1);
-  EXPECT_EQ(Saved(), "Full\tN\t\t1:00 PM\t\tdaily\t\r\nno tabs at all\r\n");
+  EXPECT_EQ(store_.Item(1), (ScheduleItem{.name = "Short", .action = "N"}));  // no tab stands behind the date
+  EXPECT_TRUE(store_.Item(2).Free());
+  EXPECT_EQ(store_.Item(3).name, "Bare");
+  EXPECT_EQ(store_.Item(4).name, "Full");
+  EXPECT_EQ(store_.FirstFreeSlot(), 0u);
+  EXPECT_FALSE(Aside());
+  const std::string saved = "Short\tN\t\t\t\t\t\r\nBare\tN\t\t\t\t\t\r\nFull\tN\t\t1:00 PM\t\tdaily\t\r\n";
+  EXPECT_EQ(Saved(), saved);
+  EXPECT_EQ(Aside(), "no tabs at all\r\nShort\tN\t8/14/2000\r\n");
+  Load(saved);
+  EXPECT_EQ(Saved(), saved);
+  EXPECT_EQ(Aside(), "no tabs at all\r\nShort\tN\t8/14/2000\r\n");
+}
+
+TEST_F(ScheduleFile, AnItemThatAClockAheadDroppedComesBack) {
+  const std::string concert = "Concert\tN\t8/20/2000\t8:00 PM\t\tonce\t\r\n";
+  const std::string past = "Past\tN\t8/1/2000\t8:00 PM\t\tonce\t\r\n";
+  const Date ahead{2001, 8, 16};
+  Load(past + concert, ahead);
+  store_.SetItem(store_.FirstFreeSlot(), {.name = "new", .kind = "daily"});
+  EXPECT_EQ(Saved(), "new\t\t\t\t\tdaily\t\r\n");
+  EXPECT_FALSE(store_.BringBack(ahead));
+  EXPECT_EQ(Aside(), past + concert);
+
+  store_.LoadSchedule(kToday);  // the clock was put right before the next start
+  EXPECT_EQ(Saved(), "new\t\t\t\t\tdaily\t\r\n" + concert);
+  EXPECT_EQ(Aside(), past);
+
+  Load(concert, ahead);  // and before the program is closed
+  EXPECT_TRUE(store_.Item(0).Free());
+  EXPECT_TRUE(store_.BringBack(kToday));
+  EXPECT_FALSE(store_.BringBack(kToday));
+  EXPECT_EQ(Saved(), concert);
 }
 
 TEST_F(ScheduleFile, OnceItemsExpireMoreThanTwoDaysAfterTheirDay) {
@@ -121,6 +151,14 @@ TEST(ScheduleKinds, DayFlagsAreReadAndWrittenWithTheirOwnThursday) {
   EXPECT_EQ(KindOf("week"), ScheduleKind::Unknown);
 }
 
+TEST(ScheduleNames, SixMarksSeparateTheAddress) {
+  EXPECT_EQ(WebSiteOf("A>>>>>>x.example"), "http://x.example");
+  EXPECT_EQ(WebSiteOf("A>>>>>>https://x.example"), "https://x.example");
+  EXPECT_EQ(WebSiteOf("A>>>>>x.example"), "");
+  EXPECT_EQ(WebSiteOf("A>>>>>B>>>>>>x.example"), "http://x.example");
+  EXPECT_EQ(WebSiteOf("A>>>>>>"), "");
+}
+
 TEST(ScheduleNames, EventsSplitAtTheFirstOfEachMark) {
   const ItemName event = SplitItemName("Finale|||Z|||Radio|||Z|||Two>>>>>>www.x.example>>>>>>y");
   EXPECT_EQ(event.Shown(), "Finale on Radio|||Z|||Two");
@@ -159,7 +197,7 @@ TEST(PersonalShowList, AddsOnceRemovesByTheIdentifyingPartAndTellsTheUser) {
   PersonalShows shows(data, box, strings);
   shows.AddPersonalShow("12XEvening Show");
   shows.AddPersonalShow("12XRenamed Show");
-  shows.AddPersonalShow("7XMorning X Ray");
+  shows.AddPersonalShow("7XMorning\nX Ray");
   EXPECT_EQ(files.Get("data/Shows.snr"), "12XEvening Show\r\n7XMorning X Ray\r\n");
   EXPECT_EQ(shows.ReadPersonalShows(), "12XEvening Show\r\n7XMorning X Ray");
   EXPECT_EQ(PersonalShows::DisplayName("7XMorning X Ray"), "Morning X Ray");
@@ -213,10 +251,47 @@ TEST(ScheduleLists, AShowHasWhatItsSoonestItemSaysOrItsNextBroadcast) {
   EXPECT_EQ(shown(), unknown + gone + evening + live);
 }
 
-TEST(Calendar, EntriesFollowTheFormat) {
+class Calendar : public testing::Test {
+ protected:
+  std::string Export(const Date& today = kToday) {
+    return ExportCalendar(store, today, {{2000, 8, 16}, {10, 0, 0}}, "");
+  }
+  // The identities of the entries, in their order.
+  std::vector<std::string> Identities(const Date& today = kToday) {
+    std::vector<std::string> found;
+    const std::string file = Export(today);
+    for (std::string_view line : SplitLines(file)) {
+      if (line.starts_with("UID:")) found.emplace_back(line);
+    }
+    return found;
+  }
+
   FakeFiles files;
-  DataFolder data(files, "data", '/');
-  ScheduleStore store(data, "");
+  DataFolder data{files, "data", '/'};
+  ScheduleStore store{data, ""};
+};
+
+TEST_F(Calendar, AnEntryKeepsItsIdentity) {
+  const ScheduleItem news{.name = "News", .time = "7:15", .kind = "daily"};
+  store.SetItem(0, {.name = "Gala", .date = "8/20/2000", .time = "7:15", .kind = "once"});
+  store.SetItem(1, news);
+  store.SetItem(2, news);
+  store.SetItem(3, {.name = "News", .time = "7:15", .weekday = "Monday", .kind = "weekly"});
+  const std::vector<std::string> before = Identities();
+  ASSERT_EQ(before.size(), 4u);
+  EXPECT_EQ(std::set<std::string>(before.begin(), before.end()).size(), 4u);
+  store.FreeSlot(0);
+  store.SetItem(3, {.name = "News", .time = "7:15", .weekday = "Monday", .kind = "weekly", .note = "tea"});
+  EXPECT_EQ(Identities({2000, 8, 17}), std::vector<std::string>(before.begin() + 1, before.end()));
+}
+
+TEST_F(Calendar, NothingInAnItemAddsALine) {
+  store.SetItem(0, {.name = "A>>>>>>x.example/\r\nATTENDEE:mailto:y\vz", .time = "7:15", .kind = "daily"});
+  EXPECT_EQ(Export().find("\r\nATTENDEE"), std::string::npos);
+  EXPECT_EQ(Export().find('\v'), std::string::npos);
+}
+
+TEST_F(Calendar, EntriesFollowTheFormat) {
   store.SetItem(0, {.name = "Finale|||Z|||Radio; One>>>>>>http://x.example/a,b",
                     .date = "12/24/2000",
                     .time = "6:00 PM",
@@ -224,7 +299,7 @@ TEST(Calendar, EntriesFollowTheFormat) {
                     .note = std::string(80, 'n') + "\xC3\xA9"});
   store.SetItem(1, {.name = "News", .time = "7:15", .kind = "daily|Mon=-1|Fri=-1|"});
   store.SetItem(2, {.name = "never", .time = "soon", .kind = "daily"});
-  const std::string file = ExportCalendar(store, kToday, {{2000, 8, 16}, {10, 0, 0}}, "");
+  const std::string file = Export();
   for (const char* line :
        {"BEGIN:VCALENDAR\r\n", "DTSTART:20001224T180000\r\n", "SUMMARY:Finale on Radio\\; One\r\n",
         "URL:http://x.example/a,b\r\n", "DTSTART:20000818T071500\r\n", "RRULE:FREQ=WEEKLY;BYDAY=MO,FR\r\n",
