@@ -1,8 +1,11 @@
 #include "schedule/Notification.h"
 
+#include <set>
+
 #include "base/Numbers.h"
 #include "base/Text.h"
 #include "playback/ExtraLinks.h"
+#include "playback/PlayLink.h"
 #include "schedule/ScheduleStore.h"
 #include "schedule/ScheduleTexts.h"
 
@@ -15,17 +18,46 @@ constexpr PlayMode kLinkModes[] = {PlayMode::LinkOne, PlayMode::LinkTwo, PlayMod
 
 std::string PlayCaption(std::string_view linkName) { return "Play (" + std::string(linkName) + ")"; }
 
-std::string LinkName(std::string_view mediaType, int number) {
-  return mediaType.empty() ? "Link " + std::to_string(number) : std::string(mediaType);
+// "http://user@host.example:8000/path" is on "host.example:8000".
+std::string_view ServerOf(std::string_view address) {
+  constexpr std::string_view kMark = "://";
+  const auto scheme = address.find(kMark);
+  if (scheme == std::string_view::npos) return {};
+  address = address.substr(scheme + kMark.size());
+  address = address.substr(0, address.find_first_of("/?#"));
+  return address.substr(address.rfind('@') + 1);
 }
+
+// Names that tell the links of one station apart. The station's media type is that of its first link; a
+// further link has the name of its server, or a number when an earlier one is on the same.
+class LinkNames {
+ public:
+  explicit LinkNames(std::string mediaType) : mediaType_(std::move(mediaType)) {}
+
+  std::string Next(std::string_view link, int number) {
+    const PlayLink play = PlayLink::FromText(link);
+    const std::string server(ServerOf(play.address));
+    const bool first = servers_.empty();
+    const bool newServer = servers_.insert(server).second;
+    if (first && !mediaType_.empty()) return mediaType_;
+    if (!first && newServer && !server.empty()) return server;
+    return (mediaType_.empty() ? "Link" : mediaType_) + " " + std::to_string(number);
+  }
+
+ private:
+  std::string mediaType_;
+  std::set<std::string> servers_;
+};
 
 void AddDirectoryLinks(std::vector<PlayChoice>& plays, const StationKey& key, const StationSource& stations,
                        const ExtraLinks& extraLinks) {
   const StationRecord record = stations.Record(key.number);
   const std::string& bitRate = record[StationField::BitRate];
+  LinkNames names(record[StationField::MediaType]);
   for (int number = 1; number <= 3; ++number) {
-    if (stations.LinkOf(key, number).empty()) continue;
-    plays.push_back({PlayCaption(LinkName(record[StationField::MediaType], number)),
+    const std::string link = stations.LinkOf(key, number);
+    if (link.empty()) continue;
+    plays.push_back({PlayCaption(names.Next(link, number)),
                      number == 1 && !bitRate.empty() ? bitRate + " kbit/s" : "", std::to_string(key.number),
                      kLinkModes[number - 1]});
   }
@@ -35,12 +67,12 @@ void AddDirectoryLinks(std::vector<PlayChoice>& plays, const StationKey& key, co
 }
 
 void AddPersonalLinks(std::vector<PlayChoice>& plays, const StationKey& key, const StationSource& stations) {
+  LinkNames names("");
   for (int number = 1; number <= 3; ++number) {
     const std::string link = stations.LinkOf(key, number);
     if (link.empty()) continue;
     const bool first = number == 1;
-    plays.push_back({PlayCaption("Link " + std::to_string(number)), "",
-                     first ? std::to_string(key.number) : link,
+    plays.push_back({PlayCaption(names.Next(link, number)), "", first ? std::to_string(key.number) : link,
                      first ? PlayMode::Personal : PlayMode::KeyItself});
   }
 }

@@ -18,7 +18,8 @@ constexpr unsigned char kMissedPane = 2;
 const FormDesign& frmNotify::Design() {
   static constexpr ControlRow kControls[] = {
       {.id = lblTitle, .kind = Kind::TitleBar, .text = IDS_SCHED_NOTIFY_TITLE, .at = {40, 4, 130, 26}},
-      {.kind = Kind::Glass, .at = {14, 46, 412, 94}, .cut = 12},
+      {.kind = Kind::Glass, .at = {14, 46, 412, 94}, .cut = 12, .pane = kNoticePane},
+      {.kind = Kind::Glass, .at = {14, 46, 412, 150}, .cut = 12, .pane = kMissedPane},
       {.kind = Kind::Label,
        .at = {34, 56, 24, 24},
        .icon = Icon::Bell,
@@ -42,7 +43,7 @@ const FormDesign& frmNotify::Design() {
        .pane = kNoticePane},
       {.id = txtMissed,
        .kind = Kind::ReadOnlyText,
-       .at = {70, 74, 344, 62},
+       .at = {70, 74, 344, 118},
        .flags = kOnGlass | kTabStop,
        .pane = kMissedPane},
       {.id = butPlay1It, .kind = Kind::PlayKey, .at = {14, 150, 134, 40}, .flags = kHidden | kNoPrefix},
