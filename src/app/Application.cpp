@@ -245,8 +245,8 @@ TrayActions Application::MakeTrayActions() {
   actions.scheduleItemDue = [this](int slot) { schedule_->AskForNotification(*main_, slot); };
   actions.startUp = [this] { schedule_->StartWatching(); };
   actions.minute = [this] {
-    schedule_->Minute();
     SayWhatSettingsLack();
+    return schedule_->Minute();
   };
   actions.clockChanged = [this] {
     if (schedule_) schedule_->Minute();

@@ -54,7 +54,15 @@ ApplicationSchedule::ApplicationSchedule(const Needs& needs)
   store_.LoadSchedule(needs_.platform.clock.LocalNow().date);
   diary_.Reload();
   picker_.SetGroups([this] { return Groups(); });
-  timerWindow_.SetTick([this] { timer_.Timer1_Timer(); });
+  timerWindow_.SetTicks(
+      [this] {
+        timer_.Timer1_Timer();
+        RememberSeen();
+      },
+      [this] {
+        timer_.FullMinute_Timer();
+        RememberSeen();
+      });
   timer_.SetLiveStarts(
       [this](const DateTime& from, const DateTime& to) { return diary_.Starting(store_, from, to); });
   timer_.SetAwayNotice([this](const std::vector<Occurrence>& missed) {
@@ -102,15 +110,20 @@ void ApplicationSchedule::StartWatching() {
   RememberSeen();
 }
 
-void ApplicationSchedule::Minute() {
+unsigned ApplicationSchedule::Minute() {
+  const DateTime now = needs_.platform.clock.LocalNow();
   timer_.KeepWatch();
+  if (store_.BringBack(now.date)) timer_.EvaluateSchedule();
   RememberSeen();
   list_.FillLists();
   if (changed_) changed_();
+  return MillisecondsToFullMinute(now, now);
 }
 
+// After whatever may have told something, so that the next start, even after a crash, tells neither that
+// again nor less than all that follows.
 void ApplicationSchedule::RememberSeen() {
-  needs_.reg.SetSetting(setting::kScheduleLastSeen, StampOf(needs_.platform.clock.LocalNow()));
+  needs_.reg.SetSetting(setting::kScheduleLastSeen, StampOf(timer_.ToldUntil()));
 }
 
 void ApplicationSchedule::AskForNotification(Form& window, int slot) {
@@ -205,6 +218,7 @@ NextNotice ApplicationSchedule::NextNotice() {
 void ApplicationSchedule::DirectoryChanged() {
   diary_.Reload();
   timer_.EvaluateSchedule();
+  RememberSeen();
 }
 
 std::vector<PickGroup> ApplicationSchedule::Groups() const {
@@ -219,6 +233,7 @@ std::vector<PickGroup> ApplicationSchedule::Groups() const {
 // An item was added, changed or deleted.
 void ApplicationSchedule::Changed() {
   timer_.EvaluateSchedule();
+  RememberSeen();
   list_.FillLists();
   if (changed_) changed_();
 }

@@ -68,8 +68,9 @@ class ApplicationSchedule {
 
   // Once, when the program has finished loading: what was missed meanwhile, and the first evaluation.
   void StartWatching();
-  // Every minute, and when the clock was set or the machine woke up.
-  void Minute();
+  // Every minute, and when the clock was set or the machine woke up. Gives the milliseconds to the next full
+  // minute, when it wants to be called again.
+  unsigned Minute();
   // A due item: asks for its notification by way of the hidden label of a window.
   void AskForNotification(Form& window, int slot);
   // The text of that label: the item's slot followed by "XX".

@@ -254,6 +254,7 @@ inline constexpr int mnuTrayGroup = 3021;  // 10 numbers
 inline constexpr int lblTrayText = 3041;
 inline constexpr int tmrStartUp = 3042;
 inline constexpr int tmrMinute = 3043;
+inline constexpr int tmrFullMinute = 3044;
 
 // frmSonaroMenu (menu entries): 3101 to 3399.
 // Sorting: the sort menu and the same entries of the action menu.

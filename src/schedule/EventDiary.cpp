@@ -56,17 +56,19 @@ std::optional<DateTime> EventDiary::Next(std::string_view name, const DateTime& 
   return found == diary_.end() ? std::nullopt : std::optional(found->gmt);
 }
 
-std::vector<std::size_t> EventDiary::Starting(const ScheduleStore& store, const DateTime& from,
-                                              const DateTime& to) const {
-  std::vector<std::size_t> slots;
+std::vector<Occurrence> EventDiary::Starting(const ScheduleStore& store, const DateTime& from,
+                                             const DateTime& to) const {
+  std::vector<Occurrence> starting;
   for (const BroadcastEvent& event : diary_) {
     if (event.gmt <= from || event.gmt > to) continue;
     for (std::size_t slot = 0; slot < store.SlotCount(); ++slot) {
       const ScheduleItem& item = store.Item(slot);
-      if (KindOf(item.kind) == ScheduleKind::Live && WaitsFor(item, event.record)) slots.push_back(slot);
+      if (KindOf(item.kind) == ScheduleKind::Live && WaitsFor(item, event.record)) {
+        starting.push_back({slot, event.gmt});
+      }
     }
   }
-  return slots;
+  return starting;
 }
 
 }  // namespace sonaro

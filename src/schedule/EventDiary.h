@@ -8,6 +8,7 @@
 
 #include "base/Dates.h"
 #include "directory/EventRecord.h"
+#include "schedule/ScheduleCalendar.h"
 
 namespace sonaro {
 
@@ -32,10 +33,10 @@ class EventDiary {
   // When the next event of this name begins; letter case is ignored.
   std::optional<DateTime> Next(std::string_view name, const DateTime& gmtNow) const;
 
-  // The slots of live items whose event begins after `from` and not after `to`. A live item waits for the
+  // The live items whose event begins after `from` and not after `to`, and when. A live item waits for the
   // event of its name, on its station when it names one.
-  std::vector<std::size_t> Starting(const ScheduleStore& store, const DateTime& from,
-                                    const DateTime& to) const;
+  std::vector<Occurrence> Starting(const ScheduleStore& store, const DateTime& from,
+                                   const DateTime& to) const;
 
  private:
   // The first event that has not begun.

@@ -39,6 +39,10 @@ Date DayAfter(const Date& day) { return DateFromDays(DaysFromEpoch(day) + 1); }
 
 }  // namespace
 
+bool ComesBefore(const Occurrence& a, const Occurrence& b) {
+  return a.at != b.at ? a.at < b.at : a.slot < b.slot;
+}
+
 ScheduleCalendar::ScheduleCalendar(const ScheduleStore& store, std::string shortDatePattern)
     : store_(store), shortDatePattern_(std::move(shortDatePattern)) {}
 
@@ -146,9 +150,7 @@ std::vector<Occurrence> ScheduleCalendar::Between(const DateTime& from, const Da
       if (at > from && at <= to && DueOn(entry, day)) found.push_back({entry.slot, at});
     }
   }
-  std::sort(found.begin(), found.end(), [](const Occurrence& a, const Occurrence& b) {
-    return a.at != b.at ? a.at < b.at : a.slot < b.slot;
-  });
+  std::sort(found.begin(), found.end(), ComesBefore);
   return found;
 }
 

@@ -23,6 +23,9 @@ struct Occurrence {
   auto operator<=>(const Occurrence&) const = default;
 };
 
+// By time, then by slot.
+bool ComesBefore(const Occurrence& a, const Occurrence& b);
+
 class ScheduleCalendar {
  public:
   ScheduleCalendar(const ScheduleStore& store, std::string shortDatePattern);

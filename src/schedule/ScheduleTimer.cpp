@@ -1,6 +1,7 @@
 #include "schedule/ScheduleTimer.h"
 
 #include <algorithm>
+#include <utility>
 
 #include "platform/Clock.h"
 #include "platform/MessagePost.h"
@@ -15,13 +16,34 @@ constexpr int kFiredMark = -1;
 constexpr const char* kTrayCaption = "frmSysTrayMenu";
 constexpr const char* kInUse = "ahahaha";
 
-constexpr std::int64_t kSecondsInDay = 24 * 60 * 60;
+constexpr std::int64_t kSecondsInHour = 60 * 60;
+constexpr std::int64_t kSecondsInDay = 24 * kSecondsInHour;
+constexpr int kSecondsInMinute = 60;
+// A tick this far behind the full minute or nearer needs no other.
+constexpr int kOnTheMinute = 2;
+// How much later than the clock says a tick is asked for: timers keep their time to about a fiftieth second.
+constexpr unsigned kAfterTheMinute = 200;  // milliseconds
 // A tick later than this did not come from a busy machine: the clock jumped or the machine slept.
 constexpr std::int64_t kLateTick = 5 * 60;
 // The largest step of a summer-time change anywhere.
-constexpr std::int64_t kLargestTimeChange = 2 * 60 * 60 + kLateTick;
+constexpr std::int64_t kLargestTimeChange = 2 * kSecondsInHour + kLateTick;
+// The largest correction after which what was told stays told. A clock that was further ahead told it at a
+// wrong time.
+constexpr std::int64_t kSmallCorrection = 30 * 60;
+
+// From GMT to local time, in seconds; the two clocks are read one after the other.
+std::int64_t OffsetOf(const DateTime& now, const DateTime& gmt) {
+  return (SecondsBetween(gmt, now) + kSecondsInDay + kSecondsInMinute / 2) / kSecondsInMinute *
+             kSecondsInMinute -
+         kSecondsInDay;
+}
 
 }  // namespace
+
+unsigned MillisecondsToFullMinute(const DateTime& since, const DateTime& now) {
+  const std::int64_t left = kSecondsInMinute - since.time.second - SecondsBetween(since, now);
+  return static_cast<unsigned>(std::clamp<std::int64_t>(left, 0, kSecondsInMinute)) * 1000 + kAfterTheMinute;
+}
 
 ScheduleTimer::ScheduleTimer(ScheduleCalendar& calendar, Clock& clock, MessagePost& messages,
                              ScheduleTimerView& view)
@@ -36,7 +58,7 @@ void ScheduleTimer::EvaluateSchedule() {
     view_.SetCloseItCaption(kInUse);
   } else {
     command_ = "DOWN";
-    Remember(clock_.LocalNow(), clock_.GmtNow());
+    Remember(clock_.LocalNow(), lastGmt_);  // no live item is passed over
     view_.Load();
   }
 }
@@ -68,6 +90,7 @@ void ScheduleTimer::Timer1_Timer() {
   if (command_ == "DOWN") {
     command_.clear();
     view_.RestartTimer(kMinute);
+    view_.TickOnceIn(MillisecondsToFullMinute(lastTick_, clock_.LocalNow()));
     return;
   }
   if (command_ == "CLOSE") {
@@ -78,32 +101,39 @@ void ScheduleTimer::Timer1_Timer() {
   Tick();
 }
 
+void ScheduleTimer::FullMinute_Timer() {
+  view_.RestartTimer(kMinute);
+  Timer1_Timer();
+}
+
 void ScheduleTimer::KeepWatch() {
-  if (!view_.IsLoaded()) Tick();
+  if (!view_.IsLoaded() || PaceSinceLastTick(clock_.LocalNow(), clock_.GmtNow()) != Pace::Even) Tick();
 }
 
 void ScheduleTimer::Tick() {
   const DateTime now = clock_.LocalNow();
   const DateTime gmt = clock_.GmtNow();
   const Pace pace = PaceSinceLastTick(now, gmt);
+  std::vector<Occurrence> live = LiveSince(lastGmt_, now, gmt);
   switch (pace) {
     case Pace::Even:
       FireDue(now);
       break;
     case Pace::SkippedAhead:
-      FireSkipped(now);
+      FireNew(calendar_.Between(lastTick_, now));
       break;
     case Pace::WasAway:
-      TellMissed(lastTick_, now);
+      TellLate(lastTick_, std::exchange(live, {}), now, kSecondsInHour);
       break;
     case Pace::WentBack:
+      ForgetAhead(now, gmt);
       break;
   }
-  if (liveStarts_ && gmt > lastGmt_) {
-    const DateTime dayAgo = AddSeconds(gmt, -kSecondsInDay);
-    for (std::size_t slot : liveStarts_(std::max(lastGmt_, dayAgo), gmt)) Fire(slot);
-  }
+  FireNew(live);
   Remember(now, gmt);
+  if (view_.IsLoaded() && now.time.second > kOnTheMinute) {
+    view_.TickOnceIn(MillisecondsToFullMinute(now, now));
+  }
   if (++tickCounter_ >= kTicksBetweenRuns || pace != Pace::Even) {
     EvaluateSchedule();
     tickCounter_ = 0;
@@ -141,19 +171,51 @@ bool ScheduleTimer::FireEntries(const DateTime& now) {
   return fired;
 }
 
-void ScheduleTimer::FireSkipped(const DateTime& now) {
-  for (const Occurrence& occurrence : calendar_.Between(lastTick_, now)) {
+void ScheduleTimer::FireNew(const std::vector<Occurrence>& occurrences) {
+  for (const Occurrence& occurrence : occurrences) {
     if (FirstTime(occurrence)) Fire(occurrence.slot);
   }
 }
 
-void ScheduleTimer::CatchUp(const DateTime& lastSeen) { TellMissed(lastSeen, clock_.LocalNow()); }
+// In local time; a day back at most.
+std::vector<Occurrence> ScheduleTimer::LiveSince(const DateTime& fromGmt, const DateTime& now,
+                                                 const DateTime& gmt) const {
+  if (!liveStarts_ || gmt <= fromGmt) return {};
+  std::vector<Occurrence> live = liveStarts_(std::max(fromGmt, AddSeconds(gmt, -kSecondsInDay)), gmt);
+  for (Occurrence& occurrence : live) occurrence.at = AddSeconds(occurrence.at, OffsetOf(now, gmt));
+  return live;
+}
 
-void ScheduleTimer::TellMissed(const DateTime& from, const DateTime& now) {
-  const DateTime dayAgo = AddSeconds(now, -kSecondsInDay);
-  std::vector<Occurrence> missed = calendar_.Between(std::max(from, dayAgo), now);
-  std::erase_if(missed, [&](const Occurrence& occurrence) { return !FirstTime(occurrence); });
-  if (!missed.empty() && awayNotice_) awayNotice_(missed);
+void ScheduleTimer::CatchUp(const DateTime& lastSeen) {
+  const DateTime now = clock_.LocalNow();
+  const DateTime gmt = clock_.GmtNow();
+  // A last look far ahead of now was by a wrong clock and does not say what has been told.
+  const bool unknown = SecondsBetween(now, lastSeen) > kLargestTimeChange;
+  const DateTime from = unknown ? AddSeconds(now, -kSecondsInDay) : lastSeen;
+  TellLate(from, LiveSince(AddSeconds(from, -OffsetOf(now, gmt)), now, gmt), now, 0);
+  Remember(now, gmt);
+}
+
+// What came on after `from`, a day back at most, and the live items: as usual while no older than said and of
+// this day.
+void ScheduleTimer::TellLate(const DateTime& from, std::vector<Occurrence> live, const DateTime& now,
+                             std::int64_t asUsualSeconds) {
+  std::vector<Occurrence> late = calendar_.Between(std::max(from, AddSeconds(now, -kSecondsInDay)), now);
+  late.insert(late.end(), live.begin(), live.end());
+  std::sort(late.begin(), late.end(), ComesBefore);
+  std::erase_if(late, [&](const Occurrence& occurrence) { return !FirstTime(occurrence); });
+  const auto recent = std::find_if(late.begin(), late.end(), [&](const Occurrence& occurrence) {
+    return occurrence.at.date == now.date && SecondsBetween(occurrence.at, now) <= asUsualSeconds;
+  });
+  for (auto occurrence = recent; occurrence != late.end(); ++occurrence) Fire(occurrence->slot);
+  late.erase(recent, late.end());
+  if (!late.empty() && awayNotice_) awayNotice_(late);
+}
+
+// What a clock that was ahead has told comes on again when its time has come.
+void ScheduleTimer::ForgetAhead(const DateTime& now, const DateTime& gmt) {
+  if (SecondsBetween(gmt, lastGmt_) <= kSmallCorrection) return;
+  std::erase_if(told_, [&](const Occurrence& occurrence) { return occurrence.at > now; });
 }
 
 void ScheduleTimer::Fire(std::size_t slot) {

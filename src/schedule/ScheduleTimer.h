@@ -2,10 +2,13 @@
 // hidden window frmschedtime, which only owns the system's timer. Owned by Application.
 //
 // While the machine runs evenly, the due list is everything: the items of this and the next clock hour,
-// rebuilt every 30 ticks. Where the clock does not run evenly, three further rules hold: an occurrence is
-// told once, whatever the clock does; what a summer-time change skips is told when the clock has jumped; and
-// what came on while the machine slept, the clock was set forward or the program was closed (a day at most)
-// is told in one notice "while you were away".
+// rebuilt every 30 ticks. The ticks fall on the full minute, when items come on.
+//
+// Where the clock does not run evenly, further rules hold: an occurrence is told once, unless the clock that
+// told it was found to be ahead; what a summer-time change skips is told when the clock has jumped; and of
+// what came on while the machine slept or the clock was set forward (a day at most), this day's last hour is
+// told as usual and the rest in one notice "while you were away". So is all that came on while the program
+// was closed.
 #pragma once
 
 #include <array>
@@ -32,13 +35,18 @@ class ScheduleTimerView {
   virtual void Load() = 0;  // create it, its timer running
   virtual void SetCloseItCaption(const char* caption) = 0;
   virtual void RestartTimer(unsigned milliseconds) = 0;
+  // Asks for one FullMinute_Timer; a later call takes the place of an earlier one.
+  virtual void TickOnceIn(unsigned milliseconds) = 0;
   virtual void Unload() = 0;
 };
 
-// What a live item waits for. Both moments are GMT; the slots of the items whose event began after `from` and
-// not after `to`.
-using LiveStarts = std::function<std::vector<std::size_t>(const DateTime& from, const DateTime& to)>;
+// What live items wait for: the events that began after `from` and not after `to`. All moments are GMT.
+using LiveStarts = std::function<std::vector<Occurrence>(const DateTime& from, const DateTime& to)>;
 using AwayNotice = std::function<void(const std::vector<Occurrence>& missed)>;
+
+// How long it is from `now` to just after the first full minute that follows `since`; a tick a moment early
+// would tell what comes on in that minute a minute late. At most a minute, whatever the clock does.
+unsigned MillisecondsToFullMinute(const DateTime& since, const DateTime& now);
 
 class ScheduleTimer {
  public:
@@ -55,8 +63,11 @@ class ScheduleTimer {
 
   // Timer1 of frmschedtime.
   void Timer1_Timer();
-  // Called every minute by the tray window: stands in for the timer window while that is not loaded, so that
-  // an item which is hours away is found when its hour comes.
+  // The one tick that the view was asked for: the minute ticks count from here.
+  void FullMinute_Timer();
+  // Called every minute by the tray window, and when the clock was set or the machine woke: stands in for the
+  // timer window while that is not loaded, so that an item which is hours away is found when its hour comes,
+  // and where the clock has jumped, so that nobody waits for that window's next tick.
   void KeepWatch();
   // Steers the timer window at its next tick: "DOWN" starts the minute ticks, "CLOSE" unloads it.
   void SetCommand(std::string command) { command_ = std::move(command); }
@@ -64,6 +75,8 @@ class ScheduleTimer {
   // Tells what came on since `lastSeen` while the program was closed. Called once when the program has
   // loaded.
   void CatchUp(const DateTime& lastSeen);
+  // The local time up to which everything has been told: the next start's `lastSeen`.
+  const DateTime& ToldUntil() const { return lastTick_; }
 
   const std::array<int, kDuePlaces>& DueList() const { return due_; }
   std::size_t DueCount() const { return dueCount_; }
@@ -79,8 +92,11 @@ class ScheduleTimer {
   void FillDueList(const DateTime& now);
   void FireDue(const DateTime& now);
   bool FireEntries(const DateTime& now);
-  void FireSkipped(const DateTime& now);
-  void TellMissed(const DateTime& from, const DateTime& now);
+  void FireNew(const std::vector<Occurrence>& occurrences);
+  std::vector<Occurrence> LiveSince(const DateTime& fromGmt, const DateTime& now, const DateTime& gmt) const;
+  void TellLate(const DateTime& from, std::vector<Occurrence> live, const DateTime& now,
+                std::int64_t asUsualSeconds);
+  void ForgetAhead(const DateTime& now, const DateTime& gmt);
   void Fire(std::size_t slot);
   bool FirstTime(const Occurrence& occurrence);
   void Remember(const DateTime& now, const DateTime& gmt);

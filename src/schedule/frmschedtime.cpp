@@ -18,20 +18,26 @@ const FormDesign& frmschedtime::Design() {
   return kDesign;
 }
 
-frmschedtime::frmschedtime(FormContext& context, std::function<void()> tick)
-    : Form(context, Design()), tick_(std::move(tick)) {}
+frmschedtime::frmschedtime(FormContext& context, std::function<void()> tick, std::function<void()> fullMinute)
+    : Form(context, Design()), tick_(std::move(tick)), fullMinute_(std::move(fullMinute)) {}
 
 std::span<const TimerRow> frmschedtime::Timers() const {
-  static const TimerRow kRows[] = {{Timer1, &frmschedtime::Timer1_Timer}};
+  static const TimerRow kRows[] = {{Timer1, &frmschedtime::Timer1_Timer},
+                                   {tmrFullMinute, &frmschedtime::tmrFullMinute_Timer}};
   return kRows;
 }
 
 void frmschedtime::OnLoad() { StartTimer(Timer1, kFirstTick); }
 
+void frmschedtime::tmrFullMinute_Timer() {
+  StopTimer(tmrFullMinute);
+  fullMinute_();
+}
+
 bool ScheduleTimerWindow::IsLoaded() { return form_ && form_->IsOpen(); }
 
 void ScheduleTimerWindow::Load() {
-  form_ = std::make_unique<frmschedtime>(context_, tick_);
+  form_ = std::make_unique<frmschedtime>(context_, tick_, fullMinute_);
   form_->Create();
 }
 
@@ -43,6 +49,10 @@ void ScheduleTimerWindow::RestartTimer(unsigned milliseconds) {
   if (!form_) return;
   form_->StopTimer(Timer1);
   form_->StartTimer(Timer1, milliseconds);
+}
+
+void ScheduleTimerWindow::TickOnceIn(unsigned milliseconds) {
+  if (form_) form_->StartTimer(tmrFullMinute, milliseconds);
 }
 
 void ScheduleTimerWindow::Unload() {

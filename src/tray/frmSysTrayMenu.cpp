@@ -189,7 +189,7 @@ void frmSysTrayMenu::tmrStartUp_Timer() {
 }
 
 void frmSysTrayMenu::tmrMinute_Timer() {
-  if (actions_.minute) actions_.minute();
+  if (actions_.minute) StartTimer(tmrMinute, actions_.minute());
 }
 
 }  // namespace sonaro

@@ -28,7 +28,8 @@ struct TrayActions {
   std::function<void(int group)> openGroup;
   std::function<void(int slot)> scheduleItemDue;
   std::function<void()> startUp;  // once, when the program has finished loading
-  std::function<void()> minute;   // every minute
+  // At every full minute; gives the milliseconds to the next one.
+  std::function<unsigned()> minute;
   std::function<void()> clockChanged;
 };
 

@@ -99,13 +99,17 @@ class WithStations : public testing::Test {
  protected:
   void SetUp() override {
     files_.MakeFolder("data");
+    MakeTable();
+  }
+  void MakeTable() {
     StationRecord record;
     record.StationId = 77;
     record[StationField::Name] = "Radio";
     record[StationField::MediaType] = "MP3";
     record[StationField::BitRate] = "128";
-    record[StationField::LinkOne] = "mhttp://one";
-    record[StationField::LinkThree] = "mhttp://three";
+    record[StationField::LinkOne] = "mhttp://one/live";
+    record[StationField::LinkTwo] = linkTwo_;
+    record[StationField::LinkThree] = "mhttp://three:8000/live?x=y@z";
     std::string line = "77";
     for (std::string& field : record.fields) {
       const auto at = static_cast<int>(&field - record.fields.data()) + 1;
@@ -118,6 +122,7 @@ class WithStations : public testing::Test {
     ASSERT_TRUE(stations_.RebuildStationTable());
   }
 
+  std::string linkTwo_;
   FakeFiles files_;
   DataFolder data_{files_, "data", '/'};
   StatList stations_{data_};
@@ -125,6 +130,21 @@ class WithStations : public testing::Test {
   ExtraLinks extra_{data_};
   StationSource source_{stations_, personal_, BuiltInAlphabets()};
 };
+
+TEST_F(WithStations, ThePlayKeysTellTheLinksApart) {
+  const auto captions = [&] {
+    std::string all;
+    for (const PlayChoice& play :
+         NotificationFor({.name = "x", .action = "NS77"}, source_, extra_, "").plays) {
+      all += play.caption + "\n";
+    }
+    return all;
+  };
+  EXPECT_EQ(captions(), "Play (MP3)\nPlay (three:8000)\n");
+  linkTwo_ = "mhttp://one/other";
+  MakeTable();
+  EXPECT_EQ(captions(), "Play (MP3)\nPlay (MP3 2)\nPlay (three:8000)\n");
+}
 
 TEST_F(WithStations, ANotificationOffersTheStationsLinksThenExtraOnesThreeAtMost) {
   ASSERT_TRUE(extra_.Set(77, {{"mine", "mhttp://mine"}, {"more", "mhttp://more"}}));
@@ -181,7 +201,8 @@ TEST_F(WithStations, TheDiaryKnowsWhatComesAndWhatBegins) {
   store.SetItem(5, {.name = "Late|||Z|||Other", .kind = "live"});
   store.SetItem(6, {.name = "Late", .kind = "once"});
   const DateTime tenOClock{{2000, 8, 16}, {22, 0, 0}};
-  EXPECT_EQ(diary.Starting(store, AddSeconds(tenOClock, -60), tenOClock), std::vector<std::size_t>{4});
+  EXPECT_EQ(diary.Starting(store, AddSeconds(tenOClock, -60), tenOClock),
+            (std::vector<Occurrence>{{4, tenOClock}}));
   EXPECT_TRUE(diary.Starting(store, tenOClock, AddSeconds(tenOClock, 60)).empty());
 }
 

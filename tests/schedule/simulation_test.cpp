@@ -44,6 +44,7 @@ class Recorder : public ScheduleTimerView, public MessagePost {
   void Load() override { loaded_ = true; }
   void SetCloseItCaption(const char*) override {}
   void RestartTimer(unsigned) override {}
+  void TickOnceIn(unsigned) override {}
   void Unload() override { loaded_ = false; }
   bool WindowExists(const std::string&) override { return true; }
   bool PostTo(const std::string&, std::uint32_t, std::uintptr_t slot, std::intptr_t) override {

@@ -19,11 +19,13 @@ class FakeTimerWindow : public ScheduleTimerView {
   void Load() override { loaded = true; }
   void SetCloseItCaption(const char* text) override { closeItCaption = text; }
   void RestartTimer(unsigned milliseconds) override { interval = milliseconds; }
+  void TickOnceIn(unsigned milliseconds) override { further = milliseconds; }
   void Unload() override { loaded = false; }
 
   bool loaded = false;
   std::string closeItCaption;
   unsigned interval = 0;
+  unsigned further = 0;
 };
 
 class Timer : public testing::Test {
@@ -77,6 +79,26 @@ TEST_F(Timer, TheWindowLivesFromTheFirstDueItemAndIsMarkedAfterwards) {
   timer_.SetCommand("CLOSE");
   timer_.Timer1_Timer();
   EXPECT_FALSE(window_.loaded);
+}
+
+TEST_F(Timer, TicksComeJustAfterTheFullMinute) {
+  Add("daily", "10:01 AM");
+  Start();  // half past
+  EXPECT_EQ(window_.interval, 60000u);
+  EXPECT_EQ(window_.further, 30200u);
+  window_.interval = window_.further = 0;
+  clock_.Advance(30);
+  timer_.FullMinute_Timer();
+  EXPECT_EQ(Told(), 1u);
+  EXPECT_EQ(window_.interval, 60000u);
+  RunMinutes(2);
+  EXPECT_EQ(window_.further, 0u);
+  clock_.Advance(63);  // the ticks have wandered off
+  timer_.Timer1_Timer();
+  EXPECT_EQ(window_.further, 57200u);
+
+  // The full minute passes before the command is read.
+  EXPECT_EQ(MillisecondsToFullMinute({{2000, 8, 16}, {9, 59, 59}}, {{2000, 8, 16}, {10, 0, 1}}), 200u);
 }
 
 TEST_F(Timer, ADueItemIsPostedWithItsSlotInBothPlaces) {
@@ -172,6 +194,55 @@ TEST_F(Timer, AClockSetBackTellsNothingTwice) {
   EXPECT_EQ(Told(), 2u);
 }
 
+TEST_F(Timer, WhatAClockAheadToldComesOnInItsTime) {
+  Add("daily", "10:05 AM");
+  Start();
+  clock_.Advance(24 * 60 * 60);
+  RunMinutes(10);
+  EXPECT_EQ(Told(), 1u);
+  clock_.SetGmt({{2000, 8, 16}, {10, 0, 0}});
+  timer_.Timer1_Timer();
+  RunMinutes(24 * 60 + 10);
+  EXPECT_EQ(Told(), 3u);
+  away_.clear();
+
+  // A last look by a clock ahead does not say what has been told; one a moment ahead does.
+  Add("daily", "9:00 AM");
+  timer_.CatchUp(AddSeconds(clock_.LocalNow(), 60));
+  EXPECT_TRUE(away_.empty());
+  timer_.CatchUp(AddSeconds(clock_.LocalNow(), 24 * 60 * 60));
+  ASSERT_EQ(away_.size(), 1u);
+  EXPECT_EQ(away_[0].size(), 1u);
+}
+
+TEST_F(Timer, OfWhatCameOnDuringSleepTheLastHourIsToldAsUsual) {
+  const std::size_t older = Add("daily", "11:29 AM");
+  const std::size_t within = Add("daily", "11:30 AM");
+  Add("daily", "12:28 PM");
+  const std::size_t live = Add("live", "");
+  timer_.SetLiveStarts([&](const DateTime& from, const DateTime& to) {
+    const DateTime begins{{2000, 8, 16}, {11, 0, 0}};
+    return from < begins && begins <= to ? std::vector<Occurrence>{{live, begins}}
+                                         : std::vector<Occurrence>{};
+  });
+  Start();
+  clock_.SetGmt({{2000, 8, 16}, {12, 30, 0}});
+  timer_.KeepWatch();
+  ASSERT_EQ(Told(), 2u);
+  EXPECT_EQ(messages_.posted[0].first, within);
+  ASSERT_EQ(away_.size(), 1u);
+  const DateTime olderAt{{2000, 8, 16}, {11, 29, 0}};
+  const DateTime liveAt{{2000, 8, 16}, {11, 0, 0}};
+  EXPECT_EQ(away_[0], (std::vector<Occurrence>{{live, liveAt}, {older, olderAt}}));
+
+  // Ten to midnight is not this day any more.
+  Add("daily", "11:50 PM");
+  clock_.SetGmt({{2000, 8, 17}, {0, 10, 0}});
+  timer_.KeepWatch();
+  EXPECT_EQ(Told(), 2u);
+  EXPECT_EQ(away_.size(), 2u);
+}
+
 TEST_F(Timer, WhatWasMissedIsToldInOneNoticeADayBackAtMost) {
   Add("daily", "10:30 AM");
   Add("daily", "9:00 PM");
@@ -183,6 +254,7 @@ TEST_F(Timer, WhatWasMissedIsToldInOneNoticeADayBackAtMost) {
   EXPECT_EQ(Told(), 0u);
   ASSERT_EQ(away_.size(), 1u);
   EXPECT_EQ(away_[0].size(), 3u);  // 10:30 of the first day is more than a day ago
+  EXPECT_EQ(timer_.ToldUntil(), clock_.LocalNow());
   RunMinutes(24 * 60);
   EXPECT_EQ(Told(), 2u);
   EXPECT_EQ(away_.size(), 1u);
