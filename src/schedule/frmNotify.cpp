@@ -18,8 +18,8 @@ constexpr unsigned char kMissedPane = 2;
 const FormDesign& frmNotify::Design() {
   static constexpr ControlRow kControls[] = {
       {.id = lblTitle, .kind = Kind::TitleBar, .text = IDS_SCHED_NOTIFY_TITLE, .at = {40, 4, 130, 26}},
-      {.kind = Kind::Glass, .at = {14, 46, 412, 94}, .cut = 12, .pane = kNoticePane},
-      {.kind = Kind::Glass, .at = {14, 46, 412, 150}, .cut = 12, .pane = kMissedPane},
+      {.kind = Kind::Glass, .at = {14, 46, 412, 94}, .pane = kNoticePane, .cut = 12},
+      {.kind = Kind::Glass, .at = {14, 46, 412, 150}, .pane = kMissedPane, .cut = 12},
       {.kind = Kind::Label,
        .at = {34, 56, 24, 24},
        .icon = Icon::Bell,

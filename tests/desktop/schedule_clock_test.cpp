@@ -190,6 +190,37 @@ TEST_F(HandClockTest, ANoticeSoundsUnlessTheUserWantsItSilent) {
   EXPECT_FALSE(bell.IsRead());
 }
 
+TEST_F(HandClockTest, AComputerThatWakesTellsTheLastHourAsUsual) {
+  WriteFile("Sched.snr",
+            "Tea\tN\t\t4:00 PM\t\tdaily\t\r\nCake\tN\t5/5/2005\t5:58 PM\t\tonce\t\r\n"
+            "Bread\tN\t\t4:59 PM\t\tdaily\t\r\n");
+  StartAndShowMain();
+  TurnTo(10, 1);
+  TurnTo(18, 0);
+  std::vector<HWND> notices = Notices();
+  ASSERT_EQ(notices.size(), 2u);
+  const auto away = std::find_if(notices.begin(), notices.end(),
+                                 [](HWND notice) { return IsShown(Control(notice, txtMissed)); });
+  ASSERT_NE(away, notices.end());
+  EXPECT_EQ(TextOf(Control(*away, txtMissed)), "4:00 PM  Tea\r\n4:59 PM  Bread");
+  HWND usual = notices[away == notices.begin() ? 1 : 0];
+  EXPECT_EQ(TextOf(Control(usual, lblEventName)), "Cake");
+  EXPECT_EQ(TextOf(Control(usual, lblNoticeInfo)), "This is your May 5  5:58 PM notice for");
+}
+
+TEST_F(HandClockTest, WhatWasToldIsNotToldAgainAtTheNextStart) {
+  WriteFile("Sched.snr", "Tea\tN\t\t10:05 AM\t\tdaily\t\r\nCake\tN\t\t10:07 AM\t\tdaily\t\r\n");
+  StartAndShowMain();
+  TurnTo(10, 4);
+  CloseNotice(ExpectNotice({kThursday, {10, 5, 30}}, "This is your daily 10:05 AM notice for", "Tea"));
+  Clock().Set({kThursday, {10, 7, 20}});  // no tick any more
+  Command(Sonaro().Window("frmSysTrayMenu"), mnuTrayExit);
+  ASSERT_TRUE(Sonaro().WaitForEnd());
+  HWND notice = Start().WaitForShownWindow("frmNotify");
+  ASSERT_NE(notice, nullptr);
+  EXPECT_EQ(TextOf(Control(notice, txtMissed)), "10:07 AM  Cake");
+}
+
 TEST_F(HandClockTest, TwoItemsOfOneMinuteStandBesideEachOtherAndLeaveTheFocus) {
   HWND main = MainWithStations();
   for (int row : {0, 1}) {
