@@ -8,7 +8,8 @@ namespace {
 
 constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";
 constexpr std::string_view kHead =
-    "; The settings of this folder's Sonaro. While this file is here, nothing is written to the registry.\r\n";
+    "; The settings of this folder's Sonaro. While this file is here, nothing is written to the "
+    "registry.\r\n";
 constexpr std::string_view kEnd = "; end of the settings";  // without it the file was cut short
 constexpr std::string_view kDefaultName = "@";
 constexpr std::string_view kHexDigits = "0123456789ABCDEF";
@@ -42,7 +43,8 @@ std::string Escape(std::string_view text, std::string_view special) {
       out += "\\r";
     } else if (c == '\t') {
       out += "\\t";
-    } else if ((c >= 0 && c < ' ') || c == '\x7F' || (c == ' ' && end) || special.find(c) != std::string_view::npos) {
+    } else if ((c >= 0 && c < ' ') || c == '\x7F' || (c == ' ' && end) ||
+               special.find(c) != std::string_view::npos) {
       AppendByte(out, c);
     } else {
       out += c;
@@ -60,10 +62,18 @@ int HexValue(char c) {
 bool TakeEscape(std::string_view& text, std::string& out) {
   if (text.size() < 2) return false;
   switch (text[1]) {
-    case '\\': out += '\\'; break;
-    case 'n': out += '\n'; break;
-    case 'r': out += '\r'; break;
-    case 't': out += '\t'; break;
+    case '\\':
+      out += '\\';
+      break;
+    case 'n':
+      out += '\n';
+      break;
+    case 'r':
+      out += '\r';
+      break;
+    case 't':
+      out += '\t';
+      break;
     case 'x': {
       const int high = text.size() < 4 ? -1 : HexValue(text[2]);
       const int low = text.size() < 4 ? -1 : HexValue(text[3]);
@@ -72,7 +82,8 @@ bool TakeEscape(std::string_view& text, std::string& out) {
       text.remove_prefix(2);
       break;
     }
-    default: return false;
+    default:
+      return false;
   }
   text.remove_prefix(2);
   return true;
@@ -254,7 +265,8 @@ bool IniSettings::Save() {
 void IniSettings::KeepOld() {
   if (!HoldsText(keys_)) return;
   const std::string text = TextOf(keys_);
-  if (ReadWholeFile(files_, path_ + ".old").bytes != text) static_cast<void>(SaveWholeFile(files_, path_ + ".old", text));
+  if (ReadWholeFile(files_, path_ + ".old").bytes != text)
+    static_cast<void>(SaveWholeFile(files_, path_ + ".old", text));
 }
 
 }  // namespace sonaro

@@ -1,10 +1,14 @@
-// The settings of a portable folder: named texts under key names, kept in one INI file. The file is the user's: it may be
-// read and changed with an editor, and is saved as a whole, so that a crash leaves the old one or the new one. Owned by
-// SettingsRegistry; knows neither registry nor setting names.
+// The settings of a portable folder: named texts under key names, kept in one INI file. The file is the
+// user's: it may be read and changed with an editor, and is saved as a whole, so that a crash leaves the old
+// one or the new one. Owned by SettingsRegistry; knows neither registry nor setting names.
 //
-//   [Sonaro]             a key; below it its values. A name or text may hold any byte: \\ \t \r \n, and \x20 for one byte
-//   ScanTime=30          in hexadecimal (blanks at the ends, control characters). A backslash before anything else
-//   [Sonaro\\ads]        stands for itself. "@" names a key's default value. Lines after ";" are for the reader.
+//   [Sonaro]
+//   ScanTime=30
+//   [Sonaro\\ads]
+//
+// A name or text may hold any byte: a backslash, tab or line end is written with a backslash (\\ \t \r \n),
+// other control characters and blanks at the ends as \x20 in hexadecimal. A backslash before anything else
+// stands for itself. The name "@" is the key's default value. Lines that begin with ";" are for the reader.
 #pragma once
 
 #include <map>
@@ -26,8 +30,8 @@ class IniSettings {
     NotSaved     // the last change is not on disk; the next one tries again
   };
 
-  // Reads `path`. A file that holds no text, as one that was just unpacked, takes over the values of FILE.old, and so does
-  // a damaged one for what it lacks.
+  // Reads `path`. A file that holds no text, as one that was just unpacked, takes over the values of
+  // FILE.old, and so does a damaged one for what it lacks.
   IniSettings(Files& files, std::string path);
   // Leaves a copy as FILE.old.
   ~IniSettings();

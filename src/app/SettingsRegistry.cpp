@@ -10,7 +10,8 @@ namespace {
 constexpr std::size_t kParents = std::string_view(kSettingsKey).rfind('\\') + 1;
 
 bool IsOwn(RootKey root, const std::string& key) {
-  return root == RootKey::LocalMachine && StartsWithIgnoringCase(key + "\\", std::string(kSettingsKey) + "\\");
+  return root == RootKey::LocalMachine &&
+         StartsWithIgnoringCase(key + "\\", std::string(kSettingsKey) + "\\");
 }
 
 }  // namespace

@@ -1,10 +1,11 @@
-// The registry as the program uses it: the program's own key lives where this machine and user let it, every other key is
-// the system's. The readers and writers of settings name the machine-wide key and need not know. Owned by Application.
+// The registry as the program uses it: the program's own key lives where this machine and user let it, every
+// other key is the system's. The readers and writers of settings name the machine-wide key and need not know.
+// Owned by Application.
 //
-// The own key's place, decided once at the start:
-//   the portable file beside the program, when there is one: then nothing at all is written to the system's registry
-//   the machine-wide key, when it can be written or made
-//   the same path under the current user, made now
+// The own key's place is decided once, at the start:
+// - the portable file beside the program, when there is one: then nothing is written to the system's registry
+// - the machine-wide key, when it can be written or made
+// - the same path under the current user, made now
 #pragma once
 
 #include <optional>

@@ -101,7 +101,7 @@ TEST_F(SettingsRegistryTest, EveryTextSurvivesTheFile) {
   std::string all;
   for (int byte = 0; byte < 256; ++byte) all += static_cast<char>(byte);
   const std::string texts[] = {all,     " both ends ", "",     "two\r\nlines\n", "C:\\new\\x41",
-                               "a=b;c", "[Sonaro]",    "; no", "Łódź 電波",     std::string(20000, '=')};
+                               "a=b;c", "[Sonaro]",    "; no", "Łódź 電波",      std::string(20000, '=')};
   const std::string names[] = {"plain", "", "@", "a=b", "[x]", ";y", " z ", "\\t", "Größe", "12\n"};
   {
     SettingsRegistry settings(system_, files_, kFile);
@@ -176,7 +176,9 @@ TEST_F(SettingsRegistryTest, ABatchIsOneSaveAndACrashLeavesTheOldOrTheNewSetting
       reg.SetSetting("B", "new");
     }
     const std::vector<std::string> log = files.Log();
-    EXPECT_LE(std::count_if(log.begin(), log.end(), [](const auto& step) { return step.starts_with("replace"); }), 1);
+    EXPECT_LE(
+        std::count_if(log.begin(), log.end(), [](const auto& step) { return step.starts_with("replace"); }),
+        1);
     reg.SetSetting("A", "new");
     EXPECT_TRUE(files.Crashed() || files.Log() == log) << "saved without a change";
   };
