@@ -1,24 +1,24 @@
-; The installer: makensis -DVERSION=4.0.2 -DSTAGE=folder -DFILES=list.nsh -DOUT=setup.exe sonaro.nsi
-; STAGE holds the data folder with the programs; list.nsh deletes just these files again. For all users of the machine,
-; into a folder and a settings key that every user may write: the program keeps its lists beside itself.
-; Silent: setup.exe /S [/D=C:\folder]
+; The installer: makensis -DVERSION=4.0.2 -DSTAGE=folder -DFILES=list.nsh -DOWN=own.nsh -DOUT=setup.exe sonaro.nsi
+; STAGE holds the data folder with the programs; list.nsh deletes just these files again, own.nsh the user's own. For the
+; user who starts it, without other rights than his: README.md says why there is none for all users.
+; Silent: setup.exe /S [/D=C:\folder]; Uninstall.exe /S [/REMOVEALL]
 Unicode true
 Target amd64-unicode
 SetCompressor /SOLID lzma
 
 !include MUI2.nsh
 !include LogicLib.nsh
+!include FileFunc.nsh
 
 !define SETTINGS "SOFTWARE\zumo\Sonaro"
 !define UNINSTALL "Software\Microsoft\Windows\CurrentVersion\Uninstall\Sonaro"
-; Administrators and the system may do all; users read, write and make sub-keys.
-!define KEY_RIGHTS "D:(A;OICI;KA;;;SY)(A;OICI;KA;;;BA)(A;OICI;0x2003f;;;BU)"
+!define RUN "Software\Microsoft\Windows\CurrentVersion\Run"
 
 Name "Sonaro"
 OutFile "${OUT}"
-RequestExecutionLevel admin
-InstallDir "$PROGRAMFILES64\Sonaro"
-InstallDirRegKey HKLM "${UNINSTALL}" "InstallLocation"
+RequestExecutionLevel user
+InstallDir "$LOCALAPPDATA\Programs\Sonaro"
+InstallDirRegKey HKCU "${UNINSTALL}" "InstallLocation"
 BrandingText "Sonaro ${VERSION}"
 VIProductVersion "${VERSION}.0"
 VIAddVersionKey ProductName "Sonaro"
@@ -29,8 +29,7 @@ VIAddVersionKey ProductVersion "${VERSION}"
 
 !define MUI_ICON "..\src\resources\sonaro.ico"
 !define MUI_UNICON "..\src\resources\sonaro.ico"
-!define MUI_FINISHPAGE_RUN "$WINDIR\explorer.exe"  ; started as the user, not as the administrator
-!define MUI_FINISHPAGE_RUN_PARAMETERS '$\"$INSTDIR\Sonaro.exe$\"'
+!define MUI_FINISHPAGE_RUN "$INSTDIR\Sonaro.exe"
 !define MUI_FINISHPAGE_RUN_TEXT "Open Sonaro"
 !insertmacro MUI_PAGE_WELCOME
 !insertmacro MUI_PAGE_DIRECTORY
@@ -58,58 +57,77 @@ FunctionEnd
 
 Function .onInit
   SetRegView 64
-  SetShellVarContext all
+  SetShellVarContext current
   Call RefuseWhileRunning
 FunctionEnd
 
 Function un.onInit
   SetRegView 64
-  SetShellVarContext all
+  SetShellVarContext current
   Call un.RefuseWhileRunning
 FunctionEnd
+
+; Where this user has settings of an installation before.
+!macro ForgetLastUpdate ROOT
+  ReadRegStr $0 ${ROOT} "${SETTINGS}" "LastUpdate"
+  ${If} $0 != ""
+    WriteRegStr ${ROOT} "${SETTINGS}" "LastUpdate" ""
+  ${EndIf}
+!macroend
+
+; Sonaro's place in the list of what starts with Windows, unless that is another folder's.
+!macro EndStartWithWindows ROOT
+  ReadRegStr $0 ${ROOT} "${RUN}" "SonaroStartUp"
+  ${If} $0 == "$INSTDIR\Sonaro.exe WinStart=Yes"
+    DeleteRegValue ${ROOT} "${RUN}" "SonaroStartUp"
+  ${EndIf}
+!macroend
+
+!macro RemoveSettings ROOT
+  DeleteRegKey ${ROOT} "${SETTINGS}"
+  DeleteRegKey /ifempty ${ROOT} "SOFTWARE\zumo"
+!macroend
 
 Section
   SetOutPath "$INSTDIR"
   File /r "${STAGE}/*"
   WriteUninstaller "$INSTDIR\Uninstall.exe"
-  nsExec::Exec '"$SYSDIR\icacls.exe" "$INSTDIR" /grant *S-1-5-32-545:(OI)(CI)M'
-  Pop $0
 
-  ; An empty value makes the key; an empty "LastUpdate" has the next update fetch everything that is newer.
-  WriteRegStr HKLM "${SETTINGS}" "LastUpdate" ""
-  System::Call 'advapi32::RegOpenKeyExW(p 0x80000002, w "${SETTINGS}", i 0, i 0x00040100, *p .r1) i .r0'
-  ${If} $0 = 0
-    System::Call 'advapi32::ConvertStringSecurityDescriptorToSecurityDescriptorW(w "${KEY_RIGHTS}", i 1, *p .r2, p 0) i .r0'
-    ${If} $0 <> 0
-      System::Call 'advapi32::RegSetKeySecurity(p r1, i 4, p r2) i .r0'
-      System::Call 'kernel32::LocalFree(p r2)'
-    ${EndIf}
-    System::Call 'advapi32::RegCloseKey(p r1)'
-  ${EndIf}
+  ; The lists are now those of the package: the next update fetches everything that is newer.
+  !insertmacro ForgetLastUpdate HKCU
+  !insertmacro ForgetLastUpdate HKLM
 
   CreateShortCut "$SMPROGRAMS\Sonaro.lnk" "$INSTDIR\Sonaro.exe"
-  WriteRegStr HKLM "${UNINSTALL}" "DisplayName" "Sonaro"
-  WriteRegStr HKLM "${UNINSTALL}" "DisplayVersion" "${VERSION}"
-  WriteRegStr HKLM "${UNINSTALL}" "DisplayIcon" "$INSTDIR\Sonaro.exe"
-  WriteRegStr HKLM "${UNINSTALL}" "InstallLocation" "$INSTDIR"
-  WriteRegStr HKLM "${UNINSTALL}" "UninstallString" '"$INSTDIR\Uninstall.exe"'
-  WriteRegStr HKLM "${UNINSTALL}" "QuietUninstallString" '"$INSTDIR\Uninstall.exe" /S'
-  WriteRegDWORD HKLM "${UNINSTALL}" "EstimatedSize" ${KILOBYTES}
-  WriteRegDWORD HKLM "${UNINSTALL}" "NoModify" 1
-  WriteRegDWORD HKLM "${UNINSTALL}" "NoRepair" 1
+  WriteRegStr HKCU "${UNINSTALL}" "DisplayName" "Sonaro"
+  WriteRegStr HKCU "${UNINSTALL}" "DisplayVersion" "${VERSION}"
+  WriteRegStr HKCU "${UNINSTALL}" "DisplayIcon" "$INSTDIR\Sonaro.exe"
+  WriteRegStr HKCU "${UNINSTALL}" "InstallLocation" "$INSTDIR"
+  WriteRegStr HKCU "${UNINSTALL}" "UninstallString" '"$INSTDIR\Uninstall.exe"'
+  WriteRegStr HKCU "${UNINSTALL}" "QuietUninstallString" '"$INSTDIR\Uninstall.exe" /S'
+  WriteRegDWORD HKCU "${UNINSTALL}" "EstimatedSize" ${KILOBYTES}
+  WriteRegDWORD HKCU "${UNINSTALL}" "NoModify" 1
+  WriteRegDWORD HKCU "${UNINSTALL}" "NoRepair" 1
 SectionEnd
 
+; Only what is known by name is deleted, and folders only when they are empty: the folder may hold files of others.
 Section Uninstall
   !include "${FILES}"
   Delete "$INSTDIR\Uninstall.exe"
   Delete "$SMPROGRAMS\Sonaro.lnk"
-  DeleteRegValue HKLM "Software\Microsoft\Windows\CurrentVersion\Run" "SonaroStartUp"
-  DeleteRegKey HKLM "${UNINSTALL}"
-  MessageBox MB_YESNO|MB_ICONQUESTION "Delete your favourites, your schedule and your settings as well?" \
-    /SD IDNO IDNO keep
-  RMDir /r "$INSTDIR"
-  DeleteRegKey HKLM "${SETTINGS}"
+  !insertmacro EndStartWithWindows HKCU
+  !insertmacro EndStartWithWindows HKLM
+  ${GetParameters} $R0
+  ClearErrors
+  ${GetOptions} $R0 "/REMOVEALL" $R1
+  ${If} ${Errors}
+    MessageBox MB_YESNO|MB_ICONQUESTION|MB_DEFBUTTON2 "Delete your favourites, your schedule and your settings as well?" \
+      /SD IDNO IDNO keep
+  ${EndIf}
+  !include "${OWN}"
+  !insertmacro RemoveSettings HKCU
+  !insertmacro RemoveSettings HKLM
   keep:
   SetOutPath "$TEMP"
   RMDir "$INSTDIR"
+  DeleteRegKey HKCU "${UNINSTALL}"  ; last: whoever waits for the end looks for it
 SectionEnd

@@ -11,6 +11,7 @@
 #include "app/Application.h"
 #include "forms/StringTable.h"
 #include "net/HttpFaultText.h"
+#include "platform/SystemFunction.h"
 #include "platform/win/ClockWin.h"
 #include "platform/win/FilesWin.h"
 #include "platform/win/HttpControlWin.h"
@@ -32,9 +33,7 @@ std::string ProgramPath() {
 }  // namespace
 
 int WINAPI WinMain(HINSTANCE, HINSTANCE, LPSTR commandLine, int) {
-  // First of all: what the system loads for us later is never taken from the program's folder or the current
-  // one.
-  SetDefaultDllDirectories(LOAD_LIBRARY_SEARCH_SYSTEM32);
+  sonaro::LoadFromSystemOnly();
   const INITCOMMONCONTROLSEX classes = {
       sizeof classes, ICC_STANDARD_CLASSES | ICC_LISTVIEW_CLASSES | ICC_TREEVIEW_CLASSES | ICC_DATE_CLASSES};
   InitCommonControlsEx(&classes);

@@ -9,4 +9,8 @@ namespace sonaro {
 // library stays loaded.
 void* SystemFunction(const wchar_t* library, const char* name);
 
+// The first act of a program: what the system's libraries load in turn comes from the system's folder as
+// well. Later loads by name find what is loaded already.
+void LoadFromSystemOnly();
+
 }  // namespace sonaro

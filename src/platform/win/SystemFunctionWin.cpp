@@ -2,11 +2,21 @@
 
 #include <windows.h>
 
+#include <initializer_list>
+
 namespace sonaro {
 
 void* SystemFunction(const wchar_t* library, const char* name) {
   const HMODULE module = LoadLibraryExW(library, nullptr, LOAD_LIBRARY_SEARCH_SYSTEM32);
   return module ? reinterpret_cast<void*>(GetProcAddress(module, name)) : nullptr;
+}
+
+// Delayed imports of the system's libraries need not follow the process's own order; these are the ones that
+// a window and its sounds bring.
+void LoadFromSystemOnly() {
+  SetDefaultDllDirectories(LOAD_LIBRARY_SEARCH_SYSTEM32);
+  for (const wchar_t* library : {L"uxtheme.dll", L"msimg32.dll", L"winmm.dll", L"version.dll"})
+    LoadLibraryExW(library, nullptr, LOAD_LIBRARY_SEARCH_SYSTEM32);
 }
 
 }  // namespace sonaro
