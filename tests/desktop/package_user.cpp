@@ -3,8 +3,8 @@
 // package_user load LIBRARY: loads a library as careless programs do, by its bare name.
 // Exit status 0 when all went as it should; otherwise what did not is printed.
 #include <cstdio>
-#include <cstdlib>
 #include <filesystem>
+#include <stdexcept>
 #include <string>
 
 #include "Probe.h"
@@ -19,9 +19,7 @@ namespace {
 constexpr const char* kGroup = "Kept";
 
 void Expect(bool holds, const char* what) {
-  if (holds) return;
-  std::printf("package_user: %s\n", what);
-  std::exit(1);
+  if (!holds) throw std::runtime_error(what);
 }
 
 // A session begun hidden, which asks nothing, and brought forward through the tray.
@@ -105,9 +103,14 @@ int main(int argc, char** argv) {
     return 2;
   }
   if (argv[1] == std::string("load")) return LoadLibraryA(argv[2]) != nullptr ? 0 : 1;
-  const Session session(argv[1]);
-  if (argv[2] == std::string("use")) Use(session);
-  See(session);
-  session.End();
+  try {
+    const Session session(argv[1]);
+    if (argv[2] == std::string("use")) Use(session);
+    See(session);
+    session.End();
+  } catch (const std::exception& fault) {  // the session has ended with its process
+    std::printf("package_user %s: %s\n", argv[2], fault.what());
+    return 1;
+  }
   return 0;
 }
