@@ -1,4 +1,4 @@
-// Reading of the INI files of other components. The program keeps nothing of its own in such a file.
+// Reading of the INI files of other components. The program's own is read and written by IniSettings.
 #pragma once
 
 #include <string>
