@@ -1,7 +1,7 @@
-// package_user PROGRAM use | see: works the windows of a Sonaro that was installed or unpacked, for scripts/test-package.
-// "use" switches the click of the keys off and puts a station into a new group; "see" looks for both in a new session.
-// package_user load LIBRARY: loads a library as careless programs do, by its bare name.
-// Exit status 0 when all went as it should; otherwise what did not is printed.
+// package_user PROGRAM use | see: works the windows of a Sonaro that was installed or unpacked, for
+// scripts/test-package. "use" switches the click of the keys off and puts a station into a new group; "see"
+// looks for both in a new session. package_user load LIBRARY: loads a library as careless programs do, by its
+// bare name. Exit status 0 when all went as it should; otherwise what did not is printed.
 #include <cstdio>
 #include <filesystem>
 #include <stdexcept>
@@ -89,10 +89,9 @@ void See(const Session& session) {
   Expect(TextOf(key) == kGroup, "the group is lost");
   Click(key);
   HWND list = Control(session.Main(), lstFavs);
-  Expect(WaitUntil([&] {
-           return TextOf(Control(session.Main(), lblListing)) == kGroup && RowCount(list) == 1;
-         }),
-         "the favourite is lost");
+  Expect(
+      WaitUntil([&] { return TextOf(Control(session.Main(), lblListing)) == kGroup && RowCount(list) == 1; }),
+      "the favourite is lost");
 }
 
 }  // namespace
