@@ -10,6 +10,7 @@
 #include "base/Files.h"
 #include "base/Text.h"
 #include "mainwindow/FavoriteGroups.h"
+#include "playback/FieldText.h"
 #include "playback/StationKey.h"
 #include "playback/StationSource.h"
 
@@ -178,9 +179,10 @@ std::string PlaylistTransfer::KnownToken(const PlaylistEntry& entry, const OwnSt
   const StationKey key = StationKey::FromToken(entry.stationId);
   if (key.kind == StationKey::Kind::Directory) {
     const StationRecord record = source_.Record(key.number);
-    // Another guide may have given the identifier to another station.
-    if (record.Empty() ? HasNoLink(entry.station)
-                       : EqualIgnoringCase(record[StationField::Name], entry.station.name)) {
+    // Another guide may have given the identifier to another station. The entry's name is one that was
+    // cleaned.
+    const std::string name = CleanField(record[StationField::Name], PersonalStation::kMaxName);
+    if (record.Empty() ? HasNoLink(entry.station) : EqualIgnoringCase(name, entry.station.name)) {
       return entry.stationId;
     }
   }

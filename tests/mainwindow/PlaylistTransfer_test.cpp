@@ -34,6 +34,20 @@ TEST_F(PlaylistTransferTest, AGroupComesBackIntoAnotherAsItWas) {
   EXPECT_EQ(personal.All().size(), 1U);
 }
 
+TEST_F(PlaylistTransferTest, AStationOfTheDirectoryIsKnownByWhateverName) {
+  std::string longName;
+  for (int i = 0; i < 150; ++i) longName += "\xD0\x96";
+  for (const std::string& name : {longName, std::string(" blanks "), std::string("a\x01z")}) {
+    files.Put("/d/station.snr", "4\t" + name + "\t\t\t\t\thttp://a.example/\n");
+    ASSERT_TRUE(stations.RebuildStationTable());
+    ASSERT_TRUE(transfer.ExportGroup(0, "/out/jazz.m3u"));
+    groups.Remove(*groups.Find("Empty"));
+    groups.Add("Empty");
+    transfer.ImportIntoGroup(groups.Count() - 1, "/out/jazz.m3u");
+    EXPECT_TRUE(Members(groups.Count() - 1).starts_with("4 ")) << name;
+  }
+}
+
 TEST_F(PlaylistTransferTest, OnAnotherMachineTheStationsBecomeOnesOwn) {
   ASSERT_TRUE(transfer.ExportGroup(0, "/out/jazz.m3u"));
   files.Put("/d/station.snr", "4\tAnother station\n1\tacid jazz\n");

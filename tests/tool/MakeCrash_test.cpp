@@ -37,8 +37,8 @@ std::string WriteInto(FakeFiles& files, const Directory& directory) {
   return WriteDirectory(data, directory, {}, {});
 }
 
-// Whatever is there without a mark is one directory; with the mark the next run makes it whole, and even before
-// that the program finds a table of the list.
+// Whatever is there without a mark is one directory; with the mark the next run makes it whole, and even
+// before that the program finds a table of the list.
 TEST(MakeCrash, AFolderIsWholeOrMarked) {
   const Directory old = DirectoryOf("Old", "jazz");
   const Directory fresh = DirectoryOf("New", "news");
