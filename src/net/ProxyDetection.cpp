@@ -54,8 +54,8 @@ std::string DetectIeProxy(CReg& reg) {
   std::string_view proxy = server;
   if (const std::size_t entry = proxy.find(kHttpEntry); entry != std::string_view::npos) {
     proxy.remove_prefix(entry + kHttpEntry.size());
-    proxy = proxy.substr(0, proxy.find(';'));
   }
+  proxy = proxy.substr(0, proxy.find(';'));  // without an entry for it the first one is taken as it stands
   return WithoutControls(std::string(proxy));
 }
 
