@@ -15,7 +15,8 @@ enum class HttpFault {
   BodyTooLarge,  // announced or sent more than is taken
   BadLength,     // an announced length that is no length
   BadChunk,      // a chunked body that does not follow the rules
-  CutShort       // the connection ended before the answer did
+  CutShort,      // the connection ended before the answer did
+  TooSlow        // bytes came, but fewer than a transfer is waited for
 };
 
 }  // namespace sonaro

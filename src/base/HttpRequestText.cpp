@@ -44,4 +44,10 @@ std::optional<std::string> HttpRequestBytes(std::string_view host, std::uint16_t
   return bytes;
 }
 
+std::string HostWithoutPort(std::string_view host) {
+  if (host.starts_with('[')) return std::string(host.substr(1, host.find(']') - 1));
+  const std::size_t colon = host.find(':');
+  return std::string(host.rfind(':') == colon ? host.substr(0, colon) : host);
+}
+
 }  // namespace sonaro

@@ -15,4 +15,8 @@ namespace sonaro {
 std::optional<std::string> HttpRequestBytes(std::string_view host, std::uint16_t port,
                                             std::string_view requestText, std::string_view userAgent);
 
+// The name to look up and connect to: `host` without the port that an address may carry behind it, and an
+// address of colons without its brackets. The port is decided elsewhere.
+std::string HostWithoutPort(std::string_view host);
+
 }  // namespace sonaro

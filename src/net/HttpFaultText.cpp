@@ -30,6 +30,8 @@ int TextOf(HttpFault fault) {
       return IDS_NET_FAULT_BROKEN;
     case HttpFault::CutShort:
       return IDS_NET_FAULT_CUT_SHORT;
+    case HttpFault::TooSlow:
+      return IDS_NET_FAULT_TOO_SLOW;
   }
   return IDS_NET_FAULT_BROKEN;
 }

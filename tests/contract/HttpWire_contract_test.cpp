@@ -13,9 +13,9 @@ namespace {
 constexpr unsigned kLimit = 700;  // milliseconds of silence
 
 std::string NameOf(HttpFault fault) {
-  static constexpr const char* kNames[] = {"None",         "BadRequest", "NoSuchHost", "Refused",
-                                           "Lost",         "Silent",     "NotHttp",    "HeadTooLarge",
-                                           "BodyTooLarge", "BadLength",  "BadChunk",   "CutShort"};
+  static constexpr const char* kNames[] = {
+      "None",         "BadRequest",   "NoSuchHost", "Refused",  "Lost",     "Silent", "NotHttp",
+      "HeadTooLarge", "BodyTooLarge", "BadLength",  "BadChunk", "CutShort", "TooSlow"};
   return kNames[static_cast<int>(fault)];
 }
 
@@ -129,6 +129,22 @@ TEST_F(HttpOnTheWire, WhatGoesWrongIsNamed) {
   for (const auto& each : kCases) {
     EXPECT_EQ(Ask(each.answer), Lines{std::string("failed ") + each.reason}) << each.what;
   }
+}
+
+// Never silent, and never over either.
+TEST_F(HttpOnTheWire, AServerThatDripsIsNotWaitedFor) {
+  HttpControlMakerWin impatient("Contract/1.0", &NameOf, 60000, {.milliseconds = 300, .leastBytes = 4096});
+  control_ = impatient.Make();
+  EXPECT_EQ(Ask([](Conversation& talk) {
+              talk.Send("HTTP/1.1 200 OK\r\n\r\n");
+              while (talk.Send("x")) talk.Pause(std::chrono::milliseconds(20));
+            }),
+            Lines{"failed TooSlow"});
+}
+
+TEST_F(HttpOnTheWire, ThePortOfAnAddressIsNotPartOfTheName) {
+  server_.Answer("/", script::Body("a"));
+  EXPECT_EQ(Ask("127.0.0.1:8080", server_.Port(), "GET /"), (Lines{"body a", "ready"}));
 }
 
 TEST_F(HttpOnTheWire, AConnectionThatBreaksIsAFailure) {

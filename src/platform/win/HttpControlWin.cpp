@@ -18,6 +18,7 @@ namespace {
 constexpr const char* kWindowClass = "SonaroHttp";
 constexpr UINT_PTR kSilenceTimer = 1;
 constexpr UINT_PTR kReadTimer = 2;
+constexpr UINT_PTR kPaceTimer = 3;
 constexpr UINT kReadPause = USER_TIMER_MINIMUM;  // milliseconds
 constexpr int kReadsInARow = 16;
 constexpr UINT kFailMessage = WM_APP;  // first parameter: the request; second: the fault
@@ -60,7 +61,7 @@ UINT NameFoundMessage() {
 
 class HttpControlWin final : public HttpControl {
  public:
-  HttpControlWin(std::string userAgent, HttpFaultSentence sentence, unsigned silence);
+  HttpControlWin(std::string userAgent, HttpFaultSentence sentence, unsigned silence, TransferPace pace);
   ~HttpControlWin() override;
   HttpControlWin(const HttpControlWin&) = delete;
   HttpControlWin& operator=(const HttpControlWin&) = delete;
@@ -92,9 +93,11 @@ class HttpControlWin final : public HttpControl {
   void FailSoon(HttpFault fault);
   void Fail(HttpFault fault);
   void RestartSilenceTimer() { SetTimer(window_, kSilenceTimer, silence_, nullptr); }
+  void SpanIsOver();
   void StopTimers() {
     KillTimer(window_, kReadTimer);
     KillTimer(window_, kSilenceTimer);
+    KillTimer(window_, kPaceTimer);
   }
   UINT SocketMessage() const { return kFirstSocketMessage + static_cast<UINT>(request_ % kSocketMessages); }
   template <typename Event>
@@ -103,6 +106,8 @@ class HttpControlWin final : public HttpControl {
   std::string userAgent_;
   HttpFaultSentence sentence_;
   unsigned silence_;
+  TransferPace pace_;
+  std::uint64_t receivedInSpan_ = 0;  // of the pace
   HWND window_ = nullptr;
   std::shared_ptr<int> alive_ = std::make_shared<int>();  // ends with the control
   WPARAM request_ = 0;                                    // counts the requests and cancellations
@@ -114,8 +119,9 @@ class HttpControlWin final : public HttpControl {
   HttpResponse response_;
 };
 
-HttpControlWin::HttpControlWin(std::string userAgent, HttpFaultSentence sentence, unsigned silence)
-    : userAgent_(std::move(userAgent)), sentence_(std::move(sentence)), silence_(silence) {
+HttpControlWin::HttpControlWin(std::string userAgent, HttpFaultSentence sentence, unsigned silence,
+                               TransferPace pace)
+    : userAgent_(std::move(userAgent)), sentence_(std::move(sentence)), silence_(silence), pace_(pace) {
   WNDCLASSA windowClass{};
   windowClass.lpfnWndProc = &WindowProcedure;
   windowClass.hInstance = GetModuleHandleA(nullptr);
@@ -157,7 +163,13 @@ void HttpControlWin::OnMessage(UINT message, WPARAM first, LPARAM second) {
     ReceiveSome();
   } else if (message == WM_TIMER && first == kSilenceTimer) {
     Fail(HttpFault::Silent);
+  } else if (message == WM_TIMER && first == kPaceTimer) {
+    SpanIsOver();
   }
+}
+
+void HttpControlWin::SpanIsOver() {
+  if (std::exchange(receivedInSpan_, 0) < pace_.leastBytes) Fail(HttpFault::TooSlow);
 }
 
 void HttpControlWin::Request(const std::string& host, std::uint16_t port, const std::string& requestText,
@@ -172,7 +184,9 @@ void HttpControlWin::Request(const std::string& host, std::uint16_t port, const 
   }
   unsent_ = std::move(*bytes);
   RestartSilenceTimer();
-  StartLookup(host, port);
+  receivedInSpan_ = 0;
+  SetTimer(window_, kPaceTimer, pace_.milliseconds, nullptr);
+  StartLookup(HostWithoutPort(host), port);
 }
 
 void HttpControlWin::Cancel() {
@@ -311,6 +325,7 @@ bool HttpControlWin::Take(int received) {
     return false;
   }
   RestartSilenceTimer();
+  receivedInSpan_ += static_cast<std::uint64_t>(received);
   const auto state = response_.Feed({ReceiveBuffer().data(), static_cast<std::size_t>(received)});
   if (state == HttpResponse::State::Failed) {
     Fail(response_.Fault());
@@ -375,8 +390,11 @@ void HttpControlWin::Fail(HttpFault fault) {
 }  // namespace
 
 HttpControlMakerWin::HttpControlMakerWin(std::string userAgent, HttpFaultSentence sentence,
-                                         unsigned silenceMilliseconds)
-    : userAgent_(std::move(userAgent)), sentence_(std::move(sentence)), silence_(silenceMilliseconds) {
+                                         unsigned silenceMilliseconds, TransferPace pace)
+    : userAgent_(std::move(userAgent)),
+      sentence_(std::move(sentence)),
+      silence_(silenceMilliseconds),
+      pace_(pace) {
   WSADATA data{};
   WSAStartup(MAKEWORD(2, 2), &data);  // without sockets every request fails by itself
 }
@@ -384,7 +402,7 @@ HttpControlMakerWin::HttpControlMakerWin(std::string userAgent, HttpFaultSentenc
 HttpControlMakerWin::~HttpControlMakerWin() { WSACleanup(); }
 
 std::unique_ptr<HttpControl> HttpControlMakerWin::Make() {
-  return std::make_unique<HttpControlWin>(userAgent_, sentence_, silence_);
+  return std::make_unique<HttpControlWin>(userAgent_, sentence_, silence_, pace_);
 }
 
 }  // namespace sonaro

@@ -7,6 +7,7 @@
 
 #include <windows.h>
 
+#include <cstdint>
 #include <functional>
 #include <memory>
 #include <string>
@@ -19,11 +20,17 @@ namespace sonaro {
 // Gives the sentence for the user that a failed transfer ends with.
 using HttpFaultSentence = std::function<std::string(HttpFault)>;
 
+// How fast a transfer has to be: a server that drips is no better than a silent one.
+struct TransferPace {
+  unsigned milliseconds = 60000;
+  std::uint64_t leastBytes = 4096;  // within each of these spans, until the transfer is over
+};
+
 class HttpControlMakerWin final : public HttpControlMaker {
  public:
-  // A transfer ends after `silenceMilliseconds` without a byte.
-  HttpControlMakerWin(std::string userAgent, HttpFaultSentence sentence,
-                      unsigned silenceMilliseconds = 30000);
+  // A transfer ends after `silenceMilliseconds` without a byte, or when it does not keep the pace.
+  HttpControlMakerWin(std::string userAgent, HttpFaultSentence sentence, unsigned silenceMilliseconds = 30000,
+                      TransferPace pace = {});
   ~HttpControlMakerWin() override;
   HttpControlMakerWin(const HttpControlMakerWin&) = delete;
   HttpControlMakerWin& operator=(const HttpControlMakerWin&) = delete;
@@ -34,6 +41,7 @@ class HttpControlMakerWin final : public HttpControlMaker {
   std::string userAgent_;
   HttpFaultSentence sentence_;
   unsigned silence_;
+  TransferPace pace_;
 };
 
 }  // namespace sonaro
