@@ -93,6 +93,12 @@ std::string ServiceSetting(const CReg& reg, const char* setting) {
   return value.empty() ? ServiceDefault(setting) : value;
 }
 
+std::string StoredServiceSetting(CReg& reg, const char* setting) {
+  std::string value = ServiceSetting(reg, setting);
+  if (reg.Setting(setting).empty()) reg.SetSetting(setting, value);
+  return value;
+}
+
 void FindServiceValues(std::string_view line, std::vector<ServiceValue>& found, std::size_t& refused) {
   if (line.find("::") == std::string_view::npos) return;
   for (const Row& row : kRows) {

@@ -20,6 +20,10 @@ std::string ServiceDefault(std::string_view setting);
 // The setting's value, or its default when it is empty.
 std::string ServiceSetting(const CReg& reg, const char* setting);
 
+// The same, and the default is stored as well. A store that cannot be written changes nothing about the
+// result.
+std::string StoredServiceSetting(CReg& reg, const char* setting);
+
 // One setting of the table with a new value.
 struct ServiceValue {
   const char* key = "";      // of the registry

@@ -30,12 +30,6 @@ constexpr struct {
 };
 constexpr int kStepCount = static_cast<int>(std::size(kSteps));
 
-// The setting; its default is stored when it is empty.
-std::string SettingOrDefault(CReg& reg, const char* setting) {
-  if (reg.Setting(setting).empty()) reg.SetSetting(setting, ServiceDefault(setting));
-  return reg.Setting(setting);
-}
-
 // The result line of a step.
 constexpr ControlRow StepIcon(int step) {
   return {.id = imgProxyStep + step,
@@ -133,7 +127,7 @@ frmTestProxy::frmTestProxy(FormContext& context, CReg& reg, HttpControlMaker& ht
 void frmTestProxy::OnLoad() {
   SetText(lblCheckAddress, address_);
   SetText(lblCheckPort, port_);
-  expected_ = SettingOrDefault(reg_, setting::kProxyTestText);
+  expected_ = StoredServiceSetting(reg_, setting::kProxyTestText);
   Begin();
 }
 
@@ -155,7 +149,7 @@ void frmTestProxy::Begin() {
 void frmTestProxy::tmrSock_Timer() {
   StopTimer(tmrSock);
   stepBegan_ = clock_.Ticks();
-  Send(BuildProxyTest(address_, port_, SettingOrDefault(reg_, setting::kProxyTest)), *http_, *this);
+  Send(BuildProxyTest(address_, port_, StoredServiceSetting(reg_, setting::kProxyTest)), *http_, *this);
 }
 
 void frmTestProxy::BeginStep(int step) {

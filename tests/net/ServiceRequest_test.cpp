@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include "base/HttpRequestText.h"
 #include "net/NetWorld.h"
 #include "net/ProxyDetection.h"
 #include "net/ServiceAnswer.h"
@@ -40,6 +41,14 @@ TEST_F(ServiceRequestTest, SplitsUrlsWithoutAProxy) {
       {"", "", "/"},
   };
   UseProxy("Y", "proxy", "3128");
+  for (const auto& [host, name] : {std::pair{"www.x.org:8080", "www.x.org"},
+                                   {"www.x.org", "www.x.org"},
+                                   {"[::1]:8080", "::1"},
+                                   {"::1", "::1"},
+                                   {"[", ""},
+                                   {"", ""}}) {
+    EXPECT_EQ(HostWithoutPort(host), name) << host;
+  }
   for (const auto& each : kCases) {
     EXPECT_EQ(ServerHostFor(reg_, each.url), each.host) << each.url;
     EXPECT_EQ(RequestTargetFor(reg_, each.url), each.target) << each.url;
@@ -99,6 +108,19 @@ TEST_F(ServiceUrlTableTest, FillsInWhatIsEmpty) {
   EXPECT_EQ(reg_.Setting("sLocal"), "");
 }
 
+// Nothing that one could call good comes of a store that cannot be written.
+TEST_F(ServiceUrlTableTest, DoesWithoutAStoreThatCanBeWritten) {
+  const std::string page = "http://www.sonaro.example/sonaroapp/sonaro3/asp/proxy/test.asp";
+  registry_.writesDenied = true;
+  EXPECT_EQ(StoredServiceSetting(reg_, setting::kProxyTest), page);
+  EXPECT_EQ(StoredServiceSetting(reg_, setting::kProxyTestText), "cool proxy works!");
+  registry_.writesDenied = false;
+  EXPECT_EQ(StoredServiceSetting(reg_, setting::kProxyTest), page);
+  EXPECT_EQ(reg_.Setting(setting::kProxyTest), page);
+  reg_.SetSetting(setting::kProxyTest, "http://kept/");
+  EXPECT_EQ(StoredServiceSetting(reg_, setting::kProxyTest), "http://kept/");
+}
+
 TEST_F(ServiceUrlTableTest, FindsEveryKeyOfALine) {
   const struct {
     const char* line;
@@ -147,6 +169,7 @@ TEST(ProxyDetection, ReadsTheBrowserOfTheSystem) {
       {kOne, "", "", "other:1", "other:1"},
       {kZero, kOne, "http=proxy:8080;ftp=other:21", "", "proxy:8080"},
       {"", "1", "https=s:1;http=proxy:8080", "", "proxy:8080"},
+      {"", "1", "ftp=a:21;socks=b:1080", "", "ftp=a:21"},
       {"", "1", "proxyhost", "", "proxyhost"},
       {"", "1", "proxy\r:3128", "", ""},
       {"", "1", "", "", ""},
