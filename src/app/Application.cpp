@@ -85,7 +85,8 @@ int Application::Run() {
                                     .strings = strings_,
                                     .messageBox = messages_,
                                     .storeServiceAddresses = [this] { WriteServiceDefaults(reg_); },
-                                    .proxyFound = [this] { return !service_->DetectProxy().empty(); }};
+                                    .proxyFound = [this] { return !service_->DetectProxy().empty(); },
+                                    .finishUndo = [this] { service_->FinishUndo(); }};
   if (!Startup(services, state_, *this).Main()) return 0;
   FinishedLoading();
   const int exitCode = RunMessageLoop();

@@ -1,5 +1,7 @@
 #include "app/ApplicationService.h"
 
+#include <utility>
+
 #include "app/CReg.h"
 #include "app/HelpPages.h"
 #include "app/SettingNames.h"
@@ -22,7 +24,8 @@ ApplicationService::ApplicationService(const Needs& needs)
 ApplicationService::~ApplicationService() = default;
 
 UpdateNeeds ApplicationService::MakeUpdateNeeds() {
-  return {needs_.reg, needs_.data, needs_.strings, install_, needs_.platform.http, {}};
+  return {needs_.reg, needs_.data,          needs_.strings,
+          install_,   needs_.platform.http, [this](std::string_view) { toDoDue_ = true; }};
 }
 
 void ApplicationService::ShowUpdate(HWND owner) { OpenDialog(owner, UpdateOpening::Begin); }
@@ -59,6 +62,7 @@ UpdateOpener ApplicationService::AlsoInTheMainWindow(UpdateOpener opener) {
   both.finished = [this, tell = std::move(opener.finished)](const UpdateOutcome& outcome) {
     EndProgress();
     if (tell) tell(outcome);
+    if (std::exchange(toDoDue_, false)) RunPendingWork();
   };
   return both;
 }
@@ -72,6 +76,7 @@ void ApplicationService::Stop() {
   SetProgress(nullptr, nullptr);
   dialog_.reset();
   background_.reset();
+  spent_.reset();
 }
 
 void ApplicationService::RunPendingWork() {
@@ -82,6 +87,7 @@ void ApplicationService::RunPendingWork() {
   opener.finished = [this](const UpdateOutcome& outcome) {
     if (outcome.kind == UpdateOutcome::Kind::Updated && directoryChanged_) directoryChanged_();
   };
+  spent_ = std::move(background_);  // this may run within its last call
   background_ = std::make_unique<frmInetUpdate>(needs_.context, MakeUpdateNeeds(), caller::kBackground,
                                                 kInstallAndRebuild, AlsoInTheMainWindow(std::move(opener)));
   background_->Load();
@@ -89,16 +95,16 @@ void ApplicationService::RunPendingWork() {
 
 std::string ApplicationService::Installed() {
   if (directoryChanged_) directoryChanged_();
-  const ReadResult before = needs_.data.Read("\\previous.snr");
+  const std::optional<std::string> before = install_.ReplacedStationList();
   const ReadResult now = needs_.data.Read("\\Station.snr");
-  if (before.status != ReadStatus::Ok || now.status != ReadStatus::Ok) return {};
-  return DescribeUpdate(CompareStationLists(before.bytes, now.bytes, StationsOfGroups()), needs_.strings);
+  if (!before || now.status != ReadStatus::Ok || *before == now.bytes) return {};
+  return DescribeUpdate(CompareStationLists(*before, now.bytes, StationsOfGroups()), needs_.strings);
 }
 
-bool ApplicationService::Undo() {
-  const bool undone = install_.UndoLastUpdate();
-  if (undone && directoryChanged_) directoryChanged_();
-  return undone;
+UndoStatus ApplicationService::Undo() {
+  const UndoStatus status = install_.UndoLastUpdate();
+  if (status != UndoStatus::Impossible && directoryChanged_) directoryChanged_();
+  return status;
 }
 
 std::vector<std::int32_t> ApplicationService::StationsOfGroups() const {

@@ -54,10 +54,12 @@ class ApplicationService {
 
   // The update dialog; an update that runs unwatched makes way for it.
   void ShowUpdate(HWND owner);
-  // The same dialog, with nothing but the way back to the station list of before the last update.
+  // The same dialog, with nothing but the way back to the guide of before the last update.
   bool CanUndoUpdate() const { return install_.CanUndo(); }
   void OfferUndo(HWND owner);
-  // Once, when the program has finished loading: an update that is on the to-do list, unwatched.
+  void FinishUndo() { install_.FinishUndo(); }  // early in the start
+  // When the program has finished loading, and after every update: an update that is on the to-do list,
+  // unwatched.
   void RunPendingWork();
   void TestProxy(HWND owner, const std::string& address, const std::string& port);
 
@@ -73,7 +75,7 @@ class ApplicationService {
   UpdateOpener AlsoInTheMainWindow(UpdateOpener opener);
   void EndProgress();
   std::string Installed();
-  bool Undo();
+  UndoStatus Undo();
   std::vector<std::int32_t> StationsOfGroups() const;
 
   Needs needs_;
@@ -83,6 +85,8 @@ class ApplicationService {
   std::function<void()> endProgress_;
   std::unique_ptr<frmUpdateDialog> dialog_;
   std::unique_ptr<frmInetUpdate> background_;
+  std::unique_ptr<frmInetUpdate> spent_;  // the one before it, which may still be on the stack
+  bool toDoDue_ = false;                  // the update that is ending has asked for the to-do list
 };
 
 }  // namespace sonaro

@@ -19,24 +19,25 @@ namespace {
 constexpr std::string_view kCategories = "\\cat.snr";
 constexpr std::string_view kNeeded[] = {"\\fun.snr", "\\Statorg.isd", "\\Statorg.ism", kCategories};
 
-// True when a list file is missing that the file of categories names in the third field of a line.
-bool CategoryListMissing(DataFolder& data) {
-  const ReadResult categories = data.Read(kCategories);
-  for (const std::string_view line : SplitLines(categories.bytes)) {
-    const auto fields = SplitAtMost(line, '\t', 4);
+}  // namespace
+
+// The list is named in the third field; a line with fewer than three separators names none.
+bool CategoryListMissing(std::string_view categories,
+                         const std::function<bool(const std::string& name)>& isThere) {
+  while (!categories.empty()) {
+    const auto fields = SplitAtMost(TakeUntil(categories, '\n'), '\t', 4);
     if (fields.size() < 4) continue;
-    if (!data.Exists(std::string("\\").append(fields[2]).append(".snr"))) return true;
+    if (!isThere(std::string("\\").append(fields[2]).append(".snr"))) return true;
   }
   return false;
 }
-
-}  // namespace
 
 bool DataFilesMissing(DataFolder& data) {
   for (const std::string_view name : kNeeded) {
     if (!data.Exists(name)) return true;
   }
-  return CategoryListMissing(data);
+  return CategoryListMissing(data.Read(kCategories).bytes,
+                             [&data](const std::string& name) { return data.Exists(name); });
 }
 
 bool AskToGetMissingFiles(CReg& reg, const Strings& strings, MessageBoxView& messages, HelpPages& help) {

@@ -21,7 +21,9 @@ inline constexpr const char* kInstallId = "InstallId";                          
 // Exchange with the service (net/). Missing addresses are stored with their default at start-up.
 inline constexpr const char* kLastUpdate = "LastUpdate";                         // InetUpdate: a full update
 inline constexpr const char* kUpdateVersion = "UpdateVersion";                   // InetUpdate: no update received yet
-inline constexpr const char* kPreviousUpdate = "PreviousUpdate";                 // UpdateInstall: a full update after an undo
+inline constexpr const char* kUpdateHoldDate = "UpdateHoldDate";                 // DeferredSwap, net: "LastUpdate" stays when the held files are in place
+inline constexpr const char* kUpdateHoldVersion = "UpdateHoldVersion";           // DeferredSwap, net: so does "UpdateVersion"
+inline constexpr const char* kUpdateSerial = "UpdateSerial";                     // UpdateInstall: no signed update with a serial number was taken
 inline constexpr const char* kUpdateUrl = "UpdateURL";                           // InetUpdate: default address
 inline constexpr const char* kNotifyUrl = "NotifyURL";                           // background jobs: default address
 inline constexpr const char* kLiveUpdate = "LiveUpdate";                         // background jobs: default address

@@ -73,7 +73,8 @@ void Startup::ShowSplashAndFaceplate() {
 // A table that is not that of the station list is made anew, and nobody has to know unless that fails: then
 // the next start finds it so again.
 void Startup::SwapInDownloads() {
-  RunDeferredSwap(use_.data, use_.reg, [this] { use_.stations.RebuildStationTable(); });
+  if (use_.finishUndo) use_.finishUndo();
+  RunDeferredSwap(use_.data, use_.reg, [this] { return use_.stations.RebuildStationTable(); });
   if (use_.stations.EnsureStationTable() != TableCare::NotMade) return;
   Message message;
   message.key = "StationTableNotMade";

@@ -49,6 +49,7 @@ struct StartupServices {
   MessageBoxView& messageBox;
   std::function<void()> storeServiceAddresses;  // gives every missing address of the service its default
   std::function<bool()> proxyFound;             // looks for a proxy that the user's browsers are set to
+  std::function<void()> finishUndo;             // goes on with an undoing of an update that was cut short
 };
 
 class Startup {

@@ -210,6 +210,7 @@ inline constexpr int butToday = 2485;
 // frmInetUpdate, the update dialog, frmTestProxy: 2601 to 2699.
 inline constexpr int tmrInetStuff = 2601;
 inline constexpr int prgUpdate = 2602;
+inline constexpr int lblBytes = 2603;
 inline constexpr int lblCheckAddress = 2611;
 inline constexpr int lblCheckPort = 2612;
 inline constexpr int lblStatusInfo = 2613;

@@ -164,8 +164,11 @@ void UpdateExchange::Received() {
   const UpdateContents contents = ReadUpdateFile(needs_.data);
   switch (contents.status) {
     case UpdateFileStatus::Missing:
-    case UpdateFileStatus::NotSaved:
       return Refused(IDS_NET_NOT_SAVED);
+    case UpdateFileStatus::TooLarge:
+      return Refused(IDS_NET_TOO_MUCH);
+    case UpdateFileStatus::CannotCheck:
+      return Refused(IDS_NET_CANNOT_CHECK);
     case UpdateFileStatus::NotSigned:
       return Refused(IDS_NET_NOT_SIGNED);
     case UpdateFileStatus::WrongSign:
@@ -173,13 +176,26 @@ void UpdateExchange::Received() {
     case UpdateFileStatus::Read:
       break;
   }
-  switch (needs_.install.Install(contents, installCode_)) {
+  Installed(needs_.install.Install(contents, installCode_));
+}
+
+void UpdateExchange::Installed(InstallStatus status) {
+  switch (status) {
     case InstallStatus::NoStations:
       return Refused(IDS_NET_NO_STATIONS);
+    case InstallStatus::Older:
+      return Refused(IDS_NET_OLDER);
+    case InstallStatus::NotFitting:
+      return Refused(IDS_NET_NOT_FITTING);
+    case InstallStatus::NotKept:
+      return Refused(IDS_NET_NOT_KEPT);
     case InstallStatus::NotSaved:
       return Refused(IDS_NET_NOT_SAVED);
     case InstallStatus::NotRebuilt:
       return Refused(IDS_NET_NOT_REBUILT);
+    case InstallStatus::Waits:
+      reason_ = needs_.strings.Load(IDS_NET_WAITS);
+      break;
     case InstallStatus::Done:
       break;
   }

@@ -18,6 +18,7 @@ class CReg;
 class DataFolder;
 class Strings;
 class UpdateInstall;
+enum class InstallStatus;
 
 // Who opened the update, and, when it is over, what came of it.
 namespace caller {
@@ -40,7 +41,7 @@ struct UpdateOutcome {
   };
   Kind kind = Kind::CantConnect;
   int callerCode = 0;
-  std::string reason;  // one sentence about what went wrong, or ""
+  std::string reason;  // one sentence about what went wrong or is still to come, or ""
 };
 
 // What the exchange needs of its window.
@@ -95,6 +96,7 @@ class UpdateExchange final : private HttpEvents {
   void Complete();
   void FollowRedirect();
   void Received();
+  void Installed(InstallStatus status);
   void ReportInstalled();
   void NothingNew();
   void Failed();

@@ -1,9 +1,12 @@
 #include "net/UpdateFile.h"
 
-#include <memory>
+#include <algorithm>
+#include <map>
 #include <string_view>
+#include <utility>
 
 #include "base/DataFolder.h"
+#include "base/Numbers.h"
 #include "base/Text.h"
 #include "net/UpdateFormat.h"
 #include "net/UpdateSignature.h"
@@ -12,10 +15,7 @@ namespace sonaro {
 
 namespace {
 
-constexpr std::size_t kLongestStamp = 64;  // of a date or a version
-constexpr std::size_t kPiece = 64 * 1024;  // what is written at once
-
-std::string TemporaryName(std::string_view name) { return std::string("\\t").append(name); }
+constexpr std::size_t kLongestStamp = 64;  // of a date, a version or a serial number
 
 // The lines of the file. One empty line before a line is skipped; of two in a row the second is a line.
 class UpdateLines {
@@ -45,68 +45,44 @@ bool IsMarker(std::string_view line, std::string_view name, std::string_view mar
          EqualIgnoringCase(line, std::string(name).append(marker));
 }
 
-// Writes one section; its start line has been taken.
-class SectionWriter {
+// The sections as they are found, each name once.
+class Sections {
  public:
-  SectionWriter(DataFolder& data, std::string_view name)
-      : file_(data.FileSystem().Create(data.Path(TemporaryName(name)))), failed_(!file_) {}
+  explicit Sections(UpdateContents& contents) : contents_(contents) {}
 
-  void Add(std::string_view line) {
-    buffer_.append(line).append("\r\n");
-    if (buffer_.size() >= kPiece) Flush();
+  // Takes a section when its start line follows; without it the lines are read as others are.
+  void Take(std::string_view name, UpdateLines& lines) {
+    std::string_view start;
+    if (!lines.Peek(start) || !IsMarker(start, name, update::kSectionStart)) return;
+    lines.Next(start);
+    if (++count_ > update::kMostSections) return;
+    const bool taken = update::MayBringFile(name);
+    if (!taken) ++contents_.skippedSections;
+    std::string bytes;
+    for (std::string_view line; lines.Next(line) && !line.empty();) {
+      if (IsMarker(line, name, update::kSectionEnd)) break;
+      bytes_ += line.size() + kLineEnd.size();
+      if (TooLarge()) return;
+      if (taken) bytes.append(line).append(kLineEnd);
+    }
+    if (taken) Keep(name, std::move(bytes));
   }
-  bool Finish() {
-    Flush();
-    return !failed_ && file_->Commit(Durability::Flushed);
-  }
+  bool TooLarge() const { return count_ > update::kMostSections || bytes_ > update::kMostBytes; }
 
  private:
-  void Flush() {
-    failed_ = failed_ || !file_->Append(buffer_);
-    buffer_.clear();
+  void Keep(std::string_view name, std::string bytes) {
+    const auto [place, isNew] = places_.try_emplace(FoldCase(name), contents_.files.size());
+    if (isNew) contents_.files.push_back({std::string(name), {}});
+    contents_.files[place->second].bytes = std::move(bytes);
   }
 
-  std::unique_ptr<OutputFile> file_;
-  std::string buffer_;
-  bool failed_;
+  static constexpr std::string_view kLineEnd = "\r\n";
+
+  UpdateContents& contents_;
+  std::map<std::string, std::size_t> places_;  // folded names
+  std::size_t count_ = 0;
+  std::size_t bytes_ = 0;
 };
-
-bool WriteSection(DataFolder& data, std::string_view name, UpdateLines& lines) {
-  SectionWriter writer(data, name);
-  for (std::string_view line; lines.Next(line) && !line.empty();) {
-    if (IsMarker(line, name, update::kSectionEnd)) break;
-    writer.Add(line);
-  }
-  return writer.Finish();
-}
-
-void SkipSection(std::string_view name, UpdateLines& lines) {
-  for (std::string_view line; lines.Next(line) && !line.empty();) {
-    if (IsMarker(line, name, update::kSectionEnd)) break;
-  }
-}
-
-bool IsReceived(const UpdateContents& contents, std::string_view name) {
-  for (std::string_view rest = contents.received; !rest.empty();) {
-    if (EqualIgnoringCase(TakeUntil(rest, '\t'), name)) return true;
-  }
-  return false;
-}
-
-// False when the file could not be saved. Without its start line a section is none, and its lines are read as
-// others are.
-bool TakeSection(DataFolder& data, std::string_view name, UpdateLines& lines, UpdateContents& contents) {
-  std::string_view start;
-  if (!lines.Peek(start) || !IsMarker(start, name, update::kSectionStart)) return true;
-  lines.Next(start);
-  if (!update::MayBringFile(name)) {
-    ++contents.skippedSections;
-    SkipSection(name, lines);
-    return true;
-  }
-  if (!IsReceived(contents, name)) contents.received.append(name).append("\t");
-  return WriteSection(data, name, lines);
-}
 
 // What stands between `mark` and `end`, wherever the mark is; nothing when one of them is missing.
 std::optional<std::string> ValueBetween(std::string_view line, std::string_view mark, std::string_view end) {
@@ -118,13 +94,31 @@ std::optional<std::string> ValueBetween(std::string_view line, std::string_view 
   return std::string(rest.substr(0, length));
 }
 
+void TakeValues(std::string_view line, UpdateContents& contents) {
+  std::vector<ServiceValue> found;
+  FindServiceValues(line, found, contents.refusedValues);
+  for (ServiceValue& value : found) {
+    const auto same = std::find_if(contents.values.begin(), contents.values.end(), [&](const auto& known) {
+      return std::string_view(known.setting) == value.setting;
+    });
+    if (same == contents.values.end()) {
+      contents.values.push_back(std::move(value));
+    } else {
+      same->value = std::move(value.value);
+    }
+  }
+}
+
 void TakeOtherLine(std::string_view line, UpdateContents& contents) {
   if (line.starts_with(update::kDate)) {
     if (auto date = ValueBetween(line, update::kDate, "::")) contents.date = std::move(date);
   } else if (line.find(update::kVersion) != std::string_view::npos) {
     if (auto version = ValueBetween(line, update::kVersion, " ")) contents.version = std::move(version);
+  } else if (line.starts_with(update::kSerial)) {
+    const auto serial = ValueBetween(line, update::kSerial, "::");
+    if (contents.serial && serial) contents.serial = NumberValue(*serial);
   } else {
-    FindServiceValues(line, contents.values, contents.refusedValues);
+    TakeValues(line, contents);
   }
 }
 
@@ -135,38 +129,42 @@ UpdateFileStatus StatusOf(SignatureCheck check) {
       return UpdateFileStatus::Read;
     case SignatureCheck::Missing:
       return UpdateFileStatus::NotSigned;
+    case SignatureCheck::NoKey:
+      return UpdateFileStatus::CannotCheck;
     case SignatureCheck::Wrong:
       break;
   }
   return UpdateFileStatus::WrongSign;
 }
 
-}  // namespace
-
-UpdateContents ReadUpdateFile(DataFolder& data) {
+UpdateContents Refusal(UpdateFileStatus status) {
   UpdateContents contents;
-  const ReadResult file = data.Read(kUpdateFileName);
-  if (file.status != ReadStatus::Ok) return contents;
-  std::string_view text = file.bytes;
-  contents.status = StatusOf(CheckUpdateSignature(data, text));
-  if (contents.status != UpdateFileStatus::Read) return contents;
-
-  UpdateLines lines(text);
-  for (std::string_view line; lines.Next(line);) {
-    if (!StartsWithIgnoringCase(line, update::kFile)) {
-      TakeOtherLine(line, contents);
-    } else if (!TakeSection(data, line.substr(update::kFile.size()), lines, contents)) {
-      DropReceived(data, contents.received);
-      contents = {};
-      contents.status = UpdateFileStatus::NotSaved;
-      return contents;
-    }
-  }
+  contents.status = status;
   return contents;
 }
 
-void DropReceived(DataFolder& data, const std::string& received) {
-  for (std::string_view rest = received; !rest.empty();) data.Remove(TemporaryName(TakeUntil(rest, '\t')));
+}  // namespace
+
+UpdateContents ReadUpdateFile(DataFolder& data) {
+  const ReadResult file = data.Read(kUpdateFileName);
+  if (file.status != ReadStatus::Ok) return Refusal(UpdateFileStatus::Missing);
+  std::string_view text = file.bytes;
+  const SignatureCheck check = CheckUpdateSignature(data, text);
+  UpdateContents contents = Refusal(StatusOf(check));
+  if (contents.status != UpdateFileStatus::Read) return contents;
+  if (check == SignatureCheck::Good) contents.serial = 0;
+
+  UpdateLines lines(text);
+  Sections sections(contents);
+  for (std::string_view line; lines.Next(line);) {
+    if (StartsWithIgnoringCase(line, update::kFile)) {
+      sections.Take(line.substr(update::kFile.size()), lines);
+    } else {
+      TakeOtherLine(line, contents);
+    }
+    if (sections.TooLarge()) return Refusal(UpdateFileStatus::TooLarge);
+  }
+  return contents;
 }
 
 }  // namespace sonaro

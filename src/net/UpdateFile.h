@@ -1,9 +1,10 @@
-// Reads the update file "\update.txt": unpacks the files that it carries to temporary ones beside their
-// places, and hands out everything else as values. Changes no setting and no file of the directory: that is
-// UpdateInstall's. The file comes from the network and is not trusted.
+// Reads the update file "\update.txt" and hands out everything in it as values. Changes no setting and no
+// file: that is UpdateInstall's. The file comes from the network and is not trusted; what is read is bounded,
+// and the work grows with its length only.
 #pragma once
 
 #include <cstddef>
+#include <cstdint>
 #include <optional>
 #include <string>
 #include <vector>
@@ -18,26 +19,31 @@ inline constexpr const char* kUpdateFileName = "\\update.txt";
 
 enum class UpdateFileStatus {
   Read,
-  Missing,    // or unreadable
-  NotSaved,   // a temporary file could not be written
-  NotSigned,  // this installation takes signed updates only, and the file is not signed
-  WrongSign   // it is signed by somebody else or was changed, or the installation's key is no key
+  Missing,      // or unreadable
+  TooLarge,     // more sections or bytes than an update may have
+  NotSigned,    // this installation takes signed updates only, and the file is not signed
+  WrongSign,    // it is signed by somebody else or was changed, or the installation's key is no key
+  CannotCheck,  // the installation has a key that cannot be read
+};
+
+struct ReceivedFile {
+  std::string name;  // plain, one that an update may bring
+  std::string bytes;
 };
 
 struct UpdateContents {
   UpdateFileStatus status = UpdateFileStatus::Missing;
-  std::string received;             // the unpacked files: names, each followed by a TAB
+  std::vector<ReceivedFile> files;  // no name twice, whatever its letter case: the last section counts
   std::optional<std::string> date;  // of the directory
   std::optional<std::string> version;
-  std::vector<ServiceValue> values;  // for the settings, in the order of the file
-  std::size_t skippedSections = 0;   // whose name is none that an update may bring
+  std::vector<ServiceValue> values;  // one for a setting: the last
+  // Of an update whose signature was checked, 0 when it has none; nothing when nobody has to check.
+  std::optional<std::int64_t> serial;
+  std::size_t skippedSections = 0;  // whose name is none that an update may bring
   std::size_t refusedValues = 0;
 };
 
-// The temporary file of "\name" is "\t" + name. Unless the status is Read, no temporary file is left.
+// Unless the status is Read, there is nothing in the contents.
 UpdateContents ReadUpdateFile(DataFolder& data);
-
-// Removes the temporary files of `received`.
-void DropReceived(DataFolder& data, const std::string& received);
 
 }  // namespace sonaro

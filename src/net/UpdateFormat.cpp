@@ -12,9 +12,10 @@ constexpr std::size_t kLongestName = 64;
 
 constexpr std::string_view kEndings[] = {".snr", ".vbt", ".pts", ".isd", ".ism", ".isf", ".isl"};
 
-// What the user made, and the list that an update can be undone to.
-constexpr std::string_view kNeverBrought[] = {"favs.snr",     "sched.snr",    "shows.snr",    "recent.snr",
-                                              "personal.snr", "ownlinks.snr", "alphabet.snr", "previous.snr"};
+// What the user made, and what the program keeps of the guide before an update.
+constexpr std::string_view kNeverBrought[] = {"favs.snr",     "sched.snr",    "shows.snr",
+                                              "recent.snr",   "personal.snr", "ownlinks.snr",
+                                              "alphabet.snr", "previous.snr", "undo.snr"};
 
 constexpr std::string_view kDevices[] = {"con", "prn", "aux", "nul"};
 constexpr std::string_view kNumberedDevices[] = {"com", "lpt"};

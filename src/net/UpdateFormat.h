@@ -1,6 +1,7 @@
 // The words of an update file, shared by the program that reads one and the tool that writes one.
 #pragma once
 
+#include <cstddef>
 #include <string_view>
 
 namespace sonaro::update {
@@ -11,6 +12,9 @@ inline constexpr std::string_view kSectionStart = " - start:sjhshkdjsdhjhsdsjhgf
 inline constexpr std::string_view kSectionEnd = " - end:sjhshkdjsdhjhsdsjhgfbvnjdsf";
 inline constexpr std::string_view kDate = "date::";        // a value and "::" follow
 inline constexpr std::string_view kVersion = "version::";  // a value and a blank follow
+// A whole number and "::" follow: when a signed update was published, in seconds since 1970. It grows with
+// every update of one publisher, so that an older one is known although its signature is good.
+inline constexpr std::string_view kSerial = "serial::";
 // The last line before the sentinel of a signed file: the SHA-256 of everything before the line in
 // hexadecimal,
 // "::", the publisher's signature of that digest in hexadecimal, "::".
@@ -21,6 +25,11 @@ inline constexpr std::string_view kSentinel =
 static_assert(kSentinel.size() == 100);
 // In the address of the answer "nothing is newer".
 inline constexpr std::string_view kNothingNew = "noupdate.txt";
+
+// What one update may bring: sections, those that are passed over included, and the bytes of all of them. A
+// guide has some fifty files.
+inline constexpr std::size_t kMostSections = 250;
+inline constexpr std::size_t kMostBytes = std::size_t{128} * 1024 * 1024;
 
 // True when an update may bring a file of this name: a plain name of a data file of the service's, and never
 // one that the user made or that the program keeps for itself.

@@ -1,14 +1,20 @@
 #include "net/UpdateInstall.h"
 
+#include <algorithm>
+#include <set>
 #include <string_view>
 
 #include "app/CReg.h"
+#include "app/CheckDataFiles.h"
 #include "app/DeferredSwap.h"
+#include "app/HeldNames.h"
 #include "app/SettingNames.h"
 #include "base/DataFolder.h"
+#include "base/Numbers.h"
 #include "base/Text.h"
 #include "directory/StatList.h"
 #include "directory/StationListFile.h"
+#include "net/PreviousGuide.h"
 #include "net/UpdateFile.h"
 
 namespace sonaro {
@@ -16,9 +22,9 @@ namespace sonaro {
 namespace {
 
 constexpr std::string_view kStationList = "\\Station.snr";
-constexpr std::string_view kReceivedList = "\\tStation.snr";
-constexpr std::string_view kPreviousList = "\\previous.snr";
-constexpr std::string_view kStationListOnly = "Station.snr\t";
+constexpr std::string_view kPrevious = "\\previous.snr";
+constexpr std::string_view kUndoing = "\\undo.snr";  // what was kept, while it is being put back
+constexpr std::string_view kCategories = "cat.snr";
 
 bool HoldsStations(std::string_view list) {
   StationLine station;
@@ -28,94 +34,237 @@ bool HoldsStations(std::string_view list) {
   return false;
 }
 
-bool NamesStationList(std::string_view received) {
-  while (!received.empty()) {
-    if (IsStationList(TakeUntil(received, '\t'))) return true;
-  }
-  return false;
+std::string PlaceOf(std::string_view name) { return std::string("\\").append(name); }
+
+HeldNames NamesOf(const UpdateContents& contents) {
+  HeldNames names;
+  for (const ReceivedFile& file : contents.files) names.Add(file.name);
+  return names;
 }
 
-bool NamesStationTable(std::string_view received) {
-  while (!received.empty()) {
-    if (StartsWithIgnoringCase(TakeUntil(received, '\t'), "statorg.")) return true;
+const ReceivedFile* Find(const UpdateContents& contents, std::string_view name) {
+  for (const ReceivedFile& file : contents.files) {
+    if (EqualIgnoringCase(file.name, name)) return &file;
   }
-  return false;
+  return nullptr;
+}
+
+bool IsStationTable(std::string_view name) { return StartsWithIgnoringCase(name, "statorg."); }
+
+bool HasStationList(const HeldNames& names) {
+  return std::any_of(names.begin(), names.end(), [](const std::string& name) { return IsStationList(name); });
 }
 
 }  // namespace
 
+HeldNames UpdateInstall::Waiting() const { return HeldNames(reg_.Setting(setting::kUpdateHold)); }
+
 InstallStatus UpdateInstall::Install(const UpdateContents& contents, int code) {
-  if (const InstallStatus kept = KeepPrevious(contents.received); kept != InstallStatus::Done) {
-    DropReceived(data_, contents.received);
-    return kept;
-  }
-  StoreValues(contents);
-  reg_.SetSetting(setting::kUpdateHold, contents.received);
+  InstallStatus status = Check(contents);
+  if (status == InstallStatus::Done) status = Unpack(contents);
+  if (status != InstallStatus::Done) return status;
+  const HeldNames earlier = Waiting();
+  HeldNames held = earlier;
+  held.Add(NamesOf(contents));
+  StoreValues(contents, HasStationList(earlier));
+  reg_.SetSetting(setting::kUpdateHold, held.Text());
   if (code == kHoldFiles) return InstallStatus::Done;
-  const bool inPlace = PutInPlace(contents.received, code == kInstallAndRebuild);
-  if (inPlace && contents.version) reg_.SetSetting(setting::kUpdateVersion, *contents.version);
-  if (inPlace && contents.date) reg_.SetSetting(setting::kLastUpdate, *contents.date);
-  return inPlace ? InstallStatus::Done : InstallStatus::NotRebuilt;
+  return PutInPlace(contents, earlier, code == kInstallAndRebuild);
 }
 
 // A list without a station is no directory, whoever sent it.
-InstallStatus UpdateInstall::KeepPrevious(const std::string& received) {
-  if (!NamesStationList(received)) return InstallStatus::Done;
-  const ReadResult next = data_.Read(kReceivedList);
-  if (next.status != ReadStatus::Ok) return InstallStatus::NotSaved;
-  if (!HoldsStations(next.bytes)) return InstallStatus::NoStations;
-  const ReadResult current = data_.Read(kStationList);
-  if (current.status == ReadStatus::Missing || !HoldsStations(current.bytes)) return InstallStatus::Done;
-  if (!data_.Save(kPreviousList, current.bytes)) return InstallStatus::NotSaved;
-  reg_.SetSetting(setting::kPreviousUpdate, reg_.Setting(setting::kLastUpdate));
+InstallStatus UpdateInstall::Check(const UpdateContents& contents) {
+  if (contents.serial && *contents.serial < NumberValue(reg_.Setting(setting::kUpdateSerial))) {
+    return InstallStatus::Older;
+  }
+  if (!NamesAreFree(contents) || !CategoriesHaveLists(contents)) return InstallStatus::NotFitting;
+  const ReceivedFile* const list = Find(contents, kStationList.substr(1));
+  return list == nullptr || HoldsStations(list->bytes) ? InstallStatus::Done : InstallStatus::NoStations;
+}
+
+// The copy of "rap.snr" is called "trap.snr": it may not take the place of a file of that name, one of this
+// update, one that waits, or one that is there, unless that is a copy as well.
+bool UpdateInstall::NamesAreFree(const UpdateContents& contents) {
+  const HeldNames waiting = Waiting();
+  HeldNames copies = NotedTemporaries(data_);
+  copies.Add(waiting);
+  std::set<std::string> received;
+  for (const ReceivedFile& file : contents.files) received.insert(FoldCase(file.name));
+  const auto isCopyOf = [&](const std::string& name) { return received.contains(FoldCase("t" + name)); };
+  if (std::any_of(waiting.begin(), waiting.end(), isCopyOf)) return false;
+  return std::none_of(contents.files.begin(), contents.files.end(), [&](const ReceivedFile& file) {
+    if (isCopyOf(file.name) || waiting.Contains("t" + file.name)) return true;
+    return !copies.Contains(file.name) && data_.Exists(TemporaryName(file.name));
+  });
+}
+
+// Otherwise every start would ask for files that no update brings.
+bool UpdateInstall::CategoriesHaveLists(const UpdateContents& contents) {
+  const ReceivedFile* const categories = Find(contents, kCategories);
+  if (categories == nullptr) return true;
+  std::set<std::string> there;
+  for (const std::string& name : data_.FileSystem().List(data_.Folder())) there.insert(FoldCase(name));
+  for (const ReceivedFile& file : contents.files) there.insert(FoldCase(file.name));
+  return !CategoryListMissing(categories->bytes, [&](const std::string& name) {
+    return there.contains(FoldCase(std::string_view(name).substr(1)));
+  });
+}
+
+// The copies first: while they cannot be written, what the update before replaced stays kept.
+InstallStatus UpdateInstall::Unpack(const UpdateContents& contents) {
+  bool saved = contents.files.empty() || NoteTemporaries(data_, NamesOf(contents));
+  for (const ReceivedFile& file : contents.files) {
+    saved = saved && data_.Save(TemporaryName(file.name), file.bytes);
+  }
+  const InstallStatus status = saved ? KeepPrevious(contents) : InstallStatus::NotSaved;
+  if (status != InstallStatus::Done) RemoveTemporaries(data_, Waiting());
+  return status;
+}
+
+InstallStatus UpdateInstall::KeepPrevious(const UpdateContents& contents) {
+  PreviousGuide previous;
+  for (const ReceivedFile& file : contents.files) {
+    ReadResult present = data_.Read(PlaceOf(file.name));
+    if (present.status == ReadStatus::Unreadable) return InstallStatus::NotKept;
+    KeptFile& kept = previous.files.emplace_back(KeptFile{file.name, std::nullopt});
+    if (present.status == ReadStatus::Ok) kept.bytes = std::move(present.bytes);
+  }
+  for (const char* name : {setting::kLastUpdate, setting::kUpdateVersion, setting::kUpdateSerial}) {
+    previous.settings.push_back({kSettingsKey, name, reg_.Setting(name)});
+  }
+  for (const ServiceValue& value : contents.values) {
+    previous.settings.push_back({value.key, value.setting, reg_.GetData(value.key, value.setting)});
+  }
+  const KeptFile* const list = previous.Find(kStationList.substr(1));
+  if (list != nullptr && !HoldsStations(list->bytes.value_or(""))) {  // nothing that one could want back
+    data_.Remove(kPrevious);
+  } else if (!SavePreviousGuide(data_, kPrevious, previous)) {
+    return InstallStatus::NotSaved;
+  }
+  data_.Remove(kUndoing);  // an undoing that waits is overtaken
   return InstallStatus::Done;
 }
 
-// A file that is in use stays as it is, and its new copy waits for the next start. A list and its table
-// belong together: when no table can be made of the new list, the one before comes back, whose table is still
-// there.
-bool UpdateInstall::PutInPlace(const std::string& received, bool rebuild) {
-  bool rebuilt = true;
-  std::string waiting;
-  for (std::string_view rest = received; !rest.empty();) {
-    const std::string_view name = TakeUntil(rest, '\t');
-    const bool swapped = SwapInDownloaded(data_, name);
-    if (!swapped) waiting.append(name).append("\t");
-    if (swapped && rebuild && IsStationList(name)) rebuilt = stations_.RebuildStationTable();
-  }
-  if (!rebuilt) static_cast<void>(data_.Replace(kPreviousList, kStationList));  // the outcome is bad already
-  if (NamesStationTable(received)) rebuilt = stations_.EnsureStationTable() != TableCare::NotMade && rebuilt;
-  reg_.SetSetting(setting::kUpdateHold, waiting);
-  return rebuilt;
-}
-
-void UpdateInstall::StoreValues(const UpdateContents& contents) {
+// The date is written down before the names of the files: whoever finds the names finds its date. That of a
+// list that waits already stays unless this update has one.
+void UpdateInstall::StoreValues(const UpdateContents& contents, bool listWaits) {
   const SettingsBatch batch(reg_);
+  const MainKeyScope scope(reg_, RootKey::LocalMachine);
   for (const ServiceValue& value : contents.values) {
     reg_.CheckKeyIsThere(value.key);
-    const MainKeyScope scope(reg_, RootKey::LocalMachine);
     reg_.SetData(value.key, value.setting, value.value);
   }
+  if (contents.serial) reg_.SetSetting(setting::kUpdateSerial, std::to_string(*contents.serial));
+  const auto wait = [&](const char* name, const std::optional<std::string>& value) {
+    if (value || !listWaits) reg_.SetSetting(name, value.value_or(""));
+  };
+  wait(setting::kUpdateHoldDate, contents.date);
+  wait(setting::kUpdateHoldVersion, contents.version);
 }
 
-bool UpdateInstall::CanUndo() const { return data_.Exists(kPreviousList); }
-
-bool UpdateInstall::UndoLastUpdate() {
-  const ReadResult previous = data_.Read(kPreviousList);
-  if (previous.status != ReadStatus::Ok || !HoldsStations(previous.bytes)) return false;
-  const ReadResult current = data_.Read(kStationList);
-  if (!data_.Save(kReceivedList, previous.bytes)) return false;
-  reg_.SetSetting(setting::kUpdateHold, kStationListOnly);
-  const bool swapped = SwapInDownloaded(data_, "Station.snr");
-  const bool rebuilt = swapped && stations_.RebuildStationTable();
-  if (swapped && !rebuilt) static_cast<void>(data_.Save(kStationList, current.bytes));  // it failed already
-  if (rebuilt) {
-    reg_.SetSetting(setting::kLastUpdate, reg_.Setting(setting::kPreviousUpdate));
-    data_.Remove(kPreviousList);
+// A file that is in use stays as it is, and its copy waits for the next start. A list and its table belong
+// together: when no table can be made of the new list, everything of before comes back.
+InstallStatus UpdateInstall::PutInPlace(const UpdateContents& contents, const HeldNames& earlier,
+                                        bool rebuild) {
+  HeldNames waiting = earlier;
+  bool allInPlace = true;
+  bool rebuilt = true;
+  for (const ReceivedFile& file : contents.files) {
+    const bool swapped = SwapInDownloaded(data_, file.name);
+    allInPlace = allInPlace && swapped;
+    if (swapped) {
+      waiting.Remove(file.name);
+    } else {
+      waiting.Add(file.name);
+    }
+    if (swapped && rebuild && IsStationList(file.name)) rebuilt = stations_.RebuildStationTable();
+    if (!rebuilt) break;
   }
-  data_.Remove(kReceivedList);
-  reg_.SetSetting(setting::kUpdateHold, "");
-  return rebuilt;
+  const auto isTable = [](const ReceivedFile& file) { return IsStationTable(file.name); };
+  if (rebuilt && std::any_of(contents.files.begin(), contents.files.end(), isTable)) {
+    rebuilt = stations_.EnsureStationTable() != TableCare::NotMade;
+  }
+  if (!rebuilt) {
+    (void)UndoLastUpdate();  // what is in use is put back at the next start
+    return InstallStatus::NotRebuilt;
+  }
+  StoreDates(contents, HasStationList(waiting));
+  Wait(waiting);
+  return allInPlace ? InstallStatus::Done : InstallStatus::Waits;
+}
+
+void UpdateInstall::StoreDates(const UpdateContents& contents, bool listWaits) {
+  if (listWaits) return;
+  if (contents.version) reg_.SetSetting(setting::kUpdateVersion, *contents.version);
+  if (contents.date) reg_.SetSetting(setting::kLastUpdate, *contents.date);
+}
+
+bool UpdateInstall::CanUndo() const { return IsPreviousGuide(data_, kPrevious); }
+
+std::optional<std::string> UpdateInstall::ReplacedStationList() {
+  const auto previous = LoadPreviousGuide(data_, kPrevious);
+  const KeptFile* const list = previous ? previous->Find(kStationList.substr(1)) : nullptr;
+  return list == nullptr ? std::nullopt : list->bytes;
+}
+
+// From the moment that the file has its other name the next start goes on with it.
+UndoStatus UpdateInstall::UndoLastUpdate() {
+  if (!LoadPreviousGuide(data_, kPrevious) || !data_.Replace(kPrevious, kUndoing)) {
+    return UndoStatus::Impossible;
+  }
+  return Restore();
+}
+
+void UpdateInstall::FinishUndo() {
+  if (data_.Exists(kUndoing)) (void)Restore();  // what does not succeed is tried at the next start
+}
+
+UndoStatus UpdateInstall::Restore() {
+  const auto previous = LoadPreviousGuide(data_, kUndoing);
+  if (!previous) {
+    data_.Remove(kUndoing);
+    return UndoStatus::Impossible;
+  }
+  RestoreSettings(*previous);
+  if (!RestoreFiles(*previous)) return UndoStatus::Waits;
+  data_.Remove(kUndoing);
+  return UndoStatus::Done;
+}
+
+// Before the files: an old date with the new list only asks for the update again, a new date with the old
+// list would hold it back. Copies that wait for the next start are not wanted any more.
+void UpdateInstall::RestoreSettings(const PreviousGuide& previous) {
+  HeldNames waiting = Waiting();
+  for (const KeptFile& file : previous.files) waiting.Remove(file.name);
+  {
+    const SettingsBatch batch(reg_);
+    const MainKeyScope scope(reg_, RootKey::LocalMachine);
+    for (const KeptSetting& kept : previous.settings) reg_.SetData(kept.key, kept.name, kept.value);
+  }
+  Wait(waiting);
+}
+
+// What waits from now on; the date waits with the station list.
+void UpdateInstall::Wait(const HeldNames& names) {
+  reg_.SetSetting(setting::kUpdateHold, names.Text());
+  if (!HasStationList(names)) ForgetHeldDate(reg_);
+  RemoveTemporaries(data_, names);
+}
+
+bool UpdateInstall::RestoreFiles(const PreviousGuide& previous) {
+  bool restored = true;
+  bool needsTable = false;
+  for (const KeptFile& file : previous.files) {
+    const std::string place = PlaceOf(file.name);
+    needsTable = needsTable || IsStationList(file.name) || IsStationTable(file.name);
+    if (!file.bytes) {
+      restored = data_.Remove(place) && restored;
+    } else if (data_.Read(place).bytes != *file.bytes || !data_.Exists(place)) {
+      restored = data_.Save(place, *file.bytes) && restored;
+    }
+  }
+  if (needsTable) restored = stations_.EnsureStationTable() != TableCare::NotMade && restored;
+  return restored;
 }
 
 }  // namespace sonaro

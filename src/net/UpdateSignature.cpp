@@ -26,6 +26,7 @@ std::size_t SignatureLineIn(std::string_view text) {
 SignatureCheck CheckUpdateSignature(DataFolder& data, std::string_view& text) {
   const ReadResult keyFile = data.Read(kPublisherKeyFile);
   if (keyFile.status == ReadStatus::Missing) return SignatureCheck::NotNeeded;
+  if (keyFile.status != ReadStatus::Ok) return SignatureCheck::NoKey;
   std::string_view keyText = keyFile.bytes;
   std::string_view key = TakeUntil(keyText, '\n');
   if (key.ends_with('\r')) key.remove_suffix(1);

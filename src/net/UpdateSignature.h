@@ -16,7 +16,8 @@ enum class SignatureCheck {
   NotNeeded,  // there is no key
   Good,
   Missing,
-  Wrong  // also when the key file holds no key
+  NoKey,  // there is one, and it cannot be read
+  Wrong   // also when the key file holds no key
 };
 
 // When the signature is needed and good, `text` is cut to the part that it covers: nothing else of the file

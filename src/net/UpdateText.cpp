@@ -34,9 +34,11 @@ int SentenceOf(Outcome kind) {
 std::string OutcomeText(const UpdateOutcome& outcome, const std::string& report, const Strings& strings) {
   const int sentence = SentenceOf(outcome.kind);
   std::string text = sentence == 0 ? std::string() : strings.Load(sentence);
-  const std::string& more = outcome.kind == Outcome::Updated ? report : outcome.reason;
-  if (!text.empty() && !more.empty()) text += "\r\n\r\n";
-  return text + more;
+  for (const std::string& more : {report, outcome.reason}) {
+    if (!text.empty() && !more.empty()) text += "\r\n\r\n";
+    text += more;
+  }
+  return text;
 }
 
 bool MayRetry(const UpdateOutcome& outcome) {

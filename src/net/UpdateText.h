@@ -9,11 +9,11 @@ namespace sonaro {
 class Strings;
 struct UpdateOutcome;
 
-// `report` is what the update did to the directory.
+// `report` is what the update did to the directory, "" when it did nothing.
 std::string OutcomeText(const UpdateOutcome& outcome, const std::string& report, const Strings& strings);
 bool MayRetry(const UpdateOutcome& outcome);
 
-// "Getting Data" with the kilobytes so far, and of how many if that is known (`expected` is not 0).
+// The kilobytes so far, and of how many if that is known (`expected` is not 0).
 std::string BytesText(std::uint64_t bytes, std::uint64_t expected, const Strings& strings);
 
 }  // namespace sonaro

@@ -3,6 +3,7 @@
 #include "forms/ControlIds.h"
 #include "forms/DialogRows.h"
 #include "forms/ProgressScale.h"
+#include "net/UpdateInstall.h"
 #include "net/UpdateText.h"
 #include "net/frmInetUpdate.h"
 #include "resources/texts/net.h"
@@ -15,6 +16,18 @@ constexpr int kScaleSteps = 1000;
 constexpr std::uint64_t kTextSteps = 20;
 constexpr std::uint64_t kQuietBytes = 256 * 1024;  // between two texts when the length is not known
 
+int SentenceOf(UndoStatus status) {
+  switch (status) {
+    case UndoStatus::Done:
+      return IDS_NET_UNDONE;
+    case UndoStatus::Waits:
+      return IDS_NET_UNDO_WAITS;
+    case UndoStatus::Impossible:
+      break;
+  }
+  return IDS_NET_NOT_UNDONE;
+}
+
 }  // namespace
 
 const FormDesign& frmUpdateDialog::Design() {
@@ -22,7 +35,12 @@ const FormDesign& frmUpdateDialog::Design() {
   static constexpr ControlRow kControls[] = {
       {.id = lblTitle, .kind = Kind::TitleBar, .text = IDS_NET_UPDATE_TITLE, .at = {40, 4, 156, 26}},
       MessagePicture(),
-      MessageText(lblStuff, 104),
+      MessageText(lblStuff, 82),
+      {.id = lblBytes,
+       .kind = Kind::StateLabel,
+       .at = {68, 136, 336, 20},
+       .anchors = kFoot,
+       .ink = Ink::Muted},
       {.id = prgUpdate, .kind = Kind::Progress, .at = {68, 160, 336, 20}, .anchors = kFoot},
       {.kind = Kind::Groove, .at = {14, 190, 392, 2}, .anchors = kFoot},
       {.id = butMsg, .kind = Kind::PushKey, .at = {172, 202, 128, 28}, .flags = kHidden, .anchors = kFoot},
@@ -83,6 +101,7 @@ void frmUpdateDialog::Begin() {
   SetOffer(Offer::Nothing);
   SetText(butMsg + 1, LoadText(IDS_NET_CANCEL));
   SetTextAndGrow(lblStuff, LoadText(IDS_NET_CONNECTING));
+  SetText(lblBytes, "");
   Progress(prgUpdate).SetProgress(0, kScaleSteps);
   UpdateOpener opener;
   opener.progress = [this](const std::string& text) { SetText(lblStuff, text); };
@@ -95,7 +114,7 @@ void frmUpdateDialog::Begin() {
 // The text changes in steps: a screen reader says each new one.
 void frmUpdateDialog::ShowBytes(std::uint64_t bytes, std::uint64_t expected) {
   const std::uint64_t step = expected == 0 ? bytes / kQuietBytes : bytes * kTextSteps / expected;
-  if (step != textStep_) SetText(lblStuff, BytesText(bytes, expected, strings_));
+  if (step != textStep_) SetText(lblBytes, BytesText(bytes, expected, strings_));
   textStep_ = step;
   if (expected != 0) {
     Progress(prgUpdate).SetProgress(static_cast<int>(bytes * kScaleSteps / expected), kScaleSteps);
@@ -106,6 +125,7 @@ void frmUpdateDialog::Ended(const UpdateOutcome& outcome) {
   if (unloading_) return;
   updating_ = false;
   const bool updated = outcome.kind == UpdateOutcome::Kind::Updated;
+  SetText(lblBytes, "");
   SetTextAndGrow(lblStuff, OutcomeText(outcome, updated ? calls_.installed() : std::string(), strings_));
   Progress(prgUpdate).SetProgress(updated ? kScaleSteps : 0, kScaleSteps);
   SetText(butMsg + 1, LoadText(IDS_NET_CLOSE));
@@ -130,7 +150,7 @@ void frmUpdateDialog::butMsg_Click() {
   if (offer_ == Offer::Retry) {
     Begin();
   } else if (offer_ == Offer::Undo) {
-    SetTextAndGrow(lblStuff, LoadText(calls_.undo() ? IDS_NET_UNDONE : IDS_NET_NOT_UNDONE));
+    SetTextAndGrow(lblStuff, LoadText(SentenceOf(calls_.undo())));
     SetOffer(Offer::Nothing);
     Focus(butMsg + 1);
   }

@@ -1,6 +1,6 @@
 // The message box that an update is watched in: how far it is, what came of it, Retry, Cancel and Close, and
-// the way back to the list before the last update. It registers the message box's window class, which is how
-// the update's opener is known.
+// the way back to the guide of before the last update. It registers the message box's window class, which is
+// how the update's opener is known.
 #pragma once
 
 #include <cstdint>
@@ -17,13 +17,14 @@ namespace sonaro {
 class Strings;
 class frmInetUpdate;
 struct UpdateOpener;
+enum class UndoStatus;
 
 struct UpdateDialogCalls {
   // Begins an update that reports to the dialog.
   std::function<std::unique_ptr<frmInetUpdate>(UpdateOpener opener)> begin;
   std::function<std::string()> installed;  // the directory has changed: returns the report on it
   std::function<bool()> canUndo;
-  std::function<bool()> undo;
+  std::function<UndoStatus()> undo;
   std::function<void()> help;
 };
 

@@ -4,6 +4,7 @@
 #include "app/CReg.h"
 #include "app/CheckDataFiles.h"
 #include "app/DeferredSwap.h"
+#include "app/HeldNames.h"
 #include "app/HelpPages.h"
 #include "app/InstallId.h"
 #include "app/LiveEventUpdate.h"
@@ -40,7 +41,10 @@ class StartServicesTest : public testing::Test {
   std::string Get(const std::string& name) { return files_.Get("/d/" + name).value_or("(none)"); }
   bool RunSwap(const std::string& hold) {
     reg_.SetSetting("UpdateHold", hold);
-    return RunDeferredSwap(data_, reg_, [this] { rebuiltFrom_.push_back(Get("station.snr")); });
+    return RunDeferredSwap(data_, reg_, [this] {
+      rebuiltFrom_.push_back(Get("station.snr"));
+      return rebuilds_;
+    });
   }
 
   FakeFiles files_;
@@ -51,6 +55,7 @@ class StartServicesTest : public testing::Test {
   HelpPages help_{reg_, browser_};
   FakeStrings strings_;
   FakeMessageBox messages_;
+  bool rebuilds_ = true;
   std::vector<std::string> rebuiltFrom_;  // the station list at each rebuild
 };
 
@@ -156,6 +161,44 @@ TEST_F(StartServicesTest, AFileInUseStaysAndTheOthersGoOn) {
   EXPECT_EQ(reg_.Setting("UpdateHold"), "");
 }
 
+TEST_F(StartServicesTest, TheHeldDateComesWithTheList) {
+  const struct {
+    const char* hold;
+    bool locked;
+    bool rebuilds;
+    const char* date;
+  } kCases[] = {
+      {"Station.snr\t", false, true, "2"},  {"Station.snr\t", true, true, "1"},
+      {"Station.snr\t", false, false, "1"}, {"a.snr\t", false, true, "2"},
+      {"Station.snr", false, true, "1"},
+  };
+  for (const auto& c : kCases) {
+    for (const char* name : {"a.snr", "ta.snr", "Station.snr", "tStation.snr"}) Put(name, name);
+    reg_.SetSetting("LastUpdate", "1");
+    reg_.SetSetting("UpdateHoldDate", "2");
+    if (c.locked) files_.Lock("/d/Station.snr");
+    rebuilds_ = c.rebuilds;
+    RunSwap(c.hold);
+    files_.Unlock("/d/Station.snr");
+    EXPECT_EQ(reg_.Setting("LastUpdate"), c.date) << c.hold << c.locked << c.rebuilds;
+  }
+}
+
+// Only what was noted as a copy is one: "talk.snr" is a file of its own.
+TEST_F(StartServicesTest, TheCopiesOfADeadUpdateAreRemoved) {
+  for (const char* name : {"alk.snr", "talk.snr", "ta.snr", "tb.snr", "tc.snr"}) Put(name, name);
+  EXPECT_TRUE(NoteTemporaries(data_, HeldNames("a.snr\tb.snr\t..\\x\t")));
+  files_.Lock("/d/tb.snr");
+  RunSwap("c.snr\t");
+  EXPECT_EQ(Get("ta.snr"), "(none)");
+  EXPECT_EQ(Get("c.snr"), "tc.snr");
+  EXPECT_EQ(Get("talk.snr"), "talk.snr");
+  EXPECT_EQ(NotedTemporaries(data_).Text(), "b.snr\t") << "it is tried again";
+  files_.Unlock("/d/tb.snr");
+  RunSwap("");
+  EXPECT_EQ(files_.AllPaths(), (std::vector<std::string>{"/d/alk.snr", "/d/c.snr", "/d/talk.snr"}));
+}
+
 // The run dies at any step and the next start runs it again: all files are the new ones, and the last rebuild
 // was made from the new list.
 TEST(DeferredSwapCrash, TheNextStartFinishesIt) {
@@ -164,6 +207,7 @@ TEST(DeferredSwapCrash, TheNextStartFinishesIt) {
     DataFolder data(files, "/d", '/');
     RunDeferredSwap(data, reg, [&] {
       if (!files.Crashed()) rebuiltFrom.push_back(files.Get("/d/Station.snr").value_or("(none)"));
+      return !files.Crashed();
     });
   };
   FakeRegistry registry;

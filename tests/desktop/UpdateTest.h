@@ -34,6 +34,8 @@ class UpdateTest : public DesktopTest {
     DesktopTest::SetUp();
     if (HasFatalFailure()) return;
     before_ = ReadFile("station.snr");
+    categories_ = ReadFile("cat.snr");
+    rankings_ = ReadFile("fun.snr");
     WriteFile("favs.snr", kFavorites);
     UseServer(server_.Port());
     server_.Answer("/update.asp", script::Redirect(kFileAt));
@@ -54,7 +56,7 @@ class UpdateTest : public DesktopTest {
                    {"DoWhat", toDo}});
   }
 
-  // The directory with a station gone, one changed and two more.
+  // The directory with a station gone, one changed and two more, with another category and other rankings.
   std::string Update() const {
     std::string list = before_.substr(before_.find('\n') + 1);
     const auto renamed = list.find("Jazz Radio Classic Jazz");
@@ -63,6 +65,8 @@ class UpdateTest : public DesktopTest {
             StationLine(8, "New Eight", "http://127.0.0.1:9/8");
     return CompleteUpdate("version::7 \r\n::HelpURL::http://127.0.0.1:9/help::\r\n" +
                           UpdateSection("Station.snr", list) +
+                          UpdateSection("cat.snr", categories_ + "n\tNew Genre\tgenre-new\tGn-\r\n") +
+                          UpdateSection("genre-new.snr", "New\t7 \r\n") +
                           UpdateSection("fun.snr", "Most Pop\t7 8 18230211 \r\n") + "date::3/4/2026::\r\n");
   }
 
@@ -93,6 +97,11 @@ class UpdateTest : public DesktopTest {
   }
   void ExpectTheOldDirectory() {
     EXPECT_EQ(ReadFile("station.snr"), before_);
+    EXPECT_EQ(ReadFile("cat.snr"), categories_);
+    EXPECT_EQ(ReadFile("fun.snr"), rankings_);
+    EXPECT_EQ(ReadFile("genre-new.snr"), "");
+    EXPECT_NE(ReadSetting("HelpURL"), "http://127.0.0.1:9/help");
+    EXPECT_EQ(ReadSetting("UpdateVersion"), "");
     EXPECT_EQ(ReadSetting("LastUpdate"), "1/2/2026");
     EXPECT_EQ(ReadSetting("UpdateHold"), "");
     EXPECT_EQ(ReadFile("favs.snr"), kFavorites);
@@ -104,12 +113,15 @@ class UpdateTest : public DesktopTest {
     EXPECT_EQ(ReadSetting("HelpURL"), "http://127.0.0.1:9/help");
     EXPECT_EQ(ReadSetting("UpdateHold"), "");
     EXPECT_EQ(ReadFile("favs.snr"), kFavorites);
+    EXPECT_NE(ReadFile("cat.snr"), categories_);
     EXPECT_EQ(StationIn(Folder(), "7")[StationField::Name], "New Seven");
     EXPECT_EQ(StationIn(Folder(), "6044347").StationId, 0);
   }
 
   LoopbackServer server_;
-  std::string before_;
+  std::string before_;  // of the station list, the categories and the rankings
+  std::string categories_;
+  std::string rankings_;
 };
 
 }  // namespace sonaro::desktop

@@ -11,7 +11,8 @@ TEST_F(UpdateTest, F5BringsANewDirectoryAndItCanBeUndone) {
   PressKey(main, VK_F5);
   HWND dialog = Dialog();
   ASSERT_NE(dialog, nullptr);
-  ASSERT_TRUE(Says(dialog, "Getting Data: ")) << TextOf(Control(dialog, lblStuff));
+  ASSERT_TRUE(WaitUntil([&] { return TextOf(Control(dialog, lblBytes)).ends_with(" KB"); }));
+  EXPECT_EQ(TextOf(Control(dialog, lblStuff)), "Getting Data");
   EXPECT_EQ(TextOf(Control(dialog, butMsg + 1)), "Cancel");
   EXPECT_TRUE(WaitUntil([&] { return TextOf(Control(main, lblPercent)) == "50%"; }));
   EXPECT_EQ(TextOf(Control(main, lblProgress)), "Getting Data");
@@ -38,7 +39,7 @@ TEST_F(UpdateTest, F5BringsANewDirectoryAndItCanBeUndone) {
 
   EXPECT_EQ(TextOf(Control(dialog, butMsg)), "&Undo Last Update");
   Click(Control(dialog, butMsg));
-  EXPECT_TRUE(Says(dialog, "The station list of before the last update is back."));
+  EXPECT_TRUE(Says(dialog, "The guide of before the last update is back."));
   ExpectTheOldDirectory();
   EXPECT_TRUE(GroupLists(main, {"Jazz Radio Classic Jazz", "B5 aktuell"}));
   Click(Control(dialog, butMsg + 1));
@@ -60,7 +61,7 @@ TEST_F(UpdateTest, OfflineTheMenuOffersToUndoTheLastUpdate) {
   ExpectTheNewDirectory();
   SaveShot("offer");
   Click(Control(dialog, butMsg));
-  EXPECT_TRUE(Says(dialog, "The station list of before the last update is back."));
+  EXPECT_TRUE(Says(dialog, "The guide of before the last update is back."));
   EXPECT_FALSE(IsShown(Control(dialog, butMsg)));
   ExpectTheOldDirectory();
 }
@@ -105,9 +106,10 @@ TEST_F(UpdateTest, FromTheTrayARefusedUpdateIsTriedAgain) {
 }
 
 TEST_F(UpdateTest, AnUpdateOnTheToDoListRunsByItselfAtTheStart) {
-  UseServer(server_.Port(), "/SF//SL/");
+  UseServer(server_.Port(), "/SF//SL//SL/");
   HWND main = StartAndShowMain();
   ASSERT_TRUE(WaitUntil([&] { return ReadSetting("DoWhat") == "/SF/"; }));
+  EXPECT_EQ(server_.Requests().size(), 4u) << "the list is run again after an update";
   EXPECT_EQ(RequestLine(1), std::string("GET ") + kFileAt + "?Flush=Yes HTTP/1.0");
   EXPECT_EQ(Sonaro().Window("MsgboxFrm"), nullptr);
   ExpectTheNewDirectory();
@@ -176,7 +178,7 @@ TEST_F(UpdateTest, CancelAndCloseEndTheTransferAtOnce) {
     Click(Control(main, butUpdate));
     HWND dialog = Dialog();
     ASSERT_NE(dialog, nullptr);
-    ASSERT_TRUE(Says(dialog, "Getting Data: "));
+    ASSERT_TRUE(Says(dialog, "Getting Data"));
     ASSERT_EQ(server_.Open(), 1);
     Click(Control(dialog, key));
     EXPECT_TRUE(WaitUntil([&] { return !IsShown(dialog) && server_.Open() == 0; }));

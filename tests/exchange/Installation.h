@@ -49,7 +49,7 @@ class Installation : private UpdateView {
 
   // What a start does before anything is shown.
   void StartAgain() {
-    RunDeferredSwap(data, reg, [this] { stations.RebuildStationTable(); });
+    RunDeferredSwap(data, reg, [this] { return stations.RebuildStationTable(); });
     (void)stations.EnsureStationTable();
   }
 

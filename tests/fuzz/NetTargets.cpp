@@ -1,4 +1,5 @@
 #include <algorithm>
+#include <set>
 #include <string>
 
 #include "app/CReg.h"
@@ -43,14 +44,17 @@ void FuzzUpdateFile(std::string_view input) {
   DataFolder data(files, "/d", '/');
   const UpdateContents contents = ReadUpdateFile(data);
   Require(contents.status == UpdateFileStatus::Read, "read without a key");
-  for (std::string_view rest = contents.received; !rest.empty();) {
-    const std::string_view name = TakeUntil(rest, '\t');
-    Require(update::MayBringFile(name), "a name that an update may bring");
-    Require(data.Exists(std::string("\\t").append(name)), "a received file is there");
+  std::set<std::string> names;
+  std::size_t bytes = 0;
+  for (const ReceivedFile& file : contents.files) {
+    Require(update::MayBringFile(file.name), "a name that an update may bring");
+    Require(names.insert(FoldCase(file.name)).second, "each name once");
+    bytes += file.bytes.size();
   }
+  Require(names.size() <= update::kMostSections && bytes <= update::kMostBytes, "bounded");
+  Require(contents.values.size() <= 20, "a value for each setting");
   for (const ServiceValue& value : contents.values)
     Require(!value.value.empty() && value.value.size() <= 2048, "the length of a value");
-  DropReceived(data, contents.received);
   Require(files.AllPaths() == std::vector<std::string>{"/d/update.txt"}, "no other file is touched");
 
   files.Put("/d/publish.key", "d75a980182b10ab7d54bfed3c964073a0ee172f3daa62325af021a68f707511a\n");

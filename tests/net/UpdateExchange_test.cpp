@@ -110,7 +110,7 @@ TEST_F(UpdateExchangeTest, UpdatesForTheDialog) {
   EXPECT_EQ(File("update.txt"), kUpdate);
   EXPECT_EQ(File("Station.snr"), kNewList);
   EXPECT_EQ(File("fun.snr"), "a new line\r\n");
-  EXPECT_EQ(File("previous.snr"), kOldList);
+  EXPECT_EQ(machine_->install.ReplacedStationList(), kOldList);
   EXPECT_EQ(File("favs.snr"), kFavorites);
   EXPECT_EQ(Setting("LastUpdate"), "9/1/2000");
   EXPECT_EQ(Setting("UpdateVersion"), "7");
@@ -120,11 +120,11 @@ TEST_F(UpdateExchangeTest, UpdatesForTheDialog) {
   EXPECT_EQ(exchange.toDo, "Update");
   EXPECT_EQ(machine_->stations.FindStation(3).fields[0], "Three");
 
-  EXPECT_TRUE(machine_->install.UndoLastUpdate());
+  EXPECT_EQ(machine_->install.UndoLastUpdate(), UndoStatus::Done);
   EXPECT_EQ(File("Station.snr"), kOldList);
   EXPECT_EQ(machine_->stations.FindStation(1).fields[0], "Old One");
   EXPECT_EQ(Setting("LastUpdate"), "8/1/2000");
-  EXPECT_FALSE(machine_->install.UndoLastUpdate());
+  EXPECT_EQ(machine_->install.UndoLastUpdate(), UndoStatus::Impossible);
 }
 
 // A table that comes with an update is believed only when it is that of the list.
@@ -258,19 +258,23 @@ TEST_F(UpdateExchangeTest, CancelsAtOnce) {
 
 // A file that is in use keeps its content; its new copy waits for the next start.
 TEST_F(UpdateExchangeTest, KeepsAFileThatIsInUse) {
-  files_.Lock("/d/fun.snr");
+  std::unique_ptr<InputFile> inUse = files_.Open("/d/fun.snr");
   Exchange exchange(*machine_, caller::kUpdateDialog, kInstallAndRebuild);
   exchange.Run();
   EXPECT_EQ(exchange.view.outcome->kind, Kind::Updated);
   EXPECT_EQ(Setting("UpdateHold"), "fun.snr\t");
-  files_.Unlock("/d/fun.snr");
-  RunDeferredSwap(machine_->data, machine_->reg, [] { FAIL() << "the list did not wait"; });
+  inUse.reset();
+  RunDeferredSwap(machine_->data, machine_->reg, [] {
+    ADD_FAILURE() << "the list did not wait";
+    return true;
+  });
   EXPECT_EQ(File("fun.snr"), "a new line\r\n");
 }
 
 // The start after whatever happened: what it does about the directory, and what must hold then.
 void StartAgain(FakeFiles& files, Machine& machine) {
-  RunDeferredSwap(machine.data, machine.reg, [&] { machine.stations.RebuildStationTable(); });
+  machine.install.FinishUndo();
+  RunDeferredSwap(machine.data, machine.reg, [&] { return machine.stations.RebuildStationTable(); });
   (void)machine.stations.EnsureStationTable();
   EXPECT_EQ(files.Get("/d/favs.snr"), kFavorites);
   EXPECT_GT(machine.stations.StationCount(), 0u);

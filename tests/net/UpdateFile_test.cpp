@@ -17,7 +17,14 @@ class UpdateFileTest : public testing::Test {
     files_.Put("/d/update.txt", text);
     return ReadUpdateFile(data_);
   }
-  std::string Temporary(const std::string& name) { return files_.Get("/d/t" + name).value_or("(none)"); }
+  static std::string Names(const UpdateContents& contents) {
+    std::string names;
+    for (const ReceivedFile& file : contents.files) names += file.name + "\t";
+    return names;
+  }
+  static std::string First(const UpdateContents& contents) {
+    return contents.files.empty() ? "(none)" : contents.files.front().bytes;
+  }
 
   FakeFiles files_;
   DataFolder data_{files_, "/d", '/'};
@@ -42,7 +49,7 @@ TEST_F(UpdateFileTest, ReadsTheLinesInTheirOrder) {
     EXPECT_EQ(contents.date.value_or("-"), each.date) << each.line;
     EXPECT_EQ(contents.version.value_or("-"), each.version) << each.line;
     EXPECT_EQ(contents.values.size(), each.values) << each.line;
-    EXPECT_EQ(contents.received, "") << each.line;
+    EXPECT_TRUE(contents.files.empty()) << each.line;
   }
 }
 
@@ -64,12 +71,12 @@ TEST_F(UpdateFileTest, UnpacksSections) {
       {"file::a.snr\na.snr" + start, "a.snr\t", ""},
       {"file::a.snr\nb.snr" + start + "\n1\n", "", "(none)"},
       {"file::a.snr", "", "(none)"},
-      {Section("a.snr", "1\n") + Section("a.snr", "2\n"), "a.snr\t", "2\r\n"},
+      {Section("a.snr", "1\n") + Section("A.SNR", "2\n"), "a.snr\t", "2\r\n"},
   };
   for (const auto& each : kCases) {
-    files_.Remove("/d/ta.snr");
-    EXPECT_EQ(Read(each.text).received, each.received) << each.text;
-    EXPECT_EQ(Temporary("a.snr"), each.unpacked) << each.text;
+    const UpdateContents contents = Read(each.text);
+    EXPECT_EQ(Names(contents), each.received) << each.text;
+    EXPECT_EQ(First(contents), each.unpacked) << each.text;
   }
 }
 
@@ -77,8 +84,8 @@ TEST_F(UpdateFileTest, ReadsTheLinesOfASectionWithoutAStartAsOthers) {
   const UpdateContents contents = Read("file::a.snr\n::HelpURL::http://a/::\nfile::b.snr\nb.snr" +
                                        std::string(update::kSectionStart) + "\n1\ndate::x::\n");
   ASSERT_EQ(contents.values.size(), 1u);
-  EXPECT_EQ(contents.received, "b.snr\t");
-  EXPECT_EQ(Temporary("b.snr"), "1\r\ndate::x::\r\n");
+  EXPECT_EQ(Names(contents), "b.snr\t");
+  EXPECT_EQ(First(contents), "1\r\ndate::x::\r\n");
   EXPECT_FALSE(contents.date);
 }
 
@@ -90,15 +97,13 @@ TEST_F(UpdateFileTest, TakesNoFileThatAnUpdateMayNotBring) {
                            "x.snr ",       " x.snr",       "con.snr",      "Com1.x.snr",
                            "nul .snr",     "x.snr.exe",    "x\xC3\xA9.snr"}) {
     EXPECT_FALSE(update::MayBringFile(name)) << name;
-    const auto before = files_.AllPaths().size();
     const UpdateContents contents =
         Read("file::" + std::string(name) + "\n" + name + std::string(update::kSectionStart) +
              "\ndate::1::\n" + name + std::string(update::kSectionEnd) + "\nversion::3 \n");
-    EXPECT_EQ(contents.received, "") << name;
+    EXPECT_TRUE(contents.files.empty()) << name;
     EXPECT_EQ(contents.skippedSections, 1u) << name;
     EXPECT_FALSE(contents.date) << name;  // the lines of a skipped section say nothing
     EXPECT_EQ(contents.version.value_or(""), "3") << name;
-    EXPECT_LE(files_.AllPaths().size(), std::max<std::size_t>(before, 1)) << name;
   }
   EXPECT_FALSE(update::MayBringFile(std::string(61, 'x') + ".snr"));
   for (const char* name :
@@ -107,12 +112,30 @@ TEST_F(UpdateFileTest, TakesNoFileThatAnUpdateMayNotBring) {
   }
 }
 
-TEST_F(UpdateFileTest, LeavesNothingWhenTheDiskIsFull) {
-  const std::string text = Section("a.snr", "1\n") + Section("b.snr", std::string(100000, 'x') + "\n");
-  files_.Put("/d/update.txt", text);
-  files_.SetSpaceLeft(1000);
-  EXPECT_EQ(ReadUpdateFile(data_).status, UpdateFileStatus::NotSaved);
-  EXPECT_EQ(files_.AllPaths(), std::vector<std::string>{"/d/update.txt"});
+// Whoever sends it: neither many sections nor large ones keep the program busy or fill the disk.
+TEST_F(UpdateFileTest, BoundsWhatOneUpdateBrings) {
+  const auto sections = [](std::size_t count, const std::string& ending) {
+    std::string text;
+    for (std::size_t i = 0; i < count; ++i) text += Section(std::to_string(i) + ending, "1\n");
+    return text;
+  };
+  EXPECT_EQ(Read(sections(update::kMostSections, ".snr")).files.size(), update::kMostSections);
+  for (const char* ending : {".snr", ".exe"}) {
+    const UpdateContents contents = Read(sections(update::kMostSections + 1, ending) + "date::1::\n");
+    EXPECT_EQ(contents.status, UpdateFileStatus::TooLarge) << ending;
+    EXPECT_TRUE(contents.files.empty() && !contents.date);
+  }
+  const std::string large(update::kMostBytes / 2, 'x');
+  EXPECT_EQ(Read(Section("a.snr", large + "\n") + Section("b.snr", large + "\n")).status,
+            UpdateFileStatus::TooLarge);
+}
+
+TEST_F(UpdateFileTest, KeepsTheLastValueOfEachSetting) {
+  std::string text;
+  for (int i = 0; i < 1000; ++i) text += "::HelpURL::http://a/" + std::to_string(i) + "::\n::sLocal::1::\n";
+  const UpdateContents contents = Read(text);
+  ASSERT_EQ(contents.values.size(), 2u);
+  EXPECT_EQ(contents.values[0].value, "http://a/999");
 }
 
 TEST_F(UpdateFileTest, TakesOnlyWhatThePublisherSigned) {
@@ -146,6 +169,12 @@ TEST_F(UpdateFileTest, TakesOnlyWhatThePublisherSigned) {
     EXPECT_EQ(contents.date.has_value(), each.status == UpdateFileStatus::Read) << each.what;
   }
   files_.Put("/d/publish.key", key->publicKey);
+  files_.Lock("/d/publish.key");
+  EXPECT_EQ(Read(body + line + sentinel).status, UpdateFileStatus::CannotCheck);
+  files_.Unlock("/d/publish.key");
+  const std::string dated = "serial::1700000000::\n" + body;
+  EXPECT_EQ(Read(dated + UpdateSignatureLine(dated, key->secret) + "\nserial::9::\n").serial, 1700000000);
+  EXPECT_EQ(Read(body + line).serial, 0) << "a number that is not signed is none";
   const UpdateContents more = Read(body + line + "date::2::\n" + sentinel);
   EXPECT_EQ(more.date.value_or(""), "1") << "what follows the signature does not count";
   EXPECT_EQ(UpdateSignatureLine(body, "no key"), "");

@@ -75,18 +75,21 @@ TEST_F(PublishTest, AnUpdateBringsTheSameDirectory) {
   ASSERT_EQ(contents.status, UpdateFileStatus::Read);
   EXPECT_EQ(contents.date, "2026-11-23");
   EXPECT_EQ(contents.skippedSections, 0u);
-  EXPECT_TRUE(contents.received.starts_with("Station.snr\t"));
+  ASSERT_FALSE(contents.files.empty());
+  EXPECT_EQ(contents.files.front().name, "Station.snr");
 
   std::size_t expected = 0;
   for (const auto& [name, bytes] : FolderContents(Directory())) {
     if (!name.ends_with(".snr") || name == "favs.snr" || name == "Sched.snr") continue;
     const std::string received = EqualIgnoringCase(name, "Station.snr") ? "Station.snr" : name;
-    EXPECT_EQ(FileBytes(Installation() + "/t" + received), bytes) << name;
+    const auto file = std::find_if(contents.files.begin(), contents.files.end(),
+                                   [&](const ReceivedFile& one) { return one.name == received; });
+    ASSERT_NE(file, contents.files.end()) << name;
+    EXPECT_EQ(file->bytes, bytes) << name;
     ++expected;
   }
   EXPECT_GT(expected, 10u);
-  EXPECT_EQ(std::count(contents.received.begin(), contents.received.end(), '\t'),
-            static_cast<std::ptrdiff_t>(expected));
+  EXPECT_EQ(contents.files.size(), expected);
 }
 
 TEST_F(PublishTest, OnlyTheOwnersSignatureCounts) {
@@ -106,7 +109,9 @@ TEST_F(PublishTest, OnlyTheOwnersSignatureCounts) {
   fs::remove_all(Site());
   ASSERT_EQ(Publish({"--key", secret}).status, 0);
   std::string update = PublishedUpdate();
-  EXPECT_EQ(Receive(update, ours).status, UpdateFileStatus::Read);
+  const UpdateContents received = Receive(update, ours);
+  EXPECT_EQ(received.status, UpdateFileStatus::Read);
+  EXPECT_GT(received.serial.value_or(0), 1'700'000'000) << "it can be told from older ones";
   EXPECT_EQ(Receive(update).status, UpdateFileStatus::Read) << "nobody has to check";
   EXPECT_EQ(Receive(update, theirs).status, UpdateFileStatus::WrongSign);
   update[update.size() / 2] ^= 1;

@@ -1,7 +1,5 @@
 #include "platform/win/HttpControlWin.h"
 
-#include <ws2tcpip.h>
-
 #include <array>
 #include <exception>
 #include <thread>
@@ -9,7 +7,7 @@
 
 #include "base/HttpRequestText.h"
 #include "base/HttpResponse.h"
-#include "platform/win/Handle.h"
+#include "platform/win/SocketHandles.h"
 
 namespace sonaro {
 
@@ -24,33 +22,6 @@ constexpr int kReadsInARow = 16;
 constexpr UINT kFailMessage = WM_APP;  // first parameter: the request; second: the fault
 constexpr UINT kFirstSocketMessage = WM_APP + 1;
 constexpr UINT kSocketMessages = 4096;  // in turn, so that a late message of an old socket is known
-
-struct SocketTraits {
-  using Value = SOCKET;
-  static Value None() { return INVALID_SOCKET; }
-  static bool Close(Value value) { return closesocket(value) == 0; }
-};
-using Socket = Handle<SocketTraits>;
-
-struct AddressListTraits {
-  using Value = addrinfo*;
-  static Value None() { return nullptr; }
-  static bool Close(Value value) {
-    freeaddrinfo(value);
-    return true;
-  }
-};
-using AddressList = Handle<AddressListTraits>;
-
-AddressList FindAddresses(const std::string& host, std::uint16_t port, int flags) {
-  addrinfo hints{};
-  hints.ai_family = AF_UNSPEC;
-  hints.ai_socktype = SOCK_STREAM;
-  hints.ai_flags = flags;
-  addrinfo* found = nullptr;
-  const int failed = getaddrinfo(host.c_str(), std::to_string(port).c_str(), &hints, &found);
-  return AddressList(failed == 0 ? found : nullptr);
-}
 
 // Another number than any other part of the program uses: the message may come to whatever window has got
 // the handle of a control's.
@@ -93,7 +64,6 @@ class HttpControlWin final : public HttpControl {
   void FailSoon(HttpFault fault);
   void Fail(HttpFault fault);
   void RestartSilenceTimer() { SetTimer(window_, kSilenceTimer, silence_, nullptr); }
-  void SpanIsOver();
   void StopTimers() {
     KillTimer(window_, kReadTimer);
     KillTimer(window_, kSilenceTimer);
@@ -102,6 +72,8 @@ class HttpControlWin final : public HttpControl {
   UINT SocketMessage() const { return kFirstSocketMessage + static_cast<UINT>(request_ % kSocketMessages); }
   template <typename Event>
   bool Raise(Event event);
+  template <typename Tell>
+  void EndWith(Tell tell);
 
   std::string userAgent_;
   HttpFaultSentence sentence_;
@@ -164,12 +136,8 @@ void HttpControlWin::OnMessage(UINT message, WPARAM first, LPARAM second) {
   } else if (message == WM_TIMER && first == kSilenceTimer) {
     Fail(HttpFault::Silent);
   } else if (message == WM_TIMER && first == kPaceTimer) {
-    SpanIsOver();
+    if (std::exchange(receivedInSpan_, 0) < pace_.leastBytes) Fail(HttpFault::TooSlow);
   }
-}
-
-void HttpControlWin::SpanIsOver() {
-  if (std::exchange(receivedInSpan_, 0) < pace_.leastBytes) Fail(HttpFault::TooSlow);
 }
 
 void HttpControlWin::Request(const std::string& host, std::uint16_t port, const std::string& requestText,
@@ -353,26 +321,28 @@ bool HttpControlWin::Raise(Event event) {
   return !alive.expired() && request == request_;
 }
 
-void HttpControlWin::Succeed() {
+// Tells the outcome and that it is over.
+template <typename Tell>
+void HttpControlWin::EndWith(Tell tell) {
   const HttpResponse response = std::move(response_);
   HttpEvents& events = *events_;
   socket_.Reset();
   StopTimers();
-  if (!Raise([&](HttpEvents& listener) { listener.HTTPDataReceived(response.Body()); })) return;
+  if (!Raise([&](HttpEvents& listener) { tell(listener, response); })) return;
   Cancel();
   events.HTTPReady();
 }
 
+void HttpControlWin::Succeed() {
+  EndWith(
+      [](HttpEvents& listener, const HttpResponse& response) { listener.HTTPDataReceived(response.Body()); });
+}
+
 // The body of such an answer is of no interest.
 void HttpControlWin::AnsweredOtherwise() {
-  const HttpResponse response = std::move(response_);
-  HttpEvents& events = *events_;
-  socket_.Reset();
-  StopTimers();
-  if (!Raise([&](HttpEvents& listener) { listener.HTTPError(response.StatusCode(), response.Headers()); }))
-    return;
-  Cancel();
-  events.HTTPReady();
+  EndWith([](HttpEvents& listener, const HttpResponse& response) {
+    listener.HTTPError(response.StatusCode(), response.Headers());
+  });
 }
 
 // Not from within Request, whose caller expects events later.

@@ -1,4 +1,5 @@
 #include <algorithm>
+#include <chrono>
 #include <optional>
 #include <ostream>
 
@@ -106,6 +107,9 @@ int RunPublish(Arguments arguments, Console& console) {
   if (!directory.IsThere()) problem = "There is no folder \"" + options->directory + "\".";
   if (directory.Data().Exists(kUnfinishedMark))
     problem = "\"" + options->directory + "\" is unfinished; run make again.";
+  options->site.serial =
+      std::chrono::duration_cast<std::chrono::seconds>(std::chrono::system_clock::now().time_since_epoch())
+          .count();
   if (problem.empty() && !options->keyFile.empty())
     options->site.secretKey = ReadKey(directory, options->keyFile, problem);
   SiteResult result;

@@ -2,7 +2,6 @@
 
 #include <algorithm>
 
-#include "base/HttpResponse.h"
 #include "base/Text.h"
 #include "directory/StationListFile.h"
 #include "net/UpdateFormat.h"
@@ -70,8 +69,14 @@ void AddSections(DataFolder& data, UpdateText& update) {
     }
     if (!update.failure.empty()) return;
   }
+  if (update.carried.size() > update::kMostSections)
+    update.failure = "The folder has more files than an installation takes in one update.";
   if (update.carried.empty() || update.carried.front() != kStationList)
     update.failure = "\"" + data.Folder() + "\" has no station list.";
+}
+
+void AddSerial(std::int64_t serial, UpdateText& update) {
+  update.bytes.append(update::kSerial).append(std::to_string(serial)).append("::").append(kLineEnd);
 }
 
 void AddSignature(const std::string& secretKey, UpdateText& update) {
@@ -99,9 +104,11 @@ UpdateText MakeUpdateText(DataFolder& data, const UpdateRequest& request) {
     update.bytes.append(line.key).append(line.value).append("::").append(kLineEnd);
   AddSections(data, update);
   update.bytes.append(update::kDate).append(request.date).append("::").append(kLineEnd);
-  if (update.failure.empty() && !request.secretKey.empty()) AddSignature(request.secretKey, update);
+  const bool isSigned = !request.secretKey.empty();
+  if (isSigned) AddSerial(request.serial, update);
+  if (update.failure.empty() && isSigned) AddSignature(request.secretKey, update);
   update.bytes.append(update::kSentinel);
-  if (update.failure.empty() && update.bytes.size() > HttpResponse::kLargestBody)
+  if (update.failure.empty() && update.bytes.size() > update::kMostBytes)
     update.failure = "The update is larger than an installation takes.";
   if (!update.failure.empty()) update.bytes.clear();
   return update;

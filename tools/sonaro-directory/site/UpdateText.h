@@ -1,6 +1,7 @@
 // The text of an update file, made of a data folder: what net/UpdateFile reads back.
 #pragma once
 
+#include <cstdint>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -18,7 +19,8 @@ struct ServiceLine {
 struct UpdateRequest {
   std::string date;  // what the installations keep as "LastUpdate"
   std::vector<ServiceLine> service;
-  std::string secretKey;  // 128 hexadecimal digits, or "" for an update that nobody signs
+  std::string secretKey;    // 128 hexadecimal digits, or "" for an update that nobody signs
+  std::int64_t serial = 0;  // of a signed update: when it is published, in seconds since 1970
 };
 
 struct UpdateText {
@@ -33,7 +35,7 @@ bool FitsInSection(std::string_view name, std::string_view bytes);
 
 // The same folder and request give the same bytes. Tables are left out, since the installation makes its own
 // of the list. A folder without a station list, or with one that does not fit, is a failure; so is a key that
-// is none.
+// is none, and what an installation would refuse.
 UpdateText MakeUpdateText(DataFolder& data, const UpdateRequest& request);
 
 }  // namespace sonaro

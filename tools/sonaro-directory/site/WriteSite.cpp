@@ -75,8 +75,8 @@ void PutPages(SiteWriter& writer) {
 
 SiteResult WriteSite(DataFolder& directory, DataFolder& site, const SiteOptions& options) {
   SiteResult result;
-  UpdateText update =
-      MakeUpdateText(directory, {options.date, ServiceLines(options.host), options.secretKey});
+  UpdateText update = MakeUpdateText(
+      directory, {options.date, ServiceLines(options.host), options.secretKey, options.serial});
   result.failure = std::move(update.failure);
   result.leftOut = std::move(update.leftOut);
   result.updateBytes = update.bytes.size();

@@ -3,6 +3,7 @@
 // in use never leads to an update that is not there.
 #pragma once
 
+#include <cstdint>
 #include <string>
 #include <vector>
 
@@ -12,8 +13,9 @@ namespace sonaro {
 
 struct SiteOptions {
   std::string date;
-  std::string secretKey;  // "" for an update that nobody signs
-  std::string host;       // told to the installations; "" leaves them with the host that they have
+  std::string secretKey;    // "" for an update that nobody signs
+  std::int64_t serial = 0;  // of a signed update: when it is published, in seconds since 1970
+  std::string host;         // told to the installations; "" leaves them with the host that they have
   std::string listen = "80";
 };
 
