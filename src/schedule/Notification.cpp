@@ -57,9 +57,10 @@ void AddDirectoryLinks(std::vector<PlayChoice>& plays, const StationKey& key, co
   for (int number = 1; number <= 3; ++number) {
     const std::string link = stations.LinkOf(key, number);
     if (link.empty()) continue;
-    plays.push_back({PlayCaption(names.Next(link, number)),
-                     number == 1 && !bitRate.empty() ? bitRate + " kbit/s" : "", std::to_string(key.number),
-                     kLinkModes[number - 1]});
+    std::string detail(ServerOf(PlayLink::FromText(link).address));
+    if (number == 1) detail = bitRate.empty() ? "" : bitRate + " kbit/s";
+    plays.push_back(
+        {PlayCaption(names.Next(link, number)), detail, std::to_string(key.number), kLinkModes[number - 1]});
   }
   for (const ExtraLink& extra : extraLinks.Of(key.number)) {
     plays.push_back({PlayCaption("Extra Link"), extra.name, extra.link, PlayMode::KeyItself});

@@ -17,7 +17,7 @@ class ExtraLinks;
 // One play key: its caption, a second line, and what LaunchStation is given.
 struct PlayChoice {
   std::string caption;  // "Play (MP3)"
-  std::string detail;   // "128 kbit/s", or ""
+  std::string detail;   // "128 kbit/s", the server of a further link, or ""
   std::string key;
   PlayMode mode = PlayMode::LinkOne;
 };

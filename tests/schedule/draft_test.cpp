@@ -136,14 +136,14 @@ TEST_F(WithStations, ThePlayKeysTellTheLinksApart) {
     std::string all;
     for (const PlayChoice& play :
          NotificationFor({.name = "x", .action = "NS77"}, source_, extra_, "").plays) {
-      all += play.caption + "\n";
+      all += play.caption + " " + play.detail + "\n";
     }
     return all;
   };
-  EXPECT_EQ(captions(), "Play (MP3)\nPlay (three:8000)\n");
+  EXPECT_EQ(captions(), "Play (MP3) 128 kbit/s\nPlay (three:8000) three:8000\n");
   linkTwo_ = "mhttp://one/other";
   MakeTable();
-  EXPECT_EQ(captions(), "Play (MP3)\nPlay (MP3 2)\nPlay (three:8000)\n");
+  EXPECT_EQ(captions(), "Play (MP3) 128 kbit/s\nPlay (MP3 2) one\nPlay (three:8000) three:8000\n");
 }
 
 TEST_F(WithStations, ANotificationOffersTheStationsLinksThenExtraOnesThreeAtMost) {
