@@ -17,7 +17,7 @@ constexpr unsigned char kMissedPane = 2;
 
 const FormDesign& frmNotify::Design() {
   static constexpr ControlRow kControls[] = {
-      {.id = lblTitle, .kind = Kind::TitleBar, .text = IDS_SCHED_NOTIFY_TITLE, .at = {40, 4, 130, 26}},
+      {.id = lblTitle, .kind = Kind::TitleBar, .text = IDS_SCHED_NOTIFY_TITLE, .at = {40, 4, 200, 26}},
       {.kind = Kind::Glass, .at = {14, 46, 412, 94}, .pane = kNoticePane, .cut = 12},
       {.kind = Kind::Glass, .at = {14, 46, 412, 150}, .pane = kMissedPane, .cut = 12},
       {.kind = Kind::Label,
