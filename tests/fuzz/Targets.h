@@ -38,6 +38,7 @@ inline constexpr FuzzTarget kFuzzTargets[] = {{"http_response", FuzzHttpResponse
                                               {"station_list", FuzzStationList},
                                               {"table", FuzzTable},
                                               {"what_is_new", FuzzWhatIsNew},
+                                              {"schedule", FuzzSchedule},
                                               {"personal_stations", FuzzPersonalStations},
                                               {"extra_links", FuzzExtraLinks},
                                               {"categories", FuzzCategories},
