@@ -3,6 +3,7 @@
 #include "app/ApplicationSchedule.h"
 #include "app/ApplicationService.h"
 #include "app/CheckDataFiles.h"
+#include "app/FileWords.h"
 #include "app/InstallId.h"
 #include "app/SettingNames.h"
 #include "app/Strings.h"
@@ -200,6 +201,7 @@ bool Application::OfferPlayers(const std::string& sentence) {
 
 void Application::FinishedLoading() {
   tray_.FinishedLoading();
+  TellOfFiles();
   if (DataFilesMissing(data_)) {
     service_->ShowUpdate(main_->Window());  // the user has asked for them
   } else {
@@ -246,8 +248,11 @@ TrayActions Application::MakeTrayActions() {
   actions.scheduleItemDue = [this](int slot) { schedule_->AskForNotification(*main_, slot); };
   actions.startUp = [this] { schedule_->StartWatching(); };
   actions.minute = [this] {
+    LoadUnreadFiles();
     SayWhatSettingsLack();
-    return schedule_->Minute();
+    const unsigned next = schedule_->Minute();
+    TellOfFiles();
+    return next;
   };
   actions.clockChanged = [this] {
     if (schedule_) schedule_->Minute();
@@ -297,12 +302,30 @@ void Application::ShowScan() {
         std::make_unique<frmScan>(context_, scan_, help_,
                                   frmScan::Groups{[this] { return GroupNames(); },
                                                   [this](const std::string& name, const std::string& token) {
-                                                    if (const auto group = favorites_.Find(name))
-                                                      favorites_.AddStation(*group, token);
-                                                    main_->GroupsChanged();
+                                                    AddScannedStation(name, token);
                                                   }});
   }
   scanWindow_->Show();
+}
+
+void Application::AddScannedStation(const std::string& groupName, const std::string& token) {
+  const auto group = favorites_.Find(groupName);
+  if (!group) return;
+  const bool saved = favorites_.AddStation(*group, token) != FavoriteChange::NotSaved;
+  main_->GroupsChanged();
+  SavedOrSaid(saved, strings_.Load(IDS_FILE_GROUPS), messages_, strings_);
+}
+
+// What could not be read at the start is tried again with every minute.
+void Application::LoadUnreadFiles() {
+  const bool links = extra_.LoadUnread();
+  if (personal_.LoadUnread() || links) main_->PersonalStationsChanged();
+  if (favorites_.LoadUnread()) main_->GroupsChanged();
+  if (recent_.LoadUnread()) main_->RecentChanged();
+}
+
+void Application::TellOfFiles() {
+  if (const std::optional<Message> message = NotesMessage(data_.TakeNotes(), strings_)) messages_.Ask(*message);
 }
 
 void Application::BringForward(std::string_view view) {

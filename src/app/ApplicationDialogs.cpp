@@ -1,6 +1,7 @@
 // The questions and the dialogs that the main window and the tray ask for.
 #include "app/Application.h"
 #include "app/ApplicationService.h"
+#include "app/FileWords.h"
 #include "app/SettingNames.h"
 #include "app/Strings.h"
 #include "forms/FileDialog.h"
@@ -80,7 +81,7 @@ void Application::DeletePersonalStation(int index) {
     if (result.answer != MessageAnswer::First) return;
     if (result.dontAskAgain) reg_.SetSetting(setting::kNoShowDeletePersonalStation, "Yes");
   }
-  personal_.Delete(index);
+  SavedOrSaid(personal_.Delete(index), strings_.Load(IDS_FILE_STATIONS), messages_, strings_);
   main_->PersonalStationsChanged();
 }
 

@@ -52,6 +52,7 @@ ApplicationSchedule::ApplicationSchedule(const Needs& needs)
       notices_(needs.context, MakeNotifyActions()),
       list_(needs.context, services_) {
   store_.LoadSchedule(needs_.platform.clock.LocalNow().date);
+  static_cast<void>(shows_.List());  // what cannot be read is told with the other files
   diary_.Reload();
   picker_.SetGroups([this] { return Groups(); });
   timerWindow_.SetTicks(
@@ -112,6 +113,7 @@ void ApplicationSchedule::StartWatching() {
 
 unsigned ApplicationSchedule::Minute() {
   const DateTime now = needs_.platform.clock.LocalNow();
+  if (store_.LoadUnread()) timer_.EvaluateSchedule();
   timer_.KeepWatch();
   if (store_.BringBack(now.date)) timer_.EvaluateSchedule();
   RememberSeen();
@@ -159,6 +161,7 @@ std::vector<EventLine> ApplicationSchedule::ComingEvents() {
   coming_ = diary_.Coming(needs_.platform.clock.GmtNow(), kMostEvents);
   const DateTime now = needs_.platform.clock.LocalNow();
   const std::int32_t offset = GetZoneOffset(needs_.platform.clock);
+  const std::vector<std::string> shows = shows_.List();
   std::vector<EventLine> lines;
   for (const BroadcastEvent& event : coming_) {
     const DateTime local = AddSeconds(event.gmt, offset);
@@ -166,7 +169,7 @@ std::vector<EventLine> ApplicationSchedule::ComingEvents() {
     const bool known = station && !needs_.source.NameOf(station).empty();
     lines.push_back({NextShown(local, now, needs_.state.clockStyle), event.record[EventField::Name],
                      event.record[EventField::StationName], known ? station.Token() : "",
-                     IsNoticed(event.record, local), shows_.Contains(ShowKeyOf(event.record))});
+                     IsNoticed(event.record, local), PersonalShows::Holds(shows, ShowKeyOf(event.record))});
   }
   return lines;
 }
@@ -191,7 +194,7 @@ bool ApplicationSchedule::NotifyMe(HWND owner, std::size_t line) {
 void ApplicationSchedule::ChangePersonalShow(std::size_t line) {
   if (line >= coming_.size()) return;
   const std::string show = ShowKeyOf(coming_[line].record);
-  if (shows_.Contains(show)) {
+  if (PersonalShows::Holds(shows_.List(), show)) {
     shows_.RemovePersonalShow(show);
   } else {
     shows_.AddPersonalShow(show);

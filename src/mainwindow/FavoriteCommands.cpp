@@ -3,10 +3,11 @@
 #include <algorithm>
 
 #include "app/CReg.h"
+#include "app/FileWords.h"
 #include "app/SettingNames.h"
 #include "app/Strings.h"
-#include "mainwindow/FavoriteGroups.h"
 #include "mainwindow/StationListing.h"
+#include "resources/texts/app.h"
 #include "resources/texts/mainwindow.h"
 
 namespace sonaro {
@@ -15,7 +16,6 @@ namespace {
 constexpr const char* kTenGroupsKey = "AlreadyHave10FavoriteGroups";
 constexpr const char* kExistsKey = "TheFavoriteGroupAlreadyExists";
 constexpr const char* kDeleteKey = "DeleteFavoriteGroup";
-constexpr const char* kNotSavedKey = "FavoriteGroupsNotSaved";
 
 }  // namespace
 
@@ -106,8 +106,9 @@ void FavoriteCommands::Say(const char* key, const std::string& text) {
 }
 
 bool FavoriteCommands::Changed(FavoriteChange change) {
-  if (change == FavoriteChange::NotSaved) Say(kNotSavedKey, strings_.Load(IDS_GROUP_NOT_SAVED));
-  return change != FavoriteChange::Nothing;
+  const bool saved = change != FavoriteChange::NotSaved;
+  return SavedOrSaid(saved, strings_.Load(IDS_FILE_GROUPS), prompts_, strings_) &&
+         change == FavoriteChange::Saved;
 }
 
 }  // namespace sonaro

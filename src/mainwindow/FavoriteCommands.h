@@ -7,20 +7,17 @@
 #include <string_view>
 
 #include "app/Message.h"
+#include "mainwindow/FavoriteGroups.h"
 
 namespace sonaro {
 
 class CReg;
-class FavoriteGroups;
 class StationListing;
 class Strings;
-enum class FavoriteChange;
 
 // What the commands need of the windows around them.
-class FavoritePrompts {
+class FavoritePrompts : public MessageBoxView {
  public:
-  virtual ~FavoritePrompts() = default;
-  virtual MessageResult Ask(const Message& message) = 0;
   // A name for a new group (frmNewFavorite); "" when the user gave none.
   virtual std::string AskNewGroupName() = 0;
   // Another name for a group (frmRenameFav); "" when the user gave none.
@@ -51,7 +48,7 @@ class FavoriteCommands {
  private:
   void Say(const char* key, const std::string& text);
   bool ConfirmDelete(const std::string& name);
-  // Says when a change could not be written. True when the table changed.
+  // Says when a change could not be saved. True when there is one.
   bool Changed(FavoriteChange change);
 
   FavoriteGroups& groups_;

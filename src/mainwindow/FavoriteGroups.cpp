@@ -2,14 +2,12 @@
 
 #include <algorithm>
 #include <unordered_set>
+#include <utility>
 
-#include "base/DataFolder.h"
 #include "base/Text.h"
 
 namespace sonaro {
 namespace {
-
-constexpr const char* kFavoritesFile = "\\favs.snr";
 
 std::string MembersOf(const std::vector<std::string_view>& tokens) {
   std::string members;
@@ -49,14 +47,28 @@ void MoveElement(std::vector<T>& items, std::size_t from, std::size_t to) {
 }  // namespace
 
 void FavoriteGroups::LoadFavoriteGroups() {
+  if (file_.Look() != UserFile::Seen::Unreadable) ReadFile();
+}
+
+bool FavoriteGroups::LoadUnread() {
+  if (!file_.Unread()) return false;
+  LoadFavoriteGroups();
+  return !file_.Unread();
+}
+
+void FavoriteGroups::ReadFile() {
   groups_.clear();
-  const ReadResult file = data_.Read(kFavoritesFile);
-  if (file.status != ReadStatus::Ok) return;
-  for (const std::string_view line : SplitLines(file.bytes)) {
+  owesCopy_ = false;
+  for (const std::string_view line : SplitLines(file_.Text())) {
     const std::string_view group = TrimBlanks(line);
-    if (group.find('\t') != std::string_view::npos) groups_.emplace_back(group);
+    if (group.find('\t') != std::string_view::npos) {
+      groups_.emplace_back(group);
+    } else if (!group.empty()) {
+      owesCopy_ = true;
+    }
   }
-  if (FileText() != file.bytes) SaveFavoriteGroups();
+  // When this cannot be written the old lines are read again at the next start.
+  if (FileText() != file_.Text()) static_cast<void>(SaveFavoriteGroups());
 }
 
 std::string FavoriteGroups::FileText() const {
@@ -69,7 +81,30 @@ std::string FavoriteGroups::FileText() const {
 }
 
 FavoriteChange FavoriteGroups::SaveFavoriteGroups() {
-  return data_.Save(kFavoritesFile, FileText()) ? FavoriteChange::Saved : FavoriteChange::NotSaved;
+  if (owesCopy_ && !file_.KeepBeside()) return FavoriteChange::NotSaved;
+  owesCopy_ = false;
+  return file_.Save(FileText()) ? FavoriteChange::Saved : FavoriteChange::NotSaved;
+}
+
+FavoriteChange FavoriteGroups::Change(const std::function<bool()>& edit) {
+  const UserFile::Seen seen = file_.Look();
+  if (seen == UserFile::Seen::Unreadable) return FavoriteChange::NotSaved;
+  if (seen == UserFile::Seen::Changed) ReadFile();
+  std::vector<std::string> before = groups_;
+  if (!edit()) return FavoriteChange::Nothing;
+  const FavoriteChange saved = SaveFavoriteGroups();
+  if (saved != FavoriteChange::Saved) groups_ = std::move(before);
+  return saved;
+}
+
+FavoriteChange FavoriteGroups::Change(std::size_t group, const std::function<bool(std::size_t)>& edit) {
+  if (group >= Count()) return FavoriteChange::Nothing;
+  const std::string name(Name(group));
+  return Change([&] {
+    if (group < Count() && Name(group) == name) return edit(group);
+    const std::optional<std::size_t> now = Find(name);
+    return now && edit(*now);
+  });
 }
 
 std::string_view FavoriteGroups::Name(std::size_t group) const {
@@ -98,47 +133,56 @@ bool FavoriteGroups::Contains(std::size_t group, std::string_view token) const {
 
 FavoriteChange FavoriteGroups::Add(std::string_view name) {
   const std::string cleanName = CleanName(name);
-  if (cleanName.empty() || Find(cleanName)) return FavoriteChange::Nothing;
-  groups_.push_back(cleanName + "\t");
-  return SaveFavoriteGroups();
+  if (cleanName.empty()) return FavoriteChange::Nothing;
+  return Change([&] {
+    if (Find(cleanName)) return false;
+    groups_.push_back(cleanName + "\t");
+    return true;
+  });
 }
 
 FavoriteChange FavoriteGroups::Rename(std::size_t group, std::string_view name) {
   const std::string cleanName = CleanName(name);
-  if (group >= Count() || cleanName.empty()) return FavoriteChange::Nothing;
-  if (const auto holder = Find(cleanName); holder && *holder != group) return FavoriteChange::Nothing;
-  groups_[group] = cleanName + "\t" + std::string(Members(group));
-  return SaveFavoriteGroups();
+  if (cleanName.empty()) return FavoriteChange::Nothing;
+  return Change(group, [&](std::size_t at) {
+    if (const auto holder = Find(cleanName); holder && *holder != at) return false;
+    groups_[at] = cleanName + "\t" + std::string(Members(at));
+    return true;
+  });
 }
 
 FavoriteChange FavoriteGroups::Remove(std::size_t group) {
-  if (group >= Count()) return FavoriteChange::Nothing;
-  groups_.erase(groups_.begin() + static_cast<std::ptrdiff_t>(group));
-  return SaveFavoriteGroups();
+  return Change(group, [&](std::size_t at) {
+    groups_.erase(groups_.begin() + static_cast<std::ptrdiff_t>(at));
+    return true;
+  });
 }
 
 FavoriteChange FavoriteGroups::Move(std::size_t from, std::size_t to) {
-  if (from >= Count() || to >= Count() || from == to) return FavoriteChange::Nothing;
-  MoveElement(groups_, from, to);
-  return SaveFavoriteGroups();
+  return Change(from, [&](std::size_t at) {
+    if (to >= Count() || at == to) return false;
+    MoveElement(groups_, at, to);
+    return true;
+  });
 }
 
 FavoriteChange FavoriteGroups::AddStation(std::size_t group, std::string_view token) {
-  return Append(group, token) ? SaveFavoriteGroups() : FavoriteChange::Nothing;
+  return Change(group, [&](std::size_t at) { return Append(at, token); });
 }
 
 FavoriteChange FavoriteGroups::AddStations(std::size_t group, const std::vector<std::string>& tokens) {
-  if (group >= Count()) return FavoriteChange::Nothing;
-  const auto members = Tokens(group);
-  std::unordered_set<std::string> known;
-  for (const std::string_view member : members) known.emplace(member);
-  bool changed = false;
-  for (const std::string& token : tokens) {
-    if (token.empty() || !known.insert(token).second) continue;
-    AppendToken(group, token);
-    changed = true;
-  }
-  return changed ? SaveFavoriteGroups() : FavoriteChange::Nothing;
+  return Change(group, [&](std::size_t at) {
+    const auto members = Tokens(at);
+    std::unordered_set<std::string> known;
+    for (const std::string_view member : members) known.emplace(member);
+    bool changed = false;
+    for (const std::string& token : tokens) {
+      if (token.empty() || !known.insert(token).second) continue;
+      AppendToken(at, token);
+      changed = true;
+    }
+    return changed;
+  });
 }
 
 bool FavoriteGroups::Append(std::size_t group, std::string_view token) {
@@ -159,18 +203,27 @@ void FavoriteGroups::AppendToken(std::size_t group, std::string_view token) {
 }
 
 FavoriteChange FavoriteGroups::RemoveStation(std::size_t group, std::string_view token) {
-  if (group >= Count() || !Contains(group, token)) return FavoriteChange::Nothing;
-  groups_[group] = std::string(Name(group)) + "\t" + WithoutToken(Members(group), token);
-  return SaveFavoriteGroups();
+  return Change(group, [&](std::size_t at) {
+    if (!Contains(at, token)) return false;
+    groups_[at] = std::string(Name(at)) + "\t" + WithoutToken(Members(at), token);
+    return true;
+  });
 }
 
 FavoriteChange FavoriteGroups::MoveStation(std::size_t group, std::size_t from, std::size_t to) {
   if (group >= Count()) return FavoriteChange::Nothing;
-  auto tokens = Tokens(group);
-  if (from >= tokens.size() || to >= tokens.size() || from == to) return FavoriteChange::Nothing;
-  MoveElement(tokens, from, to);
-  groups_[group] = std::string(Name(group)) + "\t" + MembersOf(tokens);
-  return SaveFavoriteGroups();
+  const std::vector<std::string_view> meant = Tokens(group);
+  if (from >= meant.size() || to >= meant.size() || from == to) return FavoriteChange::Nothing;
+  const std::string moved(meant[from]);
+  return Change(group, [&](std::size_t at) {
+    auto tokens = Tokens(at);
+    const auto now = std::find(tokens.begin(), tokens.end(), moved);
+    if (now == tokens.end() || to >= tokens.size()) return false;
+    const bool same = from < tokens.size() && tokens[from] == moved;
+    MoveElement(tokens, same ? from : static_cast<std::size_t>(now - tokens.begin()), to);
+    groups_[at] = std::string(Name(at)) + "\t" + MembersOf(tokens);
+    return true;
+  });
 }
 
 std::string FavoriteGroups::CleanName(std::string_view name) {

@@ -1,24 +1,28 @@
 // The user's favourite groups and their file "\favs.snr": one line for each group, its name, a tab, and the
 // members, each followed by one blank. A member is a token: a station's identifier in decimal, or "P" and the
-// index of a personal station. Owned by Application. Every change is written at once; a file that could not
-// be read is never written over. Asks nobody anything: see FavoriteCommands.
+// index of a personal station. Owned by Application. Every change is made on what the file holds at that
+// moment and is written at once; one that cannot be written is taken back. Asks nobody anything: see
+// FavoriteCommands.
 #pragma once
 
 #include <cstddef>
+#include <functional>
 #include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
+
+#include "base/UserFile.h"
 
 namespace sonaro {
 
 class DataFolder;
 
 // What became of a change to the groups.
-enum class FavoriteChange {
+enum class [[nodiscard]] FavoriteChange {
   Nothing,  // there was nothing to change: no such group, the name is in use, the station is there already
   Saved,
-  NotSaved  // made, but the file could not be written: the change lasts until the program ends
+  NotSaved  // the file could not be read or written: nothing was changed
 };
 
 class FavoriteGroups {
@@ -26,11 +30,13 @@ class FavoriteGroups {
   // Keys in the group bar. A file with more groups keeps them all; those beyond the tenth have no key.
   static constexpr std::size_t kSlots = 10;
 
-  explicit FavoriteGroups(DataFolder& data) : data_(data) {}
+  explicit FavoriteGroups(DataFolder& data) : file_(data, "\\favs.snr") {}
 
   // Reads the file into the table and writes it back when reading changed it: lines trimmed of blanks, lines
-  // without a tab dropped.
+  // without a tab dropped, after a copy with all of them was kept beside.
   void LoadFavoriteGroups();
+  // True when a file that could not be read before has been read now.
+  bool LoadUnread();
   // Writes the file. Never Nothing.
   FavoriteChange SaveFavoriteGroups();
 
@@ -59,11 +65,17 @@ class FavoriteGroups {
   static std::string CleanName(std::string_view name);
 
  private:
+  void ReadFile();
   std::string FileText() const;
+  // Makes `edit` and saves. It is given the group's place, which is another one when another session has
+  // changed the file.
+  FavoriteChange Change(std::size_t group, const std::function<bool(std::size_t)>& edit);
+  FavoriteChange Change(const std::function<bool()>& edit);
   bool Append(std::size_t group, std::string_view token);
   void AppendToken(std::size_t group, std::string_view token);
 
-  DataFolder& data_;
+  UserFile file_;
+  bool owesCopy_ = false;  // the file holds lines that were left out and are not kept beside yet
   std::vector<std::string> groups_;  // name, tab, members
 };
 

@@ -40,8 +40,8 @@ class PlaylistTransfer {
       : files_(files), groups_(groups), personal_(personal), source_(source) {}
 
   // `path` as the user gave it; the end of its name tells the format. False when it could not be written.
-  bool ExportGroup(std::size_t group, const std::string& path);
-  bool ExportPersonalStations(const std::string& path);
+  [[nodiscard]] bool ExportGroup(std::size_t group, const std::string& path);
+  [[nodiscard]] bool ExportPersonalStations(const std::string& path);
 
   ImportResult ImportIntoGroup(std::size_t group, const std::string& path);
   ImportResult ImportPersonalStations(const std::string& path);

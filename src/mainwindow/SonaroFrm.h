@@ -157,7 +157,6 @@ class SonaroFrm final : public Form, private FavoritePrompts {
   void mnuPersonalExport_Click();
   void mnuPersonalImport_Click();
   void SayImported(const ImportResult& result);
-  void SayNotExported();
   void Say(const char* key, const std::string& text);
 
   std::size_t PersonalCount() const;

@@ -1,14 +1,15 @@
 // The handlers that take groups and the user's own stations out to playlists and back in.
+#include "app/FileWords.h"
 #include "app/Strings.h"
 #include "forms/ControlIds.h"
 #include "mainwindow/SonaroFrm.h"
+#include "resources/texts/app.h"
 #include "resources/texts/mainwindow.h"
 
 namespace sonaro {
 namespace {
 
 constexpr const char* kImportKey = "PlaylistImported";
-constexpr const char* kExportKey = "PlaylistNotSaved";
 
 int SentenceOf(ImportResult::Status status) {
   switch (status) {
@@ -16,8 +17,7 @@ int SentenceOf(ImportResult::Status status) {
       return IDS_IMPORT_NOT_READ;
     case ImportResult::Status::NotAPlaylist:
       return IDS_IMPORT_NO_PLAYLIST;
-    case ImportResult::Status::NotSaved:
-      return IDS_IMPORT_NOT_SAVED;
+    case ImportResult::Status::NotSaved:  // has its own message
     case ImportResult::Status::Ok:
       break;
   }
@@ -39,13 +39,13 @@ void SonaroFrm::mnuFavExport_Click() {
   const auto group = GroupMeant();
   if (!group || !calls_.askPlaylistToSave) return;
   const std::string path = calls_.askPlaylistToSave(FileNameFor(data_.favorites.Name(*group)));
-  if (!path.empty() && !models_.transfer.ExportGroup(*group, path)) SayNotExported();
+  if (!path.empty() && !models_.transfer.ExportGroup(*group, path)) Ask(NotSavedMessage(path, data_.strings));
 }
 
 void SonaroFrm::mnuPersonalExport_Click() {
   if (!calls_.askPlaylistToSave) return;
   const std::string path = calls_.askPlaylistToSave(FileNameFor(LoadText(IDS_EXPORT_PERSONAL_NAME)));
-  if (!path.empty() && !models_.transfer.ExportPersonalStations(path)) SayNotExported();
+  if (!path.empty() && !models_.transfer.ExportPersonalStations(path)) Ask(NotSavedMessage(path, data_.strings));
 }
 
 void SonaroFrm::mnuFavImport_Click() {
@@ -62,6 +62,9 @@ void SonaroFrm::mnuPersonalImport_Click() {
 }
 
 void SonaroFrm::SayImported(const ImportResult& result) {
+  const bool saved = result.status != ImportResult::Status::NotSaved;
+  if (!saved) models_.listing.GroupsChanged();
+  if (!SavedOrSaid(saved, LoadText(IDS_FILE_STATIONS), *this, data_.strings)) return;
   std::string text =
       FillIn(LoadText(SentenceOf(result.status)),
              {std::to_string(result.added), std::to_string(result.known), std::to_string(result.skipped)});
@@ -70,8 +73,6 @@ void SonaroFrm::SayImported(const ImportResult& result) {
   models_.listing.GroupsChanged();
   PersonalStationsChanged();
 }
-
-void SonaroFrm::SayNotExported() { Say(kExportKey, LoadText(IDS_EXPORT_NOT_SAVED)); }
 
 void SonaroFrm::Say(const char* key, const std::string& text) {
   Message message;

@@ -1,5 +1,6 @@
 #include "mainwindow/frmExtraLink.h"
 
+#include "app/FileWords.h"
 #include "app/Message.h"
 #include "forms/ControlIds.h"
 #include "forms/DialogRows.h"
@@ -71,10 +72,8 @@ void frmExtraLink::butOKIt_Click() {
     return;
   }
   all_.front() = {Text(txtExtraName), *linkText};
-  if (!links_.Set(stationId_, all_)) {
-    Complain("PersonalStationNotSaved", IDS_DLG_OWN_NOT_SAVED);
-    return;
-  }
+  const bool saved = links_.Set(stationId_, all_);
+  if (!SavedOrSaid(saved, LoadText(IDS_FILE_LINKS), messages_, context_.strings)) return;
   Close(1);
 }
 

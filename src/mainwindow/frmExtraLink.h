@@ -17,6 +17,7 @@ class frmExtraLink final : public Form {
   frmExtraLink(FormContext& context, ExtraLinks& links, MessageBoxView& messages, std::int32_t stationId,
                std::string station)
       : Form(context, Design()),
+        context_(context),
         links_(links),
         messages_(messages),
         stationId_(stationId),
@@ -31,6 +32,7 @@ class frmExtraLink final : public Form {
   void butCancelIt_Click() { Close(); }
 
   ExtraLinks& links_;
+  FormContext& context_;
   MessageBoxView& messages_;
   const std::int32_t stationId_;
   const std::string station_;

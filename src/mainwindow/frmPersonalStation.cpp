@@ -1,5 +1,6 @@
 #include "mainwindow/frmPersonalStation.h"
 
+#include "app/FileWords.h"
 #include "app/HelpPages.h"
 #include "app/Message.h"
 #include "base/Text.h"
@@ -99,10 +100,7 @@ void frmPersonalStation::butOKIt_Click() {
   station_.webSite = Text(txtWebSite);
   station_.type = Text(txtType);
   station_.note = Text(txtStationNote);
-  if (!Save()) {
-    Complain("PersonalStationNotSaved", IDS_DLG_OWN_NOT_SAVED);
-    return;
-  }
+  if (!SavedOrSaid(Save(), LoadText(IDS_FILE_STATIONS), messages_, context_.strings)) return;
   Close(1);
 }
 

@@ -15,6 +15,7 @@ class frmPersonalStation final : public Form {
   frmPersonalStation(FormContext& context, PersonalStations& stations, MessageBoxView& messages,
                      HelpPages& help, PersonalStation station)
       : Form(context, Design()),
+        context_(context),
         stations_(stations),
         messages_(messages),
         help_(help),
@@ -31,6 +32,7 @@ class frmPersonalStation final : public Form {
   void butHelp_Click();
 
   PersonalStations& stations_;
+  FormContext& context_;
   MessageBoxView& messages_;
   HelpPages& help_;
   PersonalStation station_;

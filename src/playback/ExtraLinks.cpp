@@ -1,6 +1,5 @@
 #include "playback/ExtraLinks.h"
 
-#include "base/DataFolder.h"
 #include "base/Numbers.h"
 #include "base/Text.h"
 #include "playback/FieldText.h"
@@ -10,8 +9,6 @@
 namespace sonaro {
 
 namespace {
-
-constexpr std::string_view kLinksFile = "\\ownlinks.snr";
 
 ExtraLink Cleaned(const ExtraLink& link) {
   return {CleanField(link.name, PersonalStation::kMaxName), CleanedLink(link.link)};
@@ -30,10 +27,14 @@ ExtraLinks::Line ExtraLinks::ReadLine(std::string_view text) {
 }
 
 bool ExtraLinks::Load() {
+  if (file_.Look() == UserFile::Seen::Unreadable) return false;
+  ReadFile();
+  return true;
+}
+
+void ExtraLinks::ReadFile() {
   lines_.clear();
-  const ReadResult file = data_.Read(kLinksFile);
-  for (const std::string_view text : SplitLines(file.bytes)) lines_.push_back(ReadLine(text));
-  return file.status != ReadStatus::Unreadable;
+  for (const std::string_view text : SplitLines(file_.Text())) lines_.push_back(ReadLine(text));
 }
 
 std::vector<ExtraLink> ExtraLinks::Of(std::int32_t stationId) const {
@@ -46,7 +47,9 @@ std::vector<ExtraLink> ExtraLinks::Of(std::int32_t stationId) const {
 }
 
 bool ExtraLinks::Set(std::int32_t stationId, const std::vector<ExtraLink>& links) {
-  if (stationId == 0) return false;
+  const UserFile::Seen seen = file_.Look();
+  if (stationId == 0 || seen == UserFile::Seen::Unreadable) return false;
+  if (seen == UserFile::Seen::Changed) ReadFile();
   std::vector<Line> changed = lines_;
   std::erase_if(changed, [&](const Line& line) { return line.stationId == stationId; });
   std::size_t taken = 0;
@@ -65,7 +68,7 @@ bool ExtraLinks::Set(std::int32_t stationId, const std::vector<ExtraLink>& links
     }
     text.append("\r\n");
   }
-  if (!data_.Save(kLinksFile, text)) return false;
+  if (!file_.Save(text)) return false;
   lines_ = std::move(changed);
   return true;
 }

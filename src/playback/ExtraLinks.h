@@ -8,6 +8,8 @@
 #include <string_view>
 #include <vector>
 
+#include "base/UserFile.h"
+
 namespace sonaro {
 
 class DataFolder;
@@ -22,17 +24,19 @@ struct ExtraLink {
 
 class ExtraLinks {
  public:
-  explicit ExtraLinks(DataFolder& data) : data_(data) {}
+  explicit ExtraLinks(DataFolder& data) : file_(data, "\\ownlinks.snr") {}
 
   // Reads the file. False when it is there but could not be read; changes are refused then.
   bool Load();
+  // True when a file that could not be read before has been read now.
+  bool LoadUnread() { return file_.Unread() && Load(); }
 
   // The links of a station in the order in which they were added.
   std::vector<ExtraLink> Of(std::int32_t stationId) const;
 
-  // Replaces all links of a station and saves; links whose text is empty are left out, texts are cleaned like
+  // Replaces all links of a station in what the file holds at that moment, and saves; links whose text is empty are left out, texts are cleaned like
   // those of a personal station. False, with nothing changed, when it could not be saved.
-  bool Set(std::int32_t stationId, const std::vector<ExtraLink>& links);
+  [[nodiscard]] bool Set(std::int32_t stationId, const std::vector<ExtraLink>& links);
 
  private:
   struct Line {
@@ -43,7 +47,9 @@ class ExtraLinks {
 
   static Line ReadLine(std::string_view text);
 
-  DataFolder& data_;
+  void ReadFile();
+
+  UserFile file_;
   std::vector<Line> lines_;
 };
 

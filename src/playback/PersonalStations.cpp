@@ -3,7 +3,6 @@
 #include <algorithm>
 #include <limits>
 
-#include "base/DataFolder.h"
 #include "base/Numbers.h"
 #include "base/Text.h"
 #include "playback/FieldText.h"
@@ -12,7 +11,6 @@ namespace sonaro {
 
 namespace {
 
-constexpr std::string_view kPersonalFile = "\\personal.snr";
 constexpr std::size_t kFields = 8;
 
 std::string LineText(const PersonalStation& station) {
@@ -40,14 +38,23 @@ PersonalStation Cleaned(const PersonalStation& station) {
 }
 
 bool PersonalStations::Load() {
-  lines_.clear();
+  if (file_.Look() == UserFile::Seen::Unreadable) return false;
+  ReadFile();
+  return true;
+}
+
+bool PersonalStations::Refresh() {
+  const UserFile::Seen seen = file_.Look();
+  if (seen == UserFile::Seen::Changed) ReadFile();
+  return seen != UserFile::Seen::Unreadable;
+}
+
+// No index that was ever given is forgotten, even if it has left the file.
+void PersonalStations::ReadFile() {
   lineOf_.clear();
-  highestIndex_ = 0;
-  const ReadResult file = data_.Read(kPersonalFile);
   std::vector<Line> lines;
-  for (const std::string_view text : SplitLines(file.bytes)) lines.push_back(ReadLine(text));
+  for (const std::string_view text : SplitLines(file_.Text())) lines.push_back(ReadLine(text));
   Adopt(std::move(lines));
-  return file.status != ReadStatus::Unreadable;
 }
 
 // An index counts as given even when the rest of its line makes no sense.
@@ -85,7 +92,7 @@ bool PersonalStations::Save(std::vector<Line> changed) {
   for (const Line& line : changed) {
     text.append(line.station.index != 0 ? LineText(line.station) : line.kept).append("\r\n");
   }
-  if (!data_.Save(kPersonalFile, text)) return false;
+  if (!file_.Save(text)) return false;
   Adopt(std::move(changed));
   return true;
 }
@@ -109,6 +116,7 @@ std::int32_t PersonalStations::Add(const PersonalStation& station) {
 }
 
 std::vector<std::int32_t> PersonalStations::AddAll(std::span<const PersonalStation> stations) {
+  if (!Refresh()) return {};
   std::vector<Line> changed = lines_;
   std::vector<std::int32_t> indices;
   std::int32_t highest = highestIndex_;
@@ -124,6 +132,7 @@ std::vector<std::int32_t> PersonalStations::AddAll(std::span<const PersonalStati
 }
 
 bool PersonalStations::Change(const PersonalStation& station) {
+  if (!Refresh()) return false;
   const auto found = lineOf_.find(station.index);
   PersonalStation clean = Cleaned(station);
   if (found == lineOf_.end() || clean.name.empty()) return false;
@@ -133,6 +142,7 @@ bool PersonalStations::Change(const PersonalStation& station) {
 }
 
 bool PersonalStations::Delete(std::int32_t index) {
+  if (!Refresh()) return false;
   const auto found = lineOf_.find(index);
   if (found == lineOf_.end()) return false;
   std::vector<Line> changed = lines_;

@@ -14,6 +14,7 @@
 #include <unordered_map>
 #include <vector>
 
+#include "base/UserFile.h"
 #include "playback/OwnLink.h"
 
 namespace sonaro {
@@ -42,27 +43,29 @@ PersonalStation Cleaned(const PersonalStation& station);
 
 class PersonalStations {
  public:
-  explicit PersonalStations(DataFolder& data) : data_(data) {}
+  explicit PersonalStations(DataFolder& data) : file_(data, "\\personal.snr") {}
 
-  // Reads the file; what was in memory is forgotten. False when the file is there but could not be read; the
-  // changes below are refused then.
+  // Reads the file; what was in memory is forgotten. False when the file is there but could not be read.
   bool Load();
+  // True when a file that could not be read before has been read now.
+  bool LoadUnread() { return file_.Unread() && Load(); }
 
   // The stations in table order.
   std::vector<PersonalStation> All() const;
   // The station with this index, or null. Valid until the next change.
   const PersonalStation* Find(std::int32_t index) const;
 
-  // Each change is saved at once; one that cannot be saved is undone. The station is stored as
-  // Cleaned gives it, and needs a name.
+  // Each change is made on what the file holds at that moment and saved at once; one that cannot be saved is
+  // undone, and while the file cannot be read every change is refused. The station is stored as Cleaned gives
+  // it, and needs a name.
   // The new station's index, or 0.
-  std::int32_t Add(const PersonalStation& station);
+  [[nodiscard]] std::int32_t Add(const PersonalStation& station);
   // Adds all with one write. The indices in order, 0 for a station without a name; empty when nothing was
   // saved.
-  std::vector<std::int32_t> AddAll(std::span<const PersonalStation> stations);
+  [[nodiscard]] std::vector<std::int32_t> AddAll(std::span<const PersonalStation> stations);
   // Replaces the station with `station.index`.
-  bool Change(const PersonalStation& station);
-  bool Delete(std::int32_t index);
+  [[nodiscard]] bool Change(const PersonalStation& station);
+  [[nodiscard]] bool Delete(std::int32_t index);
 
  private:
   // A line of the file: a station, or, with index 0, a line that is kept as it stands.
@@ -73,10 +76,13 @@ class PersonalStations {
 
   Line ReadLine(std::string_view text);
   // Writes `changed` and, when that worked, takes it over.
-  bool Save(std::vector<Line> changed);
+  [[nodiscard]] bool Save(std::vector<Line> changed);
+  void ReadFile();
+  // Takes over what another session has written. False when the file cannot be read.
+  bool Refresh();
   void Adopt(std::vector<Line> lines);
 
-  DataFolder& data_;
+  UserFile file_;
   std::vector<Line> lines_;
   std::unordered_map<std::int32_t, std::size_t> lineOf_;  // index of a station -> position in lines_
   std::int32_t highestIndex_ = 0;                         // ever given, deleted stations included

@@ -2,9 +2,9 @@
 
 #include <algorithm>
 
+#include "app/FileWords.h"
 #include "app/Message.h"
 #include "app/Strings.h"
-#include "base/DataFolder.h"
 #include "base/Text.h"
 #include "resources/texts/app.h"
 #include "resources/texts/schedule.h"
@@ -13,7 +13,6 @@ namespace sonaro {
 
 namespace {
 
-constexpr std::string_view kShowsFile = "\\Shows.snr";
 constexpr std::string_view kLineEnd = "\r\n";
 
 std::string_view IdentifyingPart(std::string_view showKey) { return showKey.substr(0, showKey.find('X')); }
@@ -33,15 +32,14 @@ std::string_view PersonalShows::DisplayName(std::string_view showKey) {
 
 std::vector<std::string> PersonalShows::List() {
   std::vector<std::string> lines;
-  const ReadResult file = data_.Read(kShowsFile);
-  for (std::string_view line : SplitLines(file.bytes)) {
+  static_cast<void>(file_.Look());  // an unreadable file is noted there, and what was read last still counts
+  for (std::string_view line : SplitLines(file_.Text())) {
     if (!line.empty()) lines.emplace_back(line);
   }
   return lines;
 }
 
-bool PersonalShows::Contains(std::string_view showKey) {
-  const std::vector<std::string> lines = List();
+bool PersonalShows::Holds(const std::vector<std::string>& lines, std::string_view showKey) {
   return std::any_of(lines.begin(), lines.end(), [&](const std::string& line) {
     return IdentifyingPart(line) == IdentifyingPart(showKey);
   });
@@ -49,19 +47,20 @@ bool PersonalShows::Contains(std::string_view showKey) {
 
 void PersonalShows::AddPersonalShow(std::string_view showKey) {
   std::vector<std::string> lines = List();
-  if (!Contains(showKey)) {
+  bool saved = true;
+  if (!Holds(lines, showKey)) {
     lines.push_back(OnOneLine(showKey));
-    WritePersonalShows(EachOnItsLine(lines));
+    saved = WritePersonalShows(EachOnItsLine(lines));
   }
-  Tell("AddPersonalShow", FillIn(strings_.Load(IDS_SCHED_SHOW_ADDED), {DisplayName(showKey)}));
+  Tell(saved, "AddPersonalShow", IDS_SCHED_SHOW_ADDED, showKey);
 }
 
 void PersonalShows::RemovePersonalShow(std::string_view showKey) {
   std::vector<std::string> lines = List();
   std::erase_if(lines,
                 [&](const std::string& line) { return IdentifyingPart(line) == IdentifyingPart(showKey); });
-  WritePersonalShows(EachOnItsLine(lines));
-  Tell("RemovePersonalShow", FillIn(strings_.Load(IDS_SCHED_SHOW_REMOVED), {DisplayName(showKey)}));
+  const bool saved = WritePersonalShows(EachOnItsLine(lines));
+  Tell(saved, "RemovePersonalShow", IDS_SCHED_SHOW_REMOVED, showKey);
 }
 
 std::string PersonalShows::ReadPersonalShows() {
@@ -72,13 +71,15 @@ std::string PersonalShows::ReadPersonalShows() {
 
 bool PersonalShows::WritePersonalShows(std::string_view text) {
   const auto last = text.rfind(kLineEnd);
-  return data_.Save(kShowsFile, last == std::string_view::npos ? "" : text.substr(0, last + kLineEnd.size()));
+  return file_.Look() != UserFile::Seen::Unreadable &&
+         file_.Save(last == std::string_view::npos ? "" : text.substr(0, last + kLineEnd.size()));
 }
 
-void PersonalShows::Tell(const char* key, const std::string& text) {
+void PersonalShows::Tell(bool saved, const char* key, int text, std::string_view showKey) {
+  if (!SavedOrSaid(saved, strings_.Load(IDS_FILE_SHOWS), messages_, strings_)) return;
   messages_.Ask({.key = key,
                  .caption = strings_.Load(IDS_SCHED_SHOWS_CAPTION),
-                 .text = text,
+                 .text = FillIn(strings_.Load(text), {DisplayName(showKey)}),
                  .firstButton = strings_.Load(IDS_APP_OK)});
 }
 

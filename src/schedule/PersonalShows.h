@@ -1,10 +1,12 @@
 // The user's personal shows: one line each in "\Shows.snr". A show's key identifies it up to the first
-// capital X; what follows is its display name. The file is read and written afresh by each operation.
+// capital X; what follows is its display name. Each operation works on what the file holds at that moment.
 #pragma once
 
 #include <string>
 #include <string_view>
 #include <vector>
+
+#include "base/UserFile.h"
 
 namespace sonaro {
 
@@ -15,17 +17,19 @@ class Strings;
 class PersonalShows {
  public:
   PersonalShows(DataFolder& data, MessageBoxView& messages, const Strings& strings)
-      : data_(data), messages_(messages), strings_(strings) {}
+      : file_(data, "\\Shows.snr"), messages_(messages), strings_(strings) {}
 
-  // Adds the show unless one with the same identifying part is there, and tells the user in either case.
+  // Adds the show unless one with the same identifying part is there, and tells the user in either case, or
+  // that it could not be saved.
   void AddPersonalShow(std::string_view showKey);
-  bool Contains(std::string_view showKey);
-  // Removes the show's line and tells the user.
+  // Whether one of the lines that List() gave is this show.
+  static bool Holds(const std::vector<std::string>& lines, std::string_view showKey);
+  // Removes the show's line and tells the user, or that it could not be saved.
   void RemovePersonalShow(std::string_view showKey);
   // The whole file, its lines joined by CR LF; "" when it is missing.
   std::string ReadPersonalShows();
   // Writes one line for each piece that ends in CR LF; text after the last CR LF is not written.
-  bool WritePersonalShows(std::string_view text);
+  [[nodiscard]] bool WritePersonalShows(std::string_view text);
 
   // The lines of the file, in order.
   std::vector<std::string> List();
@@ -33,9 +37,9 @@ class PersonalShows {
   static std::string_view DisplayName(std::string_view showKey);
 
  private:
-  void Tell(const char* key, const std::string& text);
+  void Tell(bool saved, const char* key, int text, std::string_view showKey);
 
-  DataFolder& data_;
+  UserFile file_;
   MessageBoxView& messages_;
   const Strings& strings_;
 };

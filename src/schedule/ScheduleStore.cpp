@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 #include <optional>
+#include <utility>
 
 #include "base/DataFolder.h"
 #include "base/Text.h"
@@ -11,7 +12,6 @@ namespace sonaro {
 
 namespace {
 
-constexpr std::string_view kScheduleFile = "\\Sched.snr";
 constexpr std::string_view kDroppedFile = "\\Sched.old";
 constexpr std::size_t kFirstSlots = 101;
 constexpr std::size_t kGrowth = 20;
@@ -50,28 +50,38 @@ bool LosesText(const ScheduleItem& item, std::string_view line) {
 }  // namespace
 
 ScheduleStore::ScheduleStore(DataFolder& data, std::string shortDatePattern)
-    : data_(data), shortDatePattern_(std::move(shortDatePattern)), slots_(kFirstSlots) {}
+    : data_(data), file_(data, "\\Sched.snr"), shortDatePattern_(std::move(shortDatePattern)), slots_(kFirstSlots) {}
 
 void ScheduleStore::LoadSchedule(const Date& today) {
+  today_ = today;
+  if (file_.Look() != UserFile::Seen::Unreadable) ReadFile();
+}
+
+bool ScheduleStore::LoadUnread() {
+  if (!file_.Unread() || file_.Look() == UserFile::Seen::Unreadable) return false;
+  ReadFile();
+  return true;
+}
+
+void ScheduleStore::ReadFile() {
   slots_.assign(kFirstSlots, ScheduleItem{});
   dropped_.clear();
   ++generation_;
   const ReadResult old = data_.Read(kDroppedFile);
   for (std::string_view line : SplitLines(old.bytes)) dropped_.emplace_back(line);
   droppedChanged_ = false;
-  const ReadResult file = data_.Read(kScheduleFile);
   std::size_t next = 0;
-  for (std::string_view line : SplitLines(file.bytes)) {
+  for (std::string_view line : SplitLines(file_.Text())) {
     GrowTo(next);
     ScheduleItem& item = slots_[next++];
     item = ItemOf(line);
-    const bool expired = Expired(item, today);
+    const bool expired = Expired(item, today_);
     if (expired || LosesText(item, line)) Drop(line);
     if (!expired) continue;
     item.name.clear();
     item.action.clear();
   }
-  BringBack(today);
+  BringBack(today_);
 }
 
 // A line that an earlier save wrote there, but that is still in the table's file, stands there once.
@@ -83,11 +93,15 @@ void ScheduleStore::Drop(std::string_view line) {
 }
 
 bool ScheduleStore::BringBack(const Date& today) {
+  today_ = today;
   const std::size_t before = dropped_.size();
   std::erase_if(dropped_, [&](const std::string& line) {
     ScheduleItem item = ItemOf(line);
     if (!HasDay(item) || Expired(item, today)) return false;
-    if (std::find(slots_.begin(), slots_.end(), item) == slots_.end()) SetItem(FirstFreeSlot(), item);
+    if (std::find(slots_.begin(), slots_.end(), item) == slots_.end()) {
+      slots_[FirstFreeSlot()] = item;
+      ++generation_;
+    }
     return true;
   });
   if (dropped_.size() == before) return false;
@@ -110,6 +124,8 @@ bool ScheduleStore::Expired(const ScheduleItem& item, const Date& today) const {
   return DaysFromEpoch(today) - DaysFromEpoch(day) > kDaysKept;
 }
 
+std::string ScheduleStore::LineIn(const ScheduleItem& item) { return item.Free() ? "" : LineOf(item); }
+
 bool ScheduleStore::SaveSchedule() {
   if (droppedChanged_) {
     std::string text;
@@ -120,7 +136,7 @@ bool ScheduleStore::SaveSchedule() {
   for (const ScheduleItem& item : slots_) {
     if (!item.Free()) text += LineOf(item) + "\r\n";
   }
-  return data_.Save(kScheduleFile, text);
+  return file_.Save(text);
 }
 
 std::size_t ScheduleStore::FirstFreeSlot() {
@@ -131,18 +147,38 @@ std::size_t ScheduleStore::FirstFreeSlot() {
   return slot;
 }
 
-void ScheduleStore::SetItem(std::size_t slot, ScheduleItem item) {
-  GrowTo(slot);
+bool ScheduleStore::SetItem(std::size_t slot, ScheduleItem item) {
   for (std::string* field : FieldsOf(item)) {
     *field = OnOneLine(*field);
     if (field != &item.note) std::replace(field->begin(), field->end(), '\t', ' ');
   }
-  slots_[slot] = std::move(item);
-  ++generation_;
+  return Change(slot, std::move(item));
 }
 
-void ScheduleStore::FreeSlot(std::size_t slot) {
-  if (slot < slots_.size()) SetItem(slot, ScheduleItem{});
+bool ScheduleStore::FreeSlot(std::size_t slot) { return slot >= slots_.size() || Change(slot, ScheduleItem{}); }
+
+bool ScheduleStore::Change(std::size_t slot, ScheduleItem changed) {
+  const std::string line = slot < slots_.size() ? LineIn(slots_[slot]) : "";
+  const UserFile::Seen seen = file_.Look();
+  if (seen == UserFile::Seen::Unreadable) return false;
+  if (seen == UserFile::Seen::Changed) {
+    ReadFile();
+    slot = SlotWith(line, slot);
+  }
+  GrowTo(slot);
+  std::swap(slots_[slot], changed);
+  ++generation_;
+  const bool saved = SaveSchedule();
+  if (!saved) std::swap(slots_[slot], changed);
+  return saved;
+}
+
+// Where the line stands now; a free slot for one that is gone, and for "", preferably `slot`.
+std::size_t ScheduleStore::SlotWith(const std::string& line, std::size_t slot) {
+  if (slot < slots_.size() && LineIn(slots_[slot]) == line) return slot;
+  const auto same = std::find_if(slots_.begin(), slots_.end(),
+                                 [&](const ScheduleItem& other) { return !line.empty() && LineIn(other) == line; });
+  return same == slots_.end() ? FirstFreeSlot() : static_cast<std::size_t>(same - slots_.begin());
 }
 
 }  // namespace sonaro

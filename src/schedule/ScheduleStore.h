@@ -1,5 +1,6 @@
 // The schedule table and its file "\Sched.snr". One instance, owned by Application: the evaluator reads it on
-// every run, the editor changes it and saves. Knows neither when an item comes on nor how it is shown.
+// every run, the editor changes it. Every change is made on what the file holds at that moment and saved at
+// once; one that cannot be saved is taken back. Knows neither when an item comes on nor how it is shown.
 //
 // A save drops what loading did not take over: the end of a line with fewer than six tabs, and "once" items
 // whose day has passed. Those lines go to "\Sched.old" first, the latest kMostDropped of them, and items
@@ -13,6 +14,7 @@
 #include <vector>
 
 #include "base/Dates.h"
+#include "base/UserFile.h"
 #include "schedule/ScheduleItem.h"
 
 namespace sonaro {
@@ -28,8 +30,10 @@ class ScheduleStore {
   // Replaces the table by the file's lines, each in the next slot, and frees "once" items that are more than
   // two days before `today`. A missing or unreadable file leaves an empty table.
   void LoadSchedule(const Date& today);
+  // True when a file that could not be read before has been read now.
+  bool LoadUnread();
   // Writes every occupied slot. False when the file could not be written; the old one is then still whole.
-  bool SaveSchedule();
+  [[nodiscard]] bool SaveSchedule();
   // Puts the "once" items back into the table that were dropped under a later date than `today`. True when
   // there was one.
   bool BringBack(const Date& today);
@@ -42,17 +46,27 @@ class ScheduleStore {
 
   // The first slot that an item can be put into; the table grows when every slot is taken.
   std::size_t FirstFreeSlot();
-  // Line breaks in the item, and tabs in front of its last field, become blanks: they would end the field.
-  void SetItem(std::size_t slot, ScheduleItem item);
-  void FreeSlot(std::size_t slot);
+  // Puts an item into a slot, or takes the one in it away. When another session has changed the file, what
+  // stood in the slot is looked for, and an item that is gone or new gets a free slot. False, with nothing
+  // changed, when it could not be saved. Line breaks in the item, and tabs in front of its last field, become
+  // blanks: they would end the field.
+  [[nodiscard]] bool SetItem(std::size_t slot, ScheduleItem item);
+  [[nodiscard]] bool FreeSlot(std::size_t slot);
 
  private:
+  // The item's line in the file; "" for a free slot.
+  static std::string LineIn(const ScheduleItem& item);
+  void ReadFile();
+  std::size_t SlotWith(const std::string& line, std::size_t slot);
+  [[nodiscard]] bool Change(std::size_t slot, ScheduleItem changed);
   bool HasDay(const ScheduleItem& item) const;
   bool Expired(const ScheduleItem& item, const Date& today) const;
   void Drop(std::string_view line);
   void GrowTo(std::size_t slot);
 
-  DataFolder& data_;
+  DataFolder& data_;  // for what is dropped
+  UserFile file_;
+  Date today_;
   std::string shortDatePattern_;
   std::vector<ScheduleItem> slots_;
   std::vector<std::string> dropped_;  // the lines of "\Sched.old", or what it becomes at the next save

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "app/FileWords.h"
 #include "app/HelpPages.h"
 #include "app/Message.h"
 #include "app/Strings.h"
@@ -125,9 +126,9 @@ void frmSched::butDeleteIt_Click() {
       services_.changed();
     }
   } else if (const int slot = SlotOfKey(key); slot >= 0) {
-    services_.store.FreeSlot(static_cast<std::size_t>(slot));
-    services_.store.SaveSchedule();
+    const bool saved = services_.store.FreeSlot(static_cast<std::size_t>(slot));
     services_.changed();
+    SavedOrSaid(saved, LoadText(IDS_FILE_SCHEDULE), services_.messages, context_.strings);
   }
   FillLists();
   Focus(showsUsed_ ? lstShows : lstSched);  // the key may be out of use now
@@ -142,11 +143,8 @@ void frmSched::butExportIt_Click() {
   if (path.empty()) return;
   const std::string calendar = ExportCalendar(services_.store, services_.clock.LocalNow().date,
                                               services_.clock.GmtNow(), services_.shortDatePattern);
-  if (SaveWholeFile(services_.files, path, calendar)) return;
-  services_.messages.Ask({.key = "CalendarNotWritten",
-                          .caption = LoadText(IDS_SCHED_LIST_TITLE),
-                          .text = FillIn(LoadText(IDS_SCHED_EXPORT_FAILED), {path}),
-                          .firstButton = LoadText(IDS_APP_OK)});
+  SavedOrSaid(SaveWholeFile(services_.files, path, calendar), path, services_.messages,
+                                context_.strings);
 }
 
 void frmSched::butHelp_Click() { services_.help.OpenHelpPage("9019.html"); }

@@ -1,5 +1,6 @@
 #include "schedule/frmSchedChange.h"
 
+#include "app/FileWords.h"
 #include "app/HelpPages.h"
 #include "app/Message.h"
 #include "app/Strings.h"
@@ -162,10 +163,12 @@ void frmSchedChange::butOKIt_Click() {
   // The notice opens what the item carries; a station's own site is taken when it is to be opened.
   if (draft_.openWebSite && draft_.name.webSite.empty())
     draft_.name.webSite = services_.webSiteOf(draft_.stationKey);
-  services_.store.SetItem(slot_ ? *slot_ : services_.store.FirstFreeSlot(),
-                          draft_.ToItem(services_.clockStyle, services_.shortDatePattern));
-  services_.store.SaveSchedule();
+  const bool saved =
+      services_.store.SetItem(slot_ ? *slot_ : services_.store.FirstFreeSlot(),
+                              draft_.ToItem(services_.clockStyle, services_.shortDatePattern));
   services_.changed();
+  // What was entered stays on the screen until it is saved.
+  if (!SavedOrSaid(saved, LoadText(IDS_FILE_SCHEDULE), services_.messages, context_.strings)) return;
   Close(1);
 }
 

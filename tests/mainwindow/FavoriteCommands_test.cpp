@@ -114,7 +114,7 @@ TEST_F(FavoriteCommandsTest, AChangeThatCannotBeWrittenIsSaid) {
   files.SetSpaceLeft(0);
   commands.AddStationToGroup("Rock", "1");
   EXPECT_EQ(prompts.box.asked.size(), 1U);
-  EXPECT_TRUE(groups.Contains(2, "1"));
+  EXPECT_FALSE(groups.Contains(2, "1"));
   EXPECT_TRUE(File().ends_with("Rock\t2\r\n"));
 }
 

@@ -64,7 +64,6 @@ TEST_F(FavoriteGroupsTest, RemovingAStationLeavesEveryOtherByte) {
   };
   for (const Case& c : cases) {
     Load(std::string("G\t") + c.members + "\r\n");
-    files.Put("/d/favs.snr", "");
     // Loading trims the line's end, as the program does at its start.
     std::string left = c.left;
     if (std::string_view(c.members).ends_with(' ') && !left.empty()) left.pop_back();
@@ -100,14 +99,49 @@ TEST_F(FavoriteGroupsTest, MembersChangePlacesAndLostOnesStay) {
   EXPECT_EQ(groups.MoveStation(0, 0, 4), FavoriteChange::Nothing);
 }
 
-TEST_F(FavoriteGroupsTest, WhatCouldNotBeReadIsNotWrittenOver) {
+TEST_F(FavoriteGroupsTest, AChangeIsRefusedWhileTheFileCannotBeReadOrWrittenAndKeepsAllOfItAfterwards) {
   files.Put("/d/favs.snr", "Jazz\t1\r\n");
   files.Lock("/d/favs.snr");
   groups.LoadFavoriteGroups();
-  files.Unlock("/d/favs.snr");
   EXPECT_EQ(groups.Add("New"), FavoriteChange::NotSaved);
-  EXPECT_EQ(groups.Count(), 1U) << "the group is there for this run";
-  EXPECT_EQ(File(), "Jazz\t1\r\n");
+  EXPECT_EQ(groups.Count(), 0U) << "what is shown is what is on disk";
+  files.Unlock("/d/favs.snr");
+  EXPECT_EQ(groups.Add("jazz"), FavoriteChange::Nothing) << "read again before the first change";
+  EXPECT_EQ(groups.Add("New"), FavoriteChange::Saved);
+  EXPECT_EQ(File(), "Jazz\t1\r\nNew\t\r\n");
+
+  files.SetSpaceLeft(3);
+  EXPECT_EQ(groups.Remove(0), FavoriteChange::NotSaved);
+  EXPECT_EQ(groups.MoveStation(0, 0, 0), FavoriteChange::Nothing);
+  EXPECT_EQ(groups.AddStation(0, "2"), FavoriteChange::NotSaved);
+  EXPECT_EQ(groups.Name(0), "Jazz");
+  EXPECT_EQ(groups.Members(0), "1");
+  EXPECT_EQ(File(), "Jazz\t1\r\nNew\t\r\n");
+}
+
+TEST_F(FavoriteGroupsTest, TwoSessionsOnOneFolderChangeTheGroupsThatTheyMean) {
+  Load("A\t1\r\nB\t2 3\r\n");
+  FavoriteGroups other(data);
+  other.LoadFavoriteGroups();
+  EXPECT_EQ(other.Remove(0), FavoriteChange::Saved);
+  EXPECT_EQ(groups.AddStation(1, "4"), FavoriteChange::Saved);
+  EXPECT_EQ(other.Add("C"), FavoriteChange::Saved);
+  EXPECT_EQ(groups.MoveStation(0, 2, 0), FavoriteChange::Saved);
+  EXPECT_EQ(other.Rename(0, "Bee"), FavoriteChange::Saved);
+  EXPECT_EQ(groups.AddStation(0, "5"), FavoriteChange::Nothing) << "the other session renamed it";
+  EXPECT_EQ(File(), "Bee\t4 2 3\r\nC\t\r\n");
+}
+
+TEST_F(FavoriteGroupsTest, LinesThatAreDroppedAreKeptBesideFirst) {
+  const std::string text = "Jazz\t1\r\nsomebody's shopping list\r\n\r\n";
+  files.SetSpaceLeft(5);
+  Load(text);
+  EXPECT_EQ(File(), text) << "no room for the copy";
+  EXPECT_EQ(groups.Add("New"), FavoriteChange::NotSaved);
+  files.SetSpaceLeft(std::nullopt);
+  EXPECT_EQ(groups.Add("New"), FavoriteChange::Saved);
+  EXPECT_EQ(File(), "Jazz\t1\r\nNew\t\r\n");
+  EXPECT_EQ(files.Get("/d/favs.snr.bad"), text);
 }
 
 TEST_F(FavoriteGroupsTest, ACrashLeavesTheOldOrTheNewFile) {

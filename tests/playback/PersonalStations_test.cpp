@@ -157,13 +157,34 @@ TEST_F(OwnDataTest, AChangeThatCannotBeSavedDidNotHappen) {
   EXPECT_EQ(stations_.Add(Named("B")), 2);
 }
 
-TEST_F(OwnDataTest, AFileThatCouldNotBeReadIsNotOverwritten) {
+TEST_F(OwnDataTest, ALockedFileIsReadAgainBeforeTheFirstChange) {
   files_.Put("/d/personal.snr", "1\tA\t\t\t\t\t\t\r\n");
-  files_.Lock("/d/personal.snr");
+  files_.Put("/d/ownlinks.snr", "12\tOld\tmhttp://a/\r\n");
+  for (const char* name : {"/d/personal.snr", "/d/ownlinks.snr"}) files_.Lock(name);
   EXPECT_FALSE(stations_.Load());
-  files_.Unlock("/d/personal.snr");
+  EXPECT_FALSE(links_.Load());
   EXPECT_EQ(stations_.Add(Named("B")), 0);
-  EXPECT_EQ(Personal(), "1\tA\t\t\t\t\t\t\r\n");
+  EXPECT_FALSE(links_.Set(12, {}));
+  for (const char* name : {"/d/personal.snr", "/d/ownlinks.snr"}) files_.Unlock(name);
+  EXPECT_EQ(stations_.Add(Named("B")), 2);
+  EXPECT_TRUE(links_.Set(13, {{"New", "mhttp://b/"}}));
+  EXPECT_EQ(Personal(), "1\tA\t\t\t\t\t\t\r\n2\tB\t\t\t\t\t\t\r\n");
+  EXPECT_EQ(Own(), "12\tOld\tmhttp://a/\r\n13\tNew\tmhttp://b/\r\n");
+}
+
+TEST_F(OwnDataTest, TwoSessionsOnOneFolderGiveNoIndexTwiceAndKeepBothsLinks) {
+  stations_.Add(Named("A"));
+  PersonalStations other(data_);
+  ExtraLinks otherLinks(data_);
+  ASSERT_TRUE(other.Load() && otherLinks.Load());
+  EXPECT_EQ(other.Add(Named("B")), 2);
+  EXPECT_EQ(stations_.Add(Named("C")), 3);
+  EXPECT_TRUE(other.Delete(3));
+  EXPECT_FALSE(stations_.Change({.index = 3, .name = "D"})) << "it is gone";
+  EXPECT_EQ(stations_.Add(Named("E")), 4);
+  EXPECT_TRUE(links_.Set(1, {{"", "mhttp://a/"}}));
+  EXPECT_TRUE(otherLinks.Set(2, {{"", "mhttp://b/"}}));
+  EXPECT_EQ(links_.Of(1).size() + otherLinks.Of(1).size() + otherLinks.Of(2).size(), 3u);
 }
 
 TEST_F(OwnDataTest, ExtraLinksSurviveARestartAndKeepForeignLines) {

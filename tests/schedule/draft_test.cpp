@@ -208,6 +208,7 @@ TEST_F(WithStations, TheDiaryKnowsWhatComesAndWhatBegins) {
 
 TEST(ScheduleListRows, SoonestFirstWithKeysThatLeadBack) {
   FakeFiles files;
+  files.MakeFolder("data");
   DataFolder data(files, "data", '/');
   ScheduleStore store(data, "");
   ScheduleCalendar calendar(store, "");

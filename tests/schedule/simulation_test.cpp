@@ -163,7 +163,7 @@ class Simulation : public testing::TestWithParam<int> {
 // hour, and nothing in the hour that it repeats, which was told the first time.
 TEST_P(Simulation, TellsEveryItemOnceInItsMinute) {
   FakeFiles files;
-  DataFolder data(files, "data", '/');
+  DataFolder data(files, "", '/');
   ScheduleStore store(data, "");
   MakeItems(store, 4000u + static_cast<unsigned>(GetParam()));
   ScheduleCalendar calendar(store, "");

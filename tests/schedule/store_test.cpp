@@ -129,14 +129,42 @@ TEST_F(ScheduleFile, WhatTheUserTypedCannotBreakTheLine) {
   EXPECT_TRUE(store_.Item(1).Free());
 }
 
-TEST_F(ScheduleFile, AnUnreadableFileIsNotOverwritten) {
-  files_.Put("data/Sched.snr", "mine\tN\t\t1:00 PM\t\tdaily\t\r\n");
+TEST_F(ScheduleFile, AChangeIsRefusedWhileTheFileCannotBeReadOrWrittenAndKeepsAllOfItAfterwards) {
+  const std::string mine = "mine\tN\t\t1:00 PM\t\tdaily\t\r\n";
+  files_.Put("data/Sched.snr", mine);
   files_.Lock("data/Sched.snr");
   store_.LoadSchedule(kToday);
+  EXPECT_FALSE(store_.SetItem(0, {.name = "new"}));
+  EXPECT_FALSE(store_.LoadUnread());
+  EXPECT_TRUE(store_.Item(0).Free());
   files_.Unlock("data/Sched.snr");
-  store_.SetItem(0, {.name = "new"});
-  EXPECT_FALSE(store_.SaveSchedule());
-  EXPECT_EQ(files_.Get("data/Sched.snr"), "mine\tN\t\t1:00 PM\t\tdaily\t\r\n");
+  EXPECT_TRUE(store_.SetItem(0, {.name = "new"})) << "read again before the first change";
+  EXPECT_EQ(store_.Item(0).name, "mine");
+  EXPECT_EQ(store_.Item(1).name, "new");
+  const std::string both = mine + "new\t\t\t\t\t\t\r\n";
+  EXPECT_EQ(files_.Get("data/Sched.snr"), both);
+
+  files_.SetSpaceLeft(5);
+  EXPECT_FALSE(store_.FreeSlot(0));
+  EXPECT_FALSE(store_.SetItem(1, {.name = "newer"}));
+  EXPECT_EQ(store_.Item(0).name + store_.Item(1).name, "minenew") << "what is shown is what is on disk";
+  EXPECT_EQ(files_.Get("data/Sched.snr"), both);
+}
+
+TEST_F(ScheduleFile, TwoSessionsOnOneFolderKeepTheItemsOfBoth) {
+  Load("a\tN\t\t1:00 PM\t\tdaily\t\r\nb\tN\t\t1:00 PM\t\tdaily\t\r\nc\tN\t\t1:00 PM\t\tdaily\t\r\n");
+  ScheduleStore other(data_, "");
+  other.LoadSchedule(kToday);
+  EXPECT_TRUE(other.FreeSlot(0));
+  EXPECT_TRUE(other.SetItem(other.FirstFreeSlot(), {.name = "theirs"}));
+  EXPECT_TRUE(store_.SetItem(2, {.name = "changed"}));  // "c", which stands elsewhere now
+  EXPECT_TRUE(store_.SetItem(store_.FirstFreeSlot(), {.name = "mine"}));
+  EXPECT_TRUE(other.FreeSlot(1));
+  EXPECT_TRUE(store_.SetItem(1, {.name = "kept"}));
+  std::string names;
+  other.LoadSchedule(kToday);
+  for (std::size_t slot = 0; slot < 6; ++slot) names += other.Item(slot).name + " ";
+  EXPECT_EQ(names, "theirs changed mine kept   ");
 }
 
 TEST(ScheduleKinds, DayFlagsAreReadAndWrittenWithTheirOwnThursday) {
@@ -203,6 +231,18 @@ TEST(PersonalShowList, AddsOnceRemovesByTheIdentifyingPartAndTellsTheUser) {
   EXPECT_EQ(PersonalShows::DisplayName("7XMorning X Ray"), "Morning X Ray");
   shows.RemovePersonalShow("12Xwhatever");
   EXPECT_EQ(files.Get("data/Shows.snr"), "7XMorning X Ray\r\n");
+  EXPECT_EQ(box.asked.size(), 4U);
+  for (const bool locked : {true, false}) {
+    if (locked) files.Lock("data/Shows.snr");
+    files.SetSpaceLeft(3);
+    shows.AddPersonalShow("8XNews");
+    if (locked) shows.RemovePersonalShow("7X");
+    files.Unlock("data/Shows.snr");
+    EXPECT_EQ(files.Get("data/Shows.snr"), "7XMorning X Ray\r\n");
+  }
+  ASSERT_EQ(box.asked.size(), 7U);
+  for (std::size_t said = 4; said < 7; ++said) EXPECT_EQ(box.asked[said].key, "NotSaved") << said;
+  files.SetSpaceLeft(std::nullopt);
   shows.WritePersonalShows("a\r\nb\r\nnot written");
   EXPECT_EQ(files.Get("data/Shows.snr"), "a\r\nb\r\n");
 }
@@ -267,7 +307,7 @@ class Calendar : public testing::Test {
   }
 
   FakeFiles files;
-  DataFolder data{files, "data", '/'};
+  DataFolder data{files, "", '/'};
   ScheduleStore store{data, ""};
 };
 

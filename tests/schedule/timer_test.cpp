@@ -53,7 +53,7 @@ class Timer : public testing::Test {
   std::size_t Told() const { return messages_.posted.size(); }
 
   FakeFiles files_;
-  DataFolder data_{files_, "data", '/'};
+  DataFolder data_{files_, "", '/'};
   ScheduleStore store_{data_, ""};
   ScheduleCalendar calendar_{store_, ""};
   SimulatedClock clock_{{{2000, 8, 16}, {10, 0, 30}},
