@@ -298,12 +298,11 @@ std::vector<std::string> Application::GroupNames() const {
 
 void Application::ShowScan() {
   if (!scanWindow_) {
-    scanWindow_ =
-        std::make_unique<frmScan>(context_, scan_, help_,
-                                  frmScan::Groups{[this] { return GroupNames(); },
-                                                  [this](const std::string& name, const std::string& token) {
-                                                    AddScannedStation(name, token);
-                                                  }});
+    scanWindow_ = std::make_unique<frmScan>(
+        context_, scan_, help_,
+        frmScan::Groups{
+            [this] { return GroupNames(); },
+            [this](const std::string& name, const std::string& token) { AddScannedStation(name, token); }});
   }
   scanWindow_->Show();
 }
@@ -325,7 +324,8 @@ void Application::LoadUnreadFiles() {
 }
 
 void Application::TellOfFiles() {
-  if (const std::optional<Message> message = NotesMessage(data_.TakeNotes(), strings_)) messages_.Ask(*message);
+  if (const std::optional<Message> message = NotesMessage(data_.TakeNotes(), strings_))
+    messages_.Ask(*message);
 }
 
 void Application::BringForward(std::string_view view) {

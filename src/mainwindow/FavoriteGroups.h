@@ -19,10 +19,10 @@ namespace sonaro {
 class DataFolder;
 
 // What became of a change to the groups.
-enum class [[nodiscard]] FavoriteChange {
-  Nothing,  // there was nothing to change: no such group, the name is in use, the station is there already
-  Saved,
-  NotSaved  // the file could not be read or written: nothing was changed
+enum class [[nodiscard]] FavoriteChange{
+    Nothing,  // there was nothing to change: no such group, the name is in use, the station is there already
+    Saved,
+    NotSaved  // the file could not be read or written: nothing was changed
 };
 
 class FavoriteGroups {
@@ -75,7 +75,7 @@ class FavoriteGroups {
   void AppendToken(std::size_t group, std::string_view token);
 
   UserFile file_;
-  bool owesCopy_ = false;  // the file holds lines that were left out and are not kept beside yet
+  bool owesCopy_ = false;            // the file holds lines that were left out and are not kept beside yet
   std::vector<std::string> groups_;  // name, tab, members
 };
 

@@ -45,7 +45,8 @@ void SonaroFrm::mnuFavExport_Click() {
 void SonaroFrm::mnuPersonalExport_Click() {
   if (!calls_.askPlaylistToSave) return;
   const std::string path = calls_.askPlaylistToSave(FileNameFor(LoadText(IDS_EXPORT_PERSONAL_NAME)));
-  if (!path.empty() && !models_.transfer.ExportPersonalStations(path)) Ask(NotSavedMessage(path, data_.strings));
+  if (!path.empty() && !models_.transfer.ExportPersonalStations(path))
+    Ask(NotSavedMessage(path, data_.strings));
 }
 
 void SonaroFrm::mnuFavImport_Click() {

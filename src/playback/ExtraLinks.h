@@ -34,8 +34,9 @@ class ExtraLinks {
   // The links of a station in the order in which they were added.
   std::vector<ExtraLink> Of(std::int32_t stationId) const;
 
-  // Replaces all links of a station in what the file holds at that moment, and saves; links whose text is empty are left out, texts are cleaned like
-  // those of a personal station. False, with nothing changed, when it could not be saved.
+  // Replaces all links of a station in what the file holds at that moment, and saves; links whose text is
+  // empty are left out, texts are cleaned like those of a personal station. False, with nothing changed, when
+  // it could not be saved.
   [[nodiscard]] bool Set(std::int32_t stationId, const std::vector<ExtraLink>& links);
 
  private:

@@ -143,8 +143,7 @@ void frmSched::butExportIt_Click() {
   if (path.empty()) return;
   const std::string calendar = ExportCalendar(services_.store, services_.clock.LocalNow().date,
                                               services_.clock.GmtNow(), services_.shortDatePattern);
-  SavedOrSaid(SaveWholeFile(services_.files, path, calendar), path, services_.messages,
-                                context_.strings);
+  SavedOrSaid(SaveWholeFile(services_.files, path, calendar), path, services_.messages, context_.strings);
 }
 
 void frmSched::butHelp_Click() { services_.help.OpenHelpPage("9019.html"); }

@@ -163,9 +163,8 @@ void frmSchedChange::butOKIt_Click() {
   // The notice opens what the item carries; a station's own site is taken when it is to be opened.
   if (draft_.openWebSite && draft_.name.webSite.empty())
     draft_.name.webSite = services_.webSiteOf(draft_.stationKey);
-  const bool saved =
-      services_.store.SetItem(slot_ ? *slot_ : services_.store.FirstFreeSlot(),
-                              draft_.ToItem(services_.clockStyle, services_.shortDatePattern));
+  const bool saved = services_.store.SetItem(slot_ ? *slot_ : services_.store.FirstFreeSlot(),
+                                             draft_.ToItem(services_.clockStyle, services_.shortDatePattern));
   services_.changed();
   // What was entered stays on the screen until it is saved.
   if (!SavedOrSaid(saved, LoadText(IDS_FILE_SCHEDULE), services_.messages, context_.strings)) return;

@@ -162,6 +162,42 @@ TEST_F(HandClockTest, TheScheduleIsExportedAsACalendar) {
   EXPECT_NE(calendar.find("SUMMARY:Tee früh\r\n"), std::string::npos) << calendar;
 }
 
+// Another program holds the schedule from before the start: said once, nothing shown as if it were all, no
+// change taken that would lose the rest; afterwards a change keeps every item.
+TEST_F(HandClockTest, AScheduleThatIsLockedAtTheStartLosesNothing) {
+  const std::string mine = "Tea\tN\t\t4:00 PM\t\tdaily\t\r\n";
+  WriteFile("Sched.snr", mine);
+  HANDLE holder =
+      CreateFileA(PathOf("Sched.snr").c_str(), GENERIC_READ, 0, nullptr, OPEN_EXISTING, 0, nullptr);
+  ASSERT_NE(holder, INVALID_HANDLE_VALUE);
+  HWND main = StartAndShowMain();
+  const auto expectSaid = [&](const std::string& begin, HWND owner) {
+    HWND box = Sonaro().WaitForShownWindow("MsgboxFrm");
+    ASSERT_NE(box, nullptr) << begin;
+    EXPECT_TRUE(TextOf(Control(box, lblMsg)).starts_with(begin)) << TextOf(Control(box, lblMsg));
+    Click(Control(box, butMsg));
+    ASSERT_TRUE(WaitUntil([&] { return !IsWindow(box) && IsWindowEnabled(owner) != FALSE; }));
+  };
+  expectSaid("Sonaro cannot read Sched.snr", main);
+  TurnTo(10, 1);
+  EXPECT_TRUE(ShownWindows(Sonaro().Id(), "MsgboxFrm").empty()) << "said once";
+
+  Command(main, mnuActionMostPoular);
+  ASSERT_TRUE(WaitUntil([&] { return RowCount(Control(main, lstFavs)) > 3; }));
+  HWND dialog = ScheduleRow(main, 0);
+  Click(Control(dialog, cmdHowOften + 1));
+  Click(Control(dialog, butOKIt));
+  expectSaid("Your schedule could not be saved", dialog);
+  EXPECT_TRUE(IsShown(dialog)) << "what was entered is still there";
+  CloseHandle(holder);
+  EXPECT_EQ(ReadFile("Sched.snr"), mine);
+  PressOk(dialog, main);
+  const std::string both = ReadFile("Sched.snr");
+  EXPECT_TRUE(both.starts_with(mine) && both.size() > mine.size()) << both;
+  HWND list = OpenList(main);
+  EXPECT_TRUE(WaitUntil([&] { return RowCount(Control(list, lstSched)) == 2; }));
+}
+
 TEST_F(HandClockTest, WhatCameOnWhileTheProgramWasClosedIsToldTogether) {
   WriteFile("Sched.snr",
             "Tea\tN\t\t4:00 PM\t\tdaily\t\r\nOld\tN\t5/2/2005\t4:00 PM\t\tonce\t\r\nCake\tN\t5/5/2005\t5:30 "
