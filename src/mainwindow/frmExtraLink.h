@@ -31,8 +31,8 @@ class frmExtraLink final : public Form {
   void butOKIt_Click();
   void butCancelIt_Click() { Close(); }
 
-  ExtraLinks& links_;
   FormContext& context_;
+  ExtraLinks& links_;
   MessageBoxView& messages_;
   const std::int32_t stationId_;
   const std::string station_;

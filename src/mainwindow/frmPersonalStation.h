@@ -31,8 +31,8 @@ class frmPersonalStation final : public Form {
   void butCancelIt_Click() { Close(); }
   void butHelp_Click();
 
-  PersonalStations& stations_;
   FormContext& context_;
+  PersonalStations& stations_;
   MessageBoxView& messages_;
   HelpPages& help_;
   PersonalStation station_;

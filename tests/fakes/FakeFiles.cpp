@@ -27,7 +27,7 @@ class FakeFiles::Reader : public InputFile {
 
   bool ReadAt(std::uint64_t offset, char* buffer, std::size_t length) override {
     const std::string& bytes = file_->bytes;
-    if (owner_.crashed_ || file_->gone || offset > bytes.size() || length > bytes.size() - offset)
+    if (owner_.Crashed() || file_->gone || offset > bytes.size() || length > bytes.size() - offset)
       return false;
     bytes.copy(buffer, length, static_cast<std::size_t>(offset));
     owner_.bytesRead_ += length;
@@ -60,7 +60,7 @@ class FakeFiles::Writer : public OutputFile {
         return false;
     }
     file_->bytes += bytes.substr(0, taken);
-    failed_ = failed_ || taken < bytes.size() || owner_.crashed_;
+    failed_ = failed_ || taken < bytes.size() || owner_.Crashed();
     return !failed_;
   }
 
@@ -113,14 +113,18 @@ std::vector<std::string> FakeFiles::AllPaths() const {
 }
 
 void FakeFiles::Restart(AfterCrash survival) {
-  crashed_ = false;
-  operationsUntilCrash_ = 0;
-  if (survival == AfterCrash::LosesUnflushed) UndoReplacements();
-  unflushedReplacements_.clear();
+  const bool losesUnflushed =
+      survival == AfterCrash::LosesUnflushed || survival == AfterCrash::LosesUnflushedAndSettings;
+  journal_.Revive();
+  if (losesUnflushed) UndoReplacements();
+  if (survival == AfterCrash::LosesLastSetting) journal_.UndoLastSetting();
+  if (survival == AfterCrash::LosesSettings || survival == AfterCrash::LosesUnflushedAndSettings) {
+    journal_.UndoSettings();
+  }
   for (auto& [path, file] : files_) {
     file->gone = true;
     File left{file->bytes, file->flushed};
-    if (left.bytes != left.flushed && survival == AfterCrash::LosesUnflushed) left.bytes = left.flushed;
+    if (left.bytes != left.flushed && losesUnflushed) left.bytes = left.flushed;
     if (left.bytes != left.flushed && survival == AfterCrash::TearsUnflushed) {
       const auto half = static_cast<std::ptrdiff_t>(left.bytes.size() / 2);
       std::fill(left.bytes.begin() + half, left.bytes.end(), '\0');
@@ -128,11 +132,18 @@ void FakeFiles::Restart(AfterCrash survival) {
     left.flushed = left.bytes;
     file = std::make_shared<File>(std::move(left));
   }
+  Settle();
+}
+
+void FakeFiles::Settle() {
+  unflushedReplacements_.clear();
+  journal_.Settle();
+  for (const auto& [path, file] : files_) file->flushed = file->bytes;
 }
 
 std::unique_ptr<InputFile> FakeFiles::Open(const std::string& path) {
   FilePtr file = Find(path);
-  if (crashed_ || !file || locked_.contains(path)) return nullptr;
+  if (Crashed() || !file || locked_.contains(path)) return nullptr;
   return std::make_unique<Reader>(*this, std::move(file));
 }
 
@@ -159,17 +170,18 @@ bool FakeFiles::Replace(const std::string& from, const std::string& to, Durabili
 
 bool FakeFiles::Remove(const std::string& path) {
   if (Begin("remove " + path) != Step::Runs || !IsFree(path) || folders_.contains(path)) return false;
+  if (const FilePtr file = Find(path)) unflushedReplacements_.push_back({"", path, nullptr, file});
   files_.erase(path);
   return true;
 }
 
 bool FakeFiles::Exists(const std::string& path) {
-  return !crashed_ && (files_.contains(path) || folders_.contains(path));
+  return !Crashed() && (files_.contains(path) || folders_.contains(path));
 }
 
 std::vector<std::string> FakeFiles::List(const std::string& folder) {
   std::vector<std::string> names;
-  if (crashed_) return names;
+  if (Crashed()) return names;
   const auto addIfInside = [&](const std::string& path) {
     if (FolderOf(path) == folder) names.push_back(path.substr(folder.size() + 1));
   };
@@ -182,14 +194,6 @@ bool FakeFiles::MakeFolder(const std::string& path) {
   if (Begin("folder " + path) != Step::Runs || files_.contains(path)) return false;
   AddFolders(path);
   return true;
-}
-
-FakeFiles::Step FakeFiles::Begin(const std::string& operation) {
-  if (crashed_) return Step::Down;
-  log_.push_back(operation);
-  if (operationsUntilCrash_ == 0 || --operationsUntilCrash_ > 0) return Step::Runs;
-  crashed_ = true;
-  return Step::CrashesNow;
 }
 
 FakeFiles::FilePtr FakeFiles::Find(const std::string& path) const {
@@ -216,11 +220,23 @@ std::size_t FakeFiles::TakeSpace(std::size_t wanted) {
 void FakeFiles::UndoReplacements() {
   for (auto replacement = unflushedReplacements_.rbegin(); replacement != unflushedReplacements_.rend();
        ++replacement) {
-    files_[replacement->from] = replacement->newFile;
-    files_.erase(replacement->to);
+    if (replacement->newFile) {
+      files_[replacement->from] = replacement->newFile;
+      files_.erase(replacement->to);
+    } else if (files_.contains(replacement->to)) {
+      continue;  // the name is in use again: its removal has reached the disk before
+    }
     if (replacement->oldFile) files_[replacement->to] = replacement->oldFile;
   }
 }
+
+namespace {
+
+int crashPointsTried = 0;
+
+}  // namespace
+
+int CrashPointsTried() { return crashPointsTried; }
 
 int ForEachCrashPoint(const std::function<void(FakeFiles&)>& prepare,
                       const std::function<void(FakeFiles&)>& scenario,
@@ -229,14 +245,20 @@ int ForEachCrashPoint(const std::function<void(FakeFiles&)>& prepare,
   int operation = 0;
   while (!completed) {
     ++operation;
+    bool settingsChanged = true;
     for (const AfterCrash survival :
-         {AfterCrash::KeepsAll, AfterCrash::LosesUnflushed, AfterCrash::TearsUnflushed}) {
+         {AfterCrash::KeepsAll, AfterCrash::LosesUnflushed, AfterCrash::TearsUnflushed,
+          AfterCrash::LosesLastSetting, AfterCrash::LosesSettings, AfterCrash::LosesUnflushedAndSettings}) {
+      if (survival >= AfterCrash::LosesLastSetting && !settingsChanged) break;
       FakeFiles files;
       prepare(files);
+      files.Settle();
       files.CrashAt(operation);
       scenario(files);
       completed = !files.Crashed();
+      settingsChanged = files.Journal().HasUnsettled();
       files.Restart(survival);
+      ++crashPointsTried;
       check(files, {operation, survival, completed});
     }
   }

@@ -13,14 +13,19 @@
 #include <vector>
 
 #include "base/Files.h"
+#include "fakes/CrashJournal.h"
 
 namespace sonaro {
 
-// What a crash leaves of what was written and not flushed.
+// What a crash leaves of what was written and not flushed. The last three concern settings (see CrashJournal)
+// and come only for scenarios that change some.
 enum class AfterCrash {
   KeepsAll,        // the program died, the system lived on
-  LosesUnflushed,  // the power went: they are gone, and replacements that were not flushed never happened
-  TearsUnflushed   // the power went: half of them reached the disk, zeros stand for the rest
+  LosesUnflushed,  // the power went: they are gone; replacements and removals not flushed never happened
+  TearsUnflushed,  // the power went: half of them reached the disk, zeros stand for the rest
+  LosesLastSetting,
+  LosesSettings,
+  LosesUnflushedAndSettings
 };
 
 class FakeFiles : public Files {
@@ -39,15 +44,20 @@ class FakeFiles : public Files {
 
   // The changing operation of this number from now on (1 = the next) fails, an Append after half its bytes,
   // and so does everything after it until Restart. 0 = never.
-  void CrashAt(int operation) { operationsUntilCrash_ = operation; }
-  bool Crashed() const { return crashed_; }
+  void CrashAt(int operation) { journal_.CrashAt(operation); }
+  bool Crashed() const { return journal_.Crashed(); }
   // Brings the machine up again after a crash. Handles from before stay dead.
   void Restart(AfterCrash survival);
+  // Everything so far has reached the disk, settings included.
+  void Settle();
+  // For a FakeRegistry that dies with these files.
+  CrashJournal& Journal() { return journal_; }
 
   // The changing operations so far: "create /d/a", "append /d/a 12", "write /d/a 0 4", "commit /d/a flushed",
-  // "replace /d/a /d/b flushed", "remove /d/a", "folder /d".
-  const std::vector<std::string>& Log() const { return log_; }
-  void ClearLog() { log_.clear(); }
+  // "replace /d/a /d/b flushed", "remove /d/a", "folder /d",
+  // and of a registry that joined "set KEY NAME", "unset KEY NAME".
+  const std::vector<std::string>& Log() const { return journal_.Log(); }
+  void ClearLog() { journal_.ClearLog(); }
   // What all readers together were given.
   std::uint64_t BytesRead() const { return bytesRead_; }
 
@@ -69,16 +79,15 @@ class FakeFiles : public Files {
     bool gone = false;  // of an earlier life: its handles are dead
   };
   using FilePtr = std::shared_ptr<File>;
-  struct Replacement {  // one that a power cut can undo
+  struct Replacement {  // one that a power cut can undo; a removal replaces by nothing
     std::string from;
     std::string to;
-    FilePtr newFile;
+    FilePtr newFile;  // null for a removal
     FilePtr oldFile;  // null when there was none
   };
-  enum class Step { Runs, CrashesNow, Down };
+  using Step = CrashJournal::Step;
 
-  // Counts and logs a changing operation.
-  Step Begin(const std::string& operation);
+  Step Begin(const std::string& operation) { return journal_.Begin(operation); }
   FilePtr Find(const std::string& path) const;
   // Missing, or there and neither locked nor open.
   bool IsFree(const std::string& path) const;
@@ -91,10 +100,8 @@ class FakeFiles : public Files {
   std::set<std::string> folders_;
   std::set<std::string> locked_;
   std::optional<std::uint64_t> spaceLeft_;
-  int operationsUntilCrash_ = 0;
-  bool crashed_ = false;
+  CrashJournal journal_;
   std::uint64_t bytesRead_ = 0;
-  std::vector<std::string> log_;
 };
 
 struct CrashPoint {
@@ -105,9 +112,12 @@ struct CrashPoint {
 
 // Runs `scenario` on freshly prepared files with the crash at its first, second, third ... changing operation
 // and every kind of survival, last with the crash right after it, and lets `check` look at the files after
-// each restart. Returns the number of the scenario's operations.
+// each restart. Returns the number of the scenario's operations. What `prepare` makes is on the disk.
 int ForEachCrashPoint(const std::function<void(FakeFiles&)>& prepare,
                       const std::function<void(FakeFiles&)>& scenario,
                       const std::function<void(FakeFiles&, const CrashPoint&)>& check);
+
+// How many restarts all calls together have looked at.
+int CrashPointsTried();
 
 }  // namespace sonaro

@@ -1,4 +1,6 @@
-// A registry in memory. Names ignore letter case, as the real one does.
+// A registry in memory. Names ignore letter case, as the real one does. Made with a journal, it dies with the
+// files of that journal: writing and removing a value are operations that a crash can hit, and a power cut
+// can undo them afterwards. A key that is made stays.
 #pragma once
 
 #include <map>
@@ -10,12 +12,16 @@
 #include <vector>
 
 #include "base/Text.h"
+#include "fakes/CrashJournal.h"
 #include "platform/Registry.h"
 
 namespace sonaro {
 
 class FakeRegistry : public Registry {
  public:
+  FakeRegistry() = default;
+  explicit FakeRegistry(CrashJournal& journal) : journal_(&journal) {}
+
   struct Value {
     ValueType type = ValueType::Text;
     std::string bytes;
@@ -51,7 +57,7 @@ class FakeRegistry : public Registry {
     return !Denied(root) && keys_.contains(Id(root, key));
   }
   bool CreateKey(RootKey root, const std::string& key) override {
-    if (!Denied(root)) AddKeys(root, key);
+    if (!Denied(root) && !(journal_ && journal_->Crashed())) AddKeys(root, key);
     return KeyExists(root, key);
   }
   std::optional<std::string> ReadValue(RootKey root, const std::string& key,
@@ -61,7 +67,7 @@ class FakeRegistry : public Registry {
   }
   bool WriteValue(RootKey root, const std::string& key, const std::string& name, ValueType type,
                   std::string_view bytes) override {
-    if (Denied(root) || !keys_.contains(Id(root, key))) return false;
+    if (Denied(root) || !keys_.contains(Id(root, key)) || !Begins("set ", root, key, name)) return false;
     values_[Id(root, key)][FoldCase(name)] = {type, std::string(bytes)};
     writes.push_back({root, key, name, {type, std::string(bytes)}});
     return true;
@@ -74,11 +80,24 @@ class FakeRegistry : public Registry {
     return names;
   }
   bool RemoveValue(RootKey root, const std::string& key, const std::string& name) override {
-    const auto names = values_.find(Id(root, key));
-    return !Denied(root) && names != values_.end() && names->second.erase(FoldCase(name)) == 1;
+    if (Denied(root) || !Stored(root, key, name) || !Begins("unset ", root, key, name)) return false;
+    return values_[Id(root, key)].erase(FoldCase(name)) == 1;
   }
 
  private:
+  // Announces a change to the journal, with the way back. False when the machine is dead.
+  bool Begins(const char* what, RootKey root, const std::string& key, const std::string& name) {
+    if (!journal_) return true;
+    if (journal_->Begin(what + key + ' ' + name) != CrashJournal::Step::Runs) return false;
+    journal_->SettingChanged([this, root, key, name, before = Stored(root, key, name)] {
+      if (before) {
+        values_[Id(root, key)][FoldCase(name)] = *before;
+      } else {
+        values_[Id(root, key)].erase(FoldCase(name));
+      }
+    });
+    return true;
+  }
   bool Denied(RootKey root) const { return writesDenied || deniedRoots.contains(root); }
   using KeyId = std::pair<RootKey, std::string>;
   static KeyId Id(RootKey root, const std::string& key) { return {root, FoldCase(key)}; }
@@ -92,6 +111,7 @@ class FakeRegistry : public Registry {
     }
   }
 
+  CrashJournal* journal_ = nullptr;  // not owned
   std::set<KeyId> keys_;
   std::map<KeyId, std::map<std::string, Value>> values_;
 };
