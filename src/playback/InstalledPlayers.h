@@ -22,8 +22,8 @@ class InstalledPlayers {
   InstalledPlayers(CReg& reg, DataFolder& data, const Players& players)
       : reg_(reg), data_(data), players_(players) {}
 
-  // The registered applications that open .m3u, .pls, .mp3 or .asx files, and the programs that such files are
-  // associated with or can be opened with; each program once.
+  // The registered applications that open .m3u, .pls, .mp3 or .asx files, and the programs that such files
+  // are associated with or can be opened with; each program once.
   std::vector<PlayerProgram> Find() const;
 
  private:

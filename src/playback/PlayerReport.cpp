@@ -29,7 +29,8 @@ PlayerReport::Line PlayerReporter::OfKind(std::size_t stations, const std::strin
 
 PlayerReport PlayerReporter::OfProgram(std::size_t stations, const std::string& program) const {
   if (!data_.FileSystem().Exists(program)) {
-    return {PlayerReport::Plays::Nothing, {{{strings_.Load(IDS_NOPLAYER_CANT_FIND) + program, true}, {}, {}}}};
+    return {PlayerReport::Plays::Nothing,
+            {{{strings_.Load(IDS_NOPLAYER_CANT_FIND) + program, true}, {}, {}}}};
   }
   return {PlayerReport::Plays::Everything,
           {{{FillIn(strings_.Load(IDS_PLAYERS_ALL), {Figure(stations), FileNameOf(program)})}, {}, {}}}};
@@ -48,7 +49,7 @@ PlayerReport PlayerReporter::Report(const LinkCounts& counts, const std::string&
                counts.asxProgram > counts.realPlayer ? IDS_PLAYERS_ASX_NONE_MOST : IDS_PLAYERS_ASX_NONE);
     report.lines[1] = OfKind(counts.realPlayer, real, IDS_PLAYERS_REAL, IDS_PLAYERS_REAL_NONE);
     const bool nothing = asx.empty() && real.empty();
-    report.plays = nothing ? PlayerReport::Plays::Nothing
+    report.plays = nothing                                              ? PlayerReport::Plays::Nothing
                    : report.lines[0].missing || report.lines[1].missing ? PlayerReport::Plays::Some
                                                                         : PlayerReport::Plays::Everything;
   }

@@ -198,18 +198,15 @@ void frmStartUpInfo::ShowReport() {
     SetInk(kLines[line], report.lines[line].missing ? Ink::Alert : Ink::Signal);
     SetText(kLines[line], report.lines[line].text);
   }
-  const int none = IDS_STARTUP_PLAYER_HEAD;
-  const int some = report.plays == Plays::Some ? IDS_STARTUP_SOME_HEAD : IDS_STARTUP_WELL_HEAD;
-  const int head = report.plays == Plays::Nothing ? none : some;
-  switch (page_) {
-    case StartUpInfoPage::NoPlayer:
-      return ShowTexts(IDS_STARTUP_CHOOSE_TITLE, head == none ? none : IDS_STARTUP_THIS_HEAD,
-                       IDS_NOPLAYER_TEXT);
-    case StartUpInfoPage::ChoosePlayer:
-      return ShowTexts(IDS_STARTUP_CHOOSE_TITLE, head, IDS_STARTUP_CHOOSE_TEXT);
-    default:
-      return ShowTexts(IDS_STARTUP_TITLE, head,
-                       head == none ? IDS_STARTUP_PLAYER_TEXT : IDS_STARTUP_CHOOSE_TEXT);
+  const bool none = report.plays == Plays::Nothing;
+  const int head = none                          ? IDS_STARTUP_PLAYER_HEAD
+                   : report.plays == Plays::Some ? IDS_STARTUP_SOME_HEAD
+                                                 : IDS_STARTUP_WELL_HEAD;
+  const int title = page_ == StartUpInfoPage::Player ? IDS_STARTUP_TITLE : IDS_STARTUP_CHOOSE_TITLE;
+  if (page_ == StartUpInfoPage::NoPlayer) {
+    ShowTexts(title, none ? head : IDS_STARTUP_THIS_HEAD, IDS_NOPLAYER_TEXT);
+  } else {
+    ShowTexts(title, head, none ? IDS_STARTUP_PLAYER_TEXT : IDS_STARTUP_CHOOSE_TEXT);
   }
 }
 

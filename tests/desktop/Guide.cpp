@@ -27,11 +27,14 @@ StationRecord StationIn(const std::string& folder, const std::string& identifier
   return record;
 }
 
-std::string StationLine(int identifier, const std::string& name, const std::string& linkText) {
+std::string StationLine(int identifier, const std::string& name, const std::string& linkText,
+                        const std::string& webSite) {
   StationRecord record;
   record[StationField::Name] = name;
   record[StationField::LinkOne] = linkText;
-  ScrambleText(record[StationField::LinkOne], BuiltInAlphabets());
+  record[StationField::WebSite] = webSite;
+  for (const StationField field : {StationField::LinkOne, StationField::WebSite})
+    ScrambleText(record[field], BuiltInAlphabets());
   std::string line = std::to_string(identifier);
   for (const std::string& field : record.fields) line += "\t" + field;
   return line + "\r\n";

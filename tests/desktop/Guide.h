@@ -11,8 +11,9 @@ namespace sonaro::desktop {
 
 // The station of the data folder, its links and web site unscrambled; empty when there is none.
 StationRecord StationIn(const std::string& folder, const std::string& identifier);
-// A line of "station.snr" for a station with this link text (scrambled here).
-std::string StationLine(int identifier, const std::string& name, const std::string& linkText);
+// A line of "station.snr" for a station with this link text and web site (scrambled here).
+std::string StationLine(int identifier, const std::string& name, const std::string& linkText,
+                        const std::string& webSite = "");
 // An event of station 1 at a GMT stamp ("200505052215").
 EventRecord Event(int id, const std::string& name, const std::string& station, const std::string& startGmt,
                   const std::string& webSite = "");

@@ -25,7 +25,8 @@ class PlayerSetupTest : public testing::Test, protected PlaybackWorld {
     registry.Put(root, "SOFTWARE\\RegisteredApplications", name, capabilities);
     registry.Put(root, capabilities + "\\FileAssociations", kind, fileClass);
   }
-  // What is left of a text once strings are numbers: its number and its figures stand in the template's place.
+  // What is left of a text once strings are numbers: its number and its figures stand in the template's
+  // place.
   std::vector<std::string> Lines(const PlayerReport& report) {
     std::vector<std::string> lines;
     for (const auto& line : report.lines) lines.push_back((line.missing ? "!" : "") + line.text);
