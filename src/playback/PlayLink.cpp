@@ -65,12 +65,31 @@ bool IsBareHost(std::string_view authority) {
 
 bool IsHexDigit(char c) { return IsDigit(c) || (LowerAscii(c) >= 'a' && LowerAscii(c) <= 'f'); }
 
-// "%20" stands for a byte; any other percent sign may begin the name of a variable.
-bool EveryPercentIsACode(std::string_view text) {
-  for (std::size_t at = text.find('%'); at != std::string_view::npos; at = text.find('%', at + 1)) {
-    if (at + 2 >= text.size() || !IsHexDigit(text[at + 1]) || !IsHexDigit(text[at + 2])) return false;
+// "%20" at the position, which stands for a byte.
+bool IsCode(std::string_view text, std::size_t at) {
+  return at + 2 < text.size() && IsHexDigit(text[at + 1]) && IsHexDigit(text[at + 2]);
+}
+
+bool IsVariableName(std::string_view text) {
+  return !text.empty() && (IsLetter(text[0]) || text[0] == '_') &&
+         std::all_of(text.begin(), text.end(),
+                     [](char c) { return IsLetter(c) || IsDigit(c) || c == '_' || c == '(' || c == ')'; });
+}
+
+// "%TEMP%": a name between two percent signs of which not both begin a code. A single percent sign stays what
+// it is, as some services write their addresses.
+bool NamesAVariable(std::string_view text) {
+  std::size_t before = text.find('%');
+  while (before != std::string_view::npos) {
+    const std::size_t next = text.find('%', before + 1);
+    if (next == std::string_view::npos) return false;
+    if (IsVariableName(text.substr(before + 1, next - before - 1)) &&
+        !(IsCode(text, before) && IsCode(text, next))) {
+      return true;
+    }
+    before = next;
   }
-  return true;
+  return false;
 }
 
 bool IsOneArgument(std::string_view text) {
@@ -97,7 +116,7 @@ std::string PercentEncodeBeyondAscii(std::string_view text) {
 
 std::optional<std::string> PlayerArgument(std::string_view address) {
   const std::string_view text = TrimBlanks(address);
-  if (!IsOneArgument(text) || !EveryPercentIsACode(text)) return std::nullopt;
+  if (!IsOneArgument(text) || NamesAVariable(text)) return std::nullopt;
   const std::size_t schemeEnd = text.find("://");
   const std::size_t pathBegin = text.find_first_of("/?#");
   if (schemeEnd != std::string_view::npos && schemeEnd < pathBegin) {

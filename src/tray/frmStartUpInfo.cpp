@@ -156,6 +156,7 @@ void frmStartUpInfo::OnLoad() {
     ShowTexts(IDS_STARTUP_TITLE, IDS_STARTUP_PROXY_HEAD, IDS_STARTUP_PROXY_TEXT);
     SetText(lblProxyFound, proxy_);
     Check(optUseProxy);
+    Check(chkDontShow);  // a proxy that was decided on need not be asked for again
   } else {
     counts_ = needs_.reporter.CountLinks();
     OfferPrograms(needs_.player.Chosen());
