@@ -3,6 +3,7 @@
 #pragma once
 
 #include <cstdint>
+#include <functional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -32,6 +33,10 @@ bool ContainsIgnoringCase(std::string_view text, std::string_view part);
 
 // Three-way order of two texts, letter case ignored: negative, 0 or positive.
 int CompareIgnoringCase(std::string_view a, std::string_view b);
+
+// Gives a text's sort key: bytes whose order is the order of the texts. FoldCase is one; the order of the
+// user's language is SystemInfo::SortKey.
+using SortKeyOf = std::function<std::string(std::string_view text)>;
 
 // The lines of a whole file: CR LF, LF and a last line without an end are all read; the ends are cut off.
 std::vector<std::string_view> SplitLines(std::string_view text);

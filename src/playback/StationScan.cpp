@@ -103,8 +103,8 @@ void StationScan::MoveRow(std::size_t from, std::size_t to) {
 void StationScan::Remove(std::size_t row) {
   if (row >= queue_.size()) return;
   queue_.erase(queue_.begin() + static_cast<std::ptrdiff_t>(row));
+  QueueRowsChanged({.at = row, .removed = 1});
   ShowLists();
-  if (!queue_.empty() && view_) view_->SelectQueueRow(std::min(row, queue_.size() - 1));
   ShowState();
 }
 
@@ -157,7 +157,7 @@ void StationScan::CountFromNow() {
 void StationScan::PlayFirst() {
   const StationKey key = queue_.front();
   queue_.pop_front();
-  if (view_) view_->FirstQueueRowLeft();
+  QueueRowsChanged({.at = 0, .removed = 1});
   current_ = Describe(key);
   ShowLists();
   PlayCurrent();
@@ -214,6 +214,7 @@ std::size_t StationScan::Add(std::span<const std::string> rowKeys, std::optional
   }
   const std::size_t before = std::min(at.value_or(queue_.size()), queue_.size());
   queue_.insert(queue_.begin() + static_cast<std::ptrdiff_t>(before), keys.begin(), keys.end());
+  QueueRowsChanged({.at = before, .inserted = keys.size()});
   ShowLists();
   ShowState();
   return keys.size();
@@ -301,6 +302,10 @@ void StationScan::ReadScanTime() {
 
 void StationScan::ShowState() {
   if (view_) view_->ShowState();
+}
+
+void StationScan::QueueRowsChanged(const RowsChange& change) {
+  if (view_) view_->QueueRowsChanged(change);
 }
 
 void StationScan::ShowLists() {

@@ -13,6 +13,7 @@
 #include <string_view>
 #include <vector>
 
+#include "base/RowSelection.h"
 #include "playback/StationKey.h"
 
 namespace sonaro {
@@ -31,8 +32,8 @@ class ScanView {
   virtual void ShowTimeLeft() = 0;  // only the seconds changed
   virtual void ShowLists() = 0;     // rows came or went
   virtual void SelectQueueRow(std::size_t row) = 0;
-  // The first row left the queue: what is selected or dragged now stands one row higher.
-  virtual void FirstQueueRowLeft() = 0;
+  // Rows of the queue came or went: what is selected or dragged stands elsewhere now. Before ShowLists.
+  virtual void QueueRowsChanged(const RowsChange& change) = 0;
   virtual void EnableTimer(bool on) = 0;  // tmrScan, which calls Tick every 1000 milliseconds
 };
 
@@ -129,6 +130,7 @@ class StationScan {
   void Resume();
   void CountFromNow();
   int CountTick() const;
+  void QueueRowsChanged(const RowsChange& change);
   void ShowLists();
   void ShowState();
   void EnableTimer(bool on);

@@ -114,14 +114,22 @@ void frmScan::ShowLists() {
 
 void frmScan::SelectQueueRow(std::size_t row) { List(lstToScan).Select(static_cast<int>(row)); }
 
-void frmScan::FirstQueueRowLeft() {
-  if (draggedRow_ == 0) {
+void frmScan::QueueRowsChanged(const RowsChange& change) {
+  if (!IsOpen()) return;
+  const std::size_t count = scan_.QueueCount();
+  const auto after = [&](int row) {
+    const auto place = SelectionAfter(change, static_cast<std::size_t>(row), count);
+    return place ? static_cast<int>(*place) : -1;
+  };
+  const int at = static_cast<int>(change.at);
+  if (draggedRow_ >= at && draggedRow_ < at + static_cast<int>(change.removed)) {
     ReleaseCapture();  // the dragged station itself went to play
-  } else if (draggedRow_ > 0) {
-    --draggedRow_;
+  } else if (draggedRow_ >= 0) {
+    draggedRow_ = after(draggedRow_);
   }
   const int selected = List(lstToScan).Selected();
-  if (selected > 0) List(lstToScan).Select(selected - 1);
+  List(lstToScan).RowsChanged();
+  if (selected >= 0) List(lstToScan).Select(after(selected));
 }
 
 void frmScan::EnableTimer(bool on) {

@@ -62,7 +62,7 @@ class frmScan final : public Form, private ScanView {
   void ShowTimeLeft() override;
   void ShowLists() override;
   void SelectQueueRow(std::size_t row) override;
-  void FirstQueueRowLeft() override;
+  void QueueRowsChanged(const RowsChange& change) override;
   void EnableTimer(bool on) override;
 
   std::optional<std::size_t> QueueRow();

@@ -7,6 +7,7 @@
 #include "app/Message.h"
 #include "app/Strings.h"
 #include "base/DataFolder.h"
+#include "base/RowSelection.h"
 #include "forms/ControlIds.h"
 #include "forms/FileDialog.h"
 #include "platform/Clock.h"
@@ -34,28 +35,35 @@ void frmSched::Rows::Load(int nameText, int emptyText, int emptyHelp) {
   list.SetModel(this, false);
 }
 
+std::vector<std::string> frmSched::Rows::Keys() const {
+  std::vector<std::string> keys;
+  keys.reserve(rows_.size());
+  for (const ScheduleRow& row : rows_) keys.push_back(row.key);
+  return keys;
+}
+
 void frmSched::Rows::Fill(std::vector<ScheduleRow> rows) {
-  const std::string selected = SelectedKey();
+  const std::vector<std::string> before = Keys();
   rows_ = std::move(rows);
-  ShowSorted(selected);
+  ShowSorted(before);
 }
 
 void frmSched::Rows::SortBy(int column) {
   sortedBy_ = column;
-  ShowSorted(SelectedKey());
+  ShowSorted(Keys());
 }
 
-void frmSched::Rows::ShowSorted(const std::string& selected) {
+void frmSched::Rows::ShowSorted(const std::vector<std::string>& before) {
   ListView& list = form_.List(list_);
-  const int place = list.Selected();
+  const int selected = list.Selected();
   SortRows(rows_, sortedBy_);
   for (int column = 0; column < kScheduleColumns; ++column) {
     form_.SetSortMark(firstHeader_ + column, column == sortedBy_ ? SortMark::Up : SortMark::None);
   }
   list.RowsChanged();
-  const auto same =
-      std::find_if(rows_.begin(), rows_.end(), [&](const ScheduleRow& row) { return row.key == selected; });
-  list.Select(same != rows_.end() ? static_cast<int>(same - rows_.begin()) : std::min(place, RowCount() - 1));
+  const auto after =
+      selected >= 0 ? SelectionAfterFill(before, static_cast<std::size_t>(selected), Keys()) : std::nullopt;
+  list.Select(after ? static_cast<int>(*after) : -1);
 }
 
 std::string frmSched::Rows::SelectedKey() const {

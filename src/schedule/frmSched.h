@@ -28,14 +28,15 @@ class frmSched final : public Form {
     std::string Cell(int row, int column) const override;
 
     void Load(int nameText, int emptyText, int emptyHelp);
-    // The selection stays with its row, or at its place when that is gone.
+    // The selection follows the rule of base/RowSelection.h.
     void Fill(std::vector<ScheduleRow> rows);
     void SortBy(int column);
     // "" without one.
     std::string SelectedKey() const;
 
    private:
-    void ShowSorted(const std::string& selected);
+    std::vector<std::string> Keys() const;
+    void ShowSorted(const std::vector<std::string>& before);
 
     Form& form_;
     const int list_;

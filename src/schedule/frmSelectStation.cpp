@@ -89,8 +89,8 @@ void frmSelectStation::OnLoad() {
 void frmSelectStation::ShowRows(std::vector<PickRow> rows) {
   rows_.rows = std::move(rows);
   List(lstResult).RowsChanged();
-  List(lstResult).Select(rows_.rows.empty() ? -1 : 0);
-  Enable(butOKIt, !rows_.rows.empty());
+  List(lstResult).SelectNone();
+  Enable(butOKIt, false);
 }
 
 void frmSelectStation::cmbSelectGroup_Change() {

@@ -15,6 +15,7 @@ namespace sonaro {
 
 class FakeScanView : public ScanView {
  public:
+  const StationScan* scan = nullptr;
   std::vector<bool> timer;  // every EnableTimer
   std::optional<std::size_t> selected;
   int listsShown = 0;
@@ -23,8 +24,8 @@ class FakeScanView : public ScanView {
   void ShowTimeLeft() override {}
   void ShowLists() override { ++listsShown; }
   void SelectQueueRow(std::size_t row) override { selected = row; }
-  void FirstQueueRowLeft() override {
-    if (selected && *selected > 0) --*selected;
+  void QueueRowsChanged(const RowsChange& change) override {
+    if (selected) selected = SelectionAfter(change, *selected, scan->QueueCount());
   }
   void EnableTimer(bool on) override { timer.push_back(on); }
   bool TimerOn() const { return !timer.empty() && timer.back(); }
@@ -52,6 +53,7 @@ class StationScanTest : public testing::Test, protected PlaybackWorld {
     personal.Add(own);
     launch.SetView(&windows_);
     reg.SetSetting("ScanTime", "20");
+    view_.scan = &scan_;
     scan_.Open(view_);
   }
   void Add(std::vector<std::string> rowKeys) { scan_.Add(rowKeys); }

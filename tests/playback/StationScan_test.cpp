@@ -195,12 +195,14 @@ TEST_F(StationScanTest, QueueEdits) {
   EXPECT_EQ(Queue(), "S1 P1 S2 S3 ");
   scan_.Remove(3);
   EXPECT_EQ(Queue(), "S1 P1 S2 ");
-  EXPECT_EQ(view_.selected, 2u);
+  EXPECT_EQ(view_.selected, 1u);
   scan_.Remove(3);
   EXPECT_EQ(Queue(), "S1 P1 S2 ");
   const std::vector<std::string> dropped = {"S3", "S3"};
   EXPECT_EQ(scan_.Add(dropped, 1), 2u);
+  EXPECT_EQ(view_.selected, 3u) << "stations dropped above the selected one leave it selected";
   EXPECT_EQ(scan_.Add(dropped, 99), 2u);
+  EXPECT_EQ(view_.selected, 3u);
   EXPECT_EQ(Queue(), "S1 S3 S3 P1 S2 S3 S3 ");
 }
 
