@@ -17,6 +17,7 @@
 #include "net/ServiceUrlTable.h"
 #include "platform/Shell.h"
 #include "platform/Sound.h"
+#include "platform/SystemInfo.h"
 #include "playback/frmScan.h"
 #include "resources/texts/app.h"
 #include "resources/texts/net.h"
@@ -145,7 +146,8 @@ void Application::LoadMainWindow() {
   schedule_->SetPlaySound([this] { PlaySoundFile(kNotifySound); });
   main_ = std::make_unique<SonaroFrm>(
       context_,
-      GuideData{data_, reg_, strings_, state_, stations_, personal_, extra_, recent_, favorites_, source_},
+      GuideData{data_, reg_, strings_, state_, stations_, personal_, extra_, recent_, favorites_, source_,
+                [this](std::string_view text) { return platform_.systemInfo.SortKey(text); }},
       player_, pages_, MakeMainWindowCalls());
   main_->Create();
   platform_.shell.SetMainWindow(main_->Window());

@@ -30,6 +30,7 @@ inline constexpr int butSplit2 = 1054;
 inline constexpr int butSplit3 = 1055;
 inline constexpr int butSplit4 = 1056;
 inline constexpr int lstFavs = 1057;
+inline constexpr int butMissing = 1058;  // members of the group on show that the guide does not know
 inline constexpr int lblSide = 1061;
 inline constexpr int butNewStations = 1062;
 inline constexpr int butMostPop = 1063;
@@ -301,6 +302,7 @@ inline constexpr int mnuActionExtraLink = 3162;
 inline constexpr int mnuActionMoveUp = 3163;
 inline constexpr int mnuActionMoveDown = 3164;
 inline constexpr int mnuRemoveRow = 3175;             // a key only: what removing means for the list on show
+inline constexpr int mnuRemoveFocusedGroup = 3176;    // a key only: on a key of the group bar
 inline constexpr int mnuActionStationToGroup = 3165;  // 10 numbers: one for each group key
 // Favourite groups: the group bar's own menu and the program menu.
 inline constexpr int mnuAddFavGroupButton = 3191;

@@ -118,8 +118,13 @@ void PaintGroupKey(const Canvas& c) {
   const Type figure = c.key.state.empty ? Type::Small : Type::SmallStrong;
   c.DrawText({c.box.left + c.Px(8), c.box.top, c.box.left + c.Px(22), c.box.bottom}, c.key.detail, figure,
              c.face.secondText, DT_NOPREFIX);
-  c.DrawText({c.box.left + c.Px(20), c.box.top, c.box.right - c.Px(6), c.box.bottom}, c.key.text,
-             c.BodyType(), c.face.text, c.Prefix());
+  if (c.key.state.empty) {
+    const int middle = static_cast<int>(c.box.left + c.box.right) / 2;
+    if (c.key.state.hover || c.key.focused) c.DrawIcon(Icon::Add, middle - c.Px(7), 14, c.face.icon);
+  } else {
+    c.DrawText({c.box.left + c.Px(20), c.box.top, c.box.right - c.Px(6), c.box.bottom}, c.key.text,
+               c.BodyType(), c.face.text, c.Prefix());
+  }
   PaintFocus(c, c.Px(kCut));
 }
 
@@ -281,7 +286,7 @@ KeyTextRoom MeasureKey(const RECT& box, const KeyPicture& key, const Painter& pa
     case Kind::RankingKey:
       return {needed(Type::BodyStrong), width - painter.Px(44)};
     case Kind::GroupKey:
-      return {needed(Type::BodyStrong), width - painter.Px(26)};
+      return {key.state.empty ? 0 : needed(Type::BodyStrong), width - painter.Px(26)};
     case Kind::PlayKey: {
       const bool numbered = key.detail.find(L'\t') != std::wstring::npos;
       return {needed(Type::MessageStrong), width - painter.Px(numbered ? 80 : 42)};

@@ -188,6 +188,10 @@ class Form {
   void SetText(int id, std::string_view text);
   // PlayKey: second line, then perhaps a tab and the link's number ("64 kbit/s\t2"). GroupKey: its figure.
   void SetDetail(int id, std::string_view text);
+  // GroupKey: an empty socket can be pressed like a key; its text is what pressing it does, read out, not
+  // drawn.
+  void SetEmptySocket(int id, bool empty);
+  bool IsEmptySocket(int id) const;
   void SetIcon(int id, Icon icon);
   void SetInk(int id, Ink ink);  // a label that reports trouble or success
   void SetTip(int id, std::string_view text);

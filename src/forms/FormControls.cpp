@@ -55,6 +55,18 @@ void Form::SetDetail(int id, std::string_view text) {
   parts_->RepaintItem(*item);
 }
 
+void Form::SetEmptySocket(int id, bool empty) {
+  FormItem* item = parts_->Find(id);
+  if (!item || item->emptySocket == empty) return;
+  item->emptySocket = empty;
+  parts_->RepaintItem(*item);
+}
+
+bool Form::IsEmptySocket(int id) const {
+  const FormItem* item = parts_->Find(id);
+  return item && item->emptySocket;
+}
+
 void Form::SetIcon(int id, Icon icon) {
   FormItem* item = parts_->Find(id);
   if (!item || item->icon == icon) return;

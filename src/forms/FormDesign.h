@@ -34,7 +34,7 @@ enum class Kind : unsigned char {
   ToggleKey,   // push key that can be active (SetToggle); an array of them is moved through by the arrow keys
   StripKey,    // icon only; the text becomes the tool tip
   RankingKey,  // toggle with icon at the left
-  GroupKey,    // toggle "1 Jazz"; without a text (SetText "") an empty socket
+  GroupKey,    // toggle "1 Jazz", or an empty socket (Form::SetEmptySocket)
   PlayKey,     // two lines: text "Play MP3", second line by SetDetail
   HeaderKey,   // over a list column: SetSortMark shows the active one
   TabKey,      // one of the dial's tabs (SetToggle); stands on a row of kind Dial

@@ -31,10 +31,7 @@ void ColourCalendar(HWND calendar, const FaceplateColors& colors) {
   MonthCal_SetColor(calendar, MCSC_TRAILINGTEXT, ToColorRef(colors.textOff));
 }
 
-bool IsUsable(const FormItem& item) {
-  const bool emptySocket = item.KindOf() == Kind::GroupKey && GetWindowTextLengthW(item.window) == 0;
-  return item.shown && IsWindowEnabled(item.window) && !emptySocket;
-}
+bool IsUsable(const FormItem& item) { return item.shown && IsWindowEnabled(item.window); }
 
 void SetTabStop(HWND control, bool stop) {
   const LONG_PTR style = GetWindowLongPtrW(control, GWL_STYLE);

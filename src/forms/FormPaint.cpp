@@ -225,7 +225,7 @@ KeyPicture FormParts::PictureOf(const FormItem& item) const {
   key.state.disabled = !IsWindowEnabled(item.window);
   key.state.active = (IsToggle(item.KindOf()) || IsCheck(item.KindOf())) &&
                      SendMessageW(item.window, BM_GETCHECK, 0, 0) == BST_CHECKED;
-  key.state.empty = item.KindOf() == Kind::GroupKey && key.text.empty();
+  key.state.empty = item.emptySocket;
   if (key.kind == Kind::TabKey) {
     key.dialOffset = DialOffset(item);
     key.needle = NeedleOn(item, key.state.active);

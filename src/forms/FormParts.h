@@ -32,6 +32,7 @@ struct FormItem {
   bool wanted = true;          // not hidden by kHidden or ShowControl
   bool shown = false;          // wanted, in a shown pane, and with a place in the layout
   bool hover = false;
+  bool emptySocket = false;  // GroupKey
   bool groupStart = true;
   PixelRect place;  // of the row's rectangle; the window may be smaller (an edit in its glass)
   std::string detail;

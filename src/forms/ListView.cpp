@@ -118,6 +118,16 @@ void ListView::Select(int row) {
   SyncScrollBar();
 }
 
+void ListView::SelectNone() {
+  Select(-1);
+  if (ListView_GetItemCount(list_) == 0) return;
+  quiet_ = true;
+  ListView_SetItemState(list_, 0, LVIS_FOCUSED, LVIS_FOCUSED);
+  ListView_EnsureVisible(list_, 0, FALSE);
+  quiet_ = false;
+  SyncScrollBar();
+}
+
 void ListView::RepaintRows() { InvalidateRect(list_, nullptr, FALSE); }
 
 int ListView::RowAt(POINT screen) const {

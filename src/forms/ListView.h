@@ -24,7 +24,6 @@ class ListModel {
   virtual int RowCount() const = 0;
   virtual std::string Cell(int row, int column) const = 0;
   virtual int Symbol(int /*row*/) const { return -1; }  // reliability 0 to 4; -1: none
-  virtual bool IsGreyed(int /*row*/) const { return false; }
   // The one row only says that there is nothing: it is drawn as the picture of an empty list.
   virtual bool IsNotice() const { return false; }
 };
@@ -56,6 +55,9 @@ class ListView final : public FormControl {
   int Selected() const;  // -1: none
   // Selects one row only and scrolls it into view; -1: none. Raises no event.
   void Select(int row);
+  // After a fill that chooses nothing: no row is selected, and the keys go on from the first, which is in
+  // sight.
+  void SelectNone();
   void RepaintRows();
   int RowAt(POINT screen) const;  // -1: none
   RECT RowBox(int row) const;     // client pixels of the form

@@ -79,7 +79,6 @@ void ListView::PaintCells(HDC dc, int row, const RECT& box, bool selected, bool 
     leading = leading && !strong;
     Color ink = strong || (selected && !column.figure) ? colors.glassText : colors.glassMuted;
     if (selected && focused) ink = colors.rowSelectedText;
-    if (model_->IsGreyed(row)) ink = colors.glassMuted;
     look.Text(dc, TextBox(i, box), model_->Cell(row, static_cast<int>(i)),
               column.figure        ? Type::Small
               : strong && selected ? Type::BodyStrong

@@ -58,6 +58,7 @@ int BrowseTree::AddNode(int parent, std::string key, std::string_view text, std:
   node.text = text;
   node.tag = std::move(tag);
   node.parent = parent;
+  if (parent != BrowseNode::kRoot) node.level = Node(parent).level + 1;
   nodes_.push_back(std::move(node));
   auto& siblings = parent == BrowseNode::kRoot ? roots_ : nodes_[static_cast<std::size_t>(parent)].children;
   siblings.push_back(index);
@@ -76,6 +77,7 @@ void BrowseTree::ExpandCategory(const std::string& tag, int category, std::strin
       const auto found = entries.find(fields[3]);
       if (found == entries.end()) continue;  // an entry must come after its parent
       parent = found->second;
+      if (Node(parent).level == BrowseNode::kLowestLevel) parent = Node(parent).parent;
     }
     const int entry =
         AddNode(parent, std::string(keyPrefix) + std::string(fields[0]), fields[2], std::string(fields[4]));
@@ -84,12 +86,12 @@ void BrowseTree::ExpandCategory(const std::string& tag, int category, std::strin
 }
 
 void BrowseTree::SortChildren() {
-  std::vector<std::string> folded;
-  folded.reserve(nodes_.size());
-  for (const BrowseNode& node : nodes_) folded.push_back(FoldCase(node.text));
+  std::vector<std::string> keys;
+  keys.reserve(nodes_.size());
+  for (const BrowseNode& node : nodes_) keys.push_back(sortKey_(node.text));
   for (BrowseNode& node : nodes_) {
-    std::stable_sort(node.children.begin(), node.children.end(), [&folded](int a, int b) {
-      return folded[static_cast<std::size_t>(a)] < folded[static_cast<std::size_t>(b)];
+    std::stable_sort(node.children.begin(), node.children.end(), [&keys](int a, int b) {
+      return keys[static_cast<std::size_t>(a)] < keys[static_cast<std::size_t>(b)];
     });
   }
 }

@@ -6,7 +6,10 @@
 #include <cstddef>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
+
+#include "base/Text.h"
 
 namespace sonaro {
 
@@ -16,12 +19,16 @@ enum class BrowseMode : int { NotBuilt = 0, ByCategory = 1, ByLocation = 2 };
 
 struct BrowseNode {
   static constexpr int kRoot = -1;
+  // Levels below a category. A list that nests deeper is damaged or hostile; what lies deeper hangs on this
+  // level, beside the entry that it names as its parent, so that no station is lost.
+  static constexpr int kLowestLevel = 30;
 
   std::string key;
   std::string text;
   std::string tag;  // identifiers separated by blanks; for a category its code and file name
   int parent = kRoot;
-  std::vector<int> children;     // by text, letter case ignored
+  int level = 0;                 // 0: a root
+  std::vector<int> children;     // by the sort keys of their texts
   std::size_t stationCount = 0;  // of an entry its own stations, of a category the different ones below it
 };
 
@@ -34,7 +41,8 @@ struct NodeClick {
 
 class BrowseTree {
  public:
-  explicit BrowseTree(DataFolder& data) : data_(data) {}
+  explicit BrowseTree(DataFolder& data, SortKeyOf sortKey = FoldCase)
+      : data_(data), sortKey_(std::move(sortKey)) {}
 
   // Rebuilds the tree when `mode` is not the one it was built for; true when it did.
   bool Show(BrowseMode mode);
@@ -59,6 +67,7 @@ class BrowseTree {
   void CountStations(int category);
 
   DataFolder& data_;
+  SortKeyOf sortKey_;
   BrowseMode mode_ = BrowseMode::NotBuilt;
   std::vector<BrowseNode> nodes_;
   std::vector<int> roots_;

@@ -1,6 +1,7 @@
 #include "mainwindow/FavoriteCommands.h"
 
 #include <algorithm>
+#include <unordered_set>
 
 #include "app/CReg.h"
 #include "app/FileWords.h"
@@ -16,14 +17,18 @@ namespace {
 constexpr const char* kTenGroupsKey = "AlreadyHave10FavoriteGroups";
 constexpr const char* kExistsKey = "TheFavoriteGroupAlreadyExists";
 constexpr const char* kDeleteKey = "DeleteFavoriteGroup";
+constexpr const char* kTakeOutKey = "TakeOutMissingStations";
 
 }  // namespace
 
+bool FavoriteCommands::RefuseEleventh() {
+  if (groups_.Count() < FavoriteGroups::kSlots) return false;
+  Say(kTenGroupsKey, strings_.Load(IDS_GROUP_TEN_TEXT));
+  return true;
+}
+
 bool FavoriteCommands::AddFavoriteGroup() {
-  if (groups_.Count() >= FavoriteGroups::kSlots) {
-    Say(kTenGroupsKey, strings_.Load(IDS_GROUP_TEN_TEXT));
-    return false;
-  }
+  if (RefuseEleventh()) return false;
   const std::string name = FavoriteGroups::CleanName(prompts_.AskNewGroupName());
   if (name.empty()) return false;
   if (groups_.Find(name)) {
@@ -40,10 +45,11 @@ void FavoriteCommands::RenameFavoriteGroup(std::size_t group) {
   const std::string oldName(groups_.Name(group));
   const std::string name = FavoriteGroups::CleanName(prompts_.AskGroupName(oldName));
   if (name.empty() || name == oldName) return;
-  if (const auto holder = groups_.Find(name); holder && *holder != group) {
+  if (const auto holder = groups_.Find(name); holder && groups_.Name(*holder) != oldName) {
     return Say(kExistsKey, FillIn(strings_.Load(IDS_GROUP_EXISTS_TEXT), {name}));
   }
-  if (!Changed(groups_.Rename(group, name))) return;
+  const auto renamed = groups_.Find(oldName);  // while the question stood the groups may have moved
+  if (!renamed || !Changed(groups_.Rename(*renamed, name))) return;
   listing_.GroupRenamed(oldName, name);
   prompts_.TellTray("RenameFavGroup\t" + oldName + "\t" + name);
 }
@@ -52,7 +58,8 @@ void FavoriteCommands::DeleteFavoriteGroup(std::size_t group) {
   if (group >= groups_.Count()) return;
   const std::string name(groups_.Name(group));
   if (settings_.Setting(setting::kNoShowDelete).empty() && !ConfirmDelete(name)) return;
-  if (!Changed(groups_.Remove(group))) return;
+  const auto removed = groups_.Find(name);  // while the question stood the groups may have moved
+  if (!removed || !Changed(groups_.Remove(*removed))) return;
   prompts_.TellTray("DeleteFavGroup\t" + name);
   listing_.GroupDeleted(name);
 }
@@ -79,9 +86,39 @@ void FavoriteCommands::AddStationToGroup(std::string_view groupName, std::string
   if (group && Changed(groups_.AddStation(*group, token))) listing_.GroupsChanged();
 }
 
-void FavoriteCommands::RemoveStation(std::string_view token) {
-  if (listing_.State().holds != Holds::Group) return;
-  const auto group = groups_.Find(listing_.State().group);
+void FavoriteCommands::AddStationToGroupOrNew(std::string_view groupName, std::string_view token) {
+  const std::string name = FavoriteGroups::CleanName(groupName);
+  if (name.empty() || groups_.Find(name)) return AddStationToGroup(name, token);
+  if (RefuseEleventh() || !Changed(groups_.Add(name, token))) return;
+  prompts_.TellTray("AddNewFavGroup\t" + name);
+}
+
+void FavoriteCommands::TakeOutMissing() {
+  if (listing_.State().holds != Holds::Group || listing_.State().missing.empty()) return;
+  const std::string name = listing_.State().group;
+  const std::unordered_set<std::string> tokens(listing_.State().missing.begin(),
+                                               listing_.State().missing.end());
+  Message message;
+  message.key = kTakeOutKey;
+  message.caption = strings_.Load(IDS_GROUP_CAPTION);
+  const int textId = tokens.size() == 1 ? IDS_GROUP_TAKE_OUT_ONE : IDS_GROUP_TAKE_OUT;
+  message.text = FillIn(strings_.Load(textId), {name, std::to_string(tokens.size())});
+  message.firstButton = strings_.Load(IDS_GROUP_TAKE_OUT_YES);
+  message.secondButton = strings_.Load(IDS_GROUP_DELETE_NO);
+  if (prompts_.Ask(message).answer != MessageAnswer::First) return;
+  // A newer guide may have come while the question stood: only what was asked about and is still missing
+  // goes.
+  if (listing_.State().holds != Holds::Group || listing_.State().group != name) return;
+  const auto group = groups_.Find(name);
+  std::vector<std::string> gone;
+  for (const std::string& token : listing_.State().missing) {
+    if (tokens.contains(token)) gone.push_back(token);
+  }
+  if (group && Changed(groups_.RemoveStations(*group, gone))) listing_.GroupsChanged();
+}
+
+void FavoriteCommands::RemoveStation(std::string_view groupName, std::string_view token) {
+  const auto group = groups_.Find(groupName);
   if (group && Changed(groups_.RemoveStation(*group, token))) listing_.GroupsChanged();
 }
 

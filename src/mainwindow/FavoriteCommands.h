@@ -40,14 +40,18 @@ class FavoriteCommands {
   // Adds a station's token to the group of this name; one that the group holds already, or a name that no
   // group has, changes nothing.
   void AddStationToGroup(std::string_view groupName, std::string_view token);
-  // Of the group that the list shows.
-  void RemoveStation(std::string_view token);
+  // The same, and a name that no group has makes one with the station in it.
+  void AddStationToGroupOrNew(std::string_view groupName, std::string_view token);
+  void RemoveStation(std::string_view groupName, std::string_view token);
+  // Asks whether the members of the group on show that the guide does not know are to go, and takes them out.
+  void TakeOutMissing();
   // Of the group that the list shows: puts one member in the place of another, those between moving along.
   void PlaceStation(std::string_view token, std::string_view where);
 
  private:
   void Say(const char* key, const std::string& text);
   bool ConfirmDelete(const std::string& name);
+  bool RefuseEleventh();
   // Says when a change could not be saved. True when there is one.
   bool Changed(FavoriteChange change);
 

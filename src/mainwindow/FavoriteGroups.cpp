@@ -1,6 +1,7 @@
 #include "mainwindow/FavoriteGroups.h"
 
 #include <algorithm>
+#include <unordered_map>
 #include <unordered_set>
 #include <utility>
 
@@ -8,6 +9,8 @@
 
 namespace sonaro {
 namespace {
+
+constexpr const char* kNameless = "Group";  // what a group without a name is called in the file
 
 std::string MembersOf(const std::vector<std::string_view>& tokens) {
   std::string members;
@@ -67,8 +70,30 @@ void FavoriteGroups::ReadFile() {
       owesCopy_ = true;
     }
   }
+  MakeNamesUnique();
   // When this cannot be written the old lines are read again at the next start.
   if (FileText() != file_.Text()) static_cast<void>(SaveFavoriteGroups());
+}
+
+// Names are what the group bar, the menus and the listing mode know groups by.
+void FavoriteGroups::MakeNamesUnique() {
+  std::unordered_set<std::string> taken;
+  for (std::size_t group = 0; group < Count(); ++group) taken.insert(FoldCase(TrimBlanks(Name(group))));
+  std::unordered_set<std::string> seen;
+  std::unordered_map<std::string, int> lastNumber;  // of the names made from one
+  for (std::size_t group = 0; group < Count(); ++group) {
+    const std::string name(TrimBlanks(Name(group)));
+    if (!name.empty() && seen.insert(FoldCase(name)).second) continue;
+    const std::string stem = name.empty() ? kNameless : name;
+    int& number = lastNumber[FoldCase(stem)];
+    std::string fresh;
+    do {
+      ++number;
+      fresh = number == 1 ? stem : stem + " " + std::to_string(number);
+    } while (!taken.insert(FoldCase(fresh)).second);
+    seen.insert(FoldCase(fresh));
+    groups_[group] = fresh + "\t" + std::string(Members(group));
+  }
 }
 
 std::string FavoriteGroups::FileText() const {
@@ -131,12 +156,13 @@ bool FavoriteGroups::Contains(std::size_t group, std::string_view token) const {
   return std::find(tokens.begin(), tokens.end(), token) != tokens.end();
 }
 
-FavoriteChange FavoriteGroups::Add(std::string_view name) {
+FavoriteChange FavoriteGroups::Add(std::string_view name, std::string_view firstMember) {
   const std::string cleanName = CleanName(name);
   if (cleanName.empty()) return FavoriteChange::Nothing;
   return Change([&] {
     if (Find(cleanName)) return false;
     groups_.push_back(cleanName + "\t");
+    if (!firstMember.empty()) AppendToken(Count() - 1, firstMember);
     return true;
   });
 }
@@ -206,6 +232,18 @@ FavoriteChange FavoriteGroups::RemoveStation(std::size_t group, std::string_view
   return Change(group, [&](std::size_t at) {
     if (!Contains(at, token)) return false;
     groups_[at] = std::string(Name(at)) + "\t" + WithoutToken(Members(at), token);
+    return true;
+  });
+}
+
+FavoriteChange FavoriteGroups::RemoveStations(std::size_t group, const std::vector<std::string>& tokens) {
+  const std::unordered_set<std::string_view> leaving(tokens.begin(), tokens.end());
+  return Change(group, [&](std::size_t at) {
+    auto members = Tokens(at);
+    if (std::erase_if(members, [&](std::string_view member) { return leaving.contains(member); }) == 0) {
+      return false;
+    }
+    groups_[at] = std::string(Name(at)) + "\t" + MembersOf(members);
     return true;
   });
 }

@@ -29,11 +29,14 @@ class FavoriteGroups {
  public:
   // Keys in the group bar. A file with more groups keeps them all; those beyond the tenth have no key.
   static constexpr std::size_t kSlots = 10;
+  // Of a name that a dialog takes.
+  static constexpr int kMostNameBytes = 100;
 
   explicit FavoriteGroups(DataFolder& data) : file_(data, "\\favs.snr") {}
 
   // Reads the file into the table and writes it back when reading changed it: lines trimmed of blanks, lines
-  // without a tab dropped, after a copy with all of them was kept beside.
+  // without a tab dropped, after a copy with all of them was kept beside, and a group without a name, or with
+  // that of an earlier one, given a name of its own ("Jazz 2"). Members are never lost.
   void LoadFavoriteGroups();
   // True when a file that could not be read before has been read now.
   bool LoadUnread();
@@ -50,7 +53,7 @@ class FavoriteGroups {
   bool Contains(std::size_t group, std::string_view token) const;
 
   // The changes. `name` is cleaned first; an empty one changes nothing.
-  FavoriteChange Add(std::string_view name);
+  FavoriteChange Add(std::string_view name, std::string_view firstMember = {});
   FavoriteChange Rename(std::size_t group, std::string_view name);
   FavoriteChange Remove(std::size_t group);
   FavoriteChange Move(std::size_t from, std::size_t to);
@@ -58,6 +61,8 @@ class FavoriteGroups {
   // Several with one write; those that the group holds already, and repeats, are left out.
   FavoriteChange AddStations(std::size_t group, const std::vector<std::string>& tokens);
   FavoriteChange RemoveStation(std::size_t group, std::string_view token);
+  // Several with one write.
+  FavoriteChange RemoveStations(std::size_t group, const std::vector<std::string>& tokens);
   // Moves the member at place `from` to place `to`, places counted as in Tokens().
   FavoriteChange MoveStation(std::size_t group, std::size_t from, std::size_t to);
 
@@ -66,6 +71,7 @@ class FavoriteGroups {
 
  private:
   void ReadFile();
+  void MakeNamesUnique();
   std::string FileText() const;
   // Makes `edit` and saves. It is given the group's place, which is another one when another session has
   // changed the file.

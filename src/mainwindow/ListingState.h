@@ -4,6 +4,7 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "mainwindow/Rankings.h"
 
@@ -36,6 +37,8 @@ struct ListingState {
   Holds holds = Holds::Nothing;
   std::optional<Ranking> ranking;  // with Holds::Ranking: its key shows the active colour
   std::string group;               // with Holds::Group: its name
+  // With Holds::Group: its members that the guide does not know. They are not among the rows.
+  std::vector<std::string> missing;
 };
 
 }  // namespace sonaro

@@ -5,6 +5,7 @@
 #include <utility>
 
 #include "base/DataFolder.h"
+#include "base/Text.h"
 #include "mainwindow/BrowseTree.h"
 #include "mainwindow/FavoriteGroups.h"
 #include "mainwindow/PlaylistTransfer.h"
@@ -38,14 +39,15 @@ struct GuideData {
   RecentList& recent;
   FavoriteGroups& favorites;
   const StationSource& source;
+  SortKeyOf sortKey = FoldCase;  // the order of the user's language
 };
 
 struct MainModels {
   MainModels(const GuideData& data, TellTray tellTray)
-      : tree(data.folder),
+      : tree(data.folder, data.sortKey),
         rankings(data.folder),
         lists(data.stations, data.personal, data.recent, data.strings),
-        listing(lists, rankings, data.favorites, tree, data.strings),
+        listing(lists, rankings, data.favorites, tree, data.strings, data.sortKey),
         search(data.folder, data.settings, listing, std::move(tellTray)),
         details(data.source, data.personal, data.extra, data.strings, data.state),
         actions(listing, data.favorites, data.strings),

@@ -72,12 +72,18 @@ void SonaroFrm::OnLoad() {
   search_.Load();
   detail_.Load();
   yours_.Load();
-  drag_.Load(
-      [this](int slot) {
-        ShowGroupBar();
-        if (slot >= 0) SetToggle(butFavs + slot, true);
-      },
-      calls_.scanIsAt);
+  drag_.Load({.rowKey = [this](int row) { return list_.KeyAt(row); },
+              .groupName =
+                  [this](int slot) {
+                    const auto group = static_cast<std::size_t>(slot);
+                    return std::string(group < data_.favorites.Count() ? data_.favorites.Name(group) : "");
+                  },
+              .over =
+                  [this](int slot) {
+                    ShowGroupBar();
+                    if (slot >= 0) SetToggle(butFavs + slot, true);
+                  },
+              .scanIsAt = calls_.scanIsAt});
   ShowPane(kProgressPane, false);
   Enable(butUpdate, calls_.showUpdate != nullptr);
   Enable(butOptions, calls_.showOptions != nullptr);
@@ -153,8 +159,10 @@ void SonaroFrm::ShowGroupBar() {
   for (std::size_t slot = 0; slot < FavoriteGroups::kSlots; ++slot) {
     const int key = butFavs + static_cast<int>(slot);
     const bool used = slot < count;
-    SetText(key, used ? data_.favorites.Name(slot) : std::string_view());
-    SetTip(key, used ? data_.favorites.Name(slot) : std::string_view());
+    const std::string text = used ? std::string(data_.favorites.Name(slot)) : LoadText(IDS_GROUP_SOCKET);
+    SetEmptySocket(key, !used);
+    SetText(key, text);
+    SetTip(key, text);
     SetDetail(key, std::to_string((slot + 1) % FavoriteGroups::kSlots));
     SetToggle(key, used && shown == slot);
   }
@@ -198,6 +206,7 @@ void SonaroFrm::mnuActionRanking_Click(int entry) {
 }
 
 void SonaroFrm::butFavs_Click(int group) {
+  if (static_cast<std::size_t>(group) >= data_.favorites.Count()) return mnuAddFavGroup_Click();
   models_.listing.ShowFavoriteGroup(static_cast<std::size_t>(group));
   ShowEverything();
 }
@@ -268,10 +277,10 @@ bool SonaroFrm::OnMessage(UINT message, WPARAM, LPARAM, LRESULT& result) {
 
 void SonaroFrm::EndDrag(const DragPane::Drop& drop) {
   using Thing = DragPane::Thing;
-  if (drop.what == Thing::Row && drop.onto == Thing::Group) DropRowOnGroup(drop.from, drop.to);
-  if (drop.what == Thing::Row && drop.onto == Thing::Row) MoveRow(drop.from, drop.to);
-  if (drop.what == Thing::Row && drop.onto == Thing::Scan) DropRowOnScan(drop.from, drop.at);
-  if (drop.what == Thing::Group && drop.onto == Thing::Group) MoveGroup(drop.from, drop.to);
+  if (drop.what == Thing::Row && drop.onto == Thing::Group) DropOnGroup(drop.name, drop.to);
+  if (drop.what == Thing::Row && drop.onto == Thing::Row) MoveRow(drop.name, drop.to);
+  if (drop.what == Thing::Row && drop.onto == Thing::Scan) DropOnScan(drop.name, drop.at);
+  if (drop.what == Thing::Group && drop.onto == Thing::Group) MoveGroup(drop.name, drop.to);
 }
 
 // The main window is not a dialog: nothing closes it by mistake.

@@ -101,7 +101,7 @@ class SonaroFrm final : public Form, private FavoritePrompts {
   void mnuActionCopyLink_Click();
   void mnuActionAddToScan_Click();
   void mnuActionAddListToScan_Click();
-  void DropRowOnScan(int row, POINT at);
+  void DropOnScan(const std::string& rowKey, POINT at);
   void mnuActionSchedule_Click();
   void mnuActionExtraLink_Click();
   void mnuPersonalAdd_Click();
@@ -117,13 +117,15 @@ class SonaroFrm final : public Form, private FavoritePrompts {
   void FindStation();
 
   // SonaroFrmGroups.cpp: favourite groups and the page of the user's own things.
-  void butFavs_ContextMenu(int group, POINT at);
+  void butFavs_ContextMenu(int slot, POINT at);
   void lstGroups_ItemSelected(int row);
   void lstGroups_ItemActivate(int row);
   void lstGroups_ContextMenu(int row, POINT at);
   void butNewGroup_Click();
   void mnuAddFavGroup_Click();
   void butRemoveGroup_Click();
+  void mnuRemoveFocusedGroup_Click();
+  void butMissing_Click();
   void mnuFavRenameFav_Click();
   void mnuFavMoveLeft_Click();
   void mnuFavMoveRight_Click();
@@ -140,12 +142,12 @@ class SonaroFrm final : public Form, private FavoritePrompts {
   void butNotifyMe_Click();
   void butPersonalShow_Click();
   void MoveStation(int by);
-  void MoveRow(int from, int to);
-  void MoveGroup(int from, int to);
-  void DropRowOnGroup(int row, int slot);
+  void MoveRow(const std::string& rowKey, int to);
+  void MoveGroup(const std::string& name, int to);
+  void DropOnGroup(const std::string& rowKey, int slot);
+  bool ShowFocusedGroup();
   std::optional<std::size_t> GroupOnShow() const;  // in the middle of the window
   std::optional<std::size_t> GroupMeant() const;
-  std::string SelectedToken() const;
   MessageResult Ask(const Message& message) override;
   std::string AskNewGroupName() override;
   std::string AskGroupName(const std::string& present) override;
@@ -158,6 +160,17 @@ class SonaroFrm final : public Form, private FavoritePrompts {
   void mnuPersonalImport_Click();
   void SayImported(const ImportResult& result);
   void Say(const char* key, const std::string& text);
+
+  // What an open menu was opened for. The list may change behind it; its entries act on this.
+  struct MenuSubject {
+    StationDetail station;
+    std::string group;  // whose key's menu it is, or which the station's list shows; "" without one
+    EventLine event;
+  };
+  void PopUpMenuFor(MenuSubject subject, const MenuEntries& menu, POINT at);
+  const StationDetail& StationMeant() const { return menu_ ? menu_->station : shown_; }
+  std::string NameOfGroupMeant() const;
+  int EventRowMeant();
 
   std::size_t PersonalCount() const;
 
@@ -175,8 +188,8 @@ class SonaroFrm final : public Form, private FavoritePrompts {
   YoursPane yours_;
   StatusPane status_;
   DragPane drag_;
-  StationDetail shown_;                   // what the right column shows
-  std::optional<std::size_t> menuGroup_;  // while the menu of a group key is open
+  StationDetail shown_;              // what the right column shows
+  std::optional<MenuSubject> menu_;  // while a menu is open that has one
 };
 
 }  // namespace sonaro

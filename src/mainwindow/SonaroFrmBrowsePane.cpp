@@ -1,5 +1,7 @@
 #include "mainwindow/SonaroFrmBrowsePane.h"
 
+#include <vector>
+
 #include "app/FigureText.h"
 #include "forms/ControlIds.h"
 #include "forms/Form.h"
@@ -13,17 +15,30 @@ void BrowsePane::Show(std::size_t personalStations) {
     shown_ = tree_.Mode();
     view.BeginFill();
     view.Clear();
-    for (const int root : tree_.Roots()) Add(nullptr, root);
+    FillView(view);
     view.EndFill();
   }
   view.SetFigure(personal_, Figure(personalStations));
 }
 
-void BrowsePane::Add(HTREEITEM parent, int node) {
-  const BrowseNode& facts = tree_.Node(node);
-  const HTREEITEM item = form_.Tree(treeBrowse).Add(parent, facts.text, Figure(facts.stationCount), node);
-  if (BrowseTree::ClickOn(facts).fill == NodeClick::Fill::PersonalStations) personal_ = item;
-  for (const int child : facts.children) Add(item, child);
+void BrowsePane::FillView(TreeView& view) {
+  struct Waiting {
+    HTREEITEM parent;
+    int node;
+  };
+  std::vector<Waiting> waiting;  // the next one last
+  const auto push = [&waiting](HTREEITEM parent, const std::vector<int>& nodes) {
+    for (auto node = nodes.rbegin(); node != nodes.rend(); ++node) waiting.push_back({parent, *node});
+  };
+  push(nullptr, tree_.Roots());
+  while (!waiting.empty()) {
+    const Waiting next = waiting.back();
+    waiting.pop_back();
+    const BrowseNode& facts = tree_.Node(next.node);
+    const HTREEITEM item = view.Add(next.parent, facts.text, Figure(facts.stationCount), next.node);
+    if (BrowseTree::ClickOn(facts).fill == NodeClick::Fill::PersonalStations) personal_ = item;
+    push(item, facts.children);
+  }
 }
 
 std::string BrowsePane::Figure(std::size_t count) const {

@@ -14,6 +14,7 @@
 namespace sonaro {
 
 class Form;
+class TreeView;
 
 class BrowsePane {
  public:
@@ -29,7 +30,7 @@ class BrowsePane {
   const BrowseNode* NodeAt(HTREEITEM item) const;
 
  private:
-  void Add(HTREEITEM parent, int node);
+  void FillView(TreeView& view);
   std::string Figure(std::size_t count) const;
 
   Form& form_;

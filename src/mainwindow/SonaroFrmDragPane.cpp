@@ -29,44 +29,46 @@ constexpr int kNoCursor = 32648;
 
 }  // namespace
 
-void DragPane::Load(std::function<void(int slot)> over, std::function<bool(int x, int y)> scanIsAt) {
-  over_ = std::move(over);
-  scanIsAt_ = std::move(scanIsAt);
+void DragPane::Load(Asks asks) {
+  asks_ = std::move(asks);
   for (int slot = 0; slot < kSlots; ++slot) {
     SetWindowSubclass(form_.Control(butFavs + slot), GroupKeyProcedure, static_cast<UINT_PTR>(slot),
                       reinterpret_cast<DWORD_PTR>(this));
   }
-  form_.List(lstFavs).onBeginDrag = [this](int row) { BeginRow(row); };
+  form_.List(lstFavs).onBeginDrag = [this](int row) { Begin(Thing::Row, asks_.rowKey(row)); };
 }
 
 LRESULT CALLBACK DragPane::GroupKeyProcedure(HWND key, UINT message, WPARAM wParam, LPARAM lParam,
                                              UINT_PTR slot, DWORD_PTR self) noexcept {
   return Guarded(0, [&]() -> LRESULT {
     if (message == WM_NCDESTROY) RemoveWindowSubclass(key, GroupKeyProcedure, slot);
-    reinterpret_cast<DragPane*>(self)->WatchKey(key, message, wParam, lParam, static_cast<int>(slot));
+    reinterpret_cast<DragPane*>(self)->WatchKey(message, wParam, lParam, static_cast<int>(slot));
     return DefSubclassProc(key, message, wParam, lParam);
   });
 }
 
-void DragPane::WatchKey(HWND key, UINT message, WPARAM wParam, LPARAM lParam, int slot) {
+void DragPane::WatchKey(UINT message, WPARAM wParam, LPARAM lParam, int slot) {
   const POINT at = {GET_X_LPARAM(lParam), GET_Y_LPARAM(lParam)};
   if (message == WM_LBUTTONDOWN) {
     pressedAt_ = at;
-    pressedSlot_ = GetWindowTextLengthW(key) > 0 ? slot : -1;
+    pressedSlot_ = slot;
   } else if (message == WM_LBUTTONUP) {
     pressedSlot_ = -1;
   } else if (message == WM_MOUSEMOVE && (wParam & MK_LBUTTON) != 0 && pressedSlot_ == slot) {
     const bool moved = std::abs(at.x - pressedAt_.x) > GetSystemMetrics(SM_CXDRAG) ||
                        std::abs(at.y - pressedAt_.y) > GetSystemMetrics(SM_CYDRAG);
-    if (moved) Begin(Thing::Group, slot);  // takes the mouse from the key, which then is not pressed any more
+    if (moved)
+      Begin(Thing::Group,
+            asks_.groupName(slot));  // takes the mouse from the key, which then is not pressed any more
   }
 }
 
-void DragPane::Begin(Thing what, int from) {
+void DragPane::Begin(Thing what, std::string name) {
   pressedSlot_ = -1;
+  if (name.empty()) return;
   SetCapture(form_.Window());
   what_ = what;
-  from_ = from;
+  name_ = std::move(name);
   Follow();
 }
 
@@ -107,9 +109,9 @@ int DragPane::SlotAt(POINT screen) const {
 }
 
 DragPane::Drop DragPane::DropAt(POINT screen) const {
-  Drop drop{what_, from_, Thing::Nothing, 0, screen};
+  Drop drop{what_, name_, Thing::Nothing, 0, screen};
   // First: it may lie over the main window.
-  if (what_ == Thing::Row && scanIsAt_ && scanIsAt_(screen.x, screen.y)) {
+  if (what_ == Thing::Row && asks_.scanIsAt && asks_.scanIsAt(screen.x, screen.y)) {
     drop.onto = Thing::Scan;
   } else if (const int slot = SlotAt(screen); slot >= 0) {
     drop.onto = Thing::Group;
@@ -127,7 +129,7 @@ void DragPane::Follow() {
   const int slot = drop.onto == Thing::Group ? drop.to : -1;
   if (slot == overSlot_) return;
   overSlot_ = slot;
-  if (over_) over_(slot);
+  asks_.over(slot);
 }
 
 }  // namespace sonaro

@@ -6,6 +6,7 @@
 
 #include <functional>
 #include <optional>
+#include <string>
 
 namespace sonaro {
 
@@ -16,18 +17,26 @@ class DragPane {
   enum class Thing { Nothing, Row, Group, Scan };
   struct Drop {
     Thing what = Thing::Nothing;
-    int from = 0;  // row, or slot of the group bar
+    std::string name;  // the key of the row or the name of the group that the drag began with
     Thing onto = Thing::Nothing;
     int to = 0;
     POINT at = {};  // on the screen
   };
 
+  // What it asks while it follows the mouse.
+  struct Asks {
+    // What the drag begins with; "" can not be dragged. It is asked then, because rows and groups may change
+    // while the button is down.
+    std::function<std::string(int row)> rowKey;
+    std::function<std::string(int slot)> groupName;
+    std::function<void(int slot)> over;          // another key of the group bar is below the mouse; -1: none
+    std::function<bool(int x, int y)> scanIsAt;  // whether the scan's window lies there; may be empty
+  };
+
   explicit DragPane(Form& form) : form_(form) {}
 
-  // Lets keys of the group bar be dragged. `over` is called when the key that the mouse is over changes, so
-  // that the bar can show it (-1: none); `scanIsAt` tells whether the scan's window lies under the mouse.
-  void Load(std::function<void(int slot)> over, std::function<bool(int x, int y)> scanIsAt);
-  void BeginRow(int row) { Begin(Thing::Row, row); }
+  // Lets rows of the list and keys of the group bar be dragged.
+  void Load(Asks asks);
 
   // A message to the form. Something came to its end: what was dropped where.
   std::optional<Drop> Handle(UINT message);
@@ -35,18 +44,17 @@ class DragPane {
  private:
   static LRESULT CALLBACK GroupKeyProcedure(HWND key, UINT message, WPARAM wParam, LPARAM lParam,
                                             UINT_PTR slot, DWORD_PTR self) noexcept;
-  void WatchKey(HWND key, UINT message, WPARAM wParam, LPARAM lParam, int slot);
-  void Begin(Thing what, int from);
+  void WatchKey(UINT message, WPARAM wParam, LPARAM lParam, int slot);
+  void Begin(Thing what, std::string name);
   void End();
   Drop DropAt(POINT screen) const;
   int SlotAt(POINT screen) const;
   void Follow();
 
   Form& form_;
-  std::function<void(int slot)> over_;
-  std::function<bool(int x, int y)> scanIsAt_;
+  Asks asks_;
   Thing what_ = Thing::Nothing;
-  int from_ = 0;
+  std::string name_;
   int overSlot_ = -1;
   POINT pressedAt_ = {};
   int pressedSlot_ = -1;

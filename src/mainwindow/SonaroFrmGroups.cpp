@@ -6,10 +6,10 @@
 
 namespace sonaro {
 
-void SonaroFrm::butFavs_ContextMenu(int group, POINT at) {
-  menuGroup_ = static_cast<std::size_t>(group);
-  PopUpMenu(models_.actions.GroupMenu(*menuGroup_), at);
-  menuGroup_.reset();
+void SonaroFrm::butFavs_ContextMenu(int slot, POINT at) {
+  const auto group = static_cast<std::size_t>(slot);
+  const std::string name(group < data_.favorites.Count() ? data_.favorites.Name(group) : "");
+  PopUpMenuFor({.station = {}, .group = name, .event = {}}, models_.actions.GroupMenu(group), at);
 }
 
 void SonaroFrm::lstGroups_ItemSelected(int row) {
@@ -29,26 +29,38 @@ void SonaroFrm::lstGroups_ItemActivate(int row) {
 }
 
 void SonaroFrm::lstGroups_ContextMenu(int row, POINT at) {
-  menuGroup_ = yours_.GroupAt(row);
-  PopUpMenu(models_.actions.GroupMenu(menuGroup_.value_or(FavoriteGroups::kSlots)), at);
-  menuGroup_.reset();
+  const auto group = yours_.GroupAt(row);
+  const std::string name(group ? data_.favorites.Name(*group) : "");
+  PopUpMenuFor({.station = {}, .group = name, .event = {}},
+               models_.actions.GroupMenu(group.value_or(data_.favorites.Count())), at);
 }
 
-// The group that a command without a menu means: that of the key with the focus, else the one on show.
 std::optional<std::size_t> SonaroFrm::GroupOnShow() const {
   const ListingState& state = models_.listing.State();
   if (state.holds != Holds::Group || state.middle != Middle::StationList) return std::nullopt;
   return data_.favorites.Find(state.group);
 }
 
+// The group that a command means: in a menu the one that it was opened for, else the one on show, whose key
+// is lit.
 std::optional<std::size_t> SonaroFrm::GroupMeant() const {
-  std::optional<std::size_t> group = menuGroup_;
+  return menu_ ? data_.favorites.Find(menu_->group) : GroupOnShow();
+}
+
+std::string SonaroFrm::NameOfGroupMeant() const {
+  const auto group = GroupMeant();
+  return group ? std::string(data_.favorites.Name(*group)) : std::string();
+}
+
+// The focus can stand on the key of a group that is not on show. A key that means one brings it there first,
+// so that the user sees which. True when it did.
+bool SonaroFrm::ShowFocusedGroup() {
   const int focused = FocusedControl() - butFavs;
-  if (!group && focused >= 0 && focused < static_cast<int>(FavoriteGroups::kSlots)) {
-    group = static_cast<std::size_t>(focused);
-  }
-  if (!group) group = GroupOnShow();
-  return group && *group < data_.favorites.Count() ? group : std::nullopt;
+  if (menu_ || focused < 0 || static_cast<std::size_t>(focused) >= FavoriteGroups::kSlots) return false;
+  const auto group = static_cast<std::size_t>(focused);
+  if (group >= data_.favorites.Count() || GroupOnShow() == group) return false;
+  butFavs_Click(focused);
+  return true;
 }
 
 void SonaroFrm::butNewGroup_Click() {
@@ -57,10 +69,8 @@ void SonaroFrm::butNewGroup_Click() {
 }
 
 // A station was dropped on a group key; on a free one it founds a group.
-void SonaroFrm::DropRowOnGroup(int row, int slot) {
-  if (row < 0 || row >= static_cast<int>(models_.listing.Rows().Count())) return;
-  const std::string token = models_.listing.Rows().At(static_cast<std::size_t>(row)).Token();
-  if (token.empty()) return;
+void SonaroFrm::DropOnGroup(const std::string& rowKey, int slot) {
+  const std::string token = StationKey::FromRowKey(rowKey).Token();
   auto group = static_cast<std::size_t>(slot);
   if (group >= data_.favorites.Count()) {
     if (!favorites_.AddFavoriteGroup()) return;
@@ -70,9 +80,10 @@ void SonaroFrm::DropRowOnGroup(int row, int slot) {
   ShowEverything();
 }
 
-void SonaroFrm::MoveGroup(int from, int to) {
+void SonaroFrm::MoveGroup(const std::string& name, int to) {
+  const auto from = data_.favorites.Find(name);
   const int last = static_cast<int>(data_.favorites.Count()) - 1;
-  favorites_.MoveFavoriteGroup(static_cast<std::size_t>(from), static_cast<std::size_t>(std::min(to, last)));
+  if (from) favorites_.MoveFavoriteGroup(*from, static_cast<std::size_t>(std::min(to, last)));
   ShowEverything();
 }
 
@@ -86,7 +97,18 @@ void SonaroFrm::butRemoveGroup_Click() {
   ShowEverything();
 }
 
+// Deleting may not ask, so that the press that brings the group on show does no more.
+void SonaroFrm::mnuRemoveFocusedGroup_Click() {
+  if (!ShowFocusedGroup()) butRemoveGroup_Click();
+}
+
+void SonaroFrm::butMissing_Click() {
+  favorites_.TakeOutMissing();
+  ShowEverything();
+}
+
 void SonaroFrm::mnuFavRenameFav_Click() {
+  ShowFocusedGroup();
   if (const auto group = GroupMeant()) favorites_.RenameFavoriteGroup(*group);
   ShowEverything();
 }
@@ -113,27 +135,23 @@ void SonaroFrm::mnuFavScanGroup_Click() {
 }
 
 void SonaroFrm::mnuActionStationToFavList_Click() {
-  if (!shown_.station || !calls_.askGroupForStation) return;
-  const std::string token = shown_.station.Token();
-  const std::string group = calls_.askGroupForStation(shown_.name);
-  if (!group.empty()) favorites_.AddStationToGroup(group, token);
+  const StationDetail& station = StationMeant();
+  if (!station.station || !calls_.askGroupForStation) return;
+  const std::string token = station.station.Token();
+  const std::string group = calls_.askGroupForStation(station.name);
+  if (!group.empty()) favorites_.AddStationToGroupOrNew(group, token);
   ShowEverything();
 }
 
 void SonaroFrm::mnuActionStationToGroup_Click(int group) {
   const auto index = static_cast<std::size_t>(group);
-  if (!shown_.station || index >= data_.favorites.Count()) return;
-  favorites_.AddStationToGroup(data_.favorites.Name(index), shown_.station.Token());
+  if (!StationMeant().station || index >= data_.favorites.Count()) return;
+  favorites_.AddStationToGroup(data_.favorites.Name(index), StationMeant().station.Token());
   ShowEverything();
 }
 
-std::string SonaroFrm::SelectedToken() const {
-  const StationRow* row = models_.listing.Rows().SelectedRow();
-  return row ? row->Token() : std::string();
-}
-
 void SonaroFrm::mnuActionRemoveFromFavList_Click() {
-  favorites_.RemoveStation(SelectedToken());
+  favorites_.RemoveStation(NameOfGroupMeant(), StationMeant().station.Token());
   ShowEverything();
 }
 
@@ -151,16 +169,16 @@ void SonaroFrm::mnuActionMoveUp_Click() { MoveStation(-1); }
 void SonaroFrm::mnuActionMoveDown_Click() { MoveStation(1); }
 
 void SonaroFrm::MoveStation(int by) {
-  const auto row = models_.listing.Rows().Selected();
-  if (row) MoveRow(static_cast<int>(*row), static_cast<int>(*row) + by);
+  const std::string key = StationMeant().station.RowKey();
+  const auto row = models_.listing.Rows().Find(key);
+  if (row && GroupMeant() == GroupOnShow()) MoveRow(key, static_cast<int>(*row) + by);
 }
 
 // Rows of a group change places only where the list shows them in the group's own order.
-void SonaroFrm::MoveRow(int from, int to) {
+void SonaroFrm::MoveRow(const std::string& rowKey, int to) {
   const StationRows& rows = models_.listing.Rows();
-  const auto count = static_cast<int>(rows.Count());
-  if (rows.Sort().on || from < 0 || to < 0 || from >= count || to >= count) return;
-  favorites_.PlaceStation(rows.At(static_cast<std::size_t>(from)).Token(),
+  if (rows.Sort().on || !rows.Find(rowKey) || to < 0 || to >= static_cast<int>(rows.Count())) return;
+  favorites_.PlaceStation(StationKey::FromRowKey(rowKey).Token(),
                           rows.At(static_cast<std::size_t>(to)).Token());
   ShowEverything();
 }
@@ -176,12 +194,16 @@ void SonaroFrm::lstEvents_ItemActivate(int row) {
 }
 
 void SonaroFrm::lstEvents_ContextMenu(int, POINT at) {
-  if (const EventLine* event = yours_.SelectedEvent())
-    PopUpMenu(models_.actions.EventMenu(*event, shown_), at);
+  const EventLine* event = yours_.SelectedEvent();
+  if (event == nullptr) return;
+  PopUpMenuFor({.station = shown_, .group = {}, .event = *event}, models_.actions.EventMenu(*event, shown_),
+               at);
 }
 
+int SonaroFrm::EventRowMeant() { return menu_ ? yours_.RowOf(menu_->event) : List(lstEvents).Selected(); }
+
 void SonaroFrm::butNotifyMe_Click() {
-  const int row = List(lstEvents).Selected();
+  const int row = EventRowMeant();
   if (row < 0 || !calls_.notifyMe) return;
   calls_.notifyMe(static_cast<std::size_t>(row));
   yours_.ShowEvents();
@@ -189,7 +211,7 @@ void SonaroFrm::butNotifyMe_Click() {
 }
 
 void SonaroFrm::butPersonalShow_Click() {
-  const int row = List(lstEvents).Selected();
+  const int row = EventRowMeant();
   if (row < 0 || !calls_.changePersonalShow) return;
   calls_.changePersonalShow(static_cast<std::size_t>(row));
   yours_.ShowEvents();

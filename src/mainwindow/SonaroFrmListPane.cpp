@@ -6,6 +6,7 @@
 #include "app/Strings.h"
 #include "forms/ControlIds.h"
 #include "forms/Form.h"
+#include "mainwindow/SonaroFrm_panes.h"
 #include "mainwindow/SortEntries.h"
 #include "mainwindow/StationListing.h"
 #include "resources/texts/mainwindow.h"
@@ -29,11 +30,22 @@ void ListPane::ShowRows() {
   list.Select(rows.Selected() ? static_cast<int>(*rows.Selected()) : -1);
   const ListingState& state = listing_.State();
   form_.SetText(lblListing, state.caption);
+  ShowMissing();
   const std::size_t count = rows.StationCount();
   const int textId = count == 1 ? IDS_COUNT_ONE_STATION : IDS_COUNT_STATIONS;
   form_.SetText(lblCount, state.holds == Holds::Nothing && count == 0
                               ? std::string()
                               : FillIn(form_.LoadText(textId), {FigureText(count, state_.decimalMode)}));
+}
+
+// Beside the caption, which is shorter then.
+void ListPane::ShowMissing() {
+  const ListingState& state = listing_.State();
+  const std::size_t count = state.middle == Middle::StationList ? state.missing.size() : 0;
+  const int textId = count == 1 ? IDS_GROUP_MISSING_ONE : IDS_GROUP_MISSING;
+  form_.SetText(butMissing, FillIn(form_.LoadText(textId), {FigureText(count, state_.decimalMode)}));
+  form_.ShowControl(butMissing, count > 0);
+  form_.UseLayout(count > 0 ? kMainLayoutWithMissing : 0);
 }
 
 void ListPane::ShowEmptyText() {
@@ -80,6 +92,12 @@ void ListPane::TakeSelection(int row) {
   if (row >= 0) listing_.Rows().Select(static_cast<std::size_t>(row));
 }
 
+std::string ListPane::KeyAt(int row) const {
+  if (row < 0 || row >= RowCount()) return {};
+  const StationRow& facts = listing_.Rows().At(static_cast<std::size_t>(row));
+  return facts.IsStation() || facts.IsPersonal() ? facts.key : std::string();
+}
+
 int ListPane::RowCount() const { return static_cast<int>(listing_.Rows().Count()); }
 
 std::string ListPane::Cell(int row, int column) const {
@@ -90,8 +108,6 @@ int ListPane::Symbol(int row) const {
   const int icon = listing_.Rows().At(static_cast<std::size_t>(row)).icon;
   return std::clamp(icon - StationRow::kFirstReliabilityIcon, 0, 4);
 }
-
-bool ListPane::IsGreyed(int row) const { return listing_.Rows().At(static_cast<std::size_t>(row)).lost; }
 
 bool ListPane::IsNotice() const { return RowCount() > 0 && listing_.Rows().StationCount() == 0; }
 

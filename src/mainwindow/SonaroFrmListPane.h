@@ -21,15 +21,16 @@ class ListPane final : private ListModel {
   void ShowSort();
   // Takes the row that the list has selected into the model.
   void TakeSelection(int row);
+  std::string KeyAt(int row) const;  // of a row that stands for no station: ""
 
  private:
   int RowCount() const override;
   std::string Cell(int row, int column) const override;
   int Symbol(int row) const override;
-  bool IsGreyed(int row) const override;
   bool IsNotice() const override;
 
   void ShowEmptyText();
+  void ShowMissing();
 
   Form& form_;
   StationListing& listing_;

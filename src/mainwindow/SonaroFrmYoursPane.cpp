@@ -45,19 +45,20 @@ void YoursPane::ShowGroups() {
   list.Select(SelectedGroupRow());
 }
 
+int YoursPane::RowOf(const EventLine& event) const {
+  const auto same = std::find_if(events_.begin(), events_.end(), [&](const EventLine& line) {
+    return line.name == event.name && line.station == event.station;
+  });
+  return same != events_.end() ? static_cast<int>(same - events_.begin()) : -1;
+}
+
 void YoursPane::ShowEvents() {
   ListView& list = form_.List(lstEvents);
   const EventLine chosen = SelectedEvent() ? *SelectedEvent() : EventLine();
   events_ = calls_.comingEvents ? calls_.comingEvents() : std::vector<EventLine>();
-  const auto same = std::find_if(events_.begin(), events_.end(), [&](const EventLine& event) {
-    return event.name == chosen.name && event.station == chosen.station;
-  });
   list.RowsChanged();
-  if (same != events_.end()) {
-    list.Select(static_cast<int>(same - events_.begin()));
-  } else {
-    list.Select(events_.empty() ? -1 : 0);
-  }
+  const int same = RowOf(chosen);
+  list.Select(same < 0 && !events_.empty() ? 0 : same);
   ShowEventKeys(list.Selected());
 }
 

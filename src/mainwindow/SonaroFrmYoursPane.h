@@ -33,6 +33,7 @@ class YoursPane {
   bool IsRecent(int row) const;
   const EventLine* EventAt(int row) const;
   const EventLine* SelectedEvent() const;
+  int RowOf(const EventLine& event) const;  // -1 when it is not there any more
 
  private:
   class GroupRows final : public ListModel {

@@ -28,6 +28,8 @@ std::span<const EventRow> SonaroFrm::Events() const {
       {lstGroups, ContextMenu, &SonaroFrm::lstGroups_ContextMenu},
       {butNewGroup, Click, &SonaroFrm::butNewGroup_Click},
       {butRemoveGroup, Click, &SonaroFrm::butRemoveGroup_Click},
+      {mnuRemoveFocusedGroup, Click, &SonaroFrm::mnuRemoveFocusedGroup_Click},
+      {butMissing, Click, &SonaroFrm::butMissing_Click},
       {lstEvents, ItemSelected, &SonaroFrm::lstEvents_ItemSelected},
       {lstEvents, ItemActivated, &SonaroFrm::lstEvents_ItemActivate},
       {lstEvents, ContextMenu, &SonaroFrm::lstEvents_ContextMenu},

@@ -17,4 +17,7 @@ enum MainPane : unsigned char {
   kProgressPane
 };
 
+// The layout in which members of a group that the guide does not know are told of beside the caption.
+inline constexpr int kMainLayoutWithMissing = 1;
+
 }  // namespace sonaro

@@ -187,6 +187,7 @@ const ControlRow kControls[] = {
     Header(1, IDS_COLUMN_LOCATION, 410, 112),
     Header(2, IDS_COLUMN_MEDIA_TYPE, 522, 82),
     Header(3, IDS_COLUMN_FORMAT, 604, 112),
+    {.id = butMissing, .kind = Kind::PushKey, .at = {414, 138, 180, 22}, .flags = kHidden, .pane = kListPane},
     {.id = lblCount, .at = {596, 137, 120, 24}, .flags = kRightAligned | kNoPrefix, .ink = Ink::Muted},
     {.id = lblListing,
      .kind = Kind::StateLabel,
@@ -326,6 +327,9 @@ const ControlRow kControls[] = {
     Strip(3, butCloseIt, IDS_MAIN_CLOSE, Icon::Close),
 };
 
+constexpr Place kWithMissing[] = {{lblListing, {224, 137, 186, 24}}};
+constexpr Layout kLayouts[] = {{.places = kWithMissing, .others = Layout::Others::AsDesigned}};
+
 constexpr KeyRow kKeys[] = {
     {'F', kCtrl, mnuViewSearch},
     {VK_F3, kPlain, mnuViewSearch},
@@ -335,7 +339,7 @@ constexpr KeyRow kKeys[] = {
     {VK_RETURN, kCtrl, mnuActionPlayThree, lstFavs},
     {VK_DELETE, kPlain, mnuRemoveRow, lstFavs},
     {VK_DELETE, kPlain, butRemoveGroup, lstGroups},
-    {.key = VK_DELETE, .command = mnuFavDeleteFav, .onlyIn = butFavs, .controls = 10},
+    {.key = VK_DELETE, .command = mnuRemoveFocusedGroup, .onlyIn = butFavs, .controls = 10},
     {VK_UP, kAlt, mnuActionMoveUp, lstFavs},
     {VK_DOWN, kAlt, mnuActionMoveDown, lstFavs},
     {'C', kCtrl, mnuActionCopyLink, lstFavs},
@@ -354,6 +358,7 @@ const FormDesign& SonaroFrm::Design() {
                                      .outline = "maf98",
                                      .controls = kControls,
                                      .titleGroove = 38,
+                                     .layouts = kLayouts,
                                      .keys = kKeys,
                                      .firstFocus = lstFavs};
   return kDesign;

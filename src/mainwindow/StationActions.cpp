@@ -134,8 +134,7 @@ void StationActions::AddGroupEntries(const StationDetail& detail, MenuEntries& m
   menu.push_back(Submenu(strings_.Load(IDS_ACTION_ADD_TO), GroupChoices(detail)));
   const bool groupShown = listing_.State().holds == Holds::Group;
   menu.push_back(StationEntry(mnuActionRemoveFromFavList, IDS_ACTION_REMOVE_FROM_GROUP, detail));
-  const bool lostRow = listing_.Rows().SelectedRow() && listing_.Rows().SelectedRow()->lost;
-  menu.back().enabled = groupShown && (detail.station || lostRow);
+  menu.back().enabled = groupShown && detail.station;
   if (!groupShown) return;
   // In a sorted list the places of a group's members cannot be seen, so they are not moved there.
   const bool canMove = menu.back().enabled && !listing_.Rows().Sort().on;

@@ -78,15 +78,9 @@ PlayKey StationDetails::Key(const std::string& link, const std::string& media,
   return key;
 }
 
-void StationDetails::MakeLost(StationDetail& detail) const {
-  detail.name = detail.station.Token();
-  detail.description = strings_.Load(IDS_DETAIL_LOST);
-  detail.station = {};
-}
-
 void StationDetails::AddDirectoryStation(StationDetail& detail) const {
   const StationRecord record = source_.Record(detail.station.number);
-  if (record.Empty()) return MakeLost(detail);
+  if (record.Empty()) return void(detail = {});
   detail.name = record[StationField::Name];
   detail.location = record[StationField::Location];
   detail.description = record[StationField::Description];
@@ -109,7 +103,7 @@ void StationDetails::AddDirectoryStation(StationDetail& detail) const {
 
 void StationDetails::AddPersonalStation(StationDetail& detail) const {
   const PersonalStation* station = personal_.Find(detail.station.number);
-  if (!station) return MakeLost(detail);
+  if (!station) return void(detail = {});
   detail.name = station->name;
   detail.location = strings_.Load(IDS_DETAIL_YOUR_STATION);
   detail.description = station->note;

@@ -39,8 +39,7 @@ struct StationDetail {
   static constexpr std::size_t kRatings = 4;  // overall, sound, speed, web site
   static constexpr std::size_t kPlayKeys = 3;
 
-  // None: nothing is selected, and all else is empty; or the station is lost, and only its name (the
-  // identifier) and a description that says so are there.
+  // None: nothing is selected, or the station is not there any more; all else is empty.
   StationKey station;
   std::string name;
   std::string location;
@@ -65,7 +64,6 @@ class StationDetails {
   RatingFigure Rating(const std::string& digit, int nameId) const;
 
  private:
-  void MakeLost(StationDetail& detail) const;
   void AddDirectoryStation(StationDetail& detail) const;
   void AddPersonalStation(StationDetail& detail) const;
   void AddExtraLinks(StationDetail& detail) const;

@@ -3,6 +3,7 @@
 #include <utility>
 
 #include "app/Strings.h"
+#include "base/RowSelection.h"
 #include "base/Text.h"
 #include "mainwindow/BrowseTree.h"
 #include "mainwindow/FavoriteGroups.h"
@@ -54,6 +55,10 @@ void StationListing::RebuildFromListingMode() {
   const std::string mode = state_.listingMode;
   if (mode == ListingState::kRecent) {
     ShowRecent();
+  } else if (mode == ListingState::kLastSearch) {
+    if (state_.holds == Holds::Search) return;
+    HoldLastSearch();
+    FillHeld();
   } else if (const auto ranking = RankingOfListingMode(mode)) {
     ShowRanking(*ranking);
   } else if (mode.starts_with(ListingState::kGroup)) {
@@ -69,6 +74,7 @@ void StationListing::LeaveForList() {
 }
 
 void StationListing::Hold(Holds holds, std::string caption) {
+  state_.missing.clear();
   state_.holds = holds;
   state_.caption = std::move(caption);
   state_.ranking.reset();
@@ -132,12 +138,15 @@ void StationListing::treeBrowse_NodeClick(const BrowseNode& node) {
 
 void StationListing::ShowSearch(std::string_view text, bool allWords) {
   searchText_ = text;
-  searchAllWords_ = allWords;
   webSearchIsLast_ = false;
   LeaveForList();
+  HoldLastSearch();
+  foundIds_ = lists_.FillListFromSearch(text, allWords, rows_);
+}
+
+void StationListing::HoldLastSearch() {
   state_.listingMode = ListingState::kLastSearch;
-  Hold(Holds::Search, FillIn(strings_.Load(IDS_LISTING_SEARCH), {text}));
-  FillHeld();
+  Hold(Holds::Search, FillIn(strings_.Load(IDS_LISTING_SEARCH), {searchText_}));
 }
 
 void StationListing::ShowWebSearch() {
@@ -161,16 +170,20 @@ void StationListing::GroupRenamed(std::string_view from, std::string_view to) {
 }
 
 void StationListing::GroupDeleted(std::string_view name) {
-  if (state_.holds == Holds::Group && EqualIgnoringCase(state_.group, name)) ShowRecent();
+  if (state_.holds != Holds::Group || !EqualIgnoringCase(state_.group, name)) return;
+  if (state_.middle == Middle::StationList) return HoldRecent();
+  state_.listingMode.clear();
+  Hold(Holds::Nothing, {});
+  FillHeld();
 }
 
 void StationListing::StationsChanged() { Refill(); }
 
 void StationListing::Refill() {
-  const StationRow* selected = rows_.SelectedRow();
-  const std::string key = selected ? selected->key : std::string();
+  const std::vector<std::string> before = rows_.Keys();
+  const std::size_t selected = rows_.Selected().value_or(0);
   FillHeld();
-  if (const auto position = rows_.Find(key)) rows_.Select(position);
+  rows_.Select(SelectionAfterFill(before, selected, rows_.Keys()));
 }
 
 void StationListing::FillHeld() {
@@ -186,14 +199,13 @@ void StationListing::FillHeld() {
     case Holds::Recent:
       return lists_.FillListFromRecent(rows_);
     case Holds::Group:
+      state_.missing.clear();
       if (const auto group = groups_.Find(state_.group)) {
-        lists_.FillListFromGroup(groups_.Members(*group), rows_);
+        state_.missing = lists_.FillListFromGroup(groups_.Members(*group), rows_);
       }
       return;
     case Holds::Search:
-      foundIds_ = lists_.FillListFromSearch(searchText_, searchAllWords_, rows_);
-      if (foundIds_.empty()) lists_.FillListWithNoStations(rows_);
-      return;
+      return lists_.FillListFromFound(foundIds_, rows_);
   }
 }
 

@@ -5,6 +5,8 @@
 #include <cstddef>
 #include <string>
 #include <string_view>
+#include <utility>
+#include <vector>
 
 #include "mainwindow/ListingState.h"
 #include "mainwindow/StationRows.h"
@@ -21,8 +23,13 @@ struct BrowseNode;
 class StationListing {
  public:
   StationListing(StationLists& lists, Rankings& rankings, const FavoriteGroups& groups, BrowseTree& tree,
-                 const Strings& strings)
-      : lists_(lists), rankings_(rankings), groups_(groups), tree_(tree), strings_(strings) {}
+                 const Strings& strings, SortKeyOf sortKey)
+      : lists_(lists),
+        rankings_(rankings),
+        groups_(groups),
+        tree_(tree),
+        strings_(strings),
+        rows_(std::move(sortKey)) {}
 
   const ListingState& State() const { return state_; }
   StationRows& Rows() { return rows_; }
@@ -45,17 +52,20 @@ class StationListing {
   // Fills the list and leaves the tree on show.
   void treeBrowse_NodeClick(const BrowseNode& node);
   void ShowSearch(std::string_view text, bool allWords);
-  // What the last search found: identifiers in the directory's order, each followed by one blank.
+  // What the last search found: identifiers in the directory's order, each followed by one blank. It is what
+  // its listing mode shows until the next search, whatever else was listed meanwhile.
   const std::string& LastSearchIds() const { return foundIds_; }
   // The middle shows what was asked of the web in place of the list, and does so again whenever the search
   // view comes back, until the directory is searched.
   void ShowWebSearch();
 
-  // The groups changed: fills the list again when it shows one. The selection stays on its station.
+  // The groups changed: fills the list again when it shows one. The selection follows the rule of
+  // base/RowSelection.h.
   void GroupsChanged();
   // The group on show has a new name.
   void GroupRenamed(std::string_view from, std::string_view to);
-  // Falls back to the recent list when the group was on show.
+  // Falls back to the recent list when the group was on show in the middle, whatever page is beside it. A
+  // list that held it behind another page is emptied.
   void GroupDeleted(std::string_view name);
   // Stations changed (the directory, or the user's own): looks all rows up again.
   void StationsChanged();
@@ -65,6 +75,7 @@ class StationListing {
   void RebuildFromListingMode();
   void HoldGroup(std::size_t group);
   void HoldRecent();
+  void HoldLastSearch();
   void FillHeld();
   void Refill();
   void Hold(Holds holds, std::string caption);
@@ -77,7 +88,6 @@ class StationListing {
   StationRows rows_;
   ListingState state_;
   std::string searchText_;
-  bool searchAllWords_ = true;
   bool webSearchIsLast_ = false;
   std::string foundIds_;
 };

@@ -45,8 +45,13 @@ std::string StationLists::FillListFromSearch(std::string_view text, bool allWord
   const std::vector<std::int32_t> found = stations_.SearchStationIds(text, allWords);
   std::string ids;
   for (const std::int32_t id : found) ids += std::to_string(id) + ' ';
-  list.Fill(RowsOfStations(found));
+  FillListFromFound(ids, list);
   return ids;
+}
+
+void StationLists::FillListFromFound(std::string_view ids, StationRows& list) {
+  FillListFromIds(ids, list);
+  if (list.Count() == 0) list.Fill({RowOfNoStation(strings_.Load(IDS_LISTING_NO_STATIONS))});
 }
 
 void StationLists::FillListFromPersonal(StationRows& list) {
@@ -57,20 +62,21 @@ void StationLists::FillListFromPersonal(StationRows& list) {
   list.Fill(std::move(rows));
 }
 
-void StationLists::FillListFromGroup(std::string_view members, StationRows& list) {
-  list.Fill(RowsOf(SplitWords(members), Unknown::ShownAsLost));
+std::vector<std::string> StationLists::FillListFromGroup(std::string_view members, StationRows& list) {
+  std::vector<std::string> missing;
+  list.Fill(RowsOf(SplitWords(members), missing));
+  if (!missing.empty() && stations_.StationCount() == 0) missing.clear();
+  return missing;
 }
 
 void StationLists::FillListFromRecent(StationRows& list) {
   const std::string text = recent_.AsText();
-  list.Fill(RowsOf(SplitWords(text), Unknown::LeftOut));
+  std::vector<std::string> missing;
+  list.Fill(RowsOf(SplitWords(text), missing));
 }
 
-void StationLists::FillListWithNoStations(StationRows& list) {
-  list.Fill({RowOfNoStation(strings_.Load(IDS_LISTING_NO_STATIONS))});
-}
-
-std::vector<StationRow> StationLists::RowsOf(const std::vector<std::string_view>& tokens, Unknown unknown) {
+std::vector<StationRow> StationLists::RowsOf(const std::vector<std::string_view>& tokens,
+                                             std::vector<std::string>& missing) {
   std::vector<std::int32_t> ids;
   for (const std::string_view token : tokens) {
     const StationKey key = StationKey::FromToken(token);
@@ -89,8 +95,11 @@ std::vector<StationRow> StationLists::RowsOf(const std::vector<std::string_view>
     } else if (key && next != known.end() && next->key == key.RowKey()) {
       row = std::move(*next++);
     }
-    if (!row && unknown == Unknown::ShownAsLost) row = RowOfLostStation(std::string(token));
-    if (row) rows.push_back(std::move(*row));
+    if (row) {
+      rows.push_back(std::move(*row));
+    } else {
+      missing.emplace_back(token);
+    }
   }
   return rows;
 }

@@ -25,23 +25,24 @@ class StationLists {
 
   // `ids`: decimal identifiers, each followed by one blank. Unknown ones are left out, the order is kept.
   void FillListFromIds(std::string_view ids, StationRows& list);
-  // Searches the directory and fills the list with the stations found, in the directory's order. Returns
-  // their identifiers, each followed by one blank. The list stays empty when nothing was found.
+  // Searches the directory and fills the list with the stations found, in the directory's order, or with one
+  // row that says that there are none. Returns their identifiers, each followed by one blank.
   std::string FillListFromSearch(std::string_view text, bool allWords, StationRows& list);
   // Every personal station that has a name, in table order.
   void FillListFromPersonal(StationRows& list);
-  // The members of a favourite group: identifiers and "P" + index. A member that is no longer
-  // there is listed as its token, marked lost, so that it can be seen and removed.
-  void FillListFromGroup(std::string_view members, StationRows& list);
+  // What a search found, once more.
+  void FillListFromFound(std::string_view ids, StationRows& list);
+  // The members of a favourite group: identifiers and "P" + index. Returns those that the guide does not
+  // know, which are left out; none when the guide could not be read, which says nothing about them.
+  std::vector<std::string> FillListFromGroup(std::string_view members, StationRows& list);
   // The stations played last that are still there, most recent first.
   void FillListFromRecent(StationRows& list);
-  // One row that says that nothing was found.
-  void FillListWithNoStations(StationRows& list);
 
  private:
   std::vector<StationRow> RowsOfStations(const std::vector<std::int32_t>& ids);
-  enum class Unknown { LeftOut, ShownAsLost };
-  std::vector<StationRow> RowsOf(const std::vector<std::string_view>& tokens, Unknown unknown);
+  // What is unknown is left out and added to `missing`.
+  std::vector<StationRow> RowsOf(const std::vector<std::string_view>& tokens,
+                                 std::vector<std::string>& missing);
 
   StatList& stations_;
   const PersonalStations& personal_;

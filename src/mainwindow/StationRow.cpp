@@ -51,14 +51,6 @@ StationRow RowOfPersonalStation(std::int32_t index, std::string name, std::strin
   return row;
 }
 
-StationRow RowOfLostStation(std::string token) {
-  StationRow row;
-  row.key = token.starts_with('P') ? token : "S" + token;
-  row.text = std::move(token);
-  row.lost = true;
-  return row;
-}
-
 StationRow RowOfNoStation(std::string text) {
   StationRow row;
   row.key = "X";

@@ -23,7 +23,6 @@ struct StationRow {
   std::string text;  // the name
   std::array<std::string, kSubItemCount> subItems;
   int icon = kFirstReliabilityIcon;  // reliability + 7
-  bool lost = false;                 // a group names the station, but it is no longer there: shown in grey
 
   std::string& operator[](SubItem item) { return subItems[static_cast<std::size_t>(item) - 1]; }
   const std::string& operator[](SubItem item) const { return subItems[static_cast<std::size_t>(item) - 1]; }
@@ -39,8 +38,6 @@ struct StationRow {
 StationRow RowOfStation(const StationRecord& record);
 // The row of a personal station: `media` is its second field.
 StationRow RowOfPersonalStation(std::int32_t index, std::string name, std::string media);
-// A station that is neither in the directory nor among the user's own: its token as text.
-StationRow RowOfLostStation(std::string token);
 // A row that says something and stands for no station.
 StationRow RowOfNoStation(std::string text);
 

@@ -4,13 +4,11 @@
 #include <numeric>
 #include <utility>
 
-#include "base/Text.h"
-
 namespace sonaro {
 namespace {
 
-// A folded text and the row it belongs to. The first eight bytes decide most comparisons without touching the
-// text itself.
+// The sort key of a text and the row it belongs to. The first eight bytes decide most comparisons without
+// touching the text itself.
 struct SortKey {
   std::uint64_t prefix = 0;
   std::uint32_t offset = 0;
@@ -18,22 +16,21 @@ struct SortKey {
   std::uint32_t row = 0;
 };
 
-std::uint64_t PrefixOf(std::string_view folded) {
+std::uint64_t PrefixOf(std::string_view key) {
   std::uint64_t prefix = 0;
   for (std::size_t i = 0; i < 8; ++i) {
-    prefix = prefix << 8 | (i < folded.size() ? static_cast<unsigned char>(folded[i]) : 0U);
+    prefix = prefix << 8 | (i < key.size() ? static_cast<unsigned char>(key[i]) : 0U);
   }
   return prefix;
 }
 
-// All sort keys of one sort, their folded texts end to end in one buffer.
+// All sort keys of one sort, end to end in one buffer.
 class SortKeys {
  public:
-  void Add(std::string_view text, std::uint32_t row) {
-    const std::string folded = FoldCase(text);
-    keys_.push_back({PrefixOf(folded), static_cast<std::uint32_t>(folded_.size()),
-                     static_cast<std::uint32_t>(folded.size()), row});
-    folded_ += folded;
+  void Add(std::string_view key, std::uint32_t row) {
+    keys_.push_back({PrefixOf(key), static_cast<std::uint32_t>(bytes_.size()),
+                     static_cast<std::uint32_t>(key.size()), row});
+    bytes_ += key;
   }
 
   void SortStably(SortOrder order) {
@@ -51,14 +48,14 @@ class SortKeys {
  private:
   int Compare(const SortKey& a, const SortKey& b) const {
     if (a.prefix != b.prefix) return a.prefix < b.prefix ? -1 : 1;
-    return TextOf(a).compare(TextOf(b));
+    return BytesOf(a).compare(BytesOf(b));
   }
-  std::string_view TextOf(const SortKey& key) const {
-    return std::string_view(folded_).substr(key.offset, key.length);
+  std::string_view BytesOf(const SortKey& key) const {
+    return std::string_view(bytes_).substr(key.offset, key.length);
   }
 
   std::vector<SortKey> keys_;
-  std::string folded_;
+  std::string bytes_;
 };
 
 }  // namespace
@@ -81,7 +78,7 @@ void StationRows::SortBy(int key, SortOrder order) {
 void StationRows::ApplySort() {
   if (!sort_.on) return;
   SortKeys keys;
-  for (std::uint32_t row = 0; row < rows_.size(); ++row) keys.Add(SortText(rows_[row]), row);
+  for (std::uint32_t row = 0; row < rows_.size(); ++row) keys.Add(sortKey_(SortText(rows_[row])), row);
   keys.SortStably(sort_.order);
   std::transform(keys.Keys().begin(), keys.Keys().end(), order_.begin(),
                  [](const SortKey& key) { return key.row; });
@@ -130,6 +127,13 @@ void StationRows::Select(std::optional<std::size_t> position) {
   if (!position || *position >= Count()) return;
   const StationRow& row = At(*position);
   if (row.IsStation() || row.IsPersonal()) selected_ = order_[*position];
+}
+
+std::vector<std::string> StationRows::Keys() const {
+  std::vector<std::string> keys;
+  keys.reserve(Count());
+  for (std::size_t position = 0; position < Count(); ++position) keys.push_back(At(position).key);
+  return keys;
 }
 
 std::vector<std::string> StationRows::Tokens() const {

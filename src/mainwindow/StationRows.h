@@ -8,8 +8,10 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
+#include "base/Text.h"
 #include "mainwindow/StationRow.h"
 
 namespace sonaro {
@@ -27,13 +29,16 @@ class StationRows {
  public:
   static constexpr int kColumns = 4;  // name, location, media type, station format
 
+  // `sortKey` is asked once for each row of a sort.
+  explicit StationRows(SortKeyOf sortKey = FoldCase) : sortKey_(std::move(sortKey)) {}
+
   // Replaces all rows. A sort chosen earlier stays in force. The first shown row becomes the selected one,
   // unless it stands for no station; an empty list has no selection.
   void Fill(std::vector<StationRow> rows);
   void Clear() { Fill({}); }
 
-  // Text sort of a sub-item, letter case ignored; rows that compare equal keep the order of the fill, in both
-  // orders. The selected row stays selected. A key outside 0 to 8 changes nothing.
+  // Text sort of a sub-item by its sort key; rows with equal keys keep the order of the fill, in both orders.
+  // The selected row stays selected. A key outside 0 to 8 changes nothing.
   void SortBy(int key, SortOrder order);
   const SortState& Sort() const { return sort_; }
 
@@ -54,6 +59,8 @@ class StationRows {
   // Selecting a row that stands for no station, or nothing, leaves no selection.
   void Select(std::optional<std::size_t> position);
 
+  // The keys of all rows in the shown order.
+  std::vector<std::string> Keys() const;
   // Identifiers and personal keys of all rows in the shown order.
   std::vector<std::string> Tokens() const;
 
@@ -61,6 +68,7 @@ class StationRows {
   void ApplySort();
   const std::string& SortText(const StationRow& row) const;
 
+  SortKeyOf sortKey_;
   std::vector<StationRow> rows_;      // in the order of the fill
   std::vector<std::uint32_t> order_;  // shown position -> index in rows_
   SortState sort_;

@@ -4,15 +4,10 @@
 #include "base/Text.h"
 #include "forms/ControlIds.h"
 #include "forms/DialogRows.h"
+#include "mainwindow/FavoriteGroups.h"
 #include "resources/texts/mainwindow.h"
 
 namespace sonaro {
-
-namespace {
-
-constexpr int kMostNameBytes = 100;
-
-}  // namespace
 
 FormDesign frmNewFavorite::DesignOf(const char* name, int title) {
   static constexpr ControlRow kControls[] = {
@@ -62,7 +57,7 @@ std::string frmNewFavorite::AskName(HWND owner) { return ShowModal(owner) == 1 ?
 
 void frmNewFavorite::OnLoad() {
   SetText(lblTitle, LoadText(Description().caption.id));
-  LimitText(txtGroupName, kMostNameBytes);
+  LimitText(txtGroupName, FavoriteGroups::kMostNameBytes);
   SetText(txtGroupName, name_);
   SelectAllText(txtGroupName);
   txtGroupName_Change();

@@ -1,10 +1,18 @@
 #include "mainwindow/frmPickGroup.h"
 
+#include "base/Text.h"
 #include "forms/ControlIds.h"
 #include "forms/DialogRows.h"
+#include "mainwindow/FavoriteGroups.h"
 #include "resources/texts/mainwindow.h"
 
 namespace sonaro {
+
+namespace {
+
+constexpr unsigned char kNamePane = 1;
+
+}  // namespace
 
 const FormDesign& frmPickGroup::Design() {
   static constexpr ControlRow kControls[] = {
@@ -17,6 +25,12 @@ const FormDesign& frmPickGroup::Design() {
        .type = Type::Title},
       Caption(IDS_DLG_PICK_GROUP, {14, 84, 90, 28}),
       {.id = cmbGroup, .kind = Kind::Combo, .text = IDS_DLG_PICK_GROUP, .at = {110, 84, 296, 28}},
+      Caption(IDS_DLG_GROUP_NAME, {14, 132, 90, 28}, kNamePane),
+      {.id = txtGroupName,
+       .kind = Kind::Edit,
+       .text = IDS_DLG_GROUP_NAME,
+       .at = {110, 132, 296, 28},
+       .pane = kNamePane},
       {.kind = Kind::Groove, .at = {14, 190, 392, 2}},
       OkKey({214, 201, 92, 30}),
       CancelKey({314, 201, 92, 30}),
@@ -33,6 +47,8 @@ const FormDesign& frmPickGroup::Design() {
 
 std::span<const EventRow> frmPickGroup::Events() const {
   static const EventRow kRows[] = {
+      {cmbGroup, SelChange, &frmPickGroup::cmbGroup_SelChange},
+      {txtGroupName, Change, &frmPickGroup::txtGroupName_Change},
       {butOKIt, Click, &frmPickGroup::butOKIt_Click},
       {butCancelIt, Click, &frmPickGroup::butCancelIt_Click},
       {butCloseIt, Click, &frmPickGroup::butCancelIt_Click},
@@ -44,13 +60,32 @@ std::string frmPickGroup::AskGroup(HWND owner) { return ShowModal(owner) == 1 ? 
 
 void frmPickGroup::OnLoad() {
   SetText(lblStation, station_);
+  LimitText(txtGroupName, FavoriteGroups::kMostNameBytes);
   for (const std::string& group : groups_) AddItem(cmbGroup, group);
+  if (groups_.size() < FavoriteGroups::kSlots) AddItem(cmbGroup, LoadText(IDS_DLG_PICK_NEW));
   SelectItem(cmbGroup, 0);
+  cmbGroup_SelChange();
+  if (groups_.empty()) Focus(txtGroupName);
+}
+
+bool frmPickGroup::IsNewChosen() const { return SelectedItem(cmbGroup) == static_cast<int>(groups_.size()); }
+
+void frmPickGroup::cmbGroup_SelChange() {
+  ShowPane(kNamePane, IsNewChosen());
+  txtGroupName_Change();
+}
+
+void frmPickGroup::txtGroupName_Change() {
+  Enable(butOKIt, !IsNewChosen() || !TrimBlanks(Text(txtGroupName)).empty());
 }
 
 void frmPickGroup::butOKIt_Click() {
   const int row = SelectedItem(cmbGroup);
-  if (row >= 0) chosen_ = groups_[static_cast<std::size_t>(row)];
+  if (IsNewChosen()) {
+    chosen_ = Text(txtGroupName);
+  } else if (row >= 0) {
+    chosen_ = groups_[static_cast<std::size_t>(row)];
+  }
   Close(1);
 }
 

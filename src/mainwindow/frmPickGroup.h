@@ -1,4 +1,5 @@
-// Asks which favourite group a station is added to.
+// Asks which favourite group a station is added to: one that is there, or a new one, whose name is typed
+// here.
 #pragma once
 
 #include <string>
@@ -13,13 +14,16 @@ class frmPickGroup final : public Form {
   frmPickGroup(FormContext& context, std::string station, std::vector<std::string> groups)
       : Form(context, Design()), station_(std::move(station)), groups_(std::move(groups)) {}
 
-  // A group's name; "" when none was chosen.
+  // The name of a group, which may be a new one; "" when none was chosen.
   std::string AskGroup(HWND owner);
 
  private:
   static const FormDesign& Design();
   std::span<const EventRow> Events() const override;
   void OnLoad() override;
+  bool IsNewChosen() const;
+  void cmbGroup_SelChange();
+  void txtGroupName_Change();
   void butOKIt_Click();
   void butCancelIt_Click() { Close(); }
 

@@ -3,6 +3,7 @@
 
 #include <cstdint>
 #include <string>
+#include <string_view>
 
 namespace sonaro {
 
@@ -36,6 +37,10 @@ class SystemInfo {
   // One entry of an INI file through the platform's profile-string reader: at most 254 bytes.
   virtual std::string ProfileString(const std::string& section, const std::string& key,
                                     const std::string& defaultText, const std::string& fileName) = 0;
+  // Bytes whose order is that of the texts in the user's language, letter case ignored: texts that differ in
+  // letter case only have the same key, and accented letters stand where the language has them. Made once for
+  // each text of a list, never for each comparison.
+  virtual std::string SortKey(std::string_view text) = 0;
 };
 
 }  // namespace sonaro

@@ -56,6 +56,20 @@ TYPED_TEST(SystemInfoContract, LongProfileStringsAreCut) {
   EXPECT_EQ(world.info.ProfileString("Section", "Key", "", world.file), std::string(254, 'x'));
 }
 
+// Whatever the language of the machine: these places are the same in all that are written in Latin letters.
+TYPED_TEST(SystemInfoContract, SortKeysFollowTheLanguageAndNotTheCodePoints) {
+  TypeParam world;
+  const auto key = [&world](const char* text) { return world.info.SortKey(text); };
+  const char* const inOrder[] = {"", "Ante", "Évora", "Faro", "Łódź", "Madrid", "zebra", "Zebra 2", "Жук"};
+  for (std::size_t i = 1; i < std::size(inOrder); ++i) {
+    EXPECT_LT(key(inOrder[i - 1]), key(inOrder[i])) << inOrder[i];
+  }
+  EXPECT_EQ(key("ROCK fm"), key("Rock FM"));
+  EXPECT_EQ(key("ÉVORA"), key("évora"));
+  EXPECT_NE(key("Evora"), key("Évora"));
+  EXPECT_LT(key(std::string(5000, 'a').c_str()), key("b")) << "a name of any length";
+}
+
 #ifdef _WIN32
 TEST(SystemInfoWin, MachineFacts) {
   const MachineFacts facts = SystemInfoWin().Machine();

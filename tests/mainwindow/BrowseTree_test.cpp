@@ -4,6 +4,7 @@
 
 #include "base/DataFolder.h"
 #include "fakes/FakeFiles.h"
+#include "fakes/FakeSystemInfo.h"
 
 namespace sonaro {
 namespace {
@@ -24,9 +25,10 @@ class BrowseTreeTest : public testing::Test {
     return lines;
   }
 
+  FakeSystemInfo system;
   FakeFiles files;
   DataFolder data{files, "/d", '/'};
-  BrowseTree tree{data};
+  BrowseTree tree{data, [this](std::string_view text) { return system.SortKey(text); }};
 };
 
 TEST_F(BrowseTreeTest, BuildsCategoriesWithTheirEntries) {
@@ -68,6 +70,38 @@ TEST_F(BrowseTreeTest, AnEntryHangsUnderAnEarlierEntryOfItsOwnFile) {
             "M1 A [1a]\n.E8 Eight [4]\n.E5 Five of A [1]\n.E6 Six [5]\n"
             "M2 B [2b]\n.E5 Five of B [2]\n..E6 Six of B [3]\n"
             "O1 Your Stations [O]\n");
+}
+
+TEST_F(BrowseTreeTest, EntriesStandInTheOrderOfTheLanguage) {
+  files.Put("/d/cat.snr", "1\tPlaces\tp\tP\n");
+  files.Put(
+      "/d/p.snr",
+      "1\t\tZürich\t0\t\n2\t\tŁódź\t0\t\n3\t\tFaro\t0\t\n4\t\tÉvora\t0\t\n5\t\tLodz\t0\t\n6\t\tLyon\t0\t\n");
+  tree.FillBrowseTree(BrowseMode::ByCategory);
+  std::string texts;
+  for (const int child : tree.Node(tree.Find("M1")).children) texts += tree.Node(child).text + " ";
+  EXPECT_EQ(texts, "Évora Faro Lodz Łódź Lyon Zürich ");
+}
+
+TEST_F(BrowseTreeTest, AListNestedWithoutEndLosesNoStation) {
+  constexpr int kDepth = 14000;
+  std::string list;
+  for (int entry = 1; entry <= kDepth; ++entry) {
+    list +=
+        std::to_string(entry) + "\t\tE\t" + std::to_string(entry - 1) + "\t" + std::to_string(entry) + "\n";
+  }
+  files.Put("/d/cat.snr", "1\tDeep\tdeep\tD\n2\tAfter\tafter\tA\n");
+  files.Put("/d/deep.snr", list);
+  files.Put("/d/after.snr", "1\t\tFine\t0\t7\n");
+  tree.FillBrowseTree(BrowseMode::ByCategory);
+  EXPECT_EQ(tree.Node(tree.Find("M1")).stationCount, std::size_t{kDepth});
+  const BrowseNode& last = tree.Node(tree.Find("D" + std::to_string(kDepth)));
+  EXPECT_EQ(last.level, BrowseNode::kLowestLevel);
+  EXPECT_EQ(last.tag, std::to_string(kDepth));
+  EXPECT_EQ(tree.Node(tree.Find("D" + std::to_string(BrowseNode::kLowestLevel))).level,
+            BrowseNode::kLowestLevel)
+      << "what is not too deep stays where it is";
+  EXPECT_EQ(tree.Node(tree.Find("A1")).stationCount, 1U);
 }
 
 TEST_F(BrowseTreeTest, IsRebuiltOnlyWhenTheOtherModeIsAskedFor) {

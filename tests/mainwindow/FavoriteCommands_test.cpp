@@ -91,23 +91,71 @@ TEST_F(FavoriteCommandsTest, DeletingAsksUntilToldNotTo) {
 TEST_F(FavoriteCommandsTest, StationsComeGoAndMoveInTheGroupOnShow) {
   listing.ShowFavoriteGroup(0);
   commands.AddStationToGroup("jazz", "3");
-  EXPECT_EQ(Shown(), "S4 [77] P1 S1 S3 ");
+  EXPECT_EQ(Shown(), "S4 P1 S1 S3 ");
   commands.AddStationToGroup("jazz", "3");
   commands.AddStationToGroup("No such group", "3");
   commands.PlaceStation("77", "4");
   commands.PlaceStation("77", "77");
   commands.PlaceStation("3", "unknown");
   commands.PlaceStation("unknown", "3");
-  EXPECT_EQ(Shown(), "[77] S4 P1 S1 S3 ");
-  commands.RemoveStation("P1");
+  EXPECT_EQ(Shown(), "S4 P1 S1 S3 ");
+  commands.RemoveStation("jazz", "P1");
   EXPECT_EQ(File(), "Jazz\t77 4 1 3 \r\nEmpty\t\r\nRock\t2\r\n");
   listing.ShowRecent();
-  commands.RemoveStation("3");
+  commands.RemoveStation("No such group", "3");
   commands.PlaceStation("3", "1");
   EXPECT_EQ(Shown(), "S3 P1 S1 ") << "no group is on show";
   commands.AddStationToGroup("ROCK", "P1");
   EXPECT_TRUE(File().ends_with("Rock\t2 P1 \r\n"));
   EXPECT_TRUE(prompts.box.asked.empty());
+}
+
+TEST_F(FavoriteCommandsTest, TheFirstStationMakesItsGroup) {
+  groups.Remove(2);
+  commands.AddStationToGroupOrNew(" First\t", "3");
+  EXPECT_TRUE(File().ends_with("First\t3 \r\n")) << File();
+  EXPECT_EQ(prompts.told, std::vector<std::string>{"AddNewFavGroup\tFirst"});
+  commands.AddStationToGroupOrNew("FIRST", "1");
+  EXPECT_TRUE(File().ends_with("First\t3 1 \r\n")) << "a name that is there means that group";
+  commands.AddStationToGroupOrNew(" ", "1");
+  while (groups.Count() < FavoriteGroups::kSlots) groups.Add("G" + std::to_string(groups.Count()));
+  const std::string full = File();
+  commands.AddStationToGroupOrNew("Eleven", "1");
+  EXPECT_EQ(LastKey(), "AlreadyHave10FavoriteGroups");
+  EXPECT_EQ(File(), full);
+}
+
+TEST_F(FavoriteCommandsTest, DeletingAGroupThatIsNotOnShowLeavesTheWindowAlone) {
+  settings.SetSetting("NoShowDelete", "Yes");
+  listing.ShowFavoriteGroup(2);
+  listing.ShowView(View::YourSonaro);
+  ASSERT_EQ(listing.State().middle, Middle::EventPage);
+  commands.DeleteFavoriteGroup(2);
+  EXPECT_EQ(listing.State().view, View::YourSonaro);
+  EXPECT_EQ(listing.State().middle, Middle::EventPage);
+  listing.ShowListView();
+  EXPECT_EQ(Shown(), "") << "nor does its list come back";
+  listing.ShowView(View::YourSonaro);
+  listing.ShowGroupInPlace(0);
+  commands.DeleteFavoriteGroup(0);
+  EXPECT_EQ(listing.State().view, View::YourSonaro) << "the list falls back on the page where it is";
+  EXPECT_EQ(Shown(), "S3 P1 S1 ");
+  EXPECT_EQ(listing.State().listingMode, "Recent");
+}
+
+TEST_F(FavoriteCommandsTest, MissingMembersAreTakenOutWhenTheUserSaysSo) {
+  listing.ShowFavoriteGroup(0);
+  const std::string before = File();
+  commands.TakeOutMissing();
+  EXPECT_EQ(LastKey(), "TakeOutMissingStations");
+  EXPECT_EQ(File(), before) << "the box was closed";
+  prompts.box.answers = {{MessageAnswer::First, false}};
+  commands.TakeOutMissing();
+  EXPECT_TRUE(File().starts_with("Jazz\t4 P1 1 \r\n")) << File();
+  EXPECT_TRUE(listing.State().missing.empty());
+  const std::size_t asked = prompts.box.asked.size();
+  commands.TakeOutMissing();
+  EXPECT_EQ(prompts.box.asked.size(), asked) << "none is missing";
 }
 
 TEST_F(FavoriteCommandsTest, AChangeThatCannotBeWrittenIsSaid) {

@@ -23,7 +23,7 @@ class FavoriteGroupsTest : public testing::Test {
 
 TEST_F(FavoriteGroupsTest, LoadingNormalisesTheFile) {
   Load("  Morning\t1204 877 P3 \r\nno tab\r\n\r\nJazz\t\nNight Owls\t5  6\n \t7");
-  EXPECT_EQ(File(), "Morning\t1204 877 P3\r\nJazz\t\r\nNight Owls\t5  6\r\n\t7\r\n");
+  EXPECT_EQ(File(), "Morning\t1204 877 P3\r\nJazz\t\r\nNight Owls\t5  6\r\nGroup\t7\r\n");
   ASSERT_EQ(groups.Count(), 4U);
   EXPECT_EQ(groups.Name(2), "Night Owls");
   EXPECT_EQ(groups.Members(0), "1204 877 P3");
@@ -31,6 +31,15 @@ TEST_F(FavoriteGroupsTest, LoadingNormalisesTheFile) {
   files.ClearLog();
   groups.LoadFavoriteGroups();
   EXPECT_TRUE(files.Log().empty()) << "a normal file is not written again";
+}
+
+TEST_F(FavoriteGroupsTest, EveryGroupHasANameOfItsOwn) {
+  Load("Jazz\t1\njazz\t2\n\t3\nJazz 2\t4\n \t5\nGroup\t6\nJAZZ \t7\n\t8\n");
+  EXPECT_EQ(File(),
+            "Jazz\t1\r\njazz 3\t2\r\nGroup 2\t3\r\nJazz 2\t4\r\nGroup 3\t5\r\nGroup\t6\r\n"
+            "JAZZ 4\t7\r\nGroup 4\t8\r\n");
+  for (std::size_t group = 0; group < groups.Count(); ++group)
+    EXPECT_EQ(groups.Find(groups.Name(group)), group);
 }
 
 TEST_F(FavoriteGroupsTest, NoFileMeansNoGroupsAndMakesNone) {

@@ -54,13 +54,10 @@ class Models : public testing::Test {
     groups.LoadFavoriteGroups();
   }
 
-  // The keys of the rows as shown, each followed by a blank; a lost station in brackets.
+  // The keys of the rows as shown, each followed by a blank.
   std::string Shown() const {
     std::string keys;
-    for (std::size_t i = 0; i < listing.Rows().Count(); ++i) {
-      const StationRow& row = listing.Rows().At(i);
-      keys += row.lost ? "[" + row.text + "] " : row.key + " ";
-    }
+    for (const std::string& key : listing.Rows().Keys()) keys += key + " ";
     return keys;
   }
   const BrowseNode& NodeWithKey(std::string_view key) const { return tree.Node(tree.Find(key)); }
@@ -77,7 +74,7 @@ class Models : public testing::Test {
   BrowseTree tree{data};
   Rankings rankings{data};
   StationLists lists{stations, personal, recent, strings};
-  StationListing listing{lists, rankings, groups, tree, strings};
+  StationListing listing{lists, rankings, groups, tree, strings, FoldCase};
 };
 
 }  // namespace sonaro

@@ -44,7 +44,7 @@ TEST_F(StationActionsTest, CaptionsFollowTheSelectedStation) {
   EXPECT_EQ(Entry(mnuActionStationToFavList).text, Text(IDS_ACTION_ADD_TO_GROUP, "Rock and Jazz", "Jazz"));
   EXPECT_EQ(Entry(mnuActionRemoveFromFavList).text,
             Text(IDS_ACTION_REMOVE_FROM_GROUP, "Rock and Jazz", "Jazz"));
-  listing.Rows().Select(2);
+  listing.Rows().Select(1);
   EXPECT_EQ(Entry(mnuActionSchedule).text, Text(IDS_ACTION_SCHEDULE, "Rock && Roll", "Jazz"));
   EXPECT_TRUE(Entry(mnuPersonalDelete).enabled);
   EXPECT_EQ(Entry(mnuActionExtraLink).command, -1) << "a station of one's own has no extra links";
@@ -94,21 +94,6 @@ TEST_F(StationActionsTest, GroupsThatHoldTheStationCannotTakeItAgain) {
   listing.ShowRecent();
   EXPECT_FALSE(Entry(mnuActionRemoveFromFavList).enabled);
   EXPECT_EQ(Entry(mnuActionMoveUp).command, -1);
-}
-
-TEST_F(StationActionsTest, ALostStationCanBeTakenOutOfItsGroup) {
-  personal.Delete(1);
-  listing.ShowFavoriteGroup(0);
-  ASSERT_EQ(Shown(), "S4 [77] [P1] S1 ");
-  for (const auto& [row, token] : {std::pair{1U, "77"}, {2U, "P1"}}) {
-    listing.Rows().Select(row);
-    EXPECT_EQ(listing.Rows().SelectedRow()->Token(), token);
-    EXPECT_TRUE(Entry(mnuActionRemoveFromFavList).enabled);
-    EXPECT_EQ(Entry(mnuActionRemoveFromFavList).text, Text(IDS_ACTION_REMOVE_FROM_GROUP, token, "Jazz"));
-    for (const int command : {mnuActionPlayOne, mnuActionSchedule, mnuActionAddToScan, mnuActionExtraLink}) {
-      EXPECT_FALSE(Entry(command).enabled) << command << " of " << token;
-    }
-  }
 }
 
 TEST_F(StationActionsTest, TheSortInForceIsChecked) {

@@ -73,12 +73,21 @@ TEST_F(StationListingTest, TheListingModeSurvivesOtherPanelsAndRebuildsTheList) 
   EXPECT_EQ(comeBackFromTheTree(), "S3 P1 S1 ");
   EXPECT_EQ(listing.State().caption, Caption(IDS_LISTING_YOUR_RECENT));
   listing.ShowFavoriteGroup(0);
-  EXPECT_EQ(comeBackFromTheTree(), "S4 [77] P1 S1 ");
+  EXPECT_EQ(comeBackFromTheTree(), "S4 P1 S1 ");
   EXPECT_EQ(listing.State().caption, "Jazz");
   groups.Remove(0);
   EXPECT_EQ(comeBackFromTheTree(), "S4 S1 S2 ") << "the group is gone: nothing is rebuilt";
   listing.ShowSearch("rock", true);
-  EXPECT_EQ(comeBackFromTheTree(), "S4 S1 S2 ") << "a search is not run again";
+  const std::string found = Shown();
+  EXPECT_EQ(found, "S2 S3 S4 ");
+  EXPECT_EQ(comeBackFromTheTree(), found);
+  EXPECT_EQ(listing.State().caption, FillIn(Caption(IDS_LISTING_SEARCH), {"rock"}));
+  listing.Rows().Select(2);
+  listing.ShowView(View::BrowseLoc);
+  listing.ShowListView();
+  EXPECT_EQ(listing.Rows().Selected(), 2U) << "it was still there";
+  listing.ShowSearch("polka", true);
+  EXPECT_EQ(comeBackFromTheTree(), "X ");
 }
 
 TEST_F(StationListingTest, ANodeFillsTheListAndLeavesTheTreeOnShow) {
@@ -117,17 +126,41 @@ TEST_F(StationListingTest, ASearchThatFindsNothingSaysSo) {
 
 TEST_F(StationListingTest, ARefillKeepsTheSelectedStation) {
   listing.ShowFavoriteGroup(0);
-  listing.Rows().Select(3);
+  listing.Rows().Select(2);
   groups.MoveStation(0, 3, 0);
   listing.GroupsChanged();
-  EXPECT_EQ(Shown(), "S1 S4 [77] P1 ");
+  EXPECT_EQ(Shown(), "S1 S4 P1 ");
   EXPECT_EQ(listing.Rows().Selected(), 0U);
-  groups.RemoveStation(0, "1");
-  listing.GroupsChanged();
-  EXPECT_EQ(listing.Rows().Selected(), 0U) << "its row is gone: the first one";
+  groups.Add("Many", "1");
+  groups.AddStations(3, {"2", "77", "3", "4"});
+  listing.ShowFavoriteGroup(3);
+  listing.Rows().Select(1);
+  for (const char* next : {"S3", "S4", "S1"}) {  // the last one gone: the last
+    groups.RemoveStation(3, listing.Rows().SelectedRow()->Token());
+    listing.GroupsChanged();
+    EXPECT_EQ(listing.Rows().SelectedRow()->key, next);
+  }
   listing.treeBrowse_NodeClick(BrowseNode{"E1", "Jazz", "1 2"});
   listing.treeBrowse_NodeClick(BrowseNode{"E9", "Other", "3 2"});
   EXPECT_EQ(listing.Rows().SelectedRow()->key, "S3") << "another list begins at its first row";
+}
+
+TEST_F(StationListingTest, WhatTheGuideDoesNotKnowIsLeftOutAndCounted) {
+  listing.ShowFavoriteGroup(0);
+  EXPECT_EQ(Shown(), "S4 P1 S1 ");
+  EXPECT_EQ(listing.State().missing, std::vector<std::string>{"77"});
+  personal.Delete(1);
+  listing.StationsChanged();
+  EXPECT_EQ(listing.State().missing, (std::vector<std::string>{"77", "P1"}));
+  EXPECT_EQ(groups.Members(0), "4 77 P1 1") << "they stay";
+  listing.ShowSearch("rock", true);
+  EXPECT_TRUE(listing.State().missing.empty());
+
+  DataFolder elsewhere(files, "/none", '/');
+  StatList none(elsewhere);
+  StationRows rows;
+  EXPECT_TRUE(StationLists(none, personal, recent, strings).FillListFromGroup("4 77", rows).empty())
+      << "a guide that cannot be read says nothing about them";
 }
 
 TEST_F(StationListingTest, ThePersonalPageListsYourStationsAndLeavesTheListingMode) {

@@ -5,6 +5,7 @@
 #include <random>
 
 #include "base/Text.h"
+#include "fakes/FakeSystemInfo.h"
 
 namespace sonaro {
 namespace {
@@ -75,6 +76,20 @@ TEST(StationRows, SortIgnoresLetterCaseInEveryScript) {
   rows.Fill({Row(1, "Жук"), Row(2, "été"), Row(3, "ZEBRA"), Row(4, "Été 2"), Row(5, "жар"), Row(6, "zebra")});
   rows.SortBy(0, SortOrder::Ascending);
   EXPECT_EQ(Shown(rows), "S3 S6 S2 S4 S5 S1 ");
+}
+
+TEST(StationRows, SortFollowsTheLanguageAndAsksOnceForEachRow) {
+  FakeSystemInfo system;
+  int asked = 0;
+  StationRows rows([&](std::string_view text) {
+    ++asked;
+    return system.SortKey(text);
+  });
+  rows.Fill(
+      {Row(1, "Zulu"), Row(2, "Łódź FM"), Row(3, "Lodz"), Row(4, "Évora"), Row(5, "Faro"), Row(6, "lyon")});
+  rows.SortBy(0, SortOrder::Ascending);
+  EXPECT_EQ(Shown(rows), "S4 S5 S3 S2 S6 S1 ");
+  EXPECT_EQ(asked, 6);
 }
 
 TEST(StationRows, SortAgreesWithAPlainSortOfFoldedTexts) {

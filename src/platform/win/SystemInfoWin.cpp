@@ -4,6 +4,8 @@
 
 #include <iterator>
 
+#include "base/Text.h"
+
 namespace sonaro {
 namespace {
 
@@ -84,6 +86,22 @@ std::string SystemInfoWin::ProfileString(const std::string& section, const std::
   const DWORD length = GetPrivateProfileStringA(section.c_str(), key.c_str(), defaultText.c_str(), text,
                                                 static_cast<DWORD>(std::size(text)), fileName.c_str());
   return std::string(text, length);
+}
+
+std::string SystemInfoWin::SortKey(std::string_view text) {
+  // Twice as long as a name is; a longer one sorts by its beginning.
+  constexpr std::size_t kMostBytes = 512;
+  const std::string_view start = CutForShow(text, kMostBytes);
+  wchar_t wide[kMostBytes];
+  const int length = MultiByteToWideChar(CP_ACP, 0, start.data(), static_cast<int>(start.size()), wide,
+                                         static_cast<int>(kMostBytes));
+  if (length <= 0) return {};
+  char key[16 * kMostBytes];  // the result is counted in bytes, its terminating zero with it
+  const int bytes = LCMapStringEx(
+      LOCALE_NAME_USER_DEFAULT,
+      LCMAP_SORTKEY | LINGUISTIC_IGNORECASE | NORM_IGNOREKANATYPE | NORM_IGNOREWIDTH, wide, length,
+      reinterpret_cast<wchar_t*>(key), static_cast<int>(sizeof key), nullptr, nullptr, 0);
+  return bytes > 0 ? std::string(key, static_cast<std::size_t>(bytes) - 1) : FoldCase(start);
 }
 
 }  // namespace sonaro

@@ -12,6 +12,7 @@ class SystemInfoWin : public SystemInfo {
   std::string FormattedSampleDate() override;
   std::string ProfileString(const std::string& section, const std::string& key,
                             const std::string& defaultText, const std::string& fileName) override;
+  std::string SortKey(std::string_view text) override;
 };
 
 }  // namespace sonaro
