@@ -9,7 +9,10 @@
 
 #include "app/AppState.h"
 #include "app/Application.h"
+#include "app/Strings.h"
+#include "forms/Guard.h"
 #include "forms/StringTable.h"
+#include "forms/WideText.h"
 #include "net/HttpFaultText.h"
 #include "platform/SystemFunction.h"
 #include "platform/win/ClockWin.h"
@@ -20,6 +23,7 @@
 #include "platform/win/ShellWin.h"
 #include "platform/win/SoundWin.h"
 #include "platform/win/SystemInfoWin.h"
+#include "resources/texts/app.h"
 
 namespace {
 
@@ -50,5 +54,15 @@ int WINAPI WinMain(HINSTANCE, HINSTANCE, LPSTR commandLine, int) {
       std::string("Sonaro/") + sonaro::kVersionText,
       [&strings](sonaro::HttpFault fault) { return sonaro::HttpFaultText(fault, strings); });
   const sonaro::Platform platform = {registry, files, clock, shell, sound, systemInfo, messages, http};
-  return sonaro::Application(platform, strings, ProgramPath(), commandLine).Run();
+  constexpr int kFailed = -1;
+  const auto run = [&]() -> LRESULT {
+    return sonaro::Application(platform, strings, ProgramPath(), commandLine).Run();
+  };
+  // What fails in a window is caught there; here the start itself fails, and must not do so without a word.
+  const auto exitCode = static_cast<int>(sonaro::Guarded(kFailed, run));
+  if (exitCode == kFailed) {
+    MessageBoxW(nullptr, sonaro::Widen(strings.Load(IDS_CANNOT_GO_ON)).c_str(), L"Sonaro",
+                MB_ICONERROR | MB_SETFOREGROUND);
+  }
+  return exitCode;
 }

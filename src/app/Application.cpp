@@ -13,6 +13,7 @@
 #include "base/Text.h"
 #include "forms/HighContrast.h"
 #include "forms/MessageLoop.h"
+#include "forms/WideText.h"
 #include "mainwindow/SonaroFrm.h"
 #include "net/ServiceUrlTable.h"
 #include "platform/Shell.h"
@@ -96,19 +97,34 @@ int Application::Run() {
   return exitCode;
 }
 
-void Application::ShowSplash() {
+void Application::ShowSplash(bool shown) {
+  splash_.reset();
+  if (!shown) return;
   splash_ = std::make_unique<frmSplash>(context_);
   splash_->ShowNow();
 }
 
-void Application::CloseSplash() { splash_.reset(); }
+bool Application::GoesOn(double done) {
+  if (splash_) splash_->ShowProgress(done);
+  RunWaitingMessages();
+  return !ending_;
+}
 
 // Early in the start: from here on a second start finds this one.
-void Application::LoadFaceplate() {
-  tray_.Start();
+bool Application::LoadFaceplate() {
+  if (!tray_.Start()) return SayNoWindow();
   faceplate_.Load();
   FollowHighContrast(faceplate_);
   RefreshAllForms();
+  return true;
+}
+
+// By the system's own box, the last one that may still come: a program that nobody sees would hold its place
+// as the one instance for ever.
+bool Application::SayNoWindow() {
+  MessageBoxW(nullptr, Widen(strings_.Load(IDS_NO_WINDOW)).c_str(),
+              Widen(strings_.Load(IDS_APP_TITLE)).c_str(), MB_ICONERROR | MB_SETFOREGROUND);
+  return false;
 }
 
 // True when the user has chosen a player.
@@ -137,8 +153,8 @@ void Application::ReadData() {
   favorites_.LoadFavoriteGroups();
 }
 
-void Application::LoadMainWindow() {
-  if (main_) return;
+bool Application::LoadMainWindow() {
+  if (main_) return true;
   ReadData();
   schedule_ = std::make_unique<ApplicationSchedule>(
       ApplicationSchedule::Needs{platform_, context_, data_, reg_, strings_, state_, stations_, personal_,
@@ -149,9 +165,18 @@ void Application::LoadMainWindow() {
       GuideData{data_, reg_, strings_, state_, stations_, personal_, extra_, recent_, favorites_, source_,
                 [this](std::string_view text) { return platform_.systemInfo.SortKey(text); }},
       player_, pages_, MakeMainWindowCalls());
-  main_->Create();
+  if (!main_->Create()) {
+    main_.reset();
+    return SayNoWindow();
+  }
   platform_.shell.SetMainWindow(main_->Window());
   PlaceMainWindow();
+  ConnectMainWindow();
+  main_->BringUpView(WhatToShow(state_.commandLine));
+  return true;
+}
+
+void Application::ConnectMainWindow() {
   recent_.SetChanged([this] { main_->RecentChanged(); });
   schedule_->SetChanged([this] { main_->ScheduleChanged(); });
   service_->SetDirectoryChanged([this] {
@@ -161,7 +186,6 @@ void Application::LoadMainWindow() {
   service_->SetProgress(
       [this](int percent) { main_->ShowProgress(strings_.Load(IDS_NET_GETTING_DATA), percent); },
       [this] { main_->EndProgress(); });
-  main_->BringUpView(WhatToShow(state_.commandLine));
 }
 
 // Where the user left it, if that is still on a screen; the first time in the middle.
@@ -229,25 +253,31 @@ void Application::SayWhatSettingsLack() {
 }
 
 TrayActions Application::MakeTrayActions() {
+  const auto whenFree = [this](std::function<void()> act) {
+    return [this, act = std::move(act)] {
+      if (IsFree()) act();
+    };
+  };
   TrayActions actions;
   actions.open = [this] { BringForward(""); };
   actions.browse = [this] { BringForward("Browse"); };
   actions.search = [this] { BringForward("Search"); };
   actions.yourSonaro = [this] { BringForward("YourSonaro"); };
-  actions.scan = [this] { ShowScan(); };
-  actions.update = [this] { service_->ShowUpdate(nullptr); };
-  actions.schedule = [this] { schedule_->ShowSchedule(nullptr); };
-  actions.options = [this] { ShowOptions(nullptr); };
+  actions.scan = whenFree([this] { ShowScan(); });
+  actions.update = whenFree([this] { service_->ShowUpdate(nullptr); });
+  actions.schedule = whenFree([this] { schedule_->ShowSchedule(nullptr); });
+  actions.options = whenFree([this] { ShowOptions(nullptr); });
   actions.help = [this] { help_.OpenHelpPage("index.html"); };
   actions.exit = [this] { Exit(); };
   actions.groupNames = [this] { return GroupNames(); };
-  actions.openGroup = [this](int group) {
-    const auto index = static_cast<std::size_t>(group);
-    if (index >= favorites_.Count()) return;
+  actions.openGroup = [this](const std::string& group) {
+    if (!IsFree()) return;
     BringForward("");
-    main_->ShowGroupNamed(favorites_.Name(index));
+    main_->ShowGroupNamed(group);
   };
-  actions.scheduleItemDue = [this](int slot) { schedule_->AskForNotification(*main_, slot); };
+  actions.scheduleItemDue = [this](int slot) {
+    if (main_) schedule_->AskForNotification(*main_, slot);
+  };
   actions.startUp = [this] { schedule_->StartWatching(); };
   actions.minute = [this] {
     LoadUnreadFiles();
@@ -309,30 +339,19 @@ void Application::ShowScan() {
   scanWindow_->Show();
 }
 
-void Application::AddScannedStation(const std::string& groupName, const std::string& token) {
-  const auto group = favorites_.Find(groupName);
-  if (!group) return;
-  const bool saved = favorites_.AddStation(*group, token) != FavoriteChange::NotSaved;
-  main_->GroupsChanged();
-  SavedOrSaid(saved, strings_.Load(IDS_FILE_GROUPS), messages_, strings_);
-}
-
-// What could not be read at the start is tried again with every minute.
-void Application::LoadUnreadFiles() {
-  const bool links = extra_.LoadUnread();
-  if (personal_.LoadUnread() || links) main_->PersonalStationsChanged();
-  if (favorites_.LoadUnread()) main_->GroupsChanged();
-  if (recent_.LoadUnread()) main_->RecentChanged();
-}
-
-void Application::TellOfFiles() {
-  if (const std::optional<Message> message = NotesMessage(data_.TakeNotes(), strings_))
-    messages_.Ask(*message);
+// What the tray asks for needs a program that is whole, and not in the middle of something: while a dialog
+// waits for its answer, that dialog comes forward instead; before the main window is there, it comes by
+// itself.
+bool Application::IsFree() {
+  const HWND modal = ModalForm();
+  if (modal == nullptr) return main_ != nullptr;
+  if (main_ && IsIconic(main_->Window())) ShowWindow(main_->Window(), SW_RESTORE);
+  SetForegroundWindow(modal);
+  return false;
 }
 
 void Application::BringForward(std::string_view view) {
-  if (!main_) return;  // the start is not that far; the window comes by itself
-  if (IsIconic(main_->Window())) ShowWindow(main_->Window(), SW_RESTORE);
+  if (!IsFree()) return;
   main_->Show();
   SetForegroundWindow(main_->Window());
   if (!view.empty()) main_->BringUpView(view);
@@ -347,6 +366,7 @@ void Application::CloseAsked() {
                                                 .text = strings_.Load(IDS_CLOSE_TEXT),
                                                 .firstButton = strings_.Load(IDS_CLOSE_KEEP),
                                                 .secondButton = strings_.Load(IDS_CLOSE_EXIT),
+                                                .cancelButton = strings_.Load(IDS_APP_CANCEL),
                                                 .dontAskText = strings_.Load(IDS_DONT_ASK_AGAIN)});
     if (result.answer == MessageAnswer::Closed) return;
     keep = result.answer == MessageAnswer::First ? "Yes" : "No";
@@ -359,7 +379,9 @@ void Application::CloseAsked() {
   }
 }
 
+// Every loop that runs ends, and every question that waits is left open.
 void Application::Exit() {
+  ending_ = true;
   RememberPlace();
   if (main_) main_->Hide();
   PostQuitMessage(0);

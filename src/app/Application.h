@@ -58,17 +58,18 @@ class Application final : private StartupView, private LaunchView {
 
  private:
   // What the start procedure asks for.
-  void ShowSplash() override;
-  void CloseSplash() override;
-  void LoadFaceplate() override;
+  void ShowSplash(bool shown) override;
+  bool GoesOn(double done) override;
+  bool LoadFaceplate() override;
   void ShowStartUpInfo(StartUpInfoPage page) override;
-  void LoadMainWindow() override;
+  bool LoadMainWindow() override;
   void ShowMainWindow() override;
   // What the player launch asks for.
   bool ShowNoPlayer() override { return ChoosePlayer(StartUpInfoPage::NoPlayer, GetActiveWindow()); }
   void SayWhyNot(const std::string& sentence) override;
   bool OfferPlayers(const std::string& sentence) override;
 
+  bool SayNoWindow();
   TrayActions MakeTrayActions();
   MainWindowCalls MakeMainWindowCalls();
   void AddQuestions(MainWindowCalls& calls);
@@ -86,8 +87,10 @@ class Application final : private StartupView, private LaunchView {
   void EditPersonalStation(int index);
   void DeletePersonalStation(int index);
   void EditExtraLinks(std::int32_t stationId);
+  void ConnectMainWindow();
   void PlaceMainWindow();
   void RememberPlace();
+  bool IsFree();
   void BringForward(std::string_view view);
   void CloseAsked();
   void Exit();
@@ -101,6 +104,7 @@ class Application final : private StartupView, private LaunchView {
   CReg reg_;
   ScramblingAlphabets alphabets_;
   bool alphabetRefused_ = false;
+  bool ending_ = false;  // the user has ended the program
   StatList stations_;
   PersonalStations personal_;
   ExtraLinks extra_;

@@ -4,7 +4,6 @@
 #include <string_view>
 
 #include "app/CReg.h"
-#include "app/HelpPages.h"
 #include "app/Message.h"
 #include "app/SettingNames.h"
 #include "app/Strings.h"
@@ -40,18 +39,16 @@ bool DataFilesMissing(DataFolder& data) {
                              [&data](const std::string& name) { return data.Exists(name); });
 }
 
-bool AskToGetMissingFiles(CReg& reg, const Strings& strings, MessageBoxView& messages, HelpPages& help) {
+bool AskToGetMissingFiles(CReg& reg, const Strings& strings, MessageBoxView& messages) {
   reg.SetSetting(setting::kLastUpdate, "");
   Message message;
-  message.key = "MissingDataFilesNeedToDownloadThem";
+  message.key = kMissingFilesKey;
   message.caption = strings.Load(IDS_FILES_MISSING_CAPTION);
   message.text = strings.Load(IDS_FILES_MISSING_TEXT);
   message.firstButton = strings.Load(IDS_FILES_MISSING_GET);
   message.secondButton = strings.Load(IDS_FILES_MISSING_CLOSE);
   // Closing the box declines as well: nobody who did not ask for a download should get one.
-  if (messages.Ask(message).answer == MessageAnswer::First) return true;
-  help.OpenHelpPage(HelpPageForMessage(message.key));
-  return false;
+  return messages.Ask(message).answer == MessageAnswer::First;
 }
 
 }  // namespace sonaro

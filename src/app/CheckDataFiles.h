@@ -9,7 +9,6 @@ namespace sonaro {
 
 class CReg;
 class DataFolder;
-class HelpPages;
 class MessageBoxView;
 class Strings;
 
@@ -21,8 +20,11 @@ bool DataFilesMissing(DataFolder& data);
 bool CategoryListMissing(std::string_view categories,
                          const std::function<bool(const std::string& name)>& isThere);
 
-// The "Files Missing" question. Clears "LastUpdate", so that the next update fetches everything. True: go on
-// without the files. False: the user declined, the help page is opened, and the program is to end.
-bool AskToGetMissingFiles(CReg& reg, const Strings& strings, MessageBoxView& messages, HelpPages& help);
+// The key of the "Files Missing" question, which selects its help page.
+inline constexpr const char* kMissingFilesKey = "MissingDataFilesNeedToDownloadThem";
+
+// Asks it. Clears "LastUpdate", so that the next update fetches everything. True: go on without the files.
+// False: the user declined, or closed the box, and the program is to end.
+[[nodiscard]] bool AskToGetMissingFiles(CReg& reg, const Strings& strings, MessageBoxView& messages);
 
 }  // namespace sonaro

@@ -6,7 +6,7 @@
 
 namespace sonaro {
 
-// What the user answered. Closing the box is 0, except where a message says otherwise.
+// What the user answered. Closing the box, Esc, Cancel and the end of the program are 0: nothing is decided.
 enum class MessageAnswer : int { Closed = 0, First = 1, Second = 2 };
 
 struct Message {
@@ -15,12 +15,13 @@ struct Message {
   std::string text;
   std::string firstButton;
   std::string secondButton;  // "" = one button
+  std::string cancelButton;  // a third one that leaves the question open; "" = none
   std::string dontAskText;   // "" = no "do not ask again" box
 };
 
 struct MessageResult {
   MessageAnswer answer = MessageAnswer::Closed;
-  bool dontAskAgain = false;
+  bool dontAskAgain = false;  // never with an answer that decides nothing
 };
 
 // Shows a message and waits for the answer. Implemented by MsgboxFrm; tests answer from a list.

@@ -12,8 +12,7 @@ namespace {
 
 constexpr int kOneKeyLayout = 1;
 constexpr int kWideKeyLayout = 2;
-constexpr int kWideSecondLayout = 3;
-constexpr std::size_t kLongWords = 14;  // bytes of what the second key has room for
+constexpr int kThreeKeyLayout = 3;
 constexpr const char* kFilesMissing = "Files Missing";
 
 }  // namespace
@@ -32,6 +31,11 @@ const FormDesign& MsgboxFrm::Design() {
        .anchors = kFoot},
       {.id = butMsg, .kind = Kind::PrimaryKey, .at = {196, 202, 104, 28}, .anchors = kFoot},
       {.id = butMsg + 1, .kind = Kind::PushKey, .at = {308, 202, 98, 28}, .flags = kHidden, .anchors = kFoot},
+      {.id = butCancelIt,
+       .kind = Kind::PushKey,
+       .at = {308, 202, 98, 28},
+       .flags = kHidden,
+       .anchors = kFoot},
       HelpKey(348),
       CloseKey(380),
   };
@@ -39,11 +43,14 @@ const FormDesign& MsgboxFrm::Design() {
   static constexpr Place kOneKey[] = {{butMsg, {302, 202, 104, 28}}, {butMsg + 1, {}}};
   // Without the check box its room is the first key's, whose words can be longer.
   static constexpr Place kWideKey[] = {{butMsg, {176, 202, 124, 28}}, {chkDontAsk, {}}};
-  static constexpr Place kWideSecond[] = {
-      {butMsg, {150, 202, 96, 28}}, {butMsg + 1, {254, 202, 152, 28}}, {chkDontAsk, {}}};
+  // Three keys take the whole foot: the check box stands above them.
+  static constexpr Place kThreeKeys[] = {{lblMsg, {68, 50, 336, 96}},
+                                         {chkDontAsk, {68, 154, 336, 28}},
+                                         {butMsg, {78, 202, 116, 28}},
+                                         {butMsg + 1, {202, 202, 98, 28}}};
   static constexpr Layout kLayouts[] = {{.places = kOneKey, .others = Layout::Others::AsDesigned},
                                         {.places = kWideKey, .others = Layout::Others::AsDesigned},
-                                        {.places = kWideSecond, .others = Layout::Others::AsDesigned}};
+                                        {.places = kThreeKeys, .others = Layout::Others::AsDesigned}};
   static constexpr FormDesign kDesign = {.name = "MsgboxFrm",
                                          .caption = IDS_APP_TITLE,
                                          .size = {420, 248},
@@ -58,6 +65,7 @@ std::span<const EventRow> MsgboxFrm::Events() const {
   static const EventRow kRows[] = {
       {butMsg, Click, &MsgboxFrm::butMsg_Click, 2},
       {butCloseIt, Click, &MsgboxFrm::butCloseIt_Click},
+      {butCancelIt, Click, &MsgboxFrm::butCloseIt_Click},
       {butHelp, Click, &MsgboxFrm::butHelp_Click},
   };
   return kRows;
@@ -67,8 +75,8 @@ MsgboxFrm::MsgboxFrm(FormContext& context, HelpPages& help, Message message)
     : Form(context, Design()), help_(help), message_(std::move(message)) {}
 
 MessageResult MsgboxFrm::Ask(HWND owner) {
-  const int answer = ShowModal(owner);
-  return {static_cast<MessageAnswer>(answer), dontAskAgain_};
+  const auto answer = static_cast<MessageAnswer>(ShowModal(owner));
+  return {answer, dontAskAgain_ && answer != MessageAnswer::Closed};
 }
 
 void MsgboxFrm::OnLoad() {
@@ -78,7 +86,9 @@ void MsgboxFrm::OnLoad() {
     SetIcon(picStuff, Icon::Warn);
     SetInk(picStuff, Ink::Accent);
   }
-  if (message_.secondButton.empty()) {
+  if (!message_.cancelButton.empty()) {
+    UseLayout(kThreeKeyLayout);
+  } else if (message_.secondButton.empty()) {
     UseLayout(kOneKeyLayout);
   } else if (message_.dontAskText.empty()) {
     UseLayout(message_.secondButton.size() > kLongWords ? kWideSecondLayout : kWideKeyLayout);
@@ -87,16 +97,13 @@ void MsgboxFrm::OnLoad() {
   SetText(butMsg, message_.firstButton);
   SetText(butMsg + 1, message_.secondButton);
   ShowControl(butMsg + 1, !message_.secondButton.empty());
+  SetText(butCancelIt, message_.cancelButton);
+  ShowControl(butCancelIt, !message_.cancelButton.empty());
   SetText(chkDontAsk, message_.dontAskText);
   ShowControl(chkDontAsk, !message_.dontAskText.empty());
 }
 
 void MsgboxFrm::OnUnload() { dontAskAgain_ = IsChecked(chkDontAsk); }
-
-// Leaving without an answer: the last key, as Esc does everywhere.
-void MsgboxFrm::OnEscape() {
-  Close(message_.secondButton.empty() ? 0 : static_cast<int>(MessageAnswer::Second));
-}
 
 void MsgboxFrm::butMsg_Click(int index) { Close(index + 1); }
 

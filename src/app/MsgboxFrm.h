@@ -23,7 +23,6 @@ class MsgboxFrm final : public Form {
   std::span<const EventRow> Events() const override;
   void OnLoad() override;
   void OnUnload() override;
-  void OnEscape() override;
 
   void butMsg_Click(int index);
   void butCloseIt_Click() { Close(0); }

@@ -34,19 +34,13 @@ bool Startup::Main() {
   PrepareSettings();
   ReadClockStyle(use_.reg, state_);
   ReadShortDatePattern(use_.reg, use_.systemInfo, state_);
-  ShowSplashAndFaceplate();
-  SwapInDownloads();
-  ReadDecimalMode(use_.systemInfo, state_);
-  bool end = false;
-  CheckDataFiles(true, end);
-  if (end) return false;
-  if (!state_.startedWithWindows) FirstRunChecks();
-  view_.LoadMainWindow();
+  if (!ShowSplashAndFaceplate() || !PrepareDirectory()) return false;
+  if (!state_.startedWithWindows && !FirstRunChecks()) return false;
+  if (!view_.LoadMainWindow()) return false;
   if (state_.startedWithWindows) return true;
   view_.ShowMainWindow();
-  view_.CloseSplash();
-  OfferQuickStart();
-  return true;
+  view_.ShowSplash(false);
+  return OfferQuickStart();
 }
 
 // The tray window is there from early on, but not from the first moment: the platform's own report covers a
@@ -65,9 +59,18 @@ void Startup::PrepareSettings() {
   if (use_.storeServiceAddresses) use_.storeServiceAddresses();
 }
 
-void Startup::ShowSplashAndFaceplate() {
-  if (!state_.startedWithWindows && !AsksForView(state_.commandLine)) view_.ShowSplash();
-  view_.LoadFaceplate();
+bool Startup::ShowSplashAndFaceplate() {
+  if (!state_.startedWithWindows && !AsksForView(state_.commandLine)) view_.ShowSplash(true);
+  return view_.LoadFaceplate() && view_.GoesOn(0.2);
+}
+
+bool Startup::PrepareDirectory() {
+  SwapInDownloads();
+  if (!view_.GoesOn(0.5)) return false;
+  ReadDecimalMode(use_.systemInfo, state_);
+  bool end = false;
+  CheckDataFiles(true, end);
+  return !end && view_.GoesOn(0.7);
 }
 
 // A table that is not that of the station list is made anew, and nobody has to know unless that fails: then
@@ -87,16 +90,23 @@ void Startup::SwapInDownloads() {
 bool Startup::CheckDataFiles(bool askUser, bool& end) {
   const bool missing = DataFilesMissing(use_.data);
   if (!missing || !askUser) return missing;
-  view_.CloseSplash();
-  end = !AskToGetMissingFiles(use_.reg, use_.strings, use_.messageBox, use_.help);
-  if (!end && !state_.startedWithWindows) view_.ShowSplash();
+  view_.ShowSplash(false);
+  end = !AskToGetMissingFiles(use_.reg, use_.strings, use_.messageBox);
+  if (!view_.GoesOn(0.6)) {
+    end = true;
+  } else if (end) {
+    use_.help.OpenHelpPage(HelpPageForMessage(kMissingFilesKey));
+  } else if (!state_.startedWithWindows) {
+    view_.ShowSplash(true);
+  }
   return true;
 }
 
-void Startup::FirstRunChecks() {
+bool Startup::FirstRunChecks() {
   if (!IsDone(use_.reg, setting::kStartPlayer)) {
     if (use_.players.RegisteredRealPlayer().empty() && use_.players.Chosen().empty()) {
       view_.ShowStartUpInfo(StartUpInfoPage::Player);
+      if (!view_.GoesOn(0.8)) return false;
     } else {
       use_.reg.SetSetting(setting::kStartPlayer, kDone);
     }
@@ -108,20 +118,22 @@ void Startup::FirstRunChecks() {
       use_.reg.SetSetting(setting::kStartProxy, kDone);
     }
   }
+  return view_.GoesOn(0.9);
 }
 
-void Startup::OfferQuickStart() {
-  if (IsDone(use_.reg, setting::kStartQuickStart)) return;
+bool Startup::OfferQuickStart() {
+  if (IsDone(use_.reg, setting::kStartQuickStart)) return true;
   Message message;
   message.key = "QuickStart";
   message.caption = use_.strings.Load(IDS_QUICK_START_CAPTION);
   message.text = use_.strings.Load(IDS_QUICK_START_TEXT);
   message.firstButton = use_.strings.Load(IDS_QUICK_START_VIEW);
   message.secondButton = use_.strings.Load(IDS_QUICK_START_SKIP);
-  if (use_.messageBox.Ask(message).answer == MessageAnswer::First) {
-    use_.help.OpenHelpPage(HelpPageForMessage(message.key));
-  }
+  const MessageAnswer answer = use_.messageBox.Ask(message).answer;
+  if (!view_.GoesOn(1)) return false;
+  if (answer == MessageAnswer::First) use_.help.OpenHelpPage(HelpPageForMessage(message.key));
   use_.reg.SetSetting(setting::kStartQuickStart, kDone);
+  return true;
 }
 
 }  // namespace sonaro

@@ -29,11 +29,15 @@ inline constexpr unsigned kSecondStartMessage = 1793;
 class StartupView {
  public:
   virtual ~StartupView() = default;
-  virtual void ShowSplash() = 0;
-  virtual void CloseSplash() = 0;                          // also when it is not shown
-  virtual void LoadFaceplate() = 0;                        // the image holder and the current faceplate
+  virtual void ShowSplash(bool shown) = 0;
+  // Shows how far the start has come, 0 to 1, and lets the messages in that have waited meanwhile. False: the
+  // user has ended the program, and nothing more may be shown, asked, stored or opened.
+  [[nodiscard]] virtual bool GoesOn(double done) = 0;
+  // The tray window and the current faceplate. False: the system gives no window, and the user knows.
+  [[nodiscard]] virtual bool LoadFaceplate() = 0;
   virtual void ShowStartUpInfo(StartUpInfoPage page) = 0;  // returns when it is closed
-  virtual void LoadMainWindow() = 0;                       // hidden; only if there is none yet
+  // Hidden; only if there is none yet. False: the system gives no window, and the user knows.
+  [[nodiscard]] virtual bool LoadMainWindow() = 0;
   virtual void ShowMainWindow() = 0;
 };
 
@@ -58,7 +62,7 @@ class Startup {
   Startup(const StartupServices& services, AppState& state, StartupView& view)
       : use_(services), state_(state), view_(view) {}
 
-  // Runs all steps. False: the process is to end, without having shown anything of the main window.
+  // Runs all steps. False: the process is to end at once.
   bool Main();
 
   // True when data files are missing. With `askUser` the user is asked what to do then; `end` is set when the
@@ -68,10 +72,11 @@ class Startup {
  private:
   bool AnotherInstanceRuns();
   void PrepareSettings();
-  void ShowSplashAndFaceplate();
+  bool ShowSplashAndFaceplate();
+  bool PrepareDirectory();
   void SwapInDownloads();
-  void FirstRunChecks();
-  void OfferQuickStart();
+  bool FirstRunChecks();
+  bool OfferQuickStart();
 
   StartupServices use_;
   AppState& state_;

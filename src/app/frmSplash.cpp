@@ -47,7 +47,8 @@ const FormDesign& frmSplash::Design() {
                                          .size = {480, 270},
                                          .outline = "spf48",
                                          .controls = kControls,
-                                         .titleGroove = 0};
+                                         .titleGroove = 0,
+                                         .besideModal = true};
   return kDesign;
 }
 
@@ -66,13 +67,12 @@ void frmSplash::OnLoad() {
 
 void frmSplash::ShowNow() {
   Show();
-  if (IsOpen()) UpdateWindow(Window());
+  if (IsOpen()) RedrawWindow(Window(), nullptr, nullptr, RDW_UPDATENOW | RDW_ALLCHILDREN);
 }
 
 void frmSplash::ShowProgress(double done) {
   if (!IsOpen()) return;
   Progress(picDial).SetProgress(static_cast<int>(done * 100), 100);
-  RedrawWindow(Window(), nullptr, nullptr, RDW_UPDATENOW | RDW_ALLCHILDREN);
 }
 
 }  // namespace sonaro

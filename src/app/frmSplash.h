@@ -1,5 +1,5 @@
-// The window that is on show while the program starts. Its close label ends it; the start procedure does when
-// the main window appears.
+// The window that is on show while the program starts. Its close label, Esc and Alt+F4 end it, beside the
+// dialogs of the start as well; the start procedure does when the main window appears.
 #pragma once
 
 #include "forms/Form.h"
@@ -10,10 +10,10 @@ class frmSplash final : public Form {
  public:
   explicit frmSplash(FormContext& context) : Form(context, Design()) {}
 
-  // Shows the window in the middle of the screen and paints it at once: nothing pumps messages while the
-  // program starts.
+  // Shows the window in the middle of the screen and paints it at once: messages wait until the start lets
+  // them in between two of its steps.
   void ShowNow();
-  // How far the start has come, 0 to 1.
+  // How far the start has come, 0 to 1. Nothing when the user has closed the window.
   void ShowProgress(double done);
 
  private:

@@ -58,6 +58,16 @@ Outline ScaleOutline(const Outline& outline, TwipsPerPixel twips) {
   return scaled;
 }
 
+Outline FitOutline(const Outline& outline, OutlineSize made, OutlineSize window) {
+  Outline fitted;
+  fitted.reserve(outline.size());
+  for (const ShapePoint point : outline) {
+    fitted.push_back({point.x + (2 * std::int64_t{point.x} > made.width ? window.width - made.width : 0),
+                      point.y + (2 * std::int64_t{point.y} > made.height ? window.height - made.height : 0)});
+  }
+  return fitted;
+}
+
 Shape::Result Shape::OutlineOf(std::string_view key, TwipsPerPixel twips) const {
   const ReadResult file = folder_.Read(kFile);
   if (file.status != ReadStatus::Ok) return {};

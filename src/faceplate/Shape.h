@@ -37,6 +37,16 @@ Outline ParseOutline(std::string_view line);
 // Points made for 96 dots per inch, scaled to the screen and rounded to nearest (ties to even).
 Outline ScaleOutline(const Outline& outline, TwipsPerPixel twips);
 
+// Sizes of a window in pixels: what its outline was made for, and what it has.
+struct OutlineSize {
+  int width = 0;
+  int height = 0;
+};
+
+// The outline of a window of another size than it was made for: points right of the middle keep their
+// distance to the right edge, points below the middle theirs to the bottom.
+Outline FitOutline(const Outline& outline, OutlineSize made, OutlineSize window);
+
 class Shape {
  public:
   explicit Shape(DataFolder& folder) : folder_(folder) {}

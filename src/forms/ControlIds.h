@@ -257,6 +257,7 @@ inline constexpr int lblTrayText = 3041;
 inline constexpr int tmrStartUp = 3042;
 inline constexpr int tmrMinute = 3043;
 inline constexpr int tmrFullMinute = 3044;
+inline constexpr int tmrIcon = 3045;
 
 // frmSonaroMenu (menu entries): 3101 to 3399.
 // Sorting: the sort menu and the same entries of the action menu.

@@ -31,7 +31,9 @@ class OtherFormsDisabled {
  private:
   static BOOL CALLBACK Disable(HWND window, LPARAM self) {
     auto& list = *reinterpret_cast<OtherFormsDisabled*>(self);
-    if (window != list.except_ && FormPartsOf(window) && IsWindowVisible(window) && IsWindowEnabled(window)) {
+    const FormParts* parts = FormPartsOf(window);
+    if (window != list.except_ && parts && !parts->design.besideModal && IsWindowVisible(window) &&
+        IsWindowEnabled(window)) {
       list.disabled_.push_back(window);
       EnableWindow(window, FALSE);
     }
@@ -98,6 +100,9 @@ void Form::Hide() {
 
 int Form::ShowModal(HWND owner) {
   const auto parts = parts_;  // the form may be gone when the loop ends
+  // A window that the user can close meanwhile would take the one that it owns with it.
+  const FormParts* owning = owner ? FormPartsOf(GetAncestor(owner, GA_ROOT)) : nullptr;
+  if (owning && owning->design.besideModal) owner = nullptr;
   const HWND ownerRoot = owner ? GetAncestor(owner, GA_ROOT) : nullptr;
   if (!Create(owner)) return 0;
   parts->modal = true;
@@ -111,9 +116,7 @@ int Form::ShowModal(HWND owner) {
         if (got == 0) PostQuitMessage(static_cast<int>(message.wParam));  // for the loop that runs this one
         break;
       }
-      if (TranslateFormMessage(message)) continue;
-      TranslateMessage(&message);
-      DispatchMessageW(&message);
+      DeliverMessage(message);
     }
     parts->modal = false;
   }
@@ -212,14 +215,14 @@ void Form::StopTimer(int id) {
 
 void Form::OnEscape() {
   for (const int id : {butCancelIt, butCloseIt}) {
-    if (parts_->Find(id)) return parts_->Press(id);
+    if (const FormItem* item = parts_->Find(id); item && item->shown) return parts_->Press(id);
   }
   Close();
 }
 
 void Form::OnCloseRequest() {
   for (const int id : {butCloseIt, butCancelIt}) {
-    if (parts_->Find(id)) return parts_->Press(id);
+    if (const FormItem* item = parts_->Find(id); item && item->shown) return parts_->Press(id);
   }
   Close();
 }

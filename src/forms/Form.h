@@ -267,8 +267,9 @@ class Form {
   virtual void OnLoad() {}    // controls exist, nothing is shown yet
   virtual void OnUnload() {}  // just before the window is destroyed
   virtual void OnMoved() {}   // the user has dragged the form to a new place
-  // Esc: clicks butCancelIt or butCloseIt if the form has one. Alt+F4 and the system menu: clicks butCloseIt
-  // or butCancelIt. Without either both close the form.
+  // Esc: clicks butCancelIt or butCloseIt, the first that is shown. Alt+F4 and the system menu: clicks
+  // butCloseIt or butCancelIt. Without either both close the form. What the user has not accepted by then is
+  // forgotten: Esc and closing store nothing.
   virtual void OnEscape();
   virtual void OnCloseRequest();
   // Any other message, before Form sees it; true: `result` is the answer.

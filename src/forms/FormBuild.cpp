@@ -130,10 +130,14 @@ bool FormParts::BuildWindow(HWND owner) {
   window = CreateDialogIndirectParamW(GetModuleHandleW(nullptr), &empty.head, owner, nullptr, 0);
   if (!window) return false;
   SetWindowLongPtrW(window, GWLP_USERDATA, reinterpret_cast<LONG_PTR>(this));
-  Guarded(0, [this]() -> LRESULT {
+  const LRESULT loaded = Guarded(FALSE, [this]() -> LRESULT {
     Load();
-    return 0;
+    return TRUE;
   });
+  if (!loaded) {  // half a window is none
+    closing = true;
+    Destroy();
+  }
   return window != nullptr;
 }
 
@@ -166,7 +170,7 @@ void FormParts::BuildControls() {
       WatchControl(*this, item);
       if (IsCombo(row.kind)) DressCombo(*this, item);
       if (HasLines(row.kind)) DressLines(*this, item);
-      if (row.kind == Kind::StripKey) SetTip(item, Narrow(text));
+      if (row.kind == Kind::StripKey) SetTip(item, Narrow(WithoutAccessKey(text)));
     }
     if (row.flags & kDisabled) EnableWindow(item.Window(), FALSE);
   }
@@ -198,7 +202,7 @@ void FormParts::PlaceTip(const FormItem& item) const {
 
 void FormParts::SetTip(FormItem& item, const std::string& text) {
   if (!tips) tips = MakeTips(window);
-  std::wstring wide = WithoutAccessKey(Widen(text));
+  std::wstring wide = Widen(text);
   TTTOOLINFOW tool = ToolOf(item);
   tool.lpszText = wide.data();
   SendMessageW(tips, TTM_DELTOOLW, 0, reinterpret_cast<LPARAM>(&tool));

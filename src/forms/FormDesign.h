@@ -173,12 +173,13 @@ struct FormDesign {
   DesignSize size;
   const char* outline = "";  // key of the window's outline in the point file: "scf72"
   std::span<const ControlRow> controls;
-  int outlineHeight = 0;  // of the window that the outline was made for, when this one is higher
-  int titleGroove = 36;   // y of the groove under the title strip, 0 = none
+  DesignSize outlineSize = {};  // of the window that the outline was made for, when this one is larger
+  int titleGroove = 36;         // y of the groove under the title strip, 0 = none
   std::span<const Layout> layouts = {};  // layout 1, 2 ...; layout 0 is this design itself
   std::span<const KeyRow> keys = {};
-  int firstFocus = 0;     // 0 = the primary key, or the first tab stop
-  bool draggable = true;  // moved by its background and passive labels
+  int firstFocus = 0;        // 0 = the primary key, or the first tab stop
+  bool draggable = true;     // moved by its background and passive labels
+  bool besideModal = false;  // takes input while a modal form waits for its answer
 };
 
 }  // namespace sonaro

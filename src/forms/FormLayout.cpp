@@ -86,8 +86,7 @@ void FormParts::ResizeWindow() {
   SetWindowPos(window, nullptr, 0, 0, size.width, size.height, SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
   RECT shaped{};
   if (GetWindowRgnBox(window, &shaped) != ERROR) SetWindowRgn(window, nullptr, FALSE);
-  ApplyWindowShape(window, OutlineOf(design, layout), context.shape, dpi,
-                   {made.width / 2, made.height / 2, size.width - made.width, size.height - made.height});
+  ApplyWindowShape(window, OutlineOf(design, layout), context.shape, dpi, {made.width, made.height});
   PlaceControls();
 }
 

@@ -168,6 +168,7 @@ class FormParts final : public FormServices, public std::enable_shared_from_this
   bool quiet = false;           // the program sets a text: no Change event
   bool modal = false;           // ShowModal runs
   bool closing = false;         // Close was called
+  bool moving = false;          // the system's move loop runs
   bool placed = false;          // the program has said where the window lies
   bool focusGiven = false;      // the first focus is set at the first showing
   bool showFocus = false;

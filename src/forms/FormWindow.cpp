@@ -115,6 +115,12 @@ LRESULT FormParts::HandleMessage(UINT message, WPARAM wParam, LPARAM lParam) {
     case WM_RBUTTONDOWN:
     case WM_MBUTTONDOWN:
       return HandlePointer(message, lParam);
+    case WM_RBUTTONUP:
+    case WM_MBUTTONUP:
+      if (!moving) break;
+      // The move loop waits for the left button alone; a drag by another one would never end.
+      PostMessageW(window, WM_LBUTTONUP, 0, lParam);
+      return 0;
     case WM_UPDATEUISTATE:
       if (LOWORD(wParam) == UIS_CLEAR) {
         ShowCues((HIWORD(wParam) & UISF_HIDEFOCUS) != 0, (HIWORD(wParam) & UISF_HIDEACCEL) != 0);
@@ -129,7 +135,8 @@ LRESULT FormParts::HandleMessage(UINT message, WPARAM wParam, LPARAM lParam) {
       if (lParam == L' ') ShowSystemMenu(window);
       return 0;
     case WM_CLOSE:
-      CloseRequest();
+      // A form that waits for the answer of a modal one cannot go before it, whoever asks.
+      if (IsWindowEnabled(window)) CloseRequest();
       return 0;
     case kDestroyNow:
       if (closing) Destroy();
@@ -319,11 +326,15 @@ LRESULT FormParts::HandlePointer(UINT message, LPARAM lParam) {
   return 0;
 }
 
+// The loop lets messages in: another button that goes down meanwhile must not begin a second one inside it.
 void FormParts::Drag() {
+  if (moving) return;
   RECT before{};
   GetWindowRect(window, &before);
+  moving = true;
   ReleaseCapture();
   SendMessageA(window, WM_NCLBUTTONDOWN, HTCAPTION, 0);  // returns when the system's move loop has ended
+  moving = false;
   RECT after{};
   if (!window || !GetWindowRect(window, &after)) return;
   if (form && !EqualRect(&before, &after)) form->OnMoved();

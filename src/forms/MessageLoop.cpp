@@ -104,6 +104,13 @@ bool SendWheelToPointer(HWND form, MSG& message) {
   return true;
 }
 
+BOOL CALLBACK FindModal(HWND window, LPARAM found) {
+  const FormParts* parts = FormPartsOf(window);
+  if (!parts || !parts->modal || !IsWindowEnabled(window)) return TRUE;
+  *reinterpret_cast<HWND*>(found) = window;
+  return FALSE;
+}
+
 BOOL CALLBACK RefreshForm(HWND window, LPARAM) {
   if (FormParts* parts = FormPartsOf(window)) parts->RenewLook();
   return TRUE;
@@ -132,14 +139,33 @@ bool TranslateFormMessage(MSG& message) {
   return dealtWith != 0;
 }
 
+void DeliverMessage(MSG& message) {
+  if (TranslateFormMessage(message)) return;
+  TranslateMessage(&message);
+  DispatchMessageW(&message);
+}
+
 int RunMessageLoop() {
   MSG message{};
-  while (GetMessageW(&message, nullptr, 0, 0) > 0) {
-    if (TranslateFormMessage(message)) continue;
-    TranslateMessage(&message);
-    DispatchMessageW(&message);
-  }
+  while (GetMessageW(&message, nullptr, 0, 0) > 0) DeliverMessage(message);
   return static_cast<int>(message.wParam);
+}
+
+void RunWaitingMessages() {
+  MSG message{};
+  while (PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE)) {
+    if (message.message == WM_QUIT) {
+      PostQuitMessage(static_cast<int>(message.wParam));
+      return;
+    }
+    DeliverMessage(message);
+  }
+}
+
+HWND ModalForm() {
+  HWND found = nullptr;
+  EnumThreadWindows(GetCurrentThreadId(), FindModal, reinterpret_cast<LPARAM>(&found));
+  return found;
 }
 
 void RefreshAllForms() { EnumThreadWindows(GetCurrentThreadId(), RefreshForm, 0); }

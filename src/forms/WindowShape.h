@@ -6,21 +6,13 @@
 
 #include <string_view>
 
+#include "faceplate/Shape.h"
+
 namespace sonaro {
 
-class Shape;
-
-// A window that is larger than its outline was made for: the points right of and below the middle move out.
-struct OutlineGrowth {
-  int middleX = 0;  // pixels
-  int middleY = 0;
-  int extraX = 0;
-  int extraY = 0;
-};
-
+// `made`: the size of the window that the outline was drawn for, in pixels of this screen.
 // False when the point file could not be opened: the window stays as it is. True otherwise, also when the
 // outline has no points and nothing changes.
-bool ApplyWindowShape(HWND window, std::string_view key, const Shape& shape, int dpi,
-                      const OutlineGrowth& growth = {});
+bool ApplyWindowShape(HWND window, std::string_view key, const Shape& shape, int dpi, OutlineSize made);
 
 }  // namespace sonaro

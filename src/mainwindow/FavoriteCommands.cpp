@@ -73,8 +73,9 @@ bool FavoriteCommands::ConfirmDelete(const std::string& name) {
   message.secondButton = strings_.Load(IDS_GROUP_DELETE_NO);
   message.dontAskText = strings_.Load(IDS_GROUP_DONT_ASK);
   const MessageResult result = prompts_.Ask(message);
+  if (result.answer != MessageAnswer::First) return false;
   if (result.dontAskAgain) settings_.SetSetting(setting::kNoShowDelete, "Yes");
-  return result.answer == MessageAnswer::First;
+  return true;
 }
 
 void FavoriteCommands::MoveFavoriteGroup(std::size_t from, std::size_t to) {

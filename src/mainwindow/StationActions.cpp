@@ -218,16 +218,18 @@ MenuEntries StationActions::ProgramMenu() const {
                                          {mnuUndoUpdate, IDS_MENU_UNDO_UPDATE},
                                          {mnuOptions, IDS_MENU_OPTIONS},
                                          {0, 0},
-                                         {mnuFullHelp, IDS_MENU_HELP},
-                                         {mnuQuickStart, IDS_MENU_QUICK_START},
+                                         {0, IDS_MENU_INFO},
                                          {0, 0},
                                          {mnuHideToTray, IDS_MENU_HIDE},
                                          {mnuExit, IDS_MENU_EXIT}};
   for (const auto& [command, textId] : entries) {
-    if (command == 0) {
+    if (textId == 0) {
       AddSeparator(menu);
     } else {
       menu.push_back(Entry(command, textId));
+    }
+    if (textId == IDS_MENU_INFO) {
+      menu.back().children = {Entry(mnuFullHelp, IDS_MENU_HELP), Entry(mnuQuickStart, IDS_MENU_QUICK_START)};
     }
   }
   return menu;

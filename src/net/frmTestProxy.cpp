@@ -96,7 +96,7 @@ const FormDesign& frmTestProxy::Design() {
                                          .size = {420, 314},
                                          .outline = "fdf01",
                                          .controls = kControls,
-                                         .outlineHeight = 248,
+                                         .outlineSize = {420, 248},
                                          .firstFocus = butOKIt};
   return kDesign;
 }

@@ -76,8 +76,9 @@ const FormDesign& frmNotify::Design() {
   static constexpr FormDesign kDesign = {.name = "frmNotify",
                                          .caption = IDS_SCHED_NOTIFY_TITLE,
                                          .size = {440, 254},
-                                         .outline = "ntf44",
-                                         .controls = kControls};
+                                         .outline = "fdf01",
+                                         .controls = kControls,
+                                         .outlineSize = {420, 248}};
   return kDesign;
 }
 

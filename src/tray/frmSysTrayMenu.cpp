@@ -7,6 +7,7 @@
 
 #include "forms/ControlIds.h"
 #include "forms/WideText.h"
+#include "forms/portable/MenuText.h"
 #include "resources/icon.h"
 #include "resources/texts/tray.h"
 
@@ -19,6 +20,8 @@ constexpr UINT kIconId = 1;
 constexpr unsigned kStartUpDelay = 500;  // milliseconds: the main window has been painted
 constexpr unsigned kMinute = 60000;
 constexpr std::size_t kMostGroups = 10;
+constexpr unsigned kIconPause = 2000;  // milliseconds until the icon is offered again
+constexpr int kMostIconTries = 150;    // five minutes
 
 NOTIFYICONDATAW IconData(HWND window) {
   NOTIFYICONDATAW data{};
@@ -61,6 +64,7 @@ std::span<const TimerRow> frmSysTrayMenu::Timers() const {
   static const TimerRow kRows[] = {
       {tmrStartUp, &frmSysTrayMenu::tmrStartUp_Timer},
       {tmrMinute, &frmSysTrayMenu::tmrMinute_Timer},
+      {tmrIcon, &frmSysTrayMenu::tmrIcon_Timer},
   };
   return kRows;
 }
@@ -97,9 +101,20 @@ void frmSysTrayMenu::PutIcon() {
   data.hIcon = icon_;
   const std::wstring tip = Widen(LoadText(IDS_TRAY_TIP));
   tip.copy(data.szTip, std::size(data.szTip) - 1);
-  hasIcon_ = Shell_NotifyIconW(NIM_ADD, &data) != FALSE;
-  data.uVersion = NOTIFYICON_VERSION_4;
-  Shell_NotifyIconW(NIM_SETVERSION, &data);
+  // A busy shell may have taken the icon and yet report a failure; then it can be changed.
+  hasIcon_ = Shell_NotifyIconW(NIM_ADD, &data) || Shell_NotifyIconW(NIM_MODIFY, &data);
+  if (hasIcon_) {
+    StopTimer(tmrIcon);
+    data.uVersion = NOTIFYICON_VERSION_4;
+    Shell_NotifyIconW(NIM_SETVERSION, &data);
+  } else if (++iconTries_ < kMostIconTries) {
+    StartTimer(tmrIcon, kIconPause);
+  }
+}
+
+void frmSysTrayMenu::tmrIcon_Timer() {
+  StopTimer(tmrIcon);
+  PutIcon();
 }
 
 void frmSysTrayMenu::TakeIconAway() {
@@ -111,6 +126,7 @@ void frmSysTrayMenu::TakeIconAway() {
 
 bool frmSysTrayMenu::OnMessage(UINT message, WPARAM wParam, LPARAM lParam, LRESULT& result) {
   if (message == taskbarCreated_ && taskbarCreated_ != 0) {
+    iconTries_ = 0;
     PutIcon();
     return false;
   }
@@ -127,6 +143,9 @@ bool frmSysTrayMenu::OnMessage(UINT message, WPARAM wParam, LPARAM lParam, LRESU
     case WM_TIMECHANGE:
     case WM_POWERBROADCAST:
       if (actions_.clockChanged) actions_.clockChanged();
+      return false;
+    case WM_ENDSESSION:  // the user logs off: the process is ended when this returns
+      if (wParam != 0) actions_.exit();
       return false;
     default:
       return false;
@@ -151,12 +170,10 @@ void frmSysTrayMenu::TrayEvent(UINT event, POINT at) {
 }
 
 void frmSysTrayMenu::ShowMenu(POINT at) {
+  shownGroups_ = actions_.groupNames();
   std::vector<MenuEntry> groups;
-  if (actions_.groupNames) {
-    const std::vector<std::string> names = actions_.groupNames();
-    for (std::size_t i = 0; i < std::min(names.size(), kMostGroups); ++i) {
-      groups.push_back({.command = mnuTrayGroup + static_cast<int>(i), .text = names[i]});
-    }
+  for (std::size_t i = 0; i < std::min(shownGroups_.size(), kMostGroups); ++i) {
+    groups.push_back({.command = mnuTrayGroup + static_cast<int>(i), .text = MenuText(shownGroups_[i])});
   }
   if (groups.empty())
     groups.push_back({.command = -1, .text = LoadText(IDS_TRAY_NO_GROUPS), .enabled = false});
@@ -181,6 +198,14 @@ void frmSysTrayMenu::ShowMenu(POINT at) {
   SetForegroundWindow(Window());
   PopUpMenu(menu, at);
   PostMessageW(Window(), WM_NULL, 0, 0);
+  shownGroups_.clear();
+}
+
+// The group that the entry named when the menu was opened; without a menu the one in that place.
+void frmSysTrayMenu::mnuTrayGroup_Click(int group) {
+  const std::vector<std::string> names = shownGroups_.empty() ? actions_.groupNames() : shownGroups_;
+  const auto index = static_cast<std::size_t>(group);
+  if (index < names.size()) actions_.openGroup(names[index]);
 }
 
 void frmSysTrayMenu::tmrStartUp_Timer() {

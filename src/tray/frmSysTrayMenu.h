@@ -25,7 +25,7 @@ struct TrayActions {
   std::function<void()> help;
   std::function<void()> exit;
   std::function<std::vector<std::string>()> groupNames;
-  std::function<void(int group)> openGroup;
+  std::function<void(const std::string& group)> openGroup;
   std::function<void(int slot)> scheduleItemDue;
   std::function<void()> startUp;  // once, when the program has finished loading
   // At every full minute; gives the milliseconds to the next one.
@@ -41,8 +41,11 @@ class frmSysTrayMenu final : public Form {
   frmSysTrayMenu(FormContext& context, TrayActions actions);
   ~frmSysTrayMenu() override;
 
-  // Creates the hidden window and its icon, before anything else of the program is there.
-  bool Start();
+  // Creates the hidden window and its icon, before anything else of the program is there: until then an
+  // action may have nothing to work on, and has to bear that. False: the system refused the window. An icon
+  // that the shell does not take yet, as while the user logs on, is offered again for some minutes and
+  // whenever the task bar is made.
+  [[nodiscard]] bool Start();
   // Runs the start-up work once the message loop runs, and the minute watch from then on.
   void FinishedLoading();
   // "SearchResults", "AddNewFavGroup" ... with their tabs: what the main window tells.
@@ -61,6 +64,7 @@ class frmSysTrayMenu final : public Form {
   void ShowMenu(POINT at);
   void tmrStartUp_Timer();
   void tmrMinute_Timer();
+  void tmrIcon_Timer();
   void mnuTrayOpen_Click() { actions_.open(); }
   void mnuTrayBrowse_Click() { actions_.browse(); }
   void mnuTraySearch_Click() { actions_.search(); }
@@ -71,11 +75,13 @@ class frmSysTrayMenu final : public Form {
   void mnuTrayOptions_Click() { actions_.options(); }
   void mnuTrayHelp_Click() { actions_.help(); }
   void mnuTrayExit_Click() { actions_.exit(); }
-  void mnuTrayGroup_Click(int group) { actions_.openGroup(group); }
+  void mnuTrayGroup_Click(int group);
 
   TrayActions actions_;
   UINT taskbarCreated_ = 0;
   bool hasIcon_ = false;
+  int iconTries_ = 0;
+  std::vector<std::string> shownGroups_;  // while the menu is open
   HICON icon_ = nullptr;
 };
 

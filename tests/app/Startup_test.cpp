@@ -5,97 +5,17 @@
 #include "app/AppState.h"
 #include "app/CReg.h"
 #include "app/HelpPages.h"
-#include "app/WebPageOpener.h"
+#include "app/StartupJournal.h"
 #include "base/DataFolder.h"
 #include "directory/StatList.h"
 #include "fakes/FakeFiles.h"
-#include "fakes/FakeMessageBox.h"
-#include "fakes/FakeMessagePost.h"
-#include "fakes/FakeRegistry.h"
 #include "fakes/FakeShell.h"
 #include "fakes/FakeStrings.h"
-#include "fakes/FakeSystemInfo.h"
 #include "playback/Players.h"
 #include "resources/texts/app.h"
 
 namespace sonaro {
 namespace {
-
-// What happened, in order, over all the fakes.
-using Journal = std::vector<std::string>;
-
-class JournalRegistry : public FakeRegistry {
- public:
-  explicit JournalRegistry(Journal& journal) : journal_(journal) {}
-  bool CreateKey(RootKey root, const std::string& key) override {
-    journal_.push_back("create key");
-    return FakeRegistry::CreateKey(root, key);
-  }
-  std::optional<std::string> ReadValue(RootKey root, const std::string& key,
-                                       const std::string& name) override {
-    journal_.push_back("read " + (name.empty() ? key.substr(key.rfind('\\') + 1) : name));
-    return FakeRegistry::ReadValue(root, key, name);
-  }
-  bool WriteValue(RootKey root, const std::string& key, const std::string& name, ValueType type,
-                  std::string_view bytes) override {
-    journal_.push_back("write " + name + (name == "InstallId" ? "" : "=" + std::string(bytes)));
-    return FakeRegistry::WriteValue(root, key, name, type, bytes);
-  }
-
- private:
-  Journal& journal_;
-};
-
-class JournalMessages : public FakeMessagePost {
- public:
-  explicit JournalMessages(Journal& journal) : journal_(journal) {}
-  bool WindowExists(const std::string& caption) override {
-    journal_.push_back("look for " + caption);
-    return FakeMessagePost::WindowExists(caption);
-  }
-  bool EarlierInstanceRuns() override {
-    journal_.push_back("earlier instance?");
-    return FakeMessagePost::EarlierInstanceRuns();
-  }
-
- private:
-  Journal& journal_;
-};
-
-class JournalSystem : public FakeSystemInfo {
- public:
-  explicit JournalSystem(Journal& journal) : journal_(journal) {}
-  std::string FormattedEightAndAHalf() override {
-    journal_.push_back("8.5");
-    return FakeSystemInfo::FormattedEightAndAHalf();
-  }
-
- private:
-  Journal& journal_;
-};
-
-class JournalView : public StartupView, public FakeMessageBox, public WebPageOpener {
- public:
-  explicit JournalView(Journal& journal) : journal_(journal) {}
-  void ShowSplash() override { journal_.push_back("splash"); }
-  void CloseSplash() override { journal_.push_back("close splash"); }
-  void LoadFaceplate() override { journal_.push_back("faceplate"); }
-  void ShowStartUpInfo(StartUpInfoPage page) override {
-    journal_.push_back(page == StartUpInfoPage::Player ? "page Player" : "page Proxy");
-  }
-  void LoadMainWindow() override { journal_.push_back("load main"); }
-  void ShowMainWindow() override { journal_.push_back("show main"); }
-  MessageResult Ask(const Message& message) override {
-    journal_.push_back("ask " + message.key);
-    return FakeMessageBox::Ask(message);
-  }
-  void OpenWebPage(const std::string& textOrKey) override {
-    journal_.push_back("open " + textOrKey.substr(textOrKey.rfind('/') + 1));
-  }
-
- private:
-  Journal& journal_;
-};
 
 class StartupTest : public testing::Test {
  protected:
@@ -286,6 +206,44 @@ TEST_F(StartupTest, MissingFilesAskBeforeAnythingElseIsChecked) {
   }
 }
 
+// Exit in the tray while the start shows something: nothing more happens, and what was asked stays undecided.
+TEST_F(StartupTest, ExitEndsTheStartAtOnceAndDecidesNothing) {
+  const std::function<void()> nothing = [] {};
+  const std::function<void()> filesMissing = [&] { files_.Remove("/d/fun.snr"); };
+  const std::pair<const char*, std::function<void()>> kCases[] = {
+      {"faceplate", nothing},
+      {"ask StationTableNotMade",
+       [&] {
+         files_.Put("/d/station.snr", "1\tNew\r\n");
+         files_.SetSpaceLeft(20);
+       }},
+      {"page Player", nothing},
+      {"page Proxy", nothing},
+      {"ask QuickStart", nothing},
+      {"ask MissingDataFilesNeedToDownloadThem", filesMissing},
+  };
+  proxyFound_ = true;
+  for (const auto& [shown, prepare] : kCases) {
+    prepare();
+    journal_.clear();
+    view_.exitAfter = shown;
+    EXPECT_FALSE(Main("")) << shown;
+    EXPECT_EQ(journal_.back(), shown);
+    for (const char* check : {"StartPlayer", "StartProxy", "StartQuickStart"})
+      EXPECT_EQ(Setting(check), "(none)") << shown;
+    files_.SetSpaceLeft({});
+  }
+}
+
+TEST_F(StartupTest, WithoutAWindowTheStartEnds) {
+  for (const char* refused : {"faceplate", "load main"}) {
+    journal_.clear();
+    view_.noWindowFor = refused;
+    EXPECT_FALSE(Main("WinStart=Yes")) << refused;
+    EXPECT_EQ(journal_.back(), refused);
+  }
+}
+
 TEST_F(StartupTest, TheTableOfTheListIsMadeAnewWithoutAWord) {
   AllChecksDone();
   const std::string table[] = {data_.Path("\\Statorg.isd"), data_.Path("\\Statorg.ism")};
@@ -341,57 +299,6 @@ TEST_F(StartupTest, ADamagedTableWithoutAListIsAMissingOne) {
   EXPECT_FALSE(Main(""));
   EXPECT_TRUE(Happened("ask MissingDataFilesNeedToDownloadThem"));
 }
-
-// An update waits, and the machine dies at any moment of the start: the next start finishes it, and list and
-// table belong together, even if the settings are those of after the update because the disk kept them.
-void CrashDuringTheSwap(bool holdIsKept) {
-  Journal journal;
-  JournalRegistry registry(journal);
-  CReg reg(registry);
-  registry.CreateKey(RootKey::LocalMachine, kSettingsKey);
-  const auto start = [&](FakeFiles& files) {
-    DataFolder data(files, "/d", '/');
-    FakeMessagePost messages;
-    JournalSystem system(journal);
-    FakeShell shell;
-    FakeStrings strings;
-    StatList stations(data);
-    Players players(reg, data, shell);
-    JournalView view(journal);
-    HelpPages help(reg, view);
-    AppState state;
-    state.commandLine = "WinStart=Yes";
-    Startup({messages, system, reg, data, stations, players, help, strings, view, nullptr, nullptr}, state,
-            view)
-        .Main();
-  };
-  const int operations = ForEachCrashPoint(
-      [&](FakeFiles& files) {
-        files.Put("/d/fun.snr", "");
-        files.Put("/d/cat.snr", "");
-        files.Put("/d/Station.snr", "1\tOld\r\n");
-        DataFolder data(files, "/d", '/');
-        StatList(data).RebuildStationTable();
-        files.Put("/d/tStation.snr", "1\tNew\r\n");
-        reg.SetSetting("UpdateHold", "Station.snr\t");
-      },
-      [&](FakeFiles& files) {
-        start(files);
-        if (files.Crashed()) reg.SetSetting("UpdateHold", holdIsKept ? "Station.snr\t" : "");
-      },
-      [&](FakeFiles& files, const CrashPoint& point) {
-        DataFolder data(files, "/d", '/');
-        start(files);
-        const std::string name = StatList(data).FindStation(1)[StationField::Name];
-        EXPECT_EQ(files.Get("/d/Station.snr"), "1\t" + name + "\r\n") << point.operation;
-        EXPECT_TRUE(name == "New" || !holdIsKept) << point.operation;
-        EXPECT_TRUE(StatList(data).Verify()) << point.operation;
-      });
-  EXPECT_GT(operations, 5);
-}
-
-TEST(StartupCrash, TheNextStartFinishesTheUpdate) { CrashDuringTheSwap(true); }
-TEST(StartupCrash, ListAndTableAgreeWhenTheSettingsAreAhead) { CrashDuringTheSwap(false); }
 
 }  // namespace
 }  // namespace sonaro

@@ -39,6 +39,20 @@ void ResetSettings(const SettingValues& values) {
   for (const auto& [name, text] : values) WriteText(HKEY_LOCAL_MACHINE, kSettings, name, text);
 }
 
+SettingValues ReadSettings() {
+  SettingValues values;
+  HKEY opened = nullptr;
+  if (RegOpenKeyA(HKEY_LOCAL_MACHINE, kSettings, &opened) != ERROR_SUCCESS) return values;
+  char name[256] = {};
+  for (DWORD i = 0;; ++i) {
+    DWORD length = sizeof(name);
+    if (RegEnumValueA(opened, i, name, &length, nullptr, nullptr, nullptr, nullptr) != ERROR_SUCCESS) break;
+    values[name] = ReadSetting(name);
+  }
+  RegCloseKey(opened);
+  return values;
+}
+
 std::string ReadSetting(const std::string& name) { return ReadText(HKEY_LOCAL_MACHINE, kSettings, name); }
 
 void RegisterRealPlayer(const std::string& program) {

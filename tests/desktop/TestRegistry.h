@@ -13,6 +13,7 @@ using SettingValues = std::map<std::string, std::string>;
 // Empties the program's settings key and writes these values, as an installer and earlier sessions left them.
 void ResetSettings(const SettingValues& values);
 std::string ReadSetting(const std::string& name);
+SettingValues ReadSettings();  // all of them
 
 void WriteText(HKEY root, const std::string& key, const std::string& name, const std::string& text);
 std::string ReadText(HKEY root, const std::string& key, const std::string& name);

@@ -57,6 +57,19 @@ TEST(ScaleOutline, RoundsEachCoordinateTiesToEven) {
   EXPECT_EQ(ScaleOutline(outline, {15, 10}), unequal);
 }
 
+TEST(FitOutline, KeepsEachPointAtTheNearerEdge) {
+  const Outline outline = {{10, 0}, {210, 124}, {211, 125}, {420, 248}, {500, -5}};
+  const struct {
+    OutlineSize window;
+    Outline fitted;
+  } cases[] = {
+      {{420, 248}, outline},
+      {{440, 254}, {{10, 0}, {210, 124}, {231, 131}, {440, 254}, {520, -5}}},
+      {{400, 240}, {{10, 0}, {210, 124}, {191, 117}, {400, 240}, {480, -5}}},
+  };
+  for (const auto& c : cases) EXPECT_EQ(FitOutline(outline, {420, 248}, c.window), c.fitted);
+}
+
 TEST(Shape, ReadsTheFileAtEachCall) {
   FakeFiles files;
   DataFolder folder(files, "/app", '/');

@@ -34,6 +34,7 @@
 #include "playback/WebPages.h"
 #include "playback/frmScan.h"
 #include "playback/frmScanTime.h"
+#include "resources/texts/app.h"
 #include "schedule/PersonalShows.h"
 #include "schedule/ScheduleCalendar.h"
 #include "schedule/ScheduleServices.h"
@@ -105,8 +106,23 @@ const NamedForm kForms[] = {
     {"MsgboxFrm",
      [](EmptyProgram& p) {
        return Make<MsgboxFrm>(p.forms, p.help,
-                              Message{"QuickStart", "Files Missing", "Get the missing files now?",
-                                      "Get Files", "Cancel", "Don't ask again"});
+                              Message{.key = "QuickStart",
+                                      .caption = "Files Missing",
+                                      .text = "Get the missing files now?",
+                                      .firstButton = "Get Files",
+                                      .secondButton = "Cancel",
+                                      .dontAskText = "Don't ask again"});
+     }},
+    {"MsgboxFrmOfThreeKeys",
+     [](EmptyProgram& p) {
+       return Make<MsgboxFrm>(p.forms, p.help,
+                              Message{.key = "CloseOrTray",
+                                      .caption = p.words.Load(IDS_CLOSE_CAPTION),
+                                      .text = p.words.Load(IDS_CLOSE_TEXT),
+                                      .firstButton = p.words.Load(IDS_CLOSE_KEEP),
+                                      .secondButton = p.words.Load(IDS_CLOSE_EXIT),
+                                      .cancelButton = p.words.Load(IDS_APP_CANCEL),
+                                      .dontAskText = p.words.Load(IDS_DONT_ASK_AGAIN)});
      }},
     {"frmSplash", [](EmptyProgram& p) { return Make<frmSplash>(p.forms); }},
     {"SonaroFrm",
@@ -172,6 +188,41 @@ TEST_P(EveryForm, HoldsWhatHoldsForEveryForm) {
   ASSERT_TRUE(form->Create());
   Pump();
   for (const std::string& problem : ProblemsOf(*form)) ADD_FAILURE() << problem;
+}
+
+// Types into every edit, ticks what can be ticked, and chooses another row in every list that opens.
+void ChangeEverything(Form& form) {
+  for (const ControlRow& row : form.Description().controls) {
+    const HWND control = form.Control(row.id);
+    if (!control || !IsWindowVisible(control) || !IsWindowEnabled(control)) continue;
+    if (row.kind == Kind::Edit || row.kind == Kind::MultiEdit) SetWindowTextW(control, L"17");
+    if (row.kind == Kind::CheckBox || row.kind == Kind::RadioButton || row.kind == Kind::ToggleKey)
+      SendMessageW(control, BM_CLICK, 0, 0);
+    if (row.kind == Kind::Combo && form.ItemCount(row.id) > 1) {
+      SendMessageW(control, CB_SETCURSEL, form.SelectedItem(row.id) == 0 ? 1 : 0, 0);
+      SendMessageW(form.Window(), WM_COMMAND, MAKEWPARAM(row.id, CBN_SELCHANGE),
+                   reinterpret_cast<LPARAM>(control));
+    }
+  }
+  Pump();
+}
+
+TEST_P(EveryForm, EscapeClosesADialogAndKeepsNothingOfIt) {
+  EmptyProgram program;
+  program.outside.registry.CreateKey(RootKey::LocalMachine, kSettingsKey);
+  program.outside.files.MakeFolder("/d");
+  const std::unique_ptr<Form> form = GetParam().make(program);
+  form->Show();
+  Pump();
+  const bool isMain = std::string_view(GetParam().name) == "SonaroFrm";
+  if (!isMain) ChangeEverything(*form);
+  program.outside.files.ClearLog();
+  program.outside.registry.writes.clear();
+  PressKey(VK_ESCAPE);
+  EXPECT_EQ(form->IsOpen(), isMain);
+  EXPECT_TRUE(program.outside.registry.writes.empty()) << program.outside.registry.writes[0].name;
+  EXPECT_TRUE(program.outside.files.Log().empty()) << program.outside.files.Log()[0];
+  EXPECT_TRUE(program.shell.opened.empty());
 }
 
 INSTANTIATE_TEST_SUITE_P(Program, EveryForm, testing::ValuesIn(kForms),

@@ -113,7 +113,7 @@ TEST_F(FormLayoutTest, StaysRectangularWithoutAPointFile) {
 }
 
 TEST_F(FormLayoutTest, SurvivesAnOutlineFarBeyondTheWindow) {
-  EXPECT_TRUE(ApplyWindowShape(form.Window(), "wild1", context.shape, 96));
+  EXPECT_TRUE(ApplyWindowShape(form.Window(), "wild1", context.shape, 96, {980, 760}));
   EXPECT_EQ(BoundsOfOutline(form.Window()), (PixelRect{0, 0, 980, 760}));
 }
 
@@ -135,6 +135,7 @@ class DraggedForm final : public Form {
   std::vector<WPARAM> hits;
   std::vector<LPARAM> places;
   int moved = 0;
+  int ends = 0;  // of the left button, which end the loop
 
  private:
   static const FormDesign& Design() {
@@ -152,6 +153,11 @@ class DraggedForm final : public Form {
     hits.push_back(wParam);
     places.push_back(lParam);
     if (hits.size() == 1) MoveToPixels(60, 70);
+    // The loop lets messages in: another button goes down and up before the drag has ended.
+    SendMessageW(Window(), WM_RBUTTONDOWN, MK_RBUTTON, MAKELPARAM(150, 50));
+    SendMessageW(Window(), WM_RBUTTONUP, 0, MAKELPARAM(150, 50));
+    MSG up{};
+    ends += PeekMessageW(&up, Window(), WM_LBUTTONUP, WM_LBUTTONUP, PM_REMOVE) ? 1 : 0;
     result = 0;
     return true;
   }
@@ -165,7 +171,8 @@ TEST_F(FormLayoutTest, IsDraggedByBackgroundAndLabelsButNotByControls) {
   EXPECT_EQ(dragged.places, std::vector<LPARAM>{0});
   EXPECT_EQ(dragged.moved, 1);
   SendMessageW(dragged.Window(), WM_RBUTTONDOWN, MK_RBUTTON, MAKELPARAM(150, 50));
-  EXPECT_EQ(dragged.hits.size(), 2U) << "any button";
+  EXPECT_EQ(dragged.hits.size(), 2U) << "any button, but no drag inside a drag";
+  EXPECT_EQ(dragged.ends, 2) << "the button that goes up ends it, whichever it is";
   EXPECT_EQ(dragged.moved, 1) << "it stayed where it was";
   EXPECT_EQ(SendMessageW(dragged.Control(5001), WM_NCHITTEST, 0, 0), HTTRANSPARENT)
       << "the form gets the press";

@@ -8,14 +8,7 @@
 namespace sonaro {
 
 // Everything that is in the queue now and what it brings about.
-inline void Pump() {
-  MSG message{};
-  while (PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE)) {
-    if (TranslateFormMessage(message)) continue;
-    TranslateMessage(&message);
-    DispatchMessageW(&message);
-  }
-}
+inline void Pump() { RunWaitingMessages(); }
 
 // A key as the keyboard sends it to the window with the focus, with the modifiers held down.
 inline void PressKey(WORD key, bool shift = false, bool control = false) {

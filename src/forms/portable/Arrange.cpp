@@ -101,9 +101,8 @@ const char* OutlineOf(const FormDesign& design, int layout) {
 }
 
 DesignSize OutlineSizeOf(const FormDesign& design, int layout) {
-  DesignSize size = SizeOf(design, layout);
-  if (!SizedLayoutOf(design, layout) && design.outlineHeight > 0) size.height = design.outlineHeight;
-  return size;
+  const bool ownSize = design.outlineSize.width > 0 && !SizedLayoutOf(design, layout);
+  return ownSize ? design.outlineSize : SizeOf(design, layout);
 }
 
 int FittingDpi(DesignSize size, PixelSize room, int dpi) {
