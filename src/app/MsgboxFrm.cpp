@@ -12,25 +12,28 @@ namespace {
 
 constexpr int kOneKeyLayout = 1;
 constexpr int kWideKeyLayout = 2;
-constexpr int kThreeKeyLayout = 3;
+constexpr int kTwoKeyLayout = 3;
+constexpr int kWideSecondLayout = 4;
+constexpr std::size_t kLongWords = 14;  // bytes of what the second key has room for
 constexpr const char* kFilesMissing = "Files Missing";
 
 }  // namespace
 
+// As designed there are three keys, which take the whole foot, and the check box stands above them.
 const FormDesign& MsgboxFrm::Design() {
   static constexpr unsigned char kFoot = kLeft | kBottom;
   static constexpr ControlRow kControls[] = {
       {.id = lblTitle, .kind = Kind::TitleBar, .at = {40, 4, 156, 26}},
       MessagePicture(),
-      MessageText(lblMsg, 132),
+      MessageText(lblMsg, 98),
       {.kind = Kind::Groove, .at = {14, 190, 392, 2}, .anchors = kFoot},
       {.id = chkDontAsk,
        .kind = Kind::CheckBox,
-       .at = {16, 202, 172, 28},
+       .at = {68, 154, 336, 28},
        .flags = kHidden,
        .anchors = kFoot},
-      {.id = butMsg, .kind = Kind::PrimaryKey, .at = {196, 202, 104, 28}, .anchors = kFoot},
-      {.id = butMsg + 1, .kind = Kind::PushKey, .at = {308, 202, 98, 28}, .flags = kHidden, .anchors = kFoot},
+      {.id = butMsg, .kind = Kind::PrimaryKey, .at = {78, 202, 116, 28}, .anchors = kFoot},
+      {.id = butMsg + 1, .kind = Kind::PushKey, .at = {202, 202, 98, 28}, .flags = kHidden, .anchors = kFoot},
       {.id = butCancelIt,
        .kind = Kind::PushKey,
        .at = {308, 202, 98, 28},
@@ -39,18 +42,33 @@ const FormDesign& MsgboxFrm::Design() {
       HelpKey(348),
       CloseKey(380),
   };
+  static constexpr DesignRect kWholeText = {68, 50, 336, 132};
+  static constexpr Place kTwoKeys[] = {{lblMsg, kWholeText},
+                                       {chkDontAsk, {16, 202, 172, 28}},
+                                       {butMsg, {196, 202, 104, 28}},
+                                       {butMsg + 1, {308, 202, 98, 28}},
+                                       {butCancelIt, {}}};
   // A sentence that asks nothing: its one key stands where the window's edge is lowered for it.
-  static constexpr Place kOneKey[] = {{butMsg, {302, 202, 104, 28}}, {butMsg + 1, {}}};
+  static constexpr Place kOneKey[] = {{lblMsg, kWholeText},
+                                      {chkDontAsk, {16, 202, 172, 28}},
+                                      {butMsg, {302, 202, 104, 28}},
+                                      {butMsg + 1, {}},
+                                      {butCancelIt, {}}};
   // Without the check box its room is the first key's, whose words can be longer.
-  static constexpr Place kWideKey[] = {{butMsg, {176, 202, 124, 28}}, {chkDontAsk, {}}};
-  // Three keys take the whole foot: the check box stands above them.
-  static constexpr Place kThreeKeys[] = {{lblMsg, {68, 50, 336, 96}},
-                                         {chkDontAsk, {68, 154, 336, 28}},
-                                         {butMsg, {78, 202, 116, 28}},
-                                         {butMsg + 1, {202, 202, 98, 28}}};
+  static constexpr Place kWideKey[] = {{lblMsg, kWholeText},
+                                       {chkDontAsk, {}},
+                                       {butMsg, {176, 202, 124, 28}},
+                                       {butMsg + 1, {308, 202, 98, 28}},
+                                       {butCancelIt, {}}};
+  static constexpr Place kWideSecond[] = {{lblMsg, kWholeText},
+                                          {chkDontAsk, {}},
+                                          {butMsg, {150, 202, 96, 28}},
+                                          {butMsg + 1, {254, 202, 152, 28}},
+                                          {butCancelIt, {}}};
   static constexpr Layout kLayouts[] = {{.places = kOneKey, .others = Layout::Others::AsDesigned},
                                         {.places = kWideKey, .others = Layout::Others::AsDesigned},
-                                        {.places = kThreeKeys, .others = Layout::Others::AsDesigned}};
+                                        {.places = kTwoKeys, .others = Layout::Others::AsDesigned},
+                                        {.places = kWideSecond, .others = Layout::Others::AsDesigned}};
   static constexpr FormDesign kDesign = {.name = "MsgboxFrm",
                                          .caption = IDS_APP_TITLE,
                                          .size = {420, 248},
@@ -86,12 +104,11 @@ void MsgboxFrm::OnLoad() {
     SetIcon(picStuff, Icon::Warn);
     SetInk(picStuff, Ink::Accent);
   }
-  if (!message_.cancelButton.empty()) {
-    UseLayout(kThreeKeyLayout);
-  } else if (message_.secondButton.empty()) {
+  if (message_.secondButton.empty()) {
     UseLayout(kOneKeyLayout);
-  } else if (message_.dontAskText.empty()) {
-    UseLayout(message_.secondButton.size() > kLongWords ? kWideSecondLayout : kWideKeyLayout);
+  } else if (message_.cancelButton.empty()) {
+    const bool longWords = message_.secondButton.size() > kLongWords;
+    UseLayout(!message_.dontAskText.empty() ? kTwoKeyLayout : longWords ? kWideSecondLayout : kWideKeyLayout);
   }
   SetTextAndGrow(lblMsg, message_.text);
   SetText(butMsg, message_.firstButton);

@@ -33,8 +33,8 @@ class DesktopTest : public ::testing::Test {
   std::string ReadFile(const std::string& name) const;  // "" when missing
   void WriteFile(const std::string& name, const std::string& bytes) const;
   bool Exists(const std::string& name) const;
-  // Every file of the data folder but the programs and what they record, by its path.
-  std::map<std::string, std::string> AllFiles() const;
+  // Every file of the data folder but the programs and what they record: path and digest.
+  std::map<std::string, std::size_t> AllFiles() const;
 
   // Starts the program in the data folder. The first one started is `Sonaro()`.
   SonaroProcess& Start(const std::string& arguments = "");

@@ -18,7 +18,7 @@ class EscapeTest : public MainWindowTest {
     }
   }
   // What the user would miss: the settings and files, without what the watch over the schedule notes.
-  std::pair<SettingValues, std::map<std::string, std::string>> Everything() {
+  std::pair<SettingValues, std::map<std::string, std::size_t>> Everything() {
     SettingValues settings = ReadSettings();
     settings.erase("ScheduleLastSeen");
     return {settings, AllFiles()};
@@ -42,6 +42,7 @@ TEST_F(EscapeTest, ChangesNothingInAnyDialog) {
       {{mnuSchedule, "frmSched"}, {butAddIt, "frmSchedChange"}},
       {{mnuScan, "frmScan"}},
   };
+  WriteText(HKEY_LOCAL_MACHINE, "SOFTWARE\\zumo\\Sonaro", "ScanTime", "30");  // as after the first scan
   HWND main = MainWithStations();
   NewGroup(main, "Morning");
   Command(main, mnuActionMostPoular);
@@ -65,7 +66,7 @@ TEST_F(EscapeTest, ChangesNothingInAnyDialog) {
       EXPECT_TRUE(WaitUntil([&] { return !IsShown(open.back()) && IsWindowEnabled(open[open.size() - 2]); }))
           << way[open.size() - 2].dialog;
     }
-    EXPECT_EQ(Everything(), before) << way.back().dialog;
+    EXPECT_TRUE(Everything() == before) << way.back().dialog;
   }
 }
 
