@@ -339,6 +339,14 @@ void Application::ShowScan() {
   scanWindow_->Show();
 }
 
+void Application::AddScannedStation(const std::string& groupName, const std::string& token) {
+  const auto group = favorites_.Find(groupName);
+  if (!group) return;
+  const bool saved = favorites_.AddStation(*group, token) != FavoriteChange::NotSaved;
+  main_->GroupsChanged();
+  SavedOrSaid(saved, strings_.Load(IDS_FILE_GROUPS), messages_, strings_);
+}
+
 // What the tray asks for needs a program that is whole, and not in the middle of something: while a dialog
 // waits for its answer, that dialog comes forward instead; before the main window is there, it comes by
 // itself.

@@ -21,7 +21,6 @@
 #define IDS_TABLE_NOT_MADE 10115
 #define IDS_SETTINGS_NOT_WRITTEN 10130
 #define IDS_SETTINGS_DAMAGED 10131
-<<<<<<< HEAD
 #define IDS_FILE_CAPTION 10140
 #define IDS_FILE_NOT_SAVED 10141
 #define IDS_FILE_UNREADABLE 10142
@@ -32,9 +31,8 @@
 #define IDS_FILE_SCHEDULE 10147
 #define IDS_FILE_SHOWS 10148
 =======
-#define IDS_NO_WINDOW 10116
-#define IDS_CANNOT_GO_ON 10117
->>>>>>> cf9e198 (Let the tray be asked at any time, end the start at once on Exit, and let Esc decide nothing)
+#define IDS_CANNOT_GO_ON 10118
+>>>>>>> 4dfa2ac (Number the texts of the start apart)
 #define IDS_FILES_MISSING_CAPTION 10000
 #define IDS_FILES_MISSING_TEXT 10001
 #define IDS_FILES_MISSING_GET 10002
