@@ -30,9 +30,8 @@
 #define IDS_FILE_LINKS 10146
 #define IDS_FILE_SCHEDULE 10147
 #define IDS_FILE_SHOWS 10148
-=======
+#define IDS_NO_WINDOW 10119
 #define IDS_CANNOT_GO_ON 10118
->>>>>>> 4dfa2ac (Number the texts of the start apart)
 #define IDS_FILES_MISSING_CAPTION 10000
 #define IDS_FILES_MISSING_TEXT 10001
 #define IDS_FILES_MISSING_GET 10002
