@@ -347,6 +347,19 @@ void Application::AddScannedStation(const std::string& groupName, const std::str
   SavedOrSaid(saved, strings_.Load(IDS_FILE_GROUPS), messages_, strings_);
 }
 
+// What could not be read at the start is tried again with every minute.
+void Application::LoadUnreadFiles() {
+  const bool links = extra_.LoadUnread();
+  if (personal_.LoadUnread() || links) main_->PersonalStationsChanged();
+  if (favorites_.LoadUnread()) main_->GroupsChanged();
+  if (recent_.LoadUnread()) main_->RecentChanged();
+}
+
+void Application::TellOfFiles() {
+  if (const std::optional<Message> message = NotesMessage(data_.TakeNotes(), strings_))
+    messages_.Ask(*message);
+}
+
 // What the tray asks for needs a program that is whole, and not in the middle of something: while a dialog
 // waits for its answer, that dialog comes forward instead; before the main window is there, it comes by
 // itself.
