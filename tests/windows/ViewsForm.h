@@ -17,7 +17,6 @@ class MadeUpStations final : public ListModel {
   int RowCount() const override { return count_; }
   std::string Cell(int row, int column) const override;
   int Symbol(int row) const override { return (row * 7 + 4) % 5; }
-  bool IsGreyed(int row) const override { return row == 3; }
 
  private:
   int count_;
