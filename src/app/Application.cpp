@@ -127,23 +127,6 @@ bool Application::SayNoWindow() {
   return false;
 }
 
-// True when the user has chosen a player.
-bool Application::ChoosePlayer(StartUpInfoPage page, HWND owner) {
-  LoadAlphabets(data_, alphabets_);  // the page counts links, perhaps before the data is read
-  return frmStartUpInfo(context_, StartUpInfoNeeds{reg_, help_, playerSetup_, playerReporter_}, page, "")
-             .ShowModal(owner) == 1;
-}
-
-void Application::ShowStartUpInfo(StartUpInfoPage page) {
-  if (page != StartUpInfoPage::Proxy) {
-    ChoosePlayer(page, GetActiveWindow());
-    return;
-  }
-  frmStartUpInfo(context_, StartUpInfoNeeds{reg_, help_, playerSetup_, playerReporter_}, page,
-                 service_->DetectProxy())
-      .ShowModal(GetActiveWindow());
-}
-
 void Application::ReadData() {
   alphabetRefused_ = LoadAlphabets(data_, alphabets_) == AlphabetSource::BuiltInAfterBadFile;
   EnsureInstallId(reg_);
@@ -213,16 +196,6 @@ void Application::SayWhyNot(const std::string& sentence) {
                  .caption = strings_.Load(IDS_WHYNOT_CAPTION),
                  .text = sentence,
                  .firstButton = strings_.Load(IDS_APP_OK)});
-}
-
-bool Application::OfferPlayers(const std::string& sentence) {
-  const MessageResult result = messages_.Ask({.key = "CantFindProgram",
-                                              .caption = strings_.Load(IDS_WHYNOT_CAPTION),
-                                              .text = sentence,
-                                              .firstButton = strings_.Load(IDS_APP_OK),
-                                              .secondButton = strings_.Load(IDS_WHYNOT_CHOOSE_PLAYER)});
-  return result.answer == MessageAnswer::Second &&
-         ChoosePlayer(StartUpInfoPage::ChoosePlayer, GetActiveWindow());
 }
 
 void Application::FinishedLoading() {
@@ -326,25 +299,6 @@ std::vector<std::string> Application::GroupNames() const {
   std::vector<std::string> names;
   for (std::size_t group = 0; group < favorites_.Count(); ++group) names.emplace_back(favorites_.Name(group));
   return names;
-}
-
-void Application::ShowScan() {
-  if (!scanWindow_) {
-    scanWindow_ = std::make_unique<frmScan>(
-        context_, scan_, help_,
-        frmScan::Groups{
-            [this] { return GroupNames(); },
-            [this](const std::string& name, const std::string& token) { AddScannedStation(name, token); }});
-  }
-  scanWindow_->Show();
-}
-
-void Application::AddScannedStation(const std::string& groupName, const std::string& token) {
-  const auto group = favorites_.Find(groupName);
-  if (!group) return;
-  const bool saved = favorites_.AddStation(*group, token) != FavoriteChange::NotSaved;
-  main_->GroupsChanged();
-  SavedOrSaid(saved, strings_.Load(IDS_FILE_GROUPS), messages_, strings_);
 }
 
 // What could not be read at the start is tried again with every minute.

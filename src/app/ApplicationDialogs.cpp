@@ -10,10 +10,12 @@
 #include "mainwindow/frmNewFavorite.h"
 #include "mainwindow/frmPersonalStation.h"
 #include "mainwindow/frmPickGroup.h"
+#include "playback/frmScan.h"
 #include "resources/texts/app.h"
 #include "resources/texts/mainwindow.h"
 #include "schedule/frmAboutEventTime.h"
 #include "tray/frmOptions.h"
+#include "tray/frmStartUpInfo.h"
 
 namespace sonaro {
 
@@ -32,6 +34,52 @@ void Application::AddQuestions(MainWindowCalls& calls) {
   calls.askPlaylistToSave = [this](const std::string& name) {
     return AskSavePath(main_->Window(), strings_.Load(IDS_DLG_PLAYLIST_FILTER), name);
   };
+}
+
+// True when the user has chosen a player.
+bool Application::ChoosePlayer(StartUpInfoPage page, HWND owner) {
+  LoadAlphabets(data_, alphabets_);  // the page counts links, perhaps before the data is read
+  return frmStartUpInfo(context_, StartUpInfoNeeds{reg_, help_, playerSetup_, playerReporter_}, page, "")
+             .ShowModal(owner) == 1;
+}
+
+void Application::ShowStartUpInfo(StartUpInfoPage page) {
+  if (page != StartUpInfoPage::Proxy) {
+    ChoosePlayer(page, GetActiveWindow());
+    return;
+  }
+  frmStartUpInfo(context_, StartUpInfoNeeds{reg_, help_, playerSetup_, playerReporter_}, page,
+                 service_->DetectProxy())
+      .ShowModal(GetActiveWindow());
+}
+
+bool Application::OfferPlayers(const std::string& sentence) {
+  const MessageResult result = messages_.Ask({.key = "CantFindProgram",
+                                              .caption = strings_.Load(IDS_WHYNOT_CAPTION),
+                                              .text = sentence,
+                                              .firstButton = strings_.Load(IDS_APP_OK),
+                                              .secondButton = strings_.Load(IDS_WHYNOT_CHOOSE_PLAYER)});
+  return result.answer == MessageAnswer::Second &&
+         ChoosePlayer(StartUpInfoPage::ChoosePlayer, GetActiveWindow());
+}
+
+void Application::ShowScan() {
+  if (!scanWindow_) {
+    scanWindow_ = std::make_unique<frmScan>(
+        context_, scan_, help_,
+        frmScan::Groups{
+            [this] { return GroupNames(); },
+            [this](const std::string& name, const std::string& token) { AddScannedStation(name, token); }});
+  }
+  scanWindow_->Show();
+}
+
+void Application::AddScannedStation(const std::string& groupName, const std::string& token) {
+  const auto group = favorites_.Find(groupName);
+  if (!group) return;
+  const bool saved = favorites_.AddStation(*group, token) != FavoriteChange::NotSaved;
+  main_->GroupsChanged();
+  SavedOrSaid(saved, strings_.Load(IDS_FILE_GROUPS), messages_, strings_);
 }
 
 void Application::ShowOptions(HWND owner) {

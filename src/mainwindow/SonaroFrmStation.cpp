@@ -52,7 +52,8 @@ void SonaroFrm::butGoMediaLink_Click(int link) {
   if (station.playKeys[wanted].shown) {
     Play(station.playKeys[wanted]);
   } else if (link == 0 && station.station) {
-    Play(station.playKeys[0]);  // without a link of its own: its web site, and it was listened to all the same
+    Play(
+        station.playKeys[0]);  // without a link of its own: its web site, and it was listened to all the same
   }
 }
 

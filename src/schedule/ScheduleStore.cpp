@@ -50,7 +50,10 @@ bool LosesText(const ScheduleItem& item, std::string_view line) {
 }  // namespace
 
 ScheduleStore::ScheduleStore(DataFolder& data, std::string shortDatePattern)
-    : data_(data), file_(data, "\\Sched.snr"), shortDatePattern_(std::move(shortDatePattern)), slots_(kFirstSlots) {}
+    : data_(data),
+      file_(data, "\\Sched.snr"),
+      shortDatePattern_(std::move(shortDatePattern)),
+      slots_(kFirstSlots) {}
 
 void ScheduleStore::LoadSchedule(const Date& today) {
   today_ = today;
@@ -155,7 +158,9 @@ bool ScheduleStore::SetItem(std::size_t slot, ScheduleItem item) {
   return Change(slot, std::move(item));
 }
 
-bool ScheduleStore::FreeSlot(std::size_t slot) { return slot >= slots_.size() || Change(slot, ScheduleItem{}); }
+bool ScheduleStore::FreeSlot(std::size_t slot) {
+  return slot >= slots_.size() || Change(slot, ScheduleItem{});
+}
 
 bool ScheduleStore::Change(std::size_t slot, ScheduleItem changed) {
   const std::string line = slot < slots_.size() ? LineIn(slots_[slot]) : "";
@@ -176,8 +181,9 @@ bool ScheduleStore::Change(std::size_t slot, ScheduleItem changed) {
 // Where the line stands now; a free slot for one that is gone, and for "", preferably `slot`.
 std::size_t ScheduleStore::SlotWith(const std::string& line, std::size_t slot) {
   if (slot < slots_.size() && LineIn(slots_[slot]) == line) return slot;
-  const auto same = std::find_if(slots_.begin(), slots_.end(),
-                                 [&](const ScheduleItem& other) { return !line.empty() && LineIn(other) == line; });
+  const auto same = std::find_if(slots_.begin(), slots_.end(), [&](const ScheduleItem& other) {
+    return !line.empty() && LineIn(other) == line;
+  });
   return same == slots_.end() ? FirstFreeSlot() : static_cast<std::size_t>(same - slots_.begin());
 }
 
