@@ -54,6 +54,7 @@ class TableImage {
  private:
   TableStatus LoadColumn(TableFiles& files);
   TableStatus LoadPage(TableFiles& files, std::uint32_t page);
+  bool KeysAscend(std::uint32_t page) const;
   const Entry& EntryAt(std::uint32_t index) const;
   std::uint32_t EntriesIn(std::uint32_t page) const;
 

@@ -2,11 +2,14 @@
 
 #include "base/DataFolder.h"
 #include "base/Text.h"
+#include "directory/EvList.h"
 #include "directory/StatList.h"
 #include "fakes/FakeFiles.h"
 #include "fakes/ForgedTable.h"
 #include "fuzz/Targets.h"
 #include "mainwindow/Playlist.h"
+#include "schedule/EventDiary.h"
+#include "schedule/ScheduleStore.h"
 
 namespace sonaro {
 namespace {
@@ -56,6 +59,56 @@ const TableBytes& TwoPages() {
   return bytes;
 }
 
+const TableBytes& EventTable() {
+  static const TableBytes bytes = [] {
+    FakeFiles files;
+    files.MakeFolder("/d");
+    DataFolder folder(files, "/d", '/');
+    EvList events(folder);
+    Require(events.CreateEventTable(EventSet::Current), "an empty table");
+    const EvList::Handle handle = events.OpenEventTable(EventSet::Current, EvList::OpenMode::Write);
+    events.PutEvent(handle, {3, {"Late Show", "1204", "Amber", "202611231200", "60", "Jazz", "a.example"}});
+    events.PutEvent(handle, {7, {"Early Show", "7", "Seven", "202611240630", "", "", "", "Once\tonly."}});
+    events.PutEvent(handle, {9, {"Late Show", "-3", "Third", "202702281200", "-5", "News"}});
+    events.CloseEventTable(handle);
+    return TableBytes{files.Get("/d/Eventorg.isd").value_or(""), files.Get("/d/Eventorg.ism").value_or("")};
+  }();
+  return bytes;
+}
+
+// The table with changes after the first byte of `input`, three bytes each: the file and the place (15 bits)
+// and the new byte. With an even first byte every checksum is made right again.
+TableBytes Changed(TableBytes bytes, std::string_view input) {
+  const bool forged = (input[0] & 1) == 0;
+  for (input.remove_prefix(1); input.size() >= 3; input.remove_prefix(3)) {
+    const unsigned high = static_cast<unsigned char>(input[0]);
+    std::string& file = (high & 0x80) != 0 ? bytes.index : bytes.data;
+    const std::size_t place = (high & 0x7F) * 256 + static_cast<unsigned char>(input[1]);
+    file[place % file.size()] = input[2];
+  }
+  if (!input.empty()) bytes.index.resize(bytes.index.size() / 2);  // a rest cuts a file off
+  if (forged) ResealTable(bytes.data, bytes.index);
+  return bytes;
+}
+
+// What the schedule asks of the events around a moment.
+void UseDiary(EvList& events, DataFolder& folder) {
+  constexpr DateTime kNow{{2026, 11, 23}, {11, 59, 0}};
+  constexpr DateTime kLater{{2026, 11, 24}, {12, 0, 0}};
+  EventDiary diary(events);
+  diary.Reload();
+  for (const BroadcastEvent& event : diary.Coming(kNow, 5)) {
+    Require(DateFromDays(DaysFromEpoch(event.gmt.date)) == event.gmt.date, "a day that there is");
+    Require(kNow < event.gmt, "it comes");
+    const auto next = diary.Next(event.record[EventField::Name], kNow);
+    Require(next && *next <= event.gmt, "the next of its name is this one or an earlier one");
+  }
+  ScheduleStore store(folder, "M/d/yyyy");
+  store.LoadSchedule(kNow.date);
+  for (const Occurrence& start : diary.Starting(store, kNow, kLater))
+    Require(start.slot < store.SlotCount(), "an item that there is");
+}
+
 }  // namespace
 
 // A playlist that was read can be written, and comes back the same.
@@ -82,29 +135,44 @@ void FuzzStationList(std::string_view input) {
   UseTable(stations, input.substr(0, 8));
 }
 
-// First a byte: which table, and whether the checksums are left as they are. Then changes to its files, three
-// bytes each: the file and the place (15 bits) and the new byte. Whatever a table says, it is damage that is
-// noticed, or harmless.
+// First a byte: which table, and whether the checksums are left as they are. Then changes to its files.
+// Whatever a table says, it is damage that is noticed, or harmless.
 void FuzzTable(std::string_view input) {
   if (input.empty()) return;
-  const bool forged = (input[0] & 1) == 0;
-  auto [data, index] = (input[0] & 2) == 0 ? SmallTable() : TwoPages();
-  input.remove_prefix(1);
-  for (; input.size() >= 3; input.remove_prefix(3)) {
-    const unsigned high = static_cast<unsigned char>(input[0]);
-    std::string& file = (high & 0x80) != 0 ? index : data;
-    const std::size_t place = (high & 0x7F) * 256 + static_cast<unsigned char>(input[1]);
-    file[place % file.size()] = input[2];
-  }
-  if (!input.empty()) index.resize(index.size() / 2);  // a rest cuts a file off
-  if (forged) ResealTable(data, index);
+  const TableBytes bytes = Changed((input[0] & 2) == 0 ? SmallTable() : TwoPages(), input);
   FakeFiles files;
-  files.Put("/d/statorg.isd", data);
-  files.Put("/d/statorg.ism", index);
+  files.Put("/d/statorg.isd", bytes.data);
+  files.Put("/d/statorg.ism", bytes.index);
   DataFolder folder(files, "/d", '/');
   StatList stations(folder);
   UseTable(stations, "amber");
   Require(stations.EnsureStationTable() != TableCare::Made, "no table is made of no list");
+}
+
+// As for FuzzTable. What a damaged or forged table tells the schedule is an event or nothing, and a table
+// that takes another event is whole afterwards.
+void FuzzEvents(std::string_view input) {
+  if (input.empty()) return;
+  const TableBytes bytes = Changed(EventTable(), input);
+  FakeFiles files;
+  files.Put("/d/Eventorg.isd", bytes.data);
+  files.Put("/d/Eventorg.ism", bytes.index);
+  files.Put("/d/Sched.snr", "Late Show\tN\t\t\t\tLIVE\t\r\n");
+  DataFolder folder(files, "/d", '/');
+  EvList events(folder);
+  UseDiary(events, folder);
+  const std::vector<EventRecord> before = events.AllEvents(EventSet::Current);
+  const bool whole = events.LastStatus() == TableStatus::Success;
+  const EventRecord added{8, {"Added", "1", "", std::string(input.substr(0, 12))}};
+  const EvList::Handle handle = events.OpenEventTable(EventSet::Current, EvList::OpenMode::Write);
+  Require(events.GetEvent(handle, 7).Empty() || events.GetEvent(handle, 7).EventId == 7, "the one asked for");
+  const bool put = handle != 0 && events.PutEvent(handle, added);
+  events.CloseEventTable(handle);
+  const bool stored = put && events.LastStatus() == TableStatus::Success;
+  const std::vector<EventRecord> after = EvList(folder).AllEvents(EventSet::Current);
+  Require(stored || after == before, "what could not be changed is as it was");
+  Require(!stored || whole, "damage is not written over");
+  Require(!stored || after.size() - before.size() <= 1, "no event is lost");
 }
 
 }  // namespace sonaro

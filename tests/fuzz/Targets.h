@@ -21,6 +21,7 @@ void FuzzProxySettings(std::string_view input);
 void FuzzPlaylist(std::string_view input);
 void FuzzStationList(std::string_view input);
 void FuzzTable(std::string_view input);
+void FuzzEvents(std::string_view input);
 void FuzzWhatIsNew(std::string_view input);
 void FuzzSchedule(std::string_view input);
 void FuzzPersonalStations(std::string_view input);
@@ -37,10 +38,12 @@ inline constexpr FuzzTarget kFuzzTargets[] = {{"http_response", FuzzHttpResponse
                                               {"playlist", FuzzPlaylist},
                                               {"station_list", FuzzStationList},
                                               {"table", FuzzTable},
+                                              {"events", FuzzEvents},
                                               {"what_is_new", FuzzWhatIsNew},
                                               {"schedule", FuzzSchedule},
                                               {"personal_stations", FuzzPersonalStations},
                                               {"extra_links", FuzzExtraLinks},
+                                              {"groups", FuzzGroups},
                                               {"categories", FuzzCategories},
                                               {"outlines", FuzzOutlines},
                                               {"tool_readers", FuzzToolReaders}};

@@ -131,7 +131,14 @@ void FuzzGroups(std::string_view input) {
   DataFolder data = file.Open();
   FavoriteGroups groups(data);
   groups.LoadFavoriteGroups();
-  if (groups.Count() > 0) groups.AddStation(groups.Count() - 1, "4711");
+  if (groups.Count() > 0) {
+    const std::size_t last = groups.Count() - 1;
+    Require(groups.AddStation(last, "4711") != FavoriteChange::NotSaved && groups.Contains(last, "4711"),
+            "added");
+    Require(groups.Move(last, 0) != FavoriteChange::NotSaved && groups.Contains(0, "4711"), "moved");
+    (void)groups.RemoveStation(0, input.substr(0, input.find_first_of(" \t\r\n")));
+  }
+  (void)groups.Add(input.substr(0, 200), "P1");
   for (std::size_t group = 0; group < groups.Count(); ++group) {
     Require(!groups.Name(group).empty(), "a group has a name");
     Require(groups.Find(groups.Name(group)) == group, "of its own");
@@ -159,6 +166,7 @@ void FuzzCategories(std::string_view input) {
     const int at = waiting.back();
     waiting.pop_back();
     ++reached;
+    Require(tree.Node(at).level <= BrowseNode::kLowestLevel, "as deep as a window can show");
     for (const int child : tree.Node(at).children) {
       Require(tree.Node(child).parent == at && child > at, "a child knows its parent, which came before it");
       waiting.push_back(child);
