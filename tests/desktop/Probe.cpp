@@ -88,14 +88,14 @@ WORD KeyOf(Modifier modifier) {
   return 0;
 }
 
+}  // namespace
+
 bool HasTakenMouse(HWND window) {
   GUITHREADINFO info{};
   info.cbSize = sizeof(info);
   return GetGUIThreadInfo(GetWindowThreadProcessId(window, nullptr), &info) &&
          (info.hwndCapture != nullptr || info.hwndMoveSize != nullptr);
 }
-
-}  // namespace
 
 HWND FindTopWindow(DWORD processId, const std::string& className, const std::string& caption) {
   TopWindowSearch search{processId, className, caption};
@@ -236,7 +236,7 @@ void ClickAt(int screenX, int screenY, bool rightButton) {
               MouseInput(at, rightButton ? MOUSEEVENTF_RIGHTUP : MOUSEEVENTF_LEFTUP)});
 }
 
-void DragFromTo(POINT from, POINT to) {
+void DragFromTo(POINT from, POINT to, const std::function<void()>& held) {
   constexpr int kSteps = 8;
   constexpr int kFirstStep = 8;
   SetCursorPos(from.x, from.y);
@@ -250,6 +250,7 @@ void DragFromTo(POINT from, POINT to) {
     SetCursorPos(from.x + (to.x - from.x) * i / kSteps, from.y + (to.y - from.y) * i / kSteps);
   }
   Sleep(20);
+  if (held) held();
   SendInputs({MouseInput(to, MOUSEEVENTF_LEFTUP)});
 }
 

@@ -8,6 +8,7 @@
 #include <commctrl.h>
 
 #include <chrono>
+#include <functional>
 #include <string>
 #include <vector>
 
@@ -76,7 +77,8 @@ enum class Modifier { None, Control, Shift, Alt };
 void PressKey(HWND window, WORD virtualKey, Modifier modifier = Modifier::None);
 void TypeText(HWND window, const std::string& text);
 void ClickAt(int screenX, int screenY, bool rightButton = false);
-void DragFromTo(POINT from, POINT to);
+// `held` runs before the button is let go.
+void DragFromTo(POINT from, POINT to, const std::function<void()>& held = {});
 // The same until the condition holds; false when it never does. On a display without a window manager a
 // window that is closing can still take a click, and the focus that comes late ends a drag.
 template <typename Condition>
@@ -93,6 +95,8 @@ bool DragUntil(POINT from, POINT to, Condition condition) {
     return WaitUntil(condition, std::chrono::seconds(2));
   });
 }
+// The window's thread has the mouse for itself: a drag is on.
+bool HasTakenMouse(HWND window);
 // The control with the keyboard focus in the window's thread; null when the thread has none.
 HWND FocusOf(HWND window);
 

@@ -17,11 +17,14 @@ class EscapeTest : public MainWindowTest {
       if (isBox) Click(control);
     }
   }
-  // What the user would miss: the settings and files, without what the watch over the schedule notes.
+  // What the user would miss: the settings and files, without what the watch over the schedule notes and the
+  // empty list by which the system is asked what plays such a list.
   std::pair<SettingValues, std::map<std::string, std::size_t>> Everything() {
     SettingValues settings = ReadSettings();
     settings.erase("ScheduleLastSeen");
-    return {settings, AllFiles()};
+    std::map<std::string, std::size_t> files = AllFiles();
+    std::erase_if(files, [](const auto& file) { return file.first.ends_with("dummy.asx"); });
+    return {settings, files};
   }
 };
 

@@ -113,6 +113,96 @@ TEST_F(GroupTest, TheGroupOnShowIsRenamedAndDeleted) {
   EXPECT_EQ(ReadFile("favs.snr"), "Night\t\r\n");
 }
 
+TEST_F(GroupTest, TheFirstFavouriteMakesItsGroupAndSurvivesARestart) {
+  HWND main = MainWithStations();
+  const std::string name = CellText(List(main), 1);
+  SelectRow(List(main), 1);
+  Command(main, mnuActionStationToFavList);
+  HWND dialog = Dialog("frmPickGroup");
+  EXPECT_TRUE(IsShown(Control(dialog, txtGroupName)));
+  EXPECT_TRUE(WaitUntil([&] { return FocusOf(dialog) == Control(dialog, txtGroupName); }));
+  EXPECT_FALSE(IsWindowEnabled(Control(dialog, butOKIt)));
+  TypeText(dialog, "First");
+  EXPECT_TRUE(WaitUntil([&] { return TextOf(Control(dialog, txtGroupName)) == "First"; }));
+  EndWith(main, dialog, butOKIt);
+  EXPECT_EQ(TextOf(Control(main, butFavs)), "First");
+  Command(main, mnuExit);
+  EXPECT_TRUE(Sonaro().WaitForEnd().has_value());
+
+  HWND again = Start().WaitForShownWindow("SonaroFrm");
+  ASSERT_NE(again, nullptr);
+  Click(Control(again, butFavs));
+  EXPECT_TRUE(Listing(again, "First"));
+  EXPECT_EQ(ColumnTexts(List(again)), std::vector<std::string>{name});
+  // An empty socket makes the second.
+  Click(Control(again, butFavs + 4));
+  HWND second = Dialog("frmNewFavorite");
+  SetText(Control(second, txtGroupName), "Second");
+  EndWith(again, second, butOKIt);
+  EXPECT_EQ(TextOf(Control(again, butFavs + 1)), "Second");
+  EXPECT_TRUE(ReadFile("favs.snr").ends_with("Second\t\r\n")) << ReadFile("favs.snr");
+}
+
+TEST_F(GroupTest, DelThreeTimesRemovesThreeStationsInARow) {
+  HWND main = MainWithStations();
+  Command(main, mnuFavoritesAdd);
+  HWND dialog = Dialog("frmNewFavorite");
+  SetText(Control(dialog, txtGroupName), "Long");
+  EndWith(main, dialog, butOKIt);
+  const int count = std::min(RowCount(List(main)), 40);
+  for (int row = 0; row < count; ++row) {
+    SelectRow(List(main), row);
+    Command(main, mnuActionStationToGroup);
+  }
+  Click(Control(main, butFavs));
+  ASSERT_TRUE(Listing(main, "Long"));
+  std::vector<std::string> names = ColumnTexts(List(main));
+  const int from = static_cast<int>(names.size()) - 6;
+  ASSERT_GT(from, 0);
+  ASSERT_TRUE(ClickUntil(RowAt(main, 0), [&] { return FocusOf(main) == List(main); }));
+  SelectRow(List(main), from);
+  for (int press = 0; press < 3; ++press) {
+    PressKey(main, VK_DELETE);
+    names.erase(names.begin() + from);
+    ASSERT_TRUE(WaitUntil([&] { return ColumnTexts(List(main)) == names; })) << press;
+    EXPECT_EQ(SelectedRows(List(main)), std::vector<int>{from});
+  }
+  EXPECT_GT(ListView_GetTopIndex(List(main)) + ListView_GetCountPerPage(List(main)), from) << "in sight";
+}
+
+TEST_F(GroupTest, WhatTheGuideLostIsToldBesideTheCaptionAndTakenOut) {
+  ResetSettings(
+      {{"StartPlayer", "No"}, {"StartProxy", "No"}, {"StartQuickStart", "No"}, {"NoShowDelete", "Yes"}});
+  HWND main = MainWithGroups("Morning\t2000000001 P77\r\nEvening\t\r\n");
+  Command(main, mnuActionStationToGroup);
+  Click(Control(main, butFavs));
+  ASSERT_TRUE(Listing(main, "Morning"));
+  EXPECT_EQ(RowCount(List(main)), 1);
+  HWND missing = Control(main, butMissing);
+  ASSERT_TRUE(WaitUntil([&] { return IsShown(missing); }));
+  EXPECT_EQ(TextOf(missing), "2 are no longer in the guide");
+  EXPECT_LE(BoundsOf(Control(main, lblListing)).right, BoundsOf(missing).left);
+  SaveShot("missing");
+  Click(missing);
+  AnswerBox(main, butMsg);
+  EXPECT_TRUE(WaitUntil([&] { return !IsShown(missing); }));
+  const std::string file = ReadFile("favs.snr");
+  EXPECT_EQ(file.find("2000000001"), std::string::npos) << file;
+  EXPECT_EQ(RowCount(List(main)), 1);
+
+  // Del on the key of a group that is not on show brings it there; it is deleted by the next press.
+  HWND evening = Control(main, butFavs + 1);
+  ASSERT_TRUE(ClickUntil(MiddleOf(evening), [&] { return FocusOf(main) == evening; }));
+  PressKey(main, '1', Modifier::Alt);
+  ASSERT_TRUE(Listing(main, "Morning"));
+  PressKey(main, VK_DELETE);
+  EXPECT_TRUE(Listing(main, "Evening"));
+  EXPECT_EQ(ReadFile("favs.snr"), file);
+  PressKey(main, VK_DELETE);
+  EXPECT_TRUE(Listing(main, "Your Recent"));
+  EXPECT_EQ(TextOf(Control(main, butFavs)), "Morning");
+}
+
 TEST_F(GroupTest, TheKeyboardReachesEveryGroupAndTheSearch) {
   HWND main = MainWithGroups("Morning\t\r\nEvening\t\r\n");
   for (int round = 0; round < 2; ++round) {  // letting go of Alt must leave the next key alone

@@ -78,6 +78,57 @@ TEST_F(ScanTest, StationsAreDroppedIntoTheQueue) {
   EXPECT_EQ(ColumnTexts(queue), (std::vector<std::string>{names[1], names[0], names[2]}));
 }
 
+TEST_F(ScanTest, ARowInTheHandAndAnOpenMenuKeepTheirStationThroughAStep) {
+  std::string list;
+  std::string recent;
+  for (int id = 1; id <= 23; ++id) {
+    list += StationLine(id, "Station " + std::to_string(id), "mhttp://127.0.0.1:9/" + std::to_string(id));
+    if (id <= 20) recent += std::to_string(id) + " ";
+  }
+  WriteFile("tStation.snr", list);
+  WriteFile("recent.snr", recent + "\r\n");
+  WriteFile("fun.snr", "Most Pop\t21 22 23\r\n");
+  WriteFile("favs.snr", "Held\t\r\nMenu\t\r\n");
+  ResetSettings({{"StartPlayer", "No"},
+                 {"StartProxy", "No"},
+                 {"StartQuickStart", "No"},
+                 {"ScanTime", "20"},
+                 {"UpdateHold", "Station.snr\t"}});
+  HWND main = MainWithStations();
+  Command(main, mnuActionAddListToScan);
+  Command(main, mnuRecent);
+  Command(main, mnuScan);
+  HWND scan = Dialog("frmScan");
+  SetWindowPos(main, nullptr, 0, 0, 0, 0, SWP_NOSIZE | SWP_NOZORDER);
+  SetWindowPos(scan, nullptr, 500, 480, 0, 0, SWP_NOSIZE | SWP_NOZORDER);
+  Click(Control(scan, butStartIt));
+  ASSERT_TRUE(Shows(scan, lblCurrentScaning, "Currently Scanning: Station 21"));
+  ASSERT_TRUE(WaitUntil([&] { return RowCount(List(main)) == 21; }));
+  // Another row than the one that is dragged: a second press on the same spot would be a double click.
+  ASSERT_TRUE(ClickUntil(RowAt(main, 4), [&] { return FocusOf(main) == List(main); }));
+  ASSERT_EQ(CellText(List(main), 1), "Station 1");
+
+  EXPECT_TRUE(WaitUntil([&] {
+    DragFromTo(RowAt(main, 1), MiddleOf(Control(main, butFavs)), [&] {
+      if (HasTakenMouse(main)) TicksUntil(scan, lblCurrentScaning, "Currently Scanning: Station 22", 25);
+    });
+    return TextOf(Control(scan, lblCurrentScaning)) == "Currently Scanning: Station 22";
+  }));
+  EXPECT_TRUE(Holds("favs.snr", "Held\t1 \r\nMenu\t\r\n")) << ReadFile("favs.snr");
+
+  // The last one leaves the list while its menu is open.
+  ASSERT_EQ(CellText(List(main), 20), "Station 19");
+  SelectRow(List(main), 20);
+  ASSERT_TRUE(WaitUntil([&] { return TextOf(Control(main, lblStationName)) == "Station 19"; }));
+  PressKey(main, VK_APPS);
+  ASSERT_NE(Sonaro().WaitForShownWindow("#32768"), nullptr);
+  TicksUntil(scan, lblCurrentScaning, "Currently Scanning: Station 23", 25);
+  ASSERT_NE(TextOf(Control(main, lblStationName)), "Station 19");
+  Command(main, mnuActionStationToGroup + 1);
+  EXPECT_TRUE(Holds("favs.snr", "Held\t1 \r\nMenu\t19 \r\n")) << ReadFile("favs.snr");
+  PressKey(main, VK_ESCAPE);
+}
+
 TEST_F(ScanTest, ThreeStationsOfTwentySecondsOneOfThemMute) {
   WriteFile("tStation.snr", StationLine(7, "One", "mhttp://127.0.0.1:9/1") + StationLine(8, "Mute", "") +
                                 StationLine(9, "Three", "mhttp://127.0.0.1:9/3"));
