@@ -15,12 +15,22 @@ constexpr int kMostCopies = 99;
 // The text in a file's bytes; nothing when they are none. No text of ours holds a zero character, and a power
 // cut can leave a file full of them.
 std::optional<std::string> TextIn(std::string_view bytes) {
-  if (bytes.starts_with(kMarkOfUtf8)) bytes.remove_prefix(kMarkOfUtf8.size());
-  std::optional<Utf16Text> wide = DecodeMarkedUtf16(bytes);
+  const bool isUtf8 = bytes.starts_with(kMarkOfUtf8);
+  if (isUtf8) bytes.remove_prefix(kMarkOfUtf8.size());
+  std::optional<Utf16Text> wide = isUtf8 ? std::nullopt : DecodeMarkedUtf16(bytes);
   if (wide && wide->damaged) return std::nullopt;
   std::string text = wide ? std::move(wide->text) : std::string(bytes);
   if (text.find('\0') != std::string::npos) return std::nullopt;
   return text;
+}
+
+// The bytes that TextIn makes `text` of: one that begins as a mark does, as a pasted name can, stands behind
+// another mark.
+std::string BytesOf(std::string_view text) {
+  for (const std::string_view mark : {kMarkOfUtf8, kMarkOfUtf16Little, kMarkOfUtf16Big}) {
+    if (text.starts_with(mark)) return std::string(kMarkOfUtf8).append(text);
+  }
+  return std::string(text);
 }
 
 }  // namespace
@@ -53,8 +63,9 @@ bool UserFile::TakeOver(std::string bytes) {
 }
 
 bool UserFile::Save(std::string_view text) {
-  if (unread_ || !data_.Save(name_, text)) return false;
-  bytes_ = text;
+  std::string bytes = BytesOf(text);
+  if (unread_ || !data_.Save(name_, bytes)) return false;
+  bytes_ = std::move(bytes);
   text_ = text;
   return true;
 }

@@ -64,8 +64,9 @@ void FavoriteGroups::ReadFile() {
   owesCopy_ = false;
   for (const std::string_view line : SplitLines(file_.Text())) {
     const std::string_view group = TrimBlanks(line);
-    if (group.find('\t') != std::string_view::npos) {
-      groups_.emplace_back(group);
+    const std::size_t tab = group.find('\t');
+    if (tab != std::string_view::npos) {
+      groups_.push_back(std::string(TrimBlanks(group.substr(0, tab))).append(group.substr(tab)));
     } else if (!group.empty()) {
       owesCopy_ = true;
     }
@@ -78,11 +79,11 @@ void FavoriteGroups::ReadFile() {
 // Names are what the group bar, the menus and the listing mode know groups by.
 void FavoriteGroups::MakeNamesUnique() {
   std::unordered_set<std::string> taken;
-  for (std::size_t group = 0; group < Count(); ++group) taken.insert(FoldCase(TrimBlanks(Name(group))));
+  for (std::size_t group = 0; group < Count(); ++group) taken.insert(FoldCase(Name(group)));
   std::unordered_set<std::string> seen;
   std::unordered_map<std::string, int> lastNumber;  // of the names made from one
   for (std::size_t group = 0; group < Count(); ++group) {
-    const std::string name(TrimBlanks(Name(group)));
+    const std::string name(Name(group));
     if (!name.empty() && seen.insert(FoldCase(name)).second) continue;
     const std::string stem = name.empty() ? kNameless : name;
     int& number = lastNumber[FoldCase(stem)];

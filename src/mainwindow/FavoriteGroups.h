@@ -34,9 +34,9 @@ class FavoriteGroups {
 
   explicit FavoriteGroups(DataFolder& data) : file_(data, "\\favs.snr") {}
 
-  // Reads the file into the table and writes it back when reading changed it: lines trimmed of blanks, lines
-  // without a tab dropped, after a copy with all of them was kept beside, and a group without a name, or with
-  // that of an earlier one, given a name of its own ("Jazz 2"). Members are never lost.
+  // Reads the file into the table and writes it back when reading changed it: lines and names trimmed of
+  // blanks, lines without a tab dropped, after a copy with all of them was kept beside, and a group without a
+  // name, or with that of an earlier one, given a name of its own ("Jazz 2"). Members are never lost.
   void LoadFavoriteGroups();
   // True when a file that could not be read before has been read now.
   bool LoadUnread();

@@ -55,6 +55,18 @@ TEST_F(UserFileTest, ReadsWhatOtherProgramsMadeOfAText) {
   }
 }
 
+TEST_F(UserFileTest, ATextThatBeginsLikeAMarkComesBackWhole) {
+  for (const std::string text : {"\xEF\xBB\xBFJazz", "\xFF\xFEJazz!", "\xFE\xFF Jazz", "\xEF\xBBJazz"}) {
+    files.Put(kPath, "");
+    EXPECT_EQ(file.Look(), Seen::Changed);
+    EXPECT_TRUE(file.Save(text));
+    EXPECT_EQ(file.Look(), Seen::Same);
+    UserFile again(data, "\\favs.snr");
+    EXPECT_EQ(again.Look(), Seen::Changed);
+    EXPECT_EQ(again.Text(), text);
+  }
+}
+
 TEST_F(UserFileTest, WhatIsKeptBesideIsNeverWrittenOverAndKeptOnce) {
   files.Put(kPath, std::string(3, '\0'));
   files.Put("/d/favs.snr.bad", "an older one");
