@@ -195,7 +195,8 @@ void Application::SayWhyNot(const std::string& sentence) {
   messages_.Ask({.key = "CantFindProgram",
                  .caption = strings_.Load(IDS_WHYNOT_CAPTION),
                  .text = sentence,
-                 .firstButton = strings_.Load(IDS_APP_OK)});
+                 .firstButton = strings_.Load(IDS_APP_OK),
+                 .isTrouble = true});
 }
 
 void Application::FinishedLoading() {
@@ -211,7 +212,8 @@ void Application::FinishedLoading() {
   messages_.Ask({.key = "AlphabetRefused",
                  .caption = strings_.Load(IDS_APP_TITLE),
                  .text = strings_.Load(IDS_ALPHABET_REFUSED),
-                 .firstButton = strings_.Load(IDS_APP_OK)});
+                 .firstButton = strings_.Load(IDS_APP_OK),
+                 .isTrouble = true});
 }
 
 // Asked at the start and every minute: a setting may be written in the middle of anything.
@@ -222,7 +224,8 @@ void Application::SayWhatSettingsLack() {
   messages_.Ask({.key = "SettingsNotWritten",
                  .caption = strings_.Load(IDS_APP_TITLE),
                  .text = strings_.Load(text),
-                 .firstButton = strings_.Load(IDS_APP_OK)});
+                 .firstButton = strings_.Load(IDS_APP_OK),
+                 .isTrouble = true});
 }
 
 TrayActions Application::MakeTrayActions() {

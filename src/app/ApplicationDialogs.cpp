@@ -58,7 +58,8 @@ bool Application::OfferPlayers(const std::string& sentence) {
                                               .caption = strings_.Load(IDS_WHYNOT_CAPTION),
                                               .text = sentence,
                                               .firstButton = strings_.Load(IDS_APP_OK),
-                                              .secondButton = strings_.Load(IDS_WHYNOT_CHOOSE_PLAYER)});
+                                              .secondButton = strings_.Load(IDS_WHYNOT_CHOOSE_PLAYER),
+                                              .isTrouble = true});
   return result.answer == MessageAnswer::Second &&
          ChoosePlayer(StartUpInfoPage::ChoosePlayer, GetActiveWindow());
 }

@@ -47,6 +47,7 @@ bool AskToGetMissingFiles(CReg& reg, const Strings& strings, MessageBoxView& mes
   message.text = strings.Load(IDS_FILES_MISSING_TEXT);
   message.firstButton = strings.Load(IDS_FILES_MISSING_GET);
   message.secondButton = strings.Load(IDS_FILES_MISSING_CLOSE);
+  message.isTrouble = true;
   // Closing the box declines as well: nobody who did not ask for a download should get one.
   return messages.Ask(message).answer == MessageAnswer::First;
 }

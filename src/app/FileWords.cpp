@@ -16,6 +16,7 @@ Message Told(const char* key, std::string text, const Strings& strings) {
   message.caption = strings.Load(IDS_FILE_CAPTION);
   message.text = std::move(text);
   message.firstButton = strings.Load(IDS_APP_OK);
+  message.isTrouble = true;
   return message;
 }
 

@@ -17,6 +17,7 @@ struct Message {
   std::string secondButton;  // "" = one button
   std::string cancelButton;  // a third one that leaves the question open; "" = none
   std::string dontAskText;   // "" = no "do not ask again" box
+  bool isTrouble = false;    // something went wrong: shown with the warning sign
 };
 
 struct MessageResult {

@@ -62,8 +62,8 @@ const FormDesign& MsgboxFrm::Design() {
                                        {butCancelIt, {}}};
   static constexpr Place kWideSecond[] = {{lblMsg, kWholeText},
                                           {chkDontAsk, {}},
-                                          {butMsg, {150, 202, 96, 28}},
-                                          {butMsg + 1, {254, 202, 152, 28}},
+                                          {butMsg, {118, 202, 140, 28}},
+                                          {butMsg + 1, {266, 202, 140, 28}},
                                           {butCancelIt, {}}};
   static constexpr Layout kLayouts[] = {{.places = kOneKey, .others = Layout::Others::AsDesigned},
                                         {.places = kWideKey, .others = Layout::Others::AsDesigned},
@@ -100,7 +100,7 @@ MessageResult MsgboxFrm::Ask(HWND owner) {
 void MsgboxFrm::OnLoad() {
   SetWindowTextW(Window(), Widen(message_.caption).c_str());
   SetText(lblTitle, message_.caption);
-  if (message_.caption == kFilesMissing) {
+  if (message_.isTrouble) {
     SetIcon(picStuff, Icon::Warn);
     SetInk(picStuff, Ink::Accent);
   }

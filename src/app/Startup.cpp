@@ -84,6 +84,7 @@ void Startup::SwapInDownloads() {
   message.caption = use_.strings.Load(IDS_APP_TITLE);
   message.text = use_.strings.Load(IDS_TABLE_NOT_MADE);
   message.firstButton = use_.strings.Load(IDS_APP_OK);
+  message.isTrouble = true;
   use_.messageBox.Ask(message);
 }
 

@@ -1,7 +1,7 @@
 #include "schedule/frmNotify.h"
 
 #include "forms/ControlIds.h"
-#include "resources/texts/app.h"
+#include "forms/DialogRows.h"
 #include "resources/texts/schedule.h"
 
 namespace sonaro {
@@ -58,20 +58,12 @@ const FormDesign& frmNotify::Design() {
       {.id = butGoWebSiteIt,
        .kind = Kind::PushKey,
        .text = IDS_SCHED_NOTIFY_WEB,
-       .at = {40, 206, 150, 30},
+       .at = {14, 206, 150, 30},
        .icon = Icon::Web,
        .flags = kHidden},
       {.id = butCloselIt, .kind = Kind::PushKey, .text = IDS_SCHED_NOTIFY_CLOSE, .at = {330, 206, 96, 30}},
-      {.id = butHelp,
-       .kind = Kind::StripKey,
-       .text = IDS_APP_HELP,
-       .at = {352, 12, 26, 22},
-       .icon = Icon::Help},
-      {.id = butCloseIt,
-       .kind = Kind::StripKey,
-       .text = IDS_APP_CLOSE,
-       .at = {384, 12, 26, 22},
-       .icon = Icon::Close},
+      HelpKey(368),
+      CloseKey(400),
   };
   static constexpr FormDesign kDesign = {.name = "frmNotify",
                                          .caption = IDS_SCHED_NOTIFY_TITLE,

@@ -124,6 +124,15 @@ const NamedForm kForms[] = {
                                       .cancelButton = p.words.Load(IDS_APP_CANCEL),
                                       .dontAskText = p.words.Load(IDS_DONT_ASK_AGAIN)});
      }},
+    {"MsgboxFrmOfLongKeys",
+     [](EmptyProgram& p) {
+       return Make<MsgboxFrm>(p.forms, p.help,
+                              Message{.key = "QuickStart",
+                                      .caption = p.words.Load(IDS_QUICK_START_CAPTION),
+                                      .text = p.words.Load(IDS_QUICK_START_TEXT),
+                                      .firstButton = p.words.Load(IDS_QUICK_START_VIEW),
+                                      .secondButton = p.words.Load(IDS_QUICK_START_SKIP)});
+     }},
     {"frmSplash", [](EmptyProgram& p) { return Make<frmSplash>(p.forms); }},
     {"SonaroFrm",
      [](EmptyProgram& p) { return Make<SonaroFrm>(p.forms, p.guide, p.player, p.pages, MainWindowCalls{}); }},
@@ -138,7 +147,7 @@ const NamedForm kForms[] = {
      }},
     {"frmPickGroup",
      [](EmptyProgram& p) {
-       return Make<frmPickGroup>(p.forms, std::string("Jazz"), std::vector<std::string>{"Morning"});
+       return Make<frmPickGroup>(p.forms, std::string("Jazz"), std::vector<std::string>{});
      }},
     {"frmTestProxy",
      [](EmptyProgram& p) {

@@ -56,6 +56,8 @@ class Check {
       }
       if (item.Id() != 0 && GetDlgItem(parts_.window, item.Id()) != item.Window())
         Add(item, "is not found by number");
+      if (IsEdit(item.KindOf()) && item.row->text.id != 0)
+        Add(item, "holds its name, as if the user had typed it");
       if (!IsKey(item.KindOf()) && !IsCheck(item.KindOf())) continue;
       wchar_t name[32] = {};
       GetClassNameW(item.Window(), name, 32);

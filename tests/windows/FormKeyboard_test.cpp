@@ -102,13 +102,18 @@ TEST_F(FormKeyboardTest, MovesByTabFromGroupToGroupAndByArrowsInside) {
   EXPECT_EQ(form.FocusedControl(), DemoForm::kPush) << "a key that is in no group keeps the arrows";
 }
 
-TEST_F(FormKeyboardTest, SkipsEmptySocketsAndHiddenControls) {
+TEST_F(FormKeyboardTest, ReachesEmptySocketsAndSkipsHiddenControls) {
   form.SetToggle(DemoForm::kGroups + 5, false);
-  form.SetText(DemoForm::kGroups, "");
-  form.ShowControl(DemoForm::kGroups + 1, false);
+  form.ShowControl(DemoForm::kGroups, false);
+  form.SetEmptySocket(DemoForm::kGroups + 1, true);
   form.SetToggle(DemoForm::kRanking + 5, false);
   form.Focus(DemoForm::kRanking);
   PressKey(VK_TAB);
+  EXPECT_EQ(form.FocusedControl(), DemoForm::kGroups + 1) << "without a group the first one is made there";
+  form.log.clear();
+  PressKey(VK_RETURN);
+  EXPECT_EQ(form.log, (Log{"Click 5032"}));
+  PressKey(VK_RIGHT);
   EXPECT_EQ(form.FocusedControl(), DemoForm::kGroups + 2);
 }
 
