@@ -3,6 +3,7 @@
 
 #include <functional>
 #include <memory>
+#include <set>
 
 #include "app/HelpPages.h"
 #include "app/MsgboxFrm.h"
@@ -232,6 +233,36 @@ TEST_P(EveryForm, EscapeClosesADialogAndKeepsNothingOfIt) {
   EXPECT_TRUE(program.outside.registry.writes.empty()) << program.outside.registry.writes[0].name;
   EXPECT_TRUE(program.outside.files.Log().empty()) << program.outside.files.Log()[0];
   EXPECT_TRUE(program.shell.opened.empty());
+}
+
+void ExpectEachAccessKeyOnce(const MenuEntries& menu) {
+  std::set<int> taken;
+  for (const MenuEntry& entry : menu) {
+    ExpectEachAccessKeyOnce(entry.children);
+    for (std::size_t at = 0; at + 1 < entry.text.size(); ++at) {
+      if (entry.text[at] != '&') continue;
+      const int key = std::tolower(static_cast<unsigned char>(entry.text[++at]));
+      EXPECT_TRUE(key == '&' || taken.insert(key).second) << entry.text;
+    }
+  }
+}
+
+TEST(EveryMenu, GivesEachAccessKeyOnce) {
+  EmptyProgram p;
+  p.outside.files.MakeFolder("/d");
+  ASSERT_EQ(p.favorites.Add("Jazz"), FavoriteChange::Saved);
+  MainModels models(p.guide, {});
+  models.listing.ShowFavoriteGroup(0);
+  const StationActions& actions = models.actions;
+  for (const StationKey::Kind kind : {StationKey::Kind::Directory, StationKey::Kind::Personal}) {
+    StationDetail station;
+    station.station = {kind, 1};
+    ExpectEachAccessKeyOnce(actions.ActionMenu(station));
+    ExpectEachAccessKeyOnce(actions.EventMenu({}, station));
+  }
+  for (const MenuEntries& menu :
+       {actions.SortMenu(), actions.GroupMenu(0), actions.ProgramMenu(), actions.PersonalMenu()})
+    ExpectEachAccessKeyOnce(menu);
 }
 
 INSTANTIATE_TEST_SUITE_P(Program, EveryForm, testing::ValuesIn(kForms),
