@@ -110,6 +110,9 @@ inline constexpr const char* kProxyServer = "ProxyServer";
 inline constexpr const char* kRun = "Software\\Microsoft\\Windows\\CurrentVersion\\Run";
 inline constexpr const char* kRunValue = "SonaroStartUp";
 
+// The name of a key's default value.
+inline constexpr const char* kDefaultValue = "";
+
 // HKEY_LOCAL_MACHINE, default values: the installed player's version, and its program path under
 // kPlayer + version + kPlayerMainApp.
 inline constexpr const char* kPlayerVersion =

@@ -14,7 +14,6 @@ namespace sonaro {
 namespace {
 
 constexpr const char* kKinds[] = {".m3u", ".pls", ".mp3", ".asx"};
-constexpr const char* kDefaultValue = "";
 // The system's question which program to take; it stands for a kind of file that has none.
 constexpr const char* kSystemQuestion = "openwith.exe";
 
@@ -82,17 +81,18 @@ void InstalledPlayers::AddAssociated(Programs& programs) const {
 std::string InstalledPlayers::ProgramOfClass(const std::string& fileClass) const {
   if (fileClass.empty()) return {};
   const MainKeyScope classes(reg_, RootKey::ClassesRoot);
-  return WithVariables(ProgramOf(reg_.GetData(fileClass + systemkey::kOpenCommand, kDefaultValue)));
+  return WithVariables(
+      ProgramOf(reg_.GetData(fileClass + systemkey::kOpenCommand, systemkey::kDefaultValue)));
 }
 
-void InstalledPlayers::Add(Programs& programs, std::string name, const std::string& path) const {
+void InstalledPlayers::Add(Programs& programs, const std::string& name, const std::string& path) const {
   const std::string fileName = path.substr(path.find_last_of("\\/") + 1);
   if (path.empty() || EqualIgnoringCase(fileName, kSystemQuestion)) return;
   const bool known = std::any_of(programs.begin(), programs.end(), [&](const PlayerProgram& program) {
     return EqualIgnoringCase(program.path, path);
   });
   if (known || !data_.FileSystem().Exists(path)) return;
-  programs.push_back({name.empty() ? fileName : std::move(name), path});
+  programs.push_back({name.empty() ? fileName : name, path});
 }
 
 }  // namespace sonaro

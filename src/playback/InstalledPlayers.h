@@ -31,7 +31,7 @@ class InstalledPlayers {
   void AddRegistered(Programs& programs) const;
   void AddApplication(Programs& programs, const std::string& capabilities, const std::string& name) const;
   void AddAssociated(Programs& programs) const;
-  void Add(Programs& programs, std::string name, const std::string& path) const;
+  void Add(Programs& programs, const std::string& name, const std::string& path) const;
   // The program of a class of file; "" when it names none.
   std::string ProgramOfClass(const std::string& fileClass) const;
 

@@ -12,7 +12,6 @@ namespace sonaro {
 
 namespace {
 
-constexpr const char* kDefaultValue = "";
 constexpr int kLastFailureCode = 32;  // of the platform's association look-up
 
 // Letters of ASCII only: the file system finds the program in any case, and other letters may change length.
@@ -26,13 +25,13 @@ void LowerCase(std::string& path) {
 
 std::string Players::RegisteredVersion() const {
   MainKeyScope machine(reg_, RootKey::LocalMachine);
-  return reg_.GetData(systemkey::kPlayerVersion, kDefaultValue);
+  return reg_.GetData(systemkey::kPlayerVersion, systemkey::kDefaultValue);
 }
 
 std::string Players::RegisteredPath(const std::string& version) const {
   MainKeyScope machine(reg_, RootKey::LocalMachine);
   const std::string path =
-      reg_.GetData(systemkey::kPlayer + version + systemkey::kPlayerMainApp, kDefaultValue);
+      reg_.GetData(systemkey::kPlayer + version + systemkey::kPlayerMainApp, systemkey::kDefaultValue);
   return !path.empty() && data_.FileSystem().Exists(path) ? path : std::string();
 }
 
