@@ -21,25 +21,6 @@ auto WithoutIndex(const PersonalStation& s) { return std::tie(s.name, s.links, s
 
 bool HasNoLink(const PersonalStation& station) { return station.links == std::array<std::string, 3>(); }
 
-struct HashOfStation {
-  std::size_t operator()(const PersonalStation* station) const {
-    std::string text = station->name;  // and all else, or a file could be made of stations that collide
-    for (const std::string* field : {&station->links[0], &station->links[1], &station->links[2],
-                                     &station->webSite, &station->type, &station->note}) {
-      text.append(1, '\t').append(*field);
-    }
-    return std::hash<std::string>()(text);
-  }
-};
-
-struct SameStation {
-  std::size_t& compared;
-  bool operator()(const PersonalStation* a, const PersonalStation* b) const {
-    ++compared;
-    return WithoutIndex(*a) == WithoutIndex(*b);
-  }
-};
-
 }  // namespace
 
 // The user's own stations for one import, found by everything but their index.
@@ -60,6 +41,25 @@ class OwnStationIndex {
   }
 
  private:
+  struct HashOfStation {
+    std::size_t operator()(const PersonalStation* station) const {
+      std::string text = station->name;  // and all else, or a file could be made of stations that collide
+      for (const std::string* field : {&station->links[0], &station->links[1], &station->links[2],
+                                       &station->webSite, &station->type, &station->note}) {
+        text.append(1, '\t').append(*field);
+      }
+      return std::hash<std::string>()(text);
+    }
+  };
+
+  struct SameStation {
+    std::size_t& compared;
+    bool operator()(const PersonalStation* a, const PersonalStation* b) const {
+      ++compared;
+      return WithoutIndex(*a) == WithoutIndex(*b);
+    }
+  };
+
   const std::vector<PersonalStation> stations_;
   std::unordered_set<const PersonalStation*, HashOfStation, SameStation> known_;
 };

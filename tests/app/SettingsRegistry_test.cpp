@@ -13,7 +13,7 @@
 namespace sonaro {
 namespace {
 
-constexpr RootKey kMachine = RootKey::LocalMachine;
+constexpr RootKey kLocalMachine = RootKey::LocalMachine;
 constexpr RootKey kUser = RootKey::CurrentUser;
 constexpr const char* kFile = "/d/portable.ini";
 
@@ -41,12 +41,12 @@ TEST_F(SettingsRegistryTest, TheOwnKeyLivesWhereItCanBeWritten) {
     SettingsFault fault;
   } kCases[] = {{{}, true, SettingsPlace::Machine, SettingsFault::None},
                 {{}, false, SettingsPlace::Machine, SettingsFault::None},
-                {{kMachine}, false, SettingsPlace::User, SettingsFault::None},
-                {{kMachine}, true, SettingsPlace::User, SettingsFault::None},
-                {{kMachine, kUser}, true, SettingsPlace::User, SettingsFault::NotWritten}};
+                {{kLocalMachine}, false, SettingsPlace::User, SettingsFault::None},
+                {{kLocalMachine}, true, SettingsPlace::User, SettingsFault::None},
+                {{kLocalMachine, kUser}, true, SettingsPlace::User, SettingsFault::NotWritten}};
   for (const auto& c : kCases) {
     FakeRegistry system;
-    if (c.machineKeyIsThere) system.Put(kMachine, kSettingsKey, "Old", "machine");
+    if (c.machineKeyIsThere) system.Put(kLocalMachine, kSettingsKey, "Old", "machine");
     system.deniedRoots = c.denied;
     SettingsRegistry settings(system, files_, kFile);
     EXPECT_EQ(settings.Place(), c.place);
@@ -54,7 +54,7 @@ TEST_F(SettingsRegistryTest, TheOwnKeyLivesWhereItCanBeWritten) {
     reg.SetData("software\\ZUMO\\sonaro", "Name", "text");
     reg.CheckKeyIsThere(kAdsKey);
     reg.SetData(kAdsKey, "Ad", "3");
-    const RootKey home = c.place == SettingsPlace::Machine ? kMachine : kUser;
+    const RootKey home = c.place == SettingsPlace::Machine ? kLocalMachine : kUser;
     const bool written = c.fault == SettingsFault::None;
     EXPECT_EQ(system.Stored(home, kSettingsKey, "Name").has_value(), written);
     EXPECT_EQ(reg.GetData(kAdsKey, "Ad"), written ? "3" : "");
@@ -62,16 +62,16 @@ TEST_F(SettingsRegistryTest, TheOwnKeyLivesWhereItCanBeWritten) {
     EXPECT_EQ(settings.TakeFault(), SettingsFault::None) << "told twice";
     // Another key of that root is left where it is.
     system.deniedRoots.clear();
-    ASSERT_TRUE(settings.CreateKey(kMachine, "SOFTWARE\\zumo\\SonaroOther"));
-    EXPECT_TRUE(system.KeyExists(kMachine, "SOFTWARE\\zumo\\SonaroOther"));
+    ASSERT_TRUE(settings.CreateKey(kLocalMachine, "SOFTWARE\\zumo\\SonaroOther"));
+    EXPECT_TRUE(system.KeyExists(kLocalMachine, "SOFTWARE\\zumo\\SonaroOther"));
   }
 }
 
 TEST_F(SettingsRegistryTest, BesideAPortableFileTheRegistryIsOnlyRead) {
   files_.Put(kFile, "; unpacked\r\n[Sonaro]\r\nLastUpdate=\r\n");
-  system_.Put(kMachine, kSettingsKey, "ScanTime", "machine");
+  system_.Put(kLocalMachine, kSettingsKey, "ScanTime", "machine");
   system_.Put(kUser, systemkey::kInternational, systemkey::kShortDate, "d/M/yyyy");
-  system_.Put(kMachine, systemkey::kRun, systemkey::kRunValue, "other");
+  system_.Put(kLocalMachine, systemkey::kRun, systemkey::kRunValue, "other");
   {
     SettingsRegistry settings(system_, files_, kFile);
     CReg reg(settings);
@@ -88,11 +88,11 @@ TEST_F(SettingsRegistryTest, BesideAPortableFileTheRegistryIsOnlyRead) {
     reg.SetData(systemkey::kInternational, systemkey::kShortDate, "mine");
   }
   EXPECT_TRUE(system_.writes.empty());
-  EXPECT_FALSE(system_.KeyExists(kMachine, "SOFTWARE\\Other"));
-  EXPECT_TRUE(system_.Stored(kMachine, systemkey::kRun, systemkey::kRunValue));
+  EXPECT_FALSE(system_.KeyExists(kLocalMachine, "SOFTWARE\\Other"));
+  EXPECT_TRUE(system_.Stored(kLocalMachine, systemkey::kRun, systemkey::kRunValue));
   EXPECT_EQ(Session("ScanTime"), "30");
   SettingsRegistry settings(system_, files_, kFile);
-  EXPECT_EQ(settings.ReadValue(kMachine, "Software\\Zumo\\SONARO\\Ads", "nextadtoshow"), "7");
+  EXPECT_EQ(settings.ReadValue(kLocalMachine, "Software\\Zumo\\SONARO\\Ads", "nextadtoshow"), "7");
   EXPECT_EQ(settings.TakeFault(), SettingsFault::None);
 }
 
@@ -106,11 +106,11 @@ TEST_F(SettingsRegistryTest, EveryTextSurvivesTheFile) {
   {
     SettingsRegistry settings(system_, files_, kFile);
     for (std::size_t i = 0; i < std::size(texts); ++i)
-      ASSERT_TRUE(settings.WriteValue(kMachine, kSettingsKey, names[i], ValueType::Text, texts[i]));
+      ASSERT_TRUE(settings.WriteValue(kLocalMachine, kSettingsKey, names[i], ValueType::Text, texts[i]));
   }
   SettingsRegistry settings(system_, files_, kFile);
   for (std::size_t i = 0; i < std::size(texts); ++i)
-    EXPECT_EQ(settings.ReadValue(kMachine, kSettingsKey, names[i]), texts[i]) << i;
+    EXPECT_EQ(settings.ReadValue(kLocalMachine, kSettingsKey, names[i]), texts[i]) << i;
   EXPECT_EQ(settings.TakeFault(), SettingsFault::None);
   // As an editor leaves it: byte order mark, bare line ends, blanks, the last of two values.
   files_.Put(kFile, "\xEF\xBB\xBF[sonaro]\n  One = 1 \n\n; x\nPath=C:\\Users\\me\nOne=2");
@@ -132,8 +132,8 @@ TEST_F(SettingsRegistryTest, ADamagedFileIsKeptAndWhatItLacksComesFromTheStartBe
     EXPECT_EQ(settings.TakeFault(), SettingsFault::FileDamaged);
     EXPECT_EQ(settings.TakeFault(), SettingsFault::None);
     EXPECT_EQ(files_.Get(std::string(kFile) + ".bad"), bytes);
-    EXPECT_EQ(settings.ReadValue(kMachine, kSettingsKey, "Cut"), "cut");
-    EXPECT_TRUE(settings.WriteValue(kMachine, kSettingsKey, "New", ValueType::Text, "new"));
+    EXPECT_EQ(settings.ReadValue(kLocalMachine, kSettingsKey, "Cut"), "cut");
+    EXPECT_TRUE(settings.WriteValue(kLocalMachine, kSettingsKey, "New", ValueType::Text, "new"));
     EXPECT_TRUE(files_.Get(kFile)->ends_with("; end of the settings\r\n"));
   }
   // A new package unpacked over the folder brings an empty file.
@@ -184,10 +184,10 @@ TEST_F(SettingsRegistryTest, ABatchIsOneSaveAndACrashLeavesTheOldOrTheNewSetting
   };
   const int operations = ForEachCrashPoint(prepare, scenario, [this](FakeFiles& files, const CrashPoint&) {
     SettingsRegistry settings(system_, files, kFile);
-    const auto a = settings.ReadValue(kMachine, kSettingsKey, "A");
+    const auto a = settings.ReadValue(kLocalMachine, kSettingsKey, "A");
     EXPECT_TRUE(a == "old" || a == "new");
-    EXPECT_EQ(settings.ReadValue(kMachine, kSettingsKey, "B"), a);
-    EXPECT_EQ(settings.ReadValue(kMachine, kSettingsKey, "V99").has_value(), a == "new");
+    EXPECT_EQ(settings.ReadValue(kLocalMachine, kSettingsKey, "B"), a);
+    EXPECT_EQ(settings.ReadValue(kLocalMachine, kSettingsKey, "V99").has_value(), a == "new");
     EXPECT_NE(settings.TakeFault(), SettingsFault::FileDamaged);
   });
   EXPECT_GE(operations, 8);

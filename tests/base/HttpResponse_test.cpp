@@ -11,7 +11,7 @@ namespace {
 
 using State = HttpResponse::State;
 
-struct Case {
+struct ResponseCase {
   const char* what;
   std::string bytes;
   State state;
@@ -20,8 +20,8 @@ struct Case {
   std::string body;
 };
 
-const std::vector<Case>& Cases() {
-  static const std::vector<Case> kCases = {
+const std::vector<ResponseCase>& Cases() {
+  static const std::vector<ResponseCase> kCases = {
       {"length", "HTTP/1.0 200 OK\r\nContent-Length: 5\r\n\r\nhello", State::Complete, {}, "200", "hello"},
       {"more than announced",
        "HTTP/1.1 200 OK\r\nContent-Length: 2\r\n\r\nhello",
@@ -89,7 +89,7 @@ const std::vector<Case>& Cases() {
   return kCases;
 }
 
-void Check(const Case& expected, const HttpResponse& got) {
+void Check(const ResponseCase& expected, const HttpResponse& got) {
   EXPECT_EQ(got.Current(), expected.state);
   EXPECT_EQ(got.Fault(), expected.fault);
   if (expected.state == State::Failed) return;
@@ -98,7 +98,7 @@ void Check(const Case& expected, const HttpResponse& got) {
 }
 
 TEST(HttpResponse, ReadsTheSameWhereverTheBytesAreSplit) {
-  for (const Case& each : Cases()) {
+  for (const ResponseCase& each : Cases()) {
     for (std::size_t at = 0; at <= each.bytes.size(); ++at) {
       SCOPED_TRACE(std::string(each.what) + " split at " + std::to_string(at));
       HttpResponse response;

@@ -10,7 +10,7 @@
 namespace sonaro {
 namespace {
 
-constexpr const char* kList = "/data/station.snr";
+constexpr const char* kListFile = "/data/station.snr";
 constexpr const char* kData = "/data/statorg.isd";
 constexpr const char* kIndex = "/data/statorg.ism";
 
@@ -19,7 +19,7 @@ class StationCare : public testing::Test {
   StationCare() { Install("1\tOld\n"); }
   void Install(const std::string& list) {
     files_ = FakeFiles();
-    files_.Put(kList, list);
+    files_.Put(kListFile, list);
     ASSERT_TRUE(StatList(data_).RebuildStationTable());
   }
   std::string Name() { return StatList(data_).FindStation(1)[StationField::Name]; }
@@ -36,8 +36,8 @@ TEST_F(StationCare, EverySituationHasOneAnswer) {
     const char* name;  // of station 1 afterwards
   } cases[] = {
       {"nothing", [] {}, TableCare::Sound, "Old"},
-      {"a list of another length", [&] { files_.Put(kList, "1\tNewer\n"); }, TableCare::Made, "Newer"},
-      {"a list of the same length", [&] { files_.Put(kList, "1\tNew\n"); }, TableCare::Made, "New"},
+      {"a list of another length", [&] { files_.Put(kListFile, "1\tNewer\n"); }, TableCare::Made, "Newer"},
+      {"a list of the same length", [&] { files_.Put(kListFile, "1\tNew\n"); }, TableCare::Made, "New"},
       {"no table", [&] { files_.Remove(kData), files_.Remove(kIndex); }, TableCare::Made, "Old"},
       {"half a table", [&] { files_.Remove(kIndex); }, TableCare::Made, "Old"},
       {"a damaged table", [&] { files_.Put(kData, "x"); }, TableCare::Made, "Old"},
@@ -49,18 +49,18 @@ TEST_F(StationCare, EverySituationHasOneAnswer) {
          stations.CloseStationTable(handle);
        },
        TableCare::Made, "Old"},
-      {"no list", [&] { files_.Remove(kList); }, TableCare::Sound, "Old"},
-      {"a list without a station", [&] { files_.Put(kList, "\0\0\0\n"); }, TableCare::Sound, "Old"},
-      {"a list in use", [&] { files_.Lock(kList); }, TableCare::Sound, "Old"},
-      {"a list in use and no table", [&] { files_.Remove(kData), files_.Lock(kList); }, TableCare::NotMade,
-       ""},
-      {"a list in use and a damaged table", [&] { files_.Put(kData, "x"), files_.Lock(kList); },
+      {"no list", [&] { files_.Remove(kListFile); }, TableCare::Sound, "Old"},
+      {"a list without a station", [&] { files_.Put(kListFile, "\0\0\0\n"); }, TableCare::Sound, "Old"},
+      {"a list in use", [&] { files_.Lock(kListFile); }, TableCare::Sound, "Old"},
+      {"a list in use and no table", [&] { files_.Remove(kData), files_.Lock(kListFile); },
        TableCare::NotMade, ""},
-      {"a full disk", [&] { files_.Put(kList, "1\tNew\n"), files_.SetSpaceLeft(9); }, TableCare::NotMade,
+      {"a list in use and a damaged table", [&] { files_.Put(kData, "x"), files_.Lock(kListFile); },
+       TableCare::NotMade, ""},
+      {"a full disk", [&] { files_.Put(kListFile, "1\tNew\n"), files_.SetSpaceLeft(9); }, TableCare::NotMade,
        "Old"},
-      {"a damaged table and no list", [&] { files_.Put(kData, "x"), files_.Remove(kList); },
+      {"a damaged table and no list", [&] { files_.Put(kData, "x"), files_.Remove(kListFile); },
        TableCare::NoDirectory, ""},
-      {"a table of an empty list", [&] { files_.Put(kList, ""), StatList(data_).RebuildStationTable(); },
+      {"a table of an empty list", [&] { files_.Put(kListFile, ""), StatList(data_).RebuildStationTable(); },
        TableCare::NoDirectory, ""},
   };
   for (const auto& c : cases) {
@@ -90,9 +90,9 @@ TEST_F(StationCare, ReadsNoMoreThanItMust) {
   };
   const std::uint64_t table = files_.Get(kData)->size() + files_.Get(kIndex)->size();
   EXPECT_LE(readBy(TableCare::Sound), list.size() + table + kHeaders);
-  files_.Put(kList, list + "4000\tNew\n");
+  files_.Put(kListFile, list + "4000\tNew\n");
   EXPECT_LE(readBy(TableCare::Made), kFirstPiece + list.size() + kHeaders);
-  files_.Put(kList, list + "4000\tOld\n");
+  files_.Put(kListFile, list + "4000\tOld\n");
   EXPECT_LE(readBy(TableCare::Made), kFirstPiece + 2 * list.size() + kHeaders);
 }
 
