@@ -26,7 +26,7 @@ std::optional<std::string> TextIn(std::string_view bytes) {
 
 // The bytes that TextIn makes `text` of: one that begins as a mark does, as a pasted name can, stands behind
 // another mark.
-std::string BytesOf(std::string_view text) {
+std::string FileBytesOf(std::string_view text) {
   for (const std::string_view mark : {kMarkOfUtf8, kMarkOfUtf16Little, kMarkOfUtf16Big}) {
     if (text.starts_with(mark)) return std::string(kMarkOfUtf8).append(text);
   }
@@ -63,7 +63,7 @@ bool UserFile::TakeOver(std::string bytes) {
 }
 
 bool UserFile::Save(std::string_view text) {
-  std::string bytes = BytesOf(text);
+  std::string bytes = FileBytesOf(text);
   if (unread_ || !data_.Save(name_, bytes)) return false;
   bytes_ = std::move(bytes);
   text_ = text;
