@@ -62,4 +62,6 @@ void CReg::SetSetting(const std::string& valueName, std::string_view data) {
   registry_.WriteValue(RootKey::LocalMachine, kSettingsKey, valueName, ValueType::Text, data);
 }
 
+void CReg::FlushSettings() { registry_.Flush(RootKey::LocalMachine, kSettingsKey); }
+
 }  // namespace sonaro

@@ -42,6 +42,9 @@ class CReg {
   // The program's own settings: the above on kSettingsKey under HKEY_LOCAL_MACHINE, whatever MainKey is.
   std::string Setting(const std::string& valueName) const;
   void SetSetting(const std::string& valueName, std::string_view data);
+  // Brings the program's own settings to the disk. For whoever changes files after settings, or settings
+  // after files, and must not find them the other way round after a power cut. Not within a SettingsBatch.
+  void FlushSettings();
 
  private:
   friend class SettingsBatch;

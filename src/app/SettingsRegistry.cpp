@@ -107,6 +107,12 @@ bool SettingsRegistry::RemoveValue(RootKey root, const std::string& key, const s
   return !file_ && system_.RemoveValue(Home(root, key), key, name);
 }
 
+// Every save of the file is on the disk when it returns.
+bool SettingsRegistry::Flush(RootKey root, const std::string& key) {
+  if (const auto own = InFile(root, key)) return file_->HasKey(*own);
+  return system_.Flush(Home(root, key), key);
+}
+
 void SettingsRegistry::BeginWrites() {
   if (file_) file_->Begin();
 }

@@ -68,6 +68,7 @@ InstallStatus UpdateInstall::Install(const UpdateContents& contents, int code) {
   held.Add(NamesOf(contents));
   StoreValues(contents, HasStationList(earlier));
   reg_.SetSetting(setting::kUpdateHold, held.Text());
+  reg_.FlushSettings();
   if (code == kHoldFiles) return InstallStatus::Done;
   return PutInPlace(contents, earlier, code == kInstallAndRebuild);
 }
@@ -227,6 +228,7 @@ UndoStatus UpdateInstall::Restore() {
   }
   RestoreSettings(*previous);
   if (!RestoreFiles(*previous)) return UndoStatus::Waits;
+  reg_.FlushSettings();
   data_.Remove(kUndoing);
   return UndoStatus::Done;
 }

@@ -38,6 +38,10 @@ class Registry {
   // The names of all values of a key; the default value's is "". Empty when the key may not be read.
   virtual std::vector<std::string> ValueNames(RootKey root, const std::string& key) = 0;
   virtual bool RemoveValue(RootKey root, const std::string& key, const std::string& name) = 0;
+  // Brings what was written to the key, and below it, to the disk: until then a power cut can take the last
+  // writes back, and a file that was made after them is ahead of them. Slow. False when the key is missing.
+  // Not between the brackets.
+  virtual bool Flush(RootKey root, const std::string& key) = 0;
   // Brackets around many writes, which may be nested: where values are kept in a file it is saved once, at
   // the outer end.
   virtual void BeginWrites() {}

@@ -199,36 +199,35 @@ TEST_F(StartServicesTest, TheCopiesOfADeadUpdateAreRemoved) {
 // was made from the new list.
 TEST(DeferredSwapCrash, TheNextStartFinishesIt) {
   std::vector<std::string> rebuiltFrom;
-  const auto run = [&](FakeFiles& files, CReg& reg) {
+  std::optional<FakeRegistry> registry;
+  const auto run = [&](FakeFiles& files) {
     DataFolder data(files, "/d", '/');
+    CReg reg(*registry);
     RunDeferredSwap(data, reg, [&] {
       if (!files.Crashed()) rebuiltFrom.push_back(files.Get("/d/Station.snr").value_or("(none)"));
       return !files.Crashed();
     });
   };
-  FakeRegistry registry;
-  CReg reg(registry);
-  registry.CreateKey(RootKey::LocalMachine, kSettingsKey);
   const int operations = ForEachCrashPoint(
       [&](FakeFiles& files) {
         files.Put("/d/Station.snr", "old");
         files.Put("/d/cat.snr", "old");
         files.Put("/d/tStation.snr", "new");
         files.Put("/d/tcat.snr", "new");
-        reg.SetSetting("UpdateHold", "cat.snr\tStation.snr\t");
+        registry.emplace(files.Journal());
+        registry->Put(RootKey::LocalMachine, kSettingsKey, "UpdateHold", "cat.snr\tStation.snr\t");
+        registry->Put(RootKey::LocalMachine, kSettingsKey, "UpdateHoldDate", "9/1/2000");
         rebuiltFrom.clear();
       },
-      [&](FakeFiles& files) {
-        run(files, reg);
-        // A process that is dead writes no settings.
-        if (files.Crashed()) reg.SetSetting("UpdateHold", "cat.snr\tStation.snr\t");
-      },
+      [&](FakeFiles& files) { run(files); },
       [&](FakeFiles& files, const CrashPoint& point) {
         for (const char* name : {"/d/Station.snr", "/d/cat.snr"}) {
           const std::string now = files.Get(name).value_or("(none)");
           EXPECT_TRUE(now == "old" || now == "new") << name << " " << point.operation;
         }
-        run(files, reg);
+        run(files);
+        EXPECT_EQ(CReg(*registry).Setting("LastUpdate"), "9/1/2000") << point.operation;
+        EXPECT_EQ(CReg(*registry).Setting("UpdateHold"), "") << point.operation;
         EXPECT_EQ(files.Get("/d/Station.snr"), "new") << point.operation;
         EXPECT_EQ(files.Get("/d/cat.snr"), "new") << point.operation;
         ASSERT_FALSE(rebuiltFrom.empty());

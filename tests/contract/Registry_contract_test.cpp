@@ -64,6 +64,7 @@ TYPED_TEST(RegistryContract, NothingIsThereAndNothingIsMadeByLooking) {
   EXPECT_FALSE(this->Read("Value"));
   EXPECT_FALSE(this->Write("Value", "x"));
   EXPECT_FALSE(this->Reg().RemoveValue(this->kRoot, this->TestKey(), "Value"));
+  EXPECT_FALSE(this->Reg().Flush(this->kRoot, this->TestKey()));
   EXPECT_FALSE(this->Reg().KeyExists(this->kRoot, this->TestKey()));
 }
 
@@ -83,6 +84,7 @@ TYPED_TEST(RegistryContract, StoresExactlyTheBytes) {
                                "\u00E9\u96FB", "a\tb\r\n", std::string(10000, 'x')};
   for (const std::string& text : texts) {
     EXPECT_TRUE(this->Write("Text", text));
+    EXPECT_TRUE(this->Reg().Flush(this->kRoot, this->TestKey()));
     EXPECT_EQ(this->Read("Text"), text) << text.size() << " bytes";
   }
   const std::string binary("\0\x01\xFF\0", 4);

@@ -230,39 +230,4 @@ void FakeFiles::UndoReplacements() {
   }
 }
 
-namespace {
-
-int crashPointsTried = 0;
-
-}  // namespace
-
-int CrashPointsTried() { return crashPointsTried; }
-
-int ForEachCrashPoint(const std::function<void(FakeFiles&)>& prepare,
-                      const std::function<void(FakeFiles&)>& scenario,
-                      const std::function<void(FakeFiles&, const CrashPoint&)>& check) {
-  bool completed = false;
-  int operation = 0;
-  while (!completed) {
-    ++operation;
-    bool settingsChanged = true;
-    for (const AfterCrash survival :
-         {AfterCrash::KeepsAll, AfterCrash::LosesUnflushed, AfterCrash::TearsUnflushed,
-          AfterCrash::LosesLastSetting, AfterCrash::LosesSettings, AfterCrash::LosesUnflushedAndSettings}) {
-      if (survival >= AfterCrash::LosesLastSetting && !settingsChanged) break;
-      FakeFiles files;
-      prepare(files);
-      files.Settle();
-      files.CrashAt(operation);
-      scenario(files);
-      completed = !files.Crashed();
-      settingsChanged = files.Journal().HasUnsettled();
-      files.Restart(survival);
-      ++crashPointsTried;
-      check(files, {operation, survival, completed});
-    }
-  }
-  return operation - 1;
-}
-
 }  // namespace sonaro

@@ -1,6 +1,6 @@
 // A registry in memory. Names ignore letter case, as the real one does. Made with a journal, it dies with the
-// files of that journal: writing and removing a value are operations that a crash can hit, and a power cut
-// can undo them afterwards. A key that is made stays.
+// files of that journal: writing, removing and flushing are operations that a crash can hit, and a power cut
+// can undo afterwards what was not flushed. A key that is made stays.
 #pragma once
 
 #include <map>
@@ -82,6 +82,13 @@ class FakeRegistry : public Registry {
   bool RemoveValue(RootKey root, const std::string& key, const std::string& name) override {
     if (Denied(root) || !Stored(root, key, name) || !Begins("unset ", root, key, name)) return false;
     return values_[Id(root, key)].erase(FoldCase(name)) == 1;
+  }
+  bool Flush(RootKey root, const std::string& key) override {
+    if (!keys_.contains(Id(root, key))) return false;
+    if (!journal_) return true;
+    if (journal_->Begin("flush " + key) != CrashJournal::Step::Runs) return false;
+    journal_->Settle();
+    return true;
   }
 
  private:

@@ -39,19 +39,6 @@ inline const std::string kUpdate =
     Complete("version::7 \r\n::HelpURL::http://help.example/new::\r\n" + Section("Station.snr", kNewList) +
              Section("fun.snr", "a new line\r\n") + "date::9/1/2000::\r\n");
 
-// Whatever dies with the machine also stops writing settings.
-class MortalRegistry : public FakeRegistry {
- public:
-  explicit MortalRegistry(const FakeFiles& files) : files_(files) {}
-  bool WriteValue(RootKey root, const std::string& key, const std::string& name, ValueType type,
-                  std::string_view bytes) override {
-    return !files_.Crashed() && FakeRegistry::WriteValue(root, key, name, type, bytes);
-  }
-
- private:
-  const FakeFiles& files_;
-};
-
 inline void PrepareDirectory(FakeFiles& files) {
   files.Put("/d/Station.snr", kOldList);
   files.Put("/d/fun.snr", "an old line\r\n");
@@ -62,14 +49,14 @@ inline void PrepareDirectory(FakeFiles& files) {
 
 // The program's parts over files that a test brings.
 struct Machine {
-  explicit Machine(FakeFiles& onDisk) : files(onDisk), registry(files) {
+  explicit Machine(FakeFiles& onDisk) : files(onDisk), registry(files.Journal()) {
     reg.CheckKeyIsThere(kSettingsKey);
     reg.SetSetting(setting::kInstallId, "id 1");
     reg.SetSetting(setting::kLastUpdate, "8/1/2000");
   }
 
   FakeFiles& files;
-  MortalRegistry registry;
+  FakeRegistry registry;
   CReg reg{registry};
   DataFolder data{files, "/d", '/'};
   StatList stations{data};

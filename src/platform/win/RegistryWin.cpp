@@ -85,4 +85,9 @@ bool RegistryWin::RemoveValue(RootKey root, const std::string& key, const std::s
   return opened && RegDeleteValueA(opened.Get(), name.c_str()) == ERROR_SUCCESS;
 }
 
+bool RegistryWin::Flush(RootKey root, const std::string& key) {
+  const RegistryKey opened = OpenKey(root, key, KEY_QUERY_VALUE);
+  return opened && RegFlushKey(opened.Get()) == ERROR_SUCCESS;
+}
+
 }  // namespace sonaro

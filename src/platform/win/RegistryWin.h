@@ -16,6 +16,7 @@ class RegistryWin : public Registry {
                   std::string_view bytes) override;
   std::vector<std::string> ValueNames(RootKey root, const std::string& key) override;
   bool RemoveValue(RootKey root, const std::string& key, const std::string& name) override;
+  bool Flush(RootKey root, const std::string& key) override;
 };
 
 }  // namespace sonaro
