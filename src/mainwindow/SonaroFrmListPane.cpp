@@ -57,8 +57,8 @@ void ListPane::ShowEmptyText() {
       help = IDS_EMPTY_CHOOSE_HELP;
       break;
     case Holds::Group:
-      heading = IDS_EMPTY_GROUP;
-      help = IDS_EMPTY_GROUP_HELP;
+      heading = listing_.State().missing.empty() ? IDS_EMPTY_GROUP : IDS_EMPTY_MISSING;
+      help = listing_.State().missing.empty() ? IDS_EMPTY_GROUP_HELP : IDS_EMPTY_MISSING_HELP;
       break;
     case Holds::Recent:
       heading = IDS_EMPTY_RECENT;

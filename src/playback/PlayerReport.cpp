@@ -19,11 +19,11 @@ std::string PlayerReporter::Figure(std::size_t figure) const {
   return FigureText(figure, state_.decimalMode);
 }
 
-// A kind of link that no station has is told of only when something plays it.
+// A kind of link that no station has is not worth a line.
 PlayerReport::Line PlayerReporter::OfKind(std::size_t stations, const std::string& program, int plays,
                                           int missing) const {
-  if (!program.empty()) return {FillIn(strings_.Load(plays), {Figure(stations), FileNameOf(program)})};
   if (stations == 0) return {};
+  if (!program.empty()) return {FillIn(strings_.Load(plays), {Figure(stations), FileNameOf(program)})};
   return {FillIn(strings_.Load(missing), {Figure(stations)}), true};
 }
 

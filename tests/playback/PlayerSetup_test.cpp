@@ -127,6 +127,7 @@ TEST_F(PlayerSetupTest, TheReportAlarmsOnlyWhereNothingPlays) {
                                                    std::to_string(IDS_PLAYERS_WEB)}));
   InstallRealPlayer();
   EXPECT_EQ(reporter_.Report({3, 2, 1}, "").plays, Plays::Everything);
+  EXPECT_EQ(Lines(reporter_.Report({3, 0, 0}, "")), (std::vector<std::string>{asx, "", ""}));
   shell.programs.clear();
   EXPECT_EQ(Lines(reporter_.Report({3, 2, 0}, "")),
             (std::vector<std::string>{missing + std::to_string(IDS_PLAYERS_ASX_NONE_MOST), real, ""}));
