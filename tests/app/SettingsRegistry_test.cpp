@@ -50,6 +50,7 @@ TEST_F(SettingsRegistryTest, TheOwnKeyLivesWhereItCanBeWritten) {
     system.deniedRoots = c.denied;
     SettingsRegistry settings(system, files_, kFile);
     EXPECT_EQ(settings.Place(), c.place);
+    EXPECT_EQ(settings.Flush(kLocalMachine, kSettingsKey), c.denied.size() < 2);
     CReg reg(settings);
     reg.SetData("software\\ZUMO\\sonaro", "Name", "text");
     reg.CheckKeyIsThere(kAdsKey);

@@ -111,6 +111,20 @@ TEST_F(UpdateInstallTest, UndoBringsBackAllThatTheUpdateChanged) {
   EXPECT_EQ(Differences(Guide(*machine_), before), "");
 }
 
+TEST_F(UpdateInstallTest, AListOfWhichNoTableCanBeMadeDoesNotStay) {
+  const auto before = Guide(*machine_);
+  std::unique_ptr<InputFile> inUse = files_.Open("/d/statorg.isd");
+  EXPECT_EQ(Take(*machine_, kWhole), InstallStatus::NotRebuilt);
+  EXPECT_EQ(Differences(Guide(*machine_), before), "");
+  inUse.reset();
+  EXPECT_EQ(Take(*machine_, kWhole), InstallStatus::Done);
+  inUse = files_.Open("/d/statorg.isd");
+  EXPECT_EQ(machine_->install.UndoLastUpdate(), UndoStatus::Waits);
+  inUse.reset();
+  StartAgain(*machine_);
+  EXPECT_EQ(Differences(Guide(*machine_), before), "");
+}
+
 // As a whole: nothing of such an update stays, and what the one before replaced is still kept.
 TEST_F(UpdateInstallTest, RefusesWhatDoesNotFit) {
   files_.Put("/d/trap.snr", "a list of its own\r\n");
