@@ -43,7 +43,6 @@ void AddSeparator(MenuEntries& menu) {
 MenuEntry Submenu(std::string caption, MenuEntries children) {
   MenuEntry entry;
   entry.text = std::move(caption);
-  entry.enabled = !children.empty();
   entry.children = std::move(children);
   return entry;
 }
@@ -131,7 +130,8 @@ void StationActions::AddPlayEntries(const StationDetail& detail, MenuEntries& me
 
 void StationActions::AddGroupEntries(const StationDetail& detail, MenuEntries& menu) const {
   menu.push_back(StationEntry(mnuActionStationToFavList, IDS_ACTION_ADD_TO_GROUP, detail));
-  menu.push_back(Submenu(strings_.Load(IDS_ACTION_ADD_TO), GroupChoices(detail)));
+  // A submenu without entries would be a line.
+  if (groups_.Count() > 0) menu.push_back(Submenu(strings_.Load(IDS_ACTION_ADD_TO), GroupChoices(detail)));
   const bool groupShown = listing_.State().holds == Holds::Group;
   menu.push_back(StationEntry(mnuActionRemoveFromFavList, IDS_ACTION_REMOVE_FROM_GROUP, detail));
   menu.back().enabled = groupShown && detail.station;

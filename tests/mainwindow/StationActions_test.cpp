@@ -1,5 +1,6 @@
 #include "mainwindow/StationActions.h"
 
+#include <algorithm>
 #include <map>
 
 #include "app/AppState.h"
@@ -48,6 +49,17 @@ TEST_F(StationActionsTest, CaptionsFollowTheSelectedStation) {
   EXPECT_EQ(Entry(mnuActionSchedule).text, Text(IDS_ACTION_SCHEDULE, "Rock && Roll", "Jazz"));
   EXPECT_TRUE(Entry(mnuPersonalDelete).enabled);
   EXPECT_EQ(Entry(mnuActionExtraLink).command, -1) << "a station of one's own has no extra links";
+}
+
+TEST_F(StationActionsTest, WithoutGroupsNoLineStandsInThePlaceOfTheirList) {
+  const auto lines = [&] {
+    const MenuEntries entries = actions.ActionMenu(Detail());
+    return std::count_if(entries.begin(), entries.end(), IsSeparator);
+  };
+  listing.ShowSearch("rock", true);
+  const auto before = lines();
+  while (groups.Count() > 0) EXPECT_EQ(groups.Remove(0), FavoriteChange::Saved);
+  EXPECT_EQ(lines(), before);
 }
 
 TEST_F(StationActionsTest, WithoutAStationTheEntriesAreForAnyStationAndDisabled) {
