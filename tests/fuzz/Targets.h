@@ -27,6 +27,7 @@ void FuzzSchedule(std::string_view input);
 void FuzzPersonalStations(std::string_view input);
 void FuzzExtraLinks(std::string_view input);
 void FuzzGroups(std::string_view input);
+void FuzzSettings(std::string_view input);
 void FuzzCategories(std::string_view input);
 void FuzzOutlines(std::string_view input);
 void FuzzToolReaders(std::string_view input);
@@ -44,6 +45,7 @@ inline constexpr FuzzTarget kFuzzTargets[] = {{"http_response", FuzzHttpResponse
                                               {"personal_stations", FuzzPersonalStations},
                                               {"extra_links", FuzzExtraLinks},
                                               {"groups", FuzzGroups},
+                                              {"settings", FuzzSettings},
                                               {"categories", FuzzCategories},
                                               {"outlines", FuzzOutlines},
                                               {"tool_readers", FuzzToolReaders}};

@@ -3,6 +3,7 @@
 #include <string>
 #include <vector>
 
+#include "app/IniSettings.h"
 #include "base/DataFolder.h"
 #include "base/Text.h"
 #include "faceplate/Shape.h"
@@ -66,6 +67,25 @@ void CheckCalendar(const std::string& calendar) {
     }
   }
   Require(open.empty(), "what was begun ends");
+}
+
+// Checks that all of the tree can be reached and shown.
+void CheckTree(DataFolder& data, BrowseMode mode) {
+  BrowseTree tree(data);
+  tree.FillBrowseTree(mode);
+  std::vector<int> waiting(tree.Roots().begin(), tree.Roots().end());
+  std::size_t reached = 0;
+  while (!waiting.empty()) {
+    const int at = waiting.back();
+    waiting.pop_back();
+    ++reached;
+    Require(tree.Node(at).level <= BrowseNode::kLowestLevel, "as deep as a window can show");
+    for (const int child : tree.Node(at).children) {
+      Require(tree.Node(child).parent == at && child > at, "a child knows its parent, which came before it");
+      waiting.push_back(child);
+    }
+  }
+  Require(reached == tree.NodeCount(), "every node is reached once");
 }
 
 }  // namespace
@@ -152,27 +172,31 @@ void FuzzGroups(std::string_view input) {
   }
 }
 
-// A category file and, after a zero, the entries of the category whose file is "jazz.snr".
+// The settings of a portable folder: any text can be stored, and a restart finds all values as they were.
+void FuzzSettings(std::string_view input) {
+  OneFile file("portable.ini", input);
+  const std::string path = "/d/portable.ini";
+  IniSettings settings(file.System(), path);
+  Require(settings.AddKey("Sonaro") && settings.Write("Sonaro", input.substr(0, 20), input), "saved");
+  IniSettings again(file.System(), path);
+  Require(again.State() == IniSettings::Condition::Whole, "what was saved is whole");
+  const std::vector<std::string> names = settings.Names("Sonaro");
+  Require(again.Names("Sonaro") == names, "the same names");
+  for (const std::string& name : names)
+    Require(again.Read("Sonaro", name) == settings.Read("Sonaro", name), "the same value");
+  Require(again.Read("Sonaro", input.substr(0, 20)) == input, "the new value");
+}
+
+// A category file, which stands for that of the locations as well, and after a zero the entries of the
+// category whose file is "jazz.snr".
 void FuzzCategories(std::string_view input) {
   const std::string_view categories = TakeUntil(input, '\0');
   OneFile file("cat.snr", categories);
+  file.System().Put("/d/catloc.snr", categories);
   file.System().Put("/d/jazz.snr", input);
   DataFolder data = file.Open();
-  BrowseTree tree(data);
-  tree.FillBrowseTree(BrowseMode::ByCategory);
-  std::vector<int> waiting(tree.Roots().begin(), tree.Roots().end());
-  std::size_t reached = 0;
-  while (!waiting.empty()) {
-    const int at = waiting.back();
-    waiting.pop_back();
-    ++reached;
-    Require(tree.Node(at).level <= BrowseNode::kLowestLevel, "as deep as a window can show");
-    for (const int child : tree.Node(at).children) {
-      Require(tree.Node(child).parent == at && child > at, "a child knows its parent, which came before it");
-      waiting.push_back(child);
-    }
-  }
-  Require(reached == tree.NodeCount(), "every node is reached once");
+  CheckTree(data, BrowseMode::ByCategory);
+  CheckTree(data, BrowseMode::ByLocation);
 }
 
 // The faceplate's point file.
