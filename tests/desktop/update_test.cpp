@@ -39,7 +39,7 @@ TEST_F(UpdateTest, F5BringsANewDirectoryAndItCanBeUndone) {
 
   EXPECT_EQ(TextOf(Control(dialog, butMsg)), "&Undo Last Update");
   Click(Control(dialog, butMsg));
-  EXPECT_TRUE(Says(dialog, "The guide of before the last update is back."));
+  EXPECT_TRUE(Says(dialog, "The last update was undone."));
   ExpectTheOldDirectory();
   EXPECT_TRUE(GroupLists(main, {"Jazz Radio Classic Jazz", "B5 aktuell"}));
   Click(Control(dialog, butMsg + 1));
@@ -61,7 +61,7 @@ TEST_F(UpdateTest, OfflineTheMenuOffersToUndoTheLastUpdate) {
   ExpectTheNewDirectory();
   SaveShot("offer");
   Click(Control(dialog, butMsg));
-  EXPECT_TRUE(Says(dialog, "The guide of before the last update is back."));
+  EXPECT_TRUE(Says(dialog, "The last update was undone."));
   EXPECT_FALSE(IsShown(Control(dialog, butMsg)));
   ExpectTheOldDirectory();
 }
@@ -149,7 +149,7 @@ TEST_F(UpdateTest, AnUpdateThatDidNotComeThroughChangesNothing) {
   ASSERT_NE(dialog, nullptr);
   ASSERT_TRUE(Says(dialog, "Finished"));
   Click(Control(dialog, butMsg));  // undo
-  ASSERT_TRUE(Says(dialog, "is back"));
+  ASSERT_TRUE(Says(dialog, "was undone"));
   CloseWindowOf(dialog);
   ASSERT_TRUE(WaitUntil([&] { return !IsShown(dialog); }));
   for (const auto& each : kCases) {
