@@ -80,10 +80,6 @@ class UpdateExchange final : private HttpEvents {
   // Ends the exchange at once, without installing anything.
   void Cancel();
 
-  // "0" first request, "11" the update file, "100" after a failure of the connection.
-  const std::string& RequestMode() const { return mode_; }
-  int CallerCode() const { return callerCode_; }
-
  private:
   void HTTPDataReceived(std::string_view body) override;
   void HTTPDataTransferred(std::uint64_t bytes, std::uint64_t expected) override;

@@ -219,7 +219,6 @@ void ScheduleTimer::ForgetAhead(const DateTime& now, const DateTime& gmt) {
 }
 
 void ScheduleTimer::Fire(std::size_t slot) {
-  firedItem_ = static_cast<int>(slot);
   messages_.PostTo(kTrayCaption, kDueMessage, slot, static_cast<std::intptr_t>(slot));
 }
 

@@ -80,8 +80,6 @@ class ScheduleTimer {
 
   const std::array<int, kDuePlaces>& DueList() const { return due_; }
   std::size_t DueCount() const { return dueCount_; }
-  int FiredItem() const { return firedItem_; }
-  int TickCounter() const { return tickCounter_; }
 
  private:
   void Tick();
@@ -113,7 +111,6 @@ class ScheduleTimer {
   std::size_t dueCount_ = 0;
   bool dueOverflowed_ = false;  // more items qualified than there are places
   int tickCounter_ = 0;
-  int firedItem_ = 0;
   std::string command_;
 
   DateTime lastTick_;
