@@ -79,7 +79,6 @@ class Application final : private StartupView, private LaunchView {
   void SayWhatSettingsLack();
   std::vector<std::string> GroupNames() const;
   void ShowScan();
-  void AddScannedStation(const std::string& groupName, const std::string& token);
   void LoadUnreadFiles();
   void TellOfFiles();
   void ShowOptions(HWND owner);

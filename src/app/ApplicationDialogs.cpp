@@ -66,21 +66,14 @@ bool Application::OfferPlayers(const std::string& sentence) {
 
 void Application::ShowScan() {
   if (!scanWindow_) {
-    scanWindow_ = std::make_unique<frmScan>(
-        context_, scan_, help_,
-        frmScan::Groups{
-            [this] { return GroupNames(); },
-            [this](const std::string& name, const std::string& token) { AddScannedStation(name, token); }});
+    scanWindow_ =
+        std::make_unique<frmScan>(context_, scan_, help_,
+                                  frmScan::Groups{[this] { return GroupNames(); },
+                                                  [this](const std::string& name, const std::string& token) {
+                                                    main_->AddStationToGroup(name, token);
+                                                  }});
   }
   scanWindow_->Show();
-}
-
-void Application::AddScannedStation(const std::string& groupName, const std::string& token) {
-  const auto group = favorites_.Find(groupName);
-  if (!group) return;
-  const bool saved = favorites_.AddStation(*group, token) != FavoriteChange::NotSaved;
-  main_->GroupsChanged();
-  SavedOrSaid(saved, strings_.Load(IDS_FILE_GROUPS), messages_, strings_);
 }
 
 void Application::ShowOptions(HWND owner) {

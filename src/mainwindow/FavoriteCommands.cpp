@@ -84,7 +84,12 @@ void FavoriteCommands::MoveFavoriteGroup(std::size_t from, std::size_t to) {
 
 void FavoriteCommands::AddStationToGroup(std::string_view groupName, std::string_view token) {
   const auto group = groups_.Find(groupName);
-  if (group && Changed(groups_.AddStation(*group, token))) listing_.GroupsChanged();
+  if (!group) return;
+  const std::string name(groups_.Name(*group));
+  if (groups_.Contains(*group, token)) return prompts_.SayDone(IDS_GROUP_HAS_IT, token, name);
+  if (!Changed(groups_.AddStation(*group, token))) return;
+  listing_.GroupsChanged();
+  prompts_.SayDone(IDS_GROUP_ADDED_TO, token, name);
 }
 
 void FavoriteCommands::AddStationToGroupOrNew(std::string_view groupName, std::string_view token) {
@@ -92,6 +97,7 @@ void FavoriteCommands::AddStationToGroupOrNew(std::string_view groupName, std::s
   if (name.empty() || groups_.Find(name)) return AddStationToGroup(name, token);
   if (RefuseEleventh() || !Changed(groups_.Add(name, token))) return;
   prompts_.TellTray("AddNewFavGroup\t" + name);
+  prompts_.SayDone(IDS_GROUP_ADDED_TO, token, name);
 }
 
 void FavoriteCommands::TakeOutMissing() {
@@ -120,7 +126,11 @@ void FavoriteCommands::TakeOutMissing() {
 
 void FavoriteCommands::RemoveStation(std::string_view groupName, std::string_view token) {
   const auto group = groups_.Find(groupName);
-  if (group && Changed(groups_.RemoveStation(*group, token))) listing_.GroupsChanged();
+  if (!group) return;
+  const std::string name(groups_.Name(*group));
+  if (!Changed(groups_.RemoveStation(*group, token))) return;
+  listing_.GroupsChanged();
+  prompts_.SayDone(IDS_GROUP_REMOVED_FROM, token, name);
 }
 
 void FavoriteCommands::PlaceStation(std::string_view token, std::string_view where) {

@@ -24,6 +24,8 @@ class FavoritePrompts : public MessageBoxView {
   virtual std::string AskGroupName(const std::string& present) = 0;
   // Takes a text for the small tray menu window: "AddNewFavGroup", tab, name ...
   virtual void TellTray(const std::string& text) = 0;
+  // Says in the status line what became of a station: text `textId` with its name and the group's.
+  virtual void SayDone(int textId, std::string_view token, std::string_view group) = 0;
 };
 
 class FavoriteCommands {
@@ -37,8 +39,8 @@ class FavoriteCommands {
   void RenameFavoriteGroup(std::size_t group);
   void DeleteFavoriteGroup(std::size_t group);
   void MoveFavoriteGroup(std::size_t from, std::size_t to);
-  // Adds a station's token to the group of this name; one that the group holds already, or a name that no
-  // group has, changes nothing.
+  // Adds a station's token to the group of this name, and says so; one that the group holds already, or a
+  // name that no group has, changes nothing.
   void AddStationToGroup(std::string_view groupName, std::string_view token);
   // The same, and a name that no group has makes one with the station in it.
   void AddStationToGroupOrNew(std::string_view groupName, std::string_view token);

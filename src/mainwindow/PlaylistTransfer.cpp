@@ -139,10 +139,15 @@ ImportResult PlaylistTransfer::ImportIntoGroup(std::size_t group, const std::str
   Playlist playlist;
   ImportResult result = Read(path, playlist);
   if (result.status != ImportResult::Status::Ok || group >= groups_.Count()) return result;
+  const std::size_t ownBefore = personal_.All().size();
   const auto tokens = TokensFor(playlist.entries, result);
+  if (result.status != ImportResult::Status::Ok) return result;
   const std::size_t before = groups_.Tokens(group).size();
   if (groups_.AddStations(group, tokens) == FavoriteChange::NotSaved) {
-    result.status = ImportResult::Status::NotSaved;
+    result.added = personal_.All().size() - ownBefore;
+    const bool some = result.added > 0;
+    result.status = some ? ImportResult::Status::GroupNotSaved : ImportResult::Status::NotSaved;
+    return result;
   }
   result.added = groups_.Tokens(group).size() - before;
   result.known = tokens.size() - result.added;

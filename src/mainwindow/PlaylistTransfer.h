@@ -23,7 +23,8 @@ struct ImportResult {
     Ok,
     NotRead,       // the file could not be read
     NotAPlaylist,  // it is something else
-    NotSaved       // the stations could not be stored
+    NotSaved,      // nothing could be stored
+    GroupNotSaved  // `added` stations are among the user's own now, but not in the group
   };
   Status status = Status::Ok;
   std::size_t added = 0;
@@ -48,7 +49,7 @@ class PlaylistTransfer {
 
  private:
   PlaylistEntry EntryOf(std::string_view token) const;
-  bool Save(Playlist playlist, const std::string& path);
+  [[nodiscard]] bool Save(Playlist playlist, const std::string& path);
   ImportResult Read(const std::string& path, Playlist& playlist);
   // The tokens of the entries in their order, stations that were missing having been added to the user's own.
   std::vector<std::string> TokensFor(const std::vector<PlaylistEntry>& entries, ImportResult& result);

@@ -107,6 +107,7 @@ void SonaroFrm::ShowView(View view) {
 
 void SonaroFrm::ShowEverything() {
   const int focused = FocusedControl();
+  status_.WindowChanged();
   ShowPanes();
   const ListingState& state = models_.listing.State();
   if (state.view == View::Browse || state.view == View::BrowseLoc) browse_.Show(PersonalCount());

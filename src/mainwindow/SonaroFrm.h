@@ -45,6 +45,8 @@ class SonaroFrm final : public Form, private FavoritePrompts {
   // The progress of an update in the status line; 0 to 100, below 0 when it is not known.
   void ShowProgress(const std::string& what, int percent) { status_.ShowProgress(what, percent); }
   void EndProgress() { status_.EndProgress(); }
+  // Adds a station to a group for a window that has no groups of its own, and says so.
+  void AddStationToGroup(const std::string& groupName, const std::string& token);
   // What the tray menu asks for.
   void ShowGroupNamed(std::string_view name);
 
@@ -152,6 +154,7 @@ class SonaroFrm final : public Form, private FavoritePrompts {
   std::string AskNewGroupName() override;
   std::string AskGroupName(const std::string& present) override;
   void TellTray(const std::string& text) override;
+  void SayDone(int textId, std::string_view token, std::string_view group) override;
 
   // SonaroFrmTransfer.cpp
   void mnuFavExport_Click();

@@ -1,8 +1,10 @@
 // The handlers of the favourite groups and of the page of the user's own things.
 #include <algorithm>
 
+#include "app/Strings.h"
 #include "forms/ControlIds.h"
 #include "mainwindow/SonaroFrm.h"
+#include "playback/StationSource.h"
 
 namespace sonaro {
 
@@ -150,6 +152,11 @@ void SonaroFrm::mnuActionStationToGroup_Click(int group) {
   ShowEverything();
 }
 
+void SonaroFrm::AddStationToGroup(const std::string& groupName, const std::string& token) {
+  favorites_.AddStationToGroup(groupName, token);
+  if (IsOpen()) ShowEverything();
+}
+
 void SonaroFrm::mnuActionRemoveFromFavList_Click() {
   favorites_.RemoveStation(NameOfGroupMeant(), StationMeant().station.Token());
   ShowEverything();
@@ -227,6 +234,11 @@ std::string SonaroFrm::AskNewGroupName() {
 
 std::string SonaroFrm::AskGroupName(const std::string& present) {
   return calls_.askGroupName ? calls_.askGroupName(present) : std::string();
+}
+
+void SonaroFrm::SayDone(int textId, std::string_view token, std::string_view group) {
+  if (!IsOpen()) return;
+  status_.Say(FillIn(LoadText(textId), {data_.source.NameOf(StationKey::FromToken(token)), group}));
 }
 
 void SonaroFrm::TellTray(const std::string& text) {

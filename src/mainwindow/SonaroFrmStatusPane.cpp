@@ -17,6 +17,7 @@
 namespace sonaro {
 
 void StatusPane::ShowGuide() {
+  said_ = Said::Nothing;
   const std::size_t count = data_.stations.StationCount();
   const std::string updated = data_.settings.Setting(setting::kLastUpdate);
   int textId = IDS_STATUS_GUIDE;
@@ -24,6 +25,17 @@ void StatusPane::ShowGuide() {
   if (count == 0) textId = IDS_STATUS_NO_GUIDE;
   form_.SetText(lblStatus,
                 FillIn(form_.LoadText(textId), {FigureText(count, data_.state.decimalMode), updated}));
+}
+
+void StatusPane::Say(const std::string& sentence) {
+  form_.SetText(lblStatus, sentence);
+  said_ = Said::JustNow;
+}
+
+// The first change is the one that the sentence is about.
+void StatusPane::WindowChanged() {
+  if (said_ == Said::Before) ShowGuide();
+  if (said_ == Said::JustNow) said_ = Said::Before;
 }
 
 void StatusPane::ShowProgress(const std::string& what, int percent) {

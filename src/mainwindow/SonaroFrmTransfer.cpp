@@ -17,6 +17,8 @@ int SentenceOf(ImportResult::Status status) {
       return IDS_IMPORT_NOT_READ;
     case ImportResult::Status::NotAPlaylist:
       return IDS_IMPORT_NO_PLAYLIST;
+    case ImportResult::Status::GroupNotSaved:
+      return IDS_IMPORT_NOT_IN_GROUP;
     case ImportResult::Status::NotSaved:  // has its own message
     case ImportResult::Status::Ok:
       break;
@@ -64,8 +66,7 @@ void SonaroFrm::mnuPersonalImport_Click() {
 
 void SonaroFrm::SayImported(const ImportResult& result) {
   const bool saved = result.status != ImportResult::Status::NotSaved;
-  if (!saved) models_.listing.GroupsChanged();
-  if (!SavedOrSaid(saved, LoadText(IDS_FILE_STATIONS), *this, data_.strings)) return;
+  if (!SavedOrSaid(saved, LoadText(IDS_IMPORT_WHAT), *this, data_.strings)) return;
   std::string text =
       FillIn(LoadText(SentenceOf(result.status)),
              {std::to_string(result.added), std::to_string(result.known), std::to_string(result.skipped)});

@@ -28,12 +28,18 @@ TEST_F(GroupTest, GroupsLiveFromTheFirstToTheRefusedEleventh) {
   AnswerBox(main, butMsg);
   EXPECT_EQ(ReadFile("favs.snr"), file);
 
+  const auto status = [main] { return TextOf(Control(main, lblStatus)); };
+  const std::string guide = status();
   const std::string name = CellText(List(main), 0);
   Command(main, mnuActionStationToGroup + 1);
   ASSERT_TRUE(WaitUntil([&] { return ReadFile("favs.snr") != file; }));
+  EXPECT_TRUE(WaitUntil([&] { return status() == "Added " + name + " to Group 2."; })) << status();
   Click(Control(main, butFavs + 1));
   EXPECT_TRUE(Listing(main, "Group 2"));
+  EXPECT_EQ(status(), guide) << "what was said before is gone";
   EXPECT_EQ(ColumnTexts(List(main)), std::vector<std::string>{name});
+  Command(main, mnuActionRemoveFromFavList);
+  EXPECT_TRUE(WaitUntil([&] { return status() == "Removed " + name + " from Group 2."; })) << status();
   SaveShot("group");
   Command(main, mnuFavDeleteFav);
   AnswerBox(main, butMsg);

@@ -2,6 +2,7 @@
 
 #include "fakes/FakeMessageBox.h"
 #include "mainwindow/Models.h"
+#include "resources/texts/mainwindow.h"
 
 namespace sonaro {
 namespace {
@@ -11,17 +12,23 @@ class FakePrompts : public FavoritePrompts {
   FakeMessageBox box;
   std::string name;  // what the user types
   std::vector<std::string> told;
+  std::vector<std::string> done;
 
   MessageResult Ask(const Message& message) override { return box.Ask(message); }
   std::string AskNewGroupName() override { return name; }
   std::string AskGroupName(const std::string&) override { return name; }
   void TellTray(const std::string& text) override { told.push_back(text); }
+  void SayDone(int textId, std::string_view token, std::string_view group) override {
+    done.push_back(std::to_string(textId) + " " + std::string(token) + " " + std::string(group));
+  }
 };
 
 class FavoriteCommandsTest : public Models {
  protected:
   std::string File() const { return files.Get("/d/favs.snr").value_or("(no file)"); }
   std::string LastKey() const { return prompts.box.asked.empty() ? "" : prompts.box.asked.back().key; }
+
+  static std::string Done(int textId, const std::string& what) { return std::to_string(textId) + " " + what; }
 
   FakePrompts prompts;
   FavoriteCommands commands{groups, listing, settings, strings, prompts};
@@ -108,6 +115,9 @@ TEST_F(FavoriteCommandsTest, StationsComeGoAndMoveInTheGroupOnShow) {
   commands.AddStationToGroup("ROCK", "P1");
   EXPECT_TRUE(File().ends_with("Rock\t2 P1 \r\n"));
   EXPECT_TRUE(prompts.box.asked.empty());
+  EXPECT_EQ(prompts.done, (std::vector<std::string>{
+                              Done(IDS_GROUP_ADDED_TO, "3 Jazz"), Done(IDS_GROUP_HAS_IT, "3 Jazz"),
+                              Done(IDS_GROUP_REMOVED_FROM, "P1 Jazz"), Done(IDS_GROUP_ADDED_TO, "P1 Rock")}));
 }
 
 TEST_F(FavoriteCommandsTest, TheFirstStationMakesItsGroup) {
@@ -115,6 +125,7 @@ TEST_F(FavoriteCommandsTest, TheFirstStationMakesItsGroup) {
   commands.AddStationToGroupOrNew(" First\t", "3");
   EXPECT_TRUE(File().ends_with("First\t3 \r\n")) << File();
   EXPECT_EQ(prompts.told, std::vector<std::string>{"AddNewFavGroup\tFirst"});
+  EXPECT_EQ(prompts.done, std::vector<std::string>{Done(IDS_GROUP_ADDED_TO, "3 First")});
   commands.AddStationToGroupOrNew("FIRST", "1");
   EXPECT_TRUE(File().ends_with("First\t3 1 \r\n")) << "a name that is there means that group";
   commands.AddStationToGroupOrNew(" ", "1");
@@ -162,6 +173,7 @@ TEST_F(FavoriteCommandsTest, AChangeThatCannotBeWrittenIsSaid) {
   files.SetSpaceLeft(0);
   commands.AddStationToGroup("Rock", "1");
   EXPECT_EQ(prompts.box.asked.size(), 1U);
+  EXPECT_TRUE(prompts.done.empty());
   EXPECT_FALSE(groups.Contains(2, "1"));
   EXPECT_TRUE(File().ends_with("Rock\t2\r\n"));
 }

@@ -81,12 +81,22 @@ TEST_F(PlaylistTransferTest, WhatGoesWrongIsTold) {
   files.Put("/in/page.m3u", "<html></html>");
   EXPECT_EQ(transfer.ImportPersonalStations("/in/page.m3u").status, Status::NotAPlaylist);
   files.Put("/in/x.m3u", "#EXTM3U\n#EXTINF:-1,A\nhttp://a.example/\n");
+  ASSERT_TRUE(transfer.ExportGroup(0, "/out/known.m3u"));
   files.SetSpaceLeft(10);
   EXPECT_EQ(transfer.ImportIntoGroup(0, "/in/x.m3u").status, Status::NotSaved);
+  EXPECT_EQ(transfer.ImportIntoGroup(1, "/out/known.m3u").status, Status::NotSaved);
   EXPECT_EQ(Members(0), "4 77 P1 1");
+  EXPECT_EQ(Members(1), "");
   EXPECT_FALSE(transfer.ExportGroup(0, "/out/full.m3u"));
   EXPECT_EQ(files.Get("/out/full.m3u"), std::nullopt);
   EXPECT_EQ(files.Get("/out/full.m3u.new"), std::nullopt);
+
+  files.SetSpaceLeft(std::nullopt);
+  files.Lock("/d/favs.snr");
+  EXPECT_EQ(transfer.ImportIntoGroup(1, "/out/known.m3u").status, Status::NotSaved) << "all of it is known";
+  const ImportResult half = transfer.ImportIntoGroup(0, "/in/x.m3u");
+  EXPECT_EQ(half.status, Status::GroupNotSaved);
+  EXPECT_EQ(half.added, 1U);
 }
 
 // Pieces of what people type, and of what hurts in a file.
