@@ -125,6 +125,14 @@ TEST_F(UpdateInstallTest, AListOfWhichNoTableCanBeMadeDoesNotStay) {
   EXPECT_EQ(Differences(Guide(*machine_), before), "");
 }
 
+// What is told of an update compares with the list that it replaced, never with one of an update before.
+TEST_F(UpdateInstallTest, OnlyAnUpdateWithAListHasReplacedOne) {
+  ASSERT_EQ(Take(*machine_, kWhole), InstallStatus::Done);
+  EXPECT_EQ(machine_->install.ReplacedStationList(), kOldList);
+  ASSERT_EQ(Take(*machine_, Section("fun.snr", "another line\r\n") + kDate), InstallStatus::Done);
+  EXPECT_EQ(machine_->install.ReplacedStationList(), std::nullopt);
+}
+
 // As a whole: nothing of such an update stays, and what the one before replaced is still kept.
 TEST_F(UpdateInstallTest, RefusesWhatDoesNotFit) {
   files_.Put("/d/trap.snr", "a list of its own\r\n");

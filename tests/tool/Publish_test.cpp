@@ -188,6 +188,9 @@ TEST_F(PublishTest, SaysWhatItCannotPublish) {
   fs::create_directory(empty);
   fs::create_directory(hollow);
   WriteBytes(hollow + "/station.snr", "no station\r\n");
+  const std::string unfinished = place_.Path() + "/unfinished";
+  fs::copy(Directory(), unfinished);
+  WriteBytes(unfinished + "/unfinished.snr", "of two directories\r\n");
   const struct {
     ToolRun run;
     int status;
@@ -198,6 +201,7 @@ TEST_F(PublishTest, SaysWhatItCannotPublish) {
       {Publish({}, empty), 1, "\""},
       {Publish({}, hollow), 1, "\"Station.snr\" holds no station."},
       {Publish({}, empty + "/none"), 1, "There is no folder"},
+      {Publish({}, unfinished), 1, "is unfinished; run make again."},
       {Publish({"--date", "31/31/2026"}), 2, "--date is a date"},
       {Publish({"--host", "a b"}), 2, "--host is"},
       {Publish({"--listen", "80;"}), 2, "--listen is"},
