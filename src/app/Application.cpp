@@ -10,6 +10,7 @@
 #include "app/WhatToShow.h"
 #include "app/frmSplash.h"
 #include "base/Numbers.h"
+#include "base/OwnFiles.h"
 #include "base/Text.h"
 #include "forms/HighContrast.h"
 #include "forms/MessageLoop.h"
@@ -38,7 +39,7 @@ Application::Application(const Platform& platform, const Strings& strings, const
     : platform_(platform),
       strings_(strings),
       data_(platform.files, program.substr(0, program.rfind(kSeparator)), kSeparator),
-      settings_(platform.registry, platform.files, data_.Path(std::string("\\") + kPortableFile)),
+      settings_(platform.registry, platform.files, data_.Path(user_file::kSettings)),
       reg_(settings_),
       alphabets_(BuiltInAlphabets()),
       stations_(data_),

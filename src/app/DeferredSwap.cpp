@@ -4,13 +4,12 @@
 #include "app/HeldNames.h"
 #include "app/SettingNames.h"
 #include "base/DataFolder.h"
+#include "base/OwnFiles.h"
 #include "base/Text.h"
 
 namespace sonaro {
 
 namespace {
-
-constexpr std::string_view kTemporariesNote = "\\unpacked.lst";
 
 bool IsPlainFileName(std::string_view name) {
   return !name.empty() && name != "." && name != ".." && name.find_first_of("\\/:") == std::string_view::npos;
@@ -41,13 +40,13 @@ bool IsStationList(std::string_view name) { return EqualIgnoringCase(name, "Stat
 bool NoteTemporaries(DataFolder& data, const HeldNames& names) {
   HeldNames noted = NotedTemporaries(data);
   noted.Add(names);
-  return data.Save(kTemporariesNote, noted.Text());
+  return data.Save(work_file::kCopies, noted.Text());
 }
 
-HeldNames NotedTemporaries(DataFolder& data) { return HeldNames(data.Read(kTemporariesNote).bytes); }
+HeldNames NotedTemporaries(DataFolder& data) { return HeldNames(data.Read(work_file::kCopies).bytes); }
 
 void RemoveTemporaries(DataFolder& data, const HeldNames& waiting) {
-  if (!data.Exists(kTemporariesNote)) return;
+  if (!data.Exists(work_file::kCopies)) return;
   const HeldNames noted = NotedTemporaries(data);
   HeldNames left;
   for (const std::string& name : noted) {
@@ -55,9 +54,9 @@ void RemoveTemporaries(DataFolder& data, const HeldNames& waiting) {
     if (stays) left.Add(name);
   }
   if (left.Empty()) {
-    data.Remove(kTemporariesNote);
+    data.Remove(work_file::kCopies);
   } else if (left.Text() != noted.Text()) {
-    (void)data.Save(kTemporariesNote, left.Text());  // else more is noted than lies about
+    (void)data.Save(work_file::kCopies, left.Text());  // else more is noted than lies about
   }
 }
 

@@ -26,8 +26,9 @@ bool SwapInDownloaded(DataFolder& data, std::string_view name);
 bool IsStationList(std::string_view name);
 
 // The files whose copies may lie about, whatever becomes of the update that brings them: written down before
-// the first copy is made, so that the copies of an update that dies are known to be nobody's file.
-bool NoteTemporaries(DataFolder& data, const HeldNames& names);  // false when that could not be saved
+// the first copy is made, so that the copies of an update that dies are known to be nobody's file. False when
+// that could not be saved.
+[[nodiscard]] bool NoteTemporaries(DataFolder& data, const HeldNames& names);
 HeldNames NotedTemporaries(DataFolder& data);
 // Removes every noted copy but those that wait. One that cannot be removed stays noted.
 void RemoveTemporaries(DataFolder& data, const HeldNames& waiting);

@@ -4,6 +4,7 @@
 #include "app/SettingNames.h"
 #include "base/DataFolder.h"
 #include "base/Dates.h"
+#include "base/OwnFiles.h"
 #include "base/Text.h"
 
 namespace sonaro {
@@ -32,7 +33,7 @@ std::string SaveLiveEventUpdate(std::string_view body, std::string_view shortDat
   if (!EqualIgnoringCase(body.substr(body.size() - kEndOfBody.size()), kEndOfBody)) return {};
   const std::string_view stamp = DateStamp(body.substr(0, kHeadLength));
   if (!ParseDate(stamp, shortDatePattern)) return {};
-  if (!data.Save("\\eventup.txt", body)) return {};
+  if (!data.Save(work_file::kEventUpdate, body)) return {};
   reg.SetSetting(setting::kLastEventUpdate, stamp);
   return std::string(stamp);
 }

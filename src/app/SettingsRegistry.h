@@ -22,9 +22,6 @@ enum class SettingsPlace { PortableFile, Machine, User };
 // What the user should know about the settings.
 enum class SettingsFault { None, NotWritten, FileDamaged };
 
-// The file's name in the program's folder.
-inline constexpr const char* kPortableFile = "portable.ini";
-
 class SettingsRegistry final : public Registry {
  public:
   // `portableFile`: full path where the portable file would be.

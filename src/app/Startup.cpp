@@ -12,6 +12,7 @@
 #include "app/Strings.h"
 #include "app/WhatToShow.h"
 #include "base/DataFolder.h"
+#include "base/OwnFiles.h"
 #include "base/Text.h"
 #include "directory/StatList.h"
 #include "platform/MessagePost.h"
@@ -76,6 +77,7 @@ bool Startup::PrepareDirectory() {
 // A table that is not that of the station list is made anew, and nobody has to know unless that fails: then
 // the next start finds it so again.
 void Startup::SwapInDownloads() {
+  RemoveUnfinishedSaves(use_.data);
   if (use_.finishUndo) use_.finishUndo();
   RunDeferredSwap(use_.data, use_.reg, [this] { return use_.stations.RebuildStationTable(); });
   if (use_.stations.EnsureStationTable() != TableCare::NotMade) return;

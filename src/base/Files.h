@@ -48,7 +48,8 @@ class Files {
   // Puts `from` in the place of `to` in one step: at every moment `to` is the old or the new file, whole.
   // `to` need not exist. False, with both files as they were, when `from` is missing or `to` is in use.
   // Flushed also forces the new name to the disk; Cached leaves that to the system.
-  virtual bool Replace(const std::string& from, const std::string& to, Durability durability) = 0;
+  [[nodiscard]] virtual bool Replace(const std::string& from, const std::string& to,
+                                     Durability durability) = 0;
   // True when the file is gone afterwards, whether or not it was there.
   virtual bool Remove(const std::string& path) = 0;
   virtual bool Exists(const std::string& path) = 0;

@@ -10,7 +10,7 @@ namespace sonaro {
 
 namespace {
 
-constexpr int kMostCopies = 99;
+constexpr int kMostCopies = 9;
 
 // The text in a file's bytes; nothing when they are none. No text of ours holds a zero character, and a power
 // cut can leave a file full of them.

@@ -40,8 +40,8 @@ class UserFile {
   // Look could not read it.
   [[nodiscard]] bool Save(std::string_view text);
   // Copies what was read last to the name with ".bad" behind it, for a reader who is about to leave out what
-  // it does not understand. An earlier copy stays: another number is taken. False when that could not be
-  // written.
+  // it does not understand. An earlier copy stays: the next is ".bad2", the last ".bad9". False when that
+  // could not be written.
   [[nodiscard]] bool KeepBeside();
 
  private:

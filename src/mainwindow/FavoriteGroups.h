@@ -12,6 +12,7 @@
 #include <string_view>
 #include <vector>
 
+#include "base/OwnFiles.h"
 #include "base/UserFile.h"
 
 namespace sonaro {
@@ -32,7 +33,7 @@ class FavoriteGroups {
   // Of a name that a dialog takes.
   static constexpr int kMostNameBytes = 100;
 
-  explicit FavoriteGroups(DataFolder& data) : file_(data, "\\favs.snr") {}
+  explicit FavoriteGroups(DataFolder& data) : file_(data, user_file::kGroups) {}
 
   // Reads the file into the table and writes it back when reading changed it: lines and names trimmed of
   // blanks, lines without a tab dropped, after a copy with all of them was kept beside, and a group without a

@@ -30,7 +30,7 @@ struct PreviousGuide {
 };
 
 // False when it could not be saved; what was kept before stays then.
-bool SavePreviousGuide(DataFolder& data, std::string_view fileName, const PreviousGuide& guide);
+[[nodiscard]] bool SavePreviousGuide(DataFolder& data, std::string_view fileName, const PreviousGuide& guide);
 // Nothing when there is none, or none that is whole.
 std::optional<PreviousGuide> LoadPreviousGuide(DataFolder& data, std::string_view fileName);
 // Looks at the beginning of the file only.

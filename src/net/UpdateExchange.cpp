@@ -5,6 +5,7 @@
 #include "app/SettingNames.h"
 #include "app/Strings.h"
 #include "base/DataFolder.h"
+#include "base/OwnFiles.h"
 #include "base/Text.h"
 #include "base/UrlEncoding.h"
 #include "net/ServiceAnswer.h"
@@ -60,8 +61,8 @@ void UpdateExchange::AskForUpdate() {
   redirect_.clear();
   reason_.clear();
   file_.reset();
-  needs_.data.Remove(kUpdateFileName);
-  file_ = needs_.data.FileSystem().Create(needs_.data.Path(kUpdateFileName));
+  needs_.data.Remove(work_file::kUpdate);
+  file_ = needs_.data.FileSystem().Create(needs_.data.Path(work_file::kUpdate));
   if (!file_) {
     Fail(IDS_NET_NOT_SAVED);
     Complete();

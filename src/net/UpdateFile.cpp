@@ -7,6 +7,7 @@
 
 #include "base/DataFolder.h"
 #include "base/Numbers.h"
+#include "base/OwnFiles.h"
 #include "base/Text.h"
 #include "net/UpdateFormat.h"
 #include "net/UpdateSignature.h"
@@ -146,7 +147,7 @@ UpdateContents Refusal(UpdateFileStatus status) {
 }  // namespace
 
 UpdateContents ReadUpdateFile(DataFolder& data) {
-  const ReadResult file = data.Read(kUpdateFileName);
+  const ReadResult file = data.Read(work_file::kUpdate);
   if (file.status != ReadStatus::Ok) return Refusal(UpdateFileStatus::Missing);
   std::string_view text = file.bytes;
   const SignatureCheck check = CheckUpdateSignature(data, text);

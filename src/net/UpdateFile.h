@@ -15,8 +15,6 @@ namespace sonaro {
 
 class DataFolder;
 
-inline constexpr const char* kUpdateFileName = "\\update.txt";
-
 enum class UpdateFileStatus {
   Read,
   Missing,      // or unreadable

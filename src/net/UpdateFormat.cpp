@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "base/OwnFiles.h"
 #include "base/Text.h"
 
 namespace sonaro::update {
@@ -12,10 +13,8 @@ constexpr std::size_t kLongestName = 64;
 
 constexpr std::string_view kEndings[] = {".snr", ".vbt", ".pts", ".isd", ".ism", ".isf", ".isl"};
 
-// What the user made, and what the program keeps of the guide before an update.
-constexpr std::string_view kNeverBrought[] = {"favs.snr",     "sched.snr",    "shows.snr",
-                                              "recent.snr",   "personal.snr", "ownlinks.snr",
-                                              "alphabet.snr", "previous.snr", "undo.snr"};
+// What tells how links are to be read comes with the program.
+constexpr std::string_view kAlphabet = "alphabet.snr";
 
 constexpr std::string_view kDevices[] = {"con", "prn", "aux", "nul"};
 constexpr std::string_view kNumberedDevices[] = {"com", "lpt"};
@@ -43,8 +42,7 @@ bool MayBringFile(std::string_view name) {
   if (name.empty() || name.size() > kLongestName || !std::all_of(name.begin(), name.end(), IsPlain))
     return false;
   if (name.front() == '.' || TrimBlanks(name) != name || IsDevice(name)) return false;
-  const auto is = [name](std::string_view other) { return EqualIgnoringCase(name, other); };
-  if (std::any_of(std::begin(kNeverBrought), std::end(kNeverBrought), is)) return false;
+  if (IsOwnFile(name) || EqualIgnoringCase(name, kAlphabet)) return false;
   return std::any_of(std::begin(kEndings), std::end(kEndings),
                      [name](std::string_view ending) { return EndsWithIgnoringCase(name, ending); });
 }

@@ -11,6 +11,7 @@
 #include "app/SettingNames.h"
 #include "base/DataFolder.h"
 #include "base/Numbers.h"
+#include "base/OwnFiles.h"
 #include "base/Text.h"
 #include "directory/StatList.h"
 #include "directory/StationListFile.h"
@@ -22,8 +23,6 @@ namespace sonaro {
 namespace {
 
 constexpr std::string_view kStationList = "\\Station.snr";
-constexpr std::string_view kPrevious = "\\previous.snr";
-constexpr std::string_view kUndoing = "\\undo.snr";  // what was kept, while it is being put back
 constexpr std::string_view kCategories = "cat.snr";
 
 bool HoldsStations(std::string_view list) {
@@ -138,11 +137,11 @@ InstallStatus UpdateInstall::KeepPrevious(const UpdateContents& contents) {
   }
   const KeptFile* const list = previous.Find(kStationList.substr(1));
   if (list != nullptr && !HoldsStations(list->bytes.value_or(""))) {  // nothing that one could want back
-    data_.Remove(kPrevious);
-  } else if (!SavePreviousGuide(data_, kPrevious, previous)) {
+    data_.Remove(work_file::kPrevious);
+  } else if (!SavePreviousGuide(data_, work_file::kPrevious, previous)) {
     return InstallStatus::NotSaved;
   }
-  data_.Remove(kUndoing);  // an undoing that waits is overtaken
+  data_.Remove(work_file::kUndoing);  // an undoing that waits is overtaken
   return InstallStatus::Done;
 }
 
@@ -200,36 +199,37 @@ void UpdateInstall::StoreDates(const UpdateContents& contents, bool listWaits) {
   if (contents.date) reg_.SetSetting(setting::kLastUpdate, *contents.date);
 }
 
-bool UpdateInstall::CanUndo() const { return IsPreviousGuide(data_, kPrevious); }
+bool UpdateInstall::CanUndo() const { return IsPreviousGuide(data_, work_file::kPrevious); }
 
 std::optional<std::string> UpdateInstall::ReplacedStationList() {
-  const auto previous = LoadPreviousGuide(data_, kPrevious);
+  const auto previous = LoadPreviousGuide(data_, work_file::kPrevious);
   const KeptFile* const list = previous ? previous->Find(kStationList.substr(1)) : nullptr;
   return list == nullptr ? std::nullopt : list->bytes;
 }
 
 // From the moment that the file has its other name the next start goes on with it.
 UndoStatus UpdateInstall::UndoLastUpdate() {
-  if (!LoadPreviousGuide(data_, kPrevious) || !data_.Replace(kPrevious, kUndoing)) {
+  if (!LoadPreviousGuide(data_, work_file::kPrevious) ||
+      !data_.Replace(work_file::kPrevious, work_file::kUndoing)) {
     return UndoStatus::Impossible;
   }
   return Restore();
 }
 
 void UpdateInstall::FinishUndo() {
-  if (data_.Exists(kUndoing)) (void)Restore();  // what does not succeed is tried at the next start
+  if (data_.Exists(work_file::kUndoing)) (void)Restore();  // what does not succeed is tried at the next start
 }
 
 UndoStatus UpdateInstall::Restore() {
-  const auto previous = LoadPreviousGuide(data_, kUndoing);
+  const auto previous = LoadPreviousGuide(data_, work_file::kUndoing);
   if (!previous) {
-    data_.Remove(kUndoing);
+    data_.Remove(work_file::kUndoing);
     return UndoStatus::Impossible;
   }
   RestoreSettings(*previous);
   if (!RestoreFiles(*previous)) return UndoStatus::Waits;
   reg_.FlushSettings();
-  data_.Remove(kUndoing);
+  data_.Remove(work_file::kUndoing);
   return UndoStatus::Done;
 }
 

@@ -8,6 +8,7 @@
 #include <string_view>
 #include <vector>
 
+#include "base/OwnFiles.h"
 #include "base/UserFile.h"
 
 namespace sonaro {
@@ -24,7 +25,7 @@ struct ExtraLink {
 
 class ExtraLinks {
  public:
-  explicit ExtraLinks(DataFolder& data) : file_(data, "\\ownlinks.snr") {}
+  explicit ExtraLinks(DataFolder& data) : file_(data, user_file::kLinks) {}
 
   // Reads the file. False when it is there but could not be read; changes are refused then.
   bool Load();

@@ -14,6 +14,7 @@
 #include <unordered_map>
 #include <vector>
 
+#include "base/OwnFiles.h"
 #include "base/UserFile.h"
 #include "playback/OwnLink.h"
 
@@ -43,7 +44,7 @@ PersonalStation Cleaned(const PersonalStation& station);
 
 class PersonalStations {
  public:
-  explicit PersonalStations(DataFolder& data) : file_(data, "\\personal.snr") {}
+  explicit PersonalStations(DataFolder& data) : file_(data, user_file::kStations) {}
 
   // Reads the file; what was in memory is forgotten. False when the file is there but could not be read.
   bool Load();

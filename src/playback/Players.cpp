@@ -5,6 +5,7 @@
 #include "app/CReg.h"
 #include "app/SettingNames.h"
 #include "base/DataFolder.h"
+#include "base/OwnFiles.h"
 #include "base/Text.h"
 #include "platform/Shell.h"
 
@@ -40,16 +41,16 @@ std::string Players::RegisteredRealPlayer() const { return RegisteredPath(Regist
 std::string Players::FindRealPlayer(bool force) const {
   const std::string version = RegisteredVersion();
   if (!version.empty() && !force) return RegisteredPath(version);
-  const std::string path = ProgramOfMarker("dummy.ram");
+  const std::string path = ProgramOfMarker(work_file::kRamMarker);
   return !path.empty() && data_.FileSystem().Exists(path) ? path : std::string();
 }
 
-std::string Players::FindAsxProgram() const { return ProgramOfMarker("dummy.asx"); }
+std::string Players::FindAsxProgram() const { return ProgramOfMarker(work_file::kAsxMarker); }
 
 std::string Players::AssociatedProgram(const std::string& ending) const {
-  const std::string marker = "dummy" + ending;
+  const std::string marker = "\\dummy" + ending;
   const std::string program = ProgramOfMarker(marker);
-  data_.FileSystem().Remove(data_.Path("\\" + marker));
+  data_.Remove(marker);
   return program;
 }
 
@@ -57,13 +58,13 @@ bool Players::IsRealPlayer(std::string_view path) {
   return StartsWithIgnoringCase(path.substr(path.rfind('\\') + 1), "r");
 }
 
-std::string Players::ProgramOfMarker(const std::string& markerFile) const {
+std::string Players::ProgramOfMarker(std::string_view name) const {
   constexpr std::string_view kExe = ".exe";
-  const std::string marker = data_.Path("\\" + markerFile);
+  const std::string marker = data_.Path(name);
   data_.FileSystem().Remove(marker);
   if (const auto file = data_.FileSystem().Create(marker)) file->Commit(Durability::Cached);
 
-  FoundProgram found = shell_.FindProgramFor(markerFile, data_.Folder());
+  FoundProgram found = shell_.FindProgramFor(std::string(name.substr(1)), data_.Folder());
   if (found.code <= kLastFailureCode) return {};
   LowerCase(found.path);
   const std::size_t exe = found.path.find(kExe);

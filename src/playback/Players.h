@@ -38,7 +38,7 @@ class Players {
   std::string RegisteredPath(const std::string& version) const;
   // The program for an empty file of this name, which is made anew in the program folder and stays: the
   // platform looks at a real file. In lower case, cut after the first ".exe".
-  std::string ProgramOfMarker(const std::string& markerFile) const;
+  std::string ProgramOfMarker(std::string_view name) const;
 
   CReg& reg_;
   DataFolder& data_;

@@ -8,6 +8,7 @@
 #include <utility>
 #include <vector>
 
+#include "base/OwnFiles.h"
 #include "base/UserFile.h"
 
 namespace sonaro {
@@ -20,7 +21,7 @@ class RecentList {
   // The last slot is never written: the file holds one entry less than memory.
   static constexpr std::size_t kSavedSlots = kSlots - 1;
 
-  explicit RecentList(DataFolder& data) : file_(data, "\\recent.snr") {}
+  explicit RecentList(DataFolder& data) : file_(data, user_file::kRecent) {}
 
   // Reads the file back; what was in memory is forgotten.
   void Load();

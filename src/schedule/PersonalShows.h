@@ -6,6 +6,7 @@
 #include <string_view>
 #include <vector>
 
+#include "base/OwnFiles.h"
 #include "base/UserFile.h"
 
 namespace sonaro {
@@ -17,7 +18,7 @@ class Strings;
 class PersonalShows {
  public:
   PersonalShows(DataFolder& data, MessageBoxView& messages, const Strings& strings)
-      : file_(data, "\\Shows.snr"), messages_(messages), strings_(strings) {}
+      : file_(data, user_file::kShows), messages_(messages), strings_(strings) {}
 
   // Adds the show unless one with the same identifying part is there, and tells the user in either case, or
   // that it could not be saved.

@@ -5,14 +5,13 @@
 #include <optional>
 #include <utility>
 
-#include "base/DataFolder.h"
+#include "base/OwnFiles.h"
 #include "base/Text.h"
 
 namespace sonaro {
 
 namespace {
 
-constexpr std::string_view kDroppedFile = "\\Sched.old";
 constexpr std::size_t kFirstSlots = 101;
 constexpr std::size_t kGrowth = 20;
 constexpr std::size_t kTabsInLine = 6;
@@ -50,8 +49,8 @@ bool LosesText(const ScheduleItem& item, std::string_view line) {
 }  // namespace
 
 ScheduleStore::ScheduleStore(DataFolder& data, std::string shortDatePattern)
-    : data_(data),
-      file_(data, "\\Sched.snr"),
+    : file_(data, user_file::kSchedule),
+      droppedFile_(data, user_file::kScheduleDropped),
       shortDatePattern_(std::move(shortDatePattern)),
       slots_(kFirstSlots) {}
 
@@ -69,10 +68,9 @@ bool ScheduleStore::LoadUnread() {
 void ScheduleStore::ReadFile() {
   slots_.assign(kFirstSlots, ScheduleItem{});
   dropped_.clear();
+  broughtBack_.clear();
   ++generation_;
-  const ReadResult old = data_.Read(kDroppedFile);
-  for (std::string_view line : SplitLines(old.bytes)) dropped_.emplace_back(line);
-  droppedChanged_ = false;
+  if (droppedFile_.Look() != UserFile::Seen::Unreadable) TakeDropped();
   std::size_t next = 0;
   for (std::string_view line : SplitLines(file_.Text())) {
     GrowTo(next);
@@ -92,7 +90,10 @@ void ScheduleStore::Drop(std::string_view line) {
   if (std::find(dropped_.begin(), dropped_.end(), line) != dropped_.end()) return;
   if (dropped_.size() >= kMostDropped) dropped_.erase(dropped_.begin());
   dropped_.emplace_back(line);
-  droppedChanged_ = true;
+}
+
+void ScheduleStore::TakeDropped() {
+  for (const std::string_view line : SplitLines(droppedFile_.Text())) Drop(line);
 }
 
 bool ScheduleStore::BringBack(const Date& today) {
@@ -105,11 +106,10 @@ bool ScheduleStore::BringBack(const Date& today) {
       slots_[FirstFreeSlot()] = item;
       ++generation_;
     }
+    broughtBack_.push_back(line);
     return true;
   });
-  if (dropped_.size() == before) return false;
-  droppedChanged_ = true;
-  return true;
+  return dropped_.size() != before;
 }
 
 void ScheduleStore::GrowTo(std::size_t slot) {
@@ -129,17 +129,26 @@ bool ScheduleStore::Expired(const ScheduleItem& item, const Date& today) const {
 
 std::string ScheduleStore::LineIn(const ScheduleItem& item) { return item.Free() ? "" : LineOf(item); }
 
+// A line is always in one of the two files: it is put aside before the table drops it, and taken from there
+// after the table has it again.
 bool ScheduleStore::SaveSchedule() {
-  if (droppedChanged_) {
-    std::string text;
-    for (const std::string& line : dropped_) text += line + "\r\n";
-    droppedChanged_ = !data_.Save(kDroppedFile, text);  // tried again at the next save
-  }
+  if (droppedFile_.Look() == UserFile::Seen::Changed) TakeDropped();
+  std::vector<std::string> aside = broughtBack_;
+  aside.insert(aside.end(), dropped_.begin(), dropped_.end());
+  if (!PutAside(aside)) return false;
   std::string text;
   for (const ScheduleItem& item : slots_) {
     if (!item.Free()) text += LineOf(item) + "\r\n";
   }
-  return file_.Save(text);
+  if (!file_.Save(text)) return false;
+  if (PutAside(dropped_)) broughtBack_.clear();  // else at the next save
+  return true;
+}
+
+bool ScheduleStore::PutAside(const std::vector<std::string>& lines) {
+  std::string text;
+  for (const std::string& line : lines) text += line + "\r\n";
+  return text == droppedFile_.Text() || droppedFile_.Save(text);
 }
 
 std::size_t ScheduleStore::FirstFreeSlot() {

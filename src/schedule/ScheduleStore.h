@@ -3,8 +3,9 @@
 // once; one that cannot be saved is taken back. Knows neither when an item comes on nor how it is shown.
 //
 // A save drops what loading did not take over: the end of a line with fewer than six tabs, and "once" items
-// whose day has passed. Those lines go to "\Sched.old" first, the latest kMostDropped of them, and items
-// whose day has not passed after all (the clock had been ahead) come back from there.
+// whose day has passed. Those lines go to "\Sched.old" first, the latest kMostDropped of them: while that
+// cannot be written, the schedule is not saved either. Items whose day has not passed after all (the clock
+// had been ahead) come back from there, and stay there until they are in the schedule's file again.
 #pragma once
 
 #include <cstddef>
@@ -32,7 +33,7 @@ class ScheduleStore {
   void LoadSchedule(const Date& today);
   // True when a file that could not be read before has been read now.
   bool LoadUnread();
-  // Writes every occupied slot. False when the file could not be written; the old one is then still whole.
+  // Writes every occupied slot. False when that could not be done; the old file is then still whole.
   [[nodiscard]] bool SaveSchedule();
   // Puts the "once" items back into the table that were dropped under a later date than `today`. True when
   // there was one.
@@ -62,15 +63,17 @@ class ScheduleStore {
   bool HasDay(const ScheduleItem& item) const;
   bool Expired(const ScheduleItem& item, const Date& today) const;
   void Drop(std::string_view line);
+  void TakeDropped();
+  [[nodiscard]] bool PutAside(const std::vector<std::string>& lines);
   void GrowTo(std::size_t slot);
 
-  DataFolder& data_;  // for what is dropped
   UserFile file_;
+  UserFile droppedFile_;
   Date today_;
   std::string shortDatePattern_;
   std::vector<ScheduleItem> slots_;
-  std::vector<std::string> dropped_;  // the lines of "\Sched.old", or what it becomes at the next save
-  bool droppedChanged_ = false;
+  std::vector<std::string> dropped_;      // the lines of "\Sched.old" as they are after the next save
+  std::vector<std::string> broughtBack_;  // more of them, which are in the table again
   std::uint64_t generation_ = 0;
 };
 

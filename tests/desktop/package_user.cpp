@@ -1,7 +1,8 @@
 // package_user PROGRAM use | see: works the windows of a Sonaro that was installed or unpacked, for
-// scripts/test-package. "use" switches the click of the keys off and puts a station into a new group; "see"
-// looks for both in a new session. package_user load LIBRARY: loads a library as careless programs do, by its
-// bare name. Exit status 0 when all went as it should; otherwise what did not is printed.
+// scripts/test-package. "use" switches the click of the keys off, looks at the players and puts a station
+// into a new group; "see" looks for both in a new session. package_user load LIBRARY: loads a library as
+// careless programs do, by its bare name. Exit status 0 when all went as it should; otherwise what did not is
+// printed.
 #include <cstdio>
 #include <filesystem>
 #include <stdexcept>
@@ -68,6 +69,10 @@ void Use(const Session& session) {
   HWND options = session.Options();
   Expect(IsChecked(Control(options, chkSoundKeys)), "the keys do not click at first");
   Click(Control(options, chkSoundKeys));
+  Click(Control(options, butPlayerIt));  // asks Windows about players, by files that it makes for that
+  HWND player = session.Dialog("frmStartUpInfo");
+  Click(Control(player, butDoneIt));
+  Expect(WaitUntil([&] { return !IsShown(player) && IsWindowEnabled(options) != FALSE; }), "the page stays");
   session.EndWith(options, butOKIt);
 
   HWND list = Control(session.Main(), lstFavs);

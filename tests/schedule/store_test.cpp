@@ -91,6 +91,48 @@ TEST_F(ScheduleFile, AnItemThatAClockAheadDroppedComesBack) {
   EXPECT_EQ(Saved(), concert);
 }
 
+TEST_F(ScheduleFile, WithoutAPlaceForWhatItDropsTheScheduleIsNotSaved) {
+  const std::string past = "Past\tN\t8/1/2000\t8:00 PM\t\tonce\t\r\n";
+  files_.Put("data/Sched.old", "older\r\n");
+  files_.Lock("data/Sched.old");
+  Load(past);
+  EXPECT_EQ(data_.TakeNotes().size(), 1U);
+  EXPECT_FALSE(store_.SetItem(0, {.name = "new"}));
+  EXPECT_EQ(files_.Get("data/Sched.snr"), past);
+  files_.Unlock("data/Sched.old");
+  EXPECT_TRUE(store_.SetItem(0, {.name = "new"}));
+  EXPECT_EQ(files_.Get("data/Sched.snr"), "new\t\t\t\t\t\t\r\n");
+  EXPECT_EQ(Aside(), past + "older\r\n");
+}
+
+// Dropped by a clock ahead, brought back, and dropped again: the line is in one of the two files all the
+// time.
+TEST(ScheduleCrash, NoLineIsEverInNeitherFile) {
+  const std::string concert = "Concert\tN\t8/20/2000\t8:00 PM\t\tonce\t\r\n";
+  const auto save = [](FakeFiles& files, const Date& today) {
+    DataFolder data(files, "data", '/');
+    ScheduleStore store(data, "");
+    store.LoadSchedule(today);
+    return store.SaveSchedule();
+  };
+  const auto holds = [&](const FakeFiles& files, const char* path) {
+    return files.Get(path).value_or("").find(concert) != std::string::npos;
+  };
+  ForEachCrashPoint([&](FakeFiles& files) { files.Put("data/Sched.snr", concert); },
+                    [&](FakeFiles& files) {
+                      for (const int year : {2001, 2000, 2002}) {
+                        if (!save(files, {year, 8, 16})) return;
+                      }
+                    },
+                    [&](FakeFiles& files, const CrashPoint& point) {
+                      EXPECT_TRUE(holds(files, "data/Sched.snr") || holds(files, "data/Sched.old"))
+                          << point.operation;
+                      EXPECT_TRUE(save(files, kToday));
+                      EXPECT_EQ(files.Get("data/Sched.snr"), concert) << point.operation;
+                      EXPECT_FALSE(holds(files, "data/Sched.old")) << point.operation;
+                    });
+}
+
 TEST_F(ScheduleFile, OnceItemsExpireMoreThanTwoDaysAfterTheirDay) {
   const auto kept = [&](const std::string& date, const std::string& kind) {
     Load("x\tN\t" + date + "\t1:00 PM\tMonday\t" + kind + "\t\r\n");
