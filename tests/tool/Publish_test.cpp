@@ -194,14 +194,14 @@ TEST_F(PublishTest, SaysWhatItCannotPublish) {
   const struct {
     ToolRun run;
     int status;
-    const char* sentence;
+    std::string sentence;
   } kCases[] = {
       {Publish({"--key", place_.Path() + "/bad.key"}), 1, "The key is not"},
       {Publish({"--key", place_.Path() + "/none.key"}), 1, "The key \""},
       {Publish({}, empty), 1, "\""},
       {Publish({}, hollow), 1, "\"Station.snr\" holds no station."},
       {Publish({}, empty + "/none"), 1, "There is no folder"},
-      {Publish({}, unfinished), 1, "is unfinished; run make again."},
+      {Publish({}, unfinished), 1, "\"" + unfinished + "\" is unfinished; run make again."},
       {Publish({"--date", "31/31/2026"}), 2, "--date is a date"},
       {Publish({"--host", "a b"}), 2, "--host is"},
       {Publish({"--listen", "80;"}), 2, "--listen is"},
