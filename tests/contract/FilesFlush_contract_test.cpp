@@ -10,6 +10,7 @@
 #include <cstring>
 
 #include "platform/win/FilesWin.h"
+#include "platform/win/RegistryWin.h"
 #else
 #include <sys/stat.h>
 #include <sys/syscall.h>
@@ -22,6 +23,7 @@ namespace {
 
 struct Flushes {
   int files = 0;
+  int keys = 0;
   int names = 0;  // of replacements: the folder, or the move itself
 };
 Flushes flushes;
@@ -72,6 +74,13 @@ const auto kFlushFileBuffers = reinterpret_cast<BOOL(WINAPI*)(HANDLE)>(
     reinterpret_cast<void*>(GetProcAddress(GetModuleHandleA("kernel32.dll"), "FlushFileBuffers")));
 const auto kMoveFileEx = reinterpret_cast<BOOL(WINAPI*)(LPCSTR, LPCSTR, DWORD)>(
     reinterpret_cast<void*>(GetProcAddress(GetModuleHandleA("kernel32.dll"), "MoveFileExA")));
+const auto kRegFlushKey = reinterpret_cast<LSTATUS(WINAPI*)(HKEY)>(
+    reinterpret_cast<void*>(GetProcAddress(GetModuleHandleA("advapi32.dll"), "RegFlushKey")));
+
+LSTATUS WINAPI CountFlushKey(HKEY key) {
+  ++flushes.keys;
+  return kRegFlushKey(key);
+}
 
 BOOL WINAPI CountFlush(HANDLE file) {
   ++flushes.files;
@@ -124,6 +133,16 @@ TEST(FilesFlush, WhatIsSavedReachesTheDiskWithItsName) {
   ASSERT_TRUE(files.Replace(path + "2", path, Durability::Cached));
   EXPECT_EQ(flushes.files + flushes.names, 0);
 }
+
+#ifdef _WIN32
+TEST(RegistryFlush, AFlushedKeyReachesTheDisk) {
+  const StandIn flush(kRegFlushKey, &CountFlushKey);
+  ASSERT_TRUE(flush.InPlace());
+  flushes = {};
+  EXPECT_TRUE(RegistryWin().Flush(RootKey::CurrentUser, "Software"));
+  EXPECT_EQ(flushes.keys, 1);
+}
+#endif
 
 }  // namespace
 }  // namespace sonaro
