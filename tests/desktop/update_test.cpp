@@ -56,7 +56,7 @@ TEST_F(UpdateTest, OfflineTheMenuOffersToUndoTheLastUpdate) {
   PressKey(main, VK_F5);  // in place of the dialog that has done its work
   ASSERT_NE(DialogSaying("Can't Connect"), nullptr);
   Command(main, mnuUndoUpdate);
-  dialog = DialogSaying("can be brought back");
+  dialog = DialogSaying("can be put back");
   ASSERT_NE(dialog, nullptr);
   ExpectTheNewDirectory();
   SaveShot("offer");
