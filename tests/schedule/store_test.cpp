@@ -329,30 +329,5 @@ TEST(ScheduleLists, AShowHasWhatItsSoonestItemSaysOrItsNextBroadcast) {
   EXPECT_EQ(shown(), unknown + gone + evening + live);
 }
 
-// An item is added while an expired one moves to the other file: neither that nor any other line is lost.
-TEST(ScheduleCrash, EveryLineIsInOneOfTheFiles) {
-  const std::string kept = "Daily\tN\t\t9:00\t\tdaily\tnote\r\n";
-  const std::string expired = "Old\tN\t1/8/2000\t9:00\t\tonce\t\r\n";
-  const int operations =
-      ForEachCrashPoint([&](FakeFiles& files) { files.Put("/d/Sched.snr", kept + expired); },
-                        [](FakeFiles& files) {
-                          DataFolder data(files, "/d", '/');
-                          ScheduleStore store(data, "d/M/yyyy");
-                          store.LoadSchedule(kToday);
-                          ScheduleItem item = store.Item(0);
-                          item.name = "Added";
-                          static_cast<void>(store.SetItem(store.FirstFreeSlot(), item));
-                        },
-                        [&](FakeFiles& files, const CrashPoint& point) {
-                          const std::string schedule = files.Get("/d/Sched.snr").value_or("");
-                          const bool added = schedule.find("Added\t") != std::string::npos;
-                          EXPECT_TRUE(added || !point.completed) << point.operation;
-                          EXPECT_NE(schedule.find(kept), std::string::npos) << point.operation;
-                          const std::string both = schedule + files.Get("/d/Sched.old").value_or("");
-                          EXPECT_NE(both.find(expired), std::string::npos) << point.operation << both;
-                        });
-  EXPECT_GT(operations, 7);
-}
-
 }  // namespace
 }  // namespace sonaro
