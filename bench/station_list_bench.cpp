@@ -8,13 +8,13 @@
 #include <random>
 #include <string>
 
-#include "app/Strings.h"
 #include "base/DataFolder.h"
 #include "directory/StatList.h"
 #include "mainwindow/StationLists.h"
 #include "platform/posix/FilesPosix.h"
-#include "playback/PersonalStations.h"
-#include "playback/RecentList.h"
+#include "settings/Strings.h"
+#include "stations/PersonalStations.h"
+#include "stations/RecentList.h"
 
 namespace sonaro {
 namespace {

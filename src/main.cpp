@@ -7,9 +7,7 @@
 
 #include <string>
 
-#include "app/AppState.h"
 #include "app/Application.h"
-#include "app/Strings.h"
 #include "forms/Guard.h"
 #include "forms/StringTable.h"
 #include "forms/WideText.h"
@@ -24,6 +22,8 @@
 #include "platform/win/SoundWin.h"
 #include "platform/win/SystemInfoWin.h"
 #include "resources/texts/app.h"
+#include "settings/AppState.h"
+#include "settings/Strings.h"
 
 namespace {
 

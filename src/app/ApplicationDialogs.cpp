@@ -1,9 +1,6 @@
 // The questions and the dialogs that the main window and the tray ask for.
 #include "app/Application.h"
 #include "app/ApplicationService.h"
-#include "app/FileWords.h"
-#include "app/SettingNames.h"
-#include "app/Strings.h"
 #include "forms/FileDialog.h"
 #include "mainwindow/SonaroFrm.h"
 #include "mainwindow/frmExtraLink.h"
@@ -14,6 +11,9 @@
 #include "resources/texts/app.h"
 #include "resources/texts/mainwindow.h"
 #include "schedule/frmAboutEventTime.h"
+#include "settings/FileWords.h"
+#include "settings/SettingNames.h"
+#include "settings/Strings.h"
 #include "tray/frmOptions.h"
 #include "tray/frmStartUpInfo.h"
 

@@ -2,14 +2,9 @@
 
 #include <optional>
 
-#include "app/AppState.h"
-#include "app/CReg.h"
-#include "app/HelpPages.h"
-#include "app/SettingNames.h"
 #include "base/Text.h"
 #include "directory/StatList.h"
 #include "forms/ControlIds.h"
-#include "mainwindow/FavoriteGroups.h"
 #include "platform/Clock.h"
 #include "playback/PlayerLaunch.h"
 #include "playback/WebPages.h"
@@ -17,6 +12,11 @@
 #include "schedule/ScheduleTexts.h"
 #include "schedule/TimeZone.h"
 #include "schedule/frmSchedChange.h"
+#include "settings/AppState.h"
+#include "settings/CReg.h"
+#include "settings/HelpPages.h"
+#include "settings/SettingNames.h"
+#include "stations/FavoriteGroups.h"
 
 namespace sonaro {
 

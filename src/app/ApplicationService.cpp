@@ -2,19 +2,19 @@
 
 #include <utility>
 
-#include "app/CReg.h"
-#include "app/HelpPages.h"
-#include "app/SettingNames.h"
 #include "base/DataFolder.h"
 #include "base/Text.h"
-#include "mainwindow/FavoriteGroups.h"
 #include "net/ProxyDetection.h"
 #include "net/UpdateReport.h"
 #include "net/WhatIsNew.h"
 #include "net/frmInetUpdate.h"
 #include "net/frmTestProxy.h"
 #include "net/frmUpdateDialog.h"
-#include "playback/StationKey.h"
+#include "settings/CReg.h"
+#include "settings/HelpPages.h"
+#include "settings/SettingNames.h"
+#include "stations/FavoriteGroups.h"
+#include "stations/StationKey.h"
 
 namespace sonaro {
 

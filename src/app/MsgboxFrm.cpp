@@ -1,10 +1,10 @@
 #include "app/MsgboxFrm.h"
 
-#include "app/HelpPages.h"
 #include "forms/ControlIds.h"
 #include "forms/DialogRows.h"
 #include "forms/WideText.h"
 #include "resources/texts/app.h"
+#include "settings/HelpPages.h"
 
 namespace sonaro {
 

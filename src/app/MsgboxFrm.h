@@ -5,8 +5,8 @@
 #include <functional>
 #include <string_view>
 
-#include "app/Message.h"
 #include "forms/Form.h"
+#include "settings/Message.h"
 
 namespace sonaro {
 

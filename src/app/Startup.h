@@ -5,7 +5,7 @@
 #include <functional>
 #include <string>
 
-#include "app/StartUpInfoPage.h"
+#include "tray/StartUpInfoPage.h"
 
 namespace sonaro {
 

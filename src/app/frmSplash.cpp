@@ -1,11 +1,11 @@
 #include "app/frmSplash.h"
 
-#include "app/AppState.h"
-#include "app/Strings.h"
 #include "forms/ControlIds.h"
 #include "forms/Painter.h"
 #include "forms/ProgressScale.h"
 #include "resources/texts/app.h"
+#include "settings/AppState.h"
+#include "settings/Strings.h"
 
 namespace sonaro {
 

@@ -1,9 +1,9 @@
 #include "faceplate/Faceplate.h"
 
-#include "app/CReg.h"
-#include "app/SettingNames.h"
 #include "base/DataFolder.h"
 #include "base/Text.h"
+#include "settings/CReg.h"
+#include "settings/SettingNames.h"
 
 namespace sonaro {
 namespace {

@@ -3,7 +3,6 @@
 #include <algorithm>
 #include <vector>
 
-#include "app/Strings.h"
 #include "forms/ControlIds.h"
 #include "forms/Dpi.h"
 #include "forms/FormParts.h"
@@ -11,6 +10,7 @@
 #include "forms/MessageLoop.h"
 #include "forms/Painter.h"
 #include "forms/WideText.h"
+#include "settings/Strings.h"
 
 namespace sonaro {
 namespace {

@@ -3,7 +3,7 @@
 
 #include <stdexcept>
 
-#include "app/Strings.h"
+#include "settings/Strings.h"
 
 namespace sonaro {
 

@@ -1,7 +1,7 @@
 // The texts of the program's own string table.
 #pragma once
 
-#include "app/Strings.h"
+#include "settings/Strings.h"
 
 namespace sonaro {
 

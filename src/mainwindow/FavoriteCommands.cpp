@@ -3,13 +3,13 @@
 #include <algorithm>
 #include <unordered_set>
 
-#include "app/CReg.h"
-#include "app/FileWords.h"
-#include "app/SettingNames.h"
-#include "app/Strings.h"
 #include "mainwindow/StationListing.h"
 #include "resources/texts/app.h"
 #include "resources/texts/mainwindow.h"
+#include "settings/CReg.h"
+#include "settings/FileWords.h"
+#include "settings/SettingNames.h"
+#include "settings/Strings.h"
 
 namespace sonaro {
 namespace {

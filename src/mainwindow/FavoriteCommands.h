@@ -6,8 +6,8 @@
 #include <string>
 #include <string_view>
 
-#include "app/Message.h"
-#include "mainwindow/FavoriteGroups.h"
+#include "settings/Message.h"
+#include "stations/FavoriteGroups.h"
 
 namespace sonaro {
 

@@ -7,14 +7,14 @@
 #include "base/DataFolder.h"
 #include "base/Text.h"
 #include "mainwindow/BrowseTree.h"
-#include "mainwindow/FavoriteGroups.h"
-#include "mainwindow/PlaylistTransfer.h"
 #include "mainwindow/Rankings.h"
 #include "mainwindow/SearchPanel.h"
 #include "mainwindow/StationActions.h"
 #include "mainwindow/StationDetail.h"
 #include "mainwindow/StationListing.h"
 #include "mainwindow/StationLists.h"
+#include "playlists/PlaylistTransfer.h"
+#include "stations/FavoriteGroups.h"
 
 namespace sonaro {
 

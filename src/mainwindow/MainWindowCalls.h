@@ -8,7 +8,7 @@
 #include <string>
 #include <vector>
 
-#include "app/Message.h"
+#include "settings/Message.h"
 
 namespace sonaro {
 

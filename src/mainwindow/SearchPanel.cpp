@@ -3,12 +3,12 @@
 #include <algorithm>
 #include <utility>
 
-#include "app/CReg.h"
-#include "app/SettingNames.h"
 #include "base/DataFolder.h"
 #include "base/Text.h"
-#include "base/UrlEncoding.h"
+#include "base/http/UrlEncoding.h"
 #include "mainwindow/StationListing.h"
+#include "settings/CReg.h"
+#include "settings/SettingNames.h"
 
 namespace sonaro {
 namespace {

@@ -9,7 +9,7 @@
 #include <string_view>
 #include <vector>
 
-#include "mainwindow/SearchHistory.h"
+#include "stations/SearchHistory.h"
 
 namespace sonaro {
 

@@ -3,12 +3,12 @@
 
 #include <array>
 
-#include "app/SettingNames.h"
 #include "forms/ControlIds.h"
 #include "mainwindow/SonaroFrm_panes.h"
 #include "mainwindow/SortEntries.h"
-#include "playback/PersonalStations.h"
 #include "resources/texts/mainwindow.h"
+#include "settings/SettingNames.h"
+#include "stations/PersonalStations.h"
 
 namespace sonaro {
 namespace {

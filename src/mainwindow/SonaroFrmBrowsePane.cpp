@@ -2,10 +2,10 @@
 
 #include <vector>
 
-#include "app/FigureText.h"
 #include "forms/ControlIds.h"
 #include "forms/Form.h"
 #include "forms/TreeView.h"
+#include "settings/FigureText.h"
 
 namespace sonaro {
 

@@ -8,8 +8,8 @@
 #include <cstddef>
 #include <string>
 
-#include "app/AppState.h"
 #include "mainwindow/BrowseTree.h"
+#include "settings/AppState.h"
 
 namespace sonaro {
 

@@ -10,7 +10,7 @@
 #include "forms/Form.h"
 #include "forms/Guard.h"
 #include "forms/ListView.h"
-#include "mainwindow/FavoriteGroups.h"
+#include "stations/FavoriteGroups.h"
 
 namespace sonaro {
 namespace {

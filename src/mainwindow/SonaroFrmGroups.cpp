@@ -1,10 +1,10 @@
 // The handlers of the favourite groups and of the page of the user's own things.
 #include <algorithm>
 
-#include "app/Strings.h"
 #include "forms/ControlIds.h"
 #include "mainwindow/SonaroFrm.h"
-#include "playback/StationSource.h"
+#include "settings/Strings.h"
+#include "stations/StationSource.h"
 
 namespace sonaro {
 

@@ -2,14 +2,14 @@
 
 #include <algorithm>
 
-#include "app/FigureText.h"
-#include "app/Strings.h"
 #include "forms/ControlIds.h"
 #include "forms/Form.h"
 #include "mainwindow/SonaroFrm_panes.h"
 #include "mainwindow/SortEntries.h"
 #include "mainwindow/StationListing.h"
 #include "resources/texts/mainwindow.h"
+#include "settings/FigureText.h"
+#include "settings/Strings.h"
 
 namespace sonaro {
 

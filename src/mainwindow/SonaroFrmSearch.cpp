@@ -1,7 +1,7 @@
 // The handlers of the search form.
-#include "app/WebPageOpener.h"
 #include "forms/ControlIds.h"
 #include "mainwindow/SonaroFrm.h"
+#include "settings/WebPageOpener.h"
 
 namespace sonaro {
 

@@ -1,10 +1,10 @@
 #include "mainwindow/SonaroFrmSearchPane.h"
 
-#include "app/Strings.h"
 #include "forms/ControlIds.h"
 #include "forms/Form.h"
 #include "mainwindow/SearchPanel.h"
 #include "resources/texts/mainwindow.h"
+#include "settings/Strings.h"
 
 namespace sonaro {
 

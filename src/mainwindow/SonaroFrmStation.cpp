@@ -1,12 +1,12 @@
 // The handlers of the station list, the browse tree and the selected station.
 #include <utility>
 
-#include "app/WebPageOpener.h"
 #include "forms/Clipboard.h"
 #include "forms/ControlIds.h"
 #include "mainwindow/SonaroFrm.h"
 #include "playback/PlayerLaunch.h"
-#include "playback/RecentList.h"
+#include "settings/WebPageOpener.h"
+#include "stations/RecentList.h"
 
 namespace sonaro {
 

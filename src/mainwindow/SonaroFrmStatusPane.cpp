@@ -2,10 +2,6 @@
 
 #include <algorithm>
 
-#include "app/CReg.h"
-#include "app/FigureText.h"
-#include "app/SettingNames.h"
-#include "app/Strings.h"
 #include "directory/StatList.h"
 #include "forms/ControlIds.h"
 #include "forms/Form.h"
@@ -13,6 +9,10 @@
 #include "mainwindow/MainModels.h"
 #include "mainwindow/SonaroFrm_panes.h"
 #include "resources/texts/mainwindow.h"
+#include "settings/CReg.h"
+#include "settings/FigureText.h"
+#include "settings/SettingNames.h"
+#include "settings/Strings.h"
 
 namespace sonaro {
 

@@ -1,10 +1,10 @@
 // The handlers that take groups and the user's own stations out to playlists and back in.
-#include "app/FileWords.h"
-#include "app/Strings.h"
 #include "forms/ControlIds.h"
 #include "mainwindow/SonaroFrm.h"
 #include "resources/texts/app.h"
 #include "resources/texts/mainwindow.h"
+#include "settings/FileWords.h"
+#include "settings/Strings.h"
 
 namespace sonaro {
 namespace {

@@ -4,10 +4,10 @@
 
 #include "forms/ControlIds.h"
 #include "forms/Form.h"
-#include "mainwindow/FavoriteGroups.h"
 #include "mainwindow/StationListing.h"
-#include "playback/RecentList.h"
 #include "resources/texts/mainwindow.h"
+#include "stations/FavoriteGroups.h"
+#include "stations/RecentList.h"
 
 namespace sonaro {
 namespace {

@@ -5,9 +5,9 @@
 #include <optional>
 #include <vector>
 
-#include "app/AppState.h"
 #include "forms/ListView.h"
 #include "mainwindow/MainWindowCalls.h"
+#include "settings/AppState.h"
 
 namespace sonaro {
 

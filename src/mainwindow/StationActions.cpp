@@ -3,13 +3,13 @@
 #include <array>
 #include <utility>
 
-#include "app/Strings.h"
 #include "forms/ControlIds.h"
-#include "mainwindow/FavoriteGroups.h"
 #include "mainwindow/MainWindowCalls.h"
 #include "mainwindow/SortEntries.h"
 #include "mainwindow/StationListing.h"
 #include "resources/texts/mainwindow.h"
+#include "settings/Strings.h"
+#include "stations/FavoriteGroups.h"
 
 namespace sonaro {
 namespace {

@@ -2,13 +2,13 @@
 
 #include <utility>
 
-#include "app/Strings.h"
 #include "base/Numbers.h"
 #include "base/Text.h"
-#include "playback/ExtraLinks.h"
-#include "playback/PersonalStations.h"
-#include "playback/PlayLink.h"
 #include "resources/texts/mainwindow.h"
+#include "settings/Strings.h"
+#include "stations/ExtraLinks.h"
+#include "stations/PersonalStations.h"
+#include "stations/PlayLink.h"
 
 namespace sonaro {
 namespace {

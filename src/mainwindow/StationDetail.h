@@ -6,9 +6,9 @@
 #include <string>
 #include <vector>
 
-#include "app/AppState.h"
-#include "playback/StationKey.h"
-#include "playback/StationSource.h"
+#include "settings/AppState.h"
+#include "stations/StationKey.h"
+#include "stations/StationSource.h"
 
 namespace sonaro {
 

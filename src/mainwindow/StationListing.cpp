@@ -2,13 +2,13 @@
 
 #include <utility>
 
-#include "app/Strings.h"
 #include "base/RowSelection.h"
 #include "base/Text.h"
 #include "mainwindow/BrowseTree.h"
-#include "mainwindow/FavoriteGroups.h"
 #include "mainwindow/StationLists.h"
 #include "resources/texts/mainwindow.h"
+#include "settings/Strings.h"
+#include "stations/FavoriteGroups.h"
 
 namespace sonaro {
 

@@ -4,14 +4,14 @@
 #include <optional>
 #include <utility>
 
-#include "app/Strings.h"
 #include "base/Numbers.h"
 #include "base/Text.h"
 #include "directory/StatList.h"
-#include "playback/PersonalStations.h"
-#include "playback/RecentList.h"
-#include "playback/StationKey.h"
 #include "resources/texts/mainwindow.h"
+#include "settings/Strings.h"
+#include "stations/PersonalStations.h"
+#include "stations/RecentList.h"
+#include "stations/StationKey.h"
 
 namespace sonaro {
 namespace {

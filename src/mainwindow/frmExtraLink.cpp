@@ -1,14 +1,14 @@
 #include "mainwindow/frmExtraLink.h"
 
-#include "app/FileWords.h"
-#include "app/Message.h"
 #include "forms/ControlIds.h"
 #include "forms/DialogRows.h"
-#include "playback/OwnLink.h"
-#include "playback/PersonalStations.h"
-#include "playback/PlayLink.h"
 #include "resources/texts/app.h"
 #include "resources/texts/mainwindow.h"
+#include "settings/FileWords.h"
+#include "settings/Message.h"
+#include "stations/OwnLink.h"
+#include "stations/PersonalStations.h"
+#include "stations/PlayLink.h"
 
 namespace sonaro {
 

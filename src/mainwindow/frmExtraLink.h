@@ -6,7 +6,7 @@
 #include <vector>
 
 #include "forms/Form.h"
-#include "playback/ExtraLinks.h"
+#include "stations/ExtraLinks.h"
 
 namespace sonaro {
 

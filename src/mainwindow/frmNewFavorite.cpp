@@ -1,11 +1,11 @@
 #include "mainwindow/frmNewFavorite.h"
 
-#include "app/HelpPages.h"
 #include "base/Text.h"
 #include "forms/ControlIds.h"
 #include "forms/DialogRows.h"
-#include "mainwindow/FavoriteGroups.h"
 #include "resources/texts/mainwindow.h"
+#include "settings/HelpPages.h"
+#include "stations/FavoriteGroups.h"
 
 namespace sonaro {
 

@@ -1,15 +1,15 @@
 #include "mainwindow/frmPersonalStation.h"
 
-#include "app/FileWords.h"
-#include "app/HelpPages.h"
-#include "app/Message.h"
 #include "base/Text.h"
 #include "forms/ControlIds.h"
 #include "forms/DialogRows.h"
-#include "playback/OwnLink.h"
-#include "playback/PlayLink.h"
 #include "resources/texts/app.h"
 #include "resources/texts/mainwindow.h"
+#include "settings/FileWords.h"
+#include "settings/HelpPages.h"
+#include "settings/Message.h"
+#include "stations/OwnLink.h"
+#include "stations/PlayLink.h"
 
 namespace sonaro {
 

@@ -2,7 +2,7 @@
 #pragma once
 
 #include "forms/Form.h"
-#include "playback/PersonalStations.h"
+#include "stations/PersonalStations.h"
 
 namespace sonaro {
 

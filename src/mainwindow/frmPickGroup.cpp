@@ -3,8 +3,8 @@
 #include "base/Text.h"
 #include "forms/ControlIds.h"
 #include "forms/DialogRows.h"
-#include "mainwindow/FavoriteGroups.h"
 #include "resources/texts/mainwindow.h"
+#include "stations/FavoriteGroups.h"
 
 namespace sonaro {
 

@@ -1,7 +1,7 @@
 #include "net/HttpFaultText.h"
 
-#include "app/Strings.h"
 #include "resources/texts/net.h"
+#include "settings/Strings.h"
 
 namespace sonaro {
 

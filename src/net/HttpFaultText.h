@@ -3,7 +3,7 @@
 
 #include <string>
 
-#include "base/HttpFault.h"
+#include "base/http/HttpFault.h"
 
 namespace sonaro {
 

@@ -4,10 +4,10 @@
 #include <string_view>
 #include <utility>
 
-#include "app/CReg.h"
-#include "app/SettingNames.h"
 #include "base/DataFolder.h"
 #include "base/Text.h"
+#include "settings/CReg.h"
+#include "settings/SettingNames.h"
 
 namespace sonaro {
 

@@ -2,12 +2,12 @@
 
 #include <algorithm>
 
-#include "app/CReg.h"
-#include "app/SettingNames.h"
 #include "base/Numbers.h"
 #include "base/Text.h"
-#include "base/UrlEncoding.h"
+#include "base/http/UrlEncoding.h"
 #include "platform/HttpControl.h"
+#include "settings/CReg.h"
+#include "settings/SettingNames.h"
 
 namespace sonaro {
 

@@ -2,11 +2,11 @@
 
 #include <optional>
 
-#include "app/CReg.h"
-#include "app/ServiceHosts.h"
-#include "app/SettingNames.h"
 #include "base/Text.h"
 #include "net/ServiceRequest.h"
+#include "settings/CReg.h"
+#include "settings/ServiceHosts.h"
+#include "settings/SettingNames.h"
 
 namespace sonaro {
 

@@ -1,13 +1,9 @@
 #include "net/UpdateExchange.h"
 
-#include "app/AppState.h"
-#include "app/CReg.h"
-#include "app/SettingNames.h"
-#include "app/Strings.h"
 #include "base/DataFolder.h"
 #include "base/OwnFiles.h"
 #include "base/Text.h"
-#include "base/UrlEncoding.h"
+#include "base/http/UrlEncoding.h"
 #include "net/ServiceAnswer.h"
 #include "net/ServiceRequest.h"
 #include "net/ServiceUrlTable.h"
@@ -16,6 +12,10 @@
 #include "net/UpdateInstall.h"
 #include "net/WhatIsNew.h"
 #include "resources/texts/net.h"
+#include "settings/AppState.h"
+#include "settings/CReg.h"
+#include "settings/SettingNames.h"
+#include "settings/Strings.h"
 
 namespace sonaro {
 

@@ -4,19 +4,19 @@
 #include <set>
 #include <string_view>
 
-#include "app/CReg.h"
-#include "app/CheckDataFiles.h"
-#include "app/DeferredSwap.h"
-#include "app/HeldNames.h"
-#include "app/SettingNames.h"
 #include "base/DataFolder.h"
 #include "base/Numbers.h"
 #include "base/OwnFiles.h"
 #include "base/Text.h"
+#include "directory/CheckDataFiles.h"
+#include "directory/DeferredSwap.h"
+#include "directory/HeldNames.h"
 #include "directory/StatList.h"
 #include "directory/StationListFile.h"
 #include "net/PreviousGuide.h"
 #include "net/UpdateFile.h"
+#include "settings/CReg.h"
+#include "settings/SettingNames.h"
 
 namespace sonaro {
 

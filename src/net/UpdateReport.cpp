@@ -2,10 +2,10 @@
 
 #include <algorithm>
 
-#include "app/Strings.h"
 #include "base/Text.h"
 #include "directory/StationListFile.h"
 #include "resources/texts/net.h"
+#include "settings/Strings.h"
 
 namespace sonaro {
 

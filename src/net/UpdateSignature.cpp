@@ -1,8 +1,8 @@
 #include "net/UpdateSignature.h"
 
 #include "base/DataFolder.h"
-#include "base/Signing.h"
 #include "base/Text.h"
+#include "base/crypto/Signing.h"
 #include "net/UpdateFormat.h"
 
 namespace sonaro {

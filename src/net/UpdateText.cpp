@@ -1,8 +1,8 @@
 #include "net/UpdateText.h"
 
-#include "app/Strings.h"
 #include "net/UpdateExchange.h"
 #include "resources/texts/net.h"
+#include "settings/Strings.h"
 
 namespace sonaro {
 

@@ -5,12 +5,12 @@
 #include <memory>
 #include <optional>
 
-#include "app/CReg.h"
-#include "app/SettingNames.h"
 #include "base/DataFolder.h"
 #include "base/Dates.h"
 #include "base/Numbers.h"
 #include "base/Text.h"
+#include "settings/CReg.h"
+#include "settings/SettingNames.h"
 
 namespace sonaro {
 

@@ -2,9 +2,6 @@
 
 #include <iterator>
 
-#include "app/CReg.h"
-#include "app/SettingNames.h"
-#include "app/Strings.h"
 #include "forms/ControlIds.h"
 #include "forms/DialogRows.h"
 #include "forms/ProgressScale.h"
@@ -12,6 +9,9 @@
 #include "net/ServiceUrlTable.h"
 #include "platform/Clock.h"
 #include "resources/texts/net.h"
+#include "settings/CReg.h"
+#include "settings/SettingNames.h"
+#include "settings/Strings.h"
 
 namespace sonaro {
 

@@ -3,11 +3,11 @@
 #include <algorithm>
 #include <cstdlib>
 
-#include "app/CReg.h"
-#include "app/SettingNames.h"
 #include "base/DataFolder.h"
 #include "base/Text.h"
 #include "playback/Players.h"
+#include "settings/CReg.h"
+#include "settings/SettingNames.h"
 
 namespace sonaro {
 

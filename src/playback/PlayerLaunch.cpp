@@ -2,14 +2,14 @@
 
 #include <optional>
 
-#include "app/Strings.h"
 #include "base/Numbers.h"
 #include "base/Text.h"
-#include "playback/PlayLink.h"
 #include "playback/Players.h"
-#include "playback/RecentList.h"
 #include "playback/WebPages.h"
 #include "resources/texts/playback.h"
+#include "settings/Strings.h"
+#include "stations/PlayLink.h"
+#include "stations/RecentList.h"
 
 namespace sonaro {
 

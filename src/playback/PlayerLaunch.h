@@ -5,8 +5,8 @@
 #include <functional>
 #include <string>
 
-#include "playback/StationKey.h"
-#include "playback/StationSource.h"
+#include "stations/StationKey.h"
+#include "stations/StationSource.h"
 
 namespace sonaro {
 

@@ -1,11 +1,11 @@
 #include "playback/PlayerReport.h"
 
-#include "app/AppState.h"
-#include "app/FigureText.h"
-#include "app/Strings.h"
 #include "base/DataFolder.h"
 #include "playback/Players.h"
 #include "resources/texts/playback.h"
+#include "settings/AppState.h"
+#include "settings/FigureText.h"
+#include "settings/Strings.h"
 
 namespace sonaro {
 

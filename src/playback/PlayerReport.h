@@ -5,7 +5,7 @@
 #include <array>
 #include <string>
 
-#include "playback/StationSource.h"
+#include "stations/StationSource.h"
 
 namespace sonaro {
 

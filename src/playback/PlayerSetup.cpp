@@ -2,12 +2,12 @@
 
 #include <algorithm>
 
-#include "app/CReg.h"
-#include "app/SettingNames.h"
 #include "base/Files.h"
 #include "base/Text.h"
-#include "playback/PlayLink.h"
 #include "playback/Players.h"
+#include "settings/CReg.h"
+#include "settings/SettingNames.h"
+#include "stations/PlayLink.h"
 
 namespace sonaro {
 

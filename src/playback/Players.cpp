@@ -2,12 +2,12 @@
 
 #include <algorithm>
 
-#include "app/CReg.h"
-#include "app/SettingNames.h"
 #include "base/DataFolder.h"
 #include "base/OwnFiles.h"
 #include "base/Text.h"
 #include "platform/Shell.h"
+#include "settings/CReg.h"
+#include "settings/SettingNames.h"
 
 namespace sonaro {
 

@@ -2,15 +2,15 @@
 
 #include <algorithm>
 
-#include "app/CReg.h"
-#include "app/SettingNames.h"
-#include "app/Strings.h"
 #include "base/Numbers.h"
 #include "base/Text.h"
 #include "platform/Clock.h"
 #include "playback/PlayerLaunch.h"
-#include "playback/StationSource.h"
 #include "resources/texts/playback.h"
+#include "settings/CReg.h"
+#include "settings/SettingNames.h"
+#include "settings/Strings.h"
+#include "stations/StationSource.h"
 
 namespace sonaro {
 

@@ -14,7 +14,7 @@
 #include <vector>
 
 #include "base/RowSelection.h"
-#include "playback/StationKey.h"
+#include "stations/StationKey.h"
 
 namespace sonaro {
 

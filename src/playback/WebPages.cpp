@@ -1,12 +1,12 @@
 #include "playback/WebPages.h"
 
-#include "app/Strings.h"
 #include "base/DataFolder.h"
 #include "base/Text.h"
 #include "platform/Shell.h"
-#include "playback/StationSource.h"
-#include "playback/WebAddress.h"
 #include "resources/texts/playback.h"
+#include "settings/Strings.h"
+#include "stations/StationSource.h"
+#include "stations/WebAddress.h"
 
 namespace sonaro {
 

@@ -4,7 +4,7 @@
 #include <functional>
 #include <string>
 
-#include "app/WebPageOpener.h"
+#include "settings/WebPageOpener.h"
 
 namespace sonaro {
 

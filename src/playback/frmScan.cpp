@@ -2,13 +2,13 @@
 
 #include <algorithm>
 
-#include "app/HelpPages.h"
-#include "app/Strings.h"
 #include "forms/ControlIds.h"
 #include "forms/ProgressScale.h"
 #include "forms/portable/MenuText.h"
 #include "playback/frmScanTime.h"
 #include "resources/texts/playback.h"
+#include "settings/HelpPages.h"
+#include "settings/Strings.h"
 
 namespace sonaro {
 

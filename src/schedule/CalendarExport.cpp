@@ -7,8 +7,8 @@
 #include <set>
 #include <string_view>
 
-#include "base/Signing.h"
 #include "base/Text.h"
+#include "base/crypto/Signing.h"
 #include "schedule/ScheduleItem.h"
 #include "schedule/ScheduleStore.h"
 

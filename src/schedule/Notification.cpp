@@ -4,10 +4,10 @@
 
 #include "base/Numbers.h"
 #include "base/Text.h"
-#include "playback/ExtraLinks.h"
-#include "playback/PlayLink.h"
 #include "schedule/ScheduleStore.h"
 #include "schedule/ScheduleTexts.h"
+#include "stations/ExtraLinks.h"
+#include "stations/PlayLink.h"
 
 namespace sonaro {
 

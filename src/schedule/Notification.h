@@ -6,9 +6,9 @@
 #include <string_view>
 #include <vector>
 
-#include "playback/StationSource.h"
 #include "schedule/ScheduleCalendar.h"
 #include "schedule/ScheduleItem.h"
+#include "stations/StationSource.h"
 
 namespace sonaro {
 

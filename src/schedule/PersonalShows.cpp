@@ -2,12 +2,12 @@
 
 #include <algorithm>
 
-#include "app/FileWords.h"
-#include "app/Message.h"
-#include "app/Strings.h"
 #include "base/Text.h"
 #include "resources/texts/app.h"
 #include "resources/texts/schedule.h"
+#include "settings/FileWords.h"
+#include "settings/Message.h"
+#include "settings/Strings.h"
 
 namespace sonaro {
 

@@ -2,16 +2,16 @@
 
 #include <map>
 
-#include "app/CReg.h"
-#include "app/Strings.h"
 #include "base/Numbers.h"
 #include "base/Text.h"
 #include "directory/StatList.h"
-#include "playback/PersonalStations.h"
-#include "playback/RecentList.h"
-#include "playback/StationKey.h"
 #include "resources/texts/playback.h"
 #include "resources/texts/schedule.h"
+#include "settings/CReg.h"
+#include "settings/Strings.h"
+#include "stations/PersonalStations.h"
+#include "stations/RecentList.h"
+#include "stations/StationKey.h"
 
 namespace sonaro {
 

@@ -2,7 +2,7 @@
 
 #include "base/Numbers.h"
 #include "base/Text.h"
-#include "base/UrlEncoding.h"
+#include "base/http/UrlEncoding.h"
 #include "platform/Clock.h"
 #include "platform/SystemInfo.h"
 

@@ -1,7 +1,5 @@
 #include "schedule/frmAboutEventTime.h"
 
-#include "app/HelpPages.h"
-#include "app/Strings.h"
 #include "forms/ControlIds.h"
 #include "forms/DialogRows.h"
 #include "platform/Clock.h"
@@ -9,6 +7,8 @@
 #include "resources/texts/app.h"
 #include "resources/texts/schedule.h"
 #include "schedule/TimeZone.h"
+#include "settings/HelpPages.h"
+#include "settings/Strings.h"
 
 namespace sonaro {
 

@@ -1,9 +1,9 @@
 #include "schedule/frmDateFinder.h"
 
-#include "app/HelpPages.h"
 #include "forms/ControlIds.h"
 #include "forms/DialogRows.h"
 #include "resources/texts/schedule.h"
+#include "settings/HelpPages.h"
 
 namespace sonaro {
 

@@ -2,10 +2,6 @@
 
 #include <algorithm>
 
-#include "app/FileWords.h"
-#include "app/HelpPages.h"
-#include "app/Message.h"
-#include "app/Strings.h"
 #include "base/DataFolder.h"
 #include "base/RowSelection.h"
 #include "forms/ControlIds.h"
@@ -18,6 +14,10 @@
 #include "schedule/ScheduleStore.h"
 #include "schedule/frmAboutEventTime.h"
 #include "schedule/frmSchedChange.h"
+#include "settings/FileWords.h"
+#include "settings/HelpPages.h"
+#include "settings/Message.h"
+#include "settings/Strings.h"
 
 namespace sonaro {
 

@@ -1,9 +1,5 @@
 #include "schedule/frmSchedChange.h"
 
-#include "app/FileWords.h"
-#include "app/HelpPages.h"
-#include "app/Message.h"
-#include "app/Strings.h"
 #include "forms/ControlIds.h"
 #include "platform/Clock.h"
 #include "resources/texts/app.h"
@@ -13,6 +9,10 @@
 #include "schedule/ScheduleTexts.h"
 #include "schedule/frmDateFinder.h"
 #include "schedule/frmSelectStation.h"
+#include "settings/FileWords.h"
+#include "settings/HelpPages.h"
+#include "settings/Message.h"
+#include "settings/Strings.h"
 
 namespace sonaro {
 

@@ -1,10 +1,10 @@
 #include "schedule/frmSelectStation.h"
 
-#include "app/HelpPages.h"
 #include "base/Text.h"
 #include "forms/ControlIds.h"
 #include "forms/DialogRows.h"
 #include "resources/texts/schedule.h"
+#include "settings/HelpPages.h"
 
 namespace sonaro {
 

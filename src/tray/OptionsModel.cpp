@@ -1,9 +1,9 @@
 #include "tray/OptionsModel.h"
 
-#include "app/CReg.h"
-#include "app/SettingNames.h"
 #include "base/Text.h"
 #include "faceplate/Faceplate.h"
+#include "settings/CReg.h"
+#include "settings/SettingNames.h"
 
 namespace sonaro {
 namespace {

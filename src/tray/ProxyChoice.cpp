@@ -2,10 +2,10 @@
 
 #include <algorithm>
 
-#include "app/CReg.h"
-#include "app/SettingNames.h"
 #include "base/Numbers.h"
 #include "base/Text.h"
+#include "settings/CReg.h"
+#include "settings/SettingNames.h"
 
 namespace sonaro {
 namespace {

@@ -1,10 +1,10 @@
 #include "tray/frmOptions.h"
 
-#include "app/Strings.h"
 #include "base/Text.h"
 #include "forms/ControlIds.h"
 #include "forms/MessageLoop.h"
 #include "resources/texts/tray.h"
+#include "settings/Strings.h"
 
 namespace sonaro {
 

@@ -2,11 +2,6 @@
 
 #include <algorithm>
 
-#include "app/CReg.h"
-#include "app/HelpPages.h"
-#include "app/ServiceHosts.h"
-#include "app/SettingNames.h"
-#include "app/Strings.h"
 #include "forms/ControlIds.h"
 #include "forms/DialogRows.h"
 #include "forms/FileDialog.h"
@@ -15,6 +10,11 @@
 #include "playback/PlayerSetup.h"
 #include "resources/texts/playback.h"
 #include "resources/texts/tray.h"
+#include "settings/CReg.h"
+#include "settings/HelpPages.h"
+#include "settings/ServiceHosts.h"
+#include "settings/SettingNames.h"
+#include "settings/Strings.h"
 #include "tray/ProxyChoice.h"
 
 namespace sonaro {

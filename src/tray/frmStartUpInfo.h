@@ -7,9 +7,9 @@
 #include <string>
 #include <vector>
 
-#include "app/StartUpInfoPage.h"
 #include "forms/Form.h"
-#include "playback/StationSource.h"
+#include "stations/StationSource.h"
+#include "tray/StartUpInfoPage.h"
 
 namespace sonaro {
 

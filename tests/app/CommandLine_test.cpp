@@ -1,9 +1,9 @@
 // What the program reads from its command line, and the addresses that it is built with.
 #include <gtest/gtest.h>
 
-#include "app/HelpPages.h"
-#include "app/ServiceHosts.h"
 #include "app/WhatToShow.h"
+#include "settings/HelpPages.h"
+#include "settings/ServiceHosts.h"
 
 namespace sonaro {
 namespace {

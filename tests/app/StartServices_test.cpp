@@ -1,20 +1,20 @@
 // The small services of the start: data files, files of the last update, help pages, live events.
 #include <gtest/gtest.h>
 
-#include "app/CReg.h"
-#include "app/CheckDataFiles.h"
-#include "app/DeferredSwap.h"
-#include "app/HeldNames.h"
-#include "app/HelpPages.h"
-#include "app/InstallId.h"
-#include "app/LiveEventUpdate.h"
-#include "app/WebPageOpener.h"
 #include "base/DataFolder.h"
+#include "directory/CheckDataFiles.h"
+#include "directory/DeferredSwap.h"
+#include "directory/HeldNames.h"
 #include "fakes/FakeFiles.h"
 #include "fakes/FakeMessageBox.h"
 #include "fakes/FakeRegistry.h"
 #include "fakes/FakeStrings.h"
+#include "net/LiveEventUpdate.h"
 #include "resources/texts/app.h"
+#include "settings/CReg.h"
+#include "settings/HelpPages.h"
+#include "settings/InstallId.h"
+#include "settings/WebPageOpener.h"
 
 namespace sonaro {
 namespace {

@@ -1,9 +1,6 @@
 // The machine dies at any moment of a start that brings an update in.
 #include <gtest/gtest.h>
 
-#include "app/AppState.h"
-#include "app/CReg.h"
-#include "app/HelpPages.h"
 #include "app/Startup.h"
 #include "app/StartupJournal.h"
 #include "base/DataFolder.h"
@@ -12,6 +9,9 @@
 #include "fakes/FakeShell.h"
 #include "fakes/FakeStrings.h"
 #include "playback/Players.h"
+#include "settings/AppState.h"
+#include "settings/CReg.h"
+#include "settings/HelpPages.h"
 
 namespace sonaro {
 namespace {

@@ -8,11 +8,11 @@
 #include <vector>
 
 #include "app/Startup.h"
-#include "app/WebPageOpener.h"
 #include "fakes/FakeMessageBox.h"
 #include "fakes/FakeMessagePost.h"
 #include "fakes/FakeRegistry.h"
 #include "fakes/FakeSystemInfo.h"
+#include "settings/WebPageOpener.h"
 
 namespace sonaro {
 

@@ -2,9 +2,6 @@
 
 #include <gtest/gtest.h>
 
-#include "app/AppState.h"
-#include "app/CReg.h"
-#include "app/HelpPages.h"
 #include "app/StartupJournal.h"
 #include "base/DataFolder.h"
 #include "directory/StatList.h"
@@ -13,6 +10,9 @@
 #include "fakes/FakeStrings.h"
 #include "playback/Players.h"
 #include "resources/texts/app.h"
+#include "settings/AppState.h"
+#include "settings/CReg.h"
+#include "settings/HelpPages.h"
 
 namespace sonaro {
 namespace {

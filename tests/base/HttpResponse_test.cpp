@@ -1,10 +1,10 @@
-#include "base/HttpResponse.h"
+#include "base/http/HttpResponse.h"
 
 #include <gtest/gtest.h>
 
 #include <vector>
 
-#include "base/HttpRequestText.h"
+#include "base/http/HttpRequestText.h"
 
 namespace sonaro {
 namespace {

@@ -1,4 +1,4 @@
-#include "base/Signing.h"
+#include "base/crypto/Signing.h"
 
 #include <gtest/gtest.h>
 

@@ -1,4 +1,4 @@
-#include "base/UrlEncoding.h"
+#include "base/http/UrlEncoding.h"
 
 #include <gtest/gtest.h>
 

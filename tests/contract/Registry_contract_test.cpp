@@ -1,8 +1,8 @@
 #include <gtest/gtest.h>
 
-#include "app/SettingsRegistry.h"
 #include "fakes/FakeFiles.h"
 #include "fakes/FakeRegistry.h"
+#include "settings/SettingsRegistry.h"
 #ifdef _WIN32
 #include <windows.h>
 

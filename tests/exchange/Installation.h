@@ -5,10 +5,8 @@
 #include <optional>
 #include <string>
 
-#include "app/CReg.h"
-#include "app/DeferredSwap.h"
-#include "app/SettingNames.h"
 #include "base/DataFolder.h"
+#include "directory/DeferredSwap.h"
 #include "directory/StatList.h"
 #include "exchange/SocketHttp.h"
 #include "fakes/FakeRegistry.h"
@@ -17,6 +15,8 @@
 #include "net/UpdateExchange.h"
 #include "net/UpdateInstall.h"
 #include "platform/posix/FilesPosix.h"
+#include "settings/CReg.h"
+#include "settings/SettingNames.h"
 
 namespace sonaro {
 

@@ -8,8 +8,8 @@
 #include <functional>
 #include <utility>
 
-#include "base/HttpRequestText.h"
-#include "base/HttpResponse.h"
+#include "base/http/HttpRequestText.h"
+#include "base/http/HttpResponse.h"
 #include "exchange/Servers.h"
 
 namespace sonaro {

@@ -2,10 +2,10 @@
 
 #include <gtest/gtest.h>
 
-#include "app/CReg.h"
 #include "base/DataFolder.h"
 #include "fakes/FakeFiles.h"
 #include "fakes/FakeRegistry.h"
+#include "settings/CReg.h"
 
 namespace sonaro {
 namespace {

@@ -5,7 +5,7 @@
 #include <string>
 #include <vector>
 
-#include "app/Message.h"
+#include "settings/Message.h"
 
 namespace sonaro {
 

@@ -3,7 +3,7 @@
 
 #include <string>
 
-#include "app/Strings.h"
+#include "settings/Strings.h"
 
 namespace sonaro {
 

@@ -7,7 +7,7 @@
 #include "fakes/FakeFiles.h"
 #include "fakes/ForgedTable.h"
 #include "fuzz/Targets.h"
-#include "mainwindow/Playlist.h"
+#include "playlists/Playlist.h"
 #include "schedule/EventDiary.h"
 #include "schedule/ScheduleStore.h"
 

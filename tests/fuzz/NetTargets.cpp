@@ -2,12 +2,10 @@
 #include <set>
 #include <string>
 
-#include "app/CReg.h"
-#include "app/SettingNames.h"
 #include "base/DataFolder.h"
-#include "base/HttpRequestText.h"
-#include "base/HttpResponse.h"
 #include "base/Text.h"
+#include "base/http/HttpRequestText.h"
+#include "base/http/HttpResponse.h"
 #include "fakes/FakeFiles.h"
 #include "fakes/FakeRegistry.h"
 #include "fuzz/Targets.h"
@@ -17,6 +15,8 @@
 #include "net/UpdateFile.h"
 #include "net/UpdateFormat.h"
 #include "net/WhatIsNew.h"
+#include "settings/CReg.h"
+#include "settings/SettingNames.h"
 
 namespace sonaro {
 

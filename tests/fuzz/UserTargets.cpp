@@ -3,18 +3,18 @@
 #include <string>
 #include <vector>
 
-#include "app/IniSettings.h"
 #include "base/DataFolder.h"
 #include "base/Text.h"
 #include "faceplate/Shape.h"
 #include "fakes/FakeFiles.h"
 #include "fuzz/Targets.h"
 #include "mainwindow/BrowseTree.h"
-#include "mainwindow/FavoriteGroups.h"
-#include "playback/ExtraLinks.h"
-#include "playback/PersonalStations.h"
 #include "schedule/CalendarExport.h"
 #include "schedule/ScheduleStore.h"
+#include "settings/IniSettings.h"
+#include "stations/ExtraLinks.h"
+#include "stations/FavoriteGroups.h"
+#include "stations/PersonalStations.h"
 
 namespace sonaro {
 namespace {

@@ -3,14 +3,14 @@
 #include <algorithm>
 #include <map>
 
-#include "app/AppState.h"
 #include "directory/Scrambling.h"
 #include "forms/ControlIds.h"
 #include "mainwindow/Models.h"
 #include "mainwindow/SortEntries.h"
-#include "playback/ExtraLinks.h"
-#include "playback/StationSource.h"
 #include "resources/texts/mainwindow.h"
+#include "settings/AppState.h"
+#include "stations/ExtraLinks.h"
+#include "stations/StationSource.h"
 
 namespace sonaro {
 namespace {

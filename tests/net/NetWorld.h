@@ -5,8 +5,6 @@
 #include <string>
 #include <string_view>
 
-#include "app/CReg.h"
-#include "app/SettingNames.h"
 #include "base/DataFolder.h"
 #include "directory/StatList.h"
 #include "fakes/FakeFiles.h"
@@ -15,6 +13,8 @@
 #include "fakes/FakeStrings.h"
 #include "net/UpdateFormat.h"
 #include "net/UpdateInstall.h"
+#include "settings/CReg.h"
+#include "settings/SettingNames.h"
 
 namespace sonaro {
 

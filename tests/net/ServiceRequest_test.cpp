@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-#include "base/HttpRequestText.h"
+#include "base/http/HttpRequestText.h"
 #include "net/NetWorld.h"
 #include "net/ProxyDetection.h"
 #include "net/ServiceAnswer.h"

@@ -5,7 +5,7 @@
 #include <optional>
 #include <random>
 
-#include "app/DeferredSwap.h"
+#include "directory/DeferredSwap.h"
 #include "net/NetWorld.h"
 #include "resources/texts/net.h"
 

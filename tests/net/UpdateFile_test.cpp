@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-#include "base/Signing.h"
+#include "base/crypto/Signing.h"
 #include "net/NetWorld.h"
 #include "net/UpdateReport.h"
 #include "net/UpdateSignature.h"

@@ -5,9 +5,9 @@
 #include <map>
 #include <optional>
 
-#include "app/CheckDataFiles.h"
-#include "app/DeferredSwap.h"
-#include "base/Signing.h"
+#include "base/crypto/Signing.h"
+#include "directory/CheckDataFiles.h"
+#include "directory/DeferredSwap.h"
 #include "net/NetWorld.h"
 #include "net/UpdateFile.h"
 #include "net/UpdateSignature.h"

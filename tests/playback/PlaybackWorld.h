@@ -5,7 +5,6 @@
 #include <string>
 #include <vector>
 
-#include "app/CReg.h"
 #include "base/DataFolder.h"
 #include "directory/Scrambling.h"
 #include "directory/StatList.h"
@@ -13,12 +12,13 @@
 #include "fakes/FakeRegistry.h"
 #include "fakes/FakeShell.h"
 #include "fakes/FakeStrings.h"
-#include "playback/PersonalStations.h"
 #include "playback/PlayerLaunch.h"
 #include "playback/Players.h"
-#include "playback/RecentList.h"
-#include "playback/StationSource.h"
 #include "playback/WebPages.h"
+#include "settings/CReg.h"
+#include "stations/PersonalStations.h"
+#include "stations/RecentList.h"
+#include "stations/StationSource.h"
 
 namespace sonaro {
 

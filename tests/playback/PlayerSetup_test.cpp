@@ -3,12 +3,12 @@
 
 #include <cstdlib>
 
-#include "app/AppState.h"
 #include "playback/InstalledPlayers.h"
 #include "playback/PlaybackWorld.h"
 #include "playback/PlayerReport.h"
 #include "playback/PlayerSetup.h"
 #include "resources/texts/playback.h"
+#include "settings/AppState.h"
 
 namespace sonaro {
 namespace {

@@ -6,14 +6,14 @@
 #include "directory/Scrambling.h"
 #include "directory/StatList.h"
 #include "fakes/FakeFiles.h"
-#include "playback/ExtraLinks.h"
-#include "playback/PersonalStations.h"
 #include "schedule/EventDiary.h"
 #include "schedule/Notification.h"
 #include "schedule/ScheduleDraft.h"
 #include "schedule/ScheduleList.h"
 #include "schedule/ScheduleStore.h"
 #include "schedule/SimulatedClock.h"
+#include "stations/ExtraLinks.h"
+#include "stations/PersonalStations.h"
 
 namespace sonaro {
 namespace {

@@ -2,11 +2,11 @@
 
 #include <algorithm>
 
-#include "app/HelpPages.h"
 #include "base/Text.h"
 #include "commands/LocalFolder.h"
 #include "net/UpdateFile.h"
 #include "net/UpdateFormat.h"
+#include "settings/HelpPages.h"
 #include "site/UpdateText.h"
 #include "tool/ToolTest.h"
 

@@ -1,12 +1,12 @@
 // The options: how settings read, what is refused, and that only what was changed is written.
 #include <gtest/gtest.h>
 
-#include "app/CReg.h"
-#include "app/SettingNames.h"
 #include "base/DataFolder.h"
 #include "faceplate/Faceplate.h"
 #include "fakes/FakeFiles.h"
 #include "fakes/FakeRegistry.h"
+#include "settings/CReg.h"
+#include "settings/SettingNames.h"
 #include "tray/OptionsModel.h"
 
 namespace sonaro {

@@ -5,7 +5,6 @@
 #include <memory>
 #include <set>
 
-#include "app/HelpPages.h"
 #include "app/MsgboxFrm.h"
 #include "app/frmSplash.h"
 #include "directory/Scrambling.h"
@@ -30,7 +29,6 @@
 #include "playback/PlayerReport.h"
 #include "playback/PlayerSetup.h"
 #include "playback/Players.h"
-#include "playback/RecentList.h"
 #include "playback/StationScan.h"
 #include "playback/WebPages.h"
 #include "playback/frmScan.h"
@@ -47,6 +45,8 @@
 #include "schedule/frmSched.h"
 #include "schedule/frmSchedChange.h"
 #include "schedule/frmSelectStation.h"
+#include "settings/HelpPages.h"
+#include "stations/RecentList.h"
 #include "tray/frmOptions.h"
 #include "tray/frmStartUpInfo.h"
 #include "windows/FormCheck.h"

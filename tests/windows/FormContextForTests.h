@@ -5,7 +5,6 @@
 #include <string>
 #include <vector>
 
-#include "app/CReg.h"
 #include "base/DataFolder.h"
 #include "faceplate/Faceplate.h"
 #include "faceplate/Shape.h"
@@ -13,6 +12,7 @@
 #include "fakes/FakeRegistry.h"
 #include "fakes/FakeStrings.h"
 #include "forms/Form.h"
+#include "settings/CReg.h"
 
 namespace sonaro {
 

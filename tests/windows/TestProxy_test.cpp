@@ -1,7 +1,6 @@
 // The test of a proxy, with the real words, by way of a server that plays the proxy.
 #include <gtest/gtest.h>
 
-#include "app/SettingNames.h"
 #include "contract/HttpListener.h"
 #include "forms/ControlIds.h"
 #include "forms/StringTable.h"
@@ -9,6 +8,7 @@
 #include "net/frmTestProxy.h"
 #include "platform/win/ClockWin.h"
 #include "platform/win/HttpControlWin.h"
+#include "settings/SettingNames.h"
 #include "windows/FormContextForTests.h"
 #include "windows/Pump.h"
 

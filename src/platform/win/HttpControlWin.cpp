@@ -5,8 +5,8 @@
 #include <thread>
 #include <utility>
 
-#include "base/HttpRequestText.h"
-#include "base/HttpResponse.h"
+#include "base/http/HttpRequestText.h"
+#include "base/http/HttpResponse.h"
 #include "platform/win/SocketHandles.h"
 
 namespace sonaro {

@@ -12,7 +12,7 @@
 #include <memory>
 #include <string>
 
-#include "base/HttpFault.h"
+#include "base/http/HttpFault.h"
 #include "platform/HttpControl.h"
 
 namespace sonaro {

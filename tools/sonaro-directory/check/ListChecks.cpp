@@ -6,8 +6,8 @@
 #include "base/Text.h"
 #include "check/Checks.h"
 #include "output/RankingLists.h"
-#include "playback/PlayLink.h"
 #include "schedule/ScheduleItem.h"
+#include "stations/PlayLink.h"
 
 namespace sonaro {
 namespace {

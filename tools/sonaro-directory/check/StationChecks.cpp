@@ -11,8 +11,8 @@
 #include "directory/EvList.h"
 #include "directory/StatList.h"
 #include "directory/StationListFile.h"
-#include "playback/PlayLink.h"
-#include "playback/WebAddress.h"
+#include "stations/PlayLink.h"
+#include "stations/WebAddress.h"
 
 namespace sonaro {
 namespace {

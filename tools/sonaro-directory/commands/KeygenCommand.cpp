@@ -3,7 +3,7 @@
 #include <ostream>
 #include <random>
 
-#include "base/Signing.h"
+#include "base/crypto/Signing.h"
 #include "commands/Commands.h"
 #include "commands/LocalFolder.h"
 

@@ -5,12 +5,12 @@
 #include <set>
 #include <vector>
 
-#include "app/ServiceHosts.h"
 #include "base/Text.h"
 #include "directory/EvList.h"
 #include "directory/StatList.h"
 #include "output/CategoryTree.h"
 #include "output/RankingLists.h"
+#include "settings/ServiceHosts.h"
 
 namespace sonaro {
 namespace {

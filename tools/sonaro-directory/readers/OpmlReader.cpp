@@ -4,8 +4,8 @@
 #include <vector>
 
 #include "base/Numbers.h"
-#include "base/OutlineReader.h"
 #include "base/Text.h"
+#include "base/xml/OutlineReader.h"
 #include "readers/Readers.h"
 #include "text/Hints.h"
 

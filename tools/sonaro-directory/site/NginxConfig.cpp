@@ -1,7 +1,7 @@
 #include "site/NginxConfig.h"
 
 #include "base/Text.h"
-#include "base/UrlEncoding.h"
+#include "base/http/UrlEncoding.h"
 
 namespace sonaro {
 namespace {

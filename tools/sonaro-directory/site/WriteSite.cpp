@@ -1,10 +1,10 @@
 #include "site/WriteSite.h"
 
-#include "app/ServiceHosts.h"
-#include "app/SettingNames.h"
-#include "base/Signing.h"
+#include "base/crypto/Signing.h"
 #include "net/ServiceUrlTable.h"
 #include "net/UpdateFormat.h"
+#include "settings/ServiceHosts.h"
+#include "settings/SettingNames.h"
 #include "site/HelpSite.h"
 #include "site/NginxConfig.h"
 #include "site/UpdateText.h"

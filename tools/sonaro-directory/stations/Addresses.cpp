@@ -5,7 +5,7 @@
 #include <span>
 
 #include "base/Text.h"
-#include "playback/PlayLink.h"
+#include "stations/PlayLink.h"
 #include "text/Hints.h"
 
 namespace sonaro {

@@ -7,9 +7,9 @@
 #include "base/Text.h"
 #include "directory/StationListFile.h"
 #include "directory/StationRecord.h"
-#include "playback/PlayLink.h"
 #include "stations/Addresses.h"
 #include "stations/IdNumbers.h"
+#include "stations/PlayLink.h"
 #include "text/CleanText.h"
 
 namespace sonaro {

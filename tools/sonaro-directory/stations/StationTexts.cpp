@@ -7,7 +7,7 @@
 
 #include "base/Text.h"
 #include "places/Languages.h"
-#include "playback/PlayLink.h"
+#include "stations/PlayLink.h"
 #include "text/CleanText.h"
 
 namespace sonaro {

@@ -1,0 +1,36 @@
+#include "directory/HeldNames.h"
+
+#include <algorithm>
+
+#include "base/Text.h"
+
+namespace sonaro {
+
+HeldNames::HeldNames(std::string_view text) {
+  while (text.find('\t') != std::string_view::npos) Add(TakeUntil(text, '\t'));
+}
+
+bool HeldNames::Contains(std::string_view name) const {
+  return std::any_of(names_.begin(), names_.end(),
+                     [name](const std::string& held) { return EqualIgnoringCase(held, name); });
+}
+
+void HeldNames::Add(std::string_view name) {
+  if (!Contains(name)) names_.emplace_back(name);
+}
+
+void HeldNames::Add(const HeldNames& names) {
+  for (const std::string& name : names) Add(name);
+}
+
+void HeldNames::Remove(std::string_view name) {
+  std::erase_if(names_, [name](const std::string& held) { return EqualIgnoringCase(held, name); });
+}
+
+std::string HeldNames::Text() const {
+  std::string text;
+  for (const std::string& name : names_) text.append(name).append("\t");
+  return text;
+}
+
+}  // namespace sonaro

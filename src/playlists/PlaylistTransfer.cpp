@@ -1,0 +1,198 @@
+#include "playlists/PlaylistTransfer.h"
+
+#include <algorithm>
+#include <functional>
+#include <tuple>
+#include <unordered_set>
+#include <utility>
+
+#include "base/DataFolder.h"
+#include "base/Files.h"
+#include "base/Text.h"
+#include "stations/FavoriteGroups.h"
+#include "stations/FieldText.h"
+#include "stations/StationKey.h"
+#include "stations/StationSource.h"
+
+namespace sonaro {
+namespace {
+
+auto WithoutIndex(const PersonalStation& s) { return std::tie(s.name, s.links, s.webSite, s.type, s.note); }
+
+bool HasNoLink(const PersonalStation& station) { return station.links == std::array<std::string, 3>(); }
+
+}  // namespace
+
+// The user's own stations for one import, found by everything but their index.
+class OwnStationIndex {
+ public:
+  // `compared` grows by one for each pair of stations that is compared.
+  OwnStationIndex(std::vector<PersonalStation> stations, std::size_t& compared)
+      : stations_(std::move(stations)), known_(stations_.size(), HashOfStation(), SameStation{compared}) {
+    for (const PersonalStation& station : stations_) known_.insert(&station);
+  }
+  OwnStationIndex(const OwnStationIndex&) = delete;
+  OwnStationIndex& operator=(const OwnStationIndex&) = delete;
+
+  // Null when there is none.
+  const PersonalStation* Find(const PersonalStation& wanted) const {
+    const auto found = known_.find(&wanted);
+    return found == known_.end() ? nullptr : *found;
+  }
+
+ private:
+  struct HashOfStation {
+    std::size_t operator()(const PersonalStation* station) const {
+      std::string text = station->name;  // and all else, or a file could be made of stations that collide
+      for (const std::string* field : {&station->links[0], &station->links[1], &station->links[2],
+                                       &station->webSite, &station->type, &station->note}) {
+        text.append(1, '\t').append(*field);
+      }
+      return std::hash<std::string>()(text);
+    }
+  };
+
+  struct SameStation {
+    std::size_t& compared;
+    bool operator()(const PersonalStation* a, const PersonalStation* b) const {
+      ++compared;
+      return WithoutIndex(*a) == WithoutIndex(*b);
+    }
+  };
+
+  const std::vector<PersonalStation> stations_;
+  std::unordered_set<const PersonalStation*, HashOfStation, SameStation> known_;
+};
+
+bool PlaylistTransfer::ExportGroup(std::size_t group, const std::string& path) {
+  if (group >= groups_.Count()) return false;
+  Playlist playlist;
+  playlist.title = groups_.Name(group);
+  for (const std::string_view token : groups_.Tokens(group)) {
+    PlaylistEntry entry = EntryOf(token);
+    if (!entry.station.name.empty()) playlist.entries.push_back(std::move(entry));
+  }
+  return Save(std::move(playlist), path);
+}
+
+bool PlaylistTransfer::ExportPersonalStations(const std::string& path) {
+  Playlist playlist;
+  for (PersonalStation& station : personal_.All()) {
+    station.index = 0;
+    playlist.entries.push_back({std::move(station), {}});
+  }
+  return Save(std::move(playlist), path);
+}
+
+PlaylistEntry PlaylistTransfer::EntryOf(std::string_view token) const {
+  PlaylistEntry entry;
+  const StationKey key = StationKey::FromToken(token);
+  if (key.kind == StationKey::Kind::Personal) {
+    if (const PersonalStation* station = personal_.Find(key.number)) entry.station = *station;
+    entry.station.index = 0;
+    return entry;
+  }
+  entry.stationId = token;
+  entry.station.name = token;
+  const StationRecord record = source_.Record(key.number);
+  if (record.Empty()) return entry;
+  entry.station.name = record[StationField::Name];
+  entry.station.links = {record[StationField::LinkOne], record[StationField::LinkTwo],
+                         record[StationField::LinkThree]};
+  entry.station.webSite = record[StationField::WebSite];
+  entry.station.type = record[StationField::MediaType];
+  return entry;
+}
+
+bool PlaylistTransfer::Save(Playlist playlist, const std::string& path) {
+  playlist.format = FormatOfFileName(path);
+  return SaveWholeFile(files_, path, WritePlaylist(playlist));
+}
+
+ImportResult PlaylistTransfer::Read(const std::string& path, Playlist& playlist) {
+  ImportResult result;
+  const ReadResult file = ReadWholeFile(files_, path);
+  if (file.status != ReadStatus::Ok) {
+    result.status = ImportResult::Status::NotRead;
+    return result;
+  }
+  playlist = ReadPlaylist(file.bytes);
+  if (playlist.format == PlaylistFormat::NotAPlaylist) result.status = ImportResult::Status::NotAPlaylist;
+  result.skipped = playlist.skipped;
+  result.damaged = playlist.damaged;
+  return result;
+}
+
+ImportResult PlaylistTransfer::ImportPersonalStations(const std::string& path) {
+  Playlist playlist;
+  ImportResult result = Read(path, playlist);
+  if (result.status != ImportResult::Status::Ok) return result;
+  for (PlaylistEntry& entry : playlist.entries) entry.stationId.clear();
+  const std::size_t before = personal_.All().size();
+  const auto tokens = TokensFor(playlist.entries, result);
+  result.added = personal_.All().size() - before;
+  result.known = tokens.size() - result.added;
+  return result;
+}
+
+ImportResult PlaylistTransfer::ImportIntoGroup(std::size_t group, const std::string& path) {
+  Playlist playlist;
+  ImportResult result = Read(path, playlist);
+  if (result.status != ImportResult::Status::Ok || group >= groups_.Count()) return result;
+  const std::size_t ownBefore = personal_.All().size();
+  const auto tokens = TokensFor(playlist.entries, result);
+  if (result.status != ImportResult::Status::Ok) return result;
+  const std::size_t before = groups_.Tokens(group).size();
+  if (groups_.AddStations(group, tokens) == FavoriteChange::NotSaved) {
+    result.added = personal_.All().size() - ownBefore;
+    const bool some = result.added > 0;
+    result.status = some ? ImportResult::Status::GroupNotSaved : ImportResult::Status::NotSaved;
+    return result;
+  }
+  result.added = groups_.Tokens(group).size() - before;
+  result.known = tokens.size() - result.added;
+  return result;
+}
+
+std::vector<std::string> PlaylistTransfer::TokensFor(const std::vector<PlaylistEntry>& entries,
+                                                     ImportResult& result) {
+  const OwnStationIndex own(personal_.All(), result.compared);
+  std::vector<std::string> tokens;
+  std::vector<PersonalStation> fresh;
+  std::vector<std::size_t> places;  // of the fresh ones in `tokens`
+  for (const PlaylistEntry& entry : entries) {
+    tokens.push_back(KnownToken(entry, own));
+    if (!tokens.back().empty()) continue;
+    if (HasNoLink(entry.station) && entry.station.webSite.empty()) {
+      ++result.skipped;
+      continue;
+    }
+    places.push_back(tokens.size() - 1);
+    fresh.push_back(entry.station);
+  }
+  const std::vector<std::int32_t> indices = personal_.AddAll(fresh);
+  if (indices.size() != fresh.size()) result.status = ImportResult::Status::NotSaved;
+  for (std::size_t i = 0; i < std::min(indices.size(), places.size()); ++i) {
+    const StationKey key{StationKey::Kind::Personal, indices[i]};
+    if (indices[i] != 0) tokens[places[i]] = key.Token();
+  }
+  std::erase(tokens, std::string());
+  return tokens;
+}
+
+std::string PlaylistTransfer::KnownToken(const PlaylistEntry& entry, const OwnStationIndex& own) const {
+  const StationKey key = StationKey::FromToken(entry.stationId);
+  if (key.kind == StationKey::Kind::Directory) {
+    const StationRecord record = source_.Record(key.number);
+    // Another guide may have given the identifier to another station. The entry's name is one that was
+    // cleaned.
+    const std::string name = CleanField(record[StationField::Name], PersonalStation::kMaxName);
+    if (record.Empty() ? HasNoLink(entry.station) : EqualIgnoringCase(name, entry.station.name)) {
+      return entry.stationId;
+    }
+  }
+  const PersonalStation* const same = own.Find(entry.station);
+  return same ? StationKey{StationKey::Kind::Personal, same->index}.Token() : std::string();
+}
+
+}  // namespace sonaro

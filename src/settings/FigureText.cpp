@@ -1,0 +1,14 @@
+#include "settings/FigureText.h"
+
+namespace sonaro {
+
+std::string FigureText(std::size_t figure, DecimalMode mode) {
+  std::string text = std::to_string(figure);
+  for (std::size_t place = text.size(); place > 3;) {
+    place -= 3;
+    text.insert(place, 1, mode == DecimalMode::Comma ? '.' : ',');
+  }
+  return text;
+}
+
+}  // namespace sonaro

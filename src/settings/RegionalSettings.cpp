@@ -1,0 +1,55 @@
+#include "settings/RegionalSettings.h"
+
+#include <string>
+
+#include "base/Text.h"
+#include "platform/SystemInfo.h"
+#include "settings/AppState.h"
+#include "settings/CReg.h"
+#include "settings/SettingNames.h"
+
+namespace sonaro {
+
+namespace {
+
+std::string International(CReg& reg, const std::string& valueName) {
+  MainKeyScope user(reg, RootKey::CurrentUser);
+  return reg.GetData(systemkey::kInternational, valueName);
+}
+
+// The pattern in which the platform wrote 25 December 2003; "" when it did not write numbers.
+std::string PatternOf(const std::string& sampleDate) {
+  std::string pattern = ReplaceFirst(sampleDate, "2003", "yyyy");
+  if (pattern == sampleDate) pattern = ReplaceFirst(sampleDate, "03", "yy");
+  if (pattern == sampleDate) return {};
+  for (const auto& [number, part] : {std::pair{"12", "M"}, {"25", "d"}}) {
+    if (pattern.find(number) == std::string::npos) return {};
+    pattern = ReplaceFirst(pattern, number, part);
+  }
+  return pattern;
+}
+
+}  // namespace
+
+void ReadClockStyle(CReg& reg, AppState& state) {
+  const std::string timeFormat = International(reg, systemkey::kTimeFormat);
+  bool twelveHours = timeFormat.find("tt") != std::string::npos;
+  if (timeFormat.empty()) {
+    const std::string locale = '|' + International(reg, systemkey::kLocale) + '|';
+    twelveHours = reg.Setting(setting::kLocal).find(locale) != std::string::npos;
+  }
+  state.clockStyle = twelveHours ? ClockStyle::Hours12 : ClockStyle::Hours24;
+}
+
+void ReadShortDatePattern(CReg& reg, SystemInfo& systemInfo, AppState& state) {
+  state.shortDatePattern = International(reg, systemkey::kShortDate);
+  if (state.shortDatePattern.empty()) state.shortDatePattern = PatternOf(systemInfo.FormattedSampleDate());
+  if (state.shortDatePattern.empty()) state.shortDatePattern = "M/d/yyyy";
+}
+
+void ReadDecimalMode(SystemInfo& systemInfo, AppState& state) {
+  const bool comma = systemInfo.FormattedEightAndAHalf().find(',') != std::string::npos;
+  state.decimalMode = comma ? DecimalMode::Comma : DecimalMode::Point;
+}
+
+}  // namespace sonaro

@@ -1,0 +1,153 @@
+#include "stations/PersonalStations.h"
+
+#include <algorithm>
+#include <limits>
+
+#include "base/Numbers.h"
+#include "base/Text.h"
+#include "stations/FieldText.h"
+
+namespace sonaro {
+
+namespace {
+
+constexpr std::size_t kFields = 8;
+
+std::string LineText(const PersonalStation& station) {
+  std::string text = std::to_string(station.index);
+  for (const std::string* field : {&station.name, &station.links[0], &station.links[1], &station.links[2],
+                                   &station.webSite, &station.type, &station.note}) {
+    text.append(1, '\t').append(*field);
+  }
+  return text;
+}
+
+}  // namespace
+
+PersonalStation Cleaned(const PersonalStation& station) {
+  PersonalStation clean;
+  clean.index = station.index;
+  clean.name = CleanField(station.name, PersonalStation::kMaxName);
+  for (std::size_t i = 0; i < clean.links.size(); ++i) {
+    clean.links[i] = CleanedLink(station.links[i]);
+  }
+  clean.webSite = CleanField(station.webSite, PersonalStation::kMaxLink);
+  clean.type = CleanField(station.type, PersonalStation::kMaxName);
+  clean.note = CleanField(station.note, PersonalStation::kMaxNote);
+  return clean;
+}
+
+bool PersonalStations::Load() {
+  if (file_.Look() == UserFile::Seen::Unreadable) return false;
+  ReadFile();
+  return true;
+}
+
+bool PersonalStations::Refresh() {
+  const UserFile::Seen seen = file_.Look();
+  if (seen == UserFile::Seen::Changed) ReadFile();
+  return seen != UserFile::Seen::Unreadable;
+}
+
+// No index that was ever given is forgotten, even if it has left the file.
+void PersonalStations::ReadFile() {
+  lineOf_.clear();
+  std::vector<Line> lines;
+  for (const std::string_view text : SplitLines(file_.Text())) lines.push_back(ReadLine(text));
+  Adopt(std::move(lines));
+}
+
+// An index counts as given even when the rest of its line makes no sense.
+PersonalStations::Line PersonalStations::ReadLine(std::string_view text) {
+  const auto fields = Split(text, '\t');
+  std::int32_t index = 0;
+  const bool numbered = ParseStationId(fields[0], index) && index > 0;
+  if (numbered) highestIndex_ = std::max(highestIndex_, index);
+  if (!numbered || fields.size() != kFields || CleanField(fields[1], PersonalStation::kMaxName).empty() ||
+      !lineOf_.emplace(index, 0).second) {
+    return {{}, std::string(text)};
+  }
+  PersonalStation station;
+  station.index = index;
+  station.name = fields[1];
+  for (std::size_t i = 0; i < station.links.size(); ++i) station.links[i] = fields[2 + i];
+  station.webSite = fields[5];
+  station.type = fields[6];
+  station.note = fields[7];
+  return {Cleaned(station), {}};
+}
+
+void PersonalStations::Adopt(std::vector<Line> lines) {
+  lines_ = std::move(lines);
+  lineOf_.clear();
+  for (std::size_t i = 0; i < lines_.size(); ++i) {
+    const std::int32_t index = lines_[i].station.index;
+    if (index != 0) lineOf_[index] = i;
+    highestIndex_ = std::max(highestIndex_, index);
+  }
+}
+
+bool PersonalStations::Save(std::vector<Line> changed) {
+  std::string text;
+  for (const Line& line : changed) {
+    text.append(line.station.index != 0 ? LineText(line.station) : line.kept).append("\r\n");
+  }
+  if (!file_.Save(text)) return false;
+  Adopt(std::move(changed));
+  return true;
+}
+
+std::vector<PersonalStation> PersonalStations::All() const {
+  std::vector<PersonalStation> stations;
+  for (const Line& line : lines_) {
+    if (line.station.index != 0) stations.push_back(line.station);
+  }
+  return stations;
+}
+
+const PersonalStation* PersonalStations::Find(std::int32_t index) const {
+  const auto found = lineOf_.find(index);
+  return found == lineOf_.end() ? nullptr : &lines_[found->second].station;
+}
+
+std::int32_t PersonalStations::Add(const PersonalStation& station) {
+  const auto indices = AddAll({&station, 1});
+  return indices.empty() ? 0 : indices[0];
+}
+
+std::vector<std::int32_t> PersonalStations::AddAll(std::span<const PersonalStation> stations) {
+  if (!Refresh()) return {};
+  std::vector<Line> changed = lines_;
+  std::vector<std::int32_t> indices;
+  std::int32_t highest = highestIndex_;
+  for (const PersonalStation& station : stations) {
+    Line line{Cleaned(station), {}};
+    const bool fits = !line.station.name.empty() && highest < std::numeric_limits<std::int32_t>::max();
+    line.station.index = fits ? ++highest : 0;
+    indices.push_back(line.station.index);
+    if (fits) changed.push_back(std::move(line));
+  }
+  if (highest == highestIndex_ || !Save(std::move(changed))) return {};
+  return indices;
+}
+
+bool PersonalStations::Change(const PersonalStation& station) {
+  if (!Refresh()) return false;
+  const auto found = lineOf_.find(station.index);
+  PersonalStation clean = Cleaned(station);
+  if (found == lineOf_.end() || clean.name.empty()) return false;
+  std::vector<Line> changed = lines_;
+  changed[found->second].station = std::move(clean);
+  return Save(std::move(changed));
+}
+
+bool PersonalStations::Delete(std::int32_t index) {
+  if (!Refresh()) return false;
+  const auto found = lineOf_.find(index);
+  if (found == lineOf_.end()) return false;
+  std::vector<Line> changed = lines_;
+  changed[found->second] = {{}, std::to_string(index)};
+  return Save(std::move(changed));
+}
+
+}  // namespace sonaro
