@@ -56,13 +56,18 @@ void GiveFirstFocus(FormParts& parts) {
 }  // namespace
 
 Form::Form(FormContext& context, const FormDesign& design)
-    : parts_(std::make_shared<FormParts>(*this, context, design)) {}
+    : parts_(std::make_shared<FormParts>(*this, context, design)) {
+  AddPart(*this);
+}
 
 Form::~Form() {
   parts_->form = nullptr;
+  parts_->targets.clear();  // panes are members of the derived form, which is gone already
   parts_->closing = true;
   parts_->Destroy();
 }
+
+void Form::AddPart(EventTarget& pane) { parts_->targets.push_back(&pane); }
 
 bool Form::Create(HWND owner) {
   if (IsOpen()) return true;

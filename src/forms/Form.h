@@ -53,6 +53,8 @@
 //   frmGreet greet(context, greeting);
 //   if (greet.ShowModal(main.Window()) == 1) ...
 //
+// A form of many controls gives each of its panes an event table of its own (EventTable.h, AddPart).
+//
 // What every form does by itself: outline, dragging, painting at any dpi, high contrast, Tab and arrow keys,
 // access keys, Enter on the primary key, Esc and Alt+F4 (see OnCloseRequest), F1 on butHelp, tool tips, click
 // sound, the hidden label lblBringUp. A handler may close or destroy its own form.
@@ -66,7 +68,7 @@
 #include <string>
 #include <string_view>
 
-#include "forms/FormControl.h"
+#include "forms/EventTable.h"
 #include "forms/FormDesign.h"
 #include "forms/Menu.h"
 
@@ -92,70 +94,10 @@ struct FormContext {
   std::function<void(const std::string& caption)> bringUp = {};  // lblBringUp's caption was set
 };
 
-// Rows of the event tables. The kind of event fixes the handler's parameters; a row with the wrong kind of
-// handler does not compile.
-class EventRow {
- public:
-  using Kind = FormEvent::Kind;
-  enum Plain : unsigned char {
-    Click = static_cast<unsigned char>(Kind::Click),
-    Change = static_cast<unsigned char>(Kind::Change),
-    SelChange = static_cast<unsigned char>(Kind::SelChange),
-    EnterPressed = static_cast<unsigned char>(Kind::EnterPressed)
-  };
-  enum OfRow : unsigned char {
-    ItemActivated = static_cast<unsigned char>(Kind::ItemActivated),
-    ItemSelected = static_cast<unsigned char>(Kind::ItemSelected)
-  };
-  enum AtPoint { ContextMenu };
-  enum OfNode { NodeClick };
-
-  template <class T>
-  EventRow(int id, Plain event, void (T::*handler)())
-      : first(id), kind(static_cast<Kind>(event)), plain(static_cast<void (Form::*)()>(handler)) {}
-  // A control array: `count` controls from `id` on; the handler is given the index.
-  template <class T>
-  EventRow(int id, Plain event, void (T::*handler)(int), int arraySize)
-      : first(id),
-        count(arraySize),
-        kind(static_cast<Kind>(event)),
-        withIndex(static_cast<void (Form::*)(int)>(handler)) {}
-  template <class T>
-  EventRow(int id, OfRow event, void (T::*handler)(int row))
-      : first(id), kind(static_cast<Kind>(event)), withRow(static_cast<void (Form::*)(int)>(handler)) {}
-  template <class T>  // row of a list, or index of a control array (count > 1), -1: none; screen pixels
-  EventRow(int id, AtPoint, void (T::*handler)(int row, POINT at), int arraySize = 1)
-      : first(id),
-        count(arraySize),
-        kind(Kind::ContextMenu),
-        atPoint(static_cast<void (Form::*)(int, POINT)>(handler)) {}
-  template <class T>
-  EventRow(int id, OfNode, void (T::*handler)(HTREEITEM node))
-      : first(id), kind(Kind::NodeClick), withNode(static_cast<void (Form::*)(HTREEITEM)>(handler)) {}
-
-  // For Form only.
-  int first = 0;
-  int count = 1;
-  Kind kind = Kind::Click;
-  void (Form::*plain)() = nullptr;
-  void (Form::*withIndex)(int) = nullptr;
-  void (Form::*withRow)(int) = nullptr;
-  void (Form::*atPoint)(int, POINT) = nullptr;
-  void (Form::*withNode)(HTREEITEM) = nullptr;
-};
-
-struct TimerRow {
-  template <class T>
-  TimerRow(int timerId, void (T::*timerHandler)())
-      : id(timerId), handler(static_cast<void (Form::*)()>(timerHandler)) {}
-  int id;
-  void (Form::*handler)();
-};
-
-class Form {
+class Form : public EventTarget {
  public:
   Form(FormContext& context, const FormDesign& design);
-  virtual ~Form();  // destroys the window
+  ~Form() override;  // destroys the window
   Form(const Form&) = delete;
   Form& operator=(const Form&) = delete;
 
@@ -248,21 +190,15 @@ class Form {
 
   std::string LoadText(int stringId) const;  // from resources/texts
 
+  // A pane that handles the events of its own controls: its event table counts as the form's. To be called
+  // from the constructor of the form that has the pane as a member.
+  void AddPart(EventTarget& pane);
+
   // For checks of the form as a whole.
   const FormDesign& Description() const;
 
  protected:
-  using Plain = EventRow::Plain;
-  static constexpr auto Click = EventRow::Click;
-  static constexpr auto Change = EventRow::Change;
-  static constexpr auto SelChange = EventRow::SelChange;
-  static constexpr auto EnterPressed = EventRow::EnterPressed;
-  static constexpr auto ItemActivated = EventRow::ItemActivated;
-  static constexpr auto ItemSelected = EventRow::ItemSelected;
-  static constexpr auto ContextMenu = EventRow::ContextMenu;
-  static constexpr auto NodeClick = EventRow::NodeClick;
-
-  virtual std::span<const EventRow> Events() const { return {}; }
+  std::span<const EventRow> Events() const override { return {}; }
   virtual std::span<const TimerRow> Timers() const { return {}; }
   virtual void OnLoad() {}    // controls exist, nothing is shown yet
   virtual void OnUnload() {}  // just before the window is destroyed

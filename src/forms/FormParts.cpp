@@ -85,28 +85,28 @@ FormItem* FormParts::ShownPrimary() {
   return nullptr;
 }
 
-bool FormParts::IsBound(int id, FormEvent::Kind kind) const {
-  if (!form) return false;
-  for (const EventRow& row : form->Events()) {
-    if (row.kind == kind && id >= row.first && id < row.first + row.count) return true;
+FormParts::Binding FormParts::BindingOf(int id, FormEvent::Kind kind) const {
+  for (EventTarget* target : targets) {
+    for (const EventRow& row : target->Events()) {
+      if (row.kind == kind && id >= row.first && id < row.first + row.count) return {target, &row};
+    }
   }
-  return false;
+  return {};
 }
 
+bool FormParts::IsBound(int id, FormEvent::Kind kind) const { return BindingOf(id, kind).row != nullptr; }
+
 bool FormParts::Handle(const FormEvent& event) {
-  if (!form || event.id == 0) return false;
+  if (event.id == 0) return false;
   const auto kept = shared_from_this();
-  for (const EventRow& row : form->Events()) {
-    if (row.kind != event.kind || event.id < row.first || event.id >= row.first + row.count) continue;
-    Form& target = *form;
-    if (row.plain) (target.*row.plain)();
-    if (row.withIndex) (target.*row.withIndex)(event.id - row.first);
-    if (row.withRow) (target.*row.withRow)(event.row);
-    if (row.atPoint) (target.*row.atPoint)(row.count > 1 ? event.id - row.first : event.row, event.point);
-    if (row.withNode) (target.*row.withNode)(event.node);
-    return true;
-  }
-  return false;
+  const auto [target, row] = BindingOf(event.id, event.kind);
+  if (!row) return false;
+  if (row->plain) (target->*row->plain)();
+  if (row->withIndex) (target->*row->withIndex)(event.id - row->first);
+  if (row->withRow) (target->*row->withRow)(event.row);
+  if (row->atPoint) (target->*row->atPoint)(row->count > 1 ? event.id - row->first : event.row, event.point);
+  if (row->withNode) (target->*row->withNode)(event.node);
+  return true;
 }
 
 void FormParts::Raise(const FormEvent& event) {

@@ -147,7 +147,8 @@ class FormParts final : public FormServices, public std::enable_shared_from_this
   // Where the needle stands, in pixels from the tab's left edge, perhaps beside the tab; nothing without one.
   std::optional<int> NeedleOn(const FormItem& tab, bool active) const;
 
-  Form* form;  // nullptr once the form is gone
+  Form* form;                         // nullptr once the form is gone
+  std::vector<EventTarget*> targets;  // the form, then its panes; empty once the form is gone
   FormContext& context;
   const FormDesign& design;
   HWND window = nullptr;
@@ -177,6 +178,12 @@ class FormParts final : public FormServices, public std::enable_shared_from_this
   int depth = 0;  // nested calls of the window procedure
 
  private:
+  // The first row of the tables that is about this event, and whose it is; {} when none is.
+  struct Binding {
+    EventTarget* target = nullptr;
+    const EventRow* row = nullptr;
+  };
+  Binding BindingOf(int id, FormEvent::Kind kind) const;
   TTTOOLINFOW ToolOf(const FormItem& item) const;
   void Load();
   void MakePainter(int dpi);

@@ -151,15 +151,30 @@ TEST(FormRunning, ClosingFromAHandlerHidesAtOnceAndDestroysWhenItReturns) {
   EXPECT_TRUE(form.IsShown());
 }
 
+class CountingPane final : public EventTarget {
+ public:
+  std::span<const EventRow> Events() const override {
+    static const EventRow kRows[] = {{5001, Click, &CountingPane::Count},
+                                     {5002, Click, &CountingPane::Count}};
+    return kRows;
+  }
+  int clicks = 0;
+
+ private:
+  void Count() { ++clicks; }
+};
+
 // A handler that throws does not take the program with it.
 class ThrowingForm final : public Form {
  public:
-  explicit ThrowingForm(FormContext& context) : Form(context, Design()) {}
+  explicit ThrowingForm(FormContext& context) : Form(context, Design()) { AddPart(pane); }
+  CountingPane pane;
 
  private:
   static const FormDesign& Design() {
     static constexpr ControlRow kRows[] = {
-        {.id = 5001, .kind = Kind::PushKey, .text = "Throw", .at = {9, 9, 80, 30}}};
+        {.id = 5001, .kind = Kind::PushKey, .text = "Throw", .at = {9, 9, 40, 30}},
+        {.id = 5002, .kind = Kind::PushKey, .text = "Count", .at = {49, 9, 40, 30}}};
     static constexpr FormDesign kDesign = {
         .name = "frmThrow", .caption = "Throw", .size = {100, 60}, .controls = kRows};
     return kDesign;
@@ -179,6 +194,16 @@ TEST(FormRunning, NoExceptionLeavesTheWindow) {
   form.Focus(5001);
   PressKey(VK_RETURN);
   EXPECT_TRUE(form.IsShown());
+}
+
+TEST(FormRunning, APaneHandlesWhatItsFormDoesNot) {
+  FormContextForTests context;
+  ThrowingForm form(context.forms);
+  form.Show();
+  SendMessageW(form.Control(5001), BM_CLICK, 0, 0);
+  EXPECT_EQ(form.pane.clicks, 0);
+  SendMessageW(form.Control(5002), BM_CLICK, 0, 0);
+  EXPECT_EQ(form.pane.clicks, 1);
 }
 
 }  // namespace
