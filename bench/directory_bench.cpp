@@ -12,15 +12,15 @@
 #include <sstream>
 
 #include "base/DataFolder.h"
+#include "baselines/RatioReporter.h"
+#include "baselines/Ripgrep.h"
+#include "baselines/SyntheticList.h"
 #include "directory/StatList.h"
 #include "directory/StationListFile.h"
 #include "directory/Vmx.h"
 #include "platform/posix/FilesPosix.h"
-#include "yardsticks/RatioReporter.h"
-#include "yardsticks/Ripgrep.h"
-#include "yardsticks/SyntheticList.h"
 #ifdef SONARO_SQLITE
-#include "yardsticks/SqliteTable.h"
+#include "baselines/SqliteTable.h"
 #endif
 
 namespace sonaro {
@@ -35,7 +35,7 @@ void WriteFile(const fs::path& path, const std::string& bytes) {
   std::ofstream(path, std::ios::binary).write(bytes.data(), static_cast<std::streamsize>(bytes.size()));
 }
 
-// A data folder with a station list, its table, and the same in the yardsticks' forms.
+// A data folder with a station list, its table, and the same in the baselines' forms.
 struct Directory {
   Directory(const fs::path& where, const std::string& list) : folder(where) {
     fs::create_directories(folder);

@@ -10,7 +10,7 @@
 
 #include "base/DataFolder.h"
 #include "directory/StatList.h"
-#include "mainwindow/StationLists.h"
+#include "mainwindow/StationListFiller.h"
 #include "platform/posix/FilesPosix.h"
 #include "settings/Strings.h"
 #include "stations/PersonalStations.h"
@@ -51,7 +51,7 @@ class Guide {
   }
   ~Guide() { std::filesystem::remove_all(folder_); }
 
-  StationLists& Lists() { return lists_; }
+  StationListFiller& Lists() { return lists_; }
   const std::string& Ids() const { return ids_; }
 
  private:
@@ -63,7 +63,7 @@ class Guide {
   PersonalStations personal_{data_};
   RecentList recent_{data_};
   NoStrings strings_;
-  StationLists lists_{stations_, personal_, recent_, strings_};
+  StationListFiller lists_{stations_, personal_, recent_, strings_};
   std::string ids_;
 };
 

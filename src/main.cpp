@@ -50,7 +50,7 @@ int WINAPI WinMain(HINSTANCE, HINSTANCE, LPSTR commandLine, int) {
   sonaro::SystemInfoWin systemInfo;
   sonaro::MessagePostWin messages;
   sonaro::StringTable strings;
-  sonaro::HttpControlMakerWin http(
+  sonaro::HttpControlFactoryWin http(
       std::string("Sonaro/") + sonaro::kVersionText,
       [&strings](sonaro::HttpFault fault) { return sonaro::HttpFaultText(fault, strings); });
   const sonaro::Platform platform = {registry, files, clock, shell, sound, systemInfo, messages, http};

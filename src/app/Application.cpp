@@ -62,11 +62,11 @@ Application::Application(const Platform& platform, const Strings& strings, const
       context_{strings_, faceplate_, shape_},
       messages_(context_, [this]() -> HelpPages& { return help_; }),
       tray_(context_, MakeTrayActions()),
-      service_(std::make_unique<ApplicationService>(ApplicationService::Needs{
+      service_(std::make_unique<ApplicationService>(ApplicationService::Dependencies{
           platform_, context_, data_, reg_, strings_, stations_, favorites_, help_})) {
   state_.commandLine = std::move(commandLine);
   player_.SetView(this);
-  pages_.SetSayWhyNot([this](const std::string& sentence) { SayWhyNot(sentence); });
+  pages_.SetShowErrorText([this](const std::string& sentence) { ShowErrorText(sentence); });
   context_.clickSound = [this] {
     // Keys click unless the user switched it off.
     if (!EqualIgnoringCase(reg_.Setting(setting::kSoundClick), "False")) PlaySoundFile(kClickSound);
@@ -140,9 +140,9 @@ void Application::ReadData() {
 bool Application::LoadMainWindow() {
   if (main_) return true;
   ReadData();
-  schedule_ = std::make_unique<ApplicationSchedule>(
-      ApplicationSchedule::Needs{platform_, context_, data_, reg_, strings_, state_, stations_, personal_,
-                                 extra_, recent_, favorites_, source_, player_, pages_, help_, messages_});
+  schedule_ = std::make_unique<ApplicationSchedule>(ApplicationSchedule::Dependencies{
+      platform_, context_, data_, reg_, strings_, state_, stations_, personal_, extra_, recent_, favorites_,
+      source_, player_, pages_, help_, messages_});
   schedule_->SetPlaySound([this] { PlaySoundFile(kNotifySound); });
   main_ = std::make_unique<SonaroFrm>(
       context_,
@@ -192,7 +192,7 @@ void Application::RememberPlace() {
 
 void Application::ShowMainWindow() { main_->Show(); }
 
-void Application::SayWhyNot(const std::string& sentence) {
+void Application::ShowErrorText(const std::string& sentence) {
   messages_.Ask({.key = "CantFindProgram",
                  .caption = strings_.Load(IDS_WHYNOT_CAPTION),
                  .text = sentence,

@@ -66,7 +66,7 @@ class Application final : private StartupView, private LaunchView {
   void ShowMainWindow() override;
   // What the player launch asks for.
   bool ShowNoPlayer() override { return ChoosePlayer(StartUpInfoPage::NoPlayer, GetActiveWindow()); }
-  void SayWhyNot(const std::string& sentence) override;
+  void ShowErrorText(const std::string& sentence) override;
   bool OfferPlayers(const std::string& sentence) override;
 
   bool SayNoWindow();

@@ -39,7 +39,8 @@ void Application::AddQuestions(MainWindowCalls& calls) {
 // True when the user has chosen a player.
 bool Application::ChoosePlayer(StartUpInfoPage page, HWND owner) {
   LoadAlphabets(data_, alphabets_);  // the page counts links, perhaps before the data is read
-  return frmStartUpInfo(context_, StartUpInfoNeeds{reg_, help_, playerSetup_, playerReporter_}, page, "")
+  return frmStartUpInfo(context_, StartUpInfoDependencies{reg_, help_, playerSetup_, playerReporter_}, page,
+                        "")
              .ShowModal(owner) == 1;
 }
 
@@ -48,7 +49,7 @@ void Application::ShowStartUpInfo(StartUpInfoPage page) {
     ChoosePlayer(page, GetActiveWindow());
     return;
   }
-  frmStartUpInfo(context_, StartUpInfoNeeds{reg_, help_, playerSetup_, playerReporter_}, page,
+  frmStartUpInfo(context_, StartUpInfoDependencies{reg_, help_, playerSetup_, playerReporter_}, page,
                  service_->DetectProxy())
       .ShowModal(GetActiveWindow());
 }
@@ -116,7 +117,7 @@ void Application::DeletePersonalStation(int index) {
     const MessageResult result =
         messages_.Ask({.key = "DeletePersonalStation",
                        .caption = strings_.Load(IDS_DLG_OWN_DELETE_CAPTION),
-                       .text = FillIn(strings_.Load(IDS_DLG_OWN_DELETE_TEXT), {known->name}),
+                       .text = FormatText(strings_.Load(IDS_DLG_OWN_DELETE_TEXT), {known->name}),
                        .firstButton = strings_.Load(IDS_DLG_OWN_DELETE),
                        .secondButton = strings_.Load(IDS_APP_CANCEL),
                        .dontAskText = strings_.Load(IDS_DONT_ASK_AGAIN)});

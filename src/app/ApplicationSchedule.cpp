@@ -22,7 +22,7 @@ namespace sonaro {
 
 namespace {
 
-constexpr std::size_t kMostEvents = 200;
+constexpr std::size_t kMaxEvents = 200;
 
 // The show of an event as the list of the personal shows keeps it. The number holds no capital X.
 std::string ShowKeyOf(const EventRecord& event) {
@@ -38,7 +38,7 @@ std::string StampOf(const DateTime& at) {
 
 }  // namespace
 
-ApplicationSchedule::ApplicationSchedule(const Needs& needs)
+ApplicationSchedule::ApplicationSchedule(const Dependencies& needs)
     : needs_(needs),
       events_(needs.data),
       diary_(events_),
@@ -158,7 +158,7 @@ void ApplicationSchedule::ScheduleStation(HWND owner, const std::string& rowKey)
 }
 
 std::vector<EventLine> ApplicationSchedule::ComingEvents() {
-  coming_ = diary_.Coming(needs_.platform.clock.GmtNow(), kMostEvents);
+  coming_ = diary_.Coming(needs_.platform.clock.GmtNow(), kMaxEvents);
   const DateTime now = needs_.platform.clock.LocalNow();
   const std::int32_t offset = GetZoneOffset(needs_.platform.clock);
   const std::vector<std::string> shows = shows_.List();

@@ -42,7 +42,7 @@ struct AppState;
 
 class ApplicationSchedule {
  public:
-  struct Needs {
+  struct Dependencies {
     const Platform& platform;
     FormContext& context;
     DataFolder& data;
@@ -61,7 +61,7 @@ class ApplicationSchedule {
     MessageBoxView& messages;
   };
 
-  explicit ApplicationSchedule(const Needs& needs);
+  explicit ApplicationSchedule(const Dependencies& needs);
 
   void SetPlaySound(std::function<void()> playSound) { playSound_ = std::move(playSound); }
   void SetChanged(std::function<void()> changed) { changed_ = std::move(changed); }
@@ -97,7 +97,7 @@ class ApplicationSchedule {
   void Changed();
   void RememberSeen();
 
-  Needs needs_;
+  Dependencies needs_;
   EvList events_;
   EventDiary diary_;
   ScheduleStore store_;

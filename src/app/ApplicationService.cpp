@@ -18,12 +18,12 @@
 
 namespace sonaro {
 
-ApplicationService::ApplicationService(const Needs& needs)
+ApplicationService::ApplicationService(const Dependencies& needs)
     : needs_(needs), install_(needs.data, needs.reg, needs.stations) {}
 
 ApplicationService::~ApplicationService() = default;
 
-UpdateNeeds ApplicationService::MakeUpdateNeeds() {
+UpdateDependencies ApplicationService::MakeUpdateDependencies() {
   return {needs_.reg, needs_.data,          needs_.strings,
           install_,   needs_.platform.http, [this](std::string_view) { toDoDue_ = true; }};
 }
@@ -48,7 +48,7 @@ void ApplicationService::OpenDialog(HWND owner, UpdateOpening opening) {
 }
 
 std::unique_ptr<frmInetUpdate> ApplicationService::BeginWatched(UpdateOpener opener) {
-  return std::make_unique<frmInetUpdate>(needs_.context, MakeUpdateNeeds(), caller::kUpdateDialog,
+  return std::make_unique<frmInetUpdate>(needs_.context, MakeUpdateDependencies(), caller::kUpdateDialog,
                                          kInstallAndRebuild, AlsoInTheMainWindow(std::move(opener)));
 }
 
@@ -88,7 +88,7 @@ void ApplicationService::RunPendingWork() {
     if (outcome.kind == UpdateOutcome::Kind::Updated && directoryChanged_) directoryChanged_();
   };
   spent_ = std::move(background_);  // this may run within its last call
-  background_ = std::make_unique<frmInetUpdate>(needs_.context, MakeUpdateNeeds(), caller::kBackground,
+  background_ = std::make_unique<frmInetUpdate>(needs_.context, MakeUpdateDependencies(), caller::kBackground,
                                                 kInstallAndRebuild, AlsoInTheMainWindow(std::move(opener)));
   background_->Load();
 }

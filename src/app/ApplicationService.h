@@ -27,7 +27,7 @@ struct UpdateOpener;
 
 class ApplicationService {
  public:
-  struct Needs {
+  struct Dependencies {
     const Platform& platform;
     FormContext& context;
     DataFolder& data;
@@ -38,7 +38,7 @@ class ApplicationService {
     HelpPages& help;
   };
 
-  explicit ApplicationService(const Needs& needs);
+  explicit ApplicationService(const Dependencies& needs);
   ~ApplicationService();
 
   // Called after the station list was replaced.
@@ -70,7 +70,7 @@ class ApplicationService {
 
  private:
   void OpenDialog(HWND owner, UpdateOpening opening);
-  UpdateNeeds MakeUpdateNeeds();
+  UpdateDependencies MakeUpdateDependencies();
   std::unique_ptr<frmInetUpdate> BeginWatched(UpdateOpener opener);
   UpdateOpener AlsoInTheMainWindow(UpdateOpener opener);
   void EndProgress();
@@ -78,7 +78,7 @@ class ApplicationService {
   UndoStatus Undo();
   std::vector<std::int32_t> StationsOfGroups() const;
 
-  Needs needs_;
+  Dependencies needs_;
   UpdateInstall install_;
   std::function<void()> directoryChanged_;
   std::function<void(int percent)> showProgress_;

@@ -58,7 +58,7 @@ std::span<const EventRow> frmSplash::Events() const {
 }
 
 void frmSplash::OnLoad() {
-  SetText(lblVersion, FillIn(LoadText(IDS_SPLASH_VERSION), {kVersionText}));
+  SetText(lblVersion, FormatText(LoadText(IDS_SPLASH_VERSION), {kVersionText}));
   SetPicture(picMark, [](HDC dc, const RECT& box, const Painter& painter) {
     painter.DrawIcon(dc, Icon::ProgramMark, box.left, box.top, kMarkSize, painter.Colors().text);
   });

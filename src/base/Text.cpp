@@ -15,7 +15,7 @@ std::string_view TrimBlanks(std::string_view text) {
 std::vector<std::string_view> SplitLines(std::string_view text) {
   std::vector<std::string_view> lines;
   while (!text.empty()) {
-    std::string_view line = TakeUntil(text, '\n');
+    std::string_view line = NextField(text, '\n');
     if (line.ends_with('\r')) line.remove_suffix(1);
     lines.push_back(line);
   }
@@ -29,7 +29,7 @@ std::vector<std::string_view> Split(std::string_view text, char separator) {
 std::vector<std::string_view> SplitWords(std::string_view text) {
   std::vector<std::string_view> words;
   while (!text.empty()) {
-    if (const std::string_view word = TakeUntil(text, ' '); !word.empty()) words.push_back(word);
+    if (const std::string_view word = NextField(text, ' '); !word.empty()) words.push_back(word);
   }
   return words;
 }
@@ -45,7 +45,7 @@ std::vector<std::string_view> SplitAtMost(std::string_view text, char separator,
   return pieces;
 }
 
-std::string_view TakeUntil(std::string_view& rest, char separator) {
+std::string_view NextField(std::string_view& rest, char separator) {
   const std::size_t cut = rest.find(separator);
   const std::string_view taken = rest.substr(0, cut);
   rest.remove_prefix(cut == std::string_view::npos ? rest.size() : cut + 1);
@@ -59,10 +59,10 @@ std::string ReplaceFirst(std::string_view text, std::string_view part, std::stri
   return result;
 }
 
-std::string_view CutForShow(std::string_view text, std::size_t maxBytes) {
+std::string_view TruncateUtf8(std::string_view text, std::size_t maxBytes) {
   if (text.size() <= maxBytes) return text;
-  constexpr std::size_t kLongestCharacter = 4;
-  const std::size_t nearest = maxBytes < kLongestCharacter ? 0 : maxBytes - kLongestCharacter + 1;
+  constexpr std::size_t kMaxCharacterLength = 4;
+  const std::size_t nearest = maxBytes < kMaxCharacterLength ? 0 : maxBytes - kMaxCharacterLength + 1;
   for (std::size_t start = maxBytes; start-- > nearest;) {
     const std::size_t length = DecodeUtf8(text, start).length;
     if (length != 0) return text.substr(0, start + length <= maxBytes ? maxBytes : start);

@@ -52,13 +52,13 @@ std::vector<std::string_view> SplitAtMost(std::string_view text, char separator,
 
 // The text before the first `separator`, which is removed from `rest` together with that text. Without a
 // separator the whole rest is taken and `rest` becomes empty.
-std::string_view TakeUntil(std::string_view& rest, char separator);
+std::string_view NextField(std::string_view& rest, char separator);
 
 // `text` with the first occurrence of `part` replaced; unchanged when there is none.
 std::string ReplaceFirst(std::string_view text, std::string_view part, std::string_view by);
 
 // At most `maxBytes` bytes from the start of `text`, never ending inside a UTF-8 character.
-std::string_view CutForShow(std::string_view text, std::size_t maxBytes);
+std::string_view TruncateUtf8(std::string_view text, std::size_t maxBytes);
 
 // The text with a blank for each carriage return and line feed: fit for one line of a file of lines.
 std::string OnOneLine(std::string_view text);

@@ -10,7 +10,7 @@ namespace sonaro {
 
 namespace {
 
-constexpr int kMostCopies = 9;
+constexpr int kMaxCopies = 9;
 
 // The text in a file's bytes; nothing when they are none. No text of ours holds a zero character, and a power
 // cut can leave a file full of them.
@@ -71,7 +71,7 @@ bool UserFile::Save(std::string_view text) {
 }
 
 bool UserFile::KeepBeside() {
-  for (int copy = 1; copy <= kMostCopies; ++copy) {
+  for (int copy = 1; copy <= kMaxCopies; ++copy) {
     const std::string beside = name_ + (copy == 1 ? ".bad" : ".bad" + std::to_string(copy));
     const ReadResult there = data_.Read(beside);
     const bool kept = there.status == ReadStatus::Ok && there.bytes == bytes_;

@@ -24,7 +24,7 @@ constexpr std::string_view kNeeded[] = {"\\fun.snr", "\\Statorg.isd", "\\Statorg
 bool CategoryListMissing(std::string_view categories,
                          const std::function<bool(const std::string& name)>& isThere) {
   while (!categories.empty()) {
-    const auto fields = SplitAtMost(TakeUntil(categories, '\n'), '\t', 4);
+    const auto fields = SplitAtMost(NextField(categories, '\n'), '\t', 4);
     if (fields.size() < 4) continue;
     if (!isThere(std::string("\\").append(fields[2]).append(".snr"))) return true;
   }

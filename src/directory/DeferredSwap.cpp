@@ -75,7 +75,7 @@ bool RunDeferredSwap(DataFolder& data, CReg& reg, const std::function<bool()>& r
   bool listed = false;
   bool listInPlace = true;
   for (std::string_view rest = hold; rest.find('\t') != std::string_view::npos;) {
-    const std::string_view name = TakeUntil(rest, '\t');
+    const std::string_view name = NextField(rest, '\t');
     const bool swapped = SwapInDownloaded(data, name);
     if (!IsStationList(name)) continue;
     listed = true;

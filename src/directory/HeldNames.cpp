@@ -7,7 +7,7 @@
 namespace sonaro {
 
 HeldNames::HeldNames(std::string_view text) {
-  while (text.find('\t') != std::string_view::npos) Add(TakeUntil(text, '\t'));
+  while (text.find('\t') != std::string_view::npos) Add(NextField(text, '\t'));
 }
 
 bool HeldNames::Contains(std::string_view name) const {

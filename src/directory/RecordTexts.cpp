@@ -5,9 +5,9 @@
 namespace sonaro {
 namespace {
 
-constexpr std::size_t kReadStep = 256 * 1024;            // of reading in order
-constexpr std::size_t kMostInMemory = 64 * 1024 * 1024;  // of all texts at once
-constexpr std::size_t kFewOf = 8;                        // one record in so many is few
+constexpr std::size_t kReadStep = 256 * 1024;           // of reading in order
+constexpr std::size_t kMaxInMemory = 64 * 1024 * 1024;  // of all texts at once
+constexpr std::size_t kFewOf = 8;                       // one record in so many is few
 
 }  // namespace
 
@@ -25,7 +25,7 @@ const char* RecordTexts::Get(InputFile& file, std::size_t at, std::size_t length
 bool RecordTexts::Bring(InputFile& file, std::size_t at, std::size_t length) {
   const bool goesOn = at == end_ && end_ != 0;
   if (goesOn) return Load(file, at, std::min(std::max(kReadStep, length), size_ - at));
-  const bool many = ++reads_ > fewReads_ && size_ <= kMostInMemory;
+  const bool many = ++reads_ > fewReads_ && size_ <= kMaxInMemory;
   return many ? Load(file, 0, size_) : Load(file, at, length);
 }
 

@@ -7,7 +7,7 @@ namespace sonaro {
 namespace {
 
 constexpr std::size_t kGram = 4;
-constexpr std::size_t kMostGrams = 8;  // of a word; they leave so few blocks that more would not pay
+constexpr std::size_t kMaxGrams = 8;  // of a word; they leave so few blocks that more would not pay
 
 }  // namespace
 
@@ -33,7 +33,7 @@ SearchIndex::SearchIndex(const SearchColumn& column) : frequencies_(column.text)
 
 std::vector<std::uint16_t> SearchIndex::SlotsOf(std::string_view word) {
   std::vector<std::uint16_t> slots;
-  for (std::size_t at = 0; at + kGram <= word.size() && slots.size() < kMostGrams; ++at)
+  for (std::size_t at = 0; at + kGram <= word.size() && slots.size() < kMaxGrams; ++at)
     slots.push_back(SlotAt(word.data() + at));
   return slots;
 }

@@ -84,7 +84,7 @@ std::vector<Place> PlacesIn(std::string_view list) {
 
 // Copies a list in any order to the table, which takes the whole list in memory.
 Pass AppendSorted(std::string_view list, TableWriter& writer) {
-  if (list.size() > kLargestText) return Pass::Failed;
+  if (list.size() > kMaxTextSize) return Pass::Failed;
   writer.SetSource({list.size(), ChainedChecksum(list)});
   std::vector<Place> places = PlacesIn(list);
   SortById(places);

@@ -94,8 +94,9 @@ void ForEachRecord(const WordFinder& finder, const SearchColumn& column, std::si
 std::vector<std::uint32_t> FindAll(const SearchColumn& column, const SearchIndex& index,
                                    const std::vector<std::string>& words) {
   std::vector<Wanted> wanted = WantedWords(words, index);
-  std::sort(wanted.begin(), wanted.end(),
-            [](const Wanted& a, const Wanted& b) { return a.finder.Commonness() < b.finder.Commonness(); });
+  std::sort(wanted.begin(), wanted.end(), [](const Wanted& a, const Wanted& b) {
+    return a.finder.EstimatedHits() < b.finder.EstimatedHits();
+  });
   std::vector<std::uint32_t> records;
   const auto take = [&](const RecordCursor& cursor) {
     const auto stands = [&](const Wanted& word) {
@@ -140,8 +141,8 @@ std::vector<std::uint32_t> FindAny(const SearchColumn& column, const SearchIndex
 std::vector<std::string> SearchWords(std::string_view text) {
   std::vector<std::string> words;
   text = TrimBlanks(text);
-  while (!text.empty() && words.size() < kMostSearchWords) {
-    const std::string_view word = TakeUntil(text, ' ');
+  while (!text.empty() && words.size() < kMaxSearchWords) {
+    const std::string_view word = NextField(text, ' ');
     if (!word.empty()) words.emplace_back(word);
   }
   return words;

@@ -11,9 +11,9 @@
 
 namespace sonaro {
 
-inline constexpr std::size_t kMostSearchWords = 100;
+inline constexpr std::size_t kMaxSearchWords = 100;
 
-// What stands between single blanks, at most kMostSearchWords words. Runs of blanks give no words.
+// What stands between single blanks, at most kMaxSearchWords words. Runs of blanks give no words.
 std::vector<std::string> SearchWords(std::string_view text);
 
 // The indices, ascending, of the records in which all words, or any word, occur. A word occurs when it stands

@@ -21,7 +21,7 @@ bool OpenIndex(Files& files, const std::string& path, TableFiles& opened) {
   opened.index = files.Open(path);
   if (!opened.index) return false;
   const auto header = ReadHeader(*opened.index, &ParseIndexHeader);
-  if (!header || !Fit(opened.dataHeader, *header)) return false;
+  if (!header || !SameGeneration(opened.dataHeader, *header)) return false;
   opened.indexHeader = *header;
   return true;
 }

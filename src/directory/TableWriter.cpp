@@ -39,7 +39,7 @@ TableWriter::~TableWriter() {
 }
 
 bool TableWriter::Append(std::int32_t key, std::string_view text) {
-  if (text.size() > kLargestText - data_->Size()) tooLarge_ = true;
+  if (text.size() > kMaxTextSize - data_->Size()) tooLarge_ = true;
   if (tooLarge_) return false;
   const std::uint64_t digest = RecordDigest(key, text);
   generation_ = GenerationOf(generation_, digest);
@@ -49,7 +49,7 @@ bool TableWriter::Append(std::int32_t key, std::string_view text) {
   if (definition_.searchedFields != 0) {
     AppendToColumn(text.substr(0, FindTab(text, definition_.searchedFields)));
   }
-  if (index_->Size() > kLargestText) tooLarge_ = true;  // folding can make a text longer
+  if (index_->Size() > kMaxTextSize) tooLarge_ = true;  // folding can make a text longer
   return !tooLarge_;
 }
 

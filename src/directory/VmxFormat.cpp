@@ -9,7 +9,7 @@ namespace {
 
 constexpr std::array<char, 8> kDataMagic = {'S', 'o', 'n', 'a', 'r', 'o', 'I', 'D'};
 constexpr std::array<char, 8> kIndexMagic = {'S', 'o', 'n', 'a', 'r', 'o', 'I', 'M'};
-constexpr std::uint32_t kMostFields = 64;
+constexpr std::uint32_t kMaxFields = 64;
 
 template <typename Header>
 std::uint64_t CheckOf(const Header& header) {
@@ -34,7 +34,7 @@ std::optional<Header> ParseAs(std::string_view bytes, std::uint64_t fileSize,
   const bool known =
       header.magic == magic && header.byteOrder == kByteOrderMark && header.version == kFormatVersion;
   const bool sound = known && header.check == CheckOf(header) && header.fileSize == fileSize &&
-                     header.fieldCount > 0 && header.fieldCount <= kMostFields;
+                     header.fieldCount > 0 && header.fieldCount <= kMaxFields;
   return sound ? std::optional(header) : std::nullopt;
 }
 
@@ -56,18 +56,18 @@ std::string Seal(IndexHeader header) { return SealAs(header, kIndexMagic); }
 
 std::optional<DataHeader> ParseDataHeader(std::string_view bytes, std::uint64_t fileSize) {
   const auto header = ParseAs<DataHeader>(bytes, fileSize, kDataMagic);
-  const bool sound = header && fileSize >= sizeof *header && fileSize - sizeof *header <= kLargestText;
+  const bool sound = header && fileSize >= sizeof *header && fileSize - sizeof *header <= kMaxTextSize;
   return sound ? header : std::nullopt;
 }
 
 std::optional<IndexHeader> ParseIndexHeader(std::string_view bytes, std::uint64_t fileSize) {
   const auto header = ParseAs<IndexHeader>(bytes, fileSize, kIndexMagic);
-  const bool sound = header && header->columnSize <= kLargestText && LayoutOf(*header).fileSize == fileSize &&
+  const bool sound = header && header->columnSize <= kMaxTextSize && LayoutOf(*header).fileSize == fileSize &&
                      header->searchedFields <= header->fieldCount && header->foldVersion == kFoldCaseVersion;
   return sound ? header : std::nullopt;
 }
 
-bool Fit(const DataHeader& data, const IndexHeader& index) {
+bool SameGeneration(const DataHeader& data, const IndexHeader& index) {
   return data.generation == index.generation && data.fileSize == index.dataFileSize &&
          data.recordCount == index.recordCount && data.fieldCount == index.fieldCount;
 }
@@ -81,8 +81,7 @@ std::optional<TableDefinition> ParseDefinition(std::string_view text, std::uint3
   text.remove_prefix(3);
   text.remove_suffix(1);
   std::int32_t count = 0;
-  if (!ParseStationId(text, count) || count <= 0 || static_cast<std::uint32_t>(count) > kMostFields)
-    return {};
+  if (!ParseStationId(text, count) || count <= 0 || static_cast<std::uint32_t>(count) > kMaxFields) return {};
   const TableDefinition definition{static_cast<std::uint32_t>(count), searchedFields};
   return searchedFields <= definition.fieldCount ? std::optional(definition) : std::nullopt;
 }

@@ -43,7 +43,7 @@ inline constexpr std::size_t kColumnPadding = 64;
 inline constexpr std::size_t kColumnBlock =
     64 * 1024;  // checksums of long streams are chained over such blocks
 inline constexpr std::uint32_t kPageEntries = 512;
-inline constexpr std::uint64_t kLargestText = std::numeric_limits<std::uint32_t>::max();
+inline constexpr std::uint64_t kMaxTextSize = std::numeric_limits<std::uint32_t>::max();
 
 // The list that a table was made of: its length and its checksum (ChainedChecksum). Two zeros for a table
 // that was made of none, or changed since.
@@ -117,7 +117,7 @@ std::optional<DataHeader> ParseDataHeader(std::string_view bytes, std::uint64_t 
 std::optional<IndexHeader> ParseIndexHeader(std::string_view bytes, std::uint64_t fileSize);
 
 // True when the two headers belong to the same generation.
-bool Fit(const DataHeader& data, const IndexHeader& index);
+bool SameGeneration(const DataHeader& data, const IndexHeader& index);
 
 std::uint64_t RecordDigest(std::int32_t key, std::string_view text);
 constexpr std::uint32_t RecordCheck(std::uint64_t digest) { return static_cast<std::uint32_t>(digest >> 32); }

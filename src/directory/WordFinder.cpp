@@ -27,7 +27,7 @@ WordFinder::WordFinder(std::string word, const ByteFrequencies& frequencies) : w
       first_ == second_ ? std::uint64_t{count(first_)} << 16 : std::uint64_t{count(first_)} * count(second_);
 }
 
-bool WordFinder::StandsAt(const char* place) const {
+bool WordFinder::MatchesAt(const char* place) const {
   return std::memcmp(place, word_.data(), word_.size()) == 0;
 }
 
@@ -60,14 +60,14 @@ const char* WordFinder::Find(const char* from, const char* end) const {
     std::uint64_t places = bits(c[0]) | bits(c[1]) << 16 | bits(c[2]) << 32 | bits(c[3]) << 48;
     for (; places != 0; places &= places - 1) {
       const char* const place = at + std::countr_zero(places);
-      if (StandsAt(place)) return place;
+      if (MatchesAt(place)) return place;
     }
   }
   for (; at < stop; at += 16) {
     for (std::uint64_t places = bits(candidates(at)); places != 0; places &= places - 1) {
       const char* const place = at + std::countr_zero(places);
       if (place >= stop) return end;
-      if (StandsAt(place)) return place;
+      if (MatchesAt(place)) return place;
     }
   }
   return end;

@@ -32,10 +32,10 @@ class WordFinder {
   const char* FindPlain(const char* from, const char* end) const;
 
   // A guess at how many places need the close look; for comparing words.
-  std::uint64_t Commonness() const { return commonness_; }
+  std::uint64_t EstimatedHits() const { return commonness_; }
 
  private:
-  bool StandsAt(const char* place) const;
+  bool MatchesAt(const char* place) const;
 
   std::string word_;
   std::size_t first_ = 0;  // positions in the word of the two bytes

@@ -22,7 +22,7 @@ constexpr const char* kYourStationsTag = "O";
 void AppendIds(std::string_view tag, std::vector<std::int32_t>& ids) {
   while (!tag.empty()) {
     std::int32_t id = 0;
-    if (ParseStationId(TakeUntil(tag, ' '), id)) ids.push_back(id);
+    if (ParseStationId(NextField(tag, ' '), id)) ids.push_back(id);
   }
 }
 

@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <unordered_set>
 
-#include "mainwindow/StationListing.h"
+#include "mainwindow/StationListState.h"
 #include "resources/texts/app.h"
 #include "resources/texts/mainwindow.h"
 #include "settings/CReg.h"
@@ -32,7 +32,7 @@ bool FavoriteCommands::AddFavoriteGroup() {
   const std::string name = FavoriteGroups::CleanName(prompts_.AskNewGroupName());
   if (name.empty()) return false;
   if (groups_.Find(name)) {
-    Say(kExistsKey, FillIn(strings_.Load(IDS_GROUP_EXISTS_TEXT), {name}));
+    Say(kExistsKey, FormatText(strings_.Load(IDS_GROUP_EXISTS_TEXT), {name}));
     return false;
   }
   if (!Changed(groups_.Add(name))) return false;
@@ -46,7 +46,7 @@ void FavoriteCommands::RenameFavoriteGroup(std::size_t group) {
   const std::string name = FavoriteGroups::CleanName(prompts_.AskGroupName(oldName));
   if (name.empty() || name == oldName) return;
   if (const auto holder = groups_.Find(name); holder && groups_.Name(*holder) != oldName) {
-    return Say(kExistsKey, FillIn(strings_.Load(IDS_GROUP_EXISTS_TEXT), {name}));
+    return Say(kExistsKey, FormatText(strings_.Load(IDS_GROUP_EXISTS_TEXT), {name}));
   }
   const auto renamed = groups_.Find(oldName);  // while the question stood the groups may have moved
   if (!renamed || !Changed(groups_.Rename(*renamed, name))) return;
@@ -68,7 +68,7 @@ bool FavoriteCommands::ConfirmDelete(const std::string& name) {
   Message message;
   message.key = kDeleteKey;
   message.caption = strings_.Load(IDS_GROUP_DELETE_CAPTION);
-  message.text = FillIn(strings_.Load(IDS_GROUP_DELETE_TEXT), {name});
+  message.text = FormatText(strings_.Load(IDS_GROUP_DELETE_TEXT), {name});
   message.firstButton = strings_.Load(IDS_GROUP_DELETE_YES);
   message.secondButton = strings_.Load(IDS_GROUP_DELETE_NO);
   message.dontAskText = strings_.Load(IDS_GROUP_DONT_ASK);
@@ -109,7 +109,7 @@ void FavoriteCommands::TakeOutMissing() {
   message.key = kTakeOutKey;
   message.caption = strings_.Load(IDS_GROUP_CAPTION);
   const int textId = tokens.size() == 1 ? IDS_GROUP_TAKE_OUT_ONE : IDS_GROUP_TAKE_OUT;
-  message.text = FillIn(strings_.Load(textId), {name, std::to_string(tokens.size())});
+  message.text = FormatText(strings_.Load(textId), {name, std::to_string(tokens.size())});
   message.firstButton = strings_.Load(IDS_GROUP_TAKE_OUT_YES);
   message.secondButton = strings_.Load(IDS_GROUP_DELETE_NO);
   if (prompts_.Ask(message).answer != MessageAnswer::First) return;

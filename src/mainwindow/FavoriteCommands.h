@@ -12,7 +12,7 @@
 namespace sonaro {
 
 class CReg;
-class StationListing;
+class StationListState;
 class Strings;
 
 // What the commands need of the windows around them.
@@ -30,7 +30,7 @@ class FavoritePrompts : public MessageBoxView {
 
 class FavoriteCommands {
  public:
-  FavoriteCommands(FavoriteGroups& groups, StationListing& listing, CReg& settings, const Strings& strings,
+  FavoriteCommands(FavoriteGroups& groups, StationListState& listing, CReg& settings, const Strings& strings,
                    FavoritePrompts& prompts)
       : groups_(groups), listing_(listing), settings_(settings), strings_(strings), prompts_(prompts) {}
 
@@ -58,7 +58,7 @@ class FavoriteCommands {
   bool Changed(FavoriteChange change);
 
   FavoriteGroups& groups_;
-  StationListing& listing_;
+  StationListState& listing_;
   CReg& settings_;
   const Strings& strings_;
   FavoritePrompts& prompts_;

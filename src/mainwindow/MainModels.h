@@ -10,9 +10,9 @@
 #include "mainwindow/Rankings.h"
 #include "mainwindow/SearchPanel.h"
 #include "mainwindow/StationActions.h"
-#include "mainwindow/StationDetail.h"
-#include "mainwindow/StationListing.h"
-#include "mainwindow/StationLists.h"
+#include "mainwindow/StationDetailBuilder.h"
+#include "mainwindow/StationListFiller.h"
+#include "mainwindow/StationListState.h"
 #include "playlists/PlaylistTransfer.h"
 #include "stations/FavoriteGroups.h"
 
@@ -55,8 +55,8 @@ struct MainModels {
 
   BrowseTree tree;
   Rankings rankings;
-  StationLists lists;
-  StationListing listing;
+  StationListFiller lists;
+  StationListState listing;
   SearchPanel search;
   StationDetails details;
   StationActions actions;

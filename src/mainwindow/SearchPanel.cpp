@@ -6,7 +6,7 @@
 #include "base/DataFolder.h"
 #include "base/Text.h"
 #include "base/http/UrlEncoding.h"
-#include "mainwindow/StationListing.h"
+#include "mainwindow/StationListState.h"
 #include "settings/CReg.h"
 #include "settings/SettingNames.h"
 
@@ -36,7 +36,7 @@ void SearchPanel::LoadSearchKinds(std::string builtInCaption) {
   std::string text = data_.Read(kKindsFile).bytes;
   std::replace(text.begin(), text.end(), '\r', '\n');
   for (const std::string_view line : Split(text, '\n')) {
-    if (line.empty() || kinds_.size() == kMostKinds) continue;
+    if (line.empty() || kinds_.size() == kMaxKinds) continue;
     auto fields = SplitAtMost(line, '\t', 3);
     fields.resize(3);
     kinds_.push_back({std::string(fields[0]), std::string(fields[1]), std::string(fields[2])});

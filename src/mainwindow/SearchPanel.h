@@ -15,7 +15,7 @@ namespace sonaro {
 
 class CReg;
 class DataFolder;
-class StationListing;
+class StationListState;
 
 // Takes a text for the small tray menu window, such as "SearchResults", tab, identifiers, tab, words.
 using TellTray = std::function<void(const std::string& text)>;
@@ -29,7 +29,7 @@ struct SearchKind {
 
 class SearchPanel {
  public:
-  static constexpr std::size_t kMostKinds = 6;
+  static constexpr std::size_t kMaxKinds = 6;
 
   enum class Outcome {
     Nothing /* no text */,
@@ -39,7 +39,7 @@ class SearchPanel {
   // What the last search of this run was.
   enum class LastKind { None, Web, Station };
 
-  SearchPanel(DataFolder& data, CReg& settings, StationListing& listing, TellTray tellTray)
+  SearchPanel(DataFolder& data, CReg& settings, StationListState& listing, TellTray tellTray)
       : data_(data), settings_(settings), listing_(listing), tellTray_(std::move(tellTray)) {}
 
   // Reads the kinds. Without a file there is one: the directory, captioned `builtInCaption`.
@@ -65,7 +65,7 @@ class SearchPanel {
 
   DataFolder& data_;
   CReg& settings_;
-  StationListing& listing_;
+  StationListState& listing_;
   TellTray tellTray_;
   std::vector<SearchKind> kinds_;
   LastKind last_ = LastKind::None;

@@ -166,12 +166,12 @@ class SonaroFrm final : public Form, private FavoritePrompts {
 
   // What an open menu was opened for. The list may change behind it; its entries act on this.
   struct MenuSubject {
-    StationDetail station;
+    StationDetailBuilder station;
     std::string group;  // whose key's menu it is, or which the station's list shows; "" without one
     EventLine event;
   };
   void PopUpMenuFor(MenuSubject subject, const MenuEntries& menu, POINT at);
-  const StationDetail& StationMeant() const { return menu_ ? menu_->station : shown_; }
+  const StationDetailBuilder& StationMeant() const { return menu_ ? menu_->station : shown_; }
   std::string NameOfGroupMeant() const;
   int EventRowMeant();
 
@@ -191,7 +191,7 @@ class SonaroFrm final : public Form, private FavoritePrompts {
   YoursPane yours_;
   StatusPane status_;
   DragPane drag_;
-  StationDetail shown_;              // what the right column shows
+  StationDetailBuilder shown_;       // what the right column shows
   std::optional<MenuSubject> menu_;  // while a menu is open that has one
 };
 

@@ -5,7 +5,7 @@
 #include "forms/ControlIds.h"
 #include "forms/Form.h"
 #include "forms/TreeView.h"
-#include "settings/FigureText.h"
+#include "settings/FormatCount.h"
 
 namespace sonaro {
 
@@ -42,7 +42,7 @@ void BrowsePane::FillView(TreeView& view) {
 }
 
 std::string BrowsePane::Figure(std::size_t count) const {
-  return count > 0 ? FigureText(count, state_.decimalMode) : std::string();
+  return count > 0 ? FormatCount(count, state_.decimalMode) : std::string();
 }
 
 const BrowseNode* BrowsePane::NodeAt(HTREEITEM item) const {

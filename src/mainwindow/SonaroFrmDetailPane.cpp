@@ -5,7 +5,7 @@
 #include "forms/Painter.h"
 #include "forms/RatingPicture.h"
 #include "mainwindow/SonaroFrm_panes.h"
-#include "mainwindow/StationDetail.h"
+#include "mainwindow/StationDetailBuilder.h"
 
 namespace sonaro {
 namespace {
@@ -36,7 +36,7 @@ void DetailPane::Load() {
   form_.SetPicture(picPin, PaintPin);
 }
 
-void DetailPane::Show(const StationDetail& detail) {
+void DetailPane::Show(const StationDetailBuilder& detail) {
   const bool anything = !detail.name.empty();
   form_.ShowPane(kStationPane, anything);
   form_.ShowPane(kNoStationPane, !anything);
@@ -51,15 +51,15 @@ void DetailPane::Show(const StationDetail& detail) {
   form_.Enable(butGoWebPageIt, detail.hasWebSite);
 }
 
-void DetailPane::ShowRatings(const StationDetail& detail) {
-  for (std::size_t i = 0; i < StationDetail::kRatings; ++i) {
+void DetailPane::ShowRatings(const StationDetailBuilder& detail) {
+  for (std::size_t i = 0; i < StationDetailBuilder::kRatings; ++i) {
     const RatingFigure& rating = detail.ratings[i];
     form_.Rating(kRatingPictures[i]).SetRating(rating.halves, rating.figure, rating.spoken);
   }
 }
 
-void DetailPane::ShowPlayKeys(const StationDetail& detail) {
-  for (std::size_t i = 0; i < StationDetail::kPlayKeys; ++i) {
+void DetailPane::ShowPlayKeys(const StationDetailBuilder& detail) {
+  for (std::size_t i = 0; i < StationDetailBuilder::kPlayKeys; ++i) {
     const PlayKey& key = detail.playKeys[i];
     form_.SetText(kPlayKeyIds[i], key.caption);
     form_.SetDetail(kPlayKeyIds[i], key.bitRate + "\t" + std::to_string(i + 1));

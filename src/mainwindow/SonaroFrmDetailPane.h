@@ -4,18 +4,18 @@
 namespace sonaro {
 
 class Form;
-struct StationDetail;
+struct StationDetailBuilder;
 
 class DetailPane {
  public:
   explicit DetailPane(Form& form) : form_(form) {}
 
   void Load();
-  void Show(const StationDetail& detail);
+  void Show(const StationDetailBuilder& detail);
 
  private:
-  void ShowRatings(const StationDetail& detail);
-  void ShowPlayKeys(const StationDetail& detail);
+  void ShowRatings(const StationDetailBuilder& detail);
+  void ShowPlayKeys(const StationDetailBuilder& detail);
 
   Form& form_;
 };

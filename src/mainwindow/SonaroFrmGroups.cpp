@@ -137,7 +137,7 @@ void SonaroFrm::mnuFavScanGroup_Click() {
 }
 
 void SonaroFrm::mnuActionStationToFavList_Click() {
-  const StationDetail& station = StationMeant();
+  const StationDetailBuilder& station = StationMeant();
   if (!station.station || !calls_.askGroupForStation) return;
   const std::string token = station.station.Token();
   const std::string group = calls_.askGroupForStation(station.name);
@@ -238,7 +238,7 @@ std::string SonaroFrm::AskGroupName(const std::string& present) {
 
 void SonaroFrm::SayDone(int textId, std::string_view token, std::string_view group) {
   if (!IsOpen()) return;
-  status_.Say(FillIn(LoadText(textId), {data_.source.NameOf(StationKey::FromToken(token)), group}));
+  status_.Say(FormatText(LoadText(textId), {data_.source.NameOf(StationKey::FromToken(token)), group}));
 }
 
 void SonaroFrm::TellTray(const std::string& text) {

@@ -6,9 +6,9 @@
 #include "forms/Form.h"
 #include "mainwindow/SonaroFrm_panes.h"
 #include "mainwindow/SortEntries.h"
-#include "mainwindow/StationListing.h"
+#include "mainwindow/StationListState.h"
 #include "resources/texts/mainwindow.h"
-#include "settings/FigureText.h"
+#include "settings/FormatCount.h"
 #include "settings/Strings.h"
 
 namespace sonaro {
@@ -35,7 +35,7 @@ void ListPane::ShowRows() {
   const int textId = count == 1 ? IDS_COUNT_ONE_STATION : IDS_COUNT_STATIONS;
   form_.SetText(lblCount, state.holds == Holds::Nothing && count == 0
                               ? std::string()
-                              : FillIn(form_.LoadText(textId), {FigureText(count, state_.decimalMode)}));
+                              : FormatText(form_.LoadText(textId), {FormatCount(count, state_.decimalMode)}));
 }
 
 // Beside the caption, which is shorter then.
@@ -43,7 +43,7 @@ void ListPane::ShowMissing() {
   const ListingState& state = listing_.State();
   const std::size_t count = state.middle == Middle::StationList ? state.missing.size() : 0;
   const int textId = count == 1 ? IDS_GROUP_MISSING_ONE : IDS_GROUP_MISSING;
-  form_.SetText(butMissing, FillIn(form_.LoadText(textId), {FigureText(count, state_.decimalMode)}));
+  form_.SetText(butMissing, FormatText(form_.LoadText(textId), {FormatCount(count, state_.decimalMode)}));
   form_.ShowControl(butMissing, count > 0);
   form_.UseLayout(count > 0 ? kMainLayoutWithMissing : 0);
 }

@@ -7,12 +7,12 @@
 namespace sonaro {
 
 class Form;
-class StationListing;
+class StationListState;
 struct AppState;
 
 class ListPane final : private ListModel {
  public:
-  ListPane(Form& form, StationListing& listing, const AppState& state)
+  ListPane(Form& form, StationListState& listing, const AppState& state)
       : form_(form), listing_(listing), state_(state) {}
 
   void Load();
@@ -33,7 +33,7 @@ class ListPane final : private ListModel {
   void ShowMissing();
 
   Form& form_;
-  StationListing& listing_;
+  StationListState& listing_;
   const AppState& state_;
 };
 

@@ -10,7 +10,7 @@ namespace sonaro {
 
 void SearchPane::Load() {
   search_.LoadSearchKinds(form_.LoadText(IDS_SEARCH_KIND_STATIONS));
-  for (std::size_t i = 0; i < SearchPanel::kMostKinds; ++i) {
+  for (std::size_t i = 0; i < SearchPanel::kMaxKinds; ++i) {
     const int button = optSearchType + static_cast<int>(i);
     const bool used = i < search_.Kinds().size();
     if (used) form_.SetText(button, search_.Kinds()[i].caption);
@@ -29,15 +29,15 @@ void SearchPane::ShowHistory() {
 }
 
 void SearchPane::ShowWebSearch() {
-  form_.SetText(lblWebAsked, FillIn(form_.LoadText(IDS_WEB_ASKED), {search_.WebWords()}));
+  form_.SetText(lblWebAsked, FormatText(form_.LoadText(IDS_WEB_ASKED), {search_.WebWords()}));
   form_.SetText(lblWebAddress, search_.WebAddress());
 }
 
 std::size_t SearchPane::ChosenKind() const {
-  for (int i = 0; i < static_cast<int>(SearchPanel::kMostKinds) - 1; ++i) {
+  for (int i = 0; i < static_cast<int>(SearchPanel::kMaxKinds) - 1; ++i) {
     if (form_.IsChecked(optSearchType + i)) return static_cast<std::size_t>(i);
   }
-  return SearchPanel::kMostKinds - 1;
+  return SearchPanel::kMaxKinds - 1;
 }
 
 bool SearchPane::AllWords() const { return form_.IsChecked(optSearch); }

@@ -45,10 +45,11 @@ void SonaroFrm::treeBrowse_NodeClick(HTREEITEM node) {
 void SonaroFrm::treeBrowse_ContextMenu(int, POINT at) { PopUpMenu(models_.actions.PersonalMenu(), at); }
 
 void SonaroFrm::butGoMediaLink_Click(int link) {
-  const StationDetail& station = StationMeant();
+  const StationDetailBuilder& station = StationMeant();
   // A station may lack a first link and have others: what is asked for is the first that plays.
   std::size_t wanted = static_cast<std::size_t>(link);
-  while (link == 0 && wanted + 1 < StationDetail::kPlayKeys && !station.playKeys[wanted].shown) ++wanted;
+  while (link == 0 && wanted + 1 < StationDetailBuilder::kPlayKeys && !station.playKeys[wanted].shown)
+    ++wanted;
   if (station.playKeys[wanted].shown) {
     Play(station.playKeys[wanted]);
   } else if (link == 0 && station.station) {
@@ -58,13 +59,13 @@ void SonaroFrm::butGoMediaLink_Click(int link) {
 }
 
 void SonaroFrm::mnuActionPlay_Click(int link) {
-  const StationDetail& station = StationMeant();
+  const StationDetailBuilder& station = StationMeant();
   const auto index = static_cast<std::size_t>(link);
   if (station.playKeys[index].shown) Play(station.playKeys[index]);
 }
 
 void SonaroFrm::mnuActionPlayExtra_Click(int link) {
-  const StationDetail& station = StationMeant();
+  const StationDetailBuilder& station = StationMeant();
   const auto index = static_cast<std::size_t>(link);
   if (index >= station.extraKeys.size()) return;
   Play(station.extraKeys[index]);
@@ -78,7 +79,7 @@ void SonaroFrm::Play(const PlayKey& key) {
 }
 
 void SonaroFrm::butGoWebPageIt_Click() {
-  const StationDetail& station = StationMeant();
+  const StationDetailBuilder& station = StationMeant();
   if (station.station && station.hasWebSite) pages_.OpenWebPage(station.station.Token());
 }
 

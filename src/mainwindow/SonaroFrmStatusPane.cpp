@@ -10,7 +10,7 @@
 #include "mainwindow/SonaroFrm_panes.h"
 #include "resources/texts/mainwindow.h"
 #include "settings/CReg.h"
-#include "settings/FigureText.h"
+#include "settings/FormatCount.h"
 #include "settings/SettingNames.h"
 #include "settings/Strings.h"
 
@@ -24,7 +24,7 @@ void StatusPane::ShowGuide() {
   if (!updated.empty()) textId = IDS_STATUS_GUIDE_UPDATED;
   if (count == 0) textId = IDS_STATUS_NO_GUIDE;
   form_.SetText(lblStatus,
-                FillIn(form_.LoadText(textId), {FigureText(count, data_.state.decimalMode), updated}));
+                FormatText(form_.LoadText(textId), {FormatCount(count, data_.state.decimalMode), updated}));
 }
 
 void StatusPane::Say(const std::string& sentence) {

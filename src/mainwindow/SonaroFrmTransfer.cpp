@@ -67,9 +67,9 @@ void SonaroFrm::mnuPersonalImport_Click() {
 void SonaroFrm::SayImported(const ImportResult& result) {
   const bool saved = result.status != ImportResult::Status::NotSaved;
   if (!SavedOrSaid(saved, LoadText(IDS_IMPORT_WHAT), *this, data_.strings)) return;
-  std::string text =
-      FillIn(LoadText(SentenceOf(result.status)),
-             {std::to_string(result.added), std::to_string(result.known), std::to_string(result.skipped)});
+  std::string text = FormatText(
+      LoadText(SentenceOf(result.status)),
+      {std::to_string(result.added), std::to_string(result.known), std::to_string(result.skipped)});
   if (result.status == ImportResult::Status::Ok && result.damaged) text += " " + LoadText(IDS_IMPORT_DAMAGED);
   Say(kImportKey, text);
   models_.listing.GroupsChanged();

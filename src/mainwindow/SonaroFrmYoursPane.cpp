@@ -4,7 +4,7 @@
 
 #include "forms/ControlIds.h"
 #include "forms/Form.h"
-#include "mainwindow/StationListing.h"
+#include "mainwindow/StationListState.h"
 #include "resources/texts/mainwindow.h"
 #include "stations/FavoriteGroups.h"
 #include "stations/RecentList.h"
@@ -20,7 +20,7 @@ constexpr int kFirstGroupRow = 2;
 }  // namespace
 
 YoursPane::YoursPane(Form& form, const FavoriteGroups& groups, const RecentList& recent,
-                     const StationListing& listing, const MainWindowCalls& calls)
+                     const StationListState& listing, const MainWindowCalls& calls)
     : form_(form), groups_(groups), recent_(recent), listing_(listing), calls_(calls) {}
 
 void YoursPane::Load() {

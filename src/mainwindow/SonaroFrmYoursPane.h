@@ -14,12 +14,12 @@ namespace sonaro {
 class FavoriteGroups;
 class Form;
 class RecentList;
-class StationListing;
+class StationListState;
 
 class YoursPane {
  public:
-  YoursPane(Form& form, const FavoriteGroups& groups, const RecentList& recent, const StationListing& listing,
-            const MainWindowCalls& calls);
+  YoursPane(Form& form, const FavoriteGroups& groups, const RecentList& recent,
+            const StationListState& listing, const MainWindowCalls& calls);
 
   void Load();
   void ShowGroups();
@@ -61,7 +61,7 @@ class YoursPane {
   Form& form_;
   const FavoriteGroups& groups_;
   const RecentList& recent_;
-  const StationListing& listing_;
+  const StationListState& listing_;
   const MainWindowCalls& calls_;
   std::vector<EventLine> events_;
   GroupRows groupRows_{*this};

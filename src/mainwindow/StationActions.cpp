@@ -6,7 +6,7 @@
 #include "forms/ControlIds.h"
 #include "mainwindow/MainWindowCalls.h"
 #include "mainwindow/SortEntries.h"
-#include "mainwindow/StationListing.h"
+#include "mainwindow/StationListState.h"
 #include "resources/texts/mainwindow.h"
 #include "settings/Strings.h"
 #include "stations/FavoriteGroups.h"
@@ -30,9 +30,9 @@ constexpr std::array<RankingCommand, kRankingCount> kRankingCommands{{
     {mnuActionMostReliable, Ranking::MostReliable},
 }};
 
-constexpr std::array<int, StationDetail::kPlayKeys> kPlayCommands{mnuActionPlayOne, mnuActionPlayTwo,
-                                                                  mnuActionPlayThree};
-constexpr std::array<int, StationDetail::kPlayKeys> kPlayShortcuts{
+constexpr std::array<int, StationDetailBuilder::kPlayKeys> kPlayCommands{mnuActionPlayOne, mnuActionPlayTwo,
+                                                                         mnuActionPlayThree};
+constexpr std::array<int, StationDetailBuilder::kPlayKeys> kPlayShortcuts{
     IDS_SHORTCUT_PLAY_ONE, IDS_SHORTCUT_PLAY_TWO, IDS_SHORTCUT_PLAY_THREE};
 
 // Separators are asked for freely; none stands first, last or beside another.
@@ -64,16 +64,16 @@ MenuEntry StationActions::Entry(int command, int textId, bool enabled) const {
   return entry;
 }
 
-MenuEntry StationActions::StationEntry(int command, int textId, const StationDetail& detail) const {
+MenuEntry StationActions::StationEntry(int command, int textId, const StationDetailBuilder& detail) const {
   const bool selected = static_cast<bool>(detail.station);
   MenuEntry entry = Entry(command, textId, selected);
   const std::string name =
       detail.name.empty() ? strings_.Load(IDS_ACTION_ANY_STATION) : MenuText(detail.name);
-  entry.text = FillIn(entry.text, {name, MenuText(listing_.State().group)});
+  entry.text = FormatText(entry.text, {name, MenuText(listing_.State().group)});
   return entry;
 }
 
-MenuEntries StationActions::ActionMenu(const StationDetail& detail) const {
+MenuEntries StationActions::ActionMenu(const StationDetailBuilder& detail) const {
   const bool selected = static_cast<bool>(detail.station);
   MenuEntries menu;
   AddPlayEntries(detail, menu);
@@ -98,24 +98,24 @@ MenuEntries StationActions::ActionMenu(const StationDetail& detail) const {
   return menu;
 }
 
-MenuEntries StationActions::EventMenu(const EventLine& event, const StationDetail& detail) const {
+MenuEntries StationActions::EventMenu(const EventLine& event, const StationDetailBuilder& detail) const {
   const int show = event.personalShow ? IDS_ACTION_REMOVE_SHOW : IDS_ACTION_ADD_SHOW;
   MenuEntries menu = {Entry(mnuEventNotifyMe, IDS_ACTION_NOTIFY_EVENT, !event.noticed),
                       Entry(mnuEventPersonalShow, show)};
-  for (MenuEntry& entry : menu) entry.text = FillIn(entry.text, {MenuText(event.name)});
+  for (MenuEntry& entry : menu) entry.text = FormatText(entry.text, {MenuText(event.name)});
   if (!detail.station) return menu;
   AddSeparator(menu);
   AddPlayEntries(detail, menu);
   return menu;
 }
 
-void StationActions::AddPlayEntries(const StationDetail& detail, MenuEntries& menu) const {
+void StationActions::AddPlayEntries(const StationDetailBuilder& detail, MenuEntries& menu) const {
   if (!detail.station) menu.push_back(Entry(mnuActionPlayOne, IDS_ACTION_PLAY, false));
-  for (std::size_t i = 0; i < StationDetail::kPlayKeys; ++i) {
+  for (std::size_t i = 0; i < StationDetailBuilder::kPlayKeys; ++i) {
     const PlayKey& key = detail.playKeys[i];
     if (!key.shown) continue;
     MenuEntry entry = Entry(kPlayCommands[i], kPlayShortcuts[i]);
-    entry.text = FillIn(entry.text, {MenuText(key.caption)});
+    entry.text = FormatText(entry.text, {MenuText(key.caption)});
     menu.push_back(std::move(entry));
   }
   for (std::size_t i = 0; i < detail.extraKeys.size() && i < kExtraPlayCommands; ++i) {
@@ -128,7 +128,7 @@ void StationActions::AddPlayEntries(const StationDetail& detail, MenuEntries& me
   menu.push_back(Entry(mnuActionCopyLink, IDS_ACTION_COPY_LINK, !detail.firstLink.empty()));
 }
 
-void StationActions::AddGroupEntries(const StationDetail& detail, MenuEntries& menu) const {
+void StationActions::AddGroupEntries(const StationDetailBuilder& detail, MenuEntries& menu) const {
   menu.push_back(StationEntry(mnuActionStationToFavList, IDS_ACTION_ADD_TO_GROUP, detail));
   // A submenu without entries would be a line.
   if (groups_.Count() > 0) menu.push_back(Submenu(strings_.Load(IDS_ACTION_ADD_TO), GroupChoices(detail)));
@@ -144,7 +144,7 @@ void StationActions::AddGroupEntries(const StationDetail& detail, MenuEntries& m
       Entry(mnuActionMoveDown, IDS_ACTION_MOVE_DOWN, canMove && row + 1 < listing_.Rows().Count()));
 }
 
-MenuEntries StationActions::GroupChoices(const StationDetail& detail) const {
+MenuEntries StationActions::GroupChoices(const StationDetailBuilder& detail) const {
   MenuEntries choices;
   for (std::size_t group = 0; group < groups_.Count() && group < FavoriteGroups::kSlots; ++group) {
     MenuEntry entry;

@@ -8,12 +8,12 @@
 
 #include "forms/portable/MenuText.h"
 #include "mainwindow/Rankings.h"
-#include "mainwindow/StationDetail.h"
+#include "mainwindow/StationDetailBuilder.h"
 
 namespace sonaro {
 
 class FavoriteGroups;
-class StationListing;
+class StationListState;
 class Strings;
 
 // Entries for the user's own links of a station: mnuActionPlayExtra and the numbers after it.
@@ -26,13 +26,13 @@ struct EventLine;
 
 class StationActions {
  public:
-  StationActions(const StationListing& listing, const FavoriteGroups& groups, const Strings& strings)
+  StationActions(const StationListState& listing, const FavoriteGroups& groups, const Strings& strings)
       : listing_(listing), groups_(groups), strings_(strings) {}
 
   // The menu of the selected station, of which `detail` holds the facts.
-  MenuEntries ActionMenu(const StationDetail& detail) const;
+  MenuEntries ActionMenu(const StationDetailBuilder& detail) const;
   // The menu of a coming event; `detail` is of its station, if the guide has it.
-  MenuEntries EventMenu(const EventLine& event, const StationDetail& detail) const;
+  MenuEntries EventMenu(const EventLine& event, const StationDetailBuilder& detail) const;
   // What the list can be sorted by; the sort in force is checked.
   MenuEntries SortMenu() const;
   // The menu of a group key; `group` may be a free slot.
@@ -46,14 +46,14 @@ class StationActions {
   enum class Place { SortMenu, ActionMenu };
   MenuEntry Entry(int command, int textId, bool enabled = true) const;
   // With the name of the station in the text, or the words for any station.
-  MenuEntry StationEntry(int command, int textId, const StationDetail& detail) const;
+  MenuEntry StationEntry(int command, int textId, const StationDetailBuilder& detail) const;
   MenuEntries SortEntriesFor(Place place) const;
   MenuEntries RankingEntries() const;
-  MenuEntries GroupChoices(const StationDetail& detail) const;
-  void AddPlayEntries(const StationDetail& detail, MenuEntries& menu) const;
-  void AddGroupEntries(const StationDetail& detail, MenuEntries& menu) const;
+  MenuEntries GroupChoices(const StationDetailBuilder& detail) const;
+  void AddPlayEntries(const StationDetailBuilder& detail, MenuEntries& menu) const;
+  void AddGroupEntries(const StationDetailBuilder& detail, MenuEntries& menu) const;
 
-  const StationListing& listing_;
+  const StationListState& listing_;
   const FavoriteGroups& groups_;
   const Strings& strings_;
 };

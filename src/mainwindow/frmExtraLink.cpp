@@ -58,7 +58,7 @@ void frmExtraLink::OnLoad() {
   SetText(txtExtraName, all_.front().name);
 }
 
-void frmExtraLink::Complain(const char* key, int text) {
+void frmExtraLink::ShowError(const char* key, int text) {
   messages_.Ask({.key = key,
                  .caption = LoadText(IDS_DLG_EXTRA_TITLE),
                  .text = LoadText(text),
@@ -68,7 +68,7 @@ void frmExtraLink::Complain(const char* key, int text) {
 void frmExtraLink::butOKIt_Click() {
   const auto linkText = OwnLinkFromField(Text(txtExtraLink), all_.front().link);
   if (!linkText) {
-    Complain("PersonalStationLink", IDS_DLG_OWN_BAD_LINK);
+    ShowError("PersonalStationLink", IDS_DLG_OWN_BAD_LINK);
     return;
   }
   all_.front() = {Text(txtExtraName), *linkText};

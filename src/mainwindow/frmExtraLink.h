@@ -27,7 +27,7 @@ class frmExtraLink final : public Form {
   static const FormDesign& Design();
   std::span<const EventRow> Events() const override;
   void OnLoad() override;
-  void Complain(const char* key, int text);
+  void ShowError(const char* key, int text);
   void butOKIt_Click();
   void butCancelIt_Click() { Close(); }
 

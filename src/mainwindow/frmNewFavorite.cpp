@@ -57,7 +57,7 @@ std::string frmNewFavorite::AskName(HWND owner) { return ShowModal(owner) == 1 ?
 
 void frmNewFavorite::OnLoad() {
   SetText(lblTitle, LoadText(Description().caption.id));
-  LimitText(txtGroupName, FavoriteGroups::kMostNameBytes);
+  LimitText(txtGroupName, FavoriteGroups::kMaxNameBytes);
   SetText(txtGroupName, name_);
   SelectAllText(txtGroupName);
   txtGroupName_Change();

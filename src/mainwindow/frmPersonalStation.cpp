@@ -70,7 +70,7 @@ void frmPersonalStation::OnLoad() {
   SetText(txtStationNote, station_.note);
 }
 
-void frmPersonalStation::Complain(const char* key, int text) {
+void frmPersonalStation::ShowError(const char* key, int text) {
   messages_.Ask({.key = key,
                  .caption = LoadText(IDS_DLG_OWN_TITLE),
                  .text = LoadText(text),
@@ -84,7 +84,7 @@ void frmPersonalStation::butOKIt_Click() {
     std::string& stored = station_.links[static_cast<std::size_t>(link)];
     const auto linkText = OwnLinkFromField(Text(txtLink + link), stored);
     if (!linkText) {
-      Complain("PersonalStationLink", IDS_DLG_OWN_BAD_LINK);
+      ShowError("PersonalStationLink", IDS_DLG_OWN_BAD_LINK);
       Focus(txtLink + link);
       return;
     }
@@ -93,7 +93,7 @@ void frmPersonalStation::butOKIt_Click() {
   }
   const bool noName = TrimBlanks(station_.name).empty();
   if (noName || !anyLink) {
-    Complain("ToAddMorePersonalStationYouNeedMoreInfo", IDS_DLG_OWN_NEED_MORE);
+    ShowError("ToAddMorePersonalStationYouNeedMoreInfo", IDS_DLG_OWN_NEED_MORE);
     Focus(noName ? txtStationName : txtLink);
     return;
   }

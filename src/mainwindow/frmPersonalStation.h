@@ -25,7 +25,7 @@ class frmPersonalStation final : public Form {
   static const FormDesign& Design();
   std::span<const EventRow> Events() const override;
   void OnLoad() override;
-  void Complain(const char* key, int text);
+  void ShowError(const char* key, int text);
   bool Save();
   void butOKIt_Click();
   void butCancelIt_Click() { Close(); }

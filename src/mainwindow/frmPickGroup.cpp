@@ -56,7 +56,7 @@ std::string frmPickGroup::AskGroup(HWND owner) { return ShowModal(owner) == 1 ? 
 
 void frmPickGroup::OnLoad() {
   SetText(lblStation, station_);
-  LimitText(txtGroupName, FavoriteGroups::kMostNameBytes);
+  LimitText(txtGroupName, FavoriteGroups::kMaxNameBytes);
   for (const std::string& group : groups_) AddItem(cmbGroup, group);
   if (groups_.size() < FavoriteGroups::kSlots) AddItem(cmbGroup, LoadText(IDS_DLG_PICK_NEW));
   SelectItem(cmbGroup, 0);

@@ -78,7 +78,7 @@ std::optional<PreviousGuide> LoadPreviousGuide(DataFolder& data, std::string_vie
   PreviousGuide guide;
   while (rest != kEnd) {
     if (rest.empty()) return std::nullopt;
-    const std::string_view line = TakeUntil(rest, '\n');
+    const std::string_view line = NextField(rest, '\n');
     if (!TakeEntry(line, rest, guide)) return std::nullopt;
   }
   return guide;

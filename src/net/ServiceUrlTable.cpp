@@ -12,7 +12,7 @@ namespace sonaro {
 
 namespace {
 
-constexpr std::size_t kLongestValue = 2048;
+constexpr std::size_t kMaxValueLength = 2048;
 
 enum class Kind { Address, Text };
 
@@ -105,7 +105,7 @@ void FindServiceValues(std::string_view line, std::vector<ServiceValue>& found, 
     if (row.key.empty()) continue;
     const std::optional<std::string_view> value = ValueBehind(line, row.key);
     if (!value || value->empty()) continue;
-    if (value->size() > kLongestValue || (row.kind == Address && !IsServiceAddress(*value))) {
+    if (value->size() > kMaxValueLength || (row.kind == Address && !IsServiceAddress(*value))) {
       ++refused;
     } else {
       found.push_back({row.registryKey, row.setting, std::string(*value)});

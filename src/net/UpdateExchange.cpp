@@ -29,7 +29,8 @@ constexpr std::string_view kToDoReason = "Update";
 
 }  // namespace
 
-UpdateExchange::UpdateExchange(const UpdateNeeds& needs, UpdateView& view, int callerCode, int installCode)
+UpdateExchange::UpdateExchange(const UpdateDependencies& needs, UpdateView& view, int callerCode,
+                               int installCode)
     : needs_(needs),
       view_(view),
       http_(needs.http.Make()),
@@ -110,7 +111,7 @@ void UpdateExchange::HTTPError(const std::string& statusCode, const std::string&
     redirect_ = RedirectTarget(headers);
   } else {
     failed_ = true;
-    reason_ = FillIn(needs_.strings.Load(IDS_NET_WRONG_STATUS), {statusCode});
+    reason_ = FormatText(needs_.strings.Load(IDS_NET_WRONG_STATUS), {statusCode});
   }
 }
 

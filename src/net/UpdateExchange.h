@@ -56,12 +56,12 @@ class UpdateView {
   virtual void Finished(const UpdateOutcome& outcome) = 0;
 };
 
-struct UpdateNeeds {
+struct UpdateDependencies {
   CReg& reg;
   DataFolder& data;
   const Strings& strings;
   UpdateInstall& install;
-  HttpControlMaker& http;
+  HttpControlFactory& http;
   std::function<void(std::string_view reason)> runToDo;  // continues with the list of pending work
 };
 
@@ -71,7 +71,7 @@ class UpdateExchange final : private HttpEvents {
   static constexpr int kTryLater = 10000;  // between two tries that nobody watches
   static constexpr int kTriesUnwatched = 3;
 
-  UpdateExchange(const UpdateNeeds& needs, UpdateView& view, int callerCode, int installCode);
+  UpdateExchange(const UpdateDependencies& needs, UpdateView& view, int callerCode, int installCode);
 
   // The window was loaded.
   void Load();
@@ -102,7 +102,7 @@ class UpdateExchange final : private HttpEvents {
   bool ForDialog() const { return callerCode_ == caller::kUpdateDialog; }
   void Finish(UpdateOutcome::Kind kind);
 
-  UpdateNeeds needs_;
+  UpdateDependencies needs_;
   UpdateView& view_;
   std::unique_ptr<HttpControl> http_;
   int openedBy_;

@@ -16,7 +16,7 @@ namespace sonaro {
 
 namespace {
 
-constexpr std::size_t kLongestStamp = 64;  // of a date, a version or a serial number
+constexpr std::size_t kMaxStampLength = 64;  // of a date, a version or a serial number
 
 // The lines of the file. One empty line before a line is skipped; of two in a row the second is a line.
 class UpdateLines {
@@ -33,7 +33,7 @@ class UpdateLines {
  private:
   bool TakeLine(std::string_view& line) {
     if (rest_.empty()) return false;
-    line = TakeUntil(rest_, '\n');
+    line = NextField(rest_, '\n');
     if (line.ends_with('\r')) line.remove_suffix(1);
     return true;
   }
@@ -56,7 +56,7 @@ class Sections {
     std::string_view start;
     if (!lines.Peek(start) || !IsMarker(start, name, update::kSectionStart)) return;
     lines.Next(start);
-    if (++count_ > update::kMostSections) return;
+    if (++count_ > update::kMaxSections) return;
     const bool taken = update::MayBringFile(name);
     if (!taken) ++contents_.skippedSections;
     std::string bytes;
@@ -68,7 +68,7 @@ class Sections {
     }
     if (taken) Keep(name, std::move(bytes));
   }
-  bool TooLarge() const { return count_ > update::kMostSections || bytes_ > update::kMostBytes; }
+  bool TooLarge() const { return count_ > update::kMaxSections || bytes_ > update::kMaxBytes; }
 
  private:
   void Keep(std::string_view name, std::string bytes) {
@@ -91,7 +91,7 @@ std::optional<std::string> ValueBetween(std::string_view line, std::string_view 
   if (at == std::string_view::npos) return std::nullopt;
   const std::string_view rest = line.substr(at + mark.size());
   const std::size_t length = rest.find(end);
-  if (length == std::string_view::npos || length > kLongestStamp) return std::nullopt;
+  if (length == std::string_view::npos || length > kMaxStampLength) return std::nullopt;
   return std::string(rest.substr(0, length));
 }
 

@@ -9,7 +9,7 @@ namespace sonaro::update {
 
 namespace {
 
-constexpr std::size_t kLongestName = 64;
+constexpr std::size_t kMaxNameLength = 64;
 
 constexpr std::string_view kEndings[] = {".snr", ".vbt", ".pts", ".isd", ".ism", ".isf", ".isl"};
 
@@ -39,7 +39,7 @@ bool IsDevice(std::string_view name) {
 
 // A blank at an end is dropped by the file system, which would make two names one.
 bool MayBringFile(std::string_view name) {
-  if (name.empty() || name.size() > kLongestName || !std::all_of(name.begin(), name.end(), IsPlain))
+  if (name.empty() || name.size() > kMaxNameLength || !std::all_of(name.begin(), name.end(), IsPlain))
     return false;
   if (name.front() == '.' || TrimBlanks(name) != name || IsDevice(name)) return false;
   if (IsOwnFile(name) || EqualIgnoringCase(name, kAlphabet)) return false;

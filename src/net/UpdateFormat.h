@@ -28,8 +28,8 @@ inline constexpr std::string_view kNothingNew = "noupdate.txt";
 
 // What one update may bring: sections, those that are passed over included, and the bytes of all of them. A
 // guide has some fifty files.
-inline constexpr std::size_t kMostSections = 250;
-inline constexpr std::size_t kMostBytes = std::size_t{128} * 1024 * 1024;
+inline constexpr std::size_t kMaxSections = 250;
+inline constexpr std::size_t kMaxBytes = std::size_t{128} * 1024 * 1024;
 
 // True when an update may bring a file of this name: a plain name of a data file of the service's, and never
 // one that the user made or that the program keeps for itself.

@@ -28,7 +28,7 @@ constexpr std::string_view kCategories = "cat.snr";
 bool HoldsStations(std::string_view list) {
   StationLine station;
   while (!list.empty()) {
-    if (ParseStationLine(TakeUntil(list, '\n'), station)) return true;
+    if (ParseStationLine(NextField(list, '\n'), station)) return true;
   }
   return false;
 }

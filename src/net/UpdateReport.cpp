@@ -17,7 +17,7 @@ std::vector<StationLine> StationsIn(std::string_view list) {
   std::vector<StationLine> stations;
   StationLine station;
   while (!list.empty()) {
-    if (ParseStationLine(TakeUntil(list, '\n'), station)) stations.push_back(station);
+    if (ParseStationLine(NextField(list, '\n'), station)) stations.push_back(station);
   }
   const auto byId = [](const StationLine& a, const StationLine& b) { return a.id < b.id; };
   std::stable_sort(stations.begin(), stations.end(), byId);
@@ -43,7 +43,7 @@ std::string NamesIn(const std::vector<std::string>& names, const Strings& string
     list.append(i == 0 ? "" : ", ").append(names[i]);
   }
   if (names.size() <= kNamedAtMost) return list;
-  return FillIn(strings.Load(IDS_NET_AND_MORE), {list, std::to_string(names.size() - kNamedAtMost)});
+  return FormatText(strings.Load(IDS_NET_AND_MORE), {list, std::to_string(names.size() - kNamedAtMost)});
 }
 
 }  // namespace
@@ -82,13 +82,13 @@ UpdateReport CompareStationLists(std::string_view before, std::string_view after
 
 std::string DescribeUpdate(const UpdateReport& report, const Strings& strings) {
   std::string text =
-      FillIn(strings.Load(IDS_NET_REPORT),
-             {std::to_string(report.added), std::to_string(report.changed), std::to_string(report.gone)});
+      FormatText(strings.Load(IDS_NET_REPORT),
+                 {std::to_string(report.added), std::to_string(report.changed), std::to_string(report.gone)});
   if (!report.yoursChanged.empty()) {
-    text += "\r\n" + FillIn(strings.Load(IDS_NET_YOURS_CHANGED), {NamesIn(report.yoursChanged, strings)});
+    text += "\r\n" + FormatText(strings.Load(IDS_NET_YOURS_CHANGED), {NamesIn(report.yoursChanged, strings)});
   }
   if (!report.yoursGone.empty()) {
-    text += "\r\n" + FillIn(strings.Load(IDS_NET_YOURS_GONE), {NamesIn(report.yoursGone, strings)});
+    text += "\r\n" + FormatText(strings.Load(IDS_NET_YOURS_GONE), {NamesIn(report.yoursGone, strings)});
   }
   return text;
 }

@@ -28,7 +28,7 @@ SignatureCheck CheckUpdateSignature(DataFolder& data, std::string_view& text) {
   if (keyFile.status == ReadStatus::Missing) return SignatureCheck::NotNeeded;
   if (keyFile.status != ReadStatus::Ok) return SignatureCheck::NoKey;
   std::string_view keyText = keyFile.bytes;
-  std::string_view key = TakeUntil(keyText, '\n');
+  std::string_view key = NextField(keyText, '\n');
   if (key.ends_with('\r')) key.remove_suffix(1);
   key = TrimBlanks(key);
 

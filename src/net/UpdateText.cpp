@@ -48,7 +48,7 @@ bool MayRetry(const UpdateOutcome& outcome) {
 
 std::string BytesText(std::uint64_t bytes, std::uint64_t expected, const Strings& strings) {
   const int text = expected == 0 ? IDS_NET_BYTES : IDS_NET_BYTES_OF;
-  return FillIn(strings.Load(text), {Kilobytes(bytes), Kilobytes(expected)});
+  return FormatText(strings.Load(text), {Kilobytes(bytes), Kilobytes(expected)});
 }
 
 }  // namespace sonaro

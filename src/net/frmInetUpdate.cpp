@@ -10,8 +10,8 @@ const FormDesign& frmInetUpdate::Design() {
   return kDesign;
 }
 
-frmInetUpdate::frmInetUpdate(FormContext& context, const UpdateNeeds& needs, int callerCode, int installCode,
-                             UpdateOpener opener)
+frmInetUpdate::frmInetUpdate(FormContext& context, const UpdateDependencies& needs, int callerCode,
+                             int installCode, UpdateOpener opener)
     : Form(context, Design()), opener_(std::move(opener)), exchange_(needs, *this, callerCode, installCode) {}
 
 std::span<const TimerRow> frmInetUpdate::Timers() const {

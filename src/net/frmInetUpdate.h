@@ -18,7 +18,7 @@ struct UpdateOpener {
 
 class frmInetUpdate final : public Form, private UpdateView {
  public:
-  frmInetUpdate(FormContext& context, const UpdateNeeds& needs, int callerCode, int installCode,
+  frmInetUpdate(FormContext& context, const UpdateDependencies& needs, int callerCode, int installCode,
                 UpdateOpener opener);
 
   // Begins the update.

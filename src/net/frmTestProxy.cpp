@@ -115,7 +115,7 @@ std::span<const TimerRow> frmTestProxy::Timers() const {
   return kRows;
 }
 
-frmTestProxy::frmTestProxy(FormContext& context, CReg& reg, HttpControlMaker& http, Clock& clock,
+frmTestProxy::frmTestProxy(FormContext& context, CReg& reg, HttpControlFactory& http, Clock& clock,
                            std::string address, std::string port)
     : Form(context, Design()),
       reg_(reg),
@@ -162,7 +162,7 @@ void frmTestProxy::BeginStep(int step) {
 void frmTestProxy::StepDone() {
   ShowStep(Icon::Check, Ink::Signal, LoadText(kSteps[step_].done));
   SetText(lblProxyStepTime + step_,
-          FillIn(LoadText(IDS_NET_TEST_TIME), {std::to_string(clock_.Ticks() - stepBegan_)}));
+          FormatText(LoadText(IDS_NET_TEST_TIME), {std::to_string(clock_.Ticks() - stepBegan_)}));
   BeginStep(step_ + 1);
 }
 
@@ -185,7 +185,7 @@ void frmTestProxy::HTTPDataReceived(std::string_view body) {
 }
 
 void frmTestProxy::HTTPError(const std::string& statusCode, const std::string&) {
-  StepFailed(FillIn(LoadText(IDS_NET_WRONG_STATUS), {statusCode}));
+  StepFailed(FormatText(LoadText(IDS_NET_WRONG_STATUS), {statusCode}));
 }
 
 void frmTestProxy::HTTPObjectError(const std::string& reason) {

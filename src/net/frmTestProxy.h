@@ -16,7 +16,7 @@ class CReg;
 
 class frmTestProxy final : public Form, private HttpEvents {
  public:
-  frmTestProxy(FormContext& context, CReg& reg, HttpControlMaker& http, Clock& clock, std::string address,
+  frmTestProxy(FormContext& context, CReg& reg, HttpControlFactory& http, Clock& clock, std::string address,
                std::string port);
 
  private:

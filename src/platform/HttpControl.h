@@ -39,9 +39,9 @@ class HttpControl {
   virtual void Cancel() = 0;
 };
 
-class HttpControlMaker {
+class HttpControlFactory {
  public:
-  virtual ~HttpControlMaker() = default;
+  virtual ~HttpControlFactory() = default;
   virtual std::unique_ptr<HttpControl> Make() = 0;
 };
 

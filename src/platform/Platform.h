@@ -6,7 +6,7 @@ namespace sonaro {
 
 class Clock;
 class Files;
-class HttpControlMaker;
+class HttpControlFactory;
 class MessagePost;
 class Registry;
 class Shell;
@@ -21,7 +21,7 @@ struct Platform {
   Sound& sound;
   SystemInfo& systemInfo;
   MessagePost& messages;
-  HttpControlMaker& http;
+  HttpControlFactory& http;
 };
 
 }  // namespace sonaro

@@ -54,7 +54,7 @@ void PlayerLaunch::LaunchStation(const std::string& key, PlayMode mode) {
 
 // True when the user has chosen a player, so that it is worth another try.
 bool PlayerLaunch::Tell(LaunchOutcome outcome) {
-  const std::string sentence = WhyNot(outcome);
+  const std::string sentence = ErrorText(outcome);
   if (!view_ || sentence.empty()) return false;
   switch (outcome) {
     case LaunchOutcome::NoPlayer:
@@ -63,7 +63,7 @@ bool PlayerLaunch::Tell(LaunchOutcome outcome) {
     case LaunchOutcome::NotStarted:
       return view_->OfferPlayers(sentence);
     default:
-      view_->SayWhyNot(sentence);
+      view_->ShowErrorText(sentence);
       return false;
   }
 }
@@ -146,14 +146,14 @@ bool PlayerLaunch::AnythingPlays() const {
          !players_.FindAsxProgram().empty();
 }
 
-std::string PlayerLaunch::WhyNot(LaunchOutcome outcome) const {
+std::string PlayerLaunch::ErrorText(LaunchOutcome outcome) const {
   switch (outcome) {
     case LaunchOutcome::NoLink:
       return strings_.Load(IDS_WHYNOT_NO_LINK);
     case LaunchOutcome::RefusedPage:
-      return pages_.WhyNot(WebPageOutcome::Refused);
+      return pages_.ErrorText(WebPageOutcome::Refused);
     case LaunchOutcome::PageNotStarted:
-      return pages_.WhyNot(WebPageOutcome::NotStarted);
+      return pages_.ErrorText(WebPageOutcome::NotStarted);
     case LaunchOutcome::RefusedLink:
       return strings_.Load(IDS_WHYNOT_REFUSED_LINK);
     case LaunchOutcome::NoPlayer:

@@ -36,7 +36,7 @@ class LaunchView {
   // a player there.
   virtual bool ShowNoPlayer() = 0;
   // Tells the user in one sentence why nothing plays.
-  virtual void SayWhyNot(const std::string& sentence) = 0;
+  virtual void ShowErrorText(const std::string& sentence) = 0;
   // The same, with the choice of a player as a way out. True when the user has chosen one.
   virtual bool OfferPlayers(const std::string& sentence) = 0;
 };
@@ -69,7 +69,7 @@ class PlayerLaunch {
   bool AnythingPlays() const;
 
   // One sentence for the user; "" for an outcome that needs none.
-  std::string WhyNot(LaunchOutcome outcome) const;
+  std::string ErrorText(LaunchOutcome outcome) const;
 
  private:
   std::string LinkFor(const StationKey& station, const std::string& key, PlayMode mode) const;

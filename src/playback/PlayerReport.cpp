@@ -4,7 +4,7 @@
 #include "playback/Players.h"
 #include "resources/texts/playback.h"
 #include "settings/AppState.h"
-#include "settings/FigureText.h"
+#include "settings/FormatCount.h"
 #include "settings/Strings.h"
 
 namespace sonaro {
@@ -16,15 +16,15 @@ std::string FileNameOf(const std::string& path) { return path.substr(path.find_l
 }  // namespace
 
 std::string PlayerReporter::Figure(std::size_t figure) const {
-  return FigureText(figure, state_.decimalMode);
+  return FormatCount(figure, state_.decimalMode);
 }
 
 // A kind of link that no station has is not worth a line.
 PlayerReport::Line PlayerReporter::OfKind(std::size_t stations, const std::string& program, int plays,
                                           int missing) const {
   if (stations == 0) return {};
-  if (!program.empty()) return {FillIn(strings_.Load(plays), {Figure(stations), FileNameOf(program)})};
-  return {FillIn(strings_.Load(missing), {Figure(stations)}), true};
+  if (!program.empty()) return {FormatText(strings_.Load(plays), {Figure(stations), FileNameOf(program)})};
+  return {FormatText(strings_.Load(missing), {Figure(stations)}), true};
 }
 
 PlayerReport PlayerReporter::OfProgram(std::size_t stations, const std::string& program) const {
@@ -33,7 +33,7 @@ PlayerReport PlayerReporter::OfProgram(std::size_t stations, const std::string& 
             {{{strings_.Load(IDS_NOPLAYER_CANT_FIND) + program, true}, {}, {}}}};
   }
   return {PlayerReport::Plays::Everything,
-          {{{FillIn(strings_.Load(IDS_PLAYERS_ALL), {Figure(stations), FileNameOf(program)})}, {}, {}}}};
+          {{{FormatText(strings_.Load(IDS_PLAYERS_ALL), {Figure(stations), FileNameOf(program)})}, {}, {}}}};
 }
 
 PlayerReport PlayerReporter::Report(const LinkCounts& counts, const std::string& program) const {
@@ -54,7 +54,7 @@ PlayerReport PlayerReporter::Report(const LinkCounts& counts, const std::string&
                                                                         : PlayerReport::Plays::Everything;
   }
   if (counts.webPage > 0)
-    report.lines[2] = {FillIn(strings_.Load(IDS_PLAYERS_WEB), {Figure(counts.webPage)})};
+    report.lines[2] = {FormatText(strings_.Load(IDS_PLAYERS_WEB), {Figure(counts.webPage)})};
   return report;
 }
 

@@ -20,7 +20,7 @@ constexpr std::uint64_t kSecond = 1000;  // clock ticks
 constexpr int kFirstReliabilityIcon = 7;
 
 bool IsScanTime(std::int64_t seconds) {
-  return seconds >= StationScan::kShortest && seconds <= StationScan::kLongest;
+  return seconds >= StationScan::kShortest && seconds <= StationScan::kMaxLength;
 }
 
 }  // namespace
@@ -177,7 +177,7 @@ void StationScan::PlayCurrent() {
   launching_ = false;
   const bool missing = outcome == LaunchOutcome::NoPlayer || outcome == LaunchOutcome::NoAsxProgram;
   if (missing && !player_.AnythingPlays()) return PauseForPlayer();
-  current_->reason = player_.WhyNot(outcome);
+  current_->reason = player_.ErrorText(outcome);
   if (!current_->reason.empty()) elapsed_ = kNeverShown;
   if (state_ == ScanState::Scanning) Resume();
 }

@@ -62,7 +62,7 @@ struct ScanButtons {
 class StationScan {
  public:
   static constexpr int kShortest = 20;  // seconds per station
-  static constexpr int kLongest = 120;
+  static constexpr int kMaxLength = 120;
   static constexpr int kDefault = 30;
   // What cmbScanTime offers.
   static constexpr std::array<int, 11> kScanTimes = {20, 30, 40, 50, 60, 70, 80, 90, 100, 110, 120};

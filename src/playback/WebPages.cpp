@@ -21,11 +21,11 @@ std::string WithScheme(const std::string& address) {
 }  // namespace
 
 void WebPages::OpenWebPage(const std::string& textOrKey) {
-  const std::string sentence = WhyNot(Open(textOrKey));
-  if (!sentence.empty() && sayWhyNot_) sayWhyNot_(sentence);
+  const std::string sentence = ErrorText(Open(textOrKey));
+  if (!sentence.empty() && showErrorText_) showErrorText_(sentence);
 }
 
-std::string WebPages::WhyNot(WebPageOutcome outcome) const {
+std::string WebPages::ErrorText(WebPageOutcome outcome) const {
   switch (outcome) {
     case WebPageOutcome::NoAddress:
       return strings_.Load(IDS_WHYNOT_NO_PAGE);

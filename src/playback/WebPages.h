@@ -26,7 +26,9 @@ class WebPages : public WebPageOpener {
       : stations_(stations), data_(data), shell_(shell), strings_(strings) {}
 
   // Tells the user in one sentence why a page was not opened. May be set late; without it nothing is said.
-  void SetSayWhyNot(std::function<void(const std::string& sentence)> say) { sayWhyNot_ = std::move(say); }
+  void SetShowErrorText(std::function<void(const std::string& sentence)> say) {
+    showErrorText_ = std::move(say);
+  }
 
   // A text that does not begin with "http" is a station's token, whose web site is opened. Says to the user
   // why nothing opens.
@@ -36,14 +38,14 @@ class WebPages : public WebPageOpener {
   // Starts lweb with the address, which must be one that may be opened (IsWebAddress).
   WebPageOutcome RunBrowser(const std::string& url);
   // One sentence for the user; "" for an outcome that needs none.
-  std::string WhyNot(WebPageOutcome outcome) const;
+  std::string ErrorText(WebPageOutcome outcome) const;
 
  private:
   const StationSource& stations_;
   DataFolder& data_;
   Shell& shell_;
   const Strings& strings_;
-  std::function<void(const std::string&)> sayWhyNot_;
+  std::function<void(const std::string&)> showErrorText_;
 };
 
 }  // namespace sonaro

@@ -16,7 +16,7 @@ namespace {
 
 constexpr unsigned kSecond = 1000;
 constexpr int kFirstSymbolIcon = 7;  // the icon of reliability 0
-constexpr std::size_t kMostGroups = 10;
+constexpr std::size_t kMaxGroups = 10;
 
 }  // namespace
 
@@ -108,8 +108,8 @@ void frmScan::ShowLists() {
   List(lstToScan).Select(std::min(std::max(selected, 0), queue_.RowCount() - 1));
   List(lstScanedAlready).RowsChanged();
   const std::size_t count = scan_.QueueCount();
-  SetText(lblQueueCount, FillIn(LoadText(count == 1 ? IDS_SCAN_W_QUEUE_ONE : IDS_SCAN_W_QUEUE_COUNT),
-                                {std::to_string(count)}));
+  SetText(lblQueueCount, FormatText(LoadText(count == 1 ? IDS_SCAN_W_QUEUE_ONE : IDS_SCAN_W_QUEUE_COUNT),
+                                    {std::to_string(count)}));
 }
 
 void frmScan::SelectQueueRow(std::size_t row) { List(lstToScan).Select(static_cast<int>(row)); }
@@ -178,9 +178,9 @@ void frmScan::lstToScan_ItemSelected(int) { ShowState(); }
 std::vector<MenuEntry> frmScan::GroupEntries() const {
   std::vector<MenuEntry> entries;
   const std::vector<std::string> names = groups_.names ? groups_.names() : std::vector<std::string>{};
-  for (std::size_t group = 0; group < std::min(names.size(), kMostGroups); ++group) {
+  for (std::size_t group = 0; group < std::min(names.size(), kMaxGroups); ++group) {
     entries.push_back({.command = mnuScanToGroup + static_cast<int>(group),
-                       .text = FillIn(LoadText(IDS_SCAN_W_MENU_GROUP), {MenuText(names[group])})});
+                       .text = FormatText(LoadText(IDS_SCAN_W_MENU_GROUP), {MenuText(names[group])})});
   }
   return entries;
 }

@@ -21,7 +21,7 @@ struct PlaylistEntry {
 };
 
 struct Playlist {
-  static constexpr std::size_t kMostEntries = 20000;
+  static constexpr std::size_t kMaxEntries = 20000;
 
   PlaylistFormat format = PlaylistFormat::NotAPlaylist;
   std::string title;

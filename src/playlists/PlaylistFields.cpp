@@ -70,7 +70,7 @@ void AddEntry(Playlist& playlist, PlaylistEntry entry) {
   entry.station = Cleaned(entry.station);
   entry.stationId = CleanField(entry.stationId, PersonalStation::kMaxName);
   if (entry.station.name.empty() || !HasSomethingToPlay(entry) ||
-      playlist.entries.size() >= Playlist::kMostEntries) {
+      playlist.entries.size() >= Playlist::kMaxEntries) {
     ++playlist.skipped;
     return;
   }

@@ -44,10 +44,10 @@ void AddLine(std::string& file, std::string content) {
   const auto control = [](unsigned char c) { return (c < 0x20 && c != '\t') || c == 0x7F; };
   std::replace_if(content.begin(), content.end(), control, ' ');
   std::string_view line = content;
-  std::string_view piece = CutForShow(line, kLineBytes);
+  std::string_view piece = TruncateUtf8(line, kLineBytes);
   file.append(piece).append("\r\n");
   for (line.remove_prefix(piece.size()); !line.empty(); line.remove_prefix(piece.size())) {
-    piece = CutForShow(line, kLineBytes - 1);
+    piece = TruncateUtf8(line, kLineBytes - 1);
     if (piece.empty()) piece = line.substr(0, 1);  // bytes that are no UTF-8
     file.append(" ").append(piece).append("\r\n");
   }

@@ -79,7 +79,7 @@ void PersonalShows::Tell(bool saved, const char* key, int text, std::string_view
   if (!SavedOrSaid(saved, strings_.Load(IDS_FILE_SHOWS), messages_, strings_)) return;
   messages_.Ask({.key = key,
                  .caption = strings_.Load(IDS_SCHED_SHOWS_CAPTION),
-                 .text = FillIn(strings_.Load(text), {DisplayName(showKey)}),
+                 .text = FormatText(strings_.Load(text), {DisplayName(showKey)}),
                  .firstButton = strings_.Load(IDS_APP_OK)});
 }
 

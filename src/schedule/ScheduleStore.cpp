@@ -88,7 +88,7 @@ void ScheduleStore::ReadFile() {
 // A line that an earlier save wrote there, but that is still in the table's file, stands there once.
 void ScheduleStore::Drop(std::string_view line) {
   if (std::find(dropped_.begin(), dropped_.end(), line) != dropped_.end()) return;
-  if (dropped_.size() >= kMostDropped) dropped_.erase(dropped_.begin());
+  if (dropped_.size() >= kMaxDropped) dropped_.erase(dropped_.begin());
   dropped_.emplace_back(line);
 }
 

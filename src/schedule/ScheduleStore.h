@@ -3,7 +3,7 @@
 // once; one that cannot be saved is taken back. Knows neither when an item comes on nor how it is shown.
 //
 // A save drops what loading did not take over: the end of a line with fewer than six tabs, and "once" items
-// whose day has passed. Those lines go to "\Sched.old" first, the latest kMostDropped of them: while that
+// whose day has passed. Those lines go to "\Sched.old" first, the latest kMaxDropped of them: while that
 // cannot be written, the schedule is not saved either. Items whose day has not passed after all (the clock
 // had been ahead) come back from there, and stay there until they are in the schedule's file again.
 #pragma once
@@ -24,7 +24,7 @@ class DataFolder;
 
 class ScheduleStore {
  public:
-  static constexpr std::size_t kMostDropped = 200;
+  static constexpr std::size_t kMaxDropped = 200;
 
   ScheduleStore(DataFolder& data, std::string shortDatePattern);
 

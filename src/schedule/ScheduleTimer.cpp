@@ -26,7 +26,7 @@ constexpr unsigned kAfterTheMinute = 200;  // milliseconds
 // A tick later than this did not come from a busy machine: the clock jumped or the machine slept.
 constexpr std::int64_t kLateTick = 5 * 60;
 // The largest step of a summer-time change anywhere.
-constexpr std::int64_t kLargestTimeChange = 2 * kSecondsInHour + kLateTick;
+constexpr std::int64_t kMaxTimeChange = 2 * kSecondsInHour + kLateTick;
 // The largest correction after which what was told stays told. A clock that was further ahead told it at a
 // wrong time.
 constexpr std::int64_t kSmallCorrection = 30 * 60;
@@ -73,7 +73,7 @@ void ScheduleTimer::FillDueList(const DateTime& now) {
     const auto ahead = [&](std::size_t slot) {
       const DateTime at{now.date, calendar_.TimeOf(slot).value_or(TimeOfDay{})};
       const std::int64_t seconds = SecondsBetween(lastTick_, at);
-      return seconds > 0 && told_.count({slot, at}) == 0 ? seconds : seconds + kSecondsInDay;
+      return seconds > 0 && notified_.count({slot, at}) == 0 ? seconds : seconds + kSecondsInDay;
     };
     std::stable_sort(slots.begin(), slots.end(),
                      [&](std::size_t a, std::size_t b) { return ahead(a) < ahead(b); });
@@ -146,7 +146,7 @@ ScheduleTimer::Pace ScheduleTimer::PaceSinceLastTick(const DateTime& now, const 
   if (local <= kLateTick) return Pace::Even;
   const std::int64_t world = SecondsBetween(lastGmt_, gmt);
   const bool worldRanEvenly = world >= 0 && world <= kLateTick;
-  return worldRanEvenly && local <= kLargestTimeChange ? Pace::SkippedAhead : Pace::WasAway;
+  return worldRanEvenly && local <= kMaxTimeChange ? Pace::SkippedAhead : Pace::WasAway;
 }
 
 void ScheduleTimer::FireDue(const DateTime& now) {
@@ -190,7 +190,7 @@ void ScheduleTimer::CatchUp(const DateTime& lastSeen) {
   const DateTime now = clock_.LocalNow();
   const DateTime gmt = clock_.GmtNow();
   // A last look far ahead of now was by a wrong clock and does not say what has been told.
-  const bool unknown = SecondsBetween(now, lastSeen) > kLargestTimeChange;
+  const bool unknown = SecondsBetween(now, lastSeen) > kMaxTimeChange;
   const DateTime from = unknown ? AddSeconds(now, -kSecondsInDay) : lastSeen;
   TellLate(from, LiveSince(AddSeconds(from, -OffsetOf(now, gmt)), now, gmt), now, 0);
   Remember(now, gmt);
@@ -215,21 +215,21 @@ void ScheduleTimer::TellLate(const DateTime& from, std::vector<Occurrence> live,
 // What a clock that was ahead has told comes on again when its time has come.
 void ScheduleTimer::ForgetAhead(const DateTime& now, const DateTime& gmt) {
   if (SecondsBetween(gmt, lastGmt_) <= kSmallCorrection) return;
-  std::erase_if(told_, [&](const Occurrence& occurrence) { return occurrence.at > now; });
+  std::erase_if(notified_, [&](const Occurrence& occurrence) { return occurrence.at > now; });
 }
 
 void ScheduleTimer::Fire(std::size_t slot) {
   messages_.PostTo(kTrayCaption, kDueMessage, slot, static_cast<std::intptr_t>(slot));
 }
 
-bool ScheduleTimer::FirstTime(const Occurrence& occurrence) { return told_.insert(occurrence).second; }
+bool ScheduleTimer::FirstTime(const Occurrence& occurrence) { return notified_.insert(occurrence).second; }
 
 void ScheduleTimer::Remember(const DateTime& now, const DateTime& gmt) {
   const bool newDay = now.date != lastTick_.date;
   lastTick_ = now;
   lastGmt_ = gmt;
   if (!newDay) return;
-  std::erase_if(told_, [&](const Occurrence& occurrence) {
+  std::erase_if(notified_, [&](const Occurrence& occurrence) {
     return std::abs(SecondsBetween(occurrence.at, now)) > 2 * kSecondsInDay;
   });
 }

@@ -115,7 +115,7 @@ class ScheduleTimer {
 
   DateTime lastTick_;
   DateTime lastGmt_;
-  std::set<Occurrence> told_;  // within about a day of the clock
+  std::set<Occurrence> notified_;  // within about a day of the clock
 };
 
 }  // namespace sonaro

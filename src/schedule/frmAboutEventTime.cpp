@@ -80,9 +80,9 @@ void frmAboutEventTime::OnLoad() {
   std::string zone;
   std::string daylight;
   GetZoneOffset(clock_, zone, daylight);
-  SetText(lblTimeInfo3, FillIn(LoadText(IDS_SCHED_TIME_DATE), {FormatLongDate(now.date)}));
-  SetText(lblTimeInfo4, FillIn(LoadText(IDS_SCHED_TIME_TIME), {FormatTimeWithSeconds(now.time)}));
-  SetText(lblTimeInfo5, FillIn(LoadText(IDS_SCHED_TIME_ZONE), {zone}));
+  SetText(lblTimeInfo3, FormatText(LoadText(IDS_SCHED_TIME_DATE), {FormatLongDate(now.date)}));
+  SetText(lblTimeInfo4, FormatText(LoadText(IDS_SCHED_TIME_TIME), {FormatTimeWithSeconds(now.time)}));
+  SetText(lblTimeInfo5, FormatText(LoadText(IDS_SCHED_TIME_ZONE), {zone}));
 }
 
 void frmAboutEventTime::lblChangeIt_Click() { shell_.RunMinimised(kTimeSettings); }

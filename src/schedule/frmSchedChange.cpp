@@ -81,7 +81,7 @@ void frmSchedChange::ShowSummary() {
     const DateTime now = services_.clock.LocalNow();
     const ScheduleItem item = draft_.ToItem(services_.clockStyle, services_.shortDatePattern);
     if (const auto at = ScheduleCalendar::NextOf(item, now, services_.shortDatePattern)) {
-      next = FillIn(LoadText(IDS_SCHED_CHANGE_NEXT), {NextShown(*at, now, services_.clockStyle)});
+      next = FormatText(LoadText(IDS_SCHED_CHANGE_NEXT), {NextShown(*at, now, services_.clockStyle)});
     } else if (draft_.kind == ScheduleKind::Once) {
       next = LoadText(IDS_SCHED_CHANGE_PASSED);
       ink = Ink::Alert;
@@ -136,7 +136,7 @@ void frmSchedChange::butPickDateIt_Click() {
   Any_Change();
 }
 
-bool frmSchedChange::Complain(DraftFault fault) {
+bool frmSchedChange::ShowError(DraftFault fault) {
   struct Complaint {
     DraftFault fault;
     const char* key;
@@ -162,7 +162,7 @@ bool frmSchedChange::Complain(DraftFault fault) {
 
 void frmSchedChange::butOKIt_Click() {
   ReadControls();
-  if (Complain(draft_.Fault(services_.shortDatePattern))) return;
+  if (ShowError(draft_.Fault(services_.shortDatePattern))) return;
   // The notice opens what the item carries; a station's own site is taken when it is to be opened.
   if (draft_.openWebSite && draft_.name.webSite.empty())
     draft_.name.webSite = services_.webSiteOf(draft_.stationKey);

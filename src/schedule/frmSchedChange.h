@@ -28,7 +28,7 @@ class frmSchedChange final : public Form {
   void ShowKind();
   void ShowSummary();
   void ReadControls();
-  bool Complain(DraftFault fault);
+  bool ShowError(DraftFault fault);
 
   void cmdHowOften_Click(int index);
   void chkDay_Click(int day);

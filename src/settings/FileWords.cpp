@@ -23,7 +23,7 @@ Message Told(const char* key, std::string text, const Strings& strings) {
 }  // namespace
 
 Message NotSavedMessage(std::string_view what, const Strings& strings) {
-  return Told("NotSaved", FillIn(strings.Load(IDS_FILE_NOT_SAVED), {what}), strings);
+  return Told("NotSaved", FormatText(strings.Load(IDS_FILE_NOT_SAVED), {what}), strings);
 }
 
 bool SavedOrSaid(bool saved, std::string_view what, MessageBoxView& box, const Strings& strings) {
@@ -39,10 +39,10 @@ std::optional<Message> NotesMessage(const std::vector<FileNote>& notes, const St
       unreadable.append(unreadable.empty() ? "" : ", ").append(note.name);
     } else {
       kept.append(kept.empty() ? "" : " ");
-      kept += FillIn(strings.Load(IDS_FILE_KEPT_BESIDE), {note.name, note.beside});
+      kept += FormatText(strings.Load(IDS_FILE_KEPT_BESIDE), {note.name, note.beside});
     }
   }
-  std::string text = unreadable.empty() ? "" : FillIn(strings.Load(IDS_FILE_UNREADABLE), {unreadable});
+  std::string text = unreadable.empty() ? "" : FormatText(strings.Load(IDS_FILE_UNREADABLE), {unreadable});
   if (!text.empty() && !kept.empty()) text += ' ';
   text += kept;
   if (text.empty()) return std::nullopt;

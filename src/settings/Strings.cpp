@@ -2,7 +2,7 @@
 
 namespace sonaro {
 
-std::string FillIn(std::string_view text, std::initializer_list<std::string_view> values) {
+std::string FormatText(std::string_view text, std::initializer_list<std::string_view> values) {
   std::string filled;
   for (std::size_t at = 0; at < text.size(); ++at) {
     const bool mark = text[at] == '{' && at + 2 < text.size() && text[at + 2] == '}' && text[at + 1] >= '0' &&

@@ -15,6 +15,6 @@ class Strings {
 };
 
 // Fills "{0}", "{1}" ... in a text. A brace that is not such a mark stays.
-std::string FillIn(std::string_view text, std::initializer_list<std::string_view> values);
+std::string FormatText(std::string_view text, std::initializer_list<std::string_view> values);
 
 }  // namespace sonaro

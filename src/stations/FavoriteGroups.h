@@ -31,7 +31,7 @@ class FavoriteGroups {
   // Keys in the group bar. A file with more groups keeps them all; those beyond the tenth have no key.
   static constexpr std::size_t kSlots = 10;
   // Of a name that a dialog takes.
-  static constexpr int kMostNameBytes = 100;
+  static constexpr int kMaxNameBytes = 100;
 
   explicit FavoriteGroups(DataFolder& data) : file_(data, user_file::kGroups) {}
 

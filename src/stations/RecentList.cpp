@@ -21,7 +21,7 @@ bool RecentList::LoadUnread() {
 void RecentList::TakeOver(std::vector<std::string> first) {
   tokens_ = std::move(first);
   std::string_view text = file_.Text();
-  std::string_view line = TakeUntil(text, '\n');
+  std::string_view line = NextField(text, '\n');
   if (line.ends_with('\r')) line.remove_suffix(1);
   for (const std::string_view token : Split(line, ' ')) {
     if (tokens_.size() == kSlots) break;

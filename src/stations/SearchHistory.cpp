@@ -13,7 +13,7 @@ SearchHistory::SearchHistory(std::string_view setting) {
 void SearchHistory::Add(std::string_view text) {
   const std::size_t moved =
       std::erase_if(entries_, [text](const std::string& entry) { return EqualIgnoringCase(entry, text); });
-  while (moved == 0 && entries_.size() >= kMost) entries_.erase(entries_.begin());
+  while (moved == 0 && entries_.size() >= kMaxCount) entries_.erase(entries_.begin());
   entries_.emplace_back(text);
 }
 

@@ -10,7 +10,7 @@ namespace sonaro {
 
 class SearchHistory {
  public:
-  static constexpr std::size_t kMost = 11;
+  static constexpr std::size_t kMaxCount = 11;
 
   SearchHistory() = default;
   // Out of the setting's text; a text that does not begin or end with a tab is read all the same.

@@ -11,11 +11,11 @@ namespace sonaro {
 namespace {
 
 constexpr std::string_view kScheme = "http://";
-constexpr std::size_t kMostPortDigits = 5;
+constexpr std::size_t kMaxPortDigits = 5;
 constexpr std::int64_t kHighestPort = 65535;
 
 bool IsPort(std::string_view text) {
-  const bool digits = !text.empty() && text.size() <= kMostPortDigits &&
+  const bool digits = !text.empty() && text.size() <= kMaxPortDigits &&
                       text.find_first_not_of("0123456789") == std::string_view::npos;
   return digits && NumberValue(text) >= 1 && NumberValue(text) <= kHighestPort;
 }

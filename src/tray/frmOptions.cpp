@@ -10,8 +10,8 @@ namespace sonaro {
 
 namespace {
 
-constexpr int kMostAddressBytes = 253;  // of a host name
-constexpr int kMostPortDigits = 5;
+constexpr int kMaxAddressBytes = 253;  // of a host name
+constexpr int kMaxPortDigits = 5;
 constexpr int kFaceplates = 2;
 
 }  // namespace
@@ -36,8 +36,8 @@ std::span<const EventRow> frmOptions::Events() const {
 }
 
 void frmOptions::OnLoad() {
-  LimitText(txtProxy, kMostAddressBytes);
-  LimitText(txtPort, kMostPortDigits);
+  LimitText(txtProxy, kMaxAddressBytes);
+  LimitText(txtPort, kMaxPortDigits);
   for (const auto& [text, choice] : {std::pair(IDS_OPTIONS_CLOSE_ASK, AfterClose::Ask),
                                      std::pair(IDS_OPTIONS_CLOSE_TRAY, AfterClose::KeepInTray),
                                      std::pair(IDS_OPTIONS_CLOSE_EXIT, AfterClose::Exit)})
@@ -116,17 +116,17 @@ void frmOptions::butFindProxyIt_Click() {
   SetText(txtProxy, server.address);
   SetText(txtPort, server.port);
   ShowProxyControls();
-  Inform(FillIn(LoadText(IDS_OPTIONS_PROXY_FOUND), {found}), Ink::Signal);
+  Inform(FormatText(LoadText(IDS_OPTIONS_PROXY_FOUND), {found}), Ink::Signal);
 }
 
 void frmOptions::butTestProxyIt_Click() {
-  if (ComplainAboutProxy()) return;
+  if (ShowProxyError()) return;
   Inform("", Ink::Text);
   calls_.testProxy(Window(), TypedProxy());
 }
 
 // True when the proxy cannot be used as it is typed: the sentence is shown and the edit has the focus.
-bool frmOptions::ComplainAboutProxy() {
+bool frmOptions::ShowProxyError() {
   const auto complain = [this](int sentence, int edit) {
     Inform(LoadText(sentence), Ink::Alert);
     Focus(edit);
@@ -159,7 +159,7 @@ void frmOptions::butOKIt_Click() {
       Close(1);
       break;
     case StoreOutcome::BadProxy:
-      ComplainAboutProxy();
+      ShowProxyError();
       break;
     case StoreOutcome::Refused:
       Inform(LoadText(IDS_OPTIONS_NOT_STORED), Ink::Alert);

@@ -35,7 +35,7 @@ class frmOptions final : public Form {
   ProxyServer TypedProxy() const;
   void ShowProxyControls();
   void Inform(std::string_view sentence, Ink ink);
-  bool ComplainAboutProxy();
+  bool ShowProxyError();
 
   void butPlaySoundIt_Click() { calls_.playNoticeSound(); }
   void optProxy_Click(int way);

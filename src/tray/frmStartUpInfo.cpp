@@ -143,8 +143,8 @@ std::span<const EventRow> frmStartUpInfo::Events() const {
   return kRows;
 }
 
-frmStartUpInfo::frmStartUpInfo(FormContext& context, const StartUpInfoNeeds& needs, StartUpInfoPage page,
-                               std::string proxy)
+frmStartUpInfo::frmStartUpInfo(FormContext& context, const StartUpInfoDependencies& needs,
+                               StartUpInfoPage page, std::string proxy)
     : Form(context, Design()), needs_(needs), page_(page), proxy_(std::move(proxy)) {}
 
 void frmStartUpInfo::OnLoad() {
@@ -211,7 +211,7 @@ void frmStartUpInfo::ShowReport() {
   }
 }
 
-void frmStartUpInfo::Complain(const std::string& sentence) {
+void frmStartUpInfo::ShowError(const std::string& sentence) {
   SetInk(lblFound, Ink::Alert);
   SetText(lblFound, sentence);
 }
@@ -229,7 +229,7 @@ void frmStartUpInfo::butBrowseIt_Click() {
 // What was found is selected only where nothing would play without it.
 void frmStartUpInfo::butFindIt_Click() {
   OfferPrograms(Selected());
-  if (paths_.empty()) return Complain(LoadText(IDS_STARTUP_NONE));
+  if (paths_.empty()) return ShowError(LoadText(IDS_STARTUP_NONE));
   if (needs_.reporter.Report(counts_, Selected()).plays != PlayerReport::Plays::Nothing) return;
   SelectItem(cmbPlayWith, 1);
   ShowReport();
@@ -240,7 +240,7 @@ void frmStartUpInfo::butTestProgramIt_Click() {
   if (link.empty()) link = ServiceAddress(ServiceHost::Web, "/sonaroapp/sonaro3/testrealurl.ram");
   const std::string path = Selected();
   if (needs_.player.Test(path, link)) return;
-  Complain(path.empty() ? LoadText(IDS_STARTUP_NONE) : LoadText(IDS_NOPLAYER_CANT_FIND) + path);
+  ShowError(path.empty() ? LoadText(IDS_STARTUP_NONE) : LoadText(IDS_NOPLAYER_CANT_FIND) + path);
 }
 
 void frmStartUpInfo::butPlayerWebSiteIt_Click() { needs_.help.OpenHelpPage(kPlayerHelp); }
@@ -251,10 +251,10 @@ bool frmStartUpInfo::StorePlayer() {
     case PlayerChoiceOutcome::Stored:
       return true;
     case PlayerChoiceOutcome::NoSuchFile:
-      Complain(LoadText(IDS_NOPLAYER_CANT_FIND) + path);
+      ShowError(LoadText(IDS_NOPLAYER_CANT_FIND) + path);
       break;
     case PlayerChoiceOutcome::NotStored:
-      Complain(LoadText(IDS_STARTUP_NOT_SAVED));
+      ShowError(LoadText(IDS_STARTUP_NOT_SAVED));
       break;
   }
   return false;

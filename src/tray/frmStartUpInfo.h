@@ -19,7 +19,7 @@ class PlayerReporter;
 class PlayerSetup;
 struct PlayerProgram;
 
-struct StartUpInfoNeeds {
+struct StartUpInfoDependencies {
   CReg& reg;
   HelpPages& help;
   PlayerSetup& player;
@@ -29,7 +29,7 @@ struct StartUpInfoNeeds {
 class frmStartUpInfo final : public Form {
  public:
   // `proxy`: "host:port" that was found, for the page "Proxy". ShowModal gives 1 when a player was chosen.
-  frmStartUpInfo(FormContext& context, const StartUpInfoNeeds& needs, StartUpInfoPage page,
+  frmStartUpInfo(FormContext& context, const StartUpInfoDependencies& needs, StartUpInfoPage page,
                  std::string proxy);
 
  private:
@@ -41,7 +41,7 @@ class frmStartUpInfo final : public Form {
   void OfferProgram(const PlayerProgram& program);
   std::string Selected() const;
   void ShowReport();
-  void Complain(const std::string& sentence);
+  void ShowError(const std::string& sentence);
   bool StorePlayer();
   void Done(int result);
 
@@ -54,7 +54,7 @@ class frmStartUpInfo final : public Form {
   void butCloseIt_Click() { Done(0); }
   void butHelp_Click();
 
-  const StartUpInfoNeeds needs_;
+  const StartUpInfoDependencies needs_;
   const StartUpInfoPage page_;
   const std::string proxy_;
   LinkCounts counts_;

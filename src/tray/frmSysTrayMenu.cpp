@@ -19,9 +19,9 @@ constexpr UINT kTrayMessage = WM_APP + 1;
 constexpr UINT kIconId = 1;
 constexpr unsigned kStartUpDelay = 500;  // milliseconds: the main window has been painted
 constexpr unsigned kMinute = 60000;
-constexpr std::size_t kMostGroups = 10;
+constexpr std::size_t kMaxGroups = 10;
 constexpr unsigned kIconPause = 2000;  // milliseconds until the icon is offered again
-constexpr int kMostIconTries = 150;    // five minutes
+constexpr int kMaxIconTries = 150;     // five minutes
 
 NOTIFYICONDATAW IconData(HWND window) {
   NOTIFYICONDATAW data{};
@@ -55,7 +55,7 @@ std::span<const EventRow> frmSysTrayMenu::Events() const {
       {mnuTrayOptions, Click, &frmSysTrayMenu::mnuTrayOptions_Click},
       {mnuTrayHelp, Click, &frmSysTrayMenu::mnuTrayHelp_Click},
       {mnuTrayExit, Click, &frmSysTrayMenu::mnuTrayExit_Click},
-      {mnuTrayGroup, Click, &frmSysTrayMenu::mnuTrayGroup_Click, static_cast<int>(kMostGroups)},
+      {mnuTrayGroup, Click, &frmSysTrayMenu::mnuTrayGroup_Click, static_cast<int>(kMaxGroups)},
   };
   return kRows;
 }
@@ -107,7 +107,7 @@ void frmSysTrayMenu::PutIcon() {
     StopTimer(tmrIcon);
     data.uVersion = NOTIFYICON_VERSION_4;
     Shell_NotifyIconW(NIM_SETVERSION, &data);
-  } else if (++iconTries_ < kMostIconTries) {
+  } else if (++iconTries_ < kMaxIconTries) {
     StartTimer(tmrIcon, kIconPause);
   }
 }
@@ -172,7 +172,7 @@ void frmSysTrayMenu::TrayEvent(UINT event, POINT at) {
 void frmSysTrayMenu::ShowMenu(POINT at) {
   shownGroups_ = actions_.groupNames();
   std::vector<MenuEntry> groups;
-  for (std::size_t i = 0; i < std::min(shownGroups_.size(), kMostGroups); ++i) {
+  for (std::size_t i = 0; i < std::min(shownGroups_.size(), kMaxGroups); ++i) {
     groups.push_back({.command = mnuTrayGroup + static_cast<int>(i), .text = MenuText(shownGroups_[i])});
   }
   if (groups.empty())

@@ -138,7 +138,7 @@ TEST(HttpResponse, EndsWhatIsEndless) {
   for (const Endless& each : kEndless) {
     HttpResponse response;
     response.Feed(each.start);
-    for (std::size_t sent = 0; sent <= HttpResponse::kLargestHead; sent += each.again.size()) {
+    for (std::size_t sent = 0; sent <= HttpResponse::kMaxHeadSize; sent += each.again.size()) {
       response.Feed(each.again);
     }
     EXPECT_EQ(response.Fault(), each.fault) << each.start << each.again;

@@ -84,15 +84,15 @@ TEST(Text, SplitLines) {
   EXPECT_EQ(SplitLines("\n\r\nx\ry\r\n"), (Pieces{"", "", "x\ry"}));
 }
 
-TEST(Text, SplitAndTakeUntil) {
+TEST(Text, SplitAndNextField) {
   EXPECT_EQ(Split("", '\t'), (Pieces{""}));
   EXPECT_EQ(Split("a\t\tb\t", '\t'), (Pieces{"a", "", "b", ""}));
   EXPECT_EQ(SplitAtMost("a|b|c|d", '|', 3), (Pieces{"a", "b", "c|d"}));
   EXPECT_EQ(SplitAtMost("a|b", '|', 1), (Pieces{"a|b"}));
   std::string_view rest = "one\ttwo";
-  EXPECT_EQ(TakeUntil(rest, '\t'), "one");
+  EXPECT_EQ(NextField(rest, '\t'), "one");
   EXPECT_EQ(rest, "two");
-  EXPECT_EQ(TakeUntil(rest, '\t'), "two");
+  EXPECT_EQ(NextField(rest, '\t'), "two");
   EXPECT_EQ(rest, "");
 }
 
@@ -101,13 +101,13 @@ TEST(Text, ReplaceFirst) {
   EXPECT_EQ(ReplaceFirst("abc", "d", "e"), "abc");
 }
 
-TEST(Text, CutForShowKeepsCharactersWhole) {
+TEST(Text, TruncateUtf8KeepsCharactersWhole) {
   const std::string text = "a\u00E9\u96FB\U00010400z";  // 1 + 2 + 3 + 4 + 1 bytes
   const std::size_t whole[] = {0, 1, 1, 3, 3, 3, 6, 6, 6, 6, 10, 11, 11};
   for (std::size_t most = 0; most < std::size(whole); ++most) {
-    EXPECT_EQ(CutForShow(text, most), text.substr(0, whole[most])) << most;
+    EXPECT_EQ(TruncateUtf8(text, most), text.substr(0, whole[most])) << most;
   }
-  EXPECT_EQ(CutForShow("\xE9\xE9\xE9\xE9\xE9\xE9", 5).size(), 5u);  // not UTF-8: bytes
+  EXPECT_EQ(TruncateUtf8("\xE9\xE9\xE9\xE9\xE9\xE9", 5).size(), 5u);  // not UTF-8: bytes
 }
 
 TEST(Text, IsYes) {

@@ -29,7 +29,7 @@ struct HttpCanned {
     network.Answer("/moved", FakeAnswer::Status("302", "HTTP/1.1 302 Found\r\nLocation: http://x/y\r\n\r\n"));
     network.Answer("/lost", FakeAnswer::ObjectError("why"));
   }
-  HttpControlMaker& Maker() { return network; }
+  HttpControlFactory& Maker() { return network; }
   void Run(const std::function<bool()>& until) {
     while (!until() && network.DeliverNext()) {
     }
@@ -40,7 +40,7 @@ struct HttpCanned {
 #ifdef _WIN32
 struct HttpOnSockets {
   LoopbackServer server;
-  HttpControlMakerWin maker{"Contract/1.0", [](HttpFault) { return std::string("why"); }};
+  HttpControlFactoryWin maker{"Contract/1.0", [](HttpFault) { return std::string("why"); }};
   std::string host = "127.0.0.1";
   std::uint16_t port = server.Port();
 
@@ -49,7 +49,7 @@ struct HttpOnSockets {
     server.Answer("/moved", script::Redirect("http://x/y"));
     server.Answer("/lost", script::Exactly(""));
   }
-  HttpControlMaker& Maker() { return maker; }
+  HttpControlFactory& Maker() { return maker; }
   void Run(const std::function<bool()>& until) { PumpUntil(until); }
   // What is still on its way arrives.
   void Settle() {

@@ -34,7 +34,7 @@ class HttpOnTheWire : public testing::Test {
   }
 
   LoopbackServer server_;
-  HttpControlMakerWin maker_{"Contract/1.0", &NameOf, kLimit};
+  HttpControlFactoryWin maker_{"Contract/1.0", &NameOf, kLimit};
   std::unique_ptr<HttpControl> control_ = maker_.Make();
   Listener listener_;
 };
@@ -133,7 +133,7 @@ TEST_F(HttpOnTheWire, WhatGoesWrongIsNamed) {
 
 // Never silent, and never over either.
 TEST_F(HttpOnTheWire, AServerThatDripsIsNotWaitedFor) {
-  HttpControlMakerWin impatient("Contract/1.0", &NameOf, 60000, {.milliseconds = 300, .leastBytes = 4096});
+  HttpControlFactoryWin impatient("Contract/1.0", &NameOf, 60000, {.milliseconds = 300, .leastBytes = 4096});
   control_ = impatient.Make();
   EXPECT_EQ(Ask([](Conversation& talk) {
               talk.Send("HTTP/1.1 200 OK\r\n\r\n");

@@ -67,8 +67,8 @@ class KillTest : public ExchangeTest {
     registry_ = FakeRegistry();
     Installed();
     while (!told.empty()) {
-      std::string_view value = TakeUntil(told, '\0');
-      const std::string name(TakeUntil(value, '\t'));
+      std::string_view value = NextField(told, '\0');
+      const std::string name(NextField(value, '\t'));
       Installed().reg.SetSetting(name, value);
     }
   }

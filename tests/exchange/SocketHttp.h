@@ -12,7 +12,7 @@
 
 namespace sonaro {
 
-class SocketHttp : public HttpControlMaker {
+class SocketHttp : public HttpControlFactory {
  public:
   // What stands in for port 80, which a test may not open.
   std::uint16_t port80 = 0;

@@ -25,7 +25,7 @@ struct FakeAnswer {
   static FakeAnswer ObjectError(std::string reason) { return {Kind::ObjectError, std::move(reason), ""}; }
 };
 
-class FakeHttp : public HttpControlMaker {
+class FakeHttp : public HttpControlFactory {
  public:
   struct Exchange {
     std::string proxy;

@@ -70,7 +70,7 @@ inline void ResealTable(std::string& data, std::string& index) {
   auto header = PartAt<IndexHeader>(index, 0);
   header.fileSize = index.size();
   header.dataFileSize = data.size();
-  const bool laidOut = header.columnSize <= kLargestText && LayoutOf(header).fileSize == index.size();
+  const bool laidOut = header.columnSize <= kMaxTextSize && LayoutOf(header).fileSize == index.size();
   header.generation = laidOut ? ResealSections(data, index, header) : 0;
   dataHeader.fileSize = data.size();
   dataHeader.generation = header.generation;

@@ -114,7 +114,7 @@ void UseDiary(EvList& events, DataFolder& folder) {
 // A playlist that was read can be written, and comes back the same.
 void FuzzPlaylist(std::string_view input) {
   const Playlist read = ReadPlaylist(input);
-  Require(read.entries.size() <= Playlist::kMostEntries, "the limit of entries");
+  Require(read.entries.size() <= Playlist::kMaxEntries, "the limit of entries");
   if (read.format == PlaylistFormat::NotAPlaylist) return;
   const Playlist again = ReadPlaylist(WritePlaylist(read));
   Require(again.entries == read.entries, "the same entries");

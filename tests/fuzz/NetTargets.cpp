@@ -51,7 +51,7 @@ void FuzzUpdateFile(std::string_view input) {
     Require(names.insert(FoldCase(file.name)).second, "each name once");
     bytes += file.bytes.size();
   }
-  Require(names.size() <= update::kMostSections && bytes <= update::kMostBytes, "bounded");
+  Require(names.size() <= update::kMaxSections && bytes <= update::kMaxBytes, "bounded");
   Require(contents.values.size() <= 20, "a value for each setting");
   for (const ServiceValue& value : contents.values)
     Require(!value.value.empty() && value.value.size() <= 2048, "the length of a value");
@@ -84,7 +84,7 @@ void FuzzRedirect(std::string_view input) {
 
 // The system's setting, a zero, and the other browser's preferences.
 void FuzzProxySettings(std::string_view input) {
-  const std::string server(TakeUntil(input, '\0'));
+  const std::string server(NextField(input, '\0'));
   FakeRegistry registry;
   CReg reg(registry);
   registry.Put(RootKey::CurrentUser, systemkey::kInternetSettings, systemkey::kProxyEnable, "1");

@@ -48,7 +48,7 @@ std::size_t ItemsIn(const ScheduleStore& store) {
 void CheckCalendar(const std::string& calendar) {
   std::vector<std::string_view> open;
   for (std::string_view rest = calendar; !rest.empty();) {
-    std::string_view line = TakeUntil(rest, '\n');
+    std::string_view line = NextField(rest, '\n');
     Require(line.ends_with('\r'), "lines end with CR LF");
     line.remove_suffix(1);
     Require(line.size() <= 75 && line.find('\r') == std::string_view::npos, "a line that fits");
@@ -190,7 +190,7 @@ void FuzzSettings(std::string_view input) {
 // A category file, which stands for that of the locations as well, and after a zero the entries of the
 // category whose file is "jazz.snr".
 void FuzzCategories(std::string_view input) {
-  const std::string_view categories = TakeUntil(input, '\0');
+  const std::string_view categories = NextField(input, '\0');
   OneFile file("cat.snr", categories);
   file.System().Put("/d/catloc.snr", categories);
   file.System().Put("/d/jazz.snr", input);

@@ -6,8 +6,8 @@
 #include "fakes/FakeRegistry.h"
 #include "mainwindow/BrowseTree.h"
 #include "mainwindow/Rankings.h"
-#include "mainwindow/StationListing.h"
-#include "mainwindow/StationLists.h"
+#include "mainwindow/StationListFiller.h"
+#include "mainwindow/StationListState.h"
 #include "settings/CReg.h"
 #include "settings/Strings.h"
 #include "stations/StationModels.h"
@@ -37,8 +37,8 @@ class Models : public StationModels {
   MarkedStrings strings;
   BrowseTree tree{data};
   Rankings rankings{data};
-  StationLists lists{stations, personal, recent, strings};
-  StationListing listing{lists, rankings, groups, tree, strings, FoldCase};
+  StationListFiller lists{stations, personal, recent, strings};
+  StationListState listing{lists, rankings, groups, tree, strings, FoldCase};
 };
 
 }  // namespace sonaro

@@ -17,7 +17,7 @@ namespace {
 
 class StationActionsTest : public Models {
  protected:
-  StationDetail Detail() const {
+  StationDetailBuilder Detail() const {
     const StationRow* row = listing.Rows().SelectedRow();
     return details.Of(row ? StationKey::FromRowKey(row->key) : StationKey());
   }
@@ -28,7 +28,7 @@ class StationActionsTest : public Models {
     return entry ? *entry : kNone;
   }
   std::string Text(int id, const std::string& first, const std::string& second = "") const {
-    return FillIn(strings.Load(id), {first, second});
+    return FormatText(strings.Load(id), {first, second});
   }
 
   AppState state;
@@ -153,7 +153,7 @@ TEST_F(StationActionsTest, RatingsShowHalfTheDigit) {
 }
 
 TEST_F(StationActionsTest, DetailsOfAStationAndOfOnesOwn) {
-  const StationDetail one = details.Of(StationKey::FromRowKey("S1"));
+  const StationDetailBuilder one = details.Of(StationKey::FromRowKey("S1"));
   EXPECT_EQ(one.name, "Acid Jazz");
   EXPECT_EQ(one.playKeys[0].caption, Text(IDS_PLAY_MEDIA, "MP3", "{1}"));
   EXPECT_EQ(one.playKeys[0].bitRate, Text(IDS_PLAY_BIT_RATE, "128", "{1}"));
@@ -164,7 +164,7 @@ TEST_F(StationActionsTest, DetailsOfAStationAndOfOnesOwn) {
             (std::array<int, 4>{9, 5, 1, 0}))
       << "overall, sound, speed, web site";
 
-  const StationDetail own = details.Of(StationKey::FromRowKey("P1"));
+  const StationDetailBuilder own = details.Of(StationKey::FromRowKey("P1"));
   EXPECT_EQ(own.playKeys[0].request.mode, PlayMode::Personal);
   EXPECT_EQ(own.playKeys[0].request.key, "1");
   EXPECT_EQ(own.firstLink, "http://garage.example/");

@@ -119,13 +119,13 @@ TEST_F(UpdateFileTest, BoundsWhatOneUpdateBrings) {
     for (std::size_t i = 0; i < count; ++i) text += Section(std::to_string(i) + ending, "1\n");
     return text;
   };
-  EXPECT_EQ(Read(sections(update::kMostSections, ".snr")).files.size(), update::kMostSections);
+  EXPECT_EQ(Read(sections(update::kMaxSections, ".snr")).files.size(), update::kMaxSections);
   for (const char* ending : {".snr", ".exe"}) {
-    const UpdateContents contents = Read(sections(update::kMostSections + 1, ending) + "date::1::\n");
+    const UpdateContents contents = Read(sections(update::kMaxSections + 1, ending) + "date::1::\n");
     EXPECT_EQ(contents.status, UpdateFileStatus::TooLarge) << ending;
     EXPECT_TRUE(contents.files.empty() && !contents.date);
   }
-  const std::string large(update::kMostBytes / 2, 'x');
+  const std::string large(update::kMaxBytes / 2, 'x');
   EXPECT_EQ(Read(Section("a.snr", large + "\n") + Section("b.snr", large + "\n")).status,
             UpdateFileStatus::TooLarge);
 }

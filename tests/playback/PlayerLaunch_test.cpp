@@ -21,7 +21,7 @@ class FakeLaunchView : public LaunchView {
     if (whileShown) whileShown();
     return Choose();
   }
-  void SayWhyNot(const std::string& sentence) override { sentences.push_back(sentence); }
+  void ShowErrorText(const std::string& sentence) override { sentences.push_back(sentence); }
   bool OfferPlayers(const std::string& sentence) override {
     ++offers;
     sentences.push_back(sentence);
@@ -265,7 +265,7 @@ TEST_F(PlayerLaunchTest, WebPagesByAddressAndByStation) {
     EXPECT_EQ(Browsed(), c.browsed) << c.text;
   }
   std::vector<std::string> said;
-  pages.SetSayWhyNot([&](const std::string& sentence) { said.push_back(sentence); });
+  pages.SetShowErrorText([&](const std::string& sentence) { said.push_back(sentence); });
   pages.OpenWebPage("12");
   pages.OpenWebPage("99");
   pages.OpenWebPage("http://");

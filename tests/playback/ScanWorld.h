@@ -35,7 +35,7 @@ class FakeNoPlayer : public LaunchView {
  public:
   int shown = 0;
   bool ShowNoPlayer() override { return ++shown == 0; }
-  void SayWhyNot(const std::string&) override { ++shown; }
+  void ShowErrorText(const std::string&) override { ++shown; }
   bool OfferPlayers(const std::string&) override { return ++shown == 0; }
 };
 

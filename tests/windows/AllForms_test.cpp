@@ -89,7 +89,7 @@ struct EmptyProgram {
   ScheduleServices schedule{store, calendar, shows, picker, clock, outside.files, shell, messages, help};
   OptionsModel options{settings, outside.faceplate, "C:\\Guide\\Sonaro.exe"};
   UpdateInstall install{folder, settings, stations};
-  UpdateNeeds update{settings, folder, words, install, http, {}};
+  UpdateDependencies update{settings, folder, words, install, http, {}};
   GuideData guide{folder, settings, words, state, stations, personal, extra, recent, favorites, source};
 };
 
@@ -185,7 +185,8 @@ const NamedForm kForms[] = {
     {"frmOptions", [](EmptyProgram& p) { return Make<frmOptions>(p.forms, p.options, OptionsCalls{}); }},
     {"frmStartUpInfo",
      [](EmptyProgram& p) {
-       return Make<frmStartUpInfo>(p.forms, StartUpInfoNeeds{p.settings, p.help, p.playerSetup, p.reporter},
+       return Make<frmStartUpInfo>(p.forms,
+                                   StartUpInfoDependencies{p.settings, p.help, p.playerSetup, p.reporter},
                                    StartUpInfoPage::NoPlayer, std::string());
      }},
 };
@@ -255,7 +256,7 @@ TEST(EveryMenu, GivesEachAccessKeyOnce) {
   models.listing.ShowFavoriteGroup(0);
   const StationActions& actions = models.actions;
   for (const StationKey::Kind kind : {StationKey::Kind::Directory, StationKey::Kind::Personal}) {
-    StationDetail station;
+    StationDetailBuilder station;
     station.station = {kind, 1};
     ExpectEachAccessKeyOnce(actions.ActionMenu(station));
     ExpectEachAccessKeyOnce(actions.EventMenu({}, station));

@@ -47,7 +47,7 @@ class TestProxyTest : public testing::Test {
   FormContextForTests outside_;
   StringTable words_;
   FormContext forms_{words_, outside_.faceplate, outside_.shape};
-  HttpControlMakerWin http_{"Test/1.0", [](HttpFault) { return std::string("why"); }, 500};
+  HttpControlFactoryWin http_{"Test/1.0", [](HttpFault) { return std::string("why"); }, 500};
   ClockWin clock_;
   LoopbackServer proxy_;
 };

@@ -9,7 +9,7 @@ namespace sonaro {
 namespace {
 
 constexpr std::uint64_t kFirstReserve = 1024 * 1024;  // a length that is only announced is not believed
-constexpr std::size_t kLongestNumber = 15;            // digits, decimal or hexadecimal: far below 64 bits
+constexpr std::size_t kMaxNumberLength = 15;          // digits, decimal or hexadecimal: far below 64 bits
 
 std::string_view TrimWhite(std::string_view text) {
   constexpr std::string_view kWhite = " \t";
@@ -115,7 +115,7 @@ bool HttpResponse::TakeLength(std::string_view value) {
   for (const char c : value) {
     if (!IsDigit(c)) return Fail(HttpFault::BadLength);
     length = length * 10 + static_cast<std::uint64_t>(c - '0');
-    if (length > kLargestBody) return Fail(HttpFault::BodyTooLarge);
+    if (length > kMaxBodySize) return Fail(HttpFault::BodyTooLarge);
   }
   if (lengthGiven_ && length != length_) return Fail(HttpFault::BadLength);
   lengthGiven_ = true;
@@ -153,7 +153,7 @@ bool HttpResponse::ReadBody() {
 bool HttpResponse::Append(std::string_view bytes) {
   if (framing_ == Framing::Length) {
     bytes = bytes.substr(0, static_cast<std::size_t>(length_ - body_.size()));
-  } else if (bytes.size() > kLargestBody - body_.size()) {
+  } else if (bytes.size() > kMaxBodySize - body_.size()) {
     return Fail(HttpFault::BodyTooLarge);
   }
   body_ += bytes;
@@ -190,14 +190,14 @@ bool HttpResponse::ReadChunks() {
 
 bool HttpResponse::TakeChunkSize(std::string_view line) {
   const std::string_view digits = TrimWhite(line.substr(0, line.find(';')));
-  if (digits.empty() || digits.size() > kLongestNumber) return Fail(HttpFault::BadChunk);
+  if (digits.empty() || digits.size() > kMaxNumberLength) return Fail(HttpFault::BadChunk);
   chunkLeft_ = 0;
   for (const char c : digits) {
     const int value = HexValue(c);
     if (value < 0) return Fail(HttpFault::BadChunk);
     chunkLeft_ = chunkLeft_ * 16 + static_cast<std::uint64_t>(value);
   }
-  if (chunkLeft_ > kLargestBody - body_.size()) return Fail(HttpFault::BodyTooLarge);
+  if (chunkLeft_ > kMaxBodySize - body_.size()) return Fail(HttpFault::BodyTooLarge);
   chunkPart_ = chunkLeft_ == 0 ? ChunkPart::Trailer : ChunkPart::Data;
   return true;
 }
@@ -208,7 +208,7 @@ bool HttpResponse::TakeLine(std::string_view& line) {
   const std::size_t end = pending_.find('\n', used_);
   const std::size_t length = (end == std::string::npos ? pending_.size() : end + 1) - used_;
   const bool ofBody = state_ == State::Body && chunkPart_ != ChunkPart::Trailer;
-  if (length + (ofBody ? 0 : headBytes_) > kLargestHead) {
+  if (length + (ofBody ? 0 : headBytes_) > kMaxHeadSize) {
     Fail(ofBody ? HttpFault::BadChunk : HttpFault::HeadTooLarge);
     return false;
   }

@@ -13,8 +13,8 @@ namespace sonaro {
 
 class HttpResponse {
  public:
-  static constexpr std::size_t kLargestHead = 64 * 1024;
-  static constexpr std::uint64_t kLargestBody = 256u * 1024 * 1024;
+  static constexpr std::size_t kMaxHeadSize = 64 * 1024;
+  static constexpr std::uint64_t kMaxBodySize = 256u * 1024 * 1024;
 
   enum class State {
     Head,      // the status line and the headers are still coming

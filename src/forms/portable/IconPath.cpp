@@ -11,7 +11,7 @@ namespace sonaro {
 namespace {
 
 constexpr double kMiterLimit = 4.0;
-constexpr int kMostSegments = 256;
+constexpr int kMaxSegments = 256;
 
 PathPoint operator+(PathPoint a, PathPoint b) { return {a.x + b.x, a.y + b.y}; }
 PathPoint operator-(PathPoint a, PathPoint b) { return {a.x - b.x, a.y - b.y}; }
@@ -54,7 +54,7 @@ class Builder {
 
  private:
   static int Segments(double wanted) {
-    return std::clamp(static_cast<int>(std::ceil(wanted)), 1, kMostSegments);
+    return std::clamp(static_cast<int>(std::ceil(wanted)), 1, kMaxSegments);
   }
 
   double tolerance_;

@@ -6,12 +6,12 @@ namespace sonaro {
 
 namespace {
 
-constexpr std::size_t kMostBytes = 60;  // two names and the words around them stay on the screen
+constexpr std::size_t kMaxBytes = 60;  // two names and the words around them stay on the screen
 
 }  // namespace
 
 std::string MenuText(std::string_view text) {
-  const std::string_view shown = CutForShow(text, kMostBytes);
+  const std::string_view shown = TruncateUtf8(text, kMaxBytes);
   std::string out;
   for (const char c : shown) {
     if (c == '&') out += '&';

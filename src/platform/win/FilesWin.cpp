@@ -12,7 +12,7 @@ namespace sonaro {
 namespace {
 
 // The most that one call transfers.
-constexpr std::size_t kLargestTransfer = std::size_t{1} << 30;
+constexpr std::size_t kMaxTransferSize = std::size_t{1} << 30;
 
 constexpr int kTries = 10;
 constexpr DWORD kPause = 30;  // milliseconds
@@ -51,7 +51,7 @@ class InputFileWin : public InputFile {
     while (length > 0) {
       OVERLAPPED position = PositionAt(offset);
       DWORD count = 0;
-      const auto wanted = static_cast<DWORD>(std::min(length, kLargestTransfer));
+      const auto wanted = static_cast<DWORD>(std::min(length, kMaxTransferSize));
       const bool read =
           WithPatience(pause_, [&] { return ReadFile(file_.Get(), buffer, wanted, &count, &position) != 0; });
       if (!read || count == 0) return false;
@@ -95,7 +95,7 @@ class OutputFileWin : public OutputFile {
     while (!bytes.empty()) {
       OVERLAPPED position = PositionAt(offset);
       DWORD count = 0;
-      const auto wanted = static_cast<DWORD>(std::min(bytes.size(), kLargestTransfer));
+      const auto wanted = static_cast<DWORD>(std::min(bytes.size(), kMaxTransferSize));
       if (!WriteFile(file_.Get(), bytes.data(), wanted, &count, &position) || count == 0) {
         failed_ = true;
         return false;

@@ -359,8 +359,8 @@ void HttpControlWin::Fail(HttpFault fault) {
 
 }  // namespace
 
-HttpControlMakerWin::HttpControlMakerWin(std::string userAgent, HttpFaultSentence sentence,
-                                         unsigned silenceMilliseconds, TransferPace pace)
+HttpControlFactoryWin::HttpControlFactoryWin(std::string userAgent, HttpFaultSentence sentence,
+                                             unsigned silenceMilliseconds, TransferPace pace)
     : userAgent_(std::move(userAgent)),
       sentence_(std::move(sentence)),
       silence_(silenceMilliseconds),
@@ -369,9 +369,9 @@ HttpControlMakerWin::HttpControlMakerWin(std::string userAgent, HttpFaultSentenc
   WSAStartup(MAKEWORD(2, 2), &data);  // without sockets every request fails by itself
 }
 
-HttpControlMakerWin::~HttpControlMakerWin() { WSACleanup(); }
+HttpControlFactoryWin::~HttpControlFactoryWin() { WSACleanup(); }
 
-std::unique_ptr<HttpControl> HttpControlMakerWin::Make() {
+std::unique_ptr<HttpControl> HttpControlFactoryWin::Make() {
   return std::make_unique<HttpControlWin>(userAgent_, sentence_, silence_, pace_);
 }
 

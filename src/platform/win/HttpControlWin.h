@@ -26,14 +26,14 @@ struct TransferPace {
   std::uint64_t leastBytes = 4096;  // within each of these spans, until the transfer is over
 };
 
-class HttpControlMakerWin final : public HttpControlMaker {
+class HttpControlFactoryWin final : public HttpControlFactory {
  public:
   // A transfer ends after `silenceMilliseconds` without a byte, or when it does not keep the pace.
-  HttpControlMakerWin(std::string userAgent, HttpFaultSentence sentence, unsigned silenceMilliseconds = 30000,
-                      TransferPace pace = {});
-  ~HttpControlMakerWin() override;
-  HttpControlMakerWin(const HttpControlMakerWin&) = delete;
-  HttpControlMakerWin& operator=(const HttpControlMakerWin&) = delete;
+  HttpControlFactoryWin(std::string userAgent, HttpFaultSentence sentence,
+                        unsigned silenceMilliseconds = 30000, TransferPace pace = {});
+  ~HttpControlFactoryWin() override;
+  HttpControlFactoryWin(const HttpControlFactoryWin&) = delete;
+  HttpControlFactoryWin& operator=(const HttpControlFactoryWin&) = delete;
 
   std::unique_ptr<HttpControl> Make() override;
 

@@ -54,13 +54,13 @@ std::optional<std::string> RegistryWin::ReadValue(RootKey root, const std::strin
 }
 
 std::vector<std::string> RegistryWin::ValueNames(RootKey root, const std::string& key) {
-  constexpr DWORD kLongestName = 16384;  // of the system, with its terminating zero
+  constexpr DWORD kMaxNameLength = 16384;  // of the system, with its terminating zero
   std::vector<std::string> names;
   const RegistryKey opened = OpenKey(root, key, KEY_QUERY_VALUE);
   if (!opened) return names;
-  std::vector<char> name(kLongestName);
+  std::vector<char> name(kMaxNameLength);
   for (DWORD index = 0;; ++index) {
-    DWORD length = kLongestName;
+    DWORD length = kMaxNameLength;
     if (RegEnumValueA(opened.Get(), index, name.data(), &length, nullptr, nullptr, nullptr, nullptr) !=
         ERROR_SUCCESS) {
       return names;

@@ -9,7 +9,7 @@
 namespace sonaro {
 namespace {
 
-constexpr std::size_t kLongestProgramPath = 254;
+constexpr std::size_t kMaxProgramPath = 254;
 constexpr int kLastFailure = 32;  // the shell's codes above mean success
 
 int ShellCode(HINSTANCE result) { return static_cast<int>(reinterpret_cast<INT_PTR>(result)); }
@@ -22,7 +22,7 @@ FoundProgram ShellWin::FindProgramFor(const std::string& name, const std::string
   char path[MAX_PATH] = {};  // the function takes no length and fills up to this
   const int code = ShellCode(FindExecutableA(name.c_str(), OrNull(folder), path));
   if (code <= kLastFailure) return {code, ""};
-  return {code, std::string(path).substr(0, kLongestProgramPath)};
+  return {code, std::string(path).substr(0, kMaxProgramPath)};
 }
 
 bool ShellWin::Open(const std::string& program, const std::string& parameters, const std::string& folder) {

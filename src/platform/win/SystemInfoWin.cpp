@@ -90,13 +90,13 @@ std::string SystemInfoWin::ProfileString(const std::string& section, const std::
 
 std::string SystemInfoWin::SortKey(std::string_view text) {
   // Twice as long as a name is; a longer one sorts by its beginning.
-  constexpr std::size_t kMostBytes = 512;
-  const std::string_view start = CutForShow(text, kMostBytes);
-  wchar_t wide[kMostBytes];
+  constexpr std::size_t kMaxBytes = 512;
+  const std::string_view start = TruncateUtf8(text, kMaxBytes);
+  wchar_t wide[kMaxBytes];
   const int length = MultiByteToWideChar(CP_ACP, 0, start.data(), static_cast<int>(start.size()), wide,
-                                         static_cast<int>(kMostBytes));
+                                         static_cast<int>(kMaxBytes));
   if (length <= 0) return {};
-  char key[16 * kMostBytes];  // the result is counted in bytes, its terminating zero with it
+  char key[16 * kMaxBytes];  // the result is counted in bytes, its terminating zero with it
   const int bytes = LCMapStringEx(
       LOCALE_NAME_USER_DEFAULT,
       LCMAP_SORTKEY | LINGUISTIC_IGNORECASE | NORM_IGNOREKANATYPE | NORM_IGNOREWIDTH, wide, length,

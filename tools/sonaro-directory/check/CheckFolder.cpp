@@ -32,7 +32,7 @@ void CheckContext::CheckIds(std::string_view name, std::size_t line, std::string
   std::unordered_set<std::int32_t> seen;
   for (const std::string_view token : Split(list, ' ')) {
     std::int32_t id = 0;
-    const std::string quoted = "\"" + std::string(CutForShow(token, 40)) + "\"";
+    const std::string quoted = "\"" + std::string(TruncateUtf8(token, 40)) + "\"";
     if (token.empty() || !ParseStationId(token, id)) {
       Add(name, line, quoted + " is no station identifier");
     } else if (ids.count(id) == 0) {
@@ -49,7 +49,7 @@ void CheckContext::CheckTokens(std::string_view name, std::size_t line, std::str
     std::int32_t number = 0;
     const bool own = token.starts_with('P');
     if (!ParseStationId(own ? token.substr(1) : token, number)) {
-      Add(name, line, "\"" + std::string(CutForShow(token, 40)) + "\" is no station");
+      Add(name, line, "\"" + std::string(TruncateUtf8(token, 40)) + "\" is no station");
     } else if (own ? personal.count(number) == 0 : ids.count(number) == 0) {
       Add(name, line, "station " + std::string(token) + " does not exist");
     }

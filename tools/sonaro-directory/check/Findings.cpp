@@ -4,7 +4,7 @@ namespace sonaro {
 
 void Findings::Add(std::string_view file, std::size_t line, std::string_view problem) {
   ++total_;
-  if (++perFile_[std::string(file)] > kMostPerFile) return;
+  if (++perFile_[std::string(file)] > kMaxPerFile) return;
   std::string text(file);
   if (line > 0) text += ":" + std::to_string(line);
   lines_.push_back(text.append(": ").append(problem));
@@ -13,8 +13,7 @@ void Findings::Add(std::string_view file, std::size_t line, std::string_view pro
 std::vector<std::string> Findings::Lines() const {
   std::vector<std::string> lines = lines_;
   for (const auto& [file, count] : perFile_) {
-    if (count > kMostPerFile)
-      lines.push_back(file + ": and " + std::to_string(count - kMostPerFile) + " more");
+    if (count > kMaxPerFile) lines.push_back(file + ": and " + std::to_string(count - kMaxPerFile) + " more");
   }
   return lines;
 }

@@ -12,7 +12,7 @@ namespace sonaro {
 class Findings {
  public:
   // A file in which everything is wrong fills no screens: what comes after so many is only counted.
-  static constexpr std::size_t kMostPerFile = 20;
+  static constexpr std::size_t kMaxPerFile = 20;
 
   // `file` as the user names it, without a leading backslash; line 0: the file as a whole.
   void Add(std::string_view file, std::size_t line, std::string_view problem);

@@ -57,7 +57,7 @@ void CheckOwnLinks(CheckContext& context) {
 
 void CheckGroups(CheckContext& context) {
   constexpr std::string_view kName = "\\favs.snr";
-  constexpr std::size_t kMostGroups = 10;
+  constexpr std::size_t kMaxGroups = 10;
   std::set<std::string> names;
   ForEachLine(context, kName, Need::Optional, [&](std::size_t number, std::string_view line) {
     const std::vector<std::string_view> columns = SplitAtMost(line, '\t', 2);
@@ -68,19 +68,18 @@ void CheckGroups(CheckContext& context) {
     if (!names.insert(FoldCase(TrimBlanks(columns[0]))).second) {
       context.Add(kName, number, "there is a group of this name already");
     }
-    if (names.size() == kMostGroups + 1) context.Add(kName, number, "there are more than ten groups");
+    if (names.size() == kMaxGroups + 1) context.Add(kName, number, "there are more than ten groups");
     context.CheckTokens(kName, number, columns[1]);
   });
 }
 
 void CheckRecent(CheckContext& context) {
   constexpr std::string_view kName = "\\recent.snr";
-  constexpr std::size_t kMostEntries = 20;
+  constexpr std::size_t kMaxEntries = 20;
   ForEachLine(context, kName, Need::Optional, [&](std::size_t number, std::string_view line) {
     const std::string_view tokens = TrimBlanks(line);
     if (number > 1) context.Add(kName, number, "there is more than one line");
-    if (Split(tokens, ' ').size() > kMostEntries)
-      context.Add(kName, number, "there are more than 20 entries");
+    if (Split(tokens, ' ').size() > kMaxEntries) context.Add(kName, number, "there are more than 20 entries");
     context.CheckTokens(kName, number, tokens);
   });
 }
@@ -94,7 +93,7 @@ void CheckSchedule(CheckContext& context) {
       context.Add(kName, number, "the line has less than six tabs");
     } else if (KindOf(columns[5]) == ScheduleKind::Unknown) {
       context.Add(kName, number,
-                  "\"" + std::string(CutForShow(columns[5], 40)) + "\" is no kind of repetition");
+                  "\"" + std::string(TruncateUtf8(columns[5], 40)) + "\" is no kind of repetition");
     }
   });
 }
@@ -131,7 +130,7 @@ void CheckRankings(CheckContext& context) {
     if (columns.size() < 2) {
       context.Add(kName, number, "the line has no tab");
     } else if (missing.erase(name) == 0) {
-      const std::string quoted = "\"" + std::string(CutForShow(columns[0], 40)) + "\"";
+      const std::string quoted = "\"" + std::string(TruncateUtf8(columns[0], 40)) + "\"";
       context.Add(kName, number, quoted + (seen.count(name) > 0 ? " stands there twice" : " is no ranking"));
     } else {
       context.CheckIds(kName, number, TrimBlanks(columns[1]));
@@ -150,12 +149,12 @@ void CheckRankings(CheckContext& context) {
 
 void CheckSearchKinds(CheckContext& context) {
   constexpr std::string_view kName = "\\searchst.snr";
-  constexpr std::size_t kMostKinds = 6;
+  constexpr std::size_t kMaxKinds = 6;
   std::size_t kinds = 0;
   bool searchesStations = false;
   ForEachLine(context, kName, Need::Required, [&](std::size_t number, std::string_view line) {
     const std::vector<std::string_view> columns = SplitAtMost(line, '\t', 3);
-    if (++kinds == kMostKinds + 1) context.Add(kName, number, "there are more than six kinds");
+    if (++kinds == kMaxKinds + 1) context.Add(kName, number, "there are more than six kinds");
     if (columns.size() < 2 || columns[0].empty() || columns[1].empty()) {
       context.Add(kName, number, "the line has no caption or no kind");
     } else if (columns[1] == "FindStation") {

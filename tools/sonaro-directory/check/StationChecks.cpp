@@ -116,7 +116,7 @@ void CheckStationLine(CheckContext& context, std::size_t number, std::string_vie
   StationLine station;
   if (!ParseStationLine(line, station)) {
     context.Add(kListName, number,
-                "\"" + std::string(CutForShow(columns[0], 40)) + "\" is no station identifier");
+                "\"" + std::string(TruncateUtf8(columns[0], 40)) + "\" is no station identifier");
     return;
   }
   StationRecord record;

@@ -87,7 +87,7 @@ std::string ReadKey(LocalFolder& folder, const std::string& path, std::string& p
   const ReadResult file = ReadWholeFile(folder.Data().FileSystem(), path);
   if (file.status != ReadStatus::Ok) problem = "The key \"" + path + "\" could not be read.";
   std::string_view rest = file.bytes;
-  std::string_view line = TakeUntil(rest, '\n');
+  std::string_view line = NextField(rest, '\n');
   if (line.ends_with('\r')) line.remove_suffix(1);
   if (problem.empty() && TrimBlanks(line).empty()) problem = "The file \"" + path + "\" holds no key.";
   return std::string(TrimBlanks(line));

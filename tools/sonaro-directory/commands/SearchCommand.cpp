@@ -44,7 +44,7 @@ bool RunQueries(StatList& stations, const std::string& path, std::ostream& out) 
   std::ifstream file(path, std::ios::binary);
   for (std::string line; std::getline(file, line);) {
     std::string_view words = line;
-    const bool allWords = TakeUntil(words, '\t') != "any";
+    const bool allWords = NextField(words, '\t') != "any";
     out << Joined(stations.SearchStationIds(words, allWords), ' ') << '\n';
   }
   return file.eof();

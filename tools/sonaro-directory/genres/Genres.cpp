@@ -13,8 +13,8 @@
 namespace sonaro {
 namespace {
 
-constexpr std::size_t kLongestTerm = 4;   // words
-constexpr std::size_t kMostTagWords = 6;  // a longer tag is a sentence, and its words mean something else
+constexpr std::size_t kMaxTermLength = 4;  // words
+constexpr std::size_t kMaxTagWords = 6;    // a longer tag is a sentence, and its words mean something else
 
 // Words that are genres as a tag of their own but mean something else beside other words.
 constexpr std::string_view kOnlyAsWholeTag[] = {"adult",
@@ -194,7 +194,7 @@ std::vector<GenreEntry> GenresInWords(const std::vector<std::string_view>& words
   std::vector<GenreEntry> entries;
   for (std::size_t start = 0; start < words.size();) {
     std::size_t taken = 1;
-    for (std::size_t length = std::min(kLongestTerm, words.size() - start); length > 0; --length) {
+    for (std::size_t length = std::min(kMaxTermLength, words.size() - start); length > 0; --length) {
       const std::string_view last = words[start + length - 1];
       const std::string term(words[start].data(), last.data() + last.size());
       if (length == 1 && (IsOneOf(kOnlyAsWholeTag, term) || (name && IsOneOf(kNotInNames, term)))) continue;
@@ -274,7 +274,7 @@ std::vector<GenreEntry> GenresOfTag(std::string_view tag) {
   const std::string key = MatchKey(tag);
   if (const auto found = Tags().find(key); found != Tags().end()) return found->second;
   const std::vector<std::string_view> words = KeyWords(key);
-  if (words.size() < 2 || words.size() > kMostTagWords) return {};
+  if (words.size() < 2 || words.size() > kMaxTagWords) return {};
   return GenresInWords(words, /*name=*/false);
 }
 
@@ -288,7 +288,7 @@ Classification ClassifyStation(const SourceStation& station) {
     }
   }
   PutMainFirst(result.entries);
-  if (result.entries.size() > kMostGenres) result.entries.resize(kMostGenres);
+  if (result.entries.size() > kMaxGenres) result.entries.resize(kMaxGenres);
   if (result.entries.empty()) result.otherTag = FirstTellingTag(station);
   return result;
 }

@@ -17,13 +17,13 @@ struct GenreEntry {
 };
 
 struct Classification {
-  std::vector<GenreEntry> entries;  // the main one first; at most kMostGenres; empty: it belongs under Other
+  std::vector<GenreEntry> entries;  // the main one first; at most kMaxGenres; empty: it belongs under Other
   std::string otherTag;             // the first tag that says something, when there are no entries
   // The main genre as the list shows it.
   std::string Format() const;
 };
 
-inline constexpr std::size_t kMostGenres = 8;
+inline constexpr std::size_t kMaxGenres = 8;
 
 Classification ClassifyStation(const SourceStation& station);
 

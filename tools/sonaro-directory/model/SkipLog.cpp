@@ -14,7 +14,7 @@ void SkipLog::Skip(std::string_view place, std::string_view what, std::string_vi
   ++counts_[std::string(reason)];
   if (!explain_) return;
   // What is shown comes from a stranger's file: nothing of it may steer a terminal.
-  *explain_ << place << ": left out \"" << CutForShow(CleanText(what), 120) << "\": " << reason << '\n';
+  *explain_ << place << ": left out \"" << TruncateUtf8(CleanText(what), 120) << "\": " << reason << '\n';
 }
 
 std::size_t SkipLog::Total() const {

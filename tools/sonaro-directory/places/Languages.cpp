@@ -10,8 +10,8 @@
 namespace sonaro {
 namespace {
 
-constexpr std::size_t kMostLanguages = 4;
-constexpr std::size_t kLongestName = 30;
+constexpr std::size_t kMaxLanguages = 4;
+constexpr std::size_t kMaxNameLength = 30;
 
 struct LanguageLine {
   std::string_view name;
@@ -122,9 +122,9 @@ std::vector<std::string> LanguagesIn(std::string_view text) {
   std::vector<std::string> languages;
   for (const std::string_view part : Split(plain, ',')) {
     const std::string key = MatchKey(part);
-    if (key.empty() || languages.size() == kMostLanguages) continue;
+    if (key.empty() || languages.size() == kMaxLanguages) continue;
     const auto known = BySpelling().find(key);
-    if (known == BySpelling().end() && part.size() > kLongestName) continue;
+    if (known == BySpelling().end() && part.size() > kMaxNameLength) continue;
     std::string name =
         known == BySpelling().end() ? WithCapitals(TrimBlanks(part)) : std::string(known->second);
     if (std::find(languages.begin(), languages.end(), name) == languages.end())

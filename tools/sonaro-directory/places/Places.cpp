@@ -15,7 +15,7 @@ namespace sonaro {
 namespace {
 
 constexpr std::size_t kLeastForRegion = 2;
-constexpr std::size_t kLongestRegion = 40;
+constexpr std::size_t kMaxRegion = 40;
 
 using RegionMap = std::unordered_map<std::string, std::string_view>;
 
@@ -89,7 +89,7 @@ bool IsNoPlace(std::string_view text) {
       "music",    "outside us",   "state",      "region",    "oblast",    "unknown", "classic", "nincs",
       "europe",   "world",        "ici",        "global",    "any"};
   const std::string key = MatchKey(text);
-  if (key.size() < 3 || text.size() > kLongestRegion) return true;
+  if (key.size() < 3 || text.size() > kMaxRegion) return true;
   if (key.find_first_of("0123456789") != std::string::npos) return true;
   if (std::find(kJunk.begin(), kJunk.end(), key) != kJunk.end()) return true;
   return CountryByName(text) != nullptr;

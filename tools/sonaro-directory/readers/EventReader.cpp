@@ -13,7 +13,7 @@ namespace {
 
 using Json = nlohmann::json;
 
-constexpr int kLongestEvent = 7 * 24 * 60;  // minutes
+constexpr int kMaxEventLength = 7 * 24 * 60;  // minutes
 
 std::string ShownTextOf(const Json& object, const char* key) {
   const auto found = object.find(key);
@@ -53,7 +53,7 @@ std::vector<SourceEvent> ReadEvents(const std::string& name, std::string_view te
     const auto minutes = object.find("minutes");
     if (minutes != object.end() && minutes->is_number_integer()) {
       event.minutes =
-          static_cast<int>(std::clamp<std::int64_t>(minutes->get<std::int64_t>(), 0, kLongestEvent));
+          static_cast<int>(std::clamp<std::int64_t>(minutes->get<std::int64_t>(), 0, kMaxEventLength));
     }
     const std::optional<DateTime> start = ParseStart(ShownTextOf(object, "start"));
     if (event.name.empty() || event.station.empty() || !start) {

@@ -16,13 +16,13 @@
 namespace sonaro {
 namespace {
 
-constexpr std::size_t kLargestSource = std::size_t{1} << 30;
-constexpr int kMostLayers = 2;  // gzip inside gzip happens; more is an attack
+constexpr std::size_t kMaxSourceSize = std::size_t{1} << 30;
+constexpr int kMaxLayers = 2;  // gzip inside gzip happens; more is an attack
 
 // The first line that is neither empty nor a comment.
 std::string_view FirstPlainLine(std::string_view text) {
   while (!text.empty()) {
-    const std::string_view line = TrimBlanks(TakeUntil(text, '\n'));
+    const std::string_view line = TrimBlanks(NextField(text, '\n'));
     if (!line.empty() && line != "\r" && !line.starts_with('#')) return line;
   }
   return {};
@@ -104,9 +104,9 @@ SourceResult ReadSource(const std::string& path, SkipLog& skips) {
 
 SourceResult ReadSourceBytes(const std::string& name, std::string bytes, SkipLog& skips) {
   SourceResult result;
-  for (int layer = 0; layer < kMostLayers && IsGzip(bytes); ++layer) {
+  for (int layer = 0; layer < kMaxLayers && IsGzip(bytes); ++layer) {
     std::string unpacked;
-    const GunzipStatus status = Gunzip(bytes, kLargestSource, unpacked);
+    const GunzipStatus status = Gunzip(bytes, kMaxSourceSize, unpacked);
     if (status != GunzipStatus::Ok) {
       result.failure = "\"" + name + "\" " +
                        (status == GunzipStatus::TooLarge ? "unpacks to more than 1 GB."

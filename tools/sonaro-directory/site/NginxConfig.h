@@ -16,7 +16,7 @@ struct NginxSite {
 };
 
 // A whole configuration: nginx -p FOLDER -c nginx.conf, where FOLDER holds it and "public", the root of the
-// files. Needs no rights beyond those to the folder and the port.
+// files. Dependencies no rights beyond those to the folder and the port.
 std::string NginxConfig(const NginxSite& site);
 
 }  // namespace sonaro

@@ -37,7 +37,7 @@ std::vector<std::string> NamesOf(DataFolder& data) {
 bool HoldsStation(std::string_view list) {
   StationLine station;
   while (!list.empty()) {
-    if (ParseStationLine(TakeUntil(list, '\n'), station)) return true;
+    if (ParseStationLine(NextField(list, '\n'), station)) return true;
   }
   return false;
 }
@@ -69,7 +69,7 @@ void AddSections(DataFolder& data, UpdateText& update) {
     }
     if (!update.failure.empty()) return;
   }
-  if (update.carried.size() > update::kMostSections)
+  if (update.carried.size() > update::kMaxSections)
     update.failure = "The folder has more files than an installation takes in one update.";
   if (update.carried.empty() || update.carried.front() != kStationList)
     update.failure = "\"" + data.Folder() + "\" has no station list.";
@@ -108,7 +108,7 @@ UpdateText MakeUpdateText(DataFolder& data, const UpdateRequest& request) {
   if (isSigned) AddSerial(request.serial, update);
   if (update.failure.empty() && isSigned) AddSignature(request.secretKey, update);
   update.bytes.append(update::kSentinel);
-  if (update.failure.empty() && update.bytes.size() > update::kMostBytes)
+  if (update.failure.empty() && update.bytes.size() > update::kMaxBytes)
     update.failure = "The update is larger than an installation takes.";
   if (!update.failure.empty()) update.bytes.clear();
   return update;

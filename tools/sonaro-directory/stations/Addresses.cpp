@@ -11,7 +11,7 @@
 namespace sonaro {
 namespace {
 
-constexpr std::size_t kLongestAddress = 2000;
+constexpr std::size_t kMaxAddressLength = 2000;
 constexpr std::size_t kSuspiciousLength = 300;
 
 constexpr std::array<std::string_view, 11> kStreamSchemes = {"http",  "https", "mms",  "mmsh", "mmst", "rtsp",
@@ -70,7 +70,7 @@ std::string_view Authority(std::string_view address) {
 
 std::string_view ProblemOf(std::string_view address, std::span<const std::string_view> schemes) {
   if (address.empty()) return "no address";
-  if (address.size() > kLongestAddress) return "longer than 2,000 characters";
+  if (address.size() > kMaxAddressLength) return "longer than 2,000 characters";
   if (std::any_of(address.begin(), address.end(),
                   [](char c) { return static_cast<unsigned char>(c) < 0x20 || c == 0x7F; })) {
     return "control character in the address";

@@ -11,15 +11,15 @@
 namespace sonaro {
 namespace {
 
-constexpr std::size_t kLongestName = 200;
-constexpr std::size_t kLongestTag = 60;
-constexpr std::size_t kLongestSlogan = 200;
-constexpr std::size_t kLongestPlaceOrLanguage = 100;
-constexpr std::size_t kMostTags = 40;
+constexpr std::size_t kMaxNameLength = 200;
+constexpr std::size_t kMaxTagLength = 60;
+constexpr std::size_t kMaxSloganLength = 200;
+constexpr std::size_t kMaxPlaceOrLanguageLength = 100;
+constexpr std::size_t kMaxTags = 40;
 
 std::string CleanField(std::string_view text, std::size_t longest) {
   const std::string clean = CleanText(DecodeEntities(text));
-  return std::string(TrimBlanks(CutForShow(clean, longest)));
+  return std::string(TrimBlanks(TruncateUtf8(clean, longest)));
 }
 
 void CleanAddresses(SourceStation& station, SkipLog& log) {
@@ -51,7 +51,7 @@ void CleanTags(SourceStation& station) {
     for (const std::string_view part : Split(raw, ';')) {
       std::string tag = CleanText(DecodeEntities(part));
       while (tag.starts_with('#') || tag.starts_with(' ')) tag.erase(0, 1);
-      if (tag.empty() || tag.size() > kLongestTag || tags.size() == kMostTags) continue;
+      if (tag.empty() || tag.size() > kMaxTagLength || tags.size() == kMaxTags) continue;
       if (seen.insert(MatchKey(tag)).second) tags.push_back(std::move(tag));
     }
   }
@@ -89,7 +89,7 @@ std::string CodecInOgg(const SourceStation& station) {
 }
 
 void CleanSound(SourceStation& station) {
-  station.codec = CleanField(station.codec, kLongestTag);
+  station.codec = CleanField(station.codec, kMaxTagLength);
   if (EqualIgnoringCase(station.codec, "UNKNOWN")) station.codec.clear();
   if (AddressEnding(station.addresses.front()) == ".m3u8") station.segmented = true;
   for (const std::string& address : station.addresses) {
@@ -105,7 +105,7 @@ void CleanSound(SourceStation& station) {
 }  // namespace
 
 bool CleanStation(SourceStation& station, MakeLogs& logs) {
-  station.name = CleanField(station.name, kLongestName);
+  station.name = CleanField(station.name, kMaxNameLength);
   CleanAddresses(station, logs.addresses);
   if (station.addresses.empty()) {
     logs.entries.Skip(station.place, station.name, "without a usable address");
@@ -114,11 +114,11 @@ bool CleanStation(SourceStation& station, MakeLogs& logs) {
   if (station.name.empty()) station.name = HostOfAddress(station.addresses.front());
   CleanWebSite(station, logs.addresses);
   CleanTags(station);
-  station.slogan = CleanField(station.slogan, kLongestSlogan);
-  station.country = CleanField(station.country, kLongestPlaceOrLanguage);
-  station.countryCode = CleanField(station.countryCode, kLongestPlaceOrLanguage);
-  station.region = CleanField(station.region, kLongestPlaceOrLanguage);
-  station.language = CleanField(station.language, kLongestPlaceOrLanguage);
+  station.slogan = CleanField(station.slogan, kMaxSloganLength);
+  station.country = CleanField(station.country, kMaxPlaceOrLanguageLength);
+  station.countryCode = CleanField(station.countryCode, kMaxPlaceOrLanguageLength);
+  station.region = CleanField(station.region, kMaxPlaceOrLanguageLength);
+  station.language = CleanField(station.language, kMaxPlaceOrLanguageLength);
   CleanSound(station);
   return true;
 }

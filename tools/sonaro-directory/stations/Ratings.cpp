@@ -11,7 +11,7 @@
 namespace sonaro {
 namespace {
 
-constexpr double kMostVotes = 50000;
+constexpr double kMaxVotes = 50000;
 constexpr double kVotesWithoutClicks = 500;
 constexpr double kVotesPerClick = 100;
 constexpr double kManyClicks = 3000;  // of a day; what the most played station has
@@ -24,7 +24,7 @@ double Logarithmic(double value, double most) { return std::min(1.0, std::log1p(
 double Popularity(const SourceStation& station) {
   if (!station.votes && !station.clicks) return 0;
   const Believed believed = BelievedVotes(station.votes.value_or(0), station.clicks.value_or(0));
-  return 0.6 * Logarithmic(believed.clicks, kManyClicks) + 0.4 * Logarithmic(believed.votes, kMostVotes);
+  return 0.6 * Logarithmic(believed.clicks, kManyClicks) + 0.4 * Logarithmic(believed.votes, kMaxVotes);
 }
 
 // The bit rate at which MP3 sounds alike.
@@ -103,9 +103,9 @@ int Reliability(const SourceStation& station) {
 Believed BelievedVotes(std::int64_t votes, std::int64_t clicks) {
   Believed believed{static_cast<double>(std::max<std::int64_t>(votes, 0)),
                     static_cast<double>(std::max<std::int64_t>(clicks, 0))};
-  if (believed.votes > kMostVotes) {
-    const double share = kMostVotes / believed.votes;
-    believed.votes = kMostVotes * share;
+  if (believed.votes > kMaxVotes) {
+    const double share = kMaxVotes / believed.votes;
+    believed.votes = kMaxVotes * share;
     believed.clicks *= std::sqrt(share * share * share);
   }
   believed.votes = std::min(believed.votes, kVotesWithoutClicks + kVotesPerClick * believed.clicks);

@@ -13,15 +13,15 @@
 namespace sonaro {
 namespace {
 
-constexpr std::size_t kMostTagsTold = 12;
-constexpr std::size_t kLongestTagsTold = 220;
+constexpr std::size_t kMaxTagsTold = 12;
+constexpr std::size_t kMaxTagsToldLength = 220;
 
 std::string TagsTold(const SourceStation& station) {
   std::vector<std::string> told;
   std::size_t length = 0;
   for (const std::string& tag : station.tags) {
     length += tag.size() + 2;
-    if (told.size() == kMostTagsTold || length > kLongestTagsTold) break;
+    if (told.size() == kMaxTagsTold || length > kMaxTagsToldLength) break;
     told.push_back(tag);
   }
   return Capitalized(JoinAsSentence(told));

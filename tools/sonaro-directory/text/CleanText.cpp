@@ -119,12 +119,12 @@ std::string CleanText(std::string_view text) {
 }
 
 std::string DecodeEntities(std::string_view text) {
-  constexpr std::size_t kLongestReference = 10;
+  constexpr std::size_t kMaxReferenceLength = 10;
   std::string decoded;
   decoded.reserve(text.size());
   for (std::size_t position = 0; position < text.size(); ++position) {
     const std::size_t end = text[position] == '&' ? text.find(';', position) : std::string_view::npos;
-    if (end != std::string_view::npos && end - position <= kLongestReference) {
+    if (end != std::string_view::npos && end - position <= kMaxReferenceLength) {
       if (const char32_t c = ReferencedCharacter(text.substr(position + 1, end - position - 1)); c != 0) {
         AppendUtf8(decoded, c);
         position = end;

@@ -35,7 +35,7 @@ struct RatingFigure {
   std::string spoken;  // "Sound 4.5 of 5"
 };
 
-struct StationDetail {
+struct StationDetailBuilder {
   static constexpr std::size_t kRatings = 4;  // overall, sound, speed, web site
   static constexpr std::size_t kPlayKeys = 3;
 
@@ -58,15 +58,15 @@ class StationDetails {
                  const Strings& strings, const AppState& state)
       : source_(source), personal_(personal), extra_(extra), strings_(strings), state_(state) {}
 
-  StationDetail Of(const StationKey& key) const;
+  StationDetailBuilder Of(const StationKey& key) const;
   // A rating stored as one digit: half as much, in halves. Anything but 1 to 9 is not rated. `nameId` is the
   // number of the rating's name in the string table.
   RatingFigure Rating(const std::string& digit, int nameId) const;
 
  private:
-  void AddDirectoryStation(StationDetail& detail) const;
-  void AddPersonalStation(StationDetail& detail) const;
-  void AddExtraLinks(StationDetail& detail) const;
+  void AddDirectoryStation(StationDetailBuilder& detail) const;
+  void AddPersonalStation(StationDetailBuilder& detail) const;
+  void AddExtraLinks(StationDetailBuilder& detail) const;
   PlayKey Key(const std::string& link, const std::string& media, const std::string& bitRate) const;
 
   const StationSource& source_;

@@ -1,11 +1,11 @@
-#include "mainwindow/StationListing.h"
+#include "mainwindow/StationListState.h"
 
 #include <utility>
 
 #include "base/RowSelection.h"
 #include "base/Text.h"
 #include "mainwindow/BrowseTree.h"
-#include "mainwindow/StationLists.h"
+#include "mainwindow/StationListFiller.h"
 #include "resources/texts/mainwindow.h"
 #include "settings/Strings.h"
 #include "stations/FavoriteGroups.h"
@@ -30,7 +30,7 @@ std::string_view NameOf(View view) {
   return {};
 }
 
-void StationListing::ShowView(View view) {
+void StationListState::ShowView(View view) {
   if (view == View::List) return ShowListView();
   state_.view = view;
   state_.middle = view == View::YourSonaro                   ? Middle::EventPage
@@ -44,14 +44,14 @@ void StationListing::ShowView(View view) {
   if (view == View::BrowseLoc) tree_.Show(BrowseMode::ByLocation);
 }
 
-void StationListing::ShowListView() {
+void StationListState::ShowListView() {
   if (state_.view == View::List) return;
   state_.view = View::List;
   state_.middle = Middle::StationList;
   RebuildFromListingMode();
 }
 
-void StationListing::RebuildFromListingMode() {
+void StationListState::RebuildFromListingMode() {
   const std::string mode = state_.listingMode;
   if (mode == ListingState::kRecent) {
     ShowRecent();
@@ -68,12 +68,12 @@ void StationListing::RebuildFromListingMode() {
 }
 
 // The list comes to the front without being rebuilt: its next rows are on their way.
-void StationListing::LeaveForList() {
+void StationListState::LeaveForList() {
   state_.listingMode.clear();
   ShowListView();
 }
 
-void StationListing::Hold(Holds holds, std::string caption) {
+void StationListState::Hold(Holds holds, std::string caption) {
   state_.missing.clear();
   state_.holds = holds;
   state_.caption = std::move(caption);
@@ -81,7 +81,7 @@ void StationListing::Hold(Holds holds, std::string caption) {
   state_.group.clear();
 }
 
-void StationListing::ShowRanking(Ranking ranking) {
+void StationListState::ShowRanking(Ranking ranking) {
   LeaveForList();
   state_.listingMode = ListingModeOf(ranking);
   Hold(Holds::Ranking, strings_.Load(CaptionIdOf(ranking)));
@@ -89,35 +89,35 @@ void StationListing::ShowRanking(Ranking ranking) {
   FillHeld();
 }
 
-void StationListing::ShowRecent() {
+void StationListState::ShowRecent() {
   LeaveForList();
   HoldRecent();
 }
 
-void StationListing::ShowRecentInPlace() {
+void StationListState::ShowRecentInPlace() {
   state_.middle = Middle::StationList;
   HoldRecent();
 }
 
-void StationListing::HoldRecent() {
+void StationListState::HoldRecent() {
   state_.listingMode = ListingState::kRecent;
   Hold(Holds::Recent, strings_.Load(IDS_LISTING_YOUR_RECENT));
   FillHeld();
 }
 
-void StationListing::ShowFavoriteGroup(std::size_t group) {
+void StationListState::ShowFavoriteGroup(std::size_t group) {
   if (group >= groups_.Count()) return;
   LeaveForList();
   HoldGroup(group);
 }
 
-void StationListing::ShowGroupInPlace(std::size_t group) {
+void StationListState::ShowGroupInPlace(std::size_t group) {
   if (group >= groups_.Count()) return;
   state_.middle = Middle::StationList;
   HoldGroup(group);
 }
 
-void StationListing::HoldGroup(std::size_t group) {
+void StationListState::HoldGroup(std::size_t group) {
   const std::string name(groups_.Name(group));
   state_.listingMode = std::string(ListingState::kGroup) + name;
   Hold(Holds::Group, name);
@@ -125,7 +125,7 @@ void StationListing::HoldGroup(std::size_t group) {
   FillHeld();
 }
 
-void StationListing::treeBrowse_NodeClick(const BrowseNode& node) {
+void StationListState::treeBrowse_NodeClick(const BrowseNode& node) {
   state_.currentNodeTag = node.tag;
   state_.middle = Middle::StationList;
   const NodeClick click = BrowseTree::ClickOn(node);
@@ -136,7 +136,7 @@ void StationListing::treeBrowse_NodeClick(const BrowseNode& node) {
   FillHeld();
 }
 
-void StationListing::ShowSearch(std::string_view text, bool allWords) {
+void StationListState::ShowSearch(std::string_view text, bool allWords) {
   searchText_ = text;
   webSearchIsLast_ = false;
   LeaveForList();
@@ -144,21 +144,21 @@ void StationListing::ShowSearch(std::string_view text, bool allWords) {
   foundIds_ = lists_.FillListFromSearch(text, allWords, rows_);
 }
 
-void StationListing::HoldLastSearch() {
+void StationListState::HoldLastSearch() {
   state_.listingMode = ListingState::kLastSearch;
-  Hold(Holds::Search, FillIn(strings_.Load(IDS_LISTING_SEARCH), {searchText_}));
+  Hold(Holds::Search, FormatText(strings_.Load(IDS_LISTING_SEARCH), {searchText_}));
 }
 
-void StationListing::ShowWebSearch() {
+void StationListState::ShowWebSearch() {
   webSearchIsLast_ = true;
   state_.middle = Middle::WebSearch;
 }
 
-void StationListing::GroupsChanged() {
+void StationListState::GroupsChanged() {
   if (state_.holds == Holds::Group) Refill();
 }
 
-void StationListing::GroupRenamed(std::string_view from, std::string_view to) {
+void StationListState::GroupRenamed(std::string_view from, std::string_view to) {
   const std::string oldMode = std::string(ListingState::kGroup) + std::string(from);
   if (EqualIgnoringCase(state_.listingMode, oldMode)) {
     state_.listingMode = std::string(ListingState::kGroup) + std::string(to);
@@ -169,7 +169,7 @@ void StationListing::GroupRenamed(std::string_view from, std::string_view to) {
   }
 }
 
-void StationListing::GroupDeleted(std::string_view name) {
+void StationListState::GroupDeleted(std::string_view name) {
   if (state_.holds != Holds::Group || !EqualIgnoringCase(state_.group, name)) return;
   if (state_.middle == Middle::StationList) return HoldRecent();
   state_.listingMode.clear();
@@ -177,16 +177,16 @@ void StationListing::GroupDeleted(std::string_view name) {
   FillHeld();
 }
 
-void StationListing::StationsChanged() { Refill(); }
+void StationListState::StationsChanged() { Refill(); }
 
-void StationListing::Refill() {
+void StationListState::Refill() {
   const std::vector<std::string> before = rows_.Keys();
   const std::size_t selected = rows_.Selected().value_or(0);
   FillHeld();
   rows_.Select(SelectionAfterFill(before, selected, rows_.Keys()));
 }
 
-void StationListing::FillHeld() {
+void StationListState::FillHeld() {
   switch (state_.holds) {
     case Holds::Nothing:
       return rows_.Clear();

@@ -9,6 +9,6 @@
 namespace sonaro {
 
 // A count with its thousands apart: "12,418", or "12.418" where decimals are written with a comma.
-std::string FigureText(std::size_t figure, DecimalMode mode);
+std::string FormatCount(std::size_t figure, DecimalMode mode);
 
 }  // namespace sonaro

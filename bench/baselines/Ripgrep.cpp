@@ -1,4 +1,4 @@
-#include "yardsticks/Ripgrep.h"
+#include "baselines/Ripgrep.h"
 
 #include <fcntl.h>
 #include <spawn.h>

@@ -16,14 +16,14 @@ namespace sonaro {
 class BrowseTree;
 class FavoriteGroups;
 class Rankings;
-class StationLists;
+class StationListFiller;
 class Strings;
 struct BrowseNode;
 
-class StationListing {
+class StationListState {
  public:
-  StationListing(StationLists& lists, Rankings& rankings, const FavoriteGroups& groups, BrowseTree& tree,
-                 const Strings& strings, SortKeyOf sortKey)
+  StationListState(StationListFiller& lists, Rankings& rankings, const FavoriteGroups& groups,
+                   BrowseTree& tree, const Strings& strings, SortKeyOf sortKey)
       : lists_(lists),
         rankings_(rankings),
         groups_(groups),
@@ -80,7 +80,7 @@ class StationListing {
   void Refill();
   void Hold(Holds holds, std::string caption);
 
-  StationLists& lists_;
+  StationListFiller& lists_;
   Rankings& rankings_;
   const FavoriteGroups& groups_;
   BrowseTree& tree_;

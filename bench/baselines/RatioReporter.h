@@ -1,4 +1,4 @@
-// Collects the best time of every benchmark and prints the quotients against the yardsticks as a Markdown
+// Collects the best time of every benchmark and prints the quotients against the baselines as a Markdown
 // table. A benchmark is named "operation|contender"; the contender "Sonaro" is what the others are compared
 // with.
 #pragma once
@@ -14,10 +14,10 @@ namespace sonaro {
 inline constexpr const char* kSonaro = "Sonaro";
 inline constexpr const char* kRipgrep = "ripgrep";  // runs as a program of its own
 
-// How many times faster than a yardstick an operation should be.
+// How many times faster than a baseline an operation should be.
 struct Target {
   std::string operation;
-  std::string yardstick;
+  std::string baseline;
   double floor;
   double aim;
 };

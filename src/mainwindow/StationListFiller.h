@@ -1,6 +1,6 @@
 // Fills lists of stations: from any text of station identifiers, from a search, from the user's own stations,
 // from a favourite group's members and from the recent list. Looks all stations of a fill up in one go. Knows
-// no captions and no modes: see StationListing.
+// no captions and no modes: see StationListState.
 #pragma once
 
 #include <cstdint>
@@ -17,10 +17,10 @@ class RecentList;
 class StatList;
 class Strings;
 
-class StationLists {
+class StationListFiller {
  public:
-  StationLists(StatList& stations, const PersonalStations& personal, const RecentList& recent,
-               const Strings& strings)
+  StationListFiller(StatList& stations, const PersonalStations& personal, const RecentList& recent,
+                    const Strings& strings)
       : stations_(stations), personal_(personal), recent_(recent), strings_(strings) {}
 
   // `ids`: decimal identifiers, each followed by one blank. Unknown ones are left out, the order is kept.

@@ -1,4 +1,4 @@
-// The yardstick: the station table in SQLite, with journal and flushing switched off. Every failure ends the
+// The baseline: the station table in SQLite, with journal and flushing switched off. Every failure ends the
 // program, since a comparison with something that failed would be worthless.
 #pragma once
 
@@ -10,8 +10,8 @@
 #include <string_view>
 #include <vector>
 
+#include "baselines/SyntheticList.h"
 #include "directory/StationRecord.h"
-#include "yardsticks/SyntheticList.h"
 
 namespace sonaro {
 

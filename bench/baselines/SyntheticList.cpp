@@ -1,4 +1,4 @@
-#include "yardsticks/SyntheticList.h"
+#include "baselines/SyntheticList.h"
 
 #include <algorithm>
 #include <random>

@@ -1,4 +1,4 @@
-#include "mainwindow/StationDetail.h"
+#include "mainwindow/StationDetailBuilder.h"
 
 #include <utility>
 
@@ -18,25 +18,25 @@ struct RatingField {
   int nameId;
 };
 
-constexpr std::array<RatingField, StationDetail::kRatings> kRatingFields{{
+constexpr std::array<RatingField, StationDetailBuilder::kRatings> kRatingFields{{
     {StationField::OverallRating, IDS_RATING_OVERALL},
     {StationField::SoundRating, IDS_RATING_SOUND},
     {StationField::SpeedRating, IDS_RATING_SPEED},
     {StationField::WebSiteRating, IDS_RATING_WEB_SITE},
 }};
 
-constexpr std::array<StationField, StationDetail::kPlayKeys> kLinkFields{
+constexpr std::array<StationField, StationDetailBuilder::kPlayKeys> kLinkFields{
     StationField::LinkOne, StationField::LinkTwo, StationField::LinkThree};
 
 bool IsBlank(std::string_view text) { return TrimBlanks(text).empty(); }
 
 }  // namespace
 
-StationDetail StationDetails::Of(const StationKey& key) const {
-  StationDetail detail;
+StationDetailBuilder StationDetails::Of(const StationKey& key) const {
+  StationDetailBuilder detail;
   if (key.kind == StationKey::Kind::None) return detail;
   detail.station = key;
-  for (std::size_t i = 0; i < StationDetail::kRatings; ++i) {
+  for (std::size_t i = 0; i < StationDetailBuilder::kRatings; ++i) {
     detail.ratings[i] = Rating({}, kRatingFields[i].nameId);
   }
   if (key.kind == StationKey::Kind::Directory) {
@@ -54,12 +54,12 @@ RatingFigure StationDetails::Rating(const std::string& digit, int nameId) const 
   const std::string name = strings_.Load(nameId);
   if (rating.halves == 0) {
     rating.figure = "\xE2\x80\x93";  // an en dash
-    rating.spoken = FillIn(strings_.Load(IDS_RATING_NONE_SPOKEN), {name});
+    rating.spoken = FormatText(strings_.Load(IDS_RATING_NONE_SPOKEN), {name});
     return rating;
   }
   const char point = state_.decimalMode == DecimalMode::Comma ? ',' : '.';
   rating.figure = std::to_string(rating.halves / 2) + point + (rating.halves % 2 ? '5' : '0');
-  rating.spoken = FillIn(strings_.Load(IDS_RATING_SPOKEN), {name, rating.figure});
+  rating.spoken = FormatText(strings_.Load(IDS_RATING_SPOKEN), {name, rating.figure});
   return rating;
 }
 
@@ -70,27 +70,27 @@ PlayKey StationDetails::Key(const std::string& link, const std::string& media,
   if (PlayLink::FromText(TrimBlanks(link)).way == PlayWay::WebPage) {
     key.caption = strings_.Load(IDS_PLAY_IN_BROWSER);
   } else {
-    key.caption = TrimBlanks(FillIn(strings_.Load(IDS_PLAY_MEDIA), {media}));
+    key.caption = TrimBlanks(FormatText(strings_.Load(IDS_PLAY_MEDIA), {media}));
   }
   if (NumberValue(bitRate) > 0) {
-    key.bitRate = FillIn(strings_.Load(IDS_PLAY_BIT_RATE), {std::to_string(NumberValue(bitRate))});
+    key.bitRate = FormatText(strings_.Load(IDS_PLAY_BIT_RATE), {std::to_string(NumberValue(bitRate))});
   }
   return key;
 }
 
-void StationDetails::AddDirectoryStation(StationDetail& detail) const {
+void StationDetails::AddDirectoryStation(StationDetailBuilder& detail) const {
   const StationRecord record = source_.Record(detail.station.number);
   if (record.Empty()) return void(detail = {});
   detail.name = record[StationField::Name];
   detail.location = record[StationField::Location];
   detail.description = record[StationField::Description];
-  for (std::size_t i = 0; i < StationDetail::kRatings; ++i) {
+  for (std::size_t i = 0; i < StationDetailBuilder::kRatings; ++i) {
     detail.ratings[i] = Rating(record[kRatingFields[i].field], kRatingFields[i].nameId);
   }
   // A station without a first link plays its alternate one when the first is asked for.
   std::string firstLink = record[StationField::LinkOne];
   if (IsBlank(firstLink)) firstLink = record[StationField::AlternateLink];
-  for (std::size_t i = 0; i < StationDetail::kPlayKeys; ++i) {
+  for (std::size_t i = 0; i < StationDetailBuilder::kPlayKeys; ++i) {
     const std::string& link = i == 0 ? firstLink : record[kLinkFields[i]];
     detail.playKeys[i] = Key(link, record[StationField::MediaType], record[StationField::BitRate]);
     detail.playKeys[i].request = {detail.station.Token(), static_cast<PlayMode>(i + 1)};
@@ -101,13 +101,13 @@ void StationDetails::AddDirectoryStation(StationDetail& detail) const {
   detail.hasWebSite = !IsBlank(record[StationField::WebSite]);
 }
 
-void StationDetails::AddPersonalStation(StationDetail& detail) const {
+void StationDetails::AddPersonalStation(StationDetailBuilder& detail) const {
   const PersonalStation* station = personal_.Find(detail.station.number);
   if (!station) return void(detail = {});
   detail.name = station->name;
   detail.location = strings_.Load(IDS_DETAIL_YOUR_STATION);
   detail.description = station->note;
-  for (std::size_t i = 0; i < StationDetail::kPlayKeys; ++i) {
+  for (std::size_t i = 0; i < StationDetailBuilder::kPlayKeys; ++i) {
     const std::string& link = station->links[i];
     detail.playKeys[i] = Key(link, station->type, {});
     // Only the first link has a request of its own; the others are handed over as they are.
@@ -123,7 +123,7 @@ void StationDetails::AddPersonalStation(StationDetail& detail) const {
   detail.hasWebSite = !IsBlank(station->webSite);
 }
 
-void StationDetails::AddExtraLinks(StationDetail& detail) const {
+void StationDetails::AddExtraLinks(StationDetailBuilder& detail) const {
   for (const ExtraLink& extra : extra_.Of(detail.station.number)) {
     PlayKey key;
     key.shown = true;

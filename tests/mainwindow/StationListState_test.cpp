@@ -1,4 +1,4 @@
-#include "mainwindow/StationListing.h"
+#include "mainwindow/StationListState.h"
 
 #include "mainwindow/Models.h"
 #include "resources/texts/mainwindow.h"
@@ -81,7 +81,7 @@ TEST_F(StationListingTest, TheListingModeSurvivesOtherPanelsAndRebuildsTheList) 
   const std::string found = Shown();
   EXPECT_EQ(found, "S2 S3 S4 ");
   EXPECT_EQ(comeBackFromTheTree(), found);
-  EXPECT_EQ(listing.State().caption, FillIn(Caption(IDS_LISTING_SEARCH), {"rock"}));
+  EXPECT_EQ(listing.State().caption, FormatText(Caption(IDS_LISTING_SEARCH), {"rock"}));
   listing.Rows().Select(2);
   listing.ShowView(View::BrowseLoc);
   listing.ShowListView();
@@ -159,7 +159,7 @@ TEST_F(StationListingTest, WhatTheGuideDoesNotKnowIsLeftOutAndCounted) {
   DataFolder elsewhere(files, "/none", '/');
   StatList none(elsewhere);
   StationRows rows;
-  EXPECT_TRUE(StationLists(none, personal, recent, strings).FillListFromGroup("4 77", rows).empty())
+  EXPECT_TRUE(StationListFiller(none, personal, recent, strings).FillListFromGroup("4 77", rows).empty())
       << "a guide that cannot be read says nothing about them";
 }
 

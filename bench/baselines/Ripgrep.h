@@ -1,10 +1,10 @@
-// The second yardstick of the search: ripgrep as its own program over the text list. It looks at whole lines,
+// The second baseline of the search: ripgrep as its own program over the text list. It looks at whole lines,
 // links and numbers included, and knows no order; its time includes the start of the program.
 #pragma once
 
 #include <string>
 
-#include "yardsticks/SyntheticList.h"
+#include "baselines/SyntheticList.h"
 
 namespace sonaro {
 

@@ -1,8 +1,8 @@
-#include "settings/FigureText.h"
+#include "settings/FormatCount.h"
 
 namespace sonaro {
 
-std::string FigureText(std::size_t figure, DecimalMode mode) {
+std::string FormatCount(std::size_t figure, DecimalMode mode) {
   std::string text = std::to_string(figure);
   for (std::size_t place = text.size(); place > 3;) {
     place -= 3;

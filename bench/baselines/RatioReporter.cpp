@@ -1,4 +1,4 @@
-#include "yardsticks/RatioReporter.h"
+#include "baselines/RatioReporter.h"
 
 #include <algorithm>
 #include <cstdio>
@@ -23,9 +23,9 @@ std::string FactorText(double factor) {
 }
 
 std::string TargetText(const std::vector<Target>& targets, const std::string& operation,
-                       const std::string& yardstick, double ratio) {
+                       const std::string& baseline, double ratio) {
   const auto target = std::find_if(targets.begin(), targets.end(), [&](const Target& t) {
-    return t.operation == operation && t.yardstick == yardstick;
+    return t.operation == operation && t.baseline == baseline;
   });
   if (target == targets.end()) return " | |";
   const char* const verdict = ratio >= target->aim     ? "aim reached"
@@ -71,23 +71,23 @@ std::vector<RatioReporter::Operation> RatioReporter::Joined() const {
 
 void RatioReporter::PrintTable(const std::string& heading, const std::vector<Target>& targets) const {
   std::printf(
-      "\n### %s\n\n| Operation | Sonaro | Yardstick | its time | times slower | by processor time | floor / "
+      "\n### %s\n\n| Operation | Sonaro | Baseline | its time | times slower | by processor time | floor / "
       "aim | |\n"
       "|---|---|---|---|---|---|---|---|\n",
       heading.c_str());
   for (const Operation& operation : Joined()) {
     const auto own = operation.best.find(kSonaro);
     if (own == operation.best.end()) continue;
-    for (const auto& [yardstick, times] : operation.best) {
-      if (yardstick == kSonaro) continue;
-      const bool inProcess = yardstick != kRipgrep;
+    for (const auto& [baseline, times] : operation.best) {
+      if (baseline == kSonaro) continue;
+      const bool inProcess = baseline != kRipgrep;
       const double ratio = times.real / own->second.real;
       const double byProcessor = times.processor / own->second.processor;
       const double smaller = inProcess ? std::min(ratio, byProcessor) : ratio;
       std::printf("| %s | %s | %s | %s | %s | %s |%s\n", operation.name.c_str(),
-                  TimeText(own->second.real).c_str(), yardstick.c_str(), TimeText(times.real).c_str(),
+                  TimeText(own->second.real).c_str(), baseline.c_str(), TimeText(times.real).c_str(),
                   FactorText(ratio).c_str(), inProcess ? FactorText(byProcessor).c_str() : "",
-                  TargetText(targets, operation.name, yardstick, smaller).c_str());
+                  TargetText(targets, operation.name, baseline, smaller).c_str());
     }
   }
   std::fflush(stdout);

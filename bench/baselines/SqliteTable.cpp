@@ -1,4 +1,4 @@
-#include "yardsticks/SqliteTable.h"
+#include "baselines/SqliteTable.h"
 
 #include <benchmark/benchmark.h>
 

@@ -1,4 +1,4 @@
-#include "mainwindow/StationLists.h"
+#include "mainwindow/StationListFiller.h"
 
 #include <cstdint>
 #include <optional>
@@ -24,16 +24,16 @@ std::optional<StationRow> PersonalRow(const PersonalStations& personal, std::int
 
 }  // namespace
 
-void StationLists::FillListFromIds(std::string_view ids, StationRows& list) {
+void StationListFiller::FillListFromIds(std::string_view ids, StationRows& list) {
   std::vector<std::int32_t> wanted;
   while (!ids.empty()) {
     std::int32_t id = 0;
-    if (ParseStationId(TakeUntil(ids, ' '), id)) wanted.push_back(id);
+    if (ParseStationId(NextField(ids, ' '), id)) wanted.push_back(id);
   }
   list.Fill(RowsOfStations(wanted));
 }
 
-std::vector<StationRow> StationLists::RowsOfStations(const std::vector<std::int32_t>& ids) {
+std::vector<StationRow> StationListFiller::RowsOfStations(const std::vector<std::int32_t>& ids) {
   std::vector<StationRow> rows;
   rows.reserve(ids.size());
   stations_.VisitStations(ids,
@@ -41,7 +41,7 @@ std::vector<StationRow> StationLists::RowsOfStations(const std::vector<std::int3
   return rows;
 }
 
-std::string StationLists::FillListFromSearch(std::string_view text, bool allWords, StationRows& list) {
+std::string StationListFiller::FillListFromSearch(std::string_view text, bool allWords, StationRows& list) {
   const std::vector<std::int32_t> found = stations_.SearchStationIds(text, allWords);
   std::string ids;
   for (const std::int32_t id : found) ids += std::to_string(id) + ' ';
@@ -49,12 +49,12 @@ std::string StationLists::FillListFromSearch(std::string_view text, bool allWord
   return ids;
 }
 
-void StationLists::FillListFromFound(std::string_view ids, StationRows& list) {
+void StationListFiller::FillListFromFound(std::string_view ids, StationRows& list) {
   FillListFromIds(ids, list);
   if (list.Count() == 0) list.Fill({RowOfNoStation(strings_.Load(IDS_LISTING_NO_STATIONS))});
 }
 
-void StationLists::FillListFromPersonal(StationRows& list) {
+void StationListFiller::FillListFromPersonal(StationRows& list) {
   std::vector<StationRow> rows;
   for (const PersonalStation& station : personal_.All()) {
     if (auto row = PersonalRow(personal_, station.index)) rows.push_back(std::move(*row));
@@ -62,21 +62,21 @@ void StationLists::FillListFromPersonal(StationRows& list) {
   list.Fill(std::move(rows));
 }
 
-std::vector<std::string> StationLists::FillListFromGroup(std::string_view members, StationRows& list) {
+std::vector<std::string> StationListFiller::FillListFromGroup(std::string_view members, StationRows& list) {
   std::vector<std::string> missing;
   list.Fill(RowsOf(SplitWords(members), missing));
   if (!missing.empty() && stations_.StationCount() == 0) missing.clear();
   return missing;
 }
 
-void StationLists::FillListFromRecent(StationRows& list) {
+void StationListFiller::FillListFromRecent(StationRows& list) {
   const std::string text = recent_.AsText();
   std::vector<std::string> missing;
   list.Fill(RowsOf(SplitWords(text), missing));
 }
 
-std::vector<StationRow> StationLists::RowsOf(const std::vector<std::string_view>& tokens,
-                                             std::vector<std::string>& missing) {
+std::vector<StationRow> StationListFiller::RowsOf(const std::vector<std::string_view>& tokens,
+                                                  std::vector<std::string>& missing) {
   std::vector<std::int32_t> ids;
   for (const std::string_view token : tokens) {
     const StationKey key = StationKey::FromToken(token);
