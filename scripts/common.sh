@@ -48,3 +48,14 @@ wine_environment() {
   export WINEDEBUG=${WINEDEBUG:--all}
   export WINEDLLOVERRIDES=${WINEDLLOVERRIDES:-"mscoree,mshtml=;winemenubuilder.exe=d"}
 }
+
+# use_wine PREFIX [COMMAND]: one Wine server for all programs of this script, in this prefix. With the script ends the server,
+# and then the command is run.
+use_wine() {
+  WINEPREFIX=$(realpath "$1")
+  export WINEPREFIX
+  wine_environment
+  "$root/scripts/wine/start-server" "$WINEPREFIX"
+  # shellcheck disable=SC2064
+  trap "'$root/scripts/wine/stop-server' '$WINEPREFIX'; ${2:-:}" EXIT
+}

@@ -44,7 +44,9 @@ class EventRow {
         withIndex(static_cast<void (EventTarget::*)(int)>(handler)) {}
   template <class T>
   EventRow(int id, OfRow event, void (T::*handler)(int row))
-      : first(id), kind(static_cast<Kind>(event)), withRow(static_cast<void (EventTarget::*)(int)>(handler)) {}
+      : first(id),
+        kind(static_cast<Kind>(event)),
+        withRow(static_cast<void (EventTarget::*)(int)>(handler)) {}
   template <class T>  // row of a list, or index of a control array (count > 1), -1: none; screen pixels
   EventRow(int id, AtPoint, void (T::*handler)(int row, POINT at), int arraySize = 1)
       : first(id),
