@@ -336,7 +336,7 @@ void Application::BringForward(std::string_view view) {
   if (!view.empty()) main_->BringUpView(view);
 }
 
-// The close key ends the program or hides it, as the user wants; the first time he is asked.
+// The close button ends the program or hides it, as the user wants; the first time he is asked.
 void Application::CloseAsked() {
   std::string keep = reg_.Setting(setting::kCloseToTray);
   if (keep.empty()) {

@@ -10,64 +10,68 @@ namespace sonaro {
 
 namespace {
 
-constexpr int kOneKeyLayout = 1;
-constexpr int kWideKeyLayout = 2;
-constexpr int kTwoKeyLayout = 3;
+constexpr int kOneButtonLayout = 1;
+constexpr int kWideButtonLayout = 2;
+constexpr int kTwoButtonLayout = 3;
 constexpr int kWideSecondLayout = 4;
-constexpr std::size_t kLongWords = 14;  // bytes of what the second key has room for
+constexpr std::size_t kLongWords = 14;  // bytes of what the second button has room for
 constexpr const char* kFilesMissing = "Files Missing";
 
 }  // namespace
 
-// As designed there are three keys, which take the whole foot, and the check box stands above them.
+// As designed there are three buttons, which take the whole foot, and the check box stands above them.
 const FormDesign& MsgboxFrm::Design() {
   static constexpr unsigned char kFoot = kLeft | kBottom;
   static constexpr ControlRow kControls[] = {
-      {.id = lblTitle, .kind = Kind::TitleBar, .at = {40, 4, 156, 26}},
+      {.id = lblTitle, .kind = ControlKind::TitleBar, .at = {40, 4, 156, 26}},
       MessagePicture(),
       MessageText(lblMsg, 98),
-      {.kind = Kind::Groove, .at = {14, 190, 392, 2}, .anchors = kFoot},
+      {.kind = ControlKind::Groove, .at = {14, 190, 392, 2}, .anchors = kFoot},
       {.id = chkDontAsk,
-       .kind = Kind::CheckBox,
+       .kind = ControlKind::CheckBox,
        .at = {68, 154, 336, 28},
        .flags = kHidden,
        .anchors = kFoot},
-      {.id = butMsg, .kind = Kind::PrimaryKey, .at = {78, 202, 116, 28}, .anchors = kFoot},
-      {.id = butMsg + 1, .kind = Kind::PushKey, .at = {202, 202, 98, 28}, .flags = kHidden, .anchors = kFoot},
+      {.id = butMsg, .kind = ControlKind::PrimaryButton, .at = {78, 202, 116, 28}, .anchors = kFoot},
+      {.id = butMsg + 1,
+       .kind = ControlKind::PushButton,
+       .at = {202, 202, 98, 28},
+       .flags = kHidden,
+       .anchors = kFoot},
       {.id = butCancelIt,
-       .kind = Kind::PushKey,
+       .kind = ControlKind::PushButton,
        .at = {308, 202, 98, 28},
        .flags = kHidden,
        .anchors = kFoot},
-      HelpKey(348),
-      CloseKey(380),
+      HelpButton(348),
+      CloseButton(380),
   };
   static constexpr DesignRect kWholeText = {68, 50, 336, 132};
-  static constexpr Place kTwoKeys[] = {{lblMsg, kWholeText},
-                                       {chkDontAsk, {16, 202, 172, 28}},
-                                       {butMsg, {196, 202, 104, 28}},
-                                       {butMsg + 1, {308, 202, 98, 28}},
-                                       {butCancelIt, {}}};
-  // A sentence that asks nothing: its one key stands where the window's edge is lowered for it.
-  static constexpr Place kOneKey[] = {{lblMsg, kWholeText},
-                                      {chkDontAsk, {16, 202, 172, 28}},
-                                      {butMsg, {302, 202, 104, 28}},
-                                      {butMsg + 1, {}},
-                                      {butCancelIt, {}}};
-  // Without the check box its room is the first key's, whose words can be longer.
-  static constexpr Place kWideKey[] = {{lblMsg, kWholeText},
-                                       {chkDontAsk, {}},
-                                       {butMsg, {176, 202, 124, 28}},
-                                       {butMsg + 1, {308, 202, 98, 28}},
-                                       {butCancelIt, {}}};
-  static constexpr Place kWideSecond[] = {{lblMsg, kWholeText},
-                                          {chkDontAsk, {}},
-                                          {butMsg, {118, 202, 140, 28}},
-                                          {butMsg + 1, {266, 202, 140, 28}},
+  static constexpr Bounds kTwoButtons[] = {{lblMsg, kWholeText},
+                                           {chkDontAsk, {16, 202, 172, 28}},
+                                           {butMsg, {196, 202, 104, 28}},
+                                           {butMsg + 1, {308, 202, 98, 28}},
+                                           {butCancelIt, {}}};
+  // A sentence that asks nothing: its one button stands where the window's edge is lowered for it.
+  static constexpr Bounds kOneButton[] = {{lblMsg, kWholeText},
+                                          {chkDontAsk, {16, 202, 172, 28}},
+                                          {butMsg, {302, 202, 104, 28}},
+                                          {butMsg + 1, {}},
                                           {butCancelIt, {}}};
-  static constexpr Layout kLayouts[] = {{.places = kOneKey, .others = Layout::Others::AsDesigned},
-                                        {.places = kWideKey, .others = Layout::Others::AsDesigned},
-                                        {.places = kTwoKeys, .others = Layout::Others::AsDesigned},
+  // Without the check box its room is the first button's, whose words can be longer.
+  static constexpr Bounds kWideButton[] = {{lblMsg, kWholeText},
+                                           {chkDontAsk, {}},
+                                           {butMsg, {176, 202, 124, 28}},
+                                           {butMsg + 1, {308, 202, 98, 28}},
+                                           {butCancelIt, {}}};
+  static constexpr Bounds kWideSecond[] = {{lblMsg, kWholeText},
+                                           {chkDontAsk, {}},
+                                           {butMsg, {118, 202, 140, 28}},
+                                           {butMsg + 1, {266, 202, 140, 28}},
+                                           {butCancelIt, {}}};
+  static constexpr Layout kLayouts[] = {{.places = kOneButton, .others = Layout::Others::AsDesigned},
+                                        {.places = kWideButton, .others = Layout::Others::AsDesigned},
+                                        {.places = kTwoButtons, .others = Layout::Others::AsDesigned},
                                         {.places = kWideSecond, .others = Layout::Others::AsDesigned}};
   static constexpr FormDesign kDesign = {.name = "MsgboxFrm",
                                          .caption = IDS_APP_TITLE,
@@ -102,13 +106,15 @@ void MsgboxFrm::OnLoad() {
   SetText(lblTitle, message_.caption);
   if (message_.isTrouble) {
     SetIcon(picStuff, Icon::Warn);
-    SetInk(picStuff, Ink::Accent);
+    SetTextColor(picStuff, TextColor::Accent);
   }
   if (message_.secondButton.empty()) {
-    UseLayout(kOneKeyLayout);
+    UseLayout(kOneButtonLayout);
   } else if (message_.cancelButton.empty()) {
     const bool longWords = message_.secondButton.size() > kLongWords;
-    UseLayout(!message_.dontAskText.empty() ? kTwoKeyLayout : longWords ? kWideSecondLayout : kWideKeyLayout);
+    UseLayout(!message_.dontAskText.empty() ? kTwoButtonLayout
+              : longWords                   ? kWideSecondLayout
+                                            : kWideButtonLayout);
   }
   SetTextAndGrow(lblMsg, message_.text);
   SetText(butMsg, message_.firstButton);

@@ -20,8 +20,8 @@ constexpr std::array<ColorSetting, 20> kSettings = {{
     {"SellColor2", &B::onAccent, Rgb(0x1E1405), Rgb(0xFFFFFF)},
     {"SellColor3", &B::signal, Rgb(0x66DFC2), Rgb(0x0A7566)},
     {"SellColor4", &B::alert, Rgb(0xFF8672), Rgb(0xB0231B)},
-    {"FacePlateColorButtonEnabled", &B::key, Rgb(0x373D46), Rgb(0xF7F5F0)},
-    {"FacePlateColorButtonNotEnabled", &B::keyOff, Rgb(0x2A2E34), Rgb(0xE6E2DA)},
+    {"FacePlateColorButtonEnabled", &B::button, Rgb(0x373D46), Rgb(0xF7F5F0)},
+    {"FacePlateColorButtonNotEnabled", &B::buttonOff, Rgb(0x2A2E34), Rgb(0xE6E2DA)},
     {"FacePlateColorListBox", &B::glass, Rgb(0x14171A), Rgb(0xFFFDF8)},
     {"FacePlateColorTabAndTextColor", &B::tabText, Rgb(0xFFC56B), Rgb(0xA23405)},
     {"FacePlateColorText", &B::text, Rgb(0xEEF0F2), Rgb(0x1C2126)},
@@ -40,11 +40,11 @@ struct MixRule {
 using F = FaceplateColors;
 
 constexpr std::array<MixRule, 26> kMixes = {{
-    {&F::keyTop, &B::key, nullptr, kWhite, 6},         {&F::keyBottom, &B::key, nullptr, kBlack, 6},
-    {&F::keyHigh, &B::key, nullptr, kWhite, 20},       {&F::keyHover, &B::key, &B::accent, {}, 14},
-    {&F::keyDown, &B::key, nullptr, kBlack, 20},       {&F::keyMuted, &B::muted, &B::text, {}, 45},
-    {&F::keyOn, &B::glass, &B::accent, {}, 15},        {&F::keyOnLow, &B::glass, &B::accent, {}, 26},
-    {&F::textOff, &B::text, &B::keyOff, {}, 45},       {&F::edgeOff, &B::outline, &B::plate, {}, 45},
+    {&F::buttonTop, &B::button, nullptr, kWhite, 6},   {&F::buttonBottom, &B::button, nullptr, kBlack, 6},
+    {&F::buttonHigh, &B::button, nullptr, kWhite, 20}, {&F::buttonHover, &B::button, &B::accent, {}, 14},
+    {&F::buttonDown, &B::button, nullptr, kBlack, 20}, {&F::buttonMuted, &B::muted, &B::text, {}, 45},
+    {&F::buttonOn, &B::glass, &B::accent, {}, 15},     {&F::buttonOnLow, &B::glass, &B::accent, {}, 26},
+    {&F::textOff, &B::text, &B::buttonOff, {}, 45},    {&F::edgeOff, &B::outline, &B::plate, {}, 45},
     {&F::accentTop, &B::accent, nullptr, kWhite, 6},   {&F::accentBottom, &B::accent, nullptr, kBlack, 6},
     {&F::accentHover, &B::accent, nullptr, kWhite, 8}, {&F::accentDown, &B::accent, nullptr, kBlack, 16},
     {&F::rowSelected, &B::glass, &B::accent, {}, 22},  {&F::rowSelectedOff, &B::glass, &B::muted, {}, 20},
@@ -62,8 +62,8 @@ struct SystemRule {
 
 constexpr std::array<SystemRule, 20> kHighContrast = {{
     {&B::plate, SystemColor::ButtonFace},       {&B::plateTop, SystemColor::ButtonFace},
-    {&B::plateBottom, SystemColor::ButtonFace}, {&B::key, SystemColor::ButtonFace},
-    {&B::keyOff, SystemColor::ButtonFace},      {&B::text, SystemColor::ButtonText},
+    {&B::plateBottom, SystemColor::ButtonFace}, {&B::button, SystemColor::ButtonFace},
+    {&B::buttonOff, SystemColor::ButtonFace},   {&B::text, SystemColor::ButtonText},
     {&B::muted, SystemColor::WindowText},       {&B::outline, SystemColor::WindowText},
     {&B::frame, SystemColor::WindowText},       {&B::milled, SystemColor::ButtonFace},
     {&B::groove, SystemColor::WindowText},      {&B::glass, SystemColor::Window},
@@ -100,10 +100,11 @@ FaceplateColors HighContrastColors(const std::function<Color(SystemColor)>& syst
   colors.rowSelected = base.accent;
   colors.rowSelectedText = base.onAccent;
   // A theme promises contrast for its own pairs only, so grounds under text are not mixed.
-  colors.keyTop = colors.keyBottom = colors.keyHover = colors.keyDown = colors.socket = base.key;
-  colors.keyOn = colors.keyOnLow = colors.rowHover = colors.rowSelectedOff = base.glass;
+  colors.buttonTop = colors.buttonBottom = colors.buttonHover = colors.buttonDown = colors.socket =
+      base.button;
+  colors.buttonOn = colors.buttonOnLow = colors.rowHover = colors.rowSelectedOff = base.glass;
   colors.accentTop = colors.accentBottom = colors.accentHover = colors.accentDown = base.accent;
-  colors.keyMuted = base.text;
+  colors.buttonMuted = base.text;
   colors.glassMuted = base.glassText;
   return colors;
 }

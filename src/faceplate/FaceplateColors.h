@@ -14,38 +14,38 @@ namespace sonaro {
 
 // What a faceplate chooses. Every name is the colour's job, never its hue.
 struct BaseColors {
-  Color plate;     // face of the windows behind the keys
+  Color plate;     // face of the windows behind the buttons
   Color plateTop;  // upper end of a window's gradient
   Color plateBottom;
-  Color outline;    // outermost line of windows and edges of keys
+  Color outline;    // outermost line of windows and edges of buttons
   Color milled;     // light line inside the outline
   Color groove;     // dark line of an engraved groove
   Color frame;      // around lists, trees and edits
   Color muted;      // secondary text on plate and glass, icons at rest
   Color zebra;      // every second row of a list
   Color focus;      // keyboard focus line
-  Color accent;     // says "here": active tab, selected row, primary key
+  Color accent;     // says "here": active tab, selected row, primary button
   Color onAccent;   // text and icons on accent
   Color signal;     // says "how much": rating ticks, reliability bars, progress
   Color alert;      // says "not well": unreliable station, error, overdue notice
-  Color key;        // face of an enabled key
-  Color keyOff;     // face of a disabled key
+  Color button;     // face of an enabled button
+  Color buttonOff;  // face of a disabled button
   Color glass;      // ground of lists, trees, edits and readouts
   Color tabText;    // active tab, headings, active toggles
-  Color text;       // on plate and on keys
+  Color text;       // on plate and on buttons
   Color glassText;  // on glass
   friend bool operator==(const BaseColors&, const BaseColors&) = default;
 };
 
 struct FaceplateColors : BaseColors {
-  Color keyTop, keyBottom;  // gradient of a key at rest
-  Color keyHigh;            // light line under a key's upper edge
-  Color keyHover, keyDown;
-  Color keyMuted;  // secondary text on a key
-  Color keyOn;     // face of an active toggle
-  Color keyOnLow;  // lower end of the lit tab's gradient, which begins with glass
-  Color textOff;   // text and icon of a disabled control
-  Color edgeOff;   // edge of a disabled key
+  Color buttonTop, buttonBottom;  // gradient of a button at rest
+  Color buttonHigh;               // light line under a button's upper edge
+  Color buttonHover, buttonDown;
+  Color buttonMuted;  // secondary text on a button
+  Color buttonOn;     // face of an active toggle
+  Color buttonOnLow;  // lower end of the lit tab's gradient, which begins with glass
+  Color textOff;      // text and icon of a disabled control
+  Color edgeOff;      // edge of a disabled button
   Color accentTop, accentBottom, accentHover, accentDown;
   Color rowSelected, rowSelectedOff;  // with and without the keyboard focus in the list
   Color rowSelectedText;              // on rowSelected; glassText except in high contrast
@@ -53,7 +53,7 @@ struct FaceplateColors : BaseColors {
   Color hair;     // hairlines on glass
   Color tickOff;  // unlit ticks and bars
   Color thumb, thumbHover;
-  Color socket;       // floor of an empty group key
+  Color socket;       // floor of an empty group button
   Color milledSoft;   // light line of a groove
   Color milledInner;  // second line inside the window outline
   Color edgeControl;  // edge of check boxes and radio buttons

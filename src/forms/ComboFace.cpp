@@ -3,7 +3,7 @@
 #include <algorithm>
 
 #include "forms/Dpi.h"
-#include "forms/FormParts.h"
+#include "forms/FormImpl.h"
 #include "forms/Guard.h"
 #include "forms/WideText.h"
 
@@ -34,20 +34,20 @@ void PlaceEdit(HWND combo, const Painter& painter) {
   const HWND edit = InfoOf(combo).hwndItem;
   if (!edit || edit == combo) return;
   const RECT room = TextPlace(combo, painter);
-  const int height = static_cast<int>(painter.Measure(L"Xg", Type::Body).cy);
+  const int height = static_cast<int>(painter.Measure(L"Xg", TextStyle::Body).cy);
   const int top = static_cast<int>(room.top + (room.bottom - room.top - height) / 2);
   SetWindowPos(edit, nullptr, room.left, top, room.right - room.left - painter.Px(4), height,
                SWP_NOZORDER | SWP_NOACTIVATE);
   SendMessageW(edit, EM_SETMARGINS, EC_LEFTMARGIN | EC_RIGHTMARGIN, 0);
 }
 
-void PaintFace(const FormParts& parts, const FormItem& item, HDC dc) {
+void PaintFace(const FormImpl& parts, const ControlInstance& item, HDC dc) {
   const Painter& painter = *parts.painter;
   const FaceplateColors& colors = painter.Colors();
   const bool enabled = IsWindowEnabled(item.window) != FALSE;
   RECT box{};
   GetClientRect(item.window, &box);
-  const Color ground = enabled ? colors.glass : colors.keyOff;
+  const Color ground = enabled ? colors.glass : colors.buttonOff;
   painter.CutShape(dc, box, 0, ground, ground, colors.frame);
 
   const int zone = static_cast<int>(box.right) - painter.Px(kDropZone);
@@ -56,11 +56,11 @@ void PaintFace(const FormParts& parts, const FormItem& item, HDC dc) {
   const int icon = painter.Px(12);
   painter.DrawIcon(dc, Icon::Down, zone + painter.Px(6), (static_cast<int>(box.bottom) - icon) / 2, 12,
                    enabled ? colors.glassMuted : colors.textOff);
-  if (item.KindOf() == Kind::Combo) {
+  if (item.KindOf() == ControlKind::Combo) {
     const int row = static_cast<int>(SendMessageW(item.window, CB_GETCURSEL, 0, 0));
     if (row >= 0) {
       painter.Text(dc, TextPlace(item.window, painter), std::wstring_view(ComboRowText(item.window, row)),
-                   Type::Body, enabled ? colors.glassText : colors.textOff);
+                   TextStyle::Body, enabled ? colors.glassText : colors.textOff);
     }
   }
   const HWND focus = GetFocus();
@@ -69,7 +69,7 @@ void PaintFace(const FormParts& parts, const FormItem& item, HDC dc) {
   }
 }
 
-void PaintFrameOfList(const FormParts& parts, HWND list) {
+void PaintFrameOfList(const FormImpl& parts, HWND list) {
   const HDC dc = GetWindowDC(list);
   RECT box{};
   GetWindowRect(list, &box);
@@ -102,7 +102,7 @@ LRESULT CALLBACK ListProcedure(HWND list, UINT message, WPARAM wParam, LPARAM lP
       FitRows(list, reinterpret_cast<HWND>(combo), *reinterpret_cast<WINDOWPOS*>(lParam));
     }
     const LRESULT answer = DefSubclassProc(list, message, wParam, lParam);
-    if (message == WM_NCPAINT) PaintFrameOfList(*reinterpret_cast<FormParts*>(parts), list);
+    if (message == WM_NCPAINT) PaintFrameOfList(*reinterpret_cast<FormImpl*>(parts), list);
     return answer;
   });
 }
@@ -118,7 +118,7 @@ std::wstring ComboRowText(HWND combo, int row) {
   return text;
 }
 
-LRESULT HandleComboMessage(FormParts& parts, const FormItem& item, UINT message, WPARAM wParam,
+LRESULT HandleComboMessage(FormImpl& parts, const ControlInstance& item, UINT message, WPARAM wParam,
                            LPARAM lParam) {
   const HWND combo = item.window;
   if (message == WM_ERASEBKGND) return 1;
@@ -160,14 +160,14 @@ LRESULT HandleComboMessage(FormParts& parts, const FormItem& item, UINT message,
   return answer;
 }
 
-void DressCombo(FormParts& parts, FormItem& item) {
+void AttachCombo(FormImpl& parts, ControlInstance& item) {
   const COMBOBOXINFO info = InfoOf(item.window);
   if (!info.hwndList) return;
   SetWindowSubclass(info.hwndList, ListProcedure, reinterpret_cast<UINT_PTR>(item.window),
                     reinterpret_cast<DWORD_PTR>(&parts));
 }
 
-void SizeCombo(FormParts& parts, FormItem& item) {
+void SizeCombo(FormImpl& parts, ControlInstance& item) {
   const Painter& painter = *parts.painter;
   const int height = item.place.Height();
   SendMessageW(item.window, CB_SETMINVISIBLE, kRowsShown, 0);
@@ -184,7 +184,7 @@ void SizeCombo(FormParts& parts, FormItem& item) {
   PlaceEdit(item.window, painter);
 }
 
-void PaintComboRow(const FormParts& parts, const DRAWITEMSTRUCT& draw) {
+void PaintComboRow(const FormImpl& parts, const DRAWITEMSTRUCT& draw) {
   const Painter& painter = *parts.painter;
   const FaceplateColors& colors = painter.Colors();
   if ((draw.itemState & ODS_COMBOBOXEDIT) != 0) {
@@ -203,7 +203,7 @@ void PaintComboRow(const FormParts& parts, const DRAWITEMSTRUCT& draw) {
   const RECT place = {draw.rcItem.left + painter.Px(kTextInset), draw.rcItem.top,
                       draw.rcItem.right - painter.Px(4), draw.rcItem.bottom};
   painter.Text(buffer.Dc(), place,
-               std::wstring_view(ComboRowText(draw.hwndItem, static_cast<int>(draw.itemID))), Type::Body,
+               std::wstring_view(ComboRowText(draw.hwndItem, static_cast<int>(draw.itemID))), TextStyle::Body,
                selected ? colors.rowSelectedText : colors.glassText);
 }
 

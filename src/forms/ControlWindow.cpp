@@ -1,14 +1,16 @@
 // What every control of a form does besides its class's own work: tell when the pointer is over it, repaint
 // when its state or text changes, paint itself where the class has no owner drawing.
-#include "forms/FormParts.h"
+#include "forms/FormImpl.h"
 #include "forms/Guard.h"
 
 namespace sonaro {
 namespace {
 
-bool IsDrawn(Kind kind) { return IsText(kind) || IsKey(kind) || IsCheck(kind) || kind == Kind::Picture; }
+bool IsDrawn(ControlKind kind) {
+  return IsText(kind) || IsButton(kind) || IsCheck(kind) || kind == ControlKind::Picture;
+}
 
-void TrackPointer(FormItem& item, FormParts& parts) {
+void TrackPointer(ControlInstance& item, FormImpl& parts) {
   if (item.hover) return;
   item.hover = true;
   TRACKMOUSEEVENT track = {sizeof(track), TME_LEAVE, item.window, 0};
@@ -16,7 +18,7 @@ void TrackPointer(FormItem& item, FormParts& parts) {
   parts.RepaintItem(item);
 }
 
-void PaintInWindow(FormParts& parts, const FormItem& item) {
+void PaintInWindow(FormImpl& parts, const ControlInstance& item) {
   PAINTSTRUCT paint{};
   const HDC dc = BeginPaint(item.window, &paint);
   RECT box{};
@@ -26,7 +28,7 @@ void PaintInWindow(FormParts& parts, const FormItem& item) {
 }
 
 // Messages after which a control looks different. Some classes then draw at once and in their own way.
-bool ChangesLook(UINT message) {
+bool ChangesAppearance(UINT message) {
   switch (message) {
     case WM_SETTEXT:
     case WM_ENABLE:
@@ -41,7 +43,7 @@ bool ChangesLook(UINT message) {
   }
 }
 
-void AfterChange(FormParts& parts, const FormItem& item, UINT message) {
+void AfterChange(FormImpl& parts, const ControlInstance& item, UINT message) {
   if (IsDrawn(item.KindOf())) {
     parts.RepaintItem(item);
   } else if (IsEdit(item.KindOf()) && message != WM_SETTEXT) {
@@ -49,21 +51,22 @@ void AfterChange(FormParts& parts, const FormItem& item, UINT message) {
     InvalidateRect(parts.window, &box, FALSE);
   }
   // A label's text is a request from outside when the program did not set it itself.
-  if (message == WM_SETTEXT && item.KindOf() == Kind::Label && !parts.quiet) {
+  if (message == WM_SETTEXT && item.KindOf() == ControlKind::Label && !parts.quiet) {
     parts.Handle({.id = item.Id(), .kind = FormEvent::Kind::Change});
   }
-  if (message == WM_SETTEXT && item.KindOf() == Kind::StateLabel) {
+  if (message == WM_SETTEXT && item.KindOf() == ControlKind::StateLabel) {
     constexpr DWORD kLiveRegionChanged = 0x8019;
     NotifyWinEvent(kLiveRegionChanged, item.window, OBJID_CLIENT, CHILDID_SELF);
   }
 }
 
-LRESULT HandleControlMessage(FormParts& parts, FormItem& item, UINT message, WPARAM wParam, LPARAM lParam) {
+LRESULT HandleControlMessage(FormImpl& parts, ControlInstance& item, UINT message, WPARAM wParam,
+                             LPARAM lParam) {
   const HWND window = item.window;
-  const Kind kind = item.KindOf();
+  const ControlKind kind = item.KindOf();
   switch (message) {
     case WM_MOUSEMOVE:
-      if (IsKey(kind) || IsCheck(kind)) TrackPointer(item, parts);
+      if (IsButton(kind) || IsCheck(kind)) TrackPointer(item, parts);
       break;
     case WM_MOUSELEAVE:
       item.hover = false;
@@ -77,9 +80,9 @@ LRESULT HandleControlMessage(FormParts& parts, FormItem& item, UINT message, WPA
       PaintInWindow(parts, item);
       return 0;
     case BM_SETSTYLE:
-      // The dialog keyboard makes the focused key the default one by giving it another button style, which
+      // The dialog keyboard makes the focused button the default one by giving it another button style, which
       // would end its drawing by us.
-      if (IsKey(kind)) return 0;
+      if (IsButton(kind)) return 0;
       break;
     case WM_CHAR:
       if (wParam == 1 && IsEdit(kind)) {  // Ctrl+A
@@ -96,13 +99,13 @@ LRESULT HandleControlMessage(FormParts& parts, FormItem& item, UINT message, WPA
                          : IsCombo(kind) ? HandleComboMessage(parts, item, message, wParam, lParam)
                                          : CallControl(item, message, wParam, lParam);
   if (item.bar && message == WM_PAINT && parts.window) UpdateLinesBar(parts, item);
-  if (ChangesLook(message) && parts.window) AfterChange(parts, item, message);
+  if (ChangesAppearance(message) && parts.window) AfterChange(parts, item, message);
   return answer;
 }
 
 LRESULT CALLBACK ControlProcedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam) noexcept {
   return Guarded(0, [&]() -> LRESULT {
-    auto& item = *reinterpret_cast<FormItem*>(GetWindowLongPtrW(window, GWLP_USERDATA));
+    auto& item = *reinterpret_cast<ControlInstance*>(GetWindowLongPtrW(window, GWLP_USERDATA));
     if (message == WM_NCDESTROY) return CallWindowProcW(item.original, window, message, wParam, lParam);
     const auto kept = item.parts->shared_from_this();
     return HandleControlMessage(*kept, item, message, wParam, lParam);
@@ -111,13 +114,13 @@ LRESULT CALLBACK ControlProcedure(HWND window, UINT message, WPARAM wParam, LPAR
 
 }  // namespace
 
-LRESULT CallControl(const FormItem& item, UINT message, WPARAM wParam, LPARAM lParam) {
+LRESULT CallControl(const ControlInstance& item, UINT message, WPARAM wParam, LPARAM lParam) {
   return CallWindowProcW(item.original, item.window, message, wParam, lParam);
 }
 
 // Not by SetWindowSubclass: it looks up a property of the window for every message, which on some systems
 // costs more than the message.
-void WatchControl(FormParts& parts, FormItem& item) {
+void WatchControl(FormImpl& parts, ControlInstance& item) {
   item.parts = &parts;
   SetWindowLongPtrW(item.window, GWLP_USERDATA, reinterpret_cast<LONG_PTR>(&item));
   item.original = reinterpret_cast<WNDPROC>(

@@ -5,7 +5,7 @@
 
 #include "forms/ControlIds.h"
 #include "forms/Dpi.h"
-#include "forms/FormParts.h"
+#include "forms/FormImpl.h"
 #include "forms/HighContrast.h"
 #include "forms/MessageLoop.h"
 #include "forms/Painter.h"
@@ -31,7 +31,7 @@ class OtherFormsDisabled {
  private:
   static BOOL CALLBACK Disable(HWND window, LPARAM self) {
     auto& list = *reinterpret_cast<OtherFormsDisabled*>(self);
-    const FormParts* parts = FormPartsOf(window);
+    const FormImpl* parts = FormImplOf(window);
     if (window != list.except_ && parts && !parts->design.besideModal && IsWindowVisible(window) &&
         IsWindowEnabled(window)) {
       list.disabled_.push_back(window);
@@ -43,11 +43,11 @@ class OtherFormsDisabled {
   std::vector<HWND> disabled_;
 };
 
-void GiveFirstFocus(FormParts& parts) {
+void GiveFirstFocus(FormImpl& parts) {
   if (parts.focusGiven) return;
   parts.focusGiven = true;
   parts.UpdateTabStops();
-  const FormItem* item = parts.Find(parts.design.firstFocus);
+  const ControlInstance* item = parts.Find(parts.design.firstFocus);
   if (!item) item = parts.ShownPrimary();
   const HWND control = item ? item->Window() : GetNextDlgTabItem(parts.window, nullptr, FALSE);
   if (control) SendMessageW(parts.window, WM_NEXTDLGCTL, reinterpret_cast<WPARAM>(control), TRUE);
@@ -56,7 +56,7 @@ void GiveFirstFocus(FormParts& parts) {
 }  // namespace
 
 Form::Form(FormContext& context, const FormDesign& design)
-    : parts_(std::make_shared<FormParts>(*this, context, design)) {
+    : parts_(std::make_shared<FormImpl>(*this, context, design)) {
   AddPart(*this);
 }
 
@@ -106,7 +106,7 @@ void Form::Hide() {
 int Form::ShowModal(HWND owner) {
   const auto parts = parts_;  // the form may be gone when the loop ends
   // A window that the user can close meanwhile would take the one that it owns with it.
-  const FormParts* owning = owner ? FormPartsOf(GetAncestor(owner, GA_ROOT)) : nullptr;
+  const FormImpl* owning = owner ? FormImplOf(GetAncestor(owner, GA_ROOT)) : nullptr;
   if (owning && owning->design.besideModal) owner = nullptr;
   const HWND ownerRoot = owner ? GetAncestor(owner, GA_ROOT) : nullptr;
   if (!Create(owner)) return 0;
@@ -165,11 +165,11 @@ void Form::UseLayout(int layout) {
 
 void Form::SetTextAndGrow(int id, std::string_view text) {
   SetText(id, text);
-  const FormItem* item = parts_->Find(id);
-  const DesignRect* at = item ? PlaceIn(parts_->design, parts_->layout, *item->row) : nullptr;
+  const ControlInstance* item = parts_->Find(id);
+  const DesignRect* at = item ? BoundsIn(parts_->design, parts_->layout, *item->row) : nullptr;
   if (!at) return;
   const Painter asDesigned(FaceplateColors{}, 96);
-  const int needed = asDesigned.WrappedHeight(Widen(text), FontTypeOf(*item->row), at->width);
+  const int needed = asDesigned.WrappedHeight(Widen(text), TextStyleOf(*item->row), at->width);
   const DesignSize size = SizeOf(parts_->design, parts_->layout);
   parts_->grown = {size.width, size.height + std::max(0, needed - at->height)};
   if (parts_->window) parts_->ResizeWindow();
@@ -220,14 +220,14 @@ void Form::StopTimer(int id) {
 
 void Form::OnEscape() {
   for (const int id : {butCancelIt, butCloseIt}) {
-    if (const FormItem* item = parts_->Find(id); item && item->shown) return parts_->Press(id);
+    if (const ControlInstance* item = parts_->Find(id); item && item->shown) return parts_->Press(id);
   }
   Close();
 }
 
 void Form::OnCloseRequest() {
   for (const int id : {butCloseIt, butCancelIt}) {
-    if (const FormItem* item = parts_->Find(id); item && item->shown) return parts_->Press(id);
+    if (const ControlInstance* item = parts_->Find(id); item && item->shown) return parts_->Press(id);
   }
   Close();
 }

@@ -24,13 +24,14 @@
 //   // frmGreet_tables.cpp: the order of the rows is the tab order
 //   const FormDesign& frmGreet::Design() {
 //     static constexpr ControlRow kControls[] = {
-//         {.id = lblTitle, .kind = Kind::TitleBar, .text = IDS_GREET_TITLE, .at = {14, 4, 182, 26}},
-//         {.kind = Kind::Label, .text = IDS_GREET_NAME, .at = {14, 48, 90, 28}, .type = Type::BodyStrong},
-//         {.id = txtName, .kind = Kind::Edit, .at = {110, 48, 296, 28}},
-//         {.id = butDays, .kind = Kind::ToggleKey, .text = IDS_MON, .at = {110, 90, 56, 28}},
-//         {.id = butDays + 1, .kind = Kind::ToggleKey, .text = IDS_TUE, .at = {171, 90, 56, 28}},
-//         {.id = butOKIt, .kind = Kind::PrimaryKey, .text = IDS_OK, .at = {214, 201, 92, 30}},
-//         {.id = butCancelIt, .kind = Kind::PushKey, .text = IDS_CANCEL, .at = {314, 201, 92, 30}},
+//         {.id = lblTitle, .kind = ControlKind::TitleBar, .text = IDS_GREET_TITLE, .at = {14, 4, 182, 26}},
+//         {.kind = ControlKind::Label, .text = IDS_GREET_NAME, .at = {14, 48, 90, 28}, .style =
+//         TextStyle::BodyStrong},
+//         {.id = txtName, .kind = ControlKind::Edit, .at = {110, 48, 296, 28}},
+//         {.id = butDays, .kind = ControlKind::ToggleButton, .text = IDS_MON, .at = {110, 90, 56, 28}},
+//         {.id = butDays + 1, .kind = ControlKind::ToggleButton, .text = IDS_TUE, .at = {171, 90, 56, 28}},
+//         {.id = butOKIt, .kind = ControlKind::PrimaryButton, .text = IDS_OK, .at = {214, 201, 92, 30}},
+//         {.id = butCancelIt, .kind = ControlKind::PushButton, .text = IDS_CANCEL, .at = {314, 201, 92, 30}},
 //     };
 //     static constexpr FormDesign kDesign = {.name = "frmGreet", .caption = IDS_GREET_TITLE,
 //         .size = {420, 248}, .outline = "fdf01", .controls = kControls};
@@ -56,8 +57,8 @@
 // A form of many controls gives each of its panes an event table of its own (EventTable.h, AddPart).
 //
 // What every form does by itself: outline, dragging, painting at any dpi, high contrast, Tab and arrow keys,
-// access keys, Enter on the primary key, Esc and Alt+F4 (see OnCloseRequest), F1 on butHelp, tool tips, click
-// sound, the hidden label lblBringUp. A handler may close or destroy its own form.
+// access keys, Enter on the primary button, Esc and Alt+F4 (see OnCloseRequest), F1 on butHelp, tool tips,
+// click sound, the hidden label lblBringUp. A handler may close or destroy its own form.
 #pragma once
 
 #include <windows.h>
@@ -76,7 +77,7 @@ namespace sonaro {
 
 class Faceplate;
 class Form;
-class FormParts;
+class FormImpl;
 class ListView;
 class Painter;
 class ProgressScale;
@@ -90,7 +91,7 @@ struct FormContext {
   const Strings& strings;
   Faceplate& faceplate;  // a form that hears of a high-contrast theme sets it
   const Shape& shape;
-  std::function<void()> clickSound = {};                         // after every key press
+  std::function<void()> clickSound = {};                         // after every press of a button
   std::function<void(const std::string& caption)> bringUp = {};  // lblBringUp's caption was set
 };
 
@@ -128,14 +129,15 @@ class Form : public EventTarget {
   HWND Control(int id) const;
   std::string Text(int id) const;
   void SetText(int id, std::string_view text);
-  // PlayKey: second line, then perhaps a tab and the link's number ("64 kbit/s\t2"). GroupKey: its figure.
+  // PlayButton: second line, then perhaps a tab and the link's number ("64 kbit/s\t2"). GroupButton: its
+  // figure.
   void SetDetail(int id, std::string_view text);
-  // GroupKey: an empty socket can be pressed like a key; its text is what pressing it does, read out, not
-  // drawn.
+  // GroupButton: an empty socket can be pressed like a button; its text is what pressing it does, read out,
+  // not drawn.
   void SetEmptySocket(int id, bool empty);
   bool IsEmptySocket(int id) const;
   void SetIcon(int id, Icon icon);
-  void SetInk(int id, Ink ink);  // a label that reports trouble or success
+  void SetTextColor(int id, TextColor color);  // a label that reports trouble or success
   void SetTip(int id, std::string_view text);
   void Enable(int id, bool enabled = true);
   bool IsEnabled(int id) const;
@@ -151,7 +153,7 @@ class Form : public EventTarget {
   bool IsToggled(int id) const;
   void SetToggleOnly(int first, int count, int index);  // one active in a control array; -1: none
 
-  // Header keys: the one that the list is sorted by. 0: none.
+  // Header buttons: the one that the list is sorted by. 0: none.
   void SetSortMark(int id, SortMark mark);
 
   // Edits.
@@ -212,9 +214,9 @@ class Form : public EventTarget {
   virtual bool OnMessage(UINT message, WPARAM wParam, LPARAM lParam, LRESULT& result);
 
  private:
-  friend class FormParts;
+  friend class FormImpl;
 
-  std::shared_ptr<FormParts> parts_;  // outlives a form that a handler destroys
+  std::shared_ptr<FormImpl> parts_;  // outlives a form that a handler destroys
 };
 
 }  // namespace sonaro

@@ -5,7 +5,7 @@
 
 #include "forms/ControlIds.h"
 #include "forms/Dpi.h"
-#include "forms/FormParts.h"
+#include "forms/FormImpl.h"
 #include "forms/Guard.h"
 #include "forms/ToolTips.h"
 #include "forms/WideText.h"
@@ -21,8 +21,8 @@ struct ControlClass {
 constexpr WORD kNoNumber = 0xFFFF;
 
 DWORD EditStyle(const ControlRow& row) {
-  DWORD style = row.kind == Kind::Edit ? ES_AUTOHSCROLL : ES_MULTILINE | ES_AUTOVSCROLL;
-  if (row.kind == Kind::ReadOnlyText) style |= ES_READONLY;
+  DWORD style = row.kind == ControlKind::Edit ? ES_AUTOHSCROLL : ES_MULTILINE | ES_AUTOVSCROLL;
+  if (row.kind == ControlKind::ReadOnlyText) style |= ES_READONLY;
   if (row.flags & kRightAligned) style |= ES_RIGHT;
   return style;
 }
@@ -31,34 +31,34 @@ ControlClass ClassOf(const ControlRow& row) {
   constexpr DWORD kCombo =
       CBS_OWNERDRAWFIXED | CBS_HASSTRINGS | CBS_NOINTEGRALHEIGHT | WS_VSCROLL | CBS_AUTOHSCROLL;
   switch (row.kind) {
-    case Kind::Label:
-    case Kind::TitleBar:
-    case Kind::StateLabel: {
-      const bool prefix = row.kind == Kind::Label && !(row.flags & kNoPrefix);
+    case ControlKind::Label:
+    case ControlKind::TitleBar:
+    case ControlKind::StateLabel: {
+      const bool prefix = row.kind == ControlKind::Label && !(row.flags & kNoPrefix);
       return {L"STATIC", static_cast<DWORD>(SS_OWNERDRAW) | (prefix ? 0 : SS_NOPREFIX)};
     }
-    case Kind::Picture:
+    case ControlKind::Picture:
       return {L"STATIC", SS_OWNERDRAW | SS_NOPREFIX};
-    // A key that keeps a state is a push-like check box, not an owner-drawn button: only so does the system
-    // tell a screen reader that it is pressed. Its painting goes through NM_CUSTOMDRAW and WM_PAINT.
-    case Kind::ToggleKey:
-    case Kind::RankingKey:
-    case Kind::GroupKey:
-    case Kind::TabKey:
+    // A button that keeps a state is a push-like check box, not an owner-drawn button: only so does the
+    // system tell a screen reader that it is pressed. Its painting goes through NM_CUSTOMDRAW and WM_PAINT.
+    case ControlKind::ToggleButton:
+    case ControlKind::RankingButton:
+    case ControlKind::GroupButton:
+    case ControlKind::TabButton:
       return {L"BUTTON", BS_CHECKBOX | BS_PUSHLIKE};
-    case Kind::CheckBox:
+    case ControlKind::CheckBox:
       return {L"BUTTON", BS_AUTOCHECKBOX};
-    case Kind::RadioButton:
+    case ControlKind::RadioButton:
       return {L"BUTTON", BS_AUTORADIOBUTTON};
-    case Kind::Edit:
-    case Kind::MultiEdit:
-    case Kind::ReadOnlyText:
+    case ControlKind::Edit:
+    case ControlKind::MultiEdit:
+    case ControlKind::ReadOnlyText:
       return {L"EDIT", EditStyle(row)};
-    case Kind::Combo:
+    case ControlKind::Combo:
       return {L"COMBOBOX", CBS_DROPDOWNLIST | kCombo};
-    case Kind::ComboEdit:
+    case ControlKind::ComboEdit:
       return {L"COMBOBOX", CBS_DROPDOWN | kCombo};
-    case Kind::MonthCalendar:
+    case ControlKind::MonthCalendar:
       return {MONTHCAL_CLASSW, MCS_NOTODAY};
     default:
       return {L"BUTTON", BS_OWNERDRAW};
@@ -68,20 +68,21 @@ ControlClass ClassOf(const ControlRow& row) {
 bool TakesTab(const ControlRow& row) {
   if (row.flags & kNoTabStop) return false;
   if (row.flags & kTabStop) return true;
-  return !IsText(row.kind) && row.kind != Kind::Picture && row.kind != Kind::ReadOnlyText &&
-         row.kind != Kind::Rating && row.kind != Kind::Progress;
+  return !IsText(row.kind) && row.kind != ControlKind::Picture && row.kind != ControlKind::ReadOnlyText &&
+         row.kind != ControlKind::Rating && row.kind != ControlKind::Progress;
 }
 
 // Radio buttons and toggles that follow each other are one group for the arrow keys; every other control is a
 // group of its own, so that arrow keys do not wander off.
 bool ContinuesGroup(const ControlRow& row, const ControlRow* before) {
   return before && before->kind == row.kind &&
-         (IsToggle(row.kind) || row.kind == Kind::RadioButton || row.kind == Kind::HeaderKey) &&
+         (IsToggle(row.kind) || row.kind == ControlKind::RadioButton ||
+          row.kind == ControlKind::HeaderButton) &&
          !(row.flags & kGroup);
 }
 
-// An empty dialog of the form's own class: the system then gives it the dialog keyboard, default key and the
-// restoring of the focus. Size and place are set afterwards, in pixels.
+// An empty dialog of the form's own class: the system then gives it the dialog keyboard, default button and
+// the restoring of the focus. Size and place are set afterwards, in pixels.
 struct EmptyDialog {
   DLGTEMPLATE head{};
   std::array<wchar_t, 64> texts{};  // no menu, class name, no caption
@@ -109,7 +110,7 @@ LRESULT CALLBACK BringUpProcedure(HWND label, UINT message, WPARAM wParam, LPARA
     if (message == WM_NCDESTROY) RemoveWindowSubclass(label, BringUpProcedure, id);
     const LRESULT answer = DefSubclassProc(label, message, wParam, lParam);
     if (message == WM_SETTEXT) {
-      const auto kept = reinterpret_cast<FormParts*>(parts)->shared_from_this();
+      const auto kept = reinterpret_cast<FormImpl*>(parts)->shared_from_this();
       if (kept->context.bringUp) kept->context.bringUp(Narrow(TextOfWindow(label)));
     }
     return answer;
@@ -118,7 +119,7 @@ LRESULT CALLBACK BringUpProcedure(HWND label, UINT message, WPARAM wParam, LPARA
 
 }  // namespace
 
-bool FormParts::BuildWindow(HWND owner) {
+bool FormImpl::BuildWindow(HWND owner) {
   const std::wstring name = Widen(design.name);
   RegisterFormClass(name.c_str());
   EmptyDialog empty;
@@ -141,15 +142,15 @@ bool FormParts::BuildWindow(HWND owner) {
   return window != nullptr;
 }
 
-void FormParts::BuildControls() {
+void FormImpl::BuildControls() {
   const ControlRow* before = nullptr;
-  formerItems = std::exchange(items, std::vector<FormItem>());
+  formerItems = std::exchange(items, std::vector<ControlInstance>());
   items.reserve(design.controls.size() + 1);
   for (const ControlRow& row : design.controls) {
-    FormItem& item = items.emplace_back();
+    ControlInstance& item = items.emplace_back();
     item.row = &row;
     item.icon = row.icon;
-    item.ink = row.ink;
+    item.color = row.color;
     item.wanted = (row.flags & kHidden) == 0;
     if (IsDecoration(row.kind)) {
       before = nullptr;
@@ -168,9 +169,9 @@ void FormParts::BuildControls() {
                                     reinterpret_cast<HMENU>(static_cast<UINT_PTR>(number)),
                                     GetModuleHandleW(nullptr), nullptr);
       WatchControl(*this, item);
-      if (IsCombo(row.kind)) DressCombo(*this, item);
-      if (HasLines(row.kind)) DressLines(*this, item);
-      if (row.kind == Kind::StripKey) SetTip(item, Narrow(WithoutAccessKey(text)));
+      if (IsCombo(row.kind)) AttachCombo(*this, item);
+      if (HasLines(row.kind)) AttachLines(*this, item);
+      if (row.kind == ControlKind::StripButton) SetTip(item, Narrow(WithoutAccessKey(text)));
     }
     if (row.flags & kDisabled) EnableWindow(item.Window(), FALSE);
   }
@@ -181,7 +182,7 @@ void FormParts::BuildControls() {
 }
 
 // A label lets the mouse through to the form, which tells the tips itself.
-TTTOOLINFOW FormParts::ToolOf(const FormItem& item) const {
+TTTOOLINFOW FormImpl::ToolOf(const ControlInstance& item) const {
   TTTOOLINFOW tool{};
   tool.cbSize = TTTOOLINFOW_V1_SIZE;
   tool.hwnd = window;
@@ -195,12 +196,12 @@ TTTOOLINFOW FormParts::ToolOf(const FormItem& item) const {
   return tool;
 }
 
-void FormParts::PlaceTip(const FormItem& item) const {
+void FormImpl::PlaceTip(const ControlInstance& item) const {
   TTTOOLINFOW tool = ToolOf(item);
   SendMessageW(tips, TTM_NEWTOOLRECTW, 0, reinterpret_cast<LPARAM>(&tool));
 }
 
-void FormParts::SetTip(FormItem& item, const std::string& text) {
+void FormImpl::SetTip(ControlInstance& item, const std::string& text) {
   if (!tips) tips = MakeTips(window);
   std::wstring wide = Widen(text);
   TTTOOLINFOW tool = ToolOf(item);

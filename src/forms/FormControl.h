@@ -34,7 +34,7 @@ struct FormEvent {
 class FormServices {
  public:
   virtual ~FormServices() = default;
-  virtual const Painter& Look() const = 0;
+  virtual const Painter& Theme() const = 0;
   // Paints what lies behind `control` (plate, glass) into `dc`, whose origin is the control's top-left
   // corner.
   virtual void PaintBackdrop(HDC dc, HWND control) = 0;
@@ -52,8 +52,8 @@ class FormControl {
   // The whole place, frame and scroll bar included, in client pixels of the form.
   virtual void MoveTo(const RECT& place) = 0;
   virtual void SetShown(bool shown) = 0;
-  // Colours, fonts or dpi are new: take them from FormServices::Look and repaint. Called before MoveTo.
-  virtual void LookChanged() = 0;
+  // Colours, fonts or dpi are new: take them from FormServices::Theme and repaint. Called before MoveTo.
+  virtual void ThemeChanged() = 0;
   // A WM_NOTIFY that the control's window sent to the form; true: `result` is the answer.
   virtual bool OnNotify(NMHDR& notice, LRESULT& result) = 0;
 };

@@ -1,18 +1,18 @@
 // The part of Form that speaks about controls by number.
 #include <algorithm>
 
-#include "forms/FormParts.h"
+#include "forms/FormImpl.h"
 #include "forms/WideText.h"
 
 namespace sonaro {
 namespace {
 
-HWND WindowOf(FormParts& parts, int id) {
-  const FormItem* item = parts.Find(id);
+HWND WindowOf(FormImpl& parts, int id) {
+  const ControlInstance* item = parts.Find(id);
   return item ? item->Window() : nullptr;
 }
 
-LRESULT Ask(FormParts& parts, int id, UINT message, WPARAM wParam = 0, LPARAM lParam = 0) {
+LRESULT Ask(FormImpl& parts, int id, UINT message, WPARAM wParam = 0, LPARAM lParam = 0) {
   const HWND window = WindowOf(parts, id);
   return window ? SendMessageW(window, message, wParam, lParam) : 0;
 }
@@ -49,40 +49,40 @@ void Form::SetText(int id, std::string_view text) {
 }
 
 void Form::SetDetail(int id, std::string_view text) {
-  FormItem* item = parts_->Find(id);
+  ControlInstance* item = parts_->Find(id);
   if (!item || item->detail == text) return;
   item->detail = text;
   parts_->RepaintItem(*item);
 }
 
 void Form::SetEmptySocket(int id, bool empty) {
-  FormItem* item = parts_->Find(id);
+  ControlInstance* item = parts_->Find(id);
   if (!item || item->emptySocket == empty) return;
   item->emptySocket = empty;
   parts_->RepaintItem(*item);
 }
 
 bool Form::IsEmptySocket(int id) const {
-  const FormItem* item = parts_->Find(id);
+  const ControlInstance* item = parts_->Find(id);
   return item && item->emptySocket;
 }
 
 void Form::SetIcon(int id, Icon icon) {
-  FormItem* item = parts_->Find(id);
+  ControlInstance* item = parts_->Find(id);
   if (!item || item->icon == icon) return;
   item->icon = icon;
   parts_->RepaintItem(*item);
 }
 
-void Form::SetInk(int id, Ink ink) {
-  FormItem* item = parts_->Find(id);
-  if (!item || item->ink == ink) return;
-  item->ink = ink;
+void Form::SetTextColor(int id, TextColor color) {
+  ControlInstance* item = parts_->Find(id);
+  if (!item || item->color == color) return;
+  item->color = color;
   parts_->RepaintItem(*item);
 }
 
 void Form::SetTip(int id, std::string_view text) {
-  if (FormItem* item = parts_->Find(id)) parts_->SetTip(*item, std::string(text));
+  if (ControlInstance* item = parts_->Find(id)) parts_->SetTip(*item, std::string(text));
 }
 
 void Form::Enable(int id, bool enabled) {
@@ -99,7 +99,7 @@ bool Form::IsEnabled(int id) const {
 }
 
 void Form::ShowControl(int id, bool shown) {
-  FormItem* item = parts_->Find(id);
+  ControlInstance* item = parts_->Find(id);
   if (!item || item->wanted == shown) return;
   item->wanted = shown;
   parts_->ShowOrHide(*item);
@@ -109,7 +109,7 @@ void Form::ShowPane(int pane, bool shown) {
   const auto index = static_cast<std::size_t>(pane);
   if (pane <= 0 || index >= parts_->hiddenPanes.size() || parts_->hiddenPanes[index] == !shown) return;
   parts_->hiddenPanes[index] = !shown;
-  for (FormItem& item : parts_->items) {
+  for (ControlInstance& item : parts_->items) {
     if (item.row->pane == pane) parts_->ShowOrHide(item);
   }
 }
@@ -121,15 +121,15 @@ void Form::Focus(int id) {
 }
 
 int Form::FocusedControl() const {
-  const FormItem* item = parts_->Focused();
+  const ControlInstance* item = parts_->Focused();
   return item ? item->Id() : 0;
 }
 
 void Form::Check(int id, bool checked) {
-  const FormItem* item = parts_->Find(id);
+  const ControlInstance* item = parts_->Find(id);
   if (!item || !item->window) return;
-  if (item->KindOf() == Kind::RadioButton && checked) {
-    for (const FormItem& other : parts_->GroupOf(*item)) {
+  if (item->KindOf() == ControlKind::RadioButton && checked) {
+    for (const ControlInstance& other : parts_->GroupOf(*item)) {
       SendMessageW(other.window, BM_SETCHECK, BST_UNCHECKED, 0);
     }
   }
@@ -141,8 +141,8 @@ bool Form::IsChecked(int id) const { return Ask(*parts_, id, BM_GETCHECK) == BST
 void Form::SetToggle(int id, bool active) {
   if (IsToggled(id) == active) return;
   Ask(*parts_, id, BM_SETCHECK, active ? BST_CHECKED : BST_UNCHECKED);
-  const FormItem* item = parts_->Find(id);
-  if (active && item && item->KindOf() == Kind::TabKey) parts_->MoveNeedle(*item);
+  const ControlInstance* item = parts_->Find(id);
+  if (active && item && item->KindOf() == ControlKind::TabButton) parts_->MoveNeedle(*item);
 }
 
 bool Form::IsToggled(int id) const { return IsChecked(id); }
@@ -152,22 +152,22 @@ void Form::SetToggleOnly(int first, int count, int index) {
 }
 
 void Form::SetSortMark(int id, SortMark mark) {
-  FormItem* item = parts_->Find(id);
+  ControlInstance* item = parts_->Find(id);
   if (!item || item->sort == mark) return;
   item->sort = mark;
   parts_->RepaintItem(*item);
 }
 
 void Form::LimitText(int id, int bytes) {
-  const FormItem* item = parts_->Find(id);
+  const ControlInstance* item = parts_->Find(id);
   const UINT message = item && IsCombo(item->KindOf()) ? static_cast<UINT>(CB_LIMITTEXT) : EM_LIMITTEXT;
   Ask(*parts_, id, message, static_cast<WPARAM>(bytes));
 }
 
 void Form::SelectAllText(int id) {
-  const FormItem* item = parts_->Find(id);
+  const ControlInstance* item = parts_->Find(id);
   if (!item) return;
-  if (item->KindOf() == Kind::ComboEdit) {
+  if (item->KindOf() == ControlKind::ComboEdit) {
     Ask(*parts_, id, CB_SETEDITSEL, 0, MAKELPARAM(0, -1));
   } else if (IsEdit(item->KindOf())) {
     Ask(*parts_, id, EM_SETSEL, 0, -1);
@@ -181,8 +181,8 @@ void Form::AddItem(int id, std::string_view text, int data) {
 
 void Form::ClearItems(int id) {
   const Quietly quietly(parts_->quiet);
-  const FormItem* item = parts_->Find(id);
-  const std::string typed = item && item->KindOf() == Kind::ComboEdit ? Text(id) : std::string();
+  const ControlInstance* item = parts_->Find(id);
+  const std::string typed = item && item->KindOf() == ControlKind::ComboEdit ? Text(id) : std::string();
   Ask(*parts_, id, CB_RESETCONTENT);
   if (!typed.empty()) SetText(id, typed);  // what the user typed is not one of the items
 }
@@ -218,7 +218,7 @@ bool Form::SelectItemData(int id, int data) {
 }
 
 void Form::SetPicture(int id, PicturePainter paint) {
-  FormItem* item = parts_->Find(id);
+  ControlInstance* item = parts_->Find(id);
   if (!item) return;
   item->picture = std::move(paint);
   parts_->RepaintItem(*item);

@@ -1,6 +1,6 @@
-// A window as data: its size, outline, controls, other layouts and keys. Tables of these rows stand in
-// frmXxx_tables.cpp; Form builds the window from them and forms/portable/Arrange places the controls. All
-// measures are pixels of a 96-dpi screen. Nothing here knows the platform.
+// A window as data: its size, outline, controls, other layouts and keyboard shortcuts. Tables of these rows
+// stand in frmXxx_tables.cpp; Form builds the window from them and forms/portable/Arrange places the
+// controls. All measures are pixels of a 96-dpi screen. Nothing here knows the platform.
 #pragma once
 
 #include <span>
@@ -23,21 +23,22 @@ struct DesignRect {
 
 // What a row of a control table becomes. Every kind but Glass and Groove is a real window with the row's
 // number, a direct child of the form, so that GetDlgItem, the keyboard and screen readers find it.
-enum class Kind : unsigned char {
+enum class ControlKind : unsigned char {
   // Texts: static controls that let the mouse through to the form, so that dragging works on them.
   Label,       // one line with an end ellipsis, or wrapped (kWrap); with an icon, that alone, as wide as it
   TitleBar,    // a dialog's title in its nameplate, with the program mark before it; normally lblTitle
   StateLabel,  // as Label, but screen readers are told of every change: status lines, time left
-  // Keys: controls of class Button, drawn by Painter. The text is the accessible name and carries the "&".
-  PushKey,     // icon and text
-  PrimaryKey,  // the one that Enter presses; at most one shown at a time
-  ToggleKey,   // push key that can be active (SetToggle); an array of them is moved through by the arrow keys
-  StripKey,    // icon only; the text becomes the tool tip
-  RankingKey,  // toggle with icon at the left
-  GroupKey,    // toggle "1 Jazz", or an empty socket (Form::SetEmptySocket)
-  PlayKey,     // two lines: text "Play MP3", second line by SetDetail
-  HeaderKey,   // over a list column: SetSortMark shows the active one
-  TabKey,      // one of the dial's tabs (SetToggle); stands on a row of kind Dial
+  // Buttons: controls of class Button, drawn by Painter. The text is the accessible name and carries the "&".
+  PushButton,     // icon and text
+  PrimaryButton,  // the one that Enter presses; at most one shown at a time
+  ToggleButton,  // push button that can be active (SetToggle); an array of them is moved through by the arrow
+                 // keys
+  StripButton,   // icon only; the text becomes the tool tip
+  RankingButton,  // toggle with icon at the left
+  GroupButton,    // toggle "1 Jazz", or an empty socket (Form::SetEmptySocket)
+  PlayButton,     // two lines: text "Play MP3", second line by SetDetail
+  HeaderButton,   // over a list column: SetSortMark shows the active one
+  TabButton,      // one of the dial's tabs (SetToggle); stands on a row of kind Dial
   CheckBox,
   RadioButton,  // one of its group is checked
   // Texts that the user types.
@@ -66,9 +67,9 @@ enum Anchor : unsigned char { kLeft = 1, kTop = 2, kRight = 4, kBottom = 8, kLef
 
 enum ControlFlag : unsigned {
   kNone = 0,
-  kTabStop = 1,    // for the kinds that are not tab stops anyway (ReadOnlyText, StripKey in frmSplash ...)
+  kTabStop = 1,    // for the kinds that are not tab stops anyway (ReadOnlyText, StripButton in frmSplash ...)
   kNoTabStop = 2,  // the opposite
-  // Toggle keys and radio buttons in a run of rows form a group: one of them is the tab stop and the arrow
+  // Toggle buttons and radio buttons in a run of rows form a group: one of them is the tab stop and the arrow
   // keys move among them. kGroup starts another group within such a run.
   kGroup = 4,
   kHidden = 8,     // hidden until ShowControl
@@ -77,15 +78,15 @@ enum ControlFlag : unsigned {
   kRightAligned = 64,
   kCentred = 128,
   kOnGlass = 256,    // the control stands on glass: default colours and corners are those of glass
-  kSecondary = 512,  // PlayKey: not the first link, drawn as a plain key. Label: muted
+  kSecondary = 512,  // PlayButton: not the first link, drawn as a plain button. Label: muted
   kNoPrefix = 1024,  // "&" in the text is an ordinary character (names of stations and groups)
 };
 
-// What a header key says about the order of its list.
+// What a header button says about the order of its list.
 enum class SortMark : unsigned char { None, Up, Down };
 
-// Type sizes of the faceplate's one family; Default follows from the kind.
-enum class Type : unsigned char {
+// Text sizes of the faceplate's one family; Default follows from the kind.
+enum class TextStyle : unsigned char {
   Default,
   Small,          // 11
   SmallStrong,    // 11, semibold
@@ -102,7 +103,7 @@ enum class Type : unsigned char {
 };
 
 // Colours of texts by their job; Default follows from the kind and kOnGlass.
-enum class Ink : unsigned char {
+enum class TextColor : unsigned char {
   Default,
   Text,
   Muted,
@@ -115,11 +116,11 @@ enum class Ink : unsigned char {
   Off
 };
 
-// Words: the number of a text (resources/texts), or a text that is not a dialog word ("...", ":").
-struct Words {
-  constexpr Words() = default;
-  constexpr Words(int stringId) : id(stringId) {}      // NOLINT: rows read better without a conversion
-  constexpr Words(const char* plain) : text(plain) {}  // NOLINT
+// The number of a text (resources/texts), or a text that is not a dialog word ("...", ":").
+struct ControlText {
+  constexpr ControlText() = default;
+  constexpr ControlText(int stringId) : id(stringId) {}      // NOLINT: rows read better without a conversion
+  constexpr ControlText(const char* plain) : text(plain) {}  // NOLINT
   int id = 0;
   const char* text = "";
 };
@@ -129,14 +130,14 @@ struct Words {
 // numbers.
 struct ControlRow {
   int id = 0;  // from ControlIds.h; 0 for decorations and captions that are never addressed
-  Kind kind = Kind::Label;
-  Words text;
+  ControlKind kind = ControlKind::Label;
+  ControlText text;
   DesignRect at;
   Icon icon = Icon::None;
   unsigned flags = kNone;
   unsigned char anchors = kLeftTop;
-  Type type = Type::Default;
-  Ink ink = Ink::Default;
+  TextStyle style = TextStyle::Default;
+  TextColor color = TextColor::Default;
   unsigned char pane = 0;  // 0: always there; else shown and hidden together by Form::ShowPane
   unsigned char cut = 0;   // corner cut of Glass
 };
@@ -144,14 +145,14 @@ struct ControlRow {
 // Another layout of the same controls, such as the compact form of a window. Controls that it does not name
 // are hidden, or stay where they are; a place without a size hides its control. Decorations need a number to
 // be named. Without a size of its own the layout has the size and the outline of the design.
-struct Place {
+struct Bounds {
   int id = 0;
   DesignRect at;
 };
 struct Layout {
   DesignSize size = {};
   const char* outline = "";
-  std::span<const Place> places;
+  std::span<const Bounds> places;
   enum class Others { Hidden, AsDesigned } others = Others::Hidden;
 };
 
@@ -169,7 +170,7 @@ struct KeyRow {
 
 struct FormDesign {
   const char* name = "";  // the window class: "frmScan"
-  Words caption;
+  ControlText caption;
   DesignSize size;
   const char* outline = "";  // key of the window's outline in the point file: "scf72"
   std::span<const ControlRow> controls;
@@ -177,7 +178,7 @@ struct FormDesign {
   int titleGroove = 36;         // y of the groove under the title strip, 0 = none
   std::span<const Layout> layouts = {};  // layout 1, 2 ...; layout 0 is this design itself
   std::span<const KeyRow> keys = {};
-  int firstFocus = 0;        // 0 = the primary key, or the first tab stop
+  int firstFocus = 0;        // 0 = the primary button, or the first tab stop
   bool draggable = true;     // moved by its background and passive labels
   bool besideModal = false;  // takes input while a modal form waits for its answer
 };

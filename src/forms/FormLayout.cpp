@@ -1,11 +1,11 @@
-// Look, size and place of a form and its controls: at creation, when the layout changes, at another dpi.
+// Theme, size and place of a form and its controls: at creation, when the layout changes, at another dpi.
 #include <windows.h>
 
 #include <uxtheme.h>
 
 #include "faceplate/Faceplate.h"
 #include "forms/Dpi.h"
-#include "forms/FormParts.h"
+#include "forms/FormImpl.h"
 #include "forms/WindowShape.h"
 #include "platform/SystemFunction.h"
 
@@ -31,7 +31,7 @@ void ColourCalendar(HWND calendar, const FaceplateColors& colors) {
   MonthCal_SetColor(calendar, MCSC_TRAILINGTEXT, ToColorRef(colors.textOff));
 }
 
-bool IsUsable(const FormItem& item) { return item.shown && IsWindowEnabled(item.window); }
+bool IsUsable(const ControlInstance& item) { return item.shown && IsWindowEnabled(item.window); }
 
 void SetTabStop(HWND control, bool stop) {
   const LONG_PTR style = GetWindowLongPtrW(control, GWL_STYLE);
@@ -41,9 +41,9 @@ void SetTabStop(HWND control, bool stop) {
 
 }  // namespace
 
-DesignSize FormParts::Size() const { return grown.width > 0 ? grown : SizeOf(design, layout); }
+DesignSize FormImpl::Size() const { return grown.width > 0 ? grown : SizeOf(design, layout); }
 
-void FormParts::ChooseDpi(HMONITOR monitor) {
+void FormImpl::ChooseDpi(HMONITOR monitor) {
   MONITORINFO info{};
   info.cbSize = sizeof(info);
   GetMonitorInfoW(monitor, &info);
@@ -51,35 +51,35 @@ void FormParts::ChooseDpi(HMONITOR monitor) {
   MakePainter(FittingDpi(Size(), {room.Width(), room.Height()}, DpiOfMonitor(monitor)));
 }
 
-void FormParts::MakePainter(int dpi) {
+void FormImpl::MakePainter(int dpi) {
   painter = std::make_unique<Painter>(context.faceplate.Colors(), dpi);
   RenewBrush(glassBrush, painter->Colors().glass);
   RenewBrush(plateBrush, painter->Colors().plate);
-  RenewBrush(offBrush, painter->Colors().keyOff);
+  RenewBrush(offBrush, painter->Colors().buttonOff);
 }
 
-void FormParts::UseDpi(int dpi, Fit fit) {
+void FormImpl::UseDpi(int dpi, Fit fit) {
   const PixelRect room = WorkAreaOf(window);
   const int fitting = fit == Fit::Yes ? FittingDpi(Size(), {room.Width(), room.Height()}, dpi) : dpi;
   const auto old = std::move(painter);  // its fonts are in use until the controls have the new ones
   MakePainter(fitting);
   backdrop.Discard();
-  for (FormItem& item : items) {
-    if (item.view) item.view->LookChanged();
+  for (ControlInstance& item : items) {
+    if (item.view) item.view->ThemeChanged();
     if (!item.window) continue;
-    SendMessageW(item.window, WM_SETFONT, reinterpret_cast<WPARAM>(painter->Font(FontTypeOf(*item.row))),
+    SendMessageW(item.window, WM_SETFONT, reinterpret_cast<WPARAM>(painter->Font(TextStyleOf(*item.row))),
                  FALSE);
-    if (IsEdit(item.KindOf()) || item.KindOf() == Kind::ReadOnlyText) {
+    if (IsEdit(item.KindOf()) || item.KindOf() == ControlKind::ReadOnlyText) {
       SendMessageW(item.window, EM_SETMARGINS, EC_LEFTMARGIN | EC_RIGHTMARGIN, 0);
     }
-    if (item.KindOf() == Kind::MonthCalendar) ColourCalendar(item.window, painter->Colors());
+    if (item.KindOf() == ControlKind::MonthCalendar) ColourCalendar(item.window, painter->Colors());
   }
   ResizeWindow();
 }
 
-void FormParts::RenewLook() { UseDpi(painter->Dpi()); }
+void FormImpl::RenewTheme() { UseDpi(painter->Dpi()); }
 
-void FormParts::ResizeWindow() {
+void FormImpl::ResizeWindow() {
   const int dpi = painter->Dpi();
   const PixelSize made = ScaleToDpi(OutlineSizeOf(design, layout), dpi);
   const PixelSize size = ScaleToDpi(Size(), dpi);
@@ -90,13 +90,13 @@ void FormParts::ResizeWindow() {
   PlaceControls();
 }
 
-void FormParts::PlaceControls() {
+void FormImpl::PlaceControls() {
   StopNeedle();
   const int dpi = painter->Dpi();
   const DesignSize made = SizeOf(design, layout);
   const PixelSize client = ScaleToDpi(Size(), dpi);
-  for (FormItem& item : items) {
-    const DesignRect* at = PlaceIn(design, layout, *item.row);
+  for (ControlInstance& item : items) {
+    const DesignRect* at = BoundsIn(design, layout, *item.row);
     if (at) {
       item.place = Arrange(*at, item.row->anchors, made, client, dpi);
       const RECT box = WindowBox(item);
@@ -117,7 +117,7 @@ void FormParts::PlaceControls() {
   RedrawWindow(window, nullptr, nullptr, RDW_INVALIDATE | RDW_ALLCHILDREN);
 }
 
-RECT FormParts::WindowBox(const FormItem& item) const {
+RECT FormImpl::WindowBox(const ControlInstance& item) const {
   RECT box = ToRect(item.place);
   const auto px = [&](int design96) { return painter->Px(design96); };
   if (IsCheck(item.KindOf())) box.left -= px(kMarkMargin);
@@ -125,9 +125,9 @@ RECT FormParts::WindowBox(const FormItem& item) const {
   if (!IsEdit(item.KindOf())) return box;
   box.left += px(8);
   box.right -= px(6);
-  if (item.KindOf() == Kind::Edit) {
+  if (item.KindOf() == ControlKind::Edit) {
     // The font decides: a fixed inset would cut it off at some dpi.
-    const int height = painter->LineHeight(FontTypeOf(*item.row));
+    const int height = painter->LineHeight(TextStyleOf(*item.row));
     box.top += (box.bottom - box.top - height) / 2;
     box.bottom = box.top + height;
   } else {
@@ -137,9 +137,9 @@ RECT FormParts::WindowBox(const FormItem& item) const {
   return box;
 }
 
-void FormParts::ShowOrHide(FormItem& item) {
+void FormImpl::ShowOrHide(ControlInstance& item) {
   const bool wasShown = item.shown;
-  item.shown = item.wanted && !hiddenPanes[item.row->pane] && PlaceIn(design, layout, *item.row) != nullptr;
+  item.shown = item.wanted && !hiddenPanes[item.row->pane] && BoundsIn(design, layout, *item.row) != nullptr;
   if (!item.shown && Focused() == &item) SendMessageW(window, WM_NEXTDLGCTL, 0, FALSE);
   if (item.view) {
     item.view->SetShown(item.shown);
@@ -156,21 +156,21 @@ void FormParts::ShowOrHide(FormItem& item) {
   }
 }
 
-void FormParts::UpdateTabStops() {
+void FormImpl::UpdateTabStops() {
   const HWND focus = GetFocus();
-  const auto rank = [&](const FormItem& item) {
+  const auto rank = [&](const ControlInstance& item) {
     if (focus == item.window) return 2;  // Tab goes on from where the arrow keys have led
     return SendMessageW(item.window, BM_GETCHECK, 0, 0) == BST_CHECKED ? 1 : 0;
   };
   for (std::size_t first = 0; first < items.size();) {
-    const std::span<FormItem> group = GroupOf(items[first]);
+    const std::span<ControlInstance> group = GroupOf(items[first]);
     first += group.size();
     if (group.size() < 2) continue;
-    const FormItem* stop = nullptr;
-    for (const FormItem& item : group) {
+    const ControlInstance* stop = nullptr;
+    for (const ControlInstance& item : group) {
       if (IsUsable(item) && (!stop || rank(item) > rank(*stop))) stop = &item;
     }
-    for (const FormItem& item : group) SetTabStop(item.window, &item == stop);
+    for (const ControlInstance& item : group) SetTabStop(item.window, &item == stop);
   }
 }
 

@@ -1,50 +1,50 @@
-// Painting of a form: the backdrop, texts, glass of the edits, and the entry to the keys' painting.
+// Painting of a form: the backdrop, texts, glass of the edits, and the entry to the buttons' painting.
 #include <algorithm>
 
 #include "forms/Dpi.h"
-#include "forms/FormParts.h"
+#include "forms/FormImpl.h"
 #include "forms/TabDial.h"
 #include "forms/WideText.h"
 
 namespace sonaro {
 namespace {
 
-Color InkColor(const FormItem& item, const FaceplateColors& colors) {
+Color InkColor(const ControlInstance& item, const FaceplateColors& colors) {
   const bool glass = item.Has(kOnGlass);
-  switch (item.ink) {
-    case Ink::Text:
+  switch (item.color) {
+    case TextColor::Text:
       return colors.text;
-    case Ink::Muted:
+    case TextColor::Muted:
       return colors.muted;
-    case Ink::GlassText:
+    case TextColor::GlassText:
       return colors.glassText;
-    case Ink::GlassMuted:
+    case TextColor::GlassMuted:
       return colors.glassMuted;
-    case Ink::TabText:
+    case TextColor::TabText:
       return colors.tabText;
-    case Ink::Accent:
+    case TextColor::Accent:
       return colors.accent;
-    case Ink::Signal:
+    case TextColor::Signal:
       return colors.signal;
-    case Ink::Alert:
+    case TextColor::Alert:
       return colors.alert;
-    case Ink::Off:
+    case TextColor::Off:
       return colors.textOff;
-    case Ink::Default:
+    case TextColor::Default:
       break;
   }
   if (item.Has(kSecondary)) return glass ? colors.glassMuted : colors.muted;
   return glass ? colors.glassText : colors.text;
 }
 
-void PaintText(const FormParts& parts, const FormItem& item, HDC dc, const RECT& box) {
+void PaintText(const FormImpl& parts, const ControlInstance& item, HDC dc, const RECT& box) {
   const FaceplateColors& colors = parts.painter->Colors();
-  const Type type = FontTypeOf(*item.row);
+  const TextStyle style = TextStyleOf(*item.row);
   UINT format = 0;
   if (item.Has(kRightAligned)) format |= DT_RIGHT;
   if (item.Has(kCentred)) format |= DT_CENTER;
   if (item.Has(kWrap)) format |= DT_WORDBREAK;
-  if (item.KindOf() != Kind::Label || item.Has(kNoPrefix)) {
+  if (item.KindOf() != ControlKind::Label || item.Has(kNoPrefix)) {
     format |= DT_NOPREFIX;
   } else if (!parts.showAccessKeys) {
     format |= DT_HIDEPREFIX;
@@ -54,7 +54,7 @@ void PaintText(const FormParts& parts, const FormItem& item, HDC dc, const RECT&
     parts.painter->DrawIcon(dc, item.icon, box.left, box.top, item.row->at.width, color);
     return;
   }
-  parts.painter->Text(dc, box, TextOfWindow(item.window), type, color, format);
+  parts.painter->Text(dc, box, TextOfWindow(item.window), style, color, format);
 }
 
 // Slots of a vent, cut at 45 degrees; the left ones end higher, the right ones start lower, like the
@@ -78,22 +78,22 @@ void PaintSlots(HDC dc, const RECT& box, const Painter& painter) {
   }
 }
 
-void PaintDecoration(HDC dc, const FormItem& item, const Painter& painter) {
+void PaintDecoration(HDC dc, const ControlInstance& item, const Painter& painter) {
   const RECT box = ToRect(item.place);
   switch (item.KindOf()) {
-    case Kind::Glass:
+    case ControlKind::Glass:
       painter.Glass(dc, box, painter.Px(item.row->cut));
       break;
-    case Kind::Dial:
+    case ControlKind::Dial:
       PaintDial(dc, box, painter);
       break;
-    case Kind::Groove:
+    case ControlKind::Groove:
       painter.Groove(dc, box.left, box.top, box.right - box.left);
       break;
-    case Kind::Slots:
+    case ControlKind::Slots:
       PaintSlots(dc, box, painter);
       break;
-    case Kind::Mark:
+    case ControlKind::Mark:
       painter.DrawIcon(dc, Icon::ProgramMark, box.left, box.top, item.row->at.width, painter.Colors().text);
       break;
     default:
@@ -108,7 +108,7 @@ void FrameRegion(HDC dc, HRGN region, Color color, int width) {
 }
 
 // The outline's line and, just inside, the milled one.
-void PaintOutline(HDC dc, const FormParts& parts, const RECT& client) {
+void PaintOutline(HDC dc, const FormImpl& parts, const RECT& client) {
   const int width = parts.painter->Line();
   const HRGN outline = CreateRectRgn(0, 0, 0, 0);
   if (GetWindowRgn(parts.window, outline) == ERROR) SetRectRgn(outline, 0, 0, client.right, client.bottom);
@@ -129,17 +129,17 @@ void PaintOutline(HDC dc, const FormParts& parts, const RECT& client) {
   DeleteObject(outline);
 }
 
-void PaintBackdropContents(HDC dc, const FormParts& parts, const RECT& client) {
+void PaintBackdropContents(HDC dc, const FormImpl& parts, const RECT& client) {
   const Painter& painter = *parts.painter;
   painter.Gradient(dc, client, painter.Colors().plateTop, painter.Colors().plateBottom);
   if (parts.design.titleGroove > 0) {
     painter.Groove(dc, painter.Line(), painter.Px(parts.design.titleGroove),
                    client.right - 2 * painter.Line());
   }
-  for (const FormItem& item : parts.items) {
+  for (const ControlInstance& item : parts.items) {
     if (!item.shown) continue;
     if (IsDecoration(item.KindOf())) PaintDecoration(dc, item, painter);
-    if (item.KindOf() == Kind::TitleBar) {
+    if (item.KindOf() == ControlKind::TitleBar) {
       const int size = 18;
       painter.DrawIcon(dc, Icon::ProgramMark, item.place.left - painter.Px(26), painter.Px(8), size,
                        painter.Colors().text);
@@ -148,13 +148,13 @@ void PaintBackdropContents(HDC dc, const FormParts& parts, const RECT& client) {
   PaintOutline(dc, parts, client);
 }
 
-void PaintEditGlass(HDC dc, const FormItem& item, const Painter& painter) {
+void PaintEditGlass(HDC dc, const ControlInstance& item, const Painter& painter) {
   const RECT box = ToRect(item.place);
   painter.Glass(dc, box);
   if (!IsWindowEnabled(item.window)) {
     RECT inside = box;
     InflateRect(&inside, -painter.Line(), -painter.Line());
-    painter.Fill(dc, inside, painter.Colors().keyOff);
+    painter.Fill(dc, inside, painter.Colors().buttonOff);
   }
   if (GetFocus() == item.window) painter.Frame(dc, box, painter.Colors().focus, painter.FocusLine());
 }
@@ -169,7 +169,7 @@ void Backdrop::Discard() {
   dc_ = nullptr;
 }
 
-HDC Backdrop::Get(const FormParts& parts) {
+HDC Backdrop::Get(const FormImpl& parts) {
   if (dc_) return dc_;
   RECT client{};
   GetClientRect(parts.window, &client);
@@ -182,7 +182,7 @@ HDC Backdrop::Get(const FormParts& parts) {
   return dc_;
 }
 
-void FormParts::PaintBackdrop(HDC dc, HWND control) {
+void FormImpl::PaintBackdrop(HDC dc, HWND control) {
   RECT box{};
   GetClientRect(control, &box);
   POINT corner{};
@@ -190,11 +190,11 @@ void FormParts::PaintBackdrop(HDC dc, HWND control) {
   BitBlt(dc, 0, 0, box.right, box.bottom, backdrop.Get(*this), corner.x, corner.y, SRCCOPY);
 }
 
-void FormParts::PaintWindow(HDC dc, const RECT& dirty) {
+void FormImpl::PaintWindow(HDC dc, const RECT& dirty) {
   const BufferedPaint buffer(dc, dirty);
   BitBlt(buffer.Dc(), dirty.left, dirty.top, dirty.right - dirty.left, dirty.bottom - dirty.top,
          backdrop.Get(*this), dirty.left, dirty.top, SRCCOPY);
-  for (const FormItem& item : items) {
+  for (const ControlInstance& item : items) {
     if (!item.shown) continue;
     if (IsEdit(item.KindOf())) PaintEditGlass(buffer.Dc(), item, *painter);
     if (IsFramedView(item.KindOf())) painter->Glass(buffer.Dc(), ToRect(item.place));
@@ -202,15 +202,15 @@ void FormParts::PaintWindow(HDC dc, const RECT& dirty) {
 }
 
 // How far a tab lies from the left end of the dial that it stands on.
-int FormParts::DialOffset(const FormItem& tab) const {
-  for (const FormItem& item : items) {
-    if (item.KindOf() == Kind::Dial) return static_cast<int>(tab.place.left - item.place.left);
+int FormImpl::DialOffset(const ControlInstance& tab) const {
+  for (const ControlInstance& item : items) {
+    if (item.KindOf() == ControlKind::Dial) return static_cast<int>(tab.place.left - item.place.left);
   }
   return 0;
 }
 
-KeyPicture FormParts::PictureOf(const FormItem& item) const {
-  KeyPicture key;
+ButtonPicture FormImpl::PictureOf(const ControlInstance& item) const {
+  ButtonPicture key;
   key.kind = item.KindOf();
   key.secondary = item.Has(kSecondary);
   key.text = TextOfWindow(item.window);
@@ -226,26 +226,26 @@ KeyPicture FormParts::PictureOf(const FormItem& item) const {
   key.state.active = (IsToggle(item.KindOf()) || IsCheck(item.KindOf())) &&
                      SendMessageW(item.window, BM_GETCHECK, 0, 0) == BST_CHECKED;
   key.state.empty = item.emptySocket;
-  if (key.kind == Kind::TabKey) {
+  if (key.kind == ControlKind::TabButton) {
     key.dialOffset = DialOffset(item);
     key.needle = NeedleOn(item, key.state.active);
   }
   return key;
 }
 
-void FormParts::PaintItem(const FormItem& item, HDC dc, const RECT& box) {
+void FormImpl::PaintItem(const ControlInstance& item, HDC dc, const RECT& box) {
   const BufferedPaint buffer(dc, box);
   PaintBackdrop(buffer.Dc(), item.window);
   if (IsText(item.KindOf())) {
     PaintText(*this, item, buffer.Dc(), box);
-  } else if (item.KindOf() == Kind::Picture) {
+  } else if (item.KindOf() == ControlKind::Picture) {
     if (item.picture) item.picture(buffer.Dc(), box, *painter);
   } else {
-    PaintKey(buffer.Dc(), box, PictureOf(item), *painter);
+    PaintButton(buffer.Dc(), box, PictureOf(item), *painter);
   }
 }
 
-void FormParts::RepaintItem(const FormItem& item) {
+void FormImpl::RepaintItem(const ControlInstance& item) {
   if (window && !IsWindowVisible(window)) {
     if (!item.Window()) backdrop.Discard();
     return;  // everything is painted when the form is shown

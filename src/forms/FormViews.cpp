@@ -1,5 +1,5 @@
 // The controls with a class of their own: which kind is made by which class, and the way to them.
-#include "forms/FormParts.h"
+#include "forms/FormImpl.h"
 #include "forms/ListView.h"
 #include "forms/ProgressScale.h"
 #include "forms/RatingPicture.h"
@@ -7,15 +7,15 @@
 
 namespace sonaro {
 
-std::unique_ptr<FormControl> FormParts::MakeView(const ControlRow& row) {
+std::unique_ptr<FormControl> FormImpl::MakeView(const ControlRow& row) {
   switch (row.kind) {
-    case Kind::ListView:
+    case ControlKind::ListView:
       return std::make_unique<ListView>(window, row.id, *this);
-    case Kind::TreeView:
+    case ControlKind::TreeView:
       return std::make_unique<TreeView>(window, row.id, *this);
-    case Kind::Rating:
+    case ControlKind::Rating:
       return std::make_unique<RatingPicture>(window, row.id, *this, TextOf(row.text));
-    case Kind::Progress:
+    case ControlKind::Progress:
       return std::make_unique<ProgressScale>(window, row.id, *this);
     default:
       return nullptr;

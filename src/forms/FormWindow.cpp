@@ -3,7 +3,7 @@
 
 #include "forms/ControlIds.h"
 #include "forms/Dpi.h"
-#include "forms/FormParts.h"
+#include "forms/FormImpl.h"
 #include "forms/Guard.h"
 #include "forms/HighContrast.h"
 #include "forms/ToolTips.h"
@@ -24,23 +24,23 @@ LRESULT CALLBACK ReaperProcedure(HWND reaper, UINT message, WPARAM wParam, LPARA
   }
   if (message == WM_NCDESTROY) {
     RemoveWindowSubclass(reaper, ReaperProcedure, id);
-    delete reinterpret_cast<std::shared_ptr<FormParts>*>(held);
+    delete reinterpret_cast<std::shared_ptr<FormImpl>*>(held);
   }
   return DefSubclassProc(reaper, message, wParam, lParam);
 }
 
-void FreeLater(std::shared_ptr<FormParts> parts) {
+void FreeLater(std::shared_ptr<FormImpl> parts) {
   const HWND reaper = CreateWindowExW(0, L"STATIC", nullptr, 0, 0, 0, 0, 0, HWND_MESSAGE, nullptr,
                                       GetModuleHandleW(nullptr), nullptr);
   if (!reaper) return;
-  auto held = std::make_unique<std::shared_ptr<FormParts>>(std::move(parts));
+  auto held = std::make_unique<std::shared_ptr<FormImpl>>(std::move(parts));
   SetWindowSubclass(reaper, ReaperProcedure, 1, reinterpret_cast<DWORD_PTR>(held.release()));
   PostMessageW(reaper, kDestroyNow, 0, 0);
 }
 
 }  // namespace
 
-void LetGo(std::shared_ptr<FormParts> parts) {
+void LetGo(std::shared_ptr<FormImpl> parts) {
   if (!parts->form && parts->depth == 0 && parts.use_count() == 1) FreeLater(std::move(parts));
 }
 
@@ -61,15 +61,15 @@ POINT PointOf(LPARAM lParam) {
 
 }  // namespace
 
-FormParts* FormPartsOf(HWND window) {
+FormImpl* FormImplOf(HWND window) {
   if (!window || GetWindowThreadProcessId(window, nullptr) != GetCurrentThreadId()) return nullptr;
   if (GetWindowLongPtrW(window, GWLP_WNDPROC) != reinterpret_cast<LONG_PTR>(&FormProcedure)) return nullptr;
-  return reinterpret_cast<FormParts*>(GetWindowLongPtrW(window, GWLP_USERDATA));
+  return reinterpret_cast<FormImpl*>(GetWindowLongPtrW(window, GWLP_USERDATA));
 }
 
 LRESULT CALLBACK FormProcedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam) noexcept {
   return Guarded(0, [&]() -> LRESULT {
-    auto* known = reinterpret_cast<FormParts*>(GetWindowLongPtrW(window, GWLP_USERDATA));
+    auto* known = reinterpret_cast<FormImpl*>(GetWindowLongPtrW(window, GWLP_USERDATA));
     if (!known) return DefDlgProcW(window, message, wParam, lParam);
 
     auto parts = known->shared_from_this();
@@ -88,7 +88,7 @@ LRESULT CALLBACK FormProcedure(HWND window, UINT message, WPARAM wParam, LPARAM 
   });
 }
 
-LRESULT FormParts::HandleMessage(UINT message, WPARAM wParam, LPARAM lParam) {
+LRESULT FormImpl::HandleMessage(UINT message, WPARAM wParam, LPARAM lParam) {
   const HWND self = window;
   LRESULT answer = 0;
   if (form && form->OnMessage(message, wParam, lParam, answer)) return answer;
@@ -145,7 +145,7 @@ LRESULT FormParts::HandleMessage(UINT message, WPARAM wParam, LPARAM lParam) {
       UpdateTabStops();
       break;
     case DM_GETDEFID: {
-      const FormItem* primary = ShownPrimary();
+      const ControlInstance* primary = ShownPrimary();
       return primary ? MAKELRESULT(primary->Id(), DC_HASDEFID) : 0;
     }
     case WM_DPICHANGED:
@@ -168,7 +168,7 @@ LRESULT FormParts::HandleMessage(UINT message, WPARAM wParam, LPARAM lParam) {
   return DefDlgProcW(self, message, wParam, lParam);
 }
 
-void FormParts::Load() {
+void FormImpl::Load() {
   // Newer systems would scale the controls of a dialog by themselves; the tables are the only hand on them.
   using SetBehaviour = BOOL(WINAPI*)(HWND, int, int);
   const auto setBehaviour = reinterpret_cast<SetBehaviour>(
@@ -181,38 +181,38 @@ void FormParts::Load() {
   UseDpi(painter->Dpi());
   BOOL cues = FALSE;
   SystemParametersInfoW(SPI_GETKEYBOARDCUES, 0, &cues, 0);
-  const FormParts* owner = FormPartsOf(GetWindow(window, GW_OWNER));
+  const FormImpl* owner = FormImplOf(GetWindow(window, GW_OWNER));
   showFocus = cues || (owner && owner->showFocus);
   showAccessKeys = cues || (owner && owner->showAccessKeys);
   form->OnLoad();
 }
 
-void FormParts::ShowCues(bool focus, bool accessKeys) {
+void FormImpl::ShowCues(bool focus, bool accessKeys) {
   if ((showFocus || !focus) && (showAccessKeys || !accessKeys)) return;
   showFocus = showFocus || focus;
   showAccessKeys = showAccessKeys || accessKeys;
-  for (const FormItem& item : items) {
+  for (const ControlInstance& item : items) {
     if (item.window && !IsEdit(item.KindOf())) InvalidateRect(item.window, nullptr, FALSE);
   }
 }
 
-void FormParts::Destroy() {
+void FormImpl::Destroy() {
   if (window) DestroyWindow(window);
 }
 
-void FormParts::DestroySoon() { PostMessageW(window, kDestroyNow, 0, 0); }
+void FormImpl::DestroySoon() { PostMessageW(window, kDestroyNow, 0, 0); }
 
-void FormParts::Forget() {
+void FormImpl::Forget() {
   SetWindowLongPtrW(window, GWLP_USERDATA, 0);
   window = nullptr;
   tips = nullptr;
   needleTab = 0;
   needleAt.reset();
   backdrop.Discard();
-  for (FormItem& item : items) item.window = nullptr;
+  for (ControlInstance& item : items) item.window = nullptr;
 }
 
-LRESULT FormParts::HandleCommand(WPARAM wParam, LPARAM lParam) {
+LRESULT FormImpl::HandleCommand(WPARAM wParam, LPARAM lParam) {
   const int id = LOWORD(wParam);
   const int code = HIWORD(wParam);
   if (lParam == 0) {
@@ -223,9 +223,9 @@ LRESULT FormParts::HandleCommand(WPARAM wParam, LPARAM lParam) {
     }
     return 0;
   }
-  FormItem* item = Find(reinterpret_cast<HWND>(lParam));
+  ControlInstance* item = Find(reinterpret_cast<HWND>(lParam));
   if (!item) return 0;
-  if (IsKey(item->KindOf()) || IsCheck(item->KindOf())) {
+  if (IsButton(item->KindOf()) || IsCheck(item->KindOf())) {
     // A fast second click comes as a double click; it is a click like any other.
     if (code != BN_CLICKED && code != BN_DBLCLK) return 0;
     if (context.clickSound) context.clickSound();
@@ -238,16 +238,16 @@ LRESULT FormParts::HandleCommand(WPARAM wParam, LPARAM lParam) {
   return 0;
 }
 
-void FormParts::EditNotice(FormItem& item, int code) {
+void FormImpl::EditNotice(ControlInstance& item, int code) {
   using Event = FormEvent::Kind;
   if (code == EN_CHANGE && !quiet) Handle({.id = item.Id(), .kind = Event::Change});
 }
 
-void FormParts::ComboNotice(FormItem& item, int code) {
+void FormImpl::ComboNotice(ControlInstance& item, int code) {
   using Event = FormEvent::Kind;
   InvalidateRect(item.window, nullptr, FALSE);
   if (code == CBN_SELCHANGE) {
-    if (item.KindOf() == Kind::ComboEdit) {
+    if (item.KindOf() == ControlKind::ComboEdit) {
       // The system sets the edit field only after this notice; a handler would read the old text.
       const int row = static_cast<int>(SendMessageW(item.window, CB_GETCURSEL, 0, 0));
       SetWindowTextW(item.window, ComboRowText(item.window, row).c_str());
@@ -258,8 +258,8 @@ void FormParts::ComboNotice(FormItem& item, int code) {
   }
 }
 
-LRESULT FormParts::HandleNotice(NMHDR& notice) {
-  FormItem* item = Find(notice.hwndFrom);
+LRESULT FormImpl::HandleNotice(NMHDR& notice) {
+  ControlInstance* item = Find(notice.hwndFrom);
   if (!item) return 0;
   LRESULT answer = 0;
   if (item->view) return item->view->OnNotify(notice, answer) ? answer : 0;
@@ -270,13 +270,13 @@ LRESULT FormParts::HandleNotice(NMHDR& notice) {
     PaintItem(*item, draw.hdc, box);
     return CDRF_SKIPDEFAULT;
   }
-  if (item->KindOf() == Kind::MonthCalendar && notice.code == static_cast<UINT>(MCN_SELCHANGE)) {
+  if (item->KindOf() == ControlKind::MonthCalendar && notice.code == static_cast<UINT>(MCN_SELCHANGE)) {
     Handle({.id = item->Id(), .kind = FormEvent::Kind::SelChange});
   }
   return 0;
 }
 
-LRESULT FormParts::HandleDrawing(UINT message, LPARAM lParam) {
+LRESULT FormImpl::HandleDrawing(UINT message, LPARAM lParam) {
   if (message == WM_PAINT) {
     PAINTSTRUCT paint{};
     const HDC dc = BeginPaint(window, &paint);
@@ -289,7 +289,7 @@ LRESULT FormParts::HandleDrawing(UINT message, LPARAM lParam) {
     return TRUE;
   }
   const auto& draw = *reinterpret_cast<const DRAWITEMSTRUCT*>(lParam);
-  const FormItem* item = Find(draw.hwndItem);
+  const ControlInstance* item = Find(draw.hwndItem);
   if (!item) return FALSE;
   if (draw.CtlType == ODT_COMBOBOX) {
     PaintComboRow(*this, draw);
@@ -299,24 +299,24 @@ LRESULT FormParts::HandleDrawing(UINT message, LPARAM lParam) {
   return TRUE;
 }
 
-LRESULT FormParts::HandleControlColor(UINT message, HDC dc, HWND control) {
+LRESULT FormImpl::HandleControlColor(UINT message, HDC dc, HWND control) {
   const FaceplateColors& colors = painter->Colors();
-  const FormItem* item = Find(control);
+  const ControlInstance* item = Find(control);
   const bool enabled = IsWindowEnabled(control) != FALSE;
-  const bool onPlate = item && item->KindOf() == Kind::ReadOnlyText && !item->Has(kOnGlass);
+  const bool onPlate = item && item->KindOf() == ControlKind::ReadOnlyText && !item->Has(kOnGlass);
   SetTextColor(dc, ToColorRef(!enabled ? colors.textOff : onPlate ? colors.text : colors.glassText));
   if (onPlate) {
     SetBkColor(dc, ToColorRef(colors.plate));
     return reinterpret_cast<LRESULT>(plateBrush);
   }
   const bool off = !enabled && message != WM_CTLCOLORLISTBOX;
-  SetBkColor(dc, ToColorRef(off ? colors.keyOff : colors.glass));
+  SetBkColor(dc, ToColorRef(off ? colors.buttonOff : colors.glass));
   return reinterpret_cast<LRESULT>(off ? offBrush : glassBrush);
 }
 
-LRESULT FormParts::HandlePointer(UINT message, LPARAM lParam) {
+LRESULT FormImpl::HandlePointer(UINT message, LPARAM lParam) {
   const POINT at = PointOf(lParam);
-  for (const FormItem& item : items) {
+  for (const ControlInstance& item : items) {
     const RECT glass = ToRect(item.place);
     if (!IsEdit(item.KindOf()) || !item.shown || !PtInRect(&glass, at)) continue;
     if (message == WM_LBUTTONDOWN && IsWindowEnabled(item.window)) SetFocus(item.window);
@@ -327,7 +327,7 @@ LRESULT FormParts::HandlePointer(UINT message, LPARAM lParam) {
 }
 
 // The loop lets messages in: another button that goes down meanwhile must not begin a second one inside it.
-void FormParts::Drag() {
+void FormImpl::Drag() {
   if (moving) return;
   RECT before{};
   GetWindowRect(window, &before);
@@ -340,8 +340,8 @@ void FormParts::Drag() {
   if (form && !EqualRect(&before, &after)) form->OnMoved();
 }
 
-LRESULT FormParts::HandleContextMenu(HWND control, LPARAM lParam) {
-  const FormItem* item = Find(control);
+LRESULT FormImpl::HandleContextMenu(HWND control, LPARAM lParam) {
+  const ControlInstance* item = Find(control);
   if (!item || item->view) return 0;
   POINT at = PointOf(lParam);
   if (lParam == -1) {  // by the keyboard
@@ -353,7 +353,7 @@ LRESULT FormParts::HandleContextMenu(HWND control, LPARAM lParam) {
   return 0;
 }
 
-LRESULT FormParts::HandleSurroundings(UINT message, WPARAM wParam, LPARAM lParam) {
+LRESULT FormImpl::HandleSurroundings(UINT message, WPARAM wParam, LPARAM lParam) {
   if (message == WM_DPICHANGED) {
     const RECT& suggested = *reinterpret_cast<const RECT*>(lParam);
     SetWindowPos(window, nullptr, suggested.left, suggested.top, 0, 0,
@@ -369,7 +369,7 @@ LRESULT FormParts::HandleSurroundings(UINT message, WPARAM wParam, LPARAM lParam
   }
   if (message != WM_SETTINGCHANGE || wParam == SPI_SETHIGHCONTRAST) {
     FollowHighContrast(context.faceplate);
-    RenewLook();
+    RenewTheme();
   }
   return DefDlgProcW(window, message, wParam, lParam);
 }

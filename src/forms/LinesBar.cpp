@@ -3,7 +3,7 @@
 #include <algorithm>
 
 #include "forms/Dpi.h"
-#include "forms/FormParts.h"
+#include "forms/FormImpl.h"
 
 namespace sonaro {
 namespace {
@@ -12,14 +12,14 @@ int FirstLine(HWND edit) { return static_cast<int>(SendMessageW(edit, EM_GETFIRS
 
 }  // namespace
 
-void DressLines(FormParts& parts, FormItem& item) {
+void AttachLines(FormImpl& parts, ControlInstance& item) {
   const HWND edit = item.window;
   item.bar = std::make_unique<ScrollBar>(parts.window, parts, [edit](int first) {
     SendMessageW(edit, EM_LINESCROLL, 0, first - FirstLine(edit));
   });
 }
 
-void PlaceLinesBar(const FormParts& parts, FormItem& item) {
+void PlaceLinesBar(const FormImpl& parts, ControlInstance& item) {
   RECT box = ToRect(item.place);
   if (IsEdit(item.KindOf())) InflateRect(&box, -parts.painter->Line(), -parts.painter->Line());
   box.left = box.right - parts.painter->Px(ScrollBar::kDesignWidth);
@@ -27,10 +27,10 @@ void PlaceLinesBar(const FormParts& parts, FormItem& item) {
   UpdateLinesBar(parts, item);
 }
 
-void UpdateLinesBar(const FormParts& parts, FormItem& item) {
+void UpdateLinesBar(const FormImpl& parts, ControlInstance& item) {
   RECT text{};
   SendMessageW(item.window, EM_GETRECT, 0, reinterpret_cast<LPARAM>(&text));
-  const int line = std::max(1, parts.painter->LineHeight(FontTypeOf(*item.row)));
+  const int line = std::max(1, parts.painter->LineHeight(TextStyleOf(*item.row)));
   item.bar->SetRange({static_cast<int>(SendMessageW(item.window, EM_GETLINECOUNT, 0, 0)),
                       static_cast<int>(text.bottom - text.top) / line, FirstLine(item.window)});
 }

@@ -73,7 +73,7 @@ void ListView::SetRowHeight(int design) {
 
 // A report list takes its row height from its small image list.
 void ListView::UseRowHeight() {
-  HIMAGELIST fresh = ImageList_Create(1, std::max(1, services_.Look().Px(designRow_) - 1), ILC_COLOR, 1, 1);
+  HIMAGELIST fresh = ImageList_Create(1, std::max(1, services_.Theme().Px(designRow_) - 1), ILC_COLOR, 1, 1);
   ListView_SetImageList(list_, fresh, LVSIL_SMALL);
   if (rowHeight_ != nullptr) ImageList_Destroy(rowHeight_);
   rowHeight_ = fresh;
@@ -153,7 +153,7 @@ RECT ListView::ItemBox(int row) const {
 }
 
 void ListView::MoveTo(const RECT& place) {
-  const int line = services_.Look().Line();
+  const int line = services_.Theme().Line();
   const RECT inner = {place.left + line, place.top + line, place.right - line, place.bottom - line};
   width_ = inner.right - inner.left;
   const int height = inner.bottom - inner.top;
@@ -161,7 +161,7 @@ void ListView::MoveTo(const RECT& place) {
   const int native = GetSystemMetrics(SM_CXVSCROLL);
   SetWindowPos(list_, nullptr, inner.left, inner.top, width_ + native, height, SWP_NOZORDER | SWP_NOACTIVATE);
   SetWindowRgn(list_, CreateRectRgn(0, 0, width_, height), TRUE);
-  const int barWidth = services_.Look().Px(ScrollBar::kDesignWidth);
+  const int barWidth = services_.Theme().Px(ScrollBar::kDesignWidth);
   bar_.MoveTo({inner.right - barWidth, inner.top, inner.right, inner.bottom});
   PlaceColumns();
   SyncScrollBar();
@@ -172,7 +172,7 @@ void ListView::SetShown(bool shown) {
   bar_.SetShown(shown);
 }
 
-void ListView::LookChanged() {
+void ListView::ThemeChanged() {
   UseRowHeight();
   PlaceColumns();
   InvalidateRect(list_, nullptr, TRUE);
@@ -181,13 +181,13 @@ void ListView::LookChanged() {
 
 void ListView::PlaceColumns() {
   edges_.clear();
-  const int bar = bar_.IsNeeded() ? services_.Look().Px(ScrollBar::kDesignWidth) : 0;
+  const int bar = bar_.IsNeeded() ? services_.Theme().Px(ScrollBar::kDesignWidth) : 0;
   int design = 0;
   int left = 0;
   for (std::size_t i = 0; i < columns_.size(); ++i) {
     design += columns_[i].width;
     const bool last = i + 1 == columns_.size();
-    const int right = last ? std::max(left, width_ - bar) : services_.Look().Px(design);
+    const int right = last ? std::max(left, width_ - bar) : services_.Theme().Px(design);
     ListView_SetColumnWidth(list_, static_cast<int>(i), right - left);
     edges_.push_back(right);
     left = right;
@@ -226,7 +226,7 @@ LRESULT ListView::Handle(UINT message, WPARAM wParam, LPARAM lParam) {
       PaintBelowRows(reinterpret_cast<HDC>(wParam));
       return 1;
     case WM_GETDLGCODE: {
-      // Enter acts on the row; without this the dialog keyboard would press the primary key.
+      // Enter acts on the row; without this the dialog keyboard would press the primary button.
       const auto* key = reinterpret_cast<const MSG*>(lParam);
       const bool enter =
           key != nullptr && key->message == WM_KEYDOWN && key->wParam == VK_RETURN && Selected() >= 0;
@@ -316,8 +316,8 @@ void ListView::SetHover(int row) {
 void ListView::ShowContextMenu(POINT screen) {
   int row = Selected();
   if (screen.x == -1 && screen.y == -1) {  // by keyboard: at the selected row
-    const RECT box = row >= 0 ? ItemBox(row) : RECT{0, 0, 0, services_.Look().Px(designRow_)};
-    screen = {box.left + services_.Look().Px(28), box.bottom};
+    const RECT box = row >= 0 ? ItemBox(row) : RECT{0, 0, 0, services_.Theme().Px(designRow_)};
+    screen = {box.left + services_.Theme().Px(28), box.bottom};
     ClientToScreen(list_, &screen);
   } else {
     row = RowAt(screen);
@@ -332,7 +332,7 @@ bool ListView::OnNotify(NMHDR& notice, LRESULT& result) {
       result = CustomDraw(reinterpret_cast<const NMLVCUSTOMDRAW&>(notice));
       return true;
     case LVN_GETDISPINFOW:
-      GiveText(reinterpret_cast<NMLVDISPINFOW&>(notice));
+      OnGetDispInfo(reinterpret_cast<NMLVDISPINFOW&>(notice));
       return true;
     case LVN_ODFINDITEMW:
       result = FindTyped(reinterpret_cast<const NMLVFINDITEMW&>(notice));
@@ -362,7 +362,7 @@ bool ListView::OnNotify(NMHDR& notice, LRESULT& result) {
   }
 }
 
-void ListView::GiveText(NMLVDISPINFOW& info) const {
+void ListView::OnGetDispInfo(NMLVDISPINFOW& info) const {
   if ((info.item.mask & LVIF_TEXT) == 0 || info.item.pszText == nullptr || info.item.cchTextMax <= 0) return;
   std::wstring text;
   if (model_ != nullptr && info.item.iItem < model_->RowCount()) {

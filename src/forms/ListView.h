@@ -1,6 +1,6 @@
 // A report list drawn in the faceplate's way: the system's list view in owner-data mode, so that 40,000 rows
 // are there at once and screen readers read every cell, with its own painting and scroll bar. Rows live in a
-// ListModel; header keys stand over it and belong to the form. Made by Form for rows of kind ListView.
+// ListModel; header buttons stand over it and belong to the form. Made by Form for rows of kind ListView.
 #pragma once
 
 #include <windows.h>
@@ -68,7 +68,7 @@ class ListView final : public FormControl {
   HWND Window() const override { return list_; }
   void MoveTo(const RECT& place) override;
   void SetShown(bool shown) override;
-  void LookChanged() override;
+  void ThemeChanged() override;
   bool OnNotify(NMHDR& notice, LRESULT& result) override;
 
  private:
@@ -94,7 +94,7 @@ class ListView final : public FormControl {
   void PaintColumnLines(HDC dc, int top, int bottom) const;
   void PaintCells(HDC dc, int row, const RECT& box, bool selected, bool focused) const;
   LRESULT CustomDraw(const NMLVCUSTOMDRAW& draw) const;
-  void GiveText(NMLVDISPINFOW& info) const;
+  void OnGetDispInfo(NMLVDISPINFOW& info) const;
   LRESULT FindTyped(const NMLVFINDITEMW& find) const;
   void ShowContextMenu(POINT screen);
   RECT ItemBox(int row) const;

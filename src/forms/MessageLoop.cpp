@@ -1,7 +1,7 @@
 #include "forms/MessageLoop.h"
 
 #include "forms/ControlIds.h"
-#include "forms/FormParts.h"
+#include "forms/FormImpl.h"
 #include "forms/Guard.h"
 
 namespace sonaro {
@@ -18,7 +18,7 @@ unsigned ModifiersDown() {
 
 bool IsInRun(int number, int first, int count) { return number >= first && number < first + count; }
 
-bool RunKeyTable(FormParts& parts, int key, int focusedId) {
+bool RunKeyTable(FormImpl& parts, int key, int focusedId) {
   for (const KeyRow& row : parts.design.keys) {
     if (!IsInRun(key, row.key, row.keys) || row.modifiers != ModifiersDown()) continue;
     if (row.onlyIn != 0 && !IsInRun(focusedId, row.onlyIn, row.controls)) continue;
@@ -32,8 +32,8 @@ bool RunKeyTable(FormParts& parts, int key, int focusedId) {
   return false;
 }
 
-// Enter: what waits for it in the focused control, the focused key, else the primary key.
-bool RunEnter(FormParts& parts, FormItem* focused, MSG& message) {
+// Enter: what waits for it in the focused control, the focused button, else the primary button.
+bool RunEnter(FormImpl& parts, ControlInstance* focused, MSG& message) {
   if (focused) {
     const int id = focused->Id();
     if (parts.IsBound(id, FormEvent::Kind::EnterPressed)) {
@@ -42,24 +42,24 @@ bool RunEnter(FormParts& parts, FormItem* focused, MSG& message) {
     }
     const bool actsItself = parts.IsBound(id, FormEvent::Kind::ItemActivated) ||
                             parts.IsBound(id, FormEvent::Kind::NodeClick) ||
-                            (focused->KindOf() == Kind::MultiEdit && ModifiersDown() == kCtrl);
+                            (focused->KindOf() == ControlKind::MultiEdit && ModifiersDown() == kCtrl);
     if (actsItself) {
       TranslateMessage(&message);
       DispatchMessageW(&message);
       return true;
     }
-    if (IsKey(focused->KindOf())) {
+    if (IsButton(focused->KindOf())) {
       parts.Press(id);
       return true;
     }
   }
   if (ModifiersDown() != kPlain) return false;
-  if (const FormItem* primary = parts.ShownPrimary()) parts.Press(primary->Id());
+  if (const ControlInstance* primary = parts.ShownPrimary()) parts.Press(primary->Id());
   return true;
 }
 
 // Keys that move the focus, and Alt, show that the user works with the keyboard.
-void NoteKeyboardUse(FormParts& parts, const MSG& message) {
+void NoteKeyboardUse(FormImpl& parts, const MSG& message) {
   const WPARAM key = message.wParam;
   if (message.message == WM_SYSKEYDOWN) {
     parts.ShowCues(true, true);
@@ -70,7 +70,7 @@ void NoteKeyboardUse(FormParts& parts, const MSG& message) {
 }
 
 // Alt with an arrow key opens and closes a list; not every system does it for drawn combos.
-bool OpensList(const FormItem* focused, const MSG& message) {
+bool OpensList(const ControlInstance* focused, const MSG& message) {
   if (!focused || !IsCombo(focused->KindOf()) || message.message != WM_SYSKEYDOWN) return false;
   if ((message.wParam != VK_DOWN && message.wParam != VK_UP) || ModifiersDown() != kAlt) return false;
   const LRESULT open = SendMessageW(focused->window, CB_GETDROPPEDSTATE, 0, 0);
@@ -78,9 +78,9 @@ bool OpensList(const FormItem* focused, const MSG& message) {
   return true;
 }
 
-bool RunKey(FormParts& parts, MSG& message) {
+bool RunKey(FormImpl& parts, MSG& message) {
   NoteKeyboardUse(parts, message);
-  FormItem* focused = parts.Focused();
+  ControlInstance* focused = parts.Focused();
   const int key = static_cast<int>(message.wParam);
   const bool listOpen =
       focused && IsCombo(focused->KindOf()) && SendMessageW(focused->window, CB_GETDROPPEDSTATE, 0, 0) != 0;
@@ -105,14 +105,14 @@ bool SendWheelToPointer(HWND form, MSG& message) {
 }
 
 BOOL CALLBACK FindModal(HWND window, LPARAM found) {
-  const FormParts* parts = FormPartsOf(window);
+  const FormImpl* parts = FormImplOf(window);
   if (!parts || !parts->modal || !IsWindowEnabled(window)) return TRUE;
   *reinterpret_cast<HWND*>(found) = window;
   return FALSE;
 }
 
 BOOL CALLBACK RefreshForm(HWND window, LPARAM) {
-  if (FormParts* parts = FormPartsOf(window)) parts->RenewLook();
+  if (FormImpl* parts = FormImplOf(window)) parts->RenewTheme();
   return TRUE;
 }
 
@@ -120,7 +120,7 @@ BOOL CALLBACK RefreshForm(HWND window, LPARAM) {
 
 bool TranslateFormMessage(MSG& message) {
   const HWND root = message.hwnd ? GetAncestor(message.hwnd, GA_ROOT) : nullptr;
-  FormParts* found = FormPartsOf(root);
+  FormImpl* found = FormImplOf(root);
   if (!found) return false;
   const LRESULT dealtWith = Guarded(TRUE, [&]() -> LRESULT {
     const auto parts = found->shared_from_this();

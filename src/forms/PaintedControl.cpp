@@ -23,7 +23,7 @@ PaintedControl::~PaintedControl() {
 }
 
 void PaintedControl::MoveTo(const RECT& place) {
-  const int overhang = Look().Px(overhang_);
+  const int overhang = Theme().Px(overhang_);
   SetWindowPos(window_, nullptr, place.left - overhang, place.top, place.right - place.left + 2 * overhang,
                place.bottom - place.top, SWP_NOZORDER | SWP_NOACTIVATE);
 }

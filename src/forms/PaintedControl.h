@@ -17,7 +17,7 @@ class PaintedControl : public FormControl {
   HWND Window() const override { return window_; }
   void MoveTo(const RECT& place) override;
   void SetShown(bool shown) override { ShowWindow(window_, shown ? SW_SHOWNA : SW_HIDE); }
-  void LookChanged() override { Repaint(); }
+  void ThemeChanged() override { Repaint(); }
   bool OnNotify(NMHDR&, LRESULT&) override { return false; }
 
  protected:
@@ -32,7 +32,7 @@ class PaintedControl : public FormControl {
   // `box`: the window's client area, its overhang included.
   virtual void PaintOn(HDC dc, const RECT& box) const = 0;
   void Repaint() { InvalidateRect(window_, nullptr, FALSE); }
-  const Painter& Look() const { return services_.Look(); }
+  const Painter& Theme() const { return services_.Theme(); }
 
  private:
   static LRESULT CALLBACK Procedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam, UINT_PTR id,

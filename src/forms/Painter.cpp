@@ -8,24 +8,24 @@
 namespace sonaro {
 namespace {
 
-struct TypeSpec {
+struct StyleSpec {
   int size;  // 96-dpi pixels
   bool strong;
 };
 
-constexpr std::array<TypeSpec, 13> kTypes = {{{12, false},
-                                              {11, false},
-                                              {11, true},
-                                              {12, false},
-                                              {12, true},
-                                              {13, false},
-                                              {13, true},
-                                              {14, true},
-                                              {18, true},
-                                              {19, true},
-                                              {20, true},
-                                              {34, true},
-                                              {46, true}}};
+constexpr std::array<StyleSpec, 13> kStyles = {{{12, false},
+                                                {11, false},
+                                                {11, true},
+                                                {12, false},
+                                                {12, true},
+                                                {13, false},
+                                                {13, true},
+                                                {14, true},
+                                                {18, true},
+                                                {19, true},
+                                                {20, true},
+                                                {34, true},
+                                                {46, true}}};
 
 int CALLBACK NoteFont(const LOGFONTW*, const TEXTMETRICW*, DWORD, LPARAM found) {
   *reinterpret_cast<bool*>(found) = true;
@@ -97,10 +97,10 @@ Painter::~Painter() {
   }
 }
 
-HFONT Painter::Font(Type type) const {
-  HFONT& font = fonts_[static_cast<std::size_t>(type)];
+HFONT Painter::Font(TextStyle style) const {
+  HFONT& font = fonts_[static_cast<std::size_t>(style)];
   if (!font) {
-    const TypeSpec& spec = kTypes[static_cast<std::size_t>(type)];
+    const StyleSpec& spec = kStyles[static_cast<std::size_t>(style)];
     std::optional<LOGFONTW>& face = faces_[spec.strong ? 1 : 0];
     if (!face) face = FaceFor(spec.strong);
     LOGFONTW description = *face;
@@ -133,16 +133,16 @@ void Painter::Frame(HDC dc, const RECT& box, Color color, int width) const {
   CutFrame(dc, box, 0, color, width);
 }
 
-void Painter::Text(HDC dc, const RECT& box, std::string_view text, Type type, Color color,
+void Painter::Text(HDC dc, const RECT& box, std::string_view text, TextStyle style, Color color,
                    UINT format) const {
-  Text(dc, box, std::wstring_view(Widen(text)), type, color, format);
+  Text(dc, box, std::wstring_view(Widen(text)), style, color, format);
 }
 
-void Painter::Text(HDC dc, const RECT& box, std::wstring_view text, Type type, Color color,
+void Painter::Text(HDC dc, const RECT& box, std::wstring_view text, TextStyle style, Color color,
                    UINT format) const {
   const UINT layout = (format & DT_WORDBREAK) != 0 ? DT_EDITCONTROL | DT_END_ELLIPSIS
                                                    : DT_SINGLELINE | DT_VCENTER | DT_END_ELLIPSIS;
-  const HGDIOBJ before = SelectObject(dc, Font(type));
+  const HGDIOBJ before = SelectObject(dc, Font(style));
   SetBkMode(dc, TRANSPARENT);
   SetTextColor(dc, ToColorRef(color));
   RECT place = box;
@@ -155,22 +155,22 @@ void Painter::Text(HDC dc, const RECT& box, std::wstring_view text, Type type, C
   SelectObject(dc, before);
 }
 
-SIZE Painter::Measure(std::wstring_view text, Type type, UINT format) const {
+SIZE Painter::Measure(std::wstring_view text, TextStyle style, UINT format) const {
   RECT place{};
-  MeasureIn(place, text, type, format | DT_SINGLELINE);
+  MeasureIn(place, text, style, format | DT_SINGLELINE);
   return {place.right - place.left, place.bottom - place.top};
 }
 
-int Painter::WrappedHeight(std::wstring_view text, Type type, int width) const {
+int Painter::WrappedHeight(std::wstring_view text, TextStyle style, int width) const {
   RECT place = {0, 0, width, 0};
-  MeasureIn(place, text, type, DT_NOPREFIX | DT_WORDBREAK | DT_EDITCONTROL);
+  MeasureIn(place, text, style, DT_NOPREFIX | DT_WORDBREAK | DT_EDITCONTROL);
   return place.bottom;
 }
 
-int Painter::LineHeight(Type type) const { return static_cast<int>(Measure(L"Xg", type).cy); }
+int Painter::LineHeight(TextStyle style) const { return static_cast<int>(Measure(L"Xg", style).cy); }
 
-void Painter::MeasureIn(RECT& place, std::wstring_view text, Type type, UINT format) const {
-  SelectObject(measuring_, Font(type));
+void Painter::MeasureIn(RECT& place, std::wstring_view text, TextStyle style, UINT format) const {
+  SelectObject(measuring_, Font(style));
   DrawTextW(measuring_, text.data(), static_cast<int>(text.size()), &place, format | DT_CALCRECT);
 }
 

@@ -1,5 +1,5 @@
-// Draws the faceplate's parts for one window at its dpi: type, lines, keys' shapes, glass, icons. Owned by
-// Form, which makes a new one when dpi or colours change; controls reach it through FormServices::Look.
+// Draws the faceplate's parts for one window at its dpi: type, lines, buttons' shapes, glass, icons. Owned by
+// Form, which makes a new one when dpi or colours change; controls reach it through FormServices::Theme.
 // Rectangles are pixels; a measure named design is in 96-dpi pixels and is scaled here.
 #pragma once
 
@@ -32,7 +32,7 @@ class Painter {
   int Px(int design) const { return MulDiv(design, dpi_, 96); }
   int Line() const { return dpi_ < 192 ? 1 : dpi_ / 96; }  // width of a "1 px" line
   int FocusLine() const { return MulDiv(2, dpi_, 96); }
-  HFONT Font(Type type) const;  // lives as long as the painter
+  HFONT Font(TextStyle style) const;  // lives as long as the painter
 
   void Fill(HDC dc, const RECT& box, Color color) const;
   void Gradient(HDC dc, const RECT& box, Color top, Color bottom) const;
@@ -40,13 +40,13 @@ class Painter {
 
   // One line, vertically centred, with an end ellipsis; `format` takes DT_CENTER, DT_RIGHT, DT_WORDBREAK
   // (then from the top) and without DT_NOPREFIX draws access keys. Text is in the code page (UTF-8).
-  void Text(HDC dc, const RECT& box, std::string_view text, Type type, Color color,
+  void Text(HDC dc, const RECT& box, std::string_view text, TextStyle style, Color color,
             UINT format = DT_NOPREFIX) const;
-  void Text(HDC dc, const RECT& box, std::wstring_view text, Type type, Color color,
+  void Text(HDC dc, const RECT& box, std::wstring_view text, TextStyle style, Color color,
             UINT format = DT_NOPREFIX) const;
-  SIZE Measure(std::wstring_view text, Type type, UINT format = DT_NOPREFIX) const;  // of one line
-  int WrappedHeight(std::wstring_view text, Type type, int width) const;
-  int LineHeight(Type type) const;
+  SIZE Measure(std::wstring_view text, TextStyle style, UINT format = DT_NOPREFIX) const;  // of one line
+  int WrappedHeight(std::wstring_view text, TextStyle style, int width) const;
+  int LineHeight(TextStyle style) const;
 
   // An icon whose grid is `designSize` wide, its top-left corner at pixel (x, y). In the text colour the
   // program mark has its needle in the accent; in any other it is of that colour alone.
@@ -60,13 +60,13 @@ class Painter {
   void Groove(HDC dc, int x, int y, int width) const;
 
  private:
-  void MeasureIn(RECT& place, std::wstring_view text, Type type, UINT format) const;
+  void MeasureIn(RECT& place, std::wstring_view text, TextStyle style, UINT format) const;
 
   const FaceplateColors colors_;
   const int dpi_;
   const HDC measuring_;
   mutable std::array<std::optional<LOGFONTW>, 2> faces_;  // normal and strong, found at first use
-  mutable std::array<HFONT, 13> fonts_{};                 // by Type, made at first use
+  mutable std::array<HFONT, 13> fonts_{};                 // by TextStyle, made at first use
   mutable IconPainter icons_;
 };
 

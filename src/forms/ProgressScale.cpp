@@ -35,29 +35,29 @@ void ProgressScale::SetPitch(int design) {
 }
 
 void ProgressScale::PaintOn(HDC dc, const RECT& box) const {
-  const Painter& look = Look();
-  const FaceplateColors& colors = look.Colors();
-  const int pitch = look.Px(pitch_);
-  const int width = std::max(2, look.Px(kTickWidth));
-  const int left = look.Px(kNeedleLead);
+  const Painter& theme = Theme();
+  const FaceplateColors& colors = theme.Colors();
+  const int pitch = theme.Px(pitch_);
+  const int width = std::max(2, theme.Px(kTickWidth));
+  const int left = theme.Px(kNeedleLead);
   const int count = std::max(1, (static_cast<int>(box.right) - 2 * left) / pitch);
   const int position = static_cast<int>(SendMessageW(Window(), PBM_GETPOS, 0, 0));
   const int lit = MulDiv(count, position, kSteps);
   const int tall = MulDiv(static_cast<int>(box.bottom), 65, 100);
-  const int bottom = look.Px(kAboveTicks) + tall;
+  const int bottom = theme.Px(kAboveTicks) + tall;
   for (int tick = 0; tick < count; ++tick) {
     const int height = tick % 5 == 0 ? tall : MulDiv(tall, 55, 100);
     const int x = left + tick * pitch;
-    look.Fill(dc, {x, bottom - height, x + width, bottom}, tick < lit ? colors.signal : colors.tickOff);
+    theme.Fill(dc, {x, bottom - height, x + width, bottom}, tick < lit ? colors.signal : colors.tickOff);
   }
   PaintNeedle(dc, left + std::min(lit, count - 1) * pitch, bottom);
 }
 
 void ProgressScale::PaintNeedle(HDC dc, int x, int bottom) const {
-  const Painter& look = Look();
-  const Color accent = look.Colors().accent;
-  look.Fill(dc, {x, look.Line(), x + std::max(2, look.Px(kTickWidth)), bottom}, accent);
-  DrawNeedleHead(dc, x - look.Px(kNeedleLead), 0, look.Px(kNeedleWidth), look.Px(kNeedleHeight), accent);
+  const Painter& theme = Theme();
+  const Color accent = theme.Colors().accent;
+  theme.Fill(dc, {x, theme.Line(), x + std::max(2, theme.Px(kTickWidth)), bottom}, accent);
+  DrawNeedleHead(dc, x - theme.Px(kNeedleLead), 0, theme.Px(kNeedleWidth), theme.Px(kNeedleHeight), accent);
 }
 
 }  // namespace sonaro

@@ -29,16 +29,17 @@ void RatingPicture::SetRating(int halves, std::string_view figure, std::string_v
 }
 
 void RatingPicture::PaintOn(HDC dc, const RECT& box) const {
-  const Painter& look = Look();
-  const FaceplateColors& colors = look.Colors();
-  const int left = (static_cast<int>(box.right) - look.Px(kRingWidth)) / 2;
+  const Painter& theme = Theme();
+  const FaceplateColors& colors = theme.Colors();
+  const int left = (static_cast<int>(box.right) - theme.Px(kRingWidth)) / 2;
   const int lit = LitTicks(halves_);
-  DrawCoverage(dc, left, 0, RenderRing(0, lit, look.Dpi()), colors.signal);
-  DrawCoverage(dc, left, 0, RenderRing(lit, kRingTicks, look.Dpi()), colors.tickOff);
-  look.Text(dc, {0, look.Px(kFigureTop), box.right, look.Px(kFigureTop + kFigureHeight)}, figure_,
-            Type::MessageStrong, halves_ > 0 ? colors.glassText : colors.glassMuted, DT_CENTER | DT_NOPREFIX);
-  look.Text(dc, {0, look.Px(kCaptionTop), box.right, look.Px(kCaptionTop + kCaptionHeight)}, caption_,
-            Type::Small, colors.glassMuted, DT_CENTER | DT_NOPREFIX);
+  DrawCoverage(dc, left, 0, RenderRing(0, lit, theme.Dpi()), colors.signal);
+  DrawCoverage(dc, left, 0, RenderRing(lit, kRingTicks, theme.Dpi()), colors.tickOff);
+  theme.Text(dc, {0, theme.Px(kFigureTop), box.right, theme.Px(kFigureTop + kFigureHeight)}, figure_,
+             TextStyle::MessageStrong, halves_ > 0 ? colors.glassText : colors.glassMuted,
+             DT_CENTER | DT_NOPREFIX);
+  theme.Text(dc, {0, theme.Px(kCaptionTop), box.right, theme.Px(kCaptionTop + kCaptionHeight)}, caption_,
+             TextStyle::Small, colors.glassMuted, DT_CENTER | DT_NOPREFIX);
 }
 
 }  // namespace sonaro

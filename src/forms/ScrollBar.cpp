@@ -123,38 +123,38 @@ LRESULT ScrollBar::Handle(UINT message, WPARAM wParam, LPARAM lParam) {
 }
 
 void ScrollBar::Paint(HDC dc, const RECT& box) const {
-  const Painter& look = services_.Look();
-  const FaceplateColors& colors = look.Colors();
-  look.Fill(dc, box, colors.zebra);
-  look.Fill(dc, {box.left, box.top, box.left + look.Line(), box.bottom}, colors.hair);
+  const Painter& theme = services_.Theme();
+  const FaceplateColors& colors = theme.Colors();
+  theme.Fill(dc, box, colors.zebra);
+  theme.Fill(dc, {box.left, box.top, box.left + theme.Line(), box.bottom}, colors.hair);
   const RECT thumb = ThumbBox();
   const Color face = hover_ || pressed_ == Zone::Thumb ? colors.thumbHover : colors.thumb;
-  look.CutShape(dc, thumb, look.Px(kThumbCut), face, face, face);
-  const int icon = look.Px(kArrowIcon);
+  theme.CutShape(dc, thumb, theme.Px(kThumbCut), face, face, face);
+  const int icon = theme.Px(kArrowIcon);
   const int x = box.left + (box.right - box.left - icon + 1) / 2;
-  const int inset = (look.Px(kArrowDesign) - icon + 1) / 2;
-  look.DrawIcon(dc, Icon::Up, x, box.top + inset, kArrowIcon, colors.glassMuted);
-  look.DrawIcon(dc, Icon::Down, x, box.bottom - inset - icon, kArrowIcon, colors.glassMuted);
+  const int inset = (theme.Px(kArrowDesign) - icon + 1) / 2;
+  theme.DrawIcon(dc, Icon::Up, x, box.top + inset, kArrowIcon, colors.glassMuted);
+  theme.DrawIcon(dc, Icon::Down, x, box.bottom - inset - icon, kArrowIcon, colors.glassMuted);
 }
 
 RECT ScrollBar::ThumbBox() const {
-  const Painter& look = services_.Look();
+  const Painter& theme = services_.Theme();
   RECT box{};
   GetClientRect(window_, &box);
-  const int arrow = look.Px(kArrowDesign);
+  const int arrow = theme.Px(kArrowDesign);
   const int track = std::max<int>(1, box.bottom - 2 * arrow);
   const int total = std::max(1, range_.total);
   const int height =
-      std::clamp(MulDiv(track, range_.page, total), std::min(track, look.Px(kLeastThumb)), track);
+      std::clamp(MulDiv(track, range_.page, total), std::min(track, theme.Px(kLeastThumb)), track);
   const int top = arrow + MulDiv(track - height, range_.first, std::max(1, total - range_.page));
-  const int left = look.Px(kThumbInset);
-  return {left, top, left + look.Px(kThumbWidth), top + height};
+  const int left = theme.Px(kThumbInset);
+  return {left, top, left + theme.Px(kThumbWidth), top + height};
 }
 
 ScrollBar::Zone ScrollBar::ZoneAt(POINT at) const {
   RECT box{};
   GetClientRect(window_, &box);
-  const int arrow = services_.Look().Px(kArrowDesign);
+  const int arrow = services_.Theme().Px(kArrowDesign);
   const RECT thumb = ThumbBox();
   if (at.y < arrow) return Zone::Up;
   if (at.y >= box.bottom - arrow) return Zone::Down;
@@ -194,7 +194,7 @@ void ScrollBar::DragTo(int y) {
   RECT box{};
   GetClientRect(window_, &box);
   const RECT thumb = ThumbBox();
-  const int arrow = services_.Look().Px(kArrowDesign);
+  const int arrow = services_.Theme().Px(kArrowDesign);
   const int way = std::max<int>(1, box.bottom - 2 * arrow - (thumb.bottom - thumb.top));
   ScrollTo(MulDiv(y - dragOffset_ - arrow, range_.total - range_.page, way));
 }

@@ -59,7 +59,7 @@ void PaintTab(HDC dc, const RECT& box, const TabPicture& tab, const Painter& pai
   const int width = static_cast<int>(box.right - box.left);
   const int bottom = static_cast<int>(box.bottom) - painter.Px(kBelowTicks);
   if (tab.active) {
-    painter.Gradient(dc, box, colors.glass, colors.keyOnLow);
+    painter.Gradient(dc, box, colors.glass, colors.buttonOnLow);
   } else if (tab.hover || tab.pressed) {
     painter.Fill(dc, box, colors.rowHover);
   }
@@ -74,7 +74,7 @@ void PaintTab(HDC dc, const RECT& box, const TabPicture& tab, const Painter& pai
   if (tab.needle) PaintNeedle(dc, box, *tab.needle, painter);
   const int down = tab.pressed ? painter.Line() : 0;
   painter.Text(dc, {box.left, box.top + down, box.right, box.top + painter.Px(kLabelHeight) + down}, tab.text,
-               tab.active ? Type::MessageStrong : Type::Message,
+               tab.active ? TextStyle::MessageStrong : TextStyle::Message,
                tab.active ? colors.tabText : colors.glassText, DT_CENTER | tab.prefix);
   if (tab.focused) {
     RECT inner = box;

@@ -110,18 +110,18 @@ void TreeView::Expand(HTREEITEM node, bool expanded) {
 }
 
 void TreeView::MoveTo(const RECT& place) {
-  const Painter& look = services_.Look();
-  const int line = look.Line();
+  const Painter& theme = services_.Theme();
+  const int line = theme.Line();
   const RECT inner = {place.left + line, place.top + line, place.right - line, place.bottom - line};
   width_ = inner.right - inner.left;
   const int height = inner.bottom - inner.top;
-  TreeView_SetItemHeight(tree_, look.Px(kRow));
-  TreeView_SetIndent(tree_, look.Px(kIndent));
+  TreeView_SetItemHeight(tree_, theme.Px(kRow));
+  TreeView_SetIndent(tree_, theme.Px(kIndent));
   // The native scroll bar lies beyond the region and is never seen.
   const int native = GetSystemMetrics(SM_CXVSCROLL);
   SetWindowPos(tree_, nullptr, inner.left, inner.top, width_ + native, height, SWP_NOZORDER | SWP_NOACTIVATE);
   SetWindowRgn(tree_, CreateRectRgn(0, 0, width_, height), TRUE);
-  const int barWidth = look.Px(ScrollBar::kDesignWidth);
+  const int barWidth = theme.Px(ScrollBar::kDesignWidth);
   bar_.MoveTo({inner.right - barWidth, inner.top, inner.right, inner.bottom});
   SyncScrollBar();
 }
@@ -131,7 +131,7 @@ void TreeView::SetShown(bool shown) {
   bar_.SetShown(shown);
 }
 
-void TreeView::LookChanged() {
+void TreeView::ThemeChanged() {
   InvalidateRect(tree_, nullptr, TRUE);
   InvalidateRect(bar_.Window(), nullptr, TRUE);
 }
@@ -194,7 +194,7 @@ LRESULT TreeView::Handle(UINT message, WPARAM wParam, LPARAM lParam) {
     case WM_ERASEBKGND: {
       RECT box{};
       GetClientRect(tree_, &box);
-      services_.Look().Fill(reinterpret_cast<HDC>(wParam), box, services_.Look().Colors().glass);
+      services_.Theme().Fill(reinterpret_cast<HDC>(wParam), box, services_.Theme().Colors().glass);
       return 1;
     }
     case WM_LBUTTONDOWN:
@@ -210,7 +210,7 @@ LRESULT TreeView::Handle(UINT message, WPARAM wParam, LPARAM lParam) {
       SetHover(nullptr);
       break;
     case WM_GETDLGCODE: {
-      // Enter acts on the node; without this the dialog keyboard would press the primary key.
+      // Enter acts on the node; without this the dialog keyboard would press the primary button.
       const auto* key = reinterpret_cast<const MSG*>(lParam);
       const bool enter =
           key != nullptr && key->message == WM_KEYDOWN && key->wParam == VK_RETURN && Selected() != nullptr;
@@ -240,10 +240,10 @@ void TreeView::Press(POINT at) {
   SetFocus(tree_);
   const HTREEITEM node = NodeAt(at);
   if (node == nullptr) return;
-  const Painter& look = services_.Look();
-  const int mark = look.Px(kMarkInset + kIndent * LevelOf(node));
-  if (TreeView_GetChild(tree_, node) != nullptr && at.x >= mark - look.Px(4) &&
-      at.x < mark + look.Px(kMarkSize + 4)) {
+  const Painter& theme = services_.Theme();
+  const int mark = theme.Px(kMarkInset + kIndent * LevelOf(node));
+  if (TreeView_GetChild(tree_, node) != nullptr && at.x >= mark - theme.Px(4) &&
+      at.x < mark + theme.Px(kMarkSize + 4)) {
     Toggle(node);
     return;
   }
@@ -302,8 +302,8 @@ bool TreeView::OnNotify(NMHDR& notice, LRESULT& result) {
 }
 
 void TreeView::PaintNode(HDC dc, HTREEITEM node) const {
-  const Painter& look = services_.Look();
-  const FaceplateColors& colors = look.Colors();
+  const Painter& theme = services_.Theme();
+  const FaceplateColors& colors = theme.Colors();
   const RECT box = BoxOf(node);
   if (box.bottom <= box.top) return;
   const bool selected = node == Selected();
@@ -312,13 +312,13 @@ void TreeView::PaintNode(HDC dc, HTREEITEM node) const {
   const HDC paint = buffer.Dc();
   Color ground = node == hover_ ? colors.rowHover : colors.glass;
   if (selected) ground = focused ? colors.rowSelected : colors.rowSelectedOff;
-  look.Fill(paint, box, ground);
+  theme.Fill(paint, box, ground);
   const int level = LevelOf(node);
   for (int outer = 0; outer < level; ++outer) {
-    const int x = look.Px(13 + kIndent * outer);
-    look.Fill(paint, {x, box.top, x + look.Line(), box.bottom}, colors.hair);
+    const int x = theme.Px(13 + kIndent * outer);
+    theme.Fill(paint, {x, box.top, x + theme.Line(), box.bottom}, colors.hair);
   }
-  const int left = look.Px(kMarkInset + kIndent * level);
+  const int left = theme.Px(kMarkInset + kIndent * level);
   PaintMark(paint, node, box, left);
 
   wchar_t text[512] = L"";
@@ -328,38 +328,38 @@ void TreeView::PaintNode(HDC dc, HTREEITEM node) const {
   item.pszText = text;
   item.cchTextMax = 512;
   SendMessageW(tree_, TVM_GETITEMW, 0, reinterpret_cast<LPARAM>(&item));
-  const int bar = bar_.IsNeeded() ? look.Px(ScrollBar::kDesignWidth) : 0;
+  const int bar = bar_.IsNeeded() ? theme.Px(ScrollBar::kDesignWidth) : 0;
   const Node* found = NodeOf(node);
   const std::wstring_view figure = found != nullptr ? std::wstring_view(found->figure) : std::wstring_view();
-  const int figureWidth = figure.empty() ? 0 : static_cast<int>(look.Measure(figure, Type::Small).cx);
-  const int right = width_ - bar - look.Px(kCountGap);
+  const int figureWidth = figure.empty() ? 0 : static_cast<int>(theme.Measure(figure, TextStyle::Small).cx);
+  const int right = width_ - bar - theme.Px(kCountGap);
   const bool highContrastRow = selected && focused;
-  look.Text(paint, {right - figureWidth, box.top, right, box.bottom}, figure, Type::Small,
-            highContrastRow ? colors.rowSelectedText : colors.glassMuted, DT_RIGHT | DT_NOPREFIX);
-  look.Text(paint, {left + look.Px(kTextAfterMark), box.top, right - figureWidth - look.Px(4), box.bottom},
-            std::wstring_view(text), level == 0 || selected ? Type::BodyStrong : Type::Body,
-            highContrastRow ? colors.rowSelectedText : colors.glassText);
+  theme.Text(paint, {right - figureWidth, box.top, right, box.bottom}, figure, TextStyle::Small,
+             highContrastRow ? colors.rowSelectedText : colors.glassMuted, DT_RIGHT | DT_NOPREFIX);
+  theme.Text(paint, {left + theme.Px(kTextAfterMark), box.top, right - figureWidth - theme.Px(4), box.bottom},
+             std::wstring_view(text), level == 0 || selected ? TextStyle::BodyStrong : TextStyle::Body,
+             highContrastRow ? colors.rowSelectedText : colors.glassText);
   if (!selected) return;
-  look.Fill(paint, {0, box.top, look.Px(kNeedleBar), box.bottom}, colors.accent);
+  theme.Fill(paint, {0, box.top, theme.Px(kNeedleBar), box.bottom}, colors.accent);
   if (focused) {
-    look.Frame(paint, {look.Px(4), box.top + look.Line(), width_ - bar, box.bottom - look.Line()},
-               colors.focus, look.Line());
+    theme.Frame(paint, {theme.Px(4), box.top + theme.Line(), width_ - bar, box.bottom - theme.Line()},
+                colors.focus, theme.Line());
   }
 }
 
 void TreeView::PaintMark(HDC dc, HTREEITEM node, const RECT& box, int left) const {
-  const Painter& look = services_.Look();
-  const FaceplateColors& colors = look.Colors();
+  const Painter& theme = services_.Theme();
+  const FaceplateColors& colors = theme.Colors();
   const int middle = (box.top + box.bottom) / 2;
   if (TreeView_GetChild(tree_, node) == nullptr) {
-    const int size = look.Px(kLeafSize);
-    const int x = left + (look.Px(kMarkSize) - size) / 2;
-    look.Fill(dc, {x, middle - size / 2, x + size, middle - size / 2 + size}, colors.tickOff);
+    const int size = theme.Px(kLeafSize);
+    const int x = left + (theme.Px(kMarkSize) - size) / 2;
+    theme.Fill(dc, {x, middle - size / 2, x + size, middle - size / 2 + size}, colors.tickOff);
     return;
   }
   const bool open = (TreeView_GetItemState(tree_, node, TVIS_EXPANDED) & TVIS_EXPANDED) != 0;
-  look.DrawIcon(dc, open ? Icon::TriDown : Icon::TriRight, left, middle - look.Px(kMarkSize) / 2, kMarkSize,
-                open ? colors.accent : colors.glassMuted);
+  theme.DrawIcon(dc, open ? Icon::TriDown : Icon::TriRight, left, middle - theme.Px(kMarkSize) / 2, kMarkSize,
+                 open ? colors.accent : colors.glassMuted);
 }
 
 }  // namespace sonaro

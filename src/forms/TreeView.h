@@ -36,7 +36,7 @@ class TreeView final : public FormControl {
   HWND Window() const override { return tree_; }
   void MoveTo(const RECT& place) override;
   void SetShown(bool shown) override;
-  void LookChanged() override;
+  void ThemeChanged() override;
   bool OnNotify(NMHDR& notice, LRESULT& result) override;
 
  private:

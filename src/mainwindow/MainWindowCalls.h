@@ -58,7 +58,7 @@ struct MainWindowCalls {
   // The tray and the program.
   std::function<void(const std::string& text)> tellTray;
   std::function<void()> hideToTray;
-  std::function<void()> closeAsked;  // the close key: Application knows whether that hides or ends
+  std::function<void()> closeAsked;  // the close button: Application knows whether that hides or ends
   std::function<void()> exit;
   std::function<void(const std::string& page)> openHelpPage;
 

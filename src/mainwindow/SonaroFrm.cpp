@@ -17,10 +17,10 @@ namespace {
 constexpr std::array kTabs{View::YourSonaro, View::List, View::Browse, View::BrowseLoc, View::Search};
 constexpr int kTabCount = static_cast<int>(kTabs.size());
 
-// In the order of the ranking keys. The least popular stations have a menu entry only.
-constexpr std::array kRankingKeys{Ranking::NewStations, Ranking::MostPop,   Ranking::BestOverall,
-                                  Ranking::BestSound,   Ranking::BestSpeed, Ranking::BestWebsite,
-                                  Ranking::MostReliable};
+// In the order of the ranking buttons. The least popular stations have a menu entry only.
+constexpr std::array kRankingButtons{Ranking::NewStations, Ranking::MostPop,   Ranking::BestOverall,
+                                     Ranking::BestSound,   Ranking::BestSpeed, Ranking::BestWebsite,
+                                     Ranking::MostReliable};
 
 constexpr const char* kQuickStartPage = "9070.html";
 constexpr const char* kHelpStartPage = "index.html";
@@ -112,8 +112,8 @@ void SonaroFrm::ShowEverything() {
   const ListingState& state = models_.listing.State();
   if (state.view == View::Browse || state.view == View::BrowseLoc) browse_.Show(PersonalCount());
   ShowGroupBar();
-  for (int key = 0; key < static_cast<int>(kRankingKeys.size()); ++key) {
-    SetToggle(butNewStations + key, state.ranking == kRankingKeys[static_cast<std::size_t>(key)]);
+  for (int key = 0; key < static_cast<int>(kRankingButtons.size()); ++key) {
+    SetToggle(butNewStations + key, state.ranking == kRankingButtons[static_cast<std::size_t>(key)]);
   }
   list_.ShowSort();
   list_.ShowRows();
@@ -196,7 +196,7 @@ void SonaroFrm::mnuView_Click(int view) {
 void SonaroFrm::mnuViewPersonalPage_Click() { ShowView(View::PersonalPage); }
 
 void SonaroFrm::butRanking_Click(int key) {
-  models_.listing.ShowRanking(kRankingKeys[static_cast<std::size_t>(key)]);
+  models_.listing.ShowRanking(kRankingButtons[static_cast<std::size_t>(key)]);
   ShowEverything();
 }
 

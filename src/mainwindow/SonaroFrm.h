@@ -110,7 +110,7 @@ class SonaroFrm final : public Form, private FavoritePrompts {
   void mnuPersonalChange_Click();
   void mnuPersonalDelete_Click();
   void ShowDetailOf(const StationKey& station);
-  void Play(const PlayKey& key);
+  void Play(const PlayButton& key);
 
   // SonaroFrmSearch.cpp
   void txtQuickSearch_EnterPressed();

@@ -11,7 +11,7 @@ namespace sonaro {
 namespace {
 
 constexpr int kRatingPictures[] = {imgOverAll, imgSound, imgSpeed, imgWebSite};
-constexpr int kPlayKeyIds[] = {butGoMediaLinkOneIt, butGoMediaLinkTwoIt, butGoMediaLinkThreeIt};
+constexpr int kPlayButtonIds[] = {butGoMediaLinkOneIt, butGoMediaLinkTwoIt, butGoMediaLinkThreeIt};
 
 void PaintHair(HDC dc, const RECT& box, const Painter& painter) {
   painter.Fill(dc, {box.left, box.top, box.right, box.top + painter.Line()}, painter.Colors().hair);
@@ -47,7 +47,7 @@ void DetailPane::Show(const StationDetailBuilder& detail) {
   form_.SetText(txtDescription, detail.description);
   form_.ShowControl(txtDescription, !detail.description.empty());  // else Tab stops where nothing is seen
   ShowRatings(detail);
-  ShowPlayKeys(detail);
+  ShowPlayButtons(detail);
   form_.Enable(butGoWebPageIt, detail.hasWebSite);
 }
 
@@ -58,12 +58,12 @@ void DetailPane::ShowRatings(const StationDetailBuilder& detail) {
   }
 }
 
-void DetailPane::ShowPlayKeys(const StationDetailBuilder& detail) {
-  for (std::size_t i = 0; i < StationDetailBuilder::kPlayKeys; ++i) {
-    const PlayKey& key = detail.playKeys[i];
-    form_.SetText(kPlayKeyIds[i], key.caption);
-    form_.SetDetail(kPlayKeyIds[i], key.bitRate + "\t" + std::to_string(i + 1));
-    form_.ShowControl(kPlayKeyIds[i], key.shown);
+void DetailPane::ShowPlayButtons(const StationDetailBuilder& detail) {
+  for (std::size_t i = 0; i < StationDetailBuilder::kPlayButtons; ++i) {
+    const PlayButton& key = detail.playButtons[i];
+    form_.SetText(kPlayButtonIds[i], key.caption);
+    form_.SetDetail(kPlayButtonIds[i], key.bitRate + "\t" + std::to_string(i + 1));
+    form_.ShowControl(kPlayButtonIds[i], key.shown);
   }
 }
 

@@ -15,7 +15,7 @@ class DetailPane {
 
  private:
   void ShowRatings(const StationDetailBuilder& detail);
-  void ShowPlayKeys(const StationDetailBuilder& detail);
+  void ShowPlayButtons(const StationDetailBuilder& detail);
 
   Form& form_;
 };

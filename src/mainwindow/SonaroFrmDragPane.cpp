@@ -32,22 +32,22 @@ constexpr int kNoCursor = 32648;
 void DragPane::Load(Asks asks) {
   asks_ = std::move(asks);
   for (int slot = 0; slot < kSlots; ++slot) {
-    SetWindowSubclass(form_.Control(butFavs + slot), GroupKeyProcedure, static_cast<UINT_PTR>(slot),
+    SetWindowSubclass(form_.Control(butFavs + slot), GroupButtonProcedure, static_cast<UINT_PTR>(slot),
                       reinterpret_cast<DWORD_PTR>(this));
   }
   form_.List(lstFavs).onBeginDrag = [this](int row) { Begin(Thing::Row, asks_.rowKey(row)); };
 }
 
-LRESULT CALLBACK DragPane::GroupKeyProcedure(HWND key, UINT message, WPARAM wParam, LPARAM lParam,
-                                             UINT_PTR slot, DWORD_PTR self) noexcept {
+LRESULT CALLBACK DragPane::GroupButtonProcedure(HWND key, UINT message, WPARAM wParam, LPARAM lParam,
+                                                UINT_PTR slot, DWORD_PTR self) noexcept {
   return Guarded(0, [&]() -> LRESULT {
-    if (message == WM_NCDESTROY) RemoveWindowSubclass(key, GroupKeyProcedure, slot);
-    reinterpret_cast<DragPane*>(self)->WatchKey(message, wParam, lParam, static_cast<int>(slot));
+    if (message == WM_NCDESTROY) RemoveWindowSubclass(key, GroupButtonProcedure, slot);
+    reinterpret_cast<DragPane*>(self)->WatchGroupButton(message, wParam, lParam, static_cast<int>(slot));
     return DefSubclassProc(key, message, wParam, lParam);
   });
 }
 
-void DragPane::WatchKey(UINT message, WPARAM wParam, LPARAM lParam, int slot) {
+void DragPane::WatchGroupButton(UINT message, WPARAM wParam, LPARAM lParam, int slot) {
   const POINT at = {GET_X_LPARAM(lParam), GET_Y_LPARAM(lParam)};
   if (message == WM_LBUTTONDOWN) {
     pressedAt_ = at;

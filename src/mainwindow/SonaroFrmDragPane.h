@@ -42,9 +42,9 @@ class DragPane {
   std::optional<Drop> Handle(UINT message);
 
  private:
-  static LRESULT CALLBACK GroupKeyProcedure(HWND key, UINT message, WPARAM wParam, LPARAM lParam,
-                                            UINT_PTR slot, DWORD_PTR self) noexcept;
-  void WatchKey(UINT message, WPARAM wParam, LPARAM lParam, int slot);
+  static LRESULT CALLBACK GroupButtonProcedure(HWND key, UINT message, WPARAM wParam, LPARAM lParam,
+                                               UINT_PTR slot, DWORD_PTR self) noexcept;
+  void WatchGroupButton(UINT message, WPARAM wParam, LPARAM lParam, int slot);
   void Begin(Thing what, std::string name);
   void End();
   Drop DropAt(POINT screen) const;

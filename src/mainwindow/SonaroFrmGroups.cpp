@@ -70,7 +70,7 @@ void SonaroFrm::butNewGroup_Click() {
   ShowEverything();
 }
 
-// A station was dropped on a group key; on a free one it founds a group.
+// A station was dropped on a group button; on a free one it founds a group.
 void SonaroFrm::DropOnGroup(const std::string& rowKey, int slot) {
   const std::string token = StationKey::FromRowKey(rowKey).Token();
   auto group = static_cast<std::size_t>(slot);
@@ -191,7 +191,7 @@ void SonaroFrm::MoveRow(const std::string& rowKey, int to) {
 }
 
 void SonaroFrm::lstEvents_ItemSelected(int row) {
-  yours_.ShowEventKeys(row);
+  yours_.ShowEventButtons(row);
   ShowSelection();
 }
 

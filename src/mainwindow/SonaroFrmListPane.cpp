@@ -82,9 +82,9 @@ void ListPane::ShowEmptyText() {
 void ListPane::ShowSort() {
   const SortState& sort = listing_.Rows().Sort();
   for (const SortEntry& entry : SortEntries()) {
-    if (entry.headerKey == 0) continue;
+    if (entry.headerButton == 0) continue;
     const bool active = sort.on && sort.key == entry.key;
-    form_.SetSortMark(entry.headerKey, active ? SortMark::Up : SortMark::None);
+    form_.SetSortMark(entry.headerButton, active ? SortMark::Up : SortMark::None);
   }
 }
 

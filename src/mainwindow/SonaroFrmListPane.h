@@ -1,4 +1,4 @@
-// The middle of the main window: the header keys, the station list, what it holds and how many. Part of
+// The middle of the main window: the header buttons, the station list, what it holds and how many. Part of
 // SonaroFrm.
 #pragma once
 

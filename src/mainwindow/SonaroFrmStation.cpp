@@ -48,30 +48,31 @@ void SonaroFrm::butGoMediaLink_Click(int link) {
   const StationDetailBuilder& station = StationMeant();
   // A station may lack a first link and have others: what is asked for is the first that plays.
   std::size_t wanted = static_cast<std::size_t>(link);
-  while (link == 0 && wanted + 1 < StationDetailBuilder::kPlayKeys && !station.playKeys[wanted].shown)
+  while (link == 0 && wanted + 1 < StationDetailBuilder::kPlayButtons && !station.playButtons[wanted].shown)
     ++wanted;
-  if (station.playKeys[wanted].shown) {
-    Play(station.playKeys[wanted]);
+  if (station.playButtons[wanted].shown) {
+    Play(station.playButtons[wanted]);
   } else if (link == 0 && station.station) {
     Play(
-        station.playKeys[0]);  // without a link of its own: its web site, and it was listened to all the same
+        station
+            .playButtons[0]);  // without a link of its own: its web site, and it was listened to all the same
   }
 }
 
 void SonaroFrm::mnuActionPlay_Click(int link) {
   const StationDetailBuilder& station = StationMeant();
   const auto index = static_cast<std::size_t>(link);
-  if (station.playKeys[index].shown) Play(station.playKeys[index]);
+  if (station.playButtons[index].shown) Play(station.playButtons[index]);
 }
 
 void SonaroFrm::mnuActionPlayExtra_Click(int link) {
   const StationDetailBuilder& station = StationMeant();
   const auto index = static_cast<std::size_t>(link);
-  if (index >= station.extraKeys.size()) return;
-  Play(station.extraKeys[index]);
+  if (index >= station.extraButtons.size()) return;
+  Play(station.extraButtons[index]);
 }
 
-void SonaroFrm::Play(const PlayKey& key) {
+void SonaroFrm::Play(const PlayButton& key) {
   const PlayRequest request = key.request;  // what is shown changes with the recent list
   // A bare link does not tell whose it is, so the play is noted here.
   if (request.mode == PlayMode::KeyItself) data_.recent.AddRecent(StationMeant().station.Token());

@@ -59,10 +59,10 @@ void YoursPane::ShowEvents() {
   list.RowsChanged();
   const int same = RowOf(chosen);
   list.Select(same < 0 && !events_.empty() ? 0 : same);
-  ShowEventKeys(list.Selected());
+  ShowEventButtons(list.Selected());
 }
 
-void YoursPane::ShowEventKeys(int row) {
+void YoursPane::ShowEventButtons(int row) {
   const EventLine* event = EventAt(row);
   form_.Enable(butNotifyMe, event && !event->noticed);
   form_.Enable(butPersonalShow, event != nullptr);

@@ -26,7 +26,7 @@ class YoursPane {
   void ShowEvents();
   void ShowNextNotice();
   // What can be done with the event in this row; a row that is none has nothing.
-  void ShowEventKeys(int row);
+  void ShowEventButtons(int row);
 
   // What a row of the left column stands for: the coming events, the recent list, then the groups.
   std::optional<std::size_t> GroupAt(int row) const;

@@ -28,7 +28,8 @@ std::span<const SortEntry> SortEntries() { return kEntries; }
 std::optional<SortEntry> SortEntryOf(int command) {
   if (command == 0) return std::nullopt;
   for (const SortEntry& entry : kEntries) {
-    if (command == entry.headerKey || command == entry.sortMenu || command == entry.actionMenu) return entry;
+    if (command == entry.headerButton || command == entry.sortMenu || command == entry.actionMenu)
+      return entry;
   }
   return std::nullopt;
 }

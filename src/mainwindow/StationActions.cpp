@@ -30,9 +30,9 @@ constexpr std::array<RankingCommand, kRankingCount> kRankingCommands{{
     {mnuActionMostReliable, Ranking::MostReliable},
 }};
 
-constexpr std::array<int, StationDetailBuilder::kPlayKeys> kPlayCommands{mnuActionPlayOne, mnuActionPlayTwo,
-                                                                         mnuActionPlayThree};
-constexpr std::array<int, StationDetailBuilder::kPlayKeys> kPlayShortcuts{
+constexpr std::array<int, StationDetailBuilder::kPlayButtons> kPlayCommands{
+    mnuActionPlayOne, mnuActionPlayTwo, mnuActionPlayThree};
+constexpr std::array<int, StationDetailBuilder::kPlayButtons> kPlayShortcuts{
     IDS_SHORTCUT_PLAY_ONE, IDS_SHORTCUT_PLAY_TWO, IDS_SHORTCUT_PLAY_THREE};
 
 // Separators are asked for freely; none stands first, last or beside another.
@@ -111,17 +111,17 @@ MenuEntries StationActions::EventMenu(const EventLine& event, const StationDetai
 
 void StationActions::AddPlayEntries(const StationDetailBuilder& detail, MenuEntries& menu) const {
   if (!detail.station) menu.push_back(Entry(mnuActionPlayOne, IDS_ACTION_PLAY, false));
-  for (std::size_t i = 0; i < StationDetailBuilder::kPlayKeys; ++i) {
-    const PlayKey& key = detail.playKeys[i];
+  for (std::size_t i = 0; i < StationDetailBuilder::kPlayButtons; ++i) {
+    const PlayButton& key = detail.playButtons[i];
     if (!key.shown) continue;
     MenuEntry entry = Entry(kPlayCommands[i], kPlayShortcuts[i]);
     entry.text = FormatText(entry.text, {MenuText(key.caption)});
     menu.push_back(std::move(entry));
   }
-  for (std::size_t i = 0; i < detail.extraKeys.size() && i < kExtraPlayCommands; ++i) {
+  for (std::size_t i = 0; i < detail.extraButtons.size() && i < kExtraPlayCommands; ++i) {
     MenuEntry entry;
     entry.command = mnuActionPlayExtra + static_cast<int>(i);
-    entry.text = MenuText(detail.extraKeys[i].caption);
+    entry.text = MenuText(detail.extraButtons[i].caption);
     menu.push_back(std::move(entry));
   }
   menu.push_back(Entry(mnuActionWebSite, IDS_ACTION_WEB_SITE, detail.hasWebSite));

@@ -35,7 +35,7 @@ class StationActions {
   MenuEntries EventMenu(const EventLine& event, const StationDetailBuilder& detail) const;
   // What the list can be sorted by; the sort in force is checked.
   MenuEntries SortMenu() const;
-  // The menu of a group key; `group` may be a free slot.
+  // The menu of a group button; `group` may be a free slot.
   MenuEntries GroupMenu(std::size_t group) const;
   // The menu of the menu key.
   MenuEntries ProgramMenu() const;

@@ -25,7 +25,7 @@ constexpr std::array<RatingField, StationDetailBuilder::kRatings> kRatingFields{
     {StationField::WebSiteRating, IDS_RATING_WEB_SITE},
 }};
 
-constexpr std::array<StationField, StationDetailBuilder::kPlayKeys> kLinkFields{
+constexpr std::array<StationField, StationDetailBuilder::kPlayButtons> kLinkFields{
     StationField::LinkOne, StationField::LinkTwo, StationField::LinkThree};
 
 bool IsBlank(std::string_view text) { return TrimBlanks(text).empty(); }
@@ -63,9 +63,9 @@ RatingFigure StationDetails::Rating(const std::string& digit, int nameId) const 
   return rating;
 }
 
-PlayKey StationDetails::Key(const std::string& link, const std::string& media,
-                            const std::string& bitRate) const {
-  PlayKey key;
+PlayButton StationDetails::ButtonFor(const std::string& link, const std::string& media,
+                                     const std::string& bitRate) const {
+  PlayButton key;
   key.shown = !IsBlank(link);
   if (PlayLink::FromText(TrimBlanks(link)).way == PlayWay::WebPage) {
     key.caption = strings_.Load(IDS_PLAY_IN_BROWSER);
@@ -90,10 +90,10 @@ void StationDetails::AddDirectoryStation(StationDetailBuilder& detail) const {
   // A station without a first link plays its alternate one when the first is asked for.
   std::string firstLink = record[StationField::LinkOne];
   if (IsBlank(firstLink)) firstLink = record[StationField::AlternateLink];
-  for (std::size_t i = 0; i < StationDetailBuilder::kPlayKeys; ++i) {
+  for (std::size_t i = 0; i < StationDetailBuilder::kPlayButtons; ++i) {
     const std::string& link = i == 0 ? firstLink : record[kLinkFields[i]];
-    detail.playKeys[i] = Key(link, record[StationField::MediaType], record[StationField::BitRate]);
-    detail.playKeys[i].request = {detail.station.Token(), static_cast<PlayMode>(i + 1)};
+    detail.playButtons[i] = ButtonFor(link, record[StationField::MediaType], record[StationField::BitRate]);
+    detail.playButtons[i].request = {detail.station.Token(), static_cast<PlayMode>(i + 1)};
     if (detail.firstLink.empty() && !IsBlank(link)) {
       detail.firstLink = PlayLink::FromText(TrimBlanks(link)).address;
     }
@@ -107,14 +107,14 @@ void StationDetails::AddPersonalStation(StationDetailBuilder& detail) const {
   detail.name = station->name;
   detail.location = strings_.Load(IDS_DETAIL_YOUR_STATION);
   detail.description = station->note;
-  for (std::size_t i = 0; i < StationDetailBuilder::kPlayKeys; ++i) {
+  for (std::size_t i = 0; i < StationDetailBuilder::kPlayButtons; ++i) {
     const std::string& link = station->links[i];
-    detail.playKeys[i] = Key(link, station->type, {});
+    detail.playButtons[i] = ButtonFor(link, station->type, {});
     // Only the first link has a request of its own; the others are handed over as they are.
     if (i == 0) {
-      detail.playKeys[i].request = {std::to_string(station->index), PlayMode::Personal};
+      detail.playButtons[i].request = {std::to_string(station->index), PlayMode::Personal};
     } else {
-      detail.playKeys[i].request = {link, PlayMode::KeyItself};
+      detail.playButtons[i].request = {link, PlayMode::KeyItself};
     }
     if (detail.firstLink.empty() && !IsBlank(link)) {
       detail.firstLink = PlayLink::FromText(TrimBlanks(link)).address;
@@ -125,11 +125,11 @@ void StationDetails::AddPersonalStation(StationDetailBuilder& detail) const {
 
 void StationDetails::AddExtraLinks(StationDetailBuilder& detail) const {
   for (const ExtraLink& extra : extra_.Of(detail.station.number)) {
-    PlayKey key;
+    PlayButton key;
     key.shown = true;
     key.caption = extra.name.empty() ? strings_.Load(IDS_PLAY_EXTRA) : extra.name;
     key.request = {extra.link, PlayMode::KeyItself};
-    detail.extraKeys.push_back(std::move(key));
+    detail.extraButtons.push_back(std::move(key));
   }
 }
 

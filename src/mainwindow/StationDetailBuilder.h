@@ -22,7 +22,7 @@ struct PlayRequest {
   PlayMode mode = PlayMode::LinkOne;
 };
 
-struct PlayKey {
+struct PlayButton {
   bool shown = false;
   std::string caption;  // "Play MP3"
   std::string bitRate;  // "128 kbit/s"; "" when not known
@@ -37,7 +37,7 @@ struct RatingFigure {
 
 struct StationDetailBuilder {
   static constexpr std::size_t kRatings = 4;  // overall, sound, speed, web site
-  static constexpr std::size_t kPlayKeys = 3;
+  static constexpr std::size_t kPlayButtons = 3;
 
   // None: nothing is selected, or the station is not there any more; all else is empty.
   StationKey station;
@@ -45,8 +45,8 @@ struct StationDetailBuilder {
   std::string location;
   std::string description;
   std::array<RatingFigure, kRatings> ratings;
-  std::array<PlayKey, kPlayKeys> playKeys;
-  std::vector<PlayKey> extraKeys;  // the user's own links for a directory station
+  std::array<PlayButton, kPlayButtons> playButtons;
+  std::vector<PlayButton> extraButtons;  // the user's own links for a directory station
   bool hasWebSite = false;
   std::string firstLink;  // the address that "copy link" takes; "" when there is none
 };
@@ -67,7 +67,7 @@ class StationDetails {
   void AddDirectoryStation(StationDetailBuilder& detail) const;
   void AddPersonalStation(StationDetailBuilder& detail) const;
   void AddExtraLinks(StationDetailBuilder& detail) const;
-  PlayKey Key(const std::string& link, const std::string& media, const std::string& bitRate) const;
+  PlayButton ButtonFor(const std::string& link, const std::string& media, const std::string& bitRate) const;
 
   const StationSource& source_;
   const PersonalStations& personal_;

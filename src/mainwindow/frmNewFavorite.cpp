@@ -11,14 +11,14 @@ namespace sonaro {
 
 FormDesign frmNewFavorite::DesignOf(const char* name, int title) {
   static constexpr ControlRow kControls[] = {
-      {.id = lblTitle, .kind = Kind::TitleBar, .at = {40, 4, 300, 26}},
+      {.id = lblTitle, .kind = ControlKind::TitleBar, .at = {40, 4, 300, 26}},
       Caption(IDS_DLG_GROUP_NAME, {14, 60, 392, 24}),
-      {.id = txtGroupName, .kind = Kind::Edit, .at = {14, 88, 392, 28}},
-      {.kind = Kind::Groove, .at = {14, 190, 392, 2}},
-      OkKey({214, 201, 92, 30}, kDisabled),
-      CancelKey({314, 201, 92, 30}),
-      HelpKey(348),
-      CloseKey(380),
+      {.id = txtGroupName, .kind = ControlKind::Edit, .at = {14, 88, 392, 28}},
+      {.kind = ControlKind::Groove, .at = {14, 190, 392, 2}},
+      OkButton({214, 201, 92, 30}, kDisabled),
+      CancelButton({314, 201, 92, 30}),
+      HelpButton(348),
+      CloseButton(380),
   };
   return {.name = name,
           .caption = title,

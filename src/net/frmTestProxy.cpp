@@ -33,35 +33,35 @@ constexpr int kStepCount = static_cast<int>(std::size(kSteps));
 // The result line of a step.
 constexpr ControlRow StepIcon(int step) {
   return {.id = imgProxyStep + step,
-          .kind = Kind::Label,
+          .kind = ControlKind::Label,
           .at = {26, 84 + 24 * step, 16, 16},
           .icon = Icon::Check,
           .flags = kOnGlass | kHidden};
 }
 constexpr ControlRow StepText(int step) {
   return {.id = lblProxyStep + step,
-          .kind = Kind::StateLabel,
+          .kind = ControlKind::StateLabel,
           .at = {50, 80 + 24 * step, 270, 24},
           .flags = kOnGlass};
 }
 constexpr ControlRow StepTime(int step) {
   return {.id = lblProxyStepTime + step,
-          .kind = Kind::Label,
+          .kind = ControlKind::Label,
           .at = {324, 80 + 24 * step, 70, 24},
           .flags = kOnGlass | kRightAligned,
-          .ink = Ink::GlassMuted};
+          .color = TextColor::GlassMuted};
 }
 
 }  // namespace
 
 const FormDesign& frmTestProxy::Design() {
   static constexpr ControlRow kControls[] = {
-      {.id = lblTitle, .kind = Kind::TitleBar, .text = IDS_NET_TEST_TITLE, .at = {40, 4, 156, 26}},
+      {.id = lblTitle, .kind = ControlKind::TitleBar, .text = IDS_NET_TEST_TITLE, .at = {40, 4, 156, 26}},
       Caption(IDS_NET_TEST_ADDRESS, {14, 46, 90, 24}),
-      {.id = lblCheckAddress, .kind = Kind::Label, .at = {110, 46, 196, 24}, .flags = kNoPrefix},
+      {.id = lblCheckAddress, .kind = ControlKind::Label, .at = {110, 46, 196, 24}, .flags = kNoPrefix},
       Caption(IDS_NET_TEST_PORT, {314, 46, 34, 24}),
-      {.id = lblCheckPort, .kind = Kind::Label, .at = {350, 46, 56, 24}, .flags = kNoPrefix},
-      {.kind = Kind::Glass, .at = {14, 74, 392, 108}},
+      {.id = lblCheckPort, .kind = ControlKind::Label, .at = {350, 46, 56, 24}, .flags = kNoPrefix},
+      {.kind = ControlKind::Glass, .at = {14, 74, 392, 108}},
       StepIcon(0),
       StepText(0),
       StepTime(0),
@@ -71,25 +71,25 @@ const FormDesign& frmTestProxy::Design() {
       StepIcon(2),
       StepText(2),
       StepTime(2),
-      {.id = prgProxyTest, .kind = Kind::Progress, .at = {26, 156, 368, 16}, .flags = kOnGlass},
+      {.id = prgProxyTest, .kind = ControlKind::Progress, .at = {26, 156, 368, 16}, .flags = kOnGlass},
       {.id = lblStatusInfo,
-       .kind = Kind::StateLabel,
+       .kind = ControlKind::StateLabel,
        .at = {14, 190, 392, 40},
        .flags = kWrap,
-       .type = Type::Message},
+       .style = TextStyle::Message},
       {.id = lblProxyStuff,
-       .kind = Kind::Label,
+       .kind = ControlKind::Label,
        .text = IDS_NET_TEST_NOTE,
        .at = {14, 230, 392, 20},
-       .ink = Ink::Muted},
-      {.kind = Kind::Groove, .at = {14, 256, 392, 2}},
+       .color = TextColor::Muted},
+      {.kind = ControlKind::Groove, .at = {14, 256, 392, 2}},
       {.id = butTestAgainIt,
-       .kind = Kind::PushKey,
+       .kind = ControlKind::PushButton,
        .text = IDS_NET_TEST_AGAIN,
        .at = {196, 268, 104, 28},
        .flags = kDisabled},
-      OkKey({308, 268, 98, 28}),
-      CloseKey(380),
+      OkButton({308, 268, 98, 28}),
+      CloseButton(380),
   };
   static constexpr FormDesign kDesign = {.name = "frmTestProxy",
                                          .caption = IDS_NET_TEST_CAPTION,
@@ -134,7 +134,7 @@ void frmTestProxy::OnLoad() {
 void frmTestProxy::Begin() {
   works_ = false;
   SetText(lblStatusInfo, LoadText(IDS_NET_TEST_RUNS));
-  SetInk(lblStatusInfo, Ink::Default);
+  SetTextColor(lblStatusInfo, TextColor::Default);
   for (int step = 0; step < kStepCount; ++step) {
     ShowControl(imgProxyStep + step, false);
     SetText(lblProxyStep + step, "");
@@ -156,21 +156,21 @@ void frmTestProxy::BeginStep(int step) {
   step_ = step;
   stepBegan_ = clock_.Ticks();
   Progress(prgProxyTest).SetProgress(step, kStepCount);
-  if (step < kStepCount) ShowStep(Icon::Scan, Ink::Accent, LoadText(kSteps[step].running));
+  if (step < kStepCount) ShowStep(Icon::Scan, TextColor::Accent, LoadText(kSteps[step].running));
 }
 
 void frmTestProxy::StepDone() {
-  ShowStep(Icon::Check, Ink::Signal, LoadText(kSteps[step_].done));
+  ShowStep(Icon::Check, TextColor::Signal, LoadText(kSteps[step_].done));
   SetText(lblProxyStepTime + step_,
           FormatText(LoadText(IDS_NET_TEST_TIME), {std::to_string(clock_.Ticks() - stepBegan_)}));
   BeginStep(step_ + 1);
 }
 
-void frmTestProxy::StepFailed(const std::string& reason) { ShowStep(Icon::Warn, Ink::Alert, reason); }
+void frmTestProxy::StepFailed(const std::string& reason) { ShowStep(Icon::Warn, TextColor::Alert, reason); }
 
-void frmTestProxy::ShowStep(Icon icon, Ink ink, const std::string& text) {
+void frmTestProxy::ShowStep(Icon icon, TextColor color, const std::string& text) {
   SetIcon(imgProxyStep + step_, icon);
-  SetInk(imgProxyStep + step_, ink);
+  SetTextColor(imgProxyStep + step_, color);
   ShowControl(imgProxyStep + step_);
   SetText(lblProxyStep + step_, text);
 }
@@ -195,7 +195,7 @@ void frmTestProxy::HTTPObjectError(const std::string& reason) {
 
 void frmTestProxy::ShowResult() {
   SetText(lblStatusInfo, LoadText(works_ ? IDS_NET_TEST_WORKS : IDS_NET_TEST_FAILED));
-  SetInk(lblStatusInfo, works_ ? Ink::Signal : Ink::Alert);
+  SetTextColor(lblStatusInfo, works_ ? TextColor::Signal : TextColor::Alert);
   Enable(butTestAgainIt);
 }
 

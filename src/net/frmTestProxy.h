@@ -35,7 +35,7 @@ class frmTestProxy final : public Form, private HttpEvents {
   // The step that runs is done, and the next one begins, if there is one.
   void StepDone();
   void StepFailed(const std::string& reason);
-  void ShowStep(Icon icon, Ink ink, const std::string& text);
+  void ShowStep(Icon icon, TextColor color, const std::string& text);
   void ShowResult();
 
   void HTTPStep(HttpStep) override { StepDone(); }

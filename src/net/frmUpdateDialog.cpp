@@ -33,24 +33,28 @@ int SentenceOf(UndoStatus status) {
 const FormDesign& frmUpdateDialog::Design() {
   static constexpr unsigned char kFoot = kLeft | kBottom;
   static constexpr ControlRow kControls[] = {
-      {.id = lblTitle, .kind = Kind::TitleBar, .text = IDS_NET_UPDATE_TITLE, .at = {40, 4, 156, 26}},
+      {.id = lblTitle, .kind = ControlKind::TitleBar, .text = IDS_NET_UPDATE_TITLE, .at = {40, 4, 156, 26}},
       MessagePicture(),
       MessageText(lblStuff, 82),
       {.id = lblBytes,
-       .kind = Kind::StateLabel,
+       .kind = ControlKind::StateLabel,
        .at = {68, 136, 336, 20},
        .anchors = kFoot,
-       .ink = Ink::Muted},
-      {.id = prgUpdate, .kind = Kind::Progress, .at = {68, 160, 336, 20}, .anchors = kFoot},
-      {.kind = Kind::Groove, .at = {14, 190, 392, 2}, .anchors = kFoot},
-      {.id = butMsg, .kind = Kind::PushKey, .at = {172, 202, 128, 28}, .flags = kHidden, .anchors = kFoot},
+       .color = TextColor::Muted},
+      {.id = prgUpdate, .kind = ControlKind::Progress, .at = {68, 160, 336, 20}, .anchors = kFoot},
+      {.kind = ControlKind::Groove, .at = {14, 190, 392, 2}, .anchors = kFoot},
+      {.id = butMsg,
+       .kind = ControlKind::PushButton,
+       .at = {172, 202, 128, 28},
+       .flags = kHidden,
+       .anchors = kFoot},
       {.id = butMsg + 1,
-       .kind = Kind::PrimaryKey,
+       .kind = ControlKind::PrimaryButton,
        .text = IDS_NET_CANCEL,
        .at = {308, 202, 98, 28},
        .anchors = kFoot},
-      HelpKey(348),
-      CloseKey(380),
+      HelpButton(348),
+      CloseButton(380),
   };
   static constexpr FormDesign kDesign = {.name = "MsgboxFrm",
                                          .caption = IDS_NET_UPDATE_TITLE,
@@ -135,7 +139,7 @@ void frmUpdateDialog::Ended(const UpdateOutcome& outcome) {
 
 void frmUpdateDialog::ShowFailure(bool failed) {
   SetIcon(picStuff, failed ? Icon::Warn : Icon::Info);
-  SetInk(picStuff, failed ? Ink::Accent : Ink::Signal);
+  SetTextColor(picStuff, failed ? TextColor::Accent : TextColor::Signal);
 }
 
 void frmUpdateDialog::SetOffer(Offer offer) {

@@ -1,5 +1,5 @@
-// The window of the station scan, full with queue and history or compact with the labels and keys only.
-// StationScan decides everything; this window shows it and hands the keys on.
+// The window of the station scan, full with queue and history or compact with the labels and buttons only.
+// StationScan decides everything; this window shows it and hands the presses on.
 #pragma once
 
 #include <functional>

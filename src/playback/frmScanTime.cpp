@@ -11,13 +11,16 @@ namespace sonaro {
 
 const FormDesign& frmScanTime::Design() {
   static constexpr ControlRow kControls[] = {
-      {.id = lblTitle, .kind = Kind::TitleBar, .text = IDS_SCAN_W_TIME_TITLE, .at = {40, 4, 156, 26}},
+      {.id = lblTitle, .kind = ControlKind::TitleBar, .text = IDS_SCAN_W_TIME_TITLE, .at = {40, 4, 156, 26}},
       Caption(IDS_SCAN_W_TIME_LABEL, {14, 60, 200, 28}),
-      {.id = cmbScanTime, .kind = Kind::Combo, .text = IDS_SCAN_W_TIME_LABEL, .at = {220, 60, 100, 28}},
-      {.kind = Kind::Groove, .at = {14, 190, 392, 2}},
-      OkKey({214, 201, 92, 30}),
-      CancelKey({314, 201, 92, 30}),
-      CloseKey(380),
+      {.id = cmbScanTime,
+       .kind = ControlKind::Combo,
+       .text = IDS_SCAN_W_TIME_LABEL,
+       .at = {220, 60, 100, 28}},
+      {.kind = ControlKind::Groove, .at = {14, 190, 392, 2}},
+      OkButton({214, 201, 92, 30}),
+      CancelButton({314, 201, 92, 30}),
+      CloseButton(380),
   };
   static constexpr FormDesign kDesign = {.name = "frmScanTime",
                                          .caption = IDS_SCAN_W_TIME_TITLE,

@@ -91,7 +91,7 @@ Notification NotificationFor(const ScheduleItem& item, const StationSource& stat
   const StationKey key = StationKey::FromRowKey(StationKeyOf(item.action));
   if (key.kind == StationKey::Kind::Directory) AddDirectoryLinks(shown.plays, key, stations, extraLinks);
   if (key.kind == StationKey::Kind::Personal) AddPersonalLinks(shown.plays, key, stations);
-  if (shown.plays.size() > Notification::kPlayKeys) shown.plays.resize(Notification::kPlayKeys);
+  if (shown.plays.size() > Notification::kPlayButtons) shown.plays.resize(Notification::kPlayButtons);
   return shown;
 }
 

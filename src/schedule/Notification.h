@@ -14,7 +14,7 @@ namespace sonaro {
 
 class ExtraLinks;
 
-// One play key: its caption, a second line, and what LaunchStation is given.
+// One play button: its caption, a second line, and what LaunchStation is given.
 struct PlayChoice {
   std::string caption;  // "Play (MP3)"
   std::string detail;   // "128 kbit/s", the server of a further link, or ""
@@ -23,14 +23,14 @@ struct PlayChoice {
 };
 
 struct Notification {
-  static constexpr std::size_t kPlayKeys = 3;
+  static constexpr std::size_t kPlayButtons = 3;
 
   std::string eventName;
   std::string notice;
   std::string note;
   std::string webSite;            // an address that begins with "http", or ""
   bool opensWebSite = false;      // by itself, when it comes
-  std::vector<PlayChoice> plays;  // at most kPlayKeys
+  std::vector<PlayChoice> plays;  // at most kPlayButtons
 };
 
 Notification NotificationFor(const ScheduleItem& item, const StationSource& stations,

@@ -8,7 +8,7 @@ namespace sonaro {
 
 namespace {
 
-constexpr int kPlayKeyCount = 3;
+constexpr int kPlayButtonCount = 3;
 constexpr unsigned kSoundDelay = 50;  // milliseconds: the window has been painted
 constexpr unsigned char kNoticePane = 1;
 constexpr unsigned char kMissedPane = 2;
@@ -17,53 +17,59 @@ constexpr unsigned char kMissedPane = 2;
 
 const FormDesign& frmNotify::Design() {
   static constexpr ControlRow kControls[] = {
-      {.id = lblTitle, .kind = Kind::TitleBar, .text = IDS_SCHED_NOTIFY_TITLE, .at = {40, 4, 200, 26}},
-      {.kind = Kind::Glass, .at = {14, 46, 412, 94}, .pane = kNoticePane, .cut = 12},
-      {.kind = Kind::Glass, .at = {14, 46, 412, 150}, .pane = kMissedPane, .cut = 12},
-      {.kind = Kind::Label,
+      {.id = lblTitle, .kind = ControlKind::TitleBar, .text = IDS_SCHED_NOTIFY_TITLE, .at = {40, 4, 200, 26}},
+      {.kind = ControlKind::Glass, .at = {14, 46, 412, 94}, .pane = kNoticePane, .cut = 12},
+      {.kind = ControlKind::Glass, .at = {14, 46, 412, 150}, .pane = kMissedPane, .cut = 12},
+      {.kind = ControlKind::Label,
        .at = {34, 56, 24, 24},
        .icon = Icon::Bell,
        .flags = kOnGlass,
-       .ink = Ink::Accent},
+       .color = TextColor::Accent},
       {.id = lblNoticeInfo,
-       .kind = Kind::StateLabel,
+       .kind = ControlKind::StateLabel,
        .at = {70, 52, 344, 22},
        .flags = kOnGlass | kNoPrefix,
-       .ink = Ink::GlassMuted},
+       .color = TextColor::GlassMuted},
       {.id = lblEventName,
-       .kind = Kind::StateLabel,
+       .kind = ControlKind::StateLabel,
        .at = {70, 72, 344, 30},
        .flags = kOnGlass | kNoPrefix,
-       .type = Type::Heading,
+       .style = TextStyle::Heading,
        .pane = kNoticePane},
       {.id = lblNote,
-       .kind = Kind::StateLabel,
+       .kind = ControlKind::StateLabel,
        .at = {70, 104, 344, 34},
        .flags = kOnGlass | kNoPrefix | kWrap,
        .pane = kNoticePane},
       {.id = txtMissed,
-       .kind = Kind::ReadOnlyText,
+       .kind = ControlKind::ReadOnlyText,
        .at = {70, 74, 344, 118},
        .flags = kOnGlass | kTabStop,
        .pane = kMissedPane},
-      {.id = butPlay1It, .kind = Kind::PlayKey, .at = {14, 150, 134, 40}, .flags = kHidden | kNoPrefix},
+      {.id = butPlay1It,
+       .kind = ControlKind::PlayButton,
+       .at = {14, 150, 134, 40},
+       .flags = kHidden | kNoPrefix},
       {.id = butPlay2It,
-       .kind = Kind::PlayKey,
+       .kind = ControlKind::PlayButton,
        .at = {153, 150, 134, 40},
        .flags = kHidden | kNoPrefix | kSecondary},
       {.id = butPlay3It,
-       .kind = Kind::PlayKey,
+       .kind = ControlKind::PlayButton,
        .at = {292, 150, 134, 40},
        .flags = kHidden | kNoPrefix | kSecondary},
       {.id = butGoWebSiteIt,
-       .kind = Kind::PushKey,
+       .kind = ControlKind::PushButton,
        .text = IDS_SCHED_NOTIFY_WEB,
        .at = {14, 206, 150, 30},
        .icon = Icon::Web,
        .flags = kHidden},
-      {.id = butCloselIt, .kind = Kind::PushKey, .text = IDS_SCHED_NOTIFY_CLOSE, .at = {330, 206, 96, 30}},
-      HelpKey(368),
-      CloseKey(400),
+      {.id = butCloselIt,
+       .kind = ControlKind::PushButton,
+       .text = IDS_SCHED_NOTIFY_CLOSE,
+       .at = {330, 206, 96, 30}},
+      HelpButton(368),
+      CloseButton(400),
   };
   static constexpr FormDesign kDesign = {.name = "frmNotify",
                                          .caption = IDS_SCHED_NOTIFY_TITLE,
@@ -76,7 +82,7 @@ const FormDesign& frmNotify::Design() {
 
 std::span<const EventRow> frmNotify::Events() const {
   static const EventRow kRows[] = {
-      {butPlay1It, Click, &frmNotify::butPlay_Click, kPlayKeyCount},
+      {butPlay1It, Click, &frmNotify::butPlay_Click, kPlayButtonCount},
       {butGoWebSiteIt, Click, &frmNotify::butGoWebSiteIt_Click},
       {butCloselIt, Click, &frmNotify::butCloselIt_Click},
       {butCloseIt, Click, &frmNotify::butCloselIt_Click},
@@ -110,12 +116,12 @@ void frmNotify::OnLoad() {
     SetText(lblNoticeInfo, notification_.notice);
     SetText(lblEventName, notification_.eventName);
     SetText(lblNote, notification_.note);
-    ShowPlayKeys();
+    ShowPlayButtons();
   }
   StartTimer(Timer1, kSoundDelay);
 }
 
-void frmNotify::ShowPlayKeys() {
+void frmNotify::ShowPlayButtons() {
   for (std::size_t i = 0; i < notification_.plays.size(); ++i) {
     const int id = butPlay1It + static_cast<int>(i);
     SetText(id, notification_.plays[i].caption);

@@ -1,6 +1,6 @@
-// The notification: what comes on, with keys to play it or to open its web site. Opens in the lower right of
-// the screen without taking the focus from what the user types in. One window for each notice; frmNotifyStack
-// owns and places them.
+// The notification: what comes on, with buttons to play it or to open its web site. Opens in the lower right
+// of the screen without taking the focus from what the user types in. One window for each notice;
+// frmNotifyStack owns and places them.
 #pragma once
 
 #include <functional>
@@ -29,7 +29,7 @@ class frmNotify final : public Form {
   std::span<const EventRow> Events() const override;
   std::span<const TimerRow> Timers() const override;
   void OnLoad() override;
-  void ShowPlayKeys();
+  void ShowPlayButtons();
 
   void butPlay_Click(int index);
   void butGoWebSiteIt_Click() { actions_.openPage(notification_.webSite); }

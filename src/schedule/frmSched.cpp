@@ -139,7 +139,7 @@ void frmSched::butDeleteIt_Click() {
     SavedOrSaid(saved, LoadText(IDS_FILE_SCHEDULE), services_.messages, context_.strings);
   }
   FillLists();
-  Focus(showsUsed_ ? lstShows : lstSched);  // the key may be out of use now
+  Focus(showsUsed_ ? lstShows : lstSched);  // the button may be out of use now
 }
 
 void frmSched::butAboutTimeIt_Click() {

@@ -76,7 +76,7 @@ void frmSchedChange::ShowKind() {
 void frmSchedChange::ShowSummary() {
   SetText(lblSummary, draft_.Summary(services_.clockStyle, services_.shortDatePattern));
   std::string next;
-  Ink ink = Ink::GlassMuted;
+  TextColor color = TextColor::GlassMuted;
   if (draft_.Fault(services_.shortDatePattern) == DraftFault::None) {
     const DateTime now = services_.clock.LocalNow();
     const ScheduleItem item = draft_.ToItem(services_.clockStyle, services_.shortDatePattern);
@@ -84,10 +84,10 @@ void frmSchedChange::ShowSummary() {
       next = FormatText(LoadText(IDS_SCHED_CHANGE_NEXT), {NextShown(*at, now, services_.clockStyle)});
     } else if (draft_.kind == ScheduleKind::Once) {
       next = LoadText(IDS_SCHED_CHANGE_PASSED);
-      ink = Ink::Alert;
+      color = TextColor::Alert;
     }
   }
-  SetInk(lblNextTime, ink);
+  SetTextColor(lblNextTime, color);
   SetText(lblNextTime, next);
 }
 

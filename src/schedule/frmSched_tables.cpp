@@ -9,11 +9,11 @@ namespace {
 
 constexpr int kListLeft = 14;
 
-// The header key over a column of the list whose header is at `y`.
+// The header button over a column of the list whose header is at `y`.
 constexpr ControlRow Header(int id, int text, int y, int column) {
   constexpr int kEdges[] = {0, 130, 310, 482, 672};
   return {.id = id + column,
-          .kind = Kind::HeaderKey,
+          .kind = ControlKind::HeaderButton,
           .text = text,
           .at = {kListLeft + kEdges[column], y, kEdges[column + 1] - kEdges[column], 24}};
 }
@@ -22,41 +22,53 @@ constexpr ControlRow Header(int id, int text, int y, int column) {
 
 const FormDesign& frmSched::Design() {
   static constexpr ControlRow kControls[] = {
-      {.id = lblTitle, .kind = Kind::TitleBar, .text = IDS_SCHED_LIST_TITLE, .at = {40, 4, 216, 26}},
+      {.id = lblTitle, .kind = ControlKind::TitleBar, .text = IDS_SCHED_LIST_TITLE, .at = {40, 4, 216, 26}},
       Header(butSchedSplit, IDS_SCHED_COLUMN_NEXT, 66, kNextColumn),
       Header(butSchedSplit, IDS_SCHED_COLUMN_STATION, 66, kNameColumn),
       Header(butSchedSplit, IDS_SCHED_COLUMN_OFTEN, 66, kOftenColumn),
       Header(butSchedSplit, IDS_SCHED_COLUMN_NOTE, 66, kNoteColumn),
       Caption(IDS_SCHED_LIST_CAPTION, {14, 42, 400, 24}),
-      {.id = lstSched, .kind = Kind::ListView, .text = IDS_SCHED_LIST_CAPTION, .at = {14, 90, 672, 162}},
+      {.id = lstSched,
+       .kind = ControlKind::ListView,
+       .text = IDS_SCHED_LIST_CAPTION,
+       .at = {14, 90, 672, 162}},
       Header(butShowSplit, IDS_SCHED_COLUMN_NEXT, 284, kNextColumn),
       Header(butShowSplit, IDS_SCHED_COLUMN_SHOW, 284, kNameColumn),
       Header(butShowSplit, IDS_SCHED_COLUMN_OFTEN, 284, kOftenColumn),
       Header(butShowSplit, IDS_SCHED_COLUMN_NOTE, 284, kNoteColumn),
       Caption(IDS_SCHED_LIST_SHOWS, {14, 260, 400, 24}),
-      {.id = lstShows, .kind = Kind::ListView, .text = IDS_SCHED_LIST_SHOWS, .at = {14, 308, 672, 94}},
+      {.id = lstShows, .kind = ControlKind::ListView, .text = IDS_SCHED_LIST_SHOWS, .at = {14, 308, 672, 94}},
       {.id = butAddIt,
-       .kind = Kind::PrimaryKey,
+       .kind = ControlKind::PrimaryButton,
        .text = IDS_SCHED_ADD,
        .at = {14, 412, 98, 30},
        .icon = Icon::Add},
       {.id = butChangeIt,
-       .kind = Kind::PushKey,
+       .kind = ControlKind::PushButton,
        .text = IDS_SCHED_MODIFY,
        .at = {118, 412, 98, 30},
        .icon = Icon::Modify,
        .flags = kDisabled},
       {.id = butDeleteIt,
-       .kind = Kind::PushKey,
+       .kind = ControlKind::PushButton,
        .text = IDS_SCHED_DELETE,
        .at = {222, 412, 98, 30},
        .icon = Icon::Clear,
        .flags = kDisabled},
-      {.id = butExportIt, .kind = Kind::PushKey, .text = IDS_SCHED_EXPORT, .at = {326, 412, 96, 30}},
-      {.id = butAboutTimeIt, .kind = Kind::PushKey, .text = IDS_SCHED_ABOUT_TIMES, .at = {458, 412, 120, 30}},
-      {.id = butCloseIt, .kind = Kind::PushKey, .text = IDS_SCHED_NOTIFY_CLOSE, .at = {590, 412, 96, 30}},
-      HelpKey(628),
-      CloseKey(660, butCancelIt),
+      {.id = butExportIt,
+       .kind = ControlKind::PushButton,
+       .text = IDS_SCHED_EXPORT,
+       .at = {326, 412, 96, 30}},
+      {.id = butAboutTimeIt,
+       .kind = ControlKind::PushButton,
+       .text = IDS_SCHED_ABOUT_TIMES,
+       .at = {458, 412, 120, 30}},
+      {.id = butCloseIt,
+       .kind = ControlKind::PushButton,
+       .text = IDS_SCHED_NOTIFY_CLOSE,
+       .at = {590, 412, 96, 30}},
+      HelpButton(628),
+      CloseButton(660, butCancelIt),
   };
   static constexpr KeyRow kKeys[] = {
       {.key = VK_DELETE, .command = butDeleteIt, .onlyIn = lstSched, .controls = 2},

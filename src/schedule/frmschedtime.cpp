@@ -12,7 +12,7 @@ constexpr unsigned kFirstTick = 1000;  // milliseconds until the command of whoe
 
 const FormDesign& frmschedtime::Design() {
   static constexpr ControlRow kControls[] = {
-      {.id = lblCloseIt, .kind = Kind::Label, .at = {14, 48, 100, 20}}};
+      {.id = lblCloseIt, .kind = ControlKind::Label, .at = {14, 48, 100, 20}}};
   static constexpr FormDesign kDesign = {
       .name = "frmschedtime", .caption = "frmschedtime", .size = {200, 100}, .controls = kControls};
   return kDesign;

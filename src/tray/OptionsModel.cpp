@@ -41,7 +41,7 @@ Options OptionsModel::Read() const {
   now.afterClose = ReadAfterClose(reg_);
   const std::string notify = reg_.Setting(setting::kSoundNotify);
   now.soundWithNotice = notify.empty() || EqualIgnoringCase(notify, "True");
-  now.clickWithKeys = !Says(reg_, setting::kSoundClick, "False");
+  now.clickWithButtons = !Says(reg_, setting::kSoundClick, "False");
   now.useProxy = IsYes(reg_.Setting(setting::kProxyUse));
   now.proxy = {std::string(TrimBlanks(reg_.Setting(setting::kProxyAddress))),
                std::string(TrimBlanks(reg_.Setting(setting::kProxyPort)))};
@@ -67,7 +67,7 @@ StoreOutcome OptionsModel::Store(Options wanted) {
   if (wanted.afterClose != before.afterClose)
     reg_.SetSetting(setting::kCloseToTray, AfterCloseText(wanted.afterClose));
   StoreYesNo(setting::kSoundNotify, before.soundWithNotice, wanted.soundWithNotice, "True", "False");
-  StoreYesNo(setting::kSoundClick, before.clickWithKeys, wanted.clickWithKeys, "True", "False");
+  StoreYesNo(setting::kSoundClick, before.clickWithButtons, wanted.clickWithButtons, "True", "False");
   if (wanted.useProxy != before.useProxy || wanted.proxy != before.proxy)
     StoreProxy(reg_, wanted.useProxy, wanted.proxy);
   StoreYesNo(setting::kStartPlayer, before.lookForPlayer, wanted.lookForPlayer, "Yes", "No");

@@ -20,7 +20,7 @@ struct Options {
   bool startWithWindows = false;
   AfterClose afterClose = AfterClose::Ask;
   bool soundWithNotice = true;
-  bool clickWithKeys = true;
+  bool clickWithButtons = true;
   bool useProxy = false;
   ProxyServer proxy;
   // What the next start does.

@@ -58,7 +58,7 @@ void frmOptions::Fill(const Options& options) {
   Check(chkStartWindows, options.startWithWindows);
   SelectItemData(cmbAfterClose, static_cast<int>(options.afterClose));
   Check(chkSoundNotice, options.soundWithNotice);
-  Check(chkSoundKeys, options.clickWithKeys);
+  Check(chkSoundKeys, options.clickWithButtons);
   Check(optProxy + (options.useProxy ? 1 : 0));
   SetText(txtProxy, options.proxy.address);
   SetText(txtPort, options.proxy.port);
@@ -74,7 +74,7 @@ Options frmOptions::Wanted() const {
   wanted.startWithWindows = IsChecked(chkStartWindows);
   wanted.afterClose = static_cast<AfterClose>(ItemData(cmbAfterClose, SelectedItem(cmbAfterClose)));
   wanted.soundWithNotice = IsChecked(chkSoundNotice);
-  wanted.clickWithKeys = IsChecked(chkSoundKeys);
+  wanted.clickWithButtons = IsChecked(chkSoundKeys);
   wanted.useProxy = IsChecked(optProxy + 1);
   wanted.proxy = TypedProxy();
   wanted.lookForPlayer = IsChecked(chkLookForPlayer);
@@ -92,23 +92,23 @@ void frmOptions::ShowProxyControls() {
   for (const int id : {txtProxy, txtPort, butTestProxyIt}) Enable(id, use);
 }
 
-void frmOptions::Inform(std::string_view sentence, Ink ink) {
-  SetInk(lblOptionsInfo, ink);
+void frmOptions::Inform(std::string_view sentence, TextColor color) {
+  SetTextColor(lblOptionsInfo, color);
   SetText(lblOptionsInfo, sentence);
 }
 
 void frmOptions::optProxy_Click(int) {
   ShowProxyControls();
-  Inform("", Ink::Text);
+  Inform("", TextColor::Text);
 }
 
 // What was said about the proxy was said about another text.
-void frmOptions::txtProxy_Change() { Inform("", Ink::Text); }
+void frmOptions::txtProxy_Change() { Inform("", TextColor::Text); }
 
 void frmOptions::butFindProxyIt_Click() {
   const std::string found = calls_.findProxy();
   if (found.empty()) {
-    Inform(LoadText(IDS_OPTIONS_PROXY_NONE), Ink::Text);
+    Inform(LoadText(IDS_OPTIONS_PROXY_NONE), TextColor::Text);
     return;
   }
   const ProxyServer server = SplitProxy(found);
@@ -116,19 +116,19 @@ void frmOptions::butFindProxyIt_Click() {
   SetText(txtProxy, server.address);
   SetText(txtPort, server.port);
   ShowProxyControls();
-  Inform(FormatText(LoadText(IDS_OPTIONS_PROXY_FOUND), {found}), Ink::Signal);
+  Inform(FormatText(LoadText(IDS_OPTIONS_PROXY_FOUND), {found}), TextColor::Signal);
 }
 
 void frmOptions::butTestProxyIt_Click() {
   if (ShowProxyError()) return;
-  Inform("", Ink::Text);
+  Inform("", TextColor::Text);
   calls_.testProxy(Window(), TypedProxy());
 }
 
 // True when the proxy cannot be used as it is typed: the sentence is shown and the edit has the focus.
 bool frmOptions::ShowProxyError() {
   const auto complain = [this](int sentence, int edit) {
-    Inform(LoadText(sentence), Ink::Alert);
+    Inform(LoadText(sentence), TextColor::Alert);
     Focus(edit);
     SelectAllText(edit);
     return true;
@@ -162,7 +162,7 @@ void frmOptions::butOKIt_Click() {
       ShowProxyError();
       break;
     case StoreOutcome::Refused:
-      Inform(LoadText(IDS_OPTIONS_NOT_STORED), Ink::Alert);
+      Inform(LoadText(IDS_OPTIONS_NOT_STORED), TextColor::Alert);
       break;
   }
 }

@@ -1,5 +1,5 @@
 // The user's options in one dialog. What they are and what is stored is OptionsModel's; a faceplate shows in
-// every window as soon as its key is pressed and goes again with Cancel.
+// every window as soon as its button is pressed and goes again with Cancel.
 #pragma once
 
 #include <functional>
@@ -34,7 +34,7 @@ class frmOptions final : public Form {
   Options Wanted() const;
   ProxyServer TypedProxy() const;
   void ShowProxyControls();
-  void Inform(std::string_view sentence, Ink ink);
+  void Inform(std::string_view sentence, TextColor color);
   bool ShowProxyError();
 
   void butPlaySoundIt_Click() { calls_.playNoticeSound(); }

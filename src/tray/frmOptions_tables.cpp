@@ -12,87 +12,92 @@ constexpr int kBeside = 170;   // of what stands beside them
 constexpr int kLineWidth = 572;
 
 constexpr ControlRow Heading(int text, int y) {
-  return {.kind = Kind::Label,
+  return {.kind = ControlKind::Label,
           .text = text,
           .at = {kHeadings, y, 150, 24},
-          .type = Type::MessageStrong,
-          .ink = Ink::TabText};
+          .style = TextStyle::MessageStrong,
+          .color = TextColor::TabText};
 }
 
-constexpr ControlRow Line(int y) { return {.kind = Kind::Groove, .at = {kHeadings, y, kLineWidth, 2}}; }
+constexpr ControlRow Line(int y) {
+  return {.kind = ControlKind::Groove, .at = {kHeadings, y, kLineWidth, 2}};
+}
 
 constexpr ControlRow Box(int id, int text, int y) {
-  return {.id = id, .kind = Kind::CheckBox, .text = text, .at = {kBeside, y, 290, 24}};
+  return {.id = id, .kind = ControlKind::CheckBox, .text = text, .at = {kBeside, y, 290, 24}};
 }
 
 constexpr ControlRow PlainCaption(int text, DesignRect at) {
-  return {.kind = Kind::Label, .text = text, .at = at, .ink = Ink::Muted};
+  return {.kind = ControlKind::Label, .text = text, .at = at, .color = TextColor::Muted};
 }
 
-constexpr ControlRow Key(int id, int text, DesignRect at, Icon icon = Icon::None) {
-  return {.id = id, .kind = Kind::PushKey, .text = text, .at = at, .icon = icon};
+constexpr ControlRow ButtonRow(int id, int text, DesignRect at, Icon icon = Icon::None) {
+  return {.id = id, .kind = ControlKind::PushButton, .text = text, .at = at, .icon = icon};
 }
 
 }  // namespace
 
 const FormDesign& frmOptions::Design() {
   static constexpr ControlRow kControls[] = {
-      {.id = lblTitle, .kind = Kind::TitleBar, .text = IDS_OPTIONS_TITLE, .at = {40, 4, 206, 26}},
+      {.id = lblTitle, .kind = ControlKind::TitleBar, .text = IDS_OPTIONS_TITLE, .at = {40, 4, 206, 26}},
 
       Heading(IDS_OPTIONS_GENERAL, 46),
       Box(chkStartWindows, IDS_OPTIONS_START_WINDOWS, 46),
       PlainCaption(IDS_OPTIONS_AFTER_CLOSE, {kBeside, 74, 208, 28}),
-      {.id = cmbAfterClose, .kind = Kind::Combo, .at = {386, 74, 200, 28}},
+      {.id = cmbAfterClose, .kind = ControlKind::Combo, .at = {386, 74, 200, 28}},
 
       Line(108),
       Heading(IDS_OPTIONS_SOUNDS, 116),
       Box(chkSoundNotice, IDS_OPTIONS_SOUND_NOTICE, 116),
-      Key(butPlaySoundIt, IDS_OPTIONS_PLAY_SOUND, {474, 114, 112, 28}, Icon::Sound),
+      ButtonRow(butPlaySoundIt, IDS_OPTIONS_PLAY_SOUND, {474, 114, 112, 28}, Icon::Sound),
       Box(chkSoundKeys, IDS_OPTIONS_SOUND_KEYS, 142),
 
       Line(170),
       Heading(IDS_OPTIONS_CONNECTION, 176),
       {.id = optProxy,
-       .kind = Kind::RadioButton,
+       .kind = ControlKind::RadioButton,
        .text = IDS_OPTIONS_DIRECT,
        .at = {kBeside, 176, 180, 24},
        .flags = kGroup},
       {.id = optProxy + 1,
-       .kind = Kind::RadioButton,
+       .kind = ControlKind::RadioButton,
        .text = IDS_OPTIONS_PROXY,
        .at = {kBeside, 202, 180, 24}},
-      Key(butFindProxyIt, IDS_OPTIONS_FIND_PROXY, {354, 200, 112, 28}),
-      Key(butTestProxyIt, IDS_OPTIONS_TEST_PROXY, {474, 200, 112, 28}),
+      ButtonRow(butFindProxyIt, IDS_OPTIONS_FIND_PROXY, {354, 200, 112, 28}),
+      ButtonRow(butTestProxyIt, IDS_OPTIONS_TEST_PROXY, {474, 200, 112, 28}),
       PlainCaption(IDS_OPTIONS_ADDRESS, {194, 234, 60, 28}),
-      {.id = txtProxy, .kind = Kind::Edit, .at = {254, 234, 190, 28}},
+      {.id = txtProxy, .kind = ControlKind::Edit, .at = {254, 234, 190, 28}},
       PlainCaption(IDS_OPTIONS_PORT, {454, 234, 34, 28}),
-      {.id = txtPort, .kind = Kind::Edit, .at = {490, 234, 96, 28}},
-      {.id = lblOptionsInfo, .kind = Kind::StateLabel, .at = {194, 264, 392, 34}, .flags = kWrap | kNoPrefix},
+      {.id = txtPort, .kind = ControlKind::Edit, .at = {490, 234, 96, 28}},
+      {.id = lblOptionsInfo,
+       .kind = ControlKind::StateLabel,
+       .at = {194, 264, 392, 34},
+       .flags = kWrap | kNoPrefix},
 
       Line(300),
       Heading(IDS_OPTIONS_START, 306),
       Box(chkLookForPlayer, IDS_OPTIONS_LOOK_PLAYER, 306),
-      Key(butPlayerIt, IDS_OPTIONS_PLAYER, {474, 306, 112, 28}),
+      ButtonRow(butPlayerIt, IDS_OPTIONS_PLAYER, {474, 306, 112, 28}),
       Box(chkLookForProxy, IDS_OPTIONS_LOOK_PROXY, 330),
       Box(chkOfferTutorial, IDS_OPTIONS_TUTORIAL, 354),
 
       Line(380),
       Heading(IDS_OPTIONS_FACEPLATE, 386),
       {.id = optFaceplate,
-       .kind = Kind::ToggleKey,
+       .kind = ControlKind::ToggleButton,
        .text = IDS_OPTIONS_GRAPHITE,
        .at = {kBeside, 386, 108, 28},
        .flags = kGroup},
       {.id = optFaceplate + 1,
-       .kind = Kind::ToggleKey,
+       .kind = ControlKind::ToggleButton,
        .text = IDS_OPTIONS_PORCELAIN,
        .at = {286, 386, 108, 28}},
 
-      Key(butAboutTimeIt, IDS_OPTIONS_ABOUT_TIME, {kHeadings, 422, 124, 30}, Icon::Sched),
-      OkKey({386, 422, 96, 30}),
-      CancelKey({490, 422, 96, 30}),
-      HelpKey(528),
-      CloseKey(560),
+      ButtonRow(butAboutTimeIt, IDS_OPTIONS_ABOUT_TIME, {kHeadings, 422, 124, 30}, Icon::Sched),
+      OkButton({386, 422, 96, 30}),
+      CancelButton({490, 422, 96, 30}),
+      HelpButton(528),
+      CloseButton(560),
   };
   static constexpr FormDesign kDesign = {.name = "frmOptions",
                                          .caption = IDS_OPTIONS_TITLE,

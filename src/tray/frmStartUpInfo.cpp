@@ -34,7 +34,7 @@ const char* CheckOf(StartUpInfoPage page) {
 
 constexpr ControlRow ReportLine(int id, int y) {
   return {.id = id,
-          .kind = Kind::StateLabel,
+          .kind = ControlKind::StateLabel,
           .at = {30, y, 540, 20},
           .flags = kOnGlass | kNoPrefix,
           .pane = kPlayerPane};
@@ -44,24 +44,24 @@ constexpr ControlRow ReportLine(int id, int y) {
 
 const FormDesign& frmStartUpInfo::Design() {
   static constexpr ControlRow kControls[] = {
-      {.id = lblTitle, .kind = Kind::TitleBar, .text = IDS_STARTUP_TITLE, .at = {40, 4, 216, 26}},
-      {.id = lblHead, .kind = Kind::StateLabel, .at = {14, 48, 560, 28}, .type = Type::Heading},
-      {.id = lblText, .kind = Kind::StateLabel, .at = {14, 80, 572, 56}, .flags = kWrap},
-      {.kind = Kind::Glass, .at = {14, 142, 572, 160}, .cut = 12},
-      {.kind = Kind::Label,
+      {.id = lblTitle, .kind = ControlKind::TitleBar, .text = IDS_STARTUP_TITLE, .at = {40, 4, 216, 26}},
+      {.id = lblHead, .kind = ControlKind::StateLabel, .at = {14, 48, 560, 28}, .style = TextStyle::Heading},
+      {.id = lblText, .kind = ControlKind::StateLabel, .at = {14, 80, 572, 56}, .flags = kWrap},
+      {.kind = ControlKind::Glass, .at = {14, 142, 572, 160}, .cut = 12},
+      {.kind = ControlKind::Label,
        .text = IDS_STARTUP_PLAY_WITH,
        .at = {30, 148, 400, 22},
        .flags = kOnGlass,
-       .type = Type::BodyStrong,
+       .style = TextStyle::BodyStrong,
        .pane = kPlayerPane},
       {.id = cmbPlayWith,
-       .kind = Kind::Combo,
+       .kind = ControlKind::Combo,
        .text = IDS_STARTUP_PLAY_WITH,
        .at = {30, 172, 436, 28},
        .flags = kOnGlass,
        .pane = kPlayerPane},
       {.id = butBrowseIt,
-       .kind = Kind::PushKey,
+       .kind = ControlKind::PushButton,
        .text = IDS_NOPLAYER_BROWSE,
        .at = {474, 172, 98, 28},
        .flags = kOnGlass,
@@ -70,55 +70,58 @@ const FormDesign& frmStartUpInfo::Design() {
       ReportLine(lblOthersFound, 223),
       ReportLine(lblWebFound, 242),
       {.id = butFindIt,
-       .kind = Kind::PushKey,
+       .kind = ControlKind::PushButton,
        .text = IDS_NOPLAYER_FIND_IT,
        .at = {30, 266, 104, 30},
        .flags = kOnGlass,
        .pane = kPlayerPane},
       {.id = butTestProgramIt,
-       .kind = Kind::PushKey,
+       .kind = ControlKind::PushButton,
        .text = IDS_NOPLAYER_TEST_PROGRAM,
        .at = {142, 266, 124, 30},
        .flags = kOnGlass,
        .pane = kPlayerPane},
-      {.kind = Kind::Label,
+      {.kind = ControlKind::Label,
        .text = IDS_STARTUP_PROXY_SERVER,
        .at = {30, 156, 120, 24},
        .flags = kOnGlass,
-       .type = Type::BodyStrong,
+       .style = TextStyle::BodyStrong,
        .pane = kProxyPane},
       {.id = lblProxyFound,
-       .kind = Kind::StateLabel,
+       .kind = ControlKind::StateLabel,
        .at = {160, 156, 400, 24},
        .flags = kOnGlass | kNoPrefix,
        .pane = kProxyPane},
       {.id = optUseProxy,
-       .kind = Kind::RadioButton,
+       .kind = ControlKind::RadioButton,
        .text = IDS_STARTUP_USE_PROXY,
        .at = {30, 196, 300, 24},
        .flags = kOnGlass | kGroup,
        .pane = kProxyPane},
       {.id = optUseProxy + 1,
-       .kind = Kind::RadioButton,
+       .kind = ControlKind::RadioButton,
        .text = IDS_STARTUP_NO_PROXY,
        .at = {30, 222, 300, 24},
        .flags = kOnGlass,
        .pane = kProxyPane},
       {.id = chkDontShow,
-       .kind = Kind::CheckBox,
+       .kind = ControlKind::CheckBox,
        .text = IDS_STARTUP_DONT_SHOW,
        .at = {16, 312, 300, 28},
        .flags = kGroup},
       {.id = butPlayerWebSiteIt,
-       .kind = Kind::PushKey,
+       .kind = ControlKind::PushButton,
        .text = IDS_NOPLAYER_PLAYER_WEBSITE,
        .at = {14, 352, 140, 30},
        .icon = Icon::Web,
        .pane = kPlayerPane},
-      {.id = butOKIt, .kind = Kind::PrimaryKey, .text = IDS_NOPLAYER_OK, .at = {380, 352, 96, 30}},
-      {.id = butDoneIt, .kind = Kind::PushKey, .text = IDS_NOPLAYER_CLOSE, .at = {484, 352, 102, 30}},
-      HelpKey(528),
-      CloseKey(560),
+      {.id = butOKIt, .kind = ControlKind::PrimaryButton, .text = IDS_NOPLAYER_OK, .at = {380, 352, 96, 30}},
+      {.id = butDoneIt,
+       .kind = ControlKind::PushButton,
+       .text = IDS_NOPLAYER_CLOSE,
+       .at = {484, 352, 102, 30}},
+      HelpButton(528),
+      CloseButton(560),
   };
   static constexpr FormDesign kDesign = {.name = "frmStartUpInfo",
                                          .caption = IDS_STARTUP_TITLE,
@@ -196,7 +199,7 @@ void frmStartUpInfo::ShowReport() {
   const PlayerReport report = needs_.reporter.Report(counts_, Selected());
   constexpr int kLines[] = {lblFound, lblOthersFound, lblWebFound};
   for (std::size_t line = 0; line < report.lines.size(); ++line) {
-    SetInk(kLines[line], report.lines[line].missing ? Ink::Alert : Ink::Signal);
+    SetTextColor(kLines[line], report.lines[line].missing ? TextColor::Alert : TextColor::Signal);
     SetText(kLines[line], report.lines[line].text);
   }
   const bool none = report.plays == Plays::Nothing;
@@ -212,7 +215,7 @@ void frmStartUpInfo::ShowReport() {
 }
 
 void frmStartUpInfo::ShowError(const std::string& sentence) {
-  SetInk(lblFound, Ink::Alert);
+  SetTextColor(lblFound, TextColor::Alert);
   SetText(lblFound, sentence);
 }
 

@@ -34,7 +34,8 @@ NOTIFYICONDATAW IconData(HWND window) {
 }  // namespace
 
 const FormDesign& frmSysTrayMenu::Design() {
-  static constexpr ControlRow kControls[] = {{.id = lblTrayText, .kind = Kind::Label, .at = {0, 0, 100, 20}}};
+  static constexpr ControlRow kControls[] = {
+      {.id = lblTrayText, .kind = ControlKind::Label, .at = {0, 0, 100, 20}}};
   static constexpr FormDesign kDesign = {.name = "frmSysTrayMenu",
                                          .caption = "frmSysTrayMenu",
                                          .size = {200, 60},

@@ -1,5 +1,5 @@
 // package_user PROGRAM use | see: works the windows of a Sonaro that was installed or unpacked, for
-// scripts/test-package. "use" switches the click of the keys off, looks at the players and puts a station
+// scripts/test-package. "use" switches the click of the buttons off, looks at the players and puts a station
 // into a new group; "see" looks for both in a new session. package_user load LIBRARY: loads a library as
 // careless programs do, by its bare name. Exit status 0 when all went as it should; otherwise what did not is
 // printed.
@@ -67,7 +67,7 @@ class Session {
 
 void Use(const Session& session) {
   HWND options = session.Options();
-  Expect(IsChecked(Control(options, chkSoundKeys)), "the keys do not click at first");
+  Expect(IsChecked(Control(options, chkSoundKeys)), "the buttons do not click at first");
   Click(Control(options, chkSoundKeys));
   Click(Control(options, butPlayerIt));  // asks Windows about players, by files that it makes for that
   HWND player = session.Dialog("frmStartUpInfo");

@@ -28,17 +28,17 @@ TEST(DeriveColors, MixesRounded) {
     std::uint32_t graphite;
     std::uint32_t porcelain;
   } cases[] = {
-      {&F::keyTop, 0x434951, 0xF7F6F1},      {&F::keyBottom, 0x343942, 0xE8E6E2},
-      {&F::keyHigh, 0x5F646B, 0xF9F7F3},     {&F::keyHover, 0x534D44, 0xEFDCD0},
-      {&F::keyMuted, 0xC8CED4, 0x3B4147},    {&F::keyDown, 0x2C3138, 0xC6C4C0},
-      {&F::keyOn, 0x372E1F, 0xF5E0D5},       {&F::textOff, 0x96999C, 0x777877},
+      {&F::buttonTop, 0x434951, 0xF7F6F1},   {&F::buttonBottom, 0x343942, 0xE8E6E2},
+      {&F::buttonHigh, 0x5F646B, 0xF9F7F3},  {&F::buttonHover, 0x534D44, 0xEFDCD0},
+      {&F::buttonMuted, 0xC8CED4, 0x3B4147}, {&F::buttonDown, 0x2C3138, 0xC6C4C0},
+      {&F::buttonOn, 0x372E1F, 0xF5E0D5},    {&F::textOff, 0x96999C, 0x777877},
       {&F::accentTop, 0xFFB546, 0xC34B1B},   {&F::accentBottom, 0xF0A537, 0xB43B0B},
       {&F::accentHover, 0xFFB64A, 0xC44E1F}, {&F::accentDown, 0xD69431, 0xA0350A},
       {&F::rowSelected, 0x483921, 0xF1D3C4}, {&F::rowSelectedOff, 0x32363A, 0xDDDDDA},
       {&F::rowHover, 0x27231D, 0xFAEEE5},    {&F::hair, 0x2D3136, 0xE2E1DE},
       {&F::tickOff, 0x53585E, 0xB7B9B9},     {&F::thumb, 0x767D85, 0x8E9295},
       {&F::thumbHover, 0x939BA4, 0x6E7378},  {&F::socket, 0x24282E, 0xE0DDD7},
-      {&F::milledSoft, 0x3C4149, 0xF7F6F3},  {&F::keyOnLow, 0x513F22, 0xEECCBB},
+      {&F::milledSoft, 0x3C4149, 0xF7F6F3},  {&F::buttonOnLow, 0x513F22, 0xEECCBB},
       {&F::edgeOff, 0x181B1F, 0xB0ABA3},     {&F::edgeControl, 0x889099, 0x7A7E82},
       {&F::glassMuted, 0xAFB8C1, 0x4E555C},
   };
@@ -60,21 +60,21 @@ TEST(BuiltInColors, CanBeReadByEveryone) {
       {&F::text, &F::plateTop, 4.5},
       {&F::text, &F::plateBottom, 4.5},
       {&F::muted, &F::plateBottom, 4.5},
-      {&F::text, &F::keyHover, 4.5},
-      {&F::text, &F::keyDown, 4.5},
-      {&F::keyMuted, &F::keyTop, 4.5},
-      {&F::keyMuted, &F::keyHover, 4.5},
+      {&F::text, &F::buttonHover, 4.5},
+      {&F::text, &F::buttonDown, 4.5},
+      {&F::buttonMuted, &F::buttonTop, 4.5},
+      {&F::buttonMuted, &F::buttonHover, 4.5},
       {&F::onAccent, &F::accentTop, 4.5},
       {&F::onAccent, &F::accentHover, 4.5},
       {&F::glassText, &F::rowSelected, 4.5},
       {&F::glassText, &F::rowSelectedOff, 4.5},
       {&F::glassMuted, &F::zebra, 4.5},
       {&F::glassMuted, &F::rowHover, 4.5},
-      {&F::tabText, &F::keyOnLow, 4.5},
+      {&F::tabText, &F::buttonOnLow, 4.5},
       {&F::tabText, &F::plate, 4.5},
       {&F::alert, &F::glass, 4.5},
       {&F::signal, &F::rowSelected, 3.0},
-      {&F::focus, &F::key, 3.0},
+      {&F::focus, &F::button, 3.0},
       {&F::focus, &F::rowSelected, 3.0},
       {&F::thumb, &F::glass, 3.0},
       {&F::accent, &F::glass, 3.0},
@@ -136,7 +136,7 @@ TEST_F(FaceplateTest, HighContrastShowsTheSystemsColoursAndStoresNone) {
     return color == Rgb(static_cast<std::uint32_t>(system));
   };
   EXPECT_TRUE(is(colors.glass, SystemColor::Window) && is(colors.glassText, SystemColor::WindowText));
-  EXPECT_TRUE(is(colors.keyHover, SystemColor::ButtonFace) && is(colors.text, SystemColor::ButtonText));
+  EXPECT_TRUE(is(colors.buttonHover, SystemColor::ButtonFace) && is(colors.text, SystemColor::ButtonText));
   EXPECT_TRUE(is(colors.rowSelected, SystemColor::Highlight));
   EXPECT_TRUE(is(colors.rowSelectedText, SystemColor::HighlightText));
   EXPECT_EQ(settings.Setting("ColorBackground"), "#ECE9E2");

@@ -13,7 +13,7 @@ TEST(ScaleToDpi, RoundsToNearestHalvesAwayFromZero) {
   for (const auto& c : cases) EXPECT_EQ(ScaleToDpi(c.design, c.dpi), c.pixels) << c.design << " at " << c.dpi;
 }
 
-// Keys that touch in the design touch at every dpi, and none overlaps the next.
+// Buttons that touch in the design touch at every dpi, and none overlaps the next.
 TEST(Arrange, KeepsNeighboursInTouch) {
   for (const int dpi : {96, 120, 144, 192}) {
     const PixelSize client = ScaleToDpi(DesignSize{717, 480}, dpi);
@@ -41,22 +41,22 @@ TEST(Arrange, MovesTheEdgesThatAreAnchoredToTheFarSide) {
   EXPECT_EQ(shrunk.Width(), 0) << "never turned inside out";
 }
 
-TEST(PlaceIn, OfALayoutIsWhatItNamesAndTheRestHiddenOrAsDesigned) {
-  static constexpr ControlRow kRows[] = {{.id = 1, .kind = Kind::PushKey, .at = {1, 2, 3, 4}},
-                                         {.id = 2, .kind = Kind::PushKey},
-                                         {.id = 0, .kind = Kind::Label},
-                                         {.id = 3, .kind = Kind::PushKey}};
-  static constexpr Place kPlaces[] = {{2, {5, 6, 7, 8}}, {0, {1, 1, 1, 1}}, {3, {}}};
+TEST(BoundsIn, OfALayoutIsWhatItNamesAndTheRestHiddenOrAsDesigned) {
+  static constexpr ControlRow kRows[] = {{.id = 1, .kind = ControlKind::PushButton, .at = {1, 2, 3, 4}},
+                                         {.id = 2, .kind = ControlKind::PushButton},
+                                         {.id = 0, .kind = ControlKind::Label},
+                                         {.id = 3, .kind = ControlKind::PushButton}};
+  static constexpr Bounds kPlaces[] = {{2, {5, 6, 7, 8}}, {0, {1, 1, 1, 1}}, {3, {}}};
   static constexpr Layout kLayouts[] = {{{440, 150}, "scc44", kPlaces},
                                         {.places = kPlaces, .others = Layout::Others::AsDesigned}};
   const FormDesign design = {.size = {720, 480}, .outline = "scf72", .controls = kRows, .layouts = kLayouts};
-  EXPECT_EQ(PlaceIn(design, 0, kRows[0]), &kRows[0].at);
-  EXPECT_EQ(PlaceIn(design, 1, kRows[0]), nullptr);
-  EXPECT_EQ(PlaceIn(design, 1, kRows[1]), &kPlaces[0].at);
-  EXPECT_EQ(PlaceIn(design, 1, kRows[2]), nullptr) << "an unnumbered caption belongs to the design only";
-  EXPECT_EQ(PlaceIn(design, 2, kRows[0]), &kRows[0].at);
-  EXPECT_EQ(PlaceIn(design, 2, kRows[1]), &kPlaces[0].at);
-  EXPECT_EQ(PlaceIn(design, 2, kRows[3]), nullptr);
+  EXPECT_EQ(BoundsIn(design, 0, kRows[0]), &kRows[0].at);
+  EXPECT_EQ(BoundsIn(design, 1, kRows[0]), nullptr);
+  EXPECT_EQ(BoundsIn(design, 1, kRows[1]), &kPlaces[0].at);
+  EXPECT_EQ(BoundsIn(design, 1, kRows[2]), nullptr) << "an unnumbered caption belongs to the design only";
+  EXPECT_EQ(BoundsIn(design, 2, kRows[0]), &kRows[0].at);
+  EXPECT_EQ(BoundsIn(design, 2, kRows[1]), &kPlaces[0].at);
+  EXPECT_EQ(BoundsIn(design, 2, kRows[3]), nullptr);
   EXPECT_EQ(SizeOf(design, 1).width, 440);
   EXPECT_STREQ(OutlineOf(design, 1), "scc44");
   EXPECT_STREQ(OutlineOf(design, 0), "scf72");

@@ -155,18 +155,18 @@ TEST_F(StationActionsTest, RatingsShowHalfTheDigit) {
 TEST_F(StationActionsTest, DetailsOfAStationAndOfOnesOwn) {
   const StationDetailBuilder one = details.Of(StationKey::FromRowKey("S1"));
   EXPECT_EQ(one.name, "Acid Jazz");
-  EXPECT_EQ(one.playKeys[0].caption, Text(IDS_PLAY_MEDIA, "MP3", "{1}"));
-  EXPECT_EQ(one.playKeys[0].bitRate, Text(IDS_PLAY_BIT_RATE, "128", "{1}"));
-  EXPECT_EQ(one.playKeys[1].request.key, "1");
-  EXPECT_EQ(one.playKeys[1].request.mode, PlayMode::LinkTwo);
+  EXPECT_EQ(one.playButtons[0].caption, Text(IDS_PLAY_MEDIA, "MP3", "{1}"));
+  EXPECT_EQ(one.playButtons[0].bitRate, Text(IDS_PLAY_BIT_RATE, "128", "{1}"));
+  EXPECT_EQ(one.playButtons[1].request.key, "1");
+  EXPECT_EQ(one.playButtons[1].request.mode, PlayMode::LinkTwo);
   EXPECT_EQ((std::array<int, 4>{one.ratings[0].halves, one.ratings[1].halves, one.ratings[2].halves,
                                 one.ratings[3].halves}),
             (std::array<int, 4>{9, 5, 1, 0}))
       << "overall, sound, speed, web site";
 
   const StationDetailBuilder own = details.Of(StationKey::FromRowKey("P1"));
-  EXPECT_EQ(own.playKeys[0].request.mode, PlayMode::Personal);
-  EXPECT_EQ(own.playKeys[0].request.key, "1");
+  EXPECT_EQ(own.playButtons[0].request.mode, PlayMode::Personal);
+  EXPECT_EQ(own.playButtons[0].request.key, "1");
   EXPECT_EQ(own.firstLink, "http://garage.example/");
   EXPECT_FALSE(details.Of(StationKey::FromRowKey("P9")).station) << "deleted meanwhile";
   EXPECT_FALSE(details.Of(StationKey::FromRowKey("X")).station);

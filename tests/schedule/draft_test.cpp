@@ -131,7 +131,7 @@ class WithStations : public testing::Test {
   StationSource source_{stations_, personal_, BuiltInAlphabets()};
 };
 
-TEST_F(WithStations, ThePlayKeysTellTheLinksApart) {
+TEST_F(WithStations, ThePlayButtonsTellTheLinksApart) {
   const auto captions = [&] {
     std::string all;
     for (const PlayChoice& play :

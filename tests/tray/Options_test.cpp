@@ -62,7 +62,7 @@ TEST_F(OptionsTest, MissingAndOddSettingsHaveTheirMeaning) {
   Set("FacePlateName", "Chrome");
   EXPECT_EQ(model_.Read(), (Options{.afterClose = AfterClose::Exit,
                                     .soundWithNotice = false,
-                                    .clickWithKeys = false,
+                                    .clickWithButtons = false,
                                     .useProxy = true,
                                     .proxy = {"proxy", "3128"},
                                     .lookForPlayer = false,
@@ -82,7 +82,7 @@ TEST_F(OptionsTest, OnlyWhatWasChangedIsWritten) {
       {[](Options& o) { o.afterClose = AfterClose::Ask; }, {"CloseToTray="}},
       {[](Options& o) { o.soundWithNotice = false; }, {"SoundNotify=False"}},
       {[](Options& o) { o.soundWithNotice = true; }, {"SoundNotify=True"}},
-      {[](Options& o) { o.clickWithKeys = false; }, {"SoundClick=False"}},
+      {[](Options& o) { o.clickWithButtons = false; }, {"SoundClick=False"}},
       {[](Options& o) { o.lookForPlayer = o.lookForProxy = false; }, {"StartPlayer=No", "StartProxy=No"}},
       {[](Options& o) { o.lookForPlayer = o.offerTutorial = true; }, {"StartPlayer=Yes"}},
       {[](Options& o) {

@@ -114,7 +114,7 @@ const NamedForm kForms[] = {
                                       .secondButton = "Cancel",
                                       .dontAskText = "Don't ask again"});
      }},
-    {"MsgboxFrmOfThreeKeys",
+    {"MsgboxFrmOfThreeButtons",
      [](EmptyProgram& p) {
        return Make<MsgboxFrm>(p.forms, p.help,
                               Message{.key = "CloseOrTray",
@@ -125,7 +125,7 @@ const NamedForm kForms[] = {
                                       .cancelButton = p.words.Load(IDS_APP_CANCEL),
                                       .dontAskText = p.words.Load(IDS_DONT_ASK_AGAIN)});
      }},
-    {"MsgboxFrmOfLongKeys",
+    {"MsgboxFrmOfLongButtons",
      [](EmptyProgram& p) {
        return Make<MsgboxFrm>(p.forms, p.help,
                               Message{.key = "QuickStart",
@@ -206,10 +206,11 @@ void ChangeEverything(Form& form) {
   for (const ControlRow& row : form.Description().controls) {
     const HWND control = form.Control(row.id);
     if (!control || !IsWindowVisible(control) || !IsWindowEnabled(control)) continue;
-    if (row.kind == Kind::Edit || row.kind == Kind::MultiEdit) SetWindowTextW(control, L"17");
-    if (row.kind == Kind::CheckBox || row.kind == Kind::RadioButton || row.kind == Kind::ToggleKey)
+    if (row.kind == ControlKind::Edit || row.kind == ControlKind::MultiEdit) SetWindowTextW(control, L"17");
+    if (row.kind == ControlKind::CheckBox || row.kind == ControlKind::RadioButton ||
+        row.kind == ControlKind::ToggleButton)
       SendMessageW(control, BM_CLICK, 0, 0);
-    if (row.kind == Kind::Combo && form.ItemCount(row.id) > 1) {
+    if (row.kind == ControlKind::Combo && form.ItemCount(row.id) > 1) {
       SendMessageW(control, CB_SETCURSEL, form.SelectedItem(row.id) == 0 ? 1 : 0, 0);
       SendMessageW(form.Window(), WM_COMMAND, MAKEWPARAM(row.id, CBN_SELCHANGE),
                    reinterpret_cast<LPARAM>(control));

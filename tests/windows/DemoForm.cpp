@@ -6,7 +6,7 @@ namespace {
 constexpr int kColumns[] = {130, 268, 406, 544, 682, 820};
 
 // The control of a row that stands in a column; the fifth is disabled.
-ControlRow At(Kind kind, int first, int column, const char* text, int y, int height) {
+ControlRow At(ControlKind kind, int first, int column, const char* text, int y, int height) {
   return {.id = first + column,
           .kind = kind,
           .text = text,
@@ -19,34 +19,34 @@ ControlRow At(Kind kind, int first, int column, const char* text, int y, int hei
 const FormDesign& DemoForm::Design() {
   static const std::vector<ControlRow> rows = [] {
     std::vector<ControlRow> all;
-    const auto row = [&](Kind kind, int first, const char* text, int y, int height, int count) {
+    const auto row = [&](ControlKind kind, int first, const char* text, int y, int height, int count) {
       for (int i = 0; i < count; ++i) all.push_back(At(kind, first, i, text, y, height));
     };
-    row(Kind::PushKey, DemoForm::kPush, "Sche&dule", 64, 30, 5);
-    row(Kind::PrimaryKey, DemoForm::kPrimary, "Search", 102, 30, 5);
-    row(Kind::RankingKey, DemoForm::kRanking, "Best Sound", 140, 36, 6);
-    row(Kind::GroupKey, DemoForm::kGroups, "Morning", 184, 28, 6);
-    row(Kind::CheckBox, DemoForm::kCheck, "Sounds", 346, 26, 6);
-    row(Kind::RadioButton, DemoForm::kRadio, "Any word", 378, 26, 6);
-    row(Kind::Combo, DemoForm::kCombo, "", 412, 28, 6);
-    row(Kind::Edit, DemoForm::kEdit, "", 464, 28, 5);
-    all.push_back({.id = DemoForm::kSearch, .kind = Kind::ComboEdit, .at = {820, 464, 130, 28}});
-    all.push_back({.id = DemoForm::kNotes, .kind = Kind::MultiEdit, .at = {130, 500, 268, 84}});
+    row(ControlKind::PushButton, DemoForm::kPush, "Sche&dule", 64, 30, 5);
+    row(ControlKind::PrimaryButton, DemoForm::kPrimary, "Search", 102, 30, 5);
+    row(ControlKind::RankingButton, DemoForm::kRanking, "Best Sound", 140, 36, 6);
+    row(ControlKind::GroupButton, DemoForm::kGroups, "Morning", 184, 28, 6);
+    row(ControlKind::CheckBox, DemoForm::kCheck, "Sounds", 346, 26, 6);
+    row(ControlKind::RadioButton, DemoForm::kRadio, "Any word", 378, 26, 6);
+    row(ControlKind::Combo, DemoForm::kCombo, "", 412, 28, 6);
+    row(ControlKind::Edit, DemoForm::kEdit, "", 464, 28, 5);
+    all.push_back({.id = DemoForm::kSearch, .kind = ControlKind::ComboEdit, .at = {820, 464, 130, 28}});
+    all.push_back({.id = DemoForm::kNotes, .kind = ControlKind::MultiEdit, .at = {130, 500, 268, 84}});
     for (int i = 0; i < 3; ++i) {
       all.push_back({.id = DemoForm::kToggle + i,
-                     .kind = Kind::ToggleKey,
+                     .kind = ControlKind::ToggleButton,
                      .text = "Weekly",
                      .at = {682 + 92 * i, 532, 84, 28},
                      .pane = 3});
     }
     all.push_back({.id = DemoForm::kState,
-                   .kind = Kind::StateLabel,
+                   .kind = ControlKind::StateLabel,
                    .text = "Time Left To Scan: 17",
                    .at = {130, 592, 268, 24}});
     return all;
   }();
-  static constexpr Place kSmall[] = {{DemoForm::kPush, {20, 20, 130, 30}},
-                                     {DemoForm::kEdit, {20, 60, 130, 28}}};
+  static constexpr Bounds kSmall[] = {{DemoForm::kPush, {20, 20, 130, 30}},
+                                      {DemoForm::kEdit, {20, 60, 130, 28}}};
   static constexpr Layout kLayouts[] = {{{440, 150}, "scc44", kSmall}};
   static constexpr KeyRow kKeys[] = {{'K', kCtrl, DemoForm::kPush + 1},
                                      {VK_DELETE, kPlain, DemoForm::kMenuEntry, DemoForm::kCheck},

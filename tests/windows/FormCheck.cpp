@@ -4,7 +4,7 @@
 #include <set>
 
 #include "forms/Dpi.h"
-#include "forms/FormParts.h"
+#include "forms/FormImpl.h"
 #include "forms/Painter.h"
 
 namespace sonaro {
@@ -12,7 +12,7 @@ namespace {
 
 class Check {
  public:
-  Check(Form& form, FormParts& parts) : form_(form), parts_(parts) {}
+  Check(Form& form, FormImpl& parts) : form_(form), parts_(parts) {}
 
   std::vector<std::string> Run() {
     CheckControls();
@@ -33,7 +33,7 @@ class Check {
   }
 
  private:
-  void Add(const FormItem& item, const std::string& problem) {
+  void Add(const ControlInstance& item, const std::string& problem) {
     problems_.push_back(where_ + "control " + std::to_string(item.Id()) + " \"" + form_.Text(item.Id()) +
                         "\" " + problem);
   }
@@ -41,12 +41,12 @@ class Check {
   // Past the work area of the test's screen as well: a form would otherwise fall back to a smaller dpi.
   void UseDpi(int dpi) {
     where_ = "layout " + std::to_string(form_.CurrentLayout()) + " at " + std::to_string(dpi) + ": ";
-    parts_.UseDpi(dpi, FormParts::Fit::No);
+    parts_.UseDpi(dpi, FormImpl::Fit::No);
   }
 
   void CheckControls() {
     std::set<int> numbers;
-    for (const FormItem& item : parts_.items) {
+    for (const ControlInstance& item : parts_.items) {
       if (item.Id() != 0 && !numbers.insert(item.Id()).second)
         Add(item, "has a number that is already taken");
       if (IsDecoration(item.KindOf())) continue;
@@ -58,15 +58,15 @@ class Check {
         Add(item, "is not found by number");
       if (IsEdit(item.KindOf()) && item.row->text.id != 0)
         Add(item, "holds its name, as if the user had typed it");
-      if (!IsKey(item.KindOf()) && !IsCheck(item.KindOf())) continue;
+      if (!IsButton(item.KindOf()) && !IsCheck(item.KindOf())) continue;
       wchar_t name[32] = {};
       GetClassNameW(item.Window(), name, 32);
       if (std::wstring(name) != L"Button") Add(item, "is not a button");
-      if (item.KindOf() != Kind::GroupKey && item.shown && GetWindowTextLengthW(item.Window()) == 0)
+      if (item.KindOf() != ControlKind::GroupButton && item.shown && GetWindowTextLengthW(item.Window()) == 0)
         Add(item, "has no text");
       const bool heading =
-          item.KindOf() == Kind::HeaderKey && item.Has(kNoTabStop);  // of a list without sorting
-      if (IsKey(item.KindOf()) && !heading && !parts_.IsBound(item.Id(), FormEvent::Kind::Click))
+          item.KindOf() == ControlKind::HeaderButton && item.Has(kNoTabStop);  // of a list without sorting
+      if (IsButton(item.KindOf()) && !heading && !parts_.IsBound(item.Id(), FormEvent::Kind::Click))
         Add(item, "does nothing");
     }
   }
@@ -77,7 +77,7 @@ class Check {
     HWND at = first;
     std::ptrdiff_t before = -1;
     for (int steps = 0; at && steps < 500; ++steps) {
-      const FormItem* item = parts_.Find(at);
+      const ControlInstance* item = parts_.Find(at);
       const std::ptrdiff_t row = item ? item - parts_.items.data() : -1;
       if (item && row <= before) Add(*item, "is reached by Tab before a row above it");
       before = row;
@@ -87,9 +87,10 @@ class Check {
   }
 
   void CheckAccessKeys() {
-    std::map<wchar_t, const FormItem*> taken;
-    for (const FormItem& item : parts_.items) {
-      const bool labels = item.KindOf() == Kind::Label || IsKey(item.KindOf()) || IsCheck(item.KindOf());
+    std::map<wchar_t, const ControlInstance*> taken;
+    for (const ControlInstance& item : parts_.items) {
+      const bool labels =
+          item.KindOf() == ControlKind::Label || IsButton(item.KindOf()) || IsCheck(item.KindOf());
       if (!labels || !item.shown || item.Has(kNoPrefix)) continue;
       wchar_t text[256] = {};
       GetWindowTextW(item.Window(), text, 256);
@@ -107,14 +108,14 @@ class Check {
   void CheckPlaces() {
     RECT client{};
     GetClientRect(parts_.window, &client);
-    for (const FormItem& item : parts_.items) {
+    for (const ControlInstance& item : parts_.items) {
       if (!item.shown) continue;
       const RECT box = ToRect(item.place);
       if (box.left < 0 || box.top < 0 || box.right > client.right || box.bottom > client.bottom) {
         Add(item, "leaves the form");
       }
       if (IsDecoration(item.KindOf()) || IsText(item.KindOf())) continue;
-      for (const FormItem& other : parts_.items) {
+      for (const ControlInstance& other : parts_.items) {
         if (&other == &item) break;
         if (!other.shown || IsDecoration(other.KindOf()) || IsText(other.KindOf())) continue;
         const RECT otherBox = ToRect(other.place);
@@ -126,12 +127,12 @@ class Check {
   }
 
   void CheckTexts() {
-    for (const FormItem& item : parts_.items) {
+    for (const ControlInstance& item : parts_.items) {
       if (!item.shown) continue;
       RECT box{};
       if (item.Window()) GetClientRect(item.Window(), &box);
-      if (IsKey(item.KindOf()) || IsCheck(item.KindOf())) {
-        const KeyTextRoom room = MeasureKey(box, parts_.PictureOf(item), *parts_.painter);
+      if (IsButton(item.KindOf()) || IsCheck(item.KindOf())) {
+        const ButtonTextRoom room = MeasureButton(box, parts_.PictureOf(item), *parts_.painter);
         if (room.needed > room.available) Add(item, Lacks(room.needed, room.available));
       } else if (IsText(item.KindOf())) {
         CheckLabel(item, box);
@@ -139,17 +140,17 @@ class Check {
     }
   }
 
-  void CheckLabel(const FormItem& item, const RECT& box) {
+  void CheckLabel(const ControlInstance& item, const RECT& box) {
     wchar_t text[1024] = {};
     GetWindowTextW(item.Window(), text, 1024);
-    const Type type = FontTypeOf(*item.row);
+    const TextStyle style = TextStyleOf(*item.row);
     const int width = static_cast<int>(box.right);
     if (item.Has(kWrap)) {
-      const int needed = parts_.painter->WrappedHeight(text, type, width);
+      const int needed = parts_.painter->WrappedHeight(text, style, width);
       if (needed > box.bottom) Add(item, Lacks(needed, static_cast<int>(box.bottom)));
     } else {
-      const UINT prefix = item.KindOf() == Kind::Label && !item.Has(kNoPrefix) ? 0 : DT_NOPREFIX;
-      const int needed = static_cast<int>(parts_.painter->Measure(text, type, prefix).cx);
+      const UINT prefix = item.KindOf() == ControlKind::Label && !item.Has(kNoPrefix) ? 0 : DT_NOPREFIX;
+      const int needed = static_cast<int>(parts_.painter->Measure(text, style, prefix).cx);
       if (needed > width) Add(item, Lacks(needed, width));
     }
   }
@@ -159,7 +160,7 @@ class Check {
   }
 
   Form& form_;
-  FormParts& parts_;
+  FormImpl& parts_;
   std::string where_;
   std::vector<std::string> problems_;
 };
@@ -167,7 +168,7 @@ class Check {
 }  // namespace
 
 std::vector<std::string> ProblemsOf(Form& form) {
-  FormParts* parts = FormPartsOf(form.Window());
+  FormImpl* parts = FormImplOf(form.Window());
   if (!parts) return {"the form is not open"};
   return Check(form, *parts).Run();
 }

@@ -9,9 +9,9 @@
 namespace sonaro {
 
 // Checks an open form in all its layouts, at 96, 120, 144 and 192 dpi, with the texts that its FormContext
-// gives: every row has its control, keys are buttons with a text, Tab goes through the rows in order,
+// gives: every row has its control, buttons have a text, Tab goes through the rows in order,
 // controls neither overlap nor leave the form, texts fit, no two shown controls share an access key, every
-// key does something. Leaves the form in layout 0 at 96 dpi.
+// button does something. Leaves the form in layout 0 at 96 dpi.
 std::vector<std::string> ProblemsOf(Form& form);
 
 }  // namespace sonaro

@@ -24,7 +24,7 @@ class FormKeyboardTest : public testing::Test {
   DemoForm form{context.forms};
 };
 
-// The colour on a key's focus line, at the middle of its left edge.
+// The colour on a button's focus line, at the middle of its left edge.
 Color PixelInside(const Form& form, int key) {
   RECT box{};
   GetClientRect(form.Control(key), &box);
@@ -37,7 +37,7 @@ Color PixelInside(const Form& form, int key) {
 
 TEST_F(FormKeyboardTest, BeginsWhereTheDesignSays) { EXPECT_EQ(form.FocusedControl(), DemoForm::kPush + 3); }
 
-TEST_F(FormKeyboardTest, PressesTheFocusedKeyElseThePrimaryOne) {
+TEST_F(FormKeyboardTest, PressesTheFocusedButtonElseThePrimaryOne) {
   const struct {
     int focus;
     Log log;
@@ -58,15 +58,15 @@ TEST_F(FormKeyboardTest, PressesTheFocusedKeyElseThePrimaryOne) {
   EXPECT_EQ(form.log, (Log{"Click 5002"}));
 }
 
-TEST_F(FormKeyboardTest, GoesOnlyToKeysThatCanBePressed) {
+TEST_F(FormKeyboardTest, GoesOnlyToButtonsThatCanBePressed) {
   form.Focus(DemoForm::kEdit);
   form.log.clear();
   form.Enable(DemoForm::kPrimary, false);
   PressKey(VK_RETURN);
-  EXPECT_EQ(form.log, (Log{})) << "the next primary key stands in, and has no handler";
+  EXPECT_EQ(form.log, (Log{})) << "the next primary button stands in, and has no handler";
   form.ShowControl(DemoForm::kPush + 1, false);
   PressKey('K', false, true);
-  EXPECT_EQ(form.log, (Log{})) << "a hidden key does not act by its shortcut";
+  EXPECT_EQ(form.log, (Log{})) << "a hidden button does not act by its shortcut";
   SendMessageW(form.Window(), WM_COMMAND, DemoForm::kPush + 1, 0);
   EXPECT_EQ(form.log, (Log{}));
 }
@@ -82,13 +82,13 @@ TEST_F(FormKeyboardTest, ReadsTheKeyTable) {
   PressKey(VK_DELETE);
   EXPECT_EQ(form.log.back(), "Click 5160");
   PressKey('F', false, true);
-  EXPECT_EQ(form.FocusedControl(), DemoForm::kSearch) << "a control that is no key takes the focus";
+  EXPECT_EQ(form.FocusedControl(), DemoForm::kSearch) << "a control that is no button takes the focus";
 }
 
 TEST_F(FormKeyboardTest, MovesByTabFromGroupToGroupAndByArrowsInside) {
   form.Focus(DemoForm::kPrimary + 3);
   PressKey(VK_TAB);
-  EXPECT_EQ(form.FocusedControl(), DemoForm::kRanking + 5) << "the active key stands for its group";
+  EXPECT_EQ(form.FocusedControl(), DemoForm::kRanking + 5) << "the active button stands for its group";
   PressKey(VK_RIGHT);
   EXPECT_EQ(form.FocusedControl(), DemoForm::kRanking) << "round the end";
   PressKey(VK_DOWN);
@@ -99,7 +99,7 @@ TEST_F(FormKeyboardTest, MovesByTabFromGroupToGroupAndByArrowsInside) {
   EXPECT_EQ(form.FocusedControl(), DemoForm::kRanking + 5);
   form.Focus(DemoForm::kPush);
   PressKey(VK_RIGHT);
-  EXPECT_EQ(form.FocusedControl(), DemoForm::kPush) << "a key that is in no group keeps the arrows";
+  EXPECT_EQ(form.FocusedControl(), DemoForm::kPush) << "a button that is in no group keeps the arrows";
 }
 
 TEST_F(FormKeyboardTest, ReachesEmptySocketsAndSkipsHiddenControls) {

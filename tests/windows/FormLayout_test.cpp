@@ -2,7 +2,7 @@
 #include <gtest/gtest.h>
 
 #include "forms/Dpi.h"
-#include "forms/FormParts.h"
+#include "forms/FormImpl.h"
 #include "forms/WindowShape.h"
 #include "windows/DemoForm.h"
 #include "windows/FormContextForTests.h"
@@ -54,18 +54,18 @@ TEST_F(FormLayoutTest, AnotherLayoutKeepsTheCornerAndHidesWhatItDoesNotName) {
   form.UseLayout(1);
   EXPECT_EQ(PlaceOf(form.Window()), (PixelRect{30, 40, 470, 190}));
   EXPECT_EQ(PlaceInForm(form, DemoForm::kPush), (PixelRect{20, 20, 150, 50}));
-  EXPECT_TRUE(FormPartsOf(form.Window())->Find(DemoForm::kPush)->shown);
-  EXPECT_FALSE(FormPartsOf(form.Window())->Find(DemoForm::kPush + 1)->shown);
+  EXPECT_TRUE(FormImplOf(form.Window())->Find(DemoForm::kPush)->shown);
+  EXPECT_FALSE(FormImplOf(form.Window())->Find(DemoForm::kPush + 1)->shown);
   EXPECT_EQ(BoundsOfOutline(form.Window()).right, 440);
   form.UseLayout(0);
   EXPECT_EQ(PlaceOf(form.Window()), (PixelRect{30, 40, 1010, 800}));
   EXPECT_EQ(PlaceInForm(form, DemoForm::kPush), (PixelRect{130, 64, 260, 94}));
-  EXPECT_TRUE(FormPartsOf(form.Window())->Find(DemoForm::kPush + 1)->shown);
+  EXPECT_TRUE(FormImplOf(form.Window())->Find(DemoForm::kPush + 1)->shown);
 }
 
 TEST_F(FormLayoutTest, TakesAnotherDpiWithAllItsParts) {
   form.UseLayout(1);
-  const LONG fontBefore = FormPartsOf(form.Window())->painter->LineHeight(Type::Body);
+  const LONG fontBefore = FormImplOf(form.Window())->painter->LineHeight(TextStyle::Body);
   SendDpi(form, 144, 7, 9);
   EXPECT_EQ(PlaceOf(form.Window()), (PixelRect{7, 9, 667, 234}));
   EXPECT_EQ(PlaceInForm(form, DemoForm::kPush), (PixelRect{30, 30, 225, 75}));
@@ -75,16 +75,16 @@ TEST_F(FormLayoutTest, TakesAnotherDpiWithAllItsParts) {
   ASSERT_NE(GetObjectW(handle, sizeof(font), &font), 0)
       << "the old font is gone, the control has the new one";
   EXPECT_EQ(font.lfHeight, -18);
-  EXPECT_GT(FormPartsOf(form.Window())->painter->LineHeight(Type::Body), fontBefore);
+  EXPECT_GT(FormImplOf(form.Window())->painter->LineHeight(TextStyle::Body), fontBefore);
   const PixelRect edit = PlaceInForm(form, DemoForm::kEdit);
-  EXPECT_GE(edit.Height(), FormPartsOf(form.Window())->painter->LineHeight(Type::Body));
+  EXPECT_GE(edit.Height(), FormImplOf(form.Window())->painter->LineHeight(TextStyle::Body));
   EXPECT_GE(edit.top, 90);
   EXPECT_LE(edit.bottom, 132) << "inside its glass";
 }
 
 TEST_F(FormLayoutTest, CombosAreAsHighAsTheirPlace) {
   for (const int dpi : {96, 120, 144, 192}) {
-    FormPartsOf(form.Window())->UseDpi(dpi, FormParts::Fit::No);
+    FormImplOf(form.Window())->UseDpi(dpi, FormImpl::Fit::No);
     EXPECT_EQ(PlaceInForm(form, DemoForm::kCombo).Height(), ScaleToDpi(412 + 28, dpi) - ScaleToDpi(412, dpi))
         << dpi;
     EXPECT_EQ(PlaceInForm(form, DemoForm::kSearch).Height(), ScaleToDpi(464 + 28, dpi) - ScaleToDpi(464, dpi))
@@ -98,7 +98,7 @@ TEST_F(FormLayoutTest, GrowsByATextWithItsOutline) {
   EXPECT_EQ(PlaceOf(form.Window()).Height(), 150) << "it fits";
   form.SetTextAndGrow(DemoForm::kPush, "One line\nand another\nand a third\nand a fourth");
   const int height = PlaceOf(form.Window()).Height();
-  const int lines = 4 * FormPartsOf(form.Window())->painter->LineHeight(Type::Body);
+  const int lines = 4 * FormImplOf(form.Window())->painter->LineHeight(TextStyle::Body);
   EXPECT_EQ(height, 150 - 30 + lines) << "of the layout, not of the design";
   EXPECT_EQ(BoundsOfOutline(form.Window()), (PixelRect{0, 0, 440, height}));
   EXPECT_EQ(PlaceInForm(form, DemoForm::kPush), (PixelRect{20, 20, 150, 50})) << "anchored to the top left";
@@ -118,8 +118,8 @@ TEST_F(FormLayoutTest, SurvivesAnOutlineFarBeyondTheWindow) {
 }
 
 TEST_F(FormLayoutTest, ShowsPanesTogether) {
-  FormParts& parts = *FormPartsOf(form.Window());
-  FormItem* key = parts.Find(DemoForm::kToggle);
+  FormImpl& parts = *FormImplOf(form.Window());
+  ControlInstance* key = parts.Find(DemoForm::kToggle);
   form.ShowPane(3, false);
   EXPECT_FALSE(key->shown);
   form.ShowControl(DemoForm::kToggle);
@@ -140,9 +140,9 @@ class DraggedForm final : public Form {
  private:
   static const FormDesign& Design() {
     static constexpr ControlRow kRows[] = {
-        {.id = 5001, .kind = Kind::Label, .text = "Title", .at = {9, 9, 80, 20}},
-        {.id = 5002, .kind = Kind::PushKey, .text = "Key", .at = {9, 40, 80, 30}},
-        {.id = 5003, .kind = Kind::Edit, .at = {9, 80, 80, 28}}};
+        {.id = 5001, .kind = ControlKind::Label, .text = "Title", .at = {9, 9, 80, 20}},
+        {.id = 5002, .kind = ControlKind::PushButton, .text = "Key", .at = {9, 40, 80, 30}},
+        {.id = 5003, .kind = ControlKind::Edit, .at = {9, 80, 80, 28}}};
     static constexpr FormDesign kDesign = {
         .name = "frmDragged", .caption = "Dragged", .size = {200, 120}, .controls = kRows};
     return kDesign;
@@ -182,8 +182,8 @@ TEST_F(FormLayoutTest, IsDraggedByBackgroundAndLabelsButNotByControls) {
   EXPECT_EQ(dragged.FocusedControl(), 5003);
 }
 
-// What the user sees of a key, by the pixels in the middle of its left part.
-TEST_F(FormLayoutTest, PaintsKeysInTheColoursOfTheFaceplate) {
+// What the user sees of a button, by the pixels in the middle of its left part.
+TEST_F(FormLayoutTest, PaintsButtonsInTheColoursOfTheFaceplate) {
   form.Show();
   Pump();
   const auto pixel = [&](int id, int x, int y) {
@@ -197,15 +197,15 @@ TEST_F(FormLayoutTest, PaintsKeysInTheColoursOfTheFaceplate) {
     const FaceplateColors& c = context.faceplate.Colors();
     const int name = static_cast<int>(faceplate);
     SendMessageW(form.Control(DemoForm::kPush + 2), BM_SETSTATE, TRUE, 0);
-    EXPECT_EQ(pixel(DemoForm::kPush + 2, 6, 15), c.keyDown) << name;
-    EXPECT_EQ(pixel(DemoForm::kPush + 4, 6, 15), c.keyOff) << name;
+    EXPECT_EQ(pixel(DemoForm::kPush + 2, 6, 15), c.buttonDown) << name;
+    EXPECT_EQ(pixel(DemoForm::kPush + 4, 6, 15), c.buttonOff) << name;
     EXPECT_EQ(pixel(DemoForm::kPush, 129, 15), c.outline) << name;
-    EXPECT_EQ(pixel(DemoForm::kRanking + 5, 60, 3), c.keyOn) << name;
+    EXPECT_EQ(pixel(DemoForm::kRanking + 5, 60, 3), c.buttonOn) << name;
     EXPECT_EQ(pixel(DemoForm::kRanking + 5, 1, 20), c.accent) << name;
     SendMessageW(form.Control(DemoForm::kPush + 1), WM_MOUSEMOVE, 0, MAKELPARAM(6, 15));
-    EXPECT_EQ(pixel(DemoForm::kPush + 1, 6, 15), c.keyHover) << name;
+    EXPECT_EQ(pixel(DemoForm::kPush + 1, 6, 15), c.buttonHover) << name;
     SendMessageW(form.Control(DemoForm::kPush + 1), WM_MOUSELEAVE, 0, 0);
-    EXPECT_NE(pixel(DemoForm::kPush + 1, 6, 15), c.keyHover) << name;
+    EXPECT_NE(pixel(DemoForm::kPush + 1, 6, 15), c.buttonHover) << name;
     EXPECT_EQ(pixel(DemoForm::kCombo, 4, 4), c.glass) << name;
   };
   check(BuiltInFaceplate::Graphite);

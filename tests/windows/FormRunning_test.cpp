@@ -87,7 +87,7 @@ TEST(FormRunning, EscapeAndTheSystemMenuCloseADialog) {
   const Later escape([&] { PressKey(VK_ESCAPE); });
   EXPECT_EQ(dialog.ShowModal(nullptr), 7);
   const Later close([&] { SendMessageW(dialog.Window(), WM_SYSCOMMAND, SC_CLOSE, 0); });
-  EXPECT_EQ(dialog.ShowModal(nullptr), 0) << "this form has no close key: it just closes";
+  EXPECT_EQ(dialog.ShowModal(nullptr), 0) << "this form has no close button: it just closes";
   EXPECT_EQ(dialog.log, (Log{"Escape", "Unload", "Unload"}));
 }
 
@@ -173,8 +173,8 @@ class ThrowingForm final : public Form {
  private:
   static const FormDesign& Design() {
     static constexpr ControlRow kRows[] = {
-        {.id = 5001, .kind = Kind::PushKey, .text = "Throw", .at = {9, 9, 40, 30}},
-        {.id = 5002, .kind = Kind::PushKey, .text = "Count", .at = {49, 9, 40, 30}}};
+        {.id = 5001, .kind = ControlKind::PushButton, .text = "Throw", .at = {9, 9, 40, 30}},
+        {.id = 5002, .kind = ControlKind::PushButton, .text = "Count", .at = {49, 9, 40, 30}}};
     static constexpr FormDesign kDesign = {
         .name = "frmThrow", .caption = "Throw", .size = {100, 60}, .controls = kRows};
     return kDesign;

@@ -5,7 +5,7 @@
 #include <gtest/gtest.h>
 
 #include "forms/ControlIds.h"
-#include "forms/FormParts.h"
+#include "forms/FormImpl.h"
 #include "windows/DemoForm.h"
 #include "windows/FormContextForTests.h"
 #include "windows/Pump.h"
@@ -62,15 +62,15 @@ TEST_F(FormTest, TipsBelongToWhatThePointerReaches) {
     EXPECT_TRUE(HasTip(form.Control(id))) << id;
     PressKey(VK_TAB);
     EXPECT_NE(form.FocusedControl(), std::exchange(focused, form.FocusedControl())) << "still a form";
-    FormPartsOf(form.Window())->UseDpi(120);
+    FormImplOf(form.Window())->UseDpi(120);
     EXPECT_TRUE(HasTip(form.Control(id))) << id << " at its new place";
-    FormPartsOf(form.Window())->UseDpi(96);
+    FormImplOf(form.Window())->UseDpi(96);
     form.SetTip(id, "");
     EXPECT_FALSE(HasTip(form.Control(id))) << id;
   }
 }
 
-TEST_F(FormTest, TakesEveryClickOnAKey) {
+TEST_F(FormTest, TakesEveryClickOnAButton) {
   const HWND key = form.Control(DemoForm::kPush + 1);
   for (const int message : {WM_LBUTTONDOWN, WM_LBUTTONUP, WM_LBUTTONDBLCLK, WM_LBUTTONUP}) {
     MouseOn(key, static_cast<UINT>(message));

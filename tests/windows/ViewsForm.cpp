@@ -8,8 +8,8 @@ namespace sonaro {
 
 const FormDesign& ViewsForm::Design() {
   static constexpr ControlRow kRows[] = {
-      {.id = ViewsForm::kTree, .kind = Kind::TreeView, .at = {14, 164, 200, 280}},
-      {.id = ViewsForm::kList, .kind = Kind::ListView, .at = {224, 188, 492, 398}},
+      {.id = ViewsForm::kTree, .kind = ControlKind::TreeView, .at = {14, 164, 200, 280}},
+      {.id = ViewsForm::kList, .kind = ControlKind::ListView, .at = {224, 188, 492, 398}},
   };
   static constexpr FormDesign kDesign = {.name = "frmViews",
                                          .caption = "Views",

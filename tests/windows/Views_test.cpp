@@ -1,5 +1,5 @@
-// The list, the tree and the scroll bar as real controls: what a user's keys and pointer do to them, and what
-// a screen reader gets.
+// The list, the tree and the scroll bar as real controls: what a user's keyboard and pointer do to them, and
+// what a screen reader gets.
 #include <gtest/gtest.h>
 
 #include <array>
@@ -117,7 +117,7 @@ TEST_F(ViewsTest, KeysMoveAndActivate) {
   }
 }
 
-TEST_F(ViewsTest, EnterGoesToThePrimaryKeyWhileNothingIsSelected) {
+TEST_F(ViewsTest, EnterGoesToThePrimaryButtonWhileNothingIsSelected) {
   Open(3);
   PressKey(VK_RETURN);
   EXPECT_EQ(Events(), Log{});

@@ -81,10 +81,10 @@ const Layout* SizedLayoutOf(const FormDesign& design, int layout) {
 
 }  // namespace
 
-const DesignRect* PlaceIn(const FormDesign& design, int layout, const ControlRow& row) {
+const DesignRect* BoundsIn(const FormDesign& design, int layout, const ControlRow& row) {
   const Layout* other = LayoutOf(design, layout);
   if (!other) return &row.at;
-  for (const Place& place : other->places) {
+  for (const Bounds& place : other->places) {
     if (row.id != 0 && place.id == row.id) return place.at.width > 0 ? &place.at : nullptr;
   }
   return other->others == Layout::Others::AsDesigned ? &row.at : nullptr;

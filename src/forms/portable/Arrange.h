@@ -34,7 +34,7 @@ PixelSize ScaleToDpi(DesignSize size, int dpi);
 PixelRect Arrange(const DesignRect& at, unsigned anchors, DesignSize design, PixelSize client, int dpi);
 
 // A row as the layout places it; nullptr: the layout has no place for it. Layout 0 is the table itself.
-const DesignRect* PlaceIn(const FormDesign& design, int layout, const ControlRow& row);
+const DesignRect* BoundsIn(const FormDesign& design, int layout, const ControlRow& row);
 DesignSize SizeOf(const FormDesign& design, int layout);
 // The window's outline, and the size of the window that it was made for.
 const char* OutlineOf(const FormDesign& design, int layout);

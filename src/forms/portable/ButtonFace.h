@@ -1,4 +1,4 @@
-// Which colours and marks a key shows in a state. A choice only; DrawnKey paints it.
+// Which colours and marks a button shows in a state. A choice only; DrawnButton paints it.
 #pragma once
 
 #include "faceplate/FaceplateColors.h"
@@ -6,15 +6,15 @@
 
 namespace sonaro {
 
-struct KeyState {
+struct ButtonState {
   bool hover = false;
   bool pressed = false;
   bool disabled = false;
   bool active = false;  // a toggle that is on
-  bool empty = false;   // GroupKey without a group
+  bool empty = false;   // GroupButton without a group
 };
 
-struct KeyFace {
+struct ButtonFace {
   bool hasFace = true;  // false: only icon or text on what lies behind
   Color top, bottom;    // face gradient
   Color edge;
@@ -26,10 +26,11 @@ struct KeyFace {
   Color focus;
   bool strong = false;     // semibold text
   bool shiftDown = false;  // text and icon lie 1 px lower
-  friend bool operator==(const KeyFace&, const KeyFace&) = default;
+  friend bool operator==(const ButtonFace&, const ButtonFace&) = default;
 };
 
-// `secondary`: a play key that is not the first link.
-KeyFace PickKeyFace(Kind kind, bool secondary, const KeyState& state, const FaceplateColors& colors);
+// `secondary`: a play button that is not the first link.
+ButtonFace PickButtonFace(ControlKind kind, bool secondary, const ButtonState& state,
+                          const FaceplateColors& colors);
 
 }  // namespace sonaro

@@ -1,50 +1,52 @@
-#include "forms/portable/KeyFace.h"
+#include "forms/portable/ButtonFace.h"
 
 #include <gtest/gtest.h>
 
 namespace sonaro {
 namespace {
 
+using enum ControlKind;
+
 const FaceplateColors kColors = DeriveColors(BuiltInColors(BuiltInFaceplate::Graphite));
 
-KeyFace Face(Kind kind, KeyState state, bool secondary = false) {
-  return PickKeyFace(kind, secondary, state, kColors);
+ButtonFace Face(ControlKind kind, ButtonState state, bool secondary = false) {
+  return PickButtonFace(kind, secondary, state, kColors);
 }
 
-TEST(PickKeyFace, GivesEveryStateItsFaceEdgeAndText) {
+TEST(PickButtonFace, GivesEveryStateItsFaceEdgeAndText) {
   const FaceplateColors& c = kColors;
   const struct {
     const char* what;
-    Kind kind;
-    KeyState state;
+    ControlKind kind;
+    ButtonState state;
     Color top, edge, text;
     bool milled, strong, down;
   } cases[] = {
-      {"normal", Kind::PushKey, {}, c.keyTop, c.outline, c.text, true, false, false},
-      {"hover", Kind::PushKey, {.hover = true}, c.keyHover, c.outline, c.text, true, false, false},
+      {"normal", PushButton, {}, c.buttonTop, c.outline, c.text, true, false, false},
+      {"hover", PushButton, {.hover = true}, c.buttonHover, c.outline, c.text, true, false, false},
       {"pressed",
-       Kind::PushKey,
+       PushButton,
        {.hover = true, .pressed = true},
-       c.keyDown,
+       c.buttonDown,
        c.outline,
        c.text,
        false,
        false,
        true},
-      {"disabled", Kind::PushKey, {.disabled = true}, c.keyOff, c.edgeOff, c.textOff, false, false, false},
-      {"active", Kind::RankingKey, {.active = true}, c.keyOn, c.accent, c.tabText, false, true, false},
+      {"disabled", PushButton, {.disabled = true}, c.buttonOff, c.edgeOff, c.textOff, false, false, false},
+      {"active", RankingButton, {.active = true}, c.buttonOn, c.accent, c.tabText, false, true, false},
       {"disabled wins over active",
-       Kind::RankingKey,
+       RankingButton,
        {.disabled = true, .active = true},
-       c.keyOff,
+       c.buttonOff,
        c.edgeOff,
        c.textOff,
        false,
        false,
        false},
-      {"primary", Kind::PrimaryKey, {}, c.accentTop, c.outline, c.onAccent, true, true, false},
+      {"primary", PrimaryButton, {}, c.accentTop, c.outline, c.onAccent, true, true, false},
       {"primary pressed",
-       Kind::PrimaryKey,
+       PrimaryButton,
        {.pressed = true},
        c.accentDown,
        c.outline,
@@ -53,16 +55,16 @@ TEST(PickKeyFace, GivesEveryStateItsFaceEdgeAndText) {
        true,
        true},
       {"primary disabled",
-       Kind::PrimaryKey,
+       PrimaryButton,
        {.disabled = true},
-       c.keyOff,
+       c.buttonOff,
        c.edgeOff,
        c.textOff,
        false,
        false,
        false},
       {"empty socket",
-       Kind::GroupKey,
+       GroupButton,
        {.hover = true, .empty = true},
        c.socket,
        c.edgeOff,
@@ -72,7 +74,7 @@ TEST(PickKeyFace, GivesEveryStateItsFaceEdgeAndText) {
        false},
   };
   for (const auto& k : cases) {
-    const KeyFace face = Face(k.kind, k.state);
+    const ButtonFace face = Face(k.kind, k.state);
     EXPECT_EQ(face.top, k.top) << k.what;
     EXPECT_EQ(face.edge, k.edge) << k.what;
     EXPECT_EQ(face.text, k.text) << k.what;
@@ -82,26 +84,25 @@ TEST(PickKeyFace, GivesEveryStateItsFaceEdgeAndText) {
   }
 }
 
-TEST(PickKeyFace, KnowsTheKindsThatDiffer) {
-  EXPECT_FALSE(Face(Kind::StripKey, {}).hasFace) << "at rest only its icon shows";
-  EXPECT_TRUE(Face(Kind::StripKey, {.hover = true}).hasFace);
-  EXPECT_TRUE(Face(Kind::StripKey, {.disabled = true}).hasFace);
-  EXPECT_EQ(Face(Kind::RankingKey, {}).icon, kColors.muted);
-  EXPECT_EQ(Face(Kind::PlayKey, {}).top, kColors.accentTop) << "the first link is the primary one";
-  EXPECT_EQ(Face(Kind::PlayKey, {}, true).icon, kColors.accent);
-  EXPECT_EQ(Face(Kind::PrimaryKey, {}).focus, kColors.onAccent) << "visible on its own face";
+TEST(PickButtonFace, KnowsTheKindsThatDiffer) {
+  EXPECT_FALSE(Face(StripButton, {}).hasFace) << "at rest only its icon shows";
+  EXPECT_TRUE(Face(StripButton, {.hover = true}).hasFace);
+  EXPECT_TRUE(Face(StripButton, {.disabled = true}).hasFace);
+  EXPECT_EQ(Face(RankingButton, {}).icon, kColors.muted);
+  EXPECT_EQ(Face(PlayButton, {}).top, kColors.accentTop) << "the first link is the primary one";
+  EXPECT_EQ(Face(PlayButton, {}, true).icon, kColors.accent);
+  EXPECT_EQ(Face(PrimaryButton, {}).focus, kColors.onAccent) << "visible on its own face";
 }
 
-// What the user reads on a key is readable in both faceplates and every state.
-TEST(PickKeyFace, KeepsTextReadable) {
+// What the user reads on a button is readable in both faceplates and every state.
+TEST(PickButtonFace, KeepsTextReadable) {
   for (const BuiltInFaceplate faceplate : {BuiltInFaceplate::Graphite, BuiltInFaceplate::Porcelain}) {
     const FaceplateColors colors = DeriveColors(BuiltInColors(faceplate));
-    for (const Kind kind :
-         {Kind::PushKey, Kind::PrimaryKey, Kind::RankingKey, Kind::PlayKey, Kind::StripKey}) {
+    for (const ControlKind kind : {PushButton, PrimaryButton, RankingButton, PlayButton, StripButton}) {
       for (int bits = 0; bits < 8; ++bits) {
-        const KeyState state = {
+        const ButtonState state = {
             .hover = (bits & 1) != 0, .pressed = (bits & 2) != 0, .active = (bits & 4) != 0};
-        const KeyFace face = PickKeyFace(kind, false, state, colors);
+        const ButtonFace face = PickButtonFace(kind, false, state, colors);
         const Color ground = face.hasFace ? face.top : colors.plate;
         EXPECT_GE(ContrastRatio(face.text, ground), 4.5)
             << static_cast<int>(kind) << " state " << bits << " faceplate " << static_cast<int>(faceplate);

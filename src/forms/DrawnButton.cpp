@@ -1,4 +1,4 @@
-#include "forms/DrawnKey.h"
+#include "forms/DrawnButton.h"
 
 #include <algorithm>
 
@@ -12,25 +12,25 @@ namespace {
 constexpr int kCut = 5;
 constexpr int kPlayCut = 7;
 
-// One key being painted: the box is cut up in design units from its top-left corner.
+// One button being painted: the box is cut up in design units from its top-left corner.
 struct Canvas {
   HDC dc;
   RECT box;
-  const KeyPicture& key;
+  const ButtonPicture& button;
   const Painter& painter;
-  KeyFace face;
+  ButtonFace face;
 
   int Px(int design) const { return painter.Px(design); }
   int Down() const { return face.shiftDown ? painter.Line() : 0; }
   int Height() const { return static_cast<int>(box.bottom - box.top); }
   UINT Prefix() const {
-    if (key.noPrefix) return DT_NOPREFIX;
-    return key.hideAccel ? DT_HIDEPREFIX : 0;
+    if (button.noPrefix) return DT_NOPREFIX;
+    return button.hideAccel ? DT_HIDEPREFIX : 0;
   }
-  Type BodyType() const { return face.strong ? Type::BodyStrong : Type::Body; }
+  TextStyle BodyStyle() const { return face.strong ? TextStyle::BodyStrong : TextStyle::Body; }
 
-  void DrawText(const RECT& place, std::wstring_view text, Type type, Color color, UINT format) const {
-    painter.Text(dc, {place.left, place.top + Down(), place.right, place.bottom + Down()}, text, type, color,
+  void DrawText(const RECT& place, std::wstring_view text, TextStyle style, Color color, UINT format) const {
+    painter.Text(dc, {place.left, place.top + Down(), place.right, place.bottom + Down()}, text, style, color,
                  format);
   }
   void DrawIcon(Icon icon, int x, int designSize, Color color) const {
@@ -51,14 +51,14 @@ void PaintShape(const Canvas& c, int cut) {
 }
 
 void PaintFocus(const Canvas& c, int cut) {
-  if (!c.key.focused) return;
+  if (!c.button.focused) return;
   RECT inner = c.box;
   const int inset = c.painter.Px(2);
   InflateRect(&inner, -inset, -inset);
   c.painter.CutFrame(c.dc, inner, std::max(0, cut - inset / 2), c.face.focus, c.painter.FocusLine());
 }
 
-// Where icon and text of a push key lie: centred together, the text cut when the key is too narrow.
+// Where icon and text of a push button lie: centred together, the text cut when the button is too narrow.
 struct Centred {
   int iconX = 0;
   RECT text{};
@@ -70,10 +70,10 @@ constexpr int kSideRoom = 4;
 
 Centred CentreTogether(const Canvas& c) {
   const int margin = c.Px(kSideRoom);
-  const int icon = c.key.icon == Icon::None ? 0 : c.Px(kPushIcon);
-  const int gap = icon != 0 && !c.key.text.empty() ? c.Px(kIconGap) : 0;
+  const int icon = c.button.icon == Icon::None ? 0 : c.Px(kPushIcon);
+  const int gap = icon != 0 && !c.button.text.empty() ? c.Px(kIconGap) : 0;
   const int room = static_cast<int>(c.box.right - c.box.left) - 2 * margin - icon - gap;
-  const int needed = static_cast<int>(c.painter.Measure(c.key.text, c.BodyType(), c.Prefix()).cx);
+  const int needed = static_cast<int>(c.painter.Measure(c.button.text, c.BodyStyle(), c.Prefix()).cx);
   const int text = std::min(room, needed);
   Centred result;
   result.iconX = static_cast<int>(c.box.left) + margin + (room - text) / 2;
@@ -81,84 +81,84 @@ Centred CentreTogether(const Canvas& c) {
   return result;
 }
 
-void PaintPushKey(const Canvas& c) {
+void PaintPushButton(const Canvas& c) {
   PaintShape(c, c.Px(kCut));
   const Centred place = CentreTogether(c);
-  c.DrawIcon(c.key.icon, place.iconX, kPushIcon, c.face.icon);
-  c.DrawText(place.text, c.key.text, c.BodyType(), c.face.text, c.Prefix());
+  c.DrawIcon(c.button.icon, place.iconX, kPushIcon, c.face.icon);
+  c.DrawText(place.text, c.button.text, c.BodyStyle(), c.face.text, c.Prefix());
   PaintFocus(c, c.Px(kCut));
 }
 
-void PaintStripKey(const Canvas& c) {
+void PaintStripButton(const Canvas& c) {
   PaintShape(c, c.Px(kCut));
-  c.DrawIcon(c.key.icon,
+  c.DrawIcon(c.button.icon,
              static_cast<int>(c.box.left) + (static_cast<int>(c.box.right - c.box.left) - c.Px(14)) / 2, 14,
              c.face.icon);
   PaintFocus(c, c.Px(kCut));
 }
 
-void PaintRankingKey(const Canvas& c) {
+void PaintRankingButton(const Canvas& c) {
   PaintShape(c, c.Px(kCut));
-  if (c.key.state.active) {
+  if (c.button.state.active) {
     c.painter.Fill(c.dc, {c.box.left, c.box.top + c.Px(7), c.box.left + c.Px(3), c.box.bottom - c.Px(1)},
                    c.painter.Colors().accent);
   }
-  c.DrawIcon(c.key.icon, static_cast<int>(c.box.left) + c.Px(12), 16, c.face.icon);
-  c.DrawText({c.box.left + c.Px(38), c.box.top, c.box.right - c.Px(6), c.box.bottom}, c.key.text,
-             c.BodyType(), c.face.text, c.Prefix());
+  c.DrawIcon(c.button.icon, static_cast<int>(c.box.left) + c.Px(12), 16, c.face.icon);
+  c.DrawText({c.box.left + c.Px(38), c.box.top, c.box.right - c.Px(6), c.box.bottom}, c.button.text,
+             c.BodyStyle(), c.face.text, c.Prefix());
   PaintFocus(c, c.Px(kCut));
 }
 
-void PaintGroupKey(const Canvas& c) {
+void PaintGroupButton(const Canvas& c) {
   PaintShape(c, c.Px(kCut));
-  if (c.key.state.active) {
+  if (c.button.state.active) {
     c.painter.Fill(c.dc, {c.box.left + c.Px(1), c.box.bottom - c.Px(2), c.box.right - c.Px(6), c.box.bottom},
                    c.painter.Colors().accent);
   }
-  const Type figure = c.key.state.empty ? Type::Small : Type::SmallStrong;
-  c.DrawText({c.box.left + c.Px(8), c.box.top, c.box.left + c.Px(22), c.box.bottom}, c.key.detail, figure,
+  const TextStyle figure = c.button.state.empty ? TextStyle::Small : TextStyle::SmallStrong;
+  c.DrawText({c.box.left + c.Px(8), c.box.top, c.box.left + c.Px(22), c.box.bottom}, c.button.detail, figure,
              c.face.secondText, DT_NOPREFIX);
-  if (c.key.state.empty) {
+  if (c.button.state.empty) {
     const int middle = static_cast<int>(c.box.left + c.box.right) / 2;
-    if (c.key.state.hover || c.key.focused) c.DrawIcon(Icon::Add, middle - c.Px(7), 14, c.face.icon);
+    if (c.button.state.hover || c.button.focused) c.DrawIcon(Icon::Add, middle - c.Px(7), 14, c.face.icon);
   } else {
-    c.DrawText({c.box.left + c.Px(20), c.box.top, c.box.right - c.Px(6), c.box.bottom}, c.key.text,
-               c.BodyType(), c.face.text, c.Prefix());
+    c.DrawText({c.box.left + c.Px(20), c.box.top, c.box.right - c.Px(6), c.box.bottom}, c.button.text,
+               c.BodyStyle(), c.face.text, c.Prefix());
   }
   PaintFocus(c, c.Px(kCut));
 }
 
-void PaintPlayKey(const Canvas& c) {
+void PaintPlayButton(const Canvas& c) {
   PaintShape(c, c.Px(kPlayCut));
-  const std::wstring_view detail = c.key.detail;
+  const std::wstring_view detail = c.button.detail;
   const std::size_t tab = detail.find(L'\t');
   const bool numbered = tab != std::wstring_view::npos;
   const int left = static_cast<int>(c.box.left);
   const int top = static_cast<int>(c.box.top);
-  c.DrawIcon(c.key.icon == Icon::None ? Icon::Play : c.key.icon, left + c.Px(numbered ? 13 : 11), 16,
+  c.DrawIcon(c.button.icon == Icon::None ? Icon::Play : c.button.icon, left + c.Px(numbered ? 13 : 11), 16,
              c.face.icon);
   const int textLeft = left + c.Px(numbered ? 52 : 36);
   const int textRight =
       numbered ? static_cast<int>(c.box.right) - c.Px(28) : static_cast<int>(c.box.right) - c.Px(6);
   if (numbered) {
     const int x = left + c.Px(40);
-    const Color line = c.key.secondary ? c.painter.Colors().milled : c.face.text;
+    const Color line = c.button.secondary ? c.painter.Colors().milled : c.face.text;
     c.painter.Fill(c.dc, {x, top + c.Px(8), x + c.painter.Line(), top + c.Px(32)}, line);
     c.DrawText({c.box.right - c.Px(26), top, c.box.right - c.Px(10), c.box.bottom}, detail.substr(tab + 1),
-               Type::BodyStrong, c.face.secondText, DT_NOPREFIX | DT_RIGHT);
+               TextStyle::BodyStrong, c.face.secondText, DT_NOPREFIX | DT_RIGHT);
   }
   const std::wstring_view bitRate = detail.substr(0, tab);
   const int lines = top + c.Px(bitRate.empty() ? 11 : 4);  // one line stands in the middle
-  c.DrawText({textLeft, lines, textRight, lines + c.Px(18)}, c.key.text, Type::MessageStrong, c.face.text,
-             c.Prefix());
-  c.DrawText({textLeft, top + c.Px(20), textRight, top + c.Px(35)}, bitRate, Type::Small, c.face.secondText,
-             DT_NOPREFIX);
+  c.DrawText({textLeft, lines, textRight, lines + c.Px(18)}, c.button.text, TextStyle::MessageStrong,
+             c.face.text, c.Prefix());
+  c.DrawText({textLeft, top + c.Px(20), textRight, top + c.Px(35)}, bitRate, TextStyle::Small,
+             c.face.secondText, DT_NOPREFIX);
   PaintFocus(c, c.Px(kPlayCut));
 }
 
-void PaintHeaderKey(const Canvas& c) {
+void PaintHeaderButton(const Canvas& c) {
   PaintShape(c, 0);
-  const bool sorted = c.key.sort != SortMark::None;
+  const bool sorted = c.button.sort != SortMark::None;
   RECT text{c.box.left + c.Px(9), c.box.top, c.box.right - c.Px(2), c.box.bottom};
   if (sorted) {
     c.painter.Fill(c.dc, {c.box.left, c.box.bottom - c.Px(3), c.box.right, c.box.bottom},
@@ -166,15 +166,16 @@ void PaintHeaderKey(const Canvas& c) {
     text.bottom -= c.painter.Line();
     const LONG mark = c.box.right - c.Px(18);
     const LONG markInk = mark + c.Px(3);  // the triangle fills the middle of its square only
-    // In a key too narrow for both, the whole name says more than the triangle: the lit key tells the order.
-    if (text.left + c.painter.Measure(c.key.text, Type::BodyStrong, c.Prefix()).cx <= markInk) {
+    // In a button too narrow for both, the whole name says more than the triangle: the lit button tells the
+    // order.
+    if (text.left + c.painter.Measure(c.button.text, TextStyle::BodyStrong, c.Prefix()).cx <= markInk) {
       text.right = markInk;
-      c.painter.DrawIcon(c.dc, c.key.sort == SortMark::Up ? Icon::Sort : Icon::TriDown,
+      c.painter.DrawIcon(c.dc, c.button.sort == SortMark::Up ? Icon::Sort : Icon::TriDown,
                          static_cast<int>(mark), static_cast<int>(c.box.top) + c.Px(5) + c.Down(), 12,
                          c.painter.Colors().accent);
     }
   }
-  c.DrawText(text, c.key.text, Type::BodyStrong, c.face.text, c.Prefix());
+  c.DrawText(text, c.button.text, TextStyle::BodyStrong, c.face.text, c.Prefix());
   PaintFocus(c, 0);
 }
 
@@ -197,13 +198,13 @@ void PaintOctagon(const Canvas& c, const RECT& box, int cut, Color fill, Color e
 
 void PaintMark(const Canvas& c, const RECT& mark) {
   const FaceplateColors& colors = c.painter.Colors();
-  const KeyState& state = c.key.state;
+  const ButtonState& state = c.button.state;
   const Color edge = state.active && !state.disabled ? colors.accent : colors.edgeControl;
-  const Color fill = state.disabled                 ? colors.keyOff
+  const Color fill = state.disabled                 ? colors.buttonOff
                      : state.pressed || state.hover ? colors.rowHover
                                                     : colors.glass;
   const Color sign = state.disabled ? colors.textOff : colors.accent;
-  if (c.key.kind == Kind::RadioButton) {
+  if (c.button.kind == ControlKind::RadioButton) {
     PaintOctagon(c, mark, c.Px(5), fill, edge);
     if (!state.active) return;
     RECT dot = mark;
@@ -224,81 +225,82 @@ void PaintMark(const Canvas& c, const RECT& mark) {
 
 void PaintCheck(const Canvas& c) {
   const FaceplateColors& colors = c.painter.Colors();
-  const KeyState& state = c.key.state;
+  const ButtonState& state = c.button.state;
   const int left = static_cast<int>(c.box.left) + c.Px(kMarkMargin);
   const int top = static_cast<int>(c.box.top) + (c.Height() - c.Px(16)) / 2;
-  if (c.key.focused) {
-    const Type measured = c.key.kind == Kind::RadioButton && state.active ? Type::BodyStrong : Type::Body;
-    const int text = static_cast<int>(c.painter.Measure(c.key.text, measured, c.Prefix()).cx);
+  if (c.button.focused) {
+    const TextStyle measured =
+        c.button.kind == ControlKind::RadioButton && state.active ? TextStyle::BodyStrong : TextStyle::Body;
+    const int text = static_cast<int>(c.painter.Measure(c.button.text, measured, c.Prefix()).cx);
     const int right = std::min(static_cast<int>(c.box.right), left + c.Px(24 + 8) + text);
     c.painter.Frame(c.dc, {c.box.left, top - c.Px(4), right, top + c.Px(20)}, colors.focus,
                     c.painter.FocusLine());
   }
   PaintMark(c, {left, top, left + c.Px(16), top + c.Px(16)});
-  const bool strong = c.key.kind == Kind::RadioButton && state.active;
-  c.painter.Text(c.dc, {left + c.Px(24), c.box.top, c.box.right, c.box.bottom}, c.key.text,
-                 strong ? Type::BodyStrong : Type::Body, state.disabled ? colors.textOff : colors.text,
-                 c.Prefix());
+  const bool strong = c.button.kind == ControlKind::RadioButton && state.active;
+  c.painter.Text(c.dc, {left + c.Px(24), c.box.top, c.box.right, c.box.bottom}, c.button.text,
+                 strong ? TextStyle::BodyStrong : TextStyle::Body,
+                 state.disabled ? colors.textOff : colors.text, c.Prefix());
 }
 
 TabPicture TabOf(const Canvas& c) {
-  const KeyState& state = c.key.state;
-  return {c.key.text,    c.Prefix(),    state.active,     state.hover,
-          state.pressed, c.key.focused, c.key.dialOffset, c.key.needle};
+  const ButtonState& state = c.button.state;
+  return {c.button.text, c.Prefix(),       state.active,        state.hover,
+          state.pressed, c.button.focused, c.button.dialOffset, c.button.needle};
 }
 
 }  // namespace
 
-void PaintKey(HDC dc, const RECT& box, const KeyPicture& key, const Painter& painter) {
-  KeyState state = key.state;
-  if (key.kind == Kind::HeaderKey) state.active = key.sort != SortMark::None;
-  const Canvas canvas = {dc, box, key, painter,
-                         PickKeyFace(key.kind, key.secondary, state, painter.Colors())};
-  switch (key.kind) {
-    case Kind::StripKey:
-      return PaintStripKey(canvas);
-    case Kind::RankingKey:
-      return PaintRankingKey(canvas);
-    case Kind::GroupKey:
-      return PaintGroupKey(canvas);
-    case Kind::PlayKey:
-      return PaintPlayKey(canvas);
-    case Kind::HeaderKey:
-      return PaintHeaderKey(canvas);
-    case Kind::TabKey:
+void PaintButton(HDC dc, const RECT& box, const ButtonPicture& button, const Painter& painter) {
+  ButtonState state = button.state;
+  if (button.kind == ControlKind::HeaderButton) state.active = button.sort != SortMark::None;
+  const Canvas canvas = {dc, box, button, painter,
+                         PickButtonFace(button.kind, button.secondary, state, painter.Colors())};
+  switch (button.kind) {
+    case ControlKind::StripButton:
+      return PaintStripButton(canvas);
+    case ControlKind::RankingButton:
+      return PaintRankingButton(canvas);
+    case ControlKind::GroupButton:
+      return PaintGroupButton(canvas);
+    case ControlKind::PlayButton:
+      return PaintPlayButton(canvas);
+    case ControlKind::HeaderButton:
+      return PaintHeaderButton(canvas);
+    case ControlKind::TabButton:
       return PaintTab(dc, box, TabOf(canvas), painter);
-    case Kind::CheckBox:
-    case Kind::RadioButton:
+    case ControlKind::CheckBox:
+    case ControlKind::RadioButton:
       return PaintCheck(canvas);
     default:
-      return PaintPushKey(canvas);
+      return PaintPushButton(canvas);
   }
 }
 
-KeyTextRoom MeasureKey(const RECT& box, const KeyPicture& key, const Painter& painter) {
+ButtonTextRoom MeasureButton(const RECT& box, const ButtonPicture& button, const Painter& painter) {
   const int width = static_cast<int>(box.right - box.left);
-  const auto needed = [&](Type type) {
-    return static_cast<int>(painter.Measure(key.text, type, key.noPrefix ? DT_NOPREFIX : 0).cx);
+  const auto needed = [&](TextStyle style) {
+    return static_cast<int>(painter.Measure(button.text, style, button.noPrefix ? DT_NOPREFIX : 0).cx);
   };
-  switch (key.kind) {
-    case Kind::StripKey:
+  switch (button.kind) {
+    case ControlKind::StripButton:
       return {0, width};
-    case Kind::RankingKey:
-      return {needed(Type::BodyStrong), width - painter.Px(44)};
-    case Kind::GroupKey:
-      return {key.state.empty ? 0 : needed(Type::BodyStrong), width - painter.Px(26)};
-    case Kind::PlayKey: {
-      const bool numbered = key.detail.find(L'\t') != std::wstring::npos;
-      return {needed(Type::MessageStrong), width - painter.Px(numbered ? 80 : 42)};
+    case ControlKind::RankingButton:
+      return {needed(TextStyle::BodyStrong), width - painter.Px(44)};
+    case ControlKind::GroupButton:
+      return {button.state.empty ? 0 : needed(TextStyle::BodyStrong), width - painter.Px(26)};
+    case ControlKind::PlayButton: {
+      const bool numbered = button.detail.find(L'\t') != std::wstring::npos;
+      return {needed(TextStyle::MessageStrong), width - painter.Px(numbered ? 80 : 42)};
     }
-    case Kind::HeaderKey:
-      return {needed(Type::BodyStrong), width - painter.Px(11)};
-    case Kind::CheckBox:
-    case Kind::RadioButton:
-      return {needed(Type::BodyStrong), width - painter.Px(24 + kMarkMargin)};
+    case ControlKind::HeaderButton:
+      return {needed(TextStyle::BodyStrong), width - painter.Px(11)};
+    case ControlKind::CheckBox:
+    case ControlKind::RadioButton:
+      return {needed(TextStyle::BodyStrong), width - painter.Px(24 + kMarkMargin)};
     default: {
-      const int icon = key.icon == Icon::None ? 0 : painter.Px(kPushIcon + kIconGap);
-      return {needed(key.kind == Kind::PushKey ? Type::Body : Type::BodyStrong),
+      const int icon = button.icon == Icon::None ? 0 : painter.Px(kPushIcon + kIconGap);
+      return {needed(button.kind == ControlKind::PushButton ? TextStyle::Body : TextStyle::BodyStrong),
               width - icon - 2 * painter.Px(kSideRoom)};
     }
   }

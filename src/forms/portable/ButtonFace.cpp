@@ -1,38 +1,39 @@
-#include "forms/portable/KeyFace.h"
+#include "forms/portable/ButtonFace.h"
 
 namespace sonaro {
 namespace {
 
-bool IsPrimary(Kind kind, bool secondary) {
-  return kind == Kind::PrimaryKey || (kind == Kind::PlayKey && !secondary);
+bool IsPrimary(ControlKind kind, bool secondary) {
+  return kind == ControlKind::PrimaryButton || (kind == ControlKind::PlayButton && !secondary);
 }
 
-void SetFace(KeyFace& face, Color top, Color bottom) {
+void SetFace(ButtonFace& face, Color top, Color bottom) {
   face.top = top;
   face.bottom = bottom;
 }
 
-void PickPlain(KeyFace& face, Kind kind, bool secondary, const KeyState& state, const FaceplateColors& c) {
-  SetFace(face, c.keyTop, c.keyBottom);
+void PickPlain(ButtonFace& face, ControlKind kind, bool secondary, const ButtonState& state,
+               const FaceplateColors& c) {
+  SetFace(face, c.buttonTop, c.buttonBottom);
   face.text = c.text;
-  face.secondText = c.keyMuted;
+  face.secondText = c.buttonMuted;
   face.icon = c.text;
-  if (kind == Kind::RankingKey) face.icon = c.muted;
-  if (kind == Kind::PlayKey && secondary) face.icon = c.accent;
-  face.strong = kind == Kind::HeaderKey;
-  face.milledLine = c.keyHigh;
+  if (kind == ControlKind::RankingButton) face.icon = c.muted;
+  if (kind == ControlKind::PlayButton && secondary) face.icon = c.accent;
+  face.strong = kind == ControlKind::HeaderButton;
+  face.milledLine = c.buttonHigh;
   face.hasMilledLine = !state.pressed;
   if (state.pressed) {
-    SetFace(face, c.keyDown, c.keyDown);
+    SetFace(face, c.buttonDown, c.buttonDown);
   } else if (state.hover) {
-    SetFace(face, c.keyHover, c.keyHover);
-  } else if (kind == Kind::StripKey) {
+    SetFace(face, c.buttonHover, c.buttonHover);
+  } else if (kind == ControlKind::StripButton) {
     face.hasFace = false;
     face.hasMilledLine = false;
   }
 }
 
-void PickPrimary(KeyFace& face, const KeyState& state, const FaceplateColors& c) {
+void PickPrimary(ButtonFace& face, const ButtonState& state, const FaceplateColors& c) {
   SetFace(face, c.accentTop, c.accentBottom);
   if (state.pressed) {
     SetFace(face, c.accentDown, c.accentDown);
@@ -45,9 +46,9 @@ void PickPrimary(KeyFace& face, const KeyState& state, const FaceplateColors& c)
   face.strong = true;
 }
 
-void PickActive(KeyFace& face, const KeyState& state, const FaceplateColors& c) {
-  SetFace(face, c.keyOn, c.keyOn);
-  if (state.hover && !state.pressed) SetFace(face, c.keyHover, c.keyHover);
+void PickActive(ButtonFace& face, const ButtonState& state, const FaceplateColors& c) {
+  SetFace(face, c.buttonOn, c.buttonOn);
+  if (state.hover && !state.pressed) SetFace(face, c.buttonHover, c.buttonHover);
   face.edge = c.accent;
   face.text = face.secondText = face.icon = c.tabText;
   face.strong = true;
@@ -55,8 +56,9 @@ void PickActive(KeyFace& face, const KeyState& state, const FaceplateColors& c) 
 
 }  // namespace
 
-KeyFace PickKeyFace(Kind kind, bool secondary, const KeyState& state, const FaceplateColors& c) {
-  KeyFace face;
+ButtonFace PickButtonFace(ControlKind kind, bool secondary, const ButtonState& state,
+                          const FaceplateColors& c) {
+  ButtonFace face;
   face.edge = c.outline;
   face.focus = c.focus;
   face.shiftDown = state.pressed && !state.disabled;
@@ -66,7 +68,7 @@ KeyFace PickKeyFace(Kind kind, bool secondary, const KeyState& state, const Face
     face.text = face.secondText = face.icon = c.textOff;
     face.shiftDown = false;
   } else if (state.disabled) {
-    SetFace(face, c.keyOff, c.keyOff);
+    SetFace(face, c.buttonOff, c.buttonOff);
     face.edge = c.edgeOff;
     face.text = face.secondText = face.icon = c.textOff;
   } else if (state.active) {

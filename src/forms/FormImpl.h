@@ -14,7 +14,7 @@
 #include <string>
 #include <vector>
 
-#include "forms/DrawnKey.h"
+#include "forms/DrawnButton.h"
 #include "forms/Form.h"
 #include "forms/Painter.h"
 #include "forms/ScrollBar.h"
@@ -24,41 +24,41 @@
 namespace sonaro {
 
 // A row of the control table at run time.
-struct FormItem {
+struct ControlInstance {
   const ControlRow* row = nullptr;
-  FormParts* parts = nullptr;
+  FormImpl* parts = nullptr;
   HWND window = nullptr;       // nullptr: a decoration, or a view
   WNDPROC original = nullptr;  // the procedure of its class
   bool wanted = true;          // not hidden by kHidden or ShowControl
   bool shown = false;          // wanted, in a shown pane, and with a place in the layout
   bool hover = false;
-  bool emptySocket = false;  // GroupKey
+  bool emptySocket = false;  // GroupButton
   bool groupStart = true;
   PixelRect place;  // of the row's rectangle; the window may be smaller (an edit in its glass)
   std::string detail;
   Icon icon = Icon::None;
-  Ink ink = Ink::Default;
+  TextColor color = TextColor::Default;
   SortMark sort = SortMark::None;
   Form::PicturePainter picture;
   std::unique_ptr<FormControl> view;
   std::unique_ptr<ScrollBar> bar;  // of a text of several lines
 
   int Id() const { return row->id; }
-  Kind KindOf() const { return row->kind; }
+  ControlKind KindOf() const { return row->kind; }
   bool Has(unsigned flag) const { return (row->flags & flag) != 0; }
   HWND Window() const { return view ? view->Window() : window; }
 };
 
-bool IsText(Kind kind);    // Label, TitleBar, StateLabel
-bool IsKey(Kind kind);     // pressed by Enter: every key except check boxes and radio buttons
-bool IsToggle(Kind kind);  // keys that keep a state
-bool IsCheck(Kind kind);   // CheckBox, RadioButton
-bool IsEdit(Kind kind);    // in glass that the form paints
-bool HasLines(Kind kind);  // MultiEdit, ReadOnlyText
-bool IsCombo(Kind kind);
-bool IsFramedView(Kind kind);  // ListView, TreeView: in glass that the form paints
-bool IsDecoration(Kind kind);  // painted by the form, no window
-Type FontTypeOf(const ControlRow& row);
+bool IsText(ControlKind kind);    // Label, TitleBar, StateLabel
+bool IsButton(ControlKind kind);  // pressed by Enter: every button except check boxes and radio buttons
+bool IsToggle(ControlKind kind);  // buttons that keep a state
+bool IsCheck(ControlKind kind);   // CheckBox, RadioButton
+bool IsEdit(ControlKind kind);    // in glass that the form paints
+bool HasLines(ControlKind kind);  // MultiEdit, ReadOnlyText
+bool IsCombo(ControlKind kind);
+bool IsFramedView(ControlKind kind);  // ListView, TreeView: in glass that the form paints
+bool IsDecoration(ControlKind kind);  // painted by the form, no window
+TextStyle TextStyleOf(const ControlRow& row);
 
 // The form's ground: plate, decorations, outline. Painted once for a look and a layout; controls copy from it
 // what lies behind them.
@@ -70,7 +70,7 @@ class Backdrop {
   Backdrop& operator=(const Backdrop&) = delete;
   void Discard();
   // The bitmap's device context, painted first when it is not.
-  HDC Get(const FormParts& parts);
+  HDC Get(const FormImpl& parts);
 
  private:
   HDC dc_ = nullptr;
@@ -78,21 +78,22 @@ class Backdrop {
   HGDIOBJ before_ = nullptr;
 };
 
-class FormParts final : public FormServices, public std::enable_shared_from_this<FormParts> {
+class FormImpl final : public FormServices, public std::enable_shared_from_this<FormImpl> {
  public:
-  FormParts(Form& form, FormContext& formContext, const FormDesign& formDesign);
-  ~FormParts() override;
+  FormImpl(Form& form, FormContext& formContext, const FormDesign& formDesign);
+  ~FormImpl() override;
 
-  const Painter& Look() const override { return *painter; }
+  const Painter& Theme() const override { return *painter; }
   void PaintBackdrop(HDC dc, HWND control) override;
   void Raise(const FormEvent& event) override;
 
-  FormItem* Find(int id);
-  FormItem* Find(HWND window);  // the control or a window inside it
-  FormControl& ViewOf(int id);  // throws std::out_of_range where there is none
-  FormItem* Focused();
-  std::span<FormItem> GroupOf(const FormItem& item);  // with its neighbours in the arrow keys' group
-  FormItem* ShownPrimary();
+  ControlInstance* Find(int id);
+  ControlInstance* Find(HWND window);  // the control or a window inside it
+  FormControl& ViewOf(int id);         // throws std::out_of_range where there is none
+  ControlInstance* Focused();
+  std::span<ControlInstance> GroupOf(
+      const ControlInstance& item);  // with its neighbours in the arrow keys' group
+  ControlInstance* ShownPrimary();
 
   // Runs the handler of the event table; false when none is bound. The form may be gone afterwards.
   bool Handle(const FormEvent& event);
@@ -107,8 +108,8 @@ class FormParts final : public FormServices, public std::enable_shared_from_this
   bool BuildWindow(HWND owner);
   void BuildControls();
   std::unique_ptr<FormControl> MakeView(const ControlRow& row);  // FormViews.cpp; nullptr for the other kinds
-  void SetTip(FormItem& item, const std::string& text);
-  void PlaceTip(const FormItem& item) const;  // of a label that has moved
+  void SetTip(ControlInstance& item, const std::string& text);
+  void PlaceTip(const ControlInstance& item) const;  // of a label that has moved
 
   // FormLayout.cpp
   void ChooseDpi(HMONITOR monitor);  // makes the painter
@@ -116,13 +117,14 @@ class FormParts final : public FormServices, public std::enable_shared_from_this
   // window keeps its corner.
   enum class Fit : bool { No, Yes };
   void UseDpi(int dpi, Fit fit = Fit::Yes);
-  void RenewLook();     // colours changed: painter, brushes, fonts, outline, everything painted again
+  void RenewTheme();    // colours changed: painter, brushes, fonts, outline, everything painted again
   void ResizeWindow();  // to the layout's size at the dpi, outline included
   void PlaceControls();
-  void ShowOrHide(FormItem& item);
+  void ShowOrHide(ControlInstance& item);
   void UpdateTabStops();  // one in each group; before the focus moves by the keyboard
   DesignSize Size() const;
-  RECT WindowBox(const FormItem& item) const;  // of the control's window, which may be smaller than its place
+  RECT WindowBox(
+      const ControlInstance& item) const;  // of the control's window, which may be smaller than its place
 
   // FormWindow.cpp
   LRESULT HandleMessage(UINT message, WPARAM wParam, LPARAM lParam);
@@ -131,21 +133,21 @@ class FormParts final : public FormServices, public std::enable_shared_from_this
   void ShowCues(bool focus, bool accessKeys);
   void Destroy();
   void DestroySoon();  // when the handler that runs now has returned
-  std::string TextOf(const Words& words) const;
+  std::string TextOf(const ControlText& words) const;
 
   // FormPaint.cpp
   void PaintWindow(HDC dc, const RECT& dirty);
-  void PaintItem(const FormItem& item, HDC dc, const RECT& box);
-  KeyPicture PictureOf(const FormItem& item) const;
-  int DialOffset(const FormItem& tab) const;
-  void RepaintItem(const FormItem& item);
+  void PaintItem(const ControlInstance& item, HDC dc, const RECT& box);
+  ButtonPicture PictureOf(const ControlInstance& item) const;
+  int DialOffset(const ControlInstance& tab) const;
+  void RepaintItem(const ControlInstance& item);
 
   // FormNeedle.cpp
-  void MoveNeedle(const FormItem& tab);  // the tab is the active one now
-  void StopNeedle();                     // where it belongs, at once
-  bool StepNeedle(WPARAM timer);         // false: the timer is another one
+  void MoveNeedle(const ControlInstance& tab);  // the tab is the active one now
+  void StopNeedle();                            // where it belongs, at once
+  bool StepNeedle(WPARAM timer);                // false: the timer is another one
   // Where the needle stands, in pixels from the tab's left edge, perhaps beside the tab; nothing without one.
-  std::optional<int> NeedleOn(const FormItem& tab, bool active) const;
+  std::optional<int> NeedleOn(const ControlInstance& tab, bool active) const;
 
   Form* form;                         // nullptr once the form is gone
   std::vector<EventTarget*> targets;  // the form, then its panes; empty once the form is gone
@@ -153,8 +155,8 @@ class FormParts final : public FormServices, public std::enable_shared_from_this
   const FormDesign& design;
   HWND window = nullptr;
   HWND tips = nullptr;
-  std::vector<FormItem> items;
-  std::vector<FormItem> formerItems;  // of the window before: its last call may still be running
+  std::vector<ControlInstance> items;
+  std::vector<ControlInstance> formerItems;  // of the window before: its last call may still be running
   std::bitset<256> hiddenPanes;
   std::unique_ptr<Painter> painter;
   Backdrop backdrop;
@@ -184,7 +186,7 @@ class FormParts final : public FormServices, public std::enable_shared_from_this
     const EventRow* row = nullptr;
   };
   Binding BindingOf(int id, FormEvent::Kind kind) const;
-  TTTOOLINFOW ToolOf(const FormItem& item) const;
+  TTTOOLINFOW ToolOf(const ControlInstance& item) const;
   void Load();
   void MakePainter(int dpi);
   LRESULT HandleCommand(WPARAM wParam, LPARAM lParam);
@@ -194,38 +196,38 @@ class FormParts final : public FormServices, public std::enable_shared_from_this
   LRESULT HandlePointer(UINT message, LPARAM lParam);
   LRESULT HandleContextMenu(HWND control, LPARAM lParam);
   LRESULT HandleSurroundings(UINT message, WPARAM wParam, LPARAM lParam);
-  void EditNotice(FormItem& item, int code);
-  void ComboNotice(FormItem& item, int code);
+  void EditNotice(ControlInstance& item, int code);
+  void ComboNotice(ControlInstance& item, int code);
   void Drag();
   void Forget();
 };
 
 // Lets go of a form's inside. When the form is gone and this was the last to hold it, it is freed only after
 // the calls that are still running in its controls have returned.
-void LetGo(std::shared_ptr<FormParts> parts);
+void LetGo(std::shared_ptr<FormImpl> parts);
 
 // The form that a window of this thread is; nullptr for every other window.
-FormParts* FormPartsOf(HWND window);
+FormImpl* FormImplOf(HWND window);
 
 // The one window procedure of all forms.
 LRESULT CALLBACK FormProcedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam) noexcept;
 
 // ControlWindow.cpp: hover, repainting, painting of check boxes for every control of a form.
-void WatchControl(FormParts& parts, FormItem& item);
-LRESULT CallControl(const FormItem& item, UINT message, WPARAM wParam,
+void WatchControl(FormImpl& parts, ControlInstance& item);
+LRESULT CallControl(const ControlInstance& item, UINT message, WPARAM wParam,
                     LPARAM lParam);  // its class's own work
 
 // LinesBar.cpp: the scroll bar beside a text of several lines.
-void DressLines(FormParts& parts, FormItem& item);
-void PlaceLinesBar(const FormParts& parts, FormItem& item);
-void UpdateLinesBar(const FormParts& parts, FormItem& item);  // after what may have scrolled the text
+void AttachLines(FormImpl& parts, ControlInstance& item);
+void PlaceLinesBar(const FormImpl& parts, ControlInstance& item);
+void UpdateLinesBar(const FormImpl& parts, ControlInstance& item);  // after what may have scrolled the text
 
 // ComboFace.cpp: the drawn face of a combo and its open list.
 std::wstring ComboRowText(HWND combo, int row);  // "" for a row that it does not have
-LRESULT HandleComboMessage(FormParts& parts, const FormItem& item, UINT message, WPARAM wParam,
+LRESULT HandleComboMessage(FormImpl& parts, const ControlInstance& item, UINT message, WPARAM wParam,
                            LPARAM lParam);
-void DressCombo(FormParts& parts, FormItem& item);
-void SizeCombo(FormParts& parts, FormItem& item);
-void PaintComboRow(const FormParts& parts, const DRAWITEMSTRUCT& draw);
+void AttachCombo(FormImpl& parts, ControlInstance& item);
+void SizeCombo(FormImpl& parts, ControlInstance& item);
+void PaintComboRow(const FormImpl& parts, const DRAWITEMSTRUCT& draw);
 
 }  // namespace sonaro
