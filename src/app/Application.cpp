@@ -69,7 +69,7 @@ Application::Application(const Platform& platform, const Strings& strings, const
   pages_.SetShowErrorText([this](const std::string& sentence) { ShowErrorText(sentence); });
   context_.clickSound = [this] {
     // Keys click unless the user switched it off.
-    if (!EqualIgnoringCase(reg_.Setting(setting::kSoundClick), "False")) PlaySoundFile(kClickSound);
+    if (reg_.Get(setting::kSoundClick)) PlaySoundFile(kClickSound);
   };
   context_.bringUp = [this](const std::string& caption) {
     if (schedule_) schedule_->ShowNotification(caption);
@@ -174,7 +174,7 @@ void Application::ConnectMainWindow() {
 
 // Where the user left it, if that is still on a screen; the first time in the middle.
 void Application::PlaceMainWindow() {
-  const std::string place = reg_.Setting(setting::kMainPlace);
+  const std::string place = reg_.Get(setting::kMainPlace);
   const auto comma = place.find(',');
   if (comma == std::string::npos) {
     main_->CentreOn(nullptr);
@@ -187,7 +187,7 @@ void Application::PlaceMainWindow() {
 void Application::RememberPlace() {
   RECT box{};
   if (!main_ || IsIconic(main_->Window()) || !GetWindowRect(main_->Window(), &box)) return;
-  reg_.SetSetting(setting::kMainPlace, std::to_string(box.left) + "," + std::to_string(box.top));
+  reg_.Set(setting::kMainPlace, std::to_string(box.left) + "," + std::to_string(box.top));
 }
 
 void Application::ShowMainWindow() { main_->Show(); }
@@ -338,8 +338,8 @@ void Application::BringForward(std::string_view view) {
 
 // The close button ends the program or hides it, as the user wants; the first time he is asked.
 void Application::CloseAsked() {
-  std::string keep = reg_.Setting(setting::kCloseToTray);
-  if (keep.empty()) {
+  AfterClose choice = reg_.Get(setting::kCloseToTray);
+  if (choice == AfterClose::Ask) {
     const MessageResult result = messages_.Ask({.key = "CloseOrTray",
                                                 .caption = strings_.Load(IDS_CLOSE_CAPTION),
                                                 .text = strings_.Load(IDS_CLOSE_TEXT),
@@ -348,10 +348,10 @@ void Application::CloseAsked() {
                                                 .cancelButton = strings_.Load(IDS_APP_CANCEL),
                                                 .dontAskText = strings_.Load(IDS_DONT_ASK_AGAIN)});
     if (result.answer == MessageAnswer::Closed) return;
-    keep = result.answer == MessageAnswer::First ? "Yes" : "No";
-    if (result.dontAskAgain) reg_.SetSetting(setting::kCloseToTray, keep);
+    choice = result.answer == MessageAnswer::First ? AfterClose::KeepInTray : AfterClose::Exit;
+    if (result.dontAskAgain) reg_.Set(setting::kCloseToTray, choice);
   }
-  if (IsYes(keep)) {
+  if (choice == AfterClose::KeepInTray) {
     main_->Hide();
   } else {
     Exit();

@@ -113,7 +113,7 @@ void Application::EditPersonalStation(int index) {
 void Application::DeletePersonalStation(int index) {
   const PersonalStation* known = personal_.Find(index);
   if (known == nullptr) return;
-  if (reg_.Setting(setting::kNoShowDeletePersonalStation).empty()) {
+  if (!reg_.Get(setting::kNoShowDeletePersonalStation)) {
     const MessageResult result =
         messages_.Ask({.key = "DeletePersonalStation",
                        .caption = strings_.Load(IDS_DLG_OWN_DELETE_CAPTION),
@@ -122,7 +122,7 @@ void Application::DeletePersonalStation(int index) {
                        .secondButton = strings_.Load(IDS_APP_CANCEL),
                        .dontAskText = strings_.Load(IDS_DONT_ASK_AGAIN)});
     if (result.answer != MessageAnswer::First) return;
-    if (result.dontAskAgain) reg_.SetSetting(setting::kNoShowDeletePersonalStation, "Yes");
+    if (result.dontAskAgain) reg_.Set(setting::kNoShowDeletePersonalStation, true);
   }
   SavedOrSaid(personal_.Delete(index), strings_.Load(IDS_FILE_STATIONS), messages_, strings_);
   main_->PersonalStationsChanged();

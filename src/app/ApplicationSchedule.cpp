@@ -98,15 +98,13 @@ NotifyActions ApplicationSchedule::MakeNotifyActions() {
   return {[this](const PlayChoice& choice) { needs_.player.LaunchStation(choice.key, choice.mode); },
           [this](const std::string& address) { needs_.pages.OpenWebPage(address); },
           [this] {
-            const std::string sound = needs_.reg.Setting(setting::kSoundNotify);
-            if (playSound_ && (sound.empty() || EqualIgnoringCase(sound, "True"))) playSound_();
+            if (playSound_ && needs_.reg.Get(setting::kSoundNotify)) playSound_();
           },
           [this] { needs_.help.OpenHelpPage("9008.html"); }};
 }
 
 void ApplicationSchedule::StartWatching() {
-  if (const auto seen = ParseServiceTime(needs_.reg.Setting(setting::kScheduleLastSeen)))
-    timer_.CatchUp(*seen);
+  if (const auto seen = ParseServiceTime(needs_.reg.Get(setting::kScheduleLastSeen))) timer_.CatchUp(*seen);
   timer_.EvaluateSchedule();
   RememberSeen();
 }
@@ -125,7 +123,7 @@ unsigned ApplicationSchedule::Minute() {
 // After whatever may have told something, so that the next start, even after a crash, tells neither that
 // again nor less than all that follows.
 void ApplicationSchedule::RememberSeen() {
-  needs_.reg.SetSetting(setting::kScheduleLastSeen, StampOf(timer_.ToldUntil()));
+  needs_.reg.Set(setting::kScheduleLastSeen, StampOf(timer_.ToldUntil()));
 }
 
 void ApplicationSchedule::AskForNotification(Form& window, int slot) {

@@ -124,7 +124,7 @@ void ApplicationService::TestProxy(HWND owner, const std::string& address, const
 }
 
 std::string ApplicationService::DetectProxy() {
-  return IsYes(needs_.reg.Setting(setting::kProxyUse)) ? std::string() : BrowserProxy();
+  return needs_.reg.Get(setting::kProxyUse) ? std::string() : BrowserProxy();
 }
 
 std::string ApplicationService::BrowserProxy() {

@@ -21,14 +21,6 @@
 
 namespace sonaro {
 
-namespace {
-
-constexpr std::string_view kDone = "No";  // a check of the first run that is not needed again
-
-bool IsDone(const CReg& reg, const char* check) { return EqualIgnoringCase(reg.Setting(check), kDone); }
-
-}  // namespace
-
 bool Startup::Main() {
   if (AnotherInstanceRuns()) return false;
   state_.startedWithWindows = IsStartWithWindows(state_.commandLine);
@@ -106,26 +98,26 @@ bool Startup::CheckDataFiles(bool askUser, bool& end) {
 }
 
 bool Startup::FirstRunChecks() {
-  if (!IsDone(use_.reg, setting::kStartPlayer)) {
+  if (use_.reg.Get(setting::kStartPlayer)) {
     if (use_.players.RegisteredRealPlayer().empty() && use_.players.Chosen().empty()) {
       view_.ShowStartUpInfo(StartUpInfoPage::Player);
       if (!view_.GoesOn(0.8)) return false;
     } else {
-      use_.reg.SetSetting(setting::kStartPlayer, kDone);
+      use_.reg.Set(setting::kStartPlayer, false);
     }
   }
-  if (!IsDone(use_.reg, setting::kStartProxy)) {
+  if (use_.reg.Get(setting::kStartProxy)) {
     if (use_.proxyFound && use_.proxyFound()) {
       view_.ShowStartUpInfo(StartUpInfoPage::Proxy);
     } else {
-      use_.reg.SetSetting(setting::kStartProxy, kDone);
+      use_.reg.Set(setting::kStartProxy, false);
     }
   }
   return view_.GoesOn(0.9);
 }
 
 bool Startup::OfferQuickStart() {
-  if (IsDone(use_.reg, setting::kStartQuickStart)) return true;
+  if (!use_.reg.Get(setting::kStartQuickStart)) return true;
   Message message;
   message.key = "QuickStart";
   message.caption = use_.strings.Load(IDS_QUICK_START_CAPTION);
@@ -135,7 +127,7 @@ bool Startup::OfferQuickStart() {
   const MessageAnswer answer = use_.messageBox.Ask(message).answer;
   if (!view_.GoesOn(1)) return false;
   if (answer == MessageAnswer::First) use_.help.OpenHelpPage(HelpPageForMessage(message.key));
-  use_.reg.SetSetting(setting::kStartQuickStart, kDone);
+  use_.reg.Set(setting::kStartQuickStart, false);
   return true;
 }
 

@@ -77,6 +77,4 @@ std::string OnOneLine(std::string_view text) {
   return line;
 }
 
-bool IsYes(std::string_view setting) { return EqualIgnoringCase(TrimBlanks(setting), "Yes"); }
-
 }  // namespace sonaro

@@ -63,7 +63,4 @@ std::string_view TruncateUtf8(std::string_view text, std::size_t maxBytes);
 // The text with a blank for each carriage return and line feed: fit for one line of a file of lines.
 std::string OnOneLine(std::string_view text);
 
-// A yes/no setting is on only when it reads "Yes", trimmed and ignoring letter case.
-bool IsYes(std::string_view setting);
-
 }  // namespace sonaro

@@ -40,7 +40,7 @@ bool DataFilesMissing(DataFolder& data) {
 }
 
 bool AskToGetMissingFiles(CReg& reg, const Strings& strings, MessageBoxView& messages) {
-  reg.SetSetting(setting::kLastUpdate, "");
+  reg.Set(setting::kLastUpdate, "");
   Message message;
   message.key = kMissingFilesKey;
   message.caption = strings.Load(IDS_FILES_MISSING_CAPTION);

@@ -15,9 +15,9 @@ bool IsPlainFileName(std::string_view name) {
   return !name.empty() && name != "." && name != ".." && name.find_first_of("\\/:") == std::string_view::npos;
 }
 
-void StoreHeld(CReg& reg, const char* from, const char* to) {
-  const std::string value = reg.Setting(from);
-  if (!value.empty()) reg.SetSetting(to, value);
+void StoreHeld(CReg& reg, const setting::Text& from, const setting::Text& to) {
+  const std::string value = reg.Get(from);
+  if (!value.empty()) reg.Set(to, value);
 }
 
 // A copy, and one that was being written.
@@ -61,13 +61,13 @@ void RemoveTemporaries(DataFolder& data, const HeldNames& waiting) {
 }
 
 void ForgetHeldDate(CReg& reg) {
-  for (const char* name : {setting::kUpdateHoldDate, setting::kUpdateHoldVersion}) {
-    if (!reg.Setting(name).empty()) reg.SetSetting(name, "");
+  for (const setting::Text& held : {setting::kUpdateHoldDate, setting::kUpdateHoldVersion}) {
+    if (!reg.Get(held).empty()) reg.Set(held, "");
   }
 }
 
 bool RunDeferredSwap(DataFolder& data, CReg& reg, const std::function<bool()>& rebuildStations) {
-  const std::string hold = reg.Setting(setting::kUpdateHold);
+  const std::string hold = reg.Get(setting::kUpdateHold);
   if (hold.empty()) {
     RemoveTemporaries(data, {});
     return false;
@@ -87,7 +87,7 @@ bool RunDeferredSwap(DataFolder& data, CReg& reg, const std::function<bool()>& r
     StoreHeld(reg, setting::kUpdateHoldVersion, setting::kUpdateVersion);
     StoreHeld(reg, setting::kUpdateHoldDate, setting::kLastUpdate);
   }
-  reg.SetSetting(setting::kUpdateHold, "");
+  reg.Set(setting::kUpdateHold, "");
   ForgetHeldDate(reg);
   RemoveTemporaries(data, {});
   return listed;

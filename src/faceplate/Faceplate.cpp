@@ -23,12 +23,12 @@ Faceplate::Faceplate(CReg& settings, const DataFolder& folder)
 }
 
 void Faceplate::Load() {
-  name_ = settings_.Setting(setting::kFacePlateName);
+  name_ = settings_.Get(setting::kFacePlateName);
   if (name_.empty()) name_ = kBuiltInNames.front();
   BaseColors base = BuiltInColors(DefaultsFor(name_));
-  for (const ColorSetting& setting : ColorSettings()) {
-    const auto stored = ParseColor(settings_.Setting(setting.name));
-    if (stored) base.*setting.member = *stored;
+  for (const ColorSetting& color : ColorSettings()) {
+    const auto stored = ParseColor(settings_.Get(color.setting));
+    if (stored) base.*color.member = *stored;
   }
   SetBase(base);
 }
@@ -37,9 +37,9 @@ void Faceplate::Choose(BuiltInFaceplate faceplate) {
   name_ = kBuiltInNames[static_cast<std::size_t>(faceplate)];
   const BaseColors base = BuiltInColors(faceplate);
   const SettingsBatch batch(settings_);
-  settings_.SetSetting(setting::kFacePlateName, name_);
-  for (const ColorSetting& setting : ColorSettings())
-    settings_.SetSetting(setting.name, FormatColor(base.*setting.member));
+  settings_.Set(setting::kFacePlateName, name_);
+  for (const ColorSetting& color : ColorSettings())
+    settings_.Set(color.setting, FormatColor(base.*color.member));
   SetBase(base);
 }
 

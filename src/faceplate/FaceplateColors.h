@@ -9,6 +9,7 @@
 #include <string_view>
 
 #include "faceplate/Color.h"
+#include "settings/SettingTypes.h"
 
 namespace sonaro {
 
@@ -61,9 +62,9 @@ struct FaceplateColors : BaseColors {
   bool highContrast = false;
 };
 
-// One of the twenty: its setting's name, its place, and its value in the two built-in faceplates.
+// One of the twenty: its setting, its place, and its value in the two built-in faceplates.
 struct ColorSetting {
-  const char* name;
+  setting::Text setting;
   Color BaseColors::*member;
   Color graphite;
   Color porcelain;

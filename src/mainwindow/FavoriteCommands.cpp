@@ -57,7 +57,7 @@ void FavoriteCommands::RenameFavoriteGroup(std::size_t group) {
 void FavoriteCommands::DeleteFavoriteGroup(std::size_t group) {
   if (group >= groups_.Count()) return;
   const std::string name(groups_.Name(group));
-  if (settings_.Setting(setting::kNoShowDelete).empty() && !ConfirmDelete(name)) return;
+  if (!settings_.Get(setting::kNoShowDelete) && !ConfirmDelete(name)) return;
   const auto removed = groups_.Find(name);  // while the question stood the groups may have moved
   if (!removed || !Changed(groups_.Remove(*removed))) return;
   prompts_.TellTray("DeleteFavGroup\t" + name);
@@ -74,7 +74,7 @@ bool FavoriteCommands::ConfirmDelete(const std::string& name) {
   message.dontAskText = strings_.Load(IDS_GROUP_DONT_ASK);
   const MessageResult result = prompts_.Ask(message);
   if (result.answer != MessageAnswer::First) return false;
-  if (result.dontAskAgain) settings_.SetSetting(setting::kNoShowDelete, "Yes");
+  if (result.dontAskAgain) settings_.Set(setting::kNoShowDelete, true);
   return true;
 }
 

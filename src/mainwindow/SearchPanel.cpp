@@ -45,7 +45,7 @@ void SearchPanel::LoadSearchKinds(std::string builtInCaption) {
 }
 
 std::vector<std::string> SearchPanel::History() const {
-  return SearchHistory(settings_.Setting(setting::kSearchList)).Entries();
+  return SearchHistory(settings_.Get(setting::kSearchList)).Entries();
 }
 
 SearchPanel::Outcome SearchPanel::FindStation(std::string_view text, std::size_t kind, bool allWords) {
@@ -70,9 +70,9 @@ void SearchPanel::FindOnTheWeb(const std::string& text, const SearchKind& kind, 
 }
 
 void SearchPanel::FindInTheDirectory(const std::string& text, bool allWords) {
-  SearchHistory history(settings_.Setting(setting::kSearchList));
+  SearchHistory history(settings_.Get(setting::kSearchList));
   history.Add(text);
-  settings_.SetSetting(setting::kSearchList, history.ToSetting());
+  settings_.Set(setting::kSearchList, history.ToSetting());
   last_ = LastKind::Station;
   listing_.ShowSearch(text, allWords);
   tellTray_(std::string(kTrayResults) + '\t' + listing_.LastSearchIds() + '\t' + text);

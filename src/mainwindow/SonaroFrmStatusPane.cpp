@@ -19,7 +19,7 @@ namespace sonaro {
 void StatusPane::ShowGuide() {
   said_ = Said::Nothing;
   const std::size_t count = data_.stations.StationCount();
-  const std::string updated = data_.settings.Setting(setting::kLastUpdate);
+  const std::string updated = data_.settings.Get(setting::kLastUpdate);
   int textId = IDS_STATUS_GUIDE;
   if (!updated.empty()) textId = IDS_STATUS_GUIDE_UPDATED;
   if (count == 0) textId = IDS_STATUS_NO_GUIDE;

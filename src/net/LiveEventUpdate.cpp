@@ -34,7 +34,7 @@ std::string SaveLiveEventUpdate(std::string_view body, std::string_view shortDat
   const std::string_view stamp = DateStamp(body.substr(0, kHeadLength));
   if (!ParseDate(stamp, shortDatePattern)) return {};
   if (!data.Save(work_file::kEventUpdate, body)) return {};
-  reg.SetSetting(setting::kLastEventUpdate, stamp);
+  reg.Set(setting::kLastEventUpdate, stamp);
   return std::string(stamp);
 }
 

@@ -16,7 +16,7 @@ namespace {
 constexpr std::uint16_t kUsualPort = 80;
 constexpr std::int64_t kLastPort = 65535;
 
-bool UsesProxy(const CReg& reg) { return IsYes(reg.Setting(setting::kProxyUse)); }
+bool UsesProxy(const CReg& reg) { return reg.Get(setting::kProxyUse); }
 
 std::uint16_t PortOf(std::string_view text) {
   const std::int64_t port = IsNumeric(text) ? NumberValue(text) : 0;
@@ -32,7 +32,7 @@ std::string_view BehindScheme(std::string_view url) {
 }  // namespace
 
 std::string ServerHostFor(const CReg& reg, std::string_view url) {
-  if (UsesProxy(reg)) return std::string(TrimBlanks(reg.Setting(setting::kProxyAddress)));
+  if (UsesProxy(reg)) return std::string(TrimBlanks(reg.Get(setting::kProxyAddress)));
   const std::string_view rest = BehindScheme(url);
   return std::string(rest.substr(0, rest.find('/')));
 }
@@ -45,7 +45,7 @@ std::string RequestTargetFor(const CReg& reg, std::string_view url) {
 }
 
 std::uint16_t ProxyPortSetting(const CReg& reg) {
-  return UsesProxy(reg) ? PortOf(reg.Setting(setting::kProxyPort)) : kUsualPort;
+  return UsesProxy(reg) ? PortOf(reg.Get(setting::kProxyPort)) : kUsualPort;
 }
 
 std::string ProxyProperty(std::string_view host, std::string_view port) {
@@ -75,9 +75,7 @@ ServiceRequest BuildProxyTest(std::string_view address, std::string_view port, s
   return request;
 }
 
-std::string QueryStart(const CReg& reg) {
-  return "?ajfsfsr=" + UrlEncodeQuery(reg.Setting(setting::kInstallId));
-}
+std::string QueryStart(const CReg& reg) { return "?ajfsfsr=" + UrlEncodeQuery(reg.Get(setting::kInstallId)); }
 
 bool IsServiceAddress(std::string_view url) {
   constexpr std::string_view kScheme = "http://";

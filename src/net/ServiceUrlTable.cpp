@@ -18,7 +18,7 @@ enum class Kind { Address, Text };
 
 struct Row {
   std::string_view key;  // in an update file; "" when no update brings it
-  const char* setting;
+  setting::Text setting;
   Kind kind;
   ServiceHost host;
   std::string_view fallback;  // an address's path on `host`, or the text; "" for none
@@ -76,26 +76,26 @@ std::optional<std::string_view> ValueBehind(std::string_view line, std::string_v
 void WriteServiceDefaults(CReg& reg) {
   const SettingsBatch batch(reg);
   for (const Row& row : kRows) {
-    if (row.fallback.empty() || !reg.Setting(row.setting).empty()) continue;
-    reg.SetSetting(row.setting, DefaultOf(row));
+    if (row.fallback.empty() || !reg.Get(row.setting).empty()) continue;
+    reg.Set(row.setting, DefaultOf(row));
   }
 }
 
-std::string ServiceDefault(std::string_view setting) {
+std::string ServiceDefault(const setting::Text& setting) {
   for (const Row& row : kRows) {
-    if (setting == row.setting) return DefaultOf(row);
+    if (std::string_view(setting.name) == row.setting.name) return DefaultOf(row);
   }
   return {};
 }
 
-std::string ServiceSetting(const CReg& reg, const char* setting) {
-  const std::string value = reg.Setting(setting);
+std::string ServiceSetting(const CReg& reg, const setting::Text& setting) {
+  const std::string value = reg.Get(setting);
   return value.empty() ? ServiceDefault(setting) : value;
 }
 
-std::string StoredServiceSetting(CReg& reg, const char* setting) {
+std::string StoredServiceSetting(CReg& reg, const setting::Text& setting) {
   std::string value = ServiceSetting(reg, setting);
-  if (reg.Setting(setting).empty()) reg.SetSetting(setting, value);
+  if (reg.Get(setting).empty()) reg.Set(setting, value);
   return value;
 }
 
@@ -108,7 +108,7 @@ void FindServiceValues(std::string_view line, std::vector<ServiceValue>& found, 
     if (value->size() > kMaxValueLength || (row.kind == Address && !IsServiceAddress(*value))) {
       ++refused;
     } else {
-      found.push_back({row.registryKey, row.setting, std::string(*value)});
+      found.push_back({row.registryKey, row.setting.name, std::string(*value)});
     }
   }
 }

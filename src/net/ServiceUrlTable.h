@@ -7,6 +7,8 @@
 #include <string_view>
 #include <vector>
 
+#include "settings/SettingTypes.h"
+
 namespace sonaro {
 
 class CReg;
@@ -15,14 +17,14 @@ class CReg;
 void WriteServiceDefaults(CReg& reg);
 
 // The default of one setting of the table; "" when it has none.
-std::string ServiceDefault(std::string_view setting);
+std::string ServiceDefault(const setting::Text& setting);
 
 // The setting's value, or its default when it is empty.
-std::string ServiceSetting(const CReg& reg, const char* setting);
+std::string ServiceSetting(const CReg& reg, const setting::Text& setting);
 
 // The same, and the default is stored as well. A store that cannot be written changes nothing about the
 // result.
-std::string StoredServiceSetting(CReg& reg, const char* setting);
+std::string StoredServiceSetting(CReg& reg, const setting::Text& setting);
 
 // One setting of the table with a new value.
 struct ServiceValue {

@@ -70,7 +70,7 @@ void UpdateExchange::AskForUpdate() {
     return;
   }
   const std::string query = QueryStart(needs_.reg) +
-                            "&LastUpdate=" + UrlEncodeQuery(needs_.reg.Setting(setting::kLastUpdate)) +
+                            "&LastUpdate=" + UrlEncodeQuery(needs_.reg.Get(setting::kLastUpdate)) +
                             "&Version=" + UrlEncodeQuery(kVersionText);
   Send(BuildServiceRequest(needs_.reg, ServiceSetting(needs_.reg, setting::kUpdateUrl), query), *http_,
        *this);

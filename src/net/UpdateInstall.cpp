@@ -56,7 +56,7 @@ bool HasStationList(const HeldNames& names) {
 
 }  // namespace
 
-HeldNames UpdateInstall::Waiting() const { return HeldNames(reg_.Setting(setting::kUpdateHold)); }
+HeldNames UpdateInstall::Waiting() const { return HeldNames(reg_.Get(setting::kUpdateHold)); }
 
 InstallStatus UpdateInstall::Install(const UpdateContents& contents, int code) {
   InstallStatus status = Check(contents);
@@ -66,7 +66,7 @@ InstallStatus UpdateInstall::Install(const UpdateContents& contents, int code) {
   HeldNames held = earlier;
   held.Add(NamesOf(contents));
   StoreValues(contents, HasStationList(earlier));
-  reg_.SetSetting(setting::kUpdateHold, held.Text());
+  reg_.Set(setting::kUpdateHold, held.Text());
   reg_.FlushSettings();
   if (code == kHoldFiles) return InstallStatus::Done;
   return PutInPlace(contents, earlier, code == kInstallAndRebuild);
@@ -74,7 +74,7 @@ InstallStatus UpdateInstall::Install(const UpdateContents& contents, int code) {
 
 // A list without a station is no directory, whoever sent it.
 InstallStatus UpdateInstall::Check(const UpdateContents& contents) {
-  if (contents.serial && *contents.serial < NumberValue(reg_.Setting(setting::kUpdateSerial))) {
+  if (contents.serial && *contents.serial < reg_.Get(setting::kUpdateSerial)) {
     return InstallStatus::Older;
   }
   if (!NamesAreFree(contents) || !CategoriesHaveLists(contents)) return InstallStatus::NotFitting;
@@ -129,7 +129,8 @@ InstallStatus UpdateInstall::KeepPrevious(const UpdateContents& contents) {
     KeptFile& kept = previous.files.emplace_back(KeptFile{file.name, std::nullopt});
     if (present.status == ReadStatus::Ok) kept.bytes = std::move(present.bytes);
   }
-  for (const char* name : {setting::kLastUpdate, setting::kUpdateVersion, setting::kUpdateSerial}) {
+  for (const char* name :
+       {setting::kLastUpdate.name, setting::kUpdateVersion.name, setting::kUpdateSerial.name}) {
     previous.settings.push_back({kSettingsKey, name, reg_.Setting(name)});
   }
   for (const ServiceValue& value : contents.values) {
@@ -154,9 +155,9 @@ void UpdateInstall::StoreValues(const UpdateContents& contents, bool listWaits) 
     reg_.CheckKeyIsThere(value.key);
     reg_.SetData(value.key, value.setting, value.value);
   }
-  if (contents.serial) reg_.SetSetting(setting::kUpdateSerial, std::to_string(*contents.serial));
-  const auto wait = [&](const char* name, const std::optional<std::string>& value) {
-    if (value || !listWaits) reg_.SetSetting(name, value.value_or(""));
+  if (contents.serial) reg_.Set(setting::kUpdateSerial, *contents.serial);
+  const auto wait = [&](const setting::Text& setting, const std::optional<std::string>& value) {
+    if (value || !listWaits) reg_.Set(setting, value.value_or(""));
   };
   wait(setting::kUpdateHoldDate, contents.date);
   wait(setting::kUpdateHoldVersion, contents.version);
@@ -195,8 +196,8 @@ InstallStatus UpdateInstall::PutInPlace(const UpdateContents& contents, const He
 
 void UpdateInstall::StoreDates(const UpdateContents& contents, bool listWaits) {
   if (listWaits) return;
-  if (contents.version) reg_.SetSetting(setting::kUpdateVersion, *contents.version);
-  if (contents.date) reg_.SetSetting(setting::kLastUpdate, *contents.date);
+  if (contents.version) reg_.Set(setting::kUpdateVersion, *contents.version);
+  if (contents.date) reg_.Set(setting::kLastUpdate, *contents.date);
 }
 
 bool UpdateInstall::CanUndo() const { return IsPreviousGuide(data_, work_file::kPrevious); }
@@ -248,7 +249,7 @@ void UpdateInstall::RestoreSettings(const PreviousGuide& previous) {
 
 // What waits from now on; the date waits with the station list.
 void UpdateInstall::Wait(const HeldNames& names) {
-  reg_.SetSetting(setting::kUpdateHold, names.Text());
+  reg_.Set(setting::kUpdateHold, names.Text());
   if (!HasStationList(names)) ForgetHeldDate(reg_);
   RemoveTemporaries(data_, names);
 }

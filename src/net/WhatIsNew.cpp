@@ -63,22 +63,22 @@ WhatIsNew CheckWhatIsNew(std::string_view answer, std::string_view shortDatePatt
   WhatIsNew found;
   const auto date = Between(answer, kDateBegin, kDateEnd);
   if (date && ParseDate(*date, shortDatePattern) &&
-      !EqualIgnoringCase(*date, reg.Setting(setting::kLastUpdate))) {
+      !EqualIgnoringCase(*date, reg.Get(setting::kLastUpdate))) {
     found.toDo += kToDoStationList;
   }
   if (const auto entry = Between(answer, kSideFileBegin, kSideFileEnd)) CheckSideFile(*entry, data, found);
-  reg.SetSetting(setting::kDoWhat, TrimBlanks(found.toDo));
+  reg.Set(setting::kDoWhat, TrimBlanks(found.toDo));
   return found;
 }
 
 bool StationListIsDue(const CReg& reg) {
-  return reg.Setting(setting::kDoWhat).find(kToDoStationList) != std::string::npos;
+  return reg.Get(setting::kDoWhat).find(kToDoStationList) != std::string::npos;
 }
 
 void StationListIsDone(CReg& reg) {
-  const std::string toDo = reg.Setting(setting::kDoWhat);
+  const std::string toDo = reg.Get(setting::kDoWhat);
   if (toDo.find(kToDoStationList) == std::string::npos) return;
-  reg.SetSetting(setting::kDoWhat, ReplaceFirst(toDo, kToDoStationList, ""));
+  reg.Set(setting::kDoWhat, ReplaceFirst(toDo, kToDoStationList, ""));
 }
 
 }  // namespace sonaro

@@ -27,7 +27,7 @@ std::string PlayerSetup::Chosen() const { return players_.Chosen(); }
 PlayerChoiceOutcome PlayerSetup::Choose(const std::string& path) {
   if (path == Chosen()) return PlayerChoiceOutcome::Stored;
   if (!path.empty() && !files_.Exists(path)) return PlayerChoiceOutcome::NoSuchFile;
-  reg_.SetSetting(setting::kPlayWith, path);
+  reg_.Set(setting::kPlayWith, path);
   return Chosen() == path ? PlayerChoiceOutcome::Stored : PlayerChoiceOutcome::NotStored;
 }
 

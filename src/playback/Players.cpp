@@ -71,7 +71,7 @@ std::string Players::ProgramOfMarker(std::string_view name) const {
   return exe == std::string::npos ? found.path : found.path.substr(0, exe + kExe.size());
 }
 
-std::string Players::Chosen() const { return std::string(TrimBlanks(reg_.Setting(setting::kPlayWith))); }
+std::string Players::Chosen() const { return std::string(TrimBlanks(reg_.Get(setting::kPlayWith))); }
 
 bool Players::Play(const std::string& program, const std::string& link) const {
   return shell_.Open(program, link, data_.Folder());

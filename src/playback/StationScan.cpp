@@ -285,19 +285,18 @@ std::string StationScan::TimeLeftText() const {
 
 void StationScan::SetScanTime(int seconds) {
   if (!IsScanTime(seconds)) return;
-  reg_.SetSetting(setting::kScanTime, std::to_string(seconds));
+  reg_.Set(setting::kScanTime, seconds);
   if (!current_) scanTime_ = seconds;
 }
 
 int StationScan::StoredScanTime() const {
-  const std::int64_t seconds = NumberValue(reg_.Setting(setting::kScanTime));
+  const std::int64_t seconds = reg_.Get(setting::kScanTime);
   return IsScanTime(seconds) ? static_cast<int>(seconds) : kDefault;
 }
 
 void StationScan::ReadScanTime() {
   scanTime_ = StoredScanTime();
-  if (NumberValue(reg_.Setting(setting::kScanTime)) != scanTime_)
-    reg_.SetSetting(setting::kScanTime, std::to_string(scanTime_));
+  if (reg_.Get(setting::kScanTime) != scanTime_) reg_.Set(setting::kScanTime, scanTime_);
 }
 
 void StationScan::ShowState() {

@@ -8,6 +8,7 @@
 #include "resources/texts/playback.h"
 #include "resources/texts/schedule.h"
 #include "settings/CReg.h"
+#include "settings/SettingNames.h"
 #include "settings/Strings.h"
 #include "stations/PersonalStations.h"
 #include "stations/RecentList.h"
@@ -50,7 +51,7 @@ std::vector<PickRow> StationPicker::Find(std::string_view text) {
 }
 
 std::vector<std::string> StationPicker::SearchHistory() const {
-  const std::string history = reg_.Setting("SearchList");
+  const std::string history = reg_.Get(setting::kSearchList);
   std::vector<std::string> newestFirst;
   for (std::string_view entry : Split(history, '\t')) {
     if (!entry.empty()) newestFirst.emplace(newestFirst.begin(), entry);

@@ -39,7 +39,17 @@ class CReg {
   // Creates the key when it is not there.
   void CheckKeyIsThere(const std::string& key);
 
-  // The program's own settings: the above on kSettingsKey under HKEY_LOCAL_MACHINE, whatever MainKey is.
+  // The program's own settings, by their line in SettingNames.h: a bool, a number, an enum or a text. They
+  // stand on kSettingsKey under HKEY_LOCAL_MACHINE, whatever MainKey is.
+  template <class Type>
+  typename Type::Value Get(const Type& setting) const {
+    return setting.Parse(Setting(setting.name));
+  }
+  template <class Type>
+  void Set(const Type& setting, typename Type::Given value) {
+    SetSetting(setting.name, setting.Format(value));
+  }
+  // Their texts as they stand; for what reads no meaning out of them.
   std::string Setting(const std::string& valueName) const;
   void SetSetting(const std::string& valueName, std::string_view data);
   // Brings the program's own settings to the disk. For whoever changes files after settings, or settings

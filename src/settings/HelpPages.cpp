@@ -44,10 +44,10 @@ std::string_view HelpPageForMessage(std::string_view messageKey) {
 }
 
 void HelpPages::OpenHelpPage(std::string_view page) {
-  std::string address = reg_.Setting(setting::kHelpUrl);
+  std::string address = reg_.Get(setting::kHelpUrl);
   if (address.empty()) {
     address = ServiceAddress(ServiceHost::Web, kDefaultHelpPath);
-    reg_.SetSetting(setting::kHelpUrl, address);
+    reg_.Set(setting::kHelpUrl, address);
   }
   address.append(kHelpEdition).append(page);
   if (!StartsWithIgnoringCase(address, "http://")) address.insert(0, "http://");

@@ -23,7 +23,7 @@ std::string RandomDigits() {
 }  // namespace
 
 void EnsureInstallId(CReg& reg) {
-  if (reg.Setting(setting::kInstallId).empty()) reg.SetSetting(setting::kInstallId, RandomDigits());
+  if (reg.Get(setting::kInstallId).empty()) reg.Set(setting::kInstallId, RandomDigits());
 }
 
 }  // namespace sonaro

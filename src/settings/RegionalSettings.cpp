@@ -36,7 +36,7 @@ void ReadClockStyle(CReg& reg, AppState& state) {
   bool twelveHours = timeFormat.find("tt") != std::string::npos;
   if (timeFormat.empty()) {
     const std::string locale = '|' + International(reg, systemkey::kLocale) + '|';
-    twelveHours = reg.Setting(setting::kLocal).find(locale) != std::string::npos;
+    twelveHours = reg.Get(setting::kLocal).find(locale) != std::string::npos;
   }
   state.clockStyle = twelveHours ? ClockStyle::Hours12 : ClockStyle::Hours24;
 }

@@ -10,27 +10,18 @@ namespace {
 
 constexpr const char* kHiddenStart = " WinStart=Yes";
 
-AfterClose ReadAfterClose(const CReg& reg) {
-  const std::string keep = reg.Setting(setting::kCloseToTray);
-  if (keep.empty()) return AfterClose::Ask;
-  return IsYes(keep) ? AfterClose::KeepInTray : AfterClose::Exit;
-}
-
-const char* AfterCloseText(AfterClose afterClose) {
-  if (afterClose == AfterClose::Ask) return "";
-  return afterClose == AfterClose::KeepInTray ? "Yes" : "No";
-}
-
 std::optional<BuiltInFaceplate> ReadFaceplate(const CReg& reg) {
-  const std::string name = reg.Setting(setting::kFacePlateName);
+  const std::string name = reg.Get(setting::kFacePlateName);
   if (name.empty()) return BuiltInFaceplate::Graphite;
   for (const BuiltInFaceplate faceplate : {BuiltInFaceplate::Graphite, BuiltInFaceplate::Porcelain})
     if (EqualIgnoringCase(name, kBuiltInNames[static_cast<std::size_t>(faceplate)])) return faceplate;
   return std::nullopt;
 }
 
-bool Says(const CReg& reg, const char* name, std::string_view text) {
-  return EqualIgnoringCase(reg.Setting(name), text);
+// Only what changes is written, so that a setting that was never set stays so.
+template <class Type>
+void StoreChange(CReg& reg, const Type& setting, typename Type::Given before, typename Type::Given wanted) {
+  if (before != wanted) reg.Set(setting, wanted);
 }
 
 }  // namespace
@@ -38,17 +29,16 @@ bool Says(const CReg& reg, const char* name, std::string_view text) {
 Options OptionsModel::Read() const {
   Options now;
   now.startWithWindows = StartsWithWindows();
-  now.afterClose = ReadAfterClose(reg_);
-  const std::string notify = reg_.Setting(setting::kSoundNotify);
-  now.soundWithNotice = notify.empty() || EqualIgnoringCase(notify, "True");
-  now.clickWithButtons = !Says(reg_, setting::kSoundClick, "False");
-  now.useProxy = IsYes(reg_.Setting(setting::kProxyUse));
-  now.proxy = {std::string(TrimBlanks(reg_.Setting(setting::kProxyAddress))),
-               std::string(TrimBlanks(reg_.Setting(setting::kProxyPort)))};
+  now.afterClose = reg_.Get(setting::kCloseToTray);
+  now.soundWithNotice = reg_.Get(setting::kSoundNotify);
+  now.clickWithButtons = reg_.Get(setting::kSoundClick);
+  now.useProxy = reg_.Get(setting::kProxyUse);
+  now.proxy = {std::string(TrimBlanks(reg_.Get(setting::kProxyAddress))),
+               std::string(TrimBlanks(reg_.Get(setting::kProxyPort)))};
   if (now.proxy.port.empty()) now.proxy.port = kUsualProxyPort;
-  now.lookForPlayer = !Says(reg_, setting::kStartPlayer, "No");
-  now.lookForProxy = !Says(reg_, setting::kStartProxy, "No");
-  now.offerTutorial = !Says(reg_, setting::kStartQuickStart, "No");
+  now.lookForPlayer = reg_.Get(setting::kStartPlayer);
+  now.lookForProxy = reg_.Get(setting::kStartProxy);
+  now.offerTutorial = reg_.Get(setting::kStartQuickStart);
   now.faceplate = ReadFaceplate(reg_);
   return now;
 }
@@ -64,21 +54,16 @@ StoreOutcome OptionsModel::Store(Options wanted) {
   wanted.proxy = {std::string(TrimBlanks(wanted.proxy.address)), std::string(TrimBlanks(wanted.proxy.port))};
 
   if (wanted.startWithWindows != before.startWithWindows) StoreStart(wanted.startWithWindows);
-  if (wanted.afterClose != before.afterClose)
-    reg_.SetSetting(setting::kCloseToTray, AfterCloseText(wanted.afterClose));
-  StoreYesNo(setting::kSoundNotify, before.soundWithNotice, wanted.soundWithNotice, "True", "False");
-  StoreYesNo(setting::kSoundClick, before.clickWithButtons, wanted.clickWithButtons, "True", "False");
+  StoreChange(reg_, setting::kCloseToTray, before.afterClose, wanted.afterClose);
+  StoreChange(reg_, setting::kSoundNotify, before.soundWithNotice, wanted.soundWithNotice);
+  StoreChange(reg_, setting::kSoundClick, before.clickWithButtons, wanted.clickWithButtons);
   if (wanted.useProxy != before.useProxy || wanted.proxy != before.proxy)
     StoreProxy(reg_, wanted.useProxy, wanted.proxy);
-  StoreYesNo(setting::kStartPlayer, before.lookForPlayer, wanted.lookForPlayer, "Yes", "No");
-  StoreYesNo(setting::kStartProxy, before.lookForProxy, wanted.lookForProxy, "Yes", "No");
-  StoreYesNo(setting::kStartQuickStart, before.offerTutorial, wanted.offerTutorial, "Yes", "No");
+  StoreChange(reg_, setting::kStartPlayer, before.lookForPlayer, wanted.lookForPlayer);
+  StoreChange(reg_, setting::kStartProxy, before.lookForProxy, wanted.lookForProxy);
+  StoreChange(reg_, setting::kStartQuickStart, before.offerTutorial, wanted.offerTutorial);
   if (wanted.faceplate && wanted.faceplate != before.faceplate) faceplate_.Choose(*wanted.faceplate);
   return Read() == wanted ? StoreOutcome::Stored : StoreOutcome::Refused;
-}
-
-void OptionsModel::StoreYesNo(const char* name, bool before, bool wanted, const char* yes, const char* no) {
-  if (before != wanted) reg_.SetSetting(name, wanted ? yes : no);
 }
 
 bool OptionsModel::StartsWithWindows() const {

@@ -6,15 +6,13 @@
 #include <string>
 
 #include "faceplate/FaceplateColors.h"
+#include "settings/SettingNames.h"
 #include "tray/ProxyChoice.h"
 
 namespace sonaro {
 
 class CReg;
 class Faceplate;
-
-// What closing the main window does.
-enum class AfterClose { Ask, KeepInTray, Exit };
 
 struct Options {
   bool startWithWindows = false;
@@ -59,7 +57,6 @@ class OptionsModel {
  private:
   bool StartsWithWindows() const;
   void StoreStart(bool withWindows);
-  void StoreYesNo(const char* name, bool before, bool wanted, const char* yes, const char* no);
 
   CReg& reg_;
   Faceplate& faceplate_;

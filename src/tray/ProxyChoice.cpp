@@ -29,8 +29,8 @@ bool IsBareAddress(std::string_view text) {
   return std::none_of(text.begin(), text.end(), forbidden) && std::count(text.begin(), text.end(), ':') != 1;
 }
 
-void SetIfChanged(CReg& reg, const char* name, std::string_view text) {
-  if (reg.Setting(name) != text) reg.SetSetting(name, text);
+void SetIfChanged(CReg& reg, const setting::Text& setting, std::string_view text) {
+  if (reg.Get(setting) != text) reg.Set(setting, text);
 }
 
 }  // namespace
@@ -52,7 +52,7 @@ ProxyFault CheckProxy(const ProxyServer& server) {
 }
 
 void StoreProxy(CReg& reg, bool use, const ProxyServer& server) {
-  if (IsYes(reg.Setting(setting::kProxyUse)) != use) reg.SetSetting(setting::kProxyUse, use ? "Yes" : "No");
+  if (reg.Get(setting::kProxyUse) != use) reg.Set(setting::kProxyUse, use);
   if (!use) return;
   SetIfChanged(reg, setting::kProxyAddress, TrimBlanks(server.address));
   SetIfChanged(reg, setting::kProxyPort, TrimBlanks(server.port));

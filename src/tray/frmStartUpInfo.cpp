@@ -26,10 +26,10 @@ constexpr unsigned char kProxyPane = 2;
 constexpr const char* kPlayerHelp = "9036.html";
 constexpr const char* kProxyHelp = "index.html";
 
-// The setting that keeps the page from coming again at the start; nullptr for a page that does not.
-const char* CheckOf(StartUpInfoPage page) {
-  if (page == StartUpInfoPage::Player) return setting::kStartPlayer;
-  return page == StartUpInfoPage::Proxy ? setting::kStartProxy : nullptr;
+// Whether the page comes at the start; nullptr for a page that never does.
+const setting::Switch* CheckOf(StartUpInfoPage page) {
+  if (page == StartUpInfoPage::Player) return &setting::kStartPlayer;
+  return page == StartUpInfoPage::Proxy ? &setting::kStartProxy : nullptr;
 }
 
 constexpr ControlRow ReportLine(int id, int y) {
@@ -239,7 +239,7 @@ void frmStartUpInfo::butFindIt_Click() {
 }
 
 void frmStartUpInfo::butTestProgramIt_Click() {
-  std::string link = needs_.reg.Setting(setting::kTestRealUrl);
+  std::string link = needs_.reg.Get(setting::kTestRealUrl);
   if (link.empty()) link = ServiceAddress(ServiceHost::Web, "/sonaroapp/sonaro3/testrealurl.ram");
   const std::string path = Selected();
   if (needs_.player.Test(path, link)) return;
@@ -272,8 +272,8 @@ void frmStartUpInfo::butOKIt_Click() {
 }
 
 void frmStartUpInfo::Done(int result) {
-  const char* check = CheckOf(page_);
-  if (check != nullptr && IsChecked(chkDontShow)) needs_.reg.SetSetting(check, "No");
+  const setting::Switch* const check = CheckOf(page_);
+  if (check != nullptr && IsChecked(chkDontShow)) needs_.reg.Set(*check, false);
   Close(result);
 }
 

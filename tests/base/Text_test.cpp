@@ -110,13 +110,6 @@ TEST(Text, TruncateUtf8KeepsCharactersWhole) {
   EXPECT_EQ(TruncateUtf8("\xE9\xE9\xE9\xE9\xE9\xE9", 5).size(), 5u);  // not UTF-8: bytes
 }
 
-TEST(Text, IsYes) {
-  EXPECT_TRUE(IsYes(" yES "));
-  EXPECT_FALSE(IsYes("Yes!"));
-  EXPECT_FALSE(IsYes(""));
-  EXPECT_FALSE(IsYes("True"));
-}
-
 TEST(Utf8, EveryScalarValueRoundTrips) {
   for (char32_t code = 0; code <= 0x10FFFF; code += code < 0x3000 ? 1 : 0x1F) {
     if (code >= 0xD800 && code < 0xE000) continue;

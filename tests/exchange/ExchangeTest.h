@@ -40,7 +40,7 @@ class ExchangeTest : public testing::Test {
   ExchangeTest() {
     CopyFolder(Made("site"), Site());
     CopyFolder(Made("old"), Folder());
-    Installed().reg.SetSetting(setting::kLastUpdate, kOldDate);
+    Installed().reg.SetSetting(setting::kLastUpdate.name, kOldDate);
   }
 
   static std::string Made(const std::string& name) { return made_->Path() + "/" + name; }
@@ -73,15 +73,15 @@ class ExchangeTest : public testing::Test {
   void ExpectNothingChanged() {
     EXPECT_EQ(Installed().Bytes("station.snr"), FileBytes(Made("old") + "/station.snr"));
     EXPECT_EQ(Installed().Bytes("favs.snr"), kUsersGroups);
-    EXPECT_EQ(Installed().reg.Setting(setting::kLastUpdate), kOldDate);
-    EXPECT_EQ(Installed().reg.Setting(setting::kUpdateHold), "");
+    EXPECT_EQ(Installed().reg.Setting(setting::kLastUpdate.name), kOldDate);
+    EXPECT_EQ(Installed().reg.Setting(setting::kUpdateHold.name), "");
     EXPECT_EQ(Installed().stations.StationCount(), 40u);
   }
   void ExpectUpdated() {
     EXPECT_EQ(Installed().Bytes("station.snr"), FileBytes(Made("new") + "/station.snr"));
     EXPECT_EQ(Installed().Bytes("cat.snr"), FileBytes(Made("new") + "/cat.snr"));
     EXPECT_EQ(Installed().Bytes("favs.snr"), kUsersGroups);
-    EXPECT_EQ(Installed().reg.Setting(setting::kLastUpdate), kDate);
+    EXPECT_EQ(Installed().reg.Setting(setting::kLastUpdate.name), kDate);
     EXPECT_EQ(Installed().stations.StationCount(), 127u);
   }
 

@@ -27,7 +27,7 @@ class Installation : private UpdateView {
   // `folder` is copied by the caller; `registry` outlives this.
   Installation(const std::string& folder, Registry& registry) : reg(registry), data(files, folder, '/') {
     reg.CheckKeyIsThere(kSettingsKey);
-    reg.SetSetting(setting::kInstallId, "0123abcd");
+    reg.SetSetting(setting::kInstallId.name, "0123abcd");
     WriteServiceDefaults(reg);
   }
 

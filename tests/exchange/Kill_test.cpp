@@ -49,7 +49,7 @@ class KillTest : public ExchangeTest {
       ToldRegistry registry(ends[1]);
       Installation installation(Folder(), registry);
       installation.http.port80 = port_;
-      installation.reg.SetSetting(setting::kLastUpdate, kOldDate);
+      installation.reg.SetSetting(setting::kLastUpdate.name, kOldDate);
       installation.Update();
       _exit(0);
     }
@@ -98,8 +98,8 @@ TEST_F(KillTest, LeavesTheOldDirectoryOrTheNewOne) {
     EXPECT_TRUE(isNew || Installed().Bytes("station.snr") == FileBytes(Made("old") + "/station.snr"));
     EXPECT_EQ(Installed().stations.StationCount(), isNew ? 127u : 40u);
     EXPECT_EQ(Installed().Bytes("favs.snr"), kUsersGroups);
-    EXPECT_EQ(Installed().reg.Setting(setting::kUpdateHold), "");
-    EXPECT_TRUE(isNew || Installed().reg.Setting(setting::kLastUpdate) != kDate);
+    EXPECT_EQ(Installed().reg.Setting(setting::kUpdateHold.name), "");
+    EXPECT_TRUE(isNew || Installed().reg.Setting(setting::kLastUpdate.name) != kDate);
     // Whatever was left behind is no hindrance.
     EXPECT_NE(Installed().Update().kind, UpdateOutcome::Kind::Refused);
     ExpectUpdated();

@@ -53,10 +53,10 @@ TEST_F(PlainSocketTest, TheRequestLinesAreAsTheServiceExpects) {
   EXPECT_NE(requests[0].find("\r\nHost: www.sonaro.example\r\n"), std::string::npos);
 
   // By way of a proxy the whole address is asked for.
-  Installed().reg.SetSetting(setting::kProxyUse, "yes ");
-  Installed().reg.SetSetting(setting::kProxyAddress, " 127.0.0.1 ");
+  Installed().reg.SetSetting(setting::kProxyUse.name, "yes ");
+  Installed().reg.SetSetting(setting::kProxyAddress.name, " 127.0.0.1 ");
   PlainServer proxy({Redirect(), Bytes(Head(Update()) + Update())});
-  Installed().reg.SetSetting(setting::kProxyPort, std::to_string(proxy.Port()));
+  Installed().reg.SetSetting(setting::kProxyPort.name, std::to_string(proxy.Port()));
   EXPECT_EQ(Installed().Update().kind, Kind::Updated);
   const std::vector<std::string> asked = proxy.Requests();
   ASSERT_EQ(asked.size(), 2u);

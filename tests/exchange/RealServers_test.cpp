@@ -23,9 +23,9 @@ class RealServersTest : public ExchangeTest {
   }
 
   void Take(Way way) {
-    Installed().reg.SetSetting(setting::kProxyUse, way == Way::Direct ? "" : "Yes");
-    Installed().reg.SetSetting(setting::kProxyAddress, "127.0.0.1");
-    if (way == Way::NginxAsProxy) Installed().reg.SetSetting(setting::kProxyPort, std::to_string(port_));
+    Installed().reg.SetSetting(setting::kProxyUse.name, way == Way::Direct ? "" : "Yes");
+    Installed().reg.SetSetting(setting::kProxyAddress.name, "127.0.0.1");
+    if (way == Way::NginxAsProxy) Installed().reg.SetSetting(setting::kProxyPort.name, std::to_string(port_));
     if (way != Way::Tinyproxy) return;
     if (!tinyproxy_) {
       const std::uint16_t port = FreePort();
@@ -38,14 +38,14 @@ class RealServersTest : public ExchangeTest {
           std::make_unique<ServerProcess>(std::vector<std::string>{"tinyproxy", "-d", "-c", file}, port);
       ASSERT_TRUE(tinyproxy_->Answers());
     }
-    Installed().reg.SetSetting(setting::kProxyPort, proxyPort_);
+    Installed().reg.SetSetting(setting::kProxyPort.name, proxyPort_);
   }
 
   void SetBack() {
     installed_.reset();
     std::filesystem::remove_all(Folder());
     CopyFolder(Made("old"), Folder());
-    Installed().reg.SetSetting(setting::kLastUpdate, kOldDate);
+    Installed().reg.SetSetting(setting::kLastUpdate.name, kOldDate);
   }
 
   void ChangeConfiguration(const std::string& from, const std::string& to) {

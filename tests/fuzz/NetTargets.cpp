@@ -70,8 +70,8 @@ void FuzzRedirect(std::string_view input) {
     FakeRegistry registry;
     CReg reg(registry);
     reg.CheckKeyIsThere(kSettingsKey);
-    reg.SetSetting(setting::kProxyUse, proxy);
-    reg.SetSetting(setting::kProxyAddress, "127.0.0.1");
+    reg.SetSetting(setting::kProxyUse.name, proxy);
+    reg.SetSetting(setting::kProxyAddress.name, "127.0.0.1");
     const ServiceRequest request = BuildServiceRequest(reg, target, "?Flush=No");
     const auto bytes = HttpRequestBytes(request.host, request.port, request.requestText, "Fuzz/1.0");
     if (!bytes) continue;
@@ -113,7 +113,7 @@ void FuzzWhatIsNew(std::string_view input) {
   const WhatIsNew found = CheckWhatIsNew(input, "M/d/yyyy", data, reg);
   for (const std::string_view known : {"", "/SL/", "/SF/", "/SL//SF/"}) {
     if (found.toDo != known) continue;
-    Require(reg.Setting(setting::kDoWhat) == known, "the to-do list is stored");
+    Require(reg.Setting(setting::kDoWhat.name) == known, "the to-do list is stored");
     Require(found.sideFileUrl.empty() == (known.find("/SF/") == std::string_view::npos),
             "an address to fetch");
     Require(found.sideFileUrl.find_first_of(std::string_view("\0\r\n", 3)) == std::string::npos, "one line");

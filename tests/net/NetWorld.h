@@ -51,8 +51,8 @@ inline void PrepareDirectory(FakeFiles& files) {
 struct Machine {
   explicit Machine(FakeFiles& onDisk) : files(onDisk), registry(files.Journal()) {
     reg.CheckKeyIsThere(kSettingsKey);
-    reg.SetSetting(setting::kInstallId, "id 1");
-    reg.SetSetting(setting::kLastUpdate, "8/1/2000");
+    reg.SetSetting(setting::kInstallId.name, "id 1");
+    reg.SetSetting(setting::kLastUpdate.name, "8/1/2000");
   }
 
   FakeFiles& files;

@@ -15,12 +15,12 @@ class ServiceRequestTest : public testing::Test {
  protected:
   ServiceRequestTest() {
     reg_.CheckKeyIsThere(kSettingsKey);
-    reg_.SetSetting(setting::kInstallId, "a b\xE9\x05");
+    reg_.SetSetting(setting::kInstallId.name, "a b\xE9\x05");
   }
   void UseProxy(const char* use, const char* address, const char* port) {
-    reg_.SetSetting(setting::kProxyUse, use);
-    reg_.SetSetting(setting::kProxyAddress, address);
-    reg_.SetSetting(setting::kProxyPort, port);
+    reg_.SetSetting(setting::kProxyUse.name, use);
+    reg_.SetSetting(setting::kProxyAddress.name, address);
+    reg_.SetSetting(setting::kProxyPort.name, port);
   }
 
   FakeRegistry registry_;
@@ -116,8 +116,8 @@ TEST_F(ServiceUrlTableTest, DoesWithoutAStoreThatCanBeWritten) {
   EXPECT_EQ(StoredServiceSetting(reg_, setting::kProxyTestText), "cool proxy works!");
   registry_.writesDenied = false;
   EXPECT_EQ(StoredServiceSetting(reg_, setting::kProxyTest), page);
-  EXPECT_EQ(reg_.Setting(setting::kProxyTest), page);
-  reg_.SetSetting(setting::kProxyTest, "http://kept/");
+  EXPECT_EQ(reg_.Setting(setting::kProxyTest.name), page);
+  reg_.SetSetting(setting::kProxyTest.name, "http://kept/");
   EXPECT_EQ(StoredServiceSetting(reg_, setting::kProxyTest), "http://kept/");
 }
 

@@ -76,7 +76,7 @@ class UpdateExchangeTest : public testing::Test {
   UpdateExchangeTest() {
     PrepareDirectory(files_);
     machine_.emplace(files_);
-    machine_->reg.SetSetting(setting::kDoWhat, "/SF//SL//XX/");
+    machine_->reg.SetSetting(setting::kDoWhat.name, "/SF//SL//XX/");
     machine_->http.Answer("?Flush=", FakeAnswer::Body(kUpdate));
     machine_->http.Answer("/update.asp", Redirect(kFileAt));
   }

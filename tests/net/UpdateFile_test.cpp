@@ -204,9 +204,9 @@ TEST(WhatIsNew, ComparesDateAndSideFile) {
     FakeFiles files;
     files.Put("/d/sstz.vbt", "12345");
     Machine machine(files);
-    machine.reg.SetSetting(setting::kDoWhat, "/XX/");
+    machine.reg.SetSetting(setting::kDoWhat.name, "/XX/");
     const WhatIsNew found = CheckWhatIsNew(each.answer, "", machine.data, machine.reg);
-    EXPECT_EQ(machine.reg.Setting(setting::kDoWhat), each.toDo) << each.answer;
+    EXPECT_EQ(machine.reg.Setting(setting::kDoWhat.name), each.toDo) << each.answer;
     EXPECT_EQ(found.sideFileUrl, each.url) << each.answer;
     EXPECT_EQ(found.sideFileValue, each.value) << each.answer;
   }

@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "fakes/FakeRegistry.h"
+#include "settings/SettingNames.h"
 
 namespace sonaro {
 namespace {
@@ -101,6 +102,43 @@ TEST(CReg, WorksInItsMainKeyAndSettingsStayWhereTheyAre) {
   EXPECT_EQ(reg.GetData(kSettingsKey, "Name"), "machine");
   EXPECT_EQ(registry.Stored(RootKey::CurrentUser, kSettingsKey, "Name")->bytes, "user");
   EXPECT_EQ(registry.Stored(kMachine, kSettingsKey, "Other")->bytes, "set");
+}
+
+TEST(CReg, ReadsASettingAsItsType) {
+  FakeRegistry registry;
+  CReg reg(registry);
+  reg.CheckKeyIsThere(kSettingsKey);
+  const struct {
+    setting::Switch setting;
+    bool missing, yes, no, other;
+    const char *yesText, *noText;
+  } switches[] = {{setting::kStartPlayer, true, true, false, true, "Yes", "No"},
+                  {setting::kProxyUse, false, true, false, false, "Yes", "No"},
+                  {setting::kSoundNotify, true, true, false, false, "True", "False"},
+                  {setting::kSoundClick, true, true, false, true, "True", "False"},
+                  {setting::kNoShowDelete, false, true, false, true, "Yes", ""}};
+  for (const auto& each : switches) {
+    SCOPED_TRACE(each.setting.name);
+    EXPECT_EQ(reg.Get(each.setting), each.missing);
+    for (const bool value : {true, false}) {
+      reg.Set(each.setting, value);
+      EXPECT_EQ(reg.Setting(each.setting.name), value ? each.yesText : each.noText);
+      EXPECT_EQ(reg.Get(each.setting), value ? each.yes : each.no);
+    }
+    reg.SetSetting(each.setting.name, "else");
+    EXPECT_EQ(reg.Get(each.setting), each.other);
+  }
+  reg.SetSetting("ProxyUse", "yES ");
+  EXPECT_TRUE(reg.Get(setting::kProxyUse));
+  for (const auto& [text, means] : {std::pair{"", AfterClose::Ask},
+                                    {" yes", AfterClose::KeepInTray},
+                                    {"No", AfterClose::Exit},
+                                    {"else", AfterClose::Exit}}) {
+    reg.SetSetting("CloseToTray", text);
+    EXPECT_EQ(reg.Get(setting::kCloseToTray), means) << text;
+  }
+  reg.Set(setting::kCloseToTray, AfterClose::KeepInTray);
+  EXPECT_EQ(reg.Setting("CloseToTray"), "Yes");
 }
 
 }  // namespace

@@ -61,24 +61,24 @@ TEST_F(TestProxyTest, AsksTheProxyForTheTestPage) {
   EXPECT_EQ(form->Text(lblCheckAddress), "127.0.0.1");
   EXPECT_EQ(form->Text(lblCheckPort), std::to_string(proxy_.Port()));
   EXPECT_EQ(form->Text(lblProxyStuff), "* You need to be connected to the Internet for this test to work");
-  EXPECT_EQ(Settings().Setting(setting::kProxyTestText), "cool proxy works!");
+  EXPECT_EQ(Settings().Setting(setting::kProxyTestText.name), "cool proxy works!");
   PumpUntil([&] { return form->Text(lblStatusInfo) != kRuns; });
   EXPECT_EQ(form->Text(lblStatusInfo), kWorks);
   EXPECT_EQ(form->Text(lblProxyStep + 1), "Connection accepted");
   const std::string page = "http://www.sonaro.example/sonaroapp/sonaro3/asp/proxy/test.asp";
-  EXPECT_EQ(Settings().Setting(setting::kProxyTest), page);
+  EXPECT_EQ(Settings().Setting(setting::kProxyTest.name), page);
   ASSERT_EQ(proxy_.Requests().size(), 1u);
   EXPECT_TRUE(proxy_.Requests()[0].starts_with("GET " + page + " HTTP/1.0\r\nHost: www.sonaro.example\r\n"))
       << proxy_.Requests()[0];
   SendMessageA(form->Control(butOKIt), BM_CLICK, 0, 0);
   EXPECT_FALSE(form->IsOpen());
-  for (const char* name : {setting::kProxyUse, setting::kProxyAddress, setting::kProxyPort}) {
+  for (const char* name : {"ProxyUse", "ProxyAddress", "ProxyPort"}) {
     EXPECT_EQ(Settings().Setting(name), "") << name;
   }
 }
 
 TEST_F(TestProxyTest, SaysWhetherTheProxyWorks) {
-  Settings().SetSetting(setting::kProxyTestText, "it works");
+  Settings().SetSetting(setting::kProxyTestText.name, "it works");
   const std::string other = "Another page came instead of the test page.";
   const struct {
     Script answer;
