@@ -43,7 +43,7 @@ ApplicationSchedule::ApplicationSchedule(const Dependencies& needs)
       events_(needs.data),
       diary_(events_),
       store_(needs.data, needs.state.shortDatePattern),
-      calendar_(store_, needs.state.shortDatePattern),
+      calendar_(store_),
       shows_(needs.data, needs.messages, needs.strings),
       picker_(needs.stations, needs.personal, needs.recent, needs.reg, needs.strings),
       services_(MakeServices()),
@@ -139,8 +139,7 @@ void ApplicationSchedule::ShowNotification(const std::string& asked) {
   if (slot < 0 || static_cast<std::size_t>(slot) >= store_.SlotCount()) return;
   const ScheduleItem& item = store_.Item(static_cast<std::size_t>(slot));
   if (item.Free()) return;
-  notices_.ShowNotification(
-      NotificationFor(item, needs_.source, needs_.extra, needs_.state.shortDatePattern));
+  notices_.ShowNotification(NotificationFor(item, needs_.source, needs_.extra));
 }
 
 void ApplicationSchedule::ShowSchedule(HWND owner) {
@@ -176,9 +175,9 @@ bool ApplicationSchedule::IsNoticed(const EventRecord& event, const DateTime& lo
   const std::string date = FormatShortDate(local.date);
   for (std::size_t slot = 0; slot < store_.SlotCount(); ++slot) {
     const ScheduleItem& item = store_.Item(slot);
-    if (item.Free() || (item.date != date && KindOf(item.kind) == ScheduleKind::Once)) continue;
-    const ItemName name = SplitItemName(item.name);
-    if (name.name == event[EventField::Name] && name.station == event[EventField::StationName]) return true;
+    if (item.Free() || (item.fields.date != date && item.kind == ScheduleKind::Once)) continue;
+    if (item.name.name == event[EventField::Name] && item.name.station == event[EventField::StationName])
+      return true;
   }
   return false;
 }
@@ -212,8 +211,7 @@ NextNotice ApplicationSchedule::NextNotice() {
   }
   if (!soonest) return {};
   const ScheduleItem& item = store_.Item(found);
-  return {NextShown(*soonest, now, needs_.state.clockStyle), SplitItemName(item.name).Shown(),
-          ScheduleShown(item)};
+  return {NextShown(*soonest, now, needs_.state.clockStyle), item.name.Shown(), ScheduleShown(item)};
 }
 
 void ApplicationSchedule::DirectoryChanged() {

@@ -60,18 +60,6 @@ Date FirstDayFrom(Date day, const DayFlags& days) {
   return day;
 }
 
-std::optional<DayFlags> RepeatedDays(const ScheduleItem& item) {
-  DayFlags days{};
-  if (KindOf(item.kind) == ScheduleKind::Daily) {
-    days = DaysOf(item.kind);
-  } else {
-    for (int day = 0; day < 7; ++day) {
-      days[static_cast<std::size_t>(day)] = EqualIgnoringCase(EnglishDayName(day), item.weekday);
-    }
-  }
-  return days == DayFlags{} ? std::nullopt : std::optional(days);
-}
-
 std::string RepeatRule(const DayFlags& days) {
   std::string codes;
   for (std::size_t day = 0; day < days.size(); ++day) {
@@ -87,21 +75,15 @@ struct Times {
   std::string rule;  // "" for an item that comes on once
 };
 
-std::optional<Times> TimesOf(const ScheduleItem& item, const Date& today,
-                             const std::string& shortDatePattern) {
-  const std::optional<TimeOfDay> time = ParseTime(item.time);
-  if (!time) return std::nullopt;
-  switch (KindOf(item.kind)) {
-    case ScheduleKind::Once: {
-      const std::optional<DateTime> date = ParseDate(item.date, shortDatePattern);
-      return date ? std::optional(Times{{date->date, *time}, {}}) : std::nullopt;
-    }
+std::optional<Times> TimesOf(const ScheduleItem& item, const Date& today) {
+  if (!item.time) return std::nullopt;
+  switch (item.kind) {
+    case ScheduleKind::Once:
+      return item.date ? std::optional(Times{{*item.date, *item.time}, {}}) : std::nullopt;
     case ScheduleKind::Daily:
-    case ScheduleKind::Weekly: {
-      const std::optional<DayFlags> days = RepeatedDays(item);
-      if (!days) return std::nullopt;
-      return Times{{FirstDayFrom(today, *days), *time}, RepeatRule(*days)};
-    }
+    case ScheduleKind::Weekly:
+      if (item.days == DayFlags{}) return std::nullopt;
+      return Times{{FirstDayFrom(today, item.days), *item.time}, RepeatRule(item.days)};
     default:
       return std::nullopt;
   }
@@ -109,7 +91,7 @@ std::optional<Times> TimesOf(const ScheduleItem& item, const Date& today,
 
 // The same for one item in every export, wherever it stands in the schedule and whatever its note says, so
 // that a calendar knows it again. `earlier`: the identities of the items in front, since two may be alike.
-std::string IdentityOf(const ScheduleItem& item, std::set<std::string>& earlier) {
+std::string IdentityOf(const ScheduleFields& item, std::set<std::string>& earlier) {
   constexpr std::size_t kDigits = 32;
   std::string text;
   for (const std::string* field :
@@ -126,28 +108,26 @@ std::string IdentityOf(const ScheduleItem& item, std::set<std::string>& earlier)
 
 void AddEntry(std::string& file, const std::string& identity, const ScheduleItem& item, const Times& times,
               const DateTime& gmtNow) {
-  const ItemName name = SplitItemName(item.name);
   AddLine(file, "BEGIN:VEVENT");
   AddLine(file, "UID:" + identity + "@sonaro.example");
   AddLine(file, "DTSTAMP:" + Stamp(gmtNow) + "Z");
   AddLine(file, "DTSTART:" + Stamp(times.start));
   if (!times.rule.empty()) AddLine(file, times.rule);
-  AddLine(file, "SUMMARY:" + Escaped(name.Shown()));
-  if (!item.note.empty()) AddLine(file, "DESCRIPTION:" + Escaped(NoteFromFile(item.note)));
-  const std::string webSite = WebSiteOf(item.name);
+  AddLine(file, "SUMMARY:" + Escaped(item.name.Shown()));
+  if (!item.note.empty()) AddLine(file, "DESCRIPTION:" + Escaped(item.note));
+  const std::string webSite = item.name.Address();
   if (!webSite.empty()) AddLine(file, "URL:" + webSite);  // an address is not escaped
   AddLine(file, "BEGIN:VALARM");
   AddLine(file, "ACTION:DISPLAY");
   AddLine(file, "TRIGGER:PT0S");
-  AddLine(file, "DESCRIPTION:" + Escaped(name.Shown()));
+  AddLine(file, "DESCRIPTION:" + Escaped(item.name.Shown()));
   AddLine(file, "END:VALARM");
   AddLine(file, "END:VEVENT");
 }
 
 }  // namespace
 
-std::string ExportCalendar(const ScheduleStore& store, const Date& today, const DateTime& gmtNow,
-                           const std::string& shortDatePattern) {
+std::string ExportCalendar(const ScheduleStore& store, const Date& today, const DateTime& gmtNow) {
   std::string file;
   AddLine(file, "BEGIN:VCALENDAR");
   AddLine(file, "VERSION:2.0");
@@ -156,8 +136,8 @@ std::string ExportCalendar(const ScheduleStore& store, const Date& today, const 
   for (std::size_t slot = 0; slot < store.SlotCount(); ++slot) {
     const ScheduleItem& item = store.Item(slot);
     if (item.Free()) continue;
-    if (const auto times = TimesOf(item, today, shortDatePattern)) {
-      AddEntry(file, IdentityOf(item, identities), item, *times, gmtNow);
+    if (const auto times = TimesOf(item, today)) {
+      AddEntry(file, IdentityOf(item.fields, identities), item, *times, gmtNow);
     }
   }
   AddLine(file, "END:VCALENDAR");

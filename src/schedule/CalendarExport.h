@@ -15,7 +15,6 @@ class ScheduleStore;
 // The whole file, UTF-8, lines ended by CR LF and folded at 75 bytes. Live items and items whose time or date
 // cannot be read have no moment to write and are left out. `gmtNow` stamps the entries; daily and weekly
 // items begin on their first day from `today` on.
-std::string ExportCalendar(const ScheduleStore& store, const Date& today, const DateTime& gmtNow,
-                           const std::string& shortDatePattern);
+std::string ExportCalendar(const ScheduleStore& store, const Date& today, const DateTime& gmtNow);
 
 }  // namespace sonaro

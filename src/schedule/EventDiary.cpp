@@ -12,7 +12,7 @@ namespace sonaro {
 namespace {
 
 bool WaitsFor(const ScheduleItem& item, const EventRecord& event) {
-  const ItemName name = SplitItemName(item.name);
+  const ItemName& name = item.name;
   if (!EqualIgnoringCase(name.name, event[EventField::Name])) return false;
   return !name.IsEvent() || EqualIgnoringCase(name.station, event[EventField::StationName]);
 }
@@ -63,7 +63,7 @@ std::vector<Occurrence> EventDiary::Starting(const ScheduleStore& store, const D
     if (event.gmt <= from || event.gmt > to) continue;
     for (std::size_t slot = 0; slot < store.SlotCount(); ++slot) {
       const ScheduleItem& item = store.Item(slot);
-      if (KindOf(item.kind) == ScheduleKind::Live && WaitsFor(item, event.record)) {
+      if (item.kind == ScheduleKind::Live && WaitsFor(item, event.record)) {
         starting.push_back({slot, event.gmt});
       }
     }

@@ -81,14 +81,14 @@ void AddPersonalLinks(std::vector<PlayChoice>& plays, const StationKey& key, con
 }  // namespace
 
 Notification NotificationFor(const ScheduleItem& item, const StationSource& stations,
-                             const ExtraLinks& extraLinks, std::string_view shortDatePattern) {
+                             const ExtraLinks& extraLinks) {
   Notification shown;
-  shown.eventName = SplitItemName(item.name).Shown();
-  shown.notice = NoticeText(item, shortDatePattern);
-  shown.note = NoteFromFile(item.note);
-  shown.webSite = WebSiteOf(item.name);
-  shown.opensWebSite = OpensWebSite(item.action) && !shown.webSite.empty();
-  const StationKey key = StationKey::FromRowKey(StationKeyOf(item.action));
+  shown.eventName = item.name.Shown();
+  shown.notice = NoticeText(item);
+  shown.note = item.note;
+  shown.webSite = item.name.Address();
+  shown.opensWebSite = item.opensWebSite && !shown.webSite.empty();
+  const StationKey key = StationKey::FromRowKey(item.stationKey);
   if (key.kind == StationKey::Kind::Directory) AddDirectoryLinks(shown.plays, key, stations, extraLinks);
   if (key.kind == StationKey::Kind::Personal) AddPersonalLinks(shown.plays, key, stations);
   if (shown.plays.size() > Notification::kPlayButtons) shown.plays.resize(Notification::kPlayButtons);
@@ -110,8 +110,7 @@ std::vector<std::string> AwayLines(const std::vector<Occurrence>& missed, const 
     if (occurrence.slot >= store.SlotCount()) continue;
     const bool today = occurrence.at.date == now.date;
     lines.push_back((today ? "" : FormatMonthDay(occurrence.at.date) + ", ") +
-                    FormatTime(occurrence.at.time, style) + "  " +
-                    SplitItemName(store.Item(occurrence.slot).name).Shown());
+                    FormatTime(occurrence.at.time, style) + "  " + store.Item(occurrence.slot).name.Shown());
   }
   return lines;
 }

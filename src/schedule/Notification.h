@@ -34,7 +34,7 @@ struct Notification {
 };
 
 Notification NotificationFor(const ScheduleItem& item, const StationSource& stations,
-                             const ExtraLinks& extraLinks, std::string_view shortDatePattern);
+                             const ExtraLinks& extraLinks);
 
 // The number before the first "XX" of the text that asks for a notification; -1 when there is none.
 int AskedItem(std::string_view bringUpText);

@@ -13,13 +13,6 @@ namespace {
 
 constexpr int kHalfDay = 12;
 
-int WeekdayNamed(std::string_view name) {
-  for (int day = 0; day < 7; ++day) {
-    if (EqualIgnoringCase(EnglishDayName(day), name)) return day;
-  }
-  return 0;
-}
-
 std::string ChosenDays(const DayFlags& days) {
   std::string chosen;
   for (std::size_t day = 0; day < days.size(); ++day) {
@@ -61,19 +54,18 @@ ScheduleDraft ScheduleDraft::ForEvent(const EventRecord& event, Clock& clock) {
   return draft;
 }
 
-ScheduleDraft ScheduleDraft::FromItem(const ScheduleItem& item, std::string_view shortDatePattern) {
+ScheduleDraft ScheduleDraft::FromItem(const ScheduleItem& item) {
   ScheduleDraft draft;
   draft.mode = DraftMode::Modify;
-  draft.kind = KindOf(item.kind) == ScheduleKind::Unknown ? ScheduleKind::Once : KindOf(item.kind);
-  draft.time = ParseTime(item.time).value_or(TimeOfDay{});
-  const auto date = ParseDate(item.date, shortDatePattern);
-  draft.dateText = date ? FormatLongDate(date->date) : item.date;
-  draft.weekday = WeekdayNamed(item.weekday);
-  if (draft.kind == ScheduleKind::Daily) draft.days = DaysOf(item.kind);
-  draft.note = NoteFromFile(item.note);
-  draft.name = SplitItemName(item.name);
-  draft.stationKey = StationKeyOf(item.action);
-  draft.openWebSite = OpensWebSite(item.action);
+  draft.kind = item.kind == ScheduleKind::Unknown ? ScheduleKind::Once : item.kind;
+  draft.time = item.time.value_or(TimeOfDay{});
+  draft.dateText = item.date ? FormatLongDate(*item.date) : item.fields.date;
+  draft.weekday = item.weekday.value_or(0);
+  if (draft.kind == ScheduleKind::Daily) draft.days = item.days;
+  draft.note = item.note;
+  draft.name = item.name;
+  draft.stationKey = item.stationKey;
+  draft.openWebSite = item.opensWebSite;
   return draft;
 }
 
@@ -88,8 +80,8 @@ DraftFault ScheduleDraft::Fault(std::string_view shortDatePattern) const {
   return DraftFault::None;
 }
 
-ScheduleItem ScheduleDraft::ToItem(ClockStyle style, std::string_view shortDatePattern) const {
-  ScheduleItem item;
+ScheduleFields ScheduleDraft::ToFields(ClockStyle style, std::string_view shortDatePattern) const {
+  ScheduleFields item;
   item.name = JoinItemName(name);
   item.time = FormatTime(time, style);
   item.note = NoteForFile(note);

@@ -37,13 +37,13 @@ struct ScheduleDraft {
                                   const DateTime& now);
   // An event of the directory: once, at its start on the local clock.
   static ScheduleDraft ForEvent(const EventRecord& event, Clock& clock);
-  static ScheduleDraft FromItem(const ScheduleItem& item, std::string_view shortDatePattern);
+  static ScheduleDraft FromItem(const ScheduleItem& item);
 
   // "Station To Schedule: Radio", followed by " (Event)" for an event.
   std::string StationShown() const;
   DraftFault Fault(std::string_view shortDatePattern) const;
   // Only for a draft without a fault.
-  ScheduleItem ToItem(ClockStyle style, std::string_view shortDatePattern) const;
+  ScheduleFields ToFields(ClockStyle style, std::string_view shortDatePattern) const;
 
   // "Every Thursday at 8:00 PM"; "" while something is missing.
   std::string Summary(ClockStyle style, std::string_view shortDatePattern) const;

@@ -13,6 +13,13 @@ constexpr std::string_view kWebSiteMark = ">>>>>>";
 constexpr char kLineBreakInFile = '\v';  // a line of the file holds no line break
 constexpr std::array<std::string_view, 7> kDayKeys = {"Mon", "Tue", "Wed", "Thr", "Fri", "Sat", "Sun"};
 
+std::optional<int> WeekdayNamed(std::string_view name) {
+  for (int day = 0; day < kDaysInWeek; ++day) {
+    if (EqualIgnoringCase(EnglishDayName(day), name)) return day;
+  }
+  return std::nullopt;
+}
+
 }  // namespace
 
 ScheduleKind KindOf(std::string_view kind) {
@@ -72,9 +79,8 @@ std::string JoinItemName(const ItemName& name) {
   return joined;
 }
 
-std::string WebSiteOf(std::string_view nameField) {
-  const std::string address = SplitItemName(nameField).webSite;
-  return address.empty() || address.starts_with("http") ? address : "http://" + address;
+std::string ItemName::Address() const {
+  return webSite.empty() || webSite.starts_with("http") ? webSite : "http://" + webSite;
 }
 
 std::string NoteForFile(std::string_view note) {
@@ -96,8 +102,18 @@ std::string ActionText(bool openWebSite, std::string_view stationKey) {
   return (openWebSite ? "W" : "N") + std::string(stationKey);
 }
 
-bool OpensWebSite(std::string_view action) { return action.starts_with('W'); }
-
-std::string_view StationKeyOf(std::string_view action) { return action.empty() ? action : action.substr(1); }
+ScheduleItem::ScheduleItem(ScheduleFields texts, std::string_view shortDatePattern)
+    : fields(std::move(texts)),
+      name(SplitItemName(fields.name)),
+      kind(KindOf(fields.kind)),
+      time(ParseTime(fields.time)),
+      weekday(WeekdayNamed(fields.weekday)),
+      note(NoteFromFile(fields.note)),
+      opensWebSite(fields.action.starts_with('W')),
+      stationKey(fields.action.empty() ? "" : fields.action.substr(1)) {
+  if (const auto read = ParseDate(fields.date, shortDatePattern)) date = read->date;
+  if (kind == ScheduleKind::Daily) days = DaysOf(fields.kind);
+  if (kind == ScheduleKind::Weekly && weekday) days[static_cast<std::size_t>(*weekday)] = true;
+}
 
 }  // namespace sonaro

@@ -1,8 +1,10 @@
-// One scheduled notification: eight text fields as they stand in the schedule table and, all but the last, on
-// a line of "\Sched.snr". Knows how the fields encode kinds, day flags and names; knows no clock and no file.
+// One scheduled notification: the texts that stand on its line of "\Sched.snr", and the values that they are
+// read to when the item comes into the table. Knows how the texts encode kinds, day flags and names; knows no
+// clock and no file.
 #pragma once
 
 #include <array>
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -15,7 +17,8 @@ enum class ScheduleKind { Once, Daily, Weekly, Live, Unknown };
 // Monday first, as everywhere in the schedule.
 using DayFlags = std::array<bool, 7>;
 
-struct ScheduleItem {
+// As they stand on the line.
+struct ScheduleFields {
   std::string name;     // empty: the slot is free. See ItemName for what an event's name holds
   std::string date;     // "m/d/yyyy", for "once"
   std::string time;     // "h:mm AMPM" or, with the 24-hour clock, "h:mm"
@@ -23,10 +26,8 @@ struct ScheduleItem {
   std::string kind;     // "once", "weekly", "live", "daily", or "daily" and seven day flags
   std::string note;     // the rest of the line, tabs included
   std::string action;   // first letter 'W': open the web site; then the station key, see ActionText
-  std::string spare;    // never in the file
 
-  bool Free() const { return name.empty(); }
-  bool operator==(const ScheduleItem&) const = default;
+  bool operator==(const ScheduleFields&) const = default;
 };
 
 // Letter case ignored; daily when the first five characters are "daily".
@@ -48,11 +49,11 @@ struct ItemName {
   bool IsEvent() const { return !station.empty(); }
   // As shown to the user: "event on station" or the name.
   std::string Shown() const;
+  // As it is opened, beginning with "http"; "" when there is none.
+  std::string Address() const;
 };
 ItemName SplitItemName(std::string_view nameField);
 std::string JoinItemName(const ItemName& name);
-// The web site of a name field as it is opened, beginning with "http"; "" when there is none.
-std::string WebSiteOf(std::string_view nameField);
 
 // A note as the user writes it, with lines separated by CR LF, in one line of the file, and back.
 std::string NoteForFile(std::string_view note);
@@ -61,7 +62,26 @@ std::string NoteFromFile(std::string_view stored);
 // The action field: the letter ('W' web site, 'N' notice) followed by the station's key ("S1204", "P3", or
 // "").
 std::string ActionText(bool openWebSite, std::string_view stationKey);
-bool OpensWebSite(std::string_view action);
-std::string_view StationKeyOf(std::string_view action);
+
+// An item of the table. A text that is not what its field is for gives no value, and its bytes stay in
+// `fields`, which alone are written.
+struct ScheduleItem {
+  ScheduleFields fields;
+  ItemName name;
+  ScheduleKind kind = ScheduleKind::Unknown;
+  std::optional<TimeOfDay> time;
+  std::optional<Date> date;
+  std::optional<int> weekday;  // 0 = Monday
+  DayFlags days{};             // on which it comes: of daily and weekly items
+  std::string note;            // lines separated by CR LF
+  bool opensWebSite = false;
+  std::string stationKey;  // "S1204", "P3" or ""
+
+  ScheduleItem() = default;
+  // Dates are read as the user writes them.
+  ScheduleItem(ScheduleFields texts, std::string_view shortDatePattern);
+
+  bool Free() const { return fields.name.empty(); }
+};
 
 }  // namespace sonaro

@@ -19,8 +19,8 @@ int NumberAfter(std::string_view key, char letter) {
 }
 
 std::string ActionAndNote(const ScheduleItem& item) {
-  std::string text = ActionShown(item.action);
-  if (!item.note.empty()) text += "- " + item.note;
+  std::string text = ActionShown(item);
+  if (!item.fields.note.empty()) text += "- " + item.fields.note;
   std::replace(text.begin(), text.end(), '\v', ' ');
   return text;
 }
@@ -30,12 +30,12 @@ bool Sooner(const std::optional<DateTime>& a, const std::optional<DateTime>& b) 
   return a.has_value() != b.has_value() ? a.has_value() : a < b;
 }
 
-ScheduleRow RowOfSlot(const ScheduleStore& store, ScheduleCalendar& calendar, std::size_t slot,
+ScheduleRow RowOfSlot(const ScheduleStore& store, const ScheduleCalendar& calendar, std::size_t slot,
                       const DateTime& now) {
   const ScheduleItem& item = store.Item(slot);
-  return {.key = "S" + std::to_string(slot) + "\t" + item.action,
+  return {.key = "S" + std::to_string(slot) + "\t" + item.fields.action,
           .at = calendar.Next(slot, now),
-          .cells = {"", SplitItemName(item.name).Shown(), ScheduleShown(item), ActionAndNote(item)}};
+          .cells = {"", item.name.Shown(), ScheduleShown(item), ActionAndNote(item)}};
 }
 
 void FillNext(std::vector<ScheduleRow>& rows, const DateTime& now, ClockStyle style) {
@@ -46,7 +46,7 @@ void FillNext(std::vector<ScheduleRow>& rows, const DateTime& now, ClockStyle st
 
 }  // namespace
 
-std::vector<ScheduleRow> ScheduleRows(const ScheduleStore& store, ScheduleCalendar& calendar,
+std::vector<ScheduleRow> ScheduleRows(const ScheduleStore& store, const ScheduleCalendar& calendar,
                                       const DateTime& now, ClockStyle style) {
   std::vector<ScheduleRow> rows;
   for (std::size_t slot = 0; slot < store.SlotCount(); ++slot) {
@@ -57,14 +57,14 @@ std::vector<ScheduleRow> ScheduleRows(const ScheduleStore& store, ScheduleCalend
 }
 
 std::vector<ScheduleRow> ShowRows(PersonalShows& shows, const ScheduleStore& store,
-                                  ScheduleCalendar& calendar, const NextBroadcast& nextBroadcast,
+                                  const ScheduleCalendar& calendar, const NextBroadcast& nextBroadcast,
                                   const DateTime& now, ClockStyle style) {
   std::vector<ScheduleRow> rows;
   for (const std::string& line : shows.List()) {
     const std::string_view name = PersonalShows::DisplayName(line);
     ScheduleRow shown;
     for (std::size_t slot = 0; slot < store.SlotCount(); ++slot) {
-      if (!EqualIgnoringCase(SplitItemName(store.Item(slot).name).name, name)) continue;
+      if (!EqualIgnoringCase(store.Item(slot).name.name, name)) continue;
       ScheduleRow row = RowOfSlot(store, calendar, slot, now);
       if (shown.key.empty() || Sooner(row.at, shown.at)) shown = std::move(row);
     }

@@ -27,13 +27,13 @@ struct ScheduleRow {
 };
 
 // In the order of the slots.
-std::vector<ScheduleRow> ScheduleRows(const ScheduleStore& store, ScheduleCalendar& calendar,
+std::vector<ScheduleRow> ScheduleRows(const ScheduleStore& store, const ScheduleCalendar& calendar,
                                       const DateTime& now, ClockStyle style);
 // A show has the columns of its item in the schedule, the soonest one's if there are several; one without an
 // item that comes again has the local time of its next broadcast.
 using NextBroadcast = std::function<std::optional<DateTime>(std::string_view show)>;
 std::vector<ScheduleRow> ShowRows(PersonalShows& shows, const ScheduleStore& store,
-                                  ScheduleCalendar& calendar, const NextBroadcast& nextBroadcast,
+                                  const ScheduleCalendar& calendar, const NextBroadcast& nextBroadcast,
                                   const DateTime& now, ClockStyle style);
 // By time, what does not come again last, or by the text of another column, letter case ignored.
 void SortRows(std::vector<ScheduleRow>& rows, int column);

@@ -18,23 +18,23 @@ constexpr std::size_t kTabsInLine = 6;
 constexpr std::int64_t kDaysKept = 2;
 
 // The fields in the order of the line; the note, which takes the rest of it, is the last.
-template <class Item>
-auto FieldsOf(Item& item) {
+template <class Fields>
+auto InOrder(Fields& item) {
   return std::array{&item.name, &item.action, &item.date, &item.time, &item.weekday, &item.kind, &item.note};
 }
 
 std::string LineOf(const ScheduleItem& item) {
   std::string line;
-  for (const std::string* field : FieldsOf(item)) line += (line.empty() ? "" : "\t") + *field;
+  for (const std::string* field : InOrder(item.fields)) line += (line.empty() ? "" : "\t") + *field;
   return line;
 }
 
 // The text between tabs goes to the fields, and what follows the sixth to the last one; fewer tabs fill the
 // fields in front of them.
-ScheduleItem ItemOf(std::string_view line) {
-  ScheduleItem item;
+ScheduleFields FieldsOf(std::string_view line) {
+  ScheduleFields item;
   const std::vector<std::string_view> pieces = SplitAtMost(line, '\t', kTabsInLine + 1);
-  const auto fields = FieldsOf(item);
+  const auto fields = InOrder(item);
   for (std::size_t i = 0; i + 1 < pieces.size(); ++i) *fields[i] = pieces[i];
   if (pieces.size() == fields.size()) item.note = pieces.back();
   return item;
@@ -69,18 +69,15 @@ void ScheduleStore::ReadFile() {
   slots_.assign(kFirstSlots, ScheduleItem{});
   dropped_.clear();
   broughtBack_.clear();
-  ++generation_;
   if (droppedFile_.Look() != UserFile::Seen::Unreadable) TakeDropped();
   std::size_t next = 0;
   for (std::string_view line : SplitLines(file_.Text())) {
     GrowTo(next);
     ScheduleItem& item = slots_[next++];
-    item = ItemOf(line);
+    item = ScheduleItem(FieldsOf(line), shortDatePattern_);
     const bool expired = Expired(item, today_);
     if (expired || LosesText(item, line)) Drop(line);
-    if (!expired) continue;
-    item.name.clear();
-    item.action.clear();
+    if (expired) item = {};
   }
   BringBack(today_);
 }
@@ -100,11 +97,12 @@ bool ScheduleStore::BringBack(const Date& today) {
   today_ = today;
   const std::size_t before = dropped_.size();
   std::erase_if(dropped_, [&](const std::string& line) {
-    ScheduleItem item = ItemOf(line);
+    const ScheduleItem item(FieldsOf(line), shortDatePattern_);
     if (!HasDay(item) || Expired(item, today)) return false;
-    if (std::find(slots_.begin(), slots_.end(), item) == slots_.end()) {
+    const bool there = std::any_of(slots_.begin(), slots_.end(),
+                                   [&](const ScheduleItem& other) { return other.fields == item.fields; });
+    if (!there) {
       slots_[FirstFreeSlot()] = item;
-      ++generation_;
     }
     broughtBack_.push_back(line);
     return true;
@@ -117,14 +115,12 @@ void ScheduleStore::GrowTo(std::size_t slot) {
 }
 
 // Whether the item is for one readable day.
-bool ScheduleStore::HasDay(const ScheduleItem& item) const {
-  return !item.Free() && KindOf(item.kind) == ScheduleKind::Once && ParseDate(item.date, shortDatePattern_);
+bool ScheduleStore::HasDay(const ScheduleItem& item) {
+  return !item.Free() && item.kind == ScheduleKind::Once && item.date;
 }
 
-bool ScheduleStore::Expired(const ScheduleItem& item, const Date& today) const {
-  if (!HasDay(item)) return false;
-  const Date day = ParseDate(item.date, shortDatePattern_)->date;
-  return DaysFromEpoch(today) - DaysFromEpoch(day) > kDaysKept;
+bool ScheduleStore::Expired(const ScheduleItem& item, const Date& today) {
+  return HasDay(item) && DaysFromEpoch(today) - DaysFromEpoch(*item.date) > kDaysKept;
 }
 
 std::string ScheduleStore::LineIn(const ScheduleItem& item) { return item.Free() ? "" : LineOf(item); }
@@ -159,12 +155,12 @@ std::size_t ScheduleStore::FirstFreeSlot() {
   return slot;
 }
 
-bool ScheduleStore::SetItem(std::size_t slot, ScheduleItem item) {
-  for (std::string* field : FieldsOf(item)) {
+bool ScheduleStore::SetItem(std::size_t slot, ScheduleFields item) {
+  for (std::string* field : InOrder(item)) {
     *field = OnOneLine(*field);
     if (field != &item.note) std::replace(field->begin(), field->end(), '\t', ' ');
   }
-  return Change(slot, std::move(item));
+  return Change(slot, ScheduleItem(std::move(item), shortDatePattern_));
 }
 
 bool ScheduleStore::FreeSlot(std::size_t slot) {
@@ -181,7 +177,6 @@ bool ScheduleStore::Change(std::size_t slot, ScheduleItem changed) {
   }
   GrowTo(slot);
   std::swap(slots_[slot], changed);
-  ++generation_;
   const bool saved = SaveSchedule();
   if (!saved) std::swap(slots_[slot], changed);
   return saved;

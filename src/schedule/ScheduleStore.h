@@ -9,7 +9,6 @@
 #pragma once
 
 #include <cstddef>
-#include <cstdint>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -42,8 +41,6 @@ class ScheduleStore {
   // Slots 0 to SlotCount() - 1, free ones included.
   std::size_t SlotCount() const { return slots_.size(); }
   const ScheduleItem& Item(std::size_t slot) const { return slots_.at(slot); }
-  // Grows with every change; whoever keeps something derived from the items compares it.
-  std::uint64_t Generation() const { return generation_; }
 
   // The first slot that an item can be put into; the table grows when every slot is taken.
   std::size_t FirstFreeSlot();
@@ -51,7 +48,7 @@ class ScheduleStore {
   // stood in the slot is looked for, and an item that is gone or new gets a free slot. False, with nothing
   // changed, when it could not be saved. Line breaks in the item, and tabs in front of its last field, become
   // blanks: they would end the field.
-  [[nodiscard]] bool SetItem(std::size_t slot, ScheduleItem item);
+  [[nodiscard]] bool SetItem(std::size_t slot, ScheduleFields item);
   [[nodiscard]] bool FreeSlot(std::size_t slot);
 
  private:
@@ -60,8 +57,8 @@ class ScheduleStore {
   void ReadFile();
   std::size_t SlotWith(const std::string& line, std::size_t slot);
   [[nodiscard]] bool Change(std::size_t slot, ScheduleItem changed);
-  bool HasDay(const ScheduleItem& item) const;
-  bool Expired(const ScheduleItem& item, const Date& today) const;
+  static bool HasDay(const ScheduleItem& item);
+  static bool Expired(const ScheduleItem& item, const Date& today);
   void Drop(std::string_view line);
   void TakeDropped();
   [[nodiscard]] bool PutAside(const std::vector<std::string>& lines);
@@ -74,7 +71,6 @@ class ScheduleStore {
   std::vector<ScheduleItem> slots_;
   std::vector<std::string> dropped_;      // the lines of "\Sched.old" as they are after the next save
   std::vector<std::string> broughtBack_;  // more of them, which are in the table again
-  std::uint64_t generation_ = 0;
 };
 
 }  // namespace sonaro

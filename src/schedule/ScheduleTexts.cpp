@@ -11,13 +11,11 @@ namespace {
 constexpr std::size_t kShortName = 3;
 
 std::string TwelveHourTime(const ScheduleItem& item) {
-  const std::optional<TimeOfDay> time = ParseTime(item.time);
-  return time ? FormatTime(*time, ClockStyle::Hours12) : item.time;
+  return item.time ? FormatTime(*item.time, ClockStyle::Hours12) : item.fields.time;
 }
 
-std::string DaysShown(std::string_view dailyKind) {
+std::string DaysShown(const DayFlags& days) {
   std::string shown;
-  const DayFlags days = DaysOf(dailyKind);
   for (std::size_t day = 0; day < days.size(); ++day) {
     if (!days[day]) continue;
     if (!shown.empty()) shown += ", ";
@@ -28,35 +26,33 @@ std::string DaysShown(std::string_view dailyKind) {
 
 }  // namespace
 
-std::string NoticeText(const ScheduleItem& item, std::string_view shortDatePattern) {
-  switch (KindOf(item.kind)) {
-    case ScheduleKind::Once: {
-      const std::optional<DateTime> date = ParseDate(item.date, shortDatePattern);
-      return "This is your " + (date ? FormatMonthDay(date->date) : item.date) + "  " + TwelveHourTime(item) +
-             " notice for";
-    }
+std::string NoticeText(const ScheduleItem& item) {
+  switch (item.kind) {
+    case ScheduleKind::Once:
+      return "This is your " + (item.date ? FormatMonthDay(*item.date) : item.fields.date) + "  " +
+             TwelveHourTime(item) + " notice for";
     case ScheduleKind::Daily:
       return "This is your daily " + TwelveHourTime(item) + " notice for";
     case ScheduleKind::Weekly:
-      return "This is your weekly " + item.weekday + " " + TwelveHourTime(item) + " notice for";
+      return "This is your weekly " + item.fields.weekday + " " + TwelveHourTime(item) + " notice for";
     default:
       return "This is your event notice for";
   }
 }
 
-std::string ActionShown(std::string_view action) {
-  return OpensWebSite(action) ? "Go to the website " : "Notify me ";
+std::string ActionShown(const ScheduleItem& item) {
+  return item.opensWebSite ? "Go to the website " : "Notify me ";
 }
 
 std::string ScheduleShown(const ScheduleItem& item) {
-  switch (KindOf(item.kind)) {
+  switch (item.kind) {
     case ScheduleKind::Daily:
-      if (item.kind.find('|') == std::string::npos) return "every day at " + item.time;
-      return "every " + DaysShown(item.kind) + " at " + item.time;
+      if (item.fields.kind.find('|') == std::string::npos) return "every day at " + item.fields.time;
+      return "every " + DaysShown(item.days) + " at " + item.fields.time;
     case ScheduleKind::Weekly:
-      return "every " + item.weekday + " at " + item.time;
+      return "every " + item.fields.weekday + " at " + item.fields.time;
     case ScheduleKind::Once:
-      return "at " + item.time + " on " + item.date;
+      return "at " + item.fields.time + " on " + item.fields.date;
     case ScheduleKind::Live:
       return "when the event begins";
     default:

@@ -11,10 +11,10 @@ namespace sonaro {
 
 // "This is your weekly Thursday 8:00 PM notice for", by kind. Dates and times that cannot be read stand as
 // they are stored.
-std::string NoticeText(const ScheduleItem& item, std::string_view shortDatePattern);
+std::string NoticeText(const ScheduleItem& item);
 
 // "Go to the website " or "Notify me ", as the list shows the item's action.
-std::string ActionShown(std::string_view action);
+std::string ActionShown(const ScheduleItem& item);
 // "every day at 7:15 AM", "every Mon, Thr at 7:15 AM", "every Thursday at 8:00 PM", "at 8:00 PM on
 // 12/24/2026".
 std::string ScheduleShown(const ScheduleItem& item);

@@ -119,9 +119,7 @@ void frmSched::butChangeIt_Click() {
   const int slot = SlotOfKey(SelectedKey());
   if (slot < 0) return;
   const auto index = static_cast<std::size_t>(slot);
-  frmSchedChange dialog(context_, services_,
-                        ScheduleDraft::FromItem(services_.store.Item(index), services_.shortDatePattern),
-                        index);
+  frmSchedChange dialog(context_, services_, ScheduleDraft::FromItem(services_.store.Item(index)), index);
   if (dialog.ShowModal(Window()) == 1) FillLists();
 }
 
@@ -149,8 +147,8 @@ void frmSched::butAboutTimeIt_Click() {
 void frmSched::butExportIt_Click() {
   const std::string path = AskSavePath(Window(), LoadText(IDS_SCHED_EXPORT_FILTER), "Sonaro.ics");
   if (path.empty()) return;
-  const std::string calendar = ExportCalendar(services_.store, services_.clock.LocalNow().date,
-                                              services_.clock.GmtNow(), services_.shortDatePattern);
+  const std::string calendar =
+      ExportCalendar(services_.store, services_.clock.LocalNow().date, services_.clock.GmtNow());
   SavedOrSaid(SaveWholeFile(services_.files, path, calendar), path, services_.messages, context_.strings);
 }
 

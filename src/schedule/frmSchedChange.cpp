@@ -79,8 +79,9 @@ void frmSchedChange::ShowSummary() {
   TextColor color = TextColor::GlassMuted;
   if (draft_.Fault(services_.shortDatePattern) == DraftFault::None) {
     const DateTime now = services_.clock.LocalNow();
-    const ScheduleItem item = draft_.ToItem(services_.clockStyle, services_.shortDatePattern);
-    if (const auto at = ScheduleCalendar::NextOf(item, now, services_.shortDatePattern)) {
+    const ScheduleItem item(draft_.ToFields(services_.clockStyle, services_.shortDatePattern),
+                            services_.shortDatePattern);
+    if (const auto at = ScheduleCalendar::NextOf(item, now)) {
       next = FormatText(LoadText(IDS_SCHED_CHANGE_NEXT), {NextShown(*at, now, services_.clockStyle)});
     } else if (draft_.kind == ScheduleKind::Once) {
       next = LoadText(IDS_SCHED_CHANGE_PASSED);
@@ -166,8 +167,9 @@ void frmSchedChange::butOKIt_Click() {
   // The notice opens what the item carries; a station's own site is taken when it is to be opened.
   if (draft_.openWebSite && draft_.name.webSite.empty())
     draft_.name.webSite = services_.webSiteOf(draft_.stationKey);
-  const bool saved = services_.store.SetItem(slot_ ? *slot_ : services_.store.FirstFreeSlot(),
-                                             draft_.ToItem(services_.clockStyle, services_.shortDatePattern));
+  const bool saved =
+      services_.store.SetItem(slot_ ? *slot_ : services_.store.FirstFreeSlot(),
+                              draft_.ToFields(services_.clockStyle, services_.shortDatePattern));
   services_.changed();
   // What was entered stays on the screen until it is saved.
   if (!SavedOrSaid(saved, LoadText(IDS_FILE_SCHEDULE), services_.messages, context_.strings)) return;

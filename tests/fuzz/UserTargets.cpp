@@ -106,7 +106,7 @@ void FuzzSchedule(std::string_view input) {
   Require(ItemsIn(again) == ItemsIn(store), "as many items");
   Require(again.SaveSchedule(), "saved again");
   Require(file.Bytes() == first, "the same items");
-  CheckCalendar(ExportCalendar(again, kToday, {kToday, {12, 0, 0}}, kDatePattern));
+  CheckCalendar(ExportCalendar(again, kToday, {kToday, {12, 0, 0}}));
 }
 
 // The user's own stations: an added one is there after a restart, beside all that were there before.

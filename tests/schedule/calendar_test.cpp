@@ -18,7 +18,7 @@ const Date kExportedOn{2000, 8, 16};
 class Calendar : public testing::Test {
  protected:
   std::string Export(const Date& today = kExportedOn) {
-    return ExportCalendar(store, today, {{2000, 8, 16}, {10, 0, 0}}, "");
+    return ExportCalendar(store, today, {{2000, 8, 16}, {10, 0, 0}});
   }
   // The identities of the entries, in their order.
   std::vector<std::string> Identities(const Date& today = kExportedOn) {
@@ -36,7 +36,7 @@ class Calendar : public testing::Test {
 };
 
 TEST_F(Calendar, AnEntryKeepsItsIdentity) {
-  const ScheduleItem news{.name = "News", .time = "7:15", .kind = "daily"};
+  const ScheduleFields news{.name = "News", .time = "7:15", .kind = "daily"};
   store.SetItem(0, {.name = "Gala", .date = "8/20/2000", .time = "7:15", .kind = "once"});
   store.SetItem(1, news);
   store.SetItem(2, news);

@@ -34,7 +34,7 @@ TEST(Draft, EveryTimeOfDayGoesThroughTheBoxesAndBack) {
       draft.time = time;
       const std::string label = HourChoices(style)[static_cast<std::size_t>(choice.hour)];
       const std::string half = style == ClockStyle::Hours24 ? "" : choice.half == 0 ? " PM" : " AM";
-      EXPECT_EQ(draft.ToItem(style, "").time, label + ":" + MinuteChoices()[7] + half);
+      EXPECT_EQ(draft.ToFields(style, "").time, label + ":" + MinuteChoices()[7] + half);
     }
   }
 }
@@ -58,19 +58,20 @@ TEST(Draft, ItemsComeBackAsTheyWereEntered) {
   EXPECT_EQ(draft.dateText, "January 1 2001 (Monday)");
   draft.note = "first\r\nsecond";
   draft.openWebSite = true;
-  const ScheduleItem once = draft.ToItem(ClockStyle::Hours12, "");
-  EXPECT_EQ(once, (ScheduleItem{"Radio", "1/1/2001", "12:00 AM", "", "once", "first\vsecond", "WS1204", ""}));
-  const ScheduleDraft back = ScheduleDraft::FromItem(once, "");
-  EXPECT_EQ(back.ToItem(ClockStyle::Hours12, ""), once);
+  const ScheduleFields once = draft.ToFields(ClockStyle::Hours12, "");
+  EXPECT_EQ(once, (ScheduleFields{"Radio", "1/1/2001", "12:00 AM", "", "once", "first\vsecond", "WS1204"}));
+  const ScheduleDraft back = ScheduleDraft::FromItem(ScheduleItem(once, ""));
+  EXPECT_EQ(back.ToFields(ClockStyle::Hours12, ""), once);
   EXPECT_EQ(back.note, draft.note);
 
   draft.kind = ScheduleKind::Daily;
   draft.days = {true, false, false, true, false, false, false};
   EXPECT_EQ(draft.Summary(ClockStyle::Hours12, ""), "Every Mon, Thu at 12:00 AM");
-  EXPECT_EQ(ScheduleDraft::FromItem(draft.ToItem(ClockStyle::Hours24, ""), "").days, draft.days);
+  EXPECT_EQ(ScheduleDraft::FromItem(ScheduleItem(draft.ToFields(ClockStyle::Hours24, ""), "")).days,
+            draft.days);
   draft.kind = ScheduleKind::Weekly;
   draft.weekday = 3;
-  EXPECT_EQ(draft.ToItem(ClockStyle::Hours24, "").weekday, "Thursday");
+  EXPECT_EQ(draft.ToFields(ClockStyle::Hours24, "").weekday, "Thursday");
 }
 
 TEST(Draft, AnEventIsTakenAtItsStartOnTheLocalClock) {
@@ -89,7 +90,7 @@ TEST(Draft, AnEventIsTakenAtItsStartOnTheLocalClock) {
   event[EventField::WebAddress] = "www.x.example";
   const ScheduleDraft draft = ScheduleDraft::ForEvent(event, clock);
   EXPECT_EQ(draft.StationShown(), "Station To Schedule: Radio (Event)");
-  const ScheduleItem item = draft.ToItem(ClockStyle::Hours24, "");
+  const ScheduleFields item = draft.ToFields(ClockStyle::Hours24, "");
   EXPECT_EQ(item.name, "Finale|||Z|||Radio>>>>>>www.x.example");
   EXPECT_EQ(item.kind + " " + item.date + " " + item.time, "once 8/17/2000 0:30");
   EXPECT_EQ(item.action, "NS77");
@@ -135,7 +136,7 @@ TEST_F(WithStations, ThePlayButtonsTellTheLinksApart) {
   const auto captions = [&] {
     std::string all;
     for (const PlayChoice& play :
-         NotificationFor({.name = "x", .action = "NS77"}, source_, extra_, "").plays) {
+         NotificationFor(ScheduleItem({.name = "x", .action = "NS77"}, ""), source_, extra_).plays) {
       all += play.caption + " " + play.detail + "\n";
     }
     return all;
@@ -148,11 +149,11 @@ TEST_F(WithStations, ThePlayButtonsTellTheLinksApart) {
 
 TEST_F(WithStations, ANotificationOffersTheStationsLinksThenExtraOnesThreeAtMost) {
   ASSERT_TRUE(extra_.Set(77, {{"mine", "mhttp://mine"}, {"more", "mhttp://more"}}));
-  ScheduleItem item;
+  ScheduleFields item;
   item.name = "Finale|||Z|||Radio>>>>>>www.x.example";
   item.kind = "live";
   item.action = "WS77";
-  const Notification shown = NotificationFor(item, source_, extra_, "");
+  const Notification shown = NotificationFor(ScheduleItem(item, ""), source_, extra_);
   EXPECT_EQ(shown.eventName, "Finale on Radio");
   EXPECT_EQ(shown.webSite, "http://www.x.example");
   EXPECT_TRUE(shown.opensWebSite);
@@ -165,8 +166,8 @@ TEST_F(WithStations, ANotificationOffersTheStationsLinksThenExtraOnesThreeAtMost
 
   item.action = "NP9";  // a personal station that is gone
   item.name = "Radio";
-  EXPECT_TRUE(NotificationFor(item, source_, extra_, "").plays.empty());
-  EXPECT_EQ(NotificationFor(item, source_, extra_, "").webSite, "");
+  EXPECT_TRUE(NotificationFor(ScheduleItem(item, ""), source_, extra_).plays.empty());
+  EXPECT_EQ(NotificationFor(ScheduleItem(item, ""), source_, extra_).webSite, "");
 }
 
 TEST_F(WithStations, TheDiaryKnowsWhatComesAndWhatBegins) {
@@ -211,7 +212,7 @@ TEST(ScheduleListRows, SoonestFirstWithKeysThatLeadBack) {
   files.MakeFolder("data");
   DataFolder data(files, "data", '/');
   ScheduleStore store(data, "");
-  ScheduleCalendar calendar(store, "");
+  ScheduleCalendar calendar(store);
   const DateTime now{{2000, 8, 16}, {20, 0, 0}};  // Wednesday
   store.SetItem(0, {.name = "gone", .date = "8/15/2000", .time = "1:00 PM", .kind = "once", .action = "N"});
   store.SetItem(

@@ -115,7 +115,7 @@ class Simulation : public testing::TestWithParam<int> {
       Truth truth;
       truth.minuteOfDay = below(24 * 60);
       const TimeOfDay time{truth.minuteOfDay / 60, truth.minuteOfDay % 60, 0};
-      ScheduleItem item;
+      ScheduleFields item;
       item.name = "item " + std::to_string(i);
       item.time = FormatTime(time, below(2) == 0 ? ClockStyle::Hours12 : ClockStyle::Hours24);
       if (const int kind = below(4); kind == 0) {
@@ -166,7 +166,7 @@ TEST_P(Simulation, TellsEveryItemOnceInItsMinute) {
   DataFolder data(files, "", '/');
   ScheduleStore store(data, "");
   MakeItems(store, 4000u + static_cast<unsigned>(GetParam()));
-  ScheduleCalendar calendar(store, "");
+  ScheduleCalendar calendar(store);
   SimulatedClock clock({{2001, 1, 1}, {12, 0, 17}}, Zone(GetParam()));
   Recorder recorder;
   ScheduleTimer timer(calendar, clock, recorder, recorder);

@@ -38,7 +38,7 @@ class ScheduleFile : public testing::Test {
 TEST_F(ScheduleFile, FieldsStandInTheLinesOwnOrderAndComeBackByteForByte) {
   const std::string line = "Jazz Hour\tNS1204\t8/17/2000\t8:05 PM\tThursday\tonce\tnote\twith a tab\r\n";
   Load(line);
-  const ScheduleItem& item = store_.Item(0);
+  const ScheduleFields& item = store_.Item(0).fields;
   EXPECT_EQ(item.name, "Jazz Hour");
   EXPECT_EQ(item.action, "NS1204");
   EXPECT_EQ(item.date, "8/17/2000");
@@ -47,15 +47,21 @@ TEST_F(ScheduleFile, FieldsStandInTheLinesOwnOrderAndComeBackByteForByte) {
   EXPECT_EQ(item.kind, "once");
   EXPECT_EQ(item.note, "note\twith a tab");
   EXPECT_EQ(Saved(), line);
+  const std::string unreadable = "Show>>>>>>\t?\tsoon\tnever\tthursdays\tWEEKLY\t\v\r\n";
+  Load(unreadable);
+  EXPECT_EQ(store_.Item(0).kind, ScheduleKind::Weekly);
+  EXPECT_FALSE(store_.Item(0).time || store_.Item(0).date || store_.Item(0).weekday);
+  EXPECT_EQ(Saved(), unreadable);
 }
 
 TEST_F(ScheduleFile, WhatTheTableDoesNotTakeOverGoesAside) {
   Load("no tabs at all\r\nShort\tN\t8/14/2000\r\n\r\nBare\tN\t\r\nFull\tN\t\t1:00 PM\t\tdaily\t\n");
   EXPECT_TRUE(store_.Item(0).Free());
-  EXPECT_EQ(store_.Item(1), (ScheduleItem{.name = "Short", .action = "N"}));  // no tab stands behind the date
+  EXPECT_EQ(store_.Item(1).fields,
+            (ScheduleFields{.name = "Short", .action = "N"}));  // no tab stands behind the date
   EXPECT_TRUE(store_.Item(2).Free());
-  EXPECT_EQ(store_.Item(3).name, "Bare");
-  EXPECT_EQ(store_.Item(4).name, "Full");
+  EXPECT_EQ(store_.Item(3).fields.name, "Bare");
+  EXPECT_EQ(store_.Item(4).fields.name, "Full");
   EXPECT_EQ(store_.FirstFreeSlot(), 0u);
   EXPECT_FALSE(Aside());
   const std::string saved = "Short\tN\t\t\t\t\t\r\nBare\tN\t\t\t\t\t\r\nFull\tN\t\t1:00 PM\t\tdaily\t\r\n";
@@ -157,13 +163,13 @@ TEST_F(ScheduleFile, TheTableGrowsWhenALineNeedsItAndFreeSlotsAreUsedFirst) {
 }
 
 TEST_F(ScheduleFile, WhatTheUserTypedCannotBreakTheLine) {
-  ScheduleItem item;
+  ScheduleFields item;
   item.name = "two\r\nlines\tand a tab";
   item.note = "first\r\nsecond";
   store_.SetItem(0, item);
   Saved();
   store_.LoadSchedule(kToday);
-  EXPECT_EQ(store_.Item(0).name, "two  lines and a tab");
+  EXPECT_EQ(store_.Item(0).fields.name, "two  lines and a tab");
   EXPECT_TRUE(store_.Item(1).Free());
 }
 
@@ -177,15 +183,16 @@ TEST_F(ScheduleFile, AChangeIsRefusedWhileTheFileCannotBeReadOrWrittenAndKeepsAl
   EXPECT_TRUE(store_.Item(0).Free());
   files_.Unlock("data/Sched.snr");
   EXPECT_TRUE(store_.SetItem(0, {.name = "new"})) << "read again before the first change";
-  EXPECT_EQ(store_.Item(0).name, "mine");
-  EXPECT_EQ(store_.Item(1).name, "new");
+  EXPECT_EQ(store_.Item(0).fields.name, "mine");
+  EXPECT_EQ(store_.Item(1).fields.name, "new");
   const std::string both = mine + "new\t\t\t\t\t\t\r\n";
   EXPECT_EQ(files_.Get("data/Sched.snr"), both);
 
   files_.SetSpaceLeft(5);
   EXPECT_FALSE(store_.FreeSlot(0));
   EXPECT_FALSE(store_.SetItem(1, {.name = "newer"}));
-  EXPECT_EQ(store_.Item(0).name + store_.Item(1).name, "minenew") << "what is shown is what is on disk";
+  EXPECT_EQ(store_.Item(0).fields.name + store_.Item(1).fields.name, "minenew")
+      << "what is shown is what is on disk";
   EXPECT_EQ(files_.Get("data/Sched.snr"), both);
 }
 
@@ -201,7 +208,7 @@ TEST_F(ScheduleFile, TwoSessionsOnOneFolderKeepTheItemsOfBoth) {
   EXPECT_TRUE(store_.SetItem(1, {.name = "kept"}));
   std::string names;
   other.LoadSchedule(kToday);
-  for (std::size_t slot = 0; slot < 6; ++slot) names += other.Item(slot).name + " ";
+  for (std::size_t slot = 0; slot < 6; ++slot) names += other.Item(slot).fields.name + " ";
   EXPECT_EQ(names, "theirs changed mine kept   ");
 }
 
@@ -218,11 +225,11 @@ TEST(ScheduleKinds, DayFlagsAreReadAndWrittenWithTheirOwnThursday) {
 }
 
 TEST(ScheduleNames, SixMarksSeparateTheAddress) {
-  EXPECT_EQ(WebSiteOf("A>>>>>>x.example"), "http://x.example");
-  EXPECT_EQ(WebSiteOf("A>>>>>>https://x.example"), "https://x.example");
-  EXPECT_EQ(WebSiteOf("A>>>>>x.example"), "");
-  EXPECT_EQ(WebSiteOf("A>>>>>B>>>>>>x.example"), "http://x.example");
-  EXPECT_EQ(WebSiteOf("A>>>>>>"), "");
+  EXPECT_EQ(SplitItemName("A>>>>>>x.example").Address(), "http://x.example");
+  EXPECT_EQ(SplitItemName("A>>>>>>https://x.example").Address(), "https://x.example");
+  EXPECT_EQ(SplitItemName("A>>>>>x.example").Address(), "");
+  EXPECT_EQ(SplitItemName("A>>>>>B>>>>>>x.example").Address(), "http://x.example");
+  EXPECT_EQ(SplitItemName("A>>>>>>").Address(), "");
 }
 
 TEST(ScheduleNames, EventsSplitAtTheFirstOfEachMark) {
@@ -235,23 +242,23 @@ TEST(ScheduleNames, EventsSplitAtTheFirstOfEachMark) {
 
 TEST(ScheduleTexts, NoticesAndListTexts) {
   const auto item = [](std::string kind) {
-    ScheduleItem made;
+    ScheduleFields made;
     made.date = "8/14/2000";
     made.time = "20:05";
     made.weekday = "Thursday";
     made.kind = std::move(kind);
-    return made;
+    return ScheduleItem(made, "");
   };
-  EXPECT_EQ(NoticeText(item("once"), ""), "This is your August 14  8:05 PM notice for");
-  EXPECT_EQ(NoticeText(item("daily|Mon=-1|"), ""), "This is your daily 8:05 PM notice for");
-  EXPECT_EQ(NoticeText(item("weekly"), ""), "This is your weekly Thursday 8:05 PM notice for");
-  EXPECT_EQ(NoticeText(item("live"), ""), "This is your event notice for");
+  EXPECT_EQ(NoticeText(item("once")), "This is your August 14  8:05 PM notice for");
+  EXPECT_EQ(NoticeText(item("daily|Mon=-1|")), "This is your daily 8:05 PM notice for");
+  EXPECT_EQ(NoticeText(item("weekly")), "This is your weekly Thursday 8:05 PM notice for");
+  EXPECT_EQ(NoticeText(item("live")), "This is your event notice for");
   EXPECT_EQ(ScheduleShown(item("daily")), "every day at 20:05");
   EXPECT_EQ(ScheduleShown(item("daily|Mon=-1|Tue=0|Thr=-1|")), "every Mon, Thr at 20:05");
   EXPECT_EQ(ScheduleShown(item("weekly")), "every Thursday at 20:05");
   EXPECT_EQ(ScheduleShown(item("once")), "at 20:05 on 8/14/2000");
-  EXPECT_EQ(ActionShown("Wx"), "Go to the website ");
-  EXPECT_EQ(ActionShown(""), "Notify me ");
+  EXPECT_EQ(ActionShown(ScheduleItem({.action = "Wx"}, "")), "Go to the website ");
+  EXPECT_EQ(ActionShown(ScheduleItem()), "Notify me ");
 }
 
 TEST(PersonalShowList, AddsOnceRemovesByTheIdentifyingPartAndTellsTheUser) {
@@ -302,7 +309,7 @@ TEST(ScheduleLists, AShowHasWhatItsSoonestItemSaysOrItsNextBroadcast) {
   store.SetItem(1, {.name = "Evening Show", .time = "8:00 PM", .weekday = "Friday", .kind = "weekly"});
   store.SetItem(2, {.name = "Gone", .date = "8/1/2000", .time = "8:00 PM", .kind = "once", .action = "W"});
   store.SetItem(3, {.name = "Live Show|||Z|||Radio", .kind = "live"});
-  ScheduleCalendar calendar(store, "");
+  ScheduleCalendar calendar(store);
   const auto broadcast = [](std::string_view show) {
     const std::optional<DateTime> tomorrow{{{2000, 8, 17}, {7, 15, 0}}};
     return show == "Gone" || show == "Live Show" ? tomorrow : std::nullopt;

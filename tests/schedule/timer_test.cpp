@@ -55,7 +55,7 @@ class Timer : public testing::Test {
   FakeFiles files_;
   DataFolder data_{files_, "", '/'};
   ScheduleStore store_{data_, ""};
-  ScheduleCalendar calendar_{store_, ""};
+  ScheduleCalendar calendar_{store_};
   SimulatedClock clock_{{{2000, 8, 16}, {10, 0, 30}},
                         [](std::int64_t) { return std::int64_t{0}; }};  // Wednesday
   FakeMessagePost messages_;

@@ -15,6 +15,6 @@ int main(int count, char** arguments) {
   DataFolder data(files, arguments[1], '/');
   ScheduleStore store(data, "");
   store.LoadSchedule(today->date);
-  const std::string calendar = ExportCalendar(store, today->date, {today->date, {12, 0, 0}}, "");
+  const std::string calendar = ExportCalendar(store, today->date, {today->date, {12, 0, 0}});
   return std::fwrite(calendar.data(), 1, calendar.size(), stdout) == calendar.size() ? 0 : 1;
 }

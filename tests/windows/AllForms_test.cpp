@@ -83,7 +83,7 @@ struct EmptyProgram {
   PlayerLaunch player{source, recent, players, pages, words};
   StationScan scan{settings, clock, player, source, words};
   ScheduleStore store{folder, "M/d/yyyy"};
-  ScheduleCalendar calendar{store, "M/d/yyyy"};
+  ScheduleCalendar calendar{store};
   PersonalShows shows{folder, messages, words};
   StationPicker picker{stations, personal, recent, settings, words};
   ScheduleServices schedule{store, calendar, shows, picker, clock, outside.files, shell, messages, help};
