@@ -1,8 +1,8 @@
 #include "app/frmSplash.h"
 
 #include "forms/ControlIds.h"
-#include "forms/Painter.h"
-#include "forms/ProgressScale.h"
+#include "forms/controls/ProgressScale.h"
+#include "forms/paint/Painter.h"
 #include "resources/texts/app.h"
 #include "settings/AppState.h"
 #include "settings/Strings.h"

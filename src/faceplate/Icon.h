@@ -1,4 +1,4 @@
-// The names of the icons. How each one is drawn stands in forms/portable/Icons.
+// The names of the icons. How each one is drawn stands in forms/paint/Icons.
 #pragma once
 
 namespace sonaro {

@@ -5,7 +5,7 @@
 
 #include <vector>
 
-#include "forms/portable/Arrange.h"
+#include "forms/Arrange.h"
 
 namespace sonaro {
 

@@ -7,7 +7,7 @@
 
 #include <span>
 
-#include "forms/FormControl.h"
+#include "forms/controls/FormControl.h"
 
 namespace sonaro {
 

@@ -8,8 +8,8 @@
 #include "forms/FormImpl.h"
 #include "forms/HighContrast.h"
 #include "forms/MessageLoop.h"
-#include "forms/Painter.h"
 #include "forms/WideText.h"
+#include "forms/paint/Painter.h"
 #include "settings/Strings.h"
 
 namespace sonaro {

@@ -7,8 +7,8 @@
 #include "forms/Dpi.h"
 #include "forms/FormImpl.h"
 #include "forms/Guard.h"
-#include "forms/ToolTips.h"
 #include "forms/WideText.h"
+#include "forms/controls/ToolTips.h"
 
 namespace sonaro {
 namespace {

@@ -1,5 +1,5 @@
 // A window as data: its size, outline, controls, other layouts and keyboard shortcuts. Tables of these rows
-// stand in frmXxx_tables.cpp; Form builds the window from them and forms/portable/Arrange places the
+// stand in frmXxx_tables.cpp; Form builds the window from them and forms/Arrange places the
 // controls. All measures are pixels of a 96-dpi screen. Nothing here knows the platform.
 #pragma once
 

@@ -14,12 +14,12 @@
 #include <string>
 #include <vector>
 
-#include "forms/DrawnButton.h"
+#include "forms/Arrange.h"
 #include "forms/Form.h"
-#include "forms/Painter.h"
-#include "forms/ScrollBar.h"
-#include "forms/portable/Arrange.h"
-#include "forms/portable/NeedleSlide.h"
+#include "forms/controls/ScrollBar.h"
+#include "forms/paint/DrawnButton.h"
+#include "forms/paint/NeedleSlide.h"
+#include "forms/paint/Painter.h"
 
 namespace sonaro {
 

@@ -3,8 +3,8 @@
 
 #include "forms/Dpi.h"
 #include "forms/FormImpl.h"
-#include "forms/TabDial.h"
 #include "forms/WideText.h"
+#include "forms/controls/TabDial.h"
 
 namespace sonaro {
 namespace {

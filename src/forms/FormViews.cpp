@@ -1,9 +1,9 @@
 // The controls with a class of their own: which kind is made by which class, and the way to them.
 #include "forms/FormImpl.h"
-#include "forms/ListView.h"
-#include "forms/ProgressScale.h"
-#include "forms/RatingPicture.h"
-#include "forms/TreeView.h"
+#include "forms/controls/ListView.h"
+#include "forms/controls/ProgressScale.h"
+#include "forms/controls/RatingPicture.h"
+#include "forms/controls/TreeView.h"
 
 namespace sonaro {
 

@@ -6,8 +6,8 @@
 #include "forms/FormImpl.h"
 #include "forms/Guard.h"
 #include "forms/HighContrast.h"
-#include "forms/ToolTips.h"
 #include "forms/WideText.h"
+#include "forms/controls/ToolTips.h"
 
 namespace sonaro {
 namespace {

@@ -4,7 +4,7 @@
 
 #include "forms/ControlIds.h"
 #include "forms/Form.h"
-#include "forms/TreeView.h"
+#include "forms/controls/TreeView.h"
 #include "settings/FormatCount.h"
 
 namespace sonaro {

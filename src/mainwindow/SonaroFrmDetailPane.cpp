@@ -2,8 +2,8 @@
 
 #include "forms/ControlIds.h"
 #include "forms/Form.h"
-#include "forms/Painter.h"
-#include "forms/RatingPicture.h"
+#include "forms/controls/RatingPicture.h"
+#include "forms/paint/Painter.h"
 #include "mainwindow/SonaroFrm_panes.h"
 #include "mainwindow/StationDetailBuilder.h"
 

@@ -9,7 +9,7 @@
 #include "forms/ControlIds.h"
 #include "forms/Form.h"
 #include "forms/Guard.h"
-#include "forms/ListView.h"
+#include "forms/controls/ListView.h"
 #include "stations/FavoriteGroups.h"
 
 namespace sonaro {

@@ -2,7 +2,7 @@
 // SonaroFrm.
 #pragma once
 
-#include "forms/ListView.h"
+#include "forms/controls/ListView.h"
 
 namespace sonaro {
 

@@ -5,7 +5,7 @@
 #include "directory/StatList.h"
 #include "forms/ControlIds.h"
 #include "forms/Form.h"
-#include "forms/ProgressScale.h"
+#include "forms/controls/ProgressScale.h"
 #include "mainwindow/MainModels.h"
 #include "mainwindow/SonaroFrm_panes.h"
 #include "resources/texts/mainwindow.h"

@@ -5,7 +5,7 @@
 #include <optional>
 #include <vector>
 
-#include "forms/ListView.h"
+#include "forms/controls/ListView.h"
 #include "mainwindow/MainWindowCalls.h"
 #include "settings/AppState.h"
 

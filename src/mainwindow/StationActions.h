@@ -6,7 +6,7 @@
 #include <cstddef>
 #include <optional>
 
-#include "forms/portable/MenuText.h"
+#include "forms/MenuText.h"
 #include "mainwindow/Rankings.h"
 #include "mainwindow/StationDetailBuilder.h"
 

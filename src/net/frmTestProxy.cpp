@@ -4,7 +4,7 @@
 
 #include "forms/ControlIds.h"
 #include "forms/DialogRows.h"
-#include "forms/ProgressScale.h"
+#include "forms/controls/ProgressScale.h"
 #include "net/ServiceRequest.h"
 #include "net/ServiceUrlTable.h"
 #include "platform/Clock.h"

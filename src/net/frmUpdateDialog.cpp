@@ -2,7 +2,7 @@
 
 #include "forms/ControlIds.h"
 #include "forms/DialogRows.h"
-#include "forms/ProgressScale.h"
+#include "forms/controls/ProgressScale.h"
 #include "net/UpdateInstall.h"
 #include "net/UpdateText.h"
 #include "net/frmInetUpdate.h"

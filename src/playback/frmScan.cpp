@@ -3,8 +3,8 @@
 #include <algorithm>
 
 #include "forms/ControlIds.h"
-#include "forms/ProgressScale.h"
-#include "forms/portable/MenuText.h"
+#include "forms/MenuText.h"
+#include "forms/controls/ProgressScale.h"
 #include "playback/frmScanTime.h"
 #include "resources/texts/playback.h"
 #include "settings/HelpPages.h"

@@ -7,7 +7,7 @@
 #include <vector>
 
 #include "forms/Form.h"
-#include "forms/ListView.h"
+#include "forms/controls/ListView.h"
 #include "playback/StationScan.h"
 
 namespace sonaro {

@@ -5,7 +5,7 @@
 
 #include "forms/ControlIds.h"
 #include "forms/Form.h"
-#include "forms/ListView.h"
+#include "forms/controls/ListView.h"
 #include "schedule/ScheduleList.h"
 #include "schedule/ScheduleServices.h"
 

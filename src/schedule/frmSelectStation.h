@@ -6,7 +6,7 @@
 #include <vector>
 
 #include "forms/Form.h"
-#include "forms/ListView.h"
+#include "forms/controls/ListView.h"
 #include "schedule/StationPicker.h"
 
 namespace sonaro {

@@ -6,8 +6,8 @@
 #include <iterator>
 
 #include "forms/ControlIds.h"
+#include "forms/MenuText.h"
 #include "forms/WideText.h"
-#include "forms/portable/MenuText.h"
 #include "resources/icon.h"
 #include "resources/texts/tray.h"
 

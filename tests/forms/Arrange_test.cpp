@@ -1,4 +1,4 @@
-#include "forms/portable/Arrange.h"
+#include "forms/Arrange.h"
 
 #include <gtest/gtest.h>
 

@@ -1,4 +1,4 @@
-#include "forms/portable/ButtonFace.h"
+#include "forms/paint/ButtonFace.h"
 
 #include <gtest/gtest.h>
 

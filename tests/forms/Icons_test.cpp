@@ -1,11 +1,11 @@
-#include "forms/portable/Icons.h"
+#include "forms/paint/Icons.h"
 
 #include <gtest/gtest.h>
 
 #include <cmath>
 #include <numbers>
 
-#include "forms/portable/RatingRing.h"
+#include "forms/paint/RatingRing.h"
 
 namespace sonaro {
 namespace {

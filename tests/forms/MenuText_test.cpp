@@ -1,4 +1,4 @@
-#include "forms/portable/MenuText.h"
+#include "forms/MenuText.h"
 
 #include <gtest/gtest.h>
 

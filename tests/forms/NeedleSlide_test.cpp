@@ -1,4 +1,4 @@
-#include "forms/portable/NeedleSlide.h"
+#include "forms/paint/NeedleSlide.h"
 
 #include <gtest/gtest.h>
 

@@ -5,7 +5,7 @@
 
 #include "forms/Dpi.h"
 #include "forms/FormImpl.h"
-#include "forms/Painter.h"
+#include "forms/paint/Painter.h"
 
 namespace sonaro {
 namespace {

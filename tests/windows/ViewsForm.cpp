@@ -2,7 +2,7 @@
 
 #include <array>
 
-#include "forms/TreeView.h"
+#include "forms/controls/TreeView.h"
 
 namespace sonaro {
 

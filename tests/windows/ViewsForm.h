@@ -5,7 +5,7 @@
 #include <vector>
 
 #include "forms/Form.h"
-#include "forms/ListView.h"
+#include "forms/controls/ListView.h"
 
 namespace sonaro {
 

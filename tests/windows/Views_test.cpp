@@ -4,9 +4,9 @@
 
 #include <array>
 
-#include "forms/Painter.h"
-#include "forms/TreeView.h"
 #include "forms/WideText.h"
+#include "forms/controls/TreeView.h"
+#include "forms/paint/Painter.h"
 #include "windows/FormContextForTests.h"
 #include "windows/Pump.h"
 #include "windows/ViewsForm.h"

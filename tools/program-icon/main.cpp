@@ -11,7 +11,7 @@
 #include <string>
 
 #include "faceplate/FaceplateColors.h"
-#include "forms/portable/Icons.h"
+#include "forms/paint/Icons.h"
 
 namespace sonaro {
 namespace {

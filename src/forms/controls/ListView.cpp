@@ -1,0 +1,352 @@
+#include "forms/controls/ListView.h"
+
+#include <windowsx.h>
+
+#include <algorithm>
+#include <utility>
+
+#include "base/Text.h"
+#include "forms/Guard.h"
+#include "forms/WideText.h"
+#include "forms/paint/Painter.h"
+
+namespace sonaro {
+
+namespace {
+
+constexpr DWORD kListStyle =
+    LVS_REPORT | LVS_OWNERDATA | LVS_SINGLESEL | LVS_SHOWSELALWAYS | LVS_NOCOLUMNHEADER;
+
+}  // namespace
+
+ListView::ListView(HWND form, int id, FormServices& services)
+    : ScrolledView(form, id, services, WC_LISTVIEWW, kListStyle) {
+  ListView_SetExtendedListViewStyle(Window(), LVS_EX_DOUBLEBUFFER | LVS_EX_FULLROWSELECT);
+  tip_ = std::make_unique<CellTip>(Window());
+  Attach();
+  UseRowHeight();
+}
+
+ListView::~ListView() {
+  Detach();
+  if (rowHeight_ != nullptr) ImageList_Destroy(rowHeight_);
+}
+
+void ListView::SetColumns(std::vector<Column> columns) {
+  while (ListView_DeleteColumn(Window(), 0)) {
+  }
+  columns_ = std::move(columns);
+  for (std::size_t i = 0; i < columns_.size(); ++i) {
+    std::wstring name = Widen(columns_[i].name);
+    LVCOLUMNW column{};
+    column.mask = LVCF_TEXT | LVCF_WIDTH | LVCF_SUBITEM;
+    column.pszText = name.data();
+    column.cx = 10;
+    column.iSubItem = static_cast<int>(i);
+    SendMessageW(Window(), LVM_INSERTCOLUMNW, i, reinterpret_cast<LPARAM>(&column));
+  }
+  PlaceColumns();
+}
+
+void ListView::SetModel(const ListModel* model, bool withSymbols) {
+  model_ = model;
+  withSymbols_ = withSymbols;
+  RowsChanged();
+}
+
+void ListView::SetEmptyText(std::string heading, std::string help) {
+  emptyHeading_ = std::move(heading);
+  emptyHelp_ = std::move(help);
+  RepaintWithGround();
+}
+
+void ListView::SetRowHeight(int design) {
+  designRow_ = design;
+  UseRowHeight();
+}
+
+// A report list takes its row height from its small image list.
+void ListView::UseRowHeight() {
+  HIMAGELIST fresh = ImageList_Create(1, std::max(1, Theme().Px(designRow_) - 1), ILC_COLOR, 1, 1);
+  ListView_SetImageList(Window(), fresh, LVSIL_SMALL);
+  if (rowHeight_ != nullptr) ImageList_Destroy(rowHeight_);
+  rowHeight_ = fresh;
+}
+
+void ListView::RowsChanged() {
+  SendMessageW(Window(), WM_SETREDRAW, FALSE, 0);
+  hover_ = -1;
+  tip_->Clear();
+  ListView_SetItemCountEx(Window(), model_ != nullptr ? model_->RowCount() : 0, LVSICF_NOSCROLL);
+  SendMessageW(Window(), WM_SETREDRAW, TRUE, 0);
+  RepaintWithGround();
+  SyncScrollBar();
+}
+
+int ListView::FocusedRow() const { return ListView_GetNextItem(Window(), -1, LVNI_FOCUSED); }
+
+int ListView::Selected() const {
+  const int focused = FocusedRow();  // nearly always the one, and found at once
+  if (focused >= 0 && (ListView_GetItemState(Window(), focused, LVIS_SELECTED) & LVIS_SELECTED) != 0)
+    return focused;
+  return ListView_GetNextItem(Window(), -1, LVNI_SELECTED);
+}
+
+// Some systems look at every row of the list when a selected one gives way to another or all are deselected;
+// with 40,000 rows that is felt. Taking the mark away from the one row first spares it.
+void ListView::Deselect(int row) {
+  const bool wasQuiet = std::exchange(quiet_, true);
+  if (row >= 0) ListView_SetItemState(Window(), row, 0, LVIS_SELECTED);
+  quiet_ = wasQuiet;
+}
+
+void ListView::Select(int row) {
+  quiet_ = true;
+  const int before = Selected();
+  if (row != before) Deselect(before);
+  if (row >= 0) {
+    ListView_SetItemState(Window(), row, LVIS_SELECTED | LVIS_FOCUSED, LVIS_SELECTED | LVIS_FOCUSED);
+    ListView_EnsureVisible(Window(), row, FALSE);
+  }
+  quiet_ = false;
+  SyncScrollBar();
+}
+
+void ListView::SelectNone() {
+  Select(-1);
+  if (ListView_GetItemCount(Window()) == 0) return;
+  quiet_ = true;
+  ListView_SetItemState(Window(), 0, LVIS_FOCUSED, LVIS_FOCUSED);
+  ListView_EnsureVisible(Window(), 0, FALSE);
+  quiet_ = false;
+  SyncScrollBar();
+}
+
+void ListView::RepaintRows() { Repaint(); }
+
+int ListView::RowAt(POINT screen) const {
+  ScreenToClient(Window(), &screen);
+  if (screen.x < 0 || screen.x >= Width()) return -1;
+  LVHITTESTINFO hit{};
+  hit.pt = {1, screen.y};
+  return ListView_HitTest(Window(), &hit);
+}
+
+RECT ListView::RowBox(int row) const {
+  RECT box = ItemBox(row);
+  MapWindowPoints(Window(), GetParent(Window()), reinterpret_cast<POINT*>(&box), 2);
+  return box;
+}
+
+RECT ListView::ItemBox(int row) const {
+  RECT box{};
+  ListView_GetItemRect(Window(), row, &box, LVIR_BOUNDS);
+  box.left = 0;
+  box.right = Width();
+  return box;
+}
+
+void ListView::MoveTo(const RECT& place) {
+  ScrolledView::MoveTo(place);
+  PlaceColumns();
+}
+
+void ListView::ThemeChanged() {
+  UseRowHeight();
+  PlaceColumns();
+  ScrolledView::ThemeChanged();
+}
+
+void ListView::PlaceColumns() {
+  edges_.clear();
+  const int bar = BarWidth();
+  int design = 0;
+  int left = 0;
+  for (std::size_t i = 0; i < columns_.size(); ++i) {
+    design += columns_[i].width;
+    const bool last = i + 1 == columns_.size();
+    const int right = last ? std::max(left, Width() - bar) : Theme().Px(design);
+    ListView_SetColumnWidth(Window(), static_cast<int>(i), right - left);
+    edges_.push_back(right);
+    left = right;
+  }
+}
+
+void ListView::SyncScrollBar() {
+  const bool had = HasBar();
+  const int total = model_ != nullptr ? model_->RowCount() : 0;
+  SetRange({total, std::max(1, ListView_GetCountPerPage(Window())), ListView_GetTopIndex(Window())});
+  if (HasBar() != had) {
+    PlaceColumns();
+    RepaintWithGround();
+  }
+}
+
+void ListView::ScrollTo(int first) {
+  const RECT row = ItemBox(0);
+  ListView_Scroll(Window(), 0, (first - ListView_GetTopIndex(Window())) * (row.bottom - row.top));
+  SyncScrollBar();
+}
+
+LRESULT ListView::Handle(UINT message, WPARAM wParam, LPARAM lParam) {
+  if (message == WM_MOUSEMOVE) ShowTipAt(lParam);  // before the tip hears of it
+  tip_->Relay(message, wParam, lParam);
+  switch (message) {
+    case WM_ERASEBKGND:
+      PaintBelowRows(reinterpret_cast<HDC>(wParam));
+      return 1;
+    case WM_GETDLGCODE:
+      return DialogCode(wParam, lParam, Selected() >= 0);
+    case WM_KEYDOWN:
+      SelectByKey(wParam, lParam);
+      return 0;
+    case WM_LBUTTONDOWN: {
+      const int row = RowUnder(lParam);
+      if (row < 0) return FocusOnly();
+      if (const int before = Selected(); row != before) Deselect(before);
+      break;
+    }
+    case WM_RBUTTONDOWN:
+      if (RowUnder(lParam) < 0) return FocusOnly();
+      break;
+    case WM_MOUSEMOVE:
+      SetHover(RowUnder(lParam));
+      break;
+    case WM_MOUSELEAVE:
+      SetHover(-1);
+      break;
+    case WM_SETFOCUS:
+    case WM_KILLFOCUS:
+      RepaintWithGround();  // the frame of an empty list stands on its ground
+      break;
+    case WM_CONTEXTMENU:
+      ShowContextMenu({GET_X_LPARAM(lParam), GET_Y_LPARAM(lParam)});
+      return 0;
+    default:
+      break;
+  }
+  const LRESULT result = PassOn(message, wParam, lParam);
+  // Whatever scrolled, by wheel, key or program, paints.
+  if (message == WM_PAINT || message == WM_MOUSEWHEEL) SyncScrollBar();
+  if (message == WM_MOUSEWHEEL) {  // another row came below the pointer
+    tip_->Clear();
+    SetHover(RowAt({GET_X_LPARAM(lParam), GET_Y_LPARAM(lParam)}));
+  }
+  return result;
+}
+
+int ListView::RowUnder(LPARAM pointer) const {
+  POINT at = {GET_X_LPARAM(pointer), GET_Y_LPARAM(pointer)};
+  ClientToScreen(Window(), &at);
+  return RowAt(at);
+}
+
+// A click below the rows: the system would take the selection away, and the keys would act on nothing.
+LRESULT ListView::FocusOnly() {
+  SetFocus(Window());
+  return 0;
+}
+
+// The keys are the system's; only its way of moving the selection is shortened.
+void ListView::SelectByKey(WPARAM key, LPARAM lParam) {
+  const bool moves = key >= VK_PRIOR && key <= VK_DOWN;
+  const int before = Selected();
+  byKey_ = true;
+  if (moves) Deselect(before);
+  PassOn(WM_KEYDOWN, key, lParam);
+  byKey_ = false;
+  if (moves && before >= 0 && Selected() < 0) Select(before);  // already at the end: stays where it was
+  SyncScrollBar();
+}
+
+// The whole row: what the system takes for one may begin a little further right. -1: all rows.
+void ListView::RepaintRow(int row) {
+  const RECT box = ItemBox(row);
+  Repaint(row >= 0 ? &box : nullptr);
+}
+
+void ListView::SetHover(int row) {
+  if (row == hover_) return;
+  const int before = hover_;
+  hover_ = row;
+  for (int changed : {before, row}) {
+    if (changed >= 0) RepaintRow(changed);
+  }
+  if (row >= 0) {
+    TrackLeave();
+  }
+}
+
+void ListView::ShowContextMenu(POINT screen) {
+  int row = Selected();
+  if (screen.x == -1 && screen.y == -1) {  // by keyboard: at the selected row
+    const RECT box = row >= 0 ? ItemBox(row) : RECT{0, 0, 0, Theme().Px(designRow_)};
+    screen = {box.left + Theme().Px(28), box.bottom};
+    ClientToScreen(Window(), &screen);
+  } else {
+    row = RowAt(screen);
+  }
+  Raise({.kind = FormEvent::Kind::ContextMenu, .row = row, .point = screen});
+}
+
+bool ListView::OnNotify(NMHDR& notice, LRESULT& result) {
+  result = 0;
+  switch (notice.code) {
+    case NM_CUSTOMDRAW:
+      result = CustomDraw(reinterpret_cast<const NMLVCUSTOMDRAW&>(notice));
+      return true;
+    case LVN_GETDISPINFOW:
+      OnGetDispInfo(reinterpret_cast<NMLVDISPINFOW&>(notice));
+      return true;
+    case LVN_ODFINDITEMW:
+      result = FindTyped(reinterpret_cast<const NMLVFINDITEMW&>(notice));
+      return true;
+    case LVN_ITEMCHANGED: {
+      const auto& change = reinterpret_cast<const NMLISTVIEW&>(notice);
+      RepaintRow(change.iItem);
+      if (change.iItem > 0) RepaintRow(0);  // it may have had the frame
+      const bool selected =
+          (change.uNewState & LVIS_SELECTED) != 0 && (change.uOldState & LVIS_SELECTED) == 0;
+      if (selected && !quiet_ && change.iItem >= 0) {
+        Raise({.kind = FormEvent::Kind::ItemSelected, .row = change.iItem});
+      }
+      return true;
+    }
+    case LVN_ITEMACTIVATE: {
+      // Not every system says which row it was when it was a key.
+      const int row = byKey_ ? Selected() : reinterpret_cast<const NMITEMACTIVATE&>(notice).iItem;
+      if (row >= 0) Raise({.kind = FormEvent::Kind::ItemActivated, .row = row});
+      return true;
+    }
+    case LVN_BEGINDRAG:
+      if (onBeginDrag) onBeginDrag(reinterpret_cast<const NMLISTVIEW&>(notice).iItem);
+      return true;
+    default:
+      return false;
+  }
+}
+
+void ListView::OnGetDispInfo(NMLVDISPINFOW& info) const {
+  if ((info.item.mask & LVIF_TEXT) == 0 || info.item.pszText == nullptr || info.item.cchTextMax <= 0) return;
+  std::wstring text;
+  if (model_ != nullptr && info.item.iItem < model_->RowCount()) {
+    text = Widen(model_->Cell(info.item.iItem, info.item.iSubItem));
+  }
+  const std::size_t length = std::min(text.size(), static_cast<std::size_t>(info.item.cchTextMax - 1));
+  text.copy(info.item.pszText, length);
+  info.item.pszText[length] = L'\0';
+}
+
+LRESULT ListView::FindTyped(const NMLVFINDITEMW& find) const {
+  if (model_ == nullptr || (find.lvfi.flags & (LVFI_STRING | LVFI_PARTIAL)) == 0 || find.lvfi.psz == nullptr)
+    return -1;
+  const std::string typed = Narrow(find.lvfi.psz);
+  const int count = model_->RowCount();
+  for (int step = 0; step < count; ++step) {
+    const int row = (std::max(0, find.iStart) + step) % count;
+    if (StartsWithIgnoringCase(model_->Cell(row, 0), typed)) return row;
+  }
+  return -1;
+}
+
+}  // namespace sonaro

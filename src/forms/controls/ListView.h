@@ -1,0 +1,113 @@
+// A report list drawn in the faceplate's way: the system's list view in owner-data mode, so that 40,000 rows
+// are there at once and screen readers read every cell, with its own painting and scroll bar. Rows live in a
+// ListModel; header buttons stand over it and belong to the form. Made by Form for rows of kind ListView.
+#pragma once
+
+#include <windows.h>
+
+#include <functional>
+#include <memory>
+#include <span>
+#include <string>
+#include <vector>
+
+#include "forms/controls/ScrolledView.h"
+#include "forms/controls/ToolTips.h"
+
+namespace sonaro {
+
+// What a list shows. Rows count from 0.
+class ListModel {
+ public:
+  virtual ~ListModel() = default;
+  virtual int RowCount() const = 0;
+  virtual std::string Cell(int row, int column) const = 0;
+  virtual int Symbol(int /*row*/) const { return -1; }  // reliability 0 to 4; -1: none
+  // The one row only says that there is nothing: it is drawn as the picture of an empty list.
+  virtual bool IsNotice() const { return false; }
+};
+
+class ListView final : public ScrolledView {
+ public:
+  ListView(HWND form, int id, FormServices& services);
+  ~ListView() override;
+
+  // Widths in design pixels; the last column takes the rest of the list. Names are for screen readers.
+  struct Column {
+    std::string name;
+    int width = 0;
+    bool rightAligned = false;
+    bool figure = false;  // a number beside the texts: small and muted
+  };
+  void SetColumns(std::vector<Column> columns);
+  // Rows with a reliability symbol keep its place free before the first column's text.
+  void SetModel(const ListModel* model, bool withSymbols);
+  // Lines between the columns; there unless told otherwise.
+  void SetColumnLines(bool lines) { columnLines_ = lines; }
+  // What an empty list says: a heading and one line of help. Without a heading it stays blank.
+  void SetEmptyText(std::string heading, std::string help);
+  // Rows in design pixels high; 22 unless told otherwise. Before the first rows.
+  void SetRowHeight(int design);
+
+  // The model's rows changed: takes their number and paints anew, redrawing switched off meanwhile.
+  void RowsChanged();
+  int Selected() const;  // -1: none
+  // Selects one row only and scrolls it into view; -1: none. Raises no event.
+  void Select(int row);
+  // After a fill that chooses nothing: no row is selected, and the keys go on from the first, which is in
+  // sight.
+  void SelectNone();
+  void RepaintRows();
+  int RowAt(POINT screen) const;  // -1: none
+  RECT RowBox(int row) const;     // client pixels of the form
+
+  // A row is being dragged (the left button is down and has moved); set to take part.
+  std::function<void(int row)> onBeginDrag;
+
+  void MoveTo(const RECT& place) override;
+  void ThemeChanged() override;
+  bool OnNotify(NMHDR& notice, LRESULT& result) override;
+
+ private:
+  LRESULT Handle(UINT message, WPARAM wParam, LPARAM lParam) override;
+  void PlaceColumns();
+  void UseRowHeight();
+  void SyncScrollBar() override;
+  void ScrollTo(int first) override;
+  void RepaintRow(int row);
+  void SetHover(int row);
+  void ShowTipAt(LPARAM pointer);
+  int FocusedRow() const;  // -1: none
+  int RowUnder(LPARAM pointer) const;
+  LRESULT FocusOnly();
+  void SelectByKey(WPARAM key, LPARAM lParam);
+  void Deselect(int row);
+  void PaintBelowRows(HDC dc) const;
+  void PaintEmpty(HDC dc, const RECT& box) const;
+  void PaintEmptyScale(HDC dc, int centre, int line) const;
+  void PaintRow(HDC dc, int row) const;
+  void PaintColumnLines(HDC dc, int top, int bottom) const;
+  void PaintCells(HDC dc, int row, const RECT& box, bool selected, bool focused) const;
+  LRESULT CustomDraw(const NMLVCUSTOMDRAW& draw) const;
+  void OnGetDispInfo(NMLVDISPINFOW& info) const;
+  LRESULT FindTyped(const NMLVFINDITEMW& find) const;
+  void ShowContextMenu(POINT screen);
+  RECT ItemBox(int row) const;
+  RECT TextBox(std::size_t column, const RECT& row) const;
+
+  std::unique_ptr<CellTip> tip_;
+  HIMAGELIST rowHeight_ = nullptr;  // an empty picture as high as a row
+  const ListModel* model_ = nullptr;
+  bool withSymbols_ = false;
+  bool columnLines_ = true;
+  std::vector<Column> columns_;
+  std::vector<int> edges_;  // right edges of the columns, pixels
+  std::string emptyHeading_;
+  std::string emptyHelp_;
+  int designRow_ = 22;
+  int hover_ = -1;
+  bool quiet_ = false;  // selecting by program
+  bool byKey_ = false;  // a key is being dealt with
+};
+
+}  // namespace sonaro

@@ -1,0 +1,183 @@
+// How a list's rows theme.
+
+#include <windowsx.h>
+
+#include <algorithm>
+
+#include "forms/WideText.h"
+#include "forms/controls/ListView.h"
+#include "forms/paint/Painter.h"
+#include "forms/paint/ReliabilitySymbol.h"
+
+namespace sonaro {
+
+namespace {
+
+constexpr int kCellInset = 9;
+constexpr int kSymbolInset = 9;
+constexpr int kTextAfterSymbol = 28;
+constexpr int kCellGap = 5;
+// The picture that an empty list shows.
+constexpr int kEmptyWidth = 320;
+constexpr int kEmptyPitch = 8;
+constexpr int kEmptyLineAboveMiddle = 37;
+constexpr int kEmptyScaleFrom = 180;  // lists less high show the words only
+
+Color GroundOf(const FaceplateColors& colors, int row) { return row % 2 == 0 ? colors.glass : colors.zebra; }
+
+}  // namespace
+
+LRESULT ListView::CustomDraw(const NMLVCUSTOMDRAW& draw) const {
+  switch (draw.nmcd.dwDrawStage) {
+    case CDDS_PREPAINT:
+      return CDRF_NOTIFYITEMDRAW;
+    case CDDS_ITEMPREPAINT:
+      PaintRow(draw.nmcd.hdc, static_cast<int>(draw.nmcd.dwItemSpec));
+      return CDRF_SKIPDEFAULT;
+    default:
+      return CDRF_DODEFAULT;
+  }
+}
+
+void ListView::PaintRow(HDC dc, int row) const {
+  if (model_ == nullptr || row >= model_->RowCount() || model_->IsNotice()) return;
+  const Painter& theme = Theme();
+  const FaceplateColors& colors = theme.Colors();
+  const RECT box = ItemBox(row);
+  const bool selected = (ListView_GetItemState(Window(), row, LVIS_SELECTED) & LVIS_SELECTED) != 0;
+  const bool focused = GetFocus() == Window();
+  BufferedPaint buffer(dc, box);
+  Color ground = row == hover_ ? colors.rowHover : GroundOf(colors, row);
+  if (selected) ground = focused ? colors.rowSelected : colors.rowSelectedOff;
+  theme.Fill(buffer.Dc(), box, ground);
+  PaintColumnLines(buffer.Dc(), box.top, box.bottom);
+  PaintCells(buffer.Dc(), row, box, selected, focused);
+  if (selected)
+    theme.Fill(buffer.Dc(), {box.left, box.top, box.left + theme.Px(kNeedleBar), box.bottom}, colors.accent);
+  // While none is selected the frame shows from where the keys would go on.
+  if (focused && (selected || (row == std::max(0, FocusedRow()) && Selected() < 0))) {
+    const RECT frame = {box.left + theme.Px(4), box.top + theme.Line(),
+                        edges_.empty() ? box.right : edges_.back(), box.bottom - theme.Line()};
+    theme.Frame(buffer.Dc(), frame, colors.focus, theme.Line());
+  }
+}
+
+void ListView::PaintColumnLines(HDC dc, int top, int bottom) const {
+  if (!columnLines_) return;
+  const Painter& theme = Theme();
+  for (const int edge : edges_) theme.Fill(dc, {edge - theme.Line(), top, edge, bottom}, theme.Colors().hair);
+}
+
+void ListView::PaintCells(HDC dc, int row, const RECT& box, bool selected, bool focused) const {
+  const Painter& theme = Theme();
+  const FaceplateColors& colors = theme.Colors();
+  const int symbol = withSymbols_ ? model_->Symbol(row) : -1;
+  bool leading = true;  // until the first text of the row
+  for (std::size_t i = 0; i < edges_.size(); ++i) {
+    const Column& column = columns_[i];
+    const bool strong = leading && !column.figure;
+    leading = leading && !strong;
+    Color ink = strong || (selected && !column.figure) ? colors.glassText : colors.glassMuted;
+    if (selected && focused) ink = colors.rowSelectedText;
+    theme.Text(dc, TextBox(i, box), model_->Cell(row, static_cast<int>(i)),
+               column.figure        ? TextStyle::Small
+               : strong && selected ? TextStyle::BodyStrong
+                                    : TextStyle::Body,
+               ink, DT_NOPREFIX | (column.rightAligned ? DT_RIGHT : 0U));
+  }
+  if (symbol >= 0) {
+    const int top = box.top + (box.bottom - box.top - theme.Px(kReliabilitySize)) / 2;
+    PaintReliability(dc, theme, box.left + theme.Px(kSymbolInset), top, symbol, selected && focused);
+  }
+}
+
+RECT ListView::TextBox(std::size_t column, const RECT& row) const {
+  const Painter& theme = Theme();
+  const int left = column == 0 ? static_cast<int>(row.left) : edges_[column - 1];
+  const int inset = theme.Px(column == 0 && withSymbols_ ? kTextAfterSymbol : kCellInset);
+  return {left + inset, row.top, edges_[column] - theme.Px(kCellGap), row.bottom};
+}
+
+// A text that its column cuts short can be read whole.
+void ListView::ShowTipAt(LPARAM pointer) {
+  const int row = RowUnder(pointer);
+  const auto edge = std::upper_bound(edges_.begin(), edges_.end(), GET_X_LPARAM(pointer));
+  if (row < 0 || model_->IsNotice() || edge == edges_.end()) return tip_->Clear();
+  const auto column = static_cast<std::size_t>(edge - edges_.begin());
+  const RECT box = TextBox(column, ItemBox(row));
+  const std::wstring text = Widen(model_->Cell(row, static_cast<int>(column)));
+  const TextStyle style = row == Selected() && column == 0 ? TextStyle::BodyStrong : TextStyle::Body;
+  if (Theme().Measure(text, style).cx <= box.right - box.left) return tip_->Clear();
+  tip_->Set(box, text);
+}
+
+// Rows go on to the bottom as empty ones.
+void ListView::PaintBelowRows(HDC dc) const {
+  const Painter& theme = Theme();
+  const FaceplateColors& colors = theme.Colors();
+  RECT box{};
+  GetClientRect(Window(), &box);
+  box.right = Width();
+  const int count = model_ != nullptr ? model_->RowCount() : 0;
+  const bool notice = count > 0 && model_->IsNotice();
+  if (notice || (count == 0 && !emptyHeading_.empty())) {
+    theme.Fill(dc, box, colors.glass);
+    PaintEmpty(dc, box);
+    return;
+  }
+  const int height = std::max(1, theme.Px(designRow_));
+  int top = 0;
+  int row = 0;
+  if (count > 0) {
+    row = std::min(count, ListView_GetTopIndex(Window()) + ListView_GetCountPerPage(Window()) + 1);
+    top = ItemBox(row - 1).bottom;
+  }
+  for (; top < box.bottom; top += height, ++row) {
+    theme.Fill(dc, {0, top, Width(), std::min<int>(top + height, box.bottom)}, GroundOf(colors, row));
+    PaintColumnLines(dc, top, std::min<int>(top + height, box.bottom));
+  }
+}
+
+// Where a station would stand: a scale without one, a heading, and help of one or two lines.
+void ListView::PaintEmpty(HDC dc, const RECT& box) const {
+  const Painter& theme = Theme();
+  const FaceplateColors& colors = theme.Colors();
+  const int centre = (box.left + box.right) / 2;
+  int top = box.top + theme.Px(8);
+  if (box.bottom - box.top >= theme.Px(kEmptyScaleFrom)) {
+    const int line = (box.top + box.bottom) / 2 - theme.Px(kEmptyLineAboveMiddle);
+    PaintEmptyScale(dc, centre, line);
+    top = line + theme.Px(24);
+  }
+  const RECT heading = {box.left, top, box.right, top + theme.Px(28)};
+  theme.Text(dc, heading, emptyHeading_, TextStyle::Notice, colors.glassText, DT_CENTER | DT_NOPREFIX);
+  const RECT help = {box.left + theme.Px(16), top + theme.Px(30), box.right - theme.Px(16),
+                     top + theme.Px(70)};
+  theme.Text(dc, help, emptyHelp_, TextStyle::Body, colors.glassMuted,
+             DT_CENTER | DT_WORDBREAK | DT_NOPREFIX);
+  if (GetFocus() == Window()) theme.Frame(dc, box, colors.focus, theme.FocusLine());
+}
+
+void ListView::PaintEmptyScale(HDC dc, int centre, int line) const {
+  const Painter& theme = Theme();
+  const FaceplateColors& colors = theme.Colors();
+  const int pitch = theme.Px(kEmptyPitch);
+  const int ticks = std::min(theme.Px(kEmptyWidth), Width() - theme.Px(40)) / pitch / 2;
+  for (int tick = -ticks; tick <= ticks; ++tick) {
+    if (tick == 0) continue;
+    const int height = theme.Px(tick % 5 == 0 ? 22 : 11);
+    const int x = centre + tick * pitch;
+    theme.Fill(dc, {x, line - height, x + theme.Line(), line}, colors.tickOff);
+  }
+  theme.Fill(dc,
+             {centre - ticks * pitch, line + theme.Px(4), centre + ticks * pitch + theme.Line(),
+              line + theme.Px(4) + theme.Line()},
+             colors.hair);
+  const int bar = theme.Px(kNeedleBar);
+  theme.Fill(dc, {centre - bar / 2, line - theme.Px(34), centre - bar / 2 + bar, line + theme.Px(2)},
+             colors.accent);
+  const int head = theme.Px(13);
+  DrawNeedleHead(dc, centre - head / 2, line - theme.Px(40), head, theme.Px(9), colors.accent);
+}
+
+}  // namespace sonaro

@@ -1,0 +1,65 @@
+#include "forms/controls/PaintedControl.h"
+
+#include <commctrl.h>
+
+#include "forms/Guard.h"
+#include "forms/paint/Painter.h"
+
+namespace sonaro {
+
+PaintedControl::PaintedControl(HWND form, int id, FormServices& services, const Design& design,
+                               const wchar_t* text)
+    : services_(services), overhang_(design.overhang) {
+  window_ = CreateWindowExW(0, design.windowClass, text, WS_CHILD | WS_CLIPSIBLINGS | design.style, 0, 0, 0,
+                            0, form, reinterpret_cast<HMENU>(static_cast<INT_PTR>(id)),
+                            GetModuleHandleW(nullptr), nullptr);
+  SetWindowSubclass(window_, Procedure, kSubclassId, reinterpret_cast<DWORD_PTR>(this));
+}
+
+PaintedControl::~PaintedControl() {
+  if (!IsWindow(window_)) return;
+  RemoveWindowSubclass(window_, Procedure, kSubclassId);
+  DestroyWindow(window_);
+}
+
+void PaintedControl::MoveTo(const RECT& place) {
+  const int overhang = Theme().Px(overhang_);
+  SetWindowPos(window_, nullptr, place.left - overhang, place.top, place.right - place.left + 2 * overhang,
+               place.bottom - place.top, SWP_NOZORDER | SWP_NOACTIVATE);
+}
+
+LRESULT CALLBACK PaintedControl::Procedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam, UINT_PTR,
+                                           DWORD_PTR data) noexcept {
+  return Guarded(0, [&]() -> LRESULT {
+    switch (message) {
+      case WM_NCDESTROY:
+        RemoveWindowSubclass(window, Procedure, kSubclassId);
+        break;
+      case WM_SETTEXT:  // a static control would draw the text at once, in its own way
+        return DefWindowProcW(window, message, wParam, lParam);
+      case WM_ERASEBKGND:
+        return 1;
+      case WM_PAINT:
+        reinterpret_cast<PaintedControl*>(data)->Paint();
+        return 0;
+      default:
+        break;
+    }
+    return DefSubclassProc(window, message, wParam, lParam);
+  });
+}
+
+void PaintedControl::Paint() {
+  PAINTSTRUCT paint{};
+  const HDC dc = BeginPaint(window_, &paint);
+  RECT box{};
+  GetClientRect(window_, &box);
+  {
+    const BufferedPaint buffer(dc, box);
+    services_.PaintBackdrop(buffer.Dc(), window_);
+    PaintOn(buffer.Dc(), box);
+  }
+  EndPaint(window_, &paint);
+}
+
+}  // namespace sonaro

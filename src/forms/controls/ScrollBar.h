@@ -1,0 +1,63 @@
+// The faceplate's own vertical scroll bar, 12 design pixels wide, laid over the right end of a list or tree
+// whose native bar is clipped away. It shows a position and asks to be scrolled; the view stays the owner of
+// both.
+#pragma once
+
+#include <windows.h>
+
+#include <functional>
+
+#include "forms/controls/FormControl.h"
+
+namespace sonaro {
+
+class ScrollBar {
+ public:
+  static constexpr int kDesignWidth = 12;
+
+  struct Range {
+    int total = 0;  // rows
+    int page = 0;   // rows that fit
+    int first = 0;  // top row
+    bool operator==(const Range&) const = default;
+  };
+
+  // `scrollTo` is given the row that should be at the top.
+  ScrollBar(HWND form, FormServices& services, std::function<void(int first)> scrollTo);
+  ~ScrollBar();
+  ScrollBar(const ScrollBar&) = delete;
+  ScrollBar& operator=(const ScrollBar&) = delete;
+
+  HWND Window() const { return window_; }
+  void MoveTo(const RECT& place);
+  // Hides itself while everything fits.
+  void SetRange(const Range& range);
+  void SetShown(bool shown);
+  bool IsNeeded() const { return range_.total > range_.page; }
+
+ private:
+  enum class Zone { None, Up, PageUp, Thumb, PageDown, Down };
+
+  static LRESULT CALLBACK Procedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam) noexcept;
+  LRESULT Handle(UINT message, WPARAM wParam, LPARAM lParam);
+  void Paint(HDC dc, const RECT& box) const;
+  RECT ThumbBox() const;
+  Zone ZoneAt(POINT at) const;
+  void Step(Zone zone);
+  void Press(POINT at);
+  void DragTo(int y);
+  void Release();
+  void ShowOrHide();
+  void ScrollTo(int first);
+
+  FormServices& services_;
+  std::function<void(int)> scrollTo_;
+  HWND window_ = nullptr;
+  Range range_;
+  bool shown_ = true;
+  bool hover_ = false;
+  Zone pressed_ = Zone::None;
+  int dragOffset_ = 0;  // from the thumb's top to the pointer
+};
+
+}  // namespace sonaro

@@ -1,0 +1,72 @@
+#include "forms/controls/ScrolledView.h"
+
+#include "forms/Guard.h"
+#include "forms/paint/Painter.h"
+
+namespace sonaro {
+
+ScrolledView::ScrolledView(HWND form, int id, FormServices& services, const wchar_t* windowClass, DWORD style)
+    : services_(services), id_(id), bar_(form, services, [this](int first) { ScrollTo(first); }) {
+  window_ =
+      CreateWindowExW(0, windowClass, L"", WS_CHILD | WS_TABSTOP | WS_CLIPSIBLINGS | style, 0, 0, 0, 0, form,
+                      reinterpret_cast<HMENU>(static_cast<INT_PTR>(id)), GetModuleHandleW(nullptr), nullptr);
+}
+
+void ScrolledView::Attach() {
+  SetWindowSubclass(window_, &ScrolledView::Procedure, kSubclassId, reinterpret_cast<DWORD_PTR>(this));
+}
+
+void ScrolledView::Detach() {
+  if (!IsWindow(window_)) return;
+  RemoveWindowSubclass(window_, &ScrolledView::Procedure, kSubclassId);
+  DestroyWindow(window_);
+}
+
+LRESULT CALLBACK ScrolledView::Procedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam, UINT_PTR,
+                                         DWORD_PTR data) noexcept {
+  return Guarded(0, [&]() -> LRESULT {
+    auto& view = *reinterpret_cast<ScrolledView*>(data);
+    if (message == WM_NCDESTROY) RemoveWindowSubclass(window, &ScrolledView::Procedure, kSubclassId);
+    return view.Handle(message, wParam, lParam);
+  });
+}
+
+void ScrolledView::MoveTo(const RECT& place) {
+  const int line = Theme().Line();
+  const RECT inner = {place.left + line, place.top + line, place.right - line, place.bottom - line};
+  width_ = inner.right - inner.left;
+  const int height = inner.bottom - inner.top;
+  // The native scroll bar lies beyond the region and is never seen.
+  const int native = GetSystemMetrics(SM_CXVSCROLL);
+  SetWindowPos(window_, nullptr, inner.left, inner.top, width_ + native, height,
+               SWP_NOZORDER | SWP_NOACTIVATE);
+  SetWindowRgn(window_, CreateRectRgn(0, 0, width_, height), TRUE);
+  const int barWidth = Theme().Px(ScrollBar::kDesignWidth);
+  bar_.MoveTo({inner.right - barWidth, inner.top, inner.right, inner.bottom});
+  SyncScrollBar();
+}
+
+void ScrolledView::SetShown(bool shown) {
+  ShowWindow(window_, shown ? SW_SHOWNA : SW_HIDE);
+  bar_.SetShown(shown);
+}
+
+void ScrolledView::ThemeChanged() {
+  RepaintWithGround();
+  InvalidateRect(bar_.Window(), nullptr, TRUE);
+}
+
+LRESULT ScrolledView::DialogCode(WPARAM wParam, LPARAM lParam, bool takesEnter) {
+  const auto* key = reinterpret_cast<const MSG*>(lParam);
+  const bool enter = takesEnter && key && key->message == WM_KEYDOWN && key->wParam == VK_RETURN;
+  return PassOn(WM_GETDLGCODE, wParam, lParam) | (enter ? DLGC_WANTMESSAGE : 0);
+}
+
+void ScrolledView::TrackLeave() const {
+  TRACKMOUSEEVENT track = {sizeof track, TME_LEAVE, window_, 0};
+  TrackMouseEvent(&track);
+}
+
+int ScrolledView::BarWidth() const { return HasBar() ? Theme().Px(ScrollBar::kDesignWidth) : 0; }
+
+}  // namespace sonaro

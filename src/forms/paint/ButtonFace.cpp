@@ -1,0 +1,84 @@
+#include "forms/paint/ButtonFace.h"
+
+namespace sonaro {
+namespace {
+
+bool IsPrimary(ControlKind kind, bool secondary) {
+  return kind == ControlKind::PrimaryButton || (kind == ControlKind::PlayButton && !secondary);
+}
+
+void SetFace(ButtonFace& face, Color top, Color bottom) {
+  face.top = top;
+  face.bottom = bottom;
+}
+
+void PickPlain(ButtonFace& face, ControlKind kind, bool secondary, const ButtonState& state,
+               const FaceplateColors& c) {
+  SetFace(face, c.buttonTop, c.buttonBottom);
+  face.text = c.text;
+  face.secondText = c.buttonMuted;
+  face.icon = c.text;
+  if (kind == ControlKind::RankingButton) face.icon = c.muted;
+  if (kind == ControlKind::PlayButton && secondary) face.icon = c.accent;
+  face.strong = kind == ControlKind::HeaderButton;
+  face.milledLine = c.buttonHigh;
+  face.hasMilledLine = !state.pressed;
+  if (state.pressed) {
+    SetFace(face, c.buttonDown, c.buttonDown);
+  } else if (state.hover) {
+    SetFace(face, c.buttonHover, c.buttonHover);
+  } else if (kind == ControlKind::StripButton) {
+    face.hasFace = false;
+    face.hasMilledLine = false;
+  }
+}
+
+void PickPrimary(ButtonFace& face, const ButtonState& state, const FaceplateColors& c) {
+  SetFace(face, c.accentTop, c.accentBottom);
+  if (state.pressed) {
+    SetFace(face, c.accentDown, c.accentDown);
+  } else if (state.hover) {
+    SetFace(face, c.accentHover, c.accentHover);
+  }
+  face.text = face.secondText = face.icon = face.focus = c.onAccent;
+  face.milledLine = c.accentTop;
+  face.hasMilledLine = !state.pressed;
+  face.strong = true;
+}
+
+void PickActive(ButtonFace& face, const ButtonState& state, const FaceplateColors& c) {
+  SetFace(face, c.buttonOn, c.buttonOn);
+  if (state.hover && !state.pressed) SetFace(face, c.buttonHover, c.buttonHover);
+  face.edge = c.accent;
+  face.text = face.secondText = face.icon = c.tabText;
+  face.strong = true;
+}
+
+}  // namespace
+
+ButtonFace PickButtonFace(ControlKind kind, bool secondary, const ButtonState& state,
+                          const FaceplateColors& c) {
+  ButtonFace face;
+  face.edge = c.outline;
+  face.focus = c.focus;
+  face.shiftDown = state.pressed && !state.disabled;
+  if (state.empty) {
+    SetFace(face, c.socket, c.socket);
+    face.edge = c.edgeOff;
+    face.text = face.secondText = face.icon = c.textOff;
+    face.shiftDown = false;
+  } else if (state.disabled) {
+    SetFace(face, c.buttonOff, c.buttonOff);
+    face.edge = c.edgeOff;
+    face.text = face.secondText = face.icon = c.textOff;
+  } else if (state.active) {
+    PickActive(face, state, c);
+  } else if (IsPrimary(kind, secondary)) {
+    PickPrimary(face, state, c);
+  } else {
+    PickPlain(face, kind, secondary, state, c);
+  }
+  return face;
+}
+
+}  // namespace sonaro
