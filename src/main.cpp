@@ -11,7 +11,6 @@
 #include "forms/Guard.h"
 #include "forms/StringTable.h"
 #include "forms/WideText.h"
-#include "net/HttpFaultText.h"
 #include "platform/SystemFunction.h"
 #include "platform/win/ClockWin.h"
 #include "platform/win/FilesWin.h"
@@ -50,9 +49,7 @@ int WINAPI WinMain(HINSTANCE, HINSTANCE, LPSTR commandLine, int) {
   sonaro::SystemInfoWin systemInfo;
   sonaro::MessagePostWin messages;
   sonaro::StringTable strings;
-  sonaro::HttpControlFactoryWin http(
-      std::string("Sonaro/") + sonaro::kVersionText,
-      [&strings](sonaro::HttpFault fault) { return sonaro::HttpFaultText(fault, strings); });
+  sonaro::HttpControlFactoryWin http(std::string("Sonaro/") + sonaro::kVersionText);
   const sonaro::Platform platform = {registry, files, clock, shell, sound, systemInfo, messages, http};
   constexpr int kFailed = -1;
   const auto run = [&]() -> LRESULT {

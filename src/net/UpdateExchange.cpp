@@ -4,6 +4,7 @@
 #include "base/OwnFiles.h"
 #include "base/Text.h"
 #include "base/http/UrlEncoding.h"
+#include "net/HttpFaultText.h"
 #include "net/ServiceAnswer.h"
 #include "net/ServiceRequest.h"
 #include "net/ServiceUrlTable.h"
@@ -115,9 +116,9 @@ void UpdateExchange::HTTPError(const std::string& statusCode, const std::string&
   }
 }
 
-void UpdateExchange::HTTPObjectError(const std::string& reason) {
+void UpdateExchange::HTTPObjectError(HttpFault fault) {
   failed_ = true;
-  reason_ = reason;
+  reason_ = HttpFaultText(fault, needs_.strings);
   mode_ = kConnectionFailed;
   view_.StartTimer(kSoon);
 }

@@ -84,7 +84,7 @@ class UpdateExchange final : private HttpEvents {
   void HTTPDataReceived(std::string_view body) override;
   void HTTPDataTransferred(std::uint64_t bytes, std::uint64_t expected) override;
   void HTTPError(const std::string& statusCode, const std::string& headers) override;
-  void HTTPObjectError(const std::string& reason) override;
+  void HTTPObjectError(HttpFault fault) override;
   void HTTPReady() override { Complete(); }
 
   void AskForUpdate();

@@ -1,34 +1,13 @@
 #include "net/frmTestProxy.h"
 
-#include <iterator>
-
 #include "forms/ControlIds.h"
 #include "forms/DialogRows.h"
 #include "forms/controls/ProgressScale.h"
-#include "net/ServiceRequest.h"
-#include "net/ServiceUrlTable.h"
-#include "platform/Clock.h"
 #include "resources/texts/net.h"
-#include "settings/CReg.h"
-#include "settings/SettingNames.h"
-#include "settings/Strings.h"
 
 namespace sonaro {
 
 namespace {
-
-constexpr unsigned kSoon = 100;  // milliseconds until the test begins
-
-// What the test does, one after the other, and how that reads while it lasts and once it is done.
-constexpr struct {
-  int running;
-  int done;
-} kSteps[] = {
-    {IDS_NET_TEST_FIND, IDS_NET_TEST_FOUND},
-    {IDS_NET_TEST_CONNECT, IDS_NET_TEST_CONNECTED},
-    {IDS_NET_TEST_READ, IDS_NET_TEST_PAGE},
-};
-constexpr int kStepCount = static_cast<int>(std::size(kSteps));
 
 // The result line of a step.
 constexpr ControlRow StepIcon(int step) {
@@ -116,87 +95,54 @@ std::span<const TimerRow> frmTestProxy::Timers() const {
 }
 
 frmTestProxy::frmTestProxy(FormContext& context, CReg& reg, HttpControlFactory& http, Clock& clock,
-                           std::string address, std::string port)
+                           const std::string& address, const std::string& port)
     : Form(context, Design()),
-      reg_(reg),
-      http_(http.Make()),
-      clock_(clock),
-      address_(std::move(address)),
-      port_(std::move(port)) {}
+      test_(reg, http, clock, context.strings, address, port),
+      address_(address),
+      port_(port) {}
 
 void frmTestProxy::OnLoad() {
   SetText(lblCheckAddress, address_);
   SetText(lblCheckPort, port_);
-  expected_ = StoredServiceSetting(reg_, setting::kProxyTestText);
-  Begin();
+  test_.Begin(*this);
 }
 
-void frmTestProxy::Begin() {
-  works_ = false;
-  SetText(lblStatusInfo, LoadText(IDS_NET_TEST_RUNS));
-  SetTextColor(lblStatusInfo, TextColor::Default);
-  for (int step = 0; step < kStepCount; ++step) {
-    ShowControl(imgProxyStep + step, false);
-    SetText(lblProxyStep + step, "");
-    SetText(lblProxyStepTime + step, "");
+void frmTestProxy::StartTimer(int milliseconds) {
+  Form::StartTimer(tmrSock, static_cast<unsigned>(milliseconds));
+}
+
+void frmTestProxy::StopTimer() { Form::StopTimer(tmrSock); }
+
+void frmTestProxy::ShowStep(int step, const ProxyTestStep& shown) {
+  struct Mark {
+    Icon icon;
+    TextColor color;
+  };
+  static constexpr Mark kMarks[] = {{Icon::Scan, TextColor::Accent},  // Waiting: not seen
+                                    {Icon::Scan, TextColor::Accent},
+                                    {Icon::Check, TextColor::Signal},
+                                    {Icon::Warn, TextColor::Alert}};
+  const Mark& mark = kMarks[static_cast<std::size_t>(shown.state)];
+  if (shown.state != ProxyTestState::Waiting) {
+    SetIcon(imgProxyStep + step, mark.icon);
+    SetTextColor(imgProxyStep + step, mark.color);
   }
-  if (FocusedControl() == butTestAgainIt) Focus(butOKIt);
-  Enable(butTestAgainIt, false);
-  BeginStep(0);
-  StartTimer(tmrSock, kSoon);
+  ShowControl(imgProxyStep + step, shown.state != ProxyTestState::Waiting);
+  SetText(lblProxyStep + step, shown.text);
+  SetText(lblProxyStepTime + step, shown.time);
+  if (shown.state == ProxyTestState::Running) Progress(prgProxyTest).SetProgress(step, ProxyTest::kStepCount);
+  if (shown.state == ProxyTestState::Done)
+    Progress(prgProxyTest).SetProgress(step + 1, ProxyTest::kStepCount);
 }
 
-void frmTestProxy::tmrSock_Timer() {
-  StopTimer(tmrSock);
-  stepBegan_ = clock_.Ticks();
-  Send(BuildProxyTest(address_, port_, StoredServiceSetting(reg_, setting::kProxyTest)), *http_, *this);
-}
-
-void frmTestProxy::BeginStep(int step) {
-  step_ = step;
-  stepBegan_ = clock_.Ticks();
-  Progress(prgProxyTest).SetProgress(step, kStepCount);
-  if (step < kStepCount) ShowStep(Icon::Scan, TextColor::Accent, LoadText(kSteps[step].running));
-}
-
-void frmTestProxy::StepDone() {
-  ShowStep(Icon::Check, TextColor::Signal, LoadText(kSteps[step_].done));
-  SetText(lblProxyStepTime + step_,
-          FormatText(LoadText(IDS_NET_TEST_TIME), {std::to_string(clock_.Ticks() - stepBegan_)}));
-  BeginStep(step_ + 1);
-}
-
-void frmTestProxy::StepFailed(const std::string& reason) { ShowStep(Icon::Warn, TextColor::Alert, reason); }
-
-void frmTestProxy::ShowStep(Icon icon, TextColor color, const std::string& text) {
-  SetIcon(imgProxyStep + step_, icon);
-  SetTextColor(imgProxyStep + step_, color);
-  ShowControl(imgProxyStep + step_);
-  SetText(lblProxyStep + step_, text);
-}
-
-void frmTestProxy::HTTPDataReceived(std::string_view body) {
-  works_ = body.find(expected_) != std::string_view::npos;
-  if (works_) {
-    StepDone();
-  } else {
-    StepFailed(LoadText(IDS_NET_TEST_OTHER_PAGE));
-  }
-}
-
-void frmTestProxy::HTTPError(const std::string& statusCode, const std::string&) {
-  StepFailed(FormatText(LoadText(IDS_NET_WRONG_STATUS), {statusCode}));
-}
-
-void frmTestProxy::HTTPObjectError(const std::string& reason) {
-  StepFailed(reason);
-  ShowResult();
-}
-
-void frmTestProxy::ShowResult() {
-  SetText(lblStatusInfo, LoadText(works_ ? IDS_NET_TEST_WORKS : IDS_NET_TEST_FAILED));
-  SetTextColor(lblStatusInfo, works_ ? TextColor::Signal : TextColor::Alert);
-  Enable(butTestAgainIt);
+void frmTestProxy::ShowResult(ProxyTestState state, const std::string& text) {
+  const bool runs = state == ProxyTestState::Running;
+  SetText(lblStatusInfo, text);
+  SetTextColor(lblStatusInfo, runs                            ? TextColor::Default
+                              : state == ProxyTestState::Done ? TextColor::Signal
+                                                              : TextColor::Alert);
+  if (runs && FocusedControl() == butTestAgainIt) Focus(butOKIt);
+  Enable(butTestAgainIt, !runs);
 }
 
 }  // namespace sonaro

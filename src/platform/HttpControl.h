@@ -7,6 +7,8 @@
 #include <string>
 #include <string_view>
 
+#include "base/http/HttpFault.h"
+
 namespace sonaro {
 
 // How far a request has come before its answer.
@@ -21,7 +23,7 @@ class HttpEvents {
   virtual void HTTPDataReceived(std::string_view body) = 0;  // once, the whole body of a successful answer
   virtual void HTTPDataTransferred(std::uint64_t bytes, std::uint64_t expected) = 0;      // 0 = not announced
   virtual void HTTPError(const std::string& statusCode, const std::string& headers) = 0;  // any other status
-  virtual void HTTPObjectError(const std::string& reason) = 0;  // one sentence for the user
+  virtual void HTTPObjectError(HttpFault fault) = 0;
   virtual void HTTPReady() = 0;
 };
 

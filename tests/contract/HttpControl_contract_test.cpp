@@ -27,7 +27,7 @@ struct HttpCanned {
   void Prepare() {
     network.Answer("/body", FakeAnswer::Body(kBody));
     network.Answer("/moved", FakeAnswer::Status("302", "HTTP/1.1 302 Found\r\nLocation: http://x/y\r\n\r\n"));
-    network.Answer("/lost", FakeAnswer::ObjectError("why"));
+    network.Answer("/lost", FakeAnswer::ObjectError(HttpFault::CutShort));
   }
   HttpControlFactory& Maker() { return network; }
   void Run(const std::function<bool()>& until) {
@@ -40,7 +40,7 @@ struct HttpCanned {
 #ifdef _WIN32
 struct HttpOnSockets {
   LoopbackServer server;
-  HttpControlFactoryWin maker{"Contract/1.0", [](HttpFault) { return std::string("why"); }};
+  HttpControlFactoryWin maker{"Contract/1.0"};
   std::string host = "127.0.0.1";
   std::uint16_t port = server.Port();
 
@@ -86,7 +86,7 @@ struct Outcome {
 const Outcome kOutcomes[] = {
     {"/body", {std::string("body ") + kBody, "ready"}},
     {"/moved", {"status 302 to y", "ready"}},
-    {"/lost", {"failed why"}},
+    {"/lost", {"failed CutShort"}},
 };
 
 TYPED_TEST(HttpContract, EveryRequestEndsOnceAndLater) {

@@ -17,6 +17,13 @@ namespace sonaro {
 
 using Lines = std::vector<std::string>;
 
+inline std::string NameOf(HttpFault fault) {
+  static constexpr const char* kNames[] = {
+      "None",         "BadRequest",   "NoSuchHost", "Refused",  "Lost",     "Silent", "NotHttp",
+      "HeadTooLarge", "BodyTooLarge", "BadLength",  "BadChunk", "CutShort", "TooSlow"};
+  return kNames[static_cast<int>(fault)];
+}
+
 // Writes down what it hears; `then` runs inside the event.
 class Listener final : public HttpEvents {
  public:
@@ -45,9 +52,9 @@ class Listener final : public HttpEvents {
     Hear("status " + status +
          (headers.find("\nLocation: http://x/y\r\n") == std::string::npos ? "" : " to y"));
   }
-  void HTTPObjectError(const std::string& reason) override {
+  void HTTPObjectError(HttpFault fault) override {
     over_ = true;
-    Hear("failed " + reason);
+    Hear("failed " + NameOf(fault));
   }
   void HTTPReady() override {
     over_ = true;

@@ -12,13 +12,6 @@ namespace {
 
 constexpr unsigned kLimit = 700;  // milliseconds of silence
 
-std::string NameOf(HttpFault fault) {
-  static constexpr const char* kNames[] = {
-      "None",         "BadRequest",   "NoSuchHost", "Refused",  "Lost",     "Silent", "NotHttp",
-      "HeadTooLarge", "BodyTooLarge", "BadLength",  "BadChunk", "CutShort", "TooSlow"};
-  return kNames[static_cast<int>(fault)];
-}
-
 class HttpOnTheWire : public testing::Test {
  protected:
   // The outcome of one request with this answer.
@@ -34,7 +27,7 @@ class HttpOnTheWire : public testing::Test {
   }
 
   LoopbackServer server_;
-  HttpControlFactoryWin maker_{"Contract/1.0", &NameOf, kLimit};
+  HttpControlFactoryWin maker_{"Contract/1.0", kLimit};
   std::unique_ptr<HttpControl> control_ = maker_.Make();
   Listener listener_;
 };
@@ -133,7 +126,7 @@ TEST_F(HttpOnTheWire, WhatGoesWrongIsNamed) {
 
 // Never silent, and never over either.
 TEST_F(HttpOnTheWire, AServerThatDripsIsNotWaitedFor) {
-  HttpControlFactoryWin impatient("Contract/1.0", &NameOf, 60000, {.milliseconds = 300, .leastBytes = 4096});
+  HttpControlFactoryWin impatient("Contract/1.0", 60000, {.milliseconds = 300, .leastBytes = 4096});
   control_ = impatient.Make();
   EXPECT_EQ(Ask([](Conversation& talk) {
               talk.Send("HTTP/1.1 200 OK\r\n\r\n");

@@ -95,7 +95,7 @@ void SocketHttp::Deliver(std::shared_ptr<Transfer> transfer) {
   if (transfer->over) return;
   if (fault != HttpFault::None) {
     transfer->over = true;
-    events.HTTPObjectError("fault " + std::to_string(static_cast<int>(fault)));
+    events.HTTPObjectError(fault);
     return;
   }
   if (response.Succeeded()) {

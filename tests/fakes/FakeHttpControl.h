@@ -15,14 +15,15 @@ namespace sonaro {
 struct FakeAnswer {
   enum class Kind { Body, Status, ObjectError };
   Kind kind = Kind::ObjectError;
-  std::string text;     // the body, the status code or the reason
+  std::string text;     // the body or the status code
   std::string headers;  // of a Status
+  HttpFault fault = HttpFault::None;
 
-  static FakeAnswer Body(std::string body) { return {Kind::Body, std::move(body), ""}; }
+  static FakeAnswer Body(std::string body) { return {Kind::Body, std::move(body)}; }
   static FakeAnswer Status(std::string code, std::string headers = "") {
     return {Kind::Status, std::move(code), std::move(headers)};
   }
-  static FakeAnswer ObjectError(std::string reason) { return {Kind::ObjectError, std::move(reason), ""}; }
+  static FakeAnswer ObjectError(HttpFault why) { return {Kind::ObjectError, "", "", why}; }
 };
 
 class FakeHttp : public HttpControlFactory {
@@ -87,7 +88,7 @@ class FakeHttp : public HttpControlFactory {
     for (const auto& [part, answer] : answers_) {
       if (requestText.find(part) != std::string::npos) return answer;
     }
-    return FakeAnswer::ObjectError("No connection.");
+    return FakeAnswer::ObjectError(HttpFault::Refused);
   }
 
   // Any event may cancel the exchange or destroy the control; nothing follows then. Taken by value: an event
@@ -109,7 +110,7 @@ class FakeHttp : public HttpControlFactory {
         break;
       case FakeAnswer::Kind::ObjectError:
         exchange->over = true;
-        events.HTTPObjectError(answer.text);
+        events.HTTPObjectError(answer.fault);
         return;
     }
     if (exchange->over) return;

@@ -202,7 +202,8 @@ TEST_F(UpdateExchangeTest, LeavesEverythingAloneWhenItFails) {
     Kind kind;
     std::size_t requests;
   } kCases[] = {
-      {"no connection", FakeAnswer::ObjectError("why"), FakeAnswer::Body(kUpdate), Kind::CantConnect, 1},
+      {"no connection", FakeAnswer::ObjectError(HttpFault::Lost), FakeAnswer::Body(kUpdate),
+       Kind::CantConnect, 1},
       {"a body", FakeAnswer::Body(kUpdate), FakeAnswer::Body(kUpdate), Kind::CantConnect, 1},
       {"wrong status", FakeAnswer::Status("500"), FakeAnswer::Body(kUpdate), Kind::CantConnect, 1},
       {"no target", FakeAnswer::Status("302", "HTTP/1.1 302\r\n\r\n"), FakeAnswer::Body(kUpdate),
@@ -213,7 +214,7 @@ TEST_F(UpdateExchangeTest, LeavesEverythingAloneWhenItFails) {
       {"too much", Redirect(kFileAt), FakeAnswer::Body(kUpdate + "\r\n"), Kind::NotComplete, 2},
       {"empty", Redirect(kFileAt), FakeAnswer::Body(""), Kind::NotComplete, 2},
       {"a loop", Redirect(kFileAt), Redirect(kFileAt), Kind::NotComplete, 2},
-      {"broken", Redirect(kFileAt), FakeAnswer::ObjectError("why"), Kind::NotComplete, 2},
+      {"broken", Redirect(kFileAt), FakeAnswer::ObjectError(HttpFault::Lost), Kind::NotComplete, 2},
       {"missing", Redirect(kFileAt), FakeAnswer::Status("404"), Kind::NotComplete, 2},
       {"empty list", Redirect(kFileAt),
        FakeAnswer::Body(Complete(Section("Station.snr", "x\r\n") + "date::1::\r\n")), Kind::Refused, 2},
@@ -236,7 +237,7 @@ TEST_F(UpdateExchangeTest, LeavesEverythingAloneWhenItFails) {
 }
 
 TEST_F(UpdateExchangeTest, TriesAgainByItselfOnlyWhenNobodyWatches) {
-  machine_->http.Answer("/update.asp", FakeAnswer::ObjectError("why"));
+  machine_->http.Answer("/update.asp", FakeAnswer::ObjectError(HttpFault::Lost));
   Exchange exchange(*machine_, caller::kBackground, kInstallAndRebuild);
   exchange.Run();
   const int soon = UpdateExchange::kSoon;

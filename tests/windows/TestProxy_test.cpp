@@ -5,6 +5,7 @@
 #include "forms/ControlIds.h"
 #include "forms/StringTable.h"
 #include "loopback/LoopbackServer.h"
+#include "net/HttpFaultText.h"
 #include "net/frmTestProxy.h"
 #include "platform/win/ClockWin.h"
 #include "platform/win/HttpControlWin.h"
@@ -47,7 +48,7 @@ class TestProxyTest : public testing::Test {
   FormContextForTests outside_;
   StringTable words_;
   FormContext forms_{words_, outside_.faceplate, outside_.shape};
-  HttpControlFactoryWin http_{"Test/1.0", [](HttpFault) { return std::string("why"); }, 500};
+  HttpControlFactoryWin http_{"Test/1.0", 500};
   ClockWin clock_;
   LoopbackServer proxy_;
 };
@@ -89,9 +90,9 @@ TEST_F(TestProxyTest, SaysWhetherTheProxyWorks) {
       {script::Body(""), kFails + "|" + other},
       {script::Status("407 it works"), kFails + "|The server answered with status 407."},
       {script::Redirect("http://it works/"), kFails + "|The server answered with status 302."},
-      {script::CutBody("it works, well", 9), kFails + "|why"},
-      {script::Silent(), kFails + "|why"},
-      {script::Exactly("it works"), kFails + "|why"},
+      {script::CutBody("it works, well", 9), kFails + "|" + HttpFaultText(HttpFault::CutShort, words_)},
+      {script::Silent(), kFails + "|" + HttpFaultText(HttpFault::Silent, words_)},
+      {script::Exactly("it works"), kFails + "|" + HttpFaultText(HttpFault::CutShort, words_)},
   };
   for (const auto& each : kCases) {
     proxy_.Answer("/", each.answer);
@@ -101,14 +102,15 @@ TEST_F(TestProxyTest, SaysWhetherTheProxyWorks) {
 
 TEST_F(TestProxyTest, ShowsHowFarItCameAndTriesAgain) {
   const auto form = Show(std::to_string(UnusedPort()));
-  EXPECT_EQ(Result(*form), kFails + "|why");
+  const std::string why = HttpFaultText(HttpFault::Refused, words_);
+  EXPECT_EQ(Result(*form), kFails + "|" + why);
   EXPECT_EQ(form->Text(lblProxyStep), "Proxy server found");
   EXPECT_TRUE(form->Text(lblProxyStepTime).ends_with(" ms"));
-  EXPECT_EQ(form->Text(lblProxyStep + 1), "why");
+  EXPECT_EQ(form->Text(lblProxyStep + 1), why);
   EXPECT_EQ(form->Text(lblProxyStep + 2), "");
   SendMessageA(form->Control(butTestAgainIt), BM_CLICK, 0, 0);
   EXPECT_EQ(form->Text(lblProxyStep + 1), "");
-  EXPECT_EQ(Result(*form), kFails + "|why");
+  EXPECT_EQ(Result(*form), kFails + "|" + why);
 }
 
 TEST_F(TestProxyTest, ClosingItHangsUp) {

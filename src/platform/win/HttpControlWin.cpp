@@ -32,7 +32,7 @@ UINT NameFoundMessage() {
 
 class HttpControlWin final : public HttpControl {
  public:
-  HttpControlWin(std::string userAgent, HttpFaultSentence sentence, unsigned silence, TransferPace pace);
+  HttpControlWin(std::string userAgent, unsigned silence, TransferPace pace);
   ~HttpControlWin() override;
   HttpControlWin(const HttpControlWin&) = delete;
   HttpControlWin& operator=(const HttpControlWin&) = delete;
@@ -76,7 +76,6 @@ class HttpControlWin final : public HttpControl {
   void EndWith(Tell tell);
 
   std::string userAgent_;
-  HttpFaultSentence sentence_;
   unsigned silence_;
   TransferPace pace_;
   std::uint64_t receivedInSpan_ = 0;  // of the pace
@@ -91,9 +90,8 @@ class HttpControlWin final : public HttpControl {
   HttpResponse response_;
 };
 
-HttpControlWin::HttpControlWin(std::string userAgent, HttpFaultSentence sentence, unsigned silence,
-                               TransferPace pace)
-    : userAgent_(std::move(userAgent)), sentence_(std::move(sentence)), silence_(silence), pace_(pace) {
+HttpControlWin::HttpControlWin(std::string userAgent, unsigned silence, TransferPace pace)
+    : userAgent_(std::move(userAgent)), silence_(silence), pace_(pace) {
   WNDCLASSA windowClass{};
   windowClass.lpfnWndProc = &WindowProcedure;
   windowClass.hInstance = GetModuleHandleA(nullptr);
@@ -352,19 +350,15 @@ void HttpControlWin::FailSoon(HttpFault fault) {
 
 void HttpControlWin::Fail(HttpFault fault) {
   HttpEvents& events = *events_;
-  const std::string reason = sentence_(fault);
   Cancel();
-  events.HTTPObjectError(reason);
+  events.HTTPObjectError(fault);
 }
 
 }  // namespace
 
-HttpControlFactoryWin::HttpControlFactoryWin(std::string userAgent, HttpFaultSentence sentence,
-                                             unsigned silenceMilliseconds, TransferPace pace)
-    : userAgent_(std::move(userAgent)),
-      sentence_(std::move(sentence)),
-      silence_(silenceMilliseconds),
-      pace_(pace) {
+HttpControlFactoryWin::HttpControlFactoryWin(std::string userAgent, unsigned silenceMilliseconds,
+                                             TransferPace pace)
+    : userAgent_(std::move(userAgent)), silence_(silenceMilliseconds), pace_(pace) {
   WSADATA data{};
   WSAStartup(MAKEWORD(2, 2), &data);  // without sockets every request fails by itself
 }
@@ -372,7 +366,7 @@ HttpControlFactoryWin::HttpControlFactoryWin(std::string userAgent, HttpFaultSen
 HttpControlFactoryWin::~HttpControlFactoryWin() { WSACleanup(); }
 
 std::unique_ptr<HttpControl> HttpControlFactoryWin::Make() {
-  return std::make_unique<HttpControlWin>(userAgent_, sentence_, silence_, pace_);
+  return std::make_unique<HttpControlWin>(userAgent_, silence_, pace_);
 }
 
 }  // namespace sonaro

@@ -8,17 +8,12 @@
 #include <windows.h>
 
 #include <cstdint>
-#include <functional>
 #include <memory>
 #include <string>
 
-#include "base/http/HttpFault.h"
 #include "platform/HttpControl.h"
 
 namespace sonaro {
-
-// Gives the sentence for the user that a failed transfer ends with.
-using HttpFaultSentence = std::function<std::string(HttpFault)>;
 
 // How fast a transfer has to be: a server that drips is no better than a silent one.
 struct TransferPace {
@@ -29,8 +24,8 @@ struct TransferPace {
 class HttpControlFactoryWin final : public HttpControlFactory {
  public:
   // A transfer ends after `silenceMilliseconds` without a byte, or when it does not keep the pace.
-  HttpControlFactoryWin(std::string userAgent, HttpFaultSentence sentence,
-                        unsigned silenceMilliseconds = 30000, TransferPace pace = {});
+  explicit HttpControlFactoryWin(std::string userAgent, unsigned silenceMilliseconds = 30000,
+                                 TransferPace pace = {});
   ~HttpControlFactoryWin() override;
   HttpControlFactoryWin(const HttpControlFactoryWin&) = delete;
   HttpControlFactoryWin& operator=(const HttpControlFactoryWin&) = delete;
@@ -39,7 +34,6 @@ class HttpControlFactoryWin final : public HttpControlFactory {
 
  private:
   std::string userAgent_;
-  HttpFaultSentence sentence_;
   unsigned silence_;
   TransferPace pace_;
 };
