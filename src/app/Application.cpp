@@ -148,7 +148,7 @@ bool Application::LoadMainWindow() {
       context_,
       GuideData{data_, reg_, strings_, state_, stations_, personal_, extra_, recent_, favorites_, source_,
                 [this](std::string_view text) { return platform_.systemInfo.SortKey(text); }},
-      player_, pages_, MakeMainWindowCalls());
+      MainServices{player_, scan_, pages_, help_, messages_, *schedule_, *service_, *this});
   if (!main_->Create()) {
     main_.reset();
     return SayNoWindow();
@@ -168,8 +168,8 @@ void Application::ConnectMainWindow() {
     main_->DirectoryChanged();
   });
   service_->SetProgress(
-      [this](int percent) { main_->ShowProgress(strings_.Load(IDS_NET_GETTING_DATA), percent); },
-      [this] { main_->EndProgress(); });
+      [this](int percent) { main_->Status().ShowProgress(strings_.Load(IDS_NET_GETTING_DATA), percent); },
+      [this] { main_->Status().EndProgress(); });
 }
 
 // Where the user left it, if that is still on a screen; the first time in the middle.
@@ -250,7 +250,7 @@ TrayActions Application::MakeTrayActions() {
   actions.openGroup = [this](const std::string& group) {
     if (!IsFree()) return;
     BringForward("");
-    main_->ShowGroupNamed(group);
+    main_->Groups().ShowGroupNamed(group);
   };
   actions.scheduleItemDue = [this](int slot) {
     if (main_) schedule_->AskForNotification(*main_, slot);
@@ -267,36 +267,6 @@ TrayActions Application::MakeTrayActions() {
     if (schedule_) schedule_->Minute();
   };
   return actions;
-}
-
-MainWindowCalls Application::MakeMainWindowCalls() {
-  MainWindowCalls calls;
-  calls.showSchedule = [this] { schedule_->ShowSchedule(main_->Window()); };
-  calls.scheduleStation = [this](const std::string& rowKey) {
-    schedule_->ScheduleStation(main_->Window(), rowKey);
-  };
-  calls.showUpdate = [this] { service_->ShowUpdate(main_->Window()); };
-  calls.canUndoUpdate = [this] { return service_->CanUndoUpdate(); };
-  calls.undoUpdate = [this] { service_->OfferUndo(main_->Window()); };
-  calls.showOptions = [this] { ShowOptions(main_->Window()); };
-  calls.showScan = [this] { ShowScan(); };
-  calls.addToScan = [this](const std::vector<std::string>& rowKeys) { scan_.Add(rowKeys); };
-  calls.scanIsAt = [this](int x, int y) { return scanWindow_ && scanWindow_->IsAt({x, y}); };
-  calls.dropOnScan = [this](const std::string& rowKey, int x, int y) {
-    if (scanWindow_) scanWindow_->TakeDropped(rowKey, {x, y});
-  };
-  calls.tellTray = [this](const std::string& text) { tray_.Tell(text); };
-  calls.hideToTray = [this] { main_->Hide(); };
-  calls.closeAsked = [this] { CloseAsked(); };
-  calls.exit = [this] { Exit(); };
-  calls.openHelpPage = [this](const std::string& page) { help_.OpenHelpPage(page); };
-  calls.comingEvents = [this] { return schedule_->ComingEvents(); };
-  calls.notifyMe = [this](std::size_t line) { return schedule_->NotifyMe(main_->Window(), line); };
-  calls.changePersonalShow = [this](std::size_t line) { schedule_->ChangePersonalShow(line); };
-  calls.nextNotice = [this] { return schedule_->NextNotice(); };
-  AddQuestions(calls);
-  AddStationDialogs(calls);
-  return calls;
 }
 
 std::vector<std::string> Application::GroupNames() const {
@@ -335,6 +305,8 @@ void Application::BringForward(std::string_view view) {
   SetForegroundWindow(main_->Window());
   if (!view.empty()) main_->BringUpView(view);
 }
+
+void Application::HideToTray() { main_->Hide(); }
 
 // The close button ends the program or hides it, as the user wants; the first time he is asked.
 void Application::CloseAsked() {

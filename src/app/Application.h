@@ -1,6 +1,6 @@
 // Owns the whole program: settings, tables, lists, player, schedule and windows, as members in the order in
 // which they need one another. The only place that knows every folder; windows reach each other through the
-// calls that are set here. A local variable of WinMain.
+// commands that are implemented here. A local variable of WinMain.
 #pragma once
 
 #include <memory>
@@ -26,12 +26,13 @@
 #include "settings/CReg.h"
 #include "settings/HelpPages.h"
 #include "settings/SettingsRegistry.h"
+#include "stations/Commands.h"
 #include "stations/ExtraLinks.h"
 #include "stations/FavoriteGroups.h"
 #include "stations/PersonalStations.h"
 #include "stations/RecentList.h"
 #include "stations/StationSource.h"
-#include "tray/OptionsModel.h"
+#include "tray/frmOptions.h"
 #include "tray/frmSysTrayMenu.h"
 
 namespace sonaro {
@@ -39,13 +40,11 @@ namespace sonaro {
 class ApplicationSchedule;
 class ApplicationService;
 class SonaroFrm;
-class frmOptions;
 class frmScan;
 class frmSplash;
 struct GuideData;
-struct MainWindowCalls;
 
-class Application final : private StartupView, private LaunchView {
+class Application final : private StartupView, private LaunchView, private ProgramCommands {
  public:
   // `program`: full path of the executable, whose folder is the data folder. `commandLine`: what follows the
   // program's name.
@@ -69,11 +68,19 @@ class Application final : private StartupView, private LaunchView {
   void ShowErrorText(const std::string& sentence) override;
   bool OfferPlayers(const std::string& sentence) override;
 
+  // What the windows ask for.
+  void Open(ProgramWindow window, Form* owner) override;
+  void HideToTray() override;
+  void CloseAsked() override;
+  void Exit() override;
+  bool ScanIsAt(int x, int y) override;
+  void DropOnScan(const std::string& rowKey, int x, int y) override;
+  void PlayNoticeSound() override;
+  void ChoosePlayer(Form& owner) override;
+  void TellTray(const std::string& text) override { tray_.Tell(text); }
+
   bool SayNoWindow();
   TrayActions MakeTrayActions();
-  MainWindowCalls MakeMainWindowCalls();
-  void AddQuestions(MainWindowCalls& calls);
-  void AddStationDialogs(MainWindowCalls& calls);
   void ReadData();
   void FinishedLoading();
   void SayWhatSettingsLack();
@@ -83,16 +90,11 @@ class Application final : private StartupView, private LaunchView {
   void TellOfFiles();
   void ShowOptions(HWND owner);
   bool ChoosePlayer(StartUpInfoPage page, HWND owner);
-  void EditPersonalStation(int index);
-  void DeletePersonalStation(int index);
-  void EditExtraLinks(std::int32_t stationId);
   void ConnectMainWindow();
   void PlaceMainWindow();
   void RememberPlace();
   bool IsFree();
   void BringForward(std::string_view view);
-  void CloseAsked();
-  void Exit();
   void PlaySoundFile(const char* fileName);
 
   Platform platform_;

@@ -11,6 +11,7 @@
 #include "schedule/Notification.h"
 #include "schedule/ScheduleTexts.h"
 #include "schedule/TimeZone.h"
+#include "schedule/frmAboutEventTime.h"
 #include "schedule/frmSchedChange.h"
 #include "settings/AppState.h"
 #include "settings/CReg.h"
@@ -147,11 +148,16 @@ void ApplicationSchedule::ShowSchedule(HWND owner) {
   list_.FillLists();
 }
 
-void ApplicationSchedule::ScheduleStation(HWND owner, const std::string& rowKey) {
+void ApplicationSchedule::ScheduleStation(Form& owner, const std::string& rowKey) {
   const std::string name = needs_.source.NameOf(StationKey::FromRowKey(rowKey));
   ScheduleDraft draft =
       ScheduleDraft::ForStation(name.empty() ? "" : rowKey, name, needs_.platform.clock.LocalNow());
-  frmSchedChange(needs_.context, services_, std::move(draft)).ShowModal(owner);
+  frmSchedChange(needs_.context, services_, std::move(draft)).ShowModal(owner.Window());
+}
+
+void ApplicationSchedule::ExplainTimes(Form& owner) {
+  frmAboutEventTime(needs_.context, needs_.platform.clock, needs_.platform.shell, needs_.help)
+      .ShowModal(owner.Window());
 }
 
 std::vector<EventLine> ApplicationSchedule::ComingEvents() {
@@ -182,10 +188,10 @@ bool ApplicationSchedule::IsNoticed(const EventRecord& event, const DateTime& lo
   return false;
 }
 
-bool ApplicationSchedule::NotifyMe(HWND owner, std::size_t line) {
-  if (line >= coming_.size()) return false;
+void ApplicationSchedule::NotifyMe(Form& owner, std::size_t line) {
+  if (line >= coming_.size()) return;
   ScheduleDraft draft = ScheduleDraft::ForEvent(coming_[line].record, needs_.platform.clock);
-  return frmSchedChange(needs_.context, services_, std::move(draft)).ShowModal(owner) == 1;
+  frmSchedChange(needs_.context, services_, std::move(draft)).ShowModal(owner.Window());
 }
 
 void ApplicationSchedule::ChangePersonalShow(std::size_t line) {
@@ -199,7 +205,7 @@ void ApplicationSchedule::ChangePersonalShow(std::size_t line) {
   list_.FillLists();
 }
 
-NextNotice ApplicationSchedule::NextNotice() {
+NextNotice ApplicationSchedule::SoonestNotice() {
   const DateTime now = needs_.platform.clock.LocalNow();
   std::optional<DateTime> soonest;
   std::size_t found = 0;

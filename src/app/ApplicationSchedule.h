@@ -10,7 +10,6 @@
 
 #include "directory/EvList.h"
 #include "forms/Form.h"
-#include "mainwindow/MainWindowCalls.h"
 #include "platform/Platform.h"
 #include "schedule/EventDiary.h"
 #include "schedule/PersonalShows.h"
@@ -22,6 +21,7 @@
 #include "schedule/frmNotifyStack.h"
 #include "schedule/frmSched.h"
 #include "schedule/frmschedtime.h"
+#include "stations/Commands.h"
 
 namespace sonaro {
 
@@ -40,7 +40,7 @@ class Strings;
 class WebPages;
 struct AppState;
 
-class ApplicationSchedule {
+class ApplicationSchedule final : public ScheduleCommands {
  public:
   struct Dependencies {
     const Platform& platform;
@@ -77,15 +77,14 @@ class ApplicationSchedule {
   void ShowNotification(const std::string& asked);
 
   void ShowSchedule(HWND owner);
-  void ScheduleStation(HWND owner, const std::string& rowKey);
 
-  // The page of the user's own things.
-  std::vector<EventLine> ComingEvents();
-  // Schedules an event of ComingEvents; true when the user will be told of it.
-  bool NotifyMe(HWND owner, std::size_t line);
-  // Makes an event of ComingEvents a personal show, or no longer one.
-  void ChangePersonalShow(std::size_t line);
-  sonaro::NextNotice NextNotice();
+  void ScheduleStation(Form& owner, const std::string& rowKey) override;
+  void ExplainTimes(Form& owner) override;
+  std::vector<EventLine> ComingEvents() override;
+  void NotifyMe(Form& owner, std::size_t line) override;
+  void ChangePersonalShow(std::size_t line) override;
+  NextNotice SoonestNotice() override;
+
   void DirectoryChanged();
 
  private:

@@ -29,7 +29,7 @@ UpdateDependencies ApplicationService::MakeUpdateDependencies() {
 }
 
 void ApplicationService::ShowUpdate(HWND owner) { OpenDialog(owner, UpdateOpening::Begin); }
-void ApplicationService::OfferUndo(HWND owner) { OpenDialog(owner, UpdateOpening::OfferUndo); }
+void ApplicationService::OfferUndo(Form& owner) { OpenDialog(owner.Window(), UpdateOpening::OfferUndo); }
 
 void ApplicationService::OpenDialog(HWND owner, UpdateOpening opening) {
   if (dialog_ && dialog_->IsUpdating()) {
@@ -118,16 +118,16 @@ std::vector<std::int32_t> ApplicationService::StationsOfGroups() const {
   return ids;
 }
 
-void ApplicationService::TestProxy(HWND owner, const std::string& address, const std::string& port) {
+void ApplicationService::TestProxy(Form& owner, const std::string& address, const std::string& port) {
   frmTestProxy(needs_.context, needs_.reg, needs_.platform.http, needs_.platform.clock, address, port)
-      .ShowModal(owner);
+      .ShowModal(owner.Window());
 }
 
 std::string ApplicationService::DetectProxy() {
-  return needs_.reg.Get(setting::kProxyUse) ? std::string() : BrowserProxy();
+  return needs_.reg.Get(setting::kProxyUse) ? std::string() : FindProxy();
 }
 
-std::string ApplicationService::BrowserProxy() {
+std::string ApplicationService::FindProxy() {
   const std::string proxy = DetectIeProxy(needs_.reg);
   return proxy.empty() ? DetectNetscapeProxy(needs_.reg, needs_.platform.files) : proxy;
 }

@@ -11,6 +11,7 @@
 #include "net/UpdateExchange.h"
 #include "net/UpdateInstall.h"
 #include "platform/Platform.h"
+#include "stations/Commands.h"
 
 namespace sonaro {
 
@@ -25,7 +26,7 @@ class frmUpdateDialog;
 enum class UpdateOpening;
 struct UpdateOpener;
 
-class ApplicationService {
+class ApplicationService final : public UpdateCommands {
  public:
   struct Dependencies {
     const Platform& platform;
@@ -39,7 +40,7 @@ class ApplicationService {
   };
 
   explicit ApplicationService(const Dependencies& needs);
-  ~ApplicationService();
+  ~ApplicationService() override;
 
   // Called after the station list was replaced.
   void SetDirectoryChanged(std::function<void()> changed) { directoryChanged_ = std::move(changed); }
@@ -54,19 +55,18 @@ class ApplicationService {
 
   // The update dialog; an update that runs unwatched makes way for it.
   void ShowUpdate(HWND owner);
-  // The same dialog, with nothing but the way back to the guide of before the last update.
-  bool CanUndoUpdate() const { return install_.CanUndo(); }
-  void OfferUndo(HWND owner);
+  bool CanUndoUpdate() override { return install_.CanUndo(); }
+  void OfferUndo(Form& owner) override;
   void FinishUndo() { install_.FinishUndo(); }  // early in the start
   // When the program has finished loading, and after every update: an update that is on the to-do list,
   // unwatched.
   void RunPendingWork();
-  void TestProxy(HWND owner, const std::string& address, const std::string& port);
+  void TestProxy(Form& owner, const std::string& address, const std::string& port) override;
 
   // "host:port" of the proxy that a browser is set to, or "". Nothing when a proxy is in use already.
   std::string DetectProxy();
   // The same, whether or not a proxy is in use.
-  std::string BrowserProxy();
+  std::string FindProxy() override;
 
  private:
   void OpenDialog(HWND owner, UpdateOpening opening);

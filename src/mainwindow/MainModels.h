@@ -2,11 +2,10 @@
 // main window; the data that it works on belongs to Application.
 #pragma once
 
-#include <utility>
-
 #include "base/DataFolder.h"
 #include "base/Text.h"
 #include "mainwindow/BrowseTree.h"
+#include "mainwindow/CommandSubject.h"
 #include "mainwindow/Rankings.h"
 #include "mainwindow/SearchPanel.h"
 #include "mainwindow/StationActions.h"
@@ -35,7 +34,7 @@ struct GuideData {
   const AppState& state;
   StatList& stations;
   PersonalStations& personal;
-  const ExtraLinks& extra;
+  ExtraLinks& extra;
   RecentList& recent;
   FavoriteGroups& favorites;
   const StationSource& source;
@@ -43,14 +42,15 @@ struct GuideData {
 };
 
 struct MainModels {
-  MainModels(const GuideData& data, TellTray tellTray)
+  MainModels(const GuideData& data, TrayMessages& tray)
       : tree(data.folder, data.sortKey),
         rankings(data.folder),
         lists(data.stations, data.personal, data.recent, data.strings),
         listing(lists, rankings, data.favorites, tree, data.strings, data.sortKey),
-        search(data.folder, data.settings, listing, std::move(tellTray)),
+        search(data.folder, data.settings, listing, tray),
         details(data.source, data.personal, data.extra, data.strings, data.state),
         actions(listing, data.favorites, data.strings),
+        subject(listing, data.favorites),
         transfer(data.folder.FileSystem(), data.favorites, data.personal, data.source) {}
 
   BrowseTree tree;
@@ -60,6 +60,7 @@ struct MainModels {
   SearchPanel search;
   StationDetails details;
   StationActions actions;
+  CommandSubject subject;
   PlaylistTransfer transfer;
 };
 

@@ -9,6 +9,7 @@
 #include "mainwindow/StationListState.h"
 #include "settings/CReg.h"
 #include "settings/SettingNames.h"
+#include "stations/Commands.h"
 
 namespace sonaro {
 namespace {
@@ -75,7 +76,7 @@ void SearchPanel::FindInTheDirectory(const std::string& text, bool allWords) {
   settings_.Set(setting::kSearchList, history.ToSetting());
   last_ = LastKind::Station;
   listing_.ShowSearch(text, allWords);
-  tellTray_(std::string(kTrayResults) + '\t' + listing_.LastSearchIds() + '\t' + text);
+  tray_.TellTray(std::string(kTrayResults) + '\t' + listing_.LastSearchIds() + '\t' + text);
 }
 
 }  // namespace sonaro

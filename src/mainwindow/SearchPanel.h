@@ -4,7 +4,6 @@
 #pragma once
 
 #include <cstddef>
-#include <functional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -16,9 +15,7 @@ namespace sonaro {
 class CReg;
 class DataFolder;
 class StationListState;
-
-// Takes a text for the small tray menu window, such as "SearchResults", tab, identifiers, tab, words.
-using TellTray = std::function<void(const std::string& text)>;
+class TrayMessages;
 
 struct SearchKind {
   std::string caption;
@@ -39,8 +36,8 @@ class SearchPanel {
   // What the last search of this run was.
   enum class LastKind { None, Web, Station };
 
-  SearchPanel(DataFolder& data, CReg& settings, StationListState& listing, TellTray tellTray)
-      : data_(data), settings_(settings), listing_(listing), tellTray_(std::move(tellTray)) {}
+  SearchPanel(DataFolder& data, CReg& settings, StationListState& listing, TrayMessages& tray)
+      : data_(data), settings_(settings), listing_(listing), tray_(tray) {}
 
   // Reads the kinds. Without a file there is one: the directory, captioned `builtInCaption`.
   void LoadSearchKinds(std::string builtInCaption);
@@ -66,7 +63,7 @@ class SearchPanel {
   DataFolder& data_;
   CReg& settings_;
   StationListState& listing_;
-  TellTray tellTray_;
+  TrayMessages& tray_;
   std::vector<SearchKind> kinds_;
   LastKind last_ = LastKind::None;
   std::string webCaption_;

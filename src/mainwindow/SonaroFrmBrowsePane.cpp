@@ -1,15 +1,48 @@
 #include "mainwindow/SonaroFrmBrowsePane.h"
 
+#include <array>
 #include <vector>
 
 #include "forms/ControlIds.h"
-#include "forms/Form.h"
 #include "forms/controls/TreeView.h"
 #include "settings/FormatCount.h"
+#include "stations/PersonalStations.h"
 
 namespace sonaro {
+namespace {
 
-void BrowsePane::Show(std::size_t personalStations) {
+// In the order of the ranking buttons. The least popular stations have a menu entry only.
+constexpr std::array kRankingButtons{Ranking::NewStations, Ranking::MostPop,   Ranking::BestOverall,
+                                     Ranking::BestSound,   Ranking::BestSpeed, Ranking::BestWebsite,
+                                     Ranking::MostReliable};
+
+}  // namespace
+
+std::span<const EventRow> BrowsePane::Events() const {
+  static const EventRow kRows[] = {
+      {butNewStations, Click, &BrowsePane::butRanking_Click, 7},
+      {mnuActionNewStations, Click, &BrowsePane::mnuActionRanking_Click, 8},
+      {treeBrowse, NodeClick, &BrowsePane::treeBrowse_NodeClick},
+      {treeBrowse, ContextMenu, &BrowsePane::treeBrowse_ContextMenu},
+  };
+  return kRows;
+}
+
+void BrowsePane::Show() {
+  const ListingState& state = context_.models.listing.State();
+  for (int button = 0; button < static_cast<int>(kRankingButtons.size()); ++button) {
+    form_.SetToggle(butNewStations + button,
+                    state.ranking == kRankingButtons[static_cast<std::size_t>(button)]);
+  }
+  if (state.view == View::Browse || state.view == View::BrowseLoc) ShowTree();
+}
+
+void BrowsePane::GuideChanged() {
+  if (tree_.Mode() != BrowseMode::NotBuilt) tree_.FillBrowseTree(tree_.Mode());
+  shown_ = BrowseMode::NotBuilt;
+}
+
+void BrowsePane::ShowTree() {
   TreeView& view = form_.Tree(treeBrowse);
   if (shown_ != tree_.Mode()) {
     shown_ = tree_.Mode();
@@ -18,7 +51,7 @@ void BrowsePane::Show(std::size_t personalStations) {
     FillView(view);
     view.EndFill();
   }
-  view.SetFigure(personal_, Figure(personalStations));
+  view.SetFigure(personal_, Figure(context_.data.personal.All().size()));
 }
 
 void BrowsePane::FillView(TreeView& view) {
@@ -42,12 +75,29 @@ void BrowsePane::FillView(TreeView& view) {
 }
 
 std::string BrowsePane::Figure(std::size_t count) const {
-  return count > 0 ? FormatCount(count, state_.decimalMode) : std::string();
+  return count > 0 ? FormatCount(count, context_.data.state.decimalMode) : std::string();
 }
 
-const BrowseNode* BrowsePane::NodeAt(HTREEITEM item) const {
+void BrowsePane::butRanking_Click(int button) {
+  context_.models.listing.ShowRanking(kRankingButtons[static_cast<std::size_t>(button)]);
+  context_.view.ShowEverything();
+}
+
+void BrowsePane::mnuActionRanking_Click(int entry) {
+  if (const auto ranking = RankingOfCommand(mnuActionNewStations + entry))
+    context_.models.listing.ShowRanking(*ranking);
+  context_.view.ShowEverything();
+}
+
+void BrowsePane::treeBrowse_NodeClick(HTREEITEM item) {
   const int node = form_.Tree(treeBrowse).Data(item);
-  return node >= 0 && static_cast<std::size_t>(node) < tree_.NodeCount() ? &tree_.Node(node) : nullptr;
+  if (node < 0 || static_cast<std::size_t>(node) >= tree_.NodeCount()) return;
+  context_.models.listing.treeBrowse_NodeClick(tree_.Node(node));
+  context_.view.ShowEverything();
+}
+
+void BrowsePane::treeBrowse_ContextMenu(int, POINT at) {
+  form_.PopUpMenu(context_.models.actions.PersonalMenu(), at);
 }
 
 }  // namespace sonaro

@@ -1,4 +1,4 @@
-// The browse tree in the left column. Part of SonaroFrm.
+// The left column with the rankings or the browse tree. Part of SonaroFrm.
 #pragma once
 
 #include <windows.h>
@@ -8,34 +8,37 @@
 #include <cstddef>
 #include <string>
 
-#include "mainwindow/BrowseTree.h"
-#include "settings/AppState.h"
+#include "mainwindow/MainPane.h"
 
 namespace sonaro {
 
-class Form;
 class TreeView;
 
-class BrowsePane {
+class BrowsePane final : public EventTarget {
  public:
-  BrowsePane(Form& form, const BrowseTree& tree, const AppState& state)
-      : form_(form), tree_(tree), state_(state) {}
+  explicit BrowsePane(const MainContext& context)
+      : context_(context), form_(context.form), tree_(context.models.tree) {}
 
-  // Shows the tree as it is built; the same tree keeps its expansion and its selection, whatever the number
-  // of the user's own stations.
-  void Show(std::size_t personalStations);
-  // The next Show takes the tree over anew.
-  void TreeChanged() { shown_ = BrowseMode::NotBuilt; }
-  // Null for nullptr.
-  const BrowseNode* NodeAt(HTREEITEM item) const;
+  // Lights the ranking on show; in the browsing views shows the tree as it is built. The same tree keeps its
+  // expansion and its selection, whatever the number of the user's own stations.
+  void Show();
+  // The guide is another one.
+  void GuideChanged();
 
  private:
+  std::span<const EventRow> Events() const override;
+  void ShowTree();
   void FillView(TreeView& view);
   std::string Figure(std::size_t count) const;
 
+  void butRanking_Click(int button);
+  void mnuActionRanking_Click(int entry);
+  void treeBrowse_NodeClick(HTREEITEM item);
+  void treeBrowse_ContextMenu(int row, POINT at);
+
+  const MainContext& context_;
   Form& form_;
-  const BrowseTree& tree_;
-  const AppState& state_;
+  BrowseTree& tree_;
   BrowseMode shown_ = BrowseMode::NotBuilt;
   HTREEITEM personal_ = nullptr;  // "Your Stations"
 };

@@ -1,11 +1,15 @@
 #include "mainwindow/SonaroFrmDetailPane.h"
 
+#include "forms/Clipboard.h"
 #include "forms/ControlIds.h"
-#include "forms/Form.h"
 #include "forms/controls/RatingPicture.h"
 #include "forms/paint/Painter.h"
 #include "mainwindow/SonaroFrm_panes.h"
-#include "mainwindow/StationDetailBuilder.h"
+#include "mainwindow/frmExtraLink.h"
+#include "playback/PlayerLaunch.h"
+#include "playback/StationScan.h"
+#include "settings/WebPageOpener.h"
+#include "stations/RecentList.h"
 
 namespace sonaro {
 namespace {
@@ -29,6 +33,21 @@ void PaintNoStation(HDC dc, const RECT& box, const Painter& painter) {
 
 }  // namespace
 
+std::span<const EventRow> DetailPane::Events() const {
+  static const EventRow kRows[] = {
+      {butGoMediaLinkOneIt, Click, &DetailPane::butGoMediaLink_Click, 3},
+      {butGoWebPageIt, Click, &DetailPane::butGoWebPageIt_Click},
+      {mnuActionPlayOne, Click, &DetailPane::mnuActionPlay_Click, 3},
+      {mnuActionPlayExtra, Click, &DetailPane::mnuActionPlayExtra_Click, 20},
+      {mnuActionWebSite, Click, &DetailPane::butGoWebPageIt_Click},
+      {mnuActionCopyLink, Click, &DetailPane::mnuActionCopyLink_Click},
+      {mnuActionAddToScan, Click, &DetailPane::mnuActionAddToScan_Click},
+      {mnuActionSchedule, Click, &DetailPane::mnuActionSchedule_Click},
+      {mnuActionExtraLink, Click, &DetailPane::mnuActionExtraLink_Click},
+  };
+  return kRows;
+}
+
 void DetailPane::Load() {
   form_.SetPicture(picNoStation, PaintNoStation);
   form_.SetPicture(picHairAbove, PaintHair);
@@ -36,7 +55,9 @@ void DetailPane::Load() {
   form_.SetPicture(picPin, PaintPin);
 }
 
-void DetailPane::Show(const StationDetailBuilder& detail) {
+void DetailPane::Show(const StationKey& station) {
+  subject_.Show(context_.models.details.Of(station));
+  const StationDetailBuilder& detail = subject_.Shown();
   const bool anything = !detail.name.empty();
   form_.ShowPane(kStationPane, anything);
   form_.ShowPane(kNoStationPane, !anything);
@@ -65,6 +86,70 @@ void DetailPane::ShowPlayButtons(const StationDetailBuilder& detail) {
     form_.SetDetail(kPlayButtonIds[i], key.bitRate + "\t" + std::to_string(i + 1));
     form_.ShowControl(kPlayButtonIds[i], key.shown);
   }
+}
+
+void DetailPane::butGoMediaLink_Click(int link) {
+  const StationDetailBuilder& station = subject_.Station();
+  // A station may lack a first link and have others: what is asked for is the first that plays.
+  std::size_t wanted = static_cast<std::size_t>(link);
+  while (link == 0 && wanted + 1 < StationDetailBuilder::kPlayButtons && !station.playButtons[wanted].shown)
+    ++wanted;
+  if (station.playButtons[wanted].shown) {
+    Play(station.playButtons[wanted]);
+  } else if (link == 0 && station.station) {
+    Play(
+        station
+            .playButtons[0]);  // without a link of its own: its web site, and it was listened to all the same
+  }
+}
+
+void DetailPane::mnuActionPlay_Click(int link) {
+  const StationDetailBuilder& station = subject_.Station();
+  const auto index = static_cast<std::size_t>(link);
+  if (station.playButtons[index].shown) Play(station.playButtons[index]);
+}
+
+void DetailPane::mnuActionPlayExtra_Click(int link) {
+  const StationDetailBuilder& station = subject_.Station();
+  const auto index = static_cast<std::size_t>(link);
+  if (index >= station.extraButtons.size()) return;
+  Play(station.extraButtons[index]);
+}
+
+void DetailPane::Play(const PlayButton& key) {
+  const PlayRequest request = key.request;  // what is shown changes with the recent list
+  // A bare link does not tell whose it is, so the play is noted here.
+  if (request.mode == PlayMode::KeyItself) context_.data.recent.AddRecent(subject_.Station().station.Token());
+  context_.services.player.LaunchStation(request.key, request.mode);
+}
+
+void DetailPane::butGoWebPageIt_Click() {
+  const StationDetailBuilder& station = subject_.Station();
+  if (station.station && station.hasWebSite) context_.services.pages.OpenWebPage(station.station.Token());
+}
+
+void DetailPane::mnuActionCopyLink_Click() {
+  if (!subject_.Station().firstLink.empty()) CopyToClipboard(form_.Window(), subject_.Station().firstLink);
+}
+
+void DetailPane::mnuActionAddToScan_Click() {
+  const StationKey station = subject_.Station().station;
+  if (station) context_.services.scan.Add(std::vector{station.RowKey()});
+}
+
+void DetailPane::mnuActionSchedule_Click() {
+  const StationKey station = subject_.Station().station;
+  if (station) context_.services.schedule.ScheduleStation(form_, station.RowKey());
+}
+
+void DetailPane::mnuActionExtraLink_Click() {
+  const StationKey station = subject_.Station().station;
+  if (station.kind != StationKey::Kind::Directory) return;
+  const GuideData& data = context_.data;
+  frmExtraLink dialog(context_.forms, data.extra, context_.services.messages, station.number,
+                      data.source.NameOf(station));
+  if (dialog.ShowModal(form_.Window()) == 1) context_.view.PersonalStationsChanged();
+  context_.view.ShowSelection();
 }
 
 }  // namespace sonaro

@@ -1,23 +1,41 @@
-// The selected station at the right of the main window. Part of SonaroFrm.
+// The selected station at the right of the main window, and what can be done with a station: it is played,
+// its web site opened, it goes to the scan or the schedule. In a menu the commands mean the station that the
+// menu was opened for. Part of SonaroFrm.
 #pragma once
+
+#include "mainwindow/MainPane.h"
 
 namespace sonaro {
 
-class Form;
-struct StationDetailBuilder;
-
-class DetailPane {
+class DetailPane final : public EventTarget {
  public:
-  explicit DetailPane(Form& form) : form_(form) {}
+  explicit DetailPane(const MainContext& context)
+      : context_(context), form_(context.form), subject_(context.models.subject) {}
 
   void Load();
-  void Show(const StationDetailBuilder& detail);
+  // Shows the station; a key that no station has shows that none is selected.
+  void Show(const StationKey& station);
+  // A station may lack a first link and have others: plays the first that there is.
+  void PlayFirst() { butGoMediaLink_Click(0); }
 
  private:
+  std::span<const EventRow> Events() const override;
   void ShowRatings(const StationDetailBuilder& detail);
   void ShowPlayButtons(const StationDetailBuilder& detail);
+  void Play(const PlayButton& key);
 
+  void butGoMediaLink_Click(int link);
+  void mnuActionPlay_Click(int link);
+  void mnuActionPlayExtra_Click(int link);
+  void butGoWebPageIt_Click();
+  void mnuActionCopyLink_Click();
+  void mnuActionAddToScan_Click();
+  void mnuActionSchedule_Click();
+  void mnuActionExtraLink_Click();
+
+  const MainContext& context_;
   Form& form_;
+  CommandSubject& subject_;
 };
 
 }  // namespace sonaro

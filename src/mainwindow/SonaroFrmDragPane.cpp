@@ -7,9 +7,10 @@
 #include <utility>
 
 #include "forms/ControlIds.h"
-#include "forms/Form.h"
 #include "forms/Guard.h"
 #include "forms/controls/ListView.h"
+#include "mainwindow/SonaroFrmGroupsPane.h"
+#include "mainwindow/SonaroFrmListPane.h"
 #include "stations/FavoriteGroups.h"
 
 namespace sonaro {
@@ -29,13 +30,12 @@ constexpr int kNoCursor = 32648;
 
 }  // namespace
 
-void DragPane::Load(Asks asks) {
-  asks_ = std::move(asks);
+void DragPane::Load() {
   for (int slot = 0; slot < kSlots; ++slot) {
     SetWindowSubclass(form_.Control(butFavs + slot), GroupButtonProcedure, static_cast<UINT_PTR>(slot),
                       reinterpret_cast<DWORD_PTR>(this));
   }
-  form_.List(lstFavs).onBeginDrag = [this](int row) { Begin(Thing::Row, asks_.rowKey(row)); };
+  form_.List(lstFavs).onBeginDrag = [this](int row) { Begin(Thing::Row, list_.KeyAt(row)); };
 }
 
 LRESULT CALLBACK DragPane::GroupButtonProcedure(HWND key, UINT message, WPARAM wParam, LPARAM lParam,
@@ -57,9 +57,8 @@ void DragPane::WatchGroupButton(UINT message, WPARAM wParam, LPARAM lParam, int 
   } else if (message == WM_MOUSEMOVE && (wParam & MK_LBUTTON) != 0 && pressedSlot_ == slot) {
     const bool moved = std::abs(at.x - pressedAt_.x) > GetSystemMetrics(SM_CXDRAG) ||
                        std::abs(at.y - pressedAt_.y) > GetSystemMetrics(SM_CYDRAG);
-    if (moved)
-      Begin(Thing::Group,
-            asks_.groupName(slot));  // takes the mouse from the key, which then is not pressed any more
+    // It takes the mouse from the button, which then is not pressed any more.
+    if (moved) Begin(Thing::Group, groups_.NameOf(static_cast<std::size_t>(slot)));
   }
 }
 
@@ -72,25 +71,38 @@ void DragPane::Begin(Thing what, std::string name) {
   Follow();
 }
 
-std::optional<DragPane::Drop> DragPane::Handle(UINT message) {
-  if (what_ == Thing::Nothing) return std::nullopt;
+bool DragPane::Handle(UINT message) {
+  if (what_ == Thing::Nothing) return false;
+  Drop drop;
   switch (message) {
     case WM_MOUSEMOVE:
       Follow();
-      return std::nullopt;
-    case WM_LBUTTONUP: {
-      const Drop drop = DropAt(PointOfMessage());
-      End();
-      return drop;
-    }
+      return false;
+    case WM_LBUTTONUP:
+      drop = DropAt(PointOfMessage());
+      break;
     case WM_CAPTURECHANGED:
     case WM_CANCELMODE:
     case WM_RBUTTONDOWN:
-      End();
-      return Drop{};
+      break;
     default:
-      return std::nullopt;
+      return false;
   }
+  const Thing what = what_;
+  const std::string name = name_;
+  End();
+  groups_.Show();
+  Take(drop, what, name);
+  return true;
+}
+
+void DragPane::Take(const Drop& drop, Thing what, const std::string& name) {
+  if (what == Thing::Row && drop.onto == Thing::Group) groups_.TakeDropped(name, drop.to);
+  if (what == Thing::Row && drop.onto == Thing::Row) list_.MoveRow(name, drop.to);
+  if (what == Thing::Row && drop.onto == Thing::Scan) {
+    context_.services.program.DropOnScan(name, static_cast<int>(drop.at.x), static_cast<int>(drop.at.y));
+  }
+  if (what == Thing::Group && drop.onto == Thing::Group) groups_.MoveGroup(name, drop.to);
 }
 
 void DragPane::End() {
@@ -109,9 +121,10 @@ int DragPane::SlotAt(POINT screen) const {
 }
 
 DragPane::Drop DragPane::DropAt(POINT screen) const {
-  Drop drop{what_, name_, Thing::Nothing, 0, screen};
+  Drop drop{Thing::Nothing, 0, screen};
   // First: it may lie over the main window.
-  if (what_ == Thing::Row && asks_.scanIsAt && asks_.scanIsAt(screen.x, screen.y)) {
+  if (what_ == Thing::Row &&
+      context_.services.program.ScanIsAt(static_cast<int>(screen.x), static_cast<int>(screen.y))) {
     drop.onto = Thing::Scan;
   } else if (const int slot = SlotAt(screen); slot >= 0) {
     drop.onto = Thing::Group;
@@ -129,7 +142,7 @@ void DragPane::Follow() {
   const int slot = drop.onto == Thing::Group ? drop.to : -1;
   if (slot == overSlot_) return;
   overSlot_ = slot;
-  asks_.over(slot);
+  groups_.ShowDropOn(slot);
 }
 
 }  // namespace sonaro

@@ -3,15 +3,34 @@
 #include <algorithm>
 
 #include "forms/ControlIds.h"
-#include "forms/Form.h"
+#include "mainwindow/SonaroFrmDetailPane.h"
+#include "mainwindow/SonaroFrmGroupsPane.h"
+#include "mainwindow/SonaroFrmPersonalPane.h"
 #include "mainwindow/SonaroFrm_panes.h"
 #include "mainwindow/SortEntries.h"
-#include "mainwindow/StationListState.h"
+#include "playback/StationScan.h"
 #include "resources/texts/mainwindow.h"
 #include "settings/FormatCount.h"
 #include "settings/Strings.h"
 
 namespace sonaro {
+
+std::span<const EventRow> ListPane::Events() const {
+  static const EventRow kRows[] = {
+      {lstFavs, ItemSelected, &ListPane::lstFavs_ItemSelected},
+      {lstFavs, ItemActivated, &ListPane::lstFavs_ItemActivate},
+      {lstFavs, ContextMenu, &ListPane::lstFavs_ContextMenu},
+      {butSplit1, Click, &ListPane::butSplit_Click, 4},
+      {butSplit1, ContextMenu, &ListPane::butSplit_ContextMenu, 4},
+      {mnuSortByName, Click, &ListPane::mnuSort_Click, 18},  // the sort menu's and the action menu's
+      {butMissing, Click, &ListPane::butMissing_Click},
+      {mnuRemoveRow, Click, &ListPane::mnuRemoveRow_Click},
+      {mnuActionMoveUp, Click, &ListPane::mnuActionMoveUp_Click},
+      {mnuActionMoveDown, Click, &ListPane::mnuActionMoveDown_Click},
+      {mnuActionAddListToScan, Click, &ListPane::mnuActionAddListToScan_Click},
+  };
+  return kRows;
+}
 
 void ListPane::Load() {
   ListView& list = form_.List(lstFavs);
@@ -35,7 +54,8 @@ void ListPane::ShowRows() {
   const int textId = count == 1 ? IDS_COUNT_ONE_STATION : IDS_COUNT_STATIONS;
   form_.SetText(lblCount, state.holds == Holds::Nothing && count == 0
                               ? std::string()
-                              : FormatText(form_.LoadText(textId), {FormatCount(count, state_.decimalMode)}));
+                              : FormatText(form_.LoadText(textId),
+                                           {FormatCount(count, context_.data.state.decimalMode)}));
 }
 
 // Beside the caption, which is shorter then.
@@ -43,7 +63,8 @@ void ListPane::ShowMissing() {
   const ListingState& state = listing_.State();
   const std::size_t count = state.middle == Middle::StationList ? state.missing.size() : 0;
   const int textId = count == 1 ? IDS_GROUP_MISSING_ONE : IDS_GROUP_MISSING;
-  form_.SetText(butMissing, FormatText(form_.LoadText(textId), {FormatCount(count, state_.decimalMode)}));
+  form_.SetText(butMissing,
+                FormatText(form_.LoadText(textId), {FormatCount(count, context_.data.state.decimalMode)}));
   form_.ShowControl(butMissing, count > 0);
   form_.UseLayout(count > 0 ? kMainLayoutWithMissing : 0);
 }
@@ -88,8 +109,72 @@ void ListPane::ShowSort() {
   }
 }
 
-void ListPane::TakeSelection(int row) {
+void ListPane::lstFavs_ItemSelected(int row) {
   if (row >= 0) listing_.Rows().Select(static_cast<std::size_t>(row));
+  context_.view.ShowSelection();
+}
+
+void ListPane::lstFavs_ItemActivate(int) { detail_.PlayFirst(); }
+
+void ListPane::lstFavs_ContextMenu(int, POINT at) {
+  const CommandSubject& subject = context_.models.subject;
+  const auto group = subject.GroupOnShow();
+  context_.PopUpMenuFor(
+      {.station = subject.Shown(), .group = group ? std::string(context_.data.favorites.Name(*group)) : ""},
+      context_.models.actions.ActionMenu(subject.Shown()), at);
+}
+
+void ListPane::butSplit_Click(int column) { SortBy(butSplit1 + column); }
+
+void ListPane::butSplit_ContextMenu(int, POINT at) {
+  form_.PopUpMenu(context_.models.actions.SortMenu(), at);
+}
+
+void ListPane::mnuSort_Click(int entry) {
+  if (context_.forms.clickSound) context_.forms.clickSound();
+  SortBy(mnuSortByName + entry);
+}
+
+void ListPane::SortBy(int command) {
+  const auto entry = SortEntryOf(command);
+  if (!entry) return;
+  listing_.Rows().SortBy(entry->key, entry->order);
+  ShowSort();
+  ShowRows();
+}
+
+void ListPane::butMissing_Click() {
+  groups_.Commands().TakeOutMissing();
+  context_.view.ShowEverything();
+}
+
+// What removing means for the list on show: a group loses a member, the user's own stations one of them.
+void ListPane::mnuRemoveRow_Click() {
+  if (listing_.State().holds == Holds::PersonalStations) return personal_.Delete();
+  groups_.RemoveStation();
+}
+
+void ListPane::MoveStation(int by) {
+  const CommandSubject& subject = context_.models.subject;
+  const std::string key = subject.Station().station.RowKey();
+  const auto row = listing_.Rows().Find(key);
+  if (row && subject.Group() == subject.GroupOnShow()) MoveRow(key, static_cast<int>(*row) + by);
+}
+
+void ListPane::MoveRow(const std::string& rowKey, int to) {
+  const StationRows& rows = listing_.Rows();
+  if (rows.Sort().on || !rows.Find(rowKey) || to < 0 || to >= static_cast<int>(rows.Count())) return;
+  groups_.Commands().PlaceStation(StationKey::FromRowKey(rowKey).Token(),
+                                  rows.At(static_cast<std::size_t>(to)).Token());
+  context_.view.ShowEverything();
+}
+
+void ListPane::mnuActionAddListToScan_Click() {
+  std::vector<std::string> keys;
+  for (int row = 0; row < RowCount(); ++row) {
+    if (std::string key = KeyAt(row); !key.empty()) keys.push_back(std::move(key));
+  }
+  if (!keys.empty()) context_.services.scan.Add(keys);
 }
 
 std::string ListPane::KeyAt(int row) const {

@@ -3,27 +3,34 @@
 #pragma once
 
 #include "forms/controls/ListView.h"
+#include "mainwindow/MainPane.h"
 
 namespace sonaro {
 
-class Form;
-class StationListState;
-struct AppState;
+class DetailPane;
+class GroupsPane;
+class PersonalPane;
 
-class ListPane final : private ListModel {
+class ListPane final : public EventTarget, private ListModel {
  public:
-  ListPane(Form& form, StationListState& listing, const AppState& state)
-      : form_(form), listing_(listing), state_(state) {}
+  ListPane(const MainContext& context, GroupsPane& groups, DetailPane& detail, PersonalPane& personal)
+      : context_(context),
+        form_(context.form),
+        listing_(context.models.listing),
+        groups_(groups),
+        detail_(detail),
+        personal_(personal) {}
 
   void Load();
   // The rows are others, or in another order: shows them with their selection, caption and count.
   void ShowRows();
   void ShowSort();
-  // Takes the row that the list has selected into the model.
-  void TakeSelection(int row);
   std::string KeyAt(int row) const;  // of a row that stands for no station: ""
+  // Puts the row in the place of another one; only where the list shows a group in the group's own order.
+  void MoveRow(const std::string& rowKey, int to);
 
  private:
+  std::span<const EventRow> Events() const override;
   int RowCount() const override;
   std::string Cell(int row, int column) const override;
   int Symbol(int row) const override;
@@ -31,10 +38,27 @@ class ListPane final : private ListModel {
 
   void ShowEmptyText();
   void ShowMissing();
+  void SortBy(int command);
+  void MoveStation(int by);
 
+  void lstFavs_ItemSelected(int row);
+  void lstFavs_ItemActivate(int row);
+  void lstFavs_ContextMenu(int row, POINT at);
+  void butSplit_Click(int column);
+  void butSplit_ContextMenu(int column, POINT at);
+  void mnuSort_Click(int entry);
+  void butMissing_Click();
+  void mnuRemoveRow_Click();
+  void mnuActionMoveUp_Click() { MoveStation(-1); }
+  void mnuActionMoveDown_Click() { MoveStation(1); }
+  void mnuActionAddListToScan_Click();
+
+  const MainContext& context_;
   Form& form_;
   StationListState& listing_;
-  const AppState& state_;
+  GroupsPane& groups_;
+  DetailPane& detail_;
+  PersonalPane& personal_;
 };
 
 }  // namespace sonaro

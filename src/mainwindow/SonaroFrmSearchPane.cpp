@@ -1,12 +1,20 @@
 #include "mainwindow/SonaroFrmSearchPane.h"
 
 #include "forms/ControlIds.h"
-#include "forms/Form.h"
-#include "mainwindow/SearchPanel.h"
 #include "resources/texts/mainwindow.h"
 #include "settings/Strings.h"
+#include "settings/WebPageOpener.h"
 
 namespace sonaro {
+
+std::span<const EventRow> SearchPane::Events() const {
+  static const EventRow kRows[] = {
+      {txtQuickSearch, EnterPressed, &SearchPane::FindStation},
+      {butSearchList, Click, &SearchPane::FindStation},
+      {butWebOpen, Click, &SearchPane::butWebOpen_Click},
+  };
+  return kRows;
+}
 
 void SearchPane::Load() {
   search_.LoadSearchKinds(form_.LoadText(IDS_SEARCH_KIND_STATIONS));
@@ -31,6 +39,8 @@ void SearchPane::ShowHistory() {
 void SearchPane::ShowWebSearch() {
   form_.SetText(lblWebAsked, FormatText(form_.LoadText(IDS_WEB_ASKED), {search_.WebWords()}));
   form_.SetText(lblWebAddress, search_.WebAddress());
+  form_.SetText(lblListing, search_.WebCaption());
+  form_.SetText(lblCount, "");
 }
 
 std::size_t SearchPane::ChosenKind() const {
@@ -40,6 +50,22 @@ std::size_t SearchPane::ChosenKind() const {
   return SearchPanel::kMaxKinds - 1;
 }
 
-bool SearchPane::AllWords() const { return form_.IsChecked(optSearch); }
+void SearchPane::FindStation() {
+  switch (search_.FindStation(form_.Text(txtQuickSearch), ChosenKind(), form_.IsChecked(optSearch))) {
+    case SearchPanel::Outcome::Nothing:
+      return form_.Focus(txtQuickSearch);
+    case SearchPanel::Outcome::Web:
+      context_.view.ShowEverything();
+      return butWebOpen_Click();
+    case SearchPanel::Outcome::Stations:
+      ShowHistory();
+      context_.view.ShowEverything();
+      return form_.Focus(lstFavs);
+  }
+}
+
+void SearchPane::butWebOpen_Click() {
+  if (!search_.WebAddress().empty()) context_.services.pages.OpenWebPage(search_.WebAddress());
+}
 
 }  // namespace sonaro

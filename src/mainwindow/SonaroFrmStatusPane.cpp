@@ -4,9 +4,7 @@
 
 #include "directory/StatList.h"
 #include "forms/ControlIds.h"
-#include "forms/Form.h"
 #include "forms/controls/ProgressScale.h"
-#include "mainwindow/MainModels.h"
 #include "mainwindow/SonaroFrm_panes.h"
 #include "resources/texts/mainwindow.h"
 #include "settings/CReg.h"
@@ -16,15 +14,30 @@
 
 namespace sonaro {
 
+std::span<const EventRow> StatusPane::Events() const {
+  static const EventRow kRows[] = {
+      {butUpdate, Click, &StatusPane::butUpdate_Click},
+      {mnuUpdate, Click, &StatusPane::butUpdate_Click},
+      {mnuUndoUpdate, Click, &StatusPane::mnuUndoUpdate_Click},
+      {butScan, Click, &StatusPane::butScan_Click},
+      {mnuScan, Click, &StatusPane::butScan_Click},
+      {butSchedule, Click, &StatusPane::butSchedule_Click},
+      {mnuSchedule, Click, &StatusPane::butSchedule_Click},
+      {butOptions, Click, &StatusPane::butOptions_Click},
+      {mnuOptions, Click, &StatusPane::butOptions_Click},
+  };
+  return kRows;
+}
+
 void StatusPane::ShowGuide() {
   said_ = Said::Nothing;
-  const std::size_t count = data_.stations.StationCount();
-  const std::string updated = data_.settings.Get(setting::kLastUpdate);
+  const std::size_t count = context_.data.stations.StationCount();
+  const std::string updated = context_.data.settings.Get(setting::kLastUpdate);
   int textId = IDS_STATUS_GUIDE;
   if (!updated.empty()) textId = IDS_STATUS_GUIDE_UPDATED;
   if (count == 0) textId = IDS_STATUS_NO_GUIDE;
-  form_.SetText(lblStatus,
-                FormatText(form_.LoadText(textId), {FormatCount(count, data_.state.decimalMode), updated}));
+  form_.SetText(lblStatus, FormatText(form_.LoadText(textId),
+                                      {FormatCount(count, context_.data.state.decimalMode), updated}));
 }
 
 void StatusPane::Say(const std::string& sentence) {

@@ -1,17 +1,16 @@
-// The status line of the main window: what the guide holds, what was just done, or the progress of an update.
-// Part of SonaroFrm.
+// The foot of the main window: the status line with what the guide holds, what was just done, or the progress
+// of an update, and the buttons of the other windows. Part of SonaroFrm.
 #pragma once
 
 #include <string>
 
+#include "mainwindow/MainPane.h"
+
 namespace sonaro {
 
-class Form;
-struct GuideData;
-
-class StatusPane {
+class StatusPane final : public EventTarget {
  public:
-  StatusPane(Form& form, const GuideData& data) : form_(form), data_(data) {}
+  explicit StatusPane(const MainContext& context) : context_(context), form_(context.form) {}
 
   // Counts the stations anew.
   void ShowGuide();
@@ -24,10 +23,18 @@ class StatusPane {
   void EndProgress();
 
  private:
+  std::span<const EventRow> Events() const override;
+  void butUpdate_Click() { Open(ProgramWindow::Update); }
+  void butScan_Click() { Open(ProgramWindow::Scan); }
+  void butSchedule_Click() { Open(ProgramWindow::Schedule); }
+  void butOptions_Click() { Open(ProgramWindow::Options); }
+  void mnuUndoUpdate_Click() { context_.services.update.OfferUndo(form_); }
+  void Open(ProgramWindow window) { context_.services.program.Open(window, &form_); }
+
   enum class Said { Nothing, JustNow, Before };
 
+  const MainContext& context_;
   Form& form_;
-  const GuideData& data_;
   Said said_ = Said::Nothing;
 };
 

@@ -3,8 +3,6 @@
 #include <algorithm>
 
 #include "forms/ControlIds.h"
-#include "forms/Form.h"
-#include "mainwindow/StationListState.h"
 #include "resources/texts/mainwindow.h"
 #include "stations/FavoriteGroups.h"
 #include "stations/RecentList.h"
@@ -19,9 +17,27 @@ constexpr int kFirstGroupRow = 2;
 
 }  // namespace
 
-YoursPane::YoursPane(Form& form, const FavoriteGroups& groups, const RecentList& recent,
-                     const StationListState& listing, const MainWindowCalls& calls)
-    : form_(form), groups_(groups), recent_(recent), listing_(listing), calls_(calls) {}
+YoursPane::YoursPane(const MainContext& context)
+    : context_(context),
+      form_(context.form),
+      groups_(context.data.favorites),
+      listing_(context.models.listing) {}
+
+std::span<const EventRow> YoursPane::Events() const {
+  static const EventRow kRows[] = {
+      {lstGroups, ItemSelected, &YoursPane::lstGroups_ItemSelected},
+      {lstGroups, ItemActivated, &YoursPane::lstGroups_ItemActivate},
+      {lstGroups, ContextMenu, &YoursPane::lstGroups_ContextMenu},
+      {lstEvents, ItemSelected, &YoursPane::lstEvents_ItemSelected},
+      {lstEvents, ItemActivated, &YoursPane::lstEvents_ItemActivate},
+      {lstEvents, ContextMenu, &YoursPane::lstEvents_ContextMenu},
+      {butNotifyMe, Click, &YoursPane::butNotifyMe_Click},
+      {butPersonalShow, Click, &YoursPane::butPersonalShow_Click},
+      {mnuEventNotifyMe, Click, &YoursPane::butNotifyMe_Click},
+      {mnuEventPersonalShow, Click, &YoursPane::butPersonalShow_Click},
+  };
+  return kRows;
+}
 
 void YoursPane::Load() {
   ListView& groups = form_.List(lstGroups);
@@ -37,6 +53,22 @@ void YoursPane::Load() {
                      {form_.LoadText(IDS_COLUMN_STATION), 0}});
   events.SetModel(&eventRows_, false);
   events.SetEmptyText(form_.LoadText(IDS_EMPTY_EVENTS), form_.LoadText(IDS_EMPTY_EVENTS_HELP));
+}
+
+void YoursPane::Show() {
+  ShowEvents();
+  ShowGroups();
+  ShowNextNotice();
+}
+
+void YoursPane::ShowCaption() {
+  form_.SetText(lblListing, form_.LoadText(IDS_COMING_EVENTS));
+  form_.SetText(lblCount, "");
+}
+
+StationKey YoursPane::SelectedStation() const {
+  const EventLine* event = SelectedEvent();
+  return event ? StationKey::FromToken(event->token) : StationKey();
 }
 
 void YoursPane::ShowGroups() {
@@ -55,7 +87,7 @@ int YoursPane::RowOf(const EventLine& event) const {
 void YoursPane::ShowEvents() {
   ListView& list = form_.List(lstEvents);
   const EventLine chosen = SelectedEvent() ? *SelectedEvent() : EventLine();
-  events_ = calls_.comingEvents ? calls_.comingEvents() : std::vector<EventLine>();
+  events_ = context_.services.schedule.ComingEvents();
   list.RowsChanged();
   const int same = RowOf(chosen);
   list.Select(same < 0 && !events_.empty() ? 0 : same);
@@ -73,7 +105,7 @@ void YoursPane::ShowEventButtons(int row) {
 const EventLine* YoursPane::SelectedEvent() const { return EventAt(form_.List(lstEvents).Selected()); }
 
 void YoursPane::ShowNextNotice() {
-  const NextNotice next = calls_.nextNotice ? calls_.nextNotice() : NextNotice();
+  const NextNotice next = context_.services.schedule.SoonestNotice();
   const bool none = next.when.empty();
   form_.SetText(lblNextNotice, none ? form_.LoadText(IDS_NEXT_NONE) : next.when);
   form_.SetText(lblNextStation, none ? form_.LoadText(IDS_NEXT_NONE_HELP) : next.name);
@@ -104,6 +136,66 @@ const EventLine* YoursPane::EventAt(int row) const {
                                                                     : nullptr;
 }
 
+void YoursPane::lstGroups_ItemSelected(int row) {
+  if (const auto group = GroupAt(row)) {
+    listing_.ShowGroupInPlace(*group);
+    context_.view.ShowEverything();
+  } else if (IsRecent(row)) {
+    listing_.ShowRecentInPlace();
+    context_.view.ShowEverything();
+  } else {
+    context_.view.ShowView(View::YourSonaro);
+  }
+}
+
+void YoursPane::lstGroups_ItemActivate(int row) {
+  if (GroupAt(row) || IsRecent(row)) form_.Focus(lstFavs);
+}
+
+void YoursPane::lstGroups_ContextMenu(int row, POINT at) {
+  const auto group = GroupAt(row);
+  context_.PopUpMenuFor({.group = group ? std::string(groups_.Name(*group)) : ""},
+                        context_.models.actions.GroupMenu(group.value_or(groups_.Count())), at);
+}
+
+void YoursPane::lstEvents_ItemSelected(int row) {
+  ShowEventButtons(row);
+  context_.view.ShowSelection();
+}
+
+void YoursPane::lstEvents_ItemActivate(int row) {
+  const EventLine* event = EventAt(row);
+  if (event && !event->noticed) butNotifyMe_Click();
+}
+
+void YoursPane::lstEvents_ContextMenu(int, POINT at) {
+  const EventLine* event = SelectedEvent();
+  if (event == nullptr) return;
+  const StationDetailBuilder& station = context_.models.subject.Shown();
+  context_.PopUpMenuFor({.station = station, .event = *event},
+                        context_.models.actions.EventMenu(*event, station), at);
+}
+
+int YoursPane::EventRowMeant() const {
+  const CommandSubject::Menu* menu = context_.models.subject.OpenMenu();
+  return menu ? RowOf(menu->event) : form_.List(lstEvents).Selected();
+}
+
+void YoursPane::butNotifyMe_Click() {
+  const int row = EventRowMeant();
+  if (row < 0) return;
+  context_.services.schedule.NotifyMe(form_, static_cast<std::size_t>(row));
+  ShowEvents();
+  ShowNextNotice();
+}
+
+void YoursPane::butPersonalShow_Click() {
+  const int row = EventRowMeant();
+  if (row < 0) return;
+  context_.services.schedule.ChangePersonalShow(static_cast<std::size_t>(row));
+  ShowEvents();
+}
+
 int YoursPane::GroupRows::RowCount() const { return kFirstGroupRow + pane_.GroupCount(); }
 
 std::string YoursPane::GroupRows::Cell(int row, int column) const {
@@ -116,7 +208,8 @@ std::string YoursPane::GroupRows::Cell(int row, int column) const {
       return pane_.form_.LoadText(pane_.IsRecent(row) ? IDS_LISTING_YOUR_RECENT : IDS_COMING_EVENTS);
     default:
       if (group) return std::to_string(pane_.groups_.Tokens(*group).size());
-      return std::to_string(pane_.IsRecent(row) ? pane_.recent_.Tokens().size() : pane_.events_.size());
+      return std::to_string(pane_.IsRecent(row) ? pane_.context_.data.recent.Tokens().size()
+                                                : pane_.events_.size());
   }
 }
 

@@ -6,26 +6,27 @@
 #include <vector>
 
 #include "forms/controls/ListView.h"
-#include "mainwindow/MainWindowCalls.h"
-#include "settings/AppState.h"
+#include "mainwindow/MainPane.h"
 
 namespace sonaro {
 
-class FavoriteGroups;
-class Form;
-class RecentList;
-class StationListState;
-
-class YoursPane {
+class YoursPane final : public EventTarget {
  public:
-  YoursPane(Form& form, const FavoriteGroups& groups, const RecentList& recent,
-            const StationListState& listing, const MainWindowCalls& calls);
+  explicit YoursPane(const MainContext& context);
 
   void Load();
+  // Everything of the page, of which the schedule and the lists may have changed.
+  void Show();
   void ShowGroups();
+  void ShowCaption();
+  // The station of the selected event; none without one.
+  StationKey SelectedStation() const;
+
+ private:
+  std::span<const EventRow> Events() const override;
   void ShowEvents();
   void ShowNextNotice();
-  // What can be done with the event in this row; a row that is none has nothing.
+  // What can be done with the event in this row; no event: both buttons disabled.
   void ShowEventButtons(int row);
 
   // What a row of the left column stands for: the coming events, the recent list, then the groups.
@@ -34,8 +35,17 @@ class YoursPane {
   const EventLine* EventAt(int row) const;
   const EventLine* SelectedEvent() const;
   int RowOf(const EventLine& event) const;  // -1 when it is not there any more
+  int EventRowMeant() const;
 
- private:
+  void lstGroups_ItemSelected(int row);
+  void lstGroups_ItemActivate(int row);
+  void lstGroups_ContextMenu(int row, POINT at);
+  void lstEvents_ItemSelected(int row);
+  void lstEvents_ItemActivate(int row);
+  void lstEvents_ContextMenu(int row, POINT at);
+  void butNotifyMe_Click();
+  void butPersonalShow_Click();
+
   class GroupRows final : public ListModel {
    public:
     explicit GroupRows(const YoursPane& pane) : pane_(pane) {}
@@ -58,11 +68,10 @@ class YoursPane {
   int GroupCount() const;
   int SelectedGroupRow() const;
 
+  const MainContext& context_;
   Form& form_;
   const FavoriteGroups& groups_;
-  const RecentList& recent_;
-  const StationListState& listing_;
-  const MainWindowCalls& calls_;
+  StationListState& listing_;
   std::vector<EventLine> events_;
   GroupRows groupRows_{*this};
   EventRows eventRows_{*this};

@@ -1,4 +1,4 @@
-// The main window as tables: its controls in tab order and its keys. What they do: SonaroFrm_events.cpp.
+// The main window as tables: its controls in tab order and its keys. What they do stands with the panes.
 #include "faceplate/Icon.h"
 #include "forms/ControlIds.h"
 #include "mainwindow/SonaroFrm.h"

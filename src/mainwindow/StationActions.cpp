@@ -4,11 +4,11 @@
 #include <utility>
 
 #include "forms/ControlIds.h"
-#include "mainwindow/MainWindowCalls.h"
 #include "mainwindow/SortEntries.h"
 #include "mainwindow/StationListState.h"
 #include "resources/texts/mainwindow.h"
 #include "settings/Strings.h"
+#include "stations/Commands.h"
 #include "stations/FavoriteGroups.h"
 
 namespace sonaro {

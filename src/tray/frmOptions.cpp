@@ -106,7 +106,7 @@ void frmOptions::optProxy_Click(int) {
 void frmOptions::txtProxy_Change() { Inform("", TextColor::Text); }
 
 void frmOptions::butFindProxyIt_Click() {
-  const std::string found = calls_.findProxy();
+  const std::string found = use_.update.FindProxy();
   if (found.empty()) {
     Inform(LoadText(IDS_OPTIONS_PROXY_NONE), TextColor::Text);
     return;
@@ -122,7 +122,8 @@ void frmOptions::butFindProxyIt_Click() {
 void frmOptions::butTestProxyIt_Click() {
   if (ShowProxyError()) return;
   Inform("", TextColor::Text);
-  calls_.testProxy(Window(), TypedProxy());
+  const ProxyServer server = TypedProxy();
+  use_.update.TestProxy(*this, server.address, server.port);
 }
 
 // True when the proxy cannot be used as it is typed: the sentence is shown and the edit has the focus.

@@ -2,28 +2,27 @@
 // every window as soon as its button is pressed and goes again with Cancel.
 #pragma once
 
-#include <functional>
 #include <string>
 
 #include "forms/Form.h"
+#include "settings/HelpPages.h"
+#include "stations/Commands.h"
 #include "tray/OptionsModel.h"
 
 namespace sonaro {
 
-// What other folders do for the options.
-struct OptionsCalls {
-  std::function<void()> playNoticeSound;
-  std::function<std::string()> findProxy;  // "host:port" that the computer is set to, or ""
-  std::function<void(HWND owner, const ProxyServer& server)> testProxy;
-  std::function<void(HWND owner)> choosePlayer;
-  std::function<void(HWND owner)> aboutTimes;
-  std::function<void()> help;
+// What the options use of the rest of the program.
+struct OptionsServices {
+  ProgramCommands& program;
+  ScheduleCommands& schedule;
+  UpdateCommands& update;
+  HelpPages& help;
 };
 
 class frmOptions final : public Form {
  public:
-  frmOptions(FormContext& context, OptionsModel& model, OptionsCalls calls)
-      : Form(context, Design()), model_(model), calls_(std::move(calls)) {}
+  frmOptions(FormContext& context, OptionsModel& model, const OptionsServices& services)
+      : Form(context, Design()), model_(model), use_(services) {}
 
  private:
   static const FormDesign& Design();
@@ -37,20 +36,20 @@ class frmOptions final : public Form {
   void Inform(std::string_view sentence, TextColor color);
   bool ShowProxyError();
 
-  void butPlaySoundIt_Click() { calls_.playNoticeSound(); }
+  void butPlaySoundIt_Click() { use_.program.PlayNoticeSound(); }
   void optProxy_Click(int way);
   void txtProxy_Change();
   void butFindProxyIt_Click();
   void butTestProxyIt_Click();
-  void butPlayerIt_Click() { calls_.choosePlayer(Window()); }
+  void butPlayerIt_Click() { use_.program.ChoosePlayer(*this); }
   void optFaceplate_Click(int faceplate);
-  void butAboutTimeIt_Click() { calls_.aboutTimes(Window()); }
+  void butAboutTimeIt_Click() { use_.schedule.ExplainTimes(*this); }
   void butOKIt_Click();
   void butCancelIt_Click() { Close(); }
-  void butHelp_Click() { calls_.help(); }
+  void butHelp_Click() { use_.help.OpenHelpPage("index.html"); }
 
   OptionsModel& model_;
-  const OptionsCalls calls_;
+  const OptionsServices use_;
   Options options_;  // with what the user has changed in so far as no control holds it
 };
 

@@ -1,5 +1,6 @@
 #include "mainwindow/SearchPanel.h"
 
+#include "fakes/FakeCommands.h"
 #include "mainwindow/Models.h"
 
 namespace sonaro {
@@ -17,8 +18,8 @@ class SearchPanelTest : public Models {
     return names;
   }
 
-  std::vector<std::string> told;
-  SearchPanel panel{data, settings, listing, [this](const std::string& text) { told.push_back(text); }};
+  FakeCommands tray;
+  SearchPanel panel{data, settings, listing, tray};
 };
 
 TEST_F(SearchPanelTest, KindsAreTheLinesOfTheFileAtMostSix) {
@@ -45,8 +46,8 @@ TEST_F(SearchPanelTest, ASearchOfTheDirectoryKeepsItsWordsAndTellsTheTray) {
   EXPECT_EQ(panel.FindStation("ROCK  jazz", 0, false), SearchPanel::Outcome::Stations);
   EXPECT_EQ(settings.Setting("SearchList"), "\tPolka\tROCK  jazz\t");
   EXPECT_EQ(panel.History(), (std::vector<std::string>{"Polka", "ROCK  jazz"}));
-  EXPECT_EQ(told, (std::vector<std::string>{"SearchResults\t4 \trock  jazz", "SearchResults\t\tPolka",
-                                            "SearchResults\t1 2 3 4 \tROCK  jazz"}));
+  EXPECT_EQ(tray.told, (std::vector<std::string>{"SearchResults\t4 \trock  jazz", "SearchResults\t\tPolka",
+                                                 "SearchResults\t1 2 3 4 \tROCK  jazz"}));
   EXPECT_EQ(panel.LastSearch(), SearchPanel::LastKind::Station);
   EXPECT_EQ(listing.State().view, View::List);
 }
@@ -65,7 +66,7 @@ TEST_F(SearchPanelTest, AWebSearchFillsTheTemplateAndLeavesTheListAlone) {
   EXPECT_EQ(listing.State().view, View::Search);
   EXPECT_EQ(listing.State().middle, Middle::WebSearch);
   EXPECT_EQ(Shown(), "S3 S1 ");
-  EXPECT_TRUE(told.empty());
+  EXPECT_TRUE(tray.told.empty());
   EXPECT_EQ(settings.Setting("SearchList"), "");
   listing.ShowListView();
   EXPECT_EQ(listing.State().middle, Middle::StationList);

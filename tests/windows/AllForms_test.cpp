@@ -10,12 +10,12 @@
 #include "directory/Scrambling.h"
 #include "directory/StatList.h"
 #include "fakes/FakeClock.h"
+#include "fakes/FakeCommands.h"
 #include "fakes/FakeHttpControl.h"
 #include "fakes/FakeMessageBox.h"
 #include "fakes/FakeShell.h"
 #include "forms/StringTable.h"
 #include "mainwindow/MainModels.h"
-#include "mainwindow/MainWindowCalls.h"
 #include "mainwindow/SonaroFrm.h"
 #include "mainwindow/frmExtraLink.h"
 #include "mainwindow/frmNewFavorite.h"
@@ -90,6 +90,7 @@ struct EmptyProgram {
   OptionsModel options{settings, outside.faceplate, "C:\\Guide\\Sonaro.exe"};
   UpdateInstall install{folder, settings, stations};
   UpdateDependencies update{settings, folder, words, install, http, {}};
+  FakeCommands commands;
   GuideData guide{folder, settings, words, state, stations, personal, extra, recent, favorites, source};
 };
 
@@ -136,7 +137,11 @@ const NamedForm kForms[] = {
      }},
     {"frmSplash", [](EmptyProgram& p) { return Make<frmSplash>(p.forms); }},
     {"SonaroFrm",
-     [](EmptyProgram& p) { return Make<SonaroFrm>(p.forms, p.guide, p.player, p.pages, MainWindowCalls{}); }},
+     [](EmptyProgram& p) {
+       return Make<SonaroFrm>(
+           p.forms, p.guide,
+           MainServices{p.player, p.scan, p.pages, p.help, p.messages, p.commands, p.commands, p.commands});
+     }},
     {"frmExtraLink",
      [](EmptyProgram& p) {
        return Make<frmExtraLink>(p.forms, p.extra, p.messages, 1, std::string("Jazz"));
@@ -182,7 +187,11 @@ const NamedForm kForms[] = {
     {"frmSchedChange",
      [](EmptyProgram& p) { return Make<frmSchedChange>(p.forms, p.schedule, ScheduleDraft{}); }},
     {"frmSelectStation", [](EmptyProgram& p) { return Make<frmSelectStation>(p.forms, p.picker, p.help); }},
-    {"frmOptions", [](EmptyProgram& p) { return Make<frmOptions>(p.forms, p.options, OptionsCalls{}); }},
+    {"frmOptions",
+     [](EmptyProgram& p) {
+       return Make<frmOptions>(p.forms, p.options,
+                               OptionsServices{p.commands, p.commands, p.commands, p.help});
+     }},
     {"frmStartUpInfo",
      [](EmptyProgram& p) {
        return Make<frmStartUpInfo>(p.forms,
@@ -253,7 +262,7 @@ TEST(EveryMenu, GivesEachAccessKeyOnce) {
   EmptyProgram p;
   p.outside.files.MakeFolder("/d");
   ASSERT_EQ(p.favorites.Add("Jazz"), FavoriteChange::Saved);
-  MainModels models(p.guide, {});
+  MainModels models(p.guide, p.commands);
   models.listing.ShowFavoriteGroup(0);
   const StationActions& actions = models.actions;
   for (const StationKey::Kind kind : {StationKey::Kind::Directory, StationKey::Kind::Personal}) {

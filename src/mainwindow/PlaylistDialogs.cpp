@@ -1,0 +1,91 @@
+#include "mainwindow/PlaylistDialogs.h"
+
+#include "forms/FileDialog.h"
+#include "resources/texts/app.h"
+#include "resources/texts/mainwindow.h"
+#include "settings/FileWords.h"
+#include "settings/Strings.h"
+
+namespace sonaro {
+namespace {
+
+constexpr const char* kImportKey = "PlaylistImported";
+
+int SentenceOf(ImportResult::Status status) {
+  switch (status) {
+    case ImportResult::Status::NotRead:
+      return IDS_IMPORT_NOT_READ;
+    case ImportResult::Status::NotAPlaylist:
+      return IDS_IMPORT_NO_PLAYLIST;
+    case ImportResult::Status::GroupNotSaved:
+      return IDS_IMPORT_NOT_IN_GROUP;
+    case ImportResult::Status::NotSaved:  // has its own message
+    case ImportResult::Status::Ok:
+      break;
+  }
+  return IDS_IMPORT_DONE;
+}
+
+// What the dialog suggests: a name with what no file name may hold taken out would else be refused unseen.
+std::string FileNameFor(std::string_view name) {
+  std::string file(name);
+  for (char& c : file) {
+    if (std::string_view("\\/:*?\"<>|").find(c) != std::string_view::npos) c = '_';
+  }
+  return file + ".m3u";
+}
+
+}  // namespace
+
+std::string PlaylistDialogs::AskPathToSave(std::string_view name) const {
+  return AskSavePath(context_.form.Window(), context_.data.strings.Load(IDS_DLG_PLAYLIST_FILTER),
+                     FileNameFor(name));
+}
+
+std::string PlaylistDialogs::AskPathToOpen() const {
+  return AskOpenPath(context_.form.Window(), context_.data.strings.Load(IDS_DLG_PLAYLIST_FILTER));
+}
+
+void PlaylistDialogs::ExportGroup(std::size_t group) const {
+  const std::string path = AskPathToSave(context_.data.favorites.Name(group));
+  if (!path.empty() && !context_.models.transfer.ExportGroup(group, path)) SayNotSaved(path);
+}
+
+void PlaylistDialogs::ExportPersonalStations() const {
+  const std::string path = AskPathToSave(context_.data.strings.Load(IDS_EXPORT_PERSONAL_NAME));
+  if (!path.empty() && !context_.models.transfer.ExportPersonalStations(path)) SayNotSaved(path);
+}
+
+void PlaylistDialogs::ImportIntoGroup(std::size_t group) const {
+  const std::string path = AskPathToOpen();
+  if (!path.empty()) SayImported(context_.models.transfer.ImportIntoGroup(group, path));
+}
+
+void PlaylistDialogs::ImportPersonalStations() const {
+  const std::string path = AskPathToOpen();
+  if (!path.empty()) SayImported(context_.models.transfer.ImportPersonalStations(path));
+}
+
+void PlaylistDialogs::SayNotSaved(const std::string& path) const {
+  context_.services.messages.Ask(NotSavedMessage(path, context_.data.strings));
+}
+
+void PlaylistDialogs::SayImported(const ImportResult& result) const {
+  const Strings& strings = context_.data.strings;
+  MessageBoxView& messages = context_.services.messages;
+  const bool saved = result.status != ImportResult::Status::NotSaved;
+  if (!SavedOrSaid(saved, strings.Load(IDS_IMPORT_WHAT), messages, strings)) return;
+  std::string text = FormatText(
+      strings.Load(SentenceOf(result.status)),
+      {std::to_string(result.added), std::to_string(result.known), std::to_string(result.skipped)});
+  if (result.status == ImportResult::Status::Ok && result.damaged)
+    text += " " + strings.Load(IDS_IMPORT_DAMAGED);
+  messages.Ask({.key = kImportKey,
+                .caption = strings.Load(IDS_TRANSFER_CAPTION),
+                .text = text,
+                .firstButton = strings.Load(IDS_GROUP_OK)});
+  context_.models.listing.GroupsChanged();
+  context_.view.PersonalStationsChanged();
+}
+
+}  // namespace sonaro

@@ -1,0 +1,27 @@
+// Takes groups and the user's own stations out to playlists and back in: asks for the file, and says what
+// came of it. Part of the main window.
+#pragma once
+
+#include "mainwindow/MainPane.h"
+
+namespace sonaro {
+
+class PlaylistDialogs {
+ public:
+  explicit PlaylistDialogs(const MainContext& context) : context_(context) {}
+
+  void ExportGroup(std::size_t group) const;
+  void ImportIntoGroup(std::size_t group) const;
+  void ExportPersonalStations() const;
+  void ImportPersonalStations() const;
+
+ private:
+  std::string AskPathToSave(std::string_view name) const;  // "" when the user gave none
+  std::string AskPathToOpen() const;
+  void SayNotSaved(const std::string& path) const;
+  void SayImported(const ImportResult& result) const;
+
+  const MainContext& context_;
+};
+
+}  // namespace sonaro

@@ -1,0 +1,244 @@
+#include "mainwindow/SonaroFrmGroupsPane.h"
+
+#include <algorithm>
+
+#include "forms/ControlIds.h"
+#include "mainwindow/SonaroFrmStatusPane.h"
+#include "mainwindow/frmNewFavorite.h"
+#include "mainwindow/frmPickGroup.h"
+#include "playback/StationScan.h"
+#include "resources/texts/mainwindow.h"
+#include "settings/Strings.h"
+#include "stations/StationSource.h"
+
+namespace sonaro {
+
+GroupsPane::GroupsPane(const MainContext& context, StatusPane& status)
+    : context_(context),
+      form_(context.form),
+      groups_(context.data.favorites),
+      subject_(context.models.subject),
+      status_(status),
+      playlists_(context),
+      commands_(context.data.favorites, context.models.listing, context.data.settings, context.data.strings,
+                *this) {}
+
+std::span<const EventRow> GroupsPane::Events() const {
+  static const EventRow kRows[] = {
+      {butFavs, Click, &GroupsPane::butFavs_Click, 10},
+      {cmdFavHit, Click, &GroupsPane::butFavs_Click, 10},
+      {cmbFavs, SelChange, &GroupsPane::cmbFavs_SelChange},
+      {butFavs, ContextMenu, &GroupsPane::butFavs_ContextMenu, 10},
+      {butRecent, Click, &GroupsPane::butRecent_Click},
+      {mnuRecent, Click, &GroupsPane::butRecent_Click},
+      {butNewGroup, Click, &GroupsPane::butNewGroup_Click},
+      {butRemoveGroup, Click, &GroupsPane::butRemoveGroup_Click},
+      {mnuRemoveFocusedGroup, Click, &GroupsPane::mnuRemoveFocusedGroup_Click},
+      {mnuAddFavGroupButton, Click, &GroupsPane::mnuAddFavGroup_Click},
+      {mnuFavoritesAdd, Click, &GroupsPane::mnuAddFavGroup_Click},
+      {mnuFavRenameFav, Click, &GroupsPane::mnuFavRenameFav_Click},
+      {mnuItemRename, Click, &GroupsPane::mnuFavRenameFav_Click},
+      {mnuFavDeleteFav, Click, &GroupsPane::butRemoveGroup_Click},
+      {mnuItemDelete, Click, &GroupsPane::butRemoveGroup_Click},
+      {mnuFavMoveLeft, Click, &GroupsPane::mnuFavMoveLeft_Click},
+      {mnuFavMoveRight, Click, &GroupsPane::mnuFavMoveRight_Click},
+      {mnuFavScanGroup, Click, &GroupsPane::mnuFavScanGroup_Click},
+      {mnuFavExport, Click, &GroupsPane::mnuFavExport_Click},
+      {mnuFavImport, Click, &GroupsPane::mnuFavImport_Click},
+      {mnuActionStationToFavList, Click, &GroupsPane::mnuActionStationToFavList_Click},
+      {mnuActionStationToGroup, Click, &GroupsPane::mnuActionStationToGroup_Click, 10},
+      {mnuActionRemoveFromFavList, Click, &GroupsPane::RemoveStation},
+  };
+  return kRows;
+}
+
+void GroupsPane::Show() {
+  const std::size_t count = groups_.Count();
+  const std::size_t shown = subject_.GroupOnShow().value_or(count);
+  for (std::size_t slot = 0; slot < FavoriteGroups::kSlots; ++slot) {
+    const int key = butFavs + static_cast<int>(slot);
+    const bool used = slot < count;
+    const std::string text = used ? std::string(groups_.Name(slot)) : form_.LoadText(IDS_GROUP_SOCKET);
+    form_.SetEmptySocket(key, !used);
+    form_.SetText(key, text);
+    form_.SetTip(key, text);
+    form_.SetDetail(key, std::to_string((slot + 1) % FavoriteGroups::kSlots));
+    form_.SetToggle(key, used && shown == slot);
+  }
+  form_.ClearItems(cmbFavs);
+  for (std::size_t group = 0; group < count; ++group) {
+    form_.AddItem(cmbFavs, groups_.Name(group), static_cast<int>(group) + 1);
+  }
+  form_.SelectItem(cmbFavs, shown < count ? static_cast<int>(shown) : 0);
+  form_.Enable(butRemoveGroup, subject_.Group().has_value());
+}
+
+// The button that something dragged would fall on is lit beside the one of the group on show.
+void GroupsPane::ShowDropOn(int slot) {
+  Show();
+  if (slot >= 0) form_.SetToggle(butFavs + slot, true);
+}
+
+std::string GroupsPane::NameOf(std::size_t group) const {
+  return group < groups_.Count() ? std::string(groups_.Name(group)) : std::string();
+}
+
+void GroupsPane::ShowGroupNamed(std::string_view name) {
+  if (const auto group = groups_.Find(name)) butFavs_Click(static_cast<int>(*group));
+}
+
+void GroupsPane::butFavs_Click(int group) {
+  if (static_cast<std::size_t>(group) >= groups_.Count()) return mnuAddFavGroup_Click();
+  context_.models.listing.ShowFavoriteGroup(static_cast<std::size_t>(group));
+  context_.view.ShowEverything();
+}
+
+void GroupsPane::cmbFavs_SelChange() {
+  const int group = form_.ItemData(cmbFavs, form_.SelectedItem(cmbFavs));
+  if (group > 0) butFavs_Click(group - 1);
+}
+
+void GroupsPane::butFavs_ContextMenu(int slot, POINT at) {
+  const auto group = static_cast<std::size_t>(slot);
+  context_.PopUpMenuFor({.group = NameOf(group)}, context_.models.actions.GroupMenu(group), at);
+}
+
+void GroupsPane::butRecent_Click() {
+  context_.models.listing.ShowRecent();
+  context_.view.ShowEverything();
+}
+
+// The focus can stand on the button of a group that is not on show. A key that means one brings it there
+// first, so that the user sees which. True when it did.
+bool GroupsPane::ShowFocusedGroup() {
+  const int focused = form_.FocusedControl() - butFavs;
+  if (subject_.OpenMenu() || focused < 0 || static_cast<std::size_t>(focused) >= FavoriteGroups::kSlots)
+    return false;
+  const auto group = static_cast<std::size_t>(focused);
+  if (group >= groups_.Count() || subject_.GroupOnShow() == group) return false;
+  butFavs_Click(focused);
+  return true;
+}
+
+void GroupsPane::butNewGroup_Click() {
+  if (commands_.AddFavoriteGroup()) context_.models.listing.ShowGroupInPlace(groups_.Count() - 1);
+  context_.view.ShowEverything();
+}
+
+// A station was dropped on a group button; on a free one it founds a group.
+void GroupsPane::TakeDropped(const std::string& rowKey, int slot) {
+  const std::string token = StationKey::FromRowKey(rowKey).Token();
+  auto group = static_cast<std::size_t>(slot);
+  if (group >= groups_.Count()) {
+    if (!commands_.AddFavoriteGroup()) return;
+    group = groups_.Count() - 1;
+  }
+  commands_.AddStationToGroup(groups_.Name(group), token);
+  context_.view.ShowEverything();
+}
+
+void GroupsPane::MoveGroup(const std::string& name, int to) {
+  const auto from = groups_.Find(name);
+  const int last = static_cast<int>(groups_.Count()) - 1;
+  if (from) commands_.MoveFavoriteGroup(*from, static_cast<std::size_t>(std::min(to, last)));
+  context_.view.ShowEverything();
+}
+
+void GroupsPane::mnuAddFavGroup_Click() {
+  commands_.AddFavoriteGroup();
+  context_.view.ShowEverything();
+}
+
+void GroupsPane::butRemoveGroup_Click() {
+  if (const auto group = subject_.Group()) commands_.DeleteFavoriteGroup(*group);
+  context_.view.ShowEverything();
+}
+
+// Deleting may not ask, so that the press that brings the group on show does no more.
+void GroupsPane::mnuRemoveFocusedGroup_Click() {
+  if (!ShowFocusedGroup()) butRemoveGroup_Click();
+}
+
+void GroupsPane::mnuFavRenameFav_Click() {
+  ShowFocusedGroup();
+  if (const auto group = subject_.Group()) commands_.RenameFavoriteGroup(*group);
+  context_.view.ShowEverything();
+}
+
+void GroupsPane::mnuFavMoveLeft_Click() {
+  const auto group = subject_.Group();
+  if (group && *group > 0) commands_.MoveFavoriteGroup(*group, *group - 1);
+  context_.view.ShowEverything();
+}
+
+void GroupsPane::mnuFavMoveRight_Click() {
+  if (const auto group = subject_.Group()) commands_.MoveFavoriteGroup(*group, *group + 1);
+  context_.view.ShowEverything();
+}
+
+void GroupsPane::mnuFavScanGroup_Click() {
+  const auto group = subject_.Group();
+  if (!group) return;
+  std::vector<std::string> keys;
+  for (const std::string_view token : groups_.Tokens(*group)) {
+    if (const StationKey key = StationKey::FromToken(token)) keys.push_back(key.RowKey());
+  }
+  context_.services.scan.Add(keys);
+}
+
+void GroupsPane::mnuFavExport_Click() {
+  if (const auto group = subject_.Group()) playlists_.ExportGroup(*group);
+}
+
+void GroupsPane::mnuFavImport_Click() {
+  if (const auto group = subject_.Group()) playlists_.ImportIntoGroup(*group);
+}
+
+void GroupsPane::mnuActionStationToFavList_Click() {
+  const StationDetailBuilder& station = subject_.Station();
+  if (!station.station) return;
+  const std::string token = station.station.Token();
+  std::vector<std::string> names;
+  for (std::size_t group = 0; group < groups_.Count(); ++group) names.push_back(NameOf(group));
+  const std::string name =
+      frmPickGroup(context_.forms, station.name, std::move(names)).AskGroup(form_.Window());
+  if (!name.empty()) commands_.AddStationToGroupOrNew(name, token);
+  context_.view.ShowEverything();
+}
+
+void GroupsPane::mnuActionStationToGroup_Click(int group) {
+  const auto index = static_cast<std::size_t>(group);
+  if (!subject_.Station().station || index >= groups_.Count()) return;
+  commands_.AddStationToGroup(groups_.Name(index), subject_.Station().station.Token());
+  context_.view.ShowEverything();
+}
+
+void GroupsPane::AddStationToGroup(const std::string& groupName, const std::string& token) {
+  commands_.AddStationToGroup(groupName, token);
+  if (form_.IsOpen()) context_.view.ShowEverything();
+}
+
+void GroupsPane::RemoveStation() {
+  commands_.RemoveStation(subject_.GroupName(), subject_.Station().station.Token());
+  context_.view.ShowEverything();
+}
+
+MessageResult GroupsPane::Ask(const Message& message) { return context_.services.messages.Ask(message); }
+
+std::string GroupsPane::AskNewGroupName() {
+  return frmNewFavorite(context_.forms, context_.services.help).AskName(form_.Window());
+}
+
+std::string GroupsPane::AskGroupName(const std::string& present) {
+  return frmRenameFav(context_.forms, context_.services.help, present).AskName(form_.Window());
+}
+
+void GroupsPane::TellTray(const std::string& text) { context_.services.program.TellTray(text); }
+
+void GroupsPane::SayDone(int textId, std::string_view token, std::string_view group) {
+  if (!form_.IsOpen()) return;
+  status_.Say(
+      FormatText(form_.LoadText(textId), {context_.data.source.NameOf(StationKey::FromToken(token)), group}));
+}
+
+}  // namespace sonaro

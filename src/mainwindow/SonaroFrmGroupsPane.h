@@ -1,0 +1,67 @@
+// The bar of the favourite groups, and the commands on groups and their members. In a menu the commands mean
+// the group that it was opened for, else the one on show. Part of SonaroFrm.
+#pragma once
+
+#include "mainwindow/FavoriteCommands.h"
+#include "mainwindow/MainPane.h"
+#include "mainwindow/PlaylistDialogs.h"
+
+namespace sonaro {
+
+class StatusPane;
+
+class GroupsPane final : public EventTarget, private FavoritePrompts {
+ public:
+  GroupsPane(const MainContext& context, StatusPane& status);
+
+  FavoriteCommands& Commands() { return commands_; }
+
+  void Show();
+  // Something dragged is over the button of this slot; -1: over none.
+  void ShowDropOn(int slot);
+  std::string NameOf(std::size_t group) const;  // "" for a free slot
+  void ShowGroupNamed(std::string_view name);
+  // A station was dropped on a slot, or a group's button on another slot.
+  void TakeDropped(const std::string& rowKey, int slot);
+  void MoveGroup(const std::string& name, int to);
+  // For a window that has no groups of its own.
+  void AddStationToGroup(const std::string& groupName, const std::string& token);
+  // Takes the station that the command means out of the group that it means.
+  void RemoveStation();
+
+ private:
+  std::span<const EventRow> Events() const override;
+  MessageResult Ask(const Message& message) override;
+  std::string AskNewGroupName() override;
+  std::string AskGroupName(const std::string& present) override;
+  void TellTray(const std::string& text) override;
+  void SayDone(int textId, std::string_view token, std::string_view group) override;
+  bool ShowFocusedGroup();
+
+  void butFavs_Click(int group);
+  void butFavs_ContextMenu(int slot, POINT at);
+  void cmbFavs_SelChange();
+  void butRecent_Click();
+  void butNewGroup_Click();
+  void butRemoveGroup_Click();
+  void mnuAddFavGroup_Click();
+  void mnuRemoveFocusedGroup_Click();
+  void mnuFavRenameFav_Click();
+  void mnuFavMoveLeft_Click();
+  void mnuFavMoveRight_Click();
+  void mnuFavScanGroup_Click();
+  void mnuFavExport_Click();
+  void mnuFavImport_Click();
+  void mnuActionStationToFavList_Click();
+  void mnuActionStationToGroup_Click(int group);
+
+  const MainContext& context_;
+  Form& form_;
+  const FavoriteGroups& groups_;
+  const CommandSubject& subject_;
+  StatusPane& status_;
+  PlaylistDialogs playlists_;
+  FavoriteCommands commands_;
+};
+
+}  // namespace sonaro

@@ -1,0 +1,70 @@
+#include "mainwindow/SonaroFrmPersonalPane.h"
+
+#include "forms/ControlIds.h"
+#include "mainwindow/frmPersonalStation.h"
+#include "resources/texts/app.h"
+#include "resources/texts/mainwindow.h"
+#include "settings/CReg.h"
+#include "settings/FileWords.h"
+#include "settings/SettingNames.h"
+#include "settings/Strings.h"
+
+namespace sonaro {
+
+std::span<const EventRow> PersonalPane::Events() const {
+  static const EventRow kRows[] = {
+      {mnuPersonalAdd, Click, &PersonalPane::mnuPersonalAdd_Click},
+      {mnuPersonalChange, Click, &PersonalPane::mnuPersonalChange_Click},
+      {mnuPersonalDelete, Click, &PersonalPane::Delete},
+      {mnuPersonalExport, Click, &PersonalPane::mnuPersonalExport_Click},
+      {mnuPersonalImport, Click, &PersonalPane::mnuPersonalImport_Click},
+  };
+  return kRows;
+}
+
+const PersonalStation* PersonalPane::Meant() const {
+  const StationKey station = context_.models.subject.Station().station;
+  return station.kind == StationKey::Kind::Personal ? context_.data.personal.Find(station.number) : nullptr;
+}
+
+void PersonalPane::Edit(const PersonalStation& station) {
+  frmPersonalStation(context_.forms, context_.data.personal, context_.services.messages,
+                     context_.services.help, station)
+      .ShowModal(context_.form.Window());
+  context_.view.PersonalStationsChanged();
+}
+
+void PersonalPane::mnuPersonalAdd_Click() { Edit({}); }
+
+void PersonalPane::mnuPersonalChange_Click() {
+  if (const PersonalStation* station = Meant()) Edit(*station);
+}
+
+void PersonalPane::Delete() {
+  const PersonalStation* station = Meant();
+  if (station == nullptr) return;
+  const std::int32_t index = station->index;  // while the question stands the stations may be read anew
+  if (!ConfirmDelete(station->name)) return;
+  const Strings& strings = context_.data.strings;
+  SavedOrSaid(context_.data.personal.Delete(index), strings.Load(IDS_FILE_STATIONS),
+              context_.services.messages, strings);
+  context_.view.PersonalStationsChanged();
+}
+
+bool PersonalPane::ConfirmDelete(const std::string& name) {
+  CReg& settings = context_.data.settings;
+  if (settings.Get(setting::kNoShowDeletePersonalStation)) return true;
+  const Strings& strings = context_.data.strings;
+  const MessageResult result =
+      context_.services.messages.Ask({.key = "DeletePersonalStation",
+                                      .caption = strings.Load(IDS_DLG_OWN_DELETE_CAPTION),
+                                      .text = FormatText(strings.Load(IDS_DLG_OWN_DELETE_TEXT), {name}),
+                                      .firstButton = strings.Load(IDS_DLG_OWN_DELETE),
+                                      .secondButton = strings.Load(IDS_APP_CANCEL),
+                                      .dontAskText = strings.Load(IDS_DONT_ASK_AGAIN)});
+  if (result.answer != MessageAnswer::First) return false;
+  if (result.dontAskAgain) settings.Set(setting::kNoShowDeletePersonalStation, true);
+  return true;
+}
+
+}  // namespace sonaro

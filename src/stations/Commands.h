@@ -1,0 +1,87 @@
+// What one folder's windows ask of another's: the schedule, the updates, and the program as a whole.
+// Application and its parts implement them; windows get them with their constructors and know no other
+// window. `owner` is the form that a new window stands before, nullptr for one that stands alone.
+#pragma once
+
+#include <cstddef>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace sonaro {
+
+class Form;
+
+// One line of the coming events, in the user's time and clock style.
+struct EventLine {
+  std::string when;
+  std::string name;
+  std::string station;
+  std::string token;     // of its station; "" when the guide does not have it
+  bool noticed = false;  // the user will be told
+  bool personalShow = false;
+};
+
+// The next thing the user will be told of. Without `when` nothing is scheduled.
+struct NextNotice {
+  std::string when;  // "Thursday 8:00 PM"
+  std::string name;
+  std::string howOften;
+};
+
+class ScheduleCommands {
+ public:
+  virtual ~ScheduleCommands() = default;
+  // The dialog that adds an item for the station to the schedule.
+  virtual void ScheduleStation(Form& owner, const std::string& rowKey) = 0;
+  // Explains the time zone that the schedule works in.
+  virtual void ExplainTimes(Form& owner) = 0;
+
+  virtual std::vector<EventLine> ComingEvents() = 0;
+  // Both take an index into what ComingEvents gave last. Asks how the user wants to be told of the event.
+  virtual void NotifyMe(Form& owner, std::size_t line) = 0;
+  // Adds the event to the personal shows, or removes it when it is one.
+  virtual void ChangePersonalShow(std::size_t line) = 0;
+  virtual NextNotice SoonestNotice() = 0;
+};
+
+class UpdateCommands {
+ public:
+  virtual ~UpdateCommands() = default;
+  virtual bool CanUndoUpdate() = 0;
+  // The update dialog with nothing but the way back to the guide of before the last update.
+  virtual void OfferUndo(Form& owner) = 0;
+  // "host:port" of the proxy that the computer is set to, or "".
+  virtual std::string FindProxy() = 0;
+  virtual void TestProxy(Form& owner, const std::string& address, const std::string& port) = 0;
+};
+
+// Takes a text for the label of the small tray window, such as "AddNewFavGroup", tab, name. Other programs
+// read it there.
+class TrayMessages {
+ public:
+  virtual ~TrayMessages() = default;
+  virtual void TellTray(const std::string& text) = 0;
+};
+
+enum class ProgramWindow { Scan, Schedule, Update, Options };
+
+class ProgramCommands : public TrayMessages {
+ public:
+  virtual void Open(ProgramWindow window, Form* owner) = 0;
+  // Hides the main window; the tray brings it back.
+  virtual void HideToTray() = 0;
+  // The close button: hides or ends the program, as the user wants.
+  virtual void CloseAsked() = 0;
+  virtual void Exit() = 0;
+  // The page on which the user chooses what plays.
+  virtual void ChoosePlayer(Form& owner) = 0;
+  virtual void PlayNoticeSound() = 0;
+
+  // The scan's window: whether it is what the user sees at a point of the screen, and a station that was
+  // dropped there.
+  virtual bool ScanIsAt(int x, int y) = 0;
+  virtual void DropOnScan(const std::string& rowKey, int x, int y) = 0;
+};
+
+}  // namespace sonaro

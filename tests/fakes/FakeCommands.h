@@ -1,0 +1,36 @@
+// The rest of the program for a window that stands alone: nothing is coming, nothing opens.
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "stations/Commands.h"
+
+namespace sonaro {
+
+class FakeCommands final : public ScheduleCommands, public UpdateCommands, public ProgramCommands {
+ public:
+  std::vector<std::string> told;  // the tray
+
+  void ScheduleStation(Form&, const std::string&) override {}
+  void ExplainTimes(Form&) override {}
+  std::vector<EventLine> ComingEvents() override { return {}; }
+  void NotifyMe(Form&, std::size_t) override {}
+  void ChangePersonalShow(std::size_t) override {}
+  NextNotice SoonestNotice() override { return {}; }
+  bool CanUndoUpdate() override { return false; }
+  void OfferUndo(Form&) override {}
+  std::string FindProxy() override { return {}; }
+  void TestProxy(Form&, const std::string&, const std::string&) override {}
+  void TellTray(const std::string& text) override { told.push_back(text); }
+  void Open(ProgramWindow, Form*) override {}
+  void HideToTray() override {}
+  void CloseAsked() override {}
+  void Exit() override {}
+  void ChoosePlayer(Form&) override {}
+  void PlayNoticeSound() override {}
+  bool ScanIsAt(int, int) override { return false; }
+  void DropOnScan(const std::string&, int, int) override {}
+};
+
+}  // namespace sonaro
