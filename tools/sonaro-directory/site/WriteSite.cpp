@@ -17,9 +17,9 @@ constexpr std::string_view kPrivacyName = "privacy.html";
 constexpr std::size_t kDigitsOfName = 16;
 
 // The path of a service's address on its host.
-std::string PathOf(const char* setting) {
-  const std::string address = ServiceDefault(setting);
-  return address.substr(address.find('/', std::string_view("http://").size()));
+std::string PathOf(const setting::Text& address) {
+  const std::string url = ServiceDefault(address);
+  return url.substr(url.find('/', std::string_view("http://").size()));
 }
 
 std::string FolderOf(const std::string& path) { return path.substr(0, path.rfind('/') + 1); }
@@ -27,8 +27,8 @@ std::string FolderOf(const std::string& path) { return path.substr(0, path.rfind
 // The addresses that this site answers.
 std::vector<ServiceLine> ServiceLines(const std::string& host) {
   if (host.empty()) return {};
-  const auto line = [&host](const char* key, const char* setting) {
-    return ServiceLine{key, "http://" + host + PathOf(setting)};
+  const auto line = [&host](const char* key, const setting::Text& address) {
+    return ServiceLine{key, "http://" + host + PathOf(address)};
   };
   return {line("::UpdateURL::", setting::kUpdateUrl), line("::ProxyTest::", setting::kProxyTest),
           line("::HelpURL::", setting::kHelpUrl), line("::PriacyPol::", setting::kPrivacyPolicy)};
