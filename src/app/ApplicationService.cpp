@@ -38,7 +38,7 @@ void ApplicationService::OpenDialog(HWND owner, UpdateOpening opening) {
   }
   if (background_) background_->Cancel();
   UpdateDialogCalls calls;
-  calls.begin = [this](UpdateOpener opener) { return BeginWatched(std::move(opener)); };
+  calls.make = [this](UpdateListener& dialog) { return MakeUpdate(CallerCode::UpdateDialog, &dialog); };
   calls.installed = [this] { return Installed(); };
   calls.canUndo = [this] { return install_.CanUndo(); };
   calls.undo = [this] { return Undo(); };
@@ -47,24 +47,37 @@ void ApplicationService::OpenDialog(HWND owner, UpdateOpening opening) {
   dialog_->Show(owner);
 }
 
-std::unique_ptr<frmInetUpdate> ApplicationService::BeginWatched(UpdateOpener opener) {
-  return std::make_unique<frmInetUpdate>(needs_.context, MakeUpdateDependencies(), caller::kUpdateDialog,
-                                         kInstallAndRebuild, AlsoInTheMainWindow(std::move(opener)));
+std::unique_ptr<frmInetUpdate> ApplicationService::MakeUpdate(CallerCode callerCode, UpdateListener* dialog) {
+  Listener& listener = dialog ? watched_ : unwatched_;
+  listener.Watch(dialog);
+  return std::make_unique<frmInetUpdate>(needs_.context, MakeUpdateDependencies(), listener, callerCode,
+                                         InstallMode::InstallAndRebuild);
 }
 
-UpdateOpener ApplicationService::AlsoInTheMainWindow(UpdateOpener opener) {
-  UpdateOpener both;
-  both.progress = std::move(opener.progress);
-  both.bytes = [this, tell = std::move(opener.bytes)](std::uint64_t bytes, std::uint64_t expected) {
-    if (showProgress_) showProgress_(expected == 0 ? -1 : static_cast<int>(bytes * 100 / expected));
-    if (tell) tell(bytes, expected);
-  };
-  both.finished = [this, tell = std::move(opener.finished)](const UpdateOutcome& outcome) {
-    EndProgress();
-    if (tell) tell(outcome);
-    if (std::exchange(toDoDue_, false)) RunPendingWork();
-  };
-  return both;
+// Nobody reads the texts of an update that has no dialog; one comes when it has to wait before it tries
+// again.
+void ApplicationService::Listener::UpdateProgress(const std::string& text) {
+  if (dialog_) {
+    dialog_->UpdateProgress(text);
+  } else {
+    service_.EndProgress();
+  }
+}
+
+void ApplicationService::Listener::UpdateBytes(std::uint64_t bytes, std::uint64_t expected) {
+  if (service_.showProgress_)
+    service_.showProgress_(expected == 0 ? -1 : static_cast<int>(bytes * 100 / expected));
+  if (dialog_) dialog_->UpdateBytes(bytes, expected);
+}
+
+void ApplicationService::Listener::UpdateFinished(const UpdateOutcome& outcome) {
+  service_.EndProgress();
+  if (dialog_) {
+    dialog_->UpdateFinished(outcome);
+  } else if (outcome.kind == UpdateOutcome::Kind::Updated && service_.directoryChanged_) {
+    service_.directoryChanged_();
+  }
+  if (std::exchange(service_.toDoDue_, false)) service_.RunPendingWork();
 }
 
 void ApplicationService::EndProgress() {
@@ -81,15 +94,8 @@ void ApplicationService::Stop() {
 
 void ApplicationService::RunPendingWork() {
   if (!StationListIsDue(needs_.reg)) return;
-  UpdateOpener opener;
-  // Nobody reads the texts of such an update; one comes when it has to wait before it tries again.
-  opener.progress = [this](const std::string&) { EndProgress(); };
-  opener.finished = [this](const UpdateOutcome& outcome) {
-    if (outcome.kind == UpdateOutcome::Kind::Updated && directoryChanged_) directoryChanged_();
-  };
   spent_ = std::move(background_);  // this may run within its last call
-  background_ = std::make_unique<frmInetUpdate>(needs_.context, MakeUpdateDependencies(), caller::kBackground,
-                                                kInstallAndRebuild, AlsoInTheMainWindow(std::move(opener)));
+  background_ = MakeUpdate(CallerCode::Background, nullptr);
   background_->Load();
 }
 

@@ -24,7 +24,6 @@ class Strings;
 class frmInetUpdate;
 class frmUpdateDialog;
 enum class UpdateOpening;
-struct UpdateOpener;
 
 class ApplicationService final : public UpdateCommands {
  public:
@@ -69,10 +68,24 @@ class ApplicationService final : public UpdateCommands {
   std::string FindProxy() override;
 
  private:
+  // Hears of an update for the main window, and passes it on to the dialog, if there is one.
+  class Listener final : public UpdateListener {
+   public:
+    explicit Listener(ApplicationService& service) : service_(service) {}
+    void Watch(UpdateListener* dialog) { dialog_ = dialog; }
+
+    void UpdateProgress(const std::string& text) override;
+    void UpdateBytes(std::uint64_t bytes, std::uint64_t expected) override;
+    void UpdateFinished(const UpdateOutcome& outcome) override;
+
+   private:
+    ApplicationService& service_;
+    UpdateListener* dialog_ = nullptr;
+  };
+
   void OpenDialog(HWND owner, UpdateOpening opening);
   UpdateDependencies MakeUpdateDependencies();
-  std::unique_ptr<frmInetUpdate> BeginWatched(UpdateOpener opener);
-  UpdateOpener AlsoInTheMainWindow(UpdateOpener opener);
+  std::unique_ptr<frmInetUpdate> MakeUpdate(CallerCode callerCode, UpdateListener* dialog);
   void EndProgress();
   std::string Installed();
   UndoStatus Undo();
@@ -83,6 +96,8 @@ class ApplicationService final : public UpdateCommands {
   std::function<void()> directoryChanged_;
   std::function<void(int percent)> showProgress_;
   std::function<void()> endProgress_;
+  Listener watched_{*this};
+  Listener unwatched_{*this};
   std::unique_ptr<frmUpdateDialog> dialog_;
   std::unique_ptr<frmInetUpdate> background_;
   std::unique_ptr<frmInetUpdate> spent_;  // the one before it, which may still be on the stack

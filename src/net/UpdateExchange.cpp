@@ -22,34 +22,32 @@ namespace sonaro {
 
 namespace {
 
-constexpr const char* kFirstRequest = "0";
-constexpr const char* kFileRequest = "11";
-constexpr const char* kConnectionFailed = "100";
 constexpr std::string_view kRedirectStatus = "302";
 constexpr std::string_view kToDoReason = "Update";
 
 }  // namespace
 
-UpdateExchange::UpdateExchange(const UpdateDependencies& needs, UpdateView& view, int callerCode,
-                               int installCode)
+UpdateExchange::UpdateExchange(const UpdateDependencies& needs, UpdateView& view, UpdateListener& listener,
+                               CallerCode callerCode, InstallMode installMode)
     : needs_(needs),
       view_(view),
+      listener_(listener),
       http_(needs.http.Make()),
       openedBy_(callerCode),
       callerCode_(callerCode),
-      installCode_(installCode) {}
+      installMode_(installMode) {}
 
 void UpdateExchange::Load() {
-  mode_ = kFirstRequest;
-  if (callerCode_ == caller::kFaceplateDialog) callerCode_ = caller::kUpdateDialog;
+  phase_ = Phase::FirstRequest;
+  if (callerCode_ == CallerCode::FaceplateDialog) callerCode_ = CallerCode::UpdateDialog;
   view_.StartTimer(kSoon);
 }
 
 void UpdateExchange::tmrInetStuff_Timer() {
   view_.StopTimer();
-  if (mode_ == kConnectionFailed) {
+  if (phase_ == Phase::ConnectionFailed) {
     Complete();
-  } else if (mode_ == kFileRequest) {
+  } else if (phase_ == Phase::FileRequest) {
     FetchUpdate();
   } else {
     AskForUpdate();
@@ -80,7 +78,7 @@ void UpdateExchange::AskForUpdate() {
 void UpdateExchange::FetchUpdate() {
   failed_ = false;
   bodyReceived_ = false;
-  const bool watched = openedBy_ == caller::kUpdateDialog || openedBy_ == caller::kFaceplateDialog;
+  const bool watched = openedBy_ == CallerCode::UpdateDialog || openedBy_ == CallerCode::FaceplateDialog;
   Send(BuildServiceRequest(needs_.reg, redirect_, watched ? "?Flush=No" : "?Flush=Yes"), *http_, *this);
 }
 
@@ -91,7 +89,7 @@ void UpdateExchange::Cancel() {
 }
 
 void UpdateExchange::HTTPDataReceived(std::string_view body) {
-  if (mode_ != kFileRequest) return;
+  if (phase_ != Phase::FileRequest) return;
   bodyReceived_ = true;
   if (!file_ || !file_->Append(body)) Fail(IDS_NET_NOT_SAVED);
   if (!EndsWithSentinel(body)) Fail(IDS_NET_CUT_SHORT);
@@ -100,15 +98,15 @@ void UpdateExchange::HTTPDataReceived(std::string_view body) {
 void UpdateExchange::HTTPDataTransferred(std::uint64_t bytes, std::uint64_t expected) {
   if (ForDialog() && !dataStarted_) {
     dataStarted_ = true;
-    view_.ShowProgress(needs_.strings.Load(IDS_NET_GETTING_DATA));
+    listener_.UpdateProgress(needs_.strings.Load(IDS_NET_GETTING_DATA));
   }
-  if (mode_ == kFileRequest) view_.ShowBytes(bytes, expected);
+  if (phase_ == Phase::FileRequest) listener_.UpdateBytes(bytes, expected);
 }
 
 // The update file itself is not looked for behind a second redirect, so no row of redirects can keep the
 // program busy.
 void UpdateExchange::HTTPError(const std::string& statusCode, const std::string& headers) {
-  if (statusCode == kRedirectStatus && mode_ == kFirstRequest) {
+  if (statusCode == kRedirectStatus && phase_ == Phase::FirstRequest) {
     redirect_ = RedirectTarget(headers);
   } else {
     failed_ = true;
@@ -119,12 +117,12 @@ void UpdateExchange::HTTPError(const std::string& statusCode, const std::string&
 void UpdateExchange::HTTPObjectError(HttpFault fault) {
   failed_ = true;
   reason_ = HttpFaultText(fault, needs_.strings);
-  mode_ = kConnectionFailed;
+  phase_ = Phase::ConnectionFailed;
   view_.StartTimer(kSoon);
 }
 
 void UpdateExchange::Complete() {
-  if (!failed_ && mode_ == kFirstRequest) {
+  if (!failed_ && phase_ == Phase::FirstRequest) {
     FollowRedirect();
   } else if (!failed_ && bodyReceived_) {
     Received();
@@ -140,7 +138,7 @@ void UpdateExchange::FollowRedirect() {
     Fail(redirect_.empty() ? IDS_NET_NO_ANSWER : IDS_NET_BAD_REDIRECT);
     Failed();
   } else {
-    mode_ = kFileRequest;
+    phase_ = Phase::FileRequest;
     view_.StartTimer(kSoon);
   }
 }
@@ -151,8 +149,8 @@ void UpdateExchange::NothingNew() {
     Finish(UpdateOutcome::Kind::UpToDate);
     return;
   }
-  callerCode_ = caller::kNoUpdate;
-  view_.ShowProgress(needs_.strings.Load(IDS_NET_CANT_CONNECT));
+  callerCode_ = CallerCode::NoUpdate;
+  listener_.UpdateProgress(needs_.strings.Load(IDS_NET_CANT_CONNECT));
   ToDoIsDone();
   Finish(UpdateOutcome::Kind::UpToDate);
 }
@@ -179,7 +177,7 @@ void UpdateExchange::Received() {
     case UpdateFileStatus::Read:
       break;
   }
-  Installed(needs_.install.Install(contents, installCode_));
+  Installed(needs_.install.Install(contents, installMode_));
 }
 
 void UpdateExchange::Installed(InstallStatus status) {
@@ -207,8 +205,8 @@ void UpdateExchange::Installed(InstallStatus status) {
 
 void UpdateExchange::ReportInstalled() {
   if (ForDialog()) {
-    callerCode_ = caller::kFinished;
-    view_.ShowProgress(needs_.strings.Load(IDS_NET_FINISHED));
+    callerCode_ = CallerCode::Finished;
+    listener_.UpdateProgress(needs_.strings.Load(IDS_NET_FINISHED));
   }
   ToDoIsDone();
   Finish(UpdateOutcome::Kind::Updated);
@@ -218,20 +216,20 @@ void UpdateExchange::ReportInstalled() {
 void UpdateExchange::Failed() {
   file_.reset();
   if (!ForDialog() && tries_ < kTriesUnwatched) {
-    mode_ = kFirstRequest;
-    view_.ShowProgress(needs_.strings.Load(IDS_NET_CANT_CONNECT));
+    phase_ = Phase::FirstRequest;
+    listener_.UpdateProgress(needs_.strings.Load(IDS_NET_CANT_CONNECT));
     view_.StartTimer(kTryLater);
     return;
   }
-  callerCode_ = ForDialog() ? caller::kFailed : caller::kNoUpdate;
-  view_.ShowProgress(needs_.strings.Load(IDS_NET_CANT_CONNECT));
+  callerCode_ = ForDialog() ? CallerCode::Failed : CallerCode::NoUpdate;
+  listener_.UpdateProgress(needs_.strings.Load(IDS_NET_CANT_CONNECT));
   Finish(redirect_.empty() ? UpdateOutcome::Kind::CantConnect : UpdateOutcome::Kind::NotComplete);
 }
 
 void UpdateExchange::Refused(int reasonText) {
   Fail(reasonText);
-  callerCode_ = ForDialog() ? caller::kFailed : caller::kNoUpdate;
-  view_.ShowProgress(reason_);
+  callerCode_ = ForDialog() ? CallerCode::Failed : CallerCode::NoUpdate;
+  listener_.UpdateProgress(reason_);
   Finish(UpdateOutcome::Kind::Refused);
 }
 
@@ -247,7 +245,8 @@ void UpdateExchange::ToDoIsDone() {
 
 void UpdateExchange::Finish(UpdateOutcome::Kind kind) {
   file_.reset();
-  view_.Finished({kind, callerCode_, reason_});
+  listener_.UpdateFinished({kind, callerCode_, reason_});
+  view_.Unload();
 }
 
 }  // namespace sonaro

@@ -18,17 +18,18 @@ class CReg;
 class DataFolder;
 class Strings;
 class UpdateInstall;
+enum class InstallMode : int;
 enum class InstallStatus;
 
 // Who opened the update, and, when it is over, what came of it.
-namespace caller {
-inline constexpr int kUpdateDialog = 1000;
-inline constexpr int kFaceplateDialog = 1001;  // becomes kUpdateDialog once its dialog is known
-inline constexpr int kBackground = 1;          // nobody watches
-inline constexpr int kFinished = 2000;
-inline constexpr int kFailed = 3000;    // the dialog's update
-inline constexpr int kNoUpdate = 4000;  // another caller's update
-}  // namespace caller
+enum class CallerCode : int {
+  Background = 1,  // nobody watches
+  UpdateDialog = 1000,
+  FaceplateDialog = 1001,  // becomes UpdateDialog once its dialog is known
+  Finished = 2000,
+  Failed = 3000,   // the dialog's update
+  NoUpdate = 4000  // another caller's update
+};
 
 struct UpdateOutcome {
   enum class Kind {
@@ -40,8 +41,18 @@ struct UpdateOutcome {
     Cancelled
   };
   Kind kind = Kind::CantConnect;
-  int callerCode = 0;
+  CallerCode callerCode{};
   std::string reason;  // one sentence about what went wrong or is still to come, or ""
+};
+
+// Who opened an update hears this of it. The exchange and its window may not be destroyed within these calls.
+class UpdateListener {
+ public:
+  virtual ~UpdateListener() = default;
+  virtual void UpdateProgress(const std::string& text) = 0;  // a sentence for the user
+  // So far, and of how many; 0 when that is not known.
+  virtual void UpdateBytes(std::uint64_t bytes, std::uint64_t expected) = 0;
+  virtual void UpdateFinished(const UpdateOutcome& outcome) = 0;  // once, the last
 };
 
 // What the exchange needs of its window.
@@ -50,10 +61,8 @@ class UpdateView {
   virtual ~UpdateView() = default;
   virtual void StartTimer(int milliseconds) = 0;  // a timer that runs already starts anew
   virtual void StopTimer() = 0;
-  virtual void ShowProgress(const std::string& text) = 0;  // in the opener's label
-  virtual void ShowBytes(std::uint64_t bytes, std::uint64_t expected) = 0;
-  // The last call; the exchange may be destroyed within it.
-  virtual void Finished(const UpdateOutcome& outcome) = 0;
+  // The update is over and its listener has heard it. The exchange may be destroyed within this call.
+  virtual void Unload() = 0;
 };
 
 struct UpdateDependencies {
@@ -71,7 +80,8 @@ class UpdateExchange final : private HttpEvents {
   static constexpr int kTryLater = 10000;  // between two tries that nobody watches
   static constexpr int kTriesUnwatched = 3;
 
-  UpdateExchange(const UpdateDependencies& needs, UpdateView& view, int callerCode, int installCode);
+  UpdateExchange(const UpdateDependencies& needs, UpdateView& view, UpdateListener& listener,
+                 CallerCode callerCode, InstallMode installMode);
 
   // The window was loaded.
   void Load();
@@ -81,6 +91,9 @@ class UpdateExchange final : private HttpEvents {
   void Cancel();
 
  private:
+  // What the next tick of the timer does, or the answer that is waited for belongs to.
+  enum class Phase { FirstRequest, FileRequest, ConnectionFailed };
+
   void HTTPDataReceived(std::string_view body) override;
   void HTTPDataTransferred(std::uint64_t bytes, std::uint64_t expected) override;
   void HTTPError(const std::string& statusCode, const std::string& headers) override;
@@ -99,16 +112,17 @@ class UpdateExchange final : private HttpEvents {
   void Fail(int reasonText);
   void Refused(int reasonText);
   void ToDoIsDone();
-  bool ForDialog() const { return callerCode_ == caller::kUpdateDialog; }
+  bool ForDialog() const { return callerCode_ == CallerCode::UpdateDialog; }
   void Finish(UpdateOutcome::Kind kind);
 
   UpdateDependencies needs_;
   UpdateView& view_;
+  UpdateListener& listener_;
   std::unique_ptr<HttpControl> http_;
-  int openedBy_;
-  int callerCode_;
-  int installCode_;
-  std::string mode_;
+  const CallerCode openedBy_;
+  CallerCode callerCode_;
+  const InstallMode installMode_;
+  Phase phase_ = Phase::FirstRequest;
   std::string redirect_;
   std::string reason_;
   bool failed_ = false;

@@ -58,7 +58,7 @@ bool HasStationList(const HeldNames& names) {
 
 HeldNames UpdateInstall::Waiting() const { return HeldNames(reg_.Get(setting::kUpdateHold)); }
 
-InstallStatus UpdateInstall::Install(const UpdateContents& contents, int code) {
+InstallStatus UpdateInstall::Install(const UpdateContents& contents, InstallMode mode) {
   InstallStatus status = Check(contents);
   if (status == InstallStatus::Done) status = Unpack(contents);
   if (status != InstallStatus::Done) return status;
@@ -68,8 +68,8 @@ InstallStatus UpdateInstall::Install(const UpdateContents& contents, int code) {
   StoreValues(contents, HasStationList(earlier));
   reg_.Set(setting::kUpdateHold, held.Text());
   reg_.FlushSettings();
-  if (code == kHoldFiles) return InstallStatus::Done;
-  return PutInPlace(contents, earlier, code == kInstallAndRebuild);
+  if (mode == InstallMode::HoldFiles) return InstallStatus::Done;
+  return PutInPlace(contents, earlier, mode == InstallMode::InstallAndRebuild);
 }
 
 // A list without a station is no directory, whoever sent it.

@@ -15,10 +15,12 @@ class StatList;
 struct PreviousGuide;
 struct UpdateContents;
 
-// What the opener of an update wants done with the received files; every other code installs them without
-// making the station table.
-inline constexpr int kHoldFiles = 100;  // for the next start
-inline constexpr int kInstallAndRebuild = 101;
+// What the opener of an update wants done with the received files.
+enum class InstallMode : int {
+  Install = 0,      // without making the station table
+  HoldFiles = 100,  // for the next start
+  InstallAndRebuild = 101
+};
 
 // Of Done and Waits the update counts as taken; all others leave the guide and the settings as they were.
 enum class InstallStatus {
@@ -45,7 +47,7 @@ class UpdateInstall {
 
   // Takes what ReadUpdateFile gave, as a whole or not at all. The addresses of the update count as soon as it
   // is installed or held; the date of the directory and the version once the station list is in place.
-  [[nodiscard]] InstallStatus Install(const UpdateContents& contents, int code);
+  [[nodiscard]] InstallStatus Install(const UpdateContents& contents, InstallMode mode);
 
   // Brings back everything that the last update changed, and makes the station table.
   [[nodiscard]] UndoStatus UndoLastUpdate();

@@ -1,29 +1,23 @@
-// The hidden window of one update: it has the timer of the exchange and hands what the exchange reports to
-// whoever opened it. Loaded for one update and unloaded when that is over.
+// The hidden window of one update: it has the timer of the exchange. Loaded for one update and unloaded when
+// that is over.
 #pragma once
-
-#include <functional>
 
 #include "forms/Form.h"
 #include "net/UpdateExchange.h"
 
 namespace sonaro {
 
-// What the opener hears. The functions may be empty; the window may not be destroyed within them.
-struct UpdateOpener {
-  std::function<void(const std::string& text)> progress;
-  std::function<void(std::uint64_t bytes, std::uint64_t expected)> bytes;
-  std::function<void(const UpdateOutcome& outcome)> finished;
-};
-
 class frmInetUpdate final : public Form, private UpdateView {
  public:
-  frmInetUpdate(FormContext& context, const UpdateDependencies& needs, int callerCode, int installCode,
-                UpdateOpener opener);
+  frmInetUpdate(FormContext& context, const UpdateDependencies& needs, UpdateListener& listener,
+                CallerCode callerCode, InstallMode installMode)
+      : Form(context, Design()), exchange_(needs, *this, listener, callerCode, installMode) {}
 
   // Begins the update.
   void Load() { Create(); }
-  void Cancel();
+  void Cancel() {
+    if (IsOpen()) exchange_.Cancel();
+  }
 
  private:
   static const FormDesign& Design();
@@ -33,11 +27,8 @@ class frmInetUpdate final : public Form, private UpdateView {
 
   void StartTimer(int milliseconds) override;
   void StopTimer() override;
-  void ShowProgress(const std::string& text) override;
-  void ShowBytes(std::uint64_t bytes, std::uint64_t expected) override;
-  void Finished(const UpdateOutcome& outcome) override;
+  void Unload() override { Close(); }
 
-  UpdateOpener opener_;
   UpdateExchange exchange_;
 };
 

@@ -107,16 +107,14 @@ void frmUpdateDialog::Begin() {
   SetTextAndGrow(lblStuff, LoadText(IDS_NET_CONNECTING));
   SetText(lblBytes, "");
   Progress(prgUpdate).SetProgress(0, kScaleSteps);
-  UpdateOpener opener;
-  opener.progress = [this](const std::string& text) { SetText(lblStuff, text); };
-  opener.bytes = [this](std::uint64_t bytes, std::uint64_t expected) { ShowBytes(bytes, expected); };
-  opener.finished = [this](const UpdateOutcome& outcome) { Ended(outcome); };
-  update_ = calls_.begin(std::move(opener));
+  update_ = calls_.make(*this);
   update_->Load();
 }
 
+void frmUpdateDialog::UpdateProgress(const std::string& text) { SetText(lblStuff, text); }
+
 // The text changes in steps: a screen reader says each new one.
-void frmUpdateDialog::ShowBytes(std::uint64_t bytes, std::uint64_t expected) {
+void frmUpdateDialog::UpdateBytes(std::uint64_t bytes, std::uint64_t expected) {
   const std::uint64_t step = expected == 0 ? bytes / kQuietBytes : bytes * kTextSteps / expected;
   if (step != textStep_) SetText(lblBytes, BytesText(bytes, expected, strings_));
   textStep_ = step;
@@ -125,7 +123,7 @@ void frmUpdateDialog::ShowBytes(std::uint64_t bytes, std::uint64_t expected) {
   }
 }
 
-void frmUpdateDialog::Ended(const UpdateOutcome& outcome) {
+void frmUpdateDialog::UpdateFinished(const UpdateOutcome& outcome) {
   if (unloading_) return;
   updating_ = false;
   const bool updated = outcome.kind == UpdateOutcome::Kind::Updated;

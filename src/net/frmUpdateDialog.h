@@ -16,12 +16,11 @@ namespace sonaro {
 
 class Strings;
 class frmInetUpdate;
-struct UpdateOpener;
 enum class UndoStatus;
 
 struct UpdateDialogCalls {
-  // Begins an update that reports to the dialog.
-  std::function<std::unique_ptr<frmInetUpdate>(UpdateOpener opener)> begin;
+  // An update that reports to `dialog` and has not begun.
+  std::function<std::unique_ptr<frmInetUpdate>(UpdateListener& dialog)> make;
   std::function<std::string()> installed;  // the directory has changed: returns the report on it
   std::function<bool()> canUndo;
   std::function<UndoStatus()> undo;
@@ -30,7 +29,7 @@ struct UpdateDialogCalls {
 
 enum class UpdateOpening { Begin, OfferUndo };
 
-class frmUpdateDialog final : public Form {
+class frmUpdateDialog final : public Form, private UpdateListener {
  public:
   frmUpdateDialog(FormContext& context, UpdateDialogCalls calls, UpdateOpening opening);
   ~frmUpdateDialog() override;
@@ -45,10 +44,12 @@ class frmUpdateDialog final : public Form {
   void OnLoad() override;
   void OnUnload() override;
   void Begin();
-  void Ended(const UpdateOutcome& outcome);
   void SetOffer(Offer offer);
   void ShowFailure(bool failed);
-  void ShowBytes(std::uint64_t bytes, std::uint64_t expected);
+
+  void UpdateProgress(const std::string& text) override;
+  void UpdateBytes(std::uint64_t bytes, std::uint64_t expected) override;
+  void UpdateFinished(const UpdateOutcome& outcome) override;
 
   void butMsg_Click();
   void butCancel_Click() { Close(); }

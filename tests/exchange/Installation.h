@@ -22,7 +22,7 @@ namespace sonaro {
 
 inline const std::string kUsersGroups = "Jazz\t1 \r\n";
 
-class Installation : private UpdateView {
+class Installation : private UpdateView, private UpdateListener {
  public:
   // `folder` is copied by the caller; `registry` outlives this.
   Installation(const std::string& folder, Registry& registry) : reg(registry), data(files, folder, '/') {
@@ -34,8 +34,8 @@ class Installation : private UpdateView {
   // One update for the dialog, until its outcome.
   UpdateOutcome Update() {
     outcome_.reset();
-    UpdateExchange exchange({reg, data, strings_, install_, http, {}}, *this, caller::kUpdateDialog,
-                            kInstallAndRebuild);
+    UpdateExchange exchange({reg, data, strings_, install_, http, {}}, *this, *this, CallerCode::UpdateDialog,
+                            InstallMode::InstallAndRebuild);
     exchange.Load();
     for (int step = 0; step < 50 && !outcome_; ++step) {
       if (timer_) {
@@ -44,7 +44,7 @@ class Installation : private UpdateView {
         break;
       }
     }
-    return outcome_.value_or(UpdateOutcome{UpdateOutcome::Kind::Cancelled, 0, "it never ended"});
+    return outcome_.value_or(UpdateOutcome{UpdateOutcome::Kind::Cancelled, {}, "it never ended"});
   }
 
   // What a start does before anything is shown.
@@ -65,9 +65,10 @@ class Installation : private UpdateView {
  private:
   void StartTimer(int) override { timer_ = true; }
   void StopTimer() override { timer_ = false; }
-  void ShowProgress(const std::string&) override {}
-  void ShowBytes(std::uint64_t, std::uint64_t) override { ++progress; }
-  void Finished(const UpdateOutcome& outcome) override { outcome_ = outcome; }
+  void UpdateProgress(const std::string&) override {}
+  void UpdateBytes(std::uint64_t, std::uint64_t) override { ++progress; }
+  void Unload() override {}
+  void UpdateFinished(const UpdateOutcome& outcome) override { outcome_ = outcome; }
 
   FakeStrings strings_;
   UpdateInstall install_{data, reg, stations};

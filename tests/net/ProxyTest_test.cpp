@@ -73,7 +73,8 @@ TEST_F(ProxyTesting, TellsHowFarItCameAndBeginsAnewEachTime) {
   for (const auto& each : cases) {
     http_.Answer("GET http://", each.answer);
     EXPECT_EQ(Run(test), each.shown);
-    EXPECT_EQ(status_, std::to_string(result_ == ProxyTestState::Done ? IDS_NET_TEST_WORKS : IDS_NET_TEST_FAILED));
+    EXPECT_EQ(status_,
+              std::to_string(result_ == ProxyTestState::Done ? IDS_NET_TEST_WORKS : IDS_NET_TEST_FAILED));
   }
   EXPECT_EQ(http_.Requests()[0]->host, "proxy.example");
   EXPECT_EQ(http_.Requests()[0]->port, 8080);

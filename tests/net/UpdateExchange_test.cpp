@@ -14,7 +14,7 @@ namespace {
 
 using Kind = UpdateOutcome::Kind;
 
-class FakeUpdateView : public UpdateView {
+class FakeUpdateView : public UpdateView, public UpdateListener {
  public:
   std::optional<int> timer;
   std::vector<int> intervals;
@@ -26,9 +26,10 @@ class FakeUpdateView : public UpdateView {
     intervals.push_back(milliseconds);
   }
   void StopTimer() override { timer.reset(); }
-  void ShowProgress(const std::string& text) override { progress += text + ";"; }
-  void ShowBytes(std::uint64_t, std::uint64_t) override {}
-  void Finished(const UpdateOutcome& ended) override {
+  void UpdateProgress(const std::string& text) override { progress += text + ";"; }
+  void UpdateBytes(std::uint64_t, std::uint64_t) override {}
+  void Unload() override { EXPECT_TRUE(outcome) << "unloaded before it is finished"; }
+  void UpdateFinished(const UpdateOutcome& ended) override {
     ASSERT_FALSE(outcome) << "finished twice";
     outcome = ended;
   }
@@ -44,10 +45,10 @@ constexpr const char* kFileAt = "http://files.example/u/update7.txt";
 
 class Exchange {
  public:
-  Exchange(Machine& machine, int callerCode, int installCode)
+  Exchange(Machine& machine, CallerCode callerCode, InstallMode mode)
       : exchange_({machine.reg, machine.data, machine.strings, machine.install, machine.http,
                    [this](std::string_view reason) { toDo += reason; }},
-                  view, callerCode, installCode),
+                  view, view, callerCode, mode),
         http_(machine.http) {}
 
   // Until it has finished or waits for nothing.
@@ -95,11 +96,11 @@ class UpdateExchangeTest : public testing::Test {
 };
 
 TEST_F(UpdateExchangeTest, UpdatesForTheDialog) {
-  Exchange exchange(*machine_, caller::kUpdateDialog, kInstallAndRebuild);
+  Exchange exchange(*machine_, CallerCode::UpdateDialog, InstallMode::InstallAndRebuild);
   exchange.Run();
   ASSERT_TRUE(exchange.view.outcome);
   EXPECT_EQ(exchange.view.outcome->kind, Kind::Updated);
-  EXPECT_EQ(exchange.view.outcome->callerCode, 2000);
+  EXPECT_EQ(exchange.view.outcome->callerCode, CallerCode::Finished);
   EXPECT_EQ(exchange.view.progress, Text(IDS_NET_GETTING_DATA) + Text(IDS_NET_FINISHED));
   ASSERT_EQ(machine_->http.Requests().size(), 2u);
   EXPECT_EQ(Request(0),
@@ -132,14 +133,14 @@ TEST_F(UpdateExchangeTest, MakesATableAnewThatTheUpdateBroughtDamaged) {
   const std::string table = Section("Statorg.isd", "no table\r\n") + Section("Statorg.ism", "none\r\n");
   const struct {
     std::string sections;
-    int code;
+    InstallMode code;
     const char* name;
-  } cases[] = {{table, kInstallAndRebuild, "Old One"},
-               {table, 0, "Old One"},
-               {Section("Station.snr", kNewList) + table, kInstallAndRebuild, "New One"}};
+  } cases[] = {{table, InstallMode::InstallAndRebuild, "Old One"},
+               {table, InstallMode::Install, "Old One"},
+               {Section("Station.snr", kNewList) + table, InstallMode::InstallAndRebuild, "New One"}};
   for (const auto& c : cases) {
     machine_->http.Answer("?Flush=", FakeAnswer::Body(Complete(c.sections + "date::9/1/2000::\r\n")));
-    Exchange exchange(*machine_, caller::kUpdateDialog, c.code);
+    Exchange exchange(*machine_, CallerCode::UpdateDialog, c.code);
     exchange.Run();
     EXPECT_EQ(exchange.view.outcome->kind, Kind::Updated) << c.name;
     EXPECT_TRUE(machine_->stations.Verify()) << c.name;
@@ -149,45 +150,45 @@ TEST_F(UpdateExchangeTest, MakesATableAnewThatTheUpdateBroughtDamaged) {
 
 TEST_F(UpdateExchangeTest, InstallsAsTheOpenerAsks) {
   const struct {
-    int code;
+    InstallMode code;
     const char* hold;
     const std::string& list;
     const char* date;
     const char* firstName;
   } kCases[] = {
-      {kHoldFiles, "Station.snr\tfun.snr\t", kOldList, "8/1/2000", "Old One"},
-      {0, "", kNewList, "9/1/2000", "Old One"},
+      {InstallMode::HoldFiles, "Station.snr\tfun.snr\t", kOldList, "8/1/2000", "Old One"},
+      {InstallMode::Install, "", kNewList, "9/1/2000", "Old One"},
   };
   for (const auto& each : kCases) {
-    Exchange exchange(*machine_, caller::kBackground, each.code);
+    Exchange exchange(*machine_, CallerCode::Background, each.code);
     exchange.Run();
-    ASSERT_TRUE(exchange.view.outcome) << each.code;
-    EXPECT_EQ(exchange.view.outcome->kind, Kind::Updated) << each.code;
-    EXPECT_EQ(exchange.view.outcome->callerCode, caller::kBackground) << each.code;
+    ASSERT_TRUE(exchange.view.outcome) << each.hold;
+    EXPECT_EQ(exchange.view.outcome->kind, Kind::Updated) << each.hold;
+    EXPECT_EQ(exchange.view.outcome->callerCode, CallerCode::Background) << each.hold;
     EXPECT_EQ(Request(machine_->http.Requests().size() - 1), "GET /u/update7.txt?Flush=Yes");
-    EXPECT_EQ(Setting("UpdateHold"), each.hold) << each.code;
-    EXPECT_EQ(File("Station.snr"), each.list) << each.code;
-    EXPECT_EQ(Setting("LastUpdate"), each.date) << each.code;
-    EXPECT_EQ(machine_->stations.FindStation(1).fields[0], each.firstName) << each.code;
+    EXPECT_EQ(Setting("UpdateHold"), each.hold) << each.hold;
+    EXPECT_EQ(File("Station.snr"), each.list) << each.hold;
+    EXPECT_EQ(Setting("LastUpdate"), each.date) << each.hold;
+    EXPECT_EQ(machine_->stations.FindStation(1).fields[0], each.firstName) << each.hold;
   }
 }
 
 TEST_F(UpdateExchangeTest, TellsTheFaceplateDialogAsTheOther) {
-  Exchange exchange(*machine_, caller::kFaceplateDialog, 0);
+  Exchange exchange(*machine_, CallerCode::FaceplateDialog, InstallMode::Install);
   exchange.Run();
-  EXPECT_EQ(exchange.view.outcome->callerCode, 2000);
+  EXPECT_EQ(exchange.view.outcome->callerCode, CallerCode::Finished);
   EXPECT_EQ(Request(1), "GET /u/update7.txt?Flush=No");
 }
 
 TEST_F(UpdateExchangeTest, StopsWhenNothingIsNew) {
   machine_->http.Answer("/update.asp", Redirect("http://files.example/x/noupdate.txt"));
-  Exchange dialog(*machine_, caller::kUpdateDialog, kInstallAndRebuild);
+  Exchange dialog(*machine_, CallerCode::UpdateDialog, InstallMode::InstallAndRebuild);
   dialog.Run();
   EXPECT_EQ(dialog.view.outcome->kind, Kind::UpToDate);
   EXPECT_TRUE(NothingChanged());
-  Exchange background(*machine_, caller::kBackground, kInstallAndRebuild);
+  Exchange background(*machine_, CallerCode::Background, InstallMode::InstallAndRebuild);
   background.Run();
-  EXPECT_EQ(background.view.outcome->callerCode, 4000);
+  EXPECT_EQ(background.view.outcome->callerCode, CallerCode::NoUpdate);
   EXPECT_EQ(background.view.progress, Text(IDS_NET_CANT_CONNECT));
   EXPECT_EQ(background.toDo, "Update");
   EXPECT_EQ(Setting("DoWhat"), "/SF//XX/");
@@ -224,11 +225,11 @@ TEST_F(UpdateExchangeTest, LeavesEverythingAloneWhenItFails) {
     machine_->http.Answer("/update.asp", each.first);
     machine_->http.Answer("?Flush=", each.second);
     const std::size_t before = machine_->http.Requests().size();
-    Exchange exchange(*machine_, caller::kUpdateDialog, kInstallAndRebuild);
+    Exchange exchange(*machine_, CallerCode::UpdateDialog, InstallMode::InstallAndRebuild);
     exchange.Run();
     ASSERT_TRUE(exchange.view.outcome);
     EXPECT_EQ(exchange.view.outcome->kind, each.kind);
-    EXPECT_EQ(exchange.view.outcome->callerCode, 3000);
+    EXPECT_EQ(exchange.view.outcome->callerCode, CallerCode::Failed);
     EXPECT_NE(exchange.view.outcome->reason, "");
     EXPECT_EQ(machine_->http.Requests().size() - before, each.requests);
     EXPECT_EQ(exchange.toDo, "");
@@ -238,16 +239,16 @@ TEST_F(UpdateExchangeTest, LeavesEverythingAloneWhenItFails) {
 
 TEST_F(UpdateExchangeTest, TriesAgainByItselfOnlyWhenNobodyWatches) {
   machine_->http.Answer("/update.asp", FakeAnswer::ObjectError(HttpFault::Lost));
-  Exchange exchange(*machine_, caller::kBackground, kInstallAndRebuild);
+  Exchange exchange(*machine_, CallerCode::Background, InstallMode::InstallAndRebuild);
   exchange.Run();
   const int soon = UpdateExchange::kSoon;
   EXPECT_EQ(exchange.view.intervals, (std::vector<int>{soon, soon, 10000, soon, 10000, soon}));
-  EXPECT_EQ(exchange.view.outcome->callerCode, 4000);
+  EXPECT_EQ(exchange.view.outcome->callerCode, CallerCode::NoUpdate);
   EXPECT_TRUE(NothingChanged());
 }
 
 TEST_F(UpdateExchangeTest, CancelsAtOnce) {
-  Exchange exchange(*machine_, caller::kUpdateDialog, kInstallAndRebuild);
+  Exchange exchange(*machine_, CallerCode::UpdateDialog, InstallMode::InstallAndRebuild);
   exchange.Get().Load();
   exchange.Get().tmrInetStuff_Timer();
   exchange.Get().Cancel();
@@ -260,7 +261,7 @@ TEST_F(UpdateExchangeTest, CancelsAtOnce) {
 // A file that is in use keeps its content; its new copy waits for the next start.
 TEST_F(UpdateExchangeTest, KeepsAFileThatIsInUse) {
   std::unique_ptr<InputFile> inUse = files_.Open("/d/fun.snr");
-  Exchange exchange(*machine_, caller::kUpdateDialog, kInstallAndRebuild);
+  Exchange exchange(*machine_, CallerCode::UpdateDialog, InstallMode::InstallAndRebuild);
   exchange.Run();
   EXPECT_EQ(exchange.view.outcome->kind, Kind::Updated);
   EXPECT_EQ(Setting("UpdateHold"), "fun.snr\t");
@@ -291,7 +292,7 @@ TEST(UpdateCrash, LeavesTheOldDirectoryOrTheNewOne) {
     machine->http.Answer("/update.asp", Redirect(kFileAt));
   };
   const auto scenario = [&](FakeFiles&) {
-    Exchange(*machine, caller::kUpdateDialog, kInstallAndRebuild).Run();
+    Exchange(*machine, CallerCode::UpdateDialog, InstallMode::InstallAndRebuild).Run();
   };
   const auto check = [&](FakeFiles& files, const CrashPoint& point) {
     SCOPED_TRACE("crash at operation " + std::to_string(point.operation));
@@ -345,7 +346,7 @@ TEST(UpdateMutation, NeverCostsTheUserAnything) {
     if (round % 4 != 0) update += update::kSentinel;  // else the sentinel is missing
     machine.http.Answer("?Flush=", FakeAnswer::Body(update));
     machine.http.Answer("/update.asp", Redirect(kFileAt));
-    Exchange exchange(machine, caller::kUpdateDialog, kInstallAndRebuild);
+    Exchange exchange(machine, CallerCode::UpdateDialog, InstallMode::InstallAndRebuild);
     exchange.Run();
     ASSERT_TRUE(exchange.view.outcome);
     StartAgain(files, machine);

@@ -30,9 +30,10 @@ void PrepareGuide(FakeFiles& files) {
   files.Put("/d/genre-jazz.snr", "1\r\n");
 }
 
-InstallStatus Take(Machine& machine, const std::string& update, int code = kInstallAndRebuild) {
+InstallStatus Take(Machine& machine, const std::string& update,
+                   InstallMode mode = InstallMode::InstallAndRebuild) {
   machine.files.Put("/d/update.txt", update);
-  return machine.install.Install(ReadUpdateFile(machine.data), code);
+  return machine.install.Install(ReadUpdateFile(machine.data), mode);
 }
 
 void StartAgain(Machine& machine) {
@@ -96,7 +97,7 @@ TEST_F(UpdateInstallTest, UndoBringsBackAllThatTheUpdateChanged) {
     EXPECT_EQ(Differences(Guide(*machine_), before), "") << update;
     EXPECT_FALSE(machine_->install.CanUndo());
   }
-  EXPECT_EQ(Take(*machine_, kWhole, kHoldFiles), InstallStatus::Done);
+  EXPECT_EQ(Take(*machine_, kWhole, InstallMode::HoldFiles), InstallStatus::Done);
   EXPECT_EQ(machine_->install.UndoLastUpdate(), UndoStatus::Done);
   StartAgain(*machine_);
   EXPECT_EQ(Differences(Guide(*machine_), before), "") << "what was held does not come after all";
@@ -181,8 +182,9 @@ TEST_F(UpdateInstallTest, TheDateComesWithTheListAndNothingThatWaitsIsForgotten)
   EXPECT_EQ(Setting("UpdateHold"), "Station.snr\tfun.snr\t");
   EXPECT_EQ(Setting("LastUpdate"), "8/1/2000");
   EXPECT_EQ(Setting("UpdateVersion"), "6");
-  EXPECT_EQ(Take(*machine_, Section("FUN.snr", "newer\r\n") + Section("more.snr", "m\r\n"), kHoldFiles),
-            InstallStatus::Done);
+  EXPECT_EQ(
+      Take(*machine_, Section("FUN.snr", "newer\r\n") + Section("more.snr", "m\r\n"), InstallMode::HoldFiles),
+      InstallStatus::Done);
   EXPECT_EQ(Setting("UpdateHold"), "Station.snr\tfun.snr\tmore.snr\t");
   EXPECT_EQ(Take(*machine_, "::HelpURL::http://x/::\r\ndate::9/9/2000::\r\n"), InstallStatus::Done);
   EXPECT_EQ(Setting("LastUpdate"), "8/1/2000") << "the list is still the old one";
@@ -255,8 +257,9 @@ void DieAtEveryMoment(Story story) {
       (void)machine->install.UndoLastUpdate();
       return;
     }
-    (void)machine->install.Install(ReadUpdateFile(machine->data),
-                                   story == Story::Held ? kHoldFiles : kInstallAndRebuild);
+    (void)machine->install.Install(ReadUpdateFile(machine->data), story == Story::Held
+                                                                      ? InstallMode::HoldFiles
+                                                                      : InstallMode::InstallAndRebuild);
     if (story == Story::Held) StartAgain(*machine);
   };
   FakeFiles whole;

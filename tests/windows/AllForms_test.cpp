@@ -163,11 +163,12 @@ const NamedForm kForms[] = {
     {"frmUpdateDialog",
      [](EmptyProgram& p) {
        return Make<frmUpdateDialog>(p.forms,
-                                    UpdateDialogCalls{.begin =
-                                                          [&p](UpdateOpener opener) {
+                                    UpdateDialogCalls{.make =
+                                                          [&p](UpdateListener& dialog) {
                                                             return std::make_unique<frmInetUpdate>(
-                                                                p.forms, p.update, caller::kUpdateDialog,
-                                                                kInstallAndRebuild, std::move(opener));
+                                                                p.forms, p.update, dialog,
+                                                                CallerCode::UpdateDialog,
+                                                                InstallMode::InstallAndRebuild);
                                                           }},
                                     UpdateOpening::Begin);
      }},
