@@ -9,12 +9,14 @@
 #include <string>
 
 #include "base/DataFolder.h"
+#include "directory/Scrambling.h"
 #include "directory/StatList.h"
 #include "mainwindow/StationListFiller.h"
 #include "platform/posix/FilesPosix.h"
 #include "settings/Strings.h"
 #include "stations/PersonalStations.h"
 #include "stations/RecentList.h"
+#include "stations/StationSource.h"
 
 namespace sonaro {
 namespace {
@@ -63,7 +65,8 @@ class Guide {
   PersonalStations personal_{data_};
   RecentList recent_{data_};
   NoStrings strings_;
-  StationListFiller lists_{stations_, personal_, recent_, strings_};
+  StationSource source_{stations_, personal_, BuiltInAlphabets(), strings_};
+  StationListFiller lists_{stations_, source_, recent_, strings_};
   std::string ids_;
 };
 

@@ -74,7 +74,7 @@ class Application final : private StartupView, private LaunchView, private Progr
   void CloseAsked() override;
   void Exit() override;
   bool ScanIsAt(int x, int y) override;
-  void DropOnScan(const std::string& rowKey, int x, int y) override;
+  void DropOnScan(const StationKey& station, int x, int y) override;
   void PlayNoticeSound() override;
   void ChoosePlayer(Form& owner) override;
   void TellTray(const std::string& text) override { tray_.Tell(text); }

@@ -43,12 +43,10 @@ bool Application::OfferPlayers(const std::string& sentence) {
 
 void Application::ShowScan() {
   if (!scanWindow_) {
-    scanWindow_ =
-        std::make_unique<frmScan>(context_, scan_, help_,
-                                  frmScan::Groups{[this] { return GroupNames(); },
-                                                  [this](const std::string& name, const std::string& token) {
-                                                    main_->Groups().AddStationToGroup(name, token);
-                                                  }});
+    scanWindow_ = std::make_unique<frmScan>(context_, scan_, help_, favorites_,
+                                            [this](const std::string& name, const StationKey& station) {
+                                              main_->Groups().AddStationToGroup(name, station);
+                                            });
   }
   scanWindow_->Show();
 }
@@ -83,8 +81,8 @@ void Application::Open(ProgramWindow window, Form* owner) {
 
 bool Application::ScanIsAt(int x, int y) { return scanWindow_ && scanWindow_->IsAt({x, y}); }
 
-void Application::DropOnScan(const std::string& rowKey, int x, int y) {
-  if (scanWindow_) scanWindow_->TakeDropped(rowKey, {x, y});
+void Application::DropOnScan(const StationKey& station, int x, int y) {
+  if (scanWindow_) scanWindow_->TakeDropped(station, {x, y});
 }
 
 }  // namespace sonaro

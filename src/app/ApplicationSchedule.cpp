@@ -46,7 +46,7 @@ ApplicationSchedule::ApplicationSchedule(const Dependencies& needs)
       store_(needs.data, needs.state.shortDatePattern),
       calendar_(store_),
       shows_(needs.data, needs.messages, needs.strings),
-      picker_(needs.stations, needs.personal, needs.recent, needs.reg, needs.strings),
+      picker_(needs.stations, needs.source, needs.favorites, needs.recent, needs.reg, needs.strings),
       services_(MakeServices()),
       timerWindow_(needs.context),
       timer_(calendar_, needs.platform.clock, needs.platform.messages, timerWindow_),
@@ -55,7 +55,6 @@ ApplicationSchedule::ApplicationSchedule(const Dependencies& needs)
   store_.LoadSchedule(needs_.platform.clock.LocalNow().date);
   static_cast<void>(shows_.List());  // what cannot be read is told with the other files
   diary_.Reload();
-  picker_.SetGroups([this] { return Groups(); });
   timerWindow_.SetTicks(
       [this] {
         timer_.Timer1_Timer();
@@ -84,7 +83,7 @@ ScheduleServices ApplicationSchedule::MakeServices() {
           needs_.help,
           needs_.state.clockStyle,
           needs_.state.shortDatePattern,
-          [this](const std::string& key) { return needs_.source.WebSiteOf(StationKey::FromRowKey(key)); },
+          [this](const StationKey& station) { return needs_.source.WebSiteOf(station); },
           [this](std::string_view show) { return NextBroadcast(show); },
           [this] { Changed(); }};
 }
@@ -96,7 +95,7 @@ std::optional<DateTime> ApplicationSchedule::NextBroadcast(std::string_view show
 }
 
 NotifyActions ApplicationSchedule::MakeNotifyActions() {
-  return {[this](const PlayChoice& choice) { needs_.player.LaunchStation(choice.key, choice.mode); },
+  return {[this](const PlayChoice& choice) { needs_.player.LaunchStation(choice.request); },
           [this](const std::string& address) { needs_.pages.OpenWebPage(address); },
           [this] {
             if (playSound_ && needs_.reg.Get(setting::kSoundNotify)) playSound_();
@@ -148,10 +147,10 @@ void ApplicationSchedule::ShowSchedule(HWND owner) {
   list_.FillLists();
 }
 
-void ApplicationSchedule::ScheduleStation(Form& owner, const std::string& rowKey) {
-  const std::string name = needs_.source.NameOf(StationKey::FromRowKey(rowKey));
-  ScheduleDraft draft =
-      ScheduleDraft::ForStation(name.empty() ? "" : rowKey, name, needs_.platform.clock.LocalNow());
+void ApplicationSchedule::ScheduleStation(Form& owner, const StationKey& station) {
+  const std::string name = needs_.source.NameOf(station);
+  ScheduleDraft draft = ScheduleDraft::ForStation(name.empty() ? StationKey() : station, name,
+                                                  needs_.platform.clock.LocalNow());
   frmSchedChange(needs_.context, services_, std::move(draft)).ShowModal(owner.Window());
 }
 
@@ -171,7 +170,7 @@ std::vector<EventLine> ApplicationSchedule::ComingEvents() {
     const StationKey station = StationKey::FromToken(event.record[EventField::StationId]);
     const bool known = station && !needs_.source.NameOf(station).empty();
     lines.push_back({NextShown(local, now, needs_.state.clockStyle), event.record[EventField::Name],
-                     event.record[EventField::StationName], known ? station.Token() : "",
+                     event.record[EventField::StationName], known ? station : StationKey(),
                      IsNoticed(event.record, local), PersonalShows::Holds(shows, ShowKeyOf(event.record))});
   }
   return lines;
@@ -224,15 +223,6 @@ void ApplicationSchedule::DirectoryChanged() {
   diary_.Reload();
   timer_.EvaluateSchedule();
   RememberSeen();
-}
-
-std::vector<PickGroup> ApplicationSchedule::Groups() const {
-  std::vector<PickGroup> groups;
-  for (std::size_t group = 0; group < needs_.favorites.Count(); ++group) {
-    groups.push_back(
-        {std::string(needs_.favorites.Name(group)), std::string(needs_.favorites.Members(group))});
-  }
-  return groups;
 }
 
 // An item was added, changed or deleted.

@@ -78,7 +78,7 @@ class ApplicationSchedule final : public ScheduleCommands {
 
   void ShowSchedule(HWND owner);
 
-  void ScheduleStation(Form& owner, const std::string& rowKey) override;
+  void ScheduleStation(Form& owner, const StationKey& station) override;
   void ExplainTimes(Form& owner) override;
   std::vector<EventLine> ComingEvents() override;
   void NotifyMe(Form& owner, std::size_t line) override;
@@ -91,7 +91,6 @@ class ApplicationSchedule final : public ScheduleCommands {
   ScheduleServices MakeServices();
   NotifyActions MakeNotifyActions();
   std::optional<DateTime> NextBroadcast(std::string_view show) const;
-  std::vector<PickGroup> Groups() const;
   bool IsNoticed(const EventRecord& event, const DateTime& local) const;
   void Changed();
   void RememberSeen();

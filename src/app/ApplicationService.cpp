@@ -116,9 +116,8 @@ UndoStatus ApplicationService::Undo() {
 std::vector<std::int32_t> ApplicationService::StationsOfGroups() const {
   std::vector<std::int32_t> ids;
   for (std::size_t group = 0; group < needs_.favorites.Count(); ++group) {
-    for (const std::string_view token : needs_.favorites.Tokens(group)) {
-      const StationKey key = StationKey::FromToken(token);
-      if (key.kind == StationKey::Kind::Directory) ids.push_back(key.number);
+    for (const StationKey& key : needs_.favorites.Keys(group)) {
+      if (key.IsOfGuide()) ids.push_back(key.number);
     }
   }
   return ids;

@@ -5,8 +5,8 @@
 
 #include <cstddef>
 #include <optional>
-#include <span>
-#include <string>
+#include <unordered_map>
+#include <vector>
 
 namespace sonaro {
 
@@ -24,7 +24,18 @@ std::optional<std::size_t> SelectionAfter(const RowsChange& change, std::size_t 
 // The same for a list that was filled anew: rows are known by their keys. `before` and `after` are all keys
 // in the order of the lists; `selected` is a row of `before`. Of rows with the same key that in the same
 // place counts, else the first.
-std::optional<std::size_t> SelectionAfterFill(std::span<const std::string> before, std::size_t selected,
-                                              std::span<const std::string> after);
+template <typename Key>
+std::optional<std::size_t> SelectionAfterFill(const std::vector<Key>& before, std::size_t selected,
+                                              const std::vector<Key>& after) {
+  if (after.empty()) return std::nullopt;
+  if (selected >= before.size()) return after.size() - 1;
+  if (selected < after.size() && after[selected] == before[selected]) return selected;
+  std::unordered_map<Key, std::size_t> places;
+  for (std::size_t row = 0; row < after.size(); ++row) places.emplace(after[row], row);
+  for (std::size_t row = selected; row < before.size(); ++row) {
+    if (const auto found = places.find(before[row]); found != places.end()) return found->second;
+  }
+  return after.size() - 1;
+}
 
 }  // namespace sonaro

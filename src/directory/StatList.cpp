@@ -42,6 +42,7 @@ void StatList::CloseStationTable(Handle handle) {
 // Without true `record` stays as it is.
 bool StatList::Read(Handle handle, std::int32_t stationId, StationRecord& record) {
   if (handle == 0) return false;
+  ++lookUps_;
   status_ = vmx_->VmxGet(handle, std::to_string(stationId), VmxReadMode::Key, *buffer_);
   if (status_ != TableStatus::Success) return false;
   record.StationId = buffer_->key;

@@ -78,6 +78,8 @@ class StatList {
   std::vector<std::int32_t> SearchStationIds(std::string_view text, bool allWords);
   std::vector<StationRecord> SearchStations(std::string_view text, bool allWords);
 
+  // Identifiers looked up since this object was made: the work that an operation costs.
+  std::uint64_t LookUps() const { return lookUps_; }
   // Records in the table; 0 when it cannot be opened.
   std::uint32_t StationCount();
   // True when the table's files exist, fit together and pass all their checks (reads them once).
@@ -98,6 +100,7 @@ class StatList {
   std::unique_ptr<Vmx> vmx_;
   std::unique_ptr<VmxRecord> buffer_;  // of the last read
   TableStatus status_ = TableStatus::Success;
+  std::uint64_t lookUps_ = 0;
 };
 
 }  // namespace sonaro

@@ -42,7 +42,7 @@ bool FavoriteCommands::AddFavoriteGroup() {
 
 void FavoriteCommands::RenameFavoriteGroup(std::size_t group) {
   if (group >= groups_.Count()) return;
-  const std::string oldName(groups_.Name(group));
+  const std::string oldName = groups_.Name(group);
   const std::string name = FavoriteGroups::CleanName(prompts_.AskGroupName(oldName));
   if (name.empty() || name == oldName) return;
   if (const auto holder = groups_.Find(name); holder && groups_.Name(*holder) != oldName) {
@@ -56,7 +56,7 @@ void FavoriteCommands::RenameFavoriteGroup(std::size_t group) {
 
 void FavoriteCommands::DeleteFavoriteGroup(std::size_t group) {
   if (group >= groups_.Count()) return;
-  const std::string name(groups_.Name(group));
+  const std::string name = groups_.Name(group);
   if (!settings_.Get(setting::kNoShowDelete) && !ConfirmDelete(name)) return;
   const auto removed = groups_.Find(name);  // while the question stood the groups may have moved
   if (!removed || !Changed(groups_.Remove(*removed))) return;
@@ -82,34 +82,34 @@ void FavoriteCommands::MoveFavoriteGroup(std::size_t from, std::size_t to) {
   Changed(groups_.Move(from, to));
 }
 
-void FavoriteCommands::AddStationToGroup(std::string_view groupName, std::string_view token) {
+void FavoriteCommands::AddStationToGroup(std::string_view groupName, const StationKey& station) {
   const auto group = groups_.Find(groupName);
   if (!group) return;
-  const std::string name(groups_.Name(*group));
-  if (groups_.Contains(*group, token)) return prompts_.SayDone(IDS_GROUP_HAS_IT, token, name);
-  if (!Changed(groups_.AddStation(*group, token))) return;
+  const std::string name = groups_.Name(*group);
+  if (groups_.Contains(*group, station)) return prompts_.SayDone(IDS_GROUP_HAS_IT, station, name);
+  if (!Changed(groups_.AddStation(*group, station))) return;
   listing_.GroupsChanged();
-  prompts_.SayDone(IDS_GROUP_ADDED_TO, token, name);
+  prompts_.SayDone(IDS_GROUP_ADDED_TO, station, name);
 }
 
-void FavoriteCommands::AddStationToGroupOrNew(std::string_view groupName, std::string_view token) {
+void FavoriteCommands::AddStationToGroupOrNew(std::string_view groupName, const StationKey& station) {
   const std::string name = FavoriteGroups::CleanName(groupName);
-  if (name.empty() || groups_.Find(name)) return AddStationToGroup(name, token);
-  if (RefuseEleventh() || !Changed(groups_.Add(name, token))) return;
+  if (name.empty() || groups_.Find(name)) return AddStationToGroup(name, station);
+  if (RefuseEleventh() || !Changed(groups_.Add(name, station))) return;
   prompts_.TellTray("AddNewFavGroup\t" + name);
-  prompts_.SayDone(IDS_GROUP_ADDED_TO, token, name);
+  prompts_.SayDone(IDS_GROUP_ADDED_TO, station, name);
 }
 
 void FavoriteCommands::TakeOutMissing() {
   if (listing_.State().holds != Holds::Group || listing_.State().missing.empty()) return;
   const std::string name = listing_.State().group;
-  const std::unordered_set<std::string> tokens(listing_.State().missing.begin(),
-                                               listing_.State().missing.end());
+  const std::unordered_set<StationKey> asked(listing_.State().missing.begin(),
+                                             listing_.State().missing.end());
   Message message;
   message.key = kTakeOutKey;
   message.caption = strings_.Load(IDS_GROUP_CAPTION);
-  const int textId = tokens.size() == 1 ? IDS_GROUP_TAKE_OUT_ONE : IDS_GROUP_TAKE_OUT;
-  message.text = FormatText(strings_.Load(textId), {name, std::to_string(tokens.size())});
+  const int textId = asked.size() == 1 ? IDS_GROUP_TAKE_OUT_ONE : IDS_GROUP_TAKE_OUT;
+  message.text = FormatText(strings_.Load(textId), {name, std::to_string(asked.size())});
   message.firstButton = strings_.Load(IDS_GROUP_TAKE_OUT_YES);
   message.secondButton = strings_.Load(IDS_GROUP_DELETE_NO);
   if (prompts_.Ask(message).answer != MessageAnswer::First) return;
@@ -117,31 +117,31 @@ void FavoriteCommands::TakeOutMissing() {
   // goes.
   if (listing_.State().holds != Holds::Group || listing_.State().group != name) return;
   const auto group = groups_.Find(name);
-  std::vector<std::string> gone;
-  for (const std::string& token : listing_.State().missing) {
-    if (tokens.contains(token)) gone.push_back(token);
+  std::vector<StationKey> gone;
+  for (const StationKey& station : listing_.State().missing) {
+    if (asked.contains(station)) gone.push_back(station);
   }
   if (group && Changed(groups_.RemoveStations(*group, gone))) listing_.GroupsChanged();
 }
 
-void FavoriteCommands::RemoveStation(std::string_view groupName, std::string_view token) {
+void FavoriteCommands::RemoveStation(std::string_view groupName, const StationKey& station) {
   const auto group = groups_.Find(groupName);
   if (!group) return;
-  const std::string name(groups_.Name(*group));
-  if (!Changed(groups_.RemoveStation(*group, token))) return;
+  const std::string name = groups_.Name(*group);
+  if (!Changed(groups_.RemoveStation(*group, station))) return;
   listing_.GroupsChanged();
-  prompts_.SayDone(IDS_GROUP_REMOVED_FROM, token, name);
+  prompts_.SayDone(IDS_GROUP_REMOVED_FROM, station, name);
 }
 
-void FavoriteCommands::PlaceStation(std::string_view token, std::string_view where) {
+void FavoriteCommands::PlaceStation(const StationKey& station, const StationKey& where) {
   if (listing_.State().holds != Holds::Group) return;
   const auto group = groups_.Find(listing_.State().group);
   if (!group) return;
-  const auto tokens = groups_.Tokens(*group);
-  const auto placeOf = [&tokens](std::string_view member) {
-    return static_cast<std::size_t>(std::find(tokens.begin(), tokens.end(), member) - tokens.begin());
+  const std::vector<StationKey>& keys = groups_.Keys(*group);
+  const auto placeOf = [&keys](const StationKey& member) {
+    return static_cast<std::size_t>(std::find(keys.begin(), keys.end(), member) - keys.begin());
   };
-  if (Changed(groups_.MoveStation(*group, placeOf(token), placeOf(where)))) listing_.GroupsChanged();
+  if (Changed(groups_.MoveStation(*group, placeOf(station), placeOf(where)))) listing_.GroupsChanged();
 }
 
 void FavoriteCommands::Say(const char* key, const std::string& text) {

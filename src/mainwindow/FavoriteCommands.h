@@ -25,7 +25,7 @@ class FavoritePrompts : public MessageBoxView {
   // Takes a text for the small tray menu window: "AddNewFavGroup", tab, name ...
   virtual void TellTray(const std::string& text) = 0;
   // Says in the status line what became of a station: text `textId` with its name and the group's.
-  virtual void SayDone(int textId, std::string_view token, std::string_view group) = 0;
+  virtual void SayDone(int textId, const StationKey& station, std::string_view group) = 0;
 };
 
 class FavoriteCommands {
@@ -39,16 +39,16 @@ class FavoriteCommands {
   void RenameFavoriteGroup(std::size_t group);
   void DeleteFavoriteGroup(std::size_t group);
   void MoveFavoriteGroup(std::size_t from, std::size_t to);
-  // Adds a station's token to the group of this name, and says so; one that the group holds already, or a
+  // Adds a station to the group of this name, and says so; one that the group holds already, or a
   // name that no group has, changes nothing.
-  void AddStationToGroup(std::string_view groupName, std::string_view token);
+  void AddStationToGroup(std::string_view groupName, const StationKey& station);
   // The same, and a name that no group has makes one with the station in it.
-  void AddStationToGroupOrNew(std::string_view groupName, std::string_view token);
-  void RemoveStation(std::string_view groupName, std::string_view token);
+  void AddStationToGroupOrNew(std::string_view groupName, const StationKey& station);
+  void RemoveStation(std::string_view groupName, const StationKey& station);
   // Asks whether the members of the group on show that the guide does not know are to go, and takes them out.
   void TakeOutMissing();
   // Of the group that the list shows: puts one member in the place of another, those between moving along.
-  void PlaceStation(std::string_view token, std::string_view where);
+  void PlaceStation(const StationKey& station, const StationKey& where);
 
  private:
   void Say(const char* key, const std::string& text);

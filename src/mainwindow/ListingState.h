@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "mainwindow/Rankings.h"
+#include "stations/StationKey.h"
 
 namespace sonaro {
 
@@ -37,8 +38,9 @@ struct ListingState {
   Holds holds = Holds::Nothing;
   std::optional<Ranking> ranking;  // with Holds::Ranking: its key shows the active colour
   std::string group;               // with Holds::Group: its name
-  // With Holds::Group: its members that the guide does not know. They are not among the rows.
-  std::vector<std::string> missing;
+  // With Holds::Group: its members that the guide does not know, None for what names no station. They are
+  // not among the rows.
+  std::vector<StationKey> missing;
 };
 
 }  // namespace sonaro

@@ -45,10 +45,10 @@ struct MainModels {
   MainModels(const GuideData& data, TrayMessages& tray)
       : tree(data.folder, data.sortKey),
         rankings(data.folder),
-        lists(data.stations, data.personal, data.recent, data.strings),
+        lists(data.stations, data.source, data.recent, data.strings),
         listing(lists, rankings, data.favorites, tree, data.strings, data.sortKey),
         search(data.folder, data.settings, listing, tray),
-        details(data.source, data.personal, data.extra, data.strings, data.state),
+        details(data.source, data.extra, data.strings, data.state),
         actions(listing, data.favorites, data.strings),
         subject(listing, data.favorites),
         transfer(data.folder.FileSystem(), data.favorites, data.personal, data.source) {}

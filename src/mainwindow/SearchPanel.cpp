@@ -76,7 +76,9 @@ void SearchPanel::FindInTheDirectory(const std::string& text, bool allWords) {
   settings_.Set(setting::kSearchList, history.ToSetting());
   last_ = LastKind::Station;
   listing_.ShowSearch(text, allWords);
-  tray_.TellTray(std::string(kTrayResults) + '\t' + listing_.LastSearchIds() + '\t' + text);
+  std::string ids;
+  for (const StationKey& station : listing_.LastFound()) ids += station.Token() + ' ';
+  tray_.TellTray(std::string(kTrayResults) + '\t' + ids + '\t' + text);
 }
 
 }  // namespace sonaro

@@ -95,8 +95,7 @@ void SonaroFrm::ShowPanes() {
 
 void SonaroFrm::ShowSelection() {
   if (models_.listing.State().middle == Middle::EventPage) return detail_.Show(yours_.SelectedStation());
-  const StationRow* row = models_.listing.Rows().SelectedRow();
-  detail_.Show(row ? StationKey::FromRowKey(row->key) : StationKey());
+  detail_.Show(models_.listing.Rows().SelectedKey());
 }
 
 bool SonaroFrm::OnMessage(UINT message, WPARAM, LPARAM, LRESULT& result) {

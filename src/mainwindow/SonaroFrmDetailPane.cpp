@@ -118,14 +118,15 @@ void DetailPane::mnuActionPlayExtra_Click(int link) {
 
 void DetailPane::Play(const PlayButton& key) {
   const PlayRequest request = key.request;  // what is shown changes with the recent list
-  // A bare link does not tell whose it is, so the play is noted here.
-  if (request.mode == PlayMode::KeyItself) context_.data.recent.AddRecent(subject_.Station().station.Token());
-  context_.services.player.LaunchStation(request.key, request.mode);
+  // The launch notes plays of the links that the guide gives; the others are noted here.
+  if (request.mode == PlayMode::KeyItself) context_.data.recent.AddRecent(request.station);
+  context_.services.player.LaunchStation(request);
 }
 
 void DetailPane::butGoWebPageIt_Click() {
   const StationDetailBuilder& station = subject_.Station();
-  if (station.station && station.hasWebSite) context_.services.pages.OpenWebPage(station.station.Token());
+  if (!station.station || !station.hasWebSite) return;
+  context_.services.pages.OpenWebPage(context_.data.source.WebSiteOf(station.station));
 }
 
 void DetailPane::mnuActionCopyLink_Click() {
@@ -134,17 +135,17 @@ void DetailPane::mnuActionCopyLink_Click() {
 
 void DetailPane::mnuActionAddToScan_Click() {
   const StationKey station = subject_.Station().station;
-  if (station) context_.services.scan.Add(std::vector{station.RowKey()});
+  if (station) context_.services.scan.Add({&station, 1});
 }
 
 void DetailPane::mnuActionSchedule_Click() {
   const StationKey station = subject_.Station().station;
-  if (station) context_.services.schedule.ScheduleStation(form_, station.RowKey());
+  if (station) context_.services.schedule.ScheduleStation(form_, station);
 }
 
 void DetailPane::mnuActionExtraLink_Click() {
   const StationKey station = subject_.Station().station;
-  if (station.kind != StationKey::Kind::Directory) return;
+  if (!station.IsOfGuide()) return;
   const GuideData& data = context_.data;
   frmExtraLink dialog(context_.forms, data.extra, context_.services.messages, station.number,
                       data.source.NameOf(station));

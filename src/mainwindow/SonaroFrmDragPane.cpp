@@ -35,7 +35,7 @@ void DragPane::Load() {
     SetWindowSubclass(form_.Control(butFavs + slot), GroupButtonProcedure, static_cast<UINT_PTR>(slot),
                       reinterpret_cast<DWORD_PTR>(this));
   }
-  form_.List(lstFavs).onBeginDrag = [this](int row) { Begin(Thing::Row, list_.KeyAt(row)); };
+  form_.List(lstFavs).onBeginDrag = [this](int row) { Begin(Thing::Row, list_.KeyAt(row), {}); };
 }
 
 LRESULT CALLBACK DragPane::GroupButtonProcedure(HWND key, UINT message, WPARAM wParam, LPARAM lParam,
@@ -58,16 +58,17 @@ void DragPane::WatchGroupButton(UINT message, WPARAM wParam, LPARAM lParam, int 
     const bool moved = std::abs(at.x - pressedAt_.x) > GetSystemMetrics(SM_CXDRAG) ||
                        std::abs(at.y - pressedAt_.y) > GetSystemMetrics(SM_CYDRAG);
     // It takes the mouse from the button, which then is not pressed any more.
-    if (moved) Begin(Thing::Group, groups_.NameOf(static_cast<std::size_t>(slot)));
+    if (moved) Begin(Thing::Group, {}, groups_.NameOf(static_cast<std::size_t>(slot)));
   }
 }
 
-void DragPane::Begin(Thing what, std::string name) {
+void DragPane::Begin(Thing what, StationKey station, std::string group) {
   pressedSlot_ = -1;
-  if (name.empty()) return;
+  if (!station && group.empty()) return;
   SetCapture(form_.Window());
   what_ = what;
-  name_ = std::move(name);
+  station_ = station;
+  group_ = std::move(group);
   Follow();
 }
 
@@ -89,20 +90,21 @@ bool DragPane::Handle(UINT message) {
       return false;
   }
   const Thing what = what_;
-  const std::string name = name_;
+  const StationKey station = station_;
+  const std::string group = group_;
   End();
   groups_.Show();
-  Take(drop, what, name);
+  Take(drop, what, station, group);
   return true;
 }
 
-void DragPane::Take(const Drop& drop, Thing what, const std::string& name) {
-  if (what == Thing::Row && drop.onto == Thing::Group) groups_.TakeDropped(name, drop.to);
-  if (what == Thing::Row && drop.onto == Thing::Row) list_.MoveRow(name, drop.to);
+void DragPane::Take(const Drop& drop, Thing what, const StationKey& station, const std::string& group) {
+  if (what == Thing::Row && drop.onto == Thing::Group) groups_.TakeDropped(station, drop.to);
+  if (what == Thing::Row && drop.onto == Thing::Row) list_.MoveRow(station, drop.to);
   if (what == Thing::Row && drop.onto == Thing::Scan) {
-    context_.services.program.DropOnScan(name, static_cast<int>(drop.at.x), static_cast<int>(drop.at.y));
+    context_.services.program.DropOnScan(station, static_cast<int>(drop.at.x), static_cast<int>(drop.at.y));
   }
-  if (what == Thing::Group && drop.onto == Thing::Group) groups_.MoveGroup(name, drop.to);
+  if (what == Thing::Group && drop.onto == Thing::Group) groups_.MoveGroup(group, drop.to);
 }
 
 void DragPane::End() {

@@ -35,9 +35,9 @@ class DragPane {
   static LRESULT CALLBACK GroupButtonProcedure(HWND key, UINT message, WPARAM wParam, LPARAM lParam,
                                                UINT_PTR slot, DWORD_PTR self) noexcept;
   void WatchGroupButton(UINT message, WPARAM wParam, LPARAM lParam, int slot);
-  void Begin(Thing what, std::string name);
+  void Begin(Thing what, StationKey station, std::string group);
   void End();
-  void Take(const Drop& drop, Thing what, const std::string& name);
+  void Take(const Drop& drop, Thing what, const StationKey& station, const std::string& group);
   Drop DropAt(POINT screen) const;
   int SlotAt(POINT screen) const;
   void Follow();
@@ -47,9 +47,10 @@ class DragPane {
   ListPane& list_;
   GroupsPane& groups_;
   Thing what_ = Thing::Nothing;  // what is dragged
-  // The row's key or the group's name, asked when the drag begins: rows and groups may change while the
+  // The row's station or the group's name, asked when the drag begins: rows and groups may change while the
   // button is down.
-  std::string name_;
+  StationKey station_;
+  std::string group_;
   int overSlot_ = -1;
   POINT pressedAt_ = {};
   int pressedSlot_ = -1;

@@ -126,14 +126,13 @@ void GroupsPane::butNewGroup_Click() {
 }
 
 // A station was dropped on a group button; on a free one it founds a group.
-void GroupsPane::TakeDropped(const std::string& rowKey, int slot) {
-  const std::string token = StationKey::FromRowKey(rowKey).Token();
+void GroupsPane::TakeDropped(const StationKey& station, int slot) {
   auto group = static_cast<std::size_t>(slot);
   if (group >= groups_.Count()) {
     if (!commands_.AddFavoriteGroup()) return;
     group = groups_.Count() - 1;
   }
-  commands_.AddStationToGroup(groups_.Name(group), token);
+  commands_.AddStationToGroup(groups_.Name(group), station);
   context_.view.ShowEverything();
 }
 
@@ -178,12 +177,7 @@ void GroupsPane::mnuFavMoveRight_Click() {
 
 void GroupsPane::mnuFavScanGroup_Click() {
   const auto group = subject_.Group();
-  if (!group) return;
-  std::vector<std::string> keys;
-  for (const std::string_view token : groups_.Tokens(*group)) {
-    if (const StationKey key = StationKey::FromToken(token)) keys.push_back(key.RowKey());
-  }
-  context_.services.scan.Add(keys);
+  if (group) context_.services.scan.Add(groups_.Keys(*group));
 }
 
 void GroupsPane::mnuFavExport_Click() {
@@ -197,29 +191,29 @@ void GroupsPane::mnuFavImport_Click() {
 void GroupsPane::mnuActionStationToFavList_Click() {
   const StationDetailBuilder& station = subject_.Station();
   if (!station.station) return;
-  const std::string token = station.station.Token();
+  const StationKey key = station.station;  // what is meant may change while the question stands
   std::vector<std::string> names;
   for (std::size_t group = 0; group < groups_.Count(); ++group) names.push_back(NameOf(group));
   const std::string name =
       frmPickGroup(context_.forms, station.name, std::move(names)).AskGroup(form_.Window());
-  if (!name.empty()) commands_.AddStationToGroupOrNew(name, token);
+  if (!name.empty()) commands_.AddStationToGroupOrNew(name, key);
   context_.view.ShowEverything();
 }
 
 void GroupsPane::mnuActionStationToGroup_Click(int group) {
   const auto index = static_cast<std::size_t>(group);
   if (!subject_.Station().station || index >= groups_.Count()) return;
-  commands_.AddStationToGroup(groups_.Name(index), subject_.Station().station.Token());
+  commands_.AddStationToGroup(groups_.Name(index), subject_.Station().station);
   context_.view.ShowEverything();
 }
 
-void GroupsPane::AddStationToGroup(const std::string& groupName, const std::string& token) {
-  commands_.AddStationToGroup(groupName, token);
+void GroupsPane::AddStationToGroup(const std::string& groupName, const StationKey& station) {
+  commands_.AddStationToGroup(groupName, station);
   if (form_.IsOpen()) context_.view.ShowEverything();
 }
 
 void GroupsPane::RemoveStation() {
-  commands_.RemoveStation(subject_.GroupName(), subject_.Station().station.Token());
+  commands_.RemoveStation(subject_.GroupName(), subject_.Station().station);
   context_.view.ShowEverything();
 }
 
@@ -235,10 +229,9 @@ std::string GroupsPane::AskGroupName(const std::string& present) {
 
 void GroupsPane::TellTray(const std::string& text) { context_.services.program.TellTray(text); }
 
-void GroupsPane::SayDone(int textId, std::string_view token, std::string_view group) {
+void GroupsPane::SayDone(int textId, const StationKey& station, std::string_view group) {
   if (!form_.IsOpen()) return;
-  status_.Say(
-      FormatText(form_.LoadText(textId), {context_.data.source.NameOf(StationKey::FromToken(token)), group}));
+  status_.Say(FormatText(form_.LoadText(textId), {context_.data.source.NameOf(station), group}));
 }
 
 }  // namespace sonaro

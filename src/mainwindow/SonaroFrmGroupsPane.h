@@ -22,10 +22,10 @@ class GroupsPane final : public EventTarget, private FavoritePrompts {
   std::string NameOf(std::size_t group) const;  // "" for a free slot
   void ShowGroupNamed(std::string_view name);
   // A station was dropped on a slot, or a group's button on another slot.
-  void TakeDropped(const std::string& rowKey, int slot);
+  void TakeDropped(const StationKey& station, int slot);
   void MoveGroup(const std::string& name, int to);
   // For a window that has no groups of its own.
-  void AddStationToGroup(const std::string& groupName, const std::string& token);
+  void AddStationToGroup(const std::string& groupName, const StationKey& station);
   // Takes the station that the command means out of the group that it means.
   void RemoveStation();
 
@@ -35,7 +35,7 @@ class GroupsPane final : public EventTarget, private FavoritePrompts {
   std::string AskNewGroupName() override;
   std::string AskGroupName(const std::string& present) override;
   void TellTray(const std::string& text) override;
-  void SayDone(int textId, std::string_view token, std::string_view group) override;
+  void SayDone(int textId, const StationKey& station, std::string_view group) override;
   bool ShowFocusedGroup();
 
   void butFavs_Click(int group);

@@ -1,7 +1,5 @@
 #include "mainwindow/SonaroFrmListPane.h"
 
-#include <algorithm>
-
 #include "forms/ControlIds.h"
 #include "mainwindow/SonaroFrmDetailPane.h"
 #include "mainwindow/SonaroFrmGroupsPane.h"
@@ -156,31 +154,25 @@ void ListPane::mnuRemoveRow_Click() {
 
 void ListPane::MoveStation(int by) {
   const CommandSubject& subject = context_.models.subject;
-  const std::string key = subject.Station().station.RowKey();
+  const StationKey key = subject.Station().station;
   const auto row = listing_.Rows().Find(key);
   if (row && subject.Group() == subject.GroupOnShow()) MoveRow(key, static_cast<int>(*row) + by);
 }
 
-void ListPane::MoveRow(const std::string& rowKey, int to) {
+void ListPane::MoveRow(const StationKey& station, int to) {
   const StationRows& rows = listing_.Rows();
-  if (rows.Sort().on || !rows.Find(rowKey) || to < 0 || to >= static_cast<int>(rows.Count())) return;
-  groups_.Commands().PlaceStation(StationKey::FromRowKey(rowKey).Token(),
-                                  rows.At(static_cast<std::size_t>(to)).Token());
+  if (rows.Sort().on || !rows.Find(station) || to < 0 || to >= static_cast<int>(rows.Count())) return;
+  groups_.Commands().PlaceStation(station, rows.At(static_cast<std::size_t>(to)).key);
   context_.view.ShowEverything();
 }
 
 void ListPane::mnuActionAddListToScan_Click() {
-  std::vector<std::string> keys;
-  for (int row = 0; row < RowCount(); ++row) {
-    if (std::string key = KeyAt(row); !key.empty()) keys.push_back(std::move(key));
-  }
-  if (!keys.empty()) context_.services.scan.Add(keys);
+  if (listing_.Rows().StationCount() > 0) context_.services.scan.Add(listing_.Rows().Keys());
 }
 
-std::string ListPane::KeyAt(int row) const {
+StationKey ListPane::KeyAt(int row) const {
   if (row < 0 || row >= RowCount()) return {};
-  const StationRow& facts = listing_.Rows().At(static_cast<std::size_t>(row));
-  return facts.IsStation() || facts.IsPersonal() ? facts.key : std::string();
+  return listing_.Rows().At(static_cast<std::size_t>(row)).key;
 }
 
 int ListPane::RowCount() const { return static_cast<int>(listing_.Rows().Count()); }
@@ -189,10 +181,7 @@ std::string ListPane::Cell(int row, int column) const {
   return std::string(listing_.Rows().Cell(static_cast<std::size_t>(row), column));
 }
 
-int ListPane::Symbol(int row) const {
-  const int icon = listing_.Rows().At(static_cast<std::size_t>(row)).icon;
-  return std::clamp(icon - StationRow::kFirstReliabilityIcon, 0, 4);
-}
+int ListPane::Symbol(int row) const { return listing_.Rows().At(static_cast<std::size_t>(row)).Symbol(); }
 
 bool ListPane::IsNotice() const { return RowCount() > 0 && listing_.Rows().StationCount() == 0; }
 

@@ -25,9 +25,9 @@ class ListPane final : public EventTarget, private ListModel {
   // The rows are others, or in another order: shows them with their selection, caption and count.
   void ShowRows();
   void ShowSort();
-  std::string KeyAt(int row) const;  // of a row that stands for no station: ""
+  StationKey KeyAt(int row) const;  // None for a row that stands for no station
   // Puts the row in the place of another one; only where the list shows a group in the group's own order.
-  void MoveRow(const std::string& rowKey, int to);
+  void MoveRow(const StationKey& station, int to);
 
  private:
   std::span<const EventRow> Events() const override;

@@ -24,7 +24,7 @@ std::span<const EventRow> PersonalPane::Events() const {
 
 const PersonalStation* PersonalPane::Meant() const {
   const StationKey station = context_.models.subject.Station().station;
-  return station.kind == StationKey::Kind::Personal ? context_.data.personal.Find(station.number) : nullptr;
+  return station.IsOfUser() ? context_.data.personal.Find(station.number) : nullptr;
 }
 
 void PersonalPane::Edit(const PersonalStation& station) {

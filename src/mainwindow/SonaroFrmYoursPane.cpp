@@ -68,7 +68,7 @@ void YoursPane::ShowCaption() {
 
 StationKey YoursPane::SelectedStation() const {
   const EventLine* event = SelectedEvent();
-  return event ? StationKey::FromToken(event->token) : StationKey();
+  return event ? event->key : StationKey();
 }
 
 void YoursPane::ShowGroups() {
@@ -204,11 +204,11 @@ std::string YoursPane::GroupRows::Cell(int row, int column) const {
     case 0:
       return group ? std::to_string((*group + 1) % FavoriteGroups::kSlots) : std::string();
     case 1:
-      if (group) return std::string(pane_.groups_.Name(*group));
+      if (group) return pane_.groups_.Name(*group);
       return pane_.form_.LoadText(pane_.IsRecent(row) ? IDS_LISTING_YOUR_RECENT : IDS_COMING_EVENTS);
     default:
-      if (group) return std::to_string(pane_.groups_.Tokens(*group).size());
-      return std::to_string(pane_.IsRecent(row) ? pane_.context_.data.recent.Tokens().size()
+      if (group) return std::to_string(pane_.groups_.Keys(*group).size());
+      return std::to_string(pane_.IsRecent(row) ? pane_.context_.data.recent.Keys().size()
                                                 : pane_.events_.size());
   }
 }

@@ -85,7 +85,7 @@ MenuEntries StationActions::ActionMenu(const StationDetailBuilder& detail) const
       Entry(mnuActionAddListToScan, IDS_ACTION_ADD_LIST_TO_SCAN, listing_.Rows().StationCount() > 0));
   menu.push_back(selected ? StationEntry(mnuActionSchedule, IDS_ACTION_SCHEDULE, detail)
                           : Entry(mnuActionSchedule, IDS_ACTION_SCHEDULE_NONE, false));
-  if (detail.station.kind == StationKey::Kind::Personal) {
+  if (detail.station.IsOfUser()) {
     menu.push_back(StationEntry(mnuPersonalChange, IDS_ACTION_CHANGE_PERSONAL, detail));
     menu.push_back(StationEntry(mnuPersonalDelete, IDS_ACTION_DELETE_PERSONAL, detail));
   } else {
@@ -150,7 +150,7 @@ MenuEntries StationActions::GroupChoices(const StationDetailBuilder& detail) con
     MenuEntry entry;
     entry.command = mnuActionStationToGroup + static_cast<int>(group);
     entry.text = MenuText(groups_.Name(group));
-    entry.checked = detail.station && groups_.Contains(group, detail.station.Token());
+    entry.checked = detail.station && groups_.Contains(group, detail.station);
     entry.enabled = detail.station && !entry.checked;
     choices.push_back(std::move(entry));
   }
@@ -191,9 +191,9 @@ MenuEntries StationActions::GroupMenu(std::size_t group) const {
   menu.push_back(Entry(mnuFavMoveLeft, IDS_GROUP_MOVE_LEFT, used && group > 0));
   menu.push_back(Entry(mnuFavMoveRight, IDS_GROUP_MOVE_RIGHT, used && group + 1 < groups_.Count()));
   AddSeparator(menu);
-  menu.push_back(Entry(mnuFavScanGroup, IDS_GROUP_SCAN, used && !groups_.Tokens(group).empty()));
+  menu.push_back(Entry(mnuFavScanGroup, IDS_GROUP_SCAN, used && !groups_.Keys(group).empty()));
   menu.push_back(Entry(mnuFavImport, IDS_GROUP_IMPORT, used));
-  menu.push_back(Entry(mnuFavExport, IDS_GROUP_EXPORT, used && !groups_.Tokens(group).empty()));
+  menu.push_back(Entry(mnuFavExport, IDS_GROUP_EXPORT, used && !groups_.Keys(group).empty()));
   return menu;
 }
 

@@ -13,14 +13,7 @@
 namespace sonaro {
 
 class ExtraLinks;
-class PersonalStations;
 class Strings;
-
-// A request to PlayerLaunch.
-struct PlayRequest {
-  std::string key;
-  PlayMode mode = PlayMode::LinkOne;
-};
 
 struct PlayButton {
   bool shown = false;
@@ -54,9 +47,9 @@ struct StationDetailBuilder {
 // Makes the details. Owned by the main window; changes nothing.
 class StationDetails {
  public:
-  StationDetails(const StationSource& source, const PersonalStations& personal, const ExtraLinks& extra,
-                 const Strings& strings, const AppState& state)
-      : source_(source), personal_(personal), extra_(extra), strings_(strings), state_(state) {}
+  StationDetails(const StationSource& source, const ExtraLinks& extra, const Strings& strings,
+                 const AppState& state)
+      : source_(source), extra_(extra), strings_(strings), state_(state) {}
 
   StationDetailBuilder Of(const StationKey& key) const;
   // A rating stored as one digit: half as much, in halves. Anything but 1 to 9 is not rated. `nameId` is the
@@ -64,13 +57,10 @@ class StationDetails {
   RatingFigure Rating(const std::string& digit, int nameId) const;
 
  private:
-  void AddDirectoryStation(StationDetailBuilder& detail) const;
-  void AddPersonalStation(StationDetailBuilder& detail) const;
-  void AddExtraLinks(StationDetailBuilder& detail) const;
-  PlayButton ButtonFor(const std::string& link, const std::string& media, const std::string& bitRate) const;
+  void AddPlayButtons(const Station& station, StationDetailBuilder& detail) const;
+  PlayButton ButtonFor(const PlayableLink& playable, const Station& station) const;
 
   const StationSource& source_;
-  const PersonalStations& personal_;
   const ExtraLinks& extra_;
   const Strings& strings_;
   const AppState& state_;

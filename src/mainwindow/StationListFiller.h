@@ -4,6 +4,7 @@
 #pragma once
 
 #include <cstdint>
+#include <span>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -12,40 +13,35 @@
 
 namespace sonaro {
 
-class PersonalStations;
 class RecentList;
 class StatList;
 class Strings;
 
 class StationListFiller {
  public:
-  StationListFiller(StatList& stations, const PersonalStations& personal, const RecentList& recent,
+  StationListFiller(StatList& stations, const StationSource& source, const RecentList& recent,
                     const Strings& strings)
-      : stations_(stations), personal_(personal), recent_(recent), strings_(strings) {}
+      : stations_(stations), source_(source), recent_(recent), strings_(strings) {}
 
-  // `ids`: decimal identifiers, each followed by one blank. Unknown ones are left out, the order is kept.
+  // `ids`: decimal identifiers, each followed by one blank, as the files of the guide hold them. Unknown ones
+  // are left out, the order is kept.
   void FillListFromIds(std::string_view ids, StationRows& list);
   // Searches the directory and fills the list with the stations found, in the directory's order, or with one
-  // row that says that there are none. Returns their identifiers, each followed by one blank.
-  std::string FillListFromSearch(std::string_view text, bool allWords, StationRows& list);
+  // row that says that there are none. Returns the stations.
+  std::vector<StationKey> FillListFromSearch(std::string_view text, bool allWords, StationRows& list);
   // Every personal station that has a name, in table order.
   void FillListFromPersonal(StationRows& list);
   // What a search found, once more.
-  void FillListFromFound(std::string_view ids, StationRows& list);
-  // The members of a favourite group: identifiers and "P" + index. Returns those that the guide does not
-  // know, which are left out; none when the guide could not be read, which says nothing about them.
-  std::vector<std::string> FillListFromGroup(std::string_view members, StationRows& list);
+  void FillListFromFound(std::span<const StationKey> found, StationRows& list);
+  // The members of a favourite group. Returns those that the guide does not know, which are left out, None
+  // for what names no station; empty when the guide could not be read, which says nothing about them.
+  std::vector<StationKey> FillListFromGroup(std::span<const StationKey> members, StationRows& list);
   // The stations played last that are still there, most recent first.
   void FillListFromRecent(StationRows& list);
 
  private:
-  std::vector<StationRow> RowsOfStations(const std::vector<std::int32_t>& ids);
-  // What is unknown is left out and added to `missing`.
-  std::vector<StationRow> RowsOf(const std::vector<std::string_view>& tokens,
-                                 std::vector<std::string>& missing);
-
   StatList& stations_;
-  const PersonalStations& personal_;
+  const StationSource& source_;
   const RecentList& recent_;
   const Strings& strings_;
 };

@@ -118,7 +118,7 @@ void StationListState::ShowGroupInPlace(std::size_t group) {
 }
 
 void StationListState::HoldGroup(std::size_t group) {
-  const std::string name(groups_.Name(group));
+  const std::string name = groups_.Name(group);
   state_.listingMode = std::string(ListingState::kGroup) + name;
   Hold(Holds::Group, name);
   state_.group = name;
@@ -141,7 +141,7 @@ void StationListState::ShowSearch(std::string_view text, bool allWords) {
   webSearchIsLast_ = false;
   LeaveForList();
   HoldLastSearch();
-  foundIds_ = lists_.FillListFromSearch(text, allWords, rows_);
+  found_ = lists_.FillListFromSearch(text, allWords, rows_);
 }
 
 void StationListState::HoldLastSearch() {
@@ -180,7 +180,7 @@ void StationListState::GroupDeleted(std::string_view name) {
 void StationListState::StationsChanged() { Refill(); }
 
 void StationListState::Refill() {
-  const std::vector<std::string> before = rows_.Keys();
+  const std::vector<StationKey> before = rows_.Keys();
   const std::size_t selected = rows_.Selected().value_or(0);
   FillHeld();
   rows_.Select(SelectionAfterFill(before, selected, rows_.Keys()));
@@ -201,11 +201,11 @@ void StationListState::FillHeld() {
     case Holds::Group:
       state_.missing.clear();
       if (const auto group = groups_.Find(state_.group)) {
-        state_.missing = lists_.FillListFromGroup(groups_.Members(*group), rows_);
+        state_.missing = lists_.FillListFromGroup(groups_.Keys(*group), rows_);
       }
       return;
     case Holds::Search:
-      return lists_.FillListFromFound(foundIds_, rows_);
+      return lists_.FillListFromFound(found_, rows_);
   }
 }
 

@@ -52,9 +52,9 @@ class StationListState {
   // Fills the list and leaves the tree on show.
   void treeBrowse_NodeClick(const BrowseNode& node);
   void ShowSearch(std::string_view text, bool allWords);
-  // What the last search found: identifiers in the directory's order, each followed by one blank. It is what
-  // its listing mode shows until the next search, whatever else was listed meanwhile.
-  const std::string& LastSearchIds() const { return foundIds_; }
+  // What the last search found, in the directory's order. It is what its listing mode shows until the next
+  // search, whatever else was listed meanwhile.
+  const std::vector<StationKey>& LastFound() const { return found_; }
   // The middle shows what was asked of the web in place of the list, and does so again whenever the search
   // view comes back, until the directory is searched.
   void ShowWebSearch();
@@ -89,7 +89,7 @@ class StationListState {
   ListingState state_;
   std::string searchText_;
   bool webSearchIsLast_ = false;
-  std::string foundIds_;
+  std::vector<StationKey> found_;
 };
 
 }  // namespace sonaro

@@ -60,7 +60,35 @@ class SortKeys {
 
 }  // namespace
 
-void StationRows::Fill(std::vector<StationRow> rows) {
+const std::string& CellOf(const StationInfo& row, int subItem) {
+  switch (static_cast<SubItem>(subItem)) {
+    case SubItem::Location:
+      return row.location;
+    case SubItem::MediaType:
+      return row.mediaType;
+    case SubItem::Format:
+      return row.format;
+    case SubItem::Overall:
+      return row.overall;
+    case SubItem::Sound:
+      return row.sound;
+    case SubItem::Speed:
+      return row.speed;
+    case SubItem::WebSite:
+      return row.webSiteRating;
+    case SubItem::Reliability:
+      return row.reliability;
+  }
+  return row.name;
+}
+
+StationInfo RowOfNoStation(std::string text) {
+  StationInfo row;
+  row.name = std::move(text);
+  return row;
+}
+
+void StationRows::Fill(std::vector<StationInfo> rows) {
   rows_ = std::move(rows);
   order_.resize(rows_.size());
   std::iota(order_.begin(), order_.end(), 0U);
@@ -70,7 +98,7 @@ void StationRows::Fill(std::vector<StationRow> rows) {
 }
 
 void StationRows::SortBy(int key, SortOrder order) {
-  if (key < 0 || key > static_cast<int>(StationRow::kSubItemCount)) return;
+  if (key < 0 || key > kSubItems) return;
   sort_ = {true, key, order};
   ApplySort();
 }
@@ -78,28 +106,24 @@ void StationRows::SortBy(int key, SortOrder order) {
 void StationRows::ApplySort() {
   if (!sort_.on) return;
   SortKeys keys;
-  for (std::uint32_t row = 0; row < rows_.size(); ++row) keys.Add(sortKey_(SortText(rows_[row])), row);
+  for (std::uint32_t row = 0; row < rows_.size(); ++row)
+    keys.Add(sortKey_(CellOf(rows_[row], sort_.key)), row);
   keys.SortStably(sort_.order);
   std::transform(keys.Keys().begin(), keys.Keys().end(), order_.begin(),
                  [](const SortKey& key) { return key.row; });
 }
 
-const std::string& StationRows::SortText(const StationRow& row) const {
-  return sort_.key == 0 ? row.text : row.subItems[static_cast<std::size_t>(sort_.key) - 1];
-}
-
 std::size_t StationRows::StationCount() const {
-  return static_cast<std::size_t>(std::count_if(
-      rows_.begin(), rows_.end(), [](const StationRow& row) { return row.IsStation() || row.IsPersonal(); }));
+  return static_cast<std::size_t>(
+      std::count_if(rows_.begin(), rows_.end(), [](const StationInfo& row) { return bool(row.key); }));
 }
 
 std::string_view StationRows::Cell(std::size_t position, int column) const {
-  const StationRow& row = At(position);
-  if (column < 0 || column >= kColumns) return {};
-  return column == 0 ? row.text : row.subItems[static_cast<std::size_t>(column) - 1];
+  return column >= 0 && column < kColumns ? std::string_view(CellOf(At(position), column))
+                                          : std::string_view();
 }
 
-std::optional<std::size_t> StationRows::Find(std::string_view key) const {
+std::optional<std::size_t> StationRows::Find(const StationKey& key) const {
   for (std::size_t position = 0; position < order_.size(); ++position) {
     if (At(position).key == key) return position;
   }
@@ -109,7 +133,7 @@ std::optional<std::size_t> StationRows::Find(std::string_view key) const {
 std::optional<std::size_t> StationRows::FindByName(std::string_view start, std::size_t from) const {
   for (std::size_t step = 0; step < Count(); ++step) {
     const std::size_t position = (from + step) % Count();
-    if (StartsWithIgnoringCase(At(position).text, start)) return position;
+    if (StartsWithIgnoringCase(At(position).name, start)) return position;
   }
   return std::nullopt;
 }
@@ -120,30 +144,19 @@ std::optional<std::size_t> StationRows::Selected() const {
   return static_cast<std::size_t>(found - order_.begin());
 }
 
-const StationRow* StationRows::SelectedRow() const { return selected_ ? &rows_[*selected_] : nullptr; }
+const StationInfo* StationRows::SelectedRow() const { return selected_ ? &rows_[*selected_] : nullptr; }
 
 void StationRows::Select(std::optional<std::size_t> position) {
   selected_.reset();
   if (!position || *position >= Count()) return;
-  const StationRow& row = At(*position);
-  if (row.IsStation() || row.IsPersonal()) selected_ = order_[*position];
+  if (At(*position).key) selected_ = order_[*position];
 }
 
-std::vector<std::string> StationRows::Keys() const {
-  std::vector<std::string> keys;
+std::vector<StationKey> StationRows::Keys() const {
+  std::vector<StationKey> keys;
   keys.reserve(Count());
   for (std::size_t position = 0; position < Count(); ++position) keys.push_back(At(position).key);
   return keys;
-}
-
-std::vector<std::string> StationRows::Tokens() const {
-  std::vector<std::string> tokens;
-  tokens.reserve(Count());
-  for (std::size_t position = 0; position < Count(); ++position) {
-    std::string token = At(position).Token();
-    if (!token.empty()) tokens.push_back(std::move(token));
-  }
-  return tokens;
 }
 
 }  // namespace sonaro

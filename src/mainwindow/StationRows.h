@@ -12,9 +12,19 @@
 #include <vector>
 
 #include "base/Text.h"
-#include "mainwindow/StationRow.h"
+#include "stations/StationSource.h"
 
 namespace sonaro {
+
+// The eight sub-items of a row, behind its name. 1 to 3 have a visible column; 4 to 8 are there to be sorted
+// by.
+enum class SubItem : int { Location = 1, MediaType, Format, Overall, Sound, Speed, WebSite, Reliability };
+inline constexpr int kSubItems = 8;
+
+// The name (0) or a sub-item of a row.
+const std::string& CellOf(const StationInfo& row, int subItem);
+// A row that says something and stands for no station.
+StationInfo RowOfNoStation(std::string text);
 
 enum class SortOrder { Ascending, Descending };
 
@@ -34,7 +44,7 @@ class StationRows {
 
   // Replaces all rows. A sort chosen earlier stays in force. The first shown row becomes the selected one,
   // unless it stands for no station; an empty list has no selection.
-  void Fill(std::vector<StationRow> rows);
+  void Fill(std::vector<StationInfo> rows);
   void Clear() { Fill({}); }
 
   // Text sort of a sub-item by its sort key; rows with equal keys keep the order of the fill, in both orders.
@@ -43,33 +53,32 @@ class StationRows {
   const SortState& Sort() const { return sort_; }
 
   std::size_t Count() const { return rows_.size(); }
-  // Stations among the rows: all but those with the key "X".
+  // Stations among the rows: all but those without a key.
   std::size_t StationCount() const;
   // By position in the shown order, which must be below Count().
-  const StationRow& At(std::size_t position) const { return rows_[order_[position]]; }
+  const StationInfo& At(std::size_t position) const { return rows_[order_[position]]; }
   // The text of a visible column (0 to 3).
   std::string_view Cell(std::size_t position, int column) const;
-  std::optional<std::size_t> Find(std::string_view key) const;
+  std::optional<std::size_t> Find(const StationKey& key) const;
   // The first row after `from`, wrapping round, whose name begins with `start`, letter case ignored: what
   // typing letters in the list looks for.
   std::optional<std::size_t> FindByName(std::string_view start, std::size_t from) const;
 
   std::optional<std::size_t> Selected() const;
-  const StationRow* SelectedRow() const;
+  const StationInfo* SelectedRow() const;
+  // None without one.
+  StationKey SelectedKey() const { return selected_ ? rows_[*selected_].key : StationKey(); }
   // Selecting a row that stands for no station, or nothing, leaves no selection.
   void Select(std::optional<std::size_t> position);
 
   // The keys of all rows in the shown order.
-  std::vector<std::string> Keys() const;
-  // Identifiers and personal keys of all rows in the shown order.
-  std::vector<std::string> Tokens() const;
+  std::vector<StationKey> Keys() const;
 
  private:
   void ApplySort();
-  const std::string& SortText(const StationRow& row) const;
 
   SortKeyOf sortKey_;
-  std::vector<StationRow> rows_;      // in the order of the fill
+  std::vector<StationInfo> rows_;     // in the order of the fill
   std::vector<std::uint32_t> order_;  // shown position -> index in rows_
   SortState sort_;
   std::optional<std::uint32_t> selected_;  // index in rows_

@@ -1,8 +1,8 @@
 #include "playback/PlayerLaunch.h"
 
+#include <algorithm>
 #include <optional>
 
-#include "base/Numbers.h"
 #include "base/Text.h"
 #include "playback/Players.h"
 #include "playback/WebPages.h"
@@ -15,20 +15,14 @@ namespace sonaro {
 
 namespace {
 
-// The station that a key means in this mode: none for the modes whose key is a link.
-StationKey StationOf(const std::string& key, PlayMode mode) {
-  switch (mode) {
-    case PlayMode::LinkOne:
-    case PlayMode::LinkTwo:
-    case PlayMode::LinkThree:
-      return StationKey::FromToken(key);
-    case PlayMode::Personal:
-      return StationKey::FromToken("P" + key);
-    case PlayMode::BeforeTab:
-    case PlayMode::KeyItself:
-      break;
-  }
-  return {};
+bool IsBlank(std::string_view text) { return TrimBlanks(text).empty(); }
+
+// The link of the station that this mode asks for.
+std::string LinkOf(const Station& station, PlayMode mode) {
+  const auto& links = station.links;
+  if (mode != PlayMode::Personal) return links[static_cast<std::size_t>(mode) - 1];
+  const auto found = std::find_if(links.begin(), links.end(), [](const auto& link) { return !link.empty(); });
+  return found != links.end() ? *found : std::string();
 }
 
 LaunchOutcome FromWebPage(WebPageOutcome outcome) {
@@ -47,8 +41,8 @@ LaunchOutcome FromWebPage(WebPageOutcome outcome) {
 
 }  // namespace
 
-void PlayerLaunch::LaunchStation(const std::string& key, PlayMode mode) {
-  while (Tell(TryLaunch(key, mode))) {
+void PlayerLaunch::LaunchStation(const PlayRequest& request) {
+  while (Tell(TryLaunch(request))) {
   }
 }
 
@@ -68,44 +62,38 @@ bool PlayerLaunch::Tell(LaunchOutcome outcome) {
   }
 }
 
-LaunchOutcome PlayerLaunch::TryLaunch(const std::string& key, PlayMode mode) {
-  const StationKey station = StationOf(key, mode);
-  std::string link = LinkFor(station, key, mode);
-  if (station) recent_.AddRecent(station.Token());
-  if (TrimBlanks(link).empty()) {
-    link = stations_.AlternateLinkOf(station);
-    if (link.empty()) return OpenWebSite(station);
-  }
-  const LaunchOutcome outcome = HandOver(link);
-  if (outcome == LaunchOutcome::Started && afterLaunch_) afterLaunch_(key, mode);
-  return outcome;
+LaunchOutcome PlayerLaunch::TryLaunch(const PlayRequest& request) {
+  if (request.mode == PlayMode::KeyItself) return Launch(request, request.link);
+  if (request.mode == PlayMode::BeforeTab)
+    return Launch(request, request.link.substr(0, request.link.find('\t')));
+  const Station station = stations_.Find(request.station);
+  recent_.AddRecent(request.station);
+  const std::string link = LinkOf(station, request.mode);
+  if (!IsBlank(link)) return Launch(request, link);
+  if (!station.alternateLink.empty()) return Launch(request, station.alternateLink);
+  return station.webSite.empty() ? LaunchOutcome::NoLink : FromWebPage(pages_.Open(station.webSite));
 }
 
 LaunchOutcome PlayerLaunch::TryLaunch(const StationKey& station) {
-  if (station.kind == StationKey::Kind::Personal && !LinkFor(station, {}, PlayMode::Personal).empty()) {
-    return TryLaunch(std::to_string(station.number), PlayMode::Personal);
+  const Station found = stations_.Find(station);
+  PlayRequest request{station};
+  std::string link = found.alternateLink;
+  for (int number = 3; number >= 1; --number) {
+    const std::string& own = found.links[static_cast<std::size_t>(number) - 1];
+    if (IsBlank(own)) continue;
+    link = own;
+    request.mode = station.IsOfUser() ? PlayMode::Personal : static_cast<PlayMode>(number);
   }
-  for (const PlayMode mode : {PlayMode::LinkOne, PlayMode::LinkTwo, PlayMode::LinkThree}) {
-    if (!TrimBlanks(LinkFor(station, {}, mode)).empty()) return TryLaunch(station.Token(), mode);
-  }
-  if (stations_.AlternateLinkOf(station).empty()) return LaunchOutcome::NoLink;
-  return TryLaunch(station.Token(), PlayMode::LinkOne);
+  if (link.empty()) return LaunchOutcome::NoLink;
+  recent_.AddRecent(station);
+  return Launch(request, link);
 }
 
-std::string PlayerLaunch::LinkFor(const StationKey& station, const std::string& key, PlayMode mode) const {
-  switch (mode) {
-    case PlayMode::LinkOne:
-    case PlayMode::LinkTwo:
-    case PlayMode::LinkThree:
-      return stations_.LinkOf(station, static_cast<int>(mode));
-    case PlayMode::Personal:
-      return stations_.FirstLinkOf(station);
-    case PlayMode::BeforeTab:
-      return key.substr(0, key.find('\t'));
-    case PlayMode::KeyItself:
-      break;
-  }
-  return key;
+LaunchOutcome PlayerLaunch::Launch(const PlayRequest& request, const std::string& linkText) {
+  if (IsBlank(linkText)) return LaunchOutcome::NoLink;
+  const LaunchOutcome outcome = HandOver(linkText);
+  if (outcome == LaunchOutcome::Started && afterLaunch_) afterLaunch_(request);
+  return outcome;
 }
 
 // The player is looked up first, whatever the link turns out to be: its marker file is then always in place.
@@ -125,11 +113,6 @@ LaunchOutcome PlayerLaunch::HandOver(const std::string& linkText) {
     return LaunchOutcome::NoPlayer;
   }
   return players_.Play(player, *argument) ? LaunchOutcome::Started : LaunchOutcome::NotStarted;
-}
-
-LaunchOutcome PlayerLaunch::OpenWebSite(const StationKey& station) {
-  if (stations_.WebSiteOf(station).empty()) return LaunchOutcome::NoLink;
-  return FromWebPage(pages_.Open(station.Token()));
 }
 
 // A launch by a timer can come while the dialog of an earlier one is open; there is only ever one.

@@ -49,18 +49,19 @@ class PlayerLaunch {
 
   // The view may be set late; without one nothing is shown.
   void SetView(LaunchView* view) { view_ = view; }
-  // Called after every launch with its key and mode. Sends nothing by itself: play reports are off.
-  void SetAfterLaunch(std::function<void(const std::string& key, PlayMode mode)> afterLaunch) {
+  // Called after every launch. Sends nothing by itself: play reports are off.
+  void SetAfterLaunch(std::function<void(const PlayRequest& request)> afterLaunch) {
     afterLaunch_ = std::move(afterLaunch);
   }
 
-  // Plays a station. `key` is what `mode` says: a decimal station identifier, an index, or a link. Says to
-  // the user why nothing plays; when a player is chosen thereupon, it plays after all.
-  void LaunchStation(const std::string& key, PlayMode mode);
+  // Plays a station's link, or one that the request brings along; a link that the station lacks gives way to
+  // the alternate one, then to the web site. Says to the user why nothing plays; when a player is chosen
+  // thereupon, it plays after all.
+  void LaunchStation(const PlayRequest& request);
   // The same without a word, for those who play by themselves and must not stop in a dialog.
-  LaunchOutcome TryLaunch(const std::string& key, PlayMode mode);
-  // The same for a station as a whole: its first link, or the alternate one. Never opens its web site
-  // instead.
+  LaunchOutcome TryLaunch(const PlayRequest& request);
+  // The same for a station as a whole: the first link that it has, or the alternate one. Never opens its web
+  // site instead.
   LaunchOutcome TryLaunch(const StationKey& station);
 
   // Shows the "NoPlayer" page unless it is shown already. True when the user has chosen a player there.
@@ -72,9 +73,8 @@ class PlayerLaunch {
   std::string ErrorText(LaunchOutcome outcome) const;
 
  private:
-  std::string LinkFor(const StationKey& station, const std::string& key, PlayMode mode) const;
+  LaunchOutcome Launch(const PlayRequest& request, const std::string& linkText);
   LaunchOutcome HandOver(const std::string& linkText);
-  LaunchOutcome OpenWebSite(const StationKey& station);
   bool Tell(LaunchOutcome outcome);
 
   static constexpr int kNoPlayerShown = 100;
@@ -85,7 +85,7 @@ class PlayerLaunch {
   WebPages& pages_;
   const Strings& strings_;
   LaunchView* view_ = nullptr;
-  std::function<void(const std::string&, PlayMode)> afterLaunch_;
+  std::function<void(const PlayRequest&)> afterLaunch_;
   int noPlayerGuard_ = 0;
 };
 

@@ -17,7 +17,6 @@ namespace sonaro {
 namespace {
 
 constexpr std::uint64_t kSecond = 1000;  // clock ticks
-constexpr int kFirstReliabilityIcon = 7;
 
 bool IsScanTime(std::int64_t seconds) {
   return seconds >= StationScan::kShortest && seconds <= StationScan::kMaxLength;
@@ -207,22 +206,22 @@ void StationScan::GoIdle() {
   ShowState();
 }
 
-std::size_t StationScan::Add(std::span<const std::string> rowKeys, std::optional<std::size_t> at) {
-  std::vector<StationKey> keys;
-  for (const std::string& rowKey : rowKeys) {
-    if (const StationKey key = StationKey::FromRowKey(rowKey)) keys.push_back(key);
-  }
+void StationScan::Add(std::span<const StationKey> stations, std::optional<std::size_t> at) {
+  std::vector<StationKey> taken(stations.begin(), stations.end());
+  std::erase(taken, StationKey());
   const std::size_t before = std::min(at.value_or(queue_.size()), queue_.size());
-  queue_.insert(queue_.begin() + static_cast<std::ptrdiff_t>(before), keys.begin(), keys.end());
-  QueueRowsChanged({.at = before, .inserted = keys.size()});
+  queue_.insert(queue_.begin() + static_cast<std::ptrdiff_t>(before), taken.begin(), taken.end());
+  QueueRowsChanged({.at = before, .inserted = taken.size()});
   ShowLists();
   ShowState();
-  return keys.size();
 }
 
 void StationScan::StationsAdded(std::string_view caption) {
-  const auto keys = Split(caption, ' ');
-  Add(std::vector<std::string>(keys.begin(), keys.end()));
+  std::vector<StationKey> stations;
+  for (const std::string_view rowKey : Split(caption, ' ')) {
+    stations.push_back(StationKey::FromRowKey(rowKey));
+  }
+  Add(stations);
 }
 
 void StationScan::PutBack(std::size_t historyRow) {
@@ -237,19 +236,12 @@ ScanRow StationScan::QueueRow(std::size_t row) const {
 }
 
 ScanRow StationScan::Describe(const StationKey& key) const {
-  ScanRow row{key, {}, {}, {}, kFirstReliabilityIcon};
-  if (key.kind == StationKey::Kind::Personal) {
-    row.name = stations_.NameOf(key);
-    row.second = strings_.Load(IDS_SCAN_YOUR_STATION);
-  } else {
-    const StationRecord record = stations_.Record(key.number);
-    row.name = record[StationField::Name];
-    row.second = record[StationField::Location];
-    row.icon +=
-        static_cast<int>(std::clamp<std::int64_t>(NumberValue(record[StationField::Reliability]), 0, 4));
-  }
-  if (row.name.empty()) row.name = key.Token();  // no longer in the directory
-  return row;
+  std::vector<StationInfo> found = stations_.InfosOf({&key, 1});
+  if (found.empty()) return {key, key.Token(), {}, {}, 0};  // no longer there
+  StationInfo& info = found.front();
+  const int symbol = info.Symbol();
+  if (info.name.empty()) info.name = key.Token();
+  return {key, std::move(info.name), std::move(info.location), {}, symbol};
 }
 
 ScanButtons StationScan::Buttons(std::optional<std::size_t> selectedQueueRow) const {

@@ -45,7 +45,7 @@ struct ScanRow {
   std::string name;
   std::string second;
   std::string reason;  // history only: why it did not play; "" when it did
-  int icon = 0;        // picture index, as in the station list
+  int symbol = 0;      // of the reliability, as in the station list
 };
 
 // Which buttons do something now.
@@ -86,11 +86,11 @@ class StationScan {
   // A tick of tmrScan.
   void Tick();
 
-  // Takes stations by their row keys ("S1204", "P3") to the end of the queue, or before the row `at`.
-  // Whatever names no station ("X") is left out. The window need not be open. Returns how many were taken.
-  std::size_t Add(std::span<const std::string> rowKeys, std::optional<std::size_t> at = std::nullopt);
-  // The caption of lblStationsAdd: row keys between blanks are taken into the queue; the buttons are shown
-  // again in any case.
+  // Takes stations to the end of the queue, or before the row `at`; None is left out. The window need not be
+  // open.
+  void Add(std::span<const StationKey> stations, std::optional<std::size_t> at = std::nullopt);
+  // The caption of lblStationsAdd: row keys ("S1204", "P3") between blanks are taken into the queue;
+  // the buttons are shown again in any case.
   void StationsAdded(std::string_view caption);
   // Moves a queue row to stand before the row `to` (drag and drop); `to` may be the end of the queue.
   void MoveRow(std::size_t from, std::size_t to);

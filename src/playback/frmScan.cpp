@@ -9,14 +9,13 @@
 #include "resources/texts/playback.h"
 #include "settings/HelpPages.h"
 #include "settings/Strings.h"
+#include "stations/FavoriteGroups.h"
 
 namespace sonaro {
 
 namespace {
 
 constexpr unsigned kSecond = 1000;
-constexpr int kFirstSymbolIcon = 7;  // the icon of reliability 0
-constexpr std::size_t kMaxGroups = 10;
 
 }  // namespace
 
@@ -32,15 +31,17 @@ std::string frmScan::HistoryRows::Cell(int row, int column) const {
 }
 
 int frmScan::HistoryRows::Symbol(int row) const {
-  return scan_.HistoryRow(static_cast<std::size_t>(row)).icon - kFirstSymbolIcon;
+  return scan_.HistoryRow(static_cast<std::size_t>(row)).symbol;
 }
 
-frmScan::frmScan(FormContext& context, StationScan& scan, HelpPages& help, Groups groups)
+frmScan::frmScan(FormContext& context, StationScan& scan, HelpPages& help, const FavoriteGroups& groups,
+                 AddToGroup addToGroup)
     : Form(context, Design()),
       context_(context),
       scan_(scan),
       help_(help),
-      groups_(std::move(groups)),
+      groups_(groups),
+      addToGroup_(std::move(addToGroup)),
       queue_(scan),
       history_(scan) {}
 
@@ -70,10 +71,10 @@ bool frmScan::IsAt(POINT screen) const {
   return IsOpen() && GetAncestor(WindowFromPoint(screen), GA_ROOT) == Window();
 }
 
-void frmScan::TakeDropped(const std::string& rowKey, POINT screen) {
+void frmScan::TakeDropped(const StationKey& station, POINT screen) {
   const bool onQueue = WindowFromPoint(screen) == Control(lstToScan);
   const int row = onQueue ? List(lstToScan).RowAt(screen) : -1;
-  scan_.Add({&rowKey, 1}, row >= 0 ? std::optional(static_cast<std::size_t>(row)) : std::nullopt);
+  scan_.Add({&station, 1}, row >= 0 ? std::optional(static_cast<std::size_t>(row)) : std::nullopt);
 }
 
 void frmScan::ShowState() {
@@ -177,10 +178,9 @@ void frmScan::lstToScan_ItemSelected(int) { ShowState(); }
 
 std::vector<MenuEntry> frmScan::GroupEntries() const {
   std::vector<MenuEntry> entries;
-  const std::vector<std::string> names = groups_.names ? groups_.names() : std::vector<std::string>{};
-  for (std::size_t group = 0; group < std::min(names.size(), kMaxGroups); ++group) {
+  for (std::size_t group = 0; group < std::min(groups_.Count(), FavoriteGroups::kSlots); ++group) {
     entries.push_back({.command = mnuScanToGroup + static_cast<int>(group),
-                       .text = FormatText(LoadText(IDS_SCAN_W_MENU_GROUP), {MenuText(names[group])})});
+                       .text = FormatText(LoadText(IDS_SCAN_W_MENU_GROUP), {MenuText(groups_.Name(group))})});
   }
   return entries;
 }
@@ -220,10 +220,8 @@ void frmScan::mnuScanRemove_Click() {
 void frmScan::mnuScanPutBack_Click() { lstScanedAlready_ItemActivate(menuHistoryRow_); }
 
 void frmScan::mnuScanToGroup_Click(int group) {
-  const std::vector<std::string> names = groups_.names ? groups_.names() : std::vector<std::string>{};
-  if (static_cast<std::size_t>(group) < names.size() && menuStation_) {
-    groups_.add(names[static_cast<std::size_t>(group)], menuStation_.Token());
-  }
+  const auto index = static_cast<std::size_t>(group);
+  if (index < groups_.Count() && menuStation_) addToGroup_(groups_.Name(index), menuStation_);
 }
 
 // Rows of the queue are moved by dragging: while the button is down the window has the mouse.

@@ -12,23 +12,22 @@
 
 namespace sonaro {
 
+class FavoriteGroups;
 class HelpPages;
 
 class frmScan final : public Form, private ScanView {
  public:
-  // The favourite groups, which belong to the main window.
-  struct Groups {
-    std::function<std::vector<std::string>()> names;
-    std::function<void(const std::string& name, const std::string& token)> add;
-  };
+  // Adds a station to a favourite group and says so, which is the main window's.
+  using AddToGroup = std::function<void(const std::string& name, const StationKey& station)>;
 
-  frmScan(FormContext& context, StationScan& scan, HelpPages& help, Groups groups);
+  frmScan(FormContext& context, StationScan& scan, HelpPages& help, const FavoriteGroups& groups,
+          AddToGroup addToGroup);
   ~frmScan() override;
 
   // Whether the window is what the user sees at the point of the screen.
   bool IsAt(POINT screen) const;
   // A station was dropped there: it comes before the row of the queue at the point, else at the end.
-  void TakeDropped(const std::string& rowKey, POINT screen);
+  void TakeDropped(const StationKey& station, POINT screen);
 
  private:
   class QueueRows final : public ListModel {
@@ -93,7 +92,8 @@ class frmScan final : public Form, private ScanView {
   FormContext& context_;
   StationScan& scan_;
   HelpPages& help_;
-  Groups groups_;
+  const FavoriteGroups& groups_;
+  AddToGroup addToGroup_;
   QueueRows queue_;
   HistoryRows history_;
   StationKey menuStation_;  // whose context menu is open

@@ -68,8 +68,8 @@ bool PlaylistTransfer::ExportGroup(std::size_t group, const std::string& path) {
   if (group >= groups_.Count()) return false;
   Playlist playlist;
   playlist.title = groups_.Name(group);
-  for (const std::string_view token : groups_.Tokens(group)) {
-    PlaylistEntry entry = EntryOf(token);
+  for (const StationKey& key : groups_.Keys(group)) {
+    PlaylistEntry entry = EntryOf(key);
     if (!entry.station.name.empty()) playlist.entries.push_back(std::move(entry));
   }
   return Save(std::move(playlist), path);
@@ -84,23 +84,21 @@ bool PlaylistTransfer::ExportPersonalStations(const std::string& path) {
   return Save(std::move(playlist), path);
 }
 
-PlaylistEntry PlaylistTransfer::EntryOf(std::string_view token) const {
+PlaylistEntry PlaylistTransfer::EntryOf(const StationKey& key) const {
   PlaylistEntry entry;
-  const StationKey key = StationKey::FromToken(token);
-  if (key.kind == StationKey::Kind::Personal) {
-    if (const PersonalStation* station = personal_.Find(key.number)) entry.station = *station;
+  if (!key.IsOfGuide()) {
+    if (const PersonalStation* own = key.IsOfUser() ? personal_.Find(key.number) : nullptr) {
+      entry.station = *own;
+    }
     entry.station.index = 0;
     return entry;
   }
-  entry.stationId = token;
-  entry.station.name = token;
-  const StationRecord record = source_.Record(key.number);
-  if (record.Empty()) return entry;
-  entry.station.name = record[StationField::Name];
-  entry.station.links = {record[StationField::LinkOne], record[StationField::LinkTwo],
-                         record[StationField::LinkThree]};
-  entry.station.webSite = record[StationField::WebSite];
-  entry.station.type = record[StationField::MediaType];
+  const Station station = source_.Find(key);
+  entry.stationId = key.Token();
+  entry.station.name = station.key ? station.name : entry.stationId;
+  entry.station.links = station.links;
+  entry.station.webSite = station.webSite;
+  entry.station.type = station.mediaType;
   return entry;
 }
 
@@ -129,9 +127,9 @@ ImportResult PlaylistTransfer::ImportPersonalStations(const std::string& path) {
   if (result.status != ImportResult::Status::Ok) return result;
   for (PlaylistEntry& entry : playlist.entries) entry.stationId.clear();
   const std::size_t before = personal_.All().size();
-  const auto tokens = TokensFor(playlist.entries, result);
+  const auto stations = StationsFor(playlist.entries, result);
   result.added = personal_.All().size() - before;
-  result.known = tokens.size() - result.added;
+  result.known = stations.size() - result.added;
   return result;
 }
 
@@ -140,59 +138,56 @@ ImportResult PlaylistTransfer::ImportIntoGroup(std::size_t group, const std::str
   ImportResult result = Read(path, playlist);
   if (result.status != ImportResult::Status::Ok || group >= groups_.Count()) return result;
   const std::size_t ownBefore = personal_.All().size();
-  const auto tokens = TokensFor(playlist.entries, result);
+  const auto stations = StationsFor(playlist.entries, result);
   if (result.status != ImportResult::Status::Ok) return result;
-  const std::size_t before = groups_.Tokens(group).size();
-  if (groups_.AddStations(group, tokens) == FavoriteChange::NotSaved) {
+  const std::size_t before = groups_.Keys(group).size();
+  if (groups_.AddStations(group, stations) == FavoriteChange::NotSaved) {
     result.added = personal_.All().size() - ownBefore;
     const bool some = result.added > 0;
     result.status = some ? ImportResult::Status::GroupNotSaved : ImportResult::Status::NotSaved;
     return result;
   }
-  result.added = groups_.Tokens(group).size() - before;
-  result.known = tokens.size() - result.added;
+  result.added = groups_.Keys(group).size() - before;
+  result.known = stations.size() - result.added;
   return result;
 }
 
-std::vector<std::string> PlaylistTransfer::TokensFor(const std::vector<PlaylistEntry>& entries,
-                                                     ImportResult& result) {
+std::vector<StationKey> PlaylistTransfer::StationsFor(const std::vector<PlaylistEntry>& entries,
+                                                      ImportResult& result) {
   const OwnStationIndex own(personal_.All(), result.compared);
-  std::vector<std::string> tokens;
+  std::vector<StationKey> stations;
   std::vector<PersonalStation> fresh;
-  std::vector<std::size_t> places;  // of the fresh ones in `tokens`
+  std::vector<std::size_t> places;  // of the fresh ones in `stations`
   for (const PlaylistEntry& entry : entries) {
-    tokens.push_back(KnownToken(entry, own));
-    if (!tokens.back().empty()) continue;
+    stations.push_back(KnownStation(entry, own));
+    if (stations.back()) continue;
     if (HasNoLink(entry.station) && entry.station.webSite.empty()) {
       ++result.skipped;
       continue;
     }
-    places.push_back(tokens.size() - 1);
+    places.push_back(stations.size() - 1);
     fresh.push_back(entry.station);
   }
   const std::vector<std::int32_t> indices = personal_.AddAll(fresh);
   if (indices.size() != fresh.size()) result.status = ImportResult::Status::NotSaved;
   for (std::size_t i = 0; i < std::min(indices.size(), places.size()); ++i) {
-    const StationKey key{StationKey::Kind::Personal, indices[i]};
-    if (indices[i] != 0) tokens[places[i]] = key.Token();
+    if (indices[i] != 0) stations[places[i]] = StationKey::OfUser(indices[i]);
   }
-  std::erase(tokens, std::string());
-  return tokens;
+  std::erase(stations, StationKey());
+  return stations;
 }
 
-std::string PlaylistTransfer::KnownToken(const PlaylistEntry& entry, const OwnStationIndex& own) const {
+StationKey PlaylistTransfer::KnownStation(const PlaylistEntry& entry, const OwnStationIndex& own) const {
   const StationKey key = StationKey::FromToken(entry.stationId);
-  if (key.kind == StationKey::Kind::Directory) {
-    const StationRecord record = source_.Record(key.number);
+  if (key.IsOfGuide()) {
+    const Station station = source_.Find(key);
     // Another guide may have given the identifier to another station. The entry's name is one that was
     // cleaned.
-    const std::string name = CleanField(record[StationField::Name], PersonalStation::kMaxName);
-    if (record.Empty() ? HasNoLink(entry.station) : EqualIgnoringCase(name, entry.station.name)) {
-      return entry.stationId;
-    }
+    const std::string name = CleanField(station.name, PersonalStation::kMaxName);
+    if (station.key ? EqualIgnoringCase(name, entry.station.name) : HasNoLink(entry.station)) return key;
   }
   const PersonalStation* const same = own.Find(entry.station);
-  return same ? StationKey{StationKey::Kind::Personal, same->index}.Token() : std::string();
+  return same ? StationKey::OfUser(same->index) : StationKey();
 }
 
 }  // namespace sonaro

@@ -5,10 +5,10 @@
 
 #include <cstddef>
 #include <string>
-#include <string_view>
 #include <vector>
 
 #include "playlists/Playlist.h"
+#include "stations/StationKey.h"
 
 namespace sonaro {
 
@@ -48,12 +48,12 @@ class PlaylistTransfer {
   ImportResult ImportPersonalStations(const std::string& path);
 
  private:
-  PlaylistEntry EntryOf(std::string_view token) const;
+  PlaylistEntry EntryOf(const StationKey& key) const;
   [[nodiscard]] bool Save(Playlist playlist, const std::string& path);
   ImportResult Read(const std::string& path, Playlist& playlist);
-  // The tokens of the entries in their order, stations that were missing having been added to the user's own.
-  std::vector<std::string> TokensFor(const std::vector<PlaylistEntry>& entries, ImportResult& result);
-  std::string KnownToken(const PlaylistEntry& entry, const OwnStationIndex& own) const;
+  // The stations of the entries in their order, those that were missing having been added to the user's own.
+  std::vector<StationKey> StationsFor(const std::vector<PlaylistEntry>& entries, ImportResult& result);
+  StationKey KnownStation(const PlaylistEntry& entry, const OwnStationIndex& own) const;
 
   Files& files_;
   FavoriteGroups& groups_;

@@ -6,7 +6,6 @@
 #include "base/Text.h"
 #include "schedule/ScheduleStore.h"
 #include "schedule/ScheduleTexts.h"
-#include "stations/ExtraLinks.h"
 #include "stations/PlayLink.h"
 
 namespace sonaro {
@@ -14,7 +13,6 @@ namespace sonaro {
 namespace {
 
 constexpr std::string_view kAskMark = "XX";
-constexpr PlayMode kLinkModes[] = {PlayMode::LinkOne, PlayMode::LinkTwo, PlayMode::LinkThree};
 
 std::string PlayCaption(std::string_view linkName) { return "Play (" + std::string(linkName) + ")"; }
 
@@ -49,33 +47,25 @@ class LinkNames {
   std::set<std::string> servers_;
 };
 
-void AddDirectoryLinks(std::vector<PlayChoice>& plays, const StationKey& key, const StationSource& stations,
-                       const ExtraLinks& extraLinks) {
-  const StationRecord record = stations.Record(key.number);
-  const std::string& bitRate = record[StationField::BitRate];
-  LinkNames names(record[StationField::MediaType]);
-  for (int number = 1; number <= 3; ++number) {
-    const std::string link = stations.LinkOf(key, number);
-    if (link.empty()) continue;
-    std::string detail(ServerOf(PlayLink::FromText(link).address));
-    if (number == 1) detail = bitRate.empty() ? "" : bitRate + " kbit/s";
-    plays.push_back(
-        {PlayCaption(names.Next(link, number)), detail, std::to_string(key.number), kLinkModes[number - 1]});
+// A station of the user's own is of no one media type, and of no known bit rate.
+std::vector<PlayChoice> PlayChoices(const Station& station, const ExtraLinks& extraLinks) {
+  const bool ofGuide = station.key.IsOfGuide();
+  LinkNames names(ofGuide ? station.mediaType : std::string());
+  std::vector<PlayChoice> plays;
+  for (const PlayableLink& playable : PlayableLinks(station, extraLinks)) {
+    if (playable.number == 0) {
+      plays.push_back({PlayCaption("Extra Link"), playable.name, playable.request});
+      continue;
+    }
+    std::string detail;
+    if (playable.number == 1) {
+      if (!station.bitRate.empty()) detail = station.bitRate + " kbit/s";
+    } else if (ofGuide) {
+      detail = ServerOf(PlayLink::FromText(playable.link).address);
+    }
+    plays.push_back({PlayCaption(names.Next(playable.link, playable.number)), detail, playable.request});
   }
-  for (const ExtraLink& extra : extraLinks.Of(key.number)) {
-    plays.push_back({PlayCaption("Extra Link"), extra.name, extra.link, PlayMode::KeyItself});
-  }
-}
-
-void AddPersonalLinks(std::vector<PlayChoice>& plays, const StationKey& key, const StationSource& stations) {
-  LinkNames names("");
-  for (int number = 1; number <= 3; ++number) {
-    const std::string link = stations.LinkOf(key, number);
-    if (link.empty()) continue;
-    const bool first = number == 1;
-    plays.push_back({PlayCaption(names.Next(link, number)), "", first ? std::to_string(key.number) : link,
-                     first ? PlayMode::Personal : PlayMode::KeyItself});
-  }
+  return plays;
 }
 
 }  // namespace
@@ -88,9 +78,7 @@ Notification NotificationFor(const ScheduleItem& item, const StationSource& stat
   shown.note = item.note;
   shown.webSite = item.name.Address();
   shown.opensWebSite = item.opensWebSite && !shown.webSite.empty();
-  const StationKey key = StationKey::FromRowKey(item.stationKey);
-  if (key.kind == StationKey::Kind::Directory) AddDirectoryLinks(shown.plays, key, stations, extraLinks);
-  if (key.kind == StationKey::Kind::Personal) AddPersonalLinks(shown.plays, key, stations);
+  shown.plays = PlayChoices(stations.Find(item.station), extraLinks);
   if (shown.plays.size() > Notification::kPlayButtons) shown.plays.resize(Notification::kPlayButtons);
   return shown;
 }

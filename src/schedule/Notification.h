@@ -18,8 +18,7 @@ class ExtraLinks;
 struct PlayChoice {
   std::string caption;  // "Play (MP3)"
   std::string detail;   // "128 kbit/s", the server of a further link, or ""
-  std::string key;
-  PlayMode mode = PlayMode::LinkOne;
+  PlayRequest request;
 };
 
 struct Notification {

@@ -29,10 +29,10 @@ bool EveryDay(const DayFlags& days) { return std::find(days.begin(), days.end(),
 
 }  // namespace
 
-ScheduleDraft ScheduleDraft::ForStation(std::string_view stationKey, std::string_view stationName,
+ScheduleDraft ScheduleDraft::ForStation(const StationKey& station, std::string_view stationName,
                                         const DateTime& now) {
   ScheduleDraft draft;
-  draft.stationKey = stationKey;
+  draft.station = station;
   draft.name.name = stationName;
   const DateTime next = AddSeconds({now.date, {now.time.hour, 0, 0}}, 3600);
   draft.time = next.time;
@@ -44,7 +44,7 @@ ScheduleDraft ScheduleDraft::ForStation(std::string_view stationKey, std::string
 ScheduleDraft ScheduleDraft::ForEvent(const EventRecord& event, Clock& clock) {
   ScheduleDraft draft;
   draft.mode = DraftMode::AddLive;
-  draft.stationKey = "S" + event[EventField::StationId];
+  draft.station = StationKey::FromToken(event[EventField::StationId]);
   draft.name = {event[EventField::Name], event[EventField::StationName], event[EventField::WebAddress]};
   if (const auto local = ServiceTimeToLocal(clock, event[EventField::StartGmt])) {
     draft.time = local->time;
@@ -64,7 +64,7 @@ ScheduleDraft ScheduleDraft::FromItem(const ScheduleItem& item) {
   if (draft.kind == ScheduleKind::Daily) draft.days = item.days;
   draft.note = item.note;
   draft.name = item.name;
-  draft.stationKey = item.stationKey;
+  draft.station = item.station;
   draft.openWebSite = item.opensWebSite;
   return draft;
 }
@@ -85,7 +85,7 @@ ScheduleFields ScheduleDraft::ToFields(ClockStyle style, std::string_view shortD
   item.name = JoinItemName(name);
   item.time = FormatTime(time, style);
   item.note = NoteForFile(note);
-  item.action = ActionText(openWebSite, stationKey);
+  item.action = ActionText(openWebSite, station);
   switch (kind) {
     case ScheduleKind::Daily:
       item.kind = DailyKind(days);

@@ -29,11 +29,11 @@ struct ScheduleDraft {
   DayFlags days{true, true, true, true, true, true, true};
   std::string note;  // lines separated by CR LF
   ItemName name;     // name.name is empty while no station is chosen
-  std::string stationKey;
+  StationKey station;
   bool openWebSite = false;
 
   // A new item for a station, at the next full hour.
-  static ScheduleDraft ForStation(std::string_view stationKey, std::string_view stationName,
+  static ScheduleDraft ForStation(const StationKey& station, std::string_view stationName,
                                   const DateTime& now);
   // An event of the directory: once, at its start on the local clock.
   static ScheduleDraft ForEvent(const EventRecord& event, Clock& clock);

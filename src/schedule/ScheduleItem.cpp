@@ -98,8 +98,8 @@ std::string NoteFromFile(std::string_view stored) {
   return note;
 }
 
-std::string ActionText(bool openWebSite, std::string_view stationKey) {
-  return (openWebSite ? "W" : "N") + std::string(stationKey);
+std::string ActionText(bool openWebSite, const StationKey& station) {
+  return (openWebSite ? "W" : "N") + station.RowKey();
 }
 
 ScheduleItem::ScheduleItem(ScheduleFields texts, std::string_view shortDatePattern)
@@ -110,7 +110,7 @@ ScheduleItem::ScheduleItem(ScheduleFields texts, std::string_view shortDatePatte
       weekday(WeekdayNamed(fields.weekday)),
       note(NoteFromFile(fields.note)),
       opensWebSite(fields.action.starts_with('W')),
-      stationKey(fields.action.empty() ? "" : fields.action.substr(1)) {
+      station(fields.action.empty() ? StationKey() : StationKey::FromRowKey(fields.action.substr(1))) {
   if (const auto read = ParseDate(fields.date, shortDatePattern)) date = read->date;
   if (kind == ScheduleKind::Daily) days = DaysOf(fields.kind);
   if (kind == ScheduleKind::Weekly && weekday) days[static_cast<std::size_t>(*weekday)] = true;

@@ -9,6 +9,7 @@
 #include <string_view>
 
 #include "base/Dates.h"
+#include "stations/StationKey.h"
 
 namespace sonaro {
 
@@ -59,9 +60,9 @@ std::string JoinItemName(const ItemName& name);
 std::string NoteForFile(std::string_view note);
 std::string NoteFromFile(std::string_view stored);
 
-// The action field: the letter ('W' web site, 'N' notice) followed by the station's key ("S1204", "P3", or
-// "").
-std::string ActionText(bool openWebSite, std::string_view stationKey);
+// The action field: the letter ('W' web site, 'N' notice) followed by the station's row key ("S1204", "P3"),
+// or by nothing.
+std::string ActionText(bool openWebSite, const StationKey& station);
 
 // An item of the table. A text that is not what its field is for gives no value, and its bytes stay in
 // `fields`, which alone are written.
@@ -75,7 +76,7 @@ struct ScheduleItem {
   DayFlags days{};             // on which it comes: of daily and weekly items
   std::string note;            // lines separated by CR LF
   bool opensWebSite = false;
-  std::string stationKey;  // "S1204", "P3" or ""
+  StationKey station;
 
   ScheduleItem() = default;
   // Dates are read as the user writes them.

@@ -32,8 +32,8 @@ struct ScheduleServices {
   HelpPages& help;
   ClockStyle clockStyle = ClockStyle::Hours24;
   std::string shortDatePattern = {};
-  // The web site of a station by its row key; "" when there is none.
-  std::function<std::string(const std::string& stationKey)> webSiteOf = {};
+  // The web site of a station; "" when there is none.
+  std::function<std::string(const StationKey& station)> webSiteOf = {};
   // When a broadcast event of this name begins next, local time.
   std::function<std::optional<DateTime>(std::string_view show)> nextBroadcast = {};
   std::function<void()> changed = {};  // the table was changed and saved

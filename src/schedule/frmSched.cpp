@@ -111,7 +111,7 @@ void frmSched::lstShows_ItemSelected(int) {
 void frmSched::lstSched_ItemActivate(int) { butChangeIt_Click(); }
 
 void frmSched::butAddIt_Click() {
-  frmSchedChange dialog(context_, services_, ScheduleDraft::ForStation("", "", services_.clock.LocalNow()));
+  frmSchedChange dialog(context_, services_, ScheduleDraft::ForStation({}, {}, services_.clock.LocalNow()));
   if (dialog.ShowModal(Window()) == 1) FillLists();
 }
 

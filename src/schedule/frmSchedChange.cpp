@@ -121,10 +121,10 @@ void frmSchedChange::Any_Change() {
 
 void frmSchedChange::butSchedIt_Click() {
   frmSelectStation picker(context_, services_.stations, services_.help);
-  const std::optional<PickRow> picked = picker.Choose(Window());
+  const std::optional<StationInfo> picked = picker.Choose(Window());
   if (!picked) return;
   draft_.name = {picked->name, {}, {}};
-  draft_.stationKey = picked->key;
+  draft_.station = picked->key;
   SetText(lblStationToSched, draft_.StationShown());
   ShowSummary();
 }
@@ -166,7 +166,7 @@ void frmSchedChange::butOKIt_Click() {
   if (ShowError(draft_.Fault(services_.shortDatePattern))) return;
   // The notice opens what the item carries; a station's own site is taken when it is to be opened.
   if (draft_.openWebSite && draft_.name.webSite.empty())
-    draft_.name.webSite = services_.webSiteOf(draft_.stationKey);
+    draft_.name.webSite = services_.webSiteOf(draft_.station);
   const bool saved =
       services_.store.SetItem(slot_ ? *slot_ : services_.store.FirstFreeSlot(),
                               draft_.ToFields(services_.clockStyle, services_.shortDatePattern));

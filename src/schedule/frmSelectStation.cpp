@@ -75,11 +75,11 @@ std::span<const EventRow> frmSelectStation::Events() const {
 }
 
 std::string frmSelectStation::Rows::Cell(int row, int column) const {
-  const PickRow& shown = rows[static_cast<std::size_t>(row)];
+  const StationInfo& shown = rows[static_cast<std::size_t>(row)];
   return column == 0 ? shown.name : column == 1 ? shown.location : shown.mediaType;
 }
 
-std::optional<PickRow> frmSelectStation::Choose(HWND owner) {
+std::optional<StationInfo> frmSelectStation::Choose(HWND owner) {
   return ShowModal(owner) == 1 ? chosen_ : std::nullopt;
 }
 
@@ -95,7 +95,7 @@ void frmSelectStation::OnLoad() {
   cmbSelectGroup_Change();
 }
 
-void frmSelectStation::ShowRows(std::vector<PickRow> rows) {
+void frmSelectStation::ShowRows(std::vector<StationInfo> rows) {
   rows_.rows = std::move(rows);
   List(lstResult).RowsChanged();
   List(lstResult).SelectNone();

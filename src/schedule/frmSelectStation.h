@@ -19,21 +19,21 @@ class frmSelectStation final : public Form {
       : Form(context, Design()), stations_(stations), help_(help) {}
 
   // Runs the dialog. Nothing when it was cancelled.
-  std::optional<PickRow> Choose(HWND owner);
+  std::optional<StationInfo> Choose(HWND owner);
 
  private:
   class Rows final : public ListModel {
    public:
     int RowCount() const override { return static_cast<int>(rows.size()); }
     std::string Cell(int row, int column) const override;
-    int Symbol(int row) const override { return rows[static_cast<std::size_t>(row)].reliability; }
-    std::vector<PickRow> rows;
+    int Symbol(int row) const override { return rows[static_cast<std::size_t>(row)].Symbol(); }
+    std::vector<StationInfo> rows;
   };
 
   static const FormDesign& Design();
   std::span<const EventRow> Events() const override;
   void OnLoad() override;
-  void ShowRows(std::vector<PickRow> rows);
+  void ShowRows(std::vector<StationInfo> rows);
 
   void cmbSelectGroup_Change();
   void butSearchIt_Click();
@@ -46,7 +46,7 @@ class frmSelectStation final : public Form {
   StationPicker& stations_;
   HelpPages& help_;
   Rows rows_;
-  std::optional<PickRow> chosen_;
+  std::optional<StationInfo> chosen_;
 };
 
 }  // namespace sonaro

@@ -8,6 +8,8 @@
 #include <string_view>
 #include <vector>
 
+#include "stations/StationKey.h"
+
 namespace sonaro {
 
 class Form;
@@ -17,7 +19,7 @@ struct EventLine {
   std::string when;
   std::string name;
   std::string station;
-  std::string token;     // of its station; "" when the guide does not have it
+  StationKey key;        // of its station; None when the guide does not have it
   bool noticed = false;  // the user will be told
   bool personalShow = false;
 };
@@ -33,7 +35,7 @@ class ScheduleCommands {
  public:
   virtual ~ScheduleCommands() = default;
   // The dialog that adds an item for the station to the schedule.
-  virtual void ScheduleStation(Form& owner, const std::string& rowKey) = 0;
+  virtual void ScheduleStation(Form& owner, const StationKey& station) = 0;
   // Explains the time zone that the schedule works in.
   virtual void ExplainTimes(Form& owner) = 0;
 
@@ -81,7 +83,7 @@ class ProgramCommands : public TrayMessages {
   // The scan's window: whether it is what the user sees at a point of the screen, and a station that was
   // dropped there.
   virtual bool ScanIsAt(int x, int y) = 0;
-  virtual void DropOnScan(const std::string& rowKey, int x, int y) = 0;
+  virtual void DropOnScan(const StationKey& station, int x, int y) = 0;
 };
 
 }  // namespace sonaro

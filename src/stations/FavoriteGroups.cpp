@@ -6,35 +6,12 @@
 #include <utility>
 
 #include "base/Text.h"
+#include "stations/FieldText.h"
 
 namespace sonaro {
 namespace {
 
 constexpr const char* kNameless = "Group";  // what a group without a name is called in the file
-
-std::string MembersOf(const std::vector<std::string_view>& tokens) {
-  std::string members;
-  for (const std::string_view token : tokens) {
-    members += token;
-    members += ' ';
-  }
-  return members;
-}
-
-// The members with every "blank + token" cut out; all other bytes stay.
-std::string WithoutToken(std::string_view members, std::string_view token) {
-  std::string rest = " " + std::string(members);
-  const std::string cut = " " + std::string(token);
-  for (std::size_t at = rest.find(cut); at != std::string::npos; at = rest.find(cut, at)) {
-    const std::size_t end = at + cut.size();
-    if (end == rest.size() || rest[end] == ' ') {
-      rest.erase(at, cut.size());
-    } else {
-      at = end;  // the token is only the start of a longer one
-    }
-  }
-  return rest.empty() ? rest : rest.substr(1);
-}
 
 // Moves one element of a vector to another place, the elements between shifting by one.
 template <typename T>
@@ -48,6 +25,50 @@ void MoveElement(std::vector<T>& items, std::size_t from, std::size_t to) {
 }
 
 }  // namespace
+
+FavoriteGroups::Group FavoriteGroups::Group::FromLine(std::string_view line) {
+  Group group;
+  group.name = TrimBlanks(NextField(line, '\t'));
+  const std::string members = " " + std::string(line);
+  std::size_t at = 0;
+  for (std::size_t token = 0; (token = members.find_first_not_of(' ', at)) != std::string::npos;) {
+    const std::size_t end = std::min(members.find(' ', token), members.size());
+    group.keys.push_back(StationKey::FromToken(std::string_view(members).substr(token, end - token)));
+    group.texts.push_back(members.substr(at, end - at));
+    at = end;
+  }
+  group.end = members.substr(at);
+  return group;
+}
+
+std::string FavoriteGroups::Group::Line() const {
+  std::string members;
+  for (const std::string& text : texts) members += text;
+  members += end;
+  return name + "\t" + (members.empty() ? members : members.substr(1));
+}
+
+void FavoriteGroups::Group::Append(const StationKey& station) {
+  // A trimmed line ends in a bare token, which must not grow into the new one.
+  texts.push_back((keys.empty() || end.empty() ? " " : end) + station.Token());
+  keys.push_back(station);
+  end = " ";
+}
+
+// One blank goes with the member; what else stood in front of it stays.
+void FavoriteGroups::Group::Erase(std::size_t place) {
+  const std::string& text = texts[place];
+  const std::string blanks = text.substr(1, text.find_first_not_of(' ') - 1);
+  std::string& next = place + 1 < texts.size() ? texts[place + 1] : end;
+  next.insert(0, blanks);
+  keys.erase(keys.begin() + static_cast<std::ptrdiff_t>(place));
+  texts.erase(texts.begin() + static_cast<std::ptrdiff_t>(place));
+}
+
+void FavoriteGroups::Group::Tidy() {
+  for (std::string& text : texts) text.erase(0, text.find_first_not_of(' ') - 1);
+  end = texts.empty() ? "" : " ";
+}
 
 void FavoriteGroups::LoadFavoriteGroups() {
   if (file_.Look() != UserFile::Seen::Unreadable) ReadFile();
@@ -64,9 +85,8 @@ void FavoriteGroups::ReadFile() {
   owesCopy_ = false;
   for (const std::string_view line : SplitLines(file_.Text())) {
     const std::string_view group = TrimBlanks(line);
-    const std::size_t tab = group.find('\t');
-    if (tab != std::string_view::npos) {
-      groups_.push_back(std::string(TrimBlanks(group.substr(0, tab))).append(group.substr(tab)));
+    if (group.find('\t') != std::string_view::npos) {
+      groups_.push_back(Group::FromLine(group));
     } else if (!group.empty()) {
       owesCopy_ = true;
     }
@@ -83,7 +103,7 @@ void FavoriteGroups::MakeNamesUnique() {
   std::unordered_set<std::string> seen;
   std::unordered_map<std::string, int> lastNumber;  // of the names made from one
   for (std::size_t group = 0; group < Count(); ++group) {
-    const std::string name(Name(group));
+    const std::string name = Name(group);
     if (!name.empty() && seen.insert(FoldCase(name)).second) continue;
     const std::string stem = name.empty() ? kNameless : name;
     int& number = lastNumber[FoldCase(stem)];
@@ -93,14 +113,14 @@ void FavoriteGroups::MakeNamesUnique() {
       fresh = number == 1 ? stem : stem + " " + std::to_string(number);
     } while (!taken.insert(FoldCase(fresh)).second);
     seen.insert(FoldCase(fresh));
-    groups_[group] = fresh + "\t" + std::string(Members(group));
+    groups_[group].name = fresh;
   }
 }
 
 std::string FavoriteGroups::FileText() const {
   std::string bytes;
-  for (const std::string& group : groups_) {
-    bytes += group;
+  for (const Group& group : groups_) {
+    bytes += group.Line();
     bytes += "\r\n";
   }
   return bytes;
@@ -116,7 +136,7 @@ FavoriteChange FavoriteGroups::Change(const std::function<bool()>& edit) {
   const UserFile::Seen seen = file_.Look();
   if (seen == UserFile::Seen::Unreadable) return FavoriteChange::NotSaved;
   if (seen == UserFile::Seen::Changed) ReadFile();
-  std::vector<std::string> before = groups_;
+  std::vector<Group> before = groups_;
   if (!edit()) return FavoriteChange::Nothing;
   const FavoriteChange saved = SaveFavoriteGroups();
   if (saved != FavoriteChange::Saved) groups_ = std::move(before);
@@ -125,24 +145,12 @@ FavoriteChange FavoriteGroups::Change(const std::function<bool()>& edit) {
 
 FavoriteChange FavoriteGroups::Change(std::size_t group, const std::function<bool(std::size_t)>& edit) {
   if (group >= Count()) return FavoriteChange::Nothing;
-  const std::string name(Name(group));
+  const std::string name = Name(group);
   return Change([&] {
     if (group < Count() && Name(group) == name) return edit(group);
     const std::optional<std::size_t> now = Find(name);
     return now && edit(*now);
   });
-}
-
-std::string_view FavoriteGroups::Name(std::size_t group) const {
-  return std::string_view(groups_[group]).substr(0, groups_[group].find('\t'));
-}
-
-std::string_view FavoriteGroups::Members(std::size_t group) const {
-  return std::string_view(groups_[group]).substr(groups_[group].find('\t') + 1);
-}
-
-std::vector<std::string_view> FavoriteGroups::Tokens(std::size_t group) const {
-  return SplitWords(Members(group));
 }
 
 std::optional<std::size_t> FavoriteGroups::Find(std::string_view name) const {
@@ -152,18 +160,17 @@ std::optional<std::size_t> FavoriteGroups::Find(std::string_view name) const {
   return std::nullopt;
 }
 
-bool FavoriteGroups::Contains(std::size_t group, std::string_view token) const {
-  const auto tokens = Tokens(group);
-  return std::find(tokens.begin(), tokens.end(), token) != tokens.end();
+bool FavoriteGroups::Contains(std::size_t group, const StationKey& station) const {
+  return std::find(Keys(group).begin(), Keys(group).end(), station) != Keys(group).end();
 }
 
-FavoriteChange FavoriteGroups::Add(std::string_view name, std::string_view firstMember) {
+FavoriteChange FavoriteGroups::Add(std::string_view name, const StationKey& firstMember) {
   const std::string cleanName = CleanName(name);
   if (cleanName.empty()) return FavoriteChange::Nothing;
   return Change([&] {
     if (Find(cleanName)) return false;
-    groups_.push_back(cleanName + "\t");
-    if (!firstMember.empty()) AppendToken(Count() - 1, firstMember);
+    groups_.push_back({cleanName, {}, {}, {}});
+    if (firstMember) groups_.back().Append(firstMember);
     return true;
   });
 }
@@ -173,7 +180,7 @@ FavoriteChange FavoriteGroups::Rename(std::size_t group, std::string_view name) 
   if (cleanName.empty()) return FavoriteChange::Nothing;
   return Change(group, [&](std::size_t at) {
     if (const auto holder = Find(cleanName); holder && *holder != at) return false;
-    groups_[at] = cleanName + "\t" + std::string(Members(at));
+    groups_[at].name = cleanName;
     return true;
   });
 }
@@ -193,84 +200,64 @@ FavoriteChange FavoriteGroups::Move(std::size_t from, std::size_t to) {
   });
 }
 
-FavoriteChange FavoriteGroups::AddStation(std::size_t group, std::string_view token) {
-  return Change(group, [&](std::size_t at) { return Append(at, token); });
+FavoriteChange FavoriteGroups::AddStation(std::size_t group, const StationKey& station) {
+  return AddStations(group, {station});
 }
 
-FavoriteChange FavoriteGroups::AddStations(std::size_t group, const std::vector<std::string>& tokens) {
+FavoriteChange FavoriteGroups::AddStations(std::size_t group, const std::vector<StationKey>& stations) {
   return Change(group, [&](std::size_t at) {
-    const auto members = Tokens(at);
-    std::unordered_set<std::string> known;
-    for (const std::string_view member : members) known.emplace(member);
+    std::unordered_set<StationKey> known(Keys(at).begin(), Keys(at).end());
     bool changed = false;
-    for (const std::string& token : tokens) {
-      if (token.empty() || !known.insert(token).second) continue;
-      AppendToken(at, token);
+    for (const StationKey& station : stations) {
+      if (!station || !known.insert(station).second) continue;
+      groups_[at].Append(station);
       changed = true;
     }
     return changed;
   });
 }
 
-bool FavoriteGroups::Append(std::size_t group, std::string_view token) {
-  if (group >= Count() || token.empty() || Contains(group, token)) return false;
-  AppendToken(group, token);
-  return true;
-}
-
-void FavoriteGroups::AppendToken(std::size_t group, std::string_view token) {
-  std::string& text = groups_[group];
-  if (TrimBlanks(Members(group)).empty()) {
-    text.resize(text.find('\t') + 1);
-  } else if (text.back() != ' ') {
-    text += ' ';  // a trimmed line ends in a bare token, which must not grow into the new one
-  }
-  text += token;
-  text += ' ';
-}
-
-FavoriteChange FavoriteGroups::RemoveStation(std::size_t group, std::string_view token) {
+FavoriteChange FavoriteGroups::RemoveStation(std::size_t group, const StationKey& station) {
   return Change(group, [&](std::size_t at) {
-    if (!Contains(at, token)) return false;
-    groups_[at] = std::string(Name(at)) + "\t" + WithoutToken(Members(at), token);
-    return true;
+    bool changed = false;
+    for (std::size_t place = Keys(at).size(); place-- > 0;) {
+      if (Keys(at)[place] != station) continue;
+      groups_[at].Erase(place);
+      changed = true;
+    }
+    return changed;
   });
 }
 
-FavoriteChange FavoriteGroups::RemoveStations(std::size_t group, const std::vector<std::string>& tokens) {
-  const std::unordered_set<std::string_view> leaving(tokens.begin(), tokens.end());
+FavoriteChange FavoriteGroups::RemoveStations(std::size_t group, const std::vector<StationKey>& stations) {
+  const std::unordered_set<StationKey> leaving(stations.begin(), stations.end());
   return Change(group, [&](std::size_t at) {
-    auto members = Tokens(at);
-    if (std::erase_if(members, [&](std::string_view member) { return leaving.contains(member); }) == 0) {
-      return false;
+    const std::size_t before = Keys(at).size();
+    for (std::size_t place = before; place-- > 0;) {
+      if (leaving.contains(Keys(at)[place])) groups_[at].Erase(place);
     }
-    groups_[at] = std::string(Name(at)) + "\t" + MembersOf(members);
-    return true;
+    groups_[at].Tidy();
+    return Keys(at).size() != before;
   });
 }
 
 FavoriteChange FavoriteGroups::MoveStation(std::size_t group, std::size_t from, std::size_t to) {
   if (group >= Count()) return FavoriteChange::Nothing;
-  const std::vector<std::string_view> meant = Tokens(group);
-  if (from >= meant.size() || to >= meant.size() || from == to) return FavoriteChange::Nothing;
-  const std::string moved(meant[from]);
+  const Group meant = groups_[group];
+  if (from >= meant.keys.size() || to >= meant.keys.size() || from == to) return FavoriteChange::Nothing;
   return Change(group, [&](std::size_t at) {
-    auto tokens = Tokens(at);
-    const auto now = std::find(tokens.begin(), tokens.end(), moved);
-    if (now == tokens.end() || to >= tokens.size()) return false;
-    const bool same = from < tokens.size() && tokens[from] == moved;
-    MoveElement(tokens, same ? from : static_cast<std::size_t>(now - tokens.begin()), to);
-    groups_[at] = std::string(Name(at)) + "\t" + MembersOf(tokens);
+    Group& now = groups_[at];
+    const auto stands = [&](std::size_t place) { return now.keys[place] == meant.keys[from]; };
+    std::size_t place = from < now.keys.size() && stands(from) ? from : 0;
+    while (place < now.keys.size() && !stands(place)) ++place;
+    if (place == now.keys.size() || to >= now.keys.size()) return false;
+    MoveElement(now.keys, place, to);
+    MoveElement(now.texts, place, to);
+    now.Tidy();
     return true;
   });
 }
 
-std::string FavoriteGroups::CleanName(std::string_view name) {
-  std::string clean(name);
-  for (char& c : clean) {
-    if (static_cast<unsigned char>(c) < ' ' || c == '\x7F') c = ' ';
-  }
-  return std::string(TrimBlanks(clean));
-}
+std::string FavoriteGroups::CleanName(std::string_view name) { return CleanField(name, name.size()); }
 
 }  // namespace sonaro

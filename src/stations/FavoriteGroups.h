@@ -1,8 +1,8 @@
 // The user's favourite groups and their file "\favs.snr": one line for each group, its name, a tab, and the
-// members, each followed by one blank. A member is a token: a station's identifier in decimal, or "P" and the
-// index of a personal station. Owned by Application. Every change is made on what the file holds at that
-// moment and is written at once; one that cannot be written is taken back. Asks nobody anything: see
-// FavoriteCommands.
+// members, each followed by one blank. A member is a station's token (StationKey.h); one that names no
+// station, or one that the guide does not have, is kept as it stands. Owned by Application. Every change is
+// made on what the file holds at that moment and is written at once; one that cannot be written is taken
+// back. Asks nobody anything: see FavoriteCommands.
 #pragma once
 
 #include <cstddef>
@@ -14,6 +14,7 @@
 
 #include "base/OwnFiles.h"
 #include "base/UserFile.h"
+#include "stations/StationKey.h"
 
 namespace sonaro {
 
@@ -46,31 +47,47 @@ class FavoriteGroups {
 
   std::size_t Count() const { return groups_.size(); }
   // For `group` below Count().
-  std::string_view Name(std::size_t group) const;
-  std::string_view Members(std::size_t group) const;  // as in the file; the last blank may be missing
-  std::vector<std::string_view> Tokens(std::size_t group) const;
+  const std::string& Name(std::size_t group) const { return groups_[group].name; }
+  // Its members in order: None where the file holds something that names no station.
+  const std::vector<StationKey>& Keys(std::size_t group) const { return groups_[group].keys; }
   // The group of this name, letter case ignored.
   std::optional<std::size_t> Find(std::string_view name) const;
-  bool Contains(std::size_t group, std::string_view token) const;
+  bool Contains(std::size_t group, const StationKey& station) const;
 
   // The changes. `name` is cleaned first; an empty one changes nothing.
-  FavoriteChange Add(std::string_view name, std::string_view firstMember = {});
+  FavoriteChange Add(std::string_view name, const StationKey& firstMember = {});
   FavoriteChange Rename(std::size_t group, std::string_view name);
   FavoriteChange Remove(std::size_t group);
   FavoriteChange Move(std::size_t from, std::size_t to);
-  FavoriteChange AddStation(std::size_t group, std::string_view token);
+  FavoriteChange AddStation(std::size_t group, const StationKey& station);
   // Several with one write; those that the group holds already, and repeats, are left out.
-  FavoriteChange AddStations(std::size_t group, const std::vector<std::string>& tokens);
-  FavoriteChange RemoveStation(std::size_t group, std::string_view token);
-  // Several with one write.
-  FavoriteChange RemoveStations(std::size_t group, const std::vector<std::string>& tokens);
-  // Moves the member at place `from` to place `to`, places counted as in Tokens().
+  FavoriteChange AddStations(std::size_t group, const std::vector<StationKey>& stations);
+  FavoriteChange RemoveStation(std::size_t group, const StationKey& station);
+  // Several with one write. None stands for all that names no station.
+  FavoriteChange RemoveStations(std::size_t group, const std::vector<StationKey>& stations);
+  // Moves the member at place `from` to place `to`, places counted as in Keys().
   FavoriteChange MoveStation(std::size_t group, std::size_t from, std::size_t to);
 
   // A name as it can stand in the file: control characters become blanks, blanks at the ends go.
   static std::string CleanName(std::string_view name);
 
  private:
+  struct Group {
+    std::string name;
+    std::vector<StationKey> keys;
+    // What the file holds of each key, with the blanks in front of it; the first one's line begins with one
+    // blank more. So every byte of a line that nothing was changed in stays.
+    std::vector<std::string> texts;
+    std::string end;  // the blanks behind the last one
+
+    static Group FromLine(std::string_view line);  // name, tab, members
+    std::string Line() const;
+    void Append(const StationKey& station);
+    void Erase(std::size_t place);
+    // One blank behind each member and no other.
+    void Tidy();
+  };
+
   void ReadFile();
   void MakeNamesUnique();
   std::string FileText() const;
@@ -78,12 +95,10 @@ class FavoriteGroups {
   // changed the file.
   FavoriteChange Change(std::size_t group, const std::function<bool(std::size_t)>& edit);
   FavoriteChange Change(const std::function<bool()>& edit);
-  bool Append(std::size_t group, std::string_view token);
-  void AppendToken(std::size_t group, std::string_view token);
 
   UserFile file_;
-  bool owesCopy_ = false;            // the file holds lines that were left out and are not kept beside yet
-  std::vector<std::string> groups_;  // name, tab, members
+  bool owesCopy_ = false;  // the file holds lines that were left out and are not kept beside yet
+  std::vector<Group> groups_;
 };
 
 }  // namespace sonaro

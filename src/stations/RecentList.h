@@ -3,13 +3,12 @@
 #pragma once
 
 #include <functional>
-#include <string>
-#include <string_view>
 #include <utility>
 #include <vector>
 
 #include "base/OwnFiles.h"
 #include "base/UserFile.h"
+#include "stations/StationKey.h"
 
 namespace sonaro {
 
@@ -23,29 +22,26 @@ class RecentList {
 
   explicit RecentList(DataFolder& data) : file_(data, user_file::kRecent) {}
 
-  // Reads the file back; what was in memory is forgotten.
+  // Reads the file back; what was in memory is forgotten. What names no station there is left out.
   void Load();
   // True when a file that could not be read before has been read now.
   bool LoadUnread();
 
-  // Puts a station's token ("1204", "P3") in front, moving it there when it is in the list already, and
-  // saves. A token that the file could not hold (empty, with blanks or control characters) is ignored.
-  void AddRecent(const std::string& token);
+  // Puts a station in front, moving it there when it is in the list already, and saves. None is ignored.
+  void AddRecent(const StationKey& station);
   void SaveRecent();
   // Called after every play that was noted, whoever played.
   void SetChanged(std::function<void()> changed) { changed_ = std::move(changed); }
 
   // Most recent first, at most kSlots.
-  const std::vector<std::string>& Tokens() const { return tokens_; }
-  // The tokens as a text of identifiers, each followed by one blank.
-  std::string AsText() const;
+  const std::vector<StationKey>& Keys() const { return keys_; }
 
  private:
-  void TakeOver(std::vector<std::string> first);
+  void TakeOver(std::vector<StationKey> first);
 
   UserFile file_;
   bool unsaved_ = false;  // memory holds plays that the file does not
-  std::vector<std::string> tokens_;
+  std::vector<StationKey> keys_;
   std::function<void()> changed_;
 };
 

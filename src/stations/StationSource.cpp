@@ -1,8 +1,15 @@
 #include "stations/StationSource.h"
 
+#include <algorithm>
+#include <utility>
+
+#include "base/Numbers.h"
 #include "base/Text.h"
 #include "directory/Scrambling.h"
 #include "directory/StatList.h"
+#include "resources/texts/playback.h"
+#include "settings/Strings.h"
+#include "stations/ExtraLinks.h"
 #include "stations/PersonalStations.h"
 #include "stations/PlayLink.h"
 
@@ -10,50 +17,115 @@ namespace sonaro {
 
 namespace {
 
+constexpr std::int64_t kMaxReliability = 4;
+
 constexpr StationField kScrambled[] = {StationField::LinkOne, StationField::LinkTwo, StationField::LinkThree,
                                        StationField::AlternateLink, StationField::WebSite};
 
-StationField LinkField(int number) {
-  return static_cast<StationField>(static_cast<int>(StationField::LinkOne) + number - 1);
-}
+bool IsBlank(std::string_view text) { return TrimBlanks(text).empty(); }
 
 }  // namespace
 
-StationRecord StationSource::Record(std::int32_t stationId) const {
-  if (stationId == 0) return {};
-  StationRecord record = stations_.FindStation(stationId);
-  for (const StationField field : kScrambled) UnscrambleText(record[field], alphabets_);
-  return record;
+int StationInfo::Symbol() const {
+  return static_cast<int>(std::clamp<std::int64_t>(NumberValue(reliability), 0, kMaxReliability));
+}
+
+StationInfo InfoOf(const StationRecord& record) {
+  return {StationKey::OfGuide(record.StationId), record[StationField::Name],
+          record[StationField::Location],        record[StationField::MediaType],
+          record[StationField::Format],          record[StationField::OverallRating],
+          record[StationField::SoundRating],     record[StationField::SpeedRating],
+          record[StationField::WebSiteRating],   record[StationField::Reliability]};
+}
+
+StationInfo StationSource::InfoOfOwn(const PersonalStation& station) const {
+  return {StationKey::OfUser(station.index),
+          station.name,
+          strings_.Load(IDS_YOUR_STATION),
+          station.type,
+          {},
+          "0",
+          "0",
+          "0",
+          "0",
+          "0"};
+}
+
+Station StationSource::Find(const StationKey& key) const {
+  Station station;
+  if (key.IsOfGuide()) {
+    StationRecord record = stations_.FindStation(key.number);
+    if (record.Empty()) return station;
+    for (const StationField field : kScrambled) UnscrambleText(record[field], alphabets_);
+    static_cast<StationInfo&>(station) = InfoOf(record);
+    station.description = record[StationField::Description];
+    station.bitRate = record[StationField::BitRate];
+    station.links = {record[StationField::LinkOne], record[StationField::LinkTwo],
+                     record[StationField::LinkThree]};
+    station.alternateLink = record[StationField::AlternateLink];
+    station.webSite = record[StationField::WebSite];
+  } else if (const PersonalStation* own = Personal(key)) {
+    static_cast<StationInfo&>(station) = InfoOfOwn(*own);
+    station.description = own->note;
+    station.links = own->links;
+    station.webSite = own->webSite;
+  }
+  return station;
+}
+
+std::vector<StationInfo> StationSource::InfosOf(std::span<const StationKey> keys) const {
+  std::vector<std::int32_t> ids;
+  for (const StationKey& key : keys) {
+    if (key.IsOfGuide()) ids.push_back(key.number);
+  }
+  std::vector<StationInfo> known;
+  known.reserve(ids.size());
+  stations_.VisitStations(ids, [&](const StationRecord& record) { known.push_back(InfoOf(record)); });
+  if (ids.size() == keys.size()) return known;
+  // What the guide knows comes in the order of the keys, unknown ones missing: walk both together.
+  auto next = known.begin();
+  std::vector<StationInfo> infos;
+  for (const StationKey& key : keys) {
+    if (const PersonalStation* own = Personal(key); own && !own->name.empty()) {
+      infos.push_back(InfoOfOwn(*own));
+    } else if (next != known.end() && next->key == key) {
+      infos.push_back(std::move(*next++));
+    }
+  }
+  return infos;
+}
+
+std::vector<StationInfo> StationSource::OwnInfos() const {
+  std::vector<StationInfo> infos;
+  for (const PersonalStation& station : personal_.All()) {
+    if (!station.name.empty()) infos.push_back(InfoOfOwn(station));
+  }
+  return infos;
 }
 
 std::string StationSource::NameOf(const StationKey& key) const {
-  if (key.kind == StationKey::Kind::Directory) return stations_.FindStation(key.number)[StationField::Name];
+  if (key.IsOfGuide()) return stations_.FindStation(key.number)[StationField::Name];
   const PersonalStation* personal = Personal(key);
   return personal ? personal->name : std::string();
 }
 
-std::string StationSource::WebSiteOf(const StationKey& key) const {
-  if (key.kind == StationKey::Kind::Directory) return Record(key.number)[StationField::WebSite];
-  const PersonalStation* personal = Personal(key);
-  return personal ? personal->webSite : std::string();
-}
-
-std::string StationSource::LinkOf(const StationKey& key, int number) const {
-  if (number < 1 || number > 3) return {};
-  if (key.kind == StationKey::Kind::Directory) return Record(key.number)[LinkField(number)];
-  const PersonalStation* personal = Personal(key);
-  return personal ? personal->links[static_cast<std::size_t>(number) - 1] : std::string();
-}
-
-std::string StationSource::FirstLinkOf(const StationKey& key) const {
-  std::string link;
-  for (int number = 1; number <= 3 && link.empty(); ++number) link = LinkOf(key, number);
-  return link;
-}
-
-std::string StationSource::AlternateLinkOf(const StationKey& key) const {
-  if (key.kind != StationKey::Kind::Directory) return {};
-  return Record(key.number)[StationField::AlternateLink];
+std::vector<PlayableLink> PlayableLinks(const Station& station, const ExtraLinks& extra) {
+  std::vector<PlayableLink> playable;
+  for (int number = 1; number <= 3; ++number) {
+    const std::string& own = station.links[static_cast<std::size_t>(number) - 1];
+    const std::string& link = number == 1 && IsBlank(own) ? station.alternateLink : own;
+    if (IsBlank(link)) continue;
+    PlayRequest request{station.key, static_cast<PlayMode>(number)};
+    // Of the user's own stations only the first link has a mode of its own.
+    if (station.key.IsOfUser() && number == 1) request.mode = PlayMode::Personal;
+    if (station.key.IsOfUser() && number > 1) request = {station.key, PlayMode::KeyItself, link};
+    playable.push_back({number, link, {}, std::move(request)});
+  }
+  if (!station.key.IsOfGuide()) return playable;
+  for (const ExtraLink& added : extra.Of(station.key.number)) {
+    playable.push_back({0, added.link, added.name, {station.key, PlayMode::KeyItself, added.link}});
+  }
+  return playable;
 }
 
 LinkCounts StationSource::CountLinks() const {
@@ -76,7 +148,7 @@ LinkCounts StationSource::CountLinks() const {
 }
 
 const PersonalStation* StationSource::Personal(const StationKey& key) const {
-  return key.kind == StationKey::Kind::Personal ? personal_.Find(key.number) : nullptr;
+  return key.IsOfUser() ? personal_.Find(key.number) : nullptr;
 }
 
 }  // namespace sonaro

@@ -1,19 +1,24 @@
-// What a station key stands for: the name, the links and the web site of a directory station or of one of the
-// user's own, in plain text. Owned by Application; changes nothing.
+// What a station key stands for: the facts and links of a station of the guide or of one of the user's own,
+// in plain text. Owned by Application; changes nothing.
 #pragma once
 
+#include <array>
 #include <cstddef>
 #include <cstdint>
+#include <span>
 #include <string>
+#include <vector>
 
-#include "directory/StationRecord.h"
 #include "stations/StationKey.h"
 
 namespace sonaro {
 
+class ExtraLinks;
 class PersonalStations;
 struct PersonalStation;
 class StatList;
+struct StationRecord;
+class Strings;
 struct ScramblingAlphabets;
 
 // Which link is asked for. The numbers are those that are passed around in the program.
@@ -21,9 +26,48 @@ enum class PlayMode : int {
   LinkOne = 1,
   LinkTwo = 2,
   LinkThree = 3,
-  Personal = 10,   // the key is the index of a personal station
-  BeforeTab = 11,  // the link is the part of the key before its first TAB
-  KeyItself = 20   // the key is the link
+  Personal = 10,   // the first link that one of the user's own stations has
+  BeforeTab = 11,  // the part of PlayRequest::link before its first TAB
+  KeyItself = 20   // PlayRequest::link
+};
+
+// What is to be played.
+struct PlayRequest {
+  StationKey station;  // None for a link that belongs to none
+  PlayMode mode = PlayMode::LinkOne;
+  std::string link = {};  // for the last two modes
+  bool operator==(const PlayRequest&) const = default;
+};
+
+// What a list shows of a station. One of the user's own has ratings of "0" and the words for its location.
+struct StationInfo {
+  StationKey key;  // None: there is no such station, and all else is empty
+  std::string name;
+  std::string location;
+  std::string mediaType;
+  std::string format;
+  std::string overall, sound, speed, webSiteRating;  // one digit
+  std::string reliability;
+
+  // The symbol of the reliability, 0 (not known) to 4.
+  int Symbol() const;
+};
+
+// All of a station.
+struct Station : StationInfo {
+  std::string description;
+  std::string bitRate;
+  std::array<std::string, 3> links;
+  std::string alternateLink;  // played when the first link is asked for and missing
+  std::string webSite;        // as it stands, without a scheme put in front
+};
+
+// A link of a station that can be played.
+struct PlayableLink {
+  int number = 0;    // 1 to 3; 0: one that the user added to a station of the guide
+  std::string link;  // link text, see PlayLink
+  std::string name;  // of an added one; may be empty
+  PlayRequest request;
 };
 
 // How many stations of the directory are played by whom, counted by the link that a play of the station
@@ -34,32 +78,39 @@ struct LinkCounts {
   std::size_t webPage = 0;
 };
 
+StationInfo InfoOf(const StationRecord& record);
+
 class StationSource {
  public:
-  StationSource(StatList& stations, const PersonalStations& personal, const ScramblingAlphabets& alphabets)
-      : stations_(stations), personal_(personal), alphabets_(alphabets) {}
+  StationSource(StatList& stations, const PersonalStations& personal, const ScramblingAlphabets& alphabets,
+                const Strings& strings)
+      : stations_(stations), personal_(personal), alphabets_(alphabets), strings_(strings) {}
 
-  // The record of a directory station with its links unscrambled; empty when there is none.
-  StationRecord Record(std::int32_t stationId) const;
+  // With one read of the record. Its key is None when there is no such station.
+  Station Find(const StationKey& key) const;
+  // Those of the keys that there are, in their order, with one opening of the table. One of the user's own
+  // needs a name.
+  std::vector<StationInfo> InfosOf(std::span<const StationKey> keys) const;
+  // The user's own that have a name, in table order.
+  std::vector<StationInfo> OwnInfos() const;
   // "" when the key names nothing.
   std::string NameOf(const StationKey& key) const;
-  // The web site as it stands, without a scheme put in front; "" when there is none.
-  std::string WebSiteOf(const StationKey& key) const;
-  // Link 1 to 3 of the station; "" when it has none.
-  std::string LinkOf(const StationKey& key, int number) const;
-  // The first of them that is not empty.
-  std::string FirstLinkOf(const StationKey& key) const;
-  // The link to play when the one asked for is empty. Personal stations have none.
-  std::string AlternateLinkOf(const StationKey& key) const;
+  std::string WebSiteOf(const StationKey& key) const { return Find(key).webSite; }
   // One pass over the whole table, so not for every day.
   LinkCounts CountLinks() const;
 
  private:
   const PersonalStation* Personal(const StationKey& key) const;
+  StationInfo InfoOfOwn(const PersonalStation& station) const;
 
   StatList& stations_;
   const PersonalStations& personal_;
   const ScramblingAlphabets& alphabets_;
+  const Strings& strings_;
 };
+
+// The links of a station that are not blank: its own in order, the alternate one in the place of a missing
+// first, then those that the user added to it.
+std::vector<PlayableLink> PlayableLinks(const Station& station, const ExtraLinks& extra);
 
 }  // namespace sonaro

@@ -12,7 +12,7 @@ class FakeCommands final : public ScheduleCommands, public UpdateCommands, publi
  public:
   std::vector<std::string> told;  // the tray
 
-  void ScheduleStation(Form&, const std::string&) override {}
+  void ScheduleStation(Form&, const StationKey&) override {}
   void ExplainTimes(Form&) override {}
   std::vector<EventLine> ComingEvents() override { return {}; }
   void NotifyMe(Form&, std::size_t) override {}
@@ -30,7 +30,7 @@ class FakeCommands final : public ScheduleCommands, public UpdateCommands, publi
   void ChoosePlayer(Form&) override {}
   void PlayNoticeSound() override {}
   bool ScanIsAt(int, int) override { return false; }
-  void DropOnScan(const std::string&, int, int) override {}
+  void DropOnScan(const StationKey&, int, int) override {}
 };
 
 }  // namespace sonaro

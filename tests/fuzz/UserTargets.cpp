@@ -153,12 +153,14 @@ void FuzzGroups(std::string_view input) {
   groups.LoadFavoriteGroups();
   if (groups.Count() > 0) {
     const std::size_t last = groups.Count() - 1;
-    Require(groups.AddStation(last, "4711") != FavoriteChange::NotSaved && groups.Contains(last, "4711"),
+    Require(groups.AddStation(last, StationKey::OfGuide(4711)) != FavoriteChange::NotSaved &&
+                groups.Contains(last, StationKey::OfGuide(4711)),
             "added");
-    Require(groups.Move(last, 0) != FavoriteChange::NotSaved && groups.Contains(0, "4711"), "moved");
-    (void)groups.RemoveStation(0, input.substr(0, input.find_first_of(" \t\r\n")));
+    Require(groups.Move(last, 0) != FavoriteChange::NotSaved && groups.Contains(0, StationKey::OfGuide(4711)),
+            "moved");
+    (void)groups.RemoveStation(0, StationKey::FromToken(input.substr(0, input.find_first_of(" \t\r\n"))));
   }
-  (void)groups.Add(input.substr(0, 200), "P1");
+  (void)groups.Add(input.substr(0, 200), StationKey::OfUser(1));
   for (std::size_t group = 0; group < groups.Count(); ++group) {
     Require(!groups.Name(group).empty(), "a group has a name");
     Require(groups.Find(groups.Name(group)) == group, "of its own");
@@ -168,7 +170,7 @@ void FuzzGroups(std::string_view input) {
   Require(again.Count() == groups.Count(), "as many groups");
   for (std::size_t group = 0; group < groups.Count(); ++group) {
     Require(again.Name(group) == groups.Name(group), "the same name");
-    Require(again.Tokens(group) == groups.Tokens(group), "the same members");
+    Require(again.Keys(group) == groups.Keys(group), "the same members");
   }
 }
 

@@ -18,8 +18,8 @@ class FakePrompts : public FavoritePrompts {
   std::string AskNewGroupName() override { return name; }
   std::string AskGroupName(const std::string&) override { return name; }
   void TellTray(const std::string& text) override { told.push_back(text); }
-  void SayDone(int textId, std::string_view token, std::string_view group) override {
-    done.push_back(std::to_string(textId) + " " + std::string(token) + " " + std::string(group));
+  void SayDone(int textId, const StationKey& station, std::string_view group) override {
+    done.push_back(std::to_string(textId) + " " + station.Token() + " " + std::string(group));
   }
 };
 
@@ -97,22 +97,22 @@ TEST_F(FavoriteCommandsTest, DeletingAsksUntilToldNotTo) {
 
 TEST_F(FavoriteCommandsTest, StationsComeGoAndMoveInTheGroupOnShow) {
   listing.ShowFavoriteGroup(0);
-  commands.AddStationToGroup("jazz", "3");
+  commands.AddStationToGroup("jazz", Key("3"));
   EXPECT_EQ(Shown(), "S4 P1 S1 S3 ");
-  commands.AddStationToGroup("jazz", "3");
-  commands.AddStationToGroup("No such group", "3");
-  commands.PlaceStation("77", "4");
-  commands.PlaceStation("77", "77");
-  commands.PlaceStation("3", "unknown");
-  commands.PlaceStation("unknown", "3");
+  commands.AddStationToGroup("jazz", Key("3"));
+  commands.AddStationToGroup("No such group", Key("3"));
+  commands.PlaceStation(Key("77"), Key("4"));
+  commands.PlaceStation(Key("77"), Key("77"));
+  commands.PlaceStation(Key("3"), Key("unknown"));
+  commands.PlaceStation(Key("unknown"), Key("3"));
   EXPECT_EQ(Shown(), "S4 P1 S1 S3 ");
-  commands.RemoveStation("jazz", "P1");
+  commands.RemoveStation("jazz", Key("P1"));
   EXPECT_EQ(File(), "Jazz\t77 4 1 3 \r\nEmpty\t\r\nRock\t2\r\n");
   listing.ShowRecent();
-  commands.RemoveStation("No such group", "3");
-  commands.PlaceStation("3", "1");
+  commands.RemoveStation("No such group", Key("3"));
+  commands.PlaceStation(Key("3"), Key("1"));
   EXPECT_EQ(Shown(), "S3 P1 S1 ") << "no group is on show";
-  commands.AddStationToGroup("ROCK", "P1");
+  commands.AddStationToGroup("ROCK", Key("P1"));
   EXPECT_TRUE(File().ends_with("Rock\t2 P1 \r\n"));
   EXPECT_TRUE(prompts.box.asked.empty());
   EXPECT_EQ(prompts.done, (std::vector<std::string>{
@@ -122,16 +122,16 @@ TEST_F(FavoriteCommandsTest, StationsComeGoAndMoveInTheGroupOnShow) {
 
 TEST_F(FavoriteCommandsTest, TheFirstStationMakesItsGroup) {
   groups.Remove(2);
-  commands.AddStationToGroupOrNew(" First\t", "3");
+  commands.AddStationToGroupOrNew(" First\t", Key("3"));
   EXPECT_TRUE(File().ends_with("First\t3 \r\n")) << File();
   EXPECT_EQ(prompts.told, std::vector<std::string>{"AddNewFavGroup\tFirst"});
   EXPECT_EQ(prompts.done, std::vector<std::string>{Done(IDS_GROUP_ADDED_TO, "3 First")});
-  commands.AddStationToGroupOrNew("FIRST", "1");
+  commands.AddStationToGroupOrNew("FIRST", Key("1"));
   EXPECT_TRUE(File().ends_with("First\t3 1 \r\n")) << "a name that is there means that group";
-  commands.AddStationToGroupOrNew(" ", "1");
+  commands.AddStationToGroupOrNew(" ", Key("1"));
   while (groups.Count() < FavoriteGroups::kSlots) groups.Add("G" + std::to_string(groups.Count()));
   const std::string full = File();
-  commands.AddStationToGroupOrNew("Eleven", "1");
+  commands.AddStationToGroupOrNew("Eleven", Key("1"));
   EXPECT_EQ(LastKey(), "AlreadyHave10FavoriteGroups");
   EXPECT_EQ(File(), full);
 }
@@ -171,10 +171,10 @@ TEST_F(FavoriteCommandsTest, MissingMembersAreTakenOutWhenTheUserSaysSo) {
 
 TEST_F(FavoriteCommandsTest, AChangeThatCannotBeWrittenIsSaid) {
   files.SetSpaceLeft(0);
-  commands.AddStationToGroup("Rock", "1");
+  commands.AddStationToGroup("Rock", Key("1"));
   EXPECT_EQ(prompts.box.asked.size(), 1U);
   EXPECT_TRUE(prompts.done.empty());
-  EXPECT_FALSE(groups.Contains(2, "1"));
+  EXPECT_FALSE(groups.Contains(2, Key("1")));
   EXPECT_TRUE(File().ends_with("Rock\t2\r\n"));
 }
 

@@ -27,7 +27,7 @@ class Models : public StationModels {
   // The keys of the rows as shown, each followed by a blank.
   std::string Shown() const {
     std::string keys;
-    for (const std::string& key : listing.Rows().Keys()) keys += key + " ";
+    for (const StationKey& key : listing.Rows().Keys()) keys += (key ? key.RowKey() : "X") + " ";
     return keys;
   }
   const BrowseNode& NodeWithKey(std::string_view key) const { return tree.Node(tree.Find(key)); }
@@ -37,7 +37,7 @@ class Models : public StationModels {
   MarkedStrings strings;
   BrowseTree tree{data};
   Rankings rankings{data};
-  StationListFiller lists{stations, personal, recent, strings};
+  StationListFiller lists{stations, source, recent, strings};
   StationListState listing{lists, rankings, groups, tree, strings, FoldCase};
 };
 

@@ -17,10 +17,7 @@ namespace {
 
 class StationActionsTest : public Models {
  protected:
-  StationDetailBuilder Detail() const {
-    const StationRow* row = listing.Rows().SelectedRow();
-    return details.Of(row ? StationKey::FromRowKey(row->key) : StationKey());
-  }
+  StationDetailBuilder Detail() const { return details.Of(listing.Rows().SelectedKey()); }
   const MenuEntry& Entry(int command) {
     menu = actions.ActionMenu(Detail());
     const MenuEntry* entry = FindEntry(menu, command);
@@ -33,8 +30,7 @@ class StationActionsTest : public Models {
 
   AppState state;
   ExtraLinks extra{data};
-  StationSource source{stations, personal, BuiltInAlphabets()};
-  StationDetails details{source, personal, extra, strings, state};
+  StationDetails details{source, extra, strings, state};
   StationActions actions{listing, groups, strings};
   MenuEntries menu;
 };
@@ -153,23 +149,23 @@ TEST_F(StationActionsTest, RatingsShowHalfTheDigit) {
 }
 
 TEST_F(StationActionsTest, DetailsOfAStationAndOfOnesOwn) {
-  const StationDetailBuilder one = details.Of(StationKey::FromRowKey("S1"));
+  const StationDetailBuilder one = details.Of(Key("1"));
   EXPECT_EQ(one.name, "Acid Jazz");
   EXPECT_EQ(one.playButtons[0].caption, Text(IDS_PLAY_MEDIA, "MP3", "{1}"));
   EXPECT_EQ(one.playButtons[0].bitRate, Text(IDS_PLAY_BIT_RATE, "128", "{1}"));
-  EXPECT_EQ(one.playButtons[1].request.key, "1");
+  EXPECT_EQ(one.playButtons[1].request.station, Key("1"));
   EXPECT_EQ(one.playButtons[1].request.mode, PlayMode::LinkTwo);
   EXPECT_EQ((std::array<int, 4>{one.ratings[0].halves, one.ratings[1].halves, one.ratings[2].halves,
                                 one.ratings[3].halves}),
             (std::array<int, 4>{9, 5, 1, 0}))
       << "overall, sound, speed, web site";
 
-  const StationDetailBuilder own = details.Of(StationKey::FromRowKey("P1"));
+  const StationDetailBuilder own = details.Of(Key("P1"));
   EXPECT_EQ(own.playButtons[0].request.mode, PlayMode::Personal);
-  EXPECT_EQ(own.playButtons[0].request.key, "1");
+  EXPECT_EQ(own.playButtons[0].request.station, Key("P1"));
   EXPECT_EQ(own.firstLink, "http://garage.example/");
-  EXPECT_FALSE(details.Of(StationKey::FromRowKey("P9")).station) << "deleted meanwhile";
-  EXPECT_FALSE(details.Of(StationKey::FromRowKey("X")).station);
+  EXPECT_FALSE(details.Of(Key("P9")).station) << "deleted meanwhile";
+  EXPECT_FALSE(details.Of(StationKey()).station);
 }
 
 }  // namespace

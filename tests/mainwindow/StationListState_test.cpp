@@ -23,13 +23,13 @@ TEST_F(StationListingTest, AListOfIdentifiersKeepsItsOrderAndLeavesOutTheUnknown
   for (const Case& c : cases) {
     lists.FillListFromIds(c.ids, rows);
     std::string keys;
-    for (std::size_t i = 0; i < rows.Count(); ++i) keys += rows.At(i).key;
+    for (std::size_t i = 0; i < rows.Count(); ++i) keys += rows.At(i).key.RowKey();
     EXPECT_EQ(keys, c.keys) << c.ids;
     EXPECT_EQ(rows.Selected().has_value(), rows.Count() > 0);
   }
   lists.FillListFromIds("1 ", rows);
   EXPECT_EQ(rows.Cell(0, 3), "Jazz");
-  EXPECT_EQ(rows.At(0).icon, 11);
+  EXPECT_EQ(rows.At(0).Symbol(), 4);
 }
 
 TEST_F(StationListingTest, EachRankingSetsModeAndCaption) {
@@ -113,14 +113,14 @@ TEST_F(StationListingTest, ANodeFillsTheListAndLeavesTheTreeOnShow) {
 TEST_F(StationListingTest, ASearchThatFindsNothingSaysSo) {
   listing.ShowSearch("rock JAZZ", true);
   EXPECT_EQ(Shown(), "S4 ");
-  EXPECT_EQ(listing.LastSearchIds(), "4 ");
+  EXPECT_EQ(listing.LastFound(), KeysOf("4"));
   listing.ShowSearch("rock blues", false);
-  EXPECT_EQ(listing.LastSearchIds(), "2 3 4 ");
+  EXPECT_EQ(listing.LastFound(), KeysOf("2 3 4"));
   listing.ShowSearch("polka", true);
   EXPECT_EQ(Shown(), "X ");
-  EXPECT_EQ(listing.LastSearchIds(), "");
+  EXPECT_TRUE(listing.LastFound().empty());
   EXPECT_EQ(listing.Rows().SelectedRow(), nullptr);
-  EXPECT_EQ(listing.Rows().At(0).text, Caption(IDS_LISTING_NO_STATIONS));
+  EXPECT_EQ(listing.Rows().At(0).name, Caption(IDS_LISTING_NO_STATIONS));
   EXPECT_EQ(listing.State().listingMode, "LastSearch");
 }
 
@@ -131,35 +131,37 @@ TEST_F(StationListingTest, ARefillKeepsTheSelectedStation) {
   listing.GroupsChanged();
   EXPECT_EQ(Shown(), "S1 S4 P1 ");
   EXPECT_EQ(listing.Rows().Selected(), 0U);
-  groups.Add("Many", "1");
-  groups.AddStations(3, {"2", "77", "3", "4"});
+  groups.Add("Many", Key("1"));
+  groups.AddStations(3, KeysOf("2 77 3 4"));
   listing.ShowFavoriteGroup(3);
   listing.Rows().Select(1);
   for (const char* next : {"S3", "S4", "S1"}) {  // the last one gone: the last
-    groups.RemoveStation(3, listing.Rows().SelectedRow()->Token());
+    groups.RemoveStation(3, listing.Rows().SelectedKey());
     listing.GroupsChanged();
-    EXPECT_EQ(listing.Rows().SelectedRow()->key, next);
+    EXPECT_EQ(listing.Rows().SelectedKey().RowKey(), next);
   }
   listing.treeBrowse_NodeClick(BrowseNode{"E1", "Jazz", "1 2"});
   listing.treeBrowse_NodeClick(BrowseNode{"E9", "Other", "3 2"});
-  EXPECT_EQ(listing.Rows().SelectedRow()->key, "S3") << "another list begins at its first row";
+  EXPECT_EQ(listing.Rows().SelectedKey(), Key("3")) << "another list begins at its first row";
 }
 
 TEST_F(StationListingTest, WhatTheGuideDoesNotKnowIsLeftOutAndCounted) {
   listing.ShowFavoriteGroup(0);
   EXPECT_EQ(Shown(), "S4 P1 S1 ");
-  EXPECT_EQ(listing.State().missing, std::vector<std::string>{"77"});
+  EXPECT_EQ(listing.State().missing, KeysOf("77"));
   personal.Delete(1);
   listing.StationsChanged();
-  EXPECT_EQ(listing.State().missing, (std::vector<std::string>{"77", "P1"}));
-  EXPECT_EQ(groups.Members(0), "4 77 P1 1") << "they stay";
+  EXPECT_EQ(listing.State().missing, KeysOf("77 P1"));
+  EXPECT_EQ(groups.Keys(0), KeysOf("4 77 P1 1")) << "they stay";
   listing.ShowSearch("rock", true);
   EXPECT_TRUE(listing.State().missing.empty());
 
   DataFolder elsewhere(files, "/none", '/');
   StatList none(elsewhere);
   StationRows rows;
-  EXPECT_TRUE(StationListFiller(none, personal, recent, strings).FillListFromGroup("4 77", rows).empty())
+  StationSource nowhere(none, personal, BuiltInAlphabets(), strings);
+  EXPECT_TRUE(
+      StationListFiller(none, nowhere, recent, strings).FillListFromGroup(KeysOf("4 77"), rows).empty())
       << "a guide that cannot be read says nothing about them";
 }
 

@@ -5,48 +5,38 @@
 #include <random>
 
 #include "base/Text.h"
+#include "directory/StationRecord.h"
 #include "fakes/FakeSystemInfo.h"
 
 namespace sonaro {
 namespace {
 
-StationRow Row(int id, std::string name, std::string location = "", std::string overall = "") {
-  StationRecord record;
-  record.StationId = id;
-  record[StationField::Name] = std::move(name);
-  record[StationField::Location] = std::move(location);
-  record[StationField::OverallRating] = std::move(overall);
-  return RowOfStation(record);
+StationInfo Row(int id, std::string name, std::string location = "", std::string overall = "") {
+  StationInfo row;
+  row.key = StationKey::OfGuide(id);
+  row.name = std::move(name);
+  row.location = std::move(location);
+  row.overall = std::move(overall);
+  return row;
 }
 
 std::string Shown(const StationRows& rows) {
   std::string keys;
-  for (std::size_t i = 0; i < rows.Count(); ++i) keys += rows.At(i).key + " ";
+  for (std::size_t i = 0; i < rows.Count(); ++i) keys += rows.At(i).key.RowKey() + " ";
   return keys;
 }
 
-TEST(StationRow, TakesItsSubItemsOutOfTheRecordInTheirOwnOrder) {
+TEST(StationRows, SubItemsComeOutOfTheRecordInTheirOwnOrder) {
   StationRecord record;
   record.StationId = -7;
   for (int field = 1; field <= 16; ++field) record[static_cast<StationField>(field)] = std::to_string(field);
   record[StationField::Reliability] = "3";
-  const StationRow row = RowOfStation(record);
-  EXPECT_EQ(row.key, "S-7");
-  EXPECT_EQ(row.text, "1");
-  // Location, media type, format, then overall, sound, speed, web site, reliability: sound before speed.
-  const std::array<std::string, 8> expected{"3", "2", "4", "12", "14", "13", "15", "3"};
-  EXPECT_EQ(row.subItems, expected);
-  EXPECT_EQ(row.icon, 10);
-  EXPECT_EQ(row.Token(), "-7");
-}
-
-TEST(StationRow, APersonalStationSaysSoAndHasNoRatings) {
-  const StationRow row = RowOfPersonalStation(3, "Garage", "MP3");
-  const std::array<std::string, 8> expected{"Your Station", "MP3", "", "0", "0", "0", "0", "0"};
-  EXPECT_EQ(row.subItems, expected);
-  EXPECT_EQ(row.key, "P3");
-  EXPECT_EQ(row.Token(), "P3");
-  EXPECT_EQ(row.icon, 7);
+  const StationInfo row = InfoOf(record);
+  EXPECT_EQ(row.key.RowKey(), "S-7");
+  // Name, location, media type, format, overall, sound, speed, web site, reliability: sound before speed.
+  const char* const expected[] = {"1", "3", "2", "4", "12", "14", "13", "15", "3"};
+  for (int item = 0; item <= kSubItems; ++item) EXPECT_EQ(CellOf(row, item), expected[item]) << item;
+  EXPECT_EQ(row.Symbol(), 3);
 }
 
 TEST(StationRows, KeepTheOrderOfTheFillUntilTheyAreSorted) {
@@ -56,10 +46,10 @@ TEST(StationRows, KeepTheOrderOfTheFillUntilTheyAreSorted) {
   EXPECT_EQ(rows.Selected(), 0U);
   rows.SortBy(0, SortOrder::Ascending);
   EXPECT_EQ(Shown(rows), "S2 S3 S1 ");
-  EXPECT_EQ(rows.SelectedRow()->key, "S3") << "the selected station stays selected";
+  EXPECT_EQ(rows.SelectedKey(), StationKey::OfGuide(3)) << "the selected station stays selected";
   rows.Fill({Row(9, "z"), Row(8, "Y")});
   EXPECT_EQ(Shown(rows), "S8 S9 ") << "a sort chosen earlier stays in force";
-  EXPECT_EQ(rows.SelectedRow()->key, "S8") << "the first row as shown";
+  EXPECT_EQ(rows.SelectedKey(), StationKey::OfGuide(8)) << "the first row as shown";
 }
 
 TEST(StationRows, EqualTextsKeepTheOrderOfTheFillInBothOrders) {
@@ -94,15 +84,15 @@ TEST(StationRows, SortFollowsTheLanguageAndAsksOnceForEachRow) {
 
 TEST(StationRows, SortAgreesWithAPlainSortOfFoldedTexts) {
   std::mt19937 random(7);
-  std::vector<StationRow> filled;
+  std::vector<StationInfo> filled;
   for (int id = 1; id <= 3000; ++id) {
     std::string name;
     for (auto length = random() % 14; length > 0; --length) name += "aAbB\xC3\xA9 "[random() % 7];
     filled.push_back(Row(id, name));
   }
   auto expected = filled;
-  std::stable_sort(expected.begin(), expected.end(), [](const StationRow& a, const StationRow& b) {
-    return FoldCase(a.text) > FoldCase(b.text);
+  std::stable_sort(expected.begin(), expected.end(), [](const StationInfo& a, const StationInfo& b) {
+    return FoldCase(a.name) > FoldCase(b.name);
   });
   StationRows rows;
   rows.SortBy(0, SortOrder::Descending);
@@ -118,7 +108,6 @@ TEST(StationRows, ARowThatIsNoStationIsNeitherSelectedNorCounted) {
   EXPECT_EQ(rows.Selected(), std::nullopt);
   rows.Select(0);
   EXPECT_EQ(rows.SelectedRow(), nullptr);
-  EXPECT_TRUE(rows.Tokens().empty());
   rows.Clear();
   EXPECT_EQ(rows.Selected(), std::nullopt);
 }
@@ -126,8 +115,8 @@ TEST(StationRows, ARowThatIsNoStationIsNeitherSelectedNorCounted) {
 TEST(StationRows, FindsRowsByKeyAndByTheStartOfTheirName) {
   StationRows rows;
   rows.Fill({Row(1, "Alpha"), Row(2, "beta"), Row(3, "Alphabet")});
-  EXPECT_EQ(rows.Find("S2"), 1U);
-  EXPECT_EQ(rows.Find("S22"), std::nullopt);
+  EXPECT_EQ(rows.Find(StationKey::OfGuide(2)), 1U);
+  EXPECT_EQ(rows.Find(StationKey::OfGuide(22)), std::nullopt);
   EXPECT_EQ(rows.FindByName("alPHA", 1), 2U);
   EXPECT_EQ(rows.FindByName("BETA", 2), 1U) << "wraps round";
   EXPECT_EQ(rows.FindByName("gamma", 0), std::nullopt);

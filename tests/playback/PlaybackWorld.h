@@ -59,10 +59,10 @@ struct PlaybackWorld {
   FakeStrings strings;
   StatList stations{data};
   PersonalStations personal{data};
-  StationSource source{stations, personal, BuiltInAlphabets()};
+  StationSource source{stations, personal, BuiltInAlphabets(), strings};
   RecentList recent{data};
   Players players{reg, data, shell};
-  WebPages pages{source, data, shell, strings};
+  WebPages pages{data, shell, strings};
   PlayerLaunch launch{source, recent, players, pages, strings};
   std::string list;  // "\station.snr"
 };

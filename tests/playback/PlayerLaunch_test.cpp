@@ -8,6 +8,9 @@
 namespace sonaro {
 namespace {
 
+PlayRequest Link(std::string link) { return {{}, PlayMode::KeyItself, std::move(link)}; }
+PlayRequest OfStation(std::string_view token, PlayMode mode) { return {StationKey::FromToken(token), mode}; }
+
 class FakeLaunchView : public LaunchView {
  public:
   int noPlayerPages = 0;
@@ -45,6 +48,11 @@ class PlayerLaunchTest : public testing::Test, protected PlaybackWorld {
     return shell.opened.empty() ? "(none)"
                                 : shell.opened.back().program + "|" + shell.opened.back().parameters;
   }
+  std::string RecentText() const {
+    std::string text;
+    for (const StationKey& key : recent.Keys()) text += key.Token() + " ";
+    return text;
+  }
   std::string Browsed() { return shell.runMinimised.empty() ? "(none)" : shell.runMinimised.back(); }
   void ClearShell() {
     shell.opened.clear();
@@ -71,13 +79,13 @@ TEST_F(PlayerLaunchTest, LinkPrefixDecides) {
   };
   for (const auto& c : kCases) {
     ClearShell();
-    launch.LaunchStation(c.link, PlayMode::KeyItself);
+    launch.LaunchStation(Link(c.link));
     EXPECT_EQ(Played(), c.played) << c.link;
     EXPECT_EQ(Browsed(), c.browsed) << c.link;
     EXPECT_TRUE(view_.sentences.empty());
     for (const Opened& opened : shell.opened) EXPECT_EQ(opened.folder, "/d");
   }
-  EXPECT_TRUE(recent.Tokens().empty());
+  EXPECT_TRUE(recent.Keys().empty());
 }
 
 TEST_F(PlayerLaunchTest, ModesChooseTheLinkAndRecord) {
@@ -88,25 +96,24 @@ TEST_F(PlayerLaunchTest, ModesChooseTheLinkAndRecord) {
   own.links = {"", "m5://x", ""};
   personal.Add(own);
   const struct {
-    const char* key;
-    PlayMode mode;
+    PlayRequest request;
     const char* link;
     const char* recent;
   } kCases[] = {
-      {"12", PlayMode::LinkOne, "1://x", "12 "},
-      {"12", PlayMode::LinkTwo, "2://x", "12 "},
-      {"12", PlayMode::LinkThree, "3://x", "12 "},
-      {"-5", PlayMode::LinkOne, "4://x", "-5 12 "},
-      {"1", PlayMode::Personal, "5://x", "P1 -5 12 "},
-      {"P1", PlayMode::LinkTwo, "5://x", "P1 -5 12 "},
-      {"m6://x\tm7://x", PlayMode::BeforeTab, "6://x", "P1 -5 12 "},
-      {"m8://x", PlayMode::KeyItself, "8://x", "P1 -5 12 "},
+      {OfStation("12", PlayMode::LinkOne), "1://x", "12 "},
+      {OfStation("12", PlayMode::LinkTwo), "2://x", "12 "},
+      {OfStation("12", PlayMode::LinkThree), "3://x", "12 "},
+      {OfStation("-5", PlayMode::LinkOne), "4://x", "-5 12 "},
+      {OfStation("P1", PlayMode::Personal), "5://x", "P1 -5 12 "},
+      {OfStation("P1", PlayMode::LinkTwo), "5://x", "P1 -5 12 "},
+      {{{}, PlayMode::BeforeTab, "m6://x\tm7://x"}, "6://x", "P1 -5 12 "},
+      {Link("m8://x"), "8://x", "P1 -5 12 "},
   };
   for (const auto& c : kCases) {
     ClearShell();
-    launch.LaunchStation(c.key, c.mode);
+    launch.LaunchStation(c.request);
     EXPECT_EQ(Played(), std::string("c:\\media\\player.exe|") + c.link);
-    EXPECT_EQ(recent.AsText(), c.recent);
+    EXPECT_EQ(RecentText(), c.recent);
   }
 }
 
@@ -120,33 +127,35 @@ TEST_F(PlayerLaunchTest, WithoutALinkTheAlternateOneOrTheWebSite) {
   own.webSite = "https://own.example/";
   personal.Add(own);  // has the number of a directory station as its index
   const struct {
-    const char* key;
-    PlayMode mode;
+    PlayRequest request;
     const char* played;
     const char* browsed;
     LaunchOutcome outcome;
   } kCases[] = {
-      {"1", PlayMode::LinkOne, "c:\\media\\player.exe|alt://x", "(none)", LaunchOutcome::Started},
-      {"1", PlayMode::LinkTwo, "c:\\media\\player.exe|2://x", "(none)", LaunchOutcome::Started},
-      {"2", PlayMode::LinkOne, "(none)", "/d/lweb.exe http://www.site.example", LaunchOutcome::WebPage},
-      {"3", PlayMode::LinkThree, "(none)", "/d/lweb.exe https://page.example/", LaunchOutcome::WebPage},
-      {"4", PlayMode::LinkOne, "(none)", "(none)", LaunchOutcome::NoLink},
-      {"99", PlayMode::LinkOne, "(none)", "(none)", LaunchOutcome::NoLink},
-      {"X", PlayMode::LinkOne, "(none)", "(none)", LaunchOutcome::NoLink},
-      {"1", PlayMode::Personal, "(none)", "/d/lweb.exe https://own.example/", LaunchOutcome::WebPage},
-      {"7", PlayMode::Personal, "(none)", "(none)", LaunchOutcome::NoLink},
-      {"\tm1://x", PlayMode::BeforeTab, "(none)", "(none)", LaunchOutcome::NoLink},
-      {"", PlayMode::KeyItself, "(none)", "(none)", LaunchOutcome::NoLink},
-      {"m", PlayMode::KeyItself, "(none)", "(none)", LaunchOutcome::NoLink},
-      {"w", PlayMode::KeyItself, "(none)", "(none)", LaunchOutcome::NoLink},
+      {OfStation("1", PlayMode::LinkOne), "c:\\media\\player.exe|alt://x", "(none)", LaunchOutcome::Started},
+      {OfStation("1", PlayMode::LinkTwo), "c:\\media\\player.exe|2://x", "(none)", LaunchOutcome::Started},
+      {OfStation("2", PlayMode::LinkOne), "(none)", "/d/lweb.exe http://www.site.example",
+       LaunchOutcome::WebPage},
+      {OfStation("3", PlayMode::LinkThree), "(none)", "/d/lweb.exe https://page.example/",
+       LaunchOutcome::WebPage},
+      {OfStation("4", PlayMode::LinkOne), "(none)", "(none)", LaunchOutcome::NoLink},
+      {OfStation("99", PlayMode::LinkOne), "(none)", "(none)", LaunchOutcome::NoLink},
+      {OfStation("X", PlayMode::LinkOne), "(none)", "(none)", LaunchOutcome::NoLink},
+      {OfStation("P1", PlayMode::Personal), "(none)", "/d/lweb.exe https://own.example/",
+       LaunchOutcome::WebPage},
+      {OfStation("P7", PlayMode::Personal), "(none)", "(none)", LaunchOutcome::NoLink},
+      {{{}, PlayMode::BeforeTab, "\tm1://x"}, "(none)", "(none)", LaunchOutcome::NoLink},
+      {Link(""), "(none)", "(none)", LaunchOutcome::NoLink},
+      {Link("m"), "(none)", "(none)", LaunchOutcome::NoLink},
+      {Link("w"), "(none)", "(none)", LaunchOutcome::NoLink},
   };
   for (const auto& c : kCases) {
     ClearShell();
-    EXPECT_EQ(launch.TryLaunch(c.key, c.mode), c.outcome) << c.key;
-    EXPECT_EQ(Played(), c.played) << c.key;
-    EXPECT_EQ(Browsed(), c.browsed) << c.key;
+    EXPECT_EQ(launch.TryLaunch(c.request), c.outcome) << c.request.station.Token() << c.request.link;
+    EXPECT_EQ(Played(), c.played) << c.request.station.Token() << c.request.link;
+    EXPECT_EQ(Browsed(), c.browsed) << c.request.station.Token() << c.request.link;
   }
-  EXPECT_EQ(recent.AsText(), "P7 P1 99 4 3 2 1 ");
+  EXPECT_EQ(RecentText(), "P7 P1 99 4 3 2 1 ");
 }
 
 TEST_F(PlayerLaunchTest, HostileLinksReachNoProgram) {
@@ -155,7 +164,7 @@ TEST_F(PlayerLaunchTest, HostileLinksReachNoProgram) {
                            "m%TEMP%", "-x", "/x", "http://a\" \"b", "mhttp://a /delete", "m \r\nx",
                            "wfile:///etc/passwd", "whttp://a.example/ -x", "wjavascript:alert(1)"}) {
     ClearShell();
-    launch.LaunchStation(link, PlayMode::KeyItself);
+    launch.LaunchStation(Link(link));
     EXPECT_EQ(Played(), "(none)") << link;
     EXPECT_EQ(Browsed(), "(none)") << link;
     const int refused = link[0] == 'w' ? IDS_WHYNOT_REFUSED_PAGE : IDS_WHYNOT_REFUSED_LINK;
@@ -164,30 +173,30 @@ TEST_F(PlayerLaunchTest, HostileLinksReachNoProgram) {
 }
 
 TEST_F(PlayerLaunchTest, NoPlayerPageOpensOnce) {
-  view_.whileShown = [this] { launch.LaunchStation("http://b/", PlayMode::KeyItself); };
-  launch.LaunchStation("http://a/", PlayMode::KeyItself);
+  view_.whileShown = [this] { launch.LaunchStation(Link("http://b/")); };
+  launch.LaunchStation(Link("http://a/"));
   EXPECT_EQ(view_.noPlayerPages, 1);
   EXPECT_TRUE(view_.sentences.empty());
   view_.whileShown = nullptr;
-  launch.LaunchStation("http://a/", PlayMode::KeyItself);
+  launch.LaunchStation(Link("http://a/"));
   EXPECT_EQ(view_.noPlayerPages, 2);
   EXPECT_TRUE(shell.opened.empty());
 
   // A program for .ram files that is something else is no player either.
   shell.programs[".ram"] = "c:\\tools\\notepad.exe";
   files.Put("c:\\tools\\notepad.exe", "");
-  EXPECT_EQ(launch.TryLaunch("http://a/", PlayMode::KeyItself), LaunchOutcome::NoPlayer);
+  EXPECT_EQ(launch.TryLaunch(Link("http://a/")), LaunchOutcome::NoPlayer);
   EXPECT_EQ(view_.noPlayerPages, 2);
 }
 
 TEST_F(PlayerLaunchTest, FailuresThatTheUserIsTold) {
   shell.programs.clear();
-  launch.LaunchStation("mhttp://a/", PlayMode::KeyItself);
+  launch.LaunchStation(Link("mhttp://a/"));
   shell.programs[".asx"] = "p.exe";
   shell.startsFail = true;
-  launch.LaunchStation("mhttp://a/", PlayMode::KeyItself);
+  launch.LaunchStation(Link("mhttp://a/"));
   EXPECT_EQ(view_.offers, 2);
-  launch.LaunchStation("whttp://a/", PlayMode::KeyItself);
+  launch.LaunchStation(Link("whttp://a/"));
   EXPECT_EQ(view_.offers, 2) << "another player would not open the page";
   EXPECT_EQ(view_.sentences, (std::vector<std::string>{std::to_string(IDS_WHYNOT_NO_ASX_PROGRAM),
                                                        std::to_string(IDS_WHYNOT_NOT_STARTED),
@@ -198,10 +207,10 @@ TEST_F(PlayerLaunchTest, AChosenPlayerGetsEveryStreamAndNoPage) {
   InstallRealPlayer();
   reg.SetSetting("PlayWith", "C:\\My Music\\Any.exe");
   for (const char* link : {"mhttp://a/s", "http://a/s"}) {
-    launch.LaunchStation(link, PlayMode::KeyItself);
+    launch.LaunchStation(Link(link));
     EXPECT_EQ(shell.opened.back(), (Opened{"C:\\My Music\\Any.exe", "http://a/s", "/d"}));
   }
-  launch.LaunchStation("whttp://a/", PlayMode::KeyItself);
+  launch.LaunchStation(Link("whttp://a/"));
   EXPECT_EQ(shell.opened.size(), 2u);
   EXPECT_EQ(Browsed(), "/d/lweb.exe http://a/");
 }
@@ -212,7 +221,7 @@ TEST_F(PlayerLaunchTest, WhatDidNotPlayPlaysWithThePlayerChosenThereupon) {
   for (const char* link : {"mhttp://a/s", "http://a/s"}) {
     reg.SetSetting("PlayWith", "");
     view_.choose = [this] { reg.SetSetting("PlayWith", "C:\\any.exe"); };
-    launch.LaunchStation(link, PlayMode::KeyItself);
+    launch.LaunchStation(Link(link));
     EXPECT_EQ(Played(), "C:\\any.exe|http://a/s");
     ClearShell();
   }
@@ -243,19 +252,16 @@ TEST_F(PlayerLaunchTest, FindRealPlayer) {
   EXPECT_EQ(reg.MainKey(), RootKey::LocalMachine);
 }
 
-TEST_F(PlayerLaunchTest, WebPagesByAddressAndByStation) {
-  AddStation(12, "Jazz", {}, "", "www.jazz.example/x");
-  AddStation(13, "Http", {}, "", "HTTP://www.jazz.example");
+TEST_F(PlayerLaunchTest, WebPagesOpenWithOrWithoutTheirScheme) {
   const struct {
     const char* text;
     WebPageOutcome outcome;
     const char* browsed;
   } kCases[] = {
       {"http://a.example/?q=1", WebPageOutcome::Opened, "/d/lweb.exe http://a.example/?q=1"},
-      {"12", WebPageOutcome::Opened, "/d/lweb.exe http://www.jazz.example/x"},
-      {"13", WebPageOutcome::Opened, "/d/lweb.exe HTTP://www.jazz.example"},
-      {"99", WebPageOutcome::NoAddress, "(none)"},
-      {"P4", WebPageOutcome::NoAddress, "(none)"},
+      {"www.jazz.example/x", WebPageOutcome::Opened, "/d/lweb.exe http://www.jazz.example/x"},
+      {" HTTP://www.jazz.example", WebPageOutcome::Opened, "/d/lweb.exe HTTP://www.jazz.example"},
+      {" ", WebPageOutcome::NoAddress, "(none)"},
       {"", WebPageOutcome::NoAddress, "(none)"},
       {"http://", WebPageOutcome::Refused, "(none)"},
   };
@@ -266,11 +272,11 @@ TEST_F(PlayerLaunchTest, WebPagesByAddressAndByStation) {
   }
   std::vector<std::string> said;
   pages.SetShowErrorText([&](const std::string& sentence) { said.push_back(sentence); });
-  pages.OpenWebPage("12");
-  pages.OpenWebPage("99");
+  pages.OpenWebPage("www.jazz.example");
+  pages.OpenWebPage("");
   pages.OpenWebPage("http://");
   shell.startsFail = true;
-  pages.OpenWebPage("12");
+  pages.OpenWebPage("www.jazz.example");
   EXPECT_EQ(said, (std::vector<std::string>{std::to_string(IDS_WHYNOT_NO_PAGE),
                                             std::to_string(IDS_WHYNOT_REFUSED_PAGE),
                                             std::to_string(IDS_WHYNOT_PAGE_NOT_STARTED)}));
@@ -280,23 +286,41 @@ TEST(WebPagesFolder, AFolderWithBlanksIsQuoted) {
   PlaybackWorld world;
   world.files.MakeFolder("/Program Files/S");
   DataFolder data(world.files, "/Program Files/S", '/');
-  WebPages pages(world.source, data, world.shell, world.strings);
+  WebPages pages(data, world.shell, world.strings);
   pages.RunBrowser("http://a.example/");
   EXPECT_EQ(world.shell.runMinimised,
             std::vector<std::string>{"\"/Program Files/S/lweb.exe\" http://a.example/"});
 }
 
 TEST_F(PlayerLaunchTest, AfterLaunchHearsOfPlaysOnly) {
-  std::vector<std::string> heard;
-  launch.SetAfterLaunch([&](const std::string& key, PlayMode mode) {
-    heard.push_back(key + "/" + std::to_string(static_cast<int>(mode)));
-  });
+  std::vector<PlayRequest> heard;
+  launch.SetAfterLaunch([&](const PlayRequest& request) { heard.push_back(request); });
   AddStation(12, "Jazz", {"m1://x", "whttp://a.example"});
-  launch.LaunchStation("12", PlayMode::LinkOne);
-  launch.LaunchStation("12", PlayMode::LinkTwo);
-  launch.LaunchStation("mhttp://b", PlayMode::KeyItself);
-  launch.LaunchStation("m-b", PlayMode::KeyItself);
-  EXPECT_EQ(heard, (std::vector<std::string>{"12/1", "mhttp://b/20"}));
+  launch.LaunchStation(OfStation("12", PlayMode::LinkOne));
+  launch.LaunchStation(OfStation("12", PlayMode::LinkTwo));
+  launch.LaunchStation(Link("mhttp://b"));
+  launch.LaunchStation(Link("m-b"));
+  EXPECT_EQ(heard, (std::vector<PlayRequest>{OfStation("12", PlayMode::LinkOne), Link("mhttp://b")}));
+}
+
+TEST_F(PlayerLaunchTest, APlayReadsTheStationOnce) {
+  AddStation(1, "First", {"m1://x"});
+  AddStation(2, "Third", {"", "", "m3://x"});
+  AddStation(3, "Alternate", {}, "malt://x");
+  AddStation(4, "Site", {}, "", "www.site.example");
+  for (const char* token : {"1", "2", "3", "4", "99"}) {
+    for (const PlayMode mode : {PlayMode::LinkOne, PlayMode::LinkThree}) {
+      const std::uint64_t before = stations.LookUps();
+      launch.LaunchStation(OfStation(token, mode));
+      EXPECT_EQ(stations.LookUps() - before, 1U) << token;
+    }
+    const std::uint64_t before = stations.LookUps();
+    static_cast<void>(launch.TryLaunch(StationKey::FromToken(token)));
+    EXPECT_EQ(stations.LookUps() - before, 1U) << token << " as a whole";
+  }
+  const std::uint64_t before = stations.LookUps();
+  launch.LaunchStation(Link("m2://x"));
+  EXPECT_EQ(stations.LookUps(), before) << "a link needs no record";
 }
 
 }  // namespace

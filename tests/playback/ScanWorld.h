@@ -56,7 +56,12 @@ class StationScanTest : public testing::Test, protected PlaybackWorld {
     view_.scan = &scan_;
     scan_.Open(view_);
   }
-  void Add(std::vector<std::string> rowKeys) { scan_.Add(rowKeys); }
+  static std::vector<StationKey> Keys(const std::vector<std::string>& rowKeys) {
+    std::vector<StationKey> keys;
+    for (const std::string& rowKey : rowKeys) keys.push_back(StationKey::FromRowKey(rowKey));
+    return keys;
+  }
+  void Add(const std::vector<std::string>& rowKeys) { scan_.Add(Keys(rowKeys)); }
   // Ticks as the timer gives them: a second apart.
   void TickFor(int seconds) {
     for (int i = 0; i < seconds; ++i) {

@@ -38,8 +38,8 @@ TEST_F(StationScanTest, PlaysTheQueueToItsEnd) {
   EXPECT_FALSE(view_.TimerOn());
   EXPECT_EQ(History(), "S1 P1 S3 ");
   EXPECT_EQ(scan_.HistoryRow(0).second, "Oslo");
-  EXPECT_EQ(scan_.HistoryRow(0).icon, 10);
-  EXPECT_EQ(scan_.HistoryRow(1).second, Text(IDS_SCAN_YOUR_STATION));
+  EXPECT_EQ(scan_.HistoryRow(0).symbol, 3);
+  EXPECT_EQ(scan_.HistoryRow(1).second, Text(IDS_YOUR_STATION));
   EXPECT_EQ(scan_.HistoryRow(1).reason, "");
   TickFor(1);  // one that was under way
   EXPECT_EQ(History(), "S1 P1 S3 ");
@@ -198,10 +198,10 @@ TEST_F(StationScanTest, QueueEdits) {
   EXPECT_EQ(view_.selected, 1u);
   scan_.Remove(3);
   EXPECT_EQ(Queue(), "S1 P1 S2 ");
-  const std::vector<std::string> dropped = {"S3", "S3"};
-  EXPECT_EQ(scan_.Add(dropped, 1), 2u);
+  const std::vector<StationKey> dropped = Keys({"S3", "S3"});
+  scan_.Add(dropped, 1);
   EXPECT_EQ(view_.selected, 3u) << "stations dropped above the selected one leave it selected";
-  EXPECT_EQ(scan_.Add(dropped, 99), 2u);
+  scan_.Add(dropped, 99);
   EXPECT_EQ(view_.selected, 3u);
   EXPECT_EQ(Queue(), "S1 S3 S3 P1 S2 S3 S3 ");
 }

@@ -6,6 +6,7 @@
 #include "directory/Scrambling.h"
 #include "directory/StatList.h"
 #include "fakes/FakeFiles.h"
+#include "fakes/FakeStrings.h"
 #include "schedule/EventDiary.h"
 #include "schedule/Notification.h"
 #include "schedule/ScheduleDraft.h"
@@ -54,7 +55,8 @@ TEST(Draft, FaultsComeInOrder) {
 }
 
 TEST(Draft, ItemsComeBackAsTheyWereEntered) {
-  ScheduleDraft draft = ScheduleDraft::ForStation("S1204", "Radio", {{2000, 12, 31}, {23, 10, 0}});
+  ScheduleDraft draft =
+      ScheduleDraft::ForStation(StationKey::OfGuide(1204), "Radio", {{2000, 12, 31}, {23, 10, 0}});
   EXPECT_EQ(draft.dateText, "January 1 2001 (Monday)");
   draft.note = "first\r\nsecond";
   draft.openWebSite = true;
@@ -129,7 +131,8 @@ class WithStations : public testing::Test {
   StatList stations_{data_};
   PersonalStations personal_{data_};
   ExtraLinks extra_{data_};
-  StationSource source_{stations_, personal_, BuiltInAlphabets()};
+  FakeStrings strings_;
+  StationSource source_{stations_, personal_, BuiltInAlphabets(), strings_};
 };
 
 TEST_F(WithStations, ThePlayButtonsTellTheLinksApart) {
@@ -159,10 +162,10 @@ TEST_F(WithStations, ANotificationOffersTheStationsLinksThenExtraOnesThreeAtMost
   EXPECT_TRUE(shown.opensWebSite);
   ASSERT_EQ(shown.plays.size(), 3u);
   EXPECT_EQ(shown.plays[0].caption, "Play (MP3)");
-  EXPECT_EQ(shown.plays[1].mode, PlayMode::LinkThree);
-  EXPECT_EQ(shown.plays[1].key, "77");
+  EXPECT_EQ(shown.plays[1].request.mode, PlayMode::LinkThree);
+  EXPECT_EQ(shown.plays[1].request.station, StationKey::OfGuide(77));
   EXPECT_EQ(shown.plays[2].caption, "Play (Extra Link)");
-  EXPECT_EQ(shown.plays[2].key, "mhttp://mine");
+  EXPECT_EQ(shown.plays[2].request.link, "mhttp://mine");
 
   item.action = "NP9";  // a personal station that is gone
   item.name = "Radio";

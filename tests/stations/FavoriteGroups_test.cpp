@@ -2,8 +2,7 @@
 
 #include <gtest/gtest.h>
 
-#include "base/DataFolder.h"
-#include "fakes/FakeFiles.h"
+#include "stations/StationModels.h"
 
 namespace sonaro {
 namespace {
@@ -26,8 +25,8 @@ TEST_F(FavoriteGroupsTest, LoadingNormalisesTheFile) {
   EXPECT_EQ(File(), "Morning\t1204 877 P3\r\nJazz\t\r\nNight Owls\t5  6\r\nGroup\t7\r\n");
   ASSERT_EQ(groups.Count(), 4U);
   EXPECT_EQ(groups.Name(2), "Night Owls");
-  EXPECT_EQ(groups.Members(0), "1204 877 P3");
-  EXPECT_EQ(groups.Tokens(2), (std::vector<std::string_view>{"5", "6"}));
+  EXPECT_EQ(groups.Keys(0), KeysOf("1204 877 P3"));
+  EXPECT_EQ(groups.Keys(2), KeysOf("5 6"));
   files.ClearLog();
   groups.LoadFavoriteGroups();
   EXPECT_TRUE(files.Log().empty()) << "a normal file is not written again";
@@ -49,15 +48,17 @@ TEST_F(FavoriteGroupsTest, NoFileMeansNoGroupsAndMakesNone) {
 }
 
 TEST_F(FavoriteGroupsTest, AddingAStationNeverGrowsAnotherToken) {
-  Load("Jazz\t12 P3\r\nEmpty\t\r\nBlank\t  \r\n");
-  EXPECT_EQ(groups.AddStation(0, "5"), FavoriteChange::Saved);
-  EXPECT_EQ(groups.AddStation(0, "P"), FavoriteChange::Saved) << "P is not P3";
-  EXPECT_EQ(groups.AddStation(0, "12"), FavoriteChange::Nothing);
-  EXPECT_EQ(groups.AddStation(0, "P3"), FavoriteChange::Nothing);
-  EXPECT_EQ(groups.AddStation(1, "7"), FavoriteChange::Saved);
-  EXPECT_EQ(groups.AddStation(2, "8"), FavoriteChange::Saved);
-  EXPECT_EQ(groups.AddStation(3, "8"), FavoriteChange::Nothing) << "no such group";
-  EXPECT_EQ(File(), "Jazz\t12 P3 5 P \r\nEmpty\t7 \r\nBlank\t8 \r\n");
+  Load("Jazz\t12 P3\r\nEmpty\t\r\nBlank\t  \r\nOdd\tjunk  012 P03\r\n");
+  EXPECT_EQ(groups.AddStation(0, Key("5")), FavoriteChange::Saved);
+  EXPECT_EQ(groups.AddStation(0, Key("3")), FavoriteChange::Saved) << "3 is not P3";
+  EXPECT_EQ(groups.AddStation(0, Key("12")), FavoriteChange::Nothing);
+  EXPECT_EQ(groups.AddStation(0, Key("P3")), FavoriteChange::Nothing);
+  EXPECT_EQ(groups.AddStation(0, StationKey()), FavoriteChange::Nothing);
+  EXPECT_EQ(groups.AddStation(1, Key("7")), FavoriteChange::Saved);
+  EXPECT_EQ(groups.AddStation(2, Key("8")), FavoriteChange::Saved);
+  EXPECT_EQ(groups.AddStation(3, Key("12")), FavoriteChange::Nothing) << "however it is written";
+  EXPECT_EQ(groups.AddStation(4, Key("8")), FavoriteChange::Nothing) << "no such group";
+  EXPECT_EQ(File(), "Jazz\t12 P3 5 3 \r\nEmpty\t7 \r\nBlank\t8 \r\nOdd\tjunk  012 P03\r\n");
 }
 
 TEST_F(FavoriteGroupsTest, RemovingAStationLeavesEveryOtherByte) {
@@ -76,10 +77,10 @@ TEST_F(FavoriteGroupsTest, RemovingAStationLeavesEveryOtherByte) {
     // Loading trims the line's end, as the program does at its start.
     std::string left = c.left;
     if (std::string_view(c.members).ends_with(' ') && !left.empty()) left.pop_back();
-    EXPECT_EQ(groups.RemoveStation(0, c.token), FavoriteChange::Saved) << c.members;
+    EXPECT_EQ(groups.RemoveStation(0, Key(c.token)), FavoriteChange::Saved) << c.members;
     EXPECT_EQ(File(), "G\t" + left + "\r\n") << c.members;
   }
-  EXPECT_EQ(groups.RemoveStation(0, "99"), FavoriteChange::Nothing);
+  EXPECT_EQ(groups.RemoveStation(0, Key("99")), FavoriteChange::Nothing);
 }
 
 TEST_F(FavoriteGroupsTest, GroupsAreAddedRenamedMovedAndRemoved) {
@@ -122,9 +123,9 @@ TEST_F(FavoriteGroupsTest, AChangeIsRefusedWhileTheFileCannotBeReadOrWrittenAndK
   files.SetSpaceLeft(3);
   EXPECT_EQ(groups.Remove(0), FavoriteChange::NotSaved);
   EXPECT_EQ(groups.MoveStation(0, 0, 0), FavoriteChange::Nothing);
-  EXPECT_EQ(groups.AddStation(0, "2"), FavoriteChange::NotSaved);
+  EXPECT_EQ(groups.AddStation(0, Key("2")), FavoriteChange::NotSaved);
   EXPECT_EQ(groups.Name(0), "Jazz");
-  EXPECT_EQ(groups.Members(0), "1");
+  EXPECT_EQ(groups.Keys(0), KeysOf("1"));
   EXPECT_EQ(File(), "Jazz\t1\r\nNew\t\r\n");
 }
 
@@ -133,11 +134,11 @@ TEST_F(FavoriteGroupsTest, TwoSessionsOnOneFolderChangeTheGroupsThatTheyMean) {
   FavoriteGroups other(data);
   other.LoadFavoriteGroups();
   EXPECT_EQ(other.Remove(0), FavoriteChange::Saved);
-  EXPECT_EQ(groups.AddStation(1, "4"), FavoriteChange::Saved);
+  EXPECT_EQ(groups.AddStation(1, Key("4")), FavoriteChange::Saved);
   EXPECT_EQ(other.Add("C"), FavoriteChange::Saved);
   EXPECT_EQ(groups.MoveStation(0, 2, 0), FavoriteChange::Saved);
   EXPECT_EQ(other.Rename(0, "Bee"), FavoriteChange::Saved);
-  EXPECT_EQ(groups.AddStation(0, "5"), FavoriteChange::Nothing) << "the other session renamed it";
+  EXPECT_EQ(groups.AddStation(0, Key("5")), FavoriteChange::Nothing) << "the other session renamed it";
   EXPECT_EQ(File(), "Bee\t4 2 3\r\nC\t\r\n");
 }
 
@@ -159,7 +160,7 @@ TEST_F(FavoriteGroupsTest, ACrashLeavesTheOldOrTheNewFile) {
                                              DataFolder folder(disk, "/d", '/');
                                              FavoriteGroups favorites(folder);
                                              favorites.LoadFavoriteGroups();
-                                             favorites.AddStation(0, "2");
+                                             favorites.AddStation(0, Key("2"));
                                            },
                                            [](FakeFiles& disk, const CrashPoint& point) {
                                              const std::string text = disk.Get("/d/favs.snr").value_or("");

@@ -2,8 +2,7 @@
 
 #include <gtest/gtest.h>
 
-#include "base/DataFolder.h"
-#include "fakes/FakeFiles.h"
+#include "stations/StationModels.h"
 
 namespace sonaro {
 namespace {
@@ -12,10 +11,11 @@ class RecentListTest : public testing::Test {
  protected:
   RecentListTest() { files_.MakeFolder("/d"); }
   std::string File() { return files_.Get("/d/recent.snr").value_or("(none)"); }
-  std::vector<std::string> Numbers(int from, int downTo) {
-    std::vector<std::string> tokens;
-    for (int i = from; i >= downTo; --i) tokens.push_back(std::to_string(i));
-    return tokens;
+  std::string Recent() const { return TextOf(recent_.Keys()); }
+  std::vector<StationKey> Numbers(int from, int downTo) {
+    std::vector<StationKey> keys;
+    for (int i = from; i >= downTo; --i) keys.push_back(StationKey::OfGuide(i));
+    return keys;
   }
 
   FakeFiles files_;
@@ -24,41 +24,36 @@ class RecentListTest : public testing::Test {
 };
 
 TEST_F(RecentListTest, MemoryHoldsOneEntryMoreThanTheFile) {
-  for (int i = 1; i <= 25; ++i) recent_.AddRecent(std::to_string(i));
-  EXPECT_EQ(recent_.Tokens(), Numbers(25, 5));
+  for (int i = 1; i <= 25; ++i) recent_.AddRecent(StationKey::OfGuide(i));
+  EXPECT_EQ(recent_.Keys(), Numbers(25, 5));
   EXPECT_EQ(File(), "25 24 23 22 21 20 19 18 17 16 15 14 13 12 11 10 9 8 7 6\r\n");
 
   recent_.Load();
-  EXPECT_EQ(recent_.Tokens(), Numbers(25, 6));
+  EXPECT_EQ(recent_.Keys(), Numbers(25, 6));
 }
 
 TEST_F(RecentListTest, PlayedAgainMovesToTheFront) {
-  for (const char* token : {"7", "P3", "-12", "P3", "7"}) recent_.AddRecent(token);
-  EXPECT_EQ(recent_.AsText(), "7 P3 -12 ");
+  for (const char* token : {"7", "P3", "", "-12", "P3", "7"}) recent_.AddRecent(Key(token));
+  EXPECT_EQ(Recent(), "7 P3 -12 ");
   EXPECT_EQ(File(), "7 P3 -12\r\n");
   // As a full list too, where the moved entry is the one in the slot that is not saved.
-  for (int i = 101; i <= 121; ++i) recent_.AddRecent(std::to_string(i));
-  recent_.AddRecent("101");
-  EXPECT_EQ(recent_.Tokens().size(), RecentList::kSlots);
-  EXPECT_EQ(recent_.Tokens().front(), "101");
-  EXPECT_EQ(recent_.Tokens().back(), "102");
-}
-
-TEST_F(RecentListTest, WhatTheFileCouldNotHoldIsIgnored) {
-  recent_.AddRecent("7");
-  for (const char* token : {"", " ", "8 9", "8\t", "8\r\n"}) recent_.AddRecent(token);
-  EXPECT_EQ(recent_.AsText(), "7 ");
+  for (int i = 101; i <= 121; ++i) recent_.AddRecent(StationKey::OfGuide(i));
+  recent_.AddRecent(Key("101"));
+  EXPECT_EQ(recent_.Keys().size(), RecentList::kSlots);
+  EXPECT_EQ(recent_.Keys().front(), Key("101"));
+  EXPECT_EQ(recent_.Keys().back(), Key("102"));
 }
 
 TEST_F(RecentListTest, ReadsWhatIsThere) {
   const struct {
     const char* bytes;
     const char* text;
-  } kCases[] = {{"", ""}, {"1 P2 3\r\n", "1 P2 3 "}, {"1  2", "1 2 "}, {"\r\n1 2\r\n", ""}, {"1\n2\n", "1 "}};
+  } kCases[] = {{"", ""},         {"1 P2 3\r\n", "1 P2 3 "}, {"1  2", "1 2 "}, {"\r\n1 2\r\n", ""},
+                {"1\n2\n", "1 "}, {"x 1 P0 01\n", "1 "}};
   for (const auto& c : kCases) {
     files_.Put("/d/Recent.snr", c.bytes);
     recent_.Load();
-    EXPECT_EQ(recent_.AsText(), c.text) << c.bytes;
+    EXPECT_EQ(Recent(), c.text) << c.bytes;
   }
 }
 
@@ -66,24 +61,24 @@ TEST_F(RecentListTest, PlaysOfALockedFileOfAFullDiskAndOfAnotherSessionComeToget
   files_.Put("/d/recent.snr", "1 2 3\r\n");
   files_.Lock("/d/recent.snr");
   recent_.Load();
-  recent_.AddRecent("9");
-  EXPECT_EQ(recent_.AsText(), "9 ");
+  recent_.AddRecent(Key("9"));
+  EXPECT_EQ(Recent(), "9 ");
   EXPECT_FALSE(recent_.LoadUnread());
   files_.Unlock("/d/recent.snr");
   EXPECT_TRUE(recent_.LoadUnread());
-  EXPECT_EQ(recent_.AsText(), "9 1 2 3 ");
+  EXPECT_EQ(Recent(), "9 1 2 3 ");
 
   files_.SetSpaceLeft(1);
-  recent_.AddRecent("10");
+  recent_.AddRecent(Key("10"));
   files_.SetSpaceLeft(std::nullopt);
   EXPECT_EQ(File(), "1 2 3\r\n");
 
   RecentList other(data_);
   other.Load();
-  other.AddRecent("P4");
-  recent_.AddRecent("11");
+  other.AddRecent(Key("P4"));
+  recent_.AddRecent(Key("11"));
   EXPECT_EQ(File(), "11 10 9 1 2 3 P4\r\n");
-  other.AddRecent("12");
+  other.AddRecent(Key("12"));
   EXPECT_EQ(File(), "12 11 10 9 1 2 3 P4\r\n");
 }
 

@@ -4,13 +4,30 @@
 #include <gtest/gtest.h>
 
 #include "base/DataFolder.h"
+#include "base/Text.h"
+#include "directory/Scrambling.h"
 #include "directory/StatList.h"
 #include "fakes/FakeFiles.h"
+#include "fakes/FakeStrings.h"
 #include "stations/FavoriteGroups.h"
 #include "stations/PersonalStations.h"
 #include "stations/RecentList.h"
+#include "stations/StationSource.h"
 
 namespace sonaro {
+
+// Keys as the user's files hold them: "1204", "P3".
+inline StationKey Key(std::string_view token) { return StationKey::FromToken(token); }
+inline std::vector<StationKey> KeysOf(std::string_view tokens) {
+  std::vector<StationKey> keys;
+  for (const std::string_view token : SplitWords(tokens)) keys.push_back(Key(token));
+  return keys;
+}
+inline std::string TextOf(const std::vector<StationKey>& keys) {
+  std::string text;
+  for (const StationKey& key : keys) text += (key ? key.Token() : "?") + " ";
+  return text;
+}
 
 class StationModels : public testing::Test {
  protected:
@@ -44,6 +61,8 @@ class StationModels : public testing::Test {
   PersonalStations personal{data};
   RecentList recent{data};
   FavoriteGroups groups{data};
+  FakeStrings numbers;
+  StationSource source{stations, personal, BuiltInAlphabets(), numbers};
 };
 
 }  // namespace sonaro

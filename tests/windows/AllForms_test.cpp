@@ -73,19 +73,19 @@ struct EmptyProgram {
   ExtraLinks extra{folder};
   RecentList recent{folder};
   FavoriteGroups favorites{folder};
-  StationSource source{stations, personal, BuiltInAlphabets()};
+  StationSource source{stations, personal, BuiltInAlphabets(), words};
   Players players{settings, folder, shell};
   InstalledPlayers installed{settings, folder, players};
   PlayerSetup playerSetup{settings, outside.files, players, installed};
   PlayerReporter reporter{players, folder, source, words, state};
-  WebPages pages{source, folder, shell, words};
+  WebPages pages{folder, shell, words};
   HelpPages help{settings, pages};
   PlayerLaunch player{source, recent, players, pages, words};
   StationScan scan{settings, clock, player, source, words};
   ScheduleStore store{folder, "M/d/yyyy"};
   ScheduleCalendar calendar{store};
   PersonalShows shows{folder, messages, words};
-  StationPicker picker{stations, personal, recent, settings, words};
+  StationPicker picker{stations, source, favorites, recent, settings, words};
   ScheduleServices schedule{store, calendar, shows, picker, clock, outside.files, shell, messages, help};
   OptionsModel options{settings, outside.faceplate, "C:\\Guide\\Sonaro.exe"};
   UpdateInstall install{folder, settings, stations};
@@ -172,7 +172,10 @@ const NamedForm kForms[] = {
                                                           }},
                                     UpdateOpening::Begin);
      }},
-    {"frmScan", [](EmptyProgram& p) { return Make<frmScan>(p.forms, p.scan, p.help, frmScan::Groups{}); }},
+    {"frmScan",
+     [](EmptyProgram& p) {
+       return Make<frmScan>(p.forms, p.scan, p.help, p.favorites, frmScan::AddToGroup());
+     }},
     {"frmScanTime", [](EmptyProgram& p) { return Make<frmScanTime>(p.forms, 30); }},
     {"frmAboutEventTime",
      [](EmptyProgram& p) { return Make<frmAboutEventTime>(p.forms, p.clock, p.shell, p.help); }},
