@@ -14,6 +14,8 @@ constexpr std::size_t kEntryColumns = 5;
 
 // Checks one list of categories and what it names. The keys of the tree's nodes must differ, since a node is
 // found by its key.
+// A list of categories is lines of code TAB name TAB file TAB key prefix. `files` and `prefixes` are shared
+// by both trees: a list may be named once in each, but a prefix serves for one list only.
 class TreeCheck {
  public:
   TreeCheck(CheckContext& context, std::string_view treeName, std::set<std::string>& files,
@@ -43,7 +45,7 @@ class TreeCheck {
     const std::string prefix(columns[3]);
     if (columns[1].empty()) context_.Add(treeName_, number, "the category has no name");
     AddKey(treeName_, number, "M" + code);
-    // The program opens what is left of code and file name without the first character.
+    // The program joins code and file name and drops the first character, so the code must be exactly one.
     if (code.size() != 1) context_.Add(treeName_, number, "the code \"" + code + "\" is not one character");
     if (prefix.empty() || prefix[0] == 'M' || prefix[0] == 'O') {
       context_.Add(treeName_, number, "the key prefix \"" + prefix + "\" is empty or begins with M or O");
@@ -60,6 +62,8 @@ class TreeCheck {
     }
   }
 
+  // Entries are code TAB number of stations TAB name TAB parent's code or 0 TAB identifiers. The number is
+  // not checked: the program counts the identifiers.
   void CheckEntries(const std::string& name, std::string_view text, const std::string& prefix) {
     std::set<std::string> codes;
     std::size_t number = 0;
@@ -67,6 +71,7 @@ class TreeCheck {
       ++number;
       const std::vector<std::string_view> columns = SplitAtMost(line, '\t', kEntryColumns);
       if (columns.size() < kEntryColumns) {
+        // The program stops at such a line, so nothing behind it matters.
         context_.Add(name, number, "the line has less than four tabs, which ends the reading of the file");
         return;
       }

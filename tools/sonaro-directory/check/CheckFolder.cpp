@@ -23,6 +23,7 @@ std::optional<std::string> CheckContext::Read(std::string_view name, Need need) 
   return std::nullopt;
 }
 
+// Texts from the folder are quoted in findings; CleanText keeps control characters off the terminal.
 void CheckContext::Add(std::string_view name, std::size_t line, std::string_view problem) {
   findings.Add(WithoutBackslash(name), line, CleanText(problem));
 }
@@ -43,6 +44,7 @@ void CheckContext::CheckIds(std::string_view name, std::size_t line, std::string
   }
 }
 
+// Users' files name stations as "123", or "P7" for the station of their own with index 7.
 void CheckContext::CheckTokens(std::string_view name, std::size_t line, std::string_view tokens) {
   for (const std::string_view token : Split(TrimBlanks(tokens), ' ')) {
     if (token.empty()) continue;
@@ -59,6 +61,8 @@ void CheckContext::CheckTokens(std::string_view name, std::size_t line, std::str
 void CheckFolder(DataFolder& data, Findings& findings) {
   CheckContext context{data, findings, BuiltInAlphabets(), {}, {}, {}};
   if (data.Exists(kUnfinishedMark)) context.Add(kUnfinishedMark, 0, "make was cut short here; run it again");
+  // The order matters: alphabets are needed to read links, and the station list gives the identifiers against
+  // which everything after it is checked.
   CheckAlphabets(context);
   CheckStationList(context);
   CheckStationTable(context);

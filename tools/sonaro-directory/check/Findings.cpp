@@ -4,6 +4,7 @@ namespace sonaro {
 
 void Findings::Add(std::string_view file, std::size_t line, std::string_view problem) {
   ++total_;
+  // A file in the wrong format has a finding on every line; the first ones tell as much as all.
   if (++perFile_[std::string(file)] > kMaxPerFile) return;
   std::string text(file);
   if (line > 0) text += ":" + std::to_string(line);

@@ -26,6 +26,7 @@ void ForEachLine(CheckContext& context, std::string_view name, Need need, Check 
   }
 }
 
+// Lines of index TAB name TAB ...; a line without a name holds no station, so its index may occur again.
 void CheckPersonalStations(CheckContext& context) {
   constexpr std::string_view kName = "\\personal.snr";
   constexpr std::size_t kLeastColumns = 2;
@@ -41,6 +42,7 @@ void CheckPersonalStations(CheckContext& context) {
   });
 }
 
+// Lines of station TAB title TAB link, the link in the form of PlayLink, not scrambled.
 void CheckOwnLinks(CheckContext& context) {
   constexpr std::string_view kName = "\\ownlinks.snr";
   ForEachLine(context, kName, Need::Optional, [&](std::size_t number, std::string_view line) {
@@ -55,6 +57,7 @@ void CheckOwnLinks(CheckContext& context) {
   });
 }
 
+// Lines of name TAB stations. Names are compared without regard to letter case, as the program does.
 void CheckGroups(CheckContext& context) {
   constexpr std::string_view kName = "\\favs.snr";
   constexpr std::size_t kMaxGroups = 10;
@@ -73,6 +76,7 @@ void CheckGroups(CheckContext& context) {
   });
 }
 
+// One line, the stations with blanks between them, the latest first.
 void CheckRecent(CheckContext& context) {
   constexpr std::string_view kName = "\\recent.snr";
   constexpr std::size_t kMaxEntries = 20;
@@ -104,6 +108,8 @@ void CheckShows(CheckContext& context) {
   });
 }
 
+// Outlines are points without separators: x and y, five characters each, padded with blanks. A polygon has at
+// least three.
 bool IsPointsText(std::string_view points) {
   constexpr std::size_t kGroup = 10;
   return points.size() >= 3 * kGroup && points.size() % kGroup == 0 &&

@@ -80,6 +80,7 @@ class RecordCheck {
       Add("the station has neither a link nor a web site");
     }
     const std::string webSite = Plain(StationField::WebSite);
+    // A web site without a scheme is allowed, since the program puts "http://" in front.
     if (!webSite.empty() && !IsWebAddress(webSite.starts_with("http") ? webSite : "http://" + webSite)) {
       Add("the web site cannot be opened");
     }
@@ -131,6 +132,7 @@ void CheckStationLine(CheckContext& context, std::size_t number, std::string_vie
   stations[station.id] = std::move(record);
 }
 
+// "YYYYMMDDhhmm".
 bool IsGmtStamp(const std::string& text) {
   if (text.size() != 12 || text.find_first_not_of("0123456789") != std::string::npos) return false;
   const auto part = [&](std::size_t start, std::size_t length) {
@@ -156,6 +158,7 @@ void CheckStationList(CheckContext& context) {
   if (!text) return;
   StationsById stations;
   std::size_t number = 0;
+  // A byte order mark, which editors add on saving, is not part of the first identifier.
   const bool marked = text->starts_with(kMarkOfUtf8);
   for (const std::string_view line :
        SplitLines(std::string_view(*text).substr(marked ? kMarkOfUtf8.size() : 0))) {
@@ -174,6 +177,7 @@ void CheckStationTable(CheckContext& context) {
   for (const std::string_view name : {kTable, std::string_view("\\Statorg.ism")}) {
     if (!context.data.Exists(name)) context.Add(name, 0, "is missing");
   }
+  // Verify would report the missing file a second time, as damage.
   if (!context.data.Exists(kTable) || !context.data.Exists("\\Statorg.ism")) return;
   StatList table(context.data);
   if (!table.Verify()) {
@@ -188,6 +192,7 @@ void CheckStationTable(CheckContext& context) {
   std::vector<std::int32_t> ids;
   for (const StationRecord& record : context.stations) ids.push_back(record.StationId);
   const std::vector<StationRecord> stored = table.GetStations(ids);
+  // Both are in ascending order and the table leaves out what it does not hold, so one walk compares them.
   auto next = stored.begin();
   for (const StationRecord& record : context.stations) {
     if (next == stored.end() || next->StationId != record.StationId) {

@@ -10,8 +10,11 @@
 namespace sonaro {
 namespace {
 
-// 256 bits of the system's chance, in hexadecimal. Where the library would use the processor's instead, the
-// name asks for the system's.
+// The seed of the pair of keys: eight words of 32 bits, the highest digit of each first. Only its length and
+// its randomness matter; nobody sees it again, since the secret key is what is kept.
+//
+// It must come from the operating system. On Linux the library may take the processor's generator instead, so
+// the device is named.
 std::string RandomSeed() {
 #ifdef _WIN32
   std::random_device chance;
@@ -26,7 +29,8 @@ std::string RandomSeed() {
   return seed;
 }
 
-// For its owner's eyes only, from the first byte on.
+// Readable by its owner alone before the first byte of the secret is in it: narrowing the permissions of a
+// file that holds the key already would leave a moment in which anybody could copy it.
 bool WriteSecret(const std::filesystem::path& path, const std::string& secret) {
   std::ofstream file(path, std::ios::binary);
   std::error_code error;
@@ -46,6 +50,7 @@ int RunKeygen(Arguments arguments, Console& console) {
   }
   LocalFolder folder(arguments[0]);
   const std::string path = folder.Data().Path("\\secret.key");
+  // Never overwrite a secret key: installations with the old public key would refuse every later update.
   if (folder.Data().Exists("\\secret.key")) {
     console.err << "There is a key already: \"" << path << "\".\n";
     return kFailed;
@@ -55,6 +60,8 @@ int RunKeygen(Arguments arguments, Console& console) {
     key = SigningKeyFromSeed(RandomSeed());
   } catch (const std::exception&) {  // the system gives no chance
   }
+  // The secret first. Should the public key fail to be written the pair is useless but nothing is out in the
+  // world; the other way round a public key could be handed out that nobody can sign for.
   if (!key || !folder.Data().FileSystem().MakeFolder(arguments[0]) || !WriteSecret(path, key->secret) ||
       !folder.Data().Save("\\publish.key", key->publicKey + "\n")) {
     console.err << "The keys could not be written to \"" << arguments[0] << "\".\n";

@@ -32,7 +32,9 @@ bool ParseLimit(const std::string& text, std::size_t& limit) {
   return error == std::errc() && end == text.data() + text.size() && limit > 0;
 }
 
-// The option's value; a sentence in `problem` when it has none or a wrong one.
+// The option's value; a sentence in `problem` when it has none or a wrong one. Options are "--name value" or
+// "--name=value"; everything else is a source, and so is "-", the standard input. Problems become one
+// sentence for the user; the first one found is reported.
 bool TakeOption(const std::string& name, const std::string& value, MakeOptions& options,
                 std::string& problem) {
   if (name == "--out") {
@@ -77,6 +79,9 @@ std::optional<MakeOptions> ParseOptions(Arguments arguments, std::string& proble
   return options;
 }
 
+// One run of "make": read all sources, build the directory in memory, write it. Nothing is written to the
+// output folder before everything has been read, so a missing or damaged source leaves an older directory as
+// it was. Damage inside a source is not a failure: the entry is counted in a log and left out.
 class Maker {
  public:
   Maker(const MakeOptions& options, Console& console)
@@ -120,11 +125,15 @@ bool Maker::ReadSources() {
     }
     std::move(source.stations.begin(), source.stations.end(), std::back_inserter(stations_));
   }
+  // Counted before the cleaning, which logs further entries: the summary is to say how many entries the lists
+  // had.
   entries_ = stations_.size() + logs_.entries.Total();
   if (stations_.empty()) failure_ = "There is no station in what was read.";
   return failure_.empty();
 }
 
+// The folder of --previous brings its own alphabets: its links are scrambled with them, whatever the new
+// folder uses.
 bool Maker::ReadEarlier(EarlierIds& earlier) {
   if (options_.previous.empty()) return true;
   LocalFolder folder(options_.previous);
@@ -174,6 +183,7 @@ int Maker::Run() {
   LocalFolder folder(options_.out);
   WriteOptions write;
   write.player = options_.player;
+  // An alphabet that lies in the output folder already stays valid for what is written there.
   write.alphabets = AlphabetsOf(folder.Data());
   const std::string problem = WriteDirectory(folder.Data(), built.directory, events, write);
   if (!problem.empty()) return Fail(problem);

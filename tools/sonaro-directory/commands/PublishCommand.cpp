@@ -22,6 +22,9 @@ struct PublishOptions {
   SiteOptions site;
 };
 
+// What may stand in the generated server configuration and in the addresses that installations are told. It
+// is a guard against quotes, blanks and semicolons in a configuration file rather than a check of the name's
+// syntax.
 bool IsHostName(std::string_view text) {
   return !text.empty() && std::all_of(text.begin(), text.end(), [](char c) {
     return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z') || (c >= '0' && c <= '9') || c == '.' || c == '-';
@@ -44,6 +47,7 @@ bool TakePublishOption(const std::string& name, const std::string& value, Publis
     options.out = value;
   } else if (name == "--date") {
     options.site.date = TrimBlanks(value);
+    // The date is only compared, never computed with: installations send back the text that they were given.
     if (!ParseDate(value)) problem = "--date is a date such as 2026-11-23, not \"" + value + "\".";
   } else if (name == "--key") {
     options.keyFile = value;
@@ -107,6 +111,8 @@ int RunPublish(Arguments arguments, Console& console) {
   if (!directory.IsThere()) problem = "There is no folder \"" + options->directory + "\".";
   if (directory.Data().Exists(kUnfinishedMark))
     problem = "\"" + options->directory + "\" is unfinished; run make again.";
+  // Seconds since 1970: grows from one publication to the next without anything having to be remembered. An
+  // installation refuses a signed update whose serial is below that of the last one it took.
   options->site.serial =
       std::chrono::duration_cast<std::chrono::seconds>(std::chrono::system_clock::now().time_since_epoch())
           .count();
@@ -123,6 +129,7 @@ int RunPublish(Arguments arguments, Console& console) {
     console.err << problem << '\n';
     return kFailed;
   }
+  // A warning, not a failure: a file that is left out stays as it is in the installations.
   for (const std::string& name : result.leftOut)
     console.err << name << " is left out: it is not made of lines that an update can carry.\n";
   console.out << options->out << ": " << result.files << " files, "

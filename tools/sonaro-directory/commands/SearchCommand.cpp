@@ -16,6 +16,8 @@ struct SearchOrder {
   bool allWords = true;
 };
 
+// Options count only before the first word, so that a search for "--any" itself is possible behind another
+// word.
 SearchOrder ReadOrder(Arguments arguments) {
   SearchOrder order;
   for (std::size_t i = 0; i < arguments.size(); ++i) {
@@ -60,6 +62,7 @@ int RunSearch(Arguments arguments, Console& console) {
   }
   LocalFolder folder(order.folder);
   StatList stations(folder.Data());
+  // Run for --queries as well, with no words: it opens the table once and thereby tells whether there is one.
   const std::vector<std::int32_t> found = stations.SearchStationIds(order.words, order.allWords);
   if (stations.LastStatus() == TableStatus::NoTable || stations.LastStatus() == TableStatus::Damaged) {
     console.err << "There is no readable station table in \"" << order.folder << "\".\n";

@@ -18,6 +18,8 @@ struct FieldLine {
   bool scrambled;
 };
 
+// In the order of the record's columns. Which fields are scrambled is a property of the format and must agree
+// with RecordOf, which writes them.
 constexpr std::array<FieldLine, StationRecord::kFieldCount> kFields = {
     {{StationField::Name, "Name", false},
      {StationField::MediaType, "Media type", false},
@@ -62,6 +64,7 @@ int RunShow(Arguments arguments, Console& console) {
   for (const FieldLine& line : kFields) {
     std::string text = record[line.field];
     if (line.scrambled) UnscrambleText(text, alphabets);
+    // The record may come from a stranger's list: CleanText keeps escape sequences off the terminal.
     console.out << std::left << std::setw(kCaptionWidth) << line.caption << CleanText(text) << '\n';
   }
   return kDone;

@@ -3,7 +3,9 @@
 namespace sonaro {
 namespace {
 
-// In the order in which the tree shows them. A code stays with its category: it is part of the keys.
+// In the order in which the tree shows them. A code stays with its category for ever: it is part of the keys
+// of the tree's nodes. The file names end up on users' disks; one that is renamed leaves an old file behind
+// there.
 constexpr Genre kGenres[] = {
     {'a', "Alternative & Indie", "genre-alternative"},
     {'b', "Blues", "genre-blues"},

@@ -21,7 +21,7 @@ struct GenreLine {
 
 inline constexpr char kOtherGenre = 'z';
 
-// In the order in which they are written; the tree sorts them by name.
+// In the order in which the browse tree shows them.
 std::span<const Genre> GenreList();
 
 // The lines of the table: styles of music, music of parts of the world, everything else.

@@ -1,3 +1,10 @@
+// How a station gets its genres. Lists know free tags only, in any language and spelling, and a table maps
+// the common ones to genres and sub-genres. A tag is looked up as a whole first; failing that, the longest
+// runs of its words that the table knows are taken from the left, so that "classic rock jazz" is Classic
+// Rock and Jazz rather than Classical, Rock and Jazz. A station whose tags give nothing is classified by
+// its name and slogan, with more caution, since names use the same words for other purposes.
+//
+// All comparisons are by MatchKey: without letter case, accents and punctuation.
 #include "genres/Genres.h"
 
 #include <algorithm>
@@ -161,6 +168,7 @@ void AddLines(TagMap& map, std::span<const GenreLine> lines) {
       const GenreEntry entry{GenreByCode(line.genre), line.subGenre};
       if (std::find(entries.begin(), entries.end(), entry) == entries.end()) entries.push_back(entry);
     }
+    // A sub-genre's name is a tag for it as well, unless an earlier line has it among its tags.
     if (!line.subGenre.empty()) {
       map.try_emplace(MatchKey(line.subGenre),
                       std::vector{GenreEntry{GenreByCode(line.genre), line.subGenre}});
@@ -189,7 +197,9 @@ void Append(std::vector<GenreEntry>& entries, const std::vector<GenreEntry>& mor
   }
 }
 
-// The longest terms in `words`, from the left. Single words in `skipped` do not count.
+// Returns the genres of the longest terms in `words`, taken from the left. A single word counts only when it
+// is not ambiguous; `name` says that the words are of a name, where more of them are. The words must be
+// pieces of one key with a blank between them: a term is cut out of it from its first word to its last.
 std::vector<GenreEntry> GenresInWords(const std::vector<std::string_view>& words, bool name) {
   std::vector<GenreEntry> entries;
   for (std::size_t start = 0; start < words.size();) {
@@ -278,6 +288,7 @@ std::vector<GenreEntry> GenresOfTag(std::string_view tag) {
   return GenresInWords(words, /*name=*/false);
 }
 
+// In the order of the tags: the first genre is the main one unless PutMainFirst finds a better one.
 Classification ClassifyStation(const SourceStation& station) {
   Classification result;
   for (const std::string& tag : station.tags) Append(result.entries, GenresOfTag(tag));
@@ -288,6 +299,7 @@ Classification ClassifyStation(const SourceStation& station) {
     }
   }
   PutMainFirst(result.entries);
+  // After PutMainFirst, so that the main genre is never cut off.
   if (result.entries.size() > kMaxGenres) result.entries.resize(kMaxGenres);
   if (result.entries.empty()) result.otherTag = FirstTellingTag(station);
   return result;

@@ -29,6 +29,8 @@ std::size_t SkipLog::Count(std::string_view reason) const {
 }
 
 std::string SkipLog::Summary() const {
+  // Most frequent reason first; equally frequent ones in alphabetical order, because the map is walked in it
+  // and the sort is stable. The summary of a run thus never depends on the order of its sources.
   std::vector<std::pair<std::size_t, std::string_view>> byCount;
   for (const auto& [reason, count] : counts_) byCount.emplace_back(count, reason);
   std::stable_sort(byCount.begin(), byCount.end(),

@@ -1,3 +1,8 @@
+// How the two trees are built. Stations are visited best first, and each is appended to the entries on its
+// path by its index. The list of every entry is therefore in the directory's order without being sorted, and
+// the children of an entry are in alphabetical order because they are held in a map.
+//
+// A category always has one entry of all its stations ("All Jazz"), since the root itself lists nothing.
 #include "output/CategoryTree.h"
 
 #include <algorithm>
@@ -30,7 +35,9 @@ constexpr std::array<CategoryName, kContinents + 1> kPlaceCategories = {
      {'g', "South America", "place-south-america"},
      {'h', "No Country Given", "place-none"}}};
 
-// Puts a station at the end of a path, and so into every entry on the way.
+// Puts a station at the end of a path, and so into every entry on the way. A station can come to an entry
+// twice, by two sub-genres of one genre. Stations come in ascending order, so it is enough to look at the
+// last one.
 void Add(Category& category, std::initializer_list<std::string_view> path, std::size_t station) {
   CategoryNode* node = &category.root;
   for (const std::string_view name : path) {
@@ -45,7 +52,8 @@ void RemoveEmpty(std::vector<Category>& categories) {
   std::erase_if(categories, [](const Category& category) { return category.root.children.empty(); });
 }
 
-// The entry of Other under which a tag is found: its first letter.
+// Returns the entry of Other under which a tag is filed: its first letter, whose text `buffer` holds. Tags
+// are capitalized before, so that "A" to "Z" covers both cases; everything beyond ASCII shares one entry.
 std::string_view InitialOf(std::string_view tag, std::string& buffer) {
   std::size_t position = 0;
   const char32_t c = NextCharacter(tag, position);
@@ -78,6 +86,13 @@ void AddToOther(Category& other, const DirectoryStation& station, std::size_t in
   Add(other, {InitialOf(name, buffer), name}, index);
 }
 
+// Writes the entries below `node` depth first, a line each:
+//
+//   code TAB number of stations TAB name TAB code of the parent or 0 TAB identifiers with blanks between CR
+//   LF
+//
+// Codes count up from 1 through the whole file, so that a parent always stands before its children; whoever
+// reads the file relies on it.
 void AppendEntries(const CategoryNode& node, int parent, int& code, const Directory& directory,
                    std::string& text) {
   for (const auto& [name, child] : node.children) {
@@ -134,6 +149,8 @@ CategoryTree PlaceTree(const Directory& directory) {
     const DirectoryStation& station = directory.stations[i];
     if (!station.place.country) {
       const std::vector<std::string> languages = LanguagesIn(station.source.language);
+      // Stations without a country are sorted by language instead: it is the next best guess of where they
+      // belong.
       Category& category = tree.categories.back();
       Add(category, {"All Without a Country"}, i);
       Add(category, {languages.empty() ? std::string_view("No Language Given") : languages.front()}, i);
@@ -142,6 +159,8 @@ CategoryTree PlaceTree(const Directory& directory) {
     const Country& country = *station.place.country;
     Category& category = tree.categories[static_cast<std::size_t>(country.continent)];
     Add(category, {"All of " + category.name}, i);
+    // With a region the country's own entry lists the station as well: Add puts it into every entry of the
+    // path.
     if (station.place.region.empty()) {
       Add(category, {country.name}, i);
     } else {

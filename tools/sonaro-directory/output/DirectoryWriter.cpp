@@ -1,3 +1,7 @@
+// A data folder is dozens of files that refer to one another by station identifier. They cannot be replaced
+// in one step, so a mark is written before the first of them and removed after the last. While it is there,
+// "check" reports the folder, "publish" refuses it, and another "make" repairs it. Each single file is
+// replaced as a whole.
 #include "output/DirectoryWriter.h"
 
 #include <algorithm>
@@ -17,7 +21,8 @@ namespace {
 
 std::string ListFileName(std::string_view file) { return "\\" + std::string(file) + ".snr"; }
 
-// Saves files until one fails, and remembers which.
+// Saves files until one fails, and remembers which. After that Save does nothing, so that callers need to ask
+// only once, at the end.
 class Saver {
  public:
   explicit Saver(DataFolder& data) : data_(data) {}
@@ -32,7 +37,8 @@ class Saver {
   std::string failed_;
 };
 
-// List files of genres and places that an earlier run wrote and this one did not.
+// List files of genres and places that an earlier run wrote and this one did not. Only names that this
+// program gives are touched: the folder may hold files of the user.
 void RemoveStaleLists(DataFolder& data, const std::set<std::string>& written) {
   for (const std::string& name : data.FileSystem().List(data.Folder())) {
     const bool ours = (name.starts_with("genre-") || name.starts_with("place-")) && name.ends_with(".snr");
@@ -50,12 +56,14 @@ void SaveTree(Saver& saver, const CategoryTree& tree, const Directory& directory
   saver.Save(tree.fileName, CategoryList(tree));
 }
 
+// A table is written even when there are no events, so that those of an earlier run do not stay.
 bool WriteEventTable(EvList& events, EventSet set, const std::vector<EventRecord>& records) {
   if (!events.CreateEventTable(set)) return false;
   const EvList::Handle table = events.OpenEventTable(set, EvList::OpenMode::Write);
   if (table == 0) return false;
   bool written = true;
   for (const EventRecord& record : records) written = events.PutEvent(table, record) && written;
+  // Closing is what writes the collected records, hence its status decides.
   events.CloseEventTable(table);
   return written && events.LastStatus() == TableStatus::Success;
 }
@@ -64,6 +72,8 @@ std::string CannotWrite(const std::string& path) { return "Cannot write \"" + pa
 
 }  // namespace
 
+// The list is written in ascending order of the identifiers although stations are kept best first: building
+// the table from a list in order is one pass without the whole list in memory.
 std::string StationListText(const Directory& directory, const WriteOptions& options) {
   std::vector<std::size_t> order(directory.stations.size());
   std::iota(order.begin(), order.end(), std::size_t{0});
@@ -80,6 +90,8 @@ std::string StationListText(const Directory& directory, const WriteOptions& opti
   return text;
 }
 
+// Lines of caption TAB name TAB address. The program fills in <<SearchWord>> and <<SearchOpt>>; the search
+// for stations has no address, as it needs no service.
 std::string SearchKindsText() {
   const auto webKind = [](std::string_view caption, std::string_view name, std::string_view path) {
     return std::string(caption) + '\t' + std::string(name) + '\t' +
@@ -100,6 +112,7 @@ std::string WriteDirectory(DataFolder& data, const Directory& directory, const E
   saver.Save(kUnfinishedMark, "These files belong to two directories. Run sonaro-directory make again.\r\n");
   if (!saver.Failed().empty()) return CannotWrite(saver.Failed());
   saver.Save("\\station.snr", StationListText(directory, options));
+  // The mark of an earlier, interrupted run has to stay even so.
   if (!saver.Failed().empty() && !wasUnfinished) data.Remove(kUnfinishedMark);  // nothing was changed
   if (!saver.Failed().empty()) return CannotWrite(saver.Failed());
   StatList stations(data);
@@ -116,6 +129,7 @@ std::string WriteDirectory(DataFolder& data, const Directory& directory, const E
   saver.Save("\\reliable.snr", ReliableList(directory));
   saver.Save("\\searchst.snr", SearchKindsText());
   if (!saver.Failed().empty()) return CannotWrite(saver.Failed());
+  // Last, when no list of categories names the old files any more.
   RemoveStaleLists(data, written);
   return data.Remove(kUnfinishedMark) ? std::string() : CannotWrite(data.Path(kUnfinishedMark));
 }

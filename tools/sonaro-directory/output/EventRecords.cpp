@@ -15,8 +15,12 @@
 namespace sonaro {
 namespace {
 
+// The current table covers a week from the day of the first event; the other takes what comes later. The tool
+// does not look at the clock: the same input gives the same tables whenever it is run.
 constexpr std::int64_t kCurrentDays = 7;
 
+// Event lists name a station by its identifier or by its name. A number that is no identifier may still be a
+// name ("1000"), so both are tried.
 class StationFinder {
  public:
   explicit StationFinder(const Directory& directory) {
@@ -40,6 +44,7 @@ class StationFinder {
   std::unordered_map<std::string, const DirectoryStation*> byName_;
 };
 
+// "YYYYMMDDhhmm" in GMT, the form in which the event tables hold a start; sorting the text sorts by time.
 std::string GmtStamp(const DateTime& at) {
   std::array<char, 48> stamp{};
   std::snprintf(stamp.data(), stamp.size(), "%04d%02d%02d%02d%02d", at.date.year, at.date.month, at.date.day,
@@ -84,6 +89,8 @@ EventRecords MakeEventRecords(const std::vector<SourceEvent>& events, const Dire
       continue;
     }
     EventRecord record = RecordOf(event, *station);
+    // The identifier follows from start, station and name, so that an event keeps it when the directory is
+    // made again. Of two with the same hash the later in the file moves on.
     record.EventId = FirstFreeId(IdNumber(record[EventField::StartGmt] + '\n' +
                                           record[EventField::StationId] + '\n' + NameKey(event.name)),
                                  [&](std::int32_t id) { return taken.count(id) == 0; });

@@ -51,6 +51,7 @@ std::string NewStations(const Directory& directory) {
       [](const Station& s) { return static_cast<double>(s.source.clicks.value_or(0)); });
 }
 
+// Only stations that are known to work: the bottom of the list would else be a list of dead ones.
 std::string LeastPopular(const Directory& directory) {
   return Best(
       directory,
@@ -58,6 +59,8 @@ std::string LeastPopular(const Directory& directory) {
       [](const Station& s) { return -s.ratings.popularity; });
 }
 
+// Ratings are whole numbers with many ties. Popularity is between 0 and 1, so added to the rating it breaks
+// the ties.
 std::string ByRating(const Directory& directory, int Ratings::*rating) {
   return Best(
       directory, [rating](const Station& s) { return IsHeard(s) && s.ratings.*rating > 0; },
@@ -67,6 +70,7 @@ std::string ByRating(const Directory& directory, int Ratings::*rating) {
 }  // namespace
 
 std::string RankingList(const Directory& directory) {
+  // In the order of kRankingNames. One line each: name TAB identifiers with blanks between them CR LF.
   const std::array<std::string, kRankingNames.size()> lists = {
       NewStations(directory),
       Best(

@@ -13,6 +13,8 @@ namespace {
 
 using enum Continent;
 
+// ISO 3166-1 codes in ascending order, with Kosovo's "XK", which is in common use. Each with the English
+// short name, its continent, and other spellings that lists use.
 constexpr Country kCountries[] = {
     {"AD", "Andorra", Europe, ""},
     {"AE", "United Arab Emirates", Asia, "UAE|Emirates|Dubai"},
@@ -270,6 +272,7 @@ constexpr Country kCountries[] = {
 const std::unordered_map<std::string, const Country*>& ByName() {
   static const std::unordered_map<std::string, const Country*> names = [] {
     std::unordered_map<std::string, const Country*> map;
+    // Proper names before other spellings, so that a nickname never hides a country.
     for (const Country& country : kCountries) map.emplace(MatchKey(country.name), &country);
     for (const Country& country : kCountries) {
       for (const std::string_view other : Split(country.otherNames, '|')) {

@@ -87,6 +87,7 @@ constexpr LanguageLine kLanguages[] = {
     {"Vietnamese", "tiếng việt"},
 };
 
+// The first line to claim a spelling keeps it.
 const std::unordered_map<std::string, std::string_view>& BySpelling() {
   static const std::unordered_map<std::string, std::string_view> map = [] {
     std::unordered_map<std::string, std::string_view> names;
@@ -124,6 +125,7 @@ std::vector<std::string> LanguagesIn(std::string_view text) {
     const std::string key = MatchKey(part);
     if (key.empty() || languages.size() == kMaxLanguages) continue;
     const auto known = BySpelling().find(key);
+    // An unknown short text is taken for a language that is not in the table; a long one is a sentence.
     if (known == BySpelling().end() && part.size() > kMaxNameLength) continue;
     std::string name =
         known == BySpelling().end() ? WithCapitals(TrimBlanks(part)) : std::string(known->second);

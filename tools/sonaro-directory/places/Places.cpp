@@ -1,3 +1,8 @@
+// How a station gets its place. The country comes as a code in good lists and as a name in others; the region
+// is free text: "NY", "Köln", "Street 7, Town (District)". Known regions of the larger countries are found
+// through a table of names, spellings and towns. Where the table has no regions of a country, a text becomes
+// a region of its own when at least kLeastForRegion stations spell it alike: one station's text is mostly a
+// mistake or a street.
 #include "places/Places.h"
 
 #include <algorithm>
@@ -15,14 +20,17 @@ namespace sonaro {
 namespace {
 
 constexpr std::size_t kLeastForRegion = 2;
+// Bytes; what is longer is an address or a sentence.
 constexpr std::size_t kMaxRegion = 40;
 
 using RegionMap = std::unordered_map<std::string, std::string_view>;
 
+// The code has two letters always, so that no separator is needed.
 std::string RegionKey(std::string_view countryCode, std::string_view text) {
   return std::string(countryCode) + MatchKey(text);
 }
 
+// The first to claim a key keeps it.
 void AddRegions(RegionMap& map, std::span<const RegionLine> lines) {
   // Names first: "Buenos Aires" is the province even where a list of the capital's spellings has it too.
   for (const RegionLine& line : lines) map.emplace(RegionKey(line.country, line.name), line.name);
@@ -59,6 +67,7 @@ std::vector<std::string_view> SplitAtAny(std::string_view text, std::string_view
   return parts;
 }
 
+// Bytes: "NRW", "ACT". In other scripts three bytes are one or two letters, which is as short.
 bool IsAbbreviation(std::string_view word) { return word.size() <= 3; }
 
 bool IsCapitals(std::string_view word) {
@@ -66,7 +75,8 @@ bool IsCapitals(std::string_view word) {
 }
 
 // Looks for the region in runs of up to three words, the last words first: "City ST" is the usual order.
-// Short words count only in capitals, since "or", "in" and "me" are words too.
+// Short words count only in capitals, since "or", "in" and "me" are words too. Longer runs first: "West
+// Virginia" must not be taken for "Virginia".
 std::string_view RegionInWords(const Country& country, std::string_view text) {
   const std::vector<std::string_view> words = SplitAtAny(text, " ,.;:/()-");
   for (std::size_t length = std::min<std::size_t>(3, words.size()); length > 0; --length) {
@@ -135,6 +145,7 @@ bool SpellTheSame(std::string_view a, std::string_view b) {
   return first == second;
 }
 
+// The region last: some lists write the country there.
 const Country* CountryOf(const SourceStation& station) {
   if (const Country* country = CountryByCode(station.countryCode)) return country;
   if (const Country* country = CountryByName(station.country)) return country;
@@ -175,6 +186,9 @@ std::string_view KnownRegion(const Country& country, std::string_view text) {
   return RegionInWords(country, text);
 }
 
+// Two passes: the first resolves what tables know and counts the other texts, the second decides which of
+// these are regions. Until then such a text is `nearby`, a place that is shown and searched but is no entry
+// of the tree.
 std::vector<StationPlace> LocateStations(const std::vector<SourceStation>& stations) {
   std::vector<StationPlace> places(stations.size());
   std::map<std::string, FreeRegion> freeRegions;

@@ -15,6 +15,7 @@ using Json = nlohmann::json;
 
 constexpr int kMaxEventLength = 7 * 24 * 60;  // minutes
 
+// A station may be given by its number; the other fields are texts, and anything else counts as missing.
 std::string ShownTextOf(const Json& object, const char* key) {
   const auto found = object.find(key);
   if (found == object.end()) return {};
@@ -22,7 +23,8 @@ std::string ShownTextOf(const Json& object, const char* key) {
   return found->is_string() ? CleanText(found->get<std::string>()) : std::string();
 }
 
-// "2025-05-01T18:30:00Z", "2025-05-01 18:30".
+// "2025-05-01T18:30:00Z", "2025-05-01 18:30". Starts are in GMT; an offset such as "+02:00" is not understood
+// and makes the event invalid rather than wrong.
 std::optional<DateTime> ParseStart(std::string text) {
   if (text.ends_with('Z')) text.pop_back();
   std::replace(text.begin(), text.end(), 'T', ' ');
@@ -52,6 +54,7 @@ std::vector<SourceEvent> ReadEvents(const std::string& name, std::string_view te
     event.description = ShownTextOf(object, "description");
     const auto minutes = object.find("minutes");
     if (minutes != object.end() && minutes->is_number_integer()) {
+      // Clamped in 64 bits first: a length of 10^12 minutes must not wrap around to a plausible one.
       event.minutes =
           static_cast<int>(std::clamp<std::int64_t>(minutes->get<std::int64_t>(), 0, kMaxEventLength));
     }

@@ -8,6 +8,8 @@
 namespace sonaro {
 namespace {
 
+// Output grows by this much at a time. The size that a gzip trailer claims is never used: it is modulo 2^32
+// and under the control of whoever made the file.
 constexpr std::size_t kChunk = 1 << 20;
 
 // Owns zlib's state for one pass.
@@ -27,6 +29,9 @@ class Inflater {
   bool ready_ = false;
 };
 
+// A gzip file is a series of members, each a complete stream; "cat a.gz b.gz" makes one of two, and log
+// rotation tools do. The texts of all members are joined. The limit is tested after every chunk, so that a
+// file that unpacks to a thousand times its size is given up after a megabyte too much.
 GunzipStatus Inflater::Run(std::string_view bytes, std::size_t limit, std::string& unpacked) {
   if (!ready_) return GunzipStatus::Damaged;
   std::size_t taken = 0;

@@ -19,7 +19,8 @@ std::string TextOf(const Json& object, const char* key) {
   return found != object.end() && found->is_string() ? found->get<std::string>() : std::string();
 }
 
-// Old recordings hold numbers as texts.
+// Numbers come as JSON numbers, as booleans (for "hls" and "lastcheckok") or, in old recordings, as texts.
+// Unsigned values beyond 63 bits are cut to the largest.
 std::optional<std::int64_t> NumberOf(const Json& object, const char* key) {
   const auto found = object.find(key);
   if (found == object.end()) return std::nullopt;
@@ -52,6 +53,9 @@ std::vector<std::string> ListOf(const Json& object, const char* key, char separa
   return items;
 }
 
+// The keys are those of the public radio database, which most JSON lists follow; "urls" and "tags" may also
+// be arrays. "url_resolved" is where "url" led when it was tried, and comes second: what a station calls its
+// address outlives the server that it points at today.
 SourceStation StationFrom(const Json& object) {
   SourceStation station;
   station.name = TextOf(object, "name");
@@ -87,8 +91,10 @@ void ReadObject(std::string_view text, std::string place, std::vector<SourceStat
   stations.back().place = std::move(place);
 }
 
-// The end of the object that begins at `start` (one behind its closing brace), npos when it is never closed.
-// Finding the ends first keeps the entries around a broken one, and the memory small.
+// Returns one behind the closing brace of the object that begins at `start`, npos when it is never closed.
+// An array of a hundred thousand stations is cut into its objects by counting braces, and each is parsed
+// alone: a broken one does not cost the others, and only one parsed tree is in memory. Braces inside strings
+// do not count, and a backslash takes the next character with it.
 std::size_t EndOfObject(std::string_view text, std::size_t start) {
   int depth = 0;
   bool inText = false;
@@ -123,6 +129,7 @@ void ReadJsonArray(const SourceText& source, std::vector<SourceStation>& station
   for (std::size_t start = source.text.find('{'); start != std::string_view::npos;) {
     ++number;
     const std::size_t end = EndOfObject(source.text, start);
+    // Nothing behind an unclosed object can be trusted: its braces may belong to anything.
     if (end == std::string_view::npos) {
       skips.Skip(source.PlaceAt(number), source.text.substr(start, 80), kBroken);
       return;

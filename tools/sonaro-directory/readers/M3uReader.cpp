@@ -1,3 +1,6 @@
+// An M3U list is one address a line; lines that begin with "#" are comments, some of which have come to mean
+// something. An #EXTINF line tells about the next address, "# Homepage:" comments occur before and after it,
+// and "# Group:" holds for all entries until the next one.
 #include <optional>
 
 #include "base/Text.h"
@@ -23,6 +26,7 @@ void AddTags(std::vector<std::string>& tags, std::string_view text) {
   }
 }
 
+// Attributes that players of TV lists have introduced; there is no standard, and unknown ones are ignored.
 void TakeAttribute(std::string_view key, std::string_view value, SourceStation& entry) {
   if (EqualIgnoringCase(key, "group-title")) AddTags(entry.tags, value);
   if (EqualIgnoringCase(key, "tvg-name")) entry.name = value;
@@ -68,6 +72,7 @@ void ReadM3u(const SourceText& source, std::vector<SourceStation>& stations, Ski
     if (line.empty()) continue;
     if (StartsWithIgnoringCase(line, "#EXTINF:")) {
       if (!entry.place.empty()) skips.Skip(entry.place, entry.name, "without an address");
+      // A home page may stand before its #EXTINF line, so it survives the start of the entry.
       std::string webSite = std::move(entry.webSite);
       entry = SourceStation{};
       entry.webSite = std::move(webSite);
@@ -80,6 +85,8 @@ void ReadM3u(const SourceText& source, std::vector<SourceStation>& stations, Ski
     } else {
       entry.place = source.PlaceAt(number);
       entry.addresses.emplace_back(line);
+      // The group of the list is the weakest statement: it is used only where the entry says nothing of its
+      // own.
       if (entry.tags.empty() && !group.empty()) entry.tags.push_back(group);
       stations.push_back(std::move(entry));
       entry = SourceStation{};

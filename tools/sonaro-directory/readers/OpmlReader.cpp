@@ -29,6 +29,8 @@ SourceStation StationFrom(const XmlElement& outline, std::string address) {
   return station;
 }
 
+// The folders around a station are what it can be classified by. Only the innermost count: a list with
+// hundreds of nested folders would else give each station hundreds of tags.
 std::vector<std::string> TagsFrom(const std::vector<OpenOutline>& open, const XmlElement& outline) {
   constexpr std::size_t kInnermost = 8;
   std::vector<std::string> tags;
@@ -62,6 +64,7 @@ void ReadOpml(const SourceText& source, std::vector<SourceStation>& stations, Sk
     } else if (element->isEmpty) {
       skips.Skip(place, element->Value({"text", "title"}), "without an address");
     }
+    // A station may hold further outlines, so it is noted as open like a folder.
     if (!element->isEmpty) open.push_back({element->Value({"text", "title"}), isStation});
   }
   // What stands before the damage has been read.

@@ -41,7 +41,8 @@ std::optional<PlsKey> ParseKey(std::string_view line) {
   return std::nullopt;
 }
 
-// The entries by their number, which gives their order.
+// Returns the entries by their number. "File2=" and "Title2=" belong together by it, wherever they stand, and
+// it gives the order. A line without a key continues the title before it: some lists break long titles.
 std::map<std::int64_t, PlsEntry> ReadEntries(std::string_view text) {
   std::map<std::int64_t, PlsEntry> entries;
   std::string* lastTitle = nullptr;
@@ -68,6 +69,8 @@ std::map<std::int64_t, PlsEntry> ReadEntries(std::string_view text) {
 }  // namespace
 
 void ReadPls(const SourceText& source, std::vector<SourceStation>& stations, SkipLog& skips) {
+  // Large stations publish one list with an entry for each of their servers, "(#1 - 5/300) Name". These
+  // become one station with several addresses.
   std::map<std::string, std::size_t> mirrors;  // key of the name -> index in `stations`
   for (auto& [number, entry] : ReadEntries(source.text)) {
     const std::string place = source.PlaceAt(entry.line);

@@ -1,3 +1,6 @@
+// Sources are told apart by what is in them, never by the ending of their names: lists come from a pipe, as
+// "download", or as ".txt". The tests go from the most to the least certain; M3U comes last because any text
+// with an address in its first line passes for one.
 #include "readers/ReadSource.h"
 
 #include <algorithm>
@@ -16,6 +19,7 @@
 namespace sonaro {
 namespace {
 
+// Unpacked: a guard against files made to fill the memory, far above any real list.
 constexpr std::size_t kMaxSourceSize = std::size_t{1} << 30;
 constexpr int kMaxLayers = 2;  // gzip inside gzip happens; more is an attack
 
@@ -45,6 +49,8 @@ SourceFormat RecogniseMarkup(std::string_view text, std::string& why) {
   return SourceFormat::NotAList;
 }
 
+// The same ending and the same first line serve for the pieces of one HLS stream, where every "address" is
+// ten seconds of sound.
 SourceFormat RecogniseM3u(std::string_view text, std::string& why) {
   if (text.find("#EXT-X-TARGETDURATION") != std::string_view::npos ||
       text.find("#EXT-X-STREAM-INF") != std::string_view::npos) {
@@ -66,6 +72,7 @@ SourceFormat RecogniseFormat(std::string_view text, std::string& why) {
   if (text.front() == '<') return RecogniseMarkup(text, why);
   if (text.front() == '{') return SourceFormat::JsonLines;
   if (StartsWithIgnoringCase(text.substr(0, 64), "[playlist]")) return SourceFormat::Pls;
+  // "[playlist]" has been ruled out; a JSON array begins with an object, or is empty.
   if (text.front() == '[') {
     const std::size_t next = text.find_first_not_of(" \t\r\n", 1);
     if (next != std::string_view::npos && (text[next] == '{' || text[next] == ']'))
@@ -84,6 +91,7 @@ bool ReadFileBytes(const std::string& path, std::string& bytes) {
     return !std::cin.bad();
   }
   std::error_code error;
+  // On Linux a folder can be opened as a file and reads as empty, which would be taken for an empty list.
   if (std::filesystem::is_directory(path, error)) return false;
   std::ifstream file(path, std::ios::binary);
   if (!file) return false;

@@ -9,6 +9,8 @@ namespace {
 
 constexpr std::string_view kFrontPage = "index.html";
 constexpr std::string_view kPrivacyPage = "privacy.html";
+// A page is its title, a line feed and the HTML of its body. The mark stands in the front page where the list
+// of all other pages goes.
 constexpr std::string_view kContents = "<!--contents-->\n";
 
 std::string_view TitleOf(const PageSource& page) { return page.text.substr(0, page.text.find('\n')); }

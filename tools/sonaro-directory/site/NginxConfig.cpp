@@ -64,6 +64,7 @@ http {
 std::string NginxConfig(const NginxSite& site) {
   std::string text(kTemplate);
   const auto put = [&text](std::string_view mark, std::string_view value) {
+    // Every occurrence. It ends because no value contains its own mark.
     for (std::string before; before != text;) {
       before = text;
       text = ReplaceFirst(text, mark, value);
@@ -74,6 +75,7 @@ std::string NginxConfig(const NginxSite& site) {
   put("{script}", site.updateScript);
   put("{update}", site.updateFile);
   put("{nothing}", site.nothingNewFile);
+  // Encoded just as installations encode it, since the server compares the query as it comes.
   put("{date}", UrlEncodeQuery(site.date));
   return text;
 }

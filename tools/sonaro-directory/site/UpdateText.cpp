@@ -1,3 +1,9 @@
+// The update is one text. Lines "::Key::value::" tell the installation about the service; then comes a
+// section for each file; then the date, for a signed update the serial number and the signature of everything
+// before it; and last the sentinel, by which an installation knows that nothing was cut off on the way.
+//
+// A section is the file's bytes between a line that starts it and one that ends it, so only files of CR LF
+// lines can travel (FitsInSection), and never tables, which are built from the list where they are used.
 #include "site/UpdateText.h"
 
 #include <algorithm>
@@ -20,8 +26,8 @@ bool IsTable(std::string_view name) {
                      [name](std::string_view ending) { return EndsWithIgnoringCase(name, ending); });
 }
 
-// The files that an update may bring, in the order of their names, the station list in front: should the rest
-// not come through, the list is there.
+// Returns the files that an update may bring in the order of their names, the station list in front: should
+// the rest not come through, the list is there.
 std::vector<std::string> NamesOf(DataFolder& data) {
   std::vector<std::string> names;
   for (std::string& name : data.FileSystem().List(data.Folder())) {
@@ -105,11 +111,14 @@ UpdateText MakeUpdateText(DataFolder& data, const UpdateRequest& request) {
   AddSections(data, update);
   update.bytes.append(update::kDate).append(request.date).append("::").append(kLineEnd);
   const bool isSigned = !request.secretKey.empty();
+  // The serial number before the signature, so that it is signed too: an old update could otherwise be played
+  // back under a new number.
   if (isSigned) AddSerial(request.serial, update);
   if (update.failure.empty() && isSigned) AddSignature(request.secretKey, update);
   update.bytes.append(update::kSentinel);
   if (update.failure.empty() && update.bytes.size() > update::kMaxBytes)
     update.failure = "The update is larger than an installation takes.";
+  // Never half an update: an installation could take it.
   if (!update.failure.empty()) update.bytes.clear();
   return update;
 }

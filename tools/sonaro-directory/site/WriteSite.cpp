@@ -12,11 +12,13 @@
 namespace sonaro {
 namespace {
 
+// Part of the addresses of the help pages, which installations have built in.
 constexpr std::string_view kHelpEdition = "/2/";
 constexpr std::string_view kPrivacyName = "privacy.html";
 constexpr std::size_t kDigitsOfName = 16;
 
-// The path of a service's address on its host.
+// The path of a service's address on its host. Where installations look is decided by the defaults built into
+// them, and the site is laid out after these.
 std::string PathOf(const setting::Text& address) {
   const std::string url = ServiceDefault(address);
   return url.substr(url.find('/', std::string_view("http://").size()));
@@ -30,6 +32,7 @@ std::vector<ServiceLine> ServiceLines(const std::string& host) {
   const auto line = [&host](const char* key, const setting::Text& address) {
     return ServiceLine{key, "http://" + host + PathOf(address)};
   };
+  // The spelling of the last key is the one that installations read.
   return {line("::UpdateURL::", setting::kUpdateUrl), line("::ProxyTest::", setting::kProxyTest),
           line("::HelpURL::", setting::kHelpUrl), line("::PriacyPol::", setting::kPrivacyPolicy)};
 }
@@ -92,6 +95,7 @@ SiteResult WriteSite(DataFolder& directory, DataFolder& site, const SiteOptions&
   server.date = options.date;
 
   SiteWriter writer(site, result);
+  // The update first and the configuration last: a server is not told of a file before it is there.
   writer.PutPublic(server.updateFile, update.bytes);
   writer.PutPublic(server.nothingNewFile, "Nothing is newer.\r\n");
   writer.PutPublic(PathOf(setting::kProxyTest), ServiceDefault(setting::kProxyTestText) + "\r\n");

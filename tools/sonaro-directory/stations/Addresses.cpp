@@ -11,15 +11,21 @@
 namespace sonaro {
 namespace {
 
+// Addresses come from strangers and end up on the command line of a player. What is refused here is what a
+// player could take for a switch or a second argument, what cannot be an address, and what is certain not to
+// answer.
 constexpr std::size_t kMaxAddressLength = 2000;
+// An address of this length is likely to carry a session, which ends; it stays, but comes last.
 constexpr std::size_t kSuspiciousLength = 300;
 
+// What players open. "icy" is HTTP by another name and becomes "http" (Check).
 constexpr std::array<std::string_view, 11> kStreamSchemes = {"http",  "https", "mms",  "mmsh", "mmst", "rtsp",
                                                              "rtsps", "rtspt", "rtmp", "pnm",  "icy"};
 constexpr std::array<std::string_view, 2> kWebSchemes = {"http", "https"};
 
 bool IsControlOrBlank(char c) { return static_cast<unsigned char>(c) <= 0x20 || c == 0x7F; }
 
+// Also "%20" in front: a blank that was copied with the address and encoded by a form.
 std::string_view TrimControls(std::string_view text) {
   for (;;) {
     if (!text.empty() && IsControlOrBlank(text.front())) {
@@ -85,11 +91,14 @@ std::string_view ProblemOf(std::string_view address, std::span<const std::string
     return "a kind of address that cannot be opened";
   }
   if (address.find("${") != std::string_view::npos) return "a placeholder that nobody filled in";
+  // Proxies and redirectors hold an address within the address, which is fine; more are a generator gone
+  // wrong.
   if (CountOf(address, "://") > 3) return "repeats itself";
   if (!IsUsableHost(Authority(address))) return "no host in the address";
   return {};
 }
 
+// Only "&amp;" is decoded. In an address any other "&name;" may be a parameter that is meant as it stands.
 std::string WithPlainAmpersands(std::string_view text) {
   std::string result(text);
   for (std::size_t at = result.find("&amp;"); at != std::string::npos; at = result.find("&amp;", at + 1)) {
@@ -111,6 +120,8 @@ CheckedAddress Check(std::string_view raw, std::span<const std::string_view> sch
   return {std::move(address), problem};
 }
 
+// Higher is worse. A playlist needs another request before anything is heard, a numeric host changes when the
+// station moves, and a very long address is likely to have expired; each outweighs all before it together.
 int Disadvantage(const std::string& address) {
   const std::string ending = AddressEnding(address);
   const bool playlist =
@@ -137,6 +148,8 @@ std::string HostOfAddress(std::string_view address) {
   return folded;
 }
 
+// Two addresses are the same stream when they differ only in scheme, in the letter case of the host and in
+// slashes at the end. The path keeps its letter case: servers tell it apart.
 std::string AddressKey(std::string_view address) {
   const std::string_view authority = Authority(address);
   if (authority.empty()) return std::string(address);

@@ -9,6 +9,7 @@
 namespace sonaro {
 namespace {
 
+// Name and address at the end make the order total: two runs over the same lists write the same files.
 void SortBestFirst(std::vector<DirectoryStation>& stations) {
   const auto rank = [](const DirectoryStation& station) {
     return std::tuple(-station.ratings.popularity, -station.ratings.quality,
@@ -22,6 +23,9 @@ void SortBestFirst(std::vector<DirectoryStation>& stations) {
 
 BuiltDirectory BuildDirectory(std::vector<SourceStation> stations, std::size_t limit,
                               const EarlierIds& earlier, MakeLogs& logs) {
+  // The order of the steps matters. Stations are cleaned before they are joined, since joining compares names
+  // and addresses; they are located all together, since regions that are in no table are recognised by how
+  // many stations name them; identifiers come last, when it is known which stations stay.
   std::erase_if(stations, [&](SourceStation& station) { return !CleanStation(station, logs); });
   BuiltDirectory built;
   built.joined = JoinSameStations(stations);

@@ -11,6 +11,7 @@
 namespace sonaro {
 namespace {
 
+// Bytes. What is longer is cut at a character, and blanks at the cut are dropped.
 constexpr std::size_t kMaxNameLength = 200;
 constexpr std::size_t kMaxTagLength = 60;
 constexpr std::size_t kMaxSloganLength = 200;
@@ -33,6 +34,8 @@ void CleanAddresses(SourceStation& station, SkipLog& log) {
       usable.push_back(std::move(checked.address));
     }
   }
+  // The identifier is computed from the first address as the list gave it. Sorting the addresses by how well
+  // they play must not change it.
   if (!usable.empty()) station.firstAddress = usable.front();
   station.addresses = BestFirst(std::move(usable));
 }
@@ -51,6 +54,8 @@ void CleanTags(SourceStation& station) {
     for (const std::string_view part : Split(raw, ';')) {
       std::string tag = CleanText(DecodeEntities(part));
       while (tag.starts_with('#') || tag.starts_with(' ')) tag.erase(0, 1);
+      // A tag that is too long is dropped, not cut: half a sentence would be classified as something it does
+      // not say.
       if (tag.empty() || tag.size() > kMaxTagLength || tags.size() == kMaxTags) continue;
       if (seen.insert(MatchKey(tag)).second) tags.push_back(std::move(tag));
     }
@@ -58,6 +63,7 @@ void CleanTags(SourceStation& station) {
   station.tags = std::move(tags);
 }
 
+// The same names that CodecIn gives, so that codecs from all sources compare equal.
 std::string CodecByEnding(const std::string& address) {
   const std::string ending = AddressEnding(address);
   if (ending == ".mp3") return "MP3";
@@ -71,7 +77,8 @@ std::string CodecByEnding(const std::string& address) {
   return {};
 }
 
-// The bit rates that a codec's streams have; a number outside means something else, mostly a picture with it.
+// kbit/s that streams of a codec can have. A number outside this range means something else, mostly that
+// there is a picture with the sound.
 bool IsPossibleBitRate(std::int64_t rate, const std::string& codec) {
   if (codec == "MP3") return rate >= 8 && rate <= 320;
   if (codec == "AAC" || codec == "AAC+" || codec == "OPUS") return rate >= 8 && rate <= 330;
@@ -97,6 +104,7 @@ void CleanSound(SourceStation& station) {
   }
   if (station.codec.empty()) station.codec = CodecIn(station.name);
   if (station.bitRate <= 0) station.bitRate = BitRateIn(station.name);
+  // Before the check of the range, which would drop it.
   if (station.bitRate >= 16000) station.bitRate /= 1000;  // typed in bit/s
   if (station.codec == "OGG") station.codec = CodecInOgg(station);
   if (!IsPossibleBitRate(station.bitRate, station.codec)) station.bitRate = 0;
@@ -111,6 +119,7 @@ bool CleanStation(SourceStation& station, MakeLogs& logs) {
     logs.entries.Skip(station.place, station.name, "without a usable address");
     return false;
   }
+  // After the addresses were checked: the host of a usable address is the best name there is.
   if (station.name.empty()) station.name = HostOfAddress(station.addresses.front());
   CleanWebSite(station, logs.addresses);
   CleanTags(station);

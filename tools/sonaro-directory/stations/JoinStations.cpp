@@ -1,3 +1,10 @@
+// Lists overlap, and one list may hold a station several times. Two entries are the same station when their
+// names have the same key and they share an address. The name alone is not enough ("Radio One" exists
+// everywhere), nor is the address: one server can carry several programmes that are told apart by name only.
+//
+// One pass with a hash map of "name, address" keys. The first entry wins each field; a later one fills what
+// is empty and adds its addresses. Two entries that only a third one connects stay separate when the third
+// comes last: it is joined with the first that it matches.
 #include "stations/JoinStations.h"
 
 #include <algorithm>
@@ -29,6 +36,7 @@ void JoinInto(SourceStation& station, SourceStation& other) {
     }
   }
   station.addresses = BestFirst(std::move(station.addresses));
+  // Together: the code of one entry with the country of another could contradict each other.
   if (station.countryCode.empty() && station.country.empty()) {
     station.countryCode = std::move(other.countryCode);
     station.country = std::move(other.country);
@@ -67,6 +75,8 @@ std::size_t JoinSameStations(std::vector<SourceStation>& stations) {
     } else {
       JoinInto(joined[index], station);
     }
+    // The addresses that the entry brought lead to the station from now on too; keys that are known keep
+    // theirs.
     for (std::string& key : keys) known.emplace(std::move(key), index);
   }
   const std::size_t gone = stations.size() - joined.size();

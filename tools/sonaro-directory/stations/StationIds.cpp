@@ -1,3 +1,12 @@
+// Identifiers are what favourites, schedules and recent lists of users refer to, for years. A station must
+// keep its identifier from one directory to the next although nothing in the sources says which it is.
+//
+// Two things serve that. An identifier is a hash of name and first address, so that the same station gets the
+// same one even without the directory before. And with --previous the earlier identifier is looked up by name
+// and any address, or by name and web site, so that it survives a move to another server.
+//
+// Stations take their identifiers in the order of their identities, not of their quality: the hash of a
+// station can be taken, and who then moves on must not depend on last week's clicks.
 #include "stations/StationIds.h"
 
 #include <algorithm>
@@ -25,6 +34,8 @@ EarlierIds::EarlierIds(std::string_view stationList, const ScramblingAlphabets& 
   constexpr std::size_t kColumns = StationRecord::kFieldCount + 1;
   const std::vector<std::string_view> lines = SplitLines(stationList);
   StationLine station;
+  // Whoever builds the table lets the last line of an identifier win, so the others must not count here
+  // either.
   std::unordered_map<std::int32_t, std::string_view> lastLines;  // of several with one identifier
   for (const std::string_view line : lines) {
     if (ParseStationLine(line, station)) lastLines[station.id] = line;
@@ -33,6 +44,7 @@ EarlierIds::EarlierIds(std::string_view stationList, const ScramblingAlphabets& 
     const std::vector<std::string_view> columns = SplitAtMost(line, '\t', kColumns);
     if (columns.size() < kColumns || !ParseStationLine(line, station)) continue;
     const std::int32_t id = station.id;
+    // Compared by address: the texts of two lines can be equal.
     if (lastLines[id].data() != line.data()) continue;
     ids_.insert(id);
     const auto plain = [&](StationField field) {
@@ -50,6 +62,7 @@ EarlierIds::EarlierIds(std::string_view stationList, const ScramblingAlphabets& 
   }
 }
 
+// By address before web site: several stations of one network share a web site more often than an address.
 std::int32_t EarlierIds::Find(const SourceStation& station) const {
   for (const std::string& address : station.addresses) {
     const auto found = byNameAndAddress_.find(Identity(station.name, address));
@@ -73,11 +86,13 @@ void AssignIds(std::vector<DirectoryStation>& stations, const EarlierIds& earlie
   std::unordered_set<std::int32_t> taken;
   for (const std::size_t index : order) {
     const std::int32_t id = earlier.Find(stations[index].source);
+    // Two stations may match one earlier station; the second of them is treated as new.
     if (id != 0 && taken.insert(id).second) stations[index].id = id;
   }
   for (const std::size_t index : order) {
     if (stations[index].id != 0) continue;
     stations[index].id = FirstFreeId(IdNumber(identities[index]), [&](std::int32_t id) {
+      // Not even an identifier that is free now: a favourite of a station that went would play a stranger.
       return taken.count(id) == 0 && !earlier.Has(id);
     });
     stations[index].isNew = true;

@@ -37,6 +37,8 @@ bool TakesArticle(std::string_view country) {
          std::find(kPlain.begin(), kPlain.end(), country) != kPlain.end();
 }
 
+// "Berlin, Germany", "the Netherlands", or with a town that the list named "Kiel, Schleswig-Holstein,
+// Germany".
 std::string WhereFrom(const StationPlace& place) {
   const std::string text = place.Text();
   if (place.country && text == place.country->name) return (TakesArticle(text) ? "the " : "") + text;
@@ -80,6 +82,9 @@ std::string MediaTypeOf(const SourceStation& station) {
   return station.segmented ? "HLS" : "";
 }
 
+// Puts together what the lists tell: "Slogan. Rock and blues in English from Ohio, United States. MP3 at 128
+// kbit/s." Every part may be missing. The description is searched too, so it repeats words of the other
+// fields.
 std::string DescriptionOf(const DirectoryStation& station) {
   const SourceStation& source = station.source;
   std::string text = source.slogan;
@@ -106,6 +111,7 @@ StationRecord RecordOf(const DirectoryStation& station, LinkPlayer player,
   record[StationField::Location] = station.place.Text();
   record[StationField::Format] = station.genres.Format();
   record[StationField::Description] = DescriptionOf(station);
+  // A record has room for four addresses, best first.
   constexpr std::array<StationField, 4> kLinks = {StationField::LinkOne, StationField::LinkTwo,
                                                   StationField::LinkThree, StationField::AlternateLink};
   for (std::size_t i = 0; i < kLinks.size() && i < source.addresses.size(); ++i) {

@@ -13,11 +13,17 @@
 namespace sonaro {
 namespace {
 
+// Everything that shows as a gap or as nothing and separates words: control characters, also the C1 controls
+// that appear when text in another encoding was taken for Latin-1, and the blanks of Unicode.
 bool IsSpaceLike(char32_t c) {
   return c <= 0x20 || (c >= 0x7F && c <= 0xA0) || c == 0x1680 || (c >= 0x2000 && c <= 0x200A) ||
          c == 0x2028 || c == 0x2029 || c == 0x202F || c == 0x205F || c == 0x3000;
 }
 
+// Characters that show nothing and separate nothing: soft hyphen, zero-width space, marks of writing
+// direction, byte order mark, tags, noncharacters. They are removed: a hidden direction mark can turn the
+// rest of a line in a terminal or a list box around. Joiners (U+200C, U+200D) stay, since Persian and Hindi
+// spell with them.
 bool IsInvisible(char32_t c) {
   return c == 0xAD || c == 0x200B || c == 0x200E || c == 0x200F || (c >= 0x202A && c <= 0x202E) ||
          c == 0x2060 || (c >= 0x2066 && c <= 0x2069) || c == 0xFEFF || (c >= 0xFFF9 && c <= 0xFFFB) ||
@@ -36,6 +42,7 @@ constexpr std::array<std::pair<std::string_view, std::string_view>, 38> kBaseLet
     {"", "ʹʺ"},          {"a", "ạảấầẩẫậắằẳẵặ"}, {"e", "ẹẻẽếềểễệ"},
 }};
 
+// From each accented letter to its base. Apostrophes have the empty base: they vanish from a key.
 const std::map<char32_t, std::string_view>& BaseLetters() {
   static const std::map<char32_t, std::string_view> letters = [] {
     std::map<char32_t, std::string_view> map;
@@ -52,13 +59,16 @@ bool IsAsciiAlphanumeric(char32_t c) {
   return (c >= '0' && c <= '9') || (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z');
 }
 
-// Punctuation and symbols outside ASCII that separate words.
+// Punctuation and symbols outside ASCII that separate words. U+00AA, U+00B5 and U+00BA are left out: they are
+// letters. From U+1F000 on there are pictures.
 bool IsWidePunctuation(char32_t c) {
   return (c >= 0x80 && c < 0xC0 && c != 0xAA && c != 0xB5 && c != 0xBA) || c == 0xD7 || c == 0xF7 ||
          (c >= 0x2000 && c <= 0x2BFF) || (c >= 0x3000 && c <= 0x303F) || (c >= 0xFF00 && c <= 0xFF0F) ||
          (c >= 0xFF1A && c <= 0xFF20) || (c >= 0xFE00 && c <= 0xFE0F) || c >= 0x1F000;
 }
 
+// One character of a match key: letters and digits without accents; a run of anything else is one blank. An
+// apostrophe vanishes, so that "Rock'n'Roll" and "RocknRoll" are equal.
 void AppendKeyCharacter(std::string& key, char32_t c) {
   if (c < 0x80) {
     if (IsAsciiAlphanumeric(c)) {
@@ -79,7 +89,10 @@ void AppendKeyCharacter(std::string& key, char32_t c) {
   }
 }
 
-// The character that the reference between '&' and ';' stands for; 0 when it is none.
+// Only what lists really contain: the five names of XML, "nbsp", and numbers. Surrogates and numbers beyond
+// Unicode are refused, since they cannot be written as UTF-8.
+//
+// Returns the character that the reference between '&' and ';' stands for, 0 when it is not a valid one.
 char32_t ReferencedCharacter(std::string_view name) {
   constexpr std::array<std::pair<std::string_view, char32_t>, 6> kNamed = {
       {{"amp", '&'}, {"lt", '<'}, {"gt", '>'}, {"quot", '"'}, {"apos", '\''}, {"nbsp", ' '}}};
@@ -118,6 +131,7 @@ std::string CleanText(std::string_view text) {
   return clean;
 }
 
+// Decodes once. "&amp;amp;" becomes "&amp;" and no more.
 std::string DecodeEntities(std::string_view text) {
   constexpr std::size_t kMaxReferenceLength = 10;
   std::string decoded;
@@ -147,6 +161,7 @@ std::string MatchKey(std::string_view text) {
   return key;
 }
 
+// A name of nothing but signs ("+++") has an empty match key, and all such names would count as one station.
 std::string NameKey(std::string_view name) {
   std::string key = MatchKey(name);
   return key.empty() ? FoldCase(name) : key;
@@ -157,6 +172,8 @@ std::vector<std::string_view> KeyWords(std::string_view key) {
   return Split(key, ' ');
 }
 
+// Latin-1, Greek and Cyrillic small letters have their capitals at a fixed distance; other scripts have none
+// or are left as they are. The final sigma (U+03C2) has no capital of its own in that place.
 std::string Capitalized(std::string_view text) {
   if (text.empty()) return {};
   std::size_t position = 0;

@@ -42,6 +42,8 @@ std::string DecodeFileText(std::string_view bytes) {
   if (broken == 0) return std::string(bytes);
   std::string text;
   text.reserve(bytes.size() + broken * 2);
+  // Mostly UTF-8: the broken bytes are replaced. Else the file is taken for Windows-1252, which any bytes
+  // are.
   if (characters >= broken) {
     for (std::size_t position = 0; position < bytes.size();) AppendUtf8(text, NextCharacter(bytes, position));
     return text;

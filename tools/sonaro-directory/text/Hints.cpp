@@ -10,6 +10,7 @@
 namespace sonaro {
 namespace {
 
+// kbit/s. Numbers outside are frequencies, years or channel numbers that happen to stand before a unit.
 constexpr std::int64_t kLeastBitRate = 16;
 constexpr std::int64_t kHighestBitRate = 1536;
 
@@ -34,6 +35,8 @@ std::int64_t PlausibleRate(std::string_view digits) {
 }  // namespace
 
 std::optional<MirrorTitle> ParseMirrorTitle(std::string_view title) {
+  // The first bracket that has the form of a mark counts: "Radio (Berlin) (#2 128 mp3)" has another before
+  // it. A mark is "#" and a number, or both a bit rate and a codec.
   for (std::size_t open = title.find('('); open != std::string_view::npos; open = title.find('(', open + 1)) {
     const std::size_t close = title.find(')', open);
     if (close == std::string_view::npos) return std::nullopt;
@@ -62,6 +65,7 @@ std::int64_t BitRateIn(std::string_view text) {
     const std::size_t digits = std::min(words[i].find_first_not_of("0123456789"), words[i].size());
     const std::string_view number = words[i].substr(0, digits);
     if (!IsDigits(number)) continue;
+    // The unit is the rest of the word ("128k") or the next word ("128 kbps").
     const std::string_view unit = digits < words[i].size() ? words[i].substr(digits)
                                   : i + 1 < words.size()   ? words[i + 1]
                                                            : "";
@@ -80,6 +84,7 @@ std::string CodecIn(std::string_view text) {
                                                                                     {"opus", "OPUS"},
                                                                                     {"flac", "FLAC"},
                                                                                     {"mpeg", "MP3"}}};
+  // Before the words are looked at: in a match key the plus sign is gone.
   if (ContainsIgnoringCase(text, "aac+")) return "AAC+";
   const std::string key = MatchKey(text);
   for (const std::string_view word : KeyWords(key)) {
@@ -93,6 +98,7 @@ std::string CodecIn(std::string_view text) {
 std::string AddressEnding(std::string_view address) {
   const std::size_t scheme = address.find("://");
   std::string_view path = scheme == std::string_view::npos ? address : address.substr(scheme + 3);
+  // A semicolon as well: old stream servers answer "/;stream.mp3" to browsers, which is no file name.
   path = path.substr(0, path.find_first_of("?#;"));
   const std::size_t slash = path.rfind('/');
   if (slash == std::string_view::npos) return {};
