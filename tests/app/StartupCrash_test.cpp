@@ -25,7 +25,7 @@ void DieAtEveryMoment(bool updateWaits) {
     DataFolder data(files, "/d", '/');
     CReg reg(*registry);
     FakeMessagePost messages;
-    JournalSystem system(journal);
+    FakeSystemInfo system;
     FakeShell shell;
     FakeStrings strings;
     StatList stations(data);

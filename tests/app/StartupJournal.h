@@ -16,7 +16,7 @@
 
 namespace sonaro {
 
-// What happened, in order, over all the fakes.
+// What happened, in order, over all the fakes: what was shown, asked and written.
 using Journal = std::vector<std::string>;
 
 class JournalRegistry : public FakeRegistry {
@@ -25,11 +25,6 @@ class JournalRegistry : public FakeRegistry {
   bool CreateKey(RootKey root, const std::string& key) override {
     journal_.push_back("create key");
     return FakeRegistry::CreateKey(root, key);
-  }
-  std::optional<std::string> ReadValue(RootKey root, const std::string& key,
-                                       const std::string& name) override {
-    journal_.push_back("read " + (name.empty() ? key.substr(key.rfind('\\') + 1) : name));
-    return FakeRegistry::ReadValue(root, key, name);
   }
   bool WriteValue(RootKey root, const std::string& key, const std::string& name, ValueType type,
                   std::string_view bytes) override {
@@ -51,18 +46,6 @@ class JournalMessages : public FakeMessagePost {
   bool EarlierInstanceRuns() override {
     journal_.push_back("earlier instance?");
     return FakeMessagePost::EarlierInstanceRuns();
-  }
-
- private:
-  Journal& journal_;
-};
-
-class JournalSystem : public FakeSystemInfo {
- public:
-  explicit JournalSystem(Journal& journal) : journal_(journal) {}
-  std::string FormattedEightAndAHalf() override {
-    journal_.push_back("8.5");
-    return FakeSystemInfo::FormattedEightAndAHalf();
   }
 
  private:
