@@ -1,6 +1,5 @@
 #include "mainwindow/frmPersonalStation.h"
 
-#include "base/Text.h"
 #include "forms/ControlIds.h"
 #include "forms/DialogRows.h"
 #include "resources/texts/app.h"
@@ -8,7 +7,6 @@
 #include "settings/FileWords.h"
 #include "settings/HelpPages.h"
 #include "settings/Message.h"
-#include "stations/OwnLink.h"
 #include "stations/PlayLink.h"
 
 namespace sonaro {
@@ -78,34 +76,31 @@ void frmPersonalStation::ShowError(const char* key, int text) {
 }
 
 void frmPersonalStation::butOKIt_Click() {
-  station_.name = Text(txtStationName);
-  bool anyLink = false;
-  for (int link = 0; link < 3; ++link) {
-    std::string& stored = station_.links[static_cast<std::size_t>(link)];
-    const auto linkText = OwnLinkFromField(Text(txtLink + link), stored);
-    if (!linkText) {
+  PersonalStation typed;
+  typed.name = Text(txtStationName);
+  for (int link = 0; link < 3; ++link) typed.links[static_cast<std::size_t>(link)] = Text(txtLink + link);
+  typed.webSite = Text(txtWebSite);
+  typed.type = Text(txtType);
+  typed.note = Text(txtStationNote);
+  const StationEntry entry = ReadEntry(station_, std::move(typed));
+  switch (entry.fault) {
+    case EntryFault::BadLink:
       ShowError("PersonalStationLink", IDS_DLG_OWN_BAD_LINK);
-      Focus(txtLink + link);
-      return;
-    }
-    stored = *linkText;
-    anyLink = anyLink || !stored.empty();
+      return Focus(txtLink + static_cast<int>(entry.link));
+    case EntryFault::NoName:
+    case EntryFault::NoLink:
+      ShowError("ToAddMorePersonalStationYouNeedMoreInfo", IDS_DLG_OWN_NEED_MORE);
+      return Focus(entry.fault == EntryFault::NoName ? txtStationName : txtLink);
+    case EntryFault::None:
+      break;
   }
-  const bool noName = TrimBlanks(station_.name).empty();
-  if (noName || !anyLink) {
-    ShowError("ToAddMorePersonalStationYouNeedMoreInfo", IDS_DLG_OWN_NEED_MORE);
-    Focus(noName ? txtStationName : txtLink);
-    return;
-  }
-  station_.webSite = Text(txtWebSite);
-  station_.type = Text(txtType);
-  station_.note = Text(txtStationNote);
-  if (!SavedOrSaid(Save(), LoadText(IDS_FILE_STATIONS), messages_, context_.strings)) return;
-  Close(1);
+  const bool saved =
+      SavedOrSaid(Save(entry.station), LoadText(IDS_FILE_STATIONS), messages_, context_.strings);
+  if (saved) Close(1);
 }
 
-bool frmPersonalStation::Save() {
-  return station_.index == 0 ? stations_.Add(station_) != 0 : stations_.Change(station_);
+bool frmPersonalStation::Save(const PersonalStation& station) {
+  return station.index == 0 ? stations_.Add(station) != 0 : stations_.Change(station);
 }
 
 void frmPersonalStation::butHelp_Click() { help_.OpenHelpPage("9031.html"); }

@@ -26,7 +26,7 @@ class frmPersonalStation final : public Form {
   std::span<const EventRow> Events() const override;
   void OnLoad() override;
   void ShowError(const char* key, int text);
-  bool Save();
+  bool Save(const PersonalStation& station);
   void butOKIt_Click();
   void butCancelIt_Click() { Close(); }
   void butHelp_Click();
@@ -35,7 +35,7 @@ class frmPersonalStation final : public Form {
   PersonalStations& stations_;
   MessageBoxView& messages_;
   HelpPages& help_;
-  PersonalStation station_;
+  const PersonalStation station_;  // as it was when the dialog opened
 };
 
 }  // namespace sonaro

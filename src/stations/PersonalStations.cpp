@@ -37,6 +37,20 @@ PersonalStation Cleaned(const PersonalStation& station) {
   return clean;
 }
 
+StationEntry ReadEntry(const PersonalStation& shown, PersonalStation typed) {
+  bool anyLink = false;
+  for (std::size_t link = 0; link < typed.links.size(); ++link) {
+    const auto text = OwnLinkFromField(typed.links[link], shown.links[link]);
+    if (!text) return {EntryFault::BadLink, link, {}};
+    typed.links[link] = *text;
+    anyLink = anyLink || !text->empty();
+  }
+  if (TrimBlanks(typed.name).empty()) return {EntryFault::NoName, 0, {}};
+  if (!anyLink) return {EntryFault::NoLink, 0, {}};
+  typed.index = shown.index;
+  return {EntryFault::None, 0, std::move(typed)};
+}
+
 bool PersonalStations::Load() {
   if (file_.Look() == UserFile::Seen::Unreadable) return false;
   ReadFile();

@@ -42,6 +42,18 @@ struct PersonalStation {
 // file may hold one from earlier times, and playing it is refused with a word.
 PersonalStation Cleaned(const PersonalStation& station);
 
+// Why what was typed cannot be stored, in the order in which it is checked.
+enum class EntryFault { None, BadLink, NoName, NoLink };
+
+struct StationEntry {
+  EntryFault fault = EntryFault::None;
+  std::size_t link = 0;     // which one, of a BadLink
+  PersonalStation station;  // to be stored; only without a fault
+};
+
+// What the dialog's fields make of the station that they showed, where each link stands as its address alone.
+StationEntry ReadEntry(const PersonalStation& shown, PersonalStation typed);
+
 class PersonalStations {
  public:
   explicit PersonalStations(DataFolder& data) : file_(data, user_file::kStations) {}

@@ -232,5 +232,29 @@ TEST_F(OwnDataTest, SavingSurvivesACrashAnywhere) {
   EXPECT_GT(operations, 2);
 }
 
+TEST(StationEntries, AreCheckedFieldByFieldAndKeepHowALinkIsPlayed) {
+  const PersonalStation shown{
+      .index = 4, .name = "Old", .links = {"whttp://one.example/", "", "mhttp://three.example/"}};
+  const struct {
+    PersonalStation typed;
+    EntryFault fault;
+    std::size_t link;
+  } cases[] = {
+      {{.name = " ", .links = {"one.example", "nowhere", "C:\\a.mp3"}}, EntryFault::BadLink, 1},
+      {{.name = " ", .links = {"", "", ""}}, EntryFault::NoName, 0},
+      {{.name = "x", .links = {"", " ", ""}}, EntryFault::NoLink, 0},
+      {{.name = "x", .links = {"", "", "three.example"}}, EntryFault::None, 0},
+  };
+  for (const auto& each : cases) {
+    const StationEntry entry = ReadEntry(shown, each.typed);
+    EXPECT_EQ(entry.fault, each.fault) << each.typed.links[2];
+    EXPECT_EQ(entry.link, each.link) << each.typed.links[2];
+  }
+  const PersonalStation typed{.name = "New", .links = {"uno.example/", "two.example/x", ""}, .note = "n"};
+  const PersonalStation expected{
+      .index = 4, .name = "New", .links = {"whttp://uno.example/", "mhttp://two.example/x", ""}, .note = "n"};
+  EXPECT_EQ(ReadEntry(shown, typed).station, expected);
+}
+
 }  // namespace
 }  // namespace sonaro
