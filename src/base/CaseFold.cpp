@@ -29,6 +29,9 @@ struct FoldExpansion {
 
 #include "base/CaseFoldTable.inc"
 
+// The ranges are sorted by their first character and do not overlap: the last range that begins at or before
+// a character is the only one that can hold it. A step of 2 covers alphabets that alternate large and small
+// letters.
 constexpr char32_t FoldByRange(char32_t code) {
   const auto* range = std::upper_bound(std::begin(kFoldRanges), std::end(kFoldRanges), code,
                                        [](char32_t c, const FoldRange& r) { return c < r.first; });
@@ -105,6 +108,8 @@ std::string FoldCase(std::string_view text) {
 
 void AppendFoldCase(std::string& out, std::string_view text) {
   while (!text.empty()) {
+    // ASCII in runs, anything else a character at a time. A byte that is not UTF-8 stays as it is, so that
+    // folding never loses text of another encoding.
     const std::size_t run = AsciiRun(text);
     const auto start = static_cast<std::ptrdiff_t>(out.size());
     out.append(text.substr(0, run));
@@ -145,6 +150,7 @@ bool StartsWithIgnoringCase(std::string_view text, std::string_view start) {
   return FoldCase(text).starts_with(FoldCase(start));
 }
 
+// From the back, for the same reason: a byte below 0x80 is a whole character wherever it is met.
 bool EndsWithIgnoringCase(std::string_view text, std::string_view end) {
   while (!text.empty() && !end.empty() && IsAscii(text.back()) && IsAscii(end.back())) {
     if (FoldAscii(text.back()) != FoldAscii(end.back())) return false;

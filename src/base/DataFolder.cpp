@@ -11,6 +11,9 @@ namespace sonaro {
 DataFolder::DataFolder(Files& files, std::string folder, char separator)
     : files_(files), folder_(std::move(folder)), separator_(separator) {}
 
+// Names are written with backslashes everywhere in the program. On systems that tell letter case apart a file
+// may have been installed in another case than the program asks for; then each part of the path is looked up
+// in its folder.
 std::string DataFolder::Path(std::string_view name) const {
   std::string tail(name);
   std::replace(tail.begin(), tail.end(), '\\', separator_);
@@ -43,6 +46,8 @@ ReadResult DataFolder::Read(std::string_view name) {
   return result;
 }
 
+// A file that could not be read is not written either: what the program knows of it is empty, and saving that
+// would lose what the file holds.
 bool DataFolder::Save(std::string_view name, std::string_view bytes) {
   return !unreadable_.contains(FoldCase(name)) && SaveWholeFile(files_, Path(name), bytes);
 }
@@ -53,6 +58,8 @@ bool DataFolder::Replace(std::string_view from, std::string_view to) {
   return files_.Replace(Path(from), Path(to), Durability::Flushed);
 }
 
+// The bytes go to a temporary file beside the real one, are flushed to disk, and take its place with a
+// rename. A crash at any moment leaves the old file or the new one, at worst with a temporary file beside it.
 bool SaveWholeFile(Files& files, const std::string& path, std::string_view bytes) {
   const std::string temporary = TemporaryPath(path);
   std::unique_ptr<OutputFile> file = files.Create(temporary);

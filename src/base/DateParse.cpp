@@ -84,6 +84,8 @@ bool TakeByPattern(Cursor& cursor, std::string_view pattern, Date& date) {
   bool quoted = false;
   while (!pattern.empty()) {
     const char letter = pattern.front();
+    // A pattern is runs of letters ("dd", "yyyy"), separators, and texts in apostrophes; two apostrophes in a
+    // row leave the state as it was.
     const std::size_t run = std::min(pattern.find_first_not_of(letter), pattern.size());
     const std::string_view piece = pattern.substr(0, run);
     pattern.remove_prefix(run);
@@ -143,6 +145,8 @@ std::optional<DateTime> Attempt(std::string_view text, Take take) {
 
 }  // namespace
 
+// Month first, as the program itself writes dates, before the user's own pattern: files must read the same on
+// a machine where the day comes first.
 std::optional<DateTime> ParseDate(std::string_view text, std::string_view shortDatePattern) {
   if (const auto found = Attempt(text, TakeMonthDayYear)) return found;
   if (!shortDatePattern.empty()) {
@@ -155,6 +159,7 @@ std::optional<DateTime> ParseDate(std::string_view text, std::string_view shortD
   return Attempt(text, TakeLong);
 }
 
+// The other way round: what somebody types follows the settings of their system.
 std::optional<DateTime> ParseTypedDate(std::string_view text, std::string_view shortDatePattern) {
   const auto inOrder = [&](Cursor& cursor, Date& date) {
     return TakeInOrder(cursor, shortDatePattern, date);

@@ -81,6 +81,7 @@ std::int64_t SecondsBetween(const DateTime& from, const DateTime& to) {
          SecondOfDay(from.time);
 }
 
+// 0 is Monday.
 int Weekday(const Date& date) {
   const std::int64_t days = DaysFromEpoch(date) + 3;  // day 0 was a Thursday
   return static_cast<int>(days - FloorDivide(days, 7) * 7);
@@ -115,6 +116,7 @@ std::string FormatTime(const TimeOfDay& time, ClockStyle style) {
 
 std::string FormatTimeWithSeconds(const TimeOfDay& time) {
   std::string text = FormatTime(time, ClockStyle::Hours12);
+  // Before the blank and "AM" or "PM".
   return text.insert(text.size() - 3, ':' + Padded(time.second, 2));
 }
 
@@ -126,6 +128,8 @@ std::string FormatByPattern(const Date& date, std::string_view shortDatePattern)
     std::size_t run = shortDatePattern.find_first_not_of(letter, i);
     run = (run == std::string_view::npos ? shortDatePattern.size() : run) - i;
     i += run;
+    // One letter is the number as it is, two pad it to two digits; of years two letters are the last two
+    // digits.
     const int width = run == 1 ? 1 : 2;
     if (letter == '\'') {
       quoted ^= run % 2 == 1;

@@ -20,11 +20,13 @@ std::string_view TakeDigits(std::string_view& text) {
 
 }  // namespace
 
+// Lenient on purpose: a wrong number in a file must not keep the rest of its line from being read.
 std::int64_t NumberValue(std::string_view text) {
   text = TrimBlanks(text);
   const bool negative = text.starts_with('-');
   if (text.starts_with('+')) {
     text.remove_prefix(1);
+    // from_chars takes a minus of its own, so "+-5" would otherwise be a number.
     if (text.starts_with('-')) return 0;
   }
   std::int64_t value = 0;
@@ -43,6 +45,7 @@ bool IsNumeric(std::string_view text) {
   return !TakeDigits(text).empty() && text.empty();
 }
 
+// Strict, unlike NumberValue: an identifier with anything behind it is another one or none.
 bool ParseStationId(std::string_view text, std::int32_t& id) {
   text = TrimBlanks(text);
   if (text.starts_with('+')) {

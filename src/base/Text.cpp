@@ -59,6 +59,8 @@ std::string ReplaceFirst(std::string_view text, std::string_view part, std::stri
   return result;
 }
 
+// Looks back from the cut for the character that spans it. Text that is not UTF-8 has none and is cut
+// anywhere.
 std::string_view TruncateUtf8(std::string_view text, std::size_t maxBytes) {
   if (text.size() <= maxBytes) return text;
   constexpr std::size_t kMaxCharacterLength = 4;

@@ -35,6 +35,7 @@ std::string FileBytesOf(std::string_view text) {
 
 }  // namespace
 
+// A missing file is not a changed one: what was read before stays, and the next Save brings it back.
 UserFile::Seen UserFile::Look() {
   ReadResult read = data_.Read(name_);
   const bool first = !std::exchange(seen_, true);
@@ -70,6 +71,8 @@ bool UserFile::Save(std::string_view text) {
   return true;
 }
 
+// ".bad", ".bad2" to ".bad9"; a copy with the same bytes serves again. When all are taken the file stays
+// where it is and is treated as unreadable.
 bool UserFile::KeepBeside() {
   for (int copy = 1; copy <= kMaxCopies; ++copy) {
     const std::string beside = name_ + (copy == 1 ? ".bad" : ".bad" + std::to_string(copy));

@@ -21,6 +21,8 @@ Utf8Character DecodeUtf8(std::string_view text, std::size_t position) {
     if ((byte(i) & 0xC0) != 0x80) return {};
     code = (code << 6) | (byte(i) & 0x3Fu);
   }
+  // Forms that are longer than needed are refused as well: they would let a character slip past comparisons
+  // of bytes.
   const bool surrogate = code >= 0xD800 && code < 0xE000;
   if (code < smallest || code > 0x10FFFF || surrogate) return {};
   return {code, length};
@@ -57,6 +59,7 @@ Utf16Text DecodeUtf16(std::string_view bytes, bool bigEndian) {
     AppendUtf8(decoded.text, kReplacementCharacter);
     decoded.damaged = true;
   };
+  // Characters beyond U+FFFF are two units, a high and a low half. A half without its other half is damage.
   for (std::size_t i = 0; i + 1 < bytes.size(); i += 2) {
     const char32_t first = static_cast<unsigned char>(bytes[i]);
     const char32_t second = static_cast<unsigned char>(bytes[i + 1]);

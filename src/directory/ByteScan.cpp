@@ -1,3 +1,6 @@
+// All loops here have the same shape: whole vectors of sixteen bytes, then one last vector that ends where
+// the text ends and overlaps the one before, and byte by byte only for texts shorter than a vector. Nothing
+// outside the text is read, so a text may end at the end of a page.
 #include "directory/ByteScan.h"
 
 #include <bit>
@@ -6,6 +9,7 @@
 namespace sonaro {
 namespace {
 
+// The same folding as FoldAscii below; the two must agree.
 char FoldAsciiByte(char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c | 0x20) : c; }
 
 #if SONARO_SSE2
@@ -15,6 +19,7 @@ __m128i Load(const char* at) { return _mm_loadu_si128(reinterpret_cast<const __m
 
 std::uint32_t Mask(__m128i bytes) { return static_cast<std::uint32_t>(_mm_movemask_epi8(bytes)); }
 
+// The comparisons are of signed bytes. Bytes above ASCII are negative, hence below 'A', and stay as they are.
 __m128i FoldAscii(__m128i bytes) {
   const __m128i fromA = _mm_cmpgt_epi8(bytes, _mm_set1_epi8('A' - 1));
   const __m128i toZ = _mm_cmpgt_epi8(_mm_set1_epi8('Z' + 1), bytes);
@@ -45,6 +50,7 @@ inline void ForEachByte(const char* at, const char* end, char wanted, Found foun
     if (report(at, hitsIn(at))) return;
   }
   if (at != start) {  // the last sixteen bytes, without those that were looked at before
+    // The bits of bytes that were looked at before are shifted out, so that no place is reported twice.
     report(at, hitsIn(end - kVector) >> (kVector - (end - at)));
     return;
   }
@@ -72,6 +78,7 @@ const char* SkipWithout(const char* at, const char*, char) { return at; }
 
 }  // namespace
 
+// Lines are long compared with a vector, so the bytes before the match are first skipped in the cheapest way.
 std::size_t FindByte(std::string_view text, char wanted) {
   const char* const end = text.data() + text.size();
   const char* place = end;

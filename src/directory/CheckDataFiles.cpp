@@ -16,6 +16,8 @@ namespace sonaro {
 namespace {
 
 constexpr std::string_view kCategories = "\\cat.snr";
+// Without these the window would open empty: rankings, the station table's two files, the list of categories.
+// What is optional (alphabets, events, places, the user's files) does not count as missing.
 constexpr std::string_view kNeeded[] = {"\\fun.snr", "\\Statorg.isd", "\\Statorg.ism", kCategories};
 
 }  // namespace

@@ -1,3 +1,6 @@
+// Four lanes take the words in turn, so that the processor can work on four multiplications at a time instead
+// of waiting for each. The lanes start from different constants (digits of pi) and are mixed into one at the
+// end; a change in one word changes one lane for certain, and then the sum.
 #include "directory/Checksum.h"
 
 #include <cstring>
@@ -14,6 +17,8 @@ std::uint64_t WordAt(const char* bytes) {
 }
 
 // The last `length` bytes, less than a word of them, before `end`; `total` bytes stand there in all.
+// Reading the whole word that ends at `end` and shifting is one load. Only a text shorter than a word would
+// be read before its start that way.
 std::uint64_t LastBytes(const char* end, std::size_t length, std::size_t total) {
   if (length == 0) return 0;
   if (total >= kWord) return WordAt(end - kWord) >> (8 * (kWord - length));

@@ -1,3 +1,13 @@
+// An update downloads files under other names while the program runs and puts them in place here, at once or
+// at the next start. Three records make that safe at any moment of a crash:
+//
+//   UpdateHold     the setting that lists the files to put in place, "name TAB name TAB"; cleared last
+//   the copies     "tstation.snr" beside "station.snr"; moved in one step: a file is the old or the new one
+//   kCopies        the file that lists the copies that may lie about, so that those of an abandoned update
+//   can
+//                  be removed; written before the first copy and removed after the last
+//
+// Repeating any step does no harm: a file without a copy has been swapped already.
 #include "directory/DeferredSwap.h"
 
 #include "base/DataFolder.h"
@@ -11,6 +21,8 @@ namespace sonaro {
 
 namespace {
 
+// Names come from a setting that others can write. One with a separator or a drive would lead out of the data
+// folder.
 bool IsPlainFileName(std::string_view name) {
   return !name.empty() && name != "." && name != ".." && name.find_first_of("\\/:") == std::string_view::npos;
 }
@@ -50,6 +62,8 @@ void RemoveTemporaries(DataFolder& data, const HeldNames& waiting) {
   const HeldNames noted = NotedTemporaries(data);
   HeldNames left;
   for (const std::string& name : noted) {
+    // A copy that is still to be put in place stays, and so does one that could not be removed; a later start
+    // tries again.
     const bool stays = IsPlainFileName(name) && (waiting.Contains(name) || !RemoveCopy(data, name));
     if (stays) left.Add(name);
   }
@@ -81,8 +95,12 @@ bool RunDeferredSwap(DataFolder& data, CReg& reg, const std::function<bool()>& r
     listed = true;
     // Without a copy it has been swapped before.
     listInPlace = swapped || !data.Exists(TemporaryName(name));
+    // Rebuilt even when the list was swapped by an earlier run: that run may have died before the table was
+    // made.
     listInPlace = rebuildStations() && listInPlace;
   }
+  // The date tells the service what this installation has. It is taken over only with the station list in
+  // place; otherwise the next update would be answered with "nothing is new".
   if (listInPlace && hold.find('\t') != std::string::npos) {
     StoreHeld(reg, setting::kUpdateHoldVersion, setting::kUpdateVersion);
     StoreHeld(reg, setting::kUpdateHoldDate, setting::kLastUpdate);

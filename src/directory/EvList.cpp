@@ -10,6 +10,7 @@
 namespace sonaro {
 namespace {
 
+// A 32-bit key and eight texts.
 constexpr std::string_view kEventTableDefinition = "&,R8$";
 static_assert(EventRecord::kFieldCount == 8);
 
@@ -66,6 +67,7 @@ bool EvList::PutEvent(Handle handle, const EventRecord& record) {
 
 std::vector<EventRecord> EvList::AllEvents(EventSet set) {
   std::vector<EventRecord> events;
+  // Reading in key order: an opened table stands before its first record.
   const Handle handle = OpenEventTable(set, OpenMode::Read);
   if (handle == 0) return events;
   try {

@@ -7,6 +7,7 @@
 namespace sonaro {
 
 HeldNames::HeldNames(std::string_view text) {
+  // What stands behind the last tab is a name that was cut off in writing and does not count.
   while (text.find('\t') != std::string_view::npos) Add(NextField(text, '\t'));
 }
 

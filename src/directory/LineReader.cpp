@@ -1,3 +1,7 @@
+// The buffer holds the part of the file from begin_ to end_ that has not been given out. A line is found in
+// it or the buffer is filled further; what is left is moved to the front first, so a line always lies in one
+// piece. The checksum is taken over what is read, block by block, so the caller gets it without a second
+// pass.
 #include "directory/LineReader.h"
 
 #include <algorithm>
@@ -15,6 +19,7 @@ static_assert(kBufferSize % kColumnBlock == 0, "what is read at once are whole b
 
 }  // namespace
 
+// `searched` keeps a very long line from being searched from its start after every read.
 bool LineReader::Next(std::string_view& line) {
   std::size_t searched = 0;
   for (;;) {
@@ -45,6 +50,8 @@ bool LineReader::Fill() {
   if (buffer_.size() - end_ < left) buffer_.resize(std::max(end_ + left, 2 * buffer_.size()));
   failed_ = !file_.ReadAt(position_, buffer_.data() + end_, left);
   if (failed_) return false;
+  // Every read but the last is of kBufferSize, a multiple of the checksum's blocks: the chain is the same as
+  // over the whole file.
   check_ = ChainedChecksum({buffer_.data() + end_, left}, check_);
   const bool marked = position_ == 0 && std::string_view(buffer_.data(), left).starts_with(kMarkOfUtf8);
   if (marked) begin_ = kMarkOfUtf8.size();

@@ -1,3 +1,6 @@
+// An open table is two layers: the records on disk, in key order, and the changes since it was opened, in a
+// map by key in which an empty value means "deleted". Reading merges the two. Closing writes the merge as a
+// new table; nothing on disk is ever changed in place.
 #include "directory/OpenTable.h"
 
 #include <cstring>
@@ -8,6 +11,8 @@
 namespace sonaro {
 namespace {
 
+// Headers hold the generation, sizes and checksums, so equal headers mean equal tables. They have no padding
+// bytes (VmxFormat.h), which a comparison of memory would trip over.
 bool SameTable(const IndexHeader& a, const IndexHeader& b) { return std::memcmp(&a, &b, sizeof a) == 0; }
 
 }  // namespace
@@ -53,11 +58,15 @@ TableStatus OpenTable::Read(std::int32_t key, TableImage::Record& record) {
     status = image_->Get(files_, place.index, record);
     if (status != TableStatus::Success) return status;
   }
+  // Reading in order goes on behind this key.
   position_ = key;
   next_ = place.index + (place.found ? 1 : 0);
   return TableStatus::Success;
 }
 
+// One step of a merge. `next` walks over the records on disk and `change` over the changes; the smaller key
+// is the next record. With equal keys the change hides the record, and if it is a deletion the step is
+// repeated. The position is taken over only at the end, so that a failure leaves it where it was.
 TableStatus OpenTable::ReadNext(TableImage::Record& record) {
   std::uint32_t next = next_;
   for (auto change = changes_.upper_bound(position_);; ++change) {
@@ -115,6 +124,7 @@ TableStatus OpenTable::WriteChanges() {
   const IndexHeader& header = image_->Header();
   TableWriter writer(*system_, path_, {header.fieldCount, header.searchedFields});
   TableImage::Record record;
+  // The merge of both layers, just as a caller would read it.
   GoBeforeFirst();
   TableStatus status = ReadNext(record);
   for (; status == TableStatus::Success; status = ReadNext(record)) {

@@ -1,3 +1,7 @@
+// Three ways of reading a data file, chosen by how the table is used: the detail of one station needs one
+// short read; reading one record after the other takes large steps ahead; and a search with many hits touches
+// so many records all over the file that the whole of it is cheaper. The choice is made by counting the short
+// reads.
 #include "directory/RecordTexts.h"
 
 #include <algorithm>
@@ -23,6 +27,7 @@ const char* RecordTexts::Get(InputFile& file, std::size_t at, std::size_t length
 }
 
 bool RecordTexts::Bring(InputFile& file, std::size_t at, std::size_t length) {
+  // A read that begins where the last one ended is taken for reading in order.
   const bool goesOn = at == end_ && end_ != 0;
   if (goesOn) return Load(file, at, std::min(std::max(kReadStep, length), size_ - at));
   const bool many = ++reads_ > fewReads_ && size_ <= kMaxInMemory;
@@ -30,6 +35,8 @@ bool RecordTexts::Bring(InputFile& file, std::size_t at, std::size_t length) {
 }
 
 bool RecordTexts::Load(InputFile& file, std::size_t at, std::size_t length) {
+  // Nothing is valid until the read has succeeded; after a failure the buffer holds neither the old nor the
+  // new.
   begin_ = end_ = 0;
   if (capacity_ < length) {
     bytes_ = std::make_unique_for_overwrite<char[]>(length);

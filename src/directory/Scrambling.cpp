@@ -38,6 +38,9 @@ constexpr bool IsPair(std::string_view source, std::string_view target) {
 
 static_assert(IsPair(kSource, kTarget));
 
+// A table of 256 bytes makes it one look-up for each character. Characters outside the alphabet, among them
+// all bytes of non-ASCII text, stand for themselves. It is filled from the back so that of a doubled
+// character the first place would count.
 std::string& Substitute(std::string& text, std::string_view from, std::string_view to) {
   std::array<char, 256> table;
   for (std::size_t i = 0; i < table.size(); ++i) table[i] = static_cast<char>(i);

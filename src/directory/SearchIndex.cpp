@@ -6,11 +6,13 @@
 namespace sonaro {
 namespace {
 
+// Bytes. Shorter runs occur nearly everywhere and rule little out; longer ones leave short words without any.
 constexpr std::size_t kGram = 4;
 constexpr std::size_t kMaxGrams = 8;  // of a word; they leave so few blocks that more would not pay
 
 }  // namespace
 
+// Multiplicative hashing: the upper bits of the product depend on all four bytes.
 std::uint16_t SearchIndex::SlotAt(const char* fourBytes) {
   std::uint32_t gram;
   std::memcpy(&gram, fourBytes, sizeof gram);
@@ -39,6 +41,7 @@ std::vector<std::uint16_t> SearchIndex::SlotsOf(std::string_view word) {
 }
 
 std::uint64_t SearchIndex::BlocksWith(std::span<const std::uint16_t> slots, std::size_t group) const {
+  // A bit for each block of the group. A word of less than four bytes has no slots and rules nothing out.
   std::uint64_t blocks = ~std::uint64_t{0};
   for (const std::uint16_t slot : slots) blocks &= slots_[group * kSlots + slot];
   return blocks;

@@ -76,17 +76,22 @@ bool StatList::RebuildStationTable() {
 bool StatList::MadeOf(InputFile& list) {
   TableSource source{};
   if (vmx_->Source(TablePath(data_, kTableName), source) != TableStatus::Success) return false;
+  // The size first: it costs nothing, and the checksum needs the whole list.
   if (source.size != list.Size()) return false;
   const auto found = SourceOf(list);
   return (!found || *found == source) && Verify();
 }
 
+// Called when there is no list to rebuild from. A table that works is kept; one that does not would fail at
+// every use and is removed, so that the start offers to download a directory.
 TableCare StatList::KeepWithoutList() {
   if (Verify() && StationCount() > 0) return TableCare::Sound;
   if (status_ != TableStatus::NoTable) vmx_->VmxKill(TablePath(data_, kTableName));
   return TableCare::NoDirectory;
 }
 
+// The list is what counts and the table is made from it. A list that exists but cannot be opened, since an
+// update or a virus scanner holds it, is no reason to throw a table away.
 TableCare StatList::EnsureStationTable() {
   Files& files = data_.FileSystem();
   const std::string path = data_.Path(kListName);

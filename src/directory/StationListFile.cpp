@@ -1,3 +1,8 @@
+// Building the station table. Lists are normally in ascending order, and those are copied to the table line
+// by line in a small buffer. A list in another order is noticed at the first line that is out of order; the
+// table begun is dropped and made again from the whole list in memory, sorted. Of several lines with one
+// identifier the last one counts, which only the second way can know, so equal identifiers count as out of
+// order.
 #include "directory/StationListFile.h"
 
 #include <algorithm>
@@ -40,6 +45,7 @@ Pass AppendInOrder(InputFile& list, TableWriter& writer) {
 // identifiers, and the position of its line in the lower.
 using Place = std::uint64_t;
 
+// Flipping the sign bit makes the order of signed identifiers that of unsigned numbers.
 constexpr std::uint32_t kSignBit = 0x80000000u;
 
 Place PlaceOf(std::int32_t id, std::uint32_t position) {
@@ -49,6 +55,8 @@ std::uint32_t KeyBits(Place place) { return static_cast<std::uint32_t>(place >> 
 std::uint32_t PositionOf(Place place) { return static_cast<std::uint32_t>(place); }
 
 // Sorts by the identifier and keeps the order of places with the same one.
+// A radix sort of the upper half by 11 bits at a time, three passes. Each pass is stable, so lines with one
+// identifier stay in the order in which they stand in the list.
 void SortById(std::vector<Place>& places) {
   constexpr unsigned kBits = 11;
   constexpr std::size_t kBuckets = std::size_t{1} << kBits;
@@ -84,10 +92,12 @@ std::vector<Place> PlacesIn(std::string_view list) {
 
 // Copies a list in any order to the table, which takes the whole list in memory.
 Pass AppendSorted(std::string_view list, TableWriter& writer) {
+  // A position has to fit the lower half of a Place.
   if (list.size() > kMaxTextSize) return Pass::Failed;
   writer.SetSource({list.size(), ChainedChecksum(list)});
   std::vector<Place> places = PlacesIn(list);
   SortById(places);
+  // In sorted order the lines lie all over the list, and every one would have to be waited for.
   constexpr std::size_t kAhead = 16;  // lines whose bytes are asked for before they are needed
   StationLine station;
   for (std::size_t i = 0; i < places.size(); ++i) {
@@ -108,6 +118,7 @@ Pass AppendStations(Files& files, const std::string& listPath, std::optional<Tab
     if (!list) return Pass::Failed;
     writer.emplace(files, tablePath, definition);
     const Pass pass = AppendInOrder(*list, *writer);
+    // The end of this block closes the list, which is read anew below.
     if (pass != Pass::OutOfOrder) return pass;
   }
   writer.emplace(files, tablePath, definition);
@@ -126,11 +137,13 @@ bool ParseStationLine(std::string_view line, StationLine& station) {
   for (; end < line.size() && end < kDigitsThatFit && line[end] >= '0' && line[end] <= '9'; ++end) {
     id = id * 10 + (line[end] - '0');
   }
+  // No digits, more than nine, or something behind them: signs, blanks, or no number at all.
   if (end == 0 || (end < line.size() && line[end] != kFieldSeparator)) {
     end = FindByte(line, kFieldSeparator);
     if (!ParseStationId(line.substr(0, end), id)) return false;
   }
   station = {id, line.substr(std::min(end + 1, line.size()))};
+  // 0 means "no station" throughout the program.
   return id != 0;
 }
 

@@ -1,3 +1,7 @@
+// A search runs in three steps, each of which leaves less for the next. The index tells for 64 blocks of
+// sixteen records at a time which of them can hold the words (SearchIndex). Runs of such blocks are scanned
+// for a word (WordFinder), which yields places in the column. A cursor turns places into records; it only
+// ever moves forwards, so that all hits together cost one walk.
 #include "directory/StationSearch.h"
 
 #include <algorithm>
@@ -19,6 +23,8 @@ class RecordCursor {
   // Moves to the record that holds `place`, at or behind the current one.
   void MoveTo(const char* place) {
     const auto offset = static_cast<std::uint32_t>(place - column_.text.data());
+    // Steps that double, then a binary search within the last one: cheap when the next hit is near, which is
+    // usual, and logarithmic when it is far.
     std::size_t step = 1;
     while (record_ + step < column_.starts.size() && column_.starts[record_ + step] <= offset) {
       record_ += step;
@@ -66,6 +72,7 @@ std::vector<Wanted> WantedWords(const std::vector<std::string>& words, const Sea
 template <typename Visit>
 void ForEachRun(std::uint64_t blocks, std::size_t group, std::size_t recordCount, Visit visit) {
   const std::size_t start = group * SearchIndex::kGroupRecords;
+  // More than half of the blocks: scanning the others too costs less than starting anew so often.
   if (std::popcount(blocks) > 32) blocks = ~std::uint64_t{0};
   while (blocks != 0) {
     const int from = std::countr_zero(blocks);
@@ -74,6 +81,7 @@ void ForEachRun(std::uint64_t blocks, std::size_t group, std::size_t recordCount
     const std::size_t last = start + static_cast<std::size_t>(to) * SearchIndex::kBlockRecords;
     if (first >= recordCount) return;
     visit(first, std::min(last, recordCount));
+    // A shift by 64 is undefined.
     blocks = to == 64 ? 0 : blocks & ~std::uint64_t{0} << to;
   }
 }
@@ -84,6 +92,8 @@ void ForEachRecord(const WordFinder& finder, const SearchColumn& column, std::si
                    Visit visit) {
   const char* const end = column.text.data() + column.starts[last];
   RecordCursor cursor(column, first);
+  // After a hit the search goes on at the end of its record: a record counts once, however often it has the
+  // word.
   for (const char* at = cursor.Begin(); (at = finder.Find(at, end)) != end; at = cursor.End()) {
     cursor.MoveTo(at);
     visit(cursor);
@@ -120,6 +130,7 @@ std::vector<std::uint32_t> FindAny(const SearchColumn& column, const SearchIndex
   const std::vector<Wanted> wanted = WantedWords(words, index);
   std::vector<std::uint32_t> records;
   for (std::size_t group = 0; group < index.GroupCount(); ++group) {
+    // Records in which several words stand are marked several times and reported once, in ascending order.
     std::bitset<SearchIndex::kGroupRecords> matches;
     const std::size_t start = group * SearchIndex::kGroupRecords;
     const auto mark = [&](const RecordCursor& cursor) { matches.set(cursor.Record() - start); };
@@ -152,6 +163,8 @@ std::vector<std::uint32_t> FindRecords(const SearchColumn& column, const SearchI
                                        const std::vector<std::string>& words, bool allWords) {
   if (column.text.empty()) return {};
   const std::vector<std::string> folded = FoldedWords(words);
+  // A word that cannot occur was dropped. With all words wanted nothing can match; with any of them the rest
+  // counts.
   if (folded.empty() || (allWords && folded.size() < words.size())) return {};
   return allWords ? FindAll(column, index, folded) : FindAny(column, index, folded);
 }

@@ -1,3 +1,8 @@
+// Replacing a table takes two renames, data file first. A crash between them leaves the new data file with
+// the old index, and the new index still beside it under its temporary name. Both files hold the generation
+// of the table, so opening notices that the pair does not fit, finds that the temporary index does, and
+// completes the swap. Before the first rename the old pair fits, after the second the new one: there is no
+// moment without a table.
 #include "directory/TableFiles.h"
 
 #include <optional>
@@ -43,6 +48,7 @@ TableStatus OpenTableFiles(Files& files, const std::string& path, TableFiles& op
   opened.data = files.Open(paths.data);
   if (!opened.data) return TableStatus::NoTable;
   const auto header = ReadHeader(*opened.data, &ParseDataHeader);
+  // An empty or foreign data file without an index is no damaged table but none at all.
   if (!header) return files.Exists(paths.index) ? TableStatus::Damaged : TableStatus::NoTable;
   opened.dataHeader = *header;
   if (OpenIndex(files, paths.index, opened)) return TableStatus::Success;
@@ -61,6 +67,8 @@ bool SwapInNeighbours(Files& files, const std::string& path) {
   const TablePaths paths = TablePaths::Of(path);
   const TablePaths neighbours = TablePaths::NeighboursOf(path);
   if (!files.Replace(neighbours.data, paths.data, Durability::Cached)) return false;
+  // A failure here, such as a reader that has the old index open, is no failure of the swap: opening the
+  // table uses the temporary file and renames it when it can.
   (void)files.Replace(neighbours.index, paths.index, Durability::Cached);  // until then it serves as it is
   return true;
 }

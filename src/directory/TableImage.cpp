@@ -1,3 +1,7 @@
+// What is kept in memory of a table, part by part as it is needed. Opening reads the page directory only, 16
+// bytes for every 512 records. Looking a key up reads one page more. The search column, some megabytes, comes
+// with the first search. Each part is checked when it comes: nothing that lies in memory needs to be checked
+// again.
 #include "directory/TableImage.h"
 
 #include <algorithm>
@@ -17,6 +21,8 @@ bool KeyIsLess(std::int32_t key, const PageItem& item) { return key < item.first
 TableImage::TableImage(const IndexHeader& header)
     : header_(header),
       layout_(LayoutOf(header)),
+      // Room for all pages in their places on disk, left uninitialised: pages that are never loaded are never
+      // touched, and the system gives no memory to them.
       entries_(std::make_unique_for_overwrite<Entry[]>(std::size_t{header.recordCount} + layout_.pageCount)),
       checkedPages_(layout_.pageCount),
       texts_(sizeof(DataHeader), static_cast<std::size_t>(header.dataFileSize - sizeof(DataHeader)),
@@ -44,6 +50,8 @@ TableStatus TableImage::LoadPage(TableFiles& files, std::uint32_t page) {
   const std::size_t first = page * kPageSlots;
   char* const bytes = reinterpret_cast<char*>(&entries_[first]);
   const std::size_t size = (EntriesIn(page) + 1) * sizeof(Entry);
+  // The checksum says that the page is as it was written; the order of keys is checked besides, because the
+  // binary search relies on it.
   const bool sound = files.index->ReadAt(layout_.pages + first * sizeof(Entry), bytes, size) &&
                      Checksum({bytes, size}) == directory_[page].check &&
                      entries_[first].key == directory_[page].firstKey && KeysAscend(page);
@@ -64,6 +72,7 @@ bool TableImage::KeysAscend(std::uint32_t page) const {
 TableStatus TableImage::Locate(TableFiles& files, std::int32_t key, Place& place) {
   place = {};
   const auto above = std::upper_bound(directory_.begin(), directory_.end(), key, KeyIsLess);
+  // The key is below all others. It counts as found nowhere, with the place before the first record.
   if (above == directory_.begin()) return TableStatus::Success;
   const auto page = static_cast<std::uint32_t>(above - directory_.begin() - 1);
   if (LoadPage(files, page) != TableStatus::Success) return TableStatus::Damaged;
@@ -79,6 +88,7 @@ TableStatus TableImage::Locate(TableFiles& files, std::int32_t key, Place& place
 TableStatus TableImage::Get(TableFiles& files, std::uint32_t index, Record& record) {
   if (LoadPage(files, index / kPageEntries) != TableStatus::Success) return TableStatus::Damaged;
   const Entry* const entry = &EntryAt(index);
+  // Every page ends with the entry after it, so entry[1] is there for the last record of a page too.
   const std::uint32_t length = entry[1].dataOffset - entry[0].dataOffset;  // far too long if it is not sound
   const char* const text = texts_.Get(*files.data, entry->dataOffset, length);
   if (!text) return TableStatus::Damaged;
@@ -97,6 +107,7 @@ TableStatus TableImage::LoadColumn(TableFiles& files) {
     starts.push_back(EntryAt(i).columnOffset);
   }
   starts.push_back(static_cast<std::uint32_t>(header_.columnSize));
+  // Positions are used as bounds without further tests while searching.
   if (starts.front() != 0 || !std::is_sorted(starts.begin(), starts.end())) return TableStatus::Damaged;
 
   const auto size = static_cast<std::size_t>(header_.columnSize) + kColumnPadding;
@@ -116,6 +127,7 @@ TableStatus TableImage::LoadSearch(TableFiles& files) {
 }
 
 TableStatus TableImage::Verify(TableFiles& files) {
+  // A fresh image: what is in memory already was checked when it came and says nothing of the disk today.
   TableImage image(files.indexHeader);
   if (image.LoadDirectory(files) != TableStatus::Success || image.LoadColumn(files) != TableStatus::Success) {
     return TableStatus::Damaged;
@@ -124,6 +136,8 @@ TableStatus TableImage::Verify(TableFiles& files) {
   for (std::uint32_t i = 0; i < image.RecordCount(); ++i) {
     Record record;
     if (image.Get(files, i, record) != TableStatus::Success) return TableStatus::Damaged;
+    // The generation is computed from all records in key order, so one that is missing or doubled shows as
+    // well.
     generation = GenerationOf(generation, RecordDigest(record.key, record.text));
   }
   return generation == files.indexHeader.generation ? TableStatus::Success : TableStatus::Damaged;

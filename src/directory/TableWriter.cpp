@@ -1,3 +1,6 @@
+// A table is written in one pass over its records in key order. The data file grows by each record's text;
+// the index file begins with the search column, which grows alongside; entries are kept in memory, 16 bytes a
+// record, and follow as pages when all are known. Both headers are written last (BlockWriter::Commit).
 #include "directory/TableWriter.h"
 
 #include <algorithm>
@@ -39,6 +42,7 @@ TableWriter::~TableWriter() {
 }
 
 bool TableWriter::Append(std::int32_t key, std::string_view text) {
+  // Positions have 32 bits. The comparison is this way round so that nothing overflows.
   if (text.size() > kMaxTextSize - data_->Size()) tooLarge_ = true;
   if (tooLarge_) return false;
   const std::uint64_t digest = RecordDigest(key, text);
@@ -55,6 +59,8 @@ bool TableWriter::Append(std::int32_t key, std::string_view text) {
 
 void TableWriter::AppendToColumn(std::string_view fields) {
   char* const room = index_->Room(fields.size() + 1);
+  // Most texts are ASCII and are folded straight into the output buffer. Only from the first other character
+  // on is the general folding used, whose result may be longer.
   const std::size_t ascii = CopyFoldedAscii(fields, room);
   if (ascii == fields.size()) {
     room[ascii] = kFieldSeparator;
@@ -84,6 +90,7 @@ bool TableWriter::Finish() {
   index.dataFileSize = data.fileSize;
   index.source = source_;
   index.columnSize = index_->Size();
+  // The word finder reads beyond the text that it searches.
   index_->Append(std::string(kColumnPadding, '\0'));
   index.columnCheck = index_->Flush();
   index.directoryCheck = WritePages(index);
@@ -98,6 +105,7 @@ std::uint64_t TableWriter::WritePages(const IndexHeader& header) {
       {0, static_cast<std::uint32_t>(data_->Size()), static_cast<std::uint32_t>(header.columnSize), 0});
   std::vector<PageItem> directory;
   for (std::size_t first = 0; first < header.recordCount; first += kPageEntries) {
+    // Each page is written with the entry behind it, which the next page repeats as its first.
     const std::size_t count = std::min<std::size_t>(kPageEntries, header.recordCount - first);
     const std::string_view page = BytesOf(&entries_[first], count + 1);
     directory.push_back({entries_[first].key, 0, Checksum(page)});

@@ -1,3 +1,6 @@
+// Handles are places in tables_ plus one, so that 0 is free for "none"; a closed place is used again. images_
+// keeps what is in memory of each table by its path, beyond closing, which makes opening a table anew nearly
+// free.
 #include "directory/Vmx.h"
 
 #include <algorithm>
@@ -10,6 +13,8 @@
 namespace sonaro {
 namespace {
 
+// A tab within a field would shift all fields behind it and becomes a blank. The last field may hold tabs:
+// reading it takes all that is left.
 std::string JoinFields(std::span<const std::string> fields) {
   std::string text;
   for (const std::string& field : fields) {
@@ -29,6 +34,8 @@ void VmxRecord::CopyFields(std::span<std::string> texts) const {
 }
 
 template <typename Operation>
+// Every operation goes through here: running out of memory is a status like any other and leaves the table
+// usable.
 TableStatus Vmx::Run(Operation operation) {
   try {
     status_ = operation();
@@ -69,6 +76,8 @@ Vmx::Handle Vmx::VmxOpen(const std::string& path, VmxOpenMode mode) {
   const auto conflicts = [&](const auto& table) {
     return table && table->ForWriting() && table->Path() == path;
   };
+  // Two writers of one table would each write the table as it was opened, and the second would undo the
+  // first.
   if (forWriting && std::any_of(tables_.begin(), tables_.end(), conflicts)) {
     status_ = TableStatus::BadCall;
     return 0;
@@ -76,6 +85,7 @@ Vmx::Handle Vmx::VmxOpen(const std::string& path, VmxOpenMode mode) {
   const auto free = std::find(tables_.begin(), tables_.end(), nullptr);
   const auto place = static_cast<std::size_t>(free - tables_.begin());
   Run([&] {
+    // Within Run, since growing the list can run out of memory.
     if (free == tables_.end()) tables_.emplace_back();
     TableStatus status = TableStatus::Success;
     tables_[place] = OpenTable::Open(files_, path, forWriting, images_[path], status);
@@ -86,6 +96,7 @@ Vmx::Handle Vmx::VmxOpen(const std::string& path, VmxOpenMode mode) {
 
 TableStatus Vmx::VmxClose(Handle handle) {
   const TableStatus status = RunOn(handle, [](OpenTable& table) { return table.Close(); });
+  // A failed close ends the opening too; its changes are lost.
   if (status != TableStatus::BadCall) tables_[static_cast<std::size_t>(handle) - 1].reset();
   return status;
 }

@@ -12,6 +12,7 @@ constexpr std::array<char, 8> kIndexMagic = {'S', 'o', 'n', 'a', 'r', 'o', 'I', 
 constexpr std::uint32_t kMaxFields = 64;
 
 template <typename Header>
+// The checksum stands last in its header and covers what is before it.
 std::uint64_t CheckOf(const Header& header) {
   return Checksum({reinterpret_cast<const char*>(&header), offsetof(Header, check)});
 }
@@ -67,6 +68,8 @@ std::optional<IndexHeader> ParseIndexHeader(std::string_view bytes, std::uint64_
   return sound ? header : std::nullopt;
 }
 
+// Sizes and counts are compared as well, so that an equal generation by chance never joins files that do not
+// fit.
 bool SameGeneration(const DataHeader& data, const IndexHeader& index) {
   return data.generation == index.generation && data.fileSize == index.dataFileSize &&
          data.recordCount == index.recordCount && data.fieldCount == index.fieldCount;
@@ -77,6 +80,7 @@ std::uint64_t RecordDigest(std::int32_t key, std::string_view text) {
 }
 
 std::optional<TableDefinition> ParseDefinition(std::string_view text, std::uint32_t searchedFields) {
+  // The only form there is: "&,R", the number of texts, "$".
   if (!text.starts_with("&,R") || !text.ends_with('$')) return {};
   text.remove_prefix(3);
   text.remove_suffix(1);

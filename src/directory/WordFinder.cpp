@@ -1,3 +1,6 @@
+// Instead of comparing the word at every place, two of its bytes are compared at sixteen places at a time.
+// The two are the rarest in the text that is searched, so that few places are left for a full comparison: of
+// "jazz" it is "j" and a "z" that are looked for, not the "a". A word of one byte uses it twice.
 #include "directory/WordFinder.h"
 
 #include <bit>
@@ -8,6 +11,8 @@
 namespace sonaro {
 
 ByteFrequencies::ByteFrequencies(std::string_view column) {
+  // A sample spread over the column; exact counts would cost a pass over it and change no choice. Counts
+  // start at 1 so that a product of two is never 0.
   constexpr std::size_t kSamples = 4096;
   counts_.fill(1);
   const std::size_t step = column.size() / kSamples + 1;
@@ -54,6 +59,7 @@ const char* WordFinder::Find(const char* from, const char* end) const {
   };
 
   const char* at = from;
+  // Four vectors for each test: mostly there is no candidate in any, and the test is what costs.
   for (; stop - at >= 64; at += 64) {
     const __m128i c[] = {candidates(at), candidates(at + 16), candidates(at + 32), candidates(at + 48)};
     if (bits(_mm_or_si128(_mm_or_si128(c[0], c[1]), _mm_or_si128(c[2], c[3]))) == 0) continue;
@@ -63,6 +69,8 @@ const char* WordFinder::Find(const char* from, const char* end) const {
       if (MatchesAt(place)) return place;
     }
   }
+  // The last vector may reach beyond `stop` and beyond `end`: the column is padded for that. What is found
+  // behind `stop` does not count.
   for (; at < stop; at += 16) {
     for (std::uint64_t places = bits(candidates(at)); places != 0; places &= places - 1) {
       const char* const place = at + std::countr_zero(places);

@@ -33,6 +33,7 @@ Color Mix(Color from, Color to, int percent) {
           MixChannel(from.blue, to.blue, percent)};
 }
 
+// "#RRGGBB", or the decimal number in which the system keeps colours, 0x00BBGGRR: red is the lowest byte.
 std::optional<Color> ParseColor(std::string_view text) {
   text = TrimBlanks(text);
   if (text.starts_with('#')) {
@@ -55,6 +56,7 @@ std::string FormatColor(Color color) {
   return text.data();
 }
 
+// From 1 (no contrast) to 21 (black on white).
 double ContrastRatio(Color a, Color b) {
   const double first = Luminance(a);
   const double second = Luminance(b);

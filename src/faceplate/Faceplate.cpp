@@ -25,6 +25,8 @@ Faceplate::Faceplate(CReg& settings, const DataFolder& folder)
 void Faceplate::Load() {
   name_ = settings_.Get(setting::kFacePlateName);
   if (name_.empty()) name_ = kBuiltInNames.front();
+  // Colours that are stored win; one that is missing or makes no sense comes from the built-in faceplate of
+  // that name.
   BaseColors base = BuiltInColors(DefaultsFor(name_));
   for (const ColorSetting& color : ColorSettings()) {
     const auto stored = ParseColor(settings_.Get(color.setting));
@@ -36,6 +38,7 @@ void Faceplate::Load() {
 void Faceplate::Choose(BuiltInFaceplate faceplate) {
   name_ = kBuiltInNames[static_cast<std::size_t>(faceplate)];
   const BaseColors base = BuiltInColors(faceplate);
+  // All colours are stored, not just the name, so that an earlier faceplate leaves none behind.
   const SettingsBatch batch(settings_);
   settings_.Set(setting::kFacePlateName, name_);
   for (const ColorSetting& color : ColorSettings())
@@ -45,6 +48,7 @@ void Faceplate::Choose(BuiltInFaceplate faceplate) {
 
 void Faceplate::SetBase(const BaseColors& base) {
   own_ = DeriveColors(base);
+  // High contrast is the user's choice for the whole system and goes before any faceplate.
   if (!shown_.highContrast) shown_ = own_;
 }
 

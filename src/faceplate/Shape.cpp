@@ -27,6 +27,7 @@ int Scaled(int value, double twips) { return static_cast<int>(std::nearbyint(val
 
 }  // namespace
 
+// The line of a window by its key; a window that is not in the file gets the last line.
 std::string_view OutlineLine(std::string_view fileText, std::string_view key) {
   std::string_view last;
   for (const std::string_view line : SplitLines(fileText)) {
@@ -41,6 +42,7 @@ Outline ParseOutline(std::string_view line) {
   if (equals == std::string_view::npos) return {};
   const std::string_view points = line.substr(equals + 1);
   if (points.empty()) return {};
+  // The index of the last point. Rounding lets a line that was cut off within its last point keep that point.
   const double highest = std::nearbyint(static_cast<double>(points.size()) / kGroupWidth - 1.0);
   Outline outline;
   for (std::size_t i = 0; static_cast<double>(i) <= highest; ++i) {
@@ -58,6 +60,8 @@ Outline ScaleOutline(const Outline& outline, TwipsPerPixel twips) {
   return scaled;
 }
 
+// Points in the right or lower half move with that edge when the window is larger than the outline was made
+// for, so that corners keep their form and only the straight parts grow.
 Outline FitOutline(const Outline& outline, OutlineSize made, OutlineSize window) {
   Outline fitted;
   fitted.reserve(outline.size());

@@ -33,6 +33,7 @@ std::string Repaired(std::string_view text) {
   return out;
 }
 
+// A file that is not wholly UTF-8 is taken for Latin-1, the encoding of old players.
 std::string Decoded(std::string_view bytes) {
   if (const std::optional<Utf16Text> wide = DecodeMarkedUtf16(bytes)) return wide->text;
   if (bytes.starts_with(kMarkOfUtf8)) bytes.remove_prefix(kMarkOfUtf8.size());
@@ -50,6 +51,8 @@ bool LooksLikeAddress(std::string_view line) {
 
 }  // namespace
 
+// By the first line that says something, never by the file's name: playlists come from servers under any
+// name.
 PlaylistFormat RecognisePlaylist(std::string_view text) {
   for (const std::string_view line : SplitLines(text)) {
     const std::string_view start = TrimBlanks(line);
@@ -105,6 +108,7 @@ std::string Written(const Playlist& playlist) {
 
 }  // namespace
 
+// Station names may come from files in another encoding, and a playlist has to be UTF-8 as a whole.
 std::string WritePlaylist(const Playlist& playlist) { return Repaired(Written(playlist)); }
 
 PlaylistFormat FormatOfFileName(std::string_view name) {

@@ -36,6 +36,8 @@ void ForEachPlaylistField(const PlaylistEntry& entry,
   const std::string address = AddressOf(entry);
   for (std::size_t i = 0; i < kLinkNames.size(); ++i) {
     const std::string& link = station.links[i];
+    // The plain address of the first link is what every player reads; a field repeats it only when the link
+    // says more, such as another player.
     const bool toldByAddress = i == 0 && link == LinkTextOf(address);
     if (!link.empty() && !toldByAddress) put(kLinkNames[i], link);
   }
@@ -61,6 +63,7 @@ std::string AddressOf(const PlaylistEntry& entry) {
   return PlayLink::FromText(entry.station.links[0]).address;
 }
 
+// A link of our own field says more than the address and came first.
 void TakeAddress(PlaylistEntry& entry, std::string_view address) {
   if (!entry.station.links[0].empty()) return;
   if (const auto own = OwnAddress(address)) entry.station.links[0] = LinkTextOf(*own);

@@ -98,6 +98,9 @@ class M3uReader {
 
 }  // namespace
 
+// "-1 tvg-logo="..." group-title="a, b",Name": the duration, attributes, a comma and the name. A name may
+// hold commas too, so the attributes have to be passed one by one. `looked` lets a test prove that each
+// character is looked at a bounded number of times.
 std::string_view NameInInfo(std::string_view info, std::size_t& looked) {
   InfoScanner scanner(info, looked);
   scanner.SkipAllOf("-.0123456789");

@@ -64,6 +64,8 @@ class OwnStationIndex {
   std::unordered_set<const PersonalStation*, HashOfStation, SameStation> known_;
 };
 
+// A station of the directory is exported with its name and links, for other players, and with its identifier,
+// by which an import finds it again.
 bool PlaylistTransfer::ExportGroup(std::size_t group, const std::string& path) {
   if (group >= groups_.Count()) return false;
   Playlist playlist;
@@ -125,6 +127,7 @@ ImportResult PlaylistTransfer::ImportPersonalStations(const std::string& path) {
   Playlist playlist;
   ImportResult result = Read(path, playlist);
   if (result.status != ImportResult::Status::Ok) return result;
+  // Everything becomes a station of the user's own here, also what the directory has.
   for (PlaylistEntry& entry : playlist.entries) entry.stationId.clear();
   const std::size_t before = personal_.All().size();
   const auto stations = StationsFor(playlist.entries, result);

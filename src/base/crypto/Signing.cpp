@@ -1,3 +1,5 @@
+// Ed25519 and SHA-256 with keys and digests in hexadecimal, as they stand in files. The secret key of the
+// library is the seed and the public key behind it, 64 bytes, hence 128 digits.
 #include "base/crypto/Signing.h"
 
 #include <crypto_hash_sha256.h>

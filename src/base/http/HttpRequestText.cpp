@@ -27,6 +27,10 @@ std::string_view HostOfTarget(std::string_view requestText) {
 
 }  // namespace
 
+// HTTP/1.0 with a Host header: servers of several sites need the header, and the version keeps the answer in
+// one piece and closes the connection behind it. Whatever control characters get in through a setting could
+// add headers or a second request, so they make the request invalid. Of a request through a proxy the host is
+// that of the target.
 std::optional<std::string> HttpRequestBytes(std::string_view host, std::uint16_t port,
                                             std::string_view requestText, std::string_view userAgent) {
   if (!CanBeSent(host) || host.find(' ') != std::string_view::npos || !CanBeSent(requestText)) {
@@ -45,6 +49,8 @@ std::optional<std::string> HttpRequestBytes(std::string_view host, std::uint16_t
 }
 
 std::string HostWithoutPort(std::string_view host) {
+  // A numeric IPv6 address in brackets, or without them and then full of colons; only a single colon sets off
+  // a port.
   if (host.starts_with('[')) return std::string(host.substr(1, host.find(']') - 1));
   const std::size_t colon = host.find(':');
   return std::string(host.rfind(':') == colon ? host.substr(0, colon) : host);

@@ -1,3 +1,12 @@
+// Reads an answer as its bytes come in, in pieces of any size. What cannot be used yet waits in pending_;
+// used_ counts the bytes of it that were taken, which are erased once per piece rather than once per line.
+//
+// The body ends in one of three ways: with the last chunk, after as many bytes as the head announced, or when
+// the server closes the connection. Only in the last case can a body that was cut off not be told from a
+// complete one.
+//
+// Nothing from the server is believed without a limit: the length of the head, of a line, of a number and of
+// the body.
 #include "base/http/HttpResponse.h"
 
 #include <algorithm>
@@ -99,10 +108,12 @@ bool HttpResponse::TakeHeader(std::string_view line) {
   if (colon == std::string_view::npos || colon == 0) return Fail(HttpFault::NotHttp);
   std::string_view name = line.substr(0, colon);
   const std::string_view value = TrimWhite(line.substr(colon + 1));
+  // Names ignore letter case; whoever looks for the redirect does not.
   if (EqualIgnoringCase(name, "Location")) name = "Location";
   headers_.append(name).append(": ").append(value).append("\r\n");
   if (EqualIgnoringCase(name, "Content-Length")) return TakeLength(value);
   if (EqualIgnoringCase(name, "Transfer-Encoding")) {
+    // Any other coding was not asked for and cannot be read.
     if (!EqualIgnoringCase(value, "chunked")) return Fail(HttpFault::BadChunk);
     framing_ = Framing::Chunked;
   }
@@ -117,6 +128,7 @@ bool HttpResponse::TakeLength(std::string_view value) {
     length = length * 10 + static_cast<std::uint64_t>(c - '0');
     if (length > kMaxBodySize) return Fail(HttpFault::BodyTooLarge);
   }
+  // Two different lengths are a sign of an answer within an answer; which one holds cannot be known.
   if (lengthGiven_ && length != length_) return Fail(HttpFault::BadLength);
   lengthGiven_ = true;
   length_ = length;
@@ -133,6 +145,7 @@ void HttpResponse::HeadIsComplete() {
     return;
   }
   state_ = State::Body;
+  // These have no body whatever their headers say.
   if (statusCode_ == "204" || statusCode_ == "304") {
     framing_ = Framing::Length;
     length_ = 0;
@@ -152,6 +165,7 @@ bool HttpResponse::ReadBody() {
 
 bool HttpResponse::Append(std::string_view bytes) {
   if (framing_ == Framing::Length) {
+    // What comes beyond the announced length is not part of the answer.
     bytes = bytes.substr(0, static_cast<std::size_t>(length_ - body_.size()));
   } else if (bytes.size() > kMaxBodySize - body_.size()) {
     return Fail(HttpFault::BodyTooLarge);
@@ -161,6 +175,8 @@ bool HttpResponse::Append(std::string_view bytes) {
   return true;
 }
 
+// A chunk is a line with its size in hexadecimal, so many bytes, and an empty line. The chunk of size 0 is
+// the last; behind it come header lines and an empty line.
 bool HttpResponse::ReadChunks() {
   std::string_view line;
   while (state_ == State::Body) {
@@ -189,6 +205,7 @@ bool HttpResponse::ReadChunks() {
 }
 
 bool HttpResponse::TakeChunkSize(std::string_view line) {
+  // Extensions behind a semicolon are allowed and mean nothing here.
   const std::string_view digits = TrimWhite(line.substr(0, line.find(';')));
   if (digits.empty() || digits.size() > kMaxNumberLength) return Fail(HttpFault::BadChunk);
   chunkLeft_ = 0;

@@ -9,6 +9,8 @@ bool StaysAsItIs(char c) {
          kKept.find(c) != std::string_view::npos;
 }
 
+// Codes below 16 get one digit ("%B"), unlike the usual encoding: the service compares what it is sent as
+// text.
 void AppendHexWithoutPadding(std::string& out, unsigned char code) {
   constexpr char kDigits[] = "0123456789ABCDEF";
   out += '%';

@@ -1,3 +1,6 @@
+// Reads tags and attributes of XML, no more: lists of stations keep all they have to say in attributes. It is
+// no validating parser. Documents that are not quite XML are common (an "&" that is not escaped, a missing
+// end tag) and are read as far as their meaning is clear. No entities are defined or fetched from anywhere.
 #include "base/xml/OutlineReader.h"
 
 #include <charconv>
@@ -52,6 +55,7 @@ std::string Unescaped(std::string_view text) {
     out += text.substr(0, mark);
     if (mark == std::string_view::npos) break;
     text.remove_prefix(mark + 1);
+    // The longest reference that means something is "#x10FFFF", some leading zeros included.
     const std::size_t end = text.substr(0, 12).find(';');
     if (end != std::string_view::npos && AppendReference(text.substr(0, end), out)) {
       text.remove_prefix(end + 1);
@@ -67,6 +71,8 @@ std::string Unescaped(std::string_view text) {
 std::string XmlElement::Value(std::initializer_list<std::string_view> names) const {
   for (const std::string_view wanted : names) {
     for (const Attribute& attribute : attributes) {
+      // Letter case differs from writer to writer ("xmlUrl", "xmlurl"), and an empty attribute counts as
+      // missing.
       if (!attribute.value.empty() && EqualIgnoringCase(attribute.name, wanted)) return attribute.value;
     }
   }
@@ -174,6 +180,7 @@ std::string XmlText(std::string_view text) {
         out += "&quot;";
         break;
       default:
+        // Control characters may not occur in XML in any form.
         out += static_cast<unsigned char>(c) < ' ' ? ' ' : c;
     }
   }

@@ -40,6 +40,8 @@ class InputFilePosix : public InputFile {
   bool ReadAt(std::uint64_t offset, char* buffer, std::size_t length) override {
     if (offset > size_ || length > size_ - offset) return false;
     while (length > 0) {
+      // A read may bring less than was asked for, and a signal may interrupt it; neither is a failure. No
+      // bytes at all means that the file has become shorter since it was opened.
       const ssize_t count = ::pread(file_.Get(), buffer, length, static_cast<off_t>(offset));
       if (count < 0 && errno == EINTR) continue;
       if (count <= 0) return false;
@@ -117,6 +119,7 @@ std::unique_ptr<InputFile> FilesPosix::Open(const std::string& path) {
   const int descriptor = ::open(path.c_str(), O_RDONLY | O_CLOEXEC);
   if (descriptor < 0) return nullptr;
   struct stat info {};
+  // A folder or a pipe can be opened too, but not read like a file.
   if (::fstat(descriptor, &info) != 0 || !S_ISREG(info.st_mode)) {
     ::close(descriptor);
     return nullptr;
@@ -153,6 +156,7 @@ std::vector<std::string> FilesPosix::List(const std::string& folder) {
 
 bool FilesPosix::MakeFolder(const std::string& path) {
   for (std::size_t slash = path.find('/', 1); slash != std::string::npos; slash = path.find('/', slash + 1)) {
+    // Fails for folders that exist, which is fine: only the result counts.
     ::mkdir(path.substr(0, slash).c_str(), 0777);
   }
   ::mkdir(path.c_str(), 0777);

@@ -14,6 +14,8 @@ namespace {
 // The most that one call transfers.
 constexpr std::size_t kMaxTransferSize = std::size_t{1} << 30;
 
+// Virus scanners and indexers open a file for a moment just after it was written. Waiting for a quarter of a
+// second in all gets past them without the user noticing.
 constexpr int kTries = 10;
 constexpr DWORD kPause = 30;  // milliseconds
 
@@ -51,6 +53,7 @@ class InputFileWin : public InputFile {
     while (length > 0) {
       OVERLAPPED position = PositionAt(offset);
       DWORD count = 0;
+      // Transfers have 32-bit lengths.
       const auto wanted = static_cast<DWORD>(std::min(length, kMaxTransferSize));
       const bool read =
           WithPatience(pause_, [&] { return ReadFile(file_.Get(), buffer, wanted, &count, &position) != 0; });
@@ -137,6 +140,7 @@ bool SaysMissing(DWORD error) { return error == ERROR_FILE_NOT_FOUND || error ==
 
 FilesWin::FilesWin() : FilesWin([] { Sleep(kPause); }) {}
 
+// Others may read at the same time but not write, rename or remove: an open file keeps its contents.
 std::unique_ptr<InputFile> FilesWin::Open(const std::string& path) {
   FileHandle file = OpenPatiently(pause_, path, GENERIC_READ, FILE_SHARE_READ, OPEN_EXISTING);
   LARGE_INTEGER size{};

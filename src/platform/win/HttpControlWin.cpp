@@ -92,6 +92,8 @@ class HttpControlWin final : public HttpControl {
 
 HttpControlWin::HttpControlWin(std::string userAgent, unsigned silence, TransferPace pace)
     : userAgent_(std::move(userAgent)), silence_(silence), pace_(pace) {
+  // A window for messages only. Sockets, timers and the lookup all report to it, so that everything but the
+  // lookup itself happens on the GUI thread.
   WNDCLASSA windowClass{};
   windowClass.lpfnWndProc = &WindowProcedure;
   windowClass.hInstance = GetModuleHandleA(nullptr);
@@ -173,6 +175,9 @@ void HttpControlWin::StartLookup(const std::string& host, std::uint16_t port) {
     return;
   }
   try {
+    // Looking a name up can take many seconds and cannot be cancelled, hence the thread. It shares nothing
+    // with the control but the result and the handle of the window; a cancelled request leaves it to end by
+    // itself.
     std::thread([lookup = lookup_, host, port, window = window_, request = request_] {
       lookup->found = FindAddresses(host, port, 0);
       PostMessageA(window, NameFoundMessage(), request, 0);

@@ -16,6 +16,8 @@ bool MessagePostWin::PostTo(const std::string& caption, std::uint32_t message, s
   return window && PostMessageA(window, message, first, second);
 }
 
+// The named mutex is never waited for: that it exists is the mark, and the system removes it with the
+// process, even after a crash.
 bool MessagePostWin::EarlierInstanceRuns() {
   if (!mark_ && !earlierInstance_) {
     const HANDLE mark = CreateMutexA(nullptr, FALSE, instanceName_.c_str());

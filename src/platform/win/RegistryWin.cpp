@@ -7,6 +7,7 @@
 namespace sonaro {
 namespace {
 
+// All rights that concern a key and its values, without the standard rights such as deleting it.
 constexpr REGSAM kAllSpecificRights = 0x3F;
 
 // A predefined key is the sign-extended number.

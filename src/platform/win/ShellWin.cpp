@@ -41,6 +41,7 @@ bool ShellWin::RunMinimised(const std::string& commandLine) {
                       &process)) {
     return false;
   }
+  // The program runs on; without closing these handles its process would be remembered as long as we run.
   const KernelHandle closesProcess(process.hProcess);
   const KernelHandle closesThread(process.hThread);
   return true;
