@@ -1,3 +1,6 @@
+// One file holds everything that an update replaces, so that it is complete or not there at all: it is
+// written as a whole, and its last line tells that it was. Lengths instead of marks separate the entries,
+// since the files in it may hold anything.
 #include "net/PreviousGuide.h"
 
 #include <array>
@@ -29,6 +32,8 @@ std::optional<std::string> TakeBytes(std::string_view& rest, std::string_view fi
 
 bool TakeEntry(std::string_view line, std::string_view& rest, PreviousGuide& guide) {
   const auto fields = Split(line, '\t');
+  // A file that was not there before the update; undoing removes it. Names are checked as those in an update
+  // are: the file lies where others can write.
   if (fields.size() == 2 && fields[0] == "absent" && update::MayBringFile(fields[1])) {
     guide.files.push_back({std::string(fields[1]), std::nullopt});
     return true;
@@ -84,6 +89,7 @@ std::optional<PreviousGuide> LoadPreviousGuide(DataFolder& data, std::string_vie
   return guide;
 }
 
+// Looks at the first bytes only: it is asked to show whether undoing is possible, not to do it.
 bool IsPreviousGuide(const DataFolder& data, std::string_view fileName) {
   const std::unique_ptr<InputFile> file = data.FileSystem().Open(data.Path(fileName));
   std::array<char, kHead.size()> head{};

@@ -28,6 +28,9 @@ struct Row {
 using enum Kind;
 using enum ServiceHost;
 
+// Every address of the service in one row: the key by which an update changes it, the setting that holds it,
+// and what it is until an update says otherwise. Keys are spelled as update files spell them, "PriacyPol"
+// too.
 constexpr Row kRows[] = {
     {"::UpdateURL::", setting::kUpdateUrl, Address, Web, "/sonaroapp/sonaro4vf/asp/appupdate/update.asp"},
     {"::NotifyURL::", setting::kNotifyUrl, Address, Web, "/sonaroapp/sonaro4vf/asp/notify/notify.asp"},
@@ -105,6 +108,7 @@ void FindServiceValues(std::string_view line, std::vector<ServiceValue>& found, 
     if (row.key.empty()) continue;
     const std::optional<std::string_view> value = ValueBehind(line, row.key);
     if (!value || value->empty()) continue;
+    // An address may only lead to the service itself: an update must not send installations elsewhere.
     if (value->size() > kMaxValueLength || (row.kind == Address && !IsServiceAddress(*value))) {
       ++refused;
     } else {

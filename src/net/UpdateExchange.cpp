@@ -1,3 +1,9 @@
+// An update takes two requests. The first tells the service what is there (the date of the last update and
+// the version) and is answered with a redirect: to a file named like kNothingNew, or to the update. The
+// second fetches that file, which is written to disk, checked and installed. Between the two, and before
+// another try, a timer runs instead of a direct call, so that no request is begun from within the events of
+// the one before.
+//
 #include "net/UpdateExchange.h"
 
 #include "base/DataFolder.h"
@@ -61,6 +67,7 @@ void UpdateExchange::AskForUpdate() {
   redirect_.clear();
   reason_.clear();
   file_.reset();
+  // An earlier update that was cut off must never be taken for the new one.
   needs_.data.Remove(work_file::kUpdate);
   file_ = needs_.data.FileSystem().Create(needs_.data.Path(work_file::kUpdate));
   if (!file_) {
@@ -92,6 +99,7 @@ void UpdateExchange::HTTPDataReceived(std::string_view body) {
   if (phase_ != Phase::FileRequest) return;
   bodyReceived_ = true;
   if (!file_ || !file_->Append(body)) Fail(IDS_NET_NOT_SAVED);
+  // Without a length in its head an answer that was cut off looks complete; the sentinel tells.
   if (!EndsWithSentinel(body)) Fail(IDS_NET_CUT_SHORT);
 }
 
@@ -131,6 +139,7 @@ void UpdateExchange::Complete() {
   }
 }
 
+// The address comes from outside and is followed only within the service's own hosts.
 void UpdateExchange::FollowRedirect() {
   if (redirect_.find(update::kNothingNew) != std::string::npos) {
     NothingNew();
@@ -194,6 +203,7 @@ void UpdateExchange::Installed(InstallStatus status) {
       return Refused(IDS_NET_NOT_SAVED);
     case InstallStatus::NotRebuilt:
       return Refused(IDS_NET_NOT_REBUILT);
+    // Counts as installed: what is in use takes its place at the next start.
     case InstallStatus::Waits:
       reason_ = needs_.strings.Load(IDS_NET_WAITS);
       break;

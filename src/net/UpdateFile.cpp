@@ -1,3 +1,6 @@
+// Reads what sonaro-directory's UpdateText.cpp writes: lines of "::Key::value::", and sections of files
+// between a start and an end line. The text may come from anybody as long as no publisher's key is installed,
+// so everything is limited: how many sections, how many bytes, how long a value, which names.
 #include "net/UpdateFile.h"
 
 #include <algorithm>
@@ -56,10 +59,13 @@ class Sections {
     std::string_view start;
     if (!lines.Peek(start) || !IsMarker(start, name, update::kSectionStart)) return;
     lines.Next(start);
+    // Counted before the name is looked at, so that sections with refused names end as well.
     if (++count_ > update::kMaxSections) return;
     const bool taken = update::MayBringFile(name);
     if (!taken) ++contents_.skippedSections;
     std::string bytes;
+    // A section ends at its end line, at the end of the text, or at two empty lines, where UpdateLines gives
+    // an empty one.
     for (std::string_view line; lines.Next(line) && !line.empty();) {
       if (IsMarker(line, name, update::kSectionEnd)) break;
       bytes_ += line.size() + kLineEnd.size();
@@ -74,6 +80,7 @@ class Sections {
   void Keep(std::string_view name, std::string bytes) {
     const auto [place, isNew] = places_.try_emplace(FoldCase(name), contents_.files.size());
     if (isNew) contents_.files.push_back({std::string(name), {}});
+    // Of two sections with one name the later one counts.
     contents_.files[place->second].bytes = std::move(bytes);
   }
 
@@ -117,6 +124,8 @@ void TakeOtherLine(std::string_view line, UpdateContents& contents) {
     if (auto version = ValueBetween(line, update::kVersion, " ")) contents.version = std::move(version);
   } else if (line.starts_with(update::kSerial)) {
     const auto serial = ValueBetween(line, update::kSerial, "::");
+    // Only a signed update has a serial number that means anything; it was set to 0 when the signature was
+    // checked.
     if (contents.serial && serial) contents.serial = NumberValue(*serial);
   } else {
     TakeValues(line, contents);
@@ -153,6 +162,7 @@ UpdateContents ReadUpdateFile(DataFolder& data) {
   const SignatureCheck check = CheckUpdateSignature(data, text);
   UpdateContents contents = Refusal(StatusOf(check));
   if (contents.status != UpdateFileStatus::Read) return contents;
+  // A signed update without a serial number counts as the oldest of all.
   if (check == SignatureCheck::Good) contents.serial = 0;
 
   UpdateLines lines(text);

@@ -1,3 +1,15 @@
+// Installing goes through these steps, in an order in which a crash at any point leaves a directory that
+// works:
+//
+//   1  check everything that can be checked before anything is written
+//   2  write all files under temporary names (the copies)
+//   3  keep what they will replace, in one file, for undoing
+//   4  store the settings that the update brings, and last the list of waiting files: from here on the next
+//      start finishes what is not finished now
+//   5  move each copy into its place and rebuild the station table
+//   6  store the date, by which the service knows what this installation has
+//
+// Undoing renames the kept file first; from then on the next start goes on with it until everything is back.
 #include "net/UpdateInstall.h"
 
 #include <algorithm>
@@ -125,6 +137,7 @@ InstallStatus UpdateInstall::KeepPrevious(const UpdateContents& contents) {
   PreviousGuide previous;
   for (const ReceivedFile& file : contents.files) {
     ReadResult present = data_.Read(PlaceOf(file.name));
+    // A file that cannot be kept must not be replaced either.
     if (present.status == ReadStatus::Unreadable) return InstallStatus::NotKept;
     KeptFile& kept = previous.files.emplace_back(KeptFile{file.name, std::nullopt});
     if (present.status == ReadStatus::Ok) kept.bytes = std::move(present.bytes);
@@ -179,6 +192,7 @@ InstallStatus UpdateInstall::PutInPlace(const UpdateContents& contents, const He
       waiting.Add(file.name);
     }
     if (swapped && rebuild && IsStationList(file.name)) rebuilt = stations_.RebuildStationTable();
+    // The files behind the list stay unmoved; undoing brings the moved ones back.
     if (!rebuilt) break;
   }
   const auto isTable = [](const ReceivedFile& file) { return IsStationTable(file.name); };
@@ -195,6 +209,7 @@ InstallStatus UpdateInstall::PutInPlace(const UpdateContents& contents, const He
 }
 
 void UpdateInstall::StoreDates(const UpdateContents& contents, bool listWaits) {
+  // The date belongs to the list that is in place; it waits in UpdateHoldDate (StoreValues).
   if (listWaits) return;
   if (contents.version) reg_.Set(setting::kUpdateVersion, *contents.version);
   if (contents.date) reg_.Set(setting::kLastUpdate, *contents.date);
@@ -262,6 +277,7 @@ bool UpdateInstall::RestoreFiles(const PreviousGuide& previous) {
     needsTable = needsTable || IsStationList(file.name) || IsStationTable(file.name);
     if (!file.bytes) {
       restored = data_.Remove(place) && restored;
+      // A file that is right already is not written again: a repeated attempt touches only what is left.
     } else if (data_.Read(place).bytes != *file.bytes || !data_.Exists(place)) {
       restored = data_.Save(place, *file.bytes) && restored;
     }

@@ -48,6 +48,8 @@ std::string NamesIn(const std::vector<std::string>& names, const Strings& string
 
 }  // namespace
 
+// Both lists are sorted by identifier, so that comparing them takes a search for each line rather than a pass
+// over the whole other list. Texts are compared as they stand in the lists, links still scrambled.
 UpdateReport CompareStationLists(std::string_view before, std::string_view after,
                                  std::span<const std::int32_t> yours) {
   const std::vector<StationLine> old = StationsIn(before);
@@ -68,6 +70,8 @@ UpdateReport CompareStationLists(std::string_view before, std::string_view after
   std::vector<std::int32_t> named;
   for (const std::int32_t id : yours) {
     const StationLine* const was = Find(old, id);
+    // Of `yours` only what the old list had can be gone or changed, and each is named once however many
+    // groups hold it.
     if (!was || std::find(named.begin(), named.end(), id) != named.end()) continue;
     named.push_back(id);
     const StationLine* const is = Find(now, id);

@@ -1,3 +1,5 @@
+// The last line of a signed update before the sentinel is "signed::digest::signature::", both in hexadecimal.
+// The digest is of all bytes before that line; what is signed is a fixed text and the digest.
 #include "net/UpdateSignature.h"
 
 #include "base/DataFolder.h"
@@ -23,6 +25,8 @@ std::size_t SignatureLineIn(std::string_view text) {
 
 }  // namespace
 
+// A publisher's key beside the data makes signatures compulsory. A key file that is there but cannot be read
+// must not have the effect of none, or locking it would be enough to get an unsigned update in.
 SignatureCheck CheckUpdateSignature(DataFolder& data, std::string_view& text) {
   const ReadResult keyFile = data.Read(kPublisherKeyFile);
   if (keyFile.status == ReadStatus::Missing) return SignatureCheck::NotNeeded;
@@ -44,6 +48,7 @@ SignatureCheck CheckUpdateSignature(DataFolder& data, std::string_view& text) {
   const std::string_view signature = line.substr(0, line.find("::"));
   if (!EqualIgnoringCase(digest, Sha256Hex(covered))) return SignatureCheck::Wrong;
   if (!IsSignedBy(key, SignedMessage(Sha256Hex(covered)), signature)) return SignatureCheck::Wrong;
+  // Only what was signed is read from here on; nothing can be appended behind the signature.
   text = covered;
   return SignatureCheck::Good;
 }

@@ -1,3 +1,5 @@
+// An iCalendar file (RFC 5545) of the whole schedule. Times are written without a zone, as "floating" local
+// times: an item at eight comes on at eight by the clock of whoever opens the file, as it does here.
 #include "schedule/CalendarExport.h"
 
 #include <algorithm>
@@ -47,12 +49,14 @@ void AddLine(std::string& file, std::string content) {
   std::string_view piece = TruncateUtf8(line, kLineBytes);
   file.append(piece).append("\r\n");
   for (line.remove_prefix(piece.size()); !line.empty(); line.remove_prefix(piece.size())) {
+    // The blank that marks a continued line counts as well.
     piece = TruncateUtf8(line, kLineBytes - 1);
     if (piece.empty()) piece = line.substr(0, 1);  // bytes that are no UTF-8
     file.append(" ").append(piece).append("\r\n");
   }
 }
 
+// A repetition must begin on one of its days, or calendars show it on its first day besides.
 Date FirstDayFrom(Date day, const DayFlags& days) {
   for (int tried = 0; tried < 7 && !days[static_cast<std::size_t>(Weekday(day))]; ++tried) {
     day = DateFromDays(DaysFromEpoch(day) + 1);

@@ -11,6 +11,7 @@ namespace sonaro {
 
 namespace {
 
+// An item that names a station waits for the event on that station, another for the event wherever it is.
 bool WaitsFor(const ScheduleItem& item, const EventRecord& event) {
   const ItemName& name = item.name;
   if (!EqualIgnoringCase(name.name, event[EventField::Name])) return false;
@@ -35,6 +36,7 @@ void EventDiary::Reload() {
   const auto same = [](const BroadcastEvent& a, const BroadcastEvent& b) {
     return a.gmt == b.gmt && a.record.EventId == b.record.EventId;
   };
+  // An event may be in both tables.
   diary_.erase(std::unique(diary_.begin(), diary_.end(), same), diary_.end());
 }
 

@@ -1,3 +1,6 @@
+// When items come on. The texts of the schedule are parsed once after each change of it (Refresh) and kept as
+// entries in the order of their slots; an item whose time or date makes no sense has no entry and never comes
+// on. All times are local.
 #include "schedule/ScheduleCalendar.h"
 
 #include <algorithm>
@@ -62,6 +65,7 @@ std::optional<DateTime> ScheduleCalendar::NextOf(const ScheduleItem& item, const
     return at > now ? std::optional(at) : std::nullopt;
   }
   Date day = now.date;
+  // Eight days: an item that came on earlier today may be next in a week.
   for (int ahead = 0; ahead <= kDaysInWeek; ++ahead, day = DayAfter(day)) {
     const DateTime at{day, *item.time};
     if (at > now && DueOn(item, day)) return at;

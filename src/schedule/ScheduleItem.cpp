@@ -8,9 +8,11 @@ namespace sonaro {
 
 namespace {
 
+// The name field holds up to three texts: "Name|||Z|||Station>>>>>>web site". Either mark may be missing.
 constexpr std::string_view kEventMark = "|||Z|||";
 constexpr std::string_view kWebSiteMark = ">>>>>>";
 constexpr char kLineBreakInFile = '\v';  // a line of the file holds no line break
+// "Thr" is how files spell it.
 constexpr std::array<std::string_view, 7> kDayKeys = {"Mon", "Tue", "Wed", "Thr", "Fri", "Sat", "Sun"};
 
 std::optional<int> WeekdayNamed(std::string_view name) {
@@ -34,6 +36,7 @@ std::string_view DayKey(int weekday) {
   return weekday >= 0 && weekday < 7 ? kDayKeys[static_cast<std::size_t>(weekday)] : std::string_view{};
 }
 
+// "daily" is every day; "daily|Mon=-1|Tue=0|...|" the days with -1.
 DayFlags DaysOf(std::string_view dailyKind) {
   DayFlags days{};
   if (dailyKind.find('|') == std::string_view::npos) {
@@ -83,6 +86,7 @@ std::string ItemName::Address() const {
   return webSite.empty() || webSite.starts_with("http") ? webSite : "http://" + webSite;
 }
 
+// A note may have several lines, a line of the file only one.
 std::string NoteForFile(std::string_view note) {
   std::string stored;
   for (char c : note) {

@@ -1,3 +1,11 @@
+// The schedule is a table of slots, since menus, dialogs and messages name an item by its slot. A slot keeps
+// its item until the file is read anew; in the file there are no gaps, one line an item:
+//
+//   name TAB action TAB date TAB time TAB weekday TAB kind TAB note
+//
+// Items that have expired, and lines that cannot be held in full, go to a second file, so that a wrong clock
+// or a hand that slipped loses nothing: they are brought back when their day turns out to lie ahead
+// (BringBack).
 #include "schedule/ScheduleStore.h"
 
 #include <algorithm>

@@ -1,3 +1,18 @@
+// Every minute, on the full minute, the timer looks which items have come on since it looked last. The items
+// of this hour and the next are collected every half hour (EvaluateSchedule), so that a tick compares a few
+// times of day only.
+//
+// Clocks jump: daylight saving time begins and ends, users correct the time, machines sleep. Local time and
+// GMT since the last tick together tell which (PaceSinceLastTick):
+//
+//   local time went back                        WentBack      nothing comes on twice, unless the clock that
+//                                                             told it was far ahead (ForgetAhead)
+//   local time went on by a few minutes at most Even          the usual case
+//   local time jumped an hour or two, GMT not   SkippedAhead  what was skipped comes on now
+//   anything else                               WasAway       recent items come on, older ones are listed
+//
+// notified_ holds what has come on, by slot and time, for two days: an item comes on once however often its
+// minute is lived through.
 #include "schedule/ScheduleTimer.h"
 
 #include <algorithm>
@@ -32,6 +47,8 @@ constexpr std::int64_t kMaxTimeChange = 2 * kSecondsInHour + kLateTick;
 constexpr std::int64_t kSmallCorrection = 30 * 60;
 
 // From GMT to local time, in seconds; the two clocks are read one after the other.
+// Rounded to whole minutes, since the two clocks may be read on two sides of a second. A day is added and
+// taken off again so that the division rounds the same way for negative offsets.
 std::int64_t OffsetOf(const DateTime& now, const DateTime& gmt) {
   return (SecondsBetween(gmt, now) + kSecondsInDay + kSecondsInMinute / 2) / kSecondsInMinute *
              kSecondsInMinute -
@@ -153,6 +170,8 @@ void ScheduleTimer::FireDue(const DateTime& now) {
   while (FireEntries(now) && dueOverflowed_) FillDueList(now);
 }
 
+// An entry has come on when its time of day lies behind the last tick and not behind now. Over midnight the
+// interval is two: from the last tick to the end of the day, and from its beginning until now.
 bool ScheduleTimer::FireEntries(const DateTime& now) {
   const bool wrapped = now.time < lastTick_.time;
   bool fired = false;
@@ -163,6 +182,7 @@ bool ScheduleTimer::FireEntries(const DateTime& now) {
     if (wrapped ? !(afterLast || reached) : !(afterLast && reached)) continue;
     const auto slot = static_cast<std::size_t>(due_[i]);
     due_[i] = kFiredMark;
+    // Not reached today means that it came on before midnight.
     const Date day = reached ? now.date : lastTick_.date;
     if (!FirstTime({slot, {day, dueTimes_[i]}})) continue;
     fired = true;
@@ -219,6 +239,7 @@ void ScheduleTimer::ForgetAhead(const DateTime& now, const DateTime& gmt) {
 }
 
 void ScheduleTimer::Fire(std::size_t slot) {
+  // Posted, not called: a dialog that the item opens must not hold up the timer.
   messages_.PostTo(kTrayCaption, kDueMessage, slot, static_cast<std::intptr_t>(slot));
 }
 

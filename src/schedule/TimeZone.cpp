@@ -10,6 +10,7 @@ namespace sonaro {
 
 namespace {
 
+// The results of the system call. "Unknown" means a zone without daylight saving time, not a failure.
 constexpr std::uint32_t kZoneUnknown = 0;
 constexpr std::uint32_t kZoneStandard = 1;
 constexpr std::uint32_t kZoneDaylight = 2;
@@ -43,6 +44,7 @@ std::string SystemName(const SystemVersion& version) {
 
 }  // namespace
 
+// The system's bias is in minutes and says what to add to local time to get GMT, hence the sign.
 std::int32_t GetZoneOffset(Clock& clock, std::string& zoneName, std::string& daylightFlag) {
   const ZoneReport zone = clock.Zone();
   if (zone.result == kZoneUnknown || zone.result == kZoneStandard) {
