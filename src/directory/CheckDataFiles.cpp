@@ -42,6 +42,8 @@ bool DataFilesMissing(DataFolder& data) {
 }
 
 bool AskToGetMissingFiles(CReg& reg, const Strings& strings, MessageBoxView& messages) {
+  // With the date of the last update gone the service sends everything; with it, it could answer that
+  // nothing is new.
   reg.Set(setting::kLastUpdate, "");
   Message message;
   message.key = kMissingFilesKey;

@@ -1,11 +1,10 @@
 // An update downloads files under other names while the program runs and puts them in place here, at once or
 // at the next start. Three records make that safe at any moment of a crash:
 //
-//   UpdateHold     the setting that lists the files to put in place, "name TAB name TAB"; cleared last
-//   the copies     "tstation.snr" beside "station.snr"; moved in one step: a file is the old or the new one
-//   kCopies        the file that lists the copies that may lie about, so that those of an abandoned update
-//   can
-//                  be removed; written before the first copy and removed after the last
+//   UpdateHold  the setting that lists the files to put in place, "name TAB name TAB"; cleared last
+//   the copies  "tstation.snr" beside "station.snr"; moved in one step: a file is the old or the new one
+//   kCopies     the file that lists the copies that may lie about, so that those of an abandoned update
+//               can be removed; written before the first copy and removed after the last
 //
 // Repeating any step does no harm: a file without a copy has been swapped already.
 #include "directory/DeferredSwap.h"
@@ -105,6 +104,7 @@ bool RunDeferredSwap(DataFolder& data, CReg& reg, const std::function<bool()>& r
     StoreHeld(reg, setting::kUpdateHoldVersion, setting::kUpdateVersion);
     StoreHeld(reg, setting::kUpdateHoldDate, setting::kLastUpdate);
   }
+  // From here on the swap is over. Until here a crash repeats all of it.
   reg.Set(setting::kUpdateHold, "");
   ForgetHeldDate(reg);
   RemoveTemporaries(data, {});

@@ -3,7 +3,6 @@
 // second fetches that file, which is written to disk, checked and installed. Between the two, and before
 // another try, a timer runs instead of a direct call, so that no request is begun from within the events of
 // the one before.
-//
 #include "net/UpdateExchange.h"
 
 #include "base/DataFolder.h"

@@ -59,7 +59,7 @@ class Sections {
     std::string_view start;
     if (!lines.Peek(start) || !IsMarker(start, name, update::kSectionStart)) return;
     lines.Next(start);
-    // Counted before the name is looked at, so that sections with refused names end as well.
+    // Counted before the name is looked at, so that sections whose names are refused are limited too.
     if (++count_ > update::kMaxSections) return;
     const bool taken = update::MayBringFile(name);
     if (!taken) ++contents_.skippedSections;

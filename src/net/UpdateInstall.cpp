@@ -79,6 +79,8 @@ InstallStatus UpdateInstall::Install(const UpdateContents& contents, InstallMode
   held.Add(NamesOf(contents));
   StoreValues(contents, HasStationList(earlier));
   reg_.Set(setting::kUpdateHold, held.Text());
+  // The registry writes to disk when it likes; the list of waiting files has to be there before files are
+  // moved.
   reg_.FlushSettings();
   if (mode == InstallMode::HoldFiles) return InstallStatus::Done;
   return PutInPlace(contents, earlier, mode == InstallMode::InstallAndRebuild);

@@ -1,5 +1,4 @@
-// When items come on. The texts of the schedule are parsed once after each change of it (Refresh) and kept as
-// entries in the order of their slots; an item whose time or date makes no sense has no entry and never comes
+// When items come on. An item whose time makes no sense, or that has no valid date and needs one, never comes
 // on. All times are local.
 #include "schedule/ScheduleCalendar.h"
 
@@ -37,6 +36,8 @@ bool ScheduleCalendar::DueOn(const ScheduleItem& item, const Date& day) {
   }
 }
 
+// Two hours, so that an evaluation every half hour misses nothing between two of them. The hour after 23 is
+// that of the next day.
 std::vector<std::size_t> ScheduleCalendar::DueThisOrNextHour(const DateTime& now) const {
   const int nextHour = now.time.hour == kLastHour ? 0 : now.time.hour + 1;
   std::vector<std::size_t> due;
