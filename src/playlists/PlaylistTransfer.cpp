@@ -155,6 +155,8 @@ ImportResult PlaylistTransfer::ImportIntoGroup(std::size_t group, const std::str
   return result;
 }
 
+// The stations of all entries in their order. Those that neither the directory nor the own stations have are
+// collected and added with one write: a file of a thousand stations must not be saved a thousand times.
 std::vector<StationKey> PlaylistTransfer::StationsFor(const std::vector<PlaylistEntry>& entries,
                                                       ImportResult& result) {
   const OwnStationIndex own(personal_.All(), result.compared);
