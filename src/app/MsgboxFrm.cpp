@@ -1,6 +1,5 @@
 #include "app/MsgboxFrm.h"
 
-#include "forms/ControlIds.h"
 #include "forms/DialogRows.h"
 #include "forms/WideText.h"
 #include "resources/texts/app.h"
@@ -103,10 +102,10 @@ MessageResult MsgboxFrm::Ask(HWND owner) {
 
 void MsgboxFrm::OnLoad() {
   SetWindowTextW(Window(), Widen(message_.caption).c_str());
-  SetText(lblTitle, message_.caption);
+  lblTitle_.SetText(message_.caption);
   if (message_.isTrouble) {
-    SetIcon(picStuff, Icon::Warn);
-    SetTextColor(picStuff, TextColor::Accent);
+    picStuff_.SetIcon(Icon::Warn);
+    picStuff_.SetColor(TextColor::Accent);
   }
   if (message_.secondButton.empty()) {
     UseLayout(kOneButtonLayout);
@@ -116,17 +115,17 @@ void MsgboxFrm::OnLoad() {
               : longWords                   ? kWideSecondLayout
                                             : kWideButtonLayout);
   }
-  SetTextAndGrow(lblMsg, message_.text);
-  SetText(butMsg, message_.firstButton);
-  SetText(butMsg + 1, message_.secondButton);
-  ShowControl(butMsg + 1, !message_.secondButton.empty());
-  SetText(butCancelIt, message_.cancelButton);
-  ShowControl(butCancelIt, !message_.cancelButton.empty());
-  SetText(chkDontAsk, message_.dontAskText);
-  ShowControl(chkDontAsk, !message_.dontAskText.empty());
+  lblMsg_.SetTextAndGrow(message_.text);
+  butMsg_[0].SetText(message_.firstButton);
+  butMsg_[1].SetText(message_.secondButton);
+  butMsg_[1].Show(!message_.secondButton.empty());
+  butCancelIt_.SetText(message_.cancelButton);
+  butCancelIt_.Show(!message_.cancelButton.empty());
+  chkDontAsk_.SetText(message_.dontAskText);
+  chkDontAsk_.Show(!message_.dontAskText.empty());
 }
 
-void MsgboxFrm::OnUnload() { dontAskAgain_ = IsChecked(chkDontAsk); }
+void MsgboxFrm::OnUnload() { dontAskAgain_ = chkDontAsk_.IsChecked(); }
 
 void MsgboxFrm::butMsg_Click(int index) { Close(index + 1); }
 

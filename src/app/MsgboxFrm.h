@@ -5,7 +5,8 @@
 #include <functional>
 #include <string_view>
 
-#include "forms/Form.h"
+#include "forms/ControlIds.h"
+#include "forms/controls/Controls.h"
 #include "settings/Message.h"
 
 namespace sonaro {
@@ -31,6 +32,13 @@ class MsgboxFrm final : public Form {
   HelpPages& help_;
   Message message_;
   bool dontAskAgain_ = false;
+
+  Label lblTitle_{*this, lblTitle};
+  Label picStuff_{*this, picStuff};
+  Label lblMsg_{*this, lblMsg};
+  ControlArray<Button> butMsg_{*this, butMsg, 2};
+  Button butCancelIt_{*this, butCancelIt};
+  CheckBox chkDontAsk_{*this, chkDontAsk};
 };
 
 // Shows messages over the program's active window. Owned by Application.

@@ -1,6 +1,5 @@
 #include "app/frmSplash.h"
 
-#include "forms/ControlIds.h"
 #include "forms/controls/ProgressScale.h"
 #include "forms/paint/Painter.h"
 #include "resources/texts/app.h"
@@ -61,8 +60,8 @@ std::span<const EventRow> frmSplash::Events() const {
 }
 
 void frmSplash::OnLoad() {
-  SetText(lblVersion, FormatText(LoadText(IDS_SPLASH_VERSION), {kVersionText}));
-  SetPicture(picMark, [](HDC dc, const RECT& box, const Painter& painter) {
+  lblVersion_.SetText(FormatText(LoadText(IDS_SPLASH_VERSION), {kVersionText}));
+  picMark_.SetPainter([](HDC dc, const RECT& box, const Painter& painter) {
     painter.DrawIcon(dc, Icon::ProgramMark, box.left, box.top, kMarkSize, painter.Colors().text);
   });
   CentreOn(nullptr);
@@ -75,7 +74,7 @@ void frmSplash::ShowNow() {
 
 void frmSplash::ShowProgress(double done) {
   if (!IsOpen()) return;
-  Progress(picDial).SetProgress(static_cast<int>(done * 100), 100);
+  picDial_->SetProgress(static_cast<int>(done * 100), 100);
 }
 
 }  // namespace sonaro

@@ -2,7 +2,8 @@
 // dialogs of the start as well; the start procedure does when the main window appears.
 #pragma once
 
-#include "forms/Form.h"
+#include "forms/ControlIds.h"
+#include "forms/controls/Controls.h"
 
 namespace sonaro {
 
@@ -21,6 +22,10 @@ class frmSplash final : public Form {
   std::span<const EventRow> Events() const override;
   void OnLoad() override;
   void lblClose_Click() { Close(); }
+
+  ProgressHandle picDial_{*this, picDial};
+  Label lblVersion_{*this, lblVersion};
+  Picture picMark_{*this, picMark};
 };
 
 }  // namespace sonaro

@@ -12,13 +12,16 @@
 //     static const FormDesign& Design();
 //     std::span<const EventRow> Events() const override;
 //     std::span<const TimerRow> Timers() const override;
-//     void OnLoad() override { SetText(txtName, greeting_.LastName()); }
-//     void txtName_Change() { Enable(butOKIt, !Text(txtName).empty()); }
-//     void butOKIt_Click() { greeting_.Say(Text(txtName)); Close(1); }
+//     void OnLoad() override { txtName_.SetText(greeting_.LastName()); }
+//     void txtName_Change() { butOKIt_.Enable(!txtName_.Text().empty()); }
+//     void butOKIt_Click() { greeting_.Say(txtName_.Text()); Close(1); }
 //     void butCancelIt_Click() { Close(); }
-//     void butDays_Click(int day) { SetToggle(butDays + day, !IsToggled(butDays + day)); }
+//     void butDays_Click(int day) { butDays_[day].SetActive(!butDays_[day].IsActive()); }
 //     void tmrIdle_Timer() { Close(); }
 //     Greeting& greeting_;
+//     Edit txtName_{*this, txtName};  // see forms/controls/Controls.h
+//     ControlArray<ToggleButton> butDays_{*this, butDays, 2};
+//     Button butOKIt_{*this, butOKIt};
 //   };
 //
 //   // frmGreet_tables.cpp: the order of the rows is the tab order
@@ -42,7 +45,7 @@
 //         {txtName, Change, &frmGreet::txtName_Change},
 //         {butOKIt, Click, &frmGreet::butOKIt_Click},
 //         {butCancelIt, Click, &frmGreet::butCancelIt_Click},
-//         {butDays, Click, &frmGreet::butDays_Click, 7},  // butDays to butDays + 6
+//         {butDays, Click, &frmGreet::butDays_Click, 2},  // butDays and butDays + 1
 //     };
 //     return kRows;
 //   }
@@ -124,8 +127,8 @@ class Form : public EventTarget {
   void MoveToPixels(int left, int top);  // kept inside the visible screens
   void CentreOn(HWND other);             // nullptr: the work area
 
-  // Controls by number. A number that the form does not have is ignored, and reads as "", 0 or false. What
-  // the program sets raises no event.
+  // Controls by number, for the handles of forms/controls/Controls.h, by which a form reaches its controls. A
+  // number that the form does not have is ignored, and reads as "", 0 or false.
   HWND Control(int id) const;
   std::string Text(int id) const;
   void SetText(int id, std::string_view text);

@@ -1,6 +1,5 @@
 #include "mainwindow/frmExtraLink.h"
 
-#include "forms/ControlIds.h"
 #include "forms/DialogRows.h"
 #include "resources/texts/app.h"
 #include "resources/texts/mainwindow.h"
@@ -52,13 +51,13 @@ std::span<const EventRow> frmExtraLink::Events() const {
 }
 
 void frmExtraLink::OnLoad() {
-  LimitText(txtExtraLink, PersonalStation::kMaxAddress);
-  LimitText(txtExtraName, PersonalStation::kMaxName);
-  SetText(lblStation, station_);
+  txtExtraLink_.Limit(PersonalStation::kMaxAddress);
+  txtExtraName_.Limit(PersonalStation::kMaxName);
+  lblStation_.SetText(station_);
   all_ = links_.Of(stationId_);
   if (all_.empty()) all_.emplace_back();
-  SetText(txtExtraLink, PlayLink::FromText(all_.front().link).address);
-  SetText(txtExtraName, all_.front().name);
+  txtExtraLink_.SetText(PlayLink::FromText(all_.front().link).address);
+  txtExtraName_.SetText(all_.front().name);
 }
 
 void frmExtraLink::ShowError(const char* key, int text) {
@@ -69,12 +68,12 @@ void frmExtraLink::ShowError(const char* key, int text) {
 }
 
 void frmExtraLink::butOKIt_Click() {
-  const auto linkText = OwnLinkFromField(Text(txtExtraLink), all_.front().link);
+  const auto linkText = OwnLinkFromField(txtExtraLink_.Text(), all_.front().link);
   if (!linkText) {
     ShowError("PersonalStationLink", IDS_DLG_OWN_BAD_LINK);
     return;
   }
-  all_.front() = {Text(txtExtraName), *linkText};
+  all_.front() = {txtExtraName_.Text(), *linkText};
   const bool saved = links_.Set(stationId_, all_);
   if (!SavedOrSaid(saved, LoadText(IDS_FILE_LINKS), messages_, context_.strings)) return;
   Close(1);

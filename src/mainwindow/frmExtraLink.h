@@ -5,7 +5,8 @@
 #include <string>
 #include <vector>
 
-#include "forms/Form.h"
+#include "forms/ControlIds.h"
+#include "forms/controls/Controls.h"
 #include "stations/ExtraLinks.h"
 
 namespace sonaro {
@@ -37,6 +38,10 @@ class frmExtraLink final : public Form {
   const std::int32_t stationId_;
   const std::string station_;
   std::vector<ExtraLink> all_;  // of the station; the first one is edited, the others stay
+
+  Edit txtExtraLink_{*this, txtExtraLink};
+  Edit txtExtraName_{*this, txtExtraName};
+  Label lblStation_{*this, lblStation};
 };
 
 }  // namespace sonaro

@@ -1,7 +1,6 @@
 #include "mainwindow/frmNewFavorite.h"
 
 #include "base/Text.h"
-#include "forms/ControlIds.h"
 #include "forms/DialogRows.h"
 #include "resources/texts/mainwindow.h"
 #include "settings/HelpPages.h"
@@ -56,17 +55,17 @@ std::span<const EventRow> frmNewFavorite::Events() const {
 std::string frmNewFavorite::AskName(HWND owner) { return ShowModal(owner) == 1 ? name_ : ""; }
 
 void frmNewFavorite::OnLoad() {
-  SetText(lblTitle, LoadText(Description().caption.id));
-  LimitText(txtGroupName, FavoriteGroups::kMaxNameBytes);
-  SetText(txtGroupName, name_);
-  SelectAllText(txtGroupName);
+  lblTitle_.SetText(LoadText(Description().caption.id));
+  txtGroupName_.Limit(FavoriteGroups::kMaxNameBytes);
+  txtGroupName_.SetText(name_);
+  txtGroupName_.SelectAll();
   txtGroupName_Change();
 }
 
-void frmNewFavorite::txtGroupName_Change() { Enable(butOKIt, !TrimBlanks(Text(txtGroupName)).empty()); }
+void frmNewFavorite::txtGroupName_Change() { butOKIt_.Enable(!TrimBlanks(txtGroupName_.Text()).empty()); }
 
 void frmNewFavorite::butOKIt_Click() {
-  name_ = Text(txtGroupName);
+  name_ = txtGroupName_.Text();
   Close(1);
 }
 

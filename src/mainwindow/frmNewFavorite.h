@@ -4,7 +4,8 @@
 
 #include <string>
 
-#include "forms/Form.h"
+#include "forms/ControlIds.h"
+#include "forms/controls/Controls.h"
 
 namespace sonaro {
 
@@ -35,6 +36,10 @@ class frmNewFavorite : public Form {
   HelpPages& help_;
   const char* page_;
   std::string name_;
+
+  Label lblTitle_{*this, lblTitle};
+  Edit txtGroupName_{*this, txtGroupName};
+  Button butOKIt_{*this, butOKIt};
 };
 
 class frmRenameFav final : public frmNewFavorite {

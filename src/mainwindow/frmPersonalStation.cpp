@@ -1,6 +1,5 @@
 #include "mainwindow/frmPersonalStation.h"
 
-#include "forms/ControlIds.h"
 #include "forms/DialogRows.h"
 #include "resources/texts/app.h"
 #include "resources/texts/mainwindow.h"
@@ -54,18 +53,19 @@ std::span<const EventRow> frmPersonalStation::Events() const {
 }
 
 void frmPersonalStation::OnLoad() {
-  for (const int text : {txtStationName, txtType}) LimitText(text, PersonalStation::kMaxName);
-  for (int link = 0; link < 3; ++link) LimitText(txtLink + link, PersonalStation::kMaxAddress);
-  LimitText(txtWebSite, PersonalStation::kMaxLink);
-  LimitText(txtStationNote, PersonalStation::kMaxNote);
-  SetText(txtStationName, station_.name);
+  txtStationName_.Limit(PersonalStation::kMaxName);
+  txtType_.Limit(PersonalStation::kMaxName);
+  for (int link = 0; link < 3; ++link) txtLink_[link].Limit(PersonalStation::kMaxAddress);
+  txtWebSite_.Limit(PersonalStation::kMaxLink);
+  txtStationNote_.Limit(PersonalStation::kMaxNote);
+  txtStationName_.SetText(station_.name);
   for (int link = 0; link < 3; ++link) {
     // The user sees plain addresses; how they are played stands in the stored text.
-    SetText(txtLink + link, PlayLink::FromText(station_.links[static_cast<std::size_t>(link)]).address);
+    txtLink_[link].SetText(PlayLink::FromText(station_.links[static_cast<std::size_t>(link)]).address);
   }
-  SetText(txtWebSite, station_.webSite);
-  SetText(txtType, station_.type);
-  SetText(txtStationNote, station_.note);
+  txtWebSite_.SetText(station_.webSite);
+  txtType_.SetText(station_.type);
+  txtStationNote_.SetText(station_.note);
 }
 
 void frmPersonalStation::ShowError(const char* key, int text) {
@@ -77,20 +77,20 @@ void frmPersonalStation::ShowError(const char* key, int text) {
 
 void frmPersonalStation::butOKIt_Click() {
   PersonalStation typed;
-  typed.name = Text(txtStationName);
-  for (int link = 0; link < 3; ++link) typed.links[static_cast<std::size_t>(link)] = Text(txtLink + link);
-  typed.webSite = Text(txtWebSite);
-  typed.type = Text(txtType);
-  typed.note = Text(txtStationNote);
+  typed.name = txtStationName_.Text();
+  for (int link = 0; link < 3; ++link) typed.links[static_cast<std::size_t>(link)] = txtLink_[link].Text();
+  typed.webSite = txtWebSite_.Text();
+  typed.type = txtType_.Text();
+  typed.note = txtStationNote_.Text();
   const StationEntry entry = ReadEntry(station_, std::move(typed));
   switch (entry.fault) {
     case EntryFault::BadLink:
       ShowError("PersonalStationLink", IDS_DLG_OWN_BAD_LINK);
-      return Focus(txtLink + static_cast<int>(entry.link));
+      return txtLink_[static_cast<int>(entry.link)].Focus();
     case EntryFault::NoName:
     case EntryFault::NoLink:
       ShowError("ToAddMorePersonalStationYouNeedMoreInfo", IDS_DLG_OWN_NEED_MORE);
-      return Focus(entry.fault == EntryFault::NoName ? txtStationName : txtLink);
+      return (entry.fault == EntryFault::NoName ? txtStationName_ : txtLink_[0]).Focus();
     case EntryFault::None:
       break;
   }

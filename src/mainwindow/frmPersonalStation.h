@@ -1,7 +1,8 @@
 // Adds or changes one of the user's own stations.
 #pragma once
 
-#include "forms/Form.h"
+#include "forms/ControlIds.h"
+#include "forms/controls/Controls.h"
 #include "stations/PersonalStations.h"
 
 namespace sonaro {
@@ -36,6 +37,12 @@ class frmPersonalStation final : public Form {
   MessageBoxView& messages_;
   HelpPages& help_;
   const PersonalStation station_;  // as it was when the dialog opened
+
+  ControlArray<Edit> txtLink_{*this, txtLink, 3};
+  Edit txtWebSite_{*this, txtWebSite};
+  Edit txtStationNote_{*this, txtStationNote};
+  Edit txtStationName_{*this, txtStationName};
+  Edit txtType_{*this, txtType};
 };
 
 }  // namespace sonaro

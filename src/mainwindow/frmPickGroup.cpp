@@ -1,7 +1,6 @@
 #include "mainwindow/frmPickGroup.h"
 
 #include "base/Text.h"
-#include "forms/ControlIds.h"
 #include "forms/DialogRows.h"
 #include "resources/texts/mainwindow.h"
 #include "stations/FavoriteGroups.h"
@@ -55,16 +54,18 @@ std::span<const EventRow> frmPickGroup::Events() const {
 std::string frmPickGroup::AskGroup(HWND owner) { return ShowModal(owner) == 1 ? chosen_ : ""; }
 
 void frmPickGroup::OnLoad() {
-  SetText(lblStation, station_);
-  LimitText(txtGroupName, FavoriteGroups::kMaxNameBytes);
-  for (const std::string& group : groups_) AddItem(cmbGroup, group);
-  if (groups_.size() < FavoriteGroups::kSlots) AddItem(cmbGroup, LoadText(IDS_DLG_PICK_NEW));
-  SelectItem(cmbGroup, 0);
+  lblStation_.SetText(station_);
+  txtGroupName_.Limit(FavoriteGroups::kMaxNameBytes);
+  for (const std::string& group : groups_) cmbGroup_.AddItem(group);
+  if (groups_.size() < FavoriteGroups::kSlots) cmbGroup_.AddItem(LoadText(IDS_DLG_PICK_NEW));
+  cmbGroup_.SelectItem(0);
   cmbGroup_SelChange();
-  if (groups_.empty()) Focus(txtGroupName);
+  if (groups_.empty()) txtGroupName_.Focus();
 }
 
-bool frmPickGroup::IsNewChosen() const { return SelectedItem(cmbGroup) == static_cast<int>(groups_.size()); }
+bool frmPickGroup::IsNewChosen() const {
+  return cmbGroup_.SelectedItem() == static_cast<int>(groups_.size());
+}
 
 void frmPickGroup::cmbGroup_SelChange() {
   ShowPane(kNamePane, IsNewChosen());
@@ -72,13 +73,13 @@ void frmPickGroup::cmbGroup_SelChange() {
 }
 
 void frmPickGroup::txtGroupName_Change() {
-  Enable(butOKIt, !IsNewChosen() || !TrimBlanks(Text(txtGroupName)).empty());
+  butOKIt_.Enable(!IsNewChosen() || !TrimBlanks(txtGroupName_.Text()).empty());
 }
 
 void frmPickGroup::butOKIt_Click() {
-  const int row = SelectedItem(cmbGroup);
+  const int row = cmbGroup_.SelectedItem();
   if (IsNewChosen()) {
-    chosen_ = Text(txtGroupName);
+    chosen_ = txtGroupName_.Text();
   } else if (row >= 0) {
     chosen_ = groups_[static_cast<std::size_t>(row)];
   }

@@ -5,7 +5,8 @@
 #include <string>
 #include <vector>
 
-#include "forms/Form.h"
+#include "forms/ControlIds.h"
+#include "forms/controls/Controls.h"
 
 namespace sonaro {
 
@@ -30,6 +31,11 @@ class frmPickGroup final : public Form {
   std::string station_;
   std::vector<std::string> groups_;
   std::string chosen_;
+
+  Label lblStation_{*this, lblStation};
+  Edit txtGroupName_{*this, txtGroupName};
+  ComboBox cmbGroup_{*this, cmbGroup};
+  Button butOKIt_{*this, butOKIt};
 };
 
 }  // namespace sonaro

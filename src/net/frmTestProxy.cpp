@@ -1,6 +1,5 @@
 #include "net/frmTestProxy.h"
 
-#include "forms/ControlIds.h"
 #include "forms/DialogRows.h"
 #include "forms/controls/ProgressScale.h"
 #include "resources/texts/net.h"
@@ -102,8 +101,8 @@ frmTestProxy::frmTestProxy(FormContext& context, CReg& reg, HttpControlFactory& 
       port_(port) {}
 
 void frmTestProxy::OnLoad() {
-  SetText(lblCheckAddress, address_);
-  SetText(lblCheckPort, port_);
+  lblCheckAddress_.SetText(address_);
+  lblCheckPort_.SetText(port_);
   test_.Begin(*this);
 }
 
@@ -124,25 +123,24 @@ void frmTestProxy::ShowStep(int step, const ProxyTestStep& shown) {
                                     {Icon::Warn, TextColor::Alert}};
   const Mark& mark = kMarks[static_cast<std::size_t>(shown.state)];
   if (shown.state != ProxyTestState::Waiting) {
-    SetIcon(imgProxyStep + step, mark.icon);
-    SetTextColor(imgProxyStep + step, mark.color);
+    imgProxyStep_[step].SetIcon(mark.icon);
+    imgProxyStep_[step].SetColor(mark.color);
   }
-  ShowControl(imgProxyStep + step, shown.state != ProxyTestState::Waiting);
-  SetText(lblProxyStep + step, shown.text);
-  SetText(lblProxyStepTime + step, shown.time);
-  if (shown.state == ProxyTestState::Running) Progress(prgProxyTest).SetProgress(step, ProxyTest::kStepCount);
-  if (shown.state == ProxyTestState::Done)
-    Progress(prgProxyTest).SetProgress(step + 1, ProxyTest::kStepCount);
+  imgProxyStep_[step].Show(shown.state != ProxyTestState::Waiting);
+  lblProxyStep_[step].SetText(shown.text);
+  lblProxyStepTime_[step].SetText(shown.time);
+  if (shown.state == ProxyTestState::Running) prgProxyTest_->SetProgress(step, ProxyTest::kStepCount);
+  if (shown.state == ProxyTestState::Done) prgProxyTest_->SetProgress(step + 1, ProxyTest::kStepCount);
 }
 
 void frmTestProxy::ShowResult(ProxyTestState state, const std::string& text) {
   const bool runs = state == ProxyTestState::Running;
-  SetText(lblStatusInfo, text);
-  SetTextColor(lblStatusInfo, runs                            ? TextColor::Default
-                              : state == ProxyTestState::Done ? TextColor::Signal
-                                                              : TextColor::Alert);
-  if (runs && FocusedControl() == butTestAgainIt) Focus(butOKIt);
-  Enable(butTestAgainIt, !runs);
+  lblStatusInfo_.SetText(text);
+  lblStatusInfo_.SetColor(runs                            ? TextColor::Default
+                          : state == ProxyTestState::Done ? TextColor::Signal
+                                                          : TextColor::Alert);
+  if (runs && butTestAgainIt_.HasFocus()) butOKIt_.Focus();
+  butTestAgainIt_.Enable(!runs);
 }
 
 }  // namespace sonaro

@@ -3,7 +3,8 @@
 
 #include <string>
 
-#include "forms/Form.h"
+#include "forms/ControlIds.h"
+#include "forms/controls/Controls.h"
 #include "net/ProxyTest.h"
 
 namespace sonaro {
@@ -32,6 +33,16 @@ class frmTestProxy final : public Form, private ProxyTestView {
   ProxyTest test_;
   const std::string address_;
   const std::string port_;
+
+  ProgressHandle prgProxyTest_{*this, prgProxyTest};
+  Label lblCheckAddress_{*this, lblCheckAddress};
+  Label lblCheckPort_{*this, lblCheckPort};
+  ControlArray<Label> imgProxyStep_{*this, imgProxyStep, ProxyTest::kStepCount};
+  ControlArray<Label> lblProxyStep_{*this, lblProxyStep, ProxyTest::kStepCount};
+  ControlArray<Label> lblProxyStepTime_{*this, lblProxyStepTime, ProxyTest::kStepCount};
+  Label lblStatusInfo_{*this, lblStatusInfo};
+  Button butOKIt_{*this, butOKIt};
+  Button butTestAgainIt_{*this, butTestAgainIt};
 };
 
 }  // namespace sonaro

@@ -1,6 +1,5 @@
 #include "net/frmUpdateDialog.h"
 
-#include "forms/ControlIds.h"
 #include "forms/DialogRows.h"
 #include "forms/controls/ProgressScale.h"
 #include "net/UpdateInstall.h"
@@ -85,9 +84,9 @@ void frmUpdateDialog::OnLoad() {
     Begin();
     return;
   }
-  SetTextAndGrow(lblStuff, LoadText(IDS_NET_ASK_UNDO));
-  ShowControl(prgUpdate, false);
-  SetText(butMsg + 1, LoadText(IDS_NET_CLOSE));
+  lblStuff_.SetTextAndGrow(LoadText(IDS_NET_ASK_UNDO));
+  prgUpdate_.Show(false);
+  butMsg_[1].SetText(LoadText(IDS_NET_CLOSE));
   SetOffer(Offer::Undo);
 }
 
@@ -103,23 +102,23 @@ void frmUpdateDialog::Begin() {
   textStep_.reset();
   ShowFailure(false);
   SetOffer(Offer::Nothing);
-  SetText(butMsg + 1, LoadText(IDS_NET_CANCEL));
-  SetTextAndGrow(lblStuff, LoadText(IDS_NET_CONNECTING));
-  SetText(lblBytes, "");
-  Progress(prgUpdate).SetProgress(0, kScaleSteps);
+  butMsg_[1].SetText(LoadText(IDS_NET_CANCEL));
+  lblStuff_.SetTextAndGrow(LoadText(IDS_NET_CONNECTING));
+  lblBytes_.SetText("");
+  prgUpdate_->SetProgress(0, kScaleSteps);
   update_ = calls_.make(*this);
   update_->Load();
 }
 
-void frmUpdateDialog::UpdateProgress(const std::string& text) { SetText(lblStuff, text); }
+void frmUpdateDialog::UpdateProgress(const std::string& text) { lblStuff_.SetText(text); }
 
 // The text changes in steps: a screen reader says each new one.
 void frmUpdateDialog::UpdateBytes(std::uint64_t bytes, std::uint64_t expected) {
   const std::uint64_t step = expected == 0 ? bytes / kQuietBytes : bytes * kTextSteps / expected;
-  if (step != textStep_) SetText(lblBytes, BytesText(bytes, expected, strings_));
+  if (step != textStep_) lblBytes_.SetText(BytesText(bytes, expected, strings_));
   textStep_ = step;
   if (expected != 0) {
-    Progress(prgUpdate).SetProgress(static_cast<int>(bytes * kScaleSteps / expected), kScaleSteps);
+    prgUpdate_->SetProgress(static_cast<int>(bytes * kScaleSteps / expected), kScaleSteps);
   }
 }
 
@@ -127,34 +126,34 @@ void frmUpdateDialog::UpdateFinished(const UpdateOutcome& outcome) {
   if (unloading_) return;
   updating_ = false;
   const bool updated = outcome.kind == UpdateOutcome::Kind::Updated;
-  SetText(lblBytes, "");
-  SetTextAndGrow(lblStuff, OutcomeText(outcome, updated ? calls_.installed() : std::string(), strings_));
-  Progress(prgUpdate).SetProgress(updated ? kScaleSteps : 0, kScaleSteps);
-  SetText(butMsg + 1, LoadText(IDS_NET_CLOSE));
+  lblBytes_.SetText("");
+  lblStuff_.SetTextAndGrow(OutcomeText(outcome, updated ? calls_.installed() : std::string(), strings_));
+  prgUpdate_->SetProgress(updated ? kScaleSteps : 0, kScaleSteps);
+  butMsg_[1].SetText(LoadText(IDS_NET_CLOSE));
   ShowFailure(MayRetry(outcome));
   SetOffer(MayRetry(outcome) ? Offer::Retry : calls_.canUndo() ? Offer::Undo : Offer::Nothing);
 }
 
 void frmUpdateDialog::ShowFailure(bool failed) {
-  SetIcon(picStuff, failed ? Icon::Warn : Icon::Info);
-  SetTextColor(picStuff, failed ? TextColor::Accent : TextColor::Signal);
+  picStuff_.SetIcon(failed ? Icon::Warn : Icon::Info);
+  picStuff_.SetColor(failed ? TextColor::Accent : TextColor::Signal);
 }
 
 void frmUpdateDialog::SetOffer(Offer offer) {
   offer_ = offer;
   if (offer != Offer::Nothing) {
-    SetText(butMsg, LoadText(offer == Offer::Retry ? IDS_NET_RETRY : IDS_NET_UNDO));
+    butMsg_[0].SetText(LoadText(offer == Offer::Retry ? IDS_NET_RETRY : IDS_NET_UNDO));
   }
-  ShowControl(butMsg, offer != Offer::Nothing);
+  butMsg_[0].Show(offer != Offer::Nothing);
 }
 
 void frmUpdateDialog::butMsg_Click() {
   if (offer_ == Offer::Retry) {
     Begin();
   } else if (offer_ == Offer::Undo) {
-    SetTextAndGrow(lblStuff, LoadText(SentenceOf(calls_.undo())));
+    lblStuff_.SetTextAndGrow(LoadText(SentenceOf(calls_.undo())));
     SetOffer(Offer::Nothing);
-    Focus(butMsg + 1);
+    butMsg_[1].Focus();
   }
 }
 

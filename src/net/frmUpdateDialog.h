@@ -9,7 +9,8 @@
 #include <optional>
 #include <string>
 
-#include "forms/Form.h"
+#include "forms/ControlIds.h"
+#include "forms/controls/Controls.h"
 #include "net/UpdateExchange.h"
 
 namespace sonaro {
@@ -63,6 +64,12 @@ class frmUpdateDialog final : public Form, private UpdateListener {
   bool updating_ = false;
   bool unloading_ = false;
   std::optional<std::uint64_t> textStep_;  // of the text that tells how much has come
+
+  ProgressHandle prgUpdate_{*this, prgUpdate};
+  Label lblStuff_{*this, lblStuff};
+  ControlArray<Button> butMsg_{*this, butMsg, 2};
+  Label lblBytes_{*this, lblBytes};
+  Label picStuff_{*this, picStuff};
 };
 
 }  // namespace sonaro

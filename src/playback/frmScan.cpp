@@ -2,7 +2,6 @@
 
 #include <algorithm>
 
-#include "forms/ControlIds.h"
 #include "forms/MenuText.h"
 #include "forms/controls/ProgressScale.h"
 #include "playback/frmScanTime.h"
@@ -50,16 +49,16 @@ frmScan::~frmScan() {
 }
 
 void frmScan::OnLoad() {
-  List(lstToScan).SetColumns(
+  lstToScan_->SetColumns(
       {{LoadText(IDS_SCAN_W_COLUMN_NAME), 163}, {LoadText(IDS_SCAN_W_COLUMN_LOCATION), 136}});
-  List(lstToScan).SetEmptyText(LoadText(IDS_SCAN_W_EMPTY), LoadText(IDS_SCAN_W_EMPTY_HELP));
-  List(lstToScan).SetModel(&queue_, false);
-  List(lstToScan).onBeginDrag = [this](int row) { BeginQueueDrag(row); };
-  List(lstScanedAlready)
-      .SetColumns({{LoadText(IDS_SCAN_W_COLUMN_NAME), 169}, {LoadText(IDS_SCAN_W_COLUMN_WHAT), 118}});
-  List(lstScanedAlready)
-      .SetEmptyText(LoadText(IDS_SCAN_W_HISTORY_EMPTY), LoadText(IDS_SCAN_W_HISTORY_EMPTY_HELP));
-  List(lstScanedAlready).SetModel(&history_, true);
+  lstToScan_->SetEmptyText(LoadText(IDS_SCAN_W_EMPTY), LoadText(IDS_SCAN_W_EMPTY_HELP));
+  lstToScan_->SetModel(&queue_, false);
+  lstToScan_->onBeginDrag = [this](int row) { BeginQueueDrag(row); };
+  lstScanedAlready_->SetColumns(
+      {{LoadText(IDS_SCAN_W_COLUMN_NAME), 169}, {LoadText(IDS_SCAN_W_COLUMN_WHAT), 118}});
+  lstScanedAlready_->SetEmptyText(LoadText(IDS_SCAN_W_HISTORY_EMPTY),
+                                  LoadText(IDS_SCAN_W_HISTORY_EMPTY_HELP));
+  lstScanedAlready_->SetModel(&history_, true);
   scan_.Open(*this);
   ShowLists();
   ShowState();
@@ -72,48 +71,47 @@ bool frmScan::IsAt(POINT screen) const {
 }
 
 void frmScan::TakeDropped(const StationKey& station, POINT screen) {
-  const bool onQueue = WindowFromPoint(screen) == Control(lstToScan);
-  const int row = onQueue ? List(lstToScan).RowAt(screen) : -1;
+  const bool onQueue = WindowFromPoint(screen) == lstToScan_.Window();
+  const int row = onQueue ? lstToScan_->RowAt(screen) : -1;
   scan_.Add({&station, 1}, row >= 0 ? std::optional(static_cast<std::size_t>(row)) : std::nullopt);
 }
 
 void frmScan::ShowState() {
   if (!IsOpen()) return;
-  SetText(butStartIt, scan_.StartCaption());
-  SetIcon(butStartIt, scan_.State() == ScanState::Scanning ? Icon::Pause : Icon::Play);
-  SetText(lblCurrentScaning, scan_.CurrentText());
-  ShowControl(lblTimeLeft, scan_.TimeLeftVisible());
+  butStartIt_.SetText(scan_.StartCaption());
+  butStartIt_.SetIcon(scan_.State() == ScanState::Scanning ? Icon::Pause : Icon::Play);
+  lblCurrentScaning_.SetText(scan_.CurrentText());
+  lblTimeLeft_.Show(scan_.TimeLeftVisible());
   ShowTimeLeft();
   const ScanButtons can = scan_.Buttons(QueueRow());
-  Enable(butStartIt, can.start);
-  Enable(butMoveNextIt, can.moveNext);
-  Enable(butMoveUpIt, can.moveUp);
+  butStartIt_.Enable(can.start);
+  butMoveNextIt_.Enable(can.moveNext);
+  butMoveUpIt_.Enable(can.moveUp);
   // Left to itself the focus would go on to Remove, below a finger that is still pressing Enter.
-  if (can.moveUp && !can.moveDown && FocusedControl() == butMoveDownIt) Focus(butMoveUpIt);
-  Enable(butMoveDownIt, can.moveDown);
-  Enable(butRemoveStationIt, can.remove);
-  Enable(butClearIt, can.clear);
+  if (can.moveUp && !can.moveDown && butMoveDownIt_.HasFocus()) butMoveUpIt_.Focus();
+  butMoveDownIt_.Enable(can.moveDown);
+  butRemoveStationIt_.Enable(can.remove);
+  butClearIt_.Enable(can.clear);
 }
 
 void frmScan::ShowTimeLeft() {
-  SetText(lblTimeLeft, scan_.TimeLeftText());
+  lblTimeLeft_.SetText(scan_.TimeLeftText());
   const bool counts = scan_.TimeLeftVisible();
-  Progress(picScan).SetProgress(counts ? scan_.ScanTime() - scan_.TimeLeft() : 0,
-                                counts ? scan_.ScanTime() : 0);
+  picScan_->SetProgress(counts ? scan_.ScanTime() - scan_.TimeLeft() : 0, counts ? scan_.ScanTime() : 0);
 }
 
 void frmScan::ShowLists() {
   if (!IsOpen()) return;
-  const int selected = List(lstToScan).Selected();
-  List(lstToScan).RowsChanged();
-  List(lstToScan).Select(std::min(std::max(selected, 0), queue_.RowCount() - 1));
-  List(lstScanedAlready).RowsChanged();
+  const int selected = lstToScan_->Selected();
+  lstToScan_->RowsChanged();
+  lstToScan_->Select(std::min(std::max(selected, 0), queue_.RowCount() - 1));
+  lstScanedAlready_->RowsChanged();
   const std::size_t count = scan_.QueueCount();
-  SetText(lblQueueCount, FormatText(LoadText(count == 1 ? IDS_SCAN_W_QUEUE_ONE : IDS_SCAN_W_QUEUE_COUNT),
+  lblQueueCount_.SetText(FormatText(LoadText(count == 1 ? IDS_SCAN_W_QUEUE_ONE : IDS_SCAN_W_QUEUE_COUNT),
                                     {std::to_string(count)}));
 }
 
-void frmScan::SelectQueueRow(std::size_t row) { List(lstToScan).Select(static_cast<int>(row)); }
+void frmScan::SelectQueueRow(std::size_t row) { lstToScan_->Select(static_cast<int>(row)); }
 
 void frmScan::QueueRowsChanged(const RowsChange& change) {
   if (!IsOpen()) return;
@@ -128,9 +126,9 @@ void frmScan::QueueRowsChanged(const RowsChange& change) {
   } else if (draggedRow_ >= 0) {
     draggedRow_ = after(draggedRow_);
   }
-  const int selected = List(lstToScan).Selected();
-  List(lstToScan).RowsChanged();
-  if (selected >= 0) List(lstToScan).Select(after(selected));
+  const int selected = lstToScan_->Selected();
+  lstToScan_->RowsChanged();
+  if (selected >= 0) lstToScan_->Select(after(selected));
 }
 
 void frmScan::EnableTimer(bool on) {
@@ -142,15 +140,15 @@ void frmScan::EnableTimer(bool on) {
 }
 
 std::optional<std::size_t> frmScan::QueueRow() {
-  const int row = List(lstToScan).Selected();
+  const int row = lstToScan_->Selected();
   return row >= 0 ? std::optional(static_cast<std::size_t>(row)) : std::nullopt;
 }
 
 void frmScan::UseFullLayout(bool full) {
   UseLayout(full ? 0 : 1);
-  ShowControl(panScanFull, full);
-  ShowControl(panScanCompact, !full);
-  SetText(butFullIt, LoadText(full ? IDS_SCAN_W_COMPACT : IDS_SCAN_W_FULL));
+  panScanFull_.Show(full);
+  panScanCompact_.Show(!full);
+  butFullIt_.SetText(LoadText(full ? IDS_SCAN_W_COMPACT : IDS_SCAN_W_FULL));
 }
 
 void frmScan::butMoveUpIt_Click() {
@@ -172,7 +170,7 @@ void frmScan::butScanTimeIt_Click() {
 
 void frmScan::butHelp_Click() { help_.OpenHelpPage("9018.html"); }
 
-void frmScan::lblStationsAdd_Change() { scan_.StationsAdded(Text(lblStationsAdd)); }
+void frmScan::lblStationsAdd_Change() { scan_.StationsAdded(lblStationsAdd_.Text()); }
 
 void frmScan::lstToScan_ItemSelected(int) { ShowState(); }
 
@@ -238,7 +236,7 @@ bool frmScan::OnMessage(UINT message, WPARAM, LPARAM lParam, LRESULT& result) {
     const int from = draggedRow_;
     draggedRow_ = -1;
     ReleaseCapture();
-    const int to = List(lstToScan).RowAt(at);
+    const int to = lstToScan_->RowAt(at);
     if (to >= 0 && to != from) {
       scan_.MoveRow(static_cast<std::size_t>(from), static_cast<std::size_t>(to > from ? to + 1 : to));
     }

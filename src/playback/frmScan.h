@@ -6,7 +6,8 @@
 #include <string>
 #include <vector>
 
-#include "forms/Form.h"
+#include "forms/ControlIds.h"
+#include "forms/controls/Controls.h"
 #include "forms/controls/ListView.h"
 #include "playback/StationScan.h"
 
@@ -99,6 +100,23 @@ class frmScan final : public Form, private ScanView {
   StationKey menuStation_;  // whose context menu is open
   int menuHistoryRow_ = -1;
   int draggedRow_ = -1;
+
+  ListHandle lstToScan_{*this, lstToScan};
+  ListHandle lstScanedAlready_{*this, lstScanedAlready};
+  ProgressHandle picScan_{*this, picScan};
+  Button butStartIt_{*this, butStartIt};
+  Label lblCurrentScaning_{*this, lblCurrentScaning};
+  Label lblTimeLeft_{*this, lblTimeLeft};
+  Button butMoveNextIt_{*this, butMoveNextIt};
+  Button butMoveUpIt_{*this, butMoveUpIt};
+  Button butMoveDownIt_{*this, butMoveDownIt};
+  Button butRemoveStationIt_{*this, butRemoveStationIt};
+  Button butClearIt_{*this, butClearIt};
+  Label lblQueueCount_{*this, lblQueueCount};
+  Panel panScanFull_{*this, panScanFull};
+  Panel panScanCompact_{*this, panScanCompact};
+  Button butFullIt_{*this, butFullIt};
+  Label lblStationsAdd_{*this, lblStationsAdd};
 };
 
 }  // namespace sonaro

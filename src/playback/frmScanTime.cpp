@@ -2,7 +2,6 @@
 
 #include <string>
 
-#include "forms/ControlIds.h"
 #include "forms/DialogRows.h"
 #include "playback/StationScan.h"
 #include "resources/texts/playback.h"
@@ -41,12 +40,12 @@ std::span<const EventRow> frmScanTime::Events() const {
 }
 
 void frmScanTime::OnLoad() {
-  for (int seconds : StationScan::kScanTimes) AddItem(cmbScanTime, std::to_string(seconds), seconds);
-  if (!SelectItemData(cmbScanTime, seconds_)) SelectItem(cmbScanTime, 0);
+  for (int seconds : StationScan::kScanTimes) cmbScanTime_.AddItem(std::to_string(seconds), seconds);
+  if (!cmbScanTime_.SelectItemData(seconds_)) cmbScanTime_.SelectItem(0);
 }
 
 void frmScanTime::butOKIt_Click() {
-  seconds_ = ItemData(cmbScanTime, SelectedItem(cmbScanTime));
+  seconds_ = cmbScanTime_.ItemData(cmbScanTime_.SelectedItem());
   Close(1);
 }
 

@@ -1,7 +1,8 @@
 // The small dialog "Set Scan Time".
 #pragma once
 
-#include "forms/Form.h"
+#include "forms/ControlIds.h"
+#include "forms/controls/Controls.h"
 
 namespace sonaro {
 
@@ -20,6 +21,8 @@ class frmScanTime final : public Form {
   void butCancelIt_Click() { Close(); }
 
   int seconds_;
+
+  ComboBox cmbScanTime_{*this, cmbScanTime};
 };
 
 }  // namespace sonaro

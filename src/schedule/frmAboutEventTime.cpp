@@ -1,6 +1,5 @@
 #include "schedule/frmAboutEventTime.h"
 
-#include "forms/ControlIds.h"
 #include "forms/DialogRows.h"
 #include "platform/Clock.h"
 #include "platform/Shell.h"
@@ -86,9 +85,9 @@ void frmAboutEventTime::OnLoad() {
   std::string zone;
   std::string daylight;
   GetZoneOffset(clock_, zone, daylight);
-  SetText(lblTimeInfo3, FormatText(LoadText(IDS_SCHED_TIME_DATE), {FormatLongDate(now.date)}));
-  SetText(lblTimeInfo4, FormatText(LoadText(IDS_SCHED_TIME_TIME), {FormatTimeWithSeconds(now.time)}));
-  SetText(lblTimeInfo5, FormatText(LoadText(IDS_SCHED_TIME_ZONE), {zone}));
+  lblTimeInfo3_.SetText(FormatText(LoadText(IDS_SCHED_TIME_DATE), {FormatLongDate(now.date)}));
+  lblTimeInfo4_.SetText(FormatText(LoadText(IDS_SCHED_TIME_TIME), {FormatTimeWithSeconds(now.time)}));
+  lblTimeInfo5_.SetText(FormatText(LoadText(IDS_SCHED_TIME_ZONE), {zone}));
 }
 
 void frmAboutEventTime::lblChangeIt_Click() { shell_.RunMinimised(kTimeSettings); }

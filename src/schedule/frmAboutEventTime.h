@@ -1,7 +1,8 @@
 // Tells in what time events are shown: the computer's date, time and zone, and the way to change them.
 #pragma once
 
-#include "forms/Form.h"
+#include "forms/ControlIds.h"
+#include "forms/controls/Controls.h"
 
 namespace sonaro {
 
@@ -25,6 +26,10 @@ class frmAboutEventTime final : public Form {
   Clock& clock_;
   Shell& shell_;
   HelpPages& help_;
+
+  Label lblTimeInfo3_{*this, lblTimeInfo3};
+  Label lblTimeInfo4_{*this, lblTimeInfo4};
+  Label lblTimeInfo5_{*this, lblTimeInfo5};
 };
 
 }  // namespace sonaro

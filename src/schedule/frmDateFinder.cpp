@@ -1,6 +1,5 @@
 #include "schedule/frmDateFinder.h"
 
-#include "forms/ControlIds.h"
 #include "forms/DialogRows.h"
 #include "resources/texts/schedule.h"
 #include "settings/HelpPages.h"
@@ -73,14 +72,14 @@ void frmDateFinder::Show(const Date& date) {
   shown.wYear = static_cast<WORD>(date.year);
   shown.wMonth = static_cast<WORD>(date.month);
   shown.wDay = static_cast<WORD>(date.day);
-  SetCalendarDate(calDates, shown);
-  SetText(lblWeekday, EnglishDayName(Weekday(date)));
-  SetText(lblDay, std::to_string(date.day));
-  SetText(lblMonthYear, std::string(EnglishMonthName(date.month)) + " " + std::to_string(date.year));
+  calDates_.SetDate(shown);
+  lblWeekday_.SetText(EnglishDayName(Weekday(date)));
+  lblDay_.SetText(std::to_string(date.day));
+  lblMonthYear_.SetText(std::string(EnglishMonthName(date.month)) + " " + std::to_string(date.year));
 }
 
 void frmDateFinder::calDates_Change() {
-  const SYSTEMTIME date = CalendarDate(calDates);
+  const SYSTEMTIME date = calDates_.Date();
   const Date chosen{date.wYear, date.wMonth, date.wDay};
   if (IsValid(chosen) && chosen != chosen_) Show(chosen);
 }

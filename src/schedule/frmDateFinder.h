@@ -4,7 +4,8 @@
 #include <optional>
 
 #include "base/Dates.h"
-#include "forms/Form.h"
+#include "forms/ControlIds.h"
+#include "forms/controls/Controls.h"
 
 namespace sonaro {
 
@@ -33,6 +34,11 @@ class frmDateFinder final : public Form {
   HelpPages& help_;
   Date today_;
   Date chosen_;
+
+  MonthCalendar calDates_{*this, calDates};
+  Label lblWeekday_{*this, lblWeekday};
+  Label lblDay_{*this, lblDay};
+  Label lblMonthYear_{*this, lblMonthYear};
 };
 
 }  // namespace sonaro

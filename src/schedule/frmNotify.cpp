@@ -1,6 +1,5 @@
 #include "schedule/frmNotify.h"
 
-#include "forms/ControlIds.h"
 #include "forms/DialogRows.h"
 #include "resources/texts/schedule.h"
 
@@ -8,7 +7,6 @@ namespace sonaro {
 
 namespace {
 
-constexpr int kPlayButtonCount = 3;
 constexpr unsigned kSoundDelay = 50;  // milliseconds: the window has been painted
 constexpr unsigned char kNoticePane = 1;
 constexpr unsigned char kMissedPane = 2;
@@ -82,7 +80,7 @@ const FormDesign& frmNotify::Design() {
 
 std::span<const EventRow> frmNotify::Events() const {
   static const EventRow kRows[] = {
-      {butPlay1It, Click, &frmNotify::butPlay_Click, kPlayButtonCount},
+      {butPlay1It, Click, &frmNotify::butPlay_Click, static_cast<int>(Notification::kPlayButtons)},
       {butGoWebSiteIt, Click, &frmNotify::butGoWebSiteIt_Click},
       {butCloselIt, Click, &frmNotify::butCloselIt_Click},
       {butCloseIt, Click, &frmNotify::butCloselIt_Click},
@@ -107,15 +105,15 @@ void frmNotify::OnLoad() {
   ShowPane(kNoticePane, !away);
   ShowPane(kMissedPane, away);
   if (away) {
-    SetText(lblTitle, LoadText(IDS_SCHED_AWAY_TITLE));
-    SetText(lblNoticeInfo, LoadText(IDS_SCHED_AWAY_TEXT));
+    lblTitle_.SetText(LoadText(IDS_SCHED_AWAY_TITLE));
+    lblNoticeInfo_.SetText(LoadText(IDS_SCHED_AWAY_TEXT));
     std::string lines;
     for (const std::string& line : missed_) lines += (lines.empty() ? "" : "\r\n") + line;
-    SetText(txtMissed, lines);
+    txtMissed_.SetText(lines);
   } else {
-    SetText(lblNoticeInfo, notification_.notice);
-    SetText(lblEventName, notification_.eventName);
-    SetText(lblNote, notification_.note);
+    lblNoticeInfo_.SetText(notification_.notice);
+    lblEventName_.SetText(notification_.eventName);
+    lblNote_.SetText(notification_.note);
     ShowPlayButtons();
   }
   StartTimer(Timer1, kSoundDelay);
@@ -123,12 +121,12 @@ void frmNotify::OnLoad() {
 
 void frmNotify::ShowPlayButtons() {
   for (std::size_t i = 0; i < notification_.plays.size(); ++i) {
-    const int id = butPlay1It + static_cast<int>(i);
-    SetText(id, notification_.plays[i].caption);
-    SetDetail(id, notification_.plays[i].detail);
-    ShowControl(id);
+    const TwoLineButton button = butPlay_[static_cast<int>(i)];
+    button.SetText(notification_.plays[i].caption);
+    button.SetDetail(notification_.plays[i].detail);
+    button.Show();
   }
-  ShowControl(butGoWebSiteIt, !notification_.webSite.empty());
+  butGoWebSiteIt_.Show(!notification_.webSite.empty());
 }
 
 void frmNotify::butPlay_Click(int index) {

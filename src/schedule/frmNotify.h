@@ -5,7 +5,8 @@
 
 #include <functional>
 
-#include "forms/Form.h"
+#include "forms/ControlIds.h"
+#include "forms/controls/Controls.h"
 #include "schedule/Notification.h"
 
 namespace sonaro {
@@ -40,6 +41,14 @@ class frmNotify final : public Form {
   const NotifyActions& actions_;
   Notification notification_;
   std::vector<std::string> missed_;
+
+  ControlArray<TwoLineButton> butPlay_{*this, butPlay1It, static_cast<int>(Notification::kPlayButtons)};
+  Label lblTitle_{*this, lblTitle};
+  Label lblNoticeInfo_{*this, lblNoticeInfo};
+  Edit txtMissed_{*this, txtMissed};
+  Label lblEventName_{*this, lblEventName};
+  Label lblNote_{*this, lblNote};
+  Button butGoWebSiteIt_{*this, butGoWebSiteIt};
 };
 
 }  // namespace sonaro

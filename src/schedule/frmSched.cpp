@@ -4,7 +4,6 @@
 
 #include "base/DataFolder.h"
 #include "base/RowSelection.h"
-#include "forms/ControlIds.h"
 #include "forms/FileDialog.h"
 #include "platform/Clock.h"
 #include "resources/texts/app.h"
@@ -26,7 +25,7 @@ std::string frmSched::Rows::Cell(int row, int column) const {
 }
 
 void frmSched::Rows::Load(int nameText, int emptyText, int emptyHelp) {
-  ListView& list = form_.List(list_);
+  ListView& list = *list_;
   list.SetColumns({{form_.LoadText(IDS_SCHED_COLUMN_NEXT), 129},
                    {form_.LoadText(nameText), 180},
                    {form_.LoadText(IDS_SCHED_COLUMN_OFTEN), 172},
@@ -54,11 +53,11 @@ void frmSched::Rows::SortBy(int column) {
 }
 
 void frmSched::Rows::ShowSorted(const std::vector<std::string>& before) {
-  ListView& list = form_.List(list_);
+  ListView& list = *list_;
   const int selected = list.Selected();
   SortRows(rows_, sortedBy_);
   for (int column = 0; column < kScheduleColumns; ++column) {
-    form_.SetSortMark(firstHeader_ + column, column == sortedBy_ ? SortMark::Up : SortMark::None);
+    headers_[column].SetSortMark(column == sortedBy_ ? SortMark::Up : SortMark::None);
   }
   list.RowsChanged();
   const auto after =
@@ -67,7 +66,7 @@ void frmSched::Rows::ShowSorted(const std::vector<std::string>& before) {
 }
 
 std::string frmSched::Rows::SelectedKey() const {
-  const int row = form_.List(list_).Selected();
+  const int row = list_->Selected();
   return row >= 0 && row < RowCount() ? rows_[static_cast<std::size_t>(row)].key : "";
 }
 
@@ -85,26 +84,26 @@ void frmSched::FillLists() {
   shows_.Fill(ShowRows(services_.shows, services_.store, services_.calendar, services_.nextBroadcast, now,
                        services_.clockStyle));
   showsUsed_ = showsUsed_ && shows_.RowCount() > 0;
-  if (SelectedKey().empty()) List(lstSched).Select(std::min(0, scheduled_.RowCount() - 1));
+  if (SelectedKey().empty()) lstSched_->Select(std::min(0, scheduled_.RowCount() - 1));
   ShowKeys();
 }
 
 void frmSched::ShowKeys() {
   const std::string key = SelectedKey();
-  Enable(butChangeIt, SlotOfKey(key) >= 0);
-  Enable(butDeleteIt, !key.empty());
-  Enable(butExportIt, scheduled_.RowCount() > 0);
+  butChangeIt_.Enable(SlotOfKey(key) >= 0);
+  butDeleteIt_.Enable(!key.empty());
+  butExportIt_.Enable(scheduled_.RowCount() > 0);
 }
 
 void frmSched::lstSched_ItemSelected(int) {
   showsUsed_ = false;
-  List(lstShows).Select(-1);
+  lstShows_->Select(-1);
   ShowKeys();
 }
 
 void frmSched::lstShows_ItemSelected(int) {
   showsUsed_ = true;
-  List(lstSched).Select(-1);
+  lstSched_->Select(-1);
   ShowKeys();
 }
 
@@ -137,7 +136,7 @@ void frmSched::butDeleteIt_Click() {
     SavedOrSaid(saved, LoadText(IDS_FILE_SCHEDULE), services_.messages, context_.strings);
   }
   FillLists();
-  Focus(showsUsed_ ? lstShows : lstSched);  // the button may be out of use now
+  (showsUsed_ ? lstShows_ : lstSched_).Focus();  // the button may be out of use now
 }
 
 void frmSched::butAboutTimeIt_Click() {

@@ -4,7 +4,7 @@
 #include <vector>
 
 #include "forms/ControlIds.h"
-#include "forms/Form.h"
+#include "forms/controls/Controls.h"
 #include "forms/controls/ListView.h"
 #include "schedule/ScheduleList.h"
 #include "schedule/ScheduleServices.h"
@@ -23,7 +23,8 @@ class frmSched final : public Form {
   // One of the two lists, sorted by one of its columns.
   class Rows final : public ListModel {
    public:
-    Rows(Form& form, int list, int firstHeader) : form_(form), list_(list), firstHeader_(firstHeader) {}
+    Rows(Form& form, int list, int firstHeader)
+        : form_(form), list_(form, list), headers_(form, firstHeader, kScheduleColumns) {}
     int RowCount() const override { return static_cast<int>(rows_.size()); }
     std::string Cell(int row, int column) const override;
 
@@ -39,8 +40,8 @@ class frmSched final : public Form {
     void ShowSorted(const std::vector<std::string>& before);
 
     Form& form_;
-    const int list_;
-    const int firstHeader_;
+    ListHandle list_;
+    ControlArray<ColumnButton> headers_;
     int sortedBy_ = kNextColumn;
     std::vector<ScheduleRow> rows_;
   };
@@ -70,6 +71,12 @@ class frmSched final : public Form {
   Rows scheduled_{*this, lstSched, butSchedSplit};
   Rows shows_{*this, lstShows, butShowSplit};
   bool showsUsed_ = false;
+
+  ListHandle lstSched_{*this, lstSched};
+  ListHandle lstShows_{*this, lstShows};
+  Button butChangeIt_{*this, butChangeIt};
+  Button butDeleteIt_{*this, butDeleteIt};
+  Button butExportIt_{*this, butExportIt};
 };
 
 }  // namespace sonaro

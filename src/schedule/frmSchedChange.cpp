@@ -1,6 +1,5 @@
 #include "schedule/frmSchedChange.h"
 
-#include "forms/ControlIds.h"
 #include "platform/Clock.h"
 #include "resources/texts/app.h"
 #include "resources/texts/schedule.h"
@@ -41,40 +40,40 @@ frmSchedChange::frmSchedChange(FormContext& context, ScheduleServices& services,
       slot_(slot) {}
 
 void frmSchedChange::OnLoad() {
-  LimitText(txtNote, kNoteBytes);
+  txtNote_.Limit(kNoteBytes);
   FillChoices();
-  SetText(lblStationToSched, draft_.StationShown());
-  SetText(txtOneDate, draft_.dateText);
-  SetText(txtNote, draft_.note);
-  Check(chkWebSite, draft_.openWebSite);
-  for (int day = 0; day < kDays; ++day) SetToggle(chkDay + day, draft_.days[static_cast<std::size_t>(day)]);
+  lblStationToSched_.SetText(draft_.StationShown());
+  txtOneDate_.SetText(draft_.dateText);
+  txtNote_.SetText(draft_.note);
+  chkWebSite_.Check(draft_.openWebSite);
+  for (int day = 0; day < kDays; ++day) chkDay_[day].SetActive(draft_.days[static_cast<std::size_t>(day)]);
   ShowKind();
 }
 
 void frmSchedChange::FillChoices() {
-  for (const std::string& hour : HourChoices(services_.clockStyle)) AddItem(cmbTimeHour, hour);
-  for (const std::string& minute : MinuteChoices()) AddItem(cmbTimeMinute, minute);
-  AddItem(cmbTimeAMPM, "PM");
-  AddItem(cmbTimeAMPM, "AM");
-  for (int day = 0; day < kDays; ++day) AddItem(cmbThreeDay, EnglishDayName(day));
+  for (const std::string& hour : HourChoices(services_.clockStyle)) cmbTimeHour_.AddItem(hour);
+  for (const std::string& minute : MinuteChoices()) cmbTimeMinute_.AddItem(minute);
+  cmbTimeAMPM_.AddItem("PM");
+  cmbTimeAMPM_.AddItem("AM");
+  for (int day = 0; day < kDays; ++day) cmbThreeDay_.AddItem(EnglishDayName(day));
   const TimeChoice choice = ChoiceOf(draft_.time, services_.clockStyle);
-  SelectItem(cmbTimeHour, choice.hour);
-  SelectItem(cmbTimeMinute, choice.minute);
-  SelectItem(cmbTimeAMPM, choice.half);
+  cmbTimeHour_.SelectItem(choice.hour);
+  cmbTimeMinute_.SelectItem(choice.minute);
+  cmbTimeAMPM_.SelectItem(choice.half);
   ShowPane(kHours12Pane, services_.clockStyle == ClockStyle::Hours12);
   ShowPane(kHours24Pane, services_.clockStyle == ClockStyle::Hours24);
-  SelectItem(cmbThreeDay, draft_.weekday);
+  cmbThreeDay_.SelectItem(draft_.weekday);
 }
 
 void frmSchedChange::ShowKind() {
   const int shown = IndexOf(draft_.kind);
-  SetToggleOnly(cmdHowOften, kKindCount, shown);
+  cmdHowOften_.SetOnly(shown);
   for (int kind = 0; kind < kKindCount; ++kind) ShowPane(kOncePane + kind, kind == shown);
   ShowSummary();
 }
 
 void frmSchedChange::ShowSummary() {
-  SetText(lblSummary, draft_.Summary(services_.clockStyle, services_.shortDatePattern));
+  lblSummary_.SetText(draft_.Summary(services_.clockStyle, services_.shortDatePattern));
   std::string next;
   TextColor color = TextColor::GlassMuted;
   if (draft_.Fault(services_.shortDatePattern) == DraftFault::None) {
@@ -88,19 +87,19 @@ void frmSchedChange::ShowSummary() {
       color = TextColor::Alert;
     }
   }
-  SetTextColor(lblNextTime, color);
-  SetText(lblNextTime, next);
+  lblNextTime_.SetColor(color);
+  lblNextTime_.SetText(next);
 }
 
 void frmSchedChange::ReadControls() {
   draft_.time =
-      TimeOfChoice({SelectedItem(cmbTimeHour), SelectedItem(cmbTimeMinute), SelectedItem(cmbTimeAMPM)},
+      TimeOfChoice({cmbTimeHour_.SelectedItem(), cmbTimeMinute_.SelectedItem(), cmbTimeAMPM_.SelectedItem()},
                    services_.clockStyle);
-  draft_.weekday = SelectedItem(cmbThreeDay);
-  draft_.dateText = Text(txtOneDate);
-  draft_.note = Text(txtNote);
-  draft_.openWebSite = IsChecked(chkWebSite);
-  for (int day = 0; day < kDays; ++day) draft_.days[static_cast<std::size_t>(day)] = IsToggled(chkDay + day);
+  draft_.weekday = cmbThreeDay_.SelectedItem();
+  draft_.dateText = txtOneDate_.Text();
+  draft_.note = txtNote_.Text();
+  draft_.openWebSite = chkWebSite_.IsChecked();
+  for (int day = 0; day < kDays; ++day) draft_.days[static_cast<std::size_t>(day)] = chkDay_[day].IsActive();
 }
 
 void frmSchedChange::cmdHowOften_Click(int index) {
@@ -110,7 +109,7 @@ void frmSchedChange::cmdHowOften_Click(int index) {
 }
 
 void frmSchedChange::chkDay_Click(int day) {
-  SetToggle(chkDay + day, !IsToggled(chkDay + day));
+  chkDay_[day].SetActive(!chkDay_[day].IsActive());
   Any_Change();
 }
 
@@ -125,15 +124,15 @@ void frmSchedChange::butSchedIt_Click() {
   if (!picked) return;
   draft_.name = {picked->name, {}, {}};
   draft_.station = picked->key;
-  SetText(lblStationToSched, draft_.StationShown());
+  lblStationToSched_.SetText(draft_.StationShown());
   ShowSummary();
 }
 
 void frmSchedChange::butPickDateIt_Click() {
   const Date today = services_.clock.LocalNow().date;
-  const auto typed = ParseTypedDate(Text(txtOneDate), services_.shortDatePattern);
+  const auto typed = ParseTypedDate(txtOneDate_.Text(), services_.shortDatePattern);
   frmDateFinder finder(context_, services_.help, today, typed ? typed->date : today);
-  if (const std::optional<Date> date = finder.Choose(Window())) SetText(txtOneDate, FormatLongDate(*date));
+  if (const std::optional<Date> date = finder.Choose(Window())) txtOneDate_.SetText(FormatLongDate(*date));
   Any_Change();
 }
 
@@ -142,12 +141,12 @@ bool frmSchedChange::ShowError(DraftFault fault) {
     DraftFault fault;
     const char* key;
     int text;
-    int control;
+    ControlHandle control;
   };
-  static constexpr Complaint kComplaints[] = {
-      {DraftFault::NoStation, "ScheduleStationYourNeedToSelectAStation", IDS_SCHED_NEED_STATION, butSchedIt},
-      {DraftFault::NoDate, "ScheduleStationYourNeedToSelectADate", IDS_SCHED_NEED_DATE, txtOneDate},
-      {DraftFault::NoDay, "ScheduleStationYourNeedToSelectADay", IDS_SCHED_NEED_DAY, chkDay},
+  const Complaint kComplaints[] = {
+      {DraftFault::NoStation, "ScheduleStationYourNeedToSelectAStation", IDS_SCHED_NEED_STATION, butSchedIt_},
+      {DraftFault::NoDate, "ScheduleStationYourNeedToSelectADate", IDS_SCHED_NEED_DATE, txtOneDate_},
+      {DraftFault::NoDay, "ScheduleStationYourNeedToSelectADay", IDS_SCHED_NEED_DAY, chkDay_[0]},
   };
   for (const Complaint& complaint : kComplaints) {
     if (complaint.fault != fault) continue;
@@ -155,7 +154,7 @@ bool frmSchedChange::ShowError(DraftFault fault) {
                             .caption = LoadText(IDS_SCHED_CHANGE_MESSAGE_CAPTION),
                             .text = LoadText(complaint.text),
                             .firstButton = LoadText(IDS_APP_OK)});
-    Focus(complaint.control);
+    complaint.control.Focus();
     return true;
   }
   return false;

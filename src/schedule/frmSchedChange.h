@@ -4,7 +4,8 @@
 
 #include <optional>
 
-#include "forms/Form.h"
+#include "forms/ControlIds.h"
+#include "forms/controls/Controls.h"
 #include "schedule/ScheduleDraft.h"
 #include "schedule/ScheduleServices.h"
 
@@ -43,6 +44,20 @@ class frmSchedChange final : public Form {
   ScheduleServices& services_;
   ScheduleDraft draft_;
   std::optional<std::size_t> slot_;
+
+  Button butSchedIt_{*this, butSchedIt};
+  ControlArray<ToggleButton> cmdHowOften_{*this, cmdHowOften, 3};
+  Edit txtNote_{*this, txtNote};
+  Label lblStationToSched_{*this, lblStationToSched};
+  Edit txtOneDate_{*this, txtOneDate};
+  CheckBox chkWebSite_{*this, chkWebSite};
+  ControlArray<ToggleButton> chkDay_{*this, chkDay, 7};
+  ComboBox cmbTimeHour_{*this, cmbTimeHour};
+  ComboBox cmbTimeMinute_{*this, cmbTimeMinute};
+  ComboBox cmbTimeAMPM_{*this, cmbTimeAMPM};
+  ComboBox cmbThreeDay_{*this, cmbThreeDay};
+  Label lblSummary_{*this, lblSummary};
+  Label lblNextTime_{*this, lblNextTime};
 };
 
 }  // namespace sonaro

@@ -1,7 +1,6 @@
 #include "schedule/frmSelectStation.h"
 
 #include "base/Text.h"
-#include "forms/ControlIds.h"
 #include "forms/DialogRows.h"
 #include "resources/texts/schedule.h"
 #include "settings/HelpPages.h"
@@ -84,42 +83,42 @@ std::optional<StationInfo> frmSelectStation::Choose(HWND owner) {
 }
 
 void frmSelectStation::OnLoad() {
-  List(lstResult).SetColumns({{LoadText(IDS_SCHED_COLUMN_NAME), 249},
-                              {LoadText(IDS_SCHED_COLUMN_LOCATION), 170},
-                              {LoadText(IDS_SCHED_COLUMN_MEDIA), 112}});
-  List(lstResult).SetEmptyText(LoadText(IDS_SCHED_PICK_EMPTY), LoadText(IDS_SCHED_PICK_EMPTY_HELP));
-  List(lstResult).SetModel(&rows_, true);
-  for (const std::string& source : stations_.Sources()) AddItem(cmbSelectGroup, source);
-  for (const std::string& earlier : stations_.SearchHistory()) AddItem(txtFind, earlier);
-  SelectItem(cmbSelectGroup, 0);
+  lstResult_->SetColumns({{LoadText(IDS_SCHED_COLUMN_NAME), 249},
+                          {LoadText(IDS_SCHED_COLUMN_LOCATION), 170},
+                          {LoadText(IDS_SCHED_COLUMN_MEDIA), 112}});
+  lstResult_->SetEmptyText(LoadText(IDS_SCHED_PICK_EMPTY), LoadText(IDS_SCHED_PICK_EMPTY_HELP));
+  lstResult_->SetModel(&rows_, true);
+  for (const std::string& source : stations_.Sources()) cmbSelectGroup_.AddItem(source);
+  for (const std::string& earlier : stations_.SearchHistory()) txtFind_.AddItem(earlier);
+  cmbSelectGroup_.SelectItem(0);
   cmbSelectGroup_Change();
 }
 
 void frmSelectStation::ShowRows(std::vector<StationInfo> rows) {
   rows_.rows = std::move(rows);
-  List(lstResult).RowsChanged();
-  List(lstResult).SelectNone();
-  Enable(butOKIt, false);
+  lstResult_->RowsChanged();
+  lstResult_->SelectNone();
+  butOKIt_.Enable(false);
 }
 
 void frmSelectStation::cmbSelectGroup_Change() {
-  const int source = SelectedItem(cmbSelectGroup);
+  const int source = cmbSelectGroup_.SelectedItem();
   if (source >= 0) ShowRows(stations_.RowsOf(static_cast<std::size_t>(source)));
 }
 
 void frmSelectStation::butSearchIt_Click() {
-  const std::string text = Text(txtFind);
+  const std::string text = txtFind_.Text();
   if (TrimBlanks(text).empty()) return;
   ShowRows(stations_.Find(text));
-  Focus(lstResult);
+  lstResult_.Focus();
 }
 
-void frmSelectStation::lstResult_ItemClick(int row) { Enable(butOKIt, row >= 0); }
+void frmSelectStation::lstResult_ItemClick(int row) { butOKIt_.Enable(row >= 0); }
 
 void frmSelectStation::lstResult_ItemActivate(int) { butOKIt_Click(); }
 
 void frmSelectStation::butOKIt_Click() {
-  const int row = List(lstResult).Selected();
+  const int row = lstResult_->Selected();
   if (row < 0) return;
   chosen_ = rows_.rows[static_cast<std::size_t>(row)];
   Close(1);

@@ -5,7 +5,8 @@
 #include <optional>
 #include <vector>
 
-#include "forms/Form.h"
+#include "forms/ControlIds.h"
+#include "forms/controls/Controls.h"
 #include "forms/controls/ListView.h"
 #include "schedule/StationPicker.h"
 
@@ -47,6 +48,11 @@ class frmSelectStation final : public Form {
   HelpPages& help_;
   Rows rows_;
   std::optional<StationInfo> chosen_;
+
+  ListHandle lstResult_{*this, lstResult};
+  ComboBox cmbSelectGroup_{*this, cmbSelectGroup};
+  ComboBox txtFind_{*this, txtFind};
+  Button butOKIt_{*this, butOKIt};
 };
 
 }  // namespace sonaro

@@ -1,7 +1,6 @@
 #include "tray/frmOptions.h"
 
 #include "base/Text.h"
-#include "forms/ControlIds.h"
 #include "forms/MessageLoop.h"
 #include "resources/texts/tray.h"
 #include "settings/Strings.h"
@@ -36,15 +35,15 @@ std::span<const EventRow> frmOptions::Events() const {
 }
 
 void frmOptions::OnLoad() {
-  LimitText(txtProxy, kMaxAddressBytes);
-  LimitText(txtPort, kMaxPortDigits);
+  txtProxy_.Limit(kMaxAddressBytes);
+  txtPort_.Limit(kMaxPortDigits);
   for (const auto& [text, choice] : {std::pair(IDS_OPTIONS_CLOSE_ASK, AfterClose::Ask),
                                      std::pair(IDS_OPTIONS_CLOSE_TRAY, AfterClose::KeepInTray),
                                      std::pair(IDS_OPTIONS_CLOSE_EXIT, AfterClose::Exit)})
-    AddItem(cmbAfterClose, LoadText(text), static_cast<int>(choice));
+    cmbAfterClose_.AddItem(LoadText(text), static_cast<int>(choice));
   if (!model_.CanStartWithWindows()) {
-    Enable(chkStartWindows, false);
-    SetText(chkStartWindows, LoadText(IDS_OPTIONS_NO_START));
+    chkStartWindows_.Enable(false);
+    chkStartWindows_.SetText(LoadText(IDS_OPTIONS_NO_START));
   }
   options_ = model_.Read();
   Fill(options_);
@@ -55,46 +54,48 @@ void frmOptions::OnUnload() {
 }
 
 void frmOptions::Fill(const Options& options) {
-  Check(chkStartWindows, options.startWithWindows);
-  SelectItemData(cmbAfterClose, static_cast<int>(options.afterClose));
-  Check(chkSoundNotice, options.soundWithNotice);
-  Check(chkSoundKeys, options.clickWithButtons);
-  Check(optProxy + (options.useProxy ? 1 : 0));
-  SetText(txtProxy, options.proxy.address);
-  SetText(txtPort, options.proxy.port);
-  Check(chkLookForPlayer, options.lookForPlayer);
-  Check(chkLookForProxy, options.lookForProxy);
-  Check(chkOfferTutorial, options.offerTutorial);
-  SetToggleOnly(optFaceplate, kFaceplates, options.faceplate ? static_cast<int>(*options.faceplate) : -1);
+  chkStartWindows_.Check(options.startWithWindows);
+  cmbAfterClose_.SelectItemData(static_cast<int>(options.afterClose));
+  chkSoundNotice_.Check(options.soundWithNotice);
+  chkSoundKeys_.Check(options.clickWithButtons);
+  optProxy_[options.useProxy ? 1 : 0].Check();
+  txtProxy_.SetText(options.proxy.address);
+  txtPort_.SetText(options.proxy.port);
+  chkLookForPlayer_.Check(options.lookForPlayer);
+  chkLookForProxy_.Check(options.lookForProxy);
+  chkOfferTutorial_.Check(options.offerTutorial);
+  optFaceplate_.SetOnly(options.faceplate ? static_cast<int>(*options.faceplate) : -1);
   ShowProxyControls();
 }
 
 Options frmOptions::Wanted() const {
   Options wanted = options_;
-  wanted.startWithWindows = IsChecked(chkStartWindows);
-  wanted.afterClose = static_cast<AfterClose>(ItemData(cmbAfterClose, SelectedItem(cmbAfterClose)));
-  wanted.soundWithNotice = IsChecked(chkSoundNotice);
-  wanted.clickWithButtons = IsChecked(chkSoundKeys);
-  wanted.useProxy = IsChecked(optProxy + 1);
+  wanted.startWithWindows = chkStartWindows_.IsChecked();
+  wanted.afterClose = static_cast<AfterClose>(cmbAfterClose_.ItemData(cmbAfterClose_.SelectedItem()));
+  wanted.soundWithNotice = chkSoundNotice_.IsChecked();
+  wanted.clickWithButtons = chkSoundKeys_.IsChecked();
+  wanted.useProxy = optProxy_[1].IsChecked();
   wanted.proxy = TypedProxy();
-  wanted.lookForPlayer = IsChecked(chkLookForPlayer);
-  wanted.lookForProxy = IsChecked(chkLookForProxy);
-  wanted.offerTutorial = IsChecked(chkOfferTutorial);
+  wanted.lookForPlayer = chkLookForPlayer_.IsChecked();
+  wanted.lookForProxy = chkLookForProxy_.IsChecked();
+  wanted.offerTutorial = chkOfferTutorial_.IsChecked();
   return wanted;
 }
 
 ProxyServer frmOptions::TypedProxy() const {
-  return {std::string(TrimBlanks(Text(txtProxy))), std::string(TrimBlanks(Text(txtPort)))};
+  return {std::string(TrimBlanks(txtProxy_.Text())), std::string(TrimBlanks(txtPort_.Text()))};
 }
 
 void frmOptions::ShowProxyControls() {
-  const bool use = IsChecked(optProxy + 1);
-  for (const int id : {txtProxy, txtPort, butTestProxyIt}) Enable(id, use);
+  const bool use = optProxy_[1].IsChecked();
+  txtProxy_.Enable(use);
+  txtPort_.Enable(use);
+  butTestProxyIt_.Enable(use);
 }
 
 void frmOptions::Inform(std::string_view sentence, TextColor color) {
-  SetTextColor(lblOptionsInfo, color);
-  SetText(lblOptionsInfo, sentence);
+  lblOptionsInfo_.SetColor(color);
+  lblOptionsInfo_.SetText(sentence);
 }
 
 void frmOptions::optProxy_Click(int) {
@@ -112,9 +113,9 @@ void frmOptions::butFindProxyIt_Click() {
     return;
   }
   const ProxyServer server = SplitProxy(found);
-  Check(optProxy + 1);
-  SetText(txtProxy, server.address);
-  SetText(txtPort, server.port);
+  optProxy_[1].Check();
+  txtProxy_.SetText(server.address);
+  txtPort_.SetText(server.port);
   ShowProxyControls();
   Inform(FormatText(LoadText(IDS_OPTIONS_PROXY_FOUND), {found}), TextColor::Signal);
 }
@@ -128,28 +129,28 @@ void frmOptions::butTestProxyIt_Click() {
 
 // True when the proxy cannot be used as it is typed: the sentence is shown and the edit has the focus.
 bool frmOptions::ShowProxyError() {
-  const auto complain = [this](int sentence, int edit) {
+  const auto complain = [this](int sentence, const Edit& edit) {
     Inform(LoadText(sentence), TextColor::Alert);
-    Focus(edit);
-    SelectAllText(edit);
+    edit.Focus();
+    edit.SelectAll();
     return true;
   };
   switch (CheckProxy(TypedProxy())) {
     case ProxyFault::None:
       break;
     case ProxyFault::NoAddress:
-      return complain(IDS_OPTIONS_NO_ADDRESS, txtProxy);
+      return complain(IDS_OPTIONS_NO_ADDRESS, txtProxy_);
     case ProxyFault::BadAddress:
-      return complain(IDS_OPTIONS_BAD_ADDRESS, txtProxy);
+      return complain(IDS_OPTIONS_BAD_ADDRESS, txtProxy_);
     case ProxyFault::BadPort:
-      return complain(IDS_OPTIONS_BAD_PORT, txtPort);
+      return complain(IDS_OPTIONS_BAD_PORT, txtPort_);
   }
   return false;
 }
 
 void frmOptions::optFaceplate_Click(int faceplate) {
   options_.faceplate = static_cast<BuiltInFaceplate>(faceplate);
-  SetToggleOnly(optFaceplate, kFaceplates, faceplate);
+  optFaceplate_.SetOnly(faceplate);
   model_.TryFaceplate(*options_.faceplate);
   RefreshAllForms();
 }

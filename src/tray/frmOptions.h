@@ -4,7 +4,8 @@
 
 #include <string>
 
-#include "forms/Form.h"
+#include "forms/ControlIds.h"
+#include "forms/controls/Controls.h"
 #include "settings/HelpPages.h"
 #include "stations/Commands.h"
 #include "tray/OptionsModel.h"
@@ -51,6 +52,20 @@ class frmOptions final : public Form {
   OptionsModel& model_;
   const OptionsServices use_;
   Options options_;  // with what the user has changed in so far as no control holds it
+
+  ControlArray<ToggleButton> optFaceplate_{*this, optFaceplate, 2};
+  Edit txtProxy_{*this, txtProxy};
+  Edit txtPort_{*this, txtPort};
+  ComboBox cmbAfterClose_{*this, cmbAfterClose};
+  CheckBox chkStartWindows_{*this, chkStartWindows};
+  CheckBox chkSoundNotice_{*this, chkSoundNotice};
+  CheckBox chkSoundKeys_{*this, chkSoundKeys};
+  CheckBox chkLookForPlayer_{*this, chkLookForPlayer};
+  CheckBox chkLookForProxy_{*this, chkLookForProxy};
+  CheckBox chkOfferTutorial_{*this, chkOfferTutorial};
+  ControlArray<RadioButton> optProxy_{*this, optProxy, 2};
+  Button butTestProxyIt_{*this, butTestProxyIt};
+  Label lblOptionsInfo_{*this, lblOptionsInfo};
 };
 
 }  // namespace sonaro

@@ -2,7 +2,6 @@
 
 #include <algorithm>
 
-#include "forms/ControlIds.h"
 #include "forms/DialogRows.h"
 #include "forms/FileDialog.h"
 #include "forms/WideText.h"
@@ -154,12 +153,12 @@ void frmStartUpInfo::OnLoad() {
   const bool proxyPage = page_ == StartUpInfoPage::Proxy;
   ShowPane(kPlayerPane, !proxyPage);
   ShowPane(kProxyPane, proxyPage);
-  ShowControl(chkDontShow, CheckOf(page_) != nullptr);
+  chkDontShow_.Show(CheckOf(page_) != nullptr);
   if (proxyPage) {
     ShowTexts(IDS_STARTUP_TITLE, IDS_STARTUP_PROXY_HEAD, IDS_STARTUP_PROXY_TEXT);
-    SetText(lblProxyFound, proxy_);
-    Check(optUseProxy);
-    Check(chkDontShow);  // a proxy that was decided on need not be asked for again
+    lblProxyFound_.SetText(proxy_);
+    optUseProxy_.Check();
+    chkDontShow_.Check();  // a proxy that was decided on need not be asked for again
   } else {
     counts_ = needs_.reporter.CountLinks();
     OfferPrograms(needs_.player.Chosen());
@@ -168,39 +167,39 @@ void frmStartUpInfo::OnLoad() {
 
 void frmStartUpInfo::ShowTexts(int title, int head, int text) {
   SetWindowTextW(Window(), Widen(LoadText(title)).c_str());
-  SetText(lblTitle, LoadText(title));
-  SetText(lblHead, LoadText(head));
-  SetText(lblText, LoadText(text));
+  lblTitle_.SetText(LoadText(title));
+  lblHead_.SetText(LoadText(head));
+  lblText_.SetText(LoadText(text));
 }
 
 void frmStartUpInfo::OfferPrograms(const std::string& selected) {
   paths_.clear();
-  ClearItems(cmbPlayWith);
-  AddItem(cmbPlayWith, LoadText(IDS_STARTUP_BY_KIND));
-  SelectItem(cmbPlayWith, 0);
+  cmbPlayWith_.ClearItems();
+  cmbPlayWith_.AddItem(LoadText(IDS_STARTUP_BY_KIND));
+  cmbPlayWith_.SelectItem(0);
   for (const PlayerProgram& program : needs_.player.Programs()) OfferProgram(program);
   const auto at = std::find(paths_.begin(), paths_.end(), selected);
-  if (at != paths_.end()) SelectItem(cmbPlayWith, static_cast<int>(at - paths_.begin()) + 1);
+  if (at != paths_.end()) cmbPlayWith_.SelectItem(static_cast<int>(at - paths_.begin()) + 1);
   ShowReport();
 }
 
 void frmStartUpInfo::OfferProgram(const PlayerProgram& program) {
-  AddItem(cmbPlayWith, program.name);
+  cmbPlayWith_.AddItem(program.name);
   paths_.push_back(program.path);
 }
 
 std::string frmStartUpInfo::Selected() const {
-  const int row = SelectedItem(cmbPlayWith);
+  const int row = cmbPlayWith_.SelectedItem();
   return row > 0 ? paths_[static_cast<std::size_t>(row) - 1] : std::string();
 }
 
 void frmStartUpInfo::ShowReport() {
   using Plays = PlayerReport::Plays;
   const PlayerReport report = needs_.reporter.Report(counts_, Selected());
-  constexpr int kLines[] = {lblFound, lblOthersFound, lblWebFound};
+  const Label lines[] = {lblFound_, lblOthersFound_, lblWebFound_};
   for (std::size_t line = 0; line < report.lines.size(); ++line) {
-    SetTextColor(kLines[line], report.lines[line].missing ? TextColor::Alert : TextColor::Signal);
-    SetText(kLines[line], report.lines[line].text);
+    lines[line].SetColor(report.lines[line].missing ? TextColor::Alert : TextColor::Signal);
+    lines[line].SetText(report.lines[line].text);
   }
   const bool none = report.plays == Plays::Nothing;
   const int head = none                          ? IDS_STARTUP_PLAYER_HEAD
@@ -215,8 +214,8 @@ void frmStartUpInfo::ShowReport() {
 }
 
 void frmStartUpInfo::ShowError(const std::string& sentence) {
-  SetTextColor(lblFound, TextColor::Alert);
-  SetText(lblFound, sentence);
+  lblFound_.SetColor(TextColor::Alert);
+  lblFound_.SetText(sentence);
 }
 
 void frmStartUpInfo::butBrowseIt_Click() {
@@ -224,8 +223,8 @@ void frmStartUpInfo::butBrowseIt_Click() {
   if (path.empty()) return;
   if (std::find(paths_.begin(), paths_.end(), path) == paths_.end())
     OfferProgram({path.substr(path.rfind('\\') + 1), path});
-  SelectItem(cmbPlayWith,
-             static_cast<int>(std::find(paths_.begin(), paths_.end(), path) - paths_.begin()) + 1);
+  cmbPlayWith_.SelectItem(static_cast<int>(std::find(paths_.begin(), paths_.end(), path) - paths_.begin()) +
+                          1);
   ShowReport();
 }
 
@@ -234,7 +233,7 @@ void frmStartUpInfo::butFindIt_Click() {
   OfferPrograms(Selected());
   if (paths_.empty()) return ShowError(LoadText(IDS_STARTUP_NONE));
   if (needs_.reporter.Report(counts_, Selected()).plays != PlayerReport::Plays::Nothing) return;
-  SelectItem(cmbPlayWith, 1);
+  cmbPlayWith_.SelectItem(1);
   ShowReport();
 }
 
@@ -265,7 +264,7 @@ bool frmStartUpInfo::StorePlayer() {
 
 void frmStartUpInfo::butOKIt_Click() {
   if (page_ == StartUpInfoPage::Proxy) {
-    StoreProxy(needs_.reg, IsChecked(optUseProxy), SplitProxy(proxy_));
+    StoreProxy(needs_.reg, optUseProxy_.IsChecked(), SplitProxy(proxy_));
     return Done(0);
   }
   if (StorePlayer()) Done(Selected().empty() ? 0 : 1);
@@ -273,7 +272,7 @@ void frmStartUpInfo::butOKIt_Click() {
 
 void frmStartUpInfo::Done(int result) {
   const setting::Switch* const check = CheckOf(page_);
-  if (check != nullptr && IsChecked(chkDontShow)) needs_.reg.Set(*check, false);
+  if (check != nullptr && chkDontShow_.IsChecked()) needs_.reg.Set(*check, false);
   Close(result);
 }
 

@@ -7,7 +7,8 @@
 #include <string>
 #include <vector>
 
-#include "forms/Form.h"
+#include "forms/ControlIds.h"
+#include "forms/controls/Controls.h"
 #include "stations/StationSource.h"
 #include "tray/StartUpInfoPage.h"
 
@@ -59,6 +60,17 @@ class frmStartUpInfo final : public Form {
   const std::string proxy_;
   LinkCounts counts_;
   std::vector<std::string> paths_;  // of the programs that are offered, after the row for none
+
+  CheckBox chkDontShow_{*this, chkDontShow};
+  Label lblProxyFound_{*this, lblProxyFound};
+  RadioButton optUseProxy_{*this, optUseProxy};
+  Label lblTitle_{*this, lblTitle};
+  Label lblHead_{*this, lblHead};
+  Label lblText_{*this, lblText};
+  ComboBox cmbPlayWith_{*this, cmbPlayWith};
+  Label lblFound_{*this, lblFound};
+  Label lblOthersFound_{*this, lblOthersFound};
+  Label lblWebFound_{*this, lblWebFound};
 };
 
 }  // namespace sonaro

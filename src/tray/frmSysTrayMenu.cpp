@@ -5,7 +5,6 @@
 #include <algorithm>
 #include <iterator>
 
-#include "forms/ControlIds.h"
 #include "forms/MenuText.h"
 #include "forms/WideText.h"
 #include "resources/icon.h"
@@ -93,7 +92,7 @@ void frmSysTrayMenu::FinishedLoading() {
   StartTimer(tmrMinute, kMinute);
 }
 
-void frmSysTrayMenu::Tell(const std::string& text) { SetText(lblTrayText, text); }
+void frmSysTrayMenu::Tell(const std::string& text) { lblTrayText_.SetText(text); }
 
 void frmSysTrayMenu::PutIcon() {
   NOTIFYICONDATAW data = IconData(Window());

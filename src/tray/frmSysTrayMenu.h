@@ -8,7 +8,8 @@
 #include <string>
 #include <vector>
 
-#include "forms/Form.h"
+#include "forms/ControlIds.h"
+#include "forms/controls/Controls.h"
 
 namespace sonaro {
 
@@ -83,6 +84,8 @@ class frmSysTrayMenu final : public Form {
   int iconTries_ = 0;
   std::vector<std::string> shownGroups_;  // while the menu is open
   HICON icon_ = nullptr;
+
+  Label lblTrayText_{*this, lblTrayText};
 };
 
 }  // namespace sonaro

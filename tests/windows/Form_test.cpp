@@ -1,8 +1,11 @@
 // Controls and events of a form, on a real window.
 #include "forms/Form.h"
+#include "forms/controls/Controls.h"
 
 #include <commctrl.h>
 #include <gtest/gtest.h>
+
+#include <stdexcept>
 
 #include "forms/ControlIds.h"
 #include "forms/FormImpl.h"
@@ -187,6 +190,14 @@ TEST_F(FormTest, IgnoresNumbersThatItDoesNotHave) {
 }
 
 // Forms that show lists read them while they close: a closed form answers, and can be opened again.
+TEST_F(FormTest, RefusesAMemberThatItsDesignDoesNotHave) {
+  EXPECT_NO_THROW((ComboBox{form, DemoForm::kSearch}));
+  EXPECT_THROW((Edit{form, 9999}), std::logic_error);
+  EXPECT_THROW((Button{form, DemoForm::kSearch}), std::logic_error) << "a control of another kind";
+  EXPECT_THROW((ControlArray<ComboBox>{form, DemoForm::kSearch, 99}), std::logic_error)
+      << "more than there are";
+}
+
 TEST_F(FormTest, AnswersWhenClosedAndOpensAgain) {
   form.Close();
   EXPECT_EQ(form.log, (Log{"Unload"}));
