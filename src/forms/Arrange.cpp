@@ -12,6 +12,8 @@ struct Edges {
   int high;
 };
 
+// Anchored on both sides a control takes all the room that the window gained, on one side it keeps its
+// distance to it, and without any it stays in the middle.
 Edges Anchored(Edges edges, bool toLow, bool toHigh, int extra) {
   if (toLow && toHigh) return {edges.low, edges.high + extra};
   if (toLow) return edges;
@@ -48,6 +50,8 @@ int KeptStart(int start, int length, int low, int high) {
 
 }  // namespace
 
+// Rounded to the nearest pixel, away from zero at the half, so that scaling is symmetric for negative
+// distances.
 int ScaleToDpi(int design, int dpi) {
   const std::int64_t scaled = static_cast<std::int64_t>(design) * dpi;
   return static_cast<int>((scaled + (scaled < 0 ? -48 : 48)) / 96);
@@ -57,6 +61,7 @@ PixelSize ScaleToDpi(DesignSize size, int dpi) {
   return {ScaleToDpi(size.width, dpi), ScaleToDpi(size.height, dpi)};
 }
 
+// Both edges are scaled, not one edge and the width: controls that touch in the design touch at every scale.
 PixelRect Arrange(const DesignRect& at, unsigned anchors, DesignSize design, PixelSize client, int dpi) {
   const PixelSize scaled = ScaleToDpi(design, dpi);
   const Edges across = Anchored({ScaleToDpi(at.x, dpi), ScaleToDpi(at.x + at.width, dpi)},
@@ -105,6 +110,8 @@ DesignSize OutlineSizeOf(const FormDesign& design, int layout) {
   return ownSize ? design.outlineSize : SizeOf(design, layout);
 }
 
+// A window that is too large for its screen is shown at the next smaller of the usual scales at which it
+// fits; 96 is the smallest, fit or not.
 int FittingDpi(DesignSize size, PixelSize room, int dpi) {
   constexpr std::array<int, 4> kSteps = {192, 144, 120, 96};
   const auto fits = [&](int candidate) {
@@ -118,6 +125,9 @@ int FittingDpi(DesignSize size, PixelSize room, int dpi) {
   return 96;
 }
 
+// A window that is not wholly visible, since a screen was removed or made smaller, moves to the screen that
+// shows most of it, or to the nearest. Summing up what each screen shows lets a window lie across several
+// screens undisturbed.
 PixelRect KeepOnScreens(const PixelRect& window, std::span<const PixelRect> screens) {
   const PixelRect* best = nullptr;
   std::int64_t shown = 0;

@@ -42,6 +42,7 @@ LaunchOutcome FromWebPage(WebPageOutcome outcome) {
 }  // namespace
 
 void PlayerLaunch::LaunchStation(const PlayRequest& request) {
+  // Until it works or the user gives up.
   while (Tell(TryLaunch(request))) {
   }
 }
@@ -78,6 +79,7 @@ LaunchOutcome PlayerLaunch::TryLaunch(const StationKey& station) {
   const Station found = stations_.Find(station);
   PlayRequest request{station};
   std::string link = found.alternateLink;
+  // Backwards, so that the first link that there is wins.
   for (int number = 3; number >= 1; --number) {
     const std::string& own = found.links[static_cast<std::size_t>(number) - 1];
     if (IsBlank(own)) continue;

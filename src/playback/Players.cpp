@@ -58,6 +58,8 @@ bool Players::IsRealPlayer(std::string_view path) {
   return StartsWithIgnoringCase(path.substr(path.rfind('\\') + 1), "r");
 }
 
+// The system tells the program of a kind of file only for a file that exists, so an empty one is made. The
+// result may have arguments behind the program; it is cut behind the first ".exe".
 std::string Players::ProgramOfMarker(std::string_view name) const {
   constexpr std::string_view kExe = ".exe";
   const std::string marker = data_.Path(name);

@@ -1,3 +1,6 @@
+// The scan is a state machine with three states: idle, scanning, paused. elapsed_ counts the seconds of the
+// station that plays; values beyond the scan time have a meaning of their own: kNeverShown ends it with the
+// next tick.
 #include "playback/StationScan.h"
 
 #include <algorithm>
@@ -172,6 +175,8 @@ void StationScan::PlayCurrent() {
   launching_ = true;
   ShowState();
   const LaunchOutcome outcome = player_.TryLaunch(StationKey(current_->key));
+  // Starting a player can run a message loop, in which the user may end the scan. `launch_` tells whether
+  // this is still the launch that was begun.
   if (launch != launch_) return;  // ended meanwhile, perhaps begun anew
   launching_ = false;
   const bool missing = outcome == LaunchOutcome::NoPlayer || outcome == LaunchOutcome::NoAsxProgram;
@@ -278,6 +283,7 @@ std::string StationScan::TimeLeftText() const {
 void StationScan::SetScanTime(int seconds) {
   if (!IsScanTime(seconds)) return;
   reg_.Set(setting::kScanTime, seconds);
+  // The station that plays keeps its time; the new one counts from the next station on.
   if (!current_) scanTime_ = seconds;
 }
 

@@ -138,6 +138,7 @@ IniSettings::Parsed IniSettings::Parse(std::string_view text) {
   Parsed parsed;
   if (text.starts_with(kByteOrderMark)) text.remove_prefix(kByteOrderMark.size());
   Key* current = nullptr;
+  // Files without our first line were written by hand and need no last line.
   bool ended = !text.starts_with(TrimLine(kHead.substr(0, kHead.size() - 2)));
   for (const std::string_view line : SplitLines(text)) {
     ended = ended || TrimLine(line) == kEnd;
@@ -230,6 +231,7 @@ std::optional<std::string> IniSettings::Read(std::string_view key, std::string_v
 
 bool IniSettings::Write(std::string_view key, std::string_view name, std::string_view bytes) {
   if (!HasKey(key)) return false;
+  // Nothing new; but a change before it that could not be saved is tried again.
   if (Read(key, name) == bytes && !changed_) return true;
   Value& value = Make(keys_, key).values[FoldCase(name)];
   if (value.name.empty()) value.name = name;
@@ -262,6 +264,8 @@ bool IniSettings::Save() {
   return !changed_;
 }
 
+// A copy of the last good settings. It is written when the program begins and when it ends without anything
+// unsaved, not with every change.
 void IniSettings::KeepOld() {
   if (!HoldsText(keys_)) return;
   const std::string text = TextOf(keys_);

@@ -1,3 +1,6 @@
+// A group keeps the text in front of each member beside its key, so that a line of the file that nobody
+// changed is written back with the blanks that it had. Changes always start from what the file holds at that
+// moment (Change): the group is then found by its name, since its place may be another one.
 #include "stations/FavoriteGroups.h"
 
 #include <algorithm>
@@ -136,6 +139,7 @@ FavoriteChange FavoriteGroups::Change(const std::function<bool()>& edit) {
   const UserFile::Seen seen = file_.Look();
   if (seen == UserFile::Seen::Unreadable) return FavoriteChange::NotSaved;
   if (seen == UserFile::Seen::Changed) ReadFile();
+  // For the case that the change cannot be saved: memory never holds what the file does not.
   std::vector<Group> before = groups_;
   if (!edit()) return FavoriteChange::Nothing;
   const FavoriteChange saved = SaveFavoriteGroups();
@@ -147,6 +151,7 @@ FavoriteChange FavoriteGroups::Change(std::size_t group, const std::function<boo
   if (group >= Count()) return FavoriteChange::Nothing;
   const std::string name = Name(group);
   return Change([&] {
+    // Mostly nothing has moved.
     if (group < Count() && Name(group) == name) return edit(group);
     const std::optional<std::size_t> now = Find(name);
     return now && edit(*now);

@@ -136,6 +136,7 @@ std::vector<std::int32_t> PersonalStations::AddAll(std::span<const PersonalStati
   std::int32_t highest = highestIndex_;
   for (const PersonalStation& station : stations) {
     Line line{Cleaned(station), {}};
+    // A station that does not fit gets the index 0 in the result; the others are added all the same.
     const bool fits = !line.station.name.empty() && highest < std::numeric_limits<std::int32_t>::max();
     line.station.index = fits ? ++highest : 0;
     indices.push_back(line.station.index);
@@ -160,6 +161,8 @@ bool PersonalStations::Delete(std::int32_t index) {
   const auto found = lineOf_.find(index);
   if (found == lineOf_.end()) return false;
   std::vector<Line> changed = lines_;
+  // The index alone stays behind in the file: it is taken for ever, since groups or the schedule may still
+  // name it.
   changed[found->second] = {{}, std::to_string(index)};
   return Save(std::move(changed));
 }

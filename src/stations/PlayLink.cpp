@@ -1,3 +1,9 @@
+// A link is an address with the way to play it in front: "w" for a web page, "m" for the program of .asx
+// files, nothing for RealPlayer. An address that itself begins with one of these letters therefore always has
+// a prefix.
+//
+// Addresses end up on the command line of a program. PlayerArgument lets through what is one argument, is no
+// switch, names nothing on this computer and holds nothing that the system would expand.
 #include "stations/PlayLink.h"
 
 #include <algorithm>

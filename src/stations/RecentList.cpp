@@ -41,6 +41,8 @@ void RecentList::AddRecent(const StationKey& station) {
   if (changed_) changed_();
 }
 
+// One line, latest first. When it cannot be saved the list stays in memory and goes before what the file
+// holds when that is read again.
 void RecentList::SaveRecent() {
   std::string line;
   for (std::size_t slot = 0; slot < std::min(keys_.size(), kSavedSlots); ++slot) {

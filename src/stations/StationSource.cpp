@@ -56,6 +56,7 @@ Station StationSource::Find(const StationKey& key) const {
   if (key.IsOfGuide()) {
     StationRecord record = stations_.FindStation(key.number);
     if (record.Empty()) return station;
+    // The only place where a record becomes a Station: from here on links are plain.
     for (const StationField field : kScrambled) UnscrambleText(record[field], alphabets_);
     static_cast<StationInfo&>(station) = InfoOf(record);
     station.description = record[StationField::Description];

@@ -1,3 +1,7 @@
+// Icons are paths in a small part of SVG's notation (M L H V C A Z, absolute coordinates only). They are
+// flattened to straight lines and turned into polygons: a filled path is its own polygon, a stroked one is a
+// rectangle for each line and a wedge for each corner. All polygons of a stroke run in the same direction, so
+// that where they overlap the non-zero rule counts them as inside.
 #include "forms/paint/IconPath.h"
 
 #include <algorithm>
@@ -10,6 +14,7 @@
 namespace sonaro {
 namespace {
 
+// A corner whose tip would stick out more than this many half pen widths is cut off straight.
 constexpr double kMiterLimit = 4.0;
 constexpr int kMaxSegments = 256;
 
@@ -32,6 +37,8 @@ class Builder {
   }
   void CurveTo(PathPoint control1, PathPoint control2, PathPoint to) {
     const PathPoint from = Current();
+    // The length of the control polygon bounds that of the curve; the error of a flattened curve falls with
+    // the square of the number of lines, hence the root.
     const double bend = Length(control1 - from) + Length(control2 - control1) + Length(to - control2);
     const int count = Segments(std::sqrt(bend / tolerance_));
     for (int i = 1; i < count; ++i) {
@@ -85,6 +92,7 @@ void Builder::ArcTo(PathPoint radii, bool large, bool sweep, PathPoint to) {
   if (sweep && turn < 0) turn += kFull;
   if (!sweep && turn > 0) turn -= kFull;
   const double radius = std::max(radii.x, radii.y) * scale;
+  // The angle at which a chord departs from its arc by the tolerance.
   const double step = 2 * std::acos(std::max(0.0, 1 - tolerance_ / radius));
   const int count = Segments(std::abs(turn) / std::max(step, 1e-3));
   for (int i = 1; i < count; ++i) {
@@ -190,6 +198,7 @@ void AddJoin(std::vector<Polygon>& polygons, PathPoint corner, PathPoint in, Pat
   }
 }
 
+// Lines of no length have no direction.
 Polygon WithoutRepeats(const SubPath& part) {
   Polygon points;
   for (const PathPoint point : part.points)
@@ -211,6 +220,7 @@ void AddStroke(std::vector<Polygon>& polygons, const SubPath& part, double half)
     AddPositive(polygons, {from + side, to + side, to - side, from - side});
     directions.push_back(direction);
   }
+  // An open path has no corner at its start; a closed one joins its last line to its first.
   for (std::size_t i = part.closed ? 0 : 1; i < segments; ++i)
     AddJoin(polygons, points[i], directions[(i + segments - 1) % segments], directions[i], half);
 }

@@ -6,6 +6,7 @@
 namespace sonaro {
 namespace {
 
+// Icons are drawn on a grid of 16 by 16 whatever their size on screen.
 constexpr double kGrid = 16;
 constexpr double kPen = 1.5;       // design pixels
 constexpr double kLargePen = 1.3;  // grid units, where that is more
@@ -103,10 +104,14 @@ Coverage RenderIcon(Icon icon, int designSize, int size) {
   const IconShape& shape = ShapeOf(icon);
   Placement placement = {size / kGrid, 0, 0};
   const FlatPath path = ParsePath(shape.path, ToleranceFor(placement.scale));
+  // The pen has the same width in design pixels for icons of all sizes, but never becomes hair-thin in large
+  // ones.
   const double pen = std::max(kLargePen, kPen * kGrid / designSize);
   const std::vector<Polygon> polygons = shape.filled ? FillPolygons(path) : StrokePolygons(path, pen);
   Coverage onGrid = Rasterize(polygons, placement, size, size);
   if (shape.filled || size < kBlurredFrom) return onGrid;
+  // A level line can come to lie across the border of two rows, which blurs it. Moving the picture by half a
+  // pixel mends that, and the crisper of the two is taken.
   placement.offsetY = 0.5;
   Coverage moved = Rasterize(polygons, placement, size, size);
   return Blur(moved) < Blur(onGrid) ? moved : onGrid;
@@ -121,6 +126,7 @@ Pixels RenderProgramMark(int size, const MarkColors& colors, const Color* ground
   };
   if (ground) paint(FillPolygons(ParsePath(kOctagon, tolerance)), *ground);
   paint(StrokePolygons(ParsePath(kOctagon, tolerance), kOctagonPen), colors.ink);
+  // Small marks on a ground leave the ticks out, which would run together there.
   if (!ground || size >= kTicksFrom)
     paint(StrokePolygons(ParsePath(kTicks, tolerance), kTickPen), colors.ink);
   paint(StrokePolygons(ParsePath(kNeedle, tolerance), kNeedlePen), colors.needle);

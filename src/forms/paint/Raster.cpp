@@ -1,3 +1,7 @@
+// Fills polygons with smooth edges: each row of pixels is cut into kSubRows lines, on each of which the
+// crossings with all edges are sorted from left to right and the spans inside (non-zero winding) are added up
+// with exact fractions of the pixels at their ends. It is slow and simple; the pictures are small and are
+// kept.
 #include "forms/paint/Raster.h"
 
 #include <algorithm>
@@ -51,6 +55,8 @@ void AddSpan(std::span<double> row, double from, double to) {
 std::vector<Crossing> CrossingsAt(const std::vector<Edge>& edges, double y) {
   std::vector<Crossing> crossings;
   for (const Edge& edge : edges) {
+    // Half open: a line through a corner crosses one of the two edges that meet there, not both. Level edges
+    // have no crossings and are left out by EdgesOf.
     if (y < edge.top.y || y >= edge.bottom.y) continue;
     const double part = (y - edge.top.y) / (edge.bottom.y - edge.top.y);
     crossings.push_back({edge.top.x + (edge.bottom.x - edge.top.x) * part, edge.direction});
@@ -71,6 +77,7 @@ void FillSubRow(std::span<double> row, const std::vector<Crossing>& crossings) {
   }
 }
 
+// Rounded to nearest.
 std::uint32_t Blend(std::uint32_t below, std::uint32_t above, std::uint32_t alpha) {
   return (above * alpha + below * (255 - alpha) + 127) / 255;
 }

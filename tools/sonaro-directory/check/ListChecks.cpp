@@ -26,7 +26,7 @@ void ForEachLine(CheckContext& context, std::string_view name, Need need, Check 
   }
 }
 
-// Lines of index TAB name TAB ...; a line without a name holds no station, so its index may occur again.
+// Lines of index TAB name TAB ...; an index alone stands for a station that was deleted.
 void CheckPersonalStations(CheckContext& context) {
   constexpr std::string_view kName = "\\personal.snr";
   constexpr std::size_t kLeastColumns = 2;
