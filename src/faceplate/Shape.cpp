@@ -16,7 +16,7 @@ constexpr std::size_t kNumberWidth = 5;
 constexpr std::size_t kGroupWidth = 2 * kNumberWidth;
 constexpr double kDesignTwips = 15.0;
 
-// The number in the five characters from `position`; 0 past the end and for what is no number.
+// The number in the five characters from `position`; 0 past the end and for a text that is not a number.
 int NumberAt(std::string_view points, std::size_t position) {
   if (position >= points.size()) return 0;
   const std::string_view text = points.substr(position, kNumberWidth);

@@ -10,6 +10,8 @@ constexpr std::size_t kMaxBytes = 60;  // two names and the words around them st
 
 }  // namespace
 
+// A menu takes "&" for the mark of an access key, so a real one is doubled, and what stands behind a tab for
+// a shortcut at the right edge.
 std::string MenuText(std::string_view text) {
   const std::string_view shown = TruncateUtf8(text, kMaxBytes);
   std::string out;

@@ -2,6 +2,8 @@
 
 namespace sonaro {
 
+// CP_ACP is UTF-8 here: the program's manifest makes it so. Without the manifest letters beyond ASCII would
+// be garbled.
 std::wstring Widen(std::string_view text) {
   const int bytes = static_cast<int>(text.size());
   const int count = MultiByteToWideChar(CP_ACP, 0, text.data(), bytes, nullptr, 0);

@@ -30,7 +30,7 @@ std::string ValueIn(std::string_view line, std::size_t from, char end) {
   return std::string(value.substr(0, value.find(end)));
 }
 
-// No host and no port holds a control character; a setting that does is none.
+// Hosts and ports hold no control characters; a setting with one is damaged and does not count.
 std::string WithoutControls(std::string proxy) {
   const bool damaged =
       std::any_of(proxy.begin(), proxy.end(), [](char c) { return static_cast<unsigned char>(c) < ' '; });
@@ -59,6 +59,8 @@ std::string DetectIeProxy(CReg& reg) {
   return WithoutControls(std::string(proxy));
 }
 
+// The browser writes its settings as lines of script: user_pref("network.proxy.http", "host"); and the same
+// for the port, without the quotes.
 std::string DetectNetscapeProxy(const CReg& reg, Files& files) {
   const std::string user = reg.GetData(kNetscapeUsers, "CurrentUser");
   if (user.empty()) return {};

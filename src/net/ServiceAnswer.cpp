@@ -5,6 +5,7 @@
 
 namespace sonaro {
 
+// The headers come from HttpResponse, which spells this name and ends each line in one way only.
 std::string RedirectTarget(std::string_view headers) {
   constexpr std::string_view kMark = "\nLocation: ";
   const std::size_t at = headers.find(kMark);

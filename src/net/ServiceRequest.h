@@ -35,8 +35,8 @@ struct ServiceRequest {
 ServiceRequest BuildServiceRequest(const CReg& reg, std::string_view url, std::string_view query);
 void Send(const ServiceRequest& request, HttpControl& http, HttpEvents& events);
 
-// The request that tries a proxy which is not set: the whole URL, asked of the proxy. A port that is none
-// becomes 80.
+// The request that tries a proxy which is not set: the whole URL, asked of the proxy. An invalid
+// port means 80.
 ServiceRequest BuildProxyTest(std::string_view address, std::string_view port, std::string_view url);
 
 // The start of the query of every first request: the key and this installation's identifier.

@@ -37,7 +37,7 @@ struct UpdateContents {
   std::vector<ServiceValue> values;  // one for a setting: the last
   // Of an update whose signature was checked, 0 when it has none; nothing when nobody has to check.
   std::optional<std::int64_t> serial;
-  std::size_t skippedSections = 0;  // whose name is none that an update may bring
+  std::size_t skippedSections = 0;  // whose name is not on the list of what an update may bring
   std::size_t refusedValues = 0;
 };
 

@@ -58,6 +58,7 @@ void CheckSideFile(std::string_view entry, const DataFolder& data, WhatIsNew& fo
 
 }  // namespace
 
+// Dates are compared as texts: another date means that there is something new, be it an older one.
 WhatIsNew CheckWhatIsNew(std::string_view answer, std::string_view shortDatePattern, DataFolder& data,
                          CReg& reg) {
   WhatIsNew found;

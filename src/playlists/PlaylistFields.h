@@ -13,7 +13,7 @@ namespace sonaro {
 // than an address for the .asx program), "link2", "link3", "site", "type", "note", "station".
 void ForEachPlaylistField(const PlaylistEntry& entry,
                           const std::function<void(std::string_view name, std::string_view value)>& put);
-// The reverse; a name that is none of ours is ignored.
+// The reverse; an unknown name is ignored.
 void SetPlaylistField(PlaylistEntry& entry, std::string_view name, std::string_view value);
 
 // What other programs are given as the entry's address: that of its first link; "" when it has none.

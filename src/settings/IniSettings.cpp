@@ -58,7 +58,7 @@ int HexValue(char c) {
   return at == std::string_view::npos ? -1 : static_cast<int>(at);
 }
 
-// Takes the escape at the start of `text` and appends what it means; false when it is none.
+// Takes the escape at the start of `text` and appends what it means; false when it is not a valid one.
 bool TakeEscape(std::string_view& text, std::string& out) {
   if (text.size() < 2) return false;
   switch (text[1]) {
