@@ -140,9 +140,9 @@ void Application::ReadData() {
 bool Application::LoadMainWindow() {
   if (main_) return true;
   ReadData();
-  schedule_ = std::make_unique<ApplicationSchedule>(ApplicationSchedule::Dependencies{
-      platform_, context_, data_, reg_, strings_, state_, stations_, personal_, extra_, recent_, favorites_,
-      source_, player_, pages_, help_, messages_});
+  schedule_ = std::make_unique<ApplicationSchedule>(
+      ApplicationSchedule::Dependencies{platform_, context_, data_, reg_, strings_, state_, stations_, extra_,
+                                        recent_, favorites_, source_, player_, pages_, help_, messages_});
   schedule_->SetPlaySound([this] { PlaySoundFile(kNotifySound); });
   main_ = std::make_unique<SonaroFrm>(
       context_,

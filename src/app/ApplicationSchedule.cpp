@@ -76,6 +76,7 @@ ScheduleServices ApplicationSchedule::MakeServices() {
           calendar_,
           shows_,
           picker_,
+          needs_.source,
           needs_.platform.clock,
           needs_.platform.files,
           needs_.platform.shell,
@@ -83,7 +84,6 @@ ScheduleServices ApplicationSchedule::MakeServices() {
           needs_.help,
           needs_.state.clockStyle,
           needs_.state.shortDatePattern,
-          [this](const StationKey& station) { return needs_.source.WebSiteOf(station); },
           [this](std::string_view show) { return NextBroadcast(show); },
           [this] { Changed(); }};
 }

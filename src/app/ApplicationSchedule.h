@@ -31,7 +31,6 @@ class ExtraLinks;
 class FavoriteGroups;
 class HelpPages;
 class MessageBoxView;
-class PersonalStations;
 class PlayerLaunch;
 class RecentList;
 class StatList;
@@ -50,7 +49,6 @@ class ApplicationSchedule final : public ScheduleCommands {
     const Strings& strings;
     const AppState& state;
     StatList& stations;
-    const PersonalStations& personal;
     const ExtraLinks& extra;
     const RecentList& recent;
     const FavoriteGroups& favorites;

@@ -19,12 +19,14 @@ class ScheduleCalendar;
 class ScheduleStore;
 class Shell;
 class StationPicker;
+class StationSource;
 
 struct ScheduleServices {
   ScheduleStore& store;
   ScheduleCalendar& calendar;
   PersonalShows& shows;
   StationPicker& stations;
+  const StationSource& source;
   Clock& clock;
   Files& files;
   Shell& shell;
@@ -32,8 +34,6 @@ struct ScheduleServices {
   HelpPages& help;
   ClockStyle clockStyle = ClockStyle::Hours24;
   std::string shortDatePattern = {};
-  // The web site of a station; "" when there is none.
-  std::function<std::string(const StationKey& station)> webSiteOf = {};
   // When a broadcast event of this name begins next, local time.
   std::function<std::optional<DateTime>(std::string_view show)> nextBroadcast = {};
   std::function<void()> changed = {};  // the table was changed and saved

@@ -12,6 +12,7 @@
 #include "settings/HelpPages.h"
 #include "settings/Message.h"
 #include "settings/Strings.h"
+#include "stations/StationSource.h"
 
 namespace sonaro {
 
@@ -165,7 +166,7 @@ void frmSchedChange::butOKIt_Click() {
   if (ShowError(draft_.Fault(services_.shortDatePattern))) return;
   // The notice opens what the item carries; a station's own site is taken when it is to be opened.
   if (draft_.openWebSite && draft_.name.webSite.empty())
-    draft_.name.webSite = services_.webSiteOf(draft_.station);
+    draft_.name.webSite = services_.source.WebSiteOf(draft_.station);
   const bool saved =
       services_.store.SetItem(slot_ ? *slot_ : services_.store.FirstFreeSlot(),
                               draft_.ToFields(services_.clockStyle, services_.shortDatePattern));

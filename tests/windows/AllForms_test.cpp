@@ -86,7 +86,8 @@ struct EmptyProgram {
   ScheduleCalendar calendar{store};
   PersonalShows shows{folder, messages, words};
   StationPicker picker{stations, source, favorites, recent, settings, words};
-  ScheduleServices schedule{store, calendar, shows, picker, clock, outside.files, shell, messages, help};
+  ScheduleServices schedule{store, calendar,      shows, picker,   source,
+                            clock, outside.files, shell, messages, help};
   OptionsModel options{settings, outside.faceplate, "C:\\Guide\\Sonaro.exe"};
   UpdateInstall install{folder, settings, stations};
   UpdateDependencies update{settings, folder, words, install, http, {}};
