@@ -22,9 +22,8 @@ class ExchangeTest : public testing::Test {
 
   static void SetUpTestSuite() {
     made_ = new ScratchFolder;
-    const std::string list = ProjectFile("data/playlists/radio-browser_topvote_1-128.json");
-    ASSERT_EQ(RunDirectoryTool({"make", list, "--out", Made("new")}).status, 0);
-    ASSERT_EQ(RunDirectoryTool({"make", list, "--out", Made("old"), "--limit", "40"}).status, 0);
+    MakeData({kBundledList}, Made("new"));
+    MakeData({kBundledList}, Made("old"), {"--limit", "40"});
     ASSERT_EQ(RunDirectoryTool({"keygen", Made("key")}).status, 0);
     WriteBytes(Made("old") + "/favs.snr", kUsersGroups);
     std::filesystem::copy(Made("key") + "/publish.key", Made("old") + "/publish.key");

@@ -10,43 +10,26 @@
 namespace sonaro {
 namespace {
 
-// A whole data folder, with files of the user's own, made once for all tests.
+// A whole data folder, with files of the user's own.
 class CheckTest : public testing::Test {
  protected:
-  static void SetUpTestSuite() {
-    original_ = new ScratchFolder;
-    const std::string folder = original_->Path();
-    ASSERT_EQ(RunDirectoryTool(
-                  {"make", ProjectFile("data/playlists/radio-browser_topvote_1-128.json"), "--out", folder})
-                  .status,
-              0);
-    id_ = new std::string(StationRows(folder)[0][0]);
+  CheckTest() {
+    const std::string folder = Folder();
+    std::filesystem::copy(BundledData(), folder);
     WriteBytes(folder + "/personal.snr", "1\tMine\tmhttp://a.example/\t\t\t\t\t\r\n");
-    WriteBytes(folder + "/favs.snr", "Jazz\t" + *id_ + " P1 \r\nEmpty\t\r\n");
-    WriteBytes(folder + "/recent.snr", "P1 " + *id_ + "\r\n");
+    WriteBytes(folder + "/favs.snr", "Jazz\t" + id_ + " P1 \r\nEmpty\t\r\n");
+    WriteBytes(folder + "/recent.snr", "P1 " + id_ + "\r\n");
     WriteBytes(folder + "/Sched.snr", "Concert\tN\t8/14/2000\t1:30 PM\t\tonce\tnote\r\n");
     WriteBytes(folder + "/Shows.snr", "12XMorning show\r\n");
     std::filesystem::create_directory(folder + "/Depot");
     WriteBytes(folder + "/Depot/sshape.pts", "fdf01=000000000000100000000010000100\r\n");
   }
-  static void TearDownTestSuite() {
-    delete original_;
-    delete id_;
-  }
-
-  CheckTest() {
-    std::filesystem::copy(original_->Path(), Folder(), std::filesystem::copy_options::recursive);
-  }
 
   std::string Folder() const { return copy_.Path() + "/data"; }
 
-  static ScratchFolder* original_;
-  static std::string* id_;
+  const std::string id_ = StationRows(BundledData())[0][0];
   ScratchFolder copy_;
 };
-
-ScratchFolder* CheckTest::original_ = nullptr;
-std::string* CheckTest::id_ = nullptr;
 
 TEST_F(CheckTest, FindsNothingInAWholeFolder) {
   const ToolRun run = RunDirectoryTool({"check", Folder()});
@@ -178,7 +161,7 @@ TEST_F(CheckTest, ReadsTheListAsTheProgramDoes) {
   LocalFolder folder(Folder());
   ASSERT_TRUE(StatList(folder.Data()).RebuildStationTable());
   const ToolRun run = RunDirectoryTool({"check", Folder()});
-  EXPECT_EQ(run.out, "station.snr:128: station " + *id_ + " stands there twice; this line counts\n");
+  EXPECT_EQ(run.out, "station.snr:128: station " + id_ + " stands there twice; this line counts\n");
 }
 
 TEST_F(CheckTest, CountsWhatItDoesNotList) {

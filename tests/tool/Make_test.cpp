@@ -44,29 +44,23 @@ TEST(Make, GivesTheSameBytesForTheSameLists) {
   const std::string first = scratch.Path() + "/first";
   const std::string second = scratch.Path() + "/second";
   for (const std::string& folder : {first, second, second}) {
-    ASSERT_EQ(RunDirectoryTool(
-                  {"make", List("iprd_jp.m3u"), List("radio-browser_topvote_1-128.json"), "--out", folder})
-                  .status,
-              0);
+    MakeData({"iprd_jp.m3u", kBundledList}, folder);
   }
   const auto contents = FolderContents(first);
   EXPECT_EQ(contents, FolderContents(second));
   EXPECT_GT(contents.size(), 20u);
   // The order of the lists makes no difference to the stations either.
-  ASSERT_EQ(RunDirectoryTool(
-                {"make", List("radio-browser_topvote_1-128.json"), List("iprd_jp.m3u"), "--out", second})
-                .status,
-            0);
+  MakeData({kBundledList, "iprd_jp.m3u"}, second);
   EXPECT_EQ(FileBytes(first + "/station.snr"), FileBytes(second + "/station.snr"));
 }
 
 TEST(Make, RemovesListsThatAreNotNeededAnyMore) {
   const ScratchFolder scratch;
   const std::string folder = scratch.Path();
-  ASSERT_EQ(RunDirectoryTool({"make", List("radio-browser_topvote_1-128.json"), "--out", folder}).status, 0);
+  MakeData({kBundledList}, folder);
   WriteBytes(folder + "/favs.snr", "Mine\t\r\n");
   ASSERT_TRUE(std::filesystem::exists(folder + "/genre-jazz.snr"));
-  ASSERT_EQ(RunDirectoryTool({"make", List("BAGeL Radio.pls"), "--out", folder}).status, 0);
+  MakeData({"BAGeL Radio.pls"}, folder);
   EXPECT_FALSE(std::filesystem::exists(folder + "/genre-jazz.snr"));
   EXPECT_EQ(FileBytes(folder + "/favs.snr"), "Mine\t\r\n");
   EXPECT_EQ(RunDirectoryTool({"check", folder}).status, 0);
@@ -124,9 +118,7 @@ TEST(Make, LetsNothingHostileIntoAField) {
 }
 
 TEST(Make, WritesTheTreeByTheRulesOfTheProgram) {
-  const ScratchFolder scratch;
-  const std::string folder = scratch.Path();
-  ASSERT_EQ(RunDirectoryTool({"make", List("radio-browser_topvote_1-128.json"), "--out", folder}).status, 0);
+  const std::string& folder = BundledData();
   std::set<std::string> ids;
   for (const auto& row : StationRows(folder)) ids.insert(row[0]);
   std::set<std::string> prefixes;
@@ -165,10 +157,7 @@ TEST(Make, WritesTheTreeByTheRulesOfTheProgram) {
 TEST(Make, RanksByBelievableVotes) {
   const ScratchFolder scratch;
   const std::string folder = scratch.Path();
-  ASSERT_EQ(RunDirectoryTool({"make", List("radio-browser_topvote_1-128.json"),
-                              List("radio-browser_topvote_129-256.json"), "--out", folder, "--limit", "100"})
-                .status,
-            0);
+  MakeData({kBundledList, "radio-browser_topvote_129-256.json"}, folder, {"--limit", "100"});
   std::map<std::string, std::string> names;
   for (const auto& row : StationRows(folder)) names[row[0]] = row[1];
   EXPECT_EQ(names.size(), 100u);
@@ -196,7 +185,7 @@ TEST(Make, WritesLinksInTheAlphabetsOfTheFolder) {
   std::string other = BuiltInAlphabets().source;
   std::rotate(other.begin(), other.begin() + 7, other.end());
   WriteBytes(folder + "/alphabet.snr", BuiltInAlphabets().source + "\r\n" + other + "\r\n");
-  ASSERT_EQ(RunDirectoryTool({"make", list, "--out", folder}).status, 0);
+  MakeData({list}, folder);
   std::string link = StationRows(folder)[0][6];
   EXPECT_EQ(UnscrambleText(link, {BuiltInAlphabets().source, other}), "mhttp://a.example/live");
   EXPECT_EQ(RunDirectoryTool({"check", folder}).status, 0);
@@ -208,15 +197,12 @@ TEST(Make, KeepsIdentifiersOfThePreviousFolder) {
   const std::string first = scratch.Path() + "/first";
   const std::string second = scratch.Path() + "/second";
   WriteBytes(list, "#EXTM3U\n#EXTINF:-1,A\nhttp://a.example/old\n#EXTINF:-1,B\nhttp://b.example/\n");
-  ASSERT_EQ(RunDirectoryTool({"make", list, "--out", first}).status, 0);
-  WriteBytes(list,
-             "#EXTM3U\n#EXTINF:-1,A\nhttp://a.example/new\n#EXTINF:-1,A\nhttp://a.example/old\n"
-             "# joins the two\n#EXTINF:-1,C\nhttp://c.example/\n");
+  MakeData({list}, first);
   const std::string json = scratch.Path() + "/list.json";
   WriteBytes(json,
              "{\"name\":\"A\",\"urls\":[\"http://a.example/new\",\"http://a.example/old\"]}\n"
              "{\"name\":\"C\",\"urls\":[\"http://c.example/\"]}\n");
-  ASSERT_EQ(RunDirectoryTool({"make", json, "--out", second, "--previous", first}).status, 0);
+  MakeData({json}, second, {"--previous", first});
   std::map<std::string, std::string> before;
   for (const auto& row : StationRows(first)) before[row[1]] = row[0];
   std::map<std::string, std::string> after;
@@ -303,9 +289,7 @@ TEST(Make, SaysWhatIsWrongInOneSentence) {
 }
 
 TEST(ShowAndSearch, FindStations) {
-  const ScratchFolder scratch;
-  const std::string folder = scratch.Path() + "/data";
-  ASSERT_EQ(RunDirectoryTool({"make", List("radio-browser_topvote_1-128.json"), "--out", folder}).status, 0);
+  const std::string& folder = BundledData();
   const ToolRun found = RunDirectoryTool({"search", folder, "MANGO", "rhineland"});
   ASSERT_EQ(found.status, 0);
   ASSERT_EQ(std::count(found.out.begin(), found.out.end(), '\n'), 1) << found.out;

@@ -18,26 +18,22 @@ namespace fs = std::filesystem;
 constexpr const char* kHelpFolder = "/public/sonaroapp/sonaro4vf/apphelp/2/";
 constexpr const char* kUpdateFolder = "/public/sonaroapp/sonaro4vf/asp/appupdate/";
 
-// A data folder with files of its user's, made once for all tests, and a place for each test's own.
+// A data folder with files of its user's, and a place for each test's own.
 class PublishTest : public testing::Test {
  protected:
-  static void SetUpTestSuite() {
-    directory_ = new ScratchFolder;
-    ASSERT_EQ(RunDirectoryTool({"make", ProjectFile("data/playlists/radio-browser_topvote_1-128.json"),
-                                "--out", Directory()})
-                  .status,
-              0);
+  PublishTest() {
+    fs::copy(BundledData(), Directory());
     WriteBytes(Directory() + "/favs.snr", "Jazz\t1 \r\n");
     WriteBytes(Directory() + "/Sched.snr", "Concert\tN\t8/14/2000\t1:30 PM\t\tonce\tnote\r\n");
   }
-  static void TearDownTestSuite() { delete directory_; }
 
-  static std::string Directory() { return directory_->Path(); }
+  std::string Directory() const { return place_.Path() + "/data"; }
   std::string Site() const { return place_.Path() + "/site"; }
   std::string Installation() const { return place_.Path() + "/installation"; }
 
-  ToolRun Publish(std::vector<std::string> more = {}, const std::string& directory = Directory()) const {
-    std::vector<std::string> words = {"publish", directory, "--out", Site(), "--date", "2026-11-23"};
+  ToolRun Publish(const std::vector<std::string>& more = {}, const std::string& directory = {}) const {
+    std::vector<std::string> words = {
+        "publish", directory.empty() ? Directory() : directory, "--out", Site(), "--date", "2026-11-23"};
     words.insert(words.end(), more.begin(), more.end());
     return RunDirectoryTool(words);
   }
@@ -60,11 +56,8 @@ class PublishTest : public testing::Test {
     return ReadUpdateFile(folder.Data());
   }
 
-  static ScratchFolder* directory_;
   ScratchFolder place_;
 };
-
-ScratchFolder* PublishTest::directory_ = nullptr;
 
 TEST_F(PublishTest, AnUpdateBringsTheSameDirectory) {
   const ToolRun run = Publish();

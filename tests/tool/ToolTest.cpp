@@ -1,5 +1,6 @@
 #include "tool/ToolTest.h"
 
+#include <gtest/gtest.h>
 #include <zlib.h>
 
 #include <algorithm>
@@ -23,6 +24,25 @@ ToolRun RunDirectoryTool(const std::vector<std::string>& words) {
   run.out = out.str();
   run.err = err.str();
   return run;
+}
+
+void MakeData(const std::vector<std::string>& lists, const std::string& folder,
+              const std::vector<std::string>& options) {
+  std::vector<std::string> words = {"make", "--out", folder};
+  for (const std::string& list : lists)
+    words.push_back(list.starts_with('/') ? list : ProjectFile("data/playlists/" + list));
+  words.insert(words.end(), options.begin(), options.end());
+  const ToolRun made = RunDirectoryTool(words);
+  ASSERT_EQ(made.status, 0) << made.err;
+}
+
+const std::string& BundledData() {
+  static const ScratchFolder scratch;
+  static const std::string folder = [] {
+    MakeData({kBundledList}, scratch.Path());
+    return scratch.Path();
+  }();
+  return folder;
 }
 
 std::string FileBytes(const std::string& path) {

@@ -24,6 +24,14 @@ struct ToolRun {
 // Runs the tool with these words on its command line.
 ToolRun RunDirectoryTool(const std::vector<std::string>& words);
 
+// A data folder of these lists (bundled ones by name, others by path), made with these options; the test
+// fails when it is not made.
+void MakeData(const std::vector<std::string>& lists, const std::string& folder,
+              const std::vector<std::string>& options = {});
+// The data folder of one bundled list, made once for all tests, which change nothing in it.
+inline constexpr const char* kBundledList = "radio-browser_topvote_1-128.json";
+const std::string& BundledData();
+
 std::string FileBytes(const std::string& path);
 void WriteBytes(const std::string& path, std::string_view bytes);
 
