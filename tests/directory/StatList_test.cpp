@@ -2,26 +2,18 @@
 
 #include <gtest/gtest.h>
 
-#include "base/DataFolder.h"
 #include "directory/EvList.h"
-#include "fakes/FakeFiles.h"
+#include "directory/StationFolder.h"
 
 namespace sonaro {
 namespace {
 
 constexpr const char* kTable = "\\statorg";
 
-struct Folder {
-  FakeFiles files;
-  DataFolder data{files, "/data", '/'};
-  StatList stations{data};
-  Folder() { files.MakeFolder("/data"); }
-};
-
 StationRecord Named(std::int32_t id, const std::string& name) { return {id, {name}}; }
 
 TEST(StatList, PutsAndGets) {
-  Folder folder;
+  StationFolder folder;
   StatList& stations = folder.stations;
   ASSERT_TRUE(stations.CreateStationTable(kTable));
   StatList::Handle handle = stations.OpenStationTable(kTable, StatList::OpenMode::Write);
@@ -45,9 +37,8 @@ TEST(StatList, PutsAndGets) {
 }
 
 TEST(StatList, LooksUpManyInTheOrderAsked) {
-  Folder folder;
-  folder.files.Put("/data/station.snr", "3\tC\n1\tA\n2\tB\n");
-  ASSERT_TRUE(folder.stations.RebuildStationTable());
+  StationFolder folder;
+  ASSERT_TRUE(folder.Rebuild("3\tC\n1\tA\n2\tB\n"));
   const std::vector<std::int32_t> ids = {2, 99, 3, 2, 0};
   const std::vector<StationRecord> expected = {Named(2, "B"), Named(3, "C"), Named(2, "B")};
   EXPECT_EQ(folder.stations.GetStations(ids), expected);
@@ -61,7 +52,7 @@ TEST(StatList, LooksUpManyInTheOrderAsked) {
 }
 
 TEST(StatList, WithoutATableEverythingIsEmpty) {
-  Folder folder;
+  StationFolder folder;
   const std::vector<std::int32_t> ids = {1};
   EXPECT_TRUE(folder.stations.FindStation(1).Empty());
   EXPECT_TRUE(folder.stations.GetStations(ids).empty());
@@ -72,7 +63,7 @@ TEST(StatList, WithoutATableEverythingIsEmpty) {
 }
 
 TEST(StatList, FindsTheTableInAnyLetterCase) {
-  Folder folder;
+  StationFolder folder;
   folder.files.Put("/data/Station.snr", "1\tA\n");
   ASSERT_TRUE(folder.stations.RebuildStationTable());
   for (const char* extension : {".isd", ".ism"}) {
@@ -86,7 +77,7 @@ TEST(StatList, FindsTheTableInAnyLetterCase) {
 }
 
 TEST(EvList, KeepsItsTwoSetsApart) {
-  Folder folder;
+  StationFolder folder;
   EvList events(folder.data);
   EXPECT_EQ(events.OpenEventTable(EventSet::Current, EvList::OpenMode::Read), 0);
   EXPECT_EQ(events.LastStatus(), TableStatus::NoTable);

@@ -2,26 +2,13 @@
 
 #include <random>
 
-#include "base/DataFolder.h"
-#include "directory/StatList.h"
+#include "directory/StationFolder.h"
 #include "directory/VmxFormat.h"
-#include "fakes/FakeFiles.h"
 
 namespace sonaro {
 namespace {
 
 constexpr const char* kList = "/data/station.snr";
-
-struct RebuiltFolder {
-  FakeFiles files;
-  DataFolder data{files, "/data", '/'};
-  StatList stations{data};
-
-  bool Rebuild(const std::string& list) {
-    files.Put(kList, list);
-    return stations.RebuildStationTable();
-  }
-};
 
 TEST(StationRebuild, EveryKindOfLineHasADefinedResult) {
   const struct {
@@ -58,7 +45,7 @@ TEST(StationRebuild, EveryKindOfLineHasADefinedResult) {
        {{1, "A"}, {2, std::string(1 << 20, 'x')}, {3, "C"}}},
   };
   for (const auto& c : cases) {
-    RebuiltFolder folder;
+    StationFolder folder;
     ASSERT_TRUE(folder.Rebuild(c.list)) << c.what;
     EXPECT_TRUE(folder.stations.Verify()) << c.what;
     EXPECT_EQ(folder.stations.StationCount(), c.names.size()) << c.what;
@@ -73,7 +60,7 @@ TEST(StationRebuild, EveryKindOfLineHasADefinedResult) {
 // The end of a line at, before and behind the end of what is read at once.
 TEST(StationRebuild, LinesAcrossTheReadBuffer) {
   for (std::size_t length = 256 * 1024 - 6; length < 256 * 1024 + 4; ++length) {
-    RebuiltFolder folder;
+    StationFolder folder;
     ASSERT_TRUE(folder.Rebuild("1\t" + std::string(length, 'x') + "\r\n2\tB\n"));
     EXPECT_EQ(folder.stations.FindStation(1)[StationField::Name].size(), length);
     EXPECT_EQ(folder.stations.FindStation(2)[StationField::Name], "B") << length;
@@ -81,7 +68,7 @@ TEST(StationRebuild, LinesAcrossTheReadBuffer) {
 }
 
 TEST(StationRebuild, MissingFieldsAreEmptyAndSurplusBelongsToTheLast) {
-  RebuiltFolder folder;
+  StationFolder folder;
   ASSERT_TRUE(folder.Rebuild("1\ta\tb\n2\t1\t2\t3\t4\t5\t6\t7\t8\t9\t10\t11\t12\t13\t14\t15\t16\t17\t\r\n"));
   StationRecord expected{1, {"a", "b"}};
   EXPECT_EQ(folder.stations.FindStation(1), expected);
@@ -109,13 +96,13 @@ std::string Joined(const std::vector<std::string>& lines) {
 
 TEST(StationRebuild, OrderOfTheListDoesNotMatter) {
   std::vector<std::string> lines = ManyLines();
-  RebuiltFolder inOrder;
+  StationFolder inOrder;
   ASSERT_TRUE(inOrder.Rebuild(Joined(lines)));
   EXPECT_EQ(inOrder.stations.StationCount(), lines.size());
   EXPECT_EQ(inOrder.stations.FindStation(-1'073'741)[StationField::Name].size(), 1999 % 300 + 6);
 
   std::shuffle(lines.begin(), lines.end(), std::mt19937(7));
-  RebuiltFolder shuffled;
+  StationFolder shuffled;
   ASSERT_TRUE(shuffled.Rebuild(lines[5] + Joined(lines)));
   EXPECT_TRUE(inOrder.files.Get("/data/statorg.isd") == shuffled.files.Get("/data/statorg.isd"));
   const auto behindHeader = [](const FakeFiles& files) {  // which tells the list
@@ -142,16 +129,6 @@ std::vector<StationRecord> Stations(int count, const std::string& kind) {
     records.push_back({id, {"Station " + kind, "WM", "", "", std::string(10'000, 'd')}});
   }
   return records;
-}
-
-std::string ListOf(const std::vector<StationRecord>& records) {
-  std::string list;
-  for (const StationRecord& record : records) {
-    list += std::to_string(record.StationId);
-    for (const std::string& field : record.fields) list += '\t' + field;
-    list += '\n';
-  }
-  return list;
 }
 
 // A folder with the table of the old stations, safely on the disk, and the list of the fresh ones.
@@ -231,7 +208,7 @@ TEST(StationRebuild, FailureLeavesTheOldTableAndNothingBeside) {
     EXPECT_EQ(files.AllPaths().size(), 3u) << space;
   }
 
-  RebuiltFolder folder;
+  StationFolder folder;
   EXPECT_FALSE(folder.stations.RebuildStationTable()) << "no list";
   EXPECT_TRUE(folder.files.AllPaths().empty());
 }

@@ -5,12 +5,10 @@
 #include <bit>
 #include <random>
 
-#include "base/DataFolder.h"
 #include "base/Text.h"
-#include "directory/StatList.h"
+#include "directory/StationFolder.h"
 #include "directory/VmxFormat.h"
 #include "directory/WordFinder.h"
-#include "fakes/FakeFiles.h"
 
 namespace sonaro {
 namespace {
@@ -29,22 +27,10 @@ bool Matches(const StationRecord& record, const std::vector<std::string>& words,
                   : std::any_of(words.begin(), words.end(), occurs);
 }
 
-struct Directory {
-  FakeFiles files;
-  DataFolder data{files, "/data", '/'};
-  StatList stations{data};
+struct Directory : StationFolder {
   std::vector<StationRecord> records;
 
-  void Build() {
-    std::string list;
-    for (const StationRecord& record : records) {
-      list += std::to_string(record.StationId);
-      for (const std::string& field : record.fields) list += '\t' + field;
-      list += '\n';
-    }
-    files.Put("/data/station.snr", list);
-    ASSERT_TRUE(stations.RebuildStationTable());
-  }
+  void Build() { ASSERT_TRUE(Rebuild(ListOf(records))); }
   std::vector<std::int32_t> Expected(const std::string& text, bool allWords) const {
     std::vector<std::int32_t> ids;
     for (const StationRecord& record : records) {
