@@ -66,6 +66,7 @@ TEST_F(ProxyTesting, TellsHowFarItCameAndBeginsAnewEachTime) {
   } cases[] = {
       {FakeAnswer::Body("so it works."), "ddd d " + std::to_string(IDS_NET_TEST_PAGE)},
       {FakeAnswer::Body("It works"), "ddf f " + std::to_string(IDS_NET_TEST_OTHER_PAGE)},
+      {FakeAnswer::Body(""), "ddf f " + std::to_string(IDS_NET_TEST_OTHER_PAGE)},
       {FakeAnswer::Status("407"), "ddf f " + std::to_string(IDS_NET_WRONG_STATUS)},
       {FakeAnswer::ObjectError(HttpFault::Refused), "fww f " + std::to_string(IDS_NET_FAULT_REFUSED)},
       {FakeAnswer::Body("it works"), "ddd d " + std::to_string(IDS_NET_TEST_PAGE)},

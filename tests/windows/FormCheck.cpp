@@ -62,8 +62,7 @@ class Check {
       wchar_t name[32] = {};
       GetClassNameW(item.Window(), name, 32);
       if (std::wstring(name) != L"Button") Add(item, "is not a button");
-      if (item.KindOf() != ControlKind::GroupButton && item.shown && GetWindowTextLengthW(item.Window()) == 0)
-        Add(item, "has no text");
+      if (item.shown && GetWindowTextLengthW(item.Window()) == 0) Add(item, "has no text");
       const bool heading =
           item.KindOf() == ControlKind::HeaderButton && item.Has(kNoTabStop);  // of a list without sorting
       if (IsButton(item.KindOf()) && !heading && !parts_.IsBound(item.Id(), FormEvent::Kind::Click))

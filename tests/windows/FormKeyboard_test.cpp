@@ -4,35 +4,20 @@
 
 #include <commctrl.h>
 
-#include "windows/DemoForm.h"
-#include "windows/FormContextForTests.h"
-#include "windows/Pump.h"
+#include "windows/DemoFormTest.h"
 
 namespace sonaro {
 namespace {
 
 using Log = std::vector<std::string>;
 
-class FormKeyboardTest : public testing::Test {
- protected:
-  FormKeyboardTest() {
-    form.Show();
-    Pump();
-    form.log.clear();
-  }
-  FormContextForTests context;
-  DemoForm form{context.forms};
-};
+using FormKeyboardTest = DemoFormTest;
 
 // The colour on a button's focus line, at the middle of its left edge.
 Color PixelInside(const Form& form, int key) {
   RECT box{};
   GetClientRect(form.Control(key), &box);
-  UpdateWindow(form.Control(key));
-  const HDC dc = GetDC(form.Control(key));
-  const COLORREF color = GetPixel(dc, 3, box.bottom / 2);
-  ReleaseDC(form.Control(key), dc);
-  return {GetRValue(color), GetGValue(color), GetBValue(color)};
+  return PixelOf(form.Control(key), 3, box.bottom / 2);
 }
 
 TEST_F(FormKeyboardTest, BeginsWhereTheDesignSays) { EXPECT_EQ(form.FocusedControl(), DemoForm::kPush + 3); }

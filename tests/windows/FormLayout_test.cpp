@@ -186,13 +186,7 @@ TEST_F(FormLayoutTest, IsDraggedByBackgroundAndLabelsButNotByControls) {
 TEST_F(FormLayoutTest, PaintsButtonsInTheColoursOfTheFaceplate) {
   form.Show();
   Pump();
-  const auto pixel = [&](int id, int x, int y) {
-    UpdateWindow(form.Control(id));
-    const HDC dc = GetDC(form.Control(id));
-    const COLORREF color = GetPixel(dc, x, y);
-    ReleaseDC(form.Control(id), dc);
-    return Color{GetRValue(color), GetGValue(color), GetBValue(color)};
-  };
+  const auto pixel = [&](int id, int x, int y) { return PixelOf(form.Control(id), x, y); };
   const auto check = [&](BuiltInFaceplate faceplate) {
     const FaceplateColors& c = context.faceplate.Colors();
     const int name = static_cast<int>(faceplate);

@@ -9,25 +9,14 @@
 
 #include "forms/ControlIds.h"
 #include "forms/FormImpl.h"
-#include "windows/DemoForm.h"
-#include "windows/FormContextForTests.h"
-#include "windows/Pump.h"
+#include "windows/DemoFormTest.h"
 
 namespace sonaro {
 namespace {
 
 using Log = std::vector<std::string>;
 
-class FormTest : public testing::Test {
- protected:
-  FormTest() {
-    form.Show();
-    Pump();
-    form.log.clear();
-  }
-  FormContextForTests context;
-  DemoForm form{context.forms};
-};
+using FormTest = DemoFormTest;
 
 TEST_F(FormTest, IsFoundFromOutsideByItsClassAndItsNumbers) {
   const HWND window = FindWindowA("frmDemo", "Components");

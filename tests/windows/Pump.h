@@ -3,6 +3,7 @@
 
 #include <windows.h>
 
+#include "faceplate/Color.h"
 #include "forms/MessageLoop.h"
 
 namespace sonaro {
@@ -31,6 +32,15 @@ inline void PressAccessKey(wchar_t letter) {
   MSG message = {GetFocus(), WM_SYSCHAR, letter, 1 << 29, 0, {}};
   if (!TranslateFormMessage(message)) DispatchMessageW(&message);
   Pump();
+}
+
+// The colour that a window shows at a place of its client area, after painting what waits.
+inline Color PixelOf(HWND window, int x, int y) {
+  UpdateWindow(window);
+  const HDC dc = GetDC(window);
+  const COLORREF color = GetPixel(dc, x, y);
+  ReleaseDC(window, dc);
+  return {GetRValue(color), GetGValue(color), GetBValue(color)};
 }
 
 inline void MouseOn(HWND window, UINT message) {

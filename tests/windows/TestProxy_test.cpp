@@ -78,28 +78,6 @@ TEST_F(TestProxyTest, AsksTheProxyForTheTestPage) {
   }
 }
 
-TEST_F(TestProxyTest, SaysWhetherTheProxyWorks) {
-  Settings().SetSetting(setting::kProxyTestText.name, "it works");
-  const std::string other = "Another page came instead of the test page.";
-  const struct {
-    Script answer;
-    std::string result;
-  } kCases[] = {
-      {script::Body("so it works."), kWorks + "|Test page received"},
-      {script::Body("cool proxy works!"), kFails + "|" + other},
-      {script::Body(""), kFails + "|" + other},
-      {script::Status("407 it works"), kFails + "|The server answered with status 407."},
-      {script::Redirect("http://it works/"), kFails + "|The server answered with status 302."},
-      {script::CutBody("it works, well", 9), kFails + "|" + HttpFaultText(HttpFault::CutShort, words_)},
-      {script::Silent(), kFails + "|" + HttpFaultText(HttpFault::Silent, words_)},
-      {script::Exactly("it works"), kFails + "|" + HttpFaultText(HttpFault::CutShort, words_)},
-  };
-  for (const auto& each : kCases) {
-    proxy_.Answer("/", each.answer);
-    EXPECT_EQ(Result(*Show(std::to_string(proxy_.Port()))), each.result);
-  }
-}
-
 TEST_F(TestProxyTest, ShowsHowFarItCameAndTriesAgain) {
   const auto form = Show(std::to_string(UnusedPort()));
   const std::string why = HttpFaultText(HttpFault::Refused, words_);

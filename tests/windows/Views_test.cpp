@@ -71,13 +71,6 @@ class ViewsTest : public testing::Test {
     }
     return nullptr;
   }
-  Color PixelOf(HWND window, int x, int y) const {
-    UpdateWindow(window);
-    const HDC dc = GetDC(window);
-    const COLORREF color = GetPixel(dc, x, y);
-    ReleaseDC(window, dc);
-    return {GetRValue(color), GetGValue(color), GetBValue(color)};
-  }
   int Top() const { return static_cast<int>(SendMessageW(list, LVM_GETTOPINDEX, 0, 0)); }
 
   FormContextForTests context;
