@@ -7,6 +7,7 @@
 #include <system_error>
 
 #include "Picture.h"
+#include "forms/ControlIds.h"
 
 namespace sonaro::desktop {
 
@@ -47,7 +48,7 @@ void DesktopTest::SetUp() {
   if (HasFatalFailure()) return;
   RegisterRecorders();
   SetDotsPerInch(96);
-  ResetSettings({{"StartPlayer", "No"}, {"StartProxy", "No"}, {"StartQuickStart", "No"}});
+  ResetToSettled();
 }
 
 void DesktopTest::TearDown() {
@@ -99,6 +100,13 @@ void DesktopTest::WriteFile(const std::string& name, const std::string& bytes) c
   std::ofstream(PathOf(name), std::ios::binary) << bytes;
 }
 
+void DesktopTest::HoldList(const std::string& list, const std::string& ranking, SettingValues more) const {
+  WriteFile("tStation.snr", list);
+  WriteFile("fun.snr", "Most Pop\t" + ranking + "\r\n");
+  more["UpdateHold"] = "Station.snr\t";
+  ResetToSettled(std::move(more));
+}
+
 bool DesktopTest::Exists(const std::string& name) const {
   std::error_code error;
   return fs::exists(PathOf(name), error);
@@ -128,10 +136,28 @@ HWND DesktopTest::StartAndShowMain(const std::string& arguments) {
   return window;
 }
 
+HWND DesktopTest::Dialog(const std::string& name, const std::string& caption) {
+  HWND dialog = Running().WaitForShownWindow(name, caption);
+  EXPECT_NE(dialog, nullptr) << name << " " << caption;
+  return dialog;
+}
+
+void DesktopTest::EndWith(HWND owner, HWND dialog, int key) {
+  EXPECT_TRUE(WaitUntil([&] { return IsWindowEnabled(Control(dialog, key)) != FALSE; }));
+  Click(Control(dialog, key));
+  EXPECT_TRUE(WaitUntil([&] { return !IsShown(dialog) && IsWindowEnabled(owner) != FALSE; }));
+}
+
+std::string DesktopTest::AnswerBox(HWND owner, int key) {
+  HWND box = Dialog("MsgboxFrm");
+  std::string said = TextOf(Control(box, lblMsg));
+  EndWith(owner, box, key);
+  return said;
+}
+
 void DesktopTest::ChooseFile(const std::string& path) {
   constexpr int kFileName = 0x47C;  // the system's number of its combo
-  HWND dialog = Running().WaitForShownWindow("#32770");
-  ASSERT_NE(dialog, nullptr);
+  HWND dialog = Dialog("#32770");
   ASSERT_TRUE(WaitUntil([&] { return Control(dialog, kFileName) != nullptr; }));
   SetText(Control(dialog, kFileName), path);
   Command(dialog, IDOK);

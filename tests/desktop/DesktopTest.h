@@ -33,6 +33,9 @@ class DesktopTest : public ::testing::Test {
   std::string ReadFile(const std::string& name) const;  // "" when missing
   void WriteFile(const std::string& name, const std::string& bytes) const;
   bool Exists(const std::string& name) const;
+  // A downloaded station list that waits to be put in place, its first ranking, and settings as after the
+  // first start, and these.
+  void HoldList(const std::string& list, const std::string& ranking, SettingValues more = {}) const;
   // Every file of the data folder but the programs and what they record: path and digest.
   std::map<std::string, std::size_t> AllFiles() const;
 
@@ -43,6 +46,12 @@ class DesktopTest : public ::testing::Test {
   SonaroProcess& Running() { return *processes_.back(); }
   // Starts the program and waits until its main window is shown; a failure when it does not come.
   HWND StartAndShowMain(const std::string& arguments = "");
+  // Waits for a window of the program that was started last; a failure when it does not come.
+  HWND Dialog(const std::string& name, const std::string& caption = "");
+  // Presses a key of a dialog or box that ends with it. Until it is gone its owner takes no command.
+  void EndWith(HWND owner, HWND dialog, int key);
+  // Answers a message; returns what it said.
+  std::string AnswerBox(HWND owner, int key);
 
   // Names the file in the system's dialog for opening or saving one, and accepts it.
   void ChooseFile(const std::string& path);
@@ -70,11 +79,6 @@ class DesktopTest : public ::testing::Test {
   std::string asxPlayer_;
   std::string browser_;
   std::vector<std::unique_ptr<SonaroProcess>> processes_;
-};
-
-class WholeDirectoryTest : public DesktopTest {
- public:
-  WholeDirectoryTest() : DesktopTest(Directory::Whole) {}
 };
 
 }  // namespace sonaro::desktop

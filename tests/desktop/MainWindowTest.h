@@ -33,18 +33,6 @@ class MainWindowTest : public DesktopTest {
     EXPECT_TRUE(WaitUntil([&] { return RowCount(List(main)) > 2; }));
     return main;
   }
-  HWND Dialog(const std::string& name) {
-    HWND dialog = Running().WaitForShownWindow(name);
-    EXPECT_NE(dialog, nullptr) << name;
-    return dialog;
-  }
-  // Presses a key of a dialog or box that ends with it. Until it is gone the main window takes no command.
-  void EndWith(HWND main, HWND dialog, int key) {
-    EXPECT_TRUE(WaitUntil([&] { return IsWindowEnabled(Control(dialog, key)) != FALSE; }));
-    Click(Control(dialog, key));
-    EXPECT_TRUE(WaitUntil([&] { return !IsShown(dialog) && IsWindowEnabled(main) != FALSE; }));
-  }
-  void AnswerBox(HWND main, int key) { EndWith(main, Dialog("MsgboxFrm"), key); }
   void NewGroup(HWND main, const std::string& name) {
     Command(main, mnuFavoritesAdd);
     HWND dialog = Dialog("frmNewFavorite");

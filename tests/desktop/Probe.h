@@ -55,7 +55,6 @@ std::string CellText(HWND list, int row, int column = 0);
 std::vector<std::string> ColumnTexts(HWND list, int column = 0);
 std::vector<int> SelectedRows(HWND list);
 void SelectRow(HWND list, int row);  // alone, focused and scrolled into view
-void DoubleClickRow(HWND list, int row);
 
 // Tree views.
 std::vector<HTREEITEM> TreeChildren(HWND tree, HTREEITEM parent = nullptr);

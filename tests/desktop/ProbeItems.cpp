@@ -118,17 +118,6 @@ void SelectRow(HWND list, int row) {
   SendMessageA(list, LVM_ENSUREVISIBLE, static_cast<WPARAM>(row), FALSE);
 }
 
-void DoubleClickRow(HWND list, int row) {
-  RemoteMemory memory(list);
-  SendMessageA(list, LVM_ENSUREVISIBLE, static_cast<WPARAM>(row), FALSE);
-  RECT place{};
-  place.left = LVIR_LABEL;
-  SendMessageA(list, LVM_GETITEMRECT, static_cast<WPARAM>(row), memory.Put(place));
-  const POINT point = MiddleOf(list, memory.Get<RECT>());
-  ClickAt(point.x, point.y);
-  ClickAt(point.x, point.y);
-}
-
 std::vector<HTREEITEM> TreeChildren(HWND tree, HTREEITEM parent) {
   std::vector<HTREEITEM> items;
   const auto next = [tree](WPARAM relation, HTREEITEM item) {

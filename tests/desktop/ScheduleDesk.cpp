@@ -30,26 +30,15 @@ void HandClockTest::SetTimeFormat(const std::string& format) {
   WriteText(HKEY_CURRENT_USER, kInternational, kTimeFormat, format);
 }
 
-HWND HandClockTest::MainWithStations() {
-  HWND main = StartAndShowMain();
-  Command(main, mnuActionMostPoular);
-  EXPECT_TRUE(WaitUntil([&] { return RowCount(Control(main, lstFavs)) > 3; }));
-  return main;
-}
-
 HWND HandClockTest::ScheduleRow(HWND main, int row) {
   SelectRow(Control(main, lstFavs), row);
   Command(main, mnuActionSchedule);
-  HWND dialog = Sonaro().WaitForShownWindow("frmSchedChange");
-  EXPECT_NE(dialog, nullptr);
-  return dialog;
+  return Dialog("frmSchedChange");
 }
 
 HWND HandClockTest::OpenList(HWND main) {
   Command(main, mnuSchedule);
-  HWND list = Sonaro().WaitForShownWindow("frmSched");
-  EXPECT_NE(list, nullptr);
-  return list;
+  return Dialog("frmSched");
 }
 
 void HandClockTest::ChooseTime(HWND dialog, const std::string& hour, const std::string& minute,
@@ -60,18 +49,9 @@ void HandClockTest::ChooseTime(HWND dialog, const std::string& hour, const std::
   EXPECT_TRUE(ChooseItem(Control(dialog, cmbTimeAMPM), half));
 }
 
-void HandClockTest::PressOk(HWND dialog, HWND owner) {
-  Click(Control(dialog, butOKIt));
-  EXPECT_TRUE(WaitUntil([&] { return !IsWindow(dialog) && IsWindowEnabled(owner) != FALSE; }));
-}
-
 void HandClockTest::ExpectRefusal(HWND dialog, const std::string& sentence) {
   Click(Control(dialog, butOKIt));
-  HWND box = Sonaro().WaitForShownWindow("MsgboxFrm");
-  ASSERT_NE(box, nullptr) << sentence;
-  EXPECT_EQ(TextOf(Control(box, lblMsg)), sentence);
-  Click(Control(box, butMsg));
-  ASSERT_TRUE(WaitUntil([&] { return !IsWindow(box) && IsWindowEnabled(dialog) != FALSE; }));
+  EXPECT_EQ(AnswerBox(dialog, butMsg), sentence);
   EXPECT_TRUE(IsShown(dialog));
 }
 

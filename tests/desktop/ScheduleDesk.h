@@ -6,12 +6,12 @@
 #include <string>
 #include <vector>
 
-#include "DesktopTest.h"
 #include "HandClock.h"
+#include "MainWindowTest.h"
 
 namespace sonaro::desktop {
 
-class HandClockTest : public DesktopTest {
+class HandClockTest : public MainWindowTest {
  protected:
   static constexpr Date kThursday{2005, 5, 5};
 
@@ -21,15 +21,16 @@ class HandClockTest : public DesktopTest {
   // The regional time format, read by the next program that starts: "h:mm:ss tt" or "HH:mm:ss".
   void SetTimeFormat(const std::string& format);
 
-  // The main window with the first ranking in its list.
-  HWND MainWithStations();
   // Asks for a new item for the station in this row of the main window's list; returns the dialog.
   HWND ScheduleRow(HWND main, int row);
   HWND OpenList(HWND main);
   // Sets the dialog's time. "" for `half` with the 24-hour clock.
   void ChooseTime(HWND dialog, const std::string& hour, const std::string& minute, const std::string& half);
   // Presses OK and waits until the dialog has gone.
-  void PressOk(HWND dialog, HWND owner);
+  void PressOk(HWND dialog, HWND owner) {
+    EndWith(owner, dialog, butOKIt);
+    EXPECT_TRUE(WaitUntil([&] { return !IsWindow(dialog); }));
+  }
   // Presses OK, expects this message, answers it and expects the dialog to be there still.
   void ExpectRefusal(HWND dialog, const std::string& sentence);
 

@@ -39,6 +39,11 @@ void ResetSettings(const SettingValues& values) {
   for (const auto& [name, text] : values) WriteText(HKEY_LOCAL_MACHINE, kSettings, name, text);
 }
 
+void ResetToSettled(SettingValues more) {
+  more.merge(SettingValues{{"StartPlayer", "No"}, {"StartProxy", "No"}, {"StartQuickStart", "No"}});
+  ResetSettings(more);
+}
+
 SettingValues ReadSettings() {
   SettingValues values;
   HKEY opened = nullptr;

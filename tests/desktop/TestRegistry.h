@@ -12,6 +12,8 @@ using SettingValues = std::map<std::string, std::string>;
 
 // Empties the program's settings key and writes these values, as an installer and earlier sessions left them.
 void ResetSettings(const SettingValues& values);
+// The same with the checks of the first start settled, which asks nothing then.
+void ResetToSettled(SettingValues more = {});
 std::string ReadSetting(const std::string& name);
 SettingValues ReadSettings();  // all of them
 

@@ -43,17 +43,14 @@ class UpdateTest : public DesktopTest {
   }
   // By way of a proxy, since without one the service is always on port 80.
   void UseServer(std::uint16_t port, const std::string& toDo = "") {
-    ResetSettings({{"StartPlayer", "No"},
-                   {"StartProxy", "No"},
-                   {"StartQuickStart", "No"},
-                   {"CloseToTray", "No"},
-                   {"LastUpdate", "1/2/2026"},
-                   {"InstallId", "id 1"},
-                   {"UpdateURL", kService},
-                   {"ProxyUse", "yes "},
-                   {"ProxyAddress", " 127.0.0.1 "},
-                   {"ProxyPort", std::to_string(port)},
-                   {"DoWhat", toDo}});
+    ResetToSettled({{"CloseToTray", "No"},
+                    {"LastUpdate", "1/2/2026"},
+                    {"InstallId", "id 1"},
+                    {"UpdateURL", kService},
+                    {"ProxyUse", "yes "},
+                    {"ProxyAddress", " 127.0.0.1 "},
+                    {"ProxyPort", std::to_string(port)},
+                    {"DoWhat", toDo}});
   }
 
   // The directory with a station gone, one changed and two more, with another category and other rankings.
@@ -70,7 +67,7 @@ class UpdateTest : public DesktopTest {
                           UpdateSection("fun.snr", "Most Pop\t7 8 18230211 \r\n") + "date::3/4/2026::\r\n");
   }
 
-  HWND Dialog() { return Sonaro().WaitForShownWindow("MsgboxFrm", "Update"); }
+  HWND UpdateDialog() { return Dialog("MsgboxFrm", "Update"); }
   bool Says(HWND dialog, const std::string& text) {
     return WaitUntil([&] { return TextOf(Control(dialog, lblStuff)).find(text) != std::string::npos; });
   }

@@ -96,29 +96,5 @@ TEST_F(BrowseTest, ASearchIsRememberedAcrossARestart) {
   EXPECT_EQ(ComboTexts(Control(again, txtQuickSearch)).size(), 2u);
 }
 
-TEST_F(BrowseTest, EveryStopOfTheKeyboardHasANameAndTabReachesThem) {
-  HWND main = StartAndShowMain();
-  std::size_t stops = 0;
-  for (HWND control : Descendants(main)) {
-    const auto style = static_cast<DWORD>(GetWindowLongW(control, GWL_STYLE));
-    if (!IsShown(control) || (style & WS_TABSTOP) == 0 || GetParent(control) != main) continue;
-    ++stops;
-    if (ClassOf(control) != "Button") continue;
-    EXPECT_NE(TextOf(control), "") << GetDlgCtrlID(control);
-  }
-  EXPECT_GT(stops, 8u);
-  HWND first = FocusOf(main);
-  std::vector<HWND> visited;
-  for (std::size_t step = 0; step <= stops; ++step) {
-    PressKey(main, VK_TAB);
-    HWND before = visited.empty() ? first : visited.back();
-    WaitUntil([&] { return FocusOf(main) != before; }, std::chrono::milliseconds(500));
-    visited.push_back(FocusOf(main));
-    if (visited.back() == first) break;
-  }
-  EXPECT_EQ(visited.back(), first) << "Tab does not come round";
-  EXPECT_GT(visited.size(), 6u);
-}
-
 }  // namespace
 }  // namespace sonaro::desktop

@@ -177,8 +177,7 @@ TEST_F(GroupTest, DelThreeTimesRemovesThreeStationsInARow) {
 }
 
 TEST_F(GroupTest, WhatTheGuideLostIsToldBesideTheCaptionAndTakenOut) {
-  ResetSettings(
-      {{"StartPlayer", "No"}, {"StartProxy", "No"}, {"StartQuickStart", "No"}, {"NoShowDelete", "Yes"}});
+  ResetToSettled({{"NoShowDelete", "Yes"}});
   HWND main = MainWithGroups("Morning\t2000000001 P77\r\nEvening\t\r\n");
   Command(main, mnuActionStationToGroup);
   Click(Control(main, butFavs));

@@ -27,8 +27,7 @@ class OptionsTest : public DesktopTest {
   }
   void Open() {
     Click(Control(main_, butOptions));
-    dialog_ = Sonaro().WaitForShownWindow("frmOptions");
-    ASSERT_NE(dialog_, nullptr);
+    dialog_ = Dialog("frmOptions");
   }
   HWND In(int id) const { return Control(dialog_, id); }
   bool IsOn(int id) const { return IsChecked(In(id)); }
@@ -138,7 +137,7 @@ TEST_F(OptionsTest, AProxyThatCannotBeOneIsRefusedWithItsSentence) {
   EXPECT_EQ(ReadSetting("SoundNotify"), "False");
 }
 
-TEST_F(OptionsTest, TheComputersProxyIsFoundAndWhatIsTypedIsTested) {
+TEST_F(OptionsTest, TheComputersProxyIsFound) {
   StartMain();
   Open();
   Press(butFindProxyIt);
@@ -149,23 +148,13 @@ TEST_F(OptionsTest, TheComputersProxyIsFoundAndWhatIsTypedIsTested) {
   EXPECT_TRUE(IsOn(optProxy + 1));
   EXPECT_EQ(TextOf(In(txtProxy)) + " " + TextOf(In(txtPort)), "127.0.0.1 9");
 
-  Click(In(butTestProxyIt));
-  HWND test = Sonaro().WaitForShownWindow("frmTestProxy");
-  ASSERT_NE(test, nullptr);
-  EXPECT_EQ(TextOf(Control(test, lblCheckAddress)) + " " + TextOf(Control(test, lblCheckPort)),
-            "127.0.0.1 9");
-  EXPECT_TRUE(WaitUntil([&] { return TextOf(Control(test, lblStatusInfo)).starts_with("This Proxy"); }));
-  Click(Control(test, butOKIt));
-  EXPECT_TRUE(WaitUntil([&] { return !IsWindow(test); }));
-  EXPECT_TRUE(IsWindowEnabled(dialog_));
   EXPECT_EQ(ReadSetting("ProxyUse"), "");
 }
 
 TEST_F(OptionsTest, TheKeyboardOpensWorksAndConfirmsIt) {
   StartMain();
   PressKey(main_, 'O', Modifier::Alt);
-  dialog_ = Sonaro().WaitForShownWindow("frmOptions");
-  ASSERT_NE(dialog_, nullptr);
+  dialog_ = Dialog("frmOptions");
   EXPECT_EQ(FocusOf(dialog_), In(chkStartWindows));
   PressKey(dialog_, 'K', Modifier::Alt);
   EXPECT_TRUE(WaitUntil([&] { return !IsOn(chkSoundKeys); }));
@@ -188,8 +177,7 @@ TEST_F(OptionsTest, TheTrayOpensTheSameDialogOnce) {
   HWND tray = sonaro.WaitForWindow("", "frmSysTrayMenu");
   ASSERT_NE(tray, nullptr);
   Command(tray, mnuTrayOptions);
-  dialog_ = sonaro.WaitForShownWindow("frmOptions");
-  ASSERT_NE(dialog_, nullptr);
+  dialog_ = Dialog("frmOptions");
   Command(tray, mnuTrayOptions);
   EXPECT_EQ(FindWindowA("frmOptions", nullptr), dialog_);
   EXPECT_EQ(FindWindowExA(nullptr, dialog_, "frmOptions", nullptr), nullptr);

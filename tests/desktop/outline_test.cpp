@@ -39,7 +39,6 @@ TEST_F(OutlineTest, WindowsHaveThePolygonsOfTheFile) {
   for (const int dotsPerInch : {96, 120}) {
     SetDotsPerInch(static_cast<DWORD>(dotsPerInch));
     HWND main = StartAndShowMain();
-    ASSERT_NE(main, nullptr);
     Command(main, mnuScan);
     HWND scan = Dialog("frmScan");
     ExpectOutline(scan, "scf72", dotsPerInch);

@@ -30,10 +30,7 @@ TEST_F(PersonalTest, OnesOwnStationsComeAndGoAndTheirTokensStayRight) {
   for (const char* refused : {"", "C:\\music\\a.mp3"}) {
     SetText(Control(dialog, txtLink), refused);
     Click(Control(dialog, butOKIt));
-    HWND box = Dialog("MsgboxFrm");
-    EXPECT_NE(TextOf(Control(box, lblMsg)), "");
-    Click(Control(box, butMsg));
-    ASSERT_TRUE(WaitUntil([&] { return !IsShown(box) && IsWindowEnabled(dialog) != FALSE; }));
+    EXPECT_NE(AnswerBox(dialog, butMsg), "");
     EXPECT_TRUE(WaitUntil([&] { return FocusOf(main) == Control(dialog, txtLink); })) << "what is wrong";
   }
   EndWith(main, dialog, butCancelIt);
@@ -120,10 +117,7 @@ TEST_F(PersonalTest, AllOfThemGoOutAtOnceAndComeBackWhole) {
   const std::string radio = "\tРадио\thttp://127.0.0.1:9/r\t\t\t\tOGG\t\r\n";
   const std::vector<std::string> names = {"Garage <&> \"Größe\"", "Радио"};
   WriteFile("personal.snr", "1" + garage + "4" + radio);
-  ResetSettings({{"StartPlayer", "No"},
-                 {"StartProxy", "No"},
-                 {"StartQuickStart", "No"},
-                 {"NoShowDeletePersonalStation", "Yes"}});
+  ResetToSettled({{"NoShowDeletePersonalStation", "Yes"}});
   HWND main = MainWithStations();
   ShowYours(main, names);
   const std::vector<const char*> files = {"all.m3u", "all.pls", "all.opml"};
@@ -163,12 +157,7 @@ TEST_F(PersonalTest, AnExtraLinkOutlivesTheDirectoryThatItWasMadeFor) {
   Command(main, mnuExit);
   EXPECT_TRUE(Running().WaitForEnd().has_value());
 
-  WriteFile("tStation.snr", StationLine(std::stoi(identifier), "Renamed", "mhttp://127.0.0.1:9/new"));
-  WriteFile("fun.snr", "Most Pop\t" + identifier + "\r\n");
-  ResetSettings({{"StartPlayer", "No"},
-                 {"StartProxy", "No"},
-                 {"StartQuickStart", "No"},
-                 {"UpdateHold", "Station.snr\t"}});
+  HoldList(StationLine(std::stoi(identifier), "Renamed", "mhttp://127.0.0.1:9/new"), identifier);
   main = StartAndShowMain();
   Command(main, mnuActionMostPoular);
   ASSERT_TRUE(WaitUntil([&] { return ColumnTexts(List(main)) == std::vector<std::string>{"Renamed"}; }));

@@ -1,23 +1,14 @@
 // From the list to the player: what is handed over, to whom, and what is remembered.
 #include <algorithm>
 
-#include "DesktopTest.h"
 #include "Guide.h"
-#include "forms/ControlIds.h"
+#include "MainWindowTest.h"
 
 namespace sonaro::desktop {
 namespace {
 
-class PlayTest : public DesktopTest {
+class PlayTest : public MainWindowTest {
  protected:
-  HWND List(HWND main) { return Control(main, lstFavs); }
-  // The main window with the first ranking in its list.
-  HWND MainWithStations() {
-    HWND main = StartAndShowMain();
-    Command(main, mnuActionMostPoular);
-    EXPECT_TRUE(WaitUntil([&] { return RowCount(List(main)) > 30; }));
-    return main;
-  }
   std::string FirstRecent() {
     std::string recent;
     WaitUntil([&] { return !(recent = ReadFile("recent.snr")).empty(); });
@@ -69,23 +60,11 @@ TEST_F(PlayTest, EnterOnARowPlaysItAndTwentyOfTwentyFivePlaysAreKept) {
   EXPECT_EQ(AsxLines(26).size(), 26u);
 }
 
-class SwapTest : public PlayTest {
- protected:
-  // A downloaded station list that waits to be put in place.
-  void HoldList(const std::string& list) {
-    WriteFile("tStation.snr", list);
-    ResetSettings({{"StartPlayer", "No"},
-                   {"StartProxy", "No"},
-                   {"StartQuickStart", "No"},
-                   {"UpdateHold", "Station.snr\t"}});
-    WriteFile("fun.snr", "Most Pop\t7 8 9\r\n");
-  }
-};
-
-TEST_F(SwapTest, AHeldListIsSwappedInTheTableRebuiltAndEveryKindOfLinkPlays) {
+TEST_F(PlayTest, AHeldListIsSwappedInTheTableRebuiltAndEveryKindOfLinkPlays) {
   HoldList(StationLine(7, "Plain", "http://127.0.0.1:9/plain?a=1&b=%5") +
-           StationLine(8, "Page", "whttp://127.0.0.1:9/page") +
-           StationLine(9, "Bad", "mhttp://127.0.0.1:9/a\"b"));
+               StationLine(8, "Page", "whttp://127.0.0.1:9/page") +
+               StationLine(9, "Bad", "mhttp://127.0.0.1:9/a\"b"),
+           "7 8 9");
   HWND main = StartAndShowMain();
   Command(main, mnuActionMostPoular);
   ASSERT_TRUE(WaitUntil([&] { return RowCount(List(main)) == 3; }));
@@ -106,40 +85,8 @@ TEST_F(SwapTest, AHeldListIsSwappedInTheTableRebuiltAndEveryKindOfLinkPlays) {
 
   SelectRow(List(main), 2);
   Click(Control(main, butGoMediaLinkOneIt));
-  HWND box = Sonaro().WaitForShownWindow("MsgboxFrm");
-  ASSERT_NE(box, nullptr);
-  EXPECT_NE(TextOf(Control(box, lblMsg)), "");
-  Click(Control(box, butMsg));
-  EXPECT_TRUE(WaitUntil([&] { return !IsShown(box); }));
+  EXPECT_NE(AnswerBox(main, butMsg), "");
   EXPECT_EQ(AsxLines(0).size(), 0u);
-}
-
-TEST_F(SwapTest, ADamagedTableIsRebuiltWithoutAsking) {
-  std::string table = ReadFile("Statorg.ism");
-  if (table.empty()) table = ReadFile("statorg.ism");
-  ASSERT_FALSE(table.empty());
-  table[table.size() / 2] = static_cast<char>(table[table.size() / 2] ^ 0x5A);
-  WriteFile("statorg.ism", table);
-  HWND main = StartAndShowMain();
-  Command(main, mnuActionMostPoular);
-  EXPECT_TRUE(WaitUntil([&] { return RowCount(List(main)) > 30; }));
-}
-
-TEST_F(SwapTest, MissingFilesAreSaidAndDecliningEndsTheProgram) {
-  std::remove(PathOf("fun.snr").c_str());
-  ResetSettings(
-      {{"StartPlayer", "No"}, {"StartProxy", "No"}, {"StartQuickStart", "No"}, {"LastUpdate", "1/2/2026"}});
-  SonaroProcess& sonaro = Start();
-  HWND box = sonaro.WaitForShownWindow("MsgboxFrm", "Files Missing");
-  ASSERT_NE(box, nullptr);
-  EXPECT_EQ(TextOf(Control(box, butMsg)), "Get Files");
-  EXPECT_EQ(ReadSetting("LastUpdate"), "");
-  SaveShot("files-missing");
-  Click(Control(box, butMsg + 1));
-  EXPECT_EQ(sonaro.WaitForEnd(), 0u);
-  const auto pages = BrowserLines();
-  ASSERT_EQ(pages.size(), 1u);
-  EXPECT_NE(pages[0].find("/2/9037.html"), std::string::npos) << pages[0];
 }
 
 }  // namespace

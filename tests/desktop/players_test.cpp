@@ -45,8 +45,7 @@ TEST_F(PlayersTest, AProgramForAsxLinksIsEnoughForTheFirstStart) {
   EXPECT_FALSE(IsChecked(Control(page, chkDontShow)));
   SaveShot("well");
   Click(Control(page, butOKIt));
-  HWND main = Sonaro().WaitForShownWindow("SonaroFrm");
-  ASSERT_NE(main, nullptr);
+  HWND main = Dialog("SonaroFrm");
   EXPECT_EQ(ReadSetting("StartPlayer") + ReadSetting("PlayWith"), "");
   Command(main, mnuActionMostPoular);
   ASSERT_TRUE(WaitUntil([&] { return RowCount(List(main)) > 30; }));
@@ -64,8 +63,7 @@ TEST_F(PlayersTest, APlayerThatIsChosenAfterAnErrorPlays) {
   EXPECT_EQ(TextOf(Control(box, lblMsg)), "No media player is set for this station.");
   SaveShot("error");
   Click(Control(box, butMsg + 1));
-  HWND page = Sonaro().WaitForShownWindow("frmStartUpInfo", "Player");
-  ASSERT_NE(page, nullptr);
+  HWND page = Dialog("frmStartUpInfo", "Player");
   EXPECT_EQ(TextOf(Control(page, lblHead)), "No player was found");
   SaveShot("choose");
   ChooseTheBrowser(page);
@@ -81,8 +79,7 @@ TEST_F(PlayersTest, APlayerThatIsChosenAfterAnErrorPlays) {
   HWND options = Dialog("frmOptions");
   SaveShot("options");
   Click(Control(options, butPlayerIt));
-  page = Sonaro().WaitForShownWindow("frmStartUpInfo", "Player");
-  ASSERT_NE(page, nullptr);
+  page = Dialog("frmStartUpInfo", "Player");
   EXPECT_EQ(TextOf(Control(page, cmbPlayWith)), "browser.exe");
   EXPECT_EQ(TextOf(Control(page, lblHead)), "The stations are ready to play");
   SaveShot("chosen");
@@ -100,8 +97,7 @@ TEST_F(PlayersTest, AScanWaitsForAPlayerAndTakesStationsByItsHiddenLabel) {
   HWND queue = Control(scan, lstToScan);
   ASSERT_TRUE(WaitUntil([&] { return RowCount(queue) == 3; }));
   Click(Control(scan, butStartIt));
-  HWND page = Sonaro().WaitForShownWindow("frmStartUpInfo", "Player");
-  ASSERT_NE(page, nullptr);
+  HWND page = Dialog("frmStartUpInfo", "Player");
   for (int tick = 0; tick < 5; ++tick) RunTimer(scan, tmrScan);
   Click(Control(page, butDoneIt));
   ASSERT_TRUE(WaitUntil([&] { return !IsWindow(page); }));
@@ -119,12 +115,7 @@ TEST_F(PlayersTest, AScanWaitsForAPlayerAndTakesStationsByItsHiddenLabel) {
 }
 
 TEST_F(PlayersTest, EnterOnAStationWithAWebSiteOnlyIsRememberedAndAMissingBrowserIsSaid) {
-  WriteFile("tStation.snr", StationLine(7, "Site", "", "www.a.example"));
-  ResetSettings({{"StartPlayer", "No"},
-                 {"StartProxy", "No"},
-                 {"StartQuickStart", "No"},
-                 {"UpdateHold", "Station.snr\t"}});
-  WriteFile("fun.snr", "Most Pop\t7\r\n");
+  HoldList(StationLine(7, "Site", "", "www.a.example"), "7");
   HWND main = StartAndShowMain();
   Command(main, mnuActionMostPoular);
   ASSERT_TRUE(WaitUntil([&] { return RowCount(List(main)) == 1; }));
@@ -136,9 +127,7 @@ TEST_F(PlayersTest, EnterOnAStationWithAWebSiteOnlyIsRememberedAndAMissingBrowse
   EXPECT_TRUE(WaitUntil([&] { return ReadFile("recent.snr").starts_with("7"); }));
   std::remove(PathOf("lweb.exe").c_str());
   Click(Control(main, butHelp));
-  HWND box = Dialog("MsgboxFrm");
-  EXPECT_NE(TextOf(Control(box, lblMsg)).find("lweb.exe"), std::string::npos);
-  Click(Control(box, butMsg));
+  EXPECT_NE(AnswerBox(main, butMsg).find("lweb.exe"), std::string::npos);
 }
 
 }  // namespace

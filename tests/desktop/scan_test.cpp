@@ -10,6 +10,13 @@ class ScanTest : public MainWindowTest {
   bool Shows(HWND scan, int label, const std::string& text) {
     return WaitUntil([&] { return TextOf(Control(scan, label)) == text; });
   }
+  // The scan window so that its queue lies below the main window, which a click raises.
+  HWND ScanBelow(HWND main) {
+    HWND scan = Dialog("frmScan");
+    SetWindowPos(main, nullptr, 0, 0, 0, 0, SWP_NOSIZE | SWP_NOZORDER);
+    SetWindowPos(scan, nullptr, 500, 480, 0, 0, SWP_NOSIZE | SWP_NOZORDER);
+    return scan;
+  }
   bool DropOn(HWND queue, int rows, POINT from, POINT to) {
     return DragUntil(from, to, [&] { return RowCount(queue) == rows + 1; });
   }
@@ -34,8 +41,7 @@ TEST_F(ScanTest, AScanPlaysItsQueueOneAfterAnother) {
     Command(main, mnuActionAddToScan);
   }
   Command(main, mnuScan);
-  HWND scan = Sonaro().WaitForShownWindow("frmScan");
-  ASSERT_NE(scan, nullptr);
+  HWND scan = Dialog("frmScan");
   HWND queue = Control(scan, lstToScan);
   ASSERT_TRUE(WaitUntil([&] { return RowCount(queue) == 3; }));
   EXPECT_EQ(TextOf(Control(scan, lblCurrentScaning)), "Currently Not Scanning ");
@@ -66,10 +72,7 @@ TEST_F(ScanTest, StationsAreDroppedIntoTheQueue) {
   HWND main = MainWithStations();
   const std::vector<std::string> names = ColumnTexts(List(main));
   Command(main, mnuScan);
-  HWND scan = Dialog("frmScan");
-  // A click raises the main window, so the queue lies below it.
-  SetWindowPos(main, nullptr, 0, 0, 0, 0, SWP_NOSIZE | SWP_NOZORDER);
-  SetWindowPos(scan, nullptr, 500, 480, 0, 0, SWP_NOSIZE | SWP_NOZORDER);
+  HWND scan = ScanBelow(main);
   HWND queue = Control(scan, lstToScan);
   ASSERT_TRUE(WaitUntil([&] { return BoundsOf(queue).top >= BoundsOf(main).bottom; }));
   ASSERT_TRUE(DropOn(queue, 0, RowAt(main, 1), MiddleOf(queue)));
@@ -85,22 +88,14 @@ TEST_F(ScanTest, ARowInTheHandAndAnOpenMenuKeepTheirStationThroughAStep) {
     list += StationLine(id, "Station " + std::to_string(id), "mhttp://127.0.0.1:9/" + std::to_string(id));
     if (id <= 20) recent += std::to_string(id) + " ";
   }
-  WriteFile("tStation.snr", list);
+  HoldList(list, "21 22 23 24 25 26 27 28 29", {{"ScanTime", "20"}});
   WriteFile("recent.snr", recent + "\r\n");
-  WriteFile("fun.snr", "Most Pop\t21 22 23 24 25 26 27 28 29\r\n");
   WriteFile("favs.snr", "Held\t\r\nMenu\t\r\n");
-  ResetSettings({{"StartPlayer", "No"},
-                 {"StartProxy", "No"},
-                 {"StartQuickStart", "No"},
-                 {"ScanTime", "20"},
-                 {"UpdateHold", "Station.snr\t"}});
   HWND main = MainWithStations();
   Command(main, mnuActionAddListToScan);
   Command(main, mnuRecent);
   Command(main, mnuScan);
-  HWND scan = Dialog("frmScan");
-  SetWindowPos(main, nullptr, 0, 0, 0, 0, SWP_NOSIZE | SWP_NOZORDER);
-  SetWindowPos(scan, nullptr, 500, 480, 0, 0, SWP_NOSIZE | SWP_NOZORDER);
+  HWND scan = ScanBelow(main);
   Click(Control(scan, butStartIt));
   ASSERT_TRUE(Shows(scan, lblCurrentScaning, "Currently Scanning: Station 21"));
   ASSERT_TRUE(WaitUntil([&] { return RowCount(List(main)) == 21; }));
@@ -140,14 +135,9 @@ TEST_F(ScanTest, ARowInTheHandAndAnOpenMenuKeepTheirStationThroughAStep) {
 }
 
 TEST_F(ScanTest, ThreeStationsOfTwentySecondsOneOfThemMute) {
-  WriteFile("tStation.snr", StationLine(7, "One", "mhttp://127.0.0.1:9/1") + StationLine(8, "Mute", "") +
-                                StationLine(9, "Three", "mhttp://127.0.0.1:9/3"));
-  WriteFile("fun.snr", "Most Pop\t7 8 9\r\n");
-  ResetSettings({{"StartPlayer", "No"},
-                 {"StartProxy", "No"},
-                 {"StartQuickStart", "No"},
-                 {"ScanTime", "20"},
-                 {"UpdateHold", "Station.snr\t"}});
+  HoldList(StationLine(7, "One", "mhttp://127.0.0.1:9/1") + StationLine(8, "Mute", "") +
+               StationLine(9, "Three", "mhttp://127.0.0.1:9/3"),
+           "7 8 9", {{"ScanTime", "20"}});
   HWND main = MainWithStations();
   Command(main, mnuActionAddListToScan);
   Command(main, mnuRecent);

@@ -15,13 +15,11 @@ TEST_F(HandClockTest, TheListAddsChangesAndDeletes) {
   EXPECT_FALSE(IsWindowEnabled(Control(list, butDeleteIt)));
 
   Click(Control(list, butAddIt));
-  HWND dialog = Sonaro().WaitForShownWindow("frmSchedChange");
-  ASSERT_NE(dialog, nullptr);
+  HWND dialog = Dialog("frmSchedChange");
   SetText(Control(dialog, txtOneDate), "");
   ExpectRefusal(dialog, "You Need To Select a Station");  // the station is missed before the date
   Click(Control(dialog, butSchedIt));
-  HWND picker = Sonaro().WaitForShownWindow("frmSelectStation");
-  ASSERT_NE(picker, nullptr);
+  HWND picker = Dialog("frmSelectStation");
   const auto sources = ComboTexts(Control(picker, cmbSelectGroup));
   ASSERT_GE(sources.size(), 2u);
   EXPECT_EQ(sources[sources.size() - 2], "Your Stations");
@@ -45,8 +43,7 @@ TEST_F(HandClockTest, TheListAddsChangesAndDeletes) {
   EXPECT_EQ(CellText(rows, 0, 3), "Notify me ");
 
   Click(Control(list, butChangeIt));
-  dialog = Sonaro().WaitForShownWindow("frmSchedChange");
-  ASSERT_NE(dialog, nullptr);
+  dialog = Dialog("frmSchedChange");
   EXPECT_EQ(TextOf(Control(dialog, txtOneDate)), "June 1 2005 (Wednesday)");
   EXPECT_EQ(ChosenText(Control(dialog, cmbTimeHour)), "12");
   EXPECT_EQ(ChosenText(Control(dialog, cmbTimeMinute)), "00");
@@ -106,19 +103,12 @@ TEST_F(HandClockTest, AnEventBecomesAPersonalShowAndNoLongerIsOne) {
   HWND key = Control(main, butPersonalShow);
   ASSERT_TRUE(WaitUntil([&] { return RowCount(events) == 2 && IsWindowEnabled(key) != FALSE; }));
   EXPECT_EQ(TextOf(key), "Add to &personal shows");
-  const auto answer = [&](HWND owner, const std::string& expected) {
-    HWND box = Sonaro().WaitForShownWindow("MsgboxFrm");
-    ASSERT_NE(box, nullptr) << expected;
-    EXPECT_EQ(TextOf(Control(box, lblMsg)), expected);
-    Click(Control(box, butMsg));
-    EXPECT_TRUE(WaitUntil([&] { return !IsWindow(box) && IsWindowEnabled(owner) != FALSE; }));
-  };
   for (int row : {0, 1}) {
     SelectRow(events, row);
     ASSERT_TRUE(WaitUntil([&] { return TextOf(key) == "Add to &personal shows"; }));
     Command(main, mnuEventPersonalShow);
-    answer(main,
-           (row == 0 ? "Xylophone hour" : "An évening show") + std::string(" added as a personal show"));
+    EXPECT_EQ(AnswerBox(main, butMsg),
+              (row == 0 ? "Xylophone hour" : "An évening show") + std::string(" added as a personal show"));
   }
   EXPECT_EQ(ReadFile("Shows.snr"), "7XXylophone hour\r\n9XAn évening show\r\n");
   EXPECT_TRUE(WaitUntil([&] { return TextOf(key) == "Remove &personal show"; }));
@@ -134,11 +124,11 @@ TEST_F(HandClockTest, AnEventBecomesAPersonalShowAndNoLongerIsOne) {
   ASSERT_TRUE(WaitUntil([&] { return IsWindowEnabled(Control(list, butDeleteIt)) != FALSE; }));
   EXPECT_FALSE(IsWindowEnabled(Control(list, butChangeIt)));
   Click(Control(list, butDeleteIt));
-  answer(list, "The personal show Xylophone hour was deleted");
+  EXPECT_EQ(AnswerBox(list, butMsg), "The personal show Xylophone hour was deleted");
   EXPECT_EQ(ReadFile("Shows.snr"), "9XAn évening show\r\n");
 
   Click(key);  // the second event is still selected
-  answer(main, "The personal show An évening show was deleted");
+  EXPECT_EQ(AnswerBox(main, butMsg), "The personal show An évening show was deleted");
   EXPECT_EQ(ReadFile("Shows.snr"), "");
   EXPECT_TRUE(WaitUntil([&] { return RowCount(shows) == 0; }));
 }
@@ -171,14 +161,7 @@ TEST_F(HandClockTest, AScheduleThatIsLockedAtTheStartLosesNothing) {
       CreateFileA(PathOf("Sched.snr").c_str(), GENERIC_READ, 0, nullptr, OPEN_EXISTING, 0, nullptr);
   ASSERT_NE(holder, INVALID_HANDLE_VALUE);
   HWND main = StartAndShowMain();
-  const auto expectSaid = [&](const std::string& begin, HWND owner) {
-    HWND box = Sonaro().WaitForShownWindow("MsgboxFrm");
-    ASSERT_NE(box, nullptr) << begin;
-    EXPECT_TRUE(TextOf(Control(box, lblMsg)).starts_with(begin)) << TextOf(Control(box, lblMsg));
-    Click(Control(box, butMsg));
-    ASSERT_TRUE(WaitUntil([&] { return !IsWindow(box) && IsWindowEnabled(owner) != FALSE; }));
-  };
-  expectSaid("Sonaro cannot read Sched.snr", main);
+  EXPECT_TRUE(AnswerBox(main, butMsg).starts_with("Sonaro cannot read Sched.snr"));
   TurnTo(10, 1);
   EXPECT_TRUE(ShownWindows(Sonaro().Id(), "MsgboxFrm").empty()) << "said once";
 
@@ -187,7 +170,7 @@ TEST_F(HandClockTest, AScheduleThatIsLockedAtTheStartLosesNothing) {
   HWND dialog = ScheduleRow(main, 0);
   Click(Control(dialog, cmdHowOften + 1));
   Click(Control(dialog, butOKIt));
-  expectSaid("Your schedule could not be saved", dialog);
+  EXPECT_TRUE(AnswerBox(dialog, butMsg).starts_with("Your schedule could not be saved"));
   EXPECT_TRUE(IsShown(dialog)) << "what was entered is still there";
   CloseHandle(holder);
   EXPECT_EQ(ReadFile("Sched.snr"), mine);
@@ -196,23 +179,6 @@ TEST_F(HandClockTest, AScheduleThatIsLockedAtTheStartLosesNothing) {
   EXPECT_TRUE(both.starts_with(mine) && both.size() > mine.size()) << both;
   HWND list = OpenList(main);
   EXPECT_TRUE(WaitUntil([&] { return RowCount(Control(list, lstSched)) == 2; }));
-}
-
-TEST_F(HandClockTest, WhatCameOnWhileTheProgramWasClosedIsToldTogether) {
-  WriteFile("Sched.snr",
-            "Tea\tN\t\t4:00 PM\t\tdaily\t\r\nOld\tN\t5/2/2005\t4:00 PM\t\tonce\t\r\nCake\tN\t5/5/2005\t5:30 "
-            "PM\t\tonce\t\r\n");
-  StartAndShowMain();
-  TurnTo(10, 1);
-  HWND tray = Sonaro().Window("frmSysTrayMenu");
-  Command(tray, mnuTrayExit);
-  ASSERT_TRUE(Sonaro().WaitForEnd());
-  Clock().Set({kThursday, {18, 0, 0}});
-  SonaroProcess& again = Start();
-  HWND notice = again.WaitForShownWindow("frmNotify");
-  ASSERT_NE(notice, nullptr);
-  EXPECT_EQ(TextOf(Control(notice, txtMissed)), "4:00 PM  Tea\r\n5:30 PM  Cake");
-  EXPECT_FALSE(IsShown(Control(notice, butPlay1It)));
 }
 
 }  // namespace

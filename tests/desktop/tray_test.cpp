@@ -84,8 +84,7 @@ TEST_F(TrayTest, TheSplashTellsHowFarTheStartIsAndIsClosedBesideItsDialogs) {
     ResetSettings({{"StartProxy", "No"}, {"StartQuickStart", "No"}});
     HWND dialog = Start().WaitForShownWindow("frmStartUpInfo");
     ASSERT_NE(dialog, nullptr);
-    HWND splash = Running().WaitForShownWindow("frmSplash");
-    ASSERT_NE(splash, nullptr);
+    HWND splash = Dialog("frmSplash");
     EXPECT_GT(SendMessageA(Control(splash, picDial), PBM_GETPOS, 0, 0), 0);
     if (byKey) {
       PressKey(splash, VK_ESCAPE);

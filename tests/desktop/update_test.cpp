@@ -9,8 +9,7 @@ TEST_F(UpdateTest, F5BringsANewDirectoryAndItCanBeUndone) {
   server_.Answer("/u/update7.txt", script::HeldBody(update, update.size() / 2));
   HWND main = StartAndShowMain();
   PressKey(main, VK_F5);
-  HWND dialog = Dialog();
-  ASSERT_NE(dialog, nullptr);
+  HWND dialog = UpdateDialog();
   ASSERT_TRUE(WaitUntil([&] { return TextOf(Control(dialog, lblBytes)).ends_with(" KB"); }));
   EXPECT_EQ(TextOf(Control(dialog, lblStuff)), "Getting Data");
   EXPECT_EQ(TextOf(Control(dialog, butMsg + 1)), "Cancel");
@@ -70,8 +69,7 @@ TEST_F(UpdateTest, NothingNewIsSaid) {
   server_.Answer("/update.asp", script::Redirect("http://files.test/noupdate.txt"));
   HWND main = StartAndShowMain();
   Click(Control(main, butUpdate));
-  HWND dialog = Dialog();
-  ASSERT_NE(dialog, nullptr);
+  HWND dialog = UpdateDialog();
   EXPECT_TRUE(Says(dialog, "Your current Sonaro Station List is up to date"));
   EXPECT_FALSE(IsShown(Control(dialog, butMsg)));
   PressKey(dialog, VK_ESCAPE);
@@ -88,8 +86,7 @@ TEST_F(UpdateTest, FromTheTrayARefusedUpdateIsTriedAgain) {
   ASSERT_NE(tray, nullptr);
   ASSERT_NE(Sonaro().WaitForWindow("SonaroFrm"), nullptr);
   Command(tray, mnuTrayUpdate);
-  HWND dialog = Dialog();
-  ASSERT_NE(dialog, nullptr);
+  HWND dialog = UpdateDialog();
   ASSERT_TRUE(
       Says(dialog, "Can't Connect to the Update Server. Make sure you are connected to the Internet"));
   EXPECT_EQ(TextOf(Control(dialog, butMsg)), "&Retry");
@@ -119,11 +116,9 @@ TEST_F(UpdateTest, AnUpdateOnTheToDoListRunsByItselfAtTheStart) {
 TEST_F(UpdateTest, MissingFilesAreFetched) {
   std::remove(PathOf("fun.snr").c_str());
   SonaroProcess& sonaro = Start();
-  HWND box = sonaro.WaitForShownWindow("MsgboxFrm", "Files Missing");
-  ASSERT_NE(box, nullptr);
+  HWND box = Dialog("MsgboxFrm", "Files Missing");
   Click(Control(box, butMsg));
-  HWND dialog = Dialog();
-  ASSERT_NE(dialog, nullptr);
+  HWND dialog = UpdateDialog();
   EXPECT_TRUE(Says(dialog, "Finished Got It All"));
   EXPECT_NE(RequestLine(0).find("&LastUpdate=&"), std::string::npos) << RequestLine(0);
   HWND main = sonaro.WaitForShownWindow("SonaroFrm");
@@ -145,8 +140,7 @@ TEST_F(UpdateTest, AnUpdateThatDidNotComeThroughChangesNothing) {
   };
   HWND main = StartAndShowMain();
   Click(Control(main, butUpdate));
-  HWND dialog = Dialog();
-  ASSERT_NE(dialog, nullptr);
+  HWND dialog = UpdateDialog();
   ASSERT_TRUE(Says(dialog, "Finished"));
   Click(Control(dialog, butMsg));  // undo
   ASSERT_TRUE(Says(dialog, "was undone"));
@@ -155,8 +149,7 @@ TEST_F(UpdateTest, AnUpdateThatDidNotComeThroughChangesNothing) {
   for (const auto& each : kCases) {
     server_.Answer("/u/update7.txt", each.answer);
     Click(Control(main, butUpdate));
-    dialog = Dialog();
-    ASSERT_NE(dialog, nullptr);
+    dialog = UpdateDialog();
     EXPECT_TRUE(Says(dialog,
                      "Could not get all the update information. Make sure you are connected to the "
                      "Internet and try again."));
@@ -176,8 +169,7 @@ TEST_F(UpdateTest, CancelAndCloseEndTheTransferAtOnce) {
   HWND main = StartAndShowMain();
   for (const int key : {butMsg + 1, butCloseIt}) {
     Click(Control(main, butUpdate));
-    HWND dialog = Dialog();
-    ASSERT_NE(dialog, nullptr);
+    HWND dialog = UpdateDialog();
     ASSERT_TRUE(Says(dialog, "Getting Data"));
     ASSERT_EQ(server_.Open(), 1);
     Click(Control(dialog, key));
@@ -193,8 +185,7 @@ TEST_F(UpdateTest, TheProgramEndsCleanlyInTheMiddleOfAnUpdate) {
   for (const bool watched : {true, false}) {
     UseServer(server_.Port(), watched ? "" : "/SL/");
     SonaroProcess& sonaro = Start();
-    HWND main = sonaro.WaitForShownWindow("SonaroFrm");
-    ASSERT_NE(main, nullptr);
+    HWND main = Dialog("SonaroFrm");
     if (watched) Click(Control(main, butUpdate));
     ASSERT_TRUE(WaitUntil([&] { return TextOf(Control(main, lblPercent)) == "50%"; }));
     CloseWindowOf(main);
@@ -211,8 +202,7 @@ TEST_F(UpdateTest, TheOptionsTryAProxyThatIsTypedAndKeepTheOneThatIsSet) {
   server_.Answer("/proxy/test.asp", script::Body("cool proxy works!"));
   HWND main = StartAndShowMain();
   Click(Control(main, butOptions));
-  HWND options = Sonaro().WaitForShownWindow("frmOptions");
-  ASSERT_NE(options, nullptr);
+  HWND options = Dialog("frmOptions");
   const struct {
     std::uint16_t port;
     const char* result;
@@ -224,14 +214,12 @@ TEST_F(UpdateTest, TheOptionsTryAProxyThatIsTypedAndKeepTheOneThatIsSet) {
     SetText(Control(options, txtProxy), "127.0.0.1");
     SetText(Control(options, txtPort), std::to_string(each.port));
     Click(Control(options, butTestProxyIt));
-    HWND test = Sonaro().WaitForShownWindow("frmTestProxy", "Testing Proxy Setting");
-    ASSERT_NE(test, nullptr);
+    HWND test = Dialog("frmTestProxy", "Testing Proxy Setting");
     EXPECT_TRUE(WaitUntil([&] { return TextOf(Control(test, lblStatusInfo)) == each.result; }))
         << TextOf(Control(test, lblStatusInfo));
     EXPECT_EQ(TextOf(Control(test, lblCheckAddress)), "127.0.0.1");
     EXPECT_EQ(TextOf(Control(test, lblCheckPort)), std::to_string(each.port));
-    Click(Control(test, butOKIt));
-    EXPECT_TRUE(WaitUntil([&] { return !IsShown(test); }));
+    EndWith(options, test, butOKIt);
   }
   EXPECT_EQ(RequestLine(0), "GET http://www.sonaro.example/sonaroapp/sonaro3/asp/proxy/test.asp HTTP/1.0");
   EXPECT_EQ(ReadSetting("ProxyPort"), std::to_string(set));
@@ -242,16 +230,11 @@ TEST_F(UpdateTest, WithoutAProxyThePathIsAskedOfTheServiceItself) {
   LoopbackServer direct(80, "127.77.0.1");
   if (!direct.Listens()) GTEST_SKIP() << "port 80 is not to be had";
   direct.Answer("/update.asp", script::Redirect("http://127.77.0.1:81/noupdate.txt"));
-  ResetSettings({{"StartPlayer", "No"},
-                 {"StartProxy", "No"},
-                 {"StartQuickStart", "No"},
-                 {"InstallId", "1"},
-                 {"ProxyPort", "3128"},
-                 {"UpdateURL", "http://127.77.0.1/a/update.asp"}});
+  ResetToSettled(
+      {{"InstallId", "1"}, {"ProxyPort", "3128"}, {"UpdateURL", "http://127.77.0.1/a/update.asp"}});
   HWND main = StartAndShowMain();
   PressKey(main, VK_F5);
-  HWND dialog = Dialog();
-  ASSERT_NE(dialog, nullptr);
+  HWND dialog = UpdateDialog();
   EXPECT_TRUE(Says(dialog, "is up to date")) << TextOf(Control(dialog, lblStuff));
   ASSERT_EQ(direct.Requests().size(), 1u);
   EXPECT_TRUE(direct.Requests()[0].starts_with(
