@@ -45,7 +45,7 @@ Application::Application(const Platform& platform, const Strings& strings, const
       stations_(data_),
       personal_(data_),
       extra_(data_),
-      recent_(data_),
+      recent_(data_, this),
       favorites_(data_),
       source_(stations_, personal_, alphabets_, strings_),
       players_(reg_, data_, platform.shell),
@@ -60,10 +60,10 @@ Application::Application(const Platform& platform, const Strings& strings, const
       options_(reg_, faceplate_, program, settings_.Place() == SettingsPlace::PortableFile),
       shape_(data_),
       context_{strings_, faceplate_, shape_},
-      messages_(context_, [this]() -> HelpPages& { return help_; }),
-      tray_(context_, MakeTrayActions()),
+      messages_(context_, help_),
+      tray_(context_, favorites_, help_, *this, *this),
       service_(std::make_unique<ApplicationService>(ApplicationService::Dependencies{
-          platform_, context_, data_, reg_, strings_, stations_, favorites_, help_})) {
+          platform_, context_, data_, reg_, strings_, stations_, favorites_, help_, *this})) {
   state_.commandLine = std::move(commandLine);
   player_.SetView(this);
   pages_.SetShowErrorText([this](const std::string& sentence) { ShowErrorText(sentence); });
@@ -140,10 +140,9 @@ void Application::ReadData() {
 bool Application::LoadMainWindow() {
   if (main_) return true;
   ReadData();
-  schedule_ = std::make_unique<ApplicationSchedule>(
-      ApplicationSchedule::Dependencies{platform_, context_, data_, reg_, strings_, state_, stations_, extra_,
-                                        recent_, favorites_, source_, player_, pages_, help_, messages_});
-  schedule_->SetPlaySound([this] { PlaySoundFile(kNotifySound); });
+  schedule_ = std::make_unique<ApplicationSchedule>(ApplicationSchedule::Dependencies{
+      platform_, context_, data_, reg_, strings_, state_, stations_, extra_, recent_, favorites_, source_,
+      player_, pages_, help_, messages_, *this, *this});
   main_ = std::make_unique<SonaroFrm>(
       context_,
       GuideData{data_, reg_, strings_, state_, stations_, personal_, extra_, recent_, favorites_, source_,
@@ -155,21 +154,30 @@ bool Application::LoadMainWindow() {
   }
   platform_.shell.SetMainWindow(main_->Window());
   PlaceMainWindow();
-  ConnectMainWindow();
   main_->BringUpView(WhatToShow(state_.commandLine));
   return true;
 }
 
-void Application::ConnectMainWindow() {
-  recent_.SetChanged([this] { main_->RecentChanged(); });
-  schedule_->SetChanged([this] { main_->ScheduleChanged(); });
-  service_->SetDirectoryChanged([this] {
-    schedule_->DirectoryChanged();  // first: the main window asks it for the coming events
-    main_->DirectoryChanged();
-  });
-  service_->SetProgress(
-      [this](int percent) { main_->Status().ShowProgress(strings_.Load(IDS_NET_GETTING_DATA), percent); },
-      [this] { main_->Status().EndProgress(); });
+void Application::RecentChanged() {
+  if (main_) main_->RecentChanged();
+}
+
+void Application::ScheduleChanged() {
+  if (main_) main_->ScheduleChanged();
+}
+
+void Application::DirectoryChanged() {
+  if (!main_) return;
+  schedule_->DirectoryChanged();  // first: the main window asks it for the coming events
+  main_->DirectoryChanged();
+}
+
+void Application::UpdateProgress(int percent) {
+  if (main_) main_->Status().ShowProgress(strings_.Load(IDS_NET_GETTING_DATA), percent);
+}
+
+void Application::UpdateProgressEnded() {
+  if (main_) main_->Status().EndProgress();
 }
 
 // Where the user left it, if that is still on a screen; the first time in the middle.
@@ -229,50 +237,22 @@ void Application::SayWhatSettingsLack() {
                  .isTrouble = true});
 }
 
-TrayActions Application::MakeTrayActions() {
-  const auto whenFree = [this](std::function<void()> act) {
-    return [this, act = std::move(act)] {
-      if (IsFree()) act();
-    };
-  };
-  TrayActions actions;
-  actions.open = [this] { BringForward(""); };
-  actions.browse = [this] { BringForward("Browse"); };
-  actions.search = [this] { BringForward("Search"); };
-  actions.yourSonaro = [this] { BringForward("YourSonaro"); };
-  actions.scan = whenFree([this] { ShowScan(); });
-  actions.update = whenFree([this] { service_->ShowUpdate(nullptr); });
-  actions.schedule = whenFree([this] { schedule_->ShowSchedule(nullptr); });
-  actions.options = whenFree([this] { ShowOptions(nullptr); });
-  actions.help = [this] { help_.OpenHelpPage("index.html"); };
-  actions.exit = [this] { Exit(); };
-  actions.groupNames = [this] { return GroupNames(); };
-  actions.openGroup = [this](const std::string& group) {
-    if (!IsFree()) return;
-    BringForward("");
-    main_->Groups().ShowGroupNamed(group);
-  };
-  actions.scheduleItemDue = [this](int slot) {
-    if (main_) schedule_->AskForNotification(*main_, slot);
-  };
-  actions.startUp = [this] { schedule_->StartWatching(); };
-  actions.minute = [this] {
-    LoadUnreadFiles();
-    SayWhatSettingsLack();
-    const unsigned next = schedule_->Minute();
-    TellOfFiles();
-    return next;
-  };
-  actions.clockChanged = [this] {
-    if (schedule_) schedule_->Minute();
-  };
-  return actions;
+void Application::Loaded() { schedule_->StartWatching(); }
+
+unsigned Application::Minute() {
+  LoadUnreadFiles();
+  SayWhatSettingsLack();
+  const unsigned next = schedule_->Minute();
+  TellOfFiles();
+  return next;
 }
 
-std::vector<std::string> Application::GroupNames() const {
-  std::vector<std::string> names;
-  for (std::size_t group = 0; group < favorites_.Count(); ++group) names.emplace_back(favorites_.Name(group));
-  return names;
+void Application::ClockChanged() {
+  if (schedule_) schedule_->Minute();
+}
+
+void Application::ScheduleItemDue(int slot) {
+  if (main_) schedule_->AskForNotification(*main_, slot);
 }
 
 // What could not be read at the start is tried again with every minute.

@@ -7,6 +7,7 @@
 #include <string>
 
 #include "app/MsgboxFrm.h"
+#include "app/ProgramListener.h"
 #include "app/Startup.h"
 #include "base/DataFolder.h"
 #include "directory/Scrambling.h"
@@ -44,7 +45,12 @@ class frmScan;
 class frmSplash;
 struct GuideData;
 
-class Application final : private StartupView, private LaunchView, private ProgramCommands {
+class Application final : private StartupView,
+                          private LaunchView,
+                          private ProgramCommands,
+                          private TrayListener,
+                          private RecentListener,
+                          private ProgramListener {
  public:
   // `program`: full path of the executable, whose folder is the data folder. `commandLine`: what follows the
   // program's name.
@@ -70,6 +76,10 @@ class Application final : private StartupView, private LaunchView, private Progr
 
   // What the windows ask for.
   void Open(ProgramWindow window, Form* owner) override;
+  void OpenWhenFree(ProgramWindow window) override;
+  void BringForward(std::string_view view) override;
+  void ShowGroup(const std::string& name) override;
+  void AddStationToGroup(const std::string& group, const StationKey& station) override;
   void HideToTray() override;
   void CloseAsked() override;
   void Exit() override;
@@ -79,22 +89,29 @@ class Application final : private StartupView, private LaunchView, private Progr
   void ChoosePlayer(Form& owner) override;
   void TellTray(const std::string& text) override { tray_.Tell(text); }
 
+  // What comes in through the tray's window, and what others tell.
+  void Loaded() override;
+  unsigned Minute() override;
+  void ClockChanged() override;
+  void ScheduleItemDue(int slot) override;
+  void RecentChanged() override;
+  void ScheduleChanged() override;
+  void DirectoryChanged() override;
+  void UpdateProgress(int percent) override;
+  void UpdateProgressEnded() override;
+
   bool SayNoWindow();
-  TrayActions MakeTrayActions();
   void ReadData();
   void FinishedLoading();
   void SayWhatSettingsLack();
-  std::vector<std::string> GroupNames() const;
   void ShowScan();
   void LoadUnreadFiles();
   void TellOfFiles();
   void ShowOptions(HWND owner);
   bool ChoosePlayer(StartUpInfoPage page, HWND owner);
-  void ConnectMainWindow();
   void PlaceMainWindow();
   void RememberPlace();
   bool IsFree();
-  void BringForward(std::string_view view);
   void PlaySoundFile(const char* fileName);
 
   Platform platform_;

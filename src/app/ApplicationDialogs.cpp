@@ -43,10 +43,8 @@ bool Application::OfferPlayers(const std::string& sentence) {
 
 void Application::ShowScan() {
   if (!scanWindow_) {
-    scanWindow_ = std::make_unique<frmScan>(context_, scan_, help_, favorites_,
-                                            [this](const std::string& name, const StationKey& station) {
-                                              main_->Groups().AddStationToGroup(name, station);
-                                            });
+    ProgramCommands& program = *this;
+    scanWindow_ = std::make_unique<frmScan>(context_, scan_, help_, favorites_, program);
   }
   scanWindow_->Show();
 }
@@ -77,6 +75,20 @@ void Application::Open(ProgramWindow window, Form* owner) {
     case ProgramWindow::Options:
       return ShowOptions(ownerWindow);
   }
+}
+
+void Application::OpenWhenFree(ProgramWindow window) {
+  if (IsFree()) Open(window, nullptr);
+}
+
+void Application::ShowGroup(const std::string& name) {
+  if (!IsFree()) return;
+  BringForward("");
+  main_->Groups().ShowGroupNamed(name);
+}
+
+void Application::AddStationToGroup(const std::string& group, const StationKey& station) {
+  main_->Groups().AddStationToGroup(group, station);
 }
 
 bool Application::ScanIsAt(int x, int y) { return scanWindow_ && scanWindow_->IsAt({x, y}); }

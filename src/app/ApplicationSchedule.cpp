@@ -48,22 +48,13 @@ ApplicationSchedule::ApplicationSchedule(const Dependencies& needs)
       shows_(needs.data, needs.messages, needs.strings),
       picker_(needs.stations, needs.source, needs.favorites, needs.recent, needs.reg, needs.strings),
       services_(MakeServices()),
-      timerWindow_(needs.context),
+      timerWindow_(needs.context, *this),
       timer_(calendar_, needs.platform.clock, needs.platform.messages, timerWindow_),
-      notices_(needs.context, MakeNotifyActions()),
+      notices_(needs.context, *this),
       list_(needs.context, services_) {
   store_.LoadSchedule(needs_.platform.clock.LocalNow().date);
   static_cast<void>(shows_.List());  // what cannot be read is told with the other files
   diary_.Reload();
-  timerWindow_.SetTicks(
-      [this] {
-        timer_.Timer1_Timer();
-        RememberSeen();
-      },
-      [this] {
-        timer_.FullMinute_Timer();
-        RememberSeen();
-      });
   timer_.SetLiveStarts(
       [this](const DateTime& from, const DateTime& to) { return diary_.Starting(store_, from, to); });
   timer_.SetAwayNotice([this](const std::vector<Occurrence>& missed) {
@@ -94,13 +85,24 @@ std::optional<DateTime> ApplicationSchedule::NextBroadcast(std::string_view show
   return gmt ? std::optional(AddSeconds(*gmt, GetZoneOffset(clock))) : std::nullopt;
 }
 
-NotifyActions ApplicationSchedule::MakeNotifyActions() {
-  return {[this](const PlayChoice& choice) { needs_.player.LaunchStation(choice.request); },
-          [this](const std::string& address) { needs_.pages.OpenWebPage(address); },
-          [this] {
-            if (playSound_ && needs_.reg.Get(setting::kSoundNotify)) playSound_();
-          },
-          [this] { needs_.help.OpenHelpPage("9008.html"); }};
+void ApplicationSchedule::Play(const PlayChoice& choice) { needs_.player.LaunchStation(choice.request); }
+
+void ApplicationSchedule::OpenPage(const std::string& address) { needs_.pages.OpenWebPage(address); }
+
+void ApplicationSchedule::PlaySound() {
+  if (needs_.reg.Get(setting::kSoundNotify)) needs_.program.PlayNoticeSound();
+}
+
+void ApplicationSchedule::ShowHelp() { needs_.help.OpenHelpPage("9008.html"); }
+
+void ApplicationSchedule::Tick() {
+  timer_.Timer1_Timer();
+  RememberSeen();
+}
+
+void ApplicationSchedule::FullMinute() {
+  timer_.FullMinute_Timer();
+  RememberSeen();
 }
 
 void ApplicationSchedule::StartWatching() {
@@ -116,7 +118,7 @@ unsigned ApplicationSchedule::Minute() {
   if (store_.BringBack(now.date)) timer_.EvaluateSchedule();
   RememberSeen();
   list_.FillLists();
-  if (changed_) changed_();
+  needs_.listener.ScheduleChanged();
   return MillisecondsToFullMinute(now, now);
 }
 
@@ -230,7 +232,7 @@ void ApplicationSchedule::Changed() {
   timer_.EvaluateSchedule();
   RememberSeen();
   list_.FillLists();
-  if (changed_) changed_();
+  needs_.listener.ScheduleChanged();
 }
 
 }  // namespace sonaro

@@ -8,6 +8,7 @@
 #include <string>
 #include <vector>
 
+#include "app/ProgramListener.h"
 #include "directory/EvList.h"
 #include "forms/Form.h"
 #include "platform/Platform.h"
@@ -39,7 +40,7 @@ class Strings;
 class WebPages;
 struct AppState;
 
-class ApplicationSchedule final : public ScheduleCommands {
+class ApplicationSchedule final : public ScheduleCommands, private NotifyCommands, private TimerTicks {
  public:
   struct Dependencies {
     const Platform& platform;
@@ -57,12 +58,11 @@ class ApplicationSchedule final : public ScheduleCommands {
     WebPages& pages;
     HelpPages& help;
     MessageBoxView& messages;
+    ProgramCommands& program;
+    ProgramListener& listener;
   };
 
   explicit ApplicationSchedule(const Dependencies& needs);
-
-  void SetPlaySound(std::function<void()> playSound) { playSound_ = std::move(playSound); }
-  void SetChanged(std::function<void()> changed) { changed_ = std::move(changed); }
 
   // Once, when the program has finished loading: what was missed meanwhile, and the first evaluation.
   void StartWatching();
@@ -87,7 +87,14 @@ class ApplicationSchedule final : public ScheduleCommands {
 
  private:
   ScheduleServices MakeServices();
-  NotifyActions MakeNotifyActions();
+  // What a notification asks for, and the timer's window.
+  void Play(const PlayChoice& choice) override;
+  void OpenPage(const std::string& address) override;
+  void PlaySound() override;
+  void ShowHelp() override;
+  void Tick() override;
+  void FullMinute() override;
+
   std::optional<DateTime> NextBroadcast(std::string_view show) const;
   bool IsNoticed(const EventRecord& event, const DateTime& local) const;
   void Changed();
@@ -106,8 +113,6 @@ class ApplicationSchedule final : public ScheduleCommands {
   frmNotifyStack notices_;
   frmSched list_;
   std::vector<BroadcastEvent> coming_;  // what ComingEvents gave last
-  std::function<void()> playSound_;
-  std::function<void()> changed_;
 };
 
 }  // namespace sonaro

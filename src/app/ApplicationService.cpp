@@ -65,8 +65,8 @@ void ApplicationService::Listener::UpdateProgress(const std::string& text) {
 }
 
 void ApplicationService::Listener::UpdateBytes(std::uint64_t bytes, std::uint64_t expected) {
-  if (service_.showProgress_)
-    service_.showProgress_(expected == 0 ? -1 : static_cast<int>(bytes * 100 / expected));
+  if (!service_.stopped_)
+    service_.needs_.listener.UpdateProgress(expected == 0 ? -1 : static_cast<int>(bytes * 100 / expected));
   if (dialog_) dialog_->UpdateBytes(bytes, expected);
 }
 
@@ -74,19 +74,22 @@ void ApplicationService::Listener::UpdateFinished(const UpdateOutcome& outcome) 
   service_.EndProgress();
   if (dialog_) {
     dialog_->UpdateFinished(outcome);
-  } else if (outcome.kind == UpdateOutcome::Kind::Updated && service_.directoryChanged_) {
-    service_.directoryChanged_();
+  } else if (outcome.kind == UpdateOutcome::Kind::Updated) {
+    service_.TellDirectoryChanged();
   }
   if (std::exchange(service_.toDoDue_, false)) service_.RunPendingWork();
 }
 
 void ApplicationService::EndProgress() {
-  if (endProgress_) endProgress_();
+  if (!stopped_) needs_.listener.UpdateProgressEnded();
+}
+
+void ApplicationService::TellDirectoryChanged() {
+  if (!stopped_) needs_.listener.DirectoryChanged();
 }
 
 void ApplicationService::Stop() {
-  SetDirectoryChanged(nullptr);
-  SetProgress(nullptr, nullptr);
+  stopped_ = true;
   dialog_.reset();
   background_.reset();
   spent_.reset();
@@ -100,7 +103,7 @@ void ApplicationService::RunPendingWork() {
 }
 
 std::string ApplicationService::Installed() {
-  if (directoryChanged_) directoryChanged_();
+  TellDirectoryChanged();
   const std::optional<std::string> before = install_.ReplacedStationList();
   const ReadResult now = needs_.data.Read("\\Station.snr");
   if (!before || now.status != ReadStatus::Ok || *before == now.bytes) return {};
@@ -109,7 +112,7 @@ std::string ApplicationService::Installed() {
 
 UndoStatus ApplicationService::Undo() {
   const UndoStatus status = install_.UndoLastUpdate();
-  if (status != UndoStatus::Impossible && directoryChanged_) directoryChanged_();
+  if (status != UndoStatus::Impossible) TellDirectoryChanged();
   return status;
 }
 

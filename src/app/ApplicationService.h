@@ -7,6 +7,7 @@
 #include <string>
 #include <vector>
 
+#include "app/ProgramListener.h"
 #include "forms/Form.h"
 #include "net/UpdateExchange.h"
 #include "net/UpdateInstall.h"
@@ -36,20 +37,13 @@ class ApplicationService final : public UpdateCommands {
     StatList& stations;
     const FavoriteGroups& favorites;
     HelpPages& help;
+    ProgramListener& listener;
   };
 
   explicit ApplicationService(const Dependencies& needs);
   ~ApplicationService() override;
 
-  // Called after the station list was replaced.
-  void SetDirectoryChanged(std::function<void()> changed) { directoryChanged_ = std::move(changed); }
-  // Called while data comes, with how much of it is there, 0 to 100 or below 0 when that is not known; and
-  // when no more comes.
-  void SetProgress(std::function<void(int percent)> show, std::function<void()> end) {
-    showProgress_ = std::move(show);
-    endProgress_ = std::move(end);
-  }
-  // Ends whatever runs, silently. To be called before anything that the functions above use is gone.
+  // Ends whatever runs; the listener hears nothing from then on. To be called before it is gone.
   void Stop();
 
   // The update dialog; an update that runs unwatched makes way for it.
@@ -87,17 +81,16 @@ class ApplicationService final : public UpdateCommands {
   UpdateDependencies MakeUpdateDependencies();
   std::unique_ptr<frmInetUpdate> MakeUpdate(CallerCode callerCode, UpdateListener* dialog);
   void EndProgress();
+  void TellDirectoryChanged();
   std::string Installed();
   UndoStatus Undo();
   std::vector<std::int32_t> StationsOfGroups() const;
 
   Dependencies needs_;
   UpdateInstall install_;
-  std::function<void()> directoryChanged_;
-  std::function<void(int percent)> showProgress_;
-  std::function<void()> endProgress_;
   Listener watched_{*this};
   Listener unwatched_{*this};
+  bool stopped_ = false;
   std::unique_ptr<frmUpdateDialog> dialog_;
   std::unique_ptr<frmInetUpdate> background_;
   std::unique_ptr<frmInetUpdate> spent_;  // the one before it, which may still be on the stack

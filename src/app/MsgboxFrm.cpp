@@ -134,7 +134,7 @@ void MsgboxFrm::butHelp_Click() {
 }
 
 MessageResult MessageBoxes::Ask(const Message& message) {
-  MsgboxFrm box(context_, help_(), message);
+  MsgboxFrm box(context_, help_, message);
   HWND owner = GetActiveWindow();
   return box.Ask(owner != nullptr && IsWindowVisible(owner) ? owner : nullptr);
 }

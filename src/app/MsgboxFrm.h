@@ -2,7 +2,6 @@
 // Message; nothing is decided here.
 #pragma once
 
-#include <functional>
 #include <string_view>
 
 #include "forms/ControlIds.h"
@@ -44,15 +43,13 @@ class MsgboxFrm final : public Form {
 // Shows messages over the program's active window. Owned by Application.
 class MessageBoxes final : public MessageBoxView {
  public:
-  // `help` opens web pages and so comes late.
-  MessageBoxes(FormContext& context, std::function<HelpPages&()> help)
-      : context_(context), help_(std::move(help)) {}
+  MessageBoxes(FormContext& context, HelpPages& help) : context_(context), help_(help) {}
 
   MessageResult Ask(const Message& message) override;
 
  private:
   FormContext& context_;
-  std::function<HelpPages&()> help_;
+  HelpPages& help_;
 };
 
 }  // namespace sonaro

@@ -8,6 +8,7 @@
 #include "resources/texts/playback.h"
 #include "settings/HelpPages.h"
 #include "settings/Strings.h"
+#include "stations/Commands.h"
 #include "stations/FavoriteGroups.h"
 
 namespace sonaro {
@@ -34,13 +35,13 @@ int frmScan::HistoryRows::Symbol(int row) const {
 }
 
 frmScan::frmScan(FormContext& context, StationScan& scan, HelpPages& help, const FavoriteGroups& groups,
-                 AddToGroup addToGroup)
+                 ProgramCommands& program)
     : Form(context, Design()),
       context_(context),
       scan_(scan),
       help_(help),
       groups_(groups),
-      addToGroup_(std::move(addToGroup)),
+      program_(program),
       queue_(scan),
       history_(scan) {}
 
@@ -219,7 +220,8 @@ void frmScan::mnuScanPutBack_Click() { lstScanedAlready_ItemActivate(menuHistory
 
 void frmScan::mnuScanToGroup_Click(int group) {
   const auto index = static_cast<std::size_t>(group);
-  if (index < groups_.Count() && menuStation_) addToGroup_(groups_.Name(index), menuStation_);
+  if (index < groups_.Count() && menuStation_)
+    program_.AddStationToGroup(std::string(groups_.Name(index)), menuStation_);
 }
 
 // Rows of the queue are moved by dragging: while the button is down the window has the mouse.

@@ -2,7 +2,6 @@
 // StationScan decides everything; this window shows it and hands the presses on.
 #pragma once
 
-#include <functional>
 #include <string>
 #include <vector>
 
@@ -15,14 +14,12 @@ namespace sonaro {
 
 class FavoriteGroups;
 class HelpPages;
+class ProgramCommands;
 
 class frmScan final : public Form, private ScanView {
  public:
-  // Adds a station to a favourite group and says so, which is the main window's.
-  using AddToGroup = std::function<void(const std::string& name, const StationKey& station)>;
-
   frmScan(FormContext& context, StationScan& scan, HelpPages& help, const FavoriteGroups& groups,
-          AddToGroup addToGroup);
+          ProgramCommands& program);
   ~frmScan() override;
 
   // Whether the window is what the user sees at the point of the screen.
@@ -94,7 +91,7 @@ class frmScan final : public Form, private ScanView {
   StationScan& scan_;
   HelpPages& help_;
   const FavoriteGroups& groups_;
-  AddToGroup addToGroup_;
+  ProgramCommands& program_;
   QueueRows queue_;
   HistoryRows history_;
   StationKey menuStation_;  // whose context menu is open

@@ -94,11 +94,11 @@ std::span<const TimerRow> frmNotify::Timers() const {
   return kRows;
 }
 
-frmNotify::frmNotify(FormContext& context, const NotifyActions& actions, Notification notification)
-    : Form(context, Design()), actions_(actions), notification_(std::move(notification)) {}
+frmNotify::frmNotify(FormContext& context, NotifyCommands& commands, Notification notification)
+    : Form(context, Design()), commands_(commands), notification_(std::move(notification)) {}
 
-frmNotify::frmNotify(FormContext& context, const NotifyActions& actions, std::vector<std::string> missed)
-    : Form(context, Design()), actions_(actions), missed_(std::move(missed)) {}
+frmNotify::frmNotify(FormContext& context, NotifyCommands& commands, std::vector<std::string> missed)
+    : Form(context, Design()), commands_(commands), missed_(std::move(missed)) {}
 
 void frmNotify::OnLoad() {
   const bool away = !missed_.empty();
@@ -131,12 +131,12 @@ void frmNotify::ShowPlayButtons() {
 
 void frmNotify::butPlay_Click(int index) {
   const auto choice = static_cast<std::size_t>(index);
-  if (choice < notification_.plays.size()) actions_.play(notification_.plays[choice]);
+  if (choice < notification_.plays.size()) commands_.Play(notification_.plays[choice]);
 }
 
 void frmNotify::Timer1_Timer() {
   StopTimer(Timer1);
-  actions_.playSound();
+  commands_.PlaySound();
   if (notification_.opensWebSite) butGoWebSiteIt_Click();
 }
 

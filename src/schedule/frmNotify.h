@@ -3,8 +3,6 @@
 // frmNotifyStack owns and places them.
 #pragma once
 
-#include <functional>
-
 #include "forms/ControlIds.h"
 #include "forms/controls/Controls.h"
 #include "schedule/Notification.h"
@@ -12,18 +10,20 @@
 namespace sonaro {
 
 // What a notification asks of the program.
-struct NotifyActions {
-  std::function<void(const PlayChoice& choice)> play;
-  std::function<void(const std::string& address)> openPage;
-  std::function<void()> playSound;  // once, when the window has appeared
-  std::function<void()> help;
+class NotifyCommands {
+ public:
+  virtual ~NotifyCommands() = default;
+  virtual void Play(const PlayChoice& choice) = 0;
+  virtual void OpenPage(const std::string& address) = 0;
+  virtual void PlaySound() = 0;  // once, when the window has appeared
+  virtual void ShowHelp() = 0;
 };
 
 class frmNotify final : public Form {
  public:
-  frmNotify(FormContext& context, const NotifyActions& actions, Notification notification);
+  frmNotify(FormContext& context, NotifyCommands& commands, Notification notification);
   // The notice of what was missed: one line for each.
-  frmNotify(FormContext& context, const NotifyActions& actions, std::vector<std::string> missed);
+  frmNotify(FormContext& context, NotifyCommands& commands, std::vector<std::string> missed);
 
  private:
   static const FormDesign& Design();
@@ -33,12 +33,12 @@ class frmNotify final : public Form {
   void ShowPlayButtons();
 
   void butPlay_Click(int index);
-  void butGoWebSiteIt_Click() { actions_.openPage(notification_.webSite); }
+  void butGoWebSiteIt_Click() { commands_.OpenPage(notification_.webSite); }
   void butCloselIt_Click() { Close(); }
-  void butHelp_Click() { actions_.help(); }
+  void butHelp_Click() { commands_.ShowHelp(); }
   void Timer1_Timer();
 
-  const NotifyActions& actions_;
+  NotifyCommands& commands_;
   Notification notification_;
   std::vector<std::string> missed_;
 

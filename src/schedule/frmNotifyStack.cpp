@@ -23,11 +23,11 @@ POINT CornerOf(std::size_t number, const RECT& area, const RECT& window) {
 }  // namespace
 
 void frmNotifyStack::ShowNotification(Notification notification) {
-  Put(std::make_unique<frmNotify>(context_, actions_, std::move(notification)));
+  Put(std::make_unique<frmNotify>(context_, commands_, std::move(notification)));
 }
 
 void frmNotifyStack::ShowMissed(std::vector<std::string> missed) {
-  Put(std::make_unique<frmNotify>(context_, actions_, std::move(missed)));
+  Put(std::make_unique<frmNotify>(context_, commands_, std::move(missed)));
 }
 
 void frmNotifyStack::Put(std::unique_ptr<frmNotify> window) {

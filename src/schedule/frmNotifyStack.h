@@ -11,8 +11,7 @@ namespace sonaro {
 
 class frmNotifyStack {
  public:
-  frmNotifyStack(FormContext& context, NotifyActions actions)
-      : context_(context), actions_(std::move(actions)) {}
+  frmNotifyStack(FormContext& context, NotifyCommands& commands) : context_(context), commands_(commands) {}
 
   void ShowNotification(Notification notification);
   void ShowMissed(std::vector<std::string> missed);
@@ -21,7 +20,7 @@ class frmNotifyStack {
   void Put(std::unique_ptr<frmNotify> window);
 
   FormContext& context_;
-  NotifyActions actions_;
+  NotifyCommands& commands_;
   // A place for each window; one that was closed leaves its place to the next.
   std::vector<std::unique_ptr<frmNotify>> windows_;
 };

@@ -18,9 +18,6 @@ const FormDesign& frmschedtime::Design() {
   return kDesign;
 }
 
-frmschedtime::frmschedtime(FormContext& context, std::function<void()> tick, std::function<void()> fullMinute)
-    : Form(context, Design()), tick_(std::move(tick)), fullMinute_(std::move(fullMinute)) {}
-
 std::span<const TimerRow> frmschedtime::Timers() const {
   static const TimerRow kRows[] = {{Timer1, &frmschedtime::Timer1_Timer},
                                    {tmrFullMinute, &frmschedtime::tmrFullMinute_Timer}};
@@ -31,13 +28,13 @@ void frmschedtime::OnLoad() { StartTimer(Timer1, kFirstTick); }
 
 void frmschedtime::tmrFullMinute_Timer() {
   StopTimer(tmrFullMinute);
-  fullMinute_();
+  ticks_.FullMinute();
 }
 
 bool ScheduleTimerWindow::IsLoaded() { return form_ && form_->IsOpen(); }
 
 void ScheduleTimerWindow::Load() {
-  form_ = std::make_unique<frmschedtime>(context_, tick_, fullMinute_);
+  form_ = std::make_unique<frmschedtime>(context_, ticks_);
   form_->Create();
 }
 

@@ -9,31 +9,32 @@
 
 namespace sonaro {
 
+// What the window's timers run.
+class TimerTicks {
+ public:
+  virtual ~TimerTicks() = default;
+  virtual void Tick() = 0;
+  virtual void FullMinute() = 0;  // once for every TickOnceIn
+};
+
 class frmschedtime final : public Form {
  public:
-  frmschedtime(FormContext& context, std::function<void()> tick, std::function<void()> fullMinute);
+  frmschedtime(FormContext& context, TimerTicks& ticks) : Form(context, Design()), ticks_(ticks) {}
 
  private:
   static const FormDesign& Design();
   std::span<const TimerRow> Timers() const override;
   void OnLoad() override;
-  void Timer1_Timer() { tick_(); }
+  void Timer1_Timer() { ticks_.Tick(); }
   void tmrFullMinute_Timer();
 
-  std::function<void()> tick_;
-  std::function<void()> fullMinute_;
+  TimerTicks& ticks_;
 };
 
 // The window as ScheduleTimer sees it. Owned by Application.
 class ScheduleTimerWindow final : public ScheduleTimerView {
  public:
-  explicit ScheduleTimerWindow(FormContext& context) : context_(context) {}
-
-  // What a tick and the one at the full minute run; set before the first Load.
-  void SetTicks(std::function<void()> tick, std::function<void()> fullMinute) {
-    tick_ = std::move(tick);
-    fullMinute_ = std::move(fullMinute);
-  }
+  ScheduleTimerWindow(FormContext& context, TimerTicks& ticks) : context_(context), ticks_(ticks) {}
 
   bool IsLoaded() override;
   void Load() override;
@@ -44,8 +45,7 @@ class ScheduleTimerWindow final : public ScheduleTimerView {
 
  private:
   FormContext& context_;
-  std::function<void()> tick_;
-  std::function<void()> fullMinute_;
+  TimerTicks& ticks_;
   std::unique_ptr<frmschedtime> form_;
 };
 

@@ -71,6 +71,13 @@ enum class ProgramWindow { Scan, Schedule, Update, Options };
 class ProgramCommands : public TrayMessages {
  public:
   virtual void Open(ProgramWindow window, Form* owner) = 0;
+  // For the tray, which is there before the rest and while dialogs wait: while one does, that comes forward
+  // instead. BringForward shows the main window, with `view` on show unless that is "".
+  virtual void OpenWhenFree(ProgramWindow window) = 0;
+  virtual void BringForward(std::string_view view) = 0;
+  virtual void ShowGroup(const std::string& name) = 0;
+  // For windows that have no groups of their own.
+  virtual void AddStationToGroup(const std::string& group, const StationKey& station) = 0;
   // Hides the main window; the tray brings it back.
   virtual void HideToTray() = 0;
   // The close button: hides or ends the program, as the user wants.

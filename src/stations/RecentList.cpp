@@ -38,7 +38,7 @@ void RecentList::AddRecent(const StationKey& station) {
   keys_.insert(keys_.begin(), played);
   if (keys_.size() > kSlots) keys_.resize(kSlots);
   SaveRecent();
-  if (changed_) changed_();
+  if (listener_) listener_->RecentChanged();
 }
 
 // One line, latest first. When it cannot be saved the list stays in memory and goes before what the file

@@ -2,7 +2,6 @@
 // not be written down is kept in memory and written with the next one; nobody is told.
 #pragma once
 
-#include <functional>
 #include <utility>
 #include <vector>
 
@@ -14,13 +13,21 @@ namespace sonaro {
 
 class DataFolder;
 
+class RecentListener {
+ public:
+  virtual ~RecentListener() = default;
+  virtual void RecentChanged() = 0;  // after every play that was noted, whoever played
+};
+
 class RecentList {
  public:
   static constexpr std::size_t kSlots = 21;
   // The last slot is never written: the file holds one entry less than memory.
   static constexpr std::size_t kSavedSlots = kSlots - 1;
 
-  explicit RecentList(DataFolder& data) : file_(data, user_file::kRecent) {}
+  // `listener` may be nullptr.
+  explicit RecentList(DataFolder& data, RecentListener* listener = nullptr)
+      : file_(data, user_file::kRecent), listener_(listener) {}
 
   // Reads the file back; what was in memory is forgotten. What names no station there is left out.
   void Load();
@@ -30,8 +37,6 @@ class RecentList {
   // Puts a station in front, moving it there when it is in the list already, and saves. None is ignored.
   void AddRecent(const StationKey& station);
   void SaveRecent();
-  // Called after every play that was noted, whoever played.
-  void SetChanged(std::function<void()> changed) { changed_ = std::move(changed); }
 
   // Most recent first, at most kSlots.
   const std::vector<StationKey>& Keys() const { return keys_; }
@@ -42,7 +47,7 @@ class RecentList {
   UserFile file_;
   bool unsaved_ = false;  // memory holds plays that the file does not
   std::vector<StationKey> keys_;
-  std::function<void()> changed_;
+  RecentListener* listener_;
 };
 
 }  // namespace sonaro

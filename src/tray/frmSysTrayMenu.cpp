@@ -9,6 +9,7 @@
 #include "forms/WideText.h"
 #include "resources/icon.h"
 #include "resources/texts/tray.h"
+#include "stations/FavoriteGroups.h"
 
 namespace sonaro {
 
@@ -69,8 +70,9 @@ std::span<const TimerRow> frmSysTrayMenu::Timers() const {
   return kRows;
 }
 
-frmSysTrayMenu::frmSysTrayMenu(FormContext& context, TrayActions actions)
-    : Form(context, Design()), actions_(std::move(actions)) {}
+frmSysTrayMenu::frmSysTrayMenu(FormContext& context, const FavoriteGroups& groups, HelpPages& help,
+                               ProgramCommands& program, TrayListener& listener)
+    : Form(context, Design()), groups_(groups), help_(help), program_(program), listener_(listener) {}
 
 frmSysTrayMenu::~frmSysTrayMenu() {
   TakeIconAway();
@@ -132,20 +134,20 @@ bool frmSysTrayMenu::OnMessage(UINT message, WPARAM wParam, LPARAM lParam, LRESU
   }
   switch (message) {
     case kSecondStart:
-      actions_.open();
+      program_.BringForward("");
       break;
     case kScheduleDue:
-      if (actions_.scheduleItemDue) actions_.scheduleItemDue(static_cast<int>(wParam));
+      listener_.ScheduleItemDue(static_cast<int>(wParam));
       break;
     case kTrayMessage:
       TrayEvent(LOWORD(lParam), {static_cast<short>(LOWORD(wParam)), static_cast<short>(HIWORD(wParam))});
       break;
     case WM_TIMECHANGE:
     case WM_POWERBROADCAST:
-      if (actions_.clockChanged) actions_.clockChanged();
+      listener_.ClockChanged();
       return false;
     case WM_ENDSESSION:  // the user logs off: the process is ended when this returns
-      if (wParam != 0) actions_.exit();
+      if (wParam != 0) program_.Exit();
       return false;
     default:
       return false;
@@ -159,7 +161,7 @@ void frmSysTrayMenu::TrayEvent(UINT event, POINT at) {
   switch (event) {
     case NIN_SELECT:
     case NIN_KEYSELECT:
-      actions_.open();
+      program_.BringForward("");
       break;
     case WM_CONTEXTMENU:
       ShowMenu(at);
@@ -169,8 +171,14 @@ void frmSysTrayMenu::TrayEvent(UINT event, POINT at) {
   }
 }
 
+std::vector<std::string> frmSysTrayMenu::GroupNames() const {
+  std::vector<std::string> names;
+  for (std::size_t group = 0; group < groups_.Count(); ++group) names.emplace_back(groups_.Name(group));
+  return names;
+}
+
 void frmSysTrayMenu::ShowMenu(POINT at) {
-  shownGroups_ = actions_.groupNames();
+  shownGroups_ = GroupNames();
   std::vector<MenuEntry> groups;
   for (std::size_t i = 0; i < std::min(shownGroups_.size(), kMaxGroups); ++i) {
     groups.push_back({.command = mnuTrayGroup + static_cast<int>(i), .text = MenuText(shownGroups_[i])});
@@ -178,22 +186,22 @@ void frmSysTrayMenu::ShowMenu(POINT at) {
   if (groups.empty())
     groups.push_back({.command = -1, .text = LoadText(IDS_TRAY_NO_GROUPS), .enabled = false});
   std::vector<MenuEntry> menu;
-  const auto add = [&](const std::function<void()>& action, int command, int text) {
-    if (action) menu.push_back({.command = command, .text = LoadText(text)});
+  const auto add = [&](int command, int text) {
+    menu.push_back({.command = command, .text = LoadText(text)});
   };
-  add(actions_.open, mnuTrayOpen, IDS_TRAY_OPEN);
-  add(actions_.yourSonaro, mnuTrayYourSonaro, IDS_TRAY_YOUR_SONARO);
-  add(actions_.browse, mnuTrayBrowse, IDS_TRAY_BROWSE);
-  add(actions_.search, mnuTraySearch, IDS_TRAY_SEARCH);
+  add(mnuTrayOpen, IDS_TRAY_OPEN);
+  add(mnuTrayYourSonaro, IDS_TRAY_YOUR_SONARO);
+  add(mnuTrayBrowse, IDS_TRAY_BROWSE);
+  add(mnuTraySearch, IDS_TRAY_SEARCH);
   menu.push_back({.command = 0, .text = LoadText(IDS_TRAY_GROUPS), .children = std::move(groups)});
   menu.push_back({});
-  add(actions_.scan, mnuTrayScan, IDS_TRAY_SCAN);
-  add(actions_.schedule, mnuTraySchedule, IDS_TRAY_SCHEDULE);
-  add(actions_.update, mnuTrayUpdate, IDS_TRAY_UPDATE);
-  add(actions_.options, mnuTrayOptions, IDS_TRAY_OPTIONS);
-  add(actions_.help, mnuTrayHelp, IDS_TRAY_HELP);
+  add(mnuTrayScan, IDS_TRAY_SCAN);
+  add(mnuTraySchedule, IDS_TRAY_SCHEDULE);
+  add(mnuTrayUpdate, IDS_TRAY_UPDATE);
+  add(mnuTrayOptions, IDS_TRAY_OPTIONS);
+  add(mnuTrayHelp, IDS_TRAY_HELP);
   menu.push_back({});
-  add(actions_.exit, mnuTrayExit, IDS_TRAY_EXIT);
+  add(mnuTrayExit, IDS_TRAY_EXIT);
   // Without this the menu would stay open when the user clicks elsewhere.
   SetForegroundWindow(Window());
   PopUpMenu(menu, at);
@@ -203,18 +211,16 @@ void frmSysTrayMenu::ShowMenu(POINT at) {
 
 // The group that the entry named when the menu was opened; without a menu the one in that place.
 void frmSysTrayMenu::mnuTrayGroup_Click(int group) {
-  const std::vector<std::string> names = shownGroups_.empty() ? actions_.groupNames() : shownGroups_;
+  const std::vector<std::string> names = shownGroups_.empty() ? GroupNames() : shownGroups_;
   const auto index = static_cast<std::size_t>(group);
-  if (index < names.size()) actions_.openGroup(names[index]);
+  if (index < names.size()) program_.ShowGroup(names[index]);
 }
 
 void frmSysTrayMenu::tmrStartUp_Timer() {
   StopTimer(tmrStartUp);
-  if (actions_.startUp) actions_.startUp();
+  listener_.Loaded();
 }
 
-void frmSysTrayMenu::tmrMinute_Timer() {
-  if (actions_.minute) StartTimer(tmrMinute, actions_.minute());
-}
+void frmSysTrayMenu::tmrMinute_Timer() { StartTimer(tmrMinute, listener_.Minute()); }
 
 }  // namespace sonaro

@@ -4,34 +4,27 @@
 // minute watch.
 #pragma once
 
-#include <functional>
 #include <string>
 #include <vector>
 
 #include "forms/ControlIds.h"
 #include "forms/controls/Controls.h"
+#include "settings/HelpPages.h"
+#include "stations/Commands.h"
 
 namespace sonaro {
 
-// What the tray menu and the messages ask of the program.
-struct TrayActions {
-  std::function<void()> open;
-  std::function<void()> browse;
-  std::function<void()> search;
-  std::function<void()> yourSonaro;
-  std::function<void()> scan;
-  std::function<void()> schedule;
-  std::function<void()> update;
-  std::function<void()> options;
-  std::function<void()> help;
-  std::function<void()> exit;
-  std::function<std::vector<std::string>()> groupNames;
-  std::function<void(const std::string& group)> openGroup;
-  std::function<void(int slot)> scheduleItemDue;
-  std::function<void()> startUp;  // once, when the program has finished loading
+class FavoriteGroups;
+
+// What comes in through the hidden window.
+class TrayListener {
+ public:
+  virtual ~TrayListener() = default;
+  virtual void Loaded() = 0;  // once, when the program has finished loading
   // At every full minute; gives the milliseconds to the next one.
-  std::function<unsigned()> minute;
-  std::function<void()> clockChanged;
+  virtual unsigned Minute() = 0;
+  virtual void ClockChanged() = 0;  // or the machine woke up
+  virtual void ScheduleItemDue(int slot) = 0;
 };
 
 class frmSysTrayMenu final : public Form {
@@ -39,12 +32,13 @@ class frmSysTrayMenu final : public Form {
   static constexpr UINT kSecondStart = 1793;
   static constexpr UINT kScheduleDue = 1795;
 
-  frmSysTrayMenu(FormContext& context, TrayActions actions);
+  frmSysTrayMenu(FormContext& context, const FavoriteGroups& groups, HelpPages& help,
+                 ProgramCommands& program, TrayListener& listener);
   ~frmSysTrayMenu() override;
 
-  // Creates the hidden window and its icon, before anything else of the program is there: until then an
-  // action may have nothing to work on, and has to bear that. False: the system refused the window. An icon
-  // that the shell does not take yet, as while the user logs on, is offered again for some minutes and
+  // Creates the hidden window and its icon, before anything else of the program is there: until then the
+  // commands may have nothing to work on, and have to bear that. False: the system refused the window. An
+  // icon that the shell does not take yet, as while the user logs on, is offered again for some minutes and
   // whenever the task bar is made.
   [[nodiscard]] bool Start();
   // Runs the start-up work once the message loop runs, and the minute watch from then on.
@@ -63,22 +57,26 @@ class frmSysTrayMenu final : public Form {
   void TakeIconAway();
   void TrayEvent(UINT event, POINT at);
   void ShowMenu(POINT at);
+  std::vector<std::string> GroupNames() const;
   void tmrStartUp_Timer();
   void tmrMinute_Timer();
   void tmrIcon_Timer();
-  void mnuTrayOpen_Click() { actions_.open(); }
-  void mnuTrayBrowse_Click() { actions_.browse(); }
-  void mnuTraySearch_Click() { actions_.search(); }
-  void mnuTrayYourSonaro_Click() { actions_.yourSonaro(); }
-  void mnuTrayScan_Click() { actions_.scan(); }
-  void mnuTraySchedule_Click() { actions_.schedule(); }
-  void mnuTrayUpdate_Click() { actions_.update(); }
-  void mnuTrayOptions_Click() { actions_.options(); }
-  void mnuTrayHelp_Click() { actions_.help(); }
-  void mnuTrayExit_Click() { actions_.exit(); }
+  void mnuTrayOpen_Click() { program_.BringForward(""); }
+  void mnuTrayBrowse_Click() { program_.BringForward("Browse"); }
+  void mnuTraySearch_Click() { program_.BringForward("Search"); }
+  void mnuTrayYourSonaro_Click() { program_.BringForward("YourSonaro"); }
+  void mnuTrayScan_Click() { program_.OpenWhenFree(ProgramWindow::Scan); }
+  void mnuTraySchedule_Click() { program_.OpenWhenFree(ProgramWindow::Schedule); }
+  void mnuTrayUpdate_Click() { program_.OpenWhenFree(ProgramWindow::Update); }
+  void mnuTrayOptions_Click() { program_.OpenWhenFree(ProgramWindow::Options); }
+  void mnuTrayHelp_Click() { help_.OpenHelpPage("index.html"); }
+  void mnuTrayExit_Click() { program_.Exit(); }
   void mnuTrayGroup_Click(int group);
 
-  TrayActions actions_;
+  const FavoriteGroups& groups_;
+  HelpPages& help_;
+  ProgramCommands& program_;
+  TrayListener& listener_;
   UINT taskbarCreated_ = 0;
   bool hasIcon_ = false;
   int iconTries_ = 0;

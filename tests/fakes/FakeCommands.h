@@ -24,6 +24,10 @@ class FakeCommands final : public ScheduleCommands, public UpdateCommands, publi
   void TestProxy(Form&, const std::string&, const std::string&) override {}
   void TellTray(const std::string& text) override { told.push_back(text); }
   void Open(ProgramWindow, Form*) override {}
+  void OpenWhenFree(ProgramWindow) override {}
+  void BringForward(std::string_view) override {}
+  void ShowGroup(const std::string&) override {}
+  void AddStationToGroup(const std::string&, const StationKey&) override {}
   void HideToTray() override {}
   void CloseAsked() override {}
   void Exit() override {}

@@ -56,6 +56,13 @@
 namespace sonaro {
 namespace {
 
+struct NoNotify final : NotifyCommands {
+  void Play(const PlayChoice&) override {}
+  void OpenPage(const std::string&) override {}
+  void PlaySound() override {}
+  void ShowHelp() override {}
+};
+
 // A program without data: enough for its windows to open.
 struct EmptyProgram {
   FormContextForTests outside;
@@ -92,6 +99,7 @@ struct EmptyProgram {
   UpdateInstall install{folder, settings, stations};
   UpdateDependencies update{settings, folder, words, install, http, {}};
   FakeCommands commands;
+  NoNotify notify;
   GuideData guide{folder, settings, words, state, stations, personal, extra, recent, favorites, source};
 };
 
@@ -174,9 +182,7 @@ const NamedForm kForms[] = {
                                     UpdateOpening::Begin);
      }},
     {"frmScan",
-     [](EmptyProgram& p) {
-       return Make<frmScan>(p.forms, p.scan, p.help, p.favorites, frmScan::AddToGroup());
-     }},
+     [](EmptyProgram& p) { return Make<frmScan>(p.forms, p.scan, p.help, p.favorites, p.commands); }},
     {"frmScanTime", [](EmptyProgram& p) { return Make<frmScanTime>(p.forms, 30); }},
     {"frmAboutEventTime",
      [](EmptyProgram& p) { return Make<frmAboutEventTime>(p.forms, p.clock, p.shell, p.help); }},
@@ -186,7 +192,7 @@ const NamedForm kForms[] = {
      }},
     {"frmNotify",
      [](EmptyProgram& p) {
-       return Make<frmNotify>(p.forms, NotifyActions{}, Notification{.eventName = "Long Wave Theatre"});
+       return Make<frmNotify>(p.forms, p.notify, Notification{.eventName = "Long Wave Theatre"});
      }},
     {"frmSched", [](EmptyProgram& p) { return Make<frmSched>(p.forms, p.schedule); }},
     {"frmSchedChange",
