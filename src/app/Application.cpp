@@ -52,7 +52,7 @@ Application::Application(const Platform& platform, const Strings& strings, const
       installedPlayers_(reg_, data_, players_),
       playerSetup_(reg_, platform.files, players_, installedPlayers_),
       playerReporter_(players_, data_, source_, strings_, state_),
-      pages_(data_, platform.shell, strings_),
+      pages_(source_, data_, platform.shell, strings_),
       help_(reg_, pages_),
       player_(source_, recent_, players_, pages_, strings_),
       scan_(reg_, platform.clock, player_, source_, strings_),

@@ -18,7 +18,7 @@ class StationListState;
 class CommandSubject {
  public:
   struct Menu {
-    StationDetailBuilder station = {};
+    StationDetail station = {};
     std::string group = {};  // whose button's menu it is, or which the station's list shows; "" without one
     EventLine event = {};
   };
@@ -27,10 +27,10 @@ class CommandSubject {
       : listing_(listing), groups_(groups) {}
 
   // What the right column shows from now on.
-  void Show(StationDetailBuilder station) { shown_ = std::move(station); }
-  const StationDetailBuilder& Shown() const { return shown_; }
+  void Show(StationDetail station) { shown_ = std::move(station); }
+  const StationDetail& Shown() const { return shown_; }
 
-  const StationDetailBuilder& Station() const { return menu_ ? menu_->station : shown_; }
+  const StationDetail& Station() const { return menu_ ? menu_->station : shown_; }
   // Nothing when the group was deleted, or no group is on show.
   std::optional<std::size_t> Group() const;
   std::string GroupName() const;
@@ -46,7 +46,7 @@ class CommandSubject {
  private:
   const StationListState& listing_;
   const FavoriteGroups& groups_;
-  StationDetailBuilder shown_;
+  StationDetail shown_;
   std::optional<Menu> menu_;
 };
 

@@ -58,7 +58,7 @@ struct MainModels {
   StationListFiller lists;
   StationListState listing;
   SearchPanel search;
-  StationDetails details;
+  StationDetailBuilder details;
   StationActions actions;
   CommandSubject subject;
   PlaylistTransfer transfer;

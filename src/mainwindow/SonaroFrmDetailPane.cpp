@@ -57,7 +57,7 @@ void DetailPane::Load() {
 
 void DetailPane::Show(const StationKey& station) {
   subject_.Show(context_.models.details.Of(station));
-  const StationDetailBuilder& detail = subject_.Shown();
+  const StationDetail& detail = subject_.Shown();
   const bool anything = !detail.name.empty();
   form_.ShowPane(kStationPane, anything);
   form_.ShowPane(kNoStationPane, !anything);
@@ -72,15 +72,15 @@ void DetailPane::Show(const StationKey& station) {
   form_.Enable(butGoWebPageIt, detail.hasWebSite);
 }
 
-void DetailPane::ShowRatings(const StationDetailBuilder& detail) {
-  for (std::size_t i = 0; i < StationDetailBuilder::kRatings; ++i) {
+void DetailPane::ShowRatings(const StationDetail& detail) {
+  for (std::size_t i = 0; i < StationDetail::kRatings; ++i) {
     const RatingFigure& rating = detail.ratings[i];
     form_.Rating(kRatingPictures[i]).SetRating(rating.halves, rating.figure, rating.spoken);
   }
 }
 
-void DetailPane::ShowPlayButtons(const StationDetailBuilder& detail) {
-  for (std::size_t i = 0; i < StationDetailBuilder::kPlayButtons; ++i) {
+void DetailPane::ShowPlayButtons(const StationDetail& detail) {
+  for (std::size_t i = 0; i < StationDetail::kPlayButtons; ++i) {
     const PlayButton& key = detail.playButtons[i];
     form_.SetText(kPlayButtonIds[i], key.caption);
     form_.SetDetail(kPlayButtonIds[i], key.bitRate + "\t" + std::to_string(i + 1));
@@ -89,10 +89,10 @@ void DetailPane::ShowPlayButtons(const StationDetailBuilder& detail) {
 }
 
 void DetailPane::butGoMediaLink_Click(int link) {
-  const StationDetailBuilder& station = subject_.Station();
+  const StationDetail& station = subject_.Station();
   // A station may lack a first link and have others: what is asked for is the first that plays.
   std::size_t wanted = static_cast<std::size_t>(link);
-  while (link == 0 && wanted + 1 < StationDetailBuilder::kPlayButtons && !station.playButtons[wanted].shown)
+  while (link == 0 && wanted + 1 < StationDetail::kPlayButtons && !station.playButtons[wanted].shown)
     ++wanted;
   if (station.playButtons[wanted].shown) {
     Play(station.playButtons[wanted]);
@@ -104,13 +104,13 @@ void DetailPane::butGoMediaLink_Click(int link) {
 }
 
 void DetailPane::mnuActionPlay_Click(int link) {
-  const StationDetailBuilder& station = subject_.Station();
+  const StationDetail& station = subject_.Station();
   const auto index = static_cast<std::size_t>(link);
   if (station.playButtons[index].shown) Play(station.playButtons[index]);
 }
 
 void DetailPane::mnuActionPlayExtra_Click(int link) {
-  const StationDetailBuilder& station = subject_.Station();
+  const StationDetail& station = subject_.Station();
   const auto index = static_cast<std::size_t>(link);
   if (index >= station.extraButtons.size()) return;
   Play(station.extraButtons[index]);
@@ -124,9 +124,9 @@ void DetailPane::Play(const PlayButton& key) {
 }
 
 void DetailPane::butGoWebPageIt_Click() {
-  const StationDetailBuilder& station = subject_.Station();
+  const StationDetail& station = subject_.Station();
   if (!station.station || !station.hasWebSite) return;
-  context_.services.pages.OpenWebPage(context_.data.source.WebSiteOf(station.station));
+  context_.services.pages.OpenWebPage(station.station.Token());
 }
 
 void DetailPane::mnuActionCopyLink_Click() {

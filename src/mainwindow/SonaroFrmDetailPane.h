@@ -20,8 +20,8 @@ class DetailPane final : public EventTarget {
 
  private:
   std::span<const EventRow> Events() const override;
-  void ShowRatings(const StationDetailBuilder& detail);
-  void ShowPlayButtons(const StationDetailBuilder& detail);
+  void ShowRatings(const StationDetail& detail);
+  void ShowPlayButtons(const StationDetail& detail);
   void Play(const PlayButton& key);
 
   void butGoMediaLink_Click(int link);

@@ -189,7 +189,7 @@ void GroupsPane::mnuFavImport_Click() {
 }
 
 void GroupsPane::mnuActionStationToFavList_Click() {
-  const StationDetailBuilder& station = subject_.Station();
+  const StationDetail& station = subject_.Station();
   if (!station.station) return;
   const StationKey key = station.station;  // what is meant may change while the question stands
   std::vector<std::string> names;

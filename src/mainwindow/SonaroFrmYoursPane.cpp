@@ -171,7 +171,7 @@ void YoursPane::lstEvents_ItemActivate(int row) {
 void YoursPane::lstEvents_ContextMenu(int, POINT at) {
   const EventLine* event = SelectedEvent();
   if (event == nullptr) return;
-  const StationDetailBuilder& station = context_.models.subject.Shown();
+  const StationDetail& station = context_.models.subject.Shown();
   context_.PopUpMenuFor({.station = station, .event = *event},
                         context_.models.actions.EventMenu(*event, station), at);
 }

@@ -30,9 +30,9 @@ constexpr std::array<RankingCommand, kRankingCount> kRankingCommands{{
     {mnuActionMostReliable, Ranking::MostReliable},
 }};
 
-constexpr std::array<int, StationDetailBuilder::kPlayButtons> kPlayCommands{
-    mnuActionPlayOne, mnuActionPlayTwo, mnuActionPlayThree};
-constexpr std::array<int, StationDetailBuilder::kPlayButtons> kPlayShortcuts{
+constexpr std::array<int, StationDetail::kPlayButtons> kPlayCommands{mnuActionPlayOne, mnuActionPlayTwo,
+                                                                     mnuActionPlayThree};
+constexpr std::array<int, StationDetail::kPlayButtons> kPlayShortcuts{
     IDS_SHORTCUT_PLAY_ONE, IDS_SHORTCUT_PLAY_TWO, IDS_SHORTCUT_PLAY_THREE};
 
 // Separators are asked for freely; none stands first, last or beside another.
@@ -64,7 +64,7 @@ MenuEntry StationActions::Entry(int command, int textId, bool enabled) const {
   return entry;
 }
 
-MenuEntry StationActions::StationEntry(int command, int textId, const StationDetailBuilder& detail) const {
+MenuEntry StationActions::StationEntry(int command, int textId, const StationDetail& detail) const {
   const bool selected = static_cast<bool>(detail.station);
   MenuEntry entry = Entry(command, textId, selected);
   const std::string name =
@@ -73,7 +73,7 @@ MenuEntry StationActions::StationEntry(int command, int textId, const StationDet
   return entry;
 }
 
-MenuEntries StationActions::ActionMenu(const StationDetailBuilder& detail) const {
+MenuEntries StationActions::ActionMenu(const StationDetail& detail) const {
   const bool selected = static_cast<bool>(detail.station);
   MenuEntries menu;
   AddPlayEntries(detail, menu);
@@ -98,7 +98,7 @@ MenuEntries StationActions::ActionMenu(const StationDetailBuilder& detail) const
   return menu;
 }
 
-MenuEntries StationActions::EventMenu(const EventLine& event, const StationDetailBuilder& detail) const {
+MenuEntries StationActions::EventMenu(const EventLine& event, const StationDetail& detail) const {
   const int show = event.personalShow ? IDS_ACTION_REMOVE_SHOW : IDS_ACTION_ADD_SHOW;
   MenuEntries menu = {Entry(mnuEventNotifyMe, IDS_ACTION_NOTIFY_EVENT, !event.noticed),
                       Entry(mnuEventPersonalShow, show)};
@@ -109,9 +109,9 @@ MenuEntries StationActions::EventMenu(const EventLine& event, const StationDetai
   return menu;
 }
 
-void StationActions::AddPlayEntries(const StationDetailBuilder& detail, MenuEntries& menu) const {
+void StationActions::AddPlayEntries(const StationDetail& detail, MenuEntries& menu) const {
   if (!detail.station) menu.push_back(Entry(mnuActionPlayOne, IDS_ACTION_PLAY, false));
-  for (std::size_t i = 0; i < StationDetailBuilder::kPlayButtons; ++i) {
+  for (std::size_t i = 0; i < StationDetail::kPlayButtons; ++i) {
     const PlayButton& key = detail.playButtons[i];
     if (!key.shown) continue;
     MenuEntry entry = Entry(kPlayCommands[i], kPlayShortcuts[i]);
@@ -128,7 +128,7 @@ void StationActions::AddPlayEntries(const StationDetailBuilder& detail, MenuEntr
   menu.push_back(Entry(mnuActionCopyLink, IDS_ACTION_COPY_LINK, !detail.firstLink.empty()));
 }
 
-void StationActions::AddGroupEntries(const StationDetailBuilder& detail, MenuEntries& menu) const {
+void StationActions::AddGroupEntries(const StationDetail& detail, MenuEntries& menu) const {
   menu.push_back(StationEntry(mnuActionStationToFavList, IDS_ACTION_ADD_TO_GROUP, detail));
   // A submenu without entries would be a line.
   if (groups_.Count() > 0) menu.push_back(Submenu(strings_.Load(IDS_ACTION_ADD_TO), GroupChoices(detail)));
@@ -144,7 +144,7 @@ void StationActions::AddGroupEntries(const StationDetailBuilder& detail, MenuEnt
       Entry(mnuActionMoveDown, IDS_ACTION_MOVE_DOWN, canMove && row + 1 < listing_.Rows().Count()));
 }
 
-MenuEntries StationActions::GroupChoices(const StationDetailBuilder& detail) const {
+MenuEntries StationActions::GroupChoices(const StationDetail& detail) const {
   MenuEntries choices;
   for (std::size_t group = 0; group < groups_.Count() && group < FavoriteGroups::kSlots; ++group) {
     MenuEntry entry;

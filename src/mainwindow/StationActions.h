@@ -30,9 +30,9 @@ class StationActions {
       : listing_(listing), groups_(groups), strings_(strings) {}
 
   // The menu of the selected station, of which `detail` holds the facts.
-  MenuEntries ActionMenu(const StationDetailBuilder& detail) const;
+  MenuEntries ActionMenu(const StationDetail& detail) const;
   // The menu of a coming event; `detail` is of its station, if the guide has it.
-  MenuEntries EventMenu(const EventLine& event, const StationDetailBuilder& detail) const;
+  MenuEntries EventMenu(const EventLine& event, const StationDetail& detail) const;
   // What the list can be sorted by; the sort in force is checked.
   MenuEntries SortMenu() const;
   // The menu of a group button; `group` may be a free slot.
@@ -46,12 +46,12 @@ class StationActions {
   enum class Place { SortMenu, ActionMenu };
   MenuEntry Entry(int command, int textId, bool enabled = true) const;
   // With the name of the station in the text, or the words for any station.
-  MenuEntry StationEntry(int command, int textId, const StationDetailBuilder& detail) const;
+  MenuEntry StationEntry(int command, int textId, const StationDetail& detail) const;
   MenuEntries SortEntriesFor(Place place) const;
   MenuEntries RankingEntries() const;
-  MenuEntries GroupChoices(const StationDetailBuilder& detail) const;
-  void AddPlayEntries(const StationDetailBuilder& detail, MenuEntries& menu) const;
-  void AddGroupEntries(const StationDetailBuilder& detail, MenuEntries& menu) const;
+  MenuEntries GroupChoices(const StationDetail& detail) const;
+  void AddPlayEntries(const StationDetail& detail, MenuEntries& menu) const;
+  void AddGroupEntries(const StationDetail& detail, MenuEntries& menu) const;
 
   const StationListState& listing_;
   const FavoriteGroups& groups_;

@@ -16,7 +16,7 @@ struct RatingField {
   int nameId;
 };
 
-constexpr std::array<RatingField, StationDetailBuilder::kRatings> kRatingFields{{
+constexpr std::array<RatingField, StationDetail::kRatings> kRatingFields{{
     {&StationInfo::overall, IDS_RATING_OVERALL},
     {&StationInfo::sound, IDS_RATING_SOUND},
     {&StationInfo::speed, IDS_RATING_SPEED},
@@ -25,15 +25,15 @@ constexpr std::array<RatingField, StationDetailBuilder::kRatings> kRatingFields{
 
 }  // namespace
 
-StationDetailBuilder StationDetails::Of(const StationKey& key) const {
-  StationDetailBuilder detail;
+StationDetail StationDetailBuilder::Of(const StationKey& key) const {
+  StationDetail detail;
   const Station station = source_.Find(key);
   if (!station.key) return detail;
   detail.station = key;
   detail.name = station.name;
   detail.location = station.location;
   detail.description = station.description;
-  for (std::size_t i = 0; i < StationDetailBuilder::kRatings; ++i) {
+  for (std::size_t i = 0; i < StationDetail::kRatings; ++i) {
     detail.ratings[i] = Rating(station.*kRatingFields[i].digit, kRatingFields[i].nameId);
   }
   AddPlayButtons(station, detail);
@@ -41,7 +41,7 @@ StationDetailBuilder StationDetails::Of(const StationKey& key) const {
   return detail;
 }
 
-RatingFigure StationDetails::Rating(const std::string& digit, int nameId) const {
+RatingFigure StationDetailBuilder::Rating(const std::string& digit, int nameId) const {
   RatingFigure rating;
   if (digit.size() == 1 && digit[0] >= '1' && digit[0] <= '9') rating.halves = digit[0] - '0';
   const std::string name = strings_.Load(nameId);
@@ -56,7 +56,7 @@ RatingFigure StationDetails::Rating(const std::string& digit, int nameId) const 
   return rating;
 }
 
-void StationDetails::AddPlayButtons(const Station& station, StationDetailBuilder& detail) const {
+void StationDetailBuilder::AddPlayButtons(const Station& station, StationDetail& detail) const {
   // A station without a link of its own is played all the same: its web site opens.
   detail.playButtons[0].request = {station.key,
                                    station.key.IsOfUser() ? PlayMode::Personal : PlayMode::LinkOne};
@@ -71,7 +71,7 @@ void StationDetails::AddPlayButtons(const Station& station, StationDetailBuilder
   }
 }
 
-PlayButton StationDetails::ButtonFor(const PlayableLink& playable, const Station& station) const {
+PlayButton StationDetailBuilder::ButtonFor(const PlayableLink& playable, const Station& station) const {
   PlayButton key;
   key.shown = true;
   key.request = playable.request;

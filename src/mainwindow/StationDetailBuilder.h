@@ -28,7 +28,7 @@ struct RatingFigure {
   std::string spoken;  // "Sound 4.5 of 5"
 };
 
-struct StationDetailBuilder {
+struct StationDetail {
   static constexpr std::size_t kRatings = 4;  // overall, sound, speed, web site
   static constexpr std::size_t kPlayButtons = 3;
 
@@ -45,19 +45,19 @@ struct StationDetailBuilder {
 };
 
 // Makes the details. Owned by the main window; changes nothing.
-class StationDetails {
+class StationDetailBuilder {
  public:
-  StationDetails(const StationSource& source, const ExtraLinks& extra, const Strings& strings,
-                 const AppState& state)
+  StationDetailBuilder(const StationSource& source, const ExtraLinks& extra, const Strings& strings,
+                       const AppState& state)
       : source_(source), extra_(extra), strings_(strings), state_(state) {}
 
-  StationDetailBuilder Of(const StationKey& key) const;
+  StationDetail Of(const StationKey& key) const;
   // A rating stored as one digit: half as much, in halves. Anything but 1 to 9 is not rated. `nameId` is the
   // number of the rating's name in the string table.
   RatingFigure Rating(const std::string& digit, int nameId) const;
 
  private:
-  void AddPlayButtons(const Station& station, StationDetailBuilder& detail) const;
+  void AddPlayButtons(const Station& station, StationDetail& detail) const;
   PlayButton ButtonFor(const PlayableLink& playable, const Station& station) const;
 
   const StationSource& source_;

@@ -5,6 +5,7 @@
 #include "platform/Shell.h"
 #include "resources/texts/playback.h"
 #include "settings/Strings.h"
+#include "stations/StationSource.h"
 #include "stations/WebAddress.h"
 
 namespace sonaro {
@@ -14,13 +15,13 @@ namespace {
 bool BeginsLikeAddress(const std::string& text) { return StartsWithIgnoringCase(text, "http"); }
 
 std::string WithScheme(const std::string& address) {
-  return BeginsLikeAddress(address) ? address : "http://" + address;
+  return address.empty() || BeginsLikeAddress(address) ? address : "http://" + address;
 }
 
 }  // namespace
 
-void WebPages::OpenWebPage(const std::string& address) {
-  const std::string sentence = ErrorText(Open(address));
+void WebPages::OpenWebPage(const std::string& textOrKey) {
+  const std::string sentence = ErrorText(Open(textOrKey));
   if (!sentence.empty() && showErrorText_) showErrorText_(sentence);
 }
 
@@ -38,9 +39,12 @@ std::string WebPages::ErrorText(WebPageOutcome outcome) const {
   return {};
 }
 
-WebPageOutcome WebPages::Open(const std::string& address) {
-  const std::string trimmed(TrimBlanks(address));
-  return trimmed.empty() ? WebPageOutcome::NoAddress : RunBrowser(WithScheme(trimmed));
+WebPageOutcome WebPages::Open(const std::string& textOrKey) {
+  if (BeginsLikeAddress(textOrKey)) return RunBrowser(textOrKey);
+  // A link written without its scheme is no station's token, so it is taken for the address that it is.
+  const StationKey key = StationKey::FromToken(textOrKey);
+  const std::string address(TrimBlanks(key ? stations_.WebSiteOf(key) : textOrKey));
+  return address.empty() ? WebPageOutcome::NoAddress : RunBrowser(WithScheme(address));
 }
 
 WebPageOutcome WebPages::RunBrowser(const std::string& url) {

@@ -10,6 +10,7 @@ namespace sonaro {
 
 class DataFolder;
 class Shell;
+class StationSource;
 class Strings;
 
 enum class WebPageOutcome {
@@ -21,24 +22,26 @@ enum class WebPageOutcome {
 
 class WebPages : public WebPageOpener {
  public:
-  WebPages(DataFolder& data, Shell& shell, const Strings& strings)
-      : data_(data), shell_(shell), strings_(strings) {}
+  WebPages(const StationSource& stations, DataFolder& data, Shell& shell, const Strings& strings)
+      : stations_(stations), data_(data), shell_(shell), strings_(strings) {}
 
   // Tells the user in one sentence why a page was not opened. May be set late; without it nothing is said.
   void SetShowErrorText(std::function<void(const std::string& sentence)> say) {
     showErrorText_ = std::move(say);
   }
 
-  // Says to the user why nothing opens.
-  void OpenWebPage(const std::string& address) override;
+  // A text that does not begin with "http" is a station's token, whose web site is opened. Says to the user
+  // why nothing opens.
+  void OpenWebPage(const std::string& textOrKey) override;
   // The same without a word, with the outcome.
-  WebPageOutcome Open(const std::string& address);
+  WebPageOutcome Open(const std::string& textOrKey);
   // Starts lweb with the address, which must be one that may be opened (IsWebAddress).
   WebPageOutcome RunBrowser(const std::string& url);
   // One sentence for the user; "" for an outcome that needs none.
   std::string ErrorText(WebPageOutcome outcome) const;
 
  private:
+  const StationSource& stations_;
   DataFolder& data_;
   Shell& shell_;
   const Strings& strings_;

@@ -9,8 +9,8 @@ namespace sonaro {
 class WebPageOpener {
  public:
   virtual ~WebPageOpener() = default;
-  // An address, with or without its scheme. A station's web site is asked of StationSource.
-  virtual void OpenWebPage(const std::string& address) = 0;
+  // An address that begins with "http" (any letter case) or the key of a station, whose web site is meant.
+  virtual void OpenWebPage(const std::string& textOrKey) = 0;
 };
 
 }  // namespace sonaro

@@ -17,7 +17,7 @@ namespace {
 
 class StationActionsTest : public Models {
  protected:
-  StationDetailBuilder Detail() const { return details.Of(listing.Rows().SelectedKey()); }
+  StationDetail Detail() const { return details.Of(listing.Rows().SelectedKey()); }
   const MenuEntry& Entry(int command) {
     menu = actions.ActionMenu(Detail());
     const MenuEntry* entry = FindEntry(menu, command);
@@ -30,7 +30,7 @@ class StationActionsTest : public Models {
 
   AppState state;
   ExtraLinks extra{data};
-  StationDetails details{source, extra, strings, state};
+  StationDetailBuilder details{source, extra, strings, state};
   StationActions actions{listing, groups, strings};
   MenuEntries menu;
 };
@@ -149,7 +149,7 @@ TEST_F(StationActionsTest, RatingsShowHalfTheDigit) {
 }
 
 TEST_F(StationActionsTest, DetailsOfAStationAndOfOnesOwn) {
-  const StationDetailBuilder one = details.Of(Key("1"));
+  const StationDetail one = details.Of(Key("1"));
   EXPECT_EQ(one.name, "Acid Jazz");
   EXPECT_EQ(one.playButtons[0].caption, Text(IDS_PLAY_MEDIA, "MP3", "{1}"));
   EXPECT_EQ(one.playButtons[0].bitRate, Text(IDS_PLAY_BIT_RATE, "128", "{1}"));
@@ -160,7 +160,7 @@ TEST_F(StationActionsTest, DetailsOfAStationAndOfOnesOwn) {
             (std::array<int, 4>{9, 5, 1, 0}))
       << "overall, sound, speed, web site";
 
-  const StationDetailBuilder own = details.Of(Key("P1"));
+  const StationDetail own = details.Of(Key("P1"));
   EXPECT_EQ(own.playButtons[0].request.mode, PlayMode::Personal);
   EXPECT_EQ(own.playButtons[0].request.station, Key("P1"));
   EXPECT_EQ(own.firstLink, "http://garage.example/");

@@ -62,7 +62,7 @@ struct PlaybackWorld {
   StationSource source{stations, personal, BuiltInAlphabets(), strings};
   RecentList recent{data};
   Players players{reg, data, shell};
-  WebPages pages{data, shell, strings};
+  WebPages pages{source, data, shell, strings};
   PlayerLaunch launch{source, recent, players, pages, strings};
   std::string list;  // "\station.snr"
 };

@@ -252,7 +252,9 @@ TEST_F(PlayerLaunchTest, FindRealPlayer) {
   EXPECT_EQ(reg.MainKey(), RootKey::LocalMachine);
 }
 
-TEST_F(PlayerLaunchTest, WebPagesOpenWithOrWithoutTheirScheme) {
+TEST_F(PlayerLaunchTest, WebPagesByAddressAndByStation) {
+  AddStation(12, "Jazz", {}, "", "www.jazz.example/x");
+  AddStation(13, "Http", {}, "", "HTTP://www.jazz.example");
   const struct {
     const char* text;
     WebPageOutcome outcome;
@@ -261,7 +263,10 @@ TEST_F(PlayerLaunchTest, WebPagesOpenWithOrWithoutTheirScheme) {
       {"http://a.example/?q=1", WebPageOutcome::Opened, "/d/lweb.exe http://a.example/?q=1"},
       {"www.jazz.example/x", WebPageOutcome::Opened, "/d/lweb.exe http://www.jazz.example/x"},
       {" HTTP://www.jazz.example", WebPageOutcome::Opened, "/d/lweb.exe HTTP://www.jazz.example"},
-      {" ", WebPageOutcome::NoAddress, "(none)"},
+      {"12", WebPageOutcome::Opened, "/d/lweb.exe http://www.jazz.example/x"},
+      {"13", WebPageOutcome::Opened, "/d/lweb.exe HTTP://www.jazz.example"},
+      {"99", WebPageOutcome::NoAddress, "(none)"},
+      {"P4", WebPageOutcome::NoAddress, "(none)"},
       {"", WebPageOutcome::NoAddress, "(none)"},
       {"http://", WebPageOutcome::Refused, "(none)"},
   };
@@ -272,11 +277,11 @@ TEST_F(PlayerLaunchTest, WebPagesOpenWithOrWithoutTheirScheme) {
   }
   std::vector<std::string> said;
   pages.SetShowErrorText([&](const std::string& sentence) { said.push_back(sentence); });
-  pages.OpenWebPage("www.jazz.example");
-  pages.OpenWebPage("");
+  pages.OpenWebPage("12");
+  pages.OpenWebPage("99");
   pages.OpenWebPage("http://");
   shell.startsFail = true;
-  pages.OpenWebPage("www.jazz.example");
+  pages.OpenWebPage("12");
   EXPECT_EQ(said, (std::vector<std::string>{std::to_string(IDS_WHYNOT_NO_PAGE),
                                             std::to_string(IDS_WHYNOT_REFUSED_PAGE),
                                             std::to_string(IDS_WHYNOT_PAGE_NOT_STARTED)}));
@@ -286,7 +291,7 @@ TEST(WebPagesFolder, AFolderWithBlanksIsQuoted) {
   PlaybackWorld world;
   world.files.MakeFolder("/Program Files/S");
   DataFolder data(world.files, "/Program Files/S", '/');
-  WebPages pages(data, world.shell, world.strings);
+  WebPages pages(world.source, data, world.shell, world.strings);
   pages.RunBrowser("http://a.example/");
   EXPECT_EQ(world.shell.runMinimised,
             std::vector<std::string>{"\"/Program Files/S/lweb.exe\" http://a.example/"});

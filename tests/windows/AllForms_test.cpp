@@ -85,7 +85,7 @@ struct EmptyProgram {
   InstalledPlayers installed{settings, folder, players};
   PlayerSetup playerSetup{settings, outside.files, players, installed};
   PlayerReporter reporter{players, folder, source, words, state};
-  WebPages pages{folder, shell, words};
+  WebPages pages{source, folder, shell, words};
   HelpPages help{settings, pages};
   PlayerLaunch player{source, recent, players, pages, words};
   StationScan scan{settings, clock, player, source, words};
@@ -277,7 +277,7 @@ TEST(EveryMenu, GivesEachAccessKeyOnce) {
   models.listing.ShowFavoriteGroup(0);
   const StationActions& actions = models.actions;
   for (const StationKey::Kind kind : {StationKey::Kind::Directory, StationKey::Kind::Personal}) {
-    StationDetailBuilder station;
+    StationDetail station;
     station.station = {kind, 1};
     ExpectEachAccessKeyOnce(actions.ActionMenu(station));
     ExpectEachAccessKeyOnce(actions.EventMenu({}, station));
