@@ -9,7 +9,6 @@
 #include "net/WhatIsNew.h"
 #include "net/frmInetUpdate.h"
 #include "net/frmTestProxy.h"
-#include "net/frmUpdateDialog.h"
 #include "settings/CReg.h"
 #include "settings/HelpPages.h"
 #include "settings/SettingNames.h"
@@ -37,15 +36,16 @@ void ApplicationService::OpenDialog(HWND owner, UpdateOpening opening) {
     return;
   }
   if (background_) background_->Cancel();
-  UpdateDialogCalls calls;
-  calls.make = [this](UpdateListener& dialog) { return MakeUpdate(CallerCode::UpdateDialog, &dialog); };
-  calls.installed = [this] { return Installed(); };
-  calls.canUndo = [this] { return install_.CanUndo(); };
-  calls.undo = [this] { return Undo(); };
-  calls.help = [this] { needs_.help.OpenHelpPage("index.html"); };
-  dialog_ = std::make_unique<frmUpdateDialog>(needs_.context, std::move(calls), opening);
+  UpdateDialogCommands& commands = *this;
+  dialog_ = std::make_unique<frmUpdateDialog>(needs_.context, commands, opening);
   dialog_->Show(owner);
 }
+
+std::unique_ptr<frmInetUpdate> ApplicationService::MakeWatchedUpdate(UpdateListener& dialog) {
+  return MakeUpdate(CallerCode::UpdateDialog, &dialog);
+}
+
+void ApplicationService::OpenUpdateHelp() { needs_.help.OpenHelpPage("index.html"); }
 
 std::unique_ptr<frmInetUpdate> ApplicationService::MakeUpdate(CallerCode callerCode, UpdateListener* dialog) {
   Listener& listener = dialog ? watched_ : unwatched_;
@@ -110,7 +110,7 @@ std::string ApplicationService::Installed() {
   return DescribeUpdate(CompareStationLists(*before, now.bytes, StationsOfGroups()), needs_.strings);
 }
 
-UndoStatus ApplicationService::Undo() {
+UndoStatus ApplicationService::UndoUpdate() {
   const UndoStatus status = install_.UndoLastUpdate();
   if (status != UndoStatus::Impossible) TellDirectoryChanged();
   return status;

@@ -2,7 +2,6 @@
 // test, and the options that have to do with them. Owned by Application.
 #pragma once
 
-#include <functional>
 #include <memory>
 #include <string>
 #include <vector>
@@ -11,6 +10,7 @@
 #include "forms/Form.h"
 #include "net/UpdateExchange.h"
 #include "net/UpdateInstall.h"
+#include "net/frmUpdateDialog.h"
 #include "platform/Platform.h"
 #include "stations/Commands.h"
 
@@ -23,10 +23,8 @@ class HelpPages;
 class StatList;
 class Strings;
 class frmInetUpdate;
-class frmUpdateDialog;
-enum class UpdateOpening;
 
-class ApplicationService final : public UpdateCommands {
+class ApplicationService final : public UpdateCommands, private UpdateDialogCommands {
  public:
   struct Dependencies {
     const Platform& platform;
@@ -77,13 +75,16 @@ class ApplicationService final : public UpdateCommands {
     UpdateListener* dialog_ = nullptr;
   };
 
+  std::unique_ptr<frmInetUpdate> MakeWatchedUpdate(UpdateListener& dialog) override;
+  std::string Installed() override;
+  UndoStatus UndoUpdate() override;
+  void OpenUpdateHelp() override;
+
   void OpenDialog(HWND owner, UpdateOpening opening);
   UpdateDependencies MakeUpdateDependencies();
   std::unique_ptr<frmInetUpdate> MakeUpdate(CallerCode callerCode, UpdateListener* dialog);
   void EndProgress();
   void TellDirectoryChanged();
-  std::string Installed();
-  UndoStatus Undo();
   std::vector<std::int32_t> StationsOfGroups() const;
 
   Dependencies needs_;

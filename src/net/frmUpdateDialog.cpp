@@ -74,8 +74,8 @@ std::span<const EventRow> frmUpdateDialog::Events() const {
   return kRows;
 }
 
-frmUpdateDialog::frmUpdateDialog(FormContext& context, UpdateDialogCalls calls, UpdateOpening opening)
-    : Form(context, Design()), strings_(context.strings), calls_(std::move(calls)), opening_(opening) {}
+frmUpdateDialog::frmUpdateDialog(FormContext& context, UpdateDialogCommands& commands, UpdateOpening opening)
+    : Form(context, Design()), strings_(context.strings), commands_(commands), opening_(opening) {}
 
 frmUpdateDialog::~frmUpdateDialog() = default;
 
@@ -106,7 +106,7 @@ void frmUpdateDialog::Begin() {
   lblStuff_.SetTextAndGrow(LoadText(IDS_NET_CONNECTING));
   lblBytes_.SetText("");
   prgUpdate_->SetProgress(0, kScaleSteps);
-  update_ = calls_.make(*this);
+  update_ = commands_.MakeWatchedUpdate(*this);
   update_->Load();
 }
 
@@ -127,11 +127,11 @@ void frmUpdateDialog::UpdateFinished(const UpdateOutcome& outcome) {
   updating_ = false;
   const bool updated = outcome.kind == UpdateOutcome::Kind::Updated;
   lblBytes_.SetText("");
-  lblStuff_.SetTextAndGrow(OutcomeText(outcome, updated ? calls_.installed() : std::string(), strings_));
+  lblStuff_.SetTextAndGrow(OutcomeText(outcome, updated ? commands_.Installed() : std::string(), strings_));
   prgUpdate_->SetProgress(updated ? kScaleSteps : 0, kScaleSteps);
   butMsg_[1].SetText(LoadText(IDS_NET_CLOSE));
   ShowFailure(MayRetry(outcome));
-  SetOffer(MayRetry(outcome) ? Offer::Retry : calls_.canUndo() ? Offer::Undo : Offer::Nothing);
+  SetOffer(MayRetry(outcome) ? Offer::Retry : commands_.CanUndoUpdate() ? Offer::Undo : Offer::Nothing);
 }
 
 void frmUpdateDialog::ShowFailure(bool failed) {
@@ -151,7 +151,7 @@ void frmUpdateDialog::butMsg_Click() {
   if (offer_ == Offer::Retry) {
     Begin();
   } else if (offer_ == Offer::Undo) {
-    lblStuff_.SetTextAndGrow(LoadText(SentenceOf(calls_.undo())));
+    lblStuff_.SetTextAndGrow(LoadText(SentenceOf(commands_.UndoUpdate())));
     SetOffer(Offer::Nothing);
     butMsg_[1].Focus();
   }

@@ -4,7 +4,6 @@
 #pragma once
 
 #include <cstdint>
-#include <functional>
 #include <memory>
 #include <optional>
 #include <string>
@@ -19,20 +18,25 @@ class Strings;
 class frmInetUpdate;
 enum class UndoStatus;
 
-struct UpdateDialogCalls {
+// What the dialog asks for, of whoever owns the updates.
+class UpdateDialogCommands {
+ public:
+  virtual ~UpdateDialogCommands() = default;
+
   // An update that reports to `dialog` and has not begun.
-  std::function<std::unique_ptr<frmInetUpdate>(UpdateListener& dialog)> make;
-  std::function<std::string()> installed;  // the directory has changed: returns the report on it
-  std::function<bool()> canUndo;
-  std::function<UndoStatus()> undo;
-  std::function<void()> help;
+  virtual std::unique_ptr<frmInetUpdate> MakeWatchedUpdate(UpdateListener& dialog) = 0;
+  // The directory has changed: returns the report on it, "" when there is nothing to report.
+  virtual std::string Installed() = 0;
+  virtual bool CanUndoUpdate() = 0;
+  virtual UndoStatus UndoUpdate() = 0;
+  virtual void OpenUpdateHelp() = 0;
 };
 
 enum class UpdateOpening { Begin, OfferUndo };
 
 class frmUpdateDialog final : public Form, private UpdateListener {
  public:
-  frmUpdateDialog(FormContext& context, UpdateDialogCalls calls, UpdateOpening opening);
+  frmUpdateDialog(FormContext& context, UpdateDialogCommands& commands, UpdateOpening opening);
   ~frmUpdateDialog() override;
 
   bool IsUpdating() const { return IsOpen() && updating_; }
@@ -54,10 +58,10 @@ class frmUpdateDialog final : public Form, private UpdateListener {
 
   void butMsg_Click();
   void butCancel_Click() { Close(); }
-  void butHelp_Click() { calls_.help(); }
+  void butHelp_Click() { commands_.OpenUpdateHelp(); }
 
   const Strings& strings_;
-  UpdateDialogCalls calls_;
+  UpdateDialogCommands& commands_;
   const UpdateOpening opening_;
   std::unique_ptr<frmInetUpdate> update_;
   Offer offer_ = Offer::Nothing;

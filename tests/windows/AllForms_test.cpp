@@ -63,6 +63,24 @@ struct NoNotify final : NotifyCommands {
   void ShowHelp() override {}
 };
 
+// Updates that are never begun.
+class NoUpdates final : public UpdateDialogCommands {
+ public:
+  NoUpdates(FormContext& forms, const UpdateDependencies& update) : forms_(forms), update_(update) {}
+  std::unique_ptr<frmInetUpdate> MakeWatchedUpdate(UpdateListener& dialog) override {
+    return std::make_unique<frmInetUpdate>(forms_, update_, dialog, CallerCode::UpdateDialog,
+                                           InstallMode::InstallAndRebuild);
+  }
+  std::string Installed() override { return {}; }
+  bool CanUndoUpdate() override { return false; }
+  UndoStatus UndoUpdate() override { return UndoStatus::Impossible; }
+  void OpenUpdateHelp() override {}
+
+ private:
+  FormContext& forms_;
+  const UpdateDependencies& update_;
+};
+
 // A program without data: enough for its windows to open.
 struct EmptyProgram {
   FormContextForTests outside;
@@ -98,6 +116,7 @@ struct EmptyProgram {
   OptionsModel options{settings, outside.faceplate, "C:\\Guide\\Sonaro.exe"};
   UpdateInstall install{folder, settings, stations};
   UpdateDependencies update{settings, folder, words, install, http, {}};
+  NoUpdates updateDialog{forms, update};
   FakeCommands commands;
   NoNotify notify;
   GuideData guide{folder, settings, words, state, stations, personal, extra, recent, favorites, source};
@@ -170,17 +189,7 @@ const NamedForm kForms[] = {
                                  std::string("8080"));
      }},
     {"frmUpdateDialog",
-     [](EmptyProgram& p) {
-       return Make<frmUpdateDialog>(p.forms,
-                                    UpdateDialogCalls{.make =
-                                                          [&p](UpdateListener& dialog) {
-                                                            return std::make_unique<frmInetUpdate>(
-                                                                p.forms, p.update, dialog,
-                                                                CallerCode::UpdateDialog,
-                                                                InstallMode::InstallAndRebuild);
-                                                          }},
-                                    UpdateOpening::Begin);
-     }},
+     [](EmptyProgram& p) { return Make<frmUpdateDialog>(p.forms, p.updateDialog, UpdateOpening::Begin); }},
     {"frmScan",
      [](EmptyProgram& p) { return Make<frmScan>(p.forms, p.scan, p.help, p.favorites, p.commands); }},
     {"frmScanTime", [](EmptyProgram& p) { return Make<frmScanTime>(p.forms, 30); }},
