@@ -51,6 +51,8 @@ struct StartupServices {
   HelpPages& help;
   const Strings& strings;
   MessageBoxView& messageBox;
+  // The three steps that belong to the exchange with the service. Functions, so that the start is tested
+  // without an exchange; an empty one is left out.
   std::function<void()> storeServiceAddresses;  // gives every missing address of the service its default
   std::function<bool()> proxyFound;             // looks for a proxy that the user's browsers are set to
   std::function<void()> finishUndo;             // goes on with an undoing of an update that was cut short

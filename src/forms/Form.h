@@ -89,7 +89,8 @@ class Shape;
 class Strings;
 class TreeView;
 
-// What all forms share; owned by Application. The functions may be empty.
+// What all forms share; owned by Application. The functions may be empty: a form alone, as in the tests, has
+// nobody to sound a click or to bring up a program.
 struct FormContext {
   const Strings& strings;
   Faceplate& faceplate;  // a form that hears of a high-contrast theme sets it

@@ -71,7 +71,9 @@ struct UpdateDependencies {
   const Strings& strings;
   UpdateInstall& install;
   HttpControlFactory& http;
-  std::function<void(std::string_view reason)> runToDo;  // continues with the list of pending work
+  // Continues with the list of pending work. A function, and empty in most tests: the list belongs to the
+  // owner of the exchange, which ends the exchange with it.
+  std::function<void(std::string_view reason)> runToDo;
 };
 
 class UpdateExchange final : private HttpEvents {

@@ -25,7 +25,8 @@ class WebPages : public WebPageOpener {
   WebPages(const StationSource& stations, DataFolder& data, Shell& shell, const Strings& strings)
       : stations_(stations), data_(data), shell_(shell), strings_(strings) {}
 
-  // Tells the user in one sentence why a page was not opened. May be set late; without it nothing is said.
+  // Tells the user in one sentence why a page was not opened; without it nothing is said. Set late because of
+  // a circle: the message box that says it has a key for the help, whose pages are opened here.
   void SetShowErrorText(std::function<void(const std::string& sentence)> say) {
     showErrorText_ = std::move(say);
   }

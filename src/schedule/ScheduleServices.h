@@ -34,7 +34,8 @@ struct ScheduleServices {
   HelpPages& help;
   ClockStyle clockStyle = ClockStyle::Hours24;
   std::string shortDatePattern = {};
-  // When a broadcast event of this name begins next, local time.
+  // Functions: each is one question or one word to the schedule's owner, in the middle of a handler of a
+  // window that knows nothing else of it. When a broadcast event of this name begins next, local time.
   std::function<std::optional<DateTime>(std::string_view show)> nextBroadcast = {};
   std::function<void()> changed = {};  // the table was changed and saved
 };

@@ -55,6 +55,8 @@ class ScheduleTimer {
 
   ScheduleTimer(ScheduleCalendar& calendar, Clock& clock, MessagePost& messages, ScheduleTimerView& view);
 
+  // Set late, both: the notices are made after the timer, and a timer without them is whole (no live item
+  // waits, nothing is told of what was missed).
   void SetLiveStarts(LiveStarts liveStarts) { liveStarts_ = std::move(liveStarts); }
   void SetAwayNotice(AwayNotice awayNotice) { awayNotice_ = std::move(awayNotice); }
 
