@@ -17,7 +17,7 @@ constexpr ControlRow Caption(ControlText text, DesignRect at, unsigned char pane
           .pane = pane};
 }
 
-// What a window that says something has: the picture, and beside it the text, for Form::SetTextAndGrow.
+// What a window that says something has: the picture, and beside it the text, for Label::SetTextAndGrow.
 constexpr ControlRow MessagePicture() {
   return {.id = picStuff,
           .kind = ControlKind::Label,

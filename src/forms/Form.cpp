@@ -163,16 +163,18 @@ void Form::UseLayout(int layout) {
   if (parts_->window) parts_->ResizeWindow();
 }
 
-void Form::SetTextAndGrow(int id, std::string_view text) {
-  SetText(id, text);
-  const ControlInstance* item = parts_->Find(id);
-  const DesignRect* at = item ? BoundsIn(parts_->design, parts_->layout, *item->row) : nullptr;
-  if (!at) return;
-  const Painter asDesigned(FaceplateColors{}, 96);
-  const int needed = asDesigned.WrappedHeight(Widen(text), TextStyleOf(*item->row), at->width);
-  const DesignSize size = SizeOf(parts_->design, parts_->layout);
-  parts_->grown = {size.width, size.height + std::max(0, needed - at->height)};
-  if (parts_->window) parts_->ResizeWindow();
+void Form::ShowPane(int pane, bool shown) {
+  const auto index = static_cast<std::size_t>(pane);
+  if (pane <= 0 || index >= parts_->hiddenPanes.size() || parts_->hiddenPanes[index] == !shown) return;
+  parts_->hiddenPanes[index] = !shown;
+  for (ControlInstance& item : parts_->items) {
+    if (item.row->pane == pane) parts_->ShowOrHide(item);
+  }
+}
+
+int Form::FocusedControl() const {
+  const ControlInstance* item = parts_->Focused();
+  return item ? item->Id() : 0;
 }
 
 void Form::MoveToPixels(int left, int top) {
@@ -203,11 +205,6 @@ void Form::CentreOn(HWND other) {
 
 void Form::PopUpMenu(std::span<const MenuEntry> entries, POINT at) {
   if (parts_->window) ShowPopupMenu(parts_->window, entries, at);
-}
-
-void Form::PopUpMenuUnder(std::span<const MenuEntry> entries, int id) {
-  RECT box{};
-  if (GetWindowRect(Control(id), &box)) PopUpMenu(entries, {box.left, box.bottom});
 }
 
 void Form::StartTimer(int id, unsigned milliseconds) {

@@ -57,7 +57,8 @@
 //   frmGreet greet(context, greeting);
 //   if (greet.ShowModal(main.Window()) == 1) ...
 //
-// A form of many controls gives each of its panes an event table of its own (EventTable.h, AddPart).
+// A form of many controls gives each of its panes the members of its controls and an event table of its own
+// (EventTable.h, AddPart).
 //
 // What every form does by itself: outline, dragging, painting at any dpi, high contrast, Tab and arrow keys,
 // access keys, Enter on the primary button, Esc and Alt+F4 (see OnCloseRequest), F1 on butHelp, tool tips,
@@ -79,15 +80,13 @@
 namespace sonaro {
 
 class Faceplate;
-class Form;
 class FormImpl;
-class ListView;
 class Painter;
-class ProgressScale;
-class RatingPicture;
 class Shape;
 class Strings;
-class TreeView;
+
+// Paints a control of kind Picture; `box` is its client area.
+using PicturePainter = void (*)(HDC dc, const RECT& box, const Painter& painter);
 
 // What all forms share; owned by Application. The functions may be empty: a form alone, as in the tests, has
 // nobody to sound a click or to bring up a program.
@@ -122,69 +121,12 @@ class Form : public EventTarget {
   // Size, place and layout.
   void UseLayout(int layout);  // 0 = the design; keeps the top-left corner, changes outline and places
   int CurrentLayout() const;
-  // Sets the text of a wrapped label that is anchored to top and bottom, and makes the window as much higher
-  // than its layout as the text needs; anchors move the controls.
-  void SetTextAndGrow(int id, std::string_view text);
   void MoveToPixels(int left, int top);  // kept inside the visible screens
   void CentreOn(HWND other);             // nullptr: the work area
 
-  // Controls by number, for the handles of forms/controls/Controls.h, by which a form reaches its controls. A
-  // number that the form does not have is ignored, and reads as "", 0 or false.
-  HWND Control(int id) const;
-  std::string Text(int id) const;
-  void SetText(int id, std::string_view text);
-  // PlayButton: second line, then perhaps a tab and the link's number ("64 kbit/s\t2"). GroupButton: its
-  // figure.
-  void SetDetail(int id, std::string_view text);
-  // GroupButton: an empty socket can be pressed like a button; its text is what pressing it does, read out,
-  // not drawn.
-  void SetEmptySocket(int id, bool empty);
-  bool IsEmptySocket(int id) const;
-  void SetIcon(int id, Icon icon);
-  void SetTextColor(int id, TextColor color);  // a label that reports trouble or success
-  void SetTip(int id, std::string_view text);
-  void Enable(int id, bool enabled = true);
-  bool IsEnabled(int id) const;
-  void ShowControl(int id, bool shown = true);
+  // Controls. A form and its panes work them through the classes of forms/controls/Controls.h.
   void ShowPane(int pane, bool shown = true);
-  void Focus(int id);
   int FocusedControl() const;  // 0: none of this form
-
-  // Check boxes, radio buttons (checking one clears its group) and toggles.
-  void Check(int id, bool checked = true);
-  bool IsChecked(int id) const;
-  void SetToggle(int id, bool active);
-  bool IsToggled(int id) const;
-  void SetToggleOnly(int first, int count, int index);  // one active in a control array; -1: none
-
-  // Header buttons: the one that the list is sorted by. 0: none.
-  void SetSortMark(int id, SortMark mark);
-
-  // Edits.
-  void LimitText(int id, int bytes);
-  void SelectAllText(int id);
-
-  // Combos. Rows count from 0; -1 = none.
-  void AddItem(int id, std::string_view text, int data = 0);
-  void ClearItems(int id);
-  int ItemCount(int id) const;
-  std::string ItemText(int id, int row) const;
-  int ItemData(int id, int row) const;
-  int SelectedItem(int id) const;
-  void SelectItem(int id, int row);
-  bool SelectItemData(int id, int data);
-
-  // Views with a class of their own. The number must be of that kind.
-  ListView& List(int id);
-  TreeView& Tree(int id);
-  RatingPicture& Rating(int id);
-  ProgressScale& Progress(int id);
-  using PicturePainter = std::function<void(HDC dc, const RECT& box, const Painter& painter)>;
-  void SetPicture(int id, PicturePainter paint);
-
-  // Month calendar.
-  SYSTEMTIME CalendarDate(int id) const;
-  void SetCalendarDate(int id, const SYSTEMTIME& date);
 
   // Timers of the timer table; starting again restarts.
   void StartTimer(int id, unsigned milliseconds);
@@ -192,7 +134,6 @@ class Form : public EventTarget {
 
   // Menus: the chosen entry comes as a Click event of its command number.
   void PopUpMenu(std::span<const MenuEntry> entries, POINT at);
-  void PopUpMenuUnder(std::span<const MenuEntry> entries, int id);  // below the control
 
   std::string LoadText(int stringId) const;  // from resources/texts
 
@@ -219,6 +160,7 @@ class Form : public EventTarget {
 
  private:
   friend class FormImpl;
+  friend class ControlHandle;
 
   std::shared_ptr<FormImpl> parts_;  // outlives a form that a handler destroys
 };

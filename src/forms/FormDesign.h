@@ -31,14 +31,14 @@ enum class ControlKind : unsigned char {
   // Buttons: controls of class Button, drawn by Painter. The text is the accessible name and carries the "&".
   PushButton,     // icon and text
   PrimaryButton,  // the one that Enter presses; at most one shown at a time
-  ToggleButton,  // push button that can be active (SetToggle); an array of them is moved through by the arrow
+  ToggleButton,  // push button that can be active (SetActive); an array of them is moved through by the arrow
                  // keys
   StripButton,   // icon only; the text becomes the tool tip
   RankingButton,  // toggle with icon at the left
-  GroupButton,    // toggle "1 Jazz", or an empty socket (Form::SetEmptySocket)
-  PlayButton,     // two lines: text "Play MP3", second line by SetDetail
+  GroupButton,    // toggle "1 Jazz", or an empty socket (GroupButton::SetEmptySocket)
+  PlayButton,     // two lines: text "Play MP3", second line by TwoLineButton::SetDetail
   HeaderButton,   // over a list column: SetSortMark shows the active one
-  TabButton,      // one of the dial's tabs (SetToggle); stands on a row of kind Dial
+  TabButton,      // one of the dial's tabs (SetActive); stands on a row of kind Dial
   CheckBox,
   RadioButton,  // one of its group is checked
   // Texts that the user types.
@@ -48,12 +48,12 @@ enum class ControlKind : unsigned char {
   Combo,         // drop list
   ComboEdit,     // with an edit field
   // Views, each with a class of its own in forms/.
-  ListView,       // reach it by Form::List
-  TreeView,       // by Form::Tree
+  ListView,       // reach it by ListHandle
+  TreeView,       // by TreeHandle
   MonthCalendar,  // the system's control
-  Picture,        // painted by the function that Form::SetPicture was given
-  Rating,         // rating picture, by Form::Rating; the text is its caption
-  Progress,       // progress scale, by Form::Progress
+  Picture,        // painted by the function that Picture::SetPainter was given
+  Rating,         // rating picture, by RatingHandle; the text is its caption
+  Progress,       // progress scale, by ProgressHandle
   // Painted by the form behind the controls, no windows. Number 0 unless they are to be hidden and shown.
   Glass,   // panel; `cut` is the size of its cut corners
   Dial,    // the tab dial's glass and ticks
@@ -72,7 +72,7 @@ enum ControlFlag : unsigned {
   // Toggle buttons and radio buttons in a run of rows form a group: one of them is the tab stop and the arrow
   // keys move among them. kGroup starts another group within such a run.
   kGroup = 4,
-  kHidden = 8,     // hidden until ShowControl
+  kHidden = 8,     // hidden until Show
   kDisabled = 16,  // disabled until Enable
   kWrap = 32,      // Label: several lines
   kRightAligned = 64,

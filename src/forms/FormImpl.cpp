@@ -1,8 +1,6 @@
 // Finding controls and running the handlers of the event tables.
 #include "forms/FormImpl.h"
 
-#include <stdexcept>
-
 #include "settings/Strings.h"
 
 namespace sonaro {
@@ -67,13 +65,12 @@ ControlInstance* FormImpl::Find(HWND control) {
   return nullptr;
 }
 
-FormControl& FormImpl::ViewOf(int id) {
-  const ControlInstance* item = Find(id);
-  if (!item || !item->view) throw std::out_of_range("the form has no view of this number");
-  return *item->view;
-}
-
 ControlInstance* FormImpl::Focused() { return Find(GetFocus()); }
+
+void FormImpl::FocusOn(const ControlInstance& item) {
+  focusGiven = true;
+  SendMessageW(window, WM_NEXTDLGCTL, reinterpret_cast<WPARAM>(item.Window()), TRUE);
+}
 
 std::span<ControlInstance> FormImpl::GroupOf(const ControlInstance& item) {
   auto first = static_cast<std::size_t>(&item - items.data());
@@ -153,8 +150,10 @@ void FormImpl::Press(int id) {
     return;
   }
   if (Handle({.id = id}) || !form) return;
-  form->Focus(id);
-  form->SelectAllText(id);
+  FocusOn(*item);
+  if (item->KindOf() == ControlKind::ComboEdit)
+    SendMessageW(item->window, CB_SETEDITSEL, 0, MAKELPARAM(0, -1));
+  if (IsEdit(item->KindOf())) SendMessageW(item->window, EM_SETSEL, 0, -1);
 }
 
 void FormImpl::Escape() {

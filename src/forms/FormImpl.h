@@ -29,7 +29,7 @@ struct ControlInstance {
   FormImpl* parts = nullptr;
   HWND window = nullptr;       // nullptr: a decoration, or a view
   WNDPROC original = nullptr;  // the procedure of its class
-  bool wanted = true;          // not hidden by kHidden or ShowControl
+  bool wanted = true;          // not hidden by kHidden or ControlHandle::Show
   bool shown = false;          // wanted, in a shown pane, and with a place in the layout
   bool hover = false;
   bool emptySocket = false;  // GroupButton
@@ -39,7 +39,7 @@ struct ControlInstance {
   Icon icon = Icon::None;
   TextColor color = TextColor::Default;
   SortMark sort = SortMark::None;
-  Form::PicturePainter picture;
+  PicturePainter picture = nullptr;
   std::unique_ptr<FormControl> view;
   std::unique_ptr<ScrollBar> bar;  // of a text of several lines
 
@@ -59,6 +59,19 @@ bool IsCombo(ControlKind kind);
 bool IsFramedView(ControlKind kind);  // ListView, TreeView: in glass that the form paints
 bool IsDecoration(ControlKind kind);  // painted by the form, no window
 TextStyle TextStyleOf(const ControlRow& row);
+
+// Sets a flag for as long as it lives.
+class Quietly {
+ public:
+  explicit Quietly(bool& quiet) : quiet_(quiet), before_(quiet) { quiet_ = true; }
+  ~Quietly() { quiet_ = before_; }
+  Quietly(const Quietly&) = delete;
+  Quietly& operator=(const Quietly&) = delete;
+
+ private:
+  bool& quiet_;
+  bool before_;
+};
 
 // The form's ground: plate, decorations, outline. Painted once for a look and a layout; controls copy from it
 // what lies behind them.
@@ -89,11 +102,11 @@ class FormImpl final : public FormServices, public std::enable_shared_from_this<
 
   ControlInstance* Find(int id);
   ControlInstance* Find(HWND window);  // the control or a window inside it
-  FormControl& ViewOf(int id);         // throws std::out_of_range where there is none
   ControlInstance* Focused();
   std::span<ControlInstance> GroupOf(
       const ControlInstance& item);  // with its neighbours in the arrow keys' group
   ControlInstance* ShownPrimary();
+  void FocusOn(const ControlInstance& item);
 
   // Runs the handler of the event table; false when none is bound. The form may be gone afterwards.
   bool Handle(const FormEvent& event);
@@ -122,6 +135,8 @@ class FormImpl final : public FormServices, public std::enable_shared_from_this<
   void PlaceControls();
   void ShowOrHide(ControlInstance& item);
   void UpdateTabStops();  // one in each group; before the focus moves by the keyboard
+  // Makes the window as much higher than its layout as the text in this label needs.
+  void GrowFor(const ControlInstance& label, std::string_view text);
   DesignSize Size() const;
   RECT WindowBox(
       const ControlInstance& item) const;  // of the control's window, which may be smaller than its place
@@ -163,7 +178,7 @@ class FormImpl final : public FormServices, public std::enable_shared_from_this<
   HBRUSH glassBrush = nullptr;
   HBRUSH plateBrush = nullptr;
   HBRUSH offBrush = nullptr;
-  DesignSize grown;  // by SetTextAndGrow; {} = the layout's size
+  DesignSize grown;  // by GrowFor; {} = the layout's size
   int layout = 0;
   int needleTab = 0;            // the tab that was made active last
   std::optional<int> needleAt;  // while it moves, in pixels of the form; set by its timer

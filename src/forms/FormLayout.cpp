@@ -3,9 +3,12 @@
 
 #include <uxtheme.h>
 
+#include <algorithm>
+
 #include "faceplate/Faceplate.h"
 #include "forms/Dpi.h"
 #include "forms/FormImpl.h"
+#include "forms/WideText.h"
 #include "forms/WindowShape.h"
 #include "platform/SystemFunction.h"
 
@@ -42,6 +45,16 @@ void SetTabStop(HWND control, bool stop) {
 }  // namespace
 
 DesignSize FormImpl::Size() const { return grown.width > 0 ? grown : SizeOf(design, layout); }
+
+void FormImpl::GrowFor(const ControlInstance& label, std::string_view text) {
+  const DesignRect* at = BoundsIn(design, layout, *label.row);
+  if (!at) return;
+  const Painter asDesigned(FaceplateColors{}, 96);
+  const int needed = asDesigned.WrappedHeight(Widen(text), TextStyleOf(*label.row), at->width);
+  const DesignSize size = SizeOf(design, layout);
+  grown = {size.width, size.height + std::max(0, needed - at->height)};
+  if (window) ResizeWindow();
+}
 
 void FormImpl::ChooseDpi(HMONITOR monitor) {
   MONITORINFO info{};

@@ -1,4 +1,4 @@
-// The controls with a class of their own: which kind is made by which class, and the way to them.
+// The controls with a class of their own: which kind is made by which class.
 #include "forms/FormImpl.h"
 #include "forms/controls/ListView.h"
 #include "forms/controls/ProgressScale.h"
@@ -21,11 +21,5 @@ std::unique_ptr<FormControl> FormImpl::MakeView(const ControlRow& row) {
       return nullptr;
   }
 }
-
-// A number of another kind is a mistake in the form's own code: the cast throws, and the window goes on.
-ListView& Form::List(int id) { return dynamic_cast<ListView&>(parts_->ViewOf(id)); }
-TreeView& Form::Tree(int id) { return dynamic_cast<TreeView&>(parts_->ViewOf(id)); }
-RatingPicture& Form::Rating(int id) { return dynamic_cast<RatingPicture&>(parts_->ViewOf(id)); }
-ProgressScale& Form::Progress(int id) { return dynamic_cast<ProgressScale&>(parts_->ViewOf(id)); }
 
 }  // namespace sonaro

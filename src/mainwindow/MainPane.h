@@ -3,7 +3,8 @@
 // are shown.
 #pragma once
 
-#include "forms/Form.h"
+#include "forms/ControlIds.h"
+#include "forms/controls/Controls.h"
 #include "mainwindow/MainModels.h"
 #include "settings/Message.h"
 

@@ -53,7 +53,7 @@ void SonaroFrm::BringUpView(std::string_view name) {
        {View::YourSonaro, View::List, View::Browse, View::BrowseLoc, View::Search, View::PersonalPage}) {
     if (NameOf(view) == name) ShowView(view);
   }
-  if (name == NameOf(View::Search)) Focus(txtQuickSearch);
+  if (name == NameOf(View::Search)) txtQuickSearch_.Focus();
 }
 
 void SonaroFrm::ShowView(View view) {
@@ -77,7 +77,7 @@ void SonaroFrm::ShowEverything() {
   ShowSelection();
   // What had the focus may have gone with its pane; the focus is then wherever the system put it.
   if (focused != 0 && FocusedControl() != focused) {
-    Focus(state.middle == Middle::EventPage ? lstEvents : lstFavs);
+    (state.middle == Middle::EventPage ? lstEvents_ : lstFavs_).Focus();
   }
 }
 
@@ -90,7 +90,7 @@ void SonaroFrm::ShowPanes() {
   ShowPane(kListPane, state.middle == Middle::StationList);
   ShowPane(kWebPane, state.middle == Middle::WebSearch);
   ShowPane(kEventPane, state.middle == Middle::EventPage);
-  SetText(lblSide, LoadText(SideCaptionOf(state.view)));
+  lblSide_.SetText(LoadText(SideCaptionOf(state.view)));
 }
 
 void SonaroFrm::ShowSelection() {

@@ -58,6 +58,10 @@ class SonaroFrm final : public Form, private MainView {
   PersonalPane personal_{context_};
   ListPane list_{context_, groups_, detail_, personal_};
   DragPane drag_{context_, list_, groups_};
+  Label lblSide_{*this, lblSide};
+  ListHandle lstFavs_{*this, lstFavs};
+  ListHandle lstEvents_{*this, lstEvents};
+  ComboBox txtQuickSearch_{*this, txtQuickSearch};
 };
 
 }  // namespace sonaro

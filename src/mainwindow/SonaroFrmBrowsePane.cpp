@@ -30,9 +30,8 @@ std::span<const EventRow> BrowsePane::Events() const {
 
 void BrowsePane::Show() {
   const ListingState& state = context_.models.listing.State();
-  for (int button = 0; button < static_cast<int>(kRankingButtons.size()); ++button) {
-    form_.SetToggle(butNewStations + button,
-                    state.ranking == kRankingButtons[static_cast<std::size_t>(button)]);
+  for (int button = 0; button < butRankings_.Count(); ++button) {
+    butRankings_[button].SetActive(state.ranking == kRankingButtons[static_cast<std::size_t>(button)]);
   }
   if (state.view == View::Browse || state.view == View::BrowseLoc) ShowTree();
 }
@@ -43,7 +42,7 @@ void BrowsePane::GuideChanged() {
 }
 
 void BrowsePane::ShowTree() {
-  TreeView& view = form_.Tree(treeBrowse);
+  TreeView& view = *treeBrowse_;
   if (shown_ != tree_.Mode()) {
     shown_ = tree_.Mode();
     view.BeginFill();
@@ -90,7 +89,7 @@ void BrowsePane::mnuActionRanking_Click(int entry) {
 }
 
 void BrowsePane::treeBrowse_NodeClick(HTREEITEM item) {
-  const int node = form_.Tree(treeBrowse).Data(item);
+  const int node = treeBrowse_->Data(item);
   if (node < 0 || static_cast<std::size_t>(node) >= tree_.NodeCount()) return;
   context_.models.listing.treeBrowse_NodeClick(tree_.Node(node));
   context_.view.ShowEverything();

@@ -39,6 +39,8 @@ class BrowsePane final : public EventTarget {
   const MainContext& context_;
   Form& form_;
   BrowseTree& tree_;
+  ControlArray<ToggleButton> butRankings_{form_, butNewStations, 7};
+  TreeHandle treeBrowse_{form_, treeBrowse};
   BrowseMode shown_ = BrowseMode::NotBuilt;
   HTREEITEM personal_ = nullptr;  // "Your Stations"
 };

@@ -14,9 +14,6 @@
 namespace sonaro {
 namespace {
 
-constexpr int kRatingPictures[] = {imgOverAll, imgSound, imgSpeed, imgWebSite};
-constexpr int kPlayButtonIds[] = {butGoMediaLinkOneIt, butGoMediaLinkTwoIt, butGoMediaLinkThreeIt};
-
 void PaintHair(HDC dc, const RECT& box, const Painter& painter) {
   painter.Fill(dc, {box.left, box.top, box.right, box.top + painter.Line()}, painter.Colors().hair);
 }
@@ -49,10 +46,10 @@ std::span<const EventRow> DetailPane::Events() const {
 }
 
 void DetailPane::Load() {
-  form_.SetPicture(picNoStation, PaintNoStation);
-  form_.SetPicture(picHairAbove, PaintHair);
-  form_.SetPicture(picHairBelow, PaintHair);
-  form_.SetPicture(picPin, PaintPin);
+  picNoStation_.SetPainter(PaintNoStation);
+  picHairAbove_.SetPainter(PaintHair);
+  picHairBelow_.SetPainter(PaintHair);
+  picPin_.SetPainter(PaintPin);
 }
 
 void DetailPane::Show(const StationKey& station) {
@@ -61,30 +58,31 @@ void DetailPane::Show(const StationKey& station) {
   const bool anything = !detail.name.empty();
   form_.ShowPane(kStationPane, anything);
   form_.ShowPane(kNoStationPane, !anything);
-  form_.SetText(lblStationName, detail.name);
-  form_.SetTip(lblStationName, detail.name);
-  form_.SetText(lblStationLocation, detail.location);
-  form_.ShowControl(picPin, !detail.location.empty());
-  form_.SetText(txtDescription, detail.description);
-  form_.ShowControl(txtDescription, !detail.description.empty());  // else Tab stops where nothing is seen
+  lblStationName_.SetText(detail.name);
+  lblStationName_.SetTip(detail.name);
+  lblStationLocation_.SetText(detail.location);
+  picPin_.Show(!detail.location.empty());
+  txtDescription_.SetText(detail.description);
+  txtDescription_.Show(!detail.description.empty());  // else Tab stops where nothing is seen
   ShowRatings(detail);
   ShowPlayButtons(detail);
-  form_.Enable(butGoWebPageIt, detail.hasWebSite);
+  butGoWebPageIt_.Enable(detail.hasWebSite);
 }
 
 void DetailPane::ShowRatings(const StationDetail& detail) {
   for (std::size_t i = 0; i < StationDetail::kRatings; ++i) {
     const RatingFigure& rating = detail.ratings[i];
-    form_.Rating(kRatingPictures[i]).SetRating(rating.halves, rating.figure, rating.spoken);
+    ratings_[i]->SetRating(rating.halves, rating.figure, rating.spoken);
   }
 }
 
 void DetailPane::ShowPlayButtons(const StationDetail& detail) {
   for (std::size_t i = 0; i < StationDetail::kPlayButtons; ++i) {
     const PlayButton& key = detail.playButtons[i];
-    form_.SetText(kPlayButtonIds[i], key.caption);
-    form_.SetDetail(kPlayButtonIds[i], key.bitRate + "\t" + std::to_string(i + 1));
-    form_.ShowControl(kPlayButtonIds[i], key.shown);
+    const TwoLineButton button = butGoMediaLink_[static_cast<int>(i)];
+    button.SetText(key.caption);
+    button.SetDetail(key.bitRate + "\t" + std::to_string(i + 1));
+    button.Show(key.shown);
   }
 }
 

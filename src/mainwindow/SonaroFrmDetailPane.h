@@ -3,6 +3,8 @@
 // menu was opened for. Part of SonaroFrm.
 #pragma once
 
+#include <array>
+
 #include "mainwindow/MainPane.h"
 
 namespace sonaro {
@@ -36,6 +38,17 @@ class DetailPane final : public EventTarget {
   const MainContext& context_;
   Form& form_;
   CommandSubject& subject_;
+  Picture picNoStation_{form_, picNoStation};
+  Picture picHairAbove_{form_, picHairAbove};
+  Picture picHairBelow_{form_, picHairBelow};
+  Picture picPin_{form_, picPin};
+  Label lblStationName_{form_, lblStationName};
+  Label lblStationLocation_{form_, lblStationLocation};
+  Edit txtDescription_{form_, txtDescription};
+  std::array<RatingHandle, StationDetail::kRatings> ratings_{
+      {{form_, imgOverAll}, {form_, imgSound}, {form_, imgSpeed}, {form_, imgWebSite}}};
+  ControlArray<TwoLineButton> butGoMediaLink_{form_, butGoMediaLinkOneIt, StationDetail::kPlayButtons};
+  Button butGoWebPageIt_{form_, butGoWebPageIt};
 };
 
 }  // namespace sonaro

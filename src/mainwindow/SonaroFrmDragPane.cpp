@@ -11,12 +11,9 @@
 #include "forms/controls/ListView.h"
 #include "mainwindow/SonaroFrmGroupsPane.h"
 #include "mainwindow/SonaroFrmListPane.h"
-#include "stations/FavoriteGroups.h"
 
 namespace sonaro {
 namespace {
-
-constexpr int kSlots = static_cast<int>(FavoriteGroups::kSlots);
 
 HCURSOR SystemCursor(int id) { return LoadCursorW(nullptr, MAKEINTRESOURCEW(id)); }
 // Where the pointer was when the message came up; it may be elsewhere by now.
@@ -31,11 +28,11 @@ constexpr int kNoCursor = 32648;
 }  // namespace
 
 void DragPane::Load() {
-  for (int slot = 0; slot < kSlots; ++slot) {
-    SetWindowSubclass(form_.Control(butFavs + slot), GroupButtonProcedure, static_cast<UINT_PTR>(slot),
+  for (int slot = 0; slot < butFavs_.Count(); ++slot) {
+    SetWindowSubclass(butFavs_[slot].Window(), GroupButtonProcedure, static_cast<UINT_PTR>(slot),
                       reinterpret_cast<DWORD_PTR>(this));
   }
-  form_.List(lstFavs).onBeginDrag = [this](int row) { Begin(Thing::Row, list_.KeyAt(row), {}); };
+  lstFavs_->onBeginDrag = [this](int row) { Begin(Thing::Row, list_.KeyAt(row), {}); };
 }
 
 LRESULT CALLBACK DragPane::GroupButtonProcedure(HWND key, UINT message, WPARAM wParam, LPARAM lParam,
@@ -114,9 +111,9 @@ void DragPane::End() {
 }
 
 int DragPane::SlotAt(POINT screen) const {
-  for (int slot = 0; slot < kSlots; ++slot) {
+  for (int slot = 0; slot < butFavs_.Count(); ++slot) {
     RECT box{};
-    GetWindowRect(form_.Control(butFavs + slot), &box);
+    GetWindowRect(butFavs_[slot].Window(), &box);
     if (PtInRect(&box, screen)) return slot;
   }
   return -1;
@@ -131,8 +128,8 @@ DragPane::Drop DragPane::DropAt(POINT screen) const {
   } else if (const int slot = SlotAt(screen); slot >= 0) {
     drop.onto = Thing::Group;
     drop.to = slot;
-  } else if (what_ == Thing::Row && WindowFromPoint(screen) == form_.Control(lstFavs)) {
-    drop.to = form_.List(lstFavs).RowAt(screen);
+  } else if (what_ == Thing::Row && WindowFromPoint(screen) == lstFavs_.Window()) {
+    drop.to = lstFavs_->RowAt(screen);
     drop.onto = drop.to >= 0 ? Thing::Row : Thing::Nothing;
   }
   return drop;

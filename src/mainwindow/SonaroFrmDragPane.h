@@ -46,6 +46,8 @@ class DragPane {
   Form& form_;
   ListPane& list_;
   GroupsPane& groups_;
+  ControlArray<GroupButton> butFavs_{form_, butFavs, 10};
+  ListHandle lstFavs_{form_, lstFavs};
   Thing what_ = Thing::Nothing;  // what is dragged
   // The row's station or the group's name, asked when the drag begins: rows and groups may change while the
   // button is down.

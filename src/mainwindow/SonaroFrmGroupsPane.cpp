@@ -56,27 +56,27 @@ void GroupsPane::Show() {
   const std::size_t count = groups_.Count();
   const std::size_t shown = subject_.GroupOnShow().value_or(count);
   for (std::size_t slot = 0; slot < FavoriteGroups::kSlots; ++slot) {
-    const int key = butFavs + static_cast<int>(slot);
+    const GroupButton button = butFavs_[static_cast<int>(slot)];
     const bool used = slot < count;
     const std::string text = used ? std::string(groups_.Name(slot)) : form_.LoadText(IDS_GROUP_SOCKET);
-    form_.SetEmptySocket(key, !used);
-    form_.SetText(key, text);
-    form_.SetTip(key, text);
-    form_.SetDetail(key, std::to_string((slot + 1) % FavoriteGroups::kSlots));
-    form_.SetToggle(key, used && shown == slot);
+    button.SetEmptySocket(!used);
+    button.SetText(text);
+    button.SetTip(text);
+    button.SetFigure(std::to_string((slot + 1) % FavoriteGroups::kSlots));
+    button.SetActive(used && shown == slot);
   }
-  form_.ClearItems(cmbFavs);
+  cmbFavs_.ClearItems();
   for (std::size_t group = 0; group < count; ++group) {
-    form_.AddItem(cmbFavs, groups_.Name(group), static_cast<int>(group) + 1);
+    cmbFavs_.AddItem(groups_.Name(group), static_cast<int>(group) + 1);
   }
-  form_.SelectItem(cmbFavs, shown < count ? static_cast<int>(shown) : 0);
-  form_.Enable(butRemoveGroup, subject_.Group().has_value());
+  cmbFavs_.SelectItem(shown < count ? static_cast<int>(shown) : 0);
+  butRemoveGroup_.Enable(subject_.Group().has_value());
 }
 
 // The button that something dragged would fall on is lit beside the one of the group on show.
 void GroupsPane::ShowDropOn(int slot) {
   Show();
-  if (slot >= 0) form_.SetToggle(butFavs + slot, true);
+  if (slot >= 0) butFavs_[slot].SetActive(true);
 }
 
 std::string GroupsPane::NameOf(std::size_t group) const {
@@ -94,7 +94,7 @@ void GroupsPane::butFavs_Click(int group) {
 }
 
 void GroupsPane::cmbFavs_SelChange() {
-  const int group = form_.ItemData(cmbFavs, form_.SelectedItem(cmbFavs));
+  const int group = cmbFavs_.ItemData(cmbFavs_.SelectedItem());
   if (group > 0) butFavs_Click(group - 1);
 }
 
@@ -111,9 +111,8 @@ void GroupsPane::butRecent_Click() {
 // The focus can stand on the button of a group that is not on show. A key that means one brings it there
 // first, so that the user sees which. True when it did.
 bool GroupsPane::ShowFocusedGroup() {
-  const int focused = form_.FocusedControl() - butFavs;
-  if (subject_.OpenMenu() || focused < 0 || static_cast<std::size_t>(focused) >= FavoriteGroups::kSlots)
-    return false;
+  const int focused = butFavs_.Focused();
+  if (subject_.OpenMenu() || focused < 0) return false;
   const auto group = static_cast<std::size_t>(focused);
   if (group >= groups_.Count() || subject_.GroupOnShow() == group) return false;
   butFavs_Click(focused);

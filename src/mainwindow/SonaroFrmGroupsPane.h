@@ -5,6 +5,7 @@
 #include "mainwindow/FavoriteCommands.h"
 #include "mainwindow/MainPane.h"
 #include "mainwindow/PlaylistDialogs.h"
+#include "stations/FavoriteGroups.h"
 
 namespace sonaro {
 
@@ -60,6 +61,9 @@ class GroupsPane final : public EventTarget, private FavoritePrompts {
   const FavoriteGroups& groups_;
   const CommandSubject& subject_;
   StatusPane& status_;
+  ControlArray<GroupButton> butFavs_{form_, butFavs, static_cast<int>(FavoriteGroups::kSlots)};
+  ComboBox cmbFavs_{form_, cmbFavs};
+  Button butRemoveGroup_{form_, butRemoveGroup};
   PlaylistDialogs playlists_;
   FavoriteCommands commands_;
 };

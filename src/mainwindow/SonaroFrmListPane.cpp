@@ -31,7 +31,7 @@ std::span<const EventRow> ListPane::Events() const {
 }
 
 void ListPane::Load() {
-  ListView& list = form_.List(lstFavs);
+  ListView& list = *lstFavs_;
   list.SetColumns({{form_.LoadText(IDS_COLUMN_NAME), 185},
                    {form_.LoadText(IDS_COLUMN_LOCATION), 112},
                    {form_.LoadText(IDS_COLUMN_MEDIA_TYPE), 82},
@@ -40,20 +40,20 @@ void ListPane::Load() {
 }
 
 void ListPane::ShowRows() {
-  ListView& list = form_.List(lstFavs);
+  ListView& list = *lstFavs_;
   const StationRows& rows = listing_.Rows();
   ShowEmptyText();
   list.RowsChanged();
   list.Select(rows.Selected() ? static_cast<int>(*rows.Selected()) : -1);
   const ListingState& state = listing_.State();
-  form_.SetText(lblListing, state.caption);
+  lblListing_.SetText(state.caption);
   ShowMissing();
   const std::size_t count = rows.StationCount();
   const int textId = count == 1 ? IDS_COUNT_ONE_STATION : IDS_COUNT_STATIONS;
-  form_.SetText(lblCount, state.holds == Holds::Nothing && count == 0
-                              ? std::string()
-                              : FormatText(form_.LoadText(textId),
-                                           {FormatCount(count, context_.data.state.decimalMode)}));
+  lblCount_.SetText(
+      state.holds == Holds::Nothing && count == 0
+          ? std::string()
+          : FormatText(form_.LoadText(textId), {FormatCount(count, context_.data.state.decimalMode)}));
 }
 
 // Beside the caption, which is shorter then.
@@ -61,9 +61,9 @@ void ListPane::ShowMissing() {
   const ListingState& state = listing_.State();
   const std::size_t count = state.middle == Middle::StationList ? state.missing.size() : 0;
   const int textId = count == 1 ? IDS_GROUP_MISSING_ONE : IDS_GROUP_MISSING;
-  form_.SetText(butMissing,
-                FormatText(form_.LoadText(textId), {FormatCount(count, context_.data.state.decimalMode)}));
-  form_.ShowControl(butMissing, count > 0);
+  butMissing_.SetText(
+      FormatText(form_.LoadText(textId), {FormatCount(count, context_.data.state.decimalMode)}));
+  butMissing_.Show(count > 0);
   form_.UseLayout(count > 0 ? kMainLayoutWithMissing : 0);
 }
 
@@ -95,7 +95,7 @@ void ListPane::ShowEmptyText() {
     case Holds::Ranking:
       break;
   }
-  form_.List(lstFavs).SetEmptyText(form_.LoadText(heading), form_.LoadText(help));
+  lstFavs_->SetEmptyText(form_.LoadText(heading), form_.LoadText(help));
 }
 
 void ListPane::ShowSort() {
@@ -103,7 +103,7 @@ void ListPane::ShowSort() {
   for (const SortEntry& entry : SortEntries()) {
     if (entry.headerButton == 0) continue;
     const bool active = sort.on && sort.key == entry.key;
-    form_.SetSortMark(entry.headerButton, active ? SortMark::Up : SortMark::None);
+    butSplit_[entry.headerButton - butSplit1].SetSortMark(active ? SortMark::Up : SortMark::None);
   }
 }
 

@@ -59,6 +59,11 @@ class ListPane final : public EventTarget, private ListModel {
   GroupsPane& groups_;
   DetailPane& detail_;
   PersonalPane& personal_;
+  ListHandle lstFavs_{form_, lstFavs};
+  ControlArray<ColumnButton> butSplit_{form_, butSplit1, 4};
+  Label lblListing_{form_, lblListing};
+  Label lblCount_{form_, lblCount};
+  Button butMissing_{form_, butMissing};
 };
 
 }  // namespace sonaro

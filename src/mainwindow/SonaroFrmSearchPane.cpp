@@ -19,48 +19,48 @@ std::span<const EventRow> SearchPane::Events() const {
 void SearchPane::Load() {
   search_.LoadSearchKinds(form_.LoadText(IDS_SEARCH_KIND_STATIONS));
   for (std::size_t i = 0; i < SearchPanel::kMaxKinds; ++i) {
-    const int button = optSearchType + static_cast<int>(i);
+    const RadioButton button = optSearchType_[static_cast<int>(i)];
     const bool used = i < search_.Kinds().size();
-    if (used) form_.SetText(button, search_.Kinds()[i].caption);
-    form_.ShowControl(button, used);
+    if (used) button.SetText(search_.Kinds()[i].caption);
+    button.Show(used);
   }
-  form_.Check(optSearchType);
-  form_.Check(optSearch);
+  optSearchType_[0].Check();
+  optSearch_.Check();
   ShowHistory();
 }
 
 void SearchPane::ShowHistory() {
-  const std::string typed = form_.Text(txtQuickSearch);
-  form_.ClearItems(txtQuickSearch);
-  for (const std::string& entry : search_.History()) form_.AddItem(txtQuickSearch, entry);
-  form_.SetText(txtQuickSearch, typed);
+  const std::string typed = txtQuickSearch_.Text();
+  txtQuickSearch_.ClearItems();
+  for (const std::string& entry : search_.History()) txtQuickSearch_.AddItem(entry);
+  txtQuickSearch_.SetText(typed);
 }
 
 void SearchPane::ShowWebSearch() {
-  form_.SetText(lblWebAsked, FormatText(form_.LoadText(IDS_WEB_ASKED), {search_.WebWords()}));
-  form_.SetText(lblWebAddress, search_.WebAddress());
-  form_.SetText(lblListing, search_.WebCaption());
-  form_.SetText(lblCount, "");
+  lblWebAsked_.SetText(FormatText(form_.LoadText(IDS_WEB_ASKED), {search_.WebWords()}));
+  lblWebAddress_.SetText(search_.WebAddress());
+  lblListing_.SetText(search_.WebCaption());
+  lblCount_.SetText("");
 }
 
 std::size_t SearchPane::ChosenKind() const {
-  for (int i = 0; i < static_cast<int>(SearchPanel::kMaxKinds) - 1; ++i) {
-    if (form_.IsChecked(optSearchType + i)) return static_cast<std::size_t>(i);
+  for (int i = 0; i < optSearchType_.Count() - 1; ++i) {
+    if (optSearchType_[i].IsChecked()) return static_cast<std::size_t>(i);
   }
   return SearchPanel::kMaxKinds - 1;
 }
 
 void SearchPane::FindStation() {
-  switch (search_.FindStation(form_.Text(txtQuickSearch), ChosenKind(), form_.IsChecked(optSearch))) {
+  switch (search_.FindStation(txtQuickSearch_.Text(), ChosenKind(), optSearch_.IsChecked())) {
     case SearchPanel::Outcome::Nothing:
-      return form_.Focus(txtQuickSearch);
+      return txtQuickSearch_.Focus();
     case SearchPanel::Outcome::Web:
       context_.view.ShowEverything();
       return butWebOpen_Click();
     case SearchPanel::Outcome::Stations:
       ShowHistory();
       context_.view.ShowEverything();
-      return form_.Focus(lstFavs);
+      return lstFavs_.Focus();
   }
 }
 

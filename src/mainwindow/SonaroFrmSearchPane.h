@@ -24,6 +24,14 @@ class SearchPane final : public EventTarget {
   const MainContext& context_;
   Form& form_;
   SearchPanel& search_;
+  ComboBox txtQuickSearch_{form_, txtQuickSearch};
+  RadioButton optSearch_{form_, optSearch};  // all words; the other one any word
+  ControlArray<RadioButton> optSearchType_{form_, optSearchType, static_cast<int>(SearchPanel::kMaxKinds)};
+  Label lblWebAsked_{form_, lblWebAsked};
+  Edit lblWebAddress_{form_, lblWebAddress};
+  Label lblListing_{form_, lblListing};
+  Label lblCount_{form_, lblCount};
+  ListHandle lstFavs_{form_, lstFavs};
 };
 
 }  // namespace sonaro

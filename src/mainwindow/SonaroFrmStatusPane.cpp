@@ -36,12 +36,12 @@ void StatusPane::ShowGuide() {
   int textId = IDS_STATUS_GUIDE;
   if (!updated.empty()) textId = IDS_STATUS_GUIDE_UPDATED;
   if (count == 0) textId = IDS_STATUS_NO_GUIDE;
-  form_.SetText(lblStatus, FormatText(form_.LoadText(textId),
-                                      {FormatCount(count, context_.data.state.decimalMode), updated}));
+  lblStatus_.SetText(
+      FormatText(form_.LoadText(textId), {FormatCount(count, context_.data.state.decimalMode), updated}));
 }
 
 void StatusPane::Say(const std::string& sentence) {
-  form_.SetText(lblStatus, sentence);
+  lblStatus_.SetText(sentence);
   said_ = Said::JustNow;
 }
 
@@ -54,16 +54,16 @@ void StatusPane::WindowChanged() {
 void StatusPane::ShowProgress(const std::string& what, int percent) {
   form_.ShowPane(kStatusPane, false);
   form_.ShowPane(kProgressPane);
-  form_.Enable(butUpdate, false);
-  form_.SetText(lblProgress, what);
-  form_.Progress(picProgress).SetProgress(std::clamp(percent, 0, 100), 100);
-  form_.SetText(lblPercent, percent < 0 ? std::string() : std::to_string(std::min(percent, 100)) + "%");
+  butUpdate_.Enable(false);
+  lblProgress_.SetText(what);
+  picProgress_->SetProgress(std::clamp(percent, 0, 100), 100);
+  lblPercent_.SetText(percent < 0 ? std::string() : std::to_string(std::min(percent, 100)) + "%");
 }
 
 void StatusPane::EndProgress() {
   form_.ShowPane(kProgressPane, false);
   form_.ShowPane(kStatusPane);
-  form_.Enable(butUpdate);
+  butUpdate_.Enable();
   ShowGuide();
 }
 

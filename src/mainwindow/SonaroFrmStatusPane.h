@@ -35,6 +35,11 @@ class StatusPane final : public EventTarget {
 
   const MainContext& context_;
   Form& form_;
+  Label lblStatus_{form_, lblStatus};
+  Label lblProgress_{form_, lblProgress};
+  Label lblPercent_{form_, lblPercent};
+  ProgressHandle picProgress_{form_, picProgress};
+  Button butUpdate_{form_, butUpdate};
   Said said_ = Said::Nothing;
 };
 

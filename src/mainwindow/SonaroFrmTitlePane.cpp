@@ -32,8 +32,8 @@ std::span<const EventRow> TitlePane::Events() const {
 
 void TitlePane::Show() {
   const View shown = context_.models.listing.State().view;
-  for (std::size_t tab = 0; tab < kTabs.size(); ++tab)
-    form_.SetToggle(butTabs + static_cast<int>(tab), kTabs[tab] == shown);
+  for (int tab = 0; tab < butTabs_.Count(); ++tab)
+    butTabs_[tab].SetActive(kTabs[static_cast<std::size_t>(tab)] == shown);
 }
 
 void TitlePane::butTabs_Click(int tab) { context_.view.ShowView(kTabs[static_cast<std::size_t>(tab)]); }
@@ -41,8 +41,8 @@ void TitlePane::butTabs_Click(int tab) { context_.view.ShowView(kTabs[static_cas
 void TitlePane::mnuView_Click(int view) {
   butTabs_Click(view);
   if (kTabs[static_cast<std::size_t>(view)] == View::Search) {
-    form_.Focus(txtQuickSearch);
-    form_.SelectAllText(txtQuickSearch);
+    txtQuickSearch_.Focus();
+    txtQuickSearch_.SelectAll();
   }
 }
 
@@ -51,7 +51,7 @@ void TitlePane::butMenu_Click() {
   for (MenuEntry& entry : menu) {
     if (entry.command == mnuUndoUpdate) entry.enabled = context_.services.update.CanUndoUpdate();
   }
-  form_.PopUpMenuUnder(menu, butMenu);
+  butMenu_.PopUpMenu(menu);
 }
 
 }  // namespace sonaro

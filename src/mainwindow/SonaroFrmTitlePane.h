@@ -30,6 +30,9 @@ class TitlePane final : public EventTarget {
 
   const MainContext& context_;
   Form& form_;
+  ControlArray<ToggleButton> butTabs_{form_, butTabs, 5};
+  Button butMenu_{form_, butMenu};
+  ComboBox txtQuickSearch_{form_, txtQuickSearch};
 };
 
 }  // namespace sonaro

@@ -40,14 +40,14 @@ std::span<const EventRow> YoursPane::Events() const {
 }
 
 void YoursPane::Load() {
-  ListView& groups = form_.List(lstGroups);
+  ListView& groups = *lstGroups_;
   groups.SetRowHeight(26);
   groups.SetColumns({{.name = "#", .width = 24, .figure = true},
                      {.name = form_.LoadText(IDS_COLUMN_GROUP), .width = 130},
                      {.name = form_.LoadText(IDS_COLUMN_STATIONS), .rightAligned = true, .figure = true}});
   groups.SetColumnLines(false);
   groups.SetModel(&groupRows_, false);
-  ListView& events = form_.List(lstEvents);
+  ListView& events = *lstEvents_;
   events.SetColumns({{form_.LoadText(IDS_COLUMN_WHEN), 150},
                      {form_.LoadText(IDS_COLUMN_EVENT), 190},
                      {form_.LoadText(IDS_COLUMN_STATION), 0}});
@@ -62,8 +62,8 @@ void YoursPane::Show() {
 }
 
 void YoursPane::ShowCaption() {
-  form_.SetText(lblListing, form_.LoadText(IDS_COMING_EVENTS));
-  form_.SetText(lblCount, "");
+  lblListing_.SetText(form_.LoadText(IDS_COMING_EVENTS));
+  lblCount_.SetText("");
 }
 
 StationKey YoursPane::SelectedStation() const {
@@ -72,7 +72,7 @@ StationKey YoursPane::SelectedStation() const {
 }
 
 void YoursPane::ShowGroups() {
-  ListView& list = form_.List(lstGroups);
+  ListView& list = *lstGroups_;
   list.RowsChanged();
   list.Select(SelectedGroupRow());
 }
@@ -85,7 +85,7 @@ int YoursPane::RowOf(const EventLine& event) const {
 }
 
 void YoursPane::ShowEvents() {
-  ListView& list = form_.List(lstEvents);
+  ListView& list = *lstEvents_;
   const EventLine chosen = SelectedEvent() ? *SelectedEvent() : EventLine();
   events_ = context_.services.schedule.ComingEvents();
   list.RowsChanged();
@@ -96,20 +96,19 @@ void YoursPane::ShowEvents() {
 
 void YoursPane::ShowEventButtons(int row) {
   const EventLine* event = EventAt(row);
-  form_.Enable(butNotifyMe, event && !event->noticed);
-  form_.Enable(butPersonalShow, event != nullptr);
-  form_.SetText(butPersonalShow,
-                form_.LoadText(event && event->personalShow ? IDS_SHOW_REMOVE : IDS_SHOW_ADD));
+  butNotifyMe_.Enable(event && !event->noticed);
+  butPersonalShow_.Enable(event != nullptr);
+  butPersonalShow_.SetText(form_.LoadText(event && event->personalShow ? IDS_SHOW_REMOVE : IDS_SHOW_ADD));
 }
 
-const EventLine* YoursPane::SelectedEvent() const { return EventAt(form_.List(lstEvents).Selected()); }
+const EventLine* YoursPane::SelectedEvent() const { return EventAt(lstEvents_->Selected()); }
 
 void YoursPane::ShowNextNotice() {
   const NextNotice next = context_.services.schedule.SoonestNotice();
   const bool none = next.when.empty();
-  form_.SetText(lblNextNotice, none ? form_.LoadText(IDS_NEXT_NONE) : next.when);
-  form_.SetText(lblNextStation, none ? form_.LoadText(IDS_NEXT_NONE_HELP) : next.name);
-  form_.SetText(lblNextOften, next.howOften);
+  lblNextNotice_.SetText(none ? form_.LoadText(IDS_NEXT_NONE) : next.when);
+  lblNextStation_.SetText(none ? form_.LoadText(IDS_NEXT_NONE_HELP) : next.name);
+  lblNextOften_.SetText(next.howOften);
 }
 
 int YoursPane::GroupCount() const {
@@ -149,7 +148,7 @@ void YoursPane::lstGroups_ItemSelected(int row) {
 }
 
 void YoursPane::lstGroups_ItemActivate(int row) {
-  if (GroupAt(row) || IsRecent(row)) form_.Focus(lstFavs);
+  if (GroupAt(row) || IsRecent(row)) lstFavs_.Focus();
 }
 
 void YoursPane::lstGroups_ContextMenu(int row, POINT at) {
@@ -178,7 +177,7 @@ void YoursPane::lstEvents_ContextMenu(int, POINT at) {
 
 int YoursPane::EventRowMeant() const {
   const CommandSubject::Menu* menu = context_.models.subject.OpenMenu();
-  return menu ? RowOf(menu->event) : form_.List(lstEvents).Selected();
+  return menu ? RowOf(menu->event) : lstEvents_->Selected();
 }
 
 void YoursPane::butNotifyMe_Click() {

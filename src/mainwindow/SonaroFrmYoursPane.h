@@ -75,6 +75,16 @@ class YoursPane final : public EventTarget {
   std::vector<EventLine> events_;
   GroupRows groupRows_{*this};
   EventRows eventRows_{*this};
+  ListHandle lstGroups_{form_, lstGroups};
+  ListHandle lstEvents_{form_, lstEvents};
+  ListHandle lstFavs_{form_, lstFavs};
+  Label lblListing_{form_, lblListing};
+  Label lblCount_{form_, lblCount};
+  Label lblNextNotice_{form_, lblNextNotice};
+  Label lblNextStation_{form_, lblNextStation};
+  Label lblNextOften_{form_, lblNextOften};
+  Button butNotifyMe_{form_, butNotifyMe};
+  Button butPersonalShow_{form_, butPersonalShow};
 };
 
 }  // namespace sonaro

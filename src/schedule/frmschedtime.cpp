@@ -1,7 +1,5 @@
 #include "schedule/frmschedtime.h"
 
-#include "forms/ControlIds.h"
-
 namespace sonaro {
 
 namespace {
@@ -39,7 +37,7 @@ void ScheduleTimerWindow::Load() {
 }
 
 void ScheduleTimerWindow::SetCloseItCaption(const char* caption) {
-  if (form_) form_->SetText(lblCloseIt, caption);
+  if (form_) form_->SetCloseItCaption(caption);
 }
 
 void ScheduleTimerWindow::RestartTimer(unsigned milliseconds) {

@@ -4,7 +4,8 @@
 
 #include <memory>
 
-#include "forms/Form.h"
+#include "forms/ControlIds.h"
+#include "forms/controls/Controls.h"
 #include "schedule/ScheduleTimer.h"
 
 namespace sonaro {
@@ -20,6 +21,7 @@ class TimerTicks {
 class frmschedtime final : public Form {
  public:
   frmschedtime(FormContext& context, TimerTicks& ticks) : Form(context, Design()), ticks_(ticks) {}
+  void SetCloseItCaption(const char* caption) { lblCloseIt_.SetText(caption); }
 
  private:
   static const FormDesign& Design();
@@ -29,6 +31,7 @@ class frmschedtime final : public Form {
   void tmrFullMinute_Timer();
 
   TimerTicks& ticks_;
+  Label lblCloseIt_{*this, lblCloseIt};
 };
 
 // The window as ScheduleTimer sees it. Owned by Application.

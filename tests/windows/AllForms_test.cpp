@@ -233,14 +233,14 @@ TEST_P(EveryForm, HoldsWhatHoldsForEveryForm) {
 // Types into every edit, ticks what can be ticked, and chooses another row in every list that opens.
 void ChangeEverything(Form& form) {
   for (const ControlRow& row : form.Description().controls) {
-    const HWND control = form.Control(row.id);
+    const HWND control = ControlOf(form, row.id);
     if (!control || !IsWindowVisible(control) || !IsWindowEnabled(control)) continue;
     if (row.kind == ControlKind::Edit || row.kind == ControlKind::MultiEdit) SetWindowTextW(control, L"17");
     if (row.kind == ControlKind::CheckBox || row.kind == ControlKind::RadioButton ||
         row.kind == ControlKind::ToggleButton)
       SendMessageW(control, BM_CLICK, 0, 0);
-    if (row.kind == ControlKind::Combo && form.ItemCount(row.id) > 1) {
-      SendMessageW(control, CB_SETCURSEL, form.SelectedItem(row.id) == 0 ? 1 : 0, 0);
+    if (row.kind == ControlKind::Combo && SendMessageW(control, CB_GETCOUNT, 0, 0) > 1) {
+      SendMessageW(control, CB_SETCURSEL, SendMessageW(control, CB_GETCURSEL, 0, 0) == 0 ? 1 : 0, 0);
       SendMessageW(form.Window(), WM_COMMAND, MAKEWPARAM(row.id, CBN_SELCHANGE),
                    reinterpret_cast<LPARAM>(control));
     }

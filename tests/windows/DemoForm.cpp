@@ -46,7 +46,8 @@ const FormDesign& DemoForm::Design() {
     return all;
   }();
   static constexpr Bounds kSmall[] = {{DemoForm::kPush, {20, 20, 130, 30}},
-                                      {DemoForm::kEdit, {20, 60, 130, 28}}};
+                                      {DemoForm::kEdit, {20, 60, 130, 28}},
+                                      {DemoForm::kState, {20, 100, 130, 30}}};
   static constexpr Layout kLayouts[] = {{{440, 150}, "scc44", kSmall}};
   static constexpr KeyRow kKeys[] = {{'K', kCtrl, DemoForm::kPush + 1},
                                      {VK_DELETE, kPlain, DemoForm::kMenuEntry, DemoForm::kCheck},
@@ -90,17 +91,17 @@ std::span<const TimerRow> DemoForm::Timers() const {
 
 void DemoForm::OnLoad() {
   for (int i = 0; i < 6; ++i) {
-    for (const char* item : {"late night", "jazz", "R&B", "\xC3\xA9t\xC3\xA9"}) AddItem(kCombo + i, item);
-    SelectItem(kCombo + i, 0);
-    SetText(kEdit + i, "late night");
+    for (const char* item : {"late night", "jazz", "R&B", "\xC3\xA9t\xC3\xA9"}) combo[i].AddItem(item);
+    combo[i].SelectItem(0);
   }
-  for (const char* item : {"late night", "jazz"}) AddItem(kSearch, item);
-  SetText(kNotes, "Sea stories. Part two of the sea stories. Ask Mum to listen too.");
-  Check(kCheck + 5);
-  Check(kRadio + 5);
-  SetToggle(kRanking + 5, true);
-  SetToggle(kGroups + 5, true);
-  SetToggle(kToggle + 1, true);
+  for (int i = 0; i < 5; ++i) edit[i].SetText("late night");
+  for (const char* item : {"late night", "jazz"}) search.AddItem(item);
+  notes.SetText("Sea stories. Part two of the sea stories. Ask Mum to listen too.");
+  check[5].Check();
+  radio[5].Check();
+  ranking[5].SetActive(true);
+  groups[5].SetActive(true);
+  toggle[1].SetActive(true);
 }
 
 void DemoForm::OnUnload() { log.push_back("Unload"); }

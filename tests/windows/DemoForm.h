@@ -4,7 +4,7 @@
 #include <string>
 #include <vector>
 
-#include "forms/Form.h"
+#include "forms/controls/Controls.h"
 
 namespace sonaro {
 
@@ -35,6 +35,19 @@ class DemoForm final : public Form {
   int resultOnClick = 0;
   DemoForm** destroyOnClick = nullptr;  // the owner's pointer: the handler deletes the form itself
 
+  ControlArray<Button> push{*this, kPush, 5};
+  ControlArray<Button> primary{*this, kPrimary, 5};
+  ControlArray<ToggleButton> ranking{*this, kRanking, 6};
+  ControlArray<GroupButton> groups{*this, kGroups, 6};
+  ControlArray<CheckBox> check{*this, kCheck, 6};
+  ControlArray<RadioButton> radio{*this, kRadio, 6};
+  ControlArray<ComboBox> combo{*this, kCombo, 6};
+  ControlArray<Edit> edit{*this, kEdit, 5};
+  ComboBox search{*this, kSearch};
+  Edit notes{*this, kNotes};
+  ControlArray<ToggleButton> toggle{*this, kToggle, 3};
+  Label state{*this, kState};
+
  private:
   static const FormDesign& Design();
   std::span<const EventRow> Events() const override;
@@ -52,7 +65,7 @@ class DemoForm final : public Form {
   void Combo_SelChange(int index) { Note("SelChange", kCombo + index); }
   void Edit_Change(int index) { Note("Change", kEdit + index); }
   void Search_Change() { Note("Change", kSearch); }
-  void Search_SelChange() { log.push_back("SelChange " + Text(kSearch)); }
+  void Search_SelChange() { log.push_back("SelChange " + search.Text()); }
   void Search_EnterPressed() { Note("EnterPressed", kSearch); }
   void Menu_Click() { Note("Click", kMenuEntry); }
   void Primary_Click() { Note("Click", kPrimary); }

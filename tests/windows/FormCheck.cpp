@@ -5,6 +5,7 @@
 
 #include "forms/Dpi.h"
 #include "forms/FormImpl.h"
+#include "forms/WideText.h"
 #include "forms/paint/Painter.h"
 
 namespace sonaro {
@@ -34,8 +35,9 @@ class Check {
 
  private:
   void Add(const ControlInstance& item, const std::string& problem) {
-    problems_.push_back(where_ + "control " + std::to_string(item.Id()) + " \"" + form_.Text(item.Id()) +
-                        "\" " + problem);
+    problems_.push_back(where_ + "control " + std::to_string(item.Id()) + " \"" +
+                        (item.Window() ? Narrow(TextOfWindow(item.Window())) : std::string()) + "\" " +
+                        problem);
   }
 
   // Past the work area of the test's screen as well: a form would otherwise fall back to a smaller dpi.

@@ -16,8 +16,8 @@ using FormKeyboardTest = DemoFormTest;
 // The colour on a button's focus line, at the middle of its left edge.
 Color PixelInside(const Form& form, int key) {
   RECT box{};
-  GetClientRect(form.Control(key), &box);
-  return PixelOf(form.Control(key), 3, box.bottom / 2);
+  GetClientRect(ControlOf(form, key), &box);
+  return PixelOf(ControlOf(form, key), 3, box.bottom / 2);
 }
 
 TEST_F(FormKeyboardTest, BeginsWhereTheDesignSays) { EXPECT_EQ(form.FocusedControl(), DemoForm::kPush + 3); }
@@ -31,25 +31,25 @@ TEST_F(FormKeyboardTest, PressesTheFocusedButtonElseThePrimaryOne) {
                {DemoForm::kCombo, {"Click 5011"}},        {DemoForm::kNotes, {"Click 5011"}},
                {DemoForm::kSearch, {"EnterPressed 5111"}}};
   for (const auto& c : cases) {
-    form.Focus(c.focus);
+    FocusOn(form, c.focus);
     form.log.clear();
     PressKey(VK_RETURN);
     EXPECT_EQ(form.log, c.log) << "focus on " << c.focus;
   }
-  form.Enable(DemoForm::kPush + 1);
-  form.Focus(DemoForm::kPush + 1);
+  form.push[1].Enable();
+  FocusOn(form, DemoForm::kPush + 1);
   form.log.clear();
   PressKey(VK_SPACE);
   EXPECT_EQ(form.log, (Log{"Click 5002"}));
 }
 
 TEST_F(FormKeyboardTest, GoesOnlyToButtonsThatCanBePressed) {
-  form.Focus(DemoForm::kEdit);
+  FocusOn(form, DemoForm::kEdit);
   form.log.clear();
-  form.Enable(DemoForm::kPrimary, false);
+  form.primary[0].Enable(false);
   PressKey(VK_RETURN);
   EXPECT_EQ(form.log, (Log{})) << "the next primary button stands in, and has no handler";
-  form.ShowControl(DemoForm::kPush + 1, false);
+  form.push[1].Show(false);
   PressKey('K', false, true);
   EXPECT_EQ(form.log, (Log{})) << "a hidden button does not act by its shortcut";
   SendMessageW(form.Window(), WM_COMMAND, DemoForm::kPush + 1, 0);
@@ -63,7 +63,7 @@ TEST_F(FormKeyboardTest, ReadsTheKeyTable) {
   EXPECT_EQ(form.log.size(), 1U) << "other modifiers are another key";
   PressKey(VK_DELETE);
   EXPECT_EQ(form.log.size(), 1U) << "belongs to another control";
-  form.Focus(DemoForm::kCheck);
+  FocusOn(form, DemoForm::kCheck);
   PressKey(VK_DELETE);
   EXPECT_EQ(form.log.back(), "Click 5160");
   PressKey('F', false, true);
@@ -71,7 +71,7 @@ TEST_F(FormKeyboardTest, ReadsTheKeyTable) {
 }
 
 TEST_F(FormKeyboardTest, MovesByTabFromGroupToGroupAndByArrowsInside) {
-  form.Focus(DemoForm::kPrimary + 3);
+  FocusOn(form, DemoForm::kPrimary + 3);
   PressKey(VK_TAB);
   EXPECT_EQ(form.FocusedControl(), DemoForm::kRanking + 5) << "the active button stands for its group";
   PressKey(VK_RIGHT);
@@ -82,17 +82,17 @@ TEST_F(FormKeyboardTest, MovesByTabFromGroupToGroupAndByArrowsInside) {
   EXPECT_EQ(form.FocusedControl(), DemoForm::kGroups + 5);
   PressKey(VK_TAB, true);
   EXPECT_EQ(form.FocusedControl(), DemoForm::kRanking + 5);
-  form.Focus(DemoForm::kPush);
+  FocusOn(form, DemoForm::kPush);
   PressKey(VK_RIGHT);
   EXPECT_EQ(form.FocusedControl(), DemoForm::kPush) << "a button that is in no group keeps the arrows";
 }
 
 TEST_F(FormKeyboardTest, ReachesEmptySocketsAndSkipsHiddenControls) {
-  form.SetToggle(DemoForm::kGroups + 5, false);
-  form.ShowControl(DemoForm::kGroups, false);
-  form.SetEmptySocket(DemoForm::kGroups + 1, true);
-  form.SetToggle(DemoForm::kRanking + 5, false);
-  form.Focus(DemoForm::kRanking);
+  form.groups[5].SetActive(false);
+  form.groups[0].Show(false);
+  form.groups[1].SetEmptySocket(true);
+  form.ranking[5].SetActive(false);
+  FocusOn(form, DemoForm::kRanking);
   PressKey(VK_TAB);
   EXPECT_EQ(form.FocusedControl(), DemoForm::kGroups + 1) << "without a group the first one is made there";
   form.log.clear();
@@ -144,15 +144,15 @@ TEST_F(FormKeyboardTest, OnlyTheSpaceOpensTheSystemMenu) {
 }
 
 TEST_F(FormKeyboardTest, MovesTheFocusOnWhenItsControlGoes) {
-  form.Focus(DemoForm::kEdit);
-  form.Enable(DemoForm::kEdit, false);
+  FocusOn(form, DemoForm::kEdit);
+  form.edit[0].Enable(false);
   EXPECT_EQ(form.FocusedControl(), DemoForm::kEdit + 1);
-  form.ShowControl(DemoForm::kEdit + 1, false);
+  form.edit[1].Show(false);
   EXPECT_EQ(form.FocusedControl(), DemoForm::kEdit + 2);
 }
 
 TEST_F(FormKeyboardTest, SelectsAllInAnEdit) {
-  form.Focus(DemoForm::kEdit);
+  FocusOn(form, DemoForm::kEdit);
   SendMessageW(GetFocus(), EM_SETSEL, 0, 0);
   SendMessageW(GetFocus(), WM_CHAR, 1, 1);
   const LRESULT selection = SendMessageW(GetFocus(), EM_GETSEL, 0, 0);
@@ -161,10 +161,10 @@ TEST_F(FormKeyboardTest, SelectsAllInAnEdit) {
 }
 
 TEST_F(FormKeyboardTest, EscapesFromTheListFirst) {
-  form.Focus(DemoForm::kCombo);
-  SendMessageW(form.Control(DemoForm::kCombo), CB_SHOWDROPDOWN, TRUE, 0);
+  FocusOn(form, DemoForm::kCombo);
+  SendMessageW(ControlOf(form, DemoForm::kCombo), CB_SHOWDROPDOWN, TRUE, 0);
   PressKey(VK_ESCAPE);
-  EXPECT_EQ(SendMessageW(form.Control(DemoForm::kCombo), CB_GETDROPPEDSTATE, 0, 0), FALSE);
+  EXPECT_EQ(SendMessageW(ControlOf(form, DemoForm::kCombo), CB_GETDROPPEDSTATE, 0, 0), FALSE);
   EXPECT_TRUE(form.IsOpen());
   PressKey(VK_ESCAPE);
   EXPECT_EQ(form.log, (Log{"Escape", "Unload"}));

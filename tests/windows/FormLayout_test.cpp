@@ -18,7 +18,7 @@ PixelRect PlaceOf(HWND window) {
 }
 
 PixelRect PlaceInForm(const Form& form, int id) {
-  PixelRect place = PlaceOf(form.Control(id));
+  PixelRect place = PlaceOf(ControlOf(form, id));
   const PixelRect frame = PlaceOf(form.Window());
   return {place.left - frame.left, place.top - frame.top, place.right - frame.left, place.bottom - frame.top};
 }
@@ -71,7 +71,8 @@ TEST_F(FormLayoutTest, TakesAnotherDpiWithAllItsParts) {
   EXPECT_EQ(PlaceInForm(form, DemoForm::kPush), (PixelRect{30, 30, 225, 75}));
   EXPECT_EQ(BoundsOfOutline(form.Window()), (PixelRect{0, 0, 660, 225}));
   LOGFONTW font{};
-  const auto handle = reinterpret_cast<HFONT>(SendMessageW(form.Control(DemoForm::kEdit), WM_GETFONT, 0, 0));
+  const auto handle =
+      reinterpret_cast<HFONT>(SendMessageW(ControlOf(form, DemoForm::kEdit), WM_GETFONT, 0, 0));
   ASSERT_NE(GetObjectW(handle, sizeof(font), &font), 0)
       << "the old font is gone, the control has the new one";
   EXPECT_EQ(font.lfHeight, -18);
@@ -94,9 +95,9 @@ TEST_F(FormLayoutTest, CombosAreAsHighAsTheirPlace) {
 
 TEST_F(FormLayoutTest, GrowsByATextWithItsOutline) {
   form.UseLayout(1);
-  form.SetTextAndGrow(DemoForm::kPush, "Two");
+  form.state.SetTextAndGrow("Two");
   EXPECT_EQ(PlaceOf(form.Window()).Height(), 150) << "it fits";
-  form.SetTextAndGrow(DemoForm::kPush, "One line\nand another\nand a third\nand a fourth");
+  form.state.SetTextAndGrow("One line\nand another\nand a third\nand a fourth");
   const int height = PlaceOf(form.Window()).Height();
   const int lines = 4 * FormImplOf(form.Window())->painter->LineHeight(TextStyle::Body);
   EXPECT_EQ(height, 150 - 30 + lines) << "of the layout, not of the design";
@@ -122,7 +123,7 @@ TEST_F(FormLayoutTest, ShowsPanesTogether) {
   ControlInstance* key = parts.Find(DemoForm::kToggle);
   form.ShowPane(3, false);
   EXPECT_FALSE(key->shown);
-  form.ShowControl(DemoForm::kToggle);
+  form.toggle[0].Show();
   EXPECT_FALSE(key->shown) << "its pane is hidden";
   form.ShowPane(3, true);
   EXPECT_TRUE(key->shown);
@@ -174,9 +175,9 @@ TEST_F(FormLayoutTest, IsDraggedByBackgroundAndLabelsButNotByControls) {
   EXPECT_EQ(dragged.hits.size(), 2U) << "any button, but no drag inside a drag";
   EXPECT_EQ(dragged.ends, 2) << "the button that goes up ends it, whichever it is";
   EXPECT_EQ(dragged.moved, 1) << "it stayed where it was";
-  EXPECT_EQ(SendMessageW(dragged.Control(5001), WM_NCHITTEST, 0, 0), HTTRANSPARENT)
+  EXPECT_EQ(SendMessageW(ControlOf(dragged, 5001), WM_NCHITTEST, 0, 0), HTTRANSPARENT)
       << "the form gets the press";
-  EXPECT_NE(SendMessageW(dragged.Control(5002), WM_NCHITTEST, 0, 0), HTTRANSPARENT);
+  EXPECT_NE(SendMessageW(ControlOf(dragged, 5002), WM_NCHITTEST, 0, 0), HTTRANSPARENT);
   SendMessageW(dragged.Window(), WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(12, 82));
   EXPECT_EQ(dragged.hits.size(), 2U) << "the glass around an edit belongs to it";
   EXPECT_EQ(dragged.FocusedControl(), 5003);
@@ -186,19 +187,19 @@ TEST_F(FormLayoutTest, IsDraggedByBackgroundAndLabelsButNotByControls) {
 TEST_F(FormLayoutTest, PaintsButtonsInTheColoursOfTheFaceplate) {
   form.Show();
   Pump();
-  const auto pixel = [&](int id, int x, int y) { return PixelOf(form.Control(id), x, y); };
+  const auto pixel = [&](int id, int x, int y) { return PixelOf(ControlOf(form, id), x, y); };
   const auto check = [&](BuiltInFaceplate faceplate) {
     const FaceplateColors& c = context.faceplate.Colors();
     const int name = static_cast<int>(faceplate);
-    SendMessageW(form.Control(DemoForm::kPush + 2), BM_SETSTATE, TRUE, 0);
+    SendMessageW(ControlOf(form, DemoForm::kPush + 2), BM_SETSTATE, TRUE, 0);
     EXPECT_EQ(pixel(DemoForm::kPush + 2, 6, 15), c.buttonDown) << name;
     EXPECT_EQ(pixel(DemoForm::kPush + 4, 6, 15), c.buttonOff) << name;
     EXPECT_EQ(pixel(DemoForm::kPush, 129, 15), c.outline) << name;
     EXPECT_EQ(pixel(DemoForm::kRanking + 5, 60, 3), c.buttonOn) << name;
     EXPECT_EQ(pixel(DemoForm::kRanking + 5, 1, 20), c.accent) << name;
-    SendMessageW(form.Control(DemoForm::kPush + 1), WM_MOUSEMOVE, 0, MAKELPARAM(6, 15));
+    SendMessageW(ControlOf(form, DemoForm::kPush + 1), WM_MOUSEMOVE, 0, MAKELPARAM(6, 15));
     EXPECT_EQ(pixel(DemoForm::kPush + 1, 6, 15), c.buttonHover) << name;
-    SendMessageW(form.Control(DemoForm::kPush + 1), WM_MOUSELEAVE, 0, 0);
+    SendMessageW(ControlOf(form, DemoForm::kPush + 1), WM_MOUSELEAVE, 0, 0);
     EXPECT_NE(pixel(DemoForm::kPush + 1, 6, 15), c.buttonHover) << name;
     EXPECT_EQ(pixel(DemoForm::kCombo, 4, 4), c.glass) << name;
   };

@@ -51,7 +51,7 @@ TEST(FormRunning, ShowModalDisablesTheOthersAndAnswers) {
     ownerTookInput = IsWindowEnabled(owner.Window());
     otherTookInput = IsWindowEnabled(other.Window());
     GetWindowRect(dialog.Window(), &place);
-    SendMessageW(dialog.Control(DemoForm::kPush), BM_CLICK, 0, 0);
+    SendMessageW(ControlOf(dialog, DemoForm::kPush), BM_CLICK, 0, 0);
   });
   EXPECT_EQ(dialog.ShowModal(owner.Window()), 3);
   RECT owned{};
@@ -105,13 +105,13 @@ TEST(FormRunning, QuittingEndsAModalFormAndTheLoopAroundIt) {
 TEST(FormRunning, AFormMayBeDestroyedInItsOwnHandler) {
   FormContextForTests context;
   const std::function<void(DemoForm&)> presses[] = {
-      [](DemoForm& form) { SendMessageW(form.Control(DemoForm::kPush), BM_CLICK, 0, 0); },
+      [](DemoForm& form) { SendMessageW(ControlOf(form, DemoForm::kPush), BM_CLICK, 0, 0); },
       [](DemoForm& form) {
-        MouseOn(form.Control(DemoForm::kPush), WM_LBUTTONDOWN);
-        MouseOn(form.Control(DemoForm::kPush), WM_LBUTTONUP);
+        MouseOn(ControlOf(form, DemoForm::kPush), WM_LBUTTONDOWN);
+        MouseOn(ControlOf(form, DemoForm::kPush), WM_LBUTTONUP);
       },
       [](DemoForm& form) {
-        form.Focus(DemoForm::kPush);
+        FocusOn(form, DemoForm::kPush);
         PressKey(VK_RETURN);
       },
       [](DemoForm& form) { SendMessageW(form.Window(), WM_COMMAND, DemoForm::kPush, 0); }};
@@ -130,7 +130,7 @@ TEST(FormRunning, AModalFormMayBeDestroyedInItsOwnHandler) {
   FormContextForTests context;
   auto* form = new DemoForm(context.forms);
   form->destroyOnClick = &form;
-  const Later click([&] { SendMessageW(form->Control(DemoForm::kPush), BM_CLICK, 0, 0); });
+  const Later click([&] { SendMessageW(ControlOf(*form, DemoForm::kPush), BM_CLICK, 0, 0); });
   EXPECT_EQ(form->ShowModal(nullptr), 0);
   EXPECT_EQ(form, nullptr);
 }
@@ -141,7 +141,7 @@ TEST(FormRunning, ClosingFromAHandlerHidesAtOnceAndDestroysWhenItReturns) {
   form.closeOnClick = true;
   form.Show();
   const HWND window = form.Window();
-  SendMessageW(form.Control(DemoForm::kPush), BM_CLICK, 0, 0);
+  SendMessageW(ControlOf(form, DemoForm::kPush), BM_CLICK, 0, 0);
   EXPECT_FALSE(form.IsOpen());
   EXPECT_FALSE(IsWindowVisible(window));
   form.Show();
@@ -190,8 +190,8 @@ TEST(FormRunning, NoExceptionLeavesTheWindow) {
   FormContextForTests context;
   ThrowingForm form(context.forms);
   form.Show();
-  SendMessageW(form.Control(5001), BM_CLICK, 0, 0);
-  form.Focus(5001);
+  SendMessageW(ControlOf(form, 5001), BM_CLICK, 0, 0);
+  FocusOn(form, 5001);
   PressKey(VK_RETURN);
   EXPECT_TRUE(form.IsShown());
 }
@@ -200,9 +200,9 @@ TEST(FormRunning, APaneHandlesWhatItsFormDoesNot) {
   FormContextForTests context;
   ThrowingForm form(context.forms);
   form.Show();
-  SendMessageW(form.Control(5001), BM_CLICK, 0, 0);
+  SendMessageW(ControlOf(form, 5001), BM_CLICK, 0, 0);
   EXPECT_EQ(form.pane.clicks, 0);
-  SendMessageW(form.Control(5002), BM_CLICK, 0, 0);
+  SendMessageW(ControlOf(form, 5002), BM_CLICK, 0, 0);
   EXPECT_EQ(form.pane.clicks, 1);
 }
 

@@ -48,22 +48,23 @@ bool HasTip(HWND control) {
 TEST_F(FormTest, TipsBelongToWhatThePointerReaches) {
   int focused = form.FocusedControl();
   form.MoveToPixels(0, 0);
-  for (const int id : {int{DemoForm::kState}, DemoForm::kPush + 1}) {
-    EXPECT_FALSE(HasTip(form.Control(id))) << id;
-    form.SetTip(id, "All of it");
-    EXPECT_TRUE(HasTip(form.Control(id))) << id;
+  const Button button = form.push[1];
+  for (const ControlHandle* control : std::initializer_list<const ControlHandle*>{&form.state, &button}) {
+    EXPECT_FALSE(HasTip(control->Window()));
+    control->SetTip("All of it");
+    EXPECT_TRUE(HasTip(control->Window()));
     PressKey(VK_TAB);
     EXPECT_NE(form.FocusedControl(), std::exchange(focused, form.FocusedControl())) << "still a form";
     FormImplOf(form.Window())->UseDpi(120);
-    EXPECT_TRUE(HasTip(form.Control(id))) << id << " at its new place";
+    EXPECT_TRUE(HasTip(control->Window())) << "at its new place";
     FormImplOf(form.Window())->UseDpi(96);
-    form.SetTip(id, "");
-    EXPECT_FALSE(HasTip(form.Control(id))) << id;
+    control->SetTip("");
+    EXPECT_FALSE(HasTip(control->Window()));
   }
 }
 
 TEST_F(FormTest, TakesEveryClickOnAButton) {
-  const HWND key = form.Control(DemoForm::kPush + 1);
+  const HWND key = ControlOf(form, DemoForm::kPush + 1);
   for (const int message : {WM_LBUTTONDOWN, WM_LBUTTONUP, WM_LBUTTONDBLCLK, WM_LBUTTONUP}) {
     MouseOn(key, static_cast<UINT>(message));
   }
@@ -73,25 +74,25 @@ TEST_F(FormTest, TakesEveryClickOnAButton) {
 }
 
 TEST_F(FormTest, KeepsTheStateOfTogglesForTheProgramToSet) {
-  const HWND key = form.Control(DemoForm::kGroups + 1);
+  const HWND key = ControlOf(form, DemoForm::kGroups + 1);
   SendMessageW(key, BM_CLICK, 0, 0);
   EXPECT_EQ(form.log, (Log{"Click 5032"}));
-  EXPECT_FALSE(form.IsToggled(DemoForm::kGroups + 1)) << "a click does not toggle by itself";
-  form.SetToggleOnly(DemoForm::kGroups, 6, 1);
+  EXPECT_FALSE(form.groups[1].IsActive()) << "a click does not toggle by itself";
+  form.groups.SetOnly(1);
   EXPECT_EQ(SendMessageW(key, BM_GETCHECK, 0, 0), BST_CHECKED) << "what a screen reader asks";
-  EXPECT_FALSE(form.IsToggled(DemoForm::kGroups + 5));
+  EXPECT_FALSE(form.groups[5].IsActive());
   EXPECT_EQ(form.log.size(), 1U) << "the program's own setting is no event";
 }
 
 TEST_F(FormTest, ChecksBoxesAndOneRadioButtonOfAGroup) {
-  SendMessageW(form.Control(DemoForm::kCheck), BM_CLICK, 0, 0);
-  EXPECT_TRUE(form.IsChecked(DemoForm::kCheck));
-  SendMessageW(form.Control(DemoForm::kRadio + 1), BM_CLICK, 0, 0);
-  EXPECT_TRUE(form.IsChecked(DemoForm::kRadio + 1));
-  EXPECT_FALSE(form.IsChecked(DemoForm::kRadio + 5));
+  SendMessageW(ControlOf(form, DemoForm::kCheck), BM_CLICK, 0, 0);
+  EXPECT_TRUE(form.check[0].IsChecked());
+  SendMessageW(ControlOf(form, DemoForm::kRadio + 1), BM_CLICK, 0, 0);
+  EXPECT_TRUE(form.radio[1].IsChecked());
+  EXPECT_FALSE(form.radio[5].IsChecked());
   EXPECT_EQ(form.log, (Log{"Click 5071", "Click 5082"}));
-  form.Check(DemoForm::kRadio + 2);
-  EXPECT_FALSE(form.IsChecked(DemoForm::kRadio + 1)) << "set by the program, the group still has one";
+  form.radio[2].Check();
+  EXPECT_FALSE(form.radio[1].IsChecked()) << "set by the program, the group still has one";
   EXPECT_EQ(form.log.size(), 2U);
 }
 
@@ -99,41 +100,41 @@ TEST_F(FormTest, KeepsTextsOfAnyScript) {
   const std::string text =
       "\xC5\x81\xC3\xB3"
       "d\xC5\xBA \xE6\x9D\xB1\xE4\xBA\xAC \xF0\x9F\x93\xBB R&B";
-  form.SetText(DemoForm::kEdit, text);
-  EXPECT_EQ(form.Text(DemoForm::kEdit), text);
+  form.edit[0].SetText(text);
+  EXPECT_EQ(form.edit[0].Text(), text);
   EXPECT_TRUE(form.log.empty()) << "the program's own setting is no event";
-  form.SetText(DemoForm::kEdit, "");
+  form.edit[0].SetText("");
   for (const wchar_t typed : {L'\x0141', L'\x6771'})
-    SendMessageW(form.Control(DemoForm::kEdit), WM_CHAR, typed, 1);
-  EXPECT_EQ(form.Text(DemoForm::kEdit), "\xC5\x81\xE6\x9D\xB1");
+    SendMessageW(ControlOf(form, DemoForm::kEdit), WM_CHAR, typed, 1);
+  EXPECT_EQ(form.edit[0].Text(), "\xC5\x81\xE6\x9D\xB1");
   EXPECT_EQ(form.log, (Log{"Change 5101", "Change 5101"}));
 }
 
 TEST_F(FormTest, WorksCombosByRow) {
-  const int combo = DemoForm::kCombo;
-  EXPECT_EQ(form.ItemCount(combo), 4);
-  EXPECT_EQ(form.ItemText(combo, 3), "\xC3\xA9t\xC3\xA9");
-  form.AddItem(combo, "with data", 42);
-  EXPECT_TRUE(form.SelectItemData(combo, 42));
-  EXPECT_EQ(form.SelectedItem(combo), 4);
-  EXPECT_FALSE(form.SelectItemData(combo, 43));
-  EXPECT_EQ(form.SelectedItem(combo), 4);
+  const ComboBox combo = form.combo[0];
+  EXPECT_EQ(combo.ItemCount(), 4);
+  EXPECT_EQ(combo.ItemText(3), "\xC3\xA9t\xC3\xA9");
+  combo.AddItem("with data", 42);
+  EXPECT_TRUE(combo.SelectItemData(42));
+  EXPECT_EQ(combo.SelectedItem(), 4);
+  EXPECT_FALSE(combo.SelectItemData(43));
+  EXPECT_EQ(combo.SelectedItem(), 4);
   EXPECT_TRUE(form.log.empty());
-  form.Focus(combo);
+  combo.Focus();
   PressKey(VK_UP);
-  EXPECT_EQ(form.SelectedItem(combo), 3);
+  EXPECT_EQ(combo.SelectedItem(), 3);
   EXPECT_EQ(form.log, (Log{"SelChange 5091"}));
-  form.ClearItems(combo);
-  EXPECT_EQ(form.SelectedItem(combo), -1);
+  combo.ClearItems();
+  EXPECT_EQ(combo.SelectedItem(), -1);
 }
 
 TEST_F(FormTest, GivesAComboEditItsNewTextBeforeTheHandlerReadsIt) {
-  form.SetText(DemoForm::kSearch, "typed");
-  form.ClearItems(DemoForm::kSearch);
-  EXPECT_EQ(form.Text(DemoForm::kSearch), "typed") << "clearing the history leaves what is typed";
-  form.AddItem(DemoForm::kSearch, "first");
-  form.AddItem(DemoForm::kSearch, "second");
-  form.Focus(DemoForm::kSearch);
+  form.search.SetText("typed");
+  form.search.ClearItems();
+  EXPECT_EQ(form.search.Text(), "typed") << "clearing the history leaves what is typed";
+  form.search.AddItem("first");
+  form.search.AddItem("second");
+  FocusOn(form, DemoForm::kSearch);
   PressKey(VK_DOWN);
   EXPECT_EQ(form.log, (Log{"SelChange first"}));
 }
@@ -162,23 +163,11 @@ TEST_F(FormTest, AsksForANotificationByTheHiddenLabel) {
 }
 
 TEST_F(FormTest, TellsWhichOfAnArrayWasRightClicked) {
-  SendMessageW(form.Window(), WM_CONTEXTMENU, reinterpret_cast<WPARAM>(form.Control(DemoForm::kGroups + 3)),
-               -1);
+  SendMessageW(form.Window(), WM_CONTEXTMENU,
+               reinterpret_cast<WPARAM>(ControlOf(form, DemoForm::kGroups + 3)), -1);
   EXPECT_EQ(form.log, (Log{"ContextMenu 5034"}));
 }
 
-TEST_F(FormTest, IgnoresNumbersThatItDoesNotHave) {
-  form.SetText(99, "x");
-  form.Enable(99);
-  form.Focus(99);
-  form.SetToggle(99, true);
-  form.AddItem(99, "x");
-  EXPECT_EQ(form.Text(99), "");
-  EXPECT_FALSE(form.IsChecked(99));
-  EXPECT_EQ(form.SelectedItem(99), -1);
-}
-
-// Forms that show lists read them while they close: a closed form answers, and can be opened again.
 TEST_F(FormTest, RefusesAMemberThatItsDesignDoesNotHave) {
   EXPECT_NO_THROW((ComboBox{form, DemoForm::kSearch}));
   EXPECT_THROW((Edit{form, 9999}), std::logic_error);
@@ -187,16 +176,17 @@ TEST_F(FormTest, RefusesAMemberThatItsDesignDoesNotHave) {
       << "more than there are";
 }
 
+// Forms that show lists read them while they close: a closed form answers, and can be opened again.
 TEST_F(FormTest, AnswersWhenClosedAndOpensAgain) {
   form.Close();
   EXPECT_EQ(form.log, (Log{"Unload"}));
   EXPECT_FALSE(form.IsOpen());
   EXPECT_EQ(form.Window(), nullptr);
-  EXPECT_EQ(form.Text(DemoForm::kEdit), "");
-  form.SetText(DemoForm::kEdit, "lost");
+  EXPECT_EQ(form.edit[0].Text(), "");
+  form.edit[0].SetText("lost");
   form.Show();
   EXPECT_TRUE(form.IsShown());
-  EXPECT_EQ(form.Text(DemoForm::kEdit), "late night") << "OnLoad ran again";
+  EXPECT_EQ(form.edit[0].Text(), "late night") << "OnLoad ran again";
 }
 
 }  // namespace

@@ -4,6 +4,7 @@
 #include <windows.h>
 
 #include "faceplate/Color.h"
+#include "forms/Form.h"
 #include "forms/MessageLoop.h"
 
 namespace sonaro {
@@ -41,6 +42,13 @@ inline Color PixelOf(HWND window, int x, int y) {
   const COLORREF color = GetPixel(dc, x, y);
   ReleaseDC(window, dc);
   return {GetRValue(color), GetGValue(color), GetBValue(color)};
+}
+
+// A control by its number, as other programs find it.
+inline HWND ControlOf(const Form& form, int id) { return GetDlgItem(form.Window(), id); }
+
+inline void FocusOn(const Form& form, int id) {
+  SendMessageW(form.Window(), WM_NEXTDLGCTL, reinterpret_cast<WPARAM>(ControlOf(form, id)), TRUE);
 }
 
 inline void MouseOn(HWND window, UINT message) {

@@ -4,6 +4,7 @@
 #include "contract/HttpListener.h"
 #include "forms/ControlIds.h"
 #include "forms/StringTable.h"
+#include "forms/WideText.h"
 #include "loopback/LoopbackServer.h"
 #include "net/HttpFaultText.h"
 #include "net/frmTestProxy.h"
@@ -21,6 +22,8 @@ const std::string kWorks = "This Proxy is configured correctly";
 const std::string kFails =
     "This Proxy setting does not seem to work. Please check your setting and try again.";
 
+std::string TextOf(const Form& form, int id) { return Narrow(TextOfWindow(ControlOf(form, id))); }
+
 class TestProxyTest : public testing::Test {
  protected:
   TestProxyTest() { Settings().CheckKeyIsThere(kSettingsKey); }
@@ -33,16 +36,16 @@ class TestProxyTest : public testing::Test {
   }
   // What the test comes to: the status, with the last step that was begun.
   static std::string Result(frmTestProxy& form) {
-    EXPECT_EQ(form.Text(lblStatusInfo), kRuns);
-    EXPECT_FALSE(form.IsEnabled(butTestAgainIt));
-    PumpUntil([&] { return form.Text(lblStatusInfo) != kRuns; });
-    EXPECT_TRUE(form.IsEnabled(butTestAgainIt));
+    EXPECT_EQ(TextOf(form, lblStatusInfo), kRuns);
+    EXPECT_FALSE(IsWindowEnabled(ControlOf(form, butTestAgainIt)));
+    PumpUntil([&] { return TextOf(form, lblStatusInfo) != kRuns; });
+    EXPECT_TRUE(IsWindowEnabled(ControlOf(form, butTestAgainIt)));
     std::string last;
     for (int step = 0; step < 3; ++step) {
-      const std::string text = form.Text(lblProxyStep + step);
+      const std::string text = TextOf(form, lblProxyStep + step);
       if (!text.empty()) last = text;
     }
-    return form.Text(lblStatusInfo) + "|" + last;
+    return TextOf(form, lblStatusInfo) + "|" + last;
   }
 
   FormContextForTests outside_;
@@ -59,19 +62,19 @@ TEST_F(TestProxyTest, AsksTheProxyForTheTestPage) {
   char caption[64] = "";
   GetWindowTextA(form->Window(), caption, sizeof caption);
   EXPECT_STREQ(caption, "Testing Proxy Setting");
-  EXPECT_EQ(form->Text(lblCheckAddress), "127.0.0.1");
-  EXPECT_EQ(form->Text(lblCheckPort), std::to_string(proxy_.Port()));
-  EXPECT_EQ(form->Text(lblProxyStuff), "* You need to be connected to the Internet for this test to work");
+  EXPECT_EQ(TextOf(*form, lblCheckAddress), "127.0.0.1");
+  EXPECT_EQ(TextOf(*form, lblCheckPort), std::to_string(proxy_.Port()));
+  EXPECT_EQ(TextOf(*form, lblProxyStuff), "* You need to be connected to the Internet for this test to work");
   EXPECT_EQ(Settings().Setting(setting::kProxyTestText.name), "cool proxy works!");
-  PumpUntil([&] { return form->Text(lblStatusInfo) != kRuns; });
-  EXPECT_EQ(form->Text(lblStatusInfo), kWorks);
-  EXPECT_EQ(form->Text(lblProxyStep + 1), "Connection accepted");
+  PumpUntil([&] { return TextOf(*form, lblStatusInfo) != kRuns; });
+  EXPECT_EQ(TextOf(*form, lblStatusInfo), kWorks);
+  EXPECT_EQ(TextOf(*form, lblProxyStep + 1), "Connection accepted");
   const std::string page = "http://www.sonaro.example/sonaroapp/sonaro3/asp/proxy/test.asp";
   EXPECT_EQ(Settings().Setting(setting::kProxyTest.name), page);
   ASSERT_EQ(proxy_.Requests().size(), 1u);
   EXPECT_TRUE(proxy_.Requests()[0].starts_with("GET " + page + " HTTP/1.0\r\nHost: www.sonaro.example\r\n"))
       << proxy_.Requests()[0];
-  SendMessageA(form->Control(butOKIt), BM_CLICK, 0, 0);
+  SendMessageA(ControlOf(*form, butOKIt), BM_CLICK, 0, 0);
   EXPECT_FALSE(form->IsOpen());
   for (const char* name : {"ProxyUse", "ProxyAddress", "ProxyPort"}) {
     EXPECT_EQ(Settings().Setting(name), "") << name;
@@ -82,12 +85,12 @@ TEST_F(TestProxyTest, ShowsHowFarItCameAndTriesAgain) {
   const auto form = Show(std::to_string(UnusedPort()));
   const std::string why = HttpFaultText(HttpFault::Refused, words_);
   EXPECT_EQ(Result(*form), kFails + "|" + why);
-  EXPECT_EQ(form->Text(lblProxyStep), "Proxy server found");
-  EXPECT_TRUE(form->Text(lblProxyStepTime).ends_with(" ms"));
-  EXPECT_EQ(form->Text(lblProxyStep + 1), why);
-  EXPECT_EQ(form->Text(lblProxyStep + 2), "");
-  SendMessageA(form->Control(butTestAgainIt), BM_CLICK, 0, 0);
-  EXPECT_EQ(form->Text(lblProxyStep + 1), "");
+  EXPECT_EQ(TextOf(*form, lblProxyStep), "Proxy server found");
+  EXPECT_TRUE(TextOf(*form, lblProxyStepTime).ends_with(" ms"));
+  EXPECT_EQ(TextOf(*form, lblProxyStep + 1), why);
+  EXPECT_EQ(TextOf(*form, lblProxyStep + 2), "");
+  SendMessageA(ControlOf(*form, butTestAgainIt), BM_CLICK, 0, 0);
+  EXPECT_EQ(TextOf(*form, lblProxyStep + 1), "");
   EXPECT_EQ(Result(*form), kFails + "|" + why);
 }
 

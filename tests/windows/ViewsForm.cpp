@@ -63,32 +63,32 @@ std::span<const EventRow> ViewsForm::Events() const {
 }
 
 void ViewsForm::OnLoad() {
-  List(kList).SetColumns({{"Name", 185}, {"Location", 112}, {"Media Type", 82}, {"Station Format", 99}});
-  List(kList).SetEmptyText("No Stations Found",
-                           "Try fewer words, choose \xE2\x80\x9C"
-                           "Any word\xE2\x80\x9D, or search in all fields.");
-  List(kList).SetModel(&stations_, true);
+  list->SetColumns({{"Name", 185}, {"Location", 112}, {"Media Type", 82}, {"Station Format", 99}});
+  list->SetEmptyText("No Stations Found",
+                     "Try fewer words, choose \xE2\x80\x9C"
+                     "Any word\xE2\x80\x9D, or search in all fields.");
+  list->SetModel(&stations_, true);
   FillTree();
 }
 
 void ViewsForm::FillTree() {
-  TreeView& tree = Tree(kTree);
-  tree.BeginFill();
-  tree.Clear();
+  TreeView& view = *tree;
+  view.BeginFill();
+  view.Clear();
   int number = 0;
   for (const char* root : {"Adult Hits", "Alternative", "Blues", "Classical", "Electronic", "Jazz",
                            "News & Talk", "Rock", "Spoken Word", "World", "Your Stations"}) {
-    const HTREEITEM node = tree.Add(nullptr, root, std::to_string(100 + 37 * number), number);
+    const HTREEITEM node = view.Add(nullptr, root, std::to_string(100 + 37 * number), number);
     ++number;
     const std::string name = root;
     if (name != "Classical" && name != "Jazz" && name != "Rock") continue;
     for (const char* child : {"Chamber", "Opera", "Orchestral with a very long name indeed"})
-      tree.Add(node, child, "58", number++);
-    if (name == "Classical") tree.Expand(node);
+      view.Add(node, child, "58", number++);
+    if (name == "Classical") view.Expand(node);
   }
-  tree.EndFill();
+  view.EndFill();
 }
 
-void ViewsForm::Tree_NodeClick(HTREEITEM node) { Note("NodeClick", Tree(kTree).Data(node)); }
+void ViewsForm::Tree_NodeClick(HTREEITEM node) { Note("NodeClick", tree->Data(node)); }
 
 }  // namespace sonaro

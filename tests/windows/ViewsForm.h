@@ -4,7 +4,7 @@
 #include <string>
 #include <vector>
 
-#include "forms/Form.h"
+#include "forms/controls/Controls.h"
 #include "forms/controls/ListView.h"
 
 namespace sonaro {
@@ -30,6 +30,8 @@ class ViewsForm final : public Form {
   void FillTree();
 
   std::vector<std::string> log;  // one entry for each event: "ItemActivated 3", "NodeClick 12"
+  ListHandle list{*this, kList};
+  TreeHandle tree{*this, kTree};
 
  private:
   static const FormDesign& Design();

@@ -22,15 +22,15 @@ class ViewsTest : public testing::Test {
   void Open(int rows) {
     stations.SetCount(rows);
     form.Show();
-    list = form.Control(ViewsForm::kList);
-    tree = form.Control(ViewsForm::kTree);
+    list = form.list.Window();
+    tree = form.tree.Window();
     SetFocus(list);
     Pump();
     form.log.clear();
   }
   // The log since the last call.
   Log Events() { return std::exchange(form.log, {}); }
-  ListView& List() { return form.List(ViewsForm::kList); }
+  ListView& List() { return *form.list; }
 
   std::string CellText(int row, int column) const {
     wchar_t text[300] = L"";
@@ -62,7 +62,7 @@ class ViewsTest : public testing::Test {
   // The scroll bar that lies over the right end of a view.
   HWND BarOf(int id) const {
     RECT view{};
-    GetWindowRect(form.Control(id), &view);
+    GetWindowRect(ControlOf(form, id), &view);
     for (HWND bar = nullptr;
          (bar = FindWindowExW(form.Window(), bar, L"SonaroScrollBar", nullptr)) != nullptr;) {
       RECT box{};
@@ -133,7 +133,7 @@ TEST_F(ViewsTest, ClickingAndTypingSelect) {
 TEST_F(ViewsTest, AClickBelowTheRowsTakesNothingAway) {
   Open(3);
   List().Select(1);
-  form.Focus(ViewsForm::kTree);
+  form.tree.Focus();
   RECT box{};
   GetClientRect(list, &box);
   for (const UINT button : {UINT{WM_LBUTTONDOWN}, UINT{WM_RBUTTONDOWN}}) {
@@ -277,10 +277,10 @@ TEST_F(ViewsTest, NodesAreClickedByPointerAndKeyboardAlike) {
   PressKey(VK_DOWN);
   PressKey(VK_RETURN);
   EXPECT_EQ(Events(), (Log{"NodeClick 0", "NodeClick 0", "NodeClick 1", "NodeClick 1"}));
-  form.Tree(ViewsForm::kTree).Select(first);
+  form.tree->Select(first);
   form.FillTree();
   EXPECT_EQ(Events(), Log{});
-  EXPECT_EQ(form.Tree(ViewsForm::kTree).Selected(), nullptr);
+  EXPECT_EQ(form.tree->Selected(), nullptr);
 }
 
 TEST_F(ViewsTest, TheMarkOfANodeOpensIt) {

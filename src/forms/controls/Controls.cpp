@@ -2,8 +2,34 @@
 
 #include <algorithm>
 #include <stdexcept>
+#include <utility>
+
+#include "forms/FormImpl.h"
+#include "forms/WideText.h"
+#include "forms/controls/ListView.h"
+#include "forms/controls/ProgressScale.h"
+#include "forms/controls/RatingPicture.h"
+#include "forms/controls/TreeView.h"
 
 namespace sonaro {
+namespace {
+
+// Something that the control is painted from.
+template <class T>
+void Change(FormImpl& parts, ControlInstance* item, T ControlInstance::*what, std::type_identity_t<T> value) {
+  if (!item || item->*what == value) return;
+  item->*what = std::move(value);
+  parts.RepaintItem(*item);
+}
+
+// A number of another kind is a mistake in the form's own code: the cast throws, and the window goes on.
+template <class T>
+T& ViewOf(const ControlInstance* item) {
+  if (!item || !item->view) throw std::out_of_range("the form is not open");
+  return dynamic_cast<T&>(*item->view);
+}
+
+}  // namespace
 
 ControlHandle::ControlHandle(Form& form, int id, std::initializer_list<ControlKind> kinds)
     : form_(&form), id_(id) {
@@ -13,5 +39,176 @@ ControlHandle::ControlHandle(Form& form, int id, std::initializer_list<ControlKi
   throw std::logic_error(std::string(form.Description().name) + " has no control " + std::to_string(id) +
                          " of the kind that its member says");
 }
+
+ControlInstance* ControlHandle::Item() const { return Parts().Find(id_); }
+
+HWND ControlHandle::Window() const {
+  const ControlInstance* item = Item();
+  return item ? item->Window() : nullptr;
+}
+
+LRESULT ControlHandle::Send(UINT message, WPARAM wParam, LPARAM lParam) const {
+  const HWND window = Window();
+  return window ? SendMessageW(window, message, wParam, lParam) : 0;
+}
+
+void ControlHandle::Show(bool shown) const {
+  ControlInstance* item = Item();
+  if (!item || item->wanted == shown) return;
+  item->wanted = shown;
+  Parts().ShowOrHide(*item);
+}
+
+void ControlHandle::Enable(bool enabled) const {
+  const HWND window = Window();
+  if (!window || (IsWindowEnabled(window) != FALSE) == enabled) return;
+  // A disabled control that keeps the focus would swallow every key.
+  if (!enabled && HasFocus()) SendMessageW(Parts().window, WM_NEXTDLGCTL, 0, FALSE);
+  EnableWindow(window, enabled);
+}
+
+bool ControlHandle::IsEnabled() const {
+  const HWND window = Window();
+  return window && IsWindowEnabled(window);
+}
+
+void ControlHandle::Focus() const {
+  if (const ControlInstance* item = Item()) Parts().FocusOn(*item);
+}
+
+bool ControlHandle::HasFocus() const {
+  const ControlInstance* item = Item();
+  return item && Parts().Focused() == item;
+}
+
+void ControlHandle::SetTip(std::string_view text) const {
+  if (ControlInstance* item = Item()) Parts().SetTip(*item, std::string(text));
+}
+
+void ControlHandle::SetIconTo(Icon icon) const { Change(Parts(), Item(), &ControlInstance::icon, icon); }
+
+void ControlHandle::SetDetailTo(std::string_view text) const {
+  Change(Parts(), Item(), &ControlInstance::detail, std::string(text));
+}
+
+std::string TextControl::Text() const {
+  const HWND window = Window();
+  return window ? Narrow(TextOfWindow(window)) : std::string();
+}
+
+void TextControl::SetText(std::string_view text) const {
+  const HWND window = Window();
+  if (!window) return;
+  const std::wstring wide = Widen(text);
+  if (TextOfWindow(window) == wide) return;  // an edit keeps its caret, a label does not flicker
+  const Quietly quietly(Parts().quiet);
+  SetWindowTextW(window, wide.c_str());
+}
+
+void Label::SetColor(TextColor color) const { Change(Parts(), Item(), &ControlInstance::color, color); }
+
+void Label::SetTextAndGrow(std::string_view text) const {
+  SetText(text);
+  if (const ControlInstance* item = Item()) Parts().GrowFor(*item, text);
+}
+
+void Button::PopUpMenu(std::span<const MenuEntry> entries) const {
+  RECT box{};
+  if (GetWindowRect(Window(), &box)) form_->PopUpMenu(entries, {box.left, box.bottom});
+}
+
+void ColumnButton::SetSortMark(SortMark mark) const { Change(Parts(), Item(), &ControlInstance::sort, mark); }
+
+void ActiveControl::SetActive(bool active) const {
+  if (IsActive() == active) return;
+  Send(BM_SETCHECK, active ? BST_CHECKED : BST_UNCHECKED);
+  const ControlInstance* item = Item();
+  if (active && item && item->KindOf() == ControlKind::TabButton) Parts().MoveNeedle(*item);
+}
+
+bool ActiveControl::IsActive() const { return Send(BM_GETCHECK) == BST_CHECKED; }
+
+void GroupButton::SetEmptySocket(bool empty) const {
+  Change(Parts(), Item(), &ControlInstance::emptySocket, empty);
+}
+
+void CheckBox::Check(bool checked) const { Send(BM_SETCHECK, checked ? BST_CHECKED : BST_UNCHECKED); }
+bool CheckBox::IsChecked() const { return Send(BM_GETCHECK) == BST_CHECKED; }
+
+void RadioButton::Check() const {
+  const ControlInstance* item = Item();
+  if (!item) return;
+  for (const ControlInstance& other : Parts().GroupOf(*item)) {
+    SendMessageW(other.window, BM_SETCHECK, &other == item ? BST_CHECKED : BST_UNCHECKED, 0);
+  }
+}
+
+bool RadioButton::IsChecked() const { return Send(BM_GETCHECK) == BST_CHECKED; }
+
+void Edit::Limit(int bytes) const { Send(EM_LIMITTEXT, static_cast<WPARAM>(bytes)); }
+void Edit::SelectAll() const { Send(EM_SETSEL, 0, -1); }
+
+void ComboBox::AddItem(std::string_view text, int data) const {
+  const LRESULT row = Send(CB_ADDSTRING, 0, reinterpret_cast<LPARAM>(Widen(text).c_str()));
+  Send(CB_SETITEMDATA, static_cast<WPARAM>(row), data);
+}
+
+void ComboBox::ClearItems() const {
+  const Quietly quietly(Parts().quiet);
+  const ControlInstance* item = Item();
+  const std::string typed = item && item->KindOf() == ControlKind::ComboEdit ? Text() : std::string();
+  Send(CB_RESETCONTENT);
+  if (!typed.empty()) SetText(typed);  // what the user typed is not one of the items
+}
+
+int ComboBox::ItemCount() const { return static_cast<int>(Send(CB_GETCOUNT)); }
+
+std::string ComboBox::ItemText(int row) const {
+  const HWND window = Window();
+  return window ? Narrow(ComboRowText(window, row)) : std::string();
+}
+
+int ComboBox::ItemData(int row) const {
+  if (row < 0 || row >= ItemCount()) return 0;
+  return static_cast<int>(Send(CB_GETITEMDATA, static_cast<WPARAM>(row)));
+}
+
+int ComboBox::SelectedItem() const { return Window() ? static_cast<int>(Send(CB_GETCURSEL)) : -1; }
+
+void ComboBox::SelectItem(int row) const {
+  const Quietly quietly(Parts().quiet);
+  Send(CB_SETCURSEL, static_cast<WPARAM>(row));
+}
+
+bool ComboBox::SelectItemData(int data) const {
+  for (int row = 0; row < ItemCount(); ++row) {
+    if (ItemData(row) != data) continue;
+    SelectItem(row);
+    return true;
+  }
+  return false;
+}
+
+void ComboBox::SelectAll() const { Send(CB_SETEDITSEL, 0, MAKELPARAM(0, -1)); }
+
+SYSTEMTIME MonthCalendar::Date() const {
+  SYSTEMTIME date{};
+  Send(MCM_GETCURSEL, 0, reinterpret_cast<LPARAM>(&date));
+  return date;
+}
+
+void MonthCalendar::SetDate(const SYSTEMTIME& date) const {
+  SYSTEMTIME copy = date;
+  Send(MCM_SETCURSEL, 0, reinterpret_cast<LPARAM>(&copy));
+}
+
+void Picture::SetPainter(PicturePainter paint) const {
+  Change(Parts(), Item(), &ControlInstance::picture, paint);
+}
+
+ListView& ListHandle::operator*() const { return ViewOf<ListView>(Item()); }
+TreeView& TreeHandle::operator*() const { return ViewOf<TreeView>(Item()); }
+RatingPicture* RatingHandle::operator->() const { return &ViewOf<RatingPicture>(Item()); }
+ProgressScale* ProgressHandle::operator->() const { return &ViewOf<ProgressScale>(Item()); }
 
 }  // namespace sonaro
