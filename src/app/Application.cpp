@@ -63,7 +63,7 @@ Application::Application(const Platform& platform, const Strings& strings, const
       messages_(context_, help_),
       tray_(context_, favorites_, help_, *this, *this),
       service_(std::make_unique<ApplicationService>(ApplicationService::Dependencies{
-          platform_, context_, data_, reg_, strings_, stations_, favorites_, help_, *this})) {
+          platform_, context_, data_, reg_, strings_, state_, stations_, favorites_, help_, *this})) {
   state_.commandLine = std::move(commandLine);
   player_.SetView(this);
   pages_.SetShowErrorText([this](const std::string& sentence) { ShowErrorText(sentence); });

@@ -107,7 +107,8 @@ std::string ApplicationService::Installed() {
   const std::optional<std::string> before = install_.ReplacedStationList();
   const ReadResult now = needs_.data.Read("\\Station.snr");
   if (!before || now.status != ReadStatus::Ok || *before == now.bytes) return {};
-  return DescribeUpdate(CompareStationLists(*before, now.bytes, StationsOfGroups()), needs_.strings);
+  return DescribeUpdate(CompareStationLists(*before, now.bytes, StationsOfGroups()), needs_.strings,
+                        needs_.state.decimalMode);
 }
 
 UndoStatus ApplicationService::UndoUpdate() {

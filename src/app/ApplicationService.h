@@ -23,6 +23,7 @@ class HelpPages;
 class StatList;
 class Strings;
 class frmInetUpdate;
+struct AppState;
 
 class ApplicationService final : public UpdateCommands, private UpdateDialogCommands {
  public:
@@ -32,6 +33,7 @@ class ApplicationService final : public UpdateCommands, private UpdateDialogComm
     DataFolder& data;
     CReg& reg;
     const Strings& strings;
+    const AppState& state;
     StatList& stations;
     const FavoriteGroups& favorites;
     HelpPages& help;

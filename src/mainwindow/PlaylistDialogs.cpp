@@ -11,19 +11,29 @@ namespace {
 
 constexpr const char* kImportKey = "PlaylistImported";
 
-int SentenceOf(ImportResult::Status status) {
-  switch (status) {
+// What was added, and of the rest only what there was: "3 stations added to Your Stations. 1 already there."
+std::string DescribeImport(const ImportResult& result, const Strings& strings) {
+  const auto sentence = [&strings](int textId, std::size_t count) {
+    return FormatText(strings.Load(textId), {std::to_string(count)});
+  };
+  switch (result.status) {
     case ImportResult::Status::NotRead:
-      return IDS_IMPORT_NOT_READ;
+      return strings.Load(IDS_IMPORT_NOT_READ);
     case ImportResult::Status::NotAPlaylist:
-      return IDS_IMPORT_NO_PLAYLIST;
+      return strings.Load(IDS_IMPORT_NO_PLAYLIST);
     case ImportResult::Status::GroupNotSaved:
-      return IDS_IMPORT_NOT_IN_GROUP;
+      return sentence(IDS_IMPORT_NOT_IN_GROUP, result.added);
     case ImportResult::Status::NotSaved:  // has its own message
     case ImportResult::Status::Ok:
       break;
   }
-  return IDS_IMPORT_DONE;
+  std::string text = result.added == 0   ? strings.Load(IDS_IMPORT_NONE)
+                     : result.added == 1 ? strings.Load(IDS_IMPORT_ONE)
+                                         : sentence(IDS_IMPORT_DONE, result.added);
+  if (result.known > 0) text += " " + sentence(IDS_IMPORT_KNOWN, result.known);
+  if (result.skipped > 0) text += " " + sentence(IDS_IMPORT_SKIPPED, result.skipped);
+  if (result.damaged) text += " " + strings.Load(IDS_IMPORT_DAMAGED);
+  return text;
 }
 
 // What the dialog suggests: a name with what no file name may hold taken out would else be refused unseen.
@@ -75,14 +85,9 @@ void PlaylistDialogs::SayImported(const ImportResult& result) const {
   MessageBoxView& messages = context_.services.messages;
   const bool saved = result.status != ImportResult::Status::NotSaved;
   if (!SavedOrSaid(saved, strings.Load(IDS_IMPORT_WHAT), messages, strings)) return;
-  std::string text = FormatText(
-      strings.Load(SentenceOf(result.status)),
-      {std::to_string(result.added), std::to_string(result.known), std::to_string(result.skipped)});
-  if (result.status == ImportResult::Status::Ok && result.damaged)
-    text += " " + strings.Load(IDS_IMPORT_DAMAGED);
   messages.Ask({.key = kImportKey,
                 .caption = strings.Load(IDS_TRANSFER_CAPTION),
-                .text = text,
+                .text = DescribeImport(result, strings),
                 .firstButton = strings.Load(IDS_GROUP_OK)});
   context_.models.listing.GroupsChanged();
   context_.view.PersonalStationsChanged();

@@ -5,6 +5,7 @@
 #include "base/Text.h"
 #include "directory/StationListFile.h"
 #include "resources/texts/net.h"
+#include "settings/FormatCount.h"
 #include "settings/Strings.h"
 
 namespace sonaro {
@@ -84,10 +85,12 @@ UpdateReport CompareStationLists(std::string_view before, std::string_view after
   return report;
 }
 
-std::string DescribeUpdate(const UpdateReport& report, const Strings& strings) {
-  std::string text =
-      FormatText(strings.Load(IDS_NET_REPORT),
-                 {std::to_string(report.added), std::to_string(report.changed), std::to_string(report.gone)});
+std::string DescribeUpdate(const UpdateReport& report, const Strings& strings, DecimalMode decimals) {
+  const auto figure = [&](std::size_t count) {
+    return count == 0 ? strings.Load(IDS_NET_REPORT_NONE) : FormatCount(count, decimals);
+  };
+  std::string text = FormatText(strings.Load(IDS_NET_REPORT),
+                                {figure(report.added), figure(report.changed), figure(report.gone)});
   if (!report.yoursChanged.empty()) {
     text += "\r\n" + FormatText(strings.Load(IDS_NET_YOURS_CHANGED), {NamesIn(report.yoursChanged, strings)});
   }

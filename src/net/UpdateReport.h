@@ -9,6 +9,8 @@
 #include <string_view>
 #include <vector>
 
+#include "settings/AppState.h"
+
 namespace sonaro {
 
 class Strings;
@@ -26,7 +28,8 @@ struct UpdateReport {
 UpdateReport CompareStationLists(std::string_view before, std::string_view after,
                                  std::span<const std::int32_t> yours);
 
-// One sentence with the numbers, and one line each for what concerns the user's stations.
-std::string DescribeUpdate(const UpdateReport& report, const Strings& strings);
+// One line with the numbers ("1,270 new, 1 changed, none gone"), and one line each for what concerns the
+// user's stations.
+std::string DescribeUpdate(const UpdateReport& report, const Strings& strings, DecimalMode decimals);
 
 }  // namespace sonaro

@@ -23,7 +23,7 @@ TEST_F(UpdateTest, F5BringsANewDirectoryAndItCanBeUndone) {
 
   server_.Release();
   ASSERT_TRUE(Says(dialog, "Finished Got It All"));
-  EXPECT_TRUE(Says(dialog, "New stations: 2. Changed: 1. Gone: 1."));
+  EXPECT_TRUE(Says(dialog, "2 new, 1 changed, 1 gone"));
   EXPECT_TRUE(Says(dialog, "Changed in your groups: Renamed"));
   EXPECT_TRUE(Says(dialog, "Gone from your groups: B5 aktuell"));
   EXPECT_EQ(TextOf(Control(dialog, butMsg + 1)), "Close");
@@ -133,10 +133,10 @@ TEST_F(UpdateTest, AnUpdateThatDidNotComeThroughChangesNothing) {
     const char* reason;
   } kCases[] = {
       {script::CutBody(update, update.size() / 2), "The server ended the connection too early."},
-      {script::Body(update.substr(0, update.size() - 1)), "The update did not come through whole."},
+      {script::Body(update.substr(0, update.size() - 1)), "The update was incomplete."},
       {script::Status("500 Broken"), "The server answered with status 500."},
       {script::Redirect(kFileAt), "The server answered with status 302."},
-      {script::Exactly("220 ready\r\n"), "What answered is not a web server."},
+      {script::Exactly("220 ready\r\n"), "The answer did not come from a web server."},
   };
   HWND main = StartAndShowMain();
   Click(Control(main, butUpdate));

@@ -3,10 +3,12 @@
 #include <gtest/gtest.h>
 
 #include "base/crypto/Signing.h"
+#include "fakes/FakeStrings.h"
 #include "net/NetWorld.h"
 #include "net/UpdateReport.h"
 #include "net/UpdateSignature.h"
 #include "net/WhatIsNew.h"
+#include "resources/texts/net.h"
 
 namespace sonaro {
 namespace {
@@ -221,6 +223,13 @@ TEST(UpdateReport, CountsAndNames) {
   EXPECT_EQ(report.gone, 1u);
   EXPECT_EQ(report.yoursChanged, std::vector<std::string>{"New One"});
   EXPECT_EQ(report.yoursGone, std::vector<std::string>{"Later Two"});
+  class ReportText final : public FakeStrings {
+    std::string Load(int id) const override {
+      return id == IDS_NET_REPORT ? "{0}, {1}, {2}" : FakeStrings::Load(id);
+    }
+  } const strings;
+  const std::string none = std::to_string(IDS_NET_REPORT_NONE);
+  EXPECT_EQ(DescribeUpdate({.added = 1270, .changed = 1}, strings, DecimalMode::Point), "1,270, 1, " + none);
 }
 
 }  // namespace
