@@ -181,7 +181,10 @@ void AddLookUp(Directory& directory) {
   });
   const auto visit = [&directory](StatList& list) {
     std::size_t bytes = 0;
-    list.VisitStations(directory.someIds, [&](const StationRecord& r) { bytes += r.fields[0].size(); });
+    list.VisitStations(directory.someIds, [&](const StationView& station) {
+      benchmark::DoNotOptimize(station.fields.data());
+      bytes += station.fields[0].size();
+    });
     return bytes;
   };
   Add(directory, "5,000 stations", kSonaro, Cost::Normal,
@@ -214,11 +217,14 @@ void AddLookUp(Directory& directory) {
   });
   const auto many = [&directory, database] {
     std::size_t bytes = 0;
-    StationRecord record;
     SqliteTable table(database);
     table.Begin();
-    for (const std::int32_t id : directory.someIds)
-      bytes += table.Get(id, record) ? record.fields[0].size() : 0;
+    for (const std::int32_t id : directory.someIds) {
+      table.Look(id, [&](const auto& fields) {
+        benchmark::DoNotOptimize(fields.data());
+        bytes += fields[0].size();
+      });
+    }
     table.End();
     return bytes;
   };
@@ -238,14 +244,11 @@ void AddLookUp(Directory& directory) {
 
 void AddScan(Directory& directory) {
   Add(directory, "scan of all fields", kSonaro, Cost::Normal, Plain([&directory] {
-        Vmx vmx(directory.files);
-        const Vmx::Handle handle = vmx.VmxOpen(directory.folder / "statorg", VmxOpenMode::Read);
-        VmxRecord record;
         std::size_t count = 0;
-        while (vmx.VmxGet(handle, {}, VmxReadMode::Next, record) == TableStatus::Success) {
-          benchmark::DoNotOptimize(record.fields.data());
+        StatList(directory.data).VisitAllStations([&count](const StationView& station) {
+          benchmark::DoNotOptimize(station.fields.data());
           ++count;
-        }
+        });
         Directory::Require(count == directory.ids.size(), "scan");
         return count;
       }));

@@ -131,6 +131,13 @@ bool SqliteTable::Get(std::int32_t id, StationRecord& record) {
   return found;
 }
 
+bool SqliteTable::Find(std::int32_t id, Fields& fields) {
+  sqlite3_bind_int(get_, 1, id);
+  if (sqlite3_step(get_) != SQLITE_ROW) return false;
+  for (int field = 1; field <= 16; ++field) fields[static_cast<std::size_t>(field) - 1] = TextAt(get_, field);
+  return true;
+}
+
 std::size_t SqliteTable::Scan() {
   sqlite3_stmt* const all = Prepare(database_, "select * from stations order by id");
   std::size_t count = 0;

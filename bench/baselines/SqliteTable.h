@@ -4,6 +4,7 @@
 
 #include <sqlite3.h>
 
+#include <array>
 #include <cstdint>
 #include <span>
 #include <string>
@@ -30,6 +31,12 @@ class SqliteTable {
   void Begin();
   void End();
   bool Get(std::int32_t id, StationRecord& record);
+  // The same without copying: calls `visit` with the fields, valid meanwhile.
+  template <typename Visit>
+  void Look(std::int32_t id, Visit visit) {
+    if (Fields fields; Find(id, fields)) visit(fields);
+    sqlite3_reset(get_);
+  }
   // Looks at all fields of all records in the order of their identifiers, without copying them; the number of
   // records.
   std::size_t Scan();
@@ -37,6 +44,8 @@ class SqliteTable {
   std::vector<std::int32_t> SearchByTrigrams(const Query& query);
 
  private:
+  using Fields = std::array<std::string_view, StationRecord::kFieldCount>;
+  bool Find(std::int32_t id, Fields& fields);
   std::vector<std::int32_t> Ids(sqlite3_stmt* statement);
 
   sqlite3* database_ = nullptr;

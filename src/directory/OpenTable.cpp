@@ -64,10 +64,20 @@ TableStatus OpenTable::Read(std::int32_t key, TableImage::Record& record) {
   return TableStatus::Success;
 }
 
+TableStatus OpenTable::ReadNextOnDisk(TableImage::Record& record) {
+  if (next_ >= image_->RecordCount()) return TableStatus::NotFound;
+  const TableStatus status = image_->Get(files_, next_, record);
+  if (status != TableStatus::Success) return status;
+  position_ = record.key;
+  ++next_;
+  return status;
+}
+
 // One step of a merge. `next` walks over the records on disk and `change` over the changes; the smaller key
 // is the next record. With equal keys the change hides the record, and if it is a deletion the step is
 // repeated. The position is taken over only at the end, so that a failure leaves it where it was.
 TableStatus OpenTable::ReadNext(TableImage::Record& record) {
+  if (changes_.empty()) return ReadNextOnDisk(record);
   std::uint32_t next = next_;
   for (auto change = changes_.upper_bound(position_);; ++change) {
     TableImage::Record stored;

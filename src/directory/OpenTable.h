@@ -32,6 +32,8 @@ class OpenTable {
   // operation.
   TableStatus Read(std::int32_t key, TableImage::Record& record);
   TableStatus ReadNext(TableImage::Record& record);
+  // So many records are going to be read by their keys.
+  void Expect(std::size_t records) { image_->Expect(records); }
 
   // Success or ReplacedExisting.
   TableStatus Put(std::int32_t key, std::string text);
@@ -50,6 +52,7 @@ class OpenTable {
   OpenTable() = default;
   // Whether the key is there, in the changes or else on disk.
   TableStatus Contains(std::int32_t key, bool& contains);
+  TableStatus ReadNextOnDisk(TableImage::Record& record);
   TableStatus WriteChanges();
 
   static constexpr std::int64_t kBeforeFirst = std::int64_t{std::numeric_limits<std::int32_t>::min()} - 1;

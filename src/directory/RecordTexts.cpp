@@ -11,12 +11,11 @@ namespace {
 
 constexpr std::size_t kReadStep = 256 * 1024;           // of reading in order
 constexpr std::size_t kMaxInMemory = 64 * 1024 * 1024;  // of all texts at once
-constexpr std::size_t kFewOf = 8;                       // one record in so many is few
+constexpr std::size_t kReadCost = 4096;                 // bytes read in one go while one text is
 
 }  // namespace
 
-RecordTexts::RecordTexts(std::uint64_t offset, std::size_t size, std::size_t count)
-    : offset_(offset), size_(size), fewReads_(count / kFewOf) {}
+RecordTexts::RecordTexts(std::uint64_t offset, std::size_t size) : offset_(offset), size_(size) {}
 
 const char* RecordTexts::Get(InputFile& file, std::size_t at, std::size_t length) {
   if (at > size_ || length > size_ - at) return nullptr;
@@ -30,7 +29,7 @@ bool RecordTexts::Bring(InputFile& file, std::size_t at, std::size_t length) {
   // A read that begins where the last one ended is taken for reading in order.
   const bool goesOn = at == end_ && end_ != 0;
   if (goesOn) return Load(file, at, std::min(std::max(kReadStep, length), size_ - at));
-  const bool many = ++reads_ > fewReads_ && size_ <= kMaxInMemory;
+  const bool many = std::max(++reads_, expected_) > size_ / kReadCost && size_ <= kMaxInMemory;
   return many ? Load(file, 0, size_) : Load(file, at, length);
 }
 

@@ -1,7 +1,7 @@
 // The texts of a table's records, read from its data file as they are asked for: record by record when few
-// are, in large steps when they are asked for in order, and all at once, to stay in memory, when many are and
-// the file is not too large. Owned by a TableImage, which outlives the open file: each call is given the file
-// anew. Checks nothing.
+// are, in large steps when they are asked for in order, and all at once, to stay in memory, when so many are
+// that single reads would cost more and the file is not too large. Owned by a TableImage, which outlives the
+// open file: each call is given the file anew. Checks nothing.
 #pragma once
 
 #include <cstddef>
@@ -14,8 +14,11 @@ namespace sonaro {
 
 class RecordTexts {
  public:
-  // The `size` bytes at `offset` of the file, which hold `count` records.
-  RecordTexts(std::uint64_t offset, std::size_t size, std::size_t count);
+  // The `size` bytes at `offset` of the file.
+  RecordTexts(std::uint64_t offset, std::size_t size);
+
+  // So many texts are going to be asked for, in any order.
+  void Expect(std::size_t reads) { expected_ = reads; }
 
   // The bytes from `at` to `at + length` of the texts; null when they are not all there or could not be read.
   // Valid until the next call.
@@ -27,8 +30,8 @@ class RecordTexts {
 
   std::uint64_t offset_;
   std::size_t size_;
-  std::size_t fewReads_;  // as many single reads are made before all texts are brought in
-  std::size_t reads_ = 0;
+  std::size_t expected_ = 0;
+  std::size_t reads_ = 0;  // single ones, so far
   // What is in memory: the bytes from begin_ to end_.
   std::unique_ptr<char[]> bytes_;
   std::size_t capacity_ = 0;

@@ -16,8 +16,7 @@ constexpr std::string_view kListName = "\\station.snr";
 
 }  // namespace
 
-StatList::StatList(DataFolder& data)
-    : data_(data), vmx_(std::make_unique<Vmx>(data.FileSystem())), buffer_(std::make_unique<VmxRecord>()) {}
+StatList::StatList(DataFolder& data) : data_(data), vmx_(std::make_unique<Vmx>(data.FileSystem())) {}
 
 StatList::~StatList() = default;
 
@@ -39,21 +38,13 @@ void StatList::CloseStationTable(Handle handle) {
   if (handle != 0) status_ = vmx_->VmxClose(handle);
 }
 
-// Without true `record` stays as it is.
-bool StatList::Read(Handle handle, std::int32_t stationId, StationRecord& record) {
-  if (handle == 0) return false;
-  ++lookUps_;
-  status_ = vmx_->VmxGet(handle, std::to_string(stationId), VmxReadMode::Key, *buffer_);
-  if (status_ != TableStatus::Success) return false;
-  record.StationId = buffer_->key;
-  buffer_->CopyFields(record.fields);
-  return true;
-}
-
 StationRecord StatList::GetStation(Handle handle, std::int32_t stationId) {
-  StationRecord record;
-  Read(handle, stationId, record);
-  return record;
+  if (handle == 0) return {};
+  ++lookUps_;
+  VmxRecord record;
+  status_ = vmx_->VmxGet(handle, std::to_string(stationId), VmxReadMode::Key, record);
+  if (status_ != TableStatus::Success) return {};
+  return StationView{record.key, record.fields}.Copy();
 }
 
 bool StatList::PutStation(Handle handle, const StationRecord& record) {
@@ -123,49 +114,32 @@ auto StatList::WithTable(Operation operation) -> decltype(operation(Handle{})) {
   return result;
 }
 
-// Calls `read`, which reads the record of an identifier, for all of them, until the table is found damaged.
-// An unknown identifier is no failure here.
-template <typename ReadOne>
-void StatList::ForEachId(std::span<const std::int32_t> ids, ReadOne read) {
-  for (const std::int32_t id : ids) {
-    read(id);
-    if (status_ == TableStatus::NotFound) status_ = TableStatus::Success;
-    if (status_ != TableStatus::Success) return;
-  }
-}
-
 std::vector<StationRecord> StatList::GetAll(Handle handle, std::span<const std::int32_t> ids) {
   std::vector<StationRecord> records;
   records.reserve(ids.size());
-  ForEachId(ids, [&](std::int32_t id) {
-    if (!Read(handle, id, records.emplace_back())) records.pop_back();
-  });
+  Visit(handle, ids, [&](const StationView& station) { records.push_back(station.Copy()); });
   return records;
 }
 
-void StatList::VisitStations(std::span<const std::int32_t> ids,
-                             const std::function<void(const StationRecord&)>& visit) {
+void StatList::Visit(Handle handle, std::span<const std::int32_t> ids, const Visitor& visit) {
+  lookUps_ += ids.size();
+  status_ = vmx_->VmxVisit(handle, ids, [&visit](const VmxRecord& record) {
+    visit({record.key, record.fields});
+  });
+}
+
+void StatList::VisitStations(std::span<const std::int32_t> ids, const Visitor& visit) {
   WithTable([&](Handle handle) {
-    StationRecord record;
-    ForEachId(ids, [&](std::int32_t id) {
-      if (Read(handle, id, record)) visit(record);
-    });
+    Visit(handle, ids, visit);
     return true;
   });
 }
 
-void StatList::VisitAllStations(const std::function<void(const StationRecord&)>& visit) {
+void StatList::VisitAllStations(const Visitor& visit) {
   WithTable([&](Handle handle) {
-    StationRecord record;
-    status_ = vmx_->VmxBOF(handle);
-    while (status_ == TableStatus::Success) {
-      status_ = vmx_->VmxGet(handle, {}, VmxReadMode::Next, *buffer_);
-      if (status_ != TableStatus::Success) break;
-      record.StationId = buffer_->key;
-      buffer_->CopyFields(record.fields);
-      visit(record);
-    }
-    if (status_ == TableStatus::NotFound) status_ = TableStatus::Success;  // the end
+    status_ = vmx_->VmxVisitAll(handle, [&visit](const VmxRecord& record) {
+      visit({record.key, record.fields});
+    });
     return true;
   });
 }

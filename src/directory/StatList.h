@@ -20,7 +20,6 @@ namespace sonaro {
 class DataFolder;
 class InputFile;
 class Vmx;
-struct VmxRecord;
 
 // How EnsureStationTable left the table.
 enum class TableCare {
@@ -61,14 +60,15 @@ class StatList {
   // the directory counts as missing. Compares lengths first, then reads list and table once each.
   [[nodiscard]] TableCare EnsureStationTable();
 
-  // Opens the table once for all of them. Unknown identifiers are left out; the order is that of `ids`.
+  // A page of a list: opens the table once and looks each identifier up once (LookUps). Unknown identifiers
+  // are left out; the order is that of `ids`.
   std::vector<StationRecord> GetStations(std::span<const std::int32_t> ids);
-  // The same without a copy of every record: `visit` is given one record after the other in the same place,
-  // for whoever needs a few fields of many stations.
-  void VisitStations(std::span<const std::int32_t> ids,
-                     const std::function<void(const StationRecord&)>& visit);
+  // The same without a copy of any text: a view is good until `visit` returns, which must not ask the
+  // directory for anything.
+  using Visitor = std::function<void(const StationView&)>;
+  void VisitStations(std::span<const std::int32_t> ids, const Visitor& visit);
   // The same for every station of the table, in key order.
-  void VisitAllStations(const std::function<void(const StationRecord&)>& visit);
+  void VisitAllStations(const Visitor& visit);
   // One look-up: open, get, close.
   StationRecord FindStation(std::int32_t stationId);
 
@@ -88,17 +88,14 @@ class StatList {
  private:
   bool MadeOf(InputFile& list);
   TableCare KeepWithoutList();
-  bool Read(Handle handle, std::int32_t stationId, StationRecord& record);
   std::vector<std::int32_t> Search(Handle handle, std::string_view text, bool allWords);
+  void Visit(Handle handle, std::span<const std::int32_t> ids, const Visitor& visit);
   std::vector<StationRecord> GetAll(Handle handle, std::span<const std::int32_t> ids);
-  template <typename ReadOne>
-  void ForEachId(std::span<const std::int32_t> ids, ReadOne read);
   template <typename Operation>
   auto WithTable(Operation operation) -> decltype(operation(Handle{}));
 
   DataFolder& data_;
   std::unique_ptr<Vmx> vmx_;
-  std::unique_ptr<VmxRecord> buffer_;  // of the last read
   TableStatus status_ = TableStatus::Success;
   std::uint64_t lookUps_ = 0;
 };

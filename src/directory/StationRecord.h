@@ -2,10 +2,13 @@
 // "\station.snr" and in the station table. Fields 6 to 10 are held scrambled (directory/Scrambling.h).
 #pragma once
 
+#include <algorithm>
 #include <array>
 #include <cstddef>
 #include <cstdint>
+#include <span>
 #include <string>
+#include <string_view>
 
 namespace sonaro {
 
@@ -40,6 +43,22 @@ struct StationRecord {
   }
   bool Empty() const { return StationId == 0; }
   bool operator==(const StationRecord&) const = default;
+};
+
+// The same while it stands in the directory's memory, without a copy of its texts: for whoever looks at many.
+struct StationView {
+  std::int32_t StationId = 0;
+  std::span<const std::string_view> fields;  // fewer than a record has, or more, in a table made by others
+
+  std::string_view operator[](StationField field) const {
+    const std::size_t place = static_cast<std::size_t>(field) - 1;
+    return place < fields.size() ? fields[place] : std::string_view();
+  }
+  StationRecord Copy() const {
+    StationRecord record{StationId, {}};
+    std::copy_n(fields.begin(), std::min(fields.size(), record.fields.size()), record.fields.begin());
+    return record;
+  }
 };
 
 }  // namespace sonaro

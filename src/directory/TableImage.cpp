@@ -25,8 +25,7 @@ TableImage::TableImage(const IndexHeader& header)
       // touched, and the system gives no memory to them.
       entries_(std::make_unique_for_overwrite<Entry[]>(std::size_t{header.recordCount} + layout_.pageCount)),
       checkedPages_(layout_.pageCount),
-      texts_(sizeof(DataHeader), static_cast<std::size_t>(header.dataFileSize - sizeof(DataHeader)),
-             header.recordCount) {}
+      texts_(sizeof(DataHeader), static_cast<std::size_t>(header.dataFileSize - sizeof(DataHeader))) {}
 
 TableStatus TableImage::LoadDirectory(TableFiles& files) {
   directory_.resize(layout_.pageCount);
@@ -46,7 +45,6 @@ const Entry& TableImage::EntryAt(std::uint32_t index) const {
 }
 
 TableStatus TableImage::LoadPage(TableFiles& files, std::uint32_t page) {
-  if (checkedPages_[page]) return TableStatus::Success;
   const std::size_t first = page * kPageSlots;
   char* const bytes = reinterpret_cast<char*>(&entries_[first]);
   const std::size_t size = (EntriesIn(page) + 1) * sizeof(Entry);
@@ -75,7 +73,7 @@ TableStatus TableImage::Locate(TableFiles& files, std::int32_t key, Place& place
   // The key is below all others. It counts as found nowhere, with the place before the first record.
   if (above == directory_.begin()) return TableStatus::Success;
   const auto page = static_cast<std::uint32_t>(above - directory_.begin() - 1);
-  if (LoadPage(files, page) != TableStatus::Success) return TableStatus::Damaged;
+  if (NeedPage(files, page) != TableStatus::Success) return TableStatus::Damaged;
   const Entry* const first = &EntryAt(page * kPageEntries);
   const Entry* const end = first + EntriesIn(page);
   const Entry* const at =
@@ -86,15 +84,20 @@ TableStatus TableImage::Locate(TableFiles& files, std::int32_t key, Place& place
 }
 
 TableStatus TableImage::Get(TableFiles& files, std::uint32_t index, Record& record) {
-  if (LoadPage(files, index / kPageEntries) != TableStatus::Success) return TableStatus::Damaged;
+  std::uint64_t digest;
+  return Get(files, index, record, digest);
+}
+
+TableStatus TableImage::Get(TableFiles& files, std::uint32_t index, Record& record, std::uint64_t& digest) {
+  if (NeedPage(files, index / kPageEntries) != TableStatus::Success) return TableStatus::Damaged;
   const Entry* const entry = &EntryAt(index);
   // Every page ends with the entry after it, so entry[1] is there for the last record of a page too.
   const std::uint32_t length = entry[1].dataOffset - entry[0].dataOffset;  // far too long if it is not sound
   const char* const text = texts_.Get(*files.data, entry->dataOffset, length);
   if (!text) return TableStatus::Damaged;
   record = {entry->key, {text, length}};
-  const bool sound = RecordCheck(RecordDigest(record.key, record.text)) == entry->check;
-  return sound ? TableStatus::Success : TableStatus::Damaged;
+  digest = RecordDigest(record.key, record.text);
+  return RecordCheck(digest) == entry->check ? TableStatus::Success : TableStatus::Damaged;
 }
 
 TableStatus TableImage::LoadColumn(TableFiles& files) {
@@ -102,7 +105,7 @@ TableStatus TableImage::LoadColumn(TableFiles& files) {
   std::vector<std::uint32_t> starts;
   starts.reserve(std::size_t{RecordCount()} + 1);
   for (std::uint32_t i = 0; i < RecordCount(); ++i) {
-    if (i % kPageEntries == 0 && LoadPage(files, i / kPageEntries) != TableStatus::Success)
+    if (i % kPageEntries == 0 && NeedPage(files, i / kPageEntries) != TableStatus::Success)
       return TableStatus::Damaged;
     starts.push_back(EntryAt(i).columnOffset);
   }
@@ -135,10 +138,10 @@ TableStatus TableImage::Verify(TableFiles& files) {
   std::uint64_t generation = files.indexHeader.fieldCount;
   for (std::uint32_t i = 0; i < image.RecordCount(); ++i) {
     Record record;
-    if (image.Get(files, i, record) != TableStatus::Success) return TableStatus::Damaged;
-    // The generation is computed from all records in key order, so one that is missing or doubled shows as
-    // well.
-    generation = GenerationOf(generation, RecordDigest(record.key, record.text));
+    std::uint64_t digest;
+    if (image.Get(files, i, record, digest) != TableStatus::Success) return TableStatus::Damaged;
+    // Computed from all records in key order, so one that is missing or doubled shows as well.
+    generation = GenerationOf(generation, digest);
   }
   return generation == files.indexHeader.generation ? TableStatus::Success : TableStatus::Damaged;
 }

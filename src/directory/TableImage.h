@@ -40,6 +40,8 @@ class TableImage {
   };
   // `index` is less than RecordCount.
   TableStatus Get(TableFiles& files, std::uint32_t index, Record& record);
+  // So many records are going to be asked for, in any order.
+  void Expect(std::size_t records) { texts_.Expect(records); }
 
   // Reads the search column and all entries, and makes the column's index. The functions below may be called
   // after a success.
@@ -53,7 +55,11 @@ class TableImage {
 
  private:
   TableStatus LoadColumn(TableFiles& files);
+  TableStatus NeedPage(TableFiles& files, std::uint32_t page) {
+    return checkedPages_[page] ? TableStatus::Success : LoadPage(files, page);
+  }
   TableStatus LoadPage(TableFiles& files, std::uint32_t page);
+  TableStatus Get(TableFiles& files, std::uint32_t index, Record& record, std::uint64_t& digest);
   bool KeysAscend(std::uint32_t page) const;
   const Entry& EntryAt(std::uint32_t index) const;
   std::uint32_t EntriesIn(std::uint32_t page) const;

@@ -27,6 +27,12 @@ std::string JoinFields(std::span<const std::string> fields) {
   return text;
 }
 
+void Split(const OpenTable& table, const TableImage::Record& found, VmxRecord& record) {
+  record.fields.resize(table.FieldCount());
+  SplitAtTabs(found.text, record.fields);
+  record.key = found.key;
+}
+
 }  // namespace
 
 void VmxRecord::CopyFields(std::span<std::string> texts) const {
@@ -125,11 +131,38 @@ TableStatus Vmx::VmxGet(Handle handle, std::string_view key, VmxReadMode mode, V
     } else if (ParseStationId(key, wanted)) {
       status = table.Read(wanted, found);
     }
-    if (status != TableStatus::Success) return status;
-    record.fields.resize(table.FieldCount());
-    SplitAtTabs(found.text, record.fields);
-    record.key = found.key;
+    if (status == TableStatus::Success) Split(table, found, record);
     return status;
+  });
+}
+
+TableStatus Vmx::VmxVisit(Handle handle, std::span<const std::int32_t> keys, const Visitor& visit) {
+  return RunOn(handle, [&](OpenTable& table) {
+    VmxRecord record;
+    table.Expect(keys.size());
+    for (const std::int32_t key : keys) {
+      TableImage::Record found;
+      const TableStatus status = table.Read(key, found);
+      if (status == TableStatus::NotFound) continue;
+      if (status != TableStatus::Success) return status;
+      Split(table, found, record);
+      visit(record);
+    }
+    return TableStatus::Success;
+  });
+}
+
+TableStatus Vmx::VmxVisitAll(Handle handle, const Visitor& visit) {
+  return RunOn(handle, [&](OpenTable& table) {
+    VmxRecord record;
+    TableImage::Record found;
+    table.GoBeforeFirst();
+    TableStatus status = TableStatus::Success;
+    while ((status = table.ReadNext(found)) == TableStatus::Success) {
+      Split(table, found, record);
+      visit(record);
+    }
+    return status == TableStatus::NotFound ? TableStatus::Success : status;
   });
 }
 

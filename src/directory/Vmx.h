@@ -9,6 +9,7 @@
 #pragma once
 
 #include <cstdint>
+#include <functional>
 #include <map>
 #include <memory>
 #include <span>
@@ -65,6 +66,11 @@ class Vmx {
   // fields' texts are valid until the next operation on the table. Without Success `record` and the position
   // stay as they are.
   TableStatus VmxGet(Handle handle, std::string_view key, VmxReadMode mode, VmxRecord& record);
+  // Call `visit` with one record after the other, in whose place the next one is read: for all keys that are
+  // there, in the order given, or for every record in key order. The position is behind the last one read.
+  using Visitor = std::function<void(const VmxRecord&)>;
+  TableStatus VmxVisit(Handle handle, std::span<const std::int32_t> keys, const Visitor& visit);
+  TableStatus VmxVisitAll(Handle handle, const Visitor& visit);
   // `fields` are as many as the definition says. A tab inside one other than the last is stored as a blank.
   TableStatus VmxPut(Handle handle, std::string_view key, std::span<const std::string> fields);
   TableStatus VmxDelete(Handle handle, std::string_view key);

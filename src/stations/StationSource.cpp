@@ -30,12 +30,23 @@ int StationInfo::Symbol() const {
   return static_cast<int>(std::clamp<std::int64_t>(NumberValue(reliability), 0, kMaxReliability));
 }
 
+StationInfo InfoOf(const StationView& station) {
+  const auto text = [&](StationField field) { return std::string(station[field]); };
+  return {StationKey::OfGuide(station.StationId),
+          text(StationField::Name),
+          text(StationField::Location),
+          text(StationField::MediaType),
+          text(StationField::Format),
+          text(StationField::OverallRating),
+          text(StationField::SoundRating),
+          text(StationField::SpeedRating),
+          text(StationField::WebSiteRating),
+          text(StationField::Reliability)};
+}
+
 StationInfo InfoOf(const StationRecord& record) {
-  return {StationKey::OfGuide(record.StationId), record[StationField::Name],
-          record[StationField::Location],        record[StationField::MediaType],
-          record[StationField::Format],          record[StationField::OverallRating],
-          record[StationField::SoundRating],     record[StationField::SpeedRating],
-          record[StationField::WebSiteRating],   record[StationField::Reliability]};
+  const std::vector<std::string_view> fields(record.fields.begin(), record.fields.end());
+  return InfoOf(StationView{record.StationId, fields});
 }
 
 StationInfo StationSource::InfoOfOwn(const PersonalStation& station) const {
@@ -81,7 +92,7 @@ std::vector<StationInfo> StationSource::InfosOf(std::span<const StationKey> keys
   }
   std::vector<StationInfo> known;
   known.reserve(ids.size());
-  stations_.VisitStations(ids, [&](const StationRecord& record) { known.push_back(InfoOf(record)); });
+  stations_.VisitStations(ids, [&](const StationView& station) { known.push_back(InfoOf(station)); });
   if (ids.size() == keys.size()) return known;
   // What the guide knows comes in the order of the keys, unknown ones missing: walk both together.
   auto next = known.begin();
@@ -131,7 +142,7 @@ std::vector<PlayableLink> PlayableLinks(const Station& station, const ExtraLinks
 
 LinkCounts StationSource::CountLinks() const {
   LinkCounts counts;
-  stations_.VisitAllStations([&](const StationRecord& record) {
+  stations_.VisitAllStations([&](const StationView& record) {
     std::string link;
     for (const StationField field : {StationField::LinkOne, StationField::LinkTwo, StationField::LinkThree,
                                      StationField::AlternateLink}) {

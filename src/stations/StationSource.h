@@ -18,6 +18,7 @@ class PersonalStations;
 struct PersonalStation;
 class StatList;
 struct StationRecord;
+struct StationView;
 class Strings;
 struct ScramblingAlphabets;
 
@@ -78,6 +79,7 @@ struct LinkCounts {
   std::size_t webPage = 0;
 };
 
+StationInfo InfoOf(const StationView& station);
 StationInfo InfoOf(const StationRecord& record);
 
 class StationSource {

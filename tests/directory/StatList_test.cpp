@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <span>
+
 #include "directory/EvList.h"
 #include "directory/StationFolder.h"
 
@@ -44,11 +46,26 @@ TEST(StatList, LooksUpManyInTheOrderAsked) {
   EXPECT_EQ(folder.stations.GetStations(ids), expected);
   EXPECT_EQ(folder.stations.LastStatus(), TableStatus::Success);
   std::vector<StationRecord> visited;
-  folder.stations.VisitStations(ids, [&](const StationRecord& record) { visited.push_back(record); });
+  folder.stations.VisitStations(ids, [&](const StationView& station) { visited.push_back(station.Copy()); });
   EXPECT_EQ(visited, expected);
   EXPECT_EQ(folder.stations.LastStatus(), TableStatus::Success);
   EXPECT_EQ(folder.stations.FindStation(99), StationRecord());
   EXPECT_EQ(folder.stations.LastStatus(), TableStatus::NotFound);
+}
+
+// A list of many rows of which one screen is shown: what was found costs no record, a screen costs its own.
+TEST(StatList, AScreenOfAFullListReadsItsOwnRecordsOnly) {
+  StationFolder folder;
+  std::string list;
+  for (int id = 1; id <= 40'000; ++id) list += std::to_string(id) + "\tRadio " + std::to_string(id) + "\n";
+  ASSERT_TRUE(folder.Rebuild(list));
+  const std::vector<std::int32_t> found = folder.stations.SearchStationIds("radio", true);
+  ASSERT_EQ(found.size(), 40'000u);
+  const std::uint64_t bytesBefore = folder.files.BytesRead();
+  const auto screen = std::span(found).subspan(20'000, 20);
+  EXPECT_EQ(folder.stations.GetStations(screen).front(), Named(20'001, "Radio 20001"));
+  EXPECT_EQ(folder.stations.LookUps(), 20u);
+  EXPECT_LE(folder.files.BytesRead() - bytesBefore, 300'000u) << "the headers and one step of reading on";
 }
 
 TEST(StatList, WithoutATableEverythingIsEmpty) {
