@@ -1,6 +1,8 @@
-// list_speed PROGRAM [WORD...]: how long the main window of a running Sonaro takes to fill its list with what
-// a search finds, to paint it for the first time, and to paint it again after each page that it scrolls.
-// Prints a line for each word with the minimum, the median and the maximum of eleven rounds.
+// list_speed PROGRAM: how long acts on the station list take in the main window of a running Sonaro, from the
+// key or click to the painted window: what a search finds, a sort by a text and by a figure, a branch of the
+// tree, typing in the search form, and the next page of a long list. Each act alternates with the same act on
+// a list that is empty, so that what the window costs by itself stands beside it. Prints the minimum, the
+// median and the maximum of the rounds in milliseconds.
 #include <algorithm>
 #include <chrono>
 #include <cstdio>
@@ -16,8 +18,7 @@ using namespace sonaro::desktop;
 
 namespace {
 
-constexpr int kRounds = 11;
-constexpr int kPages = 20;
+constexpr int kRounds = 15;
 
 class Milliseconds {
  public:
@@ -28,44 +29,119 @@ class Milliseconds {
     all_.push_back(
         std::chrono::duration<double, std::milli>(std::chrono::steady_clock::now() - begin).count());
   }
-  void Print(const char* what) {
+  void Print(const char* what, int rows) {
     std::sort(all_.begin(), all_.end());
-    std::printf("  %-12s %8.2f %8.2f %8.2f\n", what, all_.front(), all_[all_.size() / 2], all_.back());
+    std::printf("  %-26s %7d rows %8.2f %8.2f %8.2f\n", what, rows, all_.front(), all_[all_.size() / 2],
+                all_.back());
   }
 
  private:
   std::vector<double> all_;
 };
 
-// The window's thread paints before the call returns.
-void PaintNow(HWND window) { RedrawWindow(window, nullptr, nullptr, RDW_INVALIDATE | RDW_UPDATENOW); }
+class Window {
+ public:
+  explicit Window(HWND main) : main_(main), list_(Control(main, lstFavs)) {}
 
-void MeasureWord(HWND main, const std::string& word) {
-  HWND list = Control(main, lstFavs);
-  Milliseconds fill, paint, scroll;
-  for (int round = 0; round < kRounds; ++round) {
-    Command(main, mnuActionMostPoular);
-    SetText(Control(main, txtQuickSearch), word);
-    fill.Measure([&] { SendMessageW(Control(main, butSearchList), BM_CLICK, 0, 0); });
-    paint.Measure([&] { PaintNow(list); });
-    for (int page = 0; page < kPages; ++page) {
-      scroll.Measure([&] {
-        SendMessageW(list, WM_VSCROLL, SB_PAGEDOWN, 0);
-        PaintNow(list);
-      });
-    }
+  void Search(const std::string& words) {
+    SetText(Control(main_, txtQuickSearch), words);
+    Press(butSearchList);
   }
-  std::printf("\"%s\": %d stations; milliseconds: least, median, most\n", word.c_str(), RowCount(list));
-  fill.Print("fill");
-  paint.Print("first paint");
-  scroll.Print("next page");
+  void Press(int button) {
+    SendMessageW(Control(main_, button), BM_CLICK, 0, 0);
+    PaintNow();
+  }
+  void Select(HTREEITEM item) {
+    SendMessageW(Control(main_, treeBrowse), TVM_SELECTITEM, TVGN_CARET, reinterpret_cast<LPARAM>(item));
+    PaintNow();
+  }
+  // The window's thread paints whatever is out of date before the call returns.
+  void PaintNow() { RedrawWindow(main_, nullptr, nullptr, RDW_UPDATENOW | RDW_ALLCHILDREN); }
+  void PageDown() {
+    SendMessageW(list_, WM_VSCROLL, SB_PAGEDOWN, 0);
+    PaintNow();
+  }
+  // One key more, until the caption says that the list shows it.
+  void Type(char key, const std::string& typed) {
+    PostMessageW(GetWindow(Control(main_, txtQuickSearch), GW_CHILD), WM_CHAR, static_cast<WPARAM>(key), 0);
+    WaitUntil([&] { return TextOf(Control(main_, lblListing)).ends_with(typed); });
+    PaintNow();
+  }
+  int Rows() const { return RowCount(list_); }
+  HWND Main() const { return main_; }
+
+ private:
+  HWND main_;
+  HWND list_;
+};
+
+// Searching "a" finds nearly all; the other word is nowhere.
+void MeasureFillAndSort(Window& window) {
+  Milliseconds fill, nothing, byName, byPlace, byFigure, byNameOfNone, page;
+  int rows = 0;
+  for (int round = 0; round < kRounds; ++round) {
+    Command(window.Main(), mnuViewSearch);
+    nothing.Measure([&] { window.Search("zqzqzq"); });
+    byNameOfNone.Measure([&] { window.Press(butSplit1); });
+    Command(window.Main(), mnuOwnOrder);
+    Command(window.Main(), mnuViewSearch);
+    fill.Measure([&] { window.Search("a"); });
+    rows = window.Rows();
+    page.Measure([&] { window.PageDown(); });
+    byPlace.Measure([&] { window.Press(butSplit2); });
+    byName.Measure([&] { window.Press(butSplit1); });
+    byFigure.Measure([&] {
+      SendMessageW(window.Main(), WM_COMMAND, mnuSortByReliable, 0);
+      window.PaintNow();
+    });
+    Command(window.Main(), mnuOwnOrder);
+  }
+  fill.Print("fill", rows);
+  nothing.Print("fill of nothing", 0);
+  page.Print("next page", rows);
+  byName.Print("sort by name", rows);
+  byPlace.Print("sort by location", rows);
+  byFigure.Print("sort by reliability", rows);
+  byNameOfNone.Print("sort of nothing", 0);
+}
+
+void MeasureBranch(Window& window) {
+  Command(window.Main(), mnuViewByLocation);
+  HWND tree = Control(window.Main(), treeBrowse);
+  const HTREEITEM continent = FindTreeItem(tree, {"Europe"});
+  const HTREEITEM branch = FindTreeItem(tree, {"Europe", "All of Europe"});
+  Milliseconds full, empty;
+  int rows = 0;
+  for (int round = 0; round < kRounds; ++round) {
+    full.Measure([&] { window.Select(branch); });
+    rows = window.Rows();
+    empty.Measure([&] { window.Select(continent); });
+  }
+  full.Print("branch of the tree", rows);
+  empty.Print("branch with nothing", 0);
+}
+
+void MeasureTyping(Window& window) {
+  Command(window.Main(), mnuViewSearch);
+  const std::string word = "radio";
+  std::vector<Milliseconds> keys(word.size());
+  Milliseconds nothing;
+  for (int round = 0; round < kRounds; ++round) {
+    SetText(Control(window.Main(), txtQuickSearch), "");
+    for (std::size_t i = 0; i < word.size(); ++i)
+      keys[i].Measure([&] { window.Type(word[i], word.substr(0, i + 1)); });
+    nothing.Measure([&] { window.Type('\x01', word); });
+  }
+  for (std::size_t i = 0; i < word.size(); ++i)
+    keys[i].Print(("typed \"" + word.substr(0, i + 1) + "\"").c_str(), window.Rows());
+  nothing.Print("typed nothing", window.Rows());
 }
 
 }  // namespace
 
 int main(int argc, char** argv) {
   if (argc < 2) {
-    std::fputs("usage: list_speed PROGRAM [WORD...]\n", stderr);
+    std::fputs("usage: list_speed PROGRAM [typing]\n", stderr);
     return 2;
   }
   const SonaroProcess program(argv[1], "DoWhat=BringSearch");
@@ -74,8 +150,10 @@ int main(int argc, char** argv) {
     std::fputs("list_speed: no main window within a minute\n", stderr);
     return 1;
   }
-  std::vector<std::string> words(argv + 2, argv + argc);
-  if (words.empty()) words = {"a", "radio", "jazz"};
-  for (const std::string& word : words) MeasureWord(main, word);
+  Window window(main);
+  std::puts("milliseconds from key to paint: least, median, most");
+  MeasureFillAndSort(window);
+  MeasureBranch(window);
+  if (argc > 2) MeasureTyping(window);
   return 0;
 }

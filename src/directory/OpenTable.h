@@ -35,6 +35,9 @@ class OpenTable {
   // So many records are going to be read by their keys.
   void Expect(std::size_t records) { image_->Expect(records); }
 
+  // Whether the key is there, in the changes or else on disk; reads no text.
+  TableStatus Contains(std::int32_t key, bool& contains);
+
   // Success or ReplacedExisting.
   TableStatus Put(std::int32_t key, std::string text);
   // Success or NotFound.
@@ -50,8 +53,6 @@ class OpenTable {
 
  private:
   OpenTable() = default;
-  // Whether the key is there, in the changes or else on disk.
-  TableStatus Contains(std::int32_t key, bool& contains);
   TableStatus ReadNextOnDisk(TableImage::Record& record);
   TableStatus WriteChanges();
 

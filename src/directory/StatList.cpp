@@ -148,6 +148,14 @@ std::vector<StationRecord> StatList::GetStations(std::span<const std::int32_t> i
   return WithTable([&](Handle handle) { return GetAll(handle, ids); });
 }
 
+std::vector<std::int32_t> StatList::KnownStations(std::span<const std::int32_t> ids) {
+  return WithTable([&](Handle handle) {
+    std::vector<std::int32_t> known;
+    status_ = vmx_->VmxKnown(handle, ids, known);
+    return known;
+  });
+}
+
 StationRecord StatList::FindStation(std::int32_t stationId) {
   return WithTable([&](Handle handle) { return GetStation(handle, stationId); });
 }

@@ -69,6 +69,9 @@ class StatList {
   void VisitStations(std::span<const std::int32_t> ids, const Visitor& visit);
   // The same for every station of the table, in key order.
   void VisitAllStations(const Visitor& visit);
+  // Those of the identifiers that the table has, in their order. Reads no record, so it costs a small part of
+  // what their texts cost.
+  std::vector<std::int32_t> KnownStations(std::span<const std::int32_t> ids);
   // One look-up: open, get, close.
   StationRecord FindStation(std::int32_t stationId);
 

@@ -166,6 +166,20 @@ TableStatus Vmx::VmxVisitAll(Handle handle, const Visitor& visit) {
   });
 }
 
+TableStatus Vmx::VmxKnown(Handle handle, std::span<const std::int32_t> keys,
+                          std::vector<std::int32_t>& there) {
+  return RunOn(handle, [&](OpenTable& table) {
+    there.reserve(there.size() + keys.size());
+    for (const std::int32_t key : keys) {
+      bool contains = false;
+      const TableStatus status = table.Contains(key, contains);
+      if (status != TableStatus::Success) return status;
+      if (contains) there.push_back(key);
+    }
+    return TableStatus::Success;
+  });
+}
+
 TableStatus Vmx::VmxPut(Handle handle, std::string_view key, std::span<const std::string> fields) {
   return RunOn(handle, [&](OpenTable& table) {
     std::int32_t id = 0;

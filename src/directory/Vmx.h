@@ -71,6 +71,8 @@ class Vmx {
   using Visitor = std::function<void(const VmxRecord&)>;
   TableStatus VmxVisit(Handle handle, std::span<const std::int32_t> keys, const Visitor& visit);
   TableStatus VmxVisitAll(Handle handle, const Visitor& visit);
+  // Adds those of the keys that are there to `there`, in the order given, without reading their records.
+  TableStatus VmxKnown(Handle handle, std::span<const std::int32_t> keys, std::vector<std::int32_t>& there);
   // `fields` are as many as the definition says. A tab inside one other than the last is stored as a blank.
   TableStatus VmxPut(Handle handle, std::string_view key, std::span<const std::string> fields);
   TableStatus VmxDelete(Handle handle, std::string_view key);

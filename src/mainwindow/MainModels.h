@@ -46,7 +46,7 @@ struct MainModels {
       : tree(data.folder, data.sortKey),
         rankings(data.folder),
         lists(data.stations, data.source, data.recent, data.strings),
-        listing(lists, rankings, data.favorites, tree, data.strings, data.sortKey),
+        listing(lists, rankings, data.favorites, tree, data.source, data.strings, data.sortKey),
         search(data.folder, data.settings, listing, tray),
         details(data.source, data.extra, data.strings, data.state),
         actions(listing, data.favorites, data.strings),

@@ -162,7 +162,7 @@ void ListPane::MoveStation(int by) {
 void ListPane::MoveRow(const StationKey& station, int to) {
   const StationRows& rows = listing_.Rows();
   if (rows.Sort().on || !rows.Find(station) || to < 0 || to >= static_cast<int>(rows.Count())) return;
-  groups_.Commands().PlaceStation(station, rows.At(static_cast<std::size_t>(to)).key);
+  groups_.Commands().PlaceStation(station, rows.KeyAt(static_cast<std::size_t>(to)));
   context_.view.ShowEverything();
 }
 
@@ -172,10 +172,15 @@ void ListPane::mnuActionAddListToScan_Click() {
 
 StationKey ListPane::KeyAt(int row) const {
   if (row < 0 || row >= RowCount()) return {};
-  return listing_.Rows().At(static_cast<std::size_t>(row)).key;
+  return listing_.Rows().KeyAt(static_cast<std::size_t>(row));
 }
 
 int ListPane::RowCount() const { return static_cast<int>(listing_.Rows().Count()); }
+
+int ListPane::FindRow(const std::string& start, int from) const {
+  const auto found = listing_.Rows().FindByName(start, static_cast<std::size_t>(from));
+  return found ? static_cast<int>(*found) : -1;
+}
 
 std::string ListPane::Cell(int row, int column) const {
   return std::string(listing_.Rows().Cell(static_cast<std::size_t>(row), column));
@@ -183,6 +188,6 @@ std::string ListPane::Cell(int row, int column) const {
 
 int ListPane::Symbol(int row) const { return listing_.Rows().At(static_cast<std::size_t>(row)).Symbol(); }
 
-bool ListPane::IsNotice() const { return RowCount() > 0 && listing_.Rows().StationCount() == 0; }
+bool ListPane::IsNotice() const { return listing_.Rows().IsNotice(); }
 
 }  // namespace sonaro

@@ -34,6 +34,7 @@ class ListPane final : public EventTarget, private ListModel {
   int RowCount() const override;
   std::string Cell(int row, int column) const override;
   int Symbol(int row) const override;
+  int FindRow(const std::string& start, int from) const override;
   bool IsNotice() const override;
 
   void ShowEmptyText();

@@ -17,7 +17,7 @@ void StationListFiller::FillListFromIds(std::string_view ids, StationRows& list)
     std::int32_t id = 0;
     if (ParseStationId(NextField(ids, ' '), id)) wanted.push_back(StationKey::OfGuide(id));
   }
-  list.Fill(source_.InfosOf(wanted));
+  list.Fill(source_.KnownOf(wanted));
 }
 
 std::vector<StationKey> StationListFiller::FillListFromSearch(std::string_view text, bool allWords,
@@ -26,25 +26,30 @@ std::vector<StationKey> StationListFiller::FillListFromSearch(std::string_view t
   for (const std::int32_t id : stations_.SearchStationIds(text, allWords)) {
     found.push_back(StationKey::OfGuide(id));
   }
-  FillListFromFound(found, list);
+  Show(found, list);
   return found;
 }
 
-void StationListFiller::FillListFromFound(std::span<const StationKey> found, StationRows& list) {
-  list.Fill(source_.InfosOf(found));
-  if (list.Count() == 0) list.Fill({RowOfNoStation(strings_.Load(IDS_LISTING_NO_STATIONS))});
+// Found just now, so they are known.
+void StationListFiller::Show(std::vector<StationKey> found, StationRows& list) {
+  if (found.empty()) return list.FillNotice(strings_.Load(IDS_LISTING_NO_STATIONS));
+  list.Fill(std::move(found));
 }
 
-void StationListFiller::FillListFromPersonal(StationRows& list) { list.Fill(source_.OwnInfos()); }
+void StationListFiller::FillListFromFound(std::span<const StationKey> found, StationRows& list) {
+  Show(source_.KnownOf(found), list);
+}
+
+void StationListFiller::FillListFromPersonal(StationRows& list) { list.Fill(source_.OwnKeys()); }
 
 std::vector<StationKey> StationListFiller::FillListFromGroup(std::span<const StationKey> members,
                                                              StationRows& list) {
-  std::vector<StationInfo> known = source_.InfosOf(members);
+  std::vector<StationKey> known = source_.KnownOf(members);
   // What is known comes in the order of the members: walk both together.
   std::vector<StationKey> missing;
   auto next = known.begin();
   for (const StationKey& member : members) {
-    if (next != known.end() && next->key == member) {
+    if (next != known.end() && *next == member) {
       ++next;
     } else {
       missing.push_back(member);
@@ -55,6 +60,6 @@ std::vector<StationKey> StationListFiller::FillListFromGroup(std::span<const Sta
   return missing;
 }
 
-void StationListFiller::FillListFromRecent(StationRows& list) { list.Fill(source_.InfosOf(recent_.Keys())); }
+void StationListFiller::FillListFromRecent(StationRows& list) { list.Fill(source_.KnownOf(recent_.Keys())); }
 
 }  // namespace sonaro

@@ -1,5 +1,6 @@
 // Fills lists of stations: from any text of station identifiers, from a search, from the user's own stations,
-// from a favourite group's members and from the recent list. Looks all stations of a fill up in one go. Knows
+// from a favourite group's members and from the recent list. Fills with keys: no station
+// is read. Knows
 // no captions and no modes: see StationListState.
 #pragma once
 
@@ -40,6 +41,8 @@ class StationListFiller {
   void FillListFromRecent(StationRows& list);
 
  private:
+  void Show(std::vector<StationKey> found, StationRows& list);
+
   StatList& stations_;
   const StationSource& source_;
   const RecentList& recent_;

@@ -23,13 +23,13 @@ struct BrowseNode;
 class StationListState {
  public:
   StationListState(StationListFiller& lists, Rankings& rankings, const FavoriteGroups& groups,
-                   BrowseTree& tree, const Strings& strings, SortKeyOf sortKey)
+                   BrowseTree& tree, const StationSource& source, const Strings& strings, SortKeyOf sortKey)
       : lists_(lists),
         rankings_(rankings),
         groups_(groups),
         tree_(tree),
         strings_(strings),
-        rows_(std::move(sortKey)) {}
+        rows_(source, std::move(sortKey)) {}
 
   const ListingState& State() const { return state_; }
   StationRows& Rows() { return rows_; }

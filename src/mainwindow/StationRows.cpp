@@ -27,9 +27,13 @@ std::uint64_t PrefixOf(std::string_view key) {
 // All sort keys of one sort, end to end in one buffer.
 class SortKeys {
  public:
-  void Add(std::string_view key, std::uint32_t row) {
-    keys_.push_back({PrefixOf(key), static_cast<std::uint32_t>(bytes_.size()),
-                     static_cast<std::uint32_t>(key.size()), row});
+  // For so many rows, whose keys are empty until they are set.
+  explicit SortKeys(std::size_t rows) : keys_(rows) {
+    for (std::uint32_t row = 0; row < rows; ++row) keys_[row].row = row;
+  }
+  void Set(std::uint32_t row, std::string_view key) {
+    keys_[row] = {PrefixOf(key), static_cast<std::uint32_t>(bytes_.size()),
+                  static_cast<std::uint32_t>(key.size()), row};
     bytes_ += key;
   }
 
@@ -82,40 +86,73 @@ const std::string& CellOf(const StationInfo& row, int subItem) {
   return row.name;
 }
 
-StationInfo RowOfNoStation(std::string text) {
-  StationInfo row;
-  row.name = std::move(text);
-  return row;
+void StationRows::Fill(std::vector<StationKey> keys) {
+  notice_.reset();
+  keys_ = std::move(keys);
+  selected_.reset();
+  Arrange();
+  Select(0);
 }
 
-void StationRows::Fill(std::vector<StationInfo> rows) {
-  rows_ = std::move(rows);
-  order_.resize(rows_.size());
-  std::iota(order_.begin(), order_.end(), 0U);
-  selected_.reset();
-  ApplySort();
-  if (!rows_.empty()) Select(0);
+void StationRows::FillNotice(std::string text) {
+  Fill({StationKey()});
+  notice_.emplace().name = std::move(text);
 }
 
 void StationRows::SortBy(int key, SortOrder order) {
   if (key < 0 || key > kSubItems) return;
   sort_ = {true, key, order};
-  ApplySort();
+  Arrange();
 }
 
-void StationRows::ApplySort() {
-  if (!sort_.on) return;
-  SortKeys keys;
-  for (std::uint32_t row = 0; row < rows_.size(); ++row)
-    keys.Add(sortKey_(CellOf(rows_[row], sort_.key)), row);
+void StationRows::EndSort() {
+  sort_.on = false;
+  Arrange();
+}
+
+// Everything that goes by shown positions is void afterwards, but the selected row stays selected.
+void StationRows::Arrange() {
+  const std::uint32_t selected = selected_ ? order_[*selected_] : 0;
+  order_.resize(keys_.size());
+  std::iota(order_.begin(), order_.end(), 0U);
+  if (sort_.on && !IsNotice()) SortShown();
+  pages_ = {};
+  if (!selected_) return;
+  selected_ = static_cast<std::size_t>(std::find(order_.begin(), order_.end(), selected) - order_.begin());
+}
+
+void StationRows::SortShown() {
+  SortKeys keys(order_.size());
+  source_.VisitInfos(keys_, [&](std::size_t row, const StationInfo& info) {
+    keys.Set(static_cast<std::uint32_t>(row), sortKey_(CellOf(info, sort_.key)));
+  });
   keys.SortStably(sort_.order);
   std::transform(keys.Keys().begin(), keys.Keys().end(), order_.begin(),
                  [](const SortKey& key) { return key.row; });
 }
 
-std::size_t StationRows::StationCount() const {
-  return static_cast<std::size_t>(
-      std::count_if(rows_.begin(), rows_.end(), [](const StationInfo& row) { return bool(row.key); }));
+StationRows::Page StationRows::ReadPage(std::size_t number) const {
+  const std::size_t first = number * kPageRows;
+  std::vector<StationKey> keys;
+  for (std::size_t position = first; position < std::min(first + kPageRows, Count()); ++position)
+    keys.push_back(KeyAt(position));
+  Page page{number, std::vector<StationInfo>(keys.size())};
+  source_.VisitInfos(keys, [&](std::size_t row, StationInfo info) { page.rows[row] = std::move(info); });
+  // A station that went since the fill is a blank row until the list is filled again.
+  for (std::size_t row = 0; row < keys.size(); ++row) page.rows[row].key = keys[row];
+  return page;
+}
+
+const StationInfo& StationRows::At(std::size_t position) const {
+  if (notice_) return *notice_;
+  const std::size_t number = position / kPageRows;
+  for (const Page& page : pages_) {
+    if (page.number == number) return page.rows[position % kPageRows];
+  }
+  Page& page = pages_[oldestPage_];
+  oldestPage_ = (oldestPage_ + 1) % kKeptPages;
+  page = ReadPage(number);
+  return page.rows[position % kPageRows];
 }
 
 std::string_view StationRows::Cell(std::size_t position, int column) const {
@@ -124,38 +161,52 @@ std::string_view StationRows::Cell(std::size_t position, int column) const {
 }
 
 std::optional<std::size_t> StationRows::Find(const StationKey& key) const {
-  for (std::size_t position = 0; position < order_.size(); ++position) {
-    if (At(position).key == key) return position;
+  for (std::size_t position = 0; position < Count(); ++position) {
+    if (KeyAt(position) == key) return position;
   }
   return std::nullopt;
 }
 
+// Among the rows at `positions`, the first one.
+std::optional<std::size_t> StationRows::FirstNamed(const std::vector<std::size_t>& positions,
+                                                   std::string_view start) const {
+  std::vector<StationKey> keys;
+  for (const std::size_t position : positions) keys.push_back(KeyAt(position));
+  std::size_t first = keys.size();
+  source_.VisitInfos(keys, [&](std::size_t place, const StationInfo& info) {
+    if (place < first && StartsWithIgnoringCase(info.name, start)) first = place;
+  });
+  return first < keys.size() ? std::optional(positions[first]) : std::nullopt;
+}
+
+// A name that begins with the text holds its words, so the guide's search leaves few rows to be read. They
+// are read in steps that grow: most often the first few are enough, and each step opens the table once.
 std::optional<std::size_t> StationRows::FindByName(std::string_view start, std::size_t from) const {
-  for (std::size_t step = 0; step < Count(); ++step) {
+  const std::vector<std::int32_t> holding = source_.IdsHolding(start);
+  std::vector<std::size_t> positions;
+  std::size_t enough = kPageRows;
+  for (std::size_t step = 0; step < StationCount(); ++step) {
     const std::size_t position = (from + step) % Count();
-    if (StartsWithIgnoringCase(At(position).name, start)) return position;
+    const StationKey key = KeyAt(position);
+    if (key.IsOfUser() || std::binary_search(holding.begin(), holding.end(), key.number))
+      positions.push_back(position);
+    if (positions.size() < enough) continue;
+    if (const auto found = FirstNamed(positions, start)) return found;
+    positions.clear();
+    enough *= 2;
   }
-  return std::nullopt;
+  return FirstNamed(positions, start);
 }
-
-std::optional<std::size_t> StationRows::Selected() const {
-  if (!selected_) return std::nullopt;
-  const auto found = std::find(order_.begin(), order_.end(), *selected_);
-  return static_cast<std::size_t>(found - order_.begin());
-}
-
-const StationInfo* StationRows::SelectedRow() const { return selected_ ? &rows_[*selected_] : nullptr; }
 
 void StationRows::Select(std::optional<std::size_t> position) {
   selected_.reset();
-  if (!position || *position >= Count()) return;
-  if (At(*position).key) selected_ = order_[*position];
+  if (position && *position < Count() && KeyAt(*position)) selected_ = position;
 }
 
 std::vector<StationKey> StationRows::Keys() const {
   std::vector<StationKey> keys;
   keys.reserve(Count());
-  for (std::size_t position = 0; position < Count(); ++position) keys.push_back(At(position).key);
+  for (const std::uint32_t row : order_) keys.push_back(keys_[row]);
   return keys;
 }
 

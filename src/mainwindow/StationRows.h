@@ -1,8 +1,10 @@
-// The rows behind one station list view: what it holds, in which order it shows them, and which one is
-// selected. The list view keeps no texts of its own and asks here for what it paints. Owned by whoever owns
-// the list.
+// The rows behind one station list view: which stations it holds, in which order it shows them, and which one
+// is selected. Rows are keys, eight bytes each; what a row says is read from the guide when it is asked for,
+// a page at a time, and the last pages are kept, so that filling a list costs what its keys cost. Owned by
+// whoever owns the list.
 #pragma once
 
+#include <array>
 #include <cstddef>
 #include <cstdint>
 #include <optional>
@@ -23,8 +25,6 @@ inline constexpr int kSubItems = 8;
 
 // The name (0) or a sub-item of a row.
 const std::string& CellOf(const StationInfo& row, int subItem);
-// A row that says something and stands for no station.
-StationInfo RowOfNoStation(std::string text);
 
 enum class SortOrder { Ascending, Descending };
 
@@ -38,36 +38,46 @@ struct SortState {
 class StationRows {
  public:
   static constexpr int kColumns = 4;  // name, location, media type, station format
+  static constexpr std::size_t kPageRows = 32;
+  static constexpr std::size_t kKeptPages = 8;
 
   // `sortKey` is asked once for each row of a sort.
-  explicit StationRows(SortKeyOf sortKey = FoldCase) : sortKey_(std::move(sortKey)) {}
+  explicit StationRows(const StationSource& source, SortKeyOf sortKey = FoldCase)
+      : source_(source), sortKey_(std::move(sortKey)) {}
 
-  // Replaces all rows. A sort chosen earlier stays in force. The first shown row becomes the selected one,
-  // unless it stands for no station; an empty list has no selection.
-  void Fill(std::vector<StationInfo> rows);
+  // Replaces all rows, and forgets what was read of the old ones: to be called again when stations changed.
+  // A sort chosen earlier stays in force. The first shown row becomes the selected one; an empty list has no
+  // selection.
+  void Fill(std::vector<StationKey> keys);
+  // One row that says something and stands for no station.
+  void FillNotice(std::string text);
   void Clear() { Fill({}); }
+  bool IsNotice() const { return notice_.has_value(); }
 
   // Text sort of a sub-item by its sort key; rows with equal keys keep the order of the fill, in both orders.
   // The selected row stays selected. A key outside 0 to 8 changes nothing.
   void SortBy(int key, SortOrder order);
+  // Back to the order of the fill, in this list and the next ones.
+  void EndSort();
   const SortState& Sort() const { return sort_; }
 
-  std::size_t Count() const { return rows_.size(); }
-  // Stations among the rows: all but those without a key.
-  std::size_t StationCount() const;
-  // By position in the shown order, which must be below Count().
-  const StationInfo& At(std::size_t position) const { return rows_[order_[position]]; }
+  std::size_t Count() const { return order_.size(); }
+  // Stations among the rows: all but a notice.
+  std::size_t StationCount() const { return IsNotice() ? 0 : Count(); }
+  // By position in the shown order, which must be below Count(). None for a notice.
+  StationKey KeyAt(std::size_t position) const { return keys_[order_[position]]; }
+  // What the row says. Valid until the next call of a function of this list.
+  const StationInfo& At(std::size_t position) const;
   // The text of a visible column (0 to 3).
   std::string_view Cell(std::size_t position, int column) const;
   std::optional<std::size_t> Find(const StationKey& key) const;
-  // The first row after `from`, wrapping round, whose name begins with `start`, letter case ignored: what
-  // typing letters in the list looks for.
+  // The first row from `from` on, wrapping round, whose name begins with `start`, letter case ignored: what
+  // typing letters in the list looks for. Reads the names only of rows in which the words stand somewhere.
   std::optional<std::size_t> FindByName(std::string_view start, std::size_t from) const;
 
-  std::optional<std::size_t> Selected() const;
-  const StationInfo* SelectedRow() const;
+  const std::optional<std::size_t>& Selected() const { return selected_; }
   // None without one.
-  StationKey SelectedKey() const { return selected_ ? rows_[*selected_].key : StationKey(); }
+  StationKey SelectedKey() const { return selected_ ? KeyAt(*selected_) : StationKey(); }
   // Selecting a row that stands for no station, or nothing, leaves no selection.
   void Select(std::optional<std::size_t> position);
 
@@ -75,13 +85,26 @@ class StationRows {
   std::vector<StationKey> Keys() const;
 
  private:
-  void ApplySort();
+  struct Page {
+    std::optional<std::size_t> number;
+    std::vector<StationInfo> rows;
+  };
 
+  void Arrange();
+  void SortShown();
+  Page ReadPage(std::size_t number) const;
+  std::optional<std::size_t> FirstNamed(const std::vector<std::size_t>& positions,
+                                        std::string_view start) const;
+
+  const StationSource& source_;
   SortKeyOf sortKey_;
-  std::vector<StationInfo> rows_;     // in the order of the fill
-  std::vector<std::uint32_t> order_;  // shown position -> index in rows_
+  std::vector<StationKey> keys_;      // in the order of the fill
+  std::vector<std::uint32_t> order_;  // shown position -> index in keys_
+  std::optional<StationInfo> notice_;
   SortState sort_;
-  std::optional<std::uint32_t> selected_;  // index in rows_
+  std::optional<std::size_t> selected_;  // a shown position
+  mutable std::array<Page, kKeptPages> pages_;
+  mutable std::size_t oldestPage_ = 0;
 };
 
 }  // namespace sonaro

@@ -21,7 +21,7 @@ std::vector<std::string> StationPicker::Sources() const {
 
 std::vector<StationInfo> StationPicker::RowsOf(std::size_t source) {
   if (source < groups_.Count()) return source_.InfosOf(groups_.Keys(source));
-  return source == groups_.Count() ? source_.OwnInfos() : source_.InfosOf(recent_.Keys());
+  return source == groups_.Count() ? source_.InfosOf(source_.OwnKeys()) : source_.InfosOf(recent_.Keys());
 }
 
 std::vector<StationInfo> StationPicker::Find(std::string_view text) {

@@ -85,34 +85,58 @@ Station StationSource::Find(const StationKey& key) const {
   return station;
 }
 
+// The user's own are in memory; those of the guide come in the order of their keys, unknown ones missing.
+void StationSource::VisitInfos(std::span<const StationKey> keys, const InfoVisitor& visit) const {
+  std::vector<std::int32_t> ids;
+  for (std::size_t place = 0; place < keys.size(); ++place) {
+    if (keys[place].IsOfGuide()) ids.push_back(keys[place].number);
+    if (const PersonalStation* own = Named(keys[place])) visit(place, InfoOfOwn(*own));
+  }
+  std::size_t place = 0;
+  stations_.VisitStations(ids, [&](const StationView& station) {
+    StationInfo info = InfoOf(station);
+    while (keys[place] != info.key) ++place;
+    visit(place++, std::move(info));
+  });
+}
+
 std::vector<StationInfo> StationSource::InfosOf(std::span<const StationKey> keys) const {
+  std::vector<StationInfo> infos(keys.size());
+  VisitInfos(keys, [&](std::size_t place, StationInfo info) { infos[place] = std::move(info); });
+  std::erase_if(infos, [](const StationInfo& info) { return !info.key; });
+  return infos;
+}
+
+std::vector<StationKey> StationSource::KnownOf(std::span<const StationKey> keys) const {
   std::vector<std::int32_t> ids;
   for (const StationKey& key : keys) {
     if (key.IsOfGuide()) ids.push_back(key.number);
   }
-  std::vector<StationInfo> known;
-  known.reserve(ids.size());
-  stations_.VisitStations(ids, [&](const StationView& station) { known.push_back(InfoOf(station)); });
-  if (ids.size() == keys.size()) return known;
-  // What the guide knows comes in the order of the keys, unknown ones missing: walk both together.
-  auto next = known.begin();
-  std::vector<StationInfo> infos;
+  const std::vector<std::int32_t> inGuide = stations_.KnownStations(ids);
+  auto next = inGuide.begin();
+  std::vector<StationKey> known;
+  known.reserve(keys.size());
   for (const StationKey& key : keys) {
-    if (const PersonalStation* own = Personal(key); own && !own->name.empty()) {
-      infos.push_back(InfoOfOwn(*own));
-    } else if (next != known.end() && next->key == key) {
-      infos.push_back(std::move(*next++));
+    if (key.IsOfGuide() && next != inGuide.end() && *next == key.number) {
+      known.push_back(key);
+      ++next;
+    } else if (Named(key) != nullptr) {
+      known.push_back(key);
     }
   }
-  return infos;
+  return known;
 }
 
-std::vector<StationInfo> StationSource::OwnInfos() const {
-  std::vector<StationInfo> infos;
+std::vector<std::int32_t> StationSource::IdsHolding(std::string_view text) const {
+  return stations_.SearchStationIds(text, true);
+}
+
+std::vector<StationKey> StationSource::OwnKeys() const {
+  std::vector<StationKey> keys;
   for (const PersonalStation& station : personal_.All()) {
-    if (!station.name.empty()) infos.push_back(InfoOfOwn(station));
+    if (!station.name.empty()) keys.push_back(StationKey::OfUser(station.index));
   }
-  return infos;
+  return keys;
 }
 
 std::string StationSource::NameOf(const StationKey& key) const {
@@ -161,6 +185,11 @@ LinkCounts StationSource::CountLinks() const {
 
 const PersonalStation* StationSource::Personal(const StationKey& key) const {
   return key.IsOfUser() ? personal_.Find(key.number) : nullptr;
+}
+
+const PersonalStation* StationSource::Named(const StationKey& key) const {
+  const PersonalStation* own = Personal(key);
+  return own != nullptr && !own->name.empty() ? own : nullptr;
 }
 
 }  // namespace sonaro

@@ -5,6 +5,7 @@
 #include <array>
 #include <cstddef>
 #include <cstdint>
+#include <functional>
 #include <span>
 #include <string>
 #include <vector>
@@ -90,11 +91,18 @@ class StationSource {
 
   // With one read of the record. Its key is None when there is no such station.
   Station Find(const StationKey& key) const;
-  // Those of the keys that there are, in their order, with one opening of the table. One of the user's own
-  // needs a name.
+  // Those of the keys that there are, in their order; one of the user's own needs a name. Reads no texts.
+  std::vector<StationKey> KnownOf(std::span<const StationKey> keys) const;
+  // The facts of those of the keys that there are, in their order, with one opening of the table.
   std::vector<StationInfo> InfosOf(std::span<const StationKey> keys) const;
+  // The same one by one, with the place of its key among `keys`; in no order of the whole. `visit` must not
+  // ask for a station.
+  using InfoVisitor = std::function<void(std::size_t place, StationInfo info)>;
+  void VisitInfos(std::span<const StationKey> keys, const InfoVisitor& visit) const;
   // The user's own that have a name, in table order.
-  std::vector<StationInfo> OwnInfos() const;
+  std::vector<StationKey> OwnKeys() const;
+  // The guide's stations, ascending, in which all words of `text` stand somewhere, letter case ignored.
+  std::vector<std::int32_t> IdsHolding(std::string_view text) const;
   // "" when the key names nothing.
   std::string NameOf(const StationKey& key) const;
   std::string WebSiteOf(const StationKey& key) const { return Find(key).webSite; }
@@ -103,6 +111,7 @@ class StationSource {
 
  private:
   const PersonalStation* Personal(const StationKey& key) const;
+  const PersonalStation* Named(const StationKey& key) const;  // nullptr also without a name
   StationInfo InfoOfOwn(const PersonalStation& station) const;
 
   StatList& stations_;

@@ -38,7 +38,7 @@ class Models : public StationModels {
   BrowseTree tree{data};
   Rankings rankings{data};
   StationListFiller lists{stations, source, recent, strings};
-  StationListState listing{lists, rankings, groups, tree, strings, FoldCase};
+  StationListState listing{lists, rankings, groups, tree, source, strings, FoldCase};
 };
 
 }  // namespace sonaro

@@ -12,7 +12,7 @@ class StationListingTest : public Models {
 };
 
 TEST_F(StationListingTest, AListOfIdentifiersKeepsItsOrderAndLeavesOutTheUnknown) {
-  StationRows rows;
+  StationRows rows(source);
   struct Case {
     const char* ids;
     const char* keys;
@@ -23,7 +23,7 @@ TEST_F(StationListingTest, AListOfIdentifiersKeepsItsOrderAndLeavesOutTheUnknown
   for (const Case& c : cases) {
     lists.FillListFromIds(c.ids, rows);
     std::string keys;
-    for (std::size_t i = 0; i < rows.Count(); ++i) keys += rows.At(i).key.RowKey();
+    for (const StationKey& key : rows.Keys()) keys += key.RowKey();
     EXPECT_EQ(keys, c.keys) << c.ids;
     EXPECT_EQ(rows.Selected().has_value(), rows.Count() > 0);
   }
@@ -104,7 +104,7 @@ TEST_F(StationListingTest, ANodeFillsTheListAndLeavesTheTreeOnShow) {
     listing.treeBrowse_NodeClick(NodeWithKey("E1"));
     listing.treeBrowse_NodeClick(NodeWithKey(key));
     EXPECT_EQ(Shown(), "") << key;
-    EXPECT_EQ(listing.Rows().SelectedRow(), nullptr);
+    EXPECT_FALSE(listing.Rows().SelectedKey());
   }
   listing.ShowView(View::BrowseLoc);
   EXPECT_EQ(tree.Mode(), BrowseMode::ByLocation);
@@ -119,7 +119,7 @@ TEST_F(StationListingTest, ASearchThatFindsNothingSaysSo) {
   listing.ShowSearch("polka", true);
   EXPECT_EQ(Shown(), "X ");
   EXPECT_TRUE(listing.LastFound().empty());
-  EXPECT_EQ(listing.Rows().SelectedRow(), nullptr);
+  EXPECT_FALSE(listing.Rows().SelectedKey());
   EXPECT_EQ(listing.Rows().At(0).name, Caption(IDS_LISTING_NO_STATIONS));
   EXPECT_EQ(listing.State().listingMode, "LastSearch");
 }
@@ -158,7 +158,7 @@ TEST_F(StationListingTest, WhatTheGuideDoesNotKnowIsLeftOutAndCounted) {
 
   DataFolder elsewhere(files, "/none", '/');
   StatList none(elsewhere);
-  StationRows rows;
+  StationRows rows(source);
   StationSource nowhere(none, personal, BuiltInAlphabets(), strings);
   EXPECT_TRUE(
       StationListFiller(none, nowhere, recent, strings).FillListFromGroup(KeysOf("4 77"), rows).empty())

@@ -19,6 +19,15 @@ constexpr DWORD kListStyle =
 
 }  // namespace
 
+int ListModel::FindRow(const std::string& start, int from) const {
+  const int count = RowCount();
+  for (int step = 0; step < count; ++step) {
+    const int row = (from + step) % count;
+    if (StartsWithIgnoringCase(Cell(row, 0), start)) return row;
+  }
+  return -1;
+}
+
 ListView::ListView(HWND form, int id, FormServices& services)
     : ScrolledView(form, id, services, WC_LISTVIEWW, kListStyle) {
   ListView_SetExtendedListViewStyle(Window(), LVS_EX_DOUBLEBUFFER | LVS_EX_FULLROWSELECT);
@@ -340,13 +349,7 @@ void ListView::OnGetDispInfo(NMLVDISPINFOW& info) const {
 LRESULT ListView::FindTyped(const NMLVFINDITEMW& find) const {
   if (model_ == nullptr || (find.lvfi.flags & (LVFI_STRING | LVFI_PARTIAL)) == 0 || find.lvfi.psz == nullptr)
     return -1;
-  const std::string typed = Narrow(find.lvfi.psz);
-  const int count = model_->RowCount();
-  for (int step = 0; step < count; ++step) {
-    const int row = (std::max(0, find.iStart) + step) % count;
-    if (StartsWithIgnoringCase(model_->Cell(row, 0), typed)) return row;
-  }
-  return -1;
+  return model_->FindRow(Narrow(find.lvfi.psz), std::max(0, find.iStart));
 }
 
 }  // namespace sonaro

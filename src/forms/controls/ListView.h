@@ -22,6 +22,9 @@ class ListModel {
   virtual ~ListModel() = default;
   virtual int RowCount() const = 0;
   virtual std::string Cell(int row, int column) const = 0;
+  // The first row from `from` on, wrapping round, whose first cell begins with the text, letter case ignored;
+  // -1: none. For models whose cells cost something to be read.
+  virtual int FindRow(const std::string& start, int from) const;
   virtual int Symbol(int /*row*/) const { return -1; }  // reliability 0 to 4; -1: none
   // The one row only says that there is nothing: it is drawn as the picture of an empty list.
   virtual bool IsNotice() const { return false; }
