@@ -6,6 +6,7 @@
 #include <array>
 
 #include "forms/WideText.h"
+#include "platform/SystemFunction.h"
 
 namespace sonaro {
 
@@ -18,6 +19,12 @@ std::wstring FilterPairs(std::string_view filter) {
   std::wstring pairs = Widen(filter) + L"||";
   std::replace(pairs.begin(), pairs.end(), L'|', L'\0');
   return pairs;
+}
+
+// The library brings those of printing along, so it is loaded when somebody asks for a file.
+bool RunDialog(const char* function, OPENFILENAMEW& dialog) {
+  const auto run = reinterpret_cast<decltype(&GetOpenFileNameW)>(SystemFunction(L"comdlg32.dll", function));
+  return run && run(&dialog);
 }
 
 OPENFILENAMEW Dialog(HWND owner, const std::wstring& filter, PathBuffer& path) {
@@ -38,7 +45,7 @@ std::string AskOpenPath(HWND owner, std::string_view filter) {
   PathBuffer path{};
   OPENFILENAMEW dialog = Dialog(owner, pairs, path);
   dialog.Flags |= OFN_FILEMUSTEXIST;
-  return GetOpenFileNameW(&dialog) ? Narrow(path.data()) : "";
+  return RunDialog("GetOpenFileNameW", dialog) ? Narrow(path.data()) : "";
 }
 
 std::string AskSavePath(HWND owner, std::string_view filter, std::string_view suggested) {
@@ -51,7 +58,7 @@ std::string AskSavePath(HWND owner, std::string_view filter, std::string_view su
   OPENFILENAMEW dialog = Dialog(owner, pairs, path);
   dialog.lpstrDefExt = ending.c_str();
   dialog.Flags |= OFN_OVERWRITEPROMPT | OFN_PATHMUSTEXIST;
-  return GetSaveFileNameW(&dialog) ? Narrow(path.data()) : "";
+  return RunDialog("GetSaveFileNameW", dialog) ? Narrow(path.data()) : "";
 }
 
 }  // namespace sonaro

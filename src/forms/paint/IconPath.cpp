@@ -6,7 +6,6 @@
 
 #include <algorithm>
 #include <array>
-#include <charconv>
 #include <cmath>
 #include <numbers>
 #include <span>
@@ -119,14 +118,33 @@ class Reader {
   bool Numbers(std::span<double> numbers) {
     for (double& number : numbers) {
       SkipBlanks();
-      const auto [end, error] = std::from_chars(text_.data(), text_.data() + text_.size(), number);
-      if (error != std::errc()) return false;
-      text_.remove_prefix(static_cast<std::size_t>(end - text_.data()));
+      if (!Number(number)) return false;
     }
     return true;
   }
 
  private:
+  // A decimal without exponent is all that the drawings hold; the library's reader of every other way to
+  // write a number is 33 KB.
+  bool Number(double& number) {
+    const bool negative = text_.starts_with('-');
+    if (negative) text_.remove_prefix(1);
+    double digits = 0, scale = 0;
+    bool any = false;
+    for (; !text_.empty(); text_.remove_prefix(1)) {
+      const char c = text_.front();
+      if (c == '.' && scale == 0) {
+        scale = 1;
+        continue;
+      }
+      if (c < '0' || c > '9') break;
+      any = true;
+      digits = digits * 10 + (c - '0');
+      scale *= 10;
+    }
+    number = (negative ? -digits : digits) / (scale == 0 ? 1 : scale);
+    return any;
+  }
   void SkipBlanks() {
     while (!text_.empty() && (text_.front() == ' ' || text_.front() == ',')) text_.remove_prefix(1);
   }

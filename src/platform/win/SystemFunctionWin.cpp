@@ -12,10 +12,10 @@ void* SystemFunction(const wchar_t* library, const char* name) {
 }
 
 // Delayed imports of the system's libraries need not follow the process's own order; these are the ones that
-// a window and its sounds bring.
+// a window brings. Sound loads five more and has nobody but SoundWin to ask for it.
 void LoadFromSystemOnly() {
   SetDefaultDllDirectories(LOAD_LIBRARY_SEARCH_SYSTEM32);
-  for (const wchar_t* library : {L"uxtheme.dll", L"msimg32.dll", L"winmm.dll", L"version.dll"})
+  for (const wchar_t* library : {L"uxtheme.dll", L"msimg32.dll", L"version.dll"})
     LoadLibraryExW(library, nullptr, LOAD_LIBRARY_SEARCH_SYSTEM32);
 }
 
