@@ -2,9 +2,6 @@
 // which it serves with what the main window and the tray ask of the schedule.
 #pragma once
 
-#include <functional>
-#include <memory>
-#include <optional>
 #include <string>
 #include <vector>
 
@@ -12,6 +9,7 @@
 #include "directory/EvList.h"
 #include "forms/Form.h"
 #include "platform/Platform.h"
+#include "schedule/ComingEvents.h"
 #include "schedule/EventDiary.h"
 #include "schedule/PersonalShows.h"
 #include "schedule/ScheduleCalendar.h"
@@ -19,7 +17,7 @@
 #include "schedule/ScheduleStore.h"
 #include "schedule/ScheduleTimer.h"
 #include "schedule/StationPicker.h"
-#include "schedule/frmNotifyStack.h"
+#include "schedule/frmNotify.h"
 #include "schedule/frmSched.h"
 #include "schedule/frmschedtime.h"
 #include "stations/Commands.h"
@@ -40,7 +38,11 @@ class Strings;
 class WebPages;
 struct AppState;
 
-class ApplicationSchedule final : public ScheduleCommands, private NotifyCommands, private TimerTicks {
+class ApplicationSchedule final : public ScheduleCommands,
+                                  private NotifyCommands,
+                                  private TimerTicks,
+                                  private ScheduleTimerListener,
+                                  private ScheduleListener {
  public:
   struct Dependencies {
     const Platform& platform;
@@ -62,7 +64,7 @@ class ApplicationSchedule final : public ScheduleCommands, private NotifyCommand
     ProgramListener& listener;
   };
 
-  explicit ApplicationSchedule(const Dependencies& needs);
+  explicit ApplicationSchedule(const Dependencies& dependencies);
 
   // Once, when the program has finished loading: what was missed meanwhile, and the first evaluation.
   void StartWatching();
@@ -79,40 +81,40 @@ class ApplicationSchedule final : public ScheduleCommands, private NotifyCommand
   void ScheduleStation(Form& owner, const StationKey& station) override;
   void ExplainTimes(Form& owner) override;
   std::vector<EventLine> ComingEvents() override;
-  void NotifyMe(Form& owner, std::size_t line) override;
-  void ChangePersonalShow(std::size_t line) override;
+  void NotifyMe(Form& owner, const EventKey& event) override;
+  void ChangePersonalShow(const EventKey& event) override;
   NextNotice SoonestNotice() override;
 
   void DirectoryChanged();
 
  private:
-  ScheduleServices MakeServices();
-  // What a notification asks for, and the timer's window.
+  // What a notification asks for, the timer and its window, and the schedule's windows.
   void Play(const PlayChoice& choice) override;
   void OpenPage(const std::string& address) override;
   void PlaySound() override;
   void ShowHelp() override;
   void Tick() override;
   void FullMinute() override;
+  std::vector<Occurrence> LiveStarts(const DateTime& from, const DateTime& to) override;
+  void WhileYouWereAway(const std::vector<Occurrence>& missed) override;
+  void ItemsChanged() override;
 
-  std::optional<DateTime> NextBroadcast(std::string_view show) const;
-  bool IsNoticed(const EventRecord& event, const DateTime& local) const;
-  void Changed();
   void RememberSeen();
 
-  Dependencies needs_;
+  Dependencies dependencies_;
+  ScheduleTexts texts_;
   EvList events_;
   EventDiary diary_;
   ScheduleStore store_;
   ScheduleCalendar calendar_;
   PersonalShows shows_;
+  sonaro::ComingEvents coming_;  // not the command of that name
   StationPicker picker_;
   ScheduleServices services_;
   ScheduleTimerWindow timerWindow_;
   ScheduleTimer timer_;
   frmNotifyStack notices_;
   frmSched list_;
-  std::vector<BroadcastEvent> coming_;  // what ComingEvents gave last
 };
 
 }  // namespace sonaro

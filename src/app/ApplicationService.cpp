@@ -17,14 +17,14 @@
 
 namespace sonaro {
 
-ApplicationService::ApplicationService(const Dependencies& needs)
-    : needs_(needs), install_(needs.data, needs.reg, needs.stations) {}
+ApplicationService::ApplicationService(const Dependencies& dependencies)
+    : dependencies_(dependencies), install_(dependencies.data, dependencies.reg, dependencies.stations) {}
 
 ApplicationService::~ApplicationService() = default;
 
 UpdateDependencies ApplicationService::MakeUpdateDependencies() {
-  return {needs_.reg, needs_.data,          needs_.strings,
-          install_,   needs_.platform.http, [this](std::string_view) { toDoDue_ = true; }};
+  return {dependencies_.reg, dependencies_.data,          dependencies_.strings,
+          install_,          dependencies_.platform.http, [this](std::string_view) { toDoDue_ = true; }};
 }
 
 void ApplicationService::ShowUpdate(HWND owner) { OpenDialog(owner, UpdateOpening::Begin); }
@@ -37,7 +37,7 @@ void ApplicationService::OpenDialog(HWND owner, UpdateOpening opening) {
   }
   if (background_) background_->Cancel();
   UpdateDialogCommands& commands = *this;
-  dialog_ = std::make_unique<frmUpdateDialog>(needs_.context, commands, opening);
+  dialog_ = std::make_unique<frmUpdateDialog>(dependencies_.context, commands, opening);
   dialog_->Show(owner);
 }
 
@@ -45,13 +45,13 @@ std::unique_ptr<frmInetUpdate> ApplicationService::MakeWatchedUpdate(UpdateListe
   return MakeUpdate(CallerCode::UpdateDialog, &dialog);
 }
 
-void ApplicationService::OpenUpdateHelp() { needs_.help.OpenHelpPage("index.html"); }
+void ApplicationService::OpenUpdateHelp() { dependencies_.help.OpenHelpPage("index.html"); }
 
 std::unique_ptr<frmInetUpdate> ApplicationService::MakeUpdate(CallerCode callerCode, UpdateListener* dialog) {
   Listener& listener = dialog ? watched_ : unwatched_;
   listener.Watch(dialog);
-  return std::make_unique<frmInetUpdate>(needs_.context, MakeUpdateDependencies(), listener, callerCode,
-                                         InstallMode::InstallAndRebuild);
+  return std::make_unique<frmInetUpdate>(dependencies_.context, MakeUpdateDependencies(), listener,
+                                         callerCode, InstallMode::InstallAndRebuild);
 }
 
 // Nobody reads the texts of an update that has no dialog; one comes when it has to wait before it tries
@@ -66,7 +66,8 @@ void ApplicationService::Listener::UpdateProgress(const std::string& text) {
 
 void ApplicationService::Listener::UpdateBytes(std::uint64_t bytes, std::uint64_t expected) {
   if (!service_.stopped_)
-    service_.needs_.listener.UpdateProgress(expected == 0 ? -1 : static_cast<int>(bytes * 100 / expected));
+    service_.dependencies_.listener.UpdateProgress(expected == 0 ? -1
+                                                                 : static_cast<int>(bytes * 100 / expected));
   if (dialog_) dialog_->UpdateBytes(bytes, expected);
 }
 
@@ -81,11 +82,11 @@ void ApplicationService::Listener::UpdateFinished(const UpdateOutcome& outcome) 
 }
 
 void ApplicationService::EndProgress() {
-  if (!stopped_) needs_.listener.UpdateProgressEnded();
+  if (!stopped_) dependencies_.listener.UpdateProgressEnded();
 }
 
 void ApplicationService::TellDirectoryChanged() {
-  if (!stopped_) needs_.listener.DirectoryChanged();
+  if (!stopped_) dependencies_.listener.DirectoryChanged();
 }
 
 void ApplicationService::Stop() {
@@ -96,7 +97,7 @@ void ApplicationService::Stop() {
 }
 
 void ApplicationService::RunPendingWork() {
-  if (!StationListIsDue(needs_.reg)) return;
+  if (!StationListIsDue(dependencies_.reg)) return;
   spent_ = std::move(background_);  // this may run within its last call
   background_ = MakeUpdate(CallerCode::Background, nullptr);
   background_->Load();
@@ -105,10 +106,10 @@ void ApplicationService::RunPendingWork() {
 std::string ApplicationService::Installed() {
   TellDirectoryChanged();
   const std::optional<std::string> before = install_.ReplacedStationList();
-  const ReadResult now = needs_.data.Read("\\Station.snr");
+  const ReadResult now = dependencies_.data.Read("\\Station.snr");
   if (!before || now.status != ReadStatus::Ok || *before == now.bytes) return {};
-  return DescribeUpdate(CompareStationLists(*before, now.bytes, StationsOfGroups()), needs_.strings,
-                        needs_.state.decimalMode);
+  return DescribeUpdate(CompareStationLists(*before, now.bytes, StationsOfGroups()), dependencies_.strings,
+                        dependencies_.state.decimalMode);
 }
 
 UndoStatus ApplicationService::UndoUpdate() {
@@ -119,8 +120,8 @@ UndoStatus ApplicationService::UndoUpdate() {
 
 std::vector<std::int32_t> ApplicationService::StationsOfGroups() const {
   std::vector<std::int32_t> ids;
-  for (std::size_t group = 0; group < needs_.favorites.Count(); ++group) {
-    for (const StationKey& key : needs_.favorites.Keys(group)) {
+  for (std::size_t group = 0; group < dependencies_.favorites.Count(); ++group) {
+    for (const StationKey& key : dependencies_.favorites.Keys(group)) {
       if (key.IsOfGuide()) ids.push_back(key.number);
     }
   }
@@ -128,17 +129,18 @@ std::vector<std::int32_t> ApplicationService::StationsOfGroups() const {
 }
 
 void ApplicationService::TestProxy(Form& owner, const std::string& address, const std::string& port) {
-  frmTestProxy(needs_.context, needs_.reg, needs_.platform.http, needs_.platform.clock, address, port)
+  frmTestProxy(dependencies_.context, dependencies_.reg, dependencies_.platform.http,
+               dependencies_.platform.clock, address, port)
       .ShowModal(owner.Window());
 }
 
 std::string ApplicationService::DetectProxy() {
-  return needs_.reg.Get(setting::kProxyUse) ? std::string() : FindProxy();
+  return dependencies_.reg.Get(setting::kProxyUse) ? std::string() : FindProxy();
 }
 
 std::string ApplicationService::FindProxy() {
-  const std::string proxy = DetectIeProxy(needs_.reg);
-  return proxy.empty() ? DetectNetscapeProxy(needs_.reg, needs_.platform.files) : proxy;
+  const std::string proxy = DetectIeProxy(dependencies_.reg);
+  return proxy.empty() ? DetectNetscapeProxy(dependencies_.reg, dependencies_.platform.files) : proxy;
 }
 
 }  // namespace sonaro

@@ -40,7 +40,7 @@ class ApplicationService final : public UpdateCommands, private UpdateDialogComm
     ProgramListener& listener;
   };
 
-  explicit ApplicationService(const Dependencies& needs);
+  explicit ApplicationService(const Dependencies& dependencies);
   ~ApplicationService() override;
 
   // Ends whatever runs; the listener hears nothing from then on. To be called before it is gone.
@@ -89,7 +89,7 @@ class ApplicationService final : public UpdateCommands, private UpdateDialogComm
   void TellDirectoryChanged();
   std::vector<std::int32_t> StationsOfGroups() const;
 
-  Dependencies needs_;
+  Dependencies dependencies_;
   UpdateInstall install_;
   Listener watched_{*this};
   Listener unwatched_{*this};

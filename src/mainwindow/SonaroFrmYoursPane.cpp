@@ -77,16 +77,15 @@ void YoursPane::ShowGroups() {
   list.Select(SelectedGroupRow());
 }
 
-int YoursPane::RowOf(const EventLine& event) const {
-  const auto same = std::find_if(events_.begin(), events_.end(), [&](const EventLine& line) {
-    return line.name == event.name && line.station == event.station;
-  });
+int YoursPane::RowOf(const EventKey& event) const {
+  const auto same = std::find_if(events_.begin(), events_.end(),
+                                 [&](const EventLine& line) { return line.event == event; });
   return same != events_.end() ? static_cast<int>(same - events_.begin()) : -1;
 }
 
 void YoursPane::ShowEvents() {
   ListView& list = *lstEvents_;
-  const EventLine chosen = SelectedEvent() ? *SelectedEvent() : EventLine();
+  const EventKey chosen = SelectedEvent() ? SelectedEvent()->event : EventKey();
   events_ = context_.services.schedule.ComingEvents();
   list.RowsChanged();
   const int same = RowOf(chosen);
@@ -175,23 +174,24 @@ void YoursPane::lstEvents_ContextMenu(int, POINT at) {
                         context_.models.actions.EventMenu(*event, station), at);
 }
 
-int YoursPane::EventRowMeant() const {
-  const CommandSubject::Menu* menu = context_.models.subject.OpenMenu();
-  return menu ? RowOf(menu->event) : lstEvents_->Selected();
+std::optional<EventKey> YoursPane::EventMeant() const {
+  if (const CommandSubject::Menu* menu = context_.models.subject.OpenMenu()) return menu->event.event;
+  const EventLine* selected = SelectedEvent();
+  return selected ? std::optional(selected->event) : std::nullopt;
 }
 
 void YoursPane::butNotifyMe_Click() {
-  const int row = EventRowMeant();
-  if (row < 0) return;
-  context_.services.schedule.NotifyMe(form_, static_cast<std::size_t>(row));
+  const std::optional<EventKey> event = EventMeant();
+  if (!event) return;
+  context_.services.schedule.NotifyMe(form_, *event);
   ShowEvents();
   ShowNextNotice();
 }
 
 void YoursPane::butPersonalShow_Click() {
-  const int row = EventRowMeant();
-  if (row < 0) return;
-  context_.services.schedule.ChangePersonalShow(static_cast<std::size_t>(row));
+  const std::optional<EventKey> event = EventMeant();
+  if (!event) return;
+  context_.services.schedule.ChangePersonalShow(*event);
   ShowEvents();
 }
 

@@ -34,8 +34,9 @@ class YoursPane final : public EventTarget {
   bool IsRecent(int row) const;
   const EventLine* EventAt(int row) const;
   const EventLine* SelectedEvent() const;
-  int RowOf(const EventLine& event) const;  // -1 when it is not there any more
-  int EventRowMeant() const;
+  int RowOf(const EventKey& event) const;  // -1 when it is not there any more
+  // That of the open menu, else the selected one; nothing without either.
+  std::optional<EventKey> EventMeant() const;
 
   void lstGroups_ItemSelected(int row);
   void lstGroups_ItemActivate(int row);

@@ -1,7 +1,5 @@
 // An iCalendar file (RFC 5545) of the whole schedule. Times are written without a zone, as "floating" local
 // times: an item at eight comes on at eight by the clock of whoever opens the file, as it does here.
-#include "schedule/CalendarExport.h"
-
 #include <algorithm>
 #include <array>
 #include <cstdio>
@@ -13,6 +11,7 @@
 #include "base/crypto/Signing.h"
 #include "schedule/ScheduleItem.h"
 #include "schedule/ScheduleStore.h"
+#include "schedule/ScheduleTexts.h"
 
 namespace sonaro {
 
@@ -111,27 +110,29 @@ std::string IdentityOf(const ScheduleFields& item, std::set<std::string>& earlie
 }
 
 void AddEntry(std::string& file, const std::string& identity, const ScheduleItem& item, const Times& times,
-              const DateTime& gmtNow) {
+              const DateTime& gmtNow, const ScheduleTexts& texts) {
+  const std::string name = Escaped(texts.Name(item.name));
   AddLine(file, "BEGIN:VEVENT");
   AddLine(file, "UID:" + identity + "@sonaro.example");
   AddLine(file, "DTSTAMP:" + Stamp(gmtNow) + "Z");
   AddLine(file, "DTSTART:" + Stamp(times.start));
   if (!times.rule.empty()) AddLine(file, times.rule);
-  AddLine(file, "SUMMARY:" + Escaped(item.name.Shown()));
+  AddLine(file, "SUMMARY:" + name);
   if (!item.note.empty()) AddLine(file, "DESCRIPTION:" + Escaped(item.note));
   const std::string webSite = item.name.Address();
   if (!webSite.empty()) AddLine(file, "URL:" + webSite);  // an address is not escaped
   AddLine(file, "BEGIN:VALARM");
   AddLine(file, "ACTION:DISPLAY");
   AddLine(file, "TRIGGER:PT0S");
-  AddLine(file, "DESCRIPTION:" + Escaped(item.name.Shown()));
+  AddLine(file, "DESCRIPTION:" + name);
   AddLine(file, "END:VALARM");
   AddLine(file, "END:VEVENT");
 }
 
 }  // namespace
 
-std::string ExportCalendar(const ScheduleStore& store, const Date& today, const DateTime& gmtNow) {
+std::string ExportCalendar(const ScheduleStore& store, const Date& today, const DateTime& gmtNow,
+                           const ScheduleTexts& texts) {
   std::string file;
   AddLine(file, "BEGIN:VCALENDAR");
   AddLine(file, "VERSION:2.0");
@@ -141,7 +142,7 @@ std::string ExportCalendar(const ScheduleStore& store, const Date& today, const 
     const ScheduleItem& item = store.Item(slot);
     if (item.Free()) continue;
     if (const auto times = TimesOf(item, today)) {
-      AddEntry(file, IdentityOf(item.fields, identities), item, *times, gmtNow);
+      AddEntry(file, IdentityOf(item.fields, identities), item, *times, gmtNow, texts);
     }
   }
   AddLine(file, "END:VCALENDAR");

@@ -1,3 +1,5 @@
+// The events of two tables, the current one and the one that an update has brought for the days after it, as
+// one list. It is read anew after every update only: the pages and the evaluator ask it every minute.
 #include "schedule/EventDiary.h"
 
 #include <algorithm>
@@ -40,6 +42,7 @@ void EventDiary::Reload() {
   diary_.erase(std::unique(diary_.begin(), diary_.end(), same), diary_.end());
 }
 
+// The diary is sorted, so what is coming is its end.
 std::vector<BroadcastEvent>::const_iterator EventDiary::After(const DateTime& gmtNow) const {
   return std::upper_bound(diary_.begin(), diary_.end(), gmtNow,
                           [](const DateTime& now, const BroadcastEvent& event) { return now < event.gmt; });

@@ -13,6 +13,8 @@
 namespace sonaro {
 
 class ExtraLinks;
+class ScheduleStore;
+class ScheduleTexts;
 
 // One play button: its caption, a second line, and what LaunchStation is given.
 struct PlayChoice {
@@ -33,14 +35,14 @@ struct Notification {
 };
 
 Notification NotificationFor(const ScheduleItem& item, const StationSource& stations,
-                             const ExtraLinks& extraLinks);
+                             const ExtraLinks& extraLinks, const ScheduleTexts& texts);
 
 // The number before the first "XX" of the text that asks for a notification; -1 when there is none.
 int AskedItem(std::string_view bringUpText);
 std::string BringUpText(std::size_t slot);
 
 // The lines of the notice "while you were away": when, and what.
-std::vector<std::string> AwayLines(const std::vector<Occurrence>& missed, const class ScheduleStore& store,
-                                   const DateTime& now, ClockStyle style);
+std::vector<std::string> AwayLines(const std::vector<Occurrence>& missed, const ScheduleStore& store,
+                                   const DateTime& now, const ScheduleTexts& texts);
 
 }  // namespace sonaro

@@ -1,3 +1,5 @@
+// "\Shows.snr" is read and written by every operation: another session may have changed it, and it is small.
+// A line is KEYXNAME. The key is the number of an event and so holds no capital X; the name may.
 #include "schedule/PersonalShows.h"
 
 #include <algorithm>
@@ -17,6 +19,7 @@ constexpr std::string_view kLineEnd = "\r\n";
 
 std::string_view IdentifyingPart(std::string_view showKey) { return showKey.substr(0, showKey.find('X')); }
 
+// The form that WritePersonalShows takes: a piece counts when its line is ended.
 std::string EachOnItsLine(const std::vector<std::string>& lines) {
   std::string text;
   for (const std::string& line : lines) text.append(line).append(kLineEnd);
@@ -39,6 +42,7 @@ std::vector<std::string> PersonalShows::List() {
   return lines;
 }
 
+// A show keeps its number while its name may be written in another way, so the number decides.
 bool PersonalShows::Holds(const std::vector<std::string>& lines, std::string_view showKey) {
   return std::any_of(lines.begin(), lines.end(), [&](const std::string& line) {
     return IdentifyingPart(line) == IdentifyingPart(showKey);
@@ -71,6 +75,7 @@ std::string PersonalShows::ReadPersonalShows() {
 
 bool PersonalShows::WritePersonalShows(std::string_view text) {
   const auto last = text.rfind(kLineEnd);
+  // A file that is held by another program is not written over: it may hold more than was read of it.
   return file_.Look() != UserFile::Seen::Unreadable &&
          file_.Save(last == std::string_view::npos ? "" : text.substr(0, last + kLineEnd.size()));
 }

@@ -20,6 +20,7 @@ bool ComesBefore(const Occurrence& a, const Occurrence& b) {
   return a.at != b.at ? a.at < b.at : a.slot < b.slot;
 }
 
+// A weekly item whose day is misspelled has a time and no day: its day flags are all off, so DueOn says no.
 bool ScheduleCalendar::Comes(const ScheduleItem& item) {
   return !item.Free() && item.time && (item.kind != ScheduleKind::Once || item.date);
 }
@@ -76,6 +77,7 @@ std::optional<DateTime> ScheduleCalendar::NextOf(const ScheduleItem& item, const
 
 std::vector<Occurrence> ScheduleCalendar::Between(const DateTime& from, const DateTime& to) const {
   std::vector<Occurrence> found;
+  // Day by day and not by arithmetic: the caller asks for a day at most, and flags have no period.
   for (std::size_t slot = 0; slot < store_.SlotCount(); ++slot) {
     const ScheduleItem& item = store_.Item(slot);
     if (!Comes(item)) continue;

@@ -1,3 +1,7 @@
+// The dialog shows texts; the draft holds values as far as it can. Only the date stays the text that the user
+// types, since half a date is no value, and what he sees must not change under his hands.
+//
+// In the file a time is written by the clock style of the user, a date always as m/d/yyyy.
 #include "schedule/ScheduleDraft.h"
 
 #include <algorithm>
@@ -5,6 +9,8 @@
 #include "base/Text.h"
 #include "directory/EventRecord.h"
 #include "platform/Clock.h"
+#include "resources/texts/schedule.h"
+#include "schedule/ScheduleTexts.h"
 #include "schedule/TimeZone.h"
 
 namespace sonaro {
@@ -34,6 +40,7 @@ ScheduleDraft ScheduleDraft::ForStation(const StationKey& station, std::string_v
   ScheduleDraft draft;
   draft.station = station;
   draft.name.name = stationName;
+  // The next full hour is what programmes begin at, and never lies in the past.
   const DateTime next = AddSeconds({now.date, {now.time.hour, 0, 0}}, 3600);
   draft.time = next.time;
   draft.dateText = FormatLongDate(next.date);
@@ -54,6 +61,8 @@ ScheduleDraft ScheduleDraft::ForEvent(const EventRecord& event, Clock& clock) {
   return draft;
 }
 
+// An item that another program has written may lack anything; what it lacks becomes midnight, Monday, a text
+// that is no date, so that the dialog opens and the user can mend it.
 ScheduleDraft ScheduleDraft::FromItem(const ScheduleItem& item) {
   ScheduleDraft draft;
   draft.mode = DraftMode::Modify;
@@ -69,10 +78,12 @@ ScheduleDraft ScheduleDraft::FromItem(const ScheduleItem& item) {
   return draft;
 }
 
-std::string ScheduleDraft::StationShown() const {
-  return "Station To Schedule: " + (name.IsEvent() ? name.station + " (Event)" : name.name);
+std::string ScheduleDraft::StationShown(const ScheduleTexts& texts) const {
+  const std::string shown = name.IsEvent() ? texts.Filled(IDS_SCHED_CHANGE_EVENT, {name.station}) : name.name;
+  return texts.Filled(IDS_SCHED_CHANGE_STATION, {shown});
 }
 
+// A station that has no name any more counts as none. The order is that of the controls.
 DraftFault ScheduleDraft::Fault(std::string_view shortDatePattern) const {
   if (TrimBlanks(name.name).empty()) return DraftFault::NoStation;
   if (kind == ScheduleKind::Once && !ParseTypedDate(dateText, shortDatePattern)) return DraftFault::NoDate;
@@ -80,6 +91,8 @@ DraftFault ScheduleDraft::Fault(std::string_view shortDatePattern) const {
   return DraftFault::None;
 }
 
+// Only the fields that the kind reads are filled, so that no date or day of an earlier kind stays in the
+// file.
 ScheduleFields ScheduleDraft::ToFields(ClockStyle style, std::string_view shortDatePattern) const {
   ScheduleFields item;
   item.name = JoinItemName(name);
@@ -105,18 +118,20 @@ ScheduleFields ScheduleDraft::ToFields(ClockStyle style, std::string_view shortD
   return item;
 }
 
-std::string ScheduleDraft::Summary(ClockStyle style, std::string_view shortDatePattern) const {
+std::string ScheduleDraft::Summary(const ScheduleTexts& texts, std::string_view shortDatePattern) const {
   if (Fault(shortDatePattern) != DraftFault::None) return {};
-  const std::string at = " at " + FormatTime(time, style);
+  const std::string at = FormatTime(time, texts.Style());
   switch (kind) {
     case ScheduleKind::Daily:
-      return (EveryDay(days) ? "Every day" : "Every " + ChosenDays(days)) + at;
+      return EveryDay(days) ? texts.Filled(IDS_SCHED_SUMMARY_DAILY, {at})
+                            : texts.Filled(IDS_SCHED_SUMMARY_DAYS, {ChosenDays(days), at});
     case ScheduleKind::Weekly:
-      return "Every " + std::string(EnglishDayName(weekday)) + at;
+      return texts.Filled(IDS_SCHED_SUMMARY_DAYS, {EnglishDayName(weekday), at});
     case ScheduleKind::Live:
-      return "When the event begins";
+      return texts.Filled(IDS_SCHED_SUMMARY_EVENT);
     default:
-      return "Once, " + FormatLongDate(ParseTypedDate(dateText, shortDatePattern)->date) + at;
+      return texts.Filled(IDS_SCHED_SUMMARY_ONCE,
+                          {FormatLongDate(ParseTypedDate(dateText, shortDatePattern)->date), at});
   }
 }
 
@@ -135,6 +150,8 @@ std::vector<std::string> MinuteChoices() {
   return minutes;
 }
 
+// The list begins with 1 and ends with 12, while noon and midnight are the twelfth hour of the other half:
+// hour 0 and 12 are the last entry, 1 and 13 the first.
 TimeChoice ChoiceOf(const TimeOfDay& time, ClockStyle style) {
   if (style == ClockStyle::Hours24) return {time.hour, time.minute, 0};
   return {(time.hour + kHalfDay - 1) % kHalfDay, time.minute, time.hour >= kHalfDay ? 0 : 1};

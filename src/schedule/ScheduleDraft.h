@@ -14,6 +14,7 @@ namespace sonaro {
 
 struct EventRecord;
 class Clock;
+class ScheduleTexts;
 
 enum class DraftMode { AddMain, AddLive, Modify };
 
@@ -40,13 +41,13 @@ struct ScheduleDraft {
   static ScheduleDraft FromItem(const ScheduleItem& item);
 
   // "Station To Schedule: Radio", followed by " (Event)" for an event.
-  std::string StationShown() const;
+  std::string StationShown(const ScheduleTexts& texts) const;
   DraftFault Fault(std::string_view shortDatePattern) const;
   // Only for a draft without a fault.
   ScheduleFields ToFields(ClockStyle style, std::string_view shortDatePattern) const;
 
   // "Every Thursday at 8:00 PM"; "" while something is missing.
-  std::string Summary(ClockStyle style, std::string_view shortDatePattern) const;
+  std::string Summary(const ScheduleTexts& texts, std::string_view shortDatePattern) const;
 };
 
 // The lists of the dialog's time boxes.

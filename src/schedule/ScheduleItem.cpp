@@ -1,3 +1,5 @@
+// The texts of an item are read once, when it comes into the table, and written as they are: a text that this
+// version cannot read, or that an older one has written in its way, goes through a load and a save unchanged.
 #include "schedule/ScheduleItem.h"
 
 #include <algorithm>
@@ -24,6 +26,7 @@ std::optional<int> WeekdayNamed(std::string_view name) {
 
 }  // namespace
 
+// "daily" is followed by its days. What is none of these is kept in the file and never comes on.
 ScheduleKind KindOf(std::string_view kind) {
   if (StartsWithIgnoringCase(kind, "daily")) return ScheduleKind::Daily;
   if (EqualIgnoringCase(kind, "weekly")) return ScheduleKind::Weekly;
@@ -50,6 +53,8 @@ DayFlags DaysOf(std::string_view dailyKind) {
   return days;
 }
 
+// -1 and 0 are true and false as their writer had them. The bar at the end belongs to it: readers look for
+// "|Sun=-1" as for any other.
 std::string DailyKind(const DayFlags& days) {
   std::string kind = "daily";
   if (std::all_of(days.begin(), days.end(), [](bool day) { return day; })) return kind;
@@ -59,8 +64,7 @@ std::string DailyKind(const DayFlags& days) {
   return kind + "|";
 }
 
-std::string ItemName::Shown() const { return IsEvent() ? name + " on " + station : name; }
-
+// The address first: its mark is the later one, and what stands behind it may hold anything.
 ItemName SplitItemName(std::string_view nameField) {
   ItemName parts;
   if (const auto web = nameField.find(kWebSiteMark); web != std::string_view::npos) {
@@ -82,6 +86,7 @@ std::string JoinItemName(const ItemName& name) {
   return joined;
 }
 
+// Addresses of events come as "www.x.example/page"; the shell opens such a text as a file.
 std::string ItemName::Address() const {
   return webSite.empty() || webSite.starts_with("http") ? webSite : "http://" + webSite;
 }
@@ -102,6 +107,7 @@ std::string NoteFromFile(std::string_view stored) {
   return note;
 }
 
+// The row key, not the bare number: the station may be one of the user's own.
 std::string ActionText(bool openWebSite, const StationKey& station) {
   return (openWebSite ? "W" : "N") + station.RowKey();
 }

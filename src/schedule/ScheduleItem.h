@@ -48,8 +48,6 @@ struct ItemName {
   std::string webSite;
 
   bool IsEvent() const { return !station.empty(); }
-  // As shown to the user: "event on station" or the name.
-  std::string Shown() const;
   // As it is opened, beginning with "http"; "" when there is none.
   std::string Address() const;
 };

@@ -2,7 +2,6 @@
 #pragma once
 
 #include <array>
-#include <functional>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -12,9 +11,12 @@
 
 namespace sonaro {
 
+class ComingEvents;
 class PersonalShows;
 class ScheduleCalendar;
 class ScheduleStore;
+class ScheduleTexts;
+struct NextNotice;
 
 // The columns of both lists.
 enum ScheduleColumn : int { kNextColumn, kNameColumn, kOftenColumn, kNoteColumn, kScheduleColumns };
@@ -28,15 +30,18 @@ struct ScheduleRow {
 
 // In the order of the slots.
 std::vector<ScheduleRow> ScheduleRows(const ScheduleStore& store, const ScheduleCalendar& calendar,
-                                      const DateTime& now, ClockStyle style);
+                                      const DateTime& now, const ScheduleTexts& texts);
 // A show has the columns of its item in the schedule, the soonest one's if there are several; one without an
 // item that comes again has the local time of its next broadcast.
-using NextBroadcast = std::function<std::optional<DateTime>(std::string_view show)>;
 std::vector<ScheduleRow> ShowRows(PersonalShows& shows, const ScheduleStore& store,
-                                  const ScheduleCalendar& calendar, const NextBroadcast& nextBroadcast,
-                                  const DateTime& now, ClockStyle style);
+                                  const ScheduleCalendar& calendar, const ComingEvents& events,
+                                  const DateTime& now, const ScheduleTexts& texts);
 // By time, what does not come again last, or by the text of another column, letter case ignored.
 void SortRows(std::vector<ScheduleRow>& rows, int column);
+
+// The item that comes on next. Empty when none does.
+NextNotice SoonestNotice(const ScheduleStore& store, const ScheduleCalendar& calendar, const DateTime& now,
+                         const ScheduleTexts& texts);
 
 // The slot or position that a row's key names; -1 when it names the other kind.
 int SlotOfKey(std::string_view key);

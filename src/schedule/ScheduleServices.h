@@ -1,25 +1,28 @@
 // What the schedule's windows work with, as one bundle; made by Application.
 #pragma once
 
-#include <functional>
-#include <optional>
 #include <string>
-#include <string_view>
 
-#include "base/Dates.h"
+#include "schedule/ScheduleTexts.h"
 
 namespace sonaro {
 
 class Clock;
+class ComingEvents;
 class Files;
 class HelpPages;
 class MessageBoxView;
 class PersonalShows;
 class ScheduleCalendar;
-class ScheduleStore;
 class Shell;
 class StationPicker;
 class StationSource;
+
+class ScheduleListener {
+ public:
+  virtual ~ScheduleListener() = default;
+  virtual void ItemsChanged() = 0;  // an item was added, changed or deleted, or would have been
+};
 
 struct ScheduleServices {
   ScheduleStore& store;
@@ -32,12 +35,10 @@ struct ScheduleServices {
   Shell& shell;
   MessageBoxView& messages;
   HelpPages& help;
-  ClockStyle clockStyle = ClockStyle::Hours24;
+  const ComingEvents& events;
+  ScheduleListener& listener;
+  const ScheduleTexts& texts;
   std::string shortDatePattern = {};
-  // Functions: each is one question or one word to the schedule's owner, in the middle of a handler of a
-  // window that knows nothing else of it. When a broadcast event of this name begins next, local time.
-  std::function<std::optional<DateTime>(std::string_view show)> nextBroadcast = {};
-  std::function<void()> changed = {};  // the table was changed and saved
 };
 
 }  // namespace sonaro

@@ -118,6 +118,7 @@ bool ScheduleStore::BringBack(const Date& today) {
   return dropped_.size() != before;
 }
 
+// Slots 0 to 100 are there from the start; a line beyond them makes room for some more at once.
 void ScheduleStore::GrowTo(std::size_t slot) {
   if (slot >= slots_.size()) slots_.resize(slot + kGrowth + 1);
 }
@@ -155,6 +156,8 @@ bool ScheduleStore::PutAside(const std::vector<std::string>& lines) {
   return text == droppedFile_.Text() || droppedFile_.Save(text);
 }
 
+// Holes of deleted items are filled first. The next load closes them all, so slots are good within one run
+// only.
 std::size_t ScheduleStore::FirstFreeSlot() {
   const auto free =
       std::find_if(slots_.begin(), slots_.end(), [](const ScheduleItem& item) { return item.Free(); });
@@ -175,6 +178,9 @@ bool ScheduleStore::FreeSlot(std::size_t slot) {
   return slot >= slots_.size() || Change(slot, ScheduleItem{});
 }
 
+// The dialog that asks for the change may have been open for an hour, and two sessions may share the folder:
+// the slot is looked up by what stood in it, not by its number. The swap goes back when the file was not
+// written, so that memory never shows what a restart would not.
 bool ScheduleStore::Change(std::size_t slot, ScheduleItem changed) {
   const std::string line = slot < slots_.size() ? LineIn(slots_[slot]) : "";
   const UserFile::Seen seen = file_.Look();

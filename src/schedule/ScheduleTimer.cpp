@@ -63,8 +63,8 @@ unsigned MillisecondsToFullMinute(const DateTime& since, const DateTime& now) {
 }
 
 ScheduleTimer::ScheduleTimer(ScheduleCalendar& calendar, Clock& clock, MessagePost& messages,
-                             ScheduleTimerView& view)
-    : calendar_(calendar), clock_(clock), messages_(messages), view_(view) {
+                             ScheduleTimerView& view, ScheduleTimerListener& listener)
+    : calendar_(calendar), clock_(clock), messages_(messages), view_(view), listener_(listener) {
   Remember(clock_.LocalNow(), clock_.GmtNow());
 }
 
@@ -103,6 +103,8 @@ void ScheduleTimer::FillDueList(const DateTime& now) {
   }
 }
 
+// The commands are texts because other code steers the timer by them through SetCommand; each is read by one
+// tick and gone.
 void ScheduleTimer::Timer1_Timer() {
   if (command_ == "DOWN") {
     command_.clear();
@@ -199,13 +201,16 @@ void ScheduleTimer::FireNew(const std::vector<Occurrence>& occurrences) {
 
 // In local time; a day back at most.
 std::vector<Occurrence> ScheduleTimer::LiveSince(const DateTime& fromGmt, const DateTime& now,
-                                                 const DateTime& gmt) const {
-  if (!liveStarts_ || gmt <= fromGmt) return {};
-  std::vector<Occurrence> live = liveStarts_(std::max(fromGmt, AddSeconds(gmt, -kSecondsInDay)), gmt);
+                                                 const DateTime& gmt) {
+  if (gmt <= fromGmt) return {};
+  std::vector<Occurrence> live =
+      listener_.LiveStarts(std::max(fromGmt, AddSeconds(gmt, -kSecondsInDay)), gmt);
   for (Occurrence& occurrence : live) occurrence.at = AddSeconds(occurrence.at, OffsetOf(now, gmt));
   return live;
 }
 
+// At a start: what came on while the program was closed is told in one notice, never as usual, since an item
+// of before the start must not come on.
 void ScheduleTimer::CatchUp(const DateTime& lastSeen) {
   const DateTime now = clock_.LocalNow();
   const DateTime gmt = clock_.GmtNow();
@@ -229,7 +234,7 @@ void ScheduleTimer::TellLate(const DateTime& from, std::vector<Occurrence> live,
   });
   for (auto occurrence = recent; occurrence != late.end(); ++occurrence) Fire(occurrence->slot);
   late.erase(recent, late.end());
-  if (!late.empty() && awayNotice_) awayNotice_(late);
+  if (!late.empty()) listener_.WhileYouWereAway(late);
 }
 
 // What a clock that was ahead has told comes on again when its time has come.

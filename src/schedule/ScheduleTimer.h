@@ -13,7 +13,6 @@
 
 #include <array>
 #include <cstdint>
-#include <functional>
 #include <optional>
 #include <set>
 #include <string>
@@ -40,9 +39,15 @@ class ScheduleTimerView {
   virtual void Unload() = 0;
 };
 
-// What live items wait for: the events that began after `from` and not after `to`. All moments are GMT.
-using LiveStarts = std::function<std::vector<Occurrence>(const DateTime& from, const DateTime& to)>;
-using AwayNotice = std::function<void(const std::vector<Occurrence>& missed)>;
+// What the timer asks of its owner, and tells it. Never called from the timer's constructor.
+class ScheduleTimerListener {
+ public:
+  virtual ~ScheduleTimerListener() = default;
+  // The live items whose event began after `from` and not after `to`. All moments are GMT.
+  virtual std::vector<Occurrence> LiveStarts(const DateTime& from, const DateTime& to) = 0;
+  // In order of time; never none.
+  virtual void WhileYouWereAway(const std::vector<Occurrence>& missed) = 0;
+};
 
 // How long it is from `now` to just after the first full minute that follows `since`; a tick a moment early
 // would tell what comes on in that minute a minute late. At most a minute, whatever the clock does.
@@ -53,12 +58,8 @@ class ScheduleTimer {
   static constexpr std::uint32_t kDueMessage = 1795;
   static constexpr std::size_t kDuePlaces = 101;
 
-  ScheduleTimer(ScheduleCalendar& calendar, Clock& clock, MessagePost& messages, ScheduleTimerView& view);
-
-  // Set late, both: the notices are made after the timer, and a timer without them is whole (no live item
-  // waits, nothing is told of what was missed).
-  void SetLiveStarts(LiveStarts liveStarts) { liveStarts_ = std::move(liveStarts); }
-  void SetAwayNotice(AwayNotice awayNotice) { awayNotice_ = std::move(awayNotice); }
+  ScheduleTimer(ScheduleCalendar& calendar, Clock& clock, MessagePost& messages, ScheduleTimerView& view,
+                ScheduleTimerListener& listener);
 
   // Rebuilds the due list from the table and sees to it that the timer window lives while something is due.
   void EvaluateSchedule();
@@ -93,7 +94,7 @@ class ScheduleTimer {
   void FireDue(const DateTime& now);
   bool FireEntries(const DateTime& now);
   void FireNew(const std::vector<Occurrence>& occurrences);
-  std::vector<Occurrence> LiveSince(const DateTime& fromGmt, const DateTime& now, const DateTime& gmt) const;
+  std::vector<Occurrence> LiveSince(const DateTime& fromGmt, const DateTime& now, const DateTime& gmt);
   void TellLate(const DateTime& from, std::vector<Occurrence> live, const DateTime& now,
                 std::int64_t asUsualSeconds);
   void ForgetAhead(const DateTime& now, const DateTime& gmt);
@@ -105,8 +106,7 @@ class ScheduleTimer {
   Clock& clock_;
   MessagePost& messages_;
   ScheduleTimerView& view_;
-  LiveStarts liveStarts_;
-  AwayNotice awayNotice_;
+  ScheduleTimerListener& listener_;
 
   std::array<int, kDuePlaces> due_{};             // slots; -1 has fired
   std::array<TimeOfDay, kDuePlaces> dueTimes_{};  // of the items in due_

@@ -1,3 +1,5 @@
+// The order of Sources is what RowsOf counts by. A group that another session has deleted while the dialog is
+// open moves the others up: the rows are then those of the next one, which the user sees before he chooses.
 #include "schedule/StationPicker.h"
 
 #include "base/Text.h"
@@ -19,11 +21,13 @@ std::vector<std::string> StationPicker::Sources() const {
   return names;
 }
 
+// The two lists behind the groups have no place in them, so they count on from the last one.
 std::vector<StationInfo> StationPicker::RowsOf(std::size_t source) {
   if (source < groups_.Count()) return source_.InfosOf(groups_.Keys(source));
   return source == groups_.Count() ? source_.InfosOf(source_.OwnKeys()) : source_.InfosOf(recent_.Keys());
 }
 
+// The search of the main window with "all words": in name, place, kind and description alike.
 std::vector<StationInfo> StationPicker::Find(std::string_view text) {
   std::vector<StationInfo> rows;
   for (const StationRecord& record : stations_.SearchStations(text, true)) rows.push_back(InfoOf(record));

@@ -1,3 +1,6 @@
+// Two ways of telling time meet here. The service writes GMT as twelve digits; Windows gives a bias in
+// minutes whose sign is the other way round (GMT = local time + bias), and a name of 32 units that need not
+// be ended.
 #include "schedule/TimeZone.h"
 
 #include "base/Numbers.h"
@@ -35,6 +38,7 @@ bool AllDigits(std::string_view text) {
   return text.find_first_not_of("0123456789") == std::string_view::npos;
 }
 
+// Two systems of the 9x family are told apart; all that came later are of the NT family.
 std::string SystemName(const SystemVersion& version) {
   if (!version.known) return "Unknown";
   const std::string number = std::to_string(version.major) + "." + std::to_string(version.minor);
@@ -66,6 +70,8 @@ std::int32_t GetZoneOffset(Clock& clock) {
   return GetZoneOffset(clock, zoneName, daylightFlag);
 }
 
+// Exactly twelve digits: a stamp with seconds, or a date alone, is some other field and would be read
+// wrongly.
 std::optional<DateTime> ParseServiceTime(std::string_view stamp) {
   if (stamp.size() != 12 || !AllDigits(stamp)) return std::nullopt;
   const auto number = [&](std::size_t at, std::size_t length) {
@@ -76,6 +82,7 @@ std::optional<DateTime> ParseServiceTime(std::string_view stamp) {
   return at;
 }
 
+// By the offset of now, not of that day: stamps are of the coming days.
 std::optional<DateTime> ServiceTimeToLocal(Clock& clock, std::string_view stamp) {
   const std::optional<DateTime> gmt = ParseServiceTime(stamp);
   if (!gmt) return std::nullopt;
@@ -88,6 +95,7 @@ std::string ApplyGmtOffsetToAddress(Clock& clock, std::string_view address) {
 
 std::string BuildMachineProfile(SystemInfo& system) {
   const MachineFacts facts = system.Machine();
+  // 64 bits wide: a screen of 32 bits has one colour more than 32 bits can count.
   const std::uint64_t colours = std::uint64_t{1} << static_cast<unsigned>(facts.bitsPerPixel);
   return "OSX" + SystemName(facts.version) + "CPUX" + std::to_string(facts.processorType) + "-" +
          std::to_string(facts.processorCount) + "RAMX" + std::to_string(facts.memoryBytes / 1024 / 1024) +

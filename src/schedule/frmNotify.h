@@ -3,6 +3,10 @@
 // frmNotifyStack owns and places them.
 #pragma once
 
+#include <memory>
+#include <string>
+#include <vector>
+
 #include "forms/ControlIds.h"
 #include "forms/controls/Controls.h"
 #include "schedule/Notification.h"
@@ -49,6 +53,23 @@ class frmNotify final : public Form {
   Label lblEventName_{*this, lblEventName};
   Label lblNote_{*this, lblNote};
   Button butGoWebSiteIt_{*this, butGoWebSiteIt};
+};
+
+// The notifications that are open, one above the other in the corner of the screen. Owned by Application.
+class frmNotifyStack {
+ public:
+  frmNotifyStack(FormContext& context, NotifyCommands& commands) : context_(context), commands_(commands) {}
+
+  void ShowNotification(Notification notification);
+  void ShowMissed(std::vector<std::string> missed);
+
+ private:
+  void Put(std::unique_ptr<frmNotify> window);
+
+  FormContext& context_;
+  NotifyCommands& commands_;
+  // A place for each window; one that was closed leaves its place to the next.
+  std::vector<std::unique_ptr<frmNotify>> windows_;
 };
 
 }  // namespace sonaro

@@ -8,7 +8,6 @@
 #include "platform/Clock.h"
 #include "resources/texts/app.h"
 #include "resources/texts/schedule.h"
-#include "schedule/CalendarExport.h"
 #include "schedule/PersonalShows.h"
 #include "schedule/ScheduleStore.h"
 #include "schedule/frmAboutEventTime.h"
@@ -80,9 +79,9 @@ void frmSched::OnLoad() {
 void frmSched::FillLists() {
   if (!IsOpen()) return;
   const DateTime now = services_.clock.LocalNow();
-  scheduled_.Fill(ScheduleRows(services_.store, services_.calendar, now, services_.clockStyle));
-  shows_.Fill(ShowRows(services_.shows, services_.store, services_.calendar, services_.nextBroadcast, now,
-                       services_.clockStyle));
+  scheduled_.Fill(ScheduleRows(services_.store, services_.calendar, now, services_.texts));
+  shows_.Fill(
+      ShowRows(services_.shows, services_.store, services_.calendar, services_.events, now, services_.texts));
   showsUsed_ = showsUsed_ && shows_.RowCount() > 0;
   if (SelectedKey().empty()) lstSched_->Select(std::min(0, scheduled_.RowCount() - 1));
   ShowKeys();
@@ -128,11 +127,11 @@ void frmSched::butDeleteIt_Click() {
     const std::vector<std::string> lines = services_.shows.List();
     if (static_cast<std::size_t>(show) < lines.size()) {
       services_.shows.RemovePersonalShow(lines[static_cast<std::size_t>(show)]);
-      services_.changed();
+      services_.listener.ItemsChanged();
     }
   } else if (const int slot = SlotOfKey(key); slot >= 0) {
     const bool saved = services_.store.FreeSlot(static_cast<std::size_t>(slot));
-    services_.changed();
+    services_.listener.ItemsChanged();
     SavedOrSaid(saved, LoadText(IDS_FILE_SCHEDULE), services_.messages, context_.strings);
   }
   FillLists();
@@ -146,8 +145,8 @@ void frmSched::butAboutTimeIt_Click() {
 void frmSched::butExportIt_Click() {
   const std::string path = AskSavePath(Window(), LoadText(IDS_SCHED_EXPORT_FILTER), "Sonaro.ics");
   if (path.empty()) return;
-  const std::string calendar =
-      ExportCalendar(services_.store, services_.clock.LocalNow().date, services_.clock.GmtNow());
+  const std::string calendar = ExportCalendar(services_.store, services_.clock.LocalNow().date,
+                                              services_.clock.GmtNow(), services_.texts);
   SavedOrSaid(SaveWholeFile(services_.files, path, calendar), path, services_.messages, context_.strings);
 }
 

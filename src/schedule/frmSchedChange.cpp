@@ -5,7 +5,6 @@
 #include "resources/texts/schedule.h"
 #include "schedule/ScheduleCalendar.h"
 #include "schedule/ScheduleStore.h"
-#include "schedule/ScheduleTexts.h"
 #include "schedule/frmDateFinder.h"
 #include "schedule/frmSelectStation.h"
 #include "settings/FileWords.h"
@@ -43,7 +42,7 @@ frmSchedChange::frmSchedChange(FormContext& context, ScheduleServices& services,
 void frmSchedChange::OnLoad() {
   txtNote_.Limit(kNoteBytes);
   FillChoices();
-  lblStationToSched_.SetText(draft_.StationShown());
+  lblStationToSched_.SetText(draft_.StationShown(services_.texts));
   txtOneDate_.SetText(draft_.dateText);
   txtNote_.SetText(draft_.note);
   chkWebSite_.Check(draft_.openWebSite);
@@ -52,17 +51,17 @@ void frmSchedChange::OnLoad() {
 }
 
 void frmSchedChange::FillChoices() {
-  for (const std::string& hour : HourChoices(services_.clockStyle)) cmbTimeHour_.AddItem(hour);
+  for (const std::string& hour : HourChoices(services_.texts.Style())) cmbTimeHour_.AddItem(hour);
   for (const std::string& minute : MinuteChoices()) cmbTimeMinute_.AddItem(minute);
-  cmbTimeAMPM_.AddItem("PM");
-  cmbTimeAMPM_.AddItem("AM");
+  cmbTimeAMPM_.AddItem(LoadText(IDS_SCHED_CHANGE_PM));
+  cmbTimeAMPM_.AddItem(LoadText(IDS_SCHED_CHANGE_AM));
   for (int day = 0; day < kDays; ++day) cmbThreeDay_.AddItem(EnglishDayName(day));
-  const TimeChoice choice = ChoiceOf(draft_.time, services_.clockStyle);
+  const TimeChoice choice = ChoiceOf(draft_.time, services_.texts.Style());
   cmbTimeHour_.SelectItem(choice.hour);
   cmbTimeMinute_.SelectItem(choice.minute);
   cmbTimeAMPM_.SelectItem(choice.half);
-  ShowPane(kHours12Pane, services_.clockStyle == ClockStyle::Hours12);
-  ShowPane(kHours24Pane, services_.clockStyle == ClockStyle::Hours24);
+  ShowPane(kHours12Pane, services_.texts.Style() == ClockStyle::Hours12);
+  ShowPane(kHours24Pane, services_.texts.Style() == ClockStyle::Hours24);
   cmbThreeDay_.SelectItem(draft_.weekday);
 }
 
@@ -74,15 +73,15 @@ void frmSchedChange::ShowKind() {
 }
 
 void frmSchedChange::ShowSummary() {
-  lblSummary_.SetText(draft_.Summary(services_.clockStyle, services_.shortDatePattern));
+  lblSummary_.SetText(draft_.Summary(services_.texts, services_.shortDatePattern));
   std::string next;
   TextColor color = TextColor::GlassMuted;
   if (draft_.Fault(services_.shortDatePattern) == DraftFault::None) {
     const DateTime now = services_.clock.LocalNow();
-    const ScheduleItem item(draft_.ToFields(services_.clockStyle, services_.shortDatePattern),
+    const ScheduleItem item(draft_.ToFields(services_.texts.Style(), services_.shortDatePattern),
                             services_.shortDatePattern);
     if (const auto at = ScheduleCalendar::NextOf(item, now)) {
-      next = FormatText(LoadText(IDS_SCHED_CHANGE_NEXT), {NextShown(*at, now, services_.clockStyle)});
+      next = FormatText(LoadText(IDS_SCHED_CHANGE_NEXT), {services_.texts.Next(*at, now)});
     } else if (draft_.kind == ScheduleKind::Once) {
       next = LoadText(IDS_SCHED_CHANGE_PASSED);
       color = TextColor::Alert;
@@ -95,7 +94,7 @@ void frmSchedChange::ShowSummary() {
 void frmSchedChange::ReadControls() {
   draft_.time =
       TimeOfChoice({cmbTimeHour_.SelectedItem(), cmbTimeMinute_.SelectedItem(), cmbTimeAMPM_.SelectedItem()},
-                   services_.clockStyle);
+                   services_.texts.Style());
   draft_.weekday = cmbThreeDay_.SelectedItem();
   draft_.dateText = txtOneDate_.Text();
   draft_.note = txtNote_.Text();
@@ -125,7 +124,7 @@ void frmSchedChange::butSchedIt_Click() {
   if (!picked) return;
   draft_.name = {picked->name, {}, {}};
   draft_.station = picked->key;
-  lblStationToSched_.SetText(draft_.StationShown());
+  lblStationToSched_.SetText(draft_.StationShown(services_.texts));
   ShowSummary();
 }
 
@@ -169,8 +168,8 @@ void frmSchedChange::butOKIt_Click() {
     draft_.name.webSite = services_.source.WebSiteOf(draft_.station);
   const bool saved =
       services_.store.SetItem(slot_ ? *slot_ : services_.store.FirstFreeSlot(),
-                              draft_.ToFields(services_.clockStyle, services_.shortDatePattern));
-  services_.changed();
+                              draft_.ToFields(services_.texts.Style(), services_.shortDatePattern));
+  services_.listener.ItemsChanged();
   // What was entered stays on the screen until it is saved.
   if (!SavedOrSaid(saved, LoadText(IDS_FILE_SCHEDULE), services_.messages, context_.strings)) return;
   Close(1);

@@ -3,19 +3,28 @@
 // window. `owner` is the form that a new window stands before, nullptr for one that stands alone.
 #pragma once
 
-#include <cstddef>
+#include <cstdint>
 #include <string>
 #include <string_view>
 #include <vector>
 
+#include "base/Dates.h"
 #include "stations/StationKey.h"
 
 namespace sonaro {
 
 class Form;
 
+// A broadcast event; one that is repeated has the same identifier each time.
+struct EventKey {
+  std::int32_t id = 0;
+  DateTime gmt;
+  bool operator==(const EventKey&) const = default;
+};
+
 // One line of the coming events, in the user's time and clock style.
 struct EventLine {
+  EventKey event;
   std::string when;
   std::string name;
   std::string station;
@@ -40,10 +49,11 @@ class ScheduleCommands {
   virtual void ExplainTimes(Form& owner) = 0;
 
   virtual std::vector<EventLine> ComingEvents() = 0;
-  // Both take an index into what ComingEvents gave last. Asks how the user wants to be told of the event.
-  virtual void NotifyMe(Form& owner, std::size_t line) = 0;
+  // Asks how the user wants to be told of the event. Nothing for one that has begun or is in the guide no
+  // more.
+  virtual void NotifyMe(Form& owner, const EventKey& event) = 0;
   // Adds the event to the personal shows, or removes it when it is one.
-  virtual void ChangePersonalShow(std::size_t line) = 0;
+  virtual void ChangePersonalShow(const EventKey& event) = 0;
   virtual NextNotice SoonestNotice() = 0;
 };
 

@@ -15,8 +15,8 @@ class FakeCommands final : public ScheduleCommands, public UpdateCommands, publi
   void ScheduleStation(Form&, const StationKey&) override {}
   void ExplainTimes(Form&) override {}
   std::vector<EventLine> ComingEvents() override { return {}; }
-  void NotifyMe(Form&, std::size_t) override {}
-  void ChangePersonalShow(std::size_t) override {}
+  void NotifyMe(Form&, const EventKey&) override {}
+  void ChangePersonalShow(const EventKey&) override {}
   NextNotice SoonestNotice() override { return {}; }
   bool CanUndoUpdate() override { return false; }
   void OfferUndo(Form&) override {}

@@ -7,10 +7,11 @@
 #include "base/Text.h"
 #include "faceplate/Shape.h"
 #include "fakes/FakeFiles.h"
+#include "fakes/FakeStrings.h"
 #include "fuzz/Targets.h"
 #include "mainwindow/BrowseTree.h"
-#include "schedule/CalendarExport.h"
 #include "schedule/ScheduleStore.h"
+#include "schedule/ScheduleTexts.h"
 #include "settings/IniSettings.h"
 #include "stations/ExtraLinks.h"
 #include "stations/FavoriteGroups.h"
@@ -106,7 +107,8 @@ void FuzzSchedule(std::string_view input) {
   Require(ItemsIn(again) == ItemsIn(store), "as many items");
   Require(again.SaveSchedule(), "saved again");
   Require(file.Bytes() == first, "the same items");
-  CheckCalendar(ExportCalendar(again, kToday, {kToday, {12, 0, 0}}));
+  CheckCalendar(
+      ExportCalendar(again, kToday, {kToday, {12, 0, 0}}, ScheduleTexts(FakeStrings(), ClockStyle::Hours24)));
 }
 
 // The user's own stations: an added one is there after a restart, beside all that were there before.

@@ -1,6 +1,4 @@
 // The calendar file that the schedule is exported to.
-#include "schedule/CalendarExport.h"
-
 #include <gtest/gtest.h>
 
 #include <set>
@@ -9,6 +7,7 @@
 #include "base/Text.h"
 #include "fakes/FakeFiles.h"
 #include "schedule/ScheduleStore.h"
+#include "schedule/ScheduleWords.h"
 
 namespace sonaro {
 namespace {
@@ -18,7 +17,8 @@ const Date kExportedOn{2000, 8, 16};
 class Calendar : public testing::Test {
  protected:
   std::string Export(const Date& today = kExportedOn) {
-    return ExportCalendar(store, today, {{2000, 8, 16}, {10, 0, 0}});
+    return ExportCalendar(store, today, {{2000, 8, 16}, {10, 0, 0}},
+                          ScheduleTexts(words, ClockStyle::Hours24));
   }
   // The identities of the entries, in their order.
   std::vector<std::string> Identities(const Date& today = kExportedOn) {
@@ -33,6 +33,7 @@ class Calendar : public testing::Test {
   FakeFiles files;
   DataFolder data{files, "", '/'};
   ScheduleStore store{data, ""};
+  ScheduleWords words;
 };
 
 TEST_F(Calendar, AnEntryKeepsItsIdentity) {

@@ -38,7 +38,7 @@ struct Truth {
 };
 
 // A window that is always there, and a tray that writes down what it is told.
-class Recorder : public ScheduleTimerView, public MessagePost {
+class Recorder : public ScheduleTimerView, public ScheduleTimerListener, public MessagePost {
  public:
   bool IsLoaded() override { return loaded_; }
   void Load() override { loaded_ = true; }
@@ -46,6 +46,8 @@ class Recorder : public ScheduleTimerView, public MessagePost {
   void RestartTimer(unsigned) override {}
   void TickOnceIn(unsigned) override {}
   void Unload() override { loaded_ = false; }
+  std::vector<Occurrence> LiveStarts(const DateTime&, const DateTime&) override { return {}; }
+  void WhileYouWereAway(const std::vector<Occurrence>&) override {}
   bool WindowExists(const std::string&) override { return true; }
   bool PostTo(const std::string&, std::uint32_t, std::uintptr_t slot, std::intptr_t) override {
     told.push_back(slot);
@@ -169,7 +171,7 @@ TEST_P(Simulation, TellsEveryItemOnceInItsMinute) {
   ScheduleCalendar calendar(store);
   SimulatedClock clock({{2001, 1, 1}, {12, 0, 17}}, Zone(GetParam()));
   Recorder recorder;
-  ScheduleTimer timer(calendar, clock, recorder, recorder);
+  ScheduleTimer timer(calendar, clock, recorder, recorder, recorder);
   timer.EvaluateSchedule();
   timer.Timer1_Timer();  // takes the command that starts the minute ticks
 

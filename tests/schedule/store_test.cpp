@@ -8,9 +8,8 @@
 #include "fakes/FakeStrings.h"
 #include "schedule/PersonalShows.h"
 #include "schedule/ScheduleCalendar.h"
-#include "schedule/ScheduleList.h"
 #include "schedule/ScheduleStore.h"
-#include "schedule/ScheduleTexts.h"
+#include "schedule/ScheduleWords.h"
 
 namespace sonaro {
 namespace {
@@ -234,13 +233,15 @@ TEST(ScheduleNames, SixMarksSeparateTheAddress) {
 
 TEST(ScheduleNames, EventsSplitAtTheFirstOfEachMark) {
   const ItemName event = SplitItemName("Finale|||Z|||Radio|||Z|||Two>>>>>>www.x.example>>>>>>y");
-  EXPECT_EQ(event.Shown(), "Finale on Radio|||Z|||Two");
+  EXPECT_EQ(event.name + "+" + event.station, "Finale+Radio|||Z|||Two");
   EXPECT_EQ(event.webSite, "www.x.example>>>>>>y");
-  EXPECT_EQ(SplitItemName("Plain").Shown(), "Plain");
+  EXPECT_EQ(SplitItemName("Plain").name, "Plain");
   EXPECT_EQ(JoinItemName(SplitItemName("A|||Z|||B>>>>>>c")), "A|||Z|||B>>>>>>c");
 }
 
 TEST(ScheduleTexts, NoticesAndListTexts) {
+  const ScheduleWords words;
+  const ScheduleTexts texts(words, ClockStyle::Hours24);
   const auto item = [](std::string kind) {
     ScheduleFields made;
     made.date = "8/14/2000";
@@ -249,16 +250,16 @@ TEST(ScheduleTexts, NoticesAndListTexts) {
     made.kind = std::move(kind);
     return ScheduleItem(made, "");
   };
-  EXPECT_EQ(NoticeText(item("once")), "This is your August 14  8:05 PM notice for");
-  EXPECT_EQ(NoticeText(item("daily|Mon=-1|")), "This is your daily 8:05 PM notice for");
-  EXPECT_EQ(NoticeText(item("weekly")), "This is your weekly Thursday 8:05 PM notice for");
-  EXPECT_EQ(NoticeText(item("live")), "This is your event notice for");
-  EXPECT_EQ(ScheduleShown(item("daily")), "every day at 20:05");
-  EXPECT_EQ(ScheduleShown(item("daily|Mon=-1|Tue=0|Thr=-1|")), "every Mon, Thr at 20:05");
-  EXPECT_EQ(ScheduleShown(item("weekly")), "every Thursday at 20:05");
-  EXPECT_EQ(ScheduleShown(item("once")), "at 20:05 on 8/14/2000");
-  EXPECT_EQ(ActionShown(ScheduleItem({.action = "Wx"}, "")), "Go to the website ");
-  EXPECT_EQ(ActionShown(ScheduleItem()), "Notify me ");
+  EXPECT_EQ(texts.Notice(item("once")), "your August 14  8:05 PM");
+  EXPECT_EQ(texts.Notice(item("daily|Mon=-1|")), "your daily 8:05 PM");
+  EXPECT_EQ(texts.Notice(item("weekly")), "your weekly Thursday 8:05 PM");
+  EXPECT_EQ(texts.Notice(item("live")), std::to_string(IDS_SCHED_NOTICE_EVENT));
+  EXPECT_EQ(texts.HowOften(item("daily")), "every day at 20:05");
+  EXPECT_EQ(texts.HowOften(item("daily|Mon=-1|Tue=0|Thr=-1|")), "every Mon, Thr at 20:05");
+  EXPECT_EQ(texts.HowOften(item("weekly")), "every Thursday at 20:05");
+  EXPECT_EQ(texts.HowOften(item("once")), "at 20:05 on 8/14/2000");
+  EXPECT_EQ(texts.Action(ScheduleItem({.action = "Wx"}, "")), std::to_string(IDS_SCHED_ACTION_WEB));
+  EXPECT_EQ(texts.Action(ScheduleItem()), std::to_string(IDS_SCHED_ACTION_NOTIFY));
 }
 
 TEST(PersonalShowList, AddsOnceRemovesByTheIdentifyingPartAndTellsTheUser) {
@@ -290,50 +291,6 @@ TEST(PersonalShowList, AddsOnceRemovesByTheIdentifyingPartAndTellsTheUser) {
   files.SetSpaceLeft(std::nullopt);
   shows.WritePersonalShows("a\r\nb\r\nnot written");
   EXPECT_EQ(files.Get("data/Shows.snr"), "a\r\nb\r\n");
-}
-
-TEST(ScheduleLists, AShowHasWhatItsSoonestItemSaysOrItsNextBroadcast) {
-  FakeFiles files;
-  files.MakeFolder("data");
-  files.Put("data/Shows.snr", "1XUnknown\r\n2XGone\r\n3XEvening Show\r\n4XLive Show\r\n");
-  DataFolder data(files, "data", '/');
-  FakeMessageBox box;
-  FakeStrings strings;
-  PersonalShows shows(data, box, strings);
-  ScheduleStore store(data, "");
-  store.SetItem(0, {.name = "evening show|||Z|||Radio",
-                    .time = "9:00 PM",
-                    .weekday = "Monday",
-                    .kind = "weekly",
-                    .note = "tapes"});
-  store.SetItem(1, {.name = "Evening Show", .time = "8:00 PM", .weekday = "Friday", .kind = "weekly"});
-  store.SetItem(2, {.name = "Gone", .date = "8/1/2000", .time = "8:00 PM", .kind = "once", .action = "W"});
-  store.SetItem(3, {.name = "Live Show|||Z|||Radio", .kind = "live"});
-  ScheduleCalendar calendar(store);
-  const auto broadcast = [](std::string_view show) {
-    const std::optional<DateTime> tomorrow{{{2000, 8, 17}, {7, 15, 0}}};
-    return show == "Gone" || show == "Live Show" ? tomorrow : std::nullopt;
-  };
-  std::vector<ScheduleRow> rows =
-      ShowRows(shows, store, calendar, broadcast, {kToday, {10, 0, 0}}, ClockStyle::Hours12);
-  const auto shown = [&] {
-    std::string text;
-    for (const ScheduleRow& row : rows) {
-      text += row.key;
-      for (const std::string& cell : row.cells) text += "|" + cell;
-      text += "\n";
-    }
-    return text;
-  };
-  const std::string unknown = "P0||Unknown||\n";
-  const std::string gone = "P1|Tomorrow 7:15 AM|Gone|at 8:00 PM on 8/1/2000|Go to the website \n";
-  const std::string evening = "P2|Fri 8:00 PM|Evening Show|every Friday at 8:00 PM|Notify me \n";
-  const std::string live = "P3|Tomorrow 7:15 AM|Live Show|when the event begins|Notify me \n";
-  EXPECT_EQ(shown(), unknown + gone + evening + live);
-  SortRows(rows, kNextColumn);
-  EXPECT_EQ(shown(), gone + live + evening + unknown);
-  SortRows(rows, kOftenColumn);
-  EXPECT_EQ(shown(), unknown + gone + evening + live);
 }
 
 }  // namespace

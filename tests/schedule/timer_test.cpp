@@ -28,12 +28,15 @@ class FakeTimerWindow : public ScheduleTimerView {
   unsigned further = 0;
 };
 
-class Timer : public testing::Test {
+class Timer : public testing::Test, private ScheduleTimerListener {
  protected:
-  void SetUp() override {
-    messages_.windows.insert("frmSysTrayMenu");
-    timer_.SetAwayNotice([this](const std::vector<Occurrence>& missed) { away_.push_back(missed); });
+  void SetUp() override { messages_.windows.insert("frmSysTrayMenu"); }
+  std::vector<Occurrence> LiveStarts(const DateTime& from, const DateTime& to) override {
+    return live_ && from < live_->at && live_->at <= to ? std::vector<Occurrence>{*live_}
+                                                        : std::vector<Occurrence>{};
   }
+  void WhileYouWereAway(const std::vector<Occurrence>& missed) override { away_.push_back(missed); }
+
   std::size_t Add(const std::string& kind, const std::string& time, const std::string& day = "") {
     const std::size_t slot = store_.FirstFreeSlot();
     store_.SetItem(slot, {.name = "item", .date = day, .time = time, .weekday = day, .kind = kind});
@@ -60,7 +63,8 @@ class Timer : public testing::Test {
                         [](std::int64_t) { return std::int64_t{0}; }};  // Wednesday
   FakeMessagePost messages_;
   FakeTimerWindow window_;
-  ScheduleTimer timer_{calendar_, clock_, messages_, window_};
+  ScheduleTimer timer_{calendar_, clock_, messages_, window_, *this};
+  std::optional<Occurrence> live_;  // a live item, and when its event begins
   std::vector<std::vector<Occurrence>> away_;
 };
 
@@ -220,11 +224,7 @@ TEST_F(Timer, OfWhatCameOnDuringSleepTheLastHourIsToldAsUsual) {
   const std::size_t within = Add("daily", "11:30 AM");
   Add("daily", "12:28 PM");
   const std::size_t live = Add("live", "");
-  timer_.SetLiveStarts([&](const DateTime& from, const DateTime& to) {
-    const DateTime begins{{2000, 8, 16}, {11, 0, 0}};
-    return from < begins && begins <= to ? std::vector<Occurrence>{{live, begins}}
-                                         : std::vector<Occurrence>{};
-  });
+  live_ = Occurrence{live, {{2000, 8, 16}, {11, 0, 0}}};
   Start();
   clock_.SetGmt({{2000, 8, 16}, {12, 30, 0}});
   timer_.KeepWatch();

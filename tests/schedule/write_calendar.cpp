@@ -4,8 +4,8 @@
 
 #include "base/DataFolder.h"
 #include "platform/posix/FilesPosix.h"
-#include "schedule/CalendarExport.h"
 #include "schedule/ScheduleStore.h"
+#include "schedule/ScheduleWords.h"
 
 int main(int count, char** arguments) {
   using namespace sonaro;
@@ -15,6 +15,7 @@ int main(int count, char** arguments) {
   DataFolder data(files, arguments[1], '/');
   ScheduleStore store(data, "");
   store.LoadSchedule(today->date);
-  const std::string calendar = ExportCalendar(store, today->date, {today->date, {12, 0, 0}});
+  const std::string calendar = ExportCalendar(store, today->date, {today->date, {12, 0, 0}},
+                                              ScheduleTexts(ScheduleWords(), ClockStyle::Hours24));
   return std::fwrite(calendar.data(), 1, calendar.size(), stdout) == calendar.size() ? 0 : 1;
 }

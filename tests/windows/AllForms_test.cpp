@@ -7,6 +7,7 @@
 
 #include "app/MsgboxFrm.h"
 #include "app/frmSplash.h"
+#include "directory/EvList.h"
 #include "directory/Scrambling.h"
 #include "directory/StatList.h"
 #include "fakes/FakeClock.h"
@@ -34,6 +35,7 @@
 #include "playback/frmScan.h"
 #include "playback/frmScanTime.h"
 #include "resources/texts/app.h"
+#include "schedule/ComingEvents.h"
 #include "schedule/PersonalShows.h"
 #include "schedule/ScheduleCalendar.h"
 #include "schedule/ScheduleServices.h"
@@ -61,6 +63,10 @@ struct NoNotify final : NotifyCommands {
   void OpenPage(const std::string&) override {}
   void PlaySound() override {}
   void ShowHelp() override {}
+};
+
+struct NoScheduleListener final : ScheduleListener {
+  void ItemsChanged() override {}
 };
 
 // Updates that are never begun.
@@ -111,8 +117,13 @@ struct EmptyProgram {
   ScheduleCalendar calendar{store};
   PersonalShows shows{folder, messages, words};
   StationPicker picker{stations, source, favorites, recent, settings, words};
-  ScheduleServices schedule{store, calendar,      shows, picker,   source,
-                            clock, outside.files, shell, messages, help};
+  EvList events{folder};
+  EventDiary diary{events};
+  ScheduleTexts scheduleTexts{words, ClockStyle::Hours24};
+  ComingEvents coming{{diary, store, shows, source, clock, scheduleTexts}};
+  NoScheduleListener scheduleListener;
+  ScheduleServices schedule{store, calendar, shows, picker, source,           clock,        outside.files,
+                            shell, messages, help,  coming, scheduleListener, scheduleTexts};
   OptionsModel options{settings, outside.faceplate, "C:\\Guide\\Sonaro.exe"};
   UpdateInstall install{folder, settings, stations};
   UpdateDependencies update{settings, folder, words, install, http, {}};
