@@ -41,7 +41,6 @@ enum class Icon : unsigned char {
   Bell,
   Fav,
   Sort,
-  TriRight,
   TriDown,
   ProgramMark  // drawn in several colours on a 20 x 20 grid
 };

@@ -24,8 +24,8 @@ struct BrowseNode {
   static constexpr int kLowestLevel = 30;
 
   std::string key;
-  std::string text;
-  std::string tag;  // identifiers separated by blanks; for a category its code and file name
+  std::string text;  // may begin with a blank, which puts an entry before its siblings
+  std::string tag;   // identifiers separated by blanks; for a category its code and file name
   int parent = kRoot;
   int level = 0;                 // 0: a root
   std::vector<int> children;     // by the sort keys of their texts

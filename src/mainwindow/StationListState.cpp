@@ -132,7 +132,7 @@ void StationListState::treeBrowse_NodeClick(const BrowseNode& node) {
   Hold(click.fill == NodeClick::Fill::Stations           ? Holds::Node
        : click.fill == NodeClick::Fill::PersonalStations ? Holds::PersonalStations
                                                          : Holds::Nothing,
-       node.text);
+       std::string(TrimBlanks(node.text)));
   FillHeld();
 }
 

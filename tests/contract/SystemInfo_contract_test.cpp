@@ -60,7 +60,8 @@ TYPED_TEST(SystemInfoContract, LongProfileStringsAreCut) {
 TYPED_TEST(SystemInfoContract, SortKeysFollowTheLanguageAndNotTheCodePoints) {
   TypeParam world;
   const auto key = [&world](const char* text) { return world.info.SortKey(text); };
-  const char* const inOrder[] = {"", "Ante", "Évora", "Faro", "Łódź", "Madrid", "zebra", "Zebra 2", "Жук"};
+  const char* const inOrder[] = {"",     " Zero",  "90s",   "Ante",    "Évora", "Faro",
+                                 "Łódź", "Madrid", "zebra", "Zebra 2", "Жук"};
   for (std::size_t i = 1; i < std::size(inOrder); ++i) {
     EXPECT_LT(key(inOrder[i - 1]), key(inOrder[i])) << inOrder[i];
   }

@@ -60,7 +60,10 @@ TEST_F(WholeGuideTest, AnEntryOfTheTreeFillsTheListAndTheTreeStays) {
   EXPECT_TRUE(WaitUntil([&] { return RowCount(List(main)) == 0; }));
   const auto entries = TreeChildren(tree, jazz);
   ASSERT_FALSE(entries.empty());
+  EXPECT_NE(TreeView_GetItemState(tree, jazz, TVIS_EXPANDED) & TVIS_EXPANDED, 0U);
+  EXPECT_EQ(TreeText(tree, entries.front()), " All Jazz");
   ClickTreeItem(tree, entries.front());
+  EXPECT_TRUE(Listing(main, "All Jazz"));
   EXPECT_TRUE(WaitUntil([&] { return RowCount(List(main)) > 20; }));
   EXPECT_TRUE(IsShown(tree));
   SaveShot("jazz");

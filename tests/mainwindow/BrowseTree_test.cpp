@@ -76,11 +76,12 @@ TEST_F(BrowseTreeTest, EntriesStandInTheOrderOfTheLanguage) {
   files.Put("/d/cat.snr", "1\tPlaces\tp\tP\n");
   files.Put(
       "/d/p.snr",
-      "1\t\tZürich\t0\t\n2\t\tŁódź\t0\t\n3\t\tFaro\t0\t\n4\t\tÉvora\t0\t\n5\t\tLodz\t0\t\n6\t\tLyon\t0\t\n");
+      "1\t\tZürich\t0\t\n2\t\tŁódź\t0\t\n3\t\tFaro\t0\t\n4\t\tÉvora\t0\t\n5\t\tLodz\t0\t\n6\t\tLyon\t0\t\n"
+      "7\t\t All of It\t0\t\n");
   tree.FillBrowseTree(BrowseMode::ByCategory);
   std::string texts;
   for (const int child : tree.Node(tree.Find("M1")).children) texts += tree.Node(child).text + " ";
-  EXPECT_EQ(texts, "Évora Faro Lodz Łódź Lyon Zürich ");
+  EXPECT_EQ(texts, " All of It Évora Faro Lodz Łódź Lyon Zürich ");
 }
 
 TEST_F(BrowseTreeTest, AListNestedWithoutEndLosesNoStation) {

@@ -283,7 +283,7 @@ TEST_F(ViewsTest, NodesAreClickedByPointerAndKeyboardAlike) {
   EXPECT_EQ(form.tree->Selected(), nullptr);
 }
 
-TEST_F(ViewsTest, TheMarkOfANodeOpensIt) {
+TEST_F(ViewsTest, TheMarkOfANodeAndAClickOnARootOpenIt) {
   Open(3);
   HTREEITEM classical = Node(TVGN_ROOT);
   for (int i = 0; i < 3; ++i) classical = Node(TVGN_NEXT, classical);
@@ -295,10 +295,16 @@ TEST_F(ViewsTest, TheMarkOfANodeOpensIt) {
   EXPECT_FALSE(isOpen());
   EXPECT_EQ(Events(), Log{});
   ClickNode(classical, 60);
+  EXPECT_TRUE(isOpen());
+  EXPECT_EQ(Events(), Log{"NodeClick 3"});
+  ClickNode(Node(TVGN_CHILD, classical), 60);
+  ClickNode(classical, 60);
+  EXPECT_TRUE(isOpen()) << "coming back to it does not close it";
+  ClickNode(classical, 60);
+  EXPECT_FALSE(isOpen());
   SetFocus(tree);
   PressKey(VK_RIGHT);
   EXPECT_TRUE(isOpen());
-  EXPECT_EQ(Events(), Log{"NodeClick 3"});
 }
 
 }  // namespace

@@ -19,9 +19,15 @@ constexpr int kRow = 22;
 constexpr int kIndent = 14;
 constexpr int kMarkInset = 8;
 constexpr int kMarkSize = 12;
+constexpr int kPlusArm = 4;
 constexpr int kLeafSize = 4;
 constexpr int kTextAfterMark = 16;
 constexpr int kCountGap = 6;
+
+// A blank at the beginning is there for the order among the siblings.
+std::wstring_view PaintedText(std::wstring_view text) {
+  return text.substr(std::min(text.find_first_not_of(L' '), text.size()));
+}
 
 }  // namespace
 
@@ -165,7 +171,8 @@ LRESULT TreeView::Handle(UINT message, WPARAM wParam, LPARAM lParam) {
       Press(at);
       return 0;
     case WM_LBUTTONDBLCLK:
-      Toggle(NodeAt(at));
+      // The first click opened the node; only on its mark does each click count.
+      if (OnMark(NodeAt(at), at)) Press(at);
       return 0;
     case WM_MOUSEMOVE:
       SetHover(NodeAt(at));
@@ -199,15 +206,21 @@ void TreeView::Press(POINT at) {
   SetFocus(Window());
   const HTREEITEM node = NodeAt(at);
   if (node == nullptr) return;
-  const Painter& theme = Theme();
-  const int mark = theme.Px(kMarkInset + kIndent * LevelOf(node));
-  if (TreeView_GetChild(Window(), node) != nullptr && at.x >= mark - theme.Px(4) &&
-      at.x < mark + theme.Px(kMarkSize + 4)) {
-    Toggle(node);
-    return;
-  }
+  if (OnMark(node, at)) return Toggle(node);
+  // A root opens by a click anywhere on it, and closes by one when it was the selected node already.
+  if (TreeView_GetParent(Window(), node) == nullptr) Expand(node, node != Selected() || !IsExpanded(node));
   Select(node);
   Raise({.kind = FormEvent::Kind::NodeClick, .node = node});
+}
+
+bool TreeView::OnMark(HTREEITEM node, POINT at) const {
+  if (node == nullptr || TreeView_GetChild(Window(), node) == nullptr) return false;
+  const int mark = Theme().Px(kMarkInset + kIndent * LevelOf(node));
+  return at.x >= mark - Theme().Px(4) && at.x < mark + Theme().Px(kMarkSize + 4);
+}
+
+bool TreeView::IsExpanded(HTREEITEM node) const {
+  return (TreeView_GetItemState(Window(), node, TVIS_EXPANDED) & TVIS_EXPANDED) != 0;
 }
 
 void TreeView::Toggle(HTREEITEM node) {
@@ -295,7 +308,7 @@ void TreeView::PaintNode(HDC dc, HTREEITEM node) const {
   theme.Text(paint, {right - figureWidth, box.top, right, box.bottom}, figure, TextStyle::Small,
              highContrastRow ? colors.rowSelectedText : colors.glassMuted, DT_RIGHT | DT_NOPREFIX);
   theme.Text(paint, {left + theme.Px(kTextAfterMark), box.top, right - figureWidth - theme.Px(4), box.bottom},
-             std::wstring_view(text), level == 0 || selected ? TextStyle::BodyStrong : TextStyle::Body,
+             PaintedText(text), level == 0 || selected ? TextStyle::BodyStrong : TextStyle::Body,
              highContrastRow ? colors.rowSelectedText : colors.glassText);
   if (!selected) return;
   theme.Fill(paint, {0, box.top, theme.Px(kNeedleBar), box.bottom}, colors.accent);
@@ -315,9 +328,13 @@ void TreeView::PaintMark(HDC dc, HTREEITEM node, const RECT& box, int left) cons
     theme.Fill(dc, {x, middle - size / 2, x + size, middle - size / 2 + size}, colors.tickOff);
     return;
   }
-  const bool open = (TreeView_GetItemState(Window(), node, TVIS_EXPANDED) & TVIS_EXPANDED) != 0;
-  theme.DrawIcon(dc, open ? Icon::TriDown : Icon::TriRight, left, middle - theme.Px(kMarkSize) / 2, kMarkSize,
-                 open ? colors.accent : colors.glassMuted);
+  // A plus, or a minus: an odd number of lines wide, so that the two bars meet in the middle.
+  const int line = theme.Line();
+  const int arm = theme.Px(kPlusArm);
+  const int x = left + theme.Px(kMarkSize) / 2;
+  const Color color = IsExpanded(node) ? colors.accent : colors.glassText;
+  theme.Fill(dc, {x - arm, middle, x + arm + line, middle + line}, color);
+  if (!IsExpanded(node)) theme.Fill(dc, {x, middle - arm, x + line, middle + arm + line}, color);
 }
 
 }  // namespace sonaro

@@ -13,7 +13,7 @@ constexpr double kLargePen = 1.3;  // grid units, where that is more
 constexpr int kBlurredFrom = 17;   // smaller icons lie as their grid says
 
 // In the order of the names, without None and ProgramMark.
-constexpr std::array<IconShape, 38> kShapes = {{
+constexpr std::array<IconShape, 37> kShapes = {{
     {true, "M4 2 L14 8 L4 14 Z"},  // Play
     {false,
      "M8 1.75 A6.25 6.25 0 1 1 7.99 1.75 Z M1.75 8 H14.25 M8 1.75 C4.4 5.4 4.4 10.6 8 14.25 M8 1.75 "
@@ -64,7 +64,6 @@ constexpr std::array<IconShape, 38> kShapes = {{
      "M8 1.5 L9.95 6.1 L14.75 6.45 L11.1 9.65 L12.2 14.5 L8 11.95 L3.8 14.5 L4.9 9.65 L1.25 6.45 "
      "L6.05 6.1 Z"},                     // Fav
     {true, "M4 10 L8 5 L12 10 Z"},       // Sort
-    {true, "M5.5 4 L10.5 8 L5.5 12 Z"},  // TriRight
     {true, "M4 5.5 L12 5.5 L8 10.5 Z"},  // TriDown
 }};
 static_assert(kShapes.size() == static_cast<std::size_t>(Icon::ProgramMark) - 1);

@@ -2,7 +2,9 @@
 // path by its index. The list of every entry is therefore in the directory's order without being sorted, and
 // the children of an entry are in alphabetical order because they are held in a map.
 //
-// A category always has one entry of all its stations ("All Jazz"), since the root itself lists nothing.
+// A category always has one entry of all its stations ("All Jazz"), since the root itself lists nothing. The
+// program shows entries in the order of their texts, and a blank stands before all letters: with one at its
+// beginning the entry of all comes first.
 #include "output/CategoryTree.h"
 
 #include <algorithm>
@@ -75,7 +77,7 @@ class TagNames {
 };
 
 void AddToOther(Category& other, const DirectoryStation& station, std::size_t index, TagNames& names) {
-  Add(other, {"All Other"}, index);
+  Add(other, {" All Other"}, index);
   if (station.genres.otherTag.empty()) {
     Add(other, {"No Genre Given", station.place.country ? station.place.country->name : "No Country Given"},
         index);
@@ -126,7 +128,7 @@ CategoryTree GenreTree(const Directory& directory) {
     const DirectoryStation& station = directory.stations[i];
     for (const GenreEntry& entry : station.genres.entries) {
       Category& category = tree.categories[byCode.at(entry.genre->code)];
-      Add(category, {"All " + category.name}, i);
+      Add(category, {" All " + category.name}, i);
       if (!entry.subGenre.empty()) Add(category, {entry.subGenre}, i);
     }
     if (station.genres.entries.empty())
@@ -152,13 +154,13 @@ CategoryTree PlaceTree(const Directory& directory) {
       // Stations without a country are sorted by language instead: it is the next best guess of where they
       // belong.
       Category& category = tree.categories.back();
-      Add(category, {"All Without a Country"}, i);
+      Add(category, {" All Without a Country"}, i);
       Add(category, {languages.empty() ? std::string_view("No Language Given") : languages.front()}, i);
       continue;
     }
     const Country& country = *station.place.country;
     Category& category = tree.categories[static_cast<std::size_t>(country.continent)];
-    Add(category, {"All of " + category.name}, i);
+    Add(category, {" All of " + category.name}, i);
     // With a region the country's own entry lists the station as well: Add puts it into every entry of the
     // path.
     if (station.place.region.empty()) {
