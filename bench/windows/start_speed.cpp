@@ -92,7 +92,8 @@ double Wakeups(const std::string& folder) {
   if (find == INVALID_HANDLE_VALUE) return sum;
   do {
     if (entry.cFileName[0] == '.') continue;
-    sum += NumberBehind(Content(folder + "\\task\\" + entry.cFileName + "\\status"), "\nvoluntary_ctxt_switches:");
+    sum += NumberBehind(Content(folder + "\\task\\" + entry.cFileName + "\\status"),
+                        "\nvoluntary_ctxt_switches:");
   } while (FindNextFileA(find, &entry));
   FindClose(find);
   return sum;
@@ -115,20 +116,23 @@ bool Answers(HWND window) {
   return SendMessageTimeoutA(window, WM_NULL, 0, 0, SMTO_NORMAL, 60000, &ignored) != 0;
 }
 
-// The window's handlers run between its showing and its painting; what has answered twice with nothing left to
-// paint between is ready.
+// The window's handlers run between its showing and its painting; what has answered twice with nothing left
+// to paint between is ready.
 HWND WaitUntilReady(const SonaroProcess& process) {
   const auto end = std::chrono::steady_clock::now() + kLimit;
   while (std::chrono::steady_clock::now() < end && process.Running()) {
     const HWND window = process.Window(kMainClass);
-    if (window && IsWindowVisible(window) && Answers(window) && IsPainted(window) && Answers(window)) return window;
+    if (window && IsWindowVisible(window) && Answers(window) && IsPainted(window) && Answers(window))
+      return window;
     Sleep(1);
   }
   return nullptr;
 }
 
 double Milliseconds(const FILETIME& time) {
-  return static_cast<double>((static_cast<unsigned long long>(time.dwHighDateTime) << 32) | time.dwLowDateTime) / 1e4;
+  return static_cast<double>((static_cast<unsigned long long>(time.dwHighDateTime) << 32) |
+                             time.dwLowDateTime) /
+         1e4;
 }
 
 Figures Of(DWORD id, const Contender& contender) {
@@ -166,7 +170,7 @@ bool Run(Contender& contender) {
   return true;
 }
 
-double Median(const Contender& contender, double Figures::* which) {
+double Median(const Contender& contender, double Figures::*which) {
   std::vector<double> all;
   for (const Figures& figures : contender.rounds) all.push_back(figures.*which);
   std::sort(all.begin(), all.end());
@@ -187,8 +191,8 @@ int MeasureStart(std::vector<Contender>& contenders, int rounds) {
   std::printf("median of %d rounds: milliseconds, of processor, MB private, modules\n", rounds);
   const Contender& bare = contenders.front();
   for (const Contender& contender : contenders) {
-    const auto of = [&](double Figures::* which) { return Median(contender, which); };
-    const auto quotient = [&](double Figures::* which) { return of(which) / Median(bare, which); };
+    const auto of = [&](double Figures::*which) { return Median(contender, which); };
+    const auto quotient = [&](double Figures::*which) { return of(which) / Median(bare, which); };
     std::printf("%8.0f %8.1f %8.2f %5.0f   x%.2f x%.2f +%.2f MB   %s\n", of(&Figures::wall),
                 of(&Figures::processor), of(&Figures::memory), of(&Figures::modules),
                 quotient(&Figures::wall), quotient(&Figures::processor),
@@ -223,7 +227,8 @@ int main(int argc, char** argv) {
     words.erase(words.begin(), words.begin() + 2);
   }
   if (words.empty() || rounds < 1) {
-    std::fputs("usage: start_speed [--rounds N] PROGRAM...\n       start_speed --idle SECONDS PROGRAM...\n", stderr);
+    std::fputs("usage: start_speed [--rounds N] PROGRAM...\n       start_speed --idle SECONDS PROGRAM...\n",
+               stderr);
     return 2;
   }
   std::vector<Contender> contenders;

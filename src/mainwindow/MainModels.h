@@ -10,6 +10,7 @@
 #include "mainwindow/SearchPanel.h"
 #include "mainwindow/StationActions.h"
 #include "mainwindow/StationDetailBuilder.h"
+#include "mainwindow/StationFilter.h"
 #include "mainwindow/StationListFiller.h"
 #include "mainwindow/StationListState.h"
 #include "playlists/PlaylistTransfer.h"
@@ -46,7 +47,8 @@ struct MainModels {
       : tree(data.folder, data.sortKey),
         rankings(data.folder),
         lists(data.stations, data.source, data.recent, data.strings),
-        listing(lists, rankings, data.favorites, tree, data.source, data.strings, data.sortKey),
+        filter(data.folder, data.settings, data.stations, data.sortKey),
+        listing(lists, rankings, data.favorites, tree, data.source, data.strings, data.sortKey, &filter),
         search(data.folder, data.settings, listing, tray),
         details(data.source, data.extra, data.strings, data.state),
         actions(listing, data.favorites, data.strings),
@@ -56,6 +58,7 @@ struct MainModels {
   BrowseTree tree;
   Rankings rankings;
   StationListFiller lists;
+  StationFilter filter;
   StationListState listing;
   SearchPanel search;
   StationDetailBuilder details;

@@ -23,13 +23,14 @@ struct BrowseNode;
 class StationListState {
  public:
   StationListState(StationListFiller& lists, Rankings& rankings, const FavoriteGroups& groups,
-                   BrowseTree& tree, const StationSource& source, const Strings& strings, SortKeyOf sortKey)
+                   BrowseTree& tree, const StationSource& source, const Strings& strings, SortKeyOf sortKey,
+                   const StationFilter* filter = nullptr)
       : lists_(lists),
         rankings_(rankings),
         groups_(groups),
         tree_(tree),
         strings_(strings),
-        rows_(source, std::move(sortKey)) {}
+        rows_(source, std::move(sortKey), filter) {}
 
   const ListingState& State() const { return state_; }
   StationRows& Rows() { return rows_; }
@@ -67,6 +68,7 @@ class StationListState {
   // Falls back to the recent list when the group was on show in the middle, whatever page is beside it. A
   // list that held it behind another page is emptied.
   void GroupDeleted(std::string_view name);
+  void FilterChanged() { rows_.FilterChanged(); }
   // Stations changed (the directory, or the user's own): looks all rows up again.
   void StationsChanged();
 

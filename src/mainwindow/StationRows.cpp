@@ -4,6 +4,8 @@
 #include <numeric>
 #include <utility>
 
+#include "mainwindow/StationFilter.h"
+
 namespace sonaro {
 namespace {
 
@@ -110,25 +112,34 @@ void StationRows::EndSort() {
   Arrange();
 }
 
-// Everything that goes by shown positions is void afterwards, but the selected row stays selected.
+void StationRows::FilterChanged() {
+  Arrange();
+  if (!selected_) Select(0);
+}
+
+// Everything that goes by shown positions is void afterwards, but the selected row stays selected while it is
+// shown.
 void StationRows::Arrange() {
   const std::uint32_t selected = selected_ ? order_[*selected_] : 0;
   order_.resize(keys_.size());
   std::iota(order_.begin(), order_.end(), 0U);
+  if (filter_ != nullptr && !IsNotice()) filter_->Narrow(keys_, order_);
   if (sort_.on && !IsNotice()) SortShown();
   pages_ = {};
   if (!selected_) return;
   selected_ = static_cast<std::size_t>(std::find(order_.begin(), order_.end(), selected) - order_.begin());
+  if (*selected_ == order_.size()) selected_.reset();
 }
 
 void StationRows::SortShown() {
-  SortKeys keys(order_.size());
-  source_.VisitInfos(keys_, [&](std::size_t row, const StationInfo& info) {
+  const std::vector<std::uint32_t> shown = order_;
+  SortKeys keys(shown.size());
+  source_.VisitInfos(Keys(), [&](std::size_t row, const StationInfo& info) {
     keys.Set(static_cast<std::uint32_t>(row), sortKey_(CellOf(info, sort_.key)));
   });
   keys.SortStably(sort_.order);
   std::transform(keys.Keys().begin(), keys.Keys().end(), order_.begin(),
-                 [](const SortKey& key) { return key.row; });
+                 [&shown](const SortKey& key) { return shown[key.row]; });
 }
 
 StationRows::Page StationRows::ReadPage(std::size_t number) const {

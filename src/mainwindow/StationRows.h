@@ -18,6 +18,8 @@
 
 namespace sonaro {
 
+class StationFilter;
+
 // The eight sub-items of a row, behind its name. 1 to 3 have a visible column; 4 to 8 are there to be sorted
 // by.
 enum class SubItem : int { Location = 1, MediaType, Format, Overall, Sound, Speed, WebSite, Reliability };
@@ -41,9 +43,11 @@ class StationRows {
   static constexpr std::size_t kPageRows = 32;
   static constexpr std::size_t kKeptPages = 8;
 
-  // `sortKey` is asked once for each row of a sort.
-  explicit StationRows(const StationSource& source, SortKeyOf sortKey = FoldCase)
-      : source_(source), sortKey_(std::move(sortKey)) {}
+  // `sortKey` is asked once for each row of a sort. `filter` may be nullptr; otherwise only what it lets
+  // through is shown.
+  explicit StationRows(const StationSource& source, SortKeyOf sortKey = FoldCase,
+                       const StationFilter* filter = nullptr)
+      : source_(source), sortKey_(std::move(sortKey)), filter_(filter) {}
 
   // Replaces all rows, and forgets what was read of the old ones: to be called again when stations changed.
   // A sort chosen earlier stays in force. The first shown row becomes the selected one; an empty list has no
@@ -60,7 +64,11 @@ class StationRows {
   // Back to the order of the fill, in this list and the next ones.
   void EndSort();
   const SortState& Sort() const { return sort_; }
+  // The filter lets others through. The selected row stays selected if it is still shown.
+  void FilterChanged();
 
+  // Stations of the fill, shown or not.
+  std::size_t FilledCount() const { return IsNotice() ? 0 : keys_.size(); }
   std::size_t Count() const { return order_.size(); }
   // Stations among the rows: all but a notice.
   std::size_t StationCount() const { return IsNotice() ? 0 : Count(); }
@@ -98,6 +106,7 @@ class StationRows {
 
   const StationSource& source_;
   SortKeyOf sortKey_;
+  const StationFilter* filter_;
   std::vector<StationKey> keys_;      // in the order of the fill
   std::vector<std::uint32_t> order_;  // shown position -> index in keys_
   std::optional<StationInfo> notice_;

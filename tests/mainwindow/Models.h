@@ -6,6 +6,7 @@
 #include "fakes/FakeRegistry.h"
 #include "mainwindow/BrowseTree.h"
 #include "mainwindow/Rankings.h"
+#include "mainwindow/StationFilter.h"
 #include "mainwindow/StationListFiller.h"
 #include "mainwindow/StationListState.h"
 #include "settings/CReg.h"
@@ -38,7 +39,8 @@ class Models : public StationModels {
   BrowseTree tree{data};
   Rankings rankings{data};
   StationListFiller lists{stations, source, recent, strings};
-  StationListState listing{lists, rankings, groups, tree, source, strings, FoldCase};
+  StationFilter filter{data, settings, stations, FoldCase};
+  StationListState listing{lists, rankings, groups, tree, source, strings, FoldCase, &filter};
 };
 
 }  // namespace sonaro

@@ -23,8 +23,8 @@ std::uintptr_t __stack_chk_guard;  // NOLINT: the compiler's name
 }
 
 // Before the constructors of the program, and without a guard of its own, which it would break. The secret is
-// the system's: EncodePointer mixes in a random number that the kernel keeps for each process; the rest varies
-// by the start. A zero byte, at the lowest address, stops what copies a text over it.
+// the system's: EncodePointer mixes in a random number that the kernel keeps for each process; the rest
+// varies by the start. A zero byte, at the lowest address, stops what copies a text over it.
 __attribute__((constructor(101), no_stack_protector)) static void SetStackGuard() {
   LARGE_INTEGER counter{};
   QueryPerformanceCounter(&counter);
