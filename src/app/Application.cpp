@@ -237,7 +237,10 @@ void Application::SayWhatSettingsLack() {
                  .isTrouble = true});
 }
 
-void Application::Loaded() { schedule_->StartWatching(); }
+void Application::Loaded() {
+  if (CareForStationTable(stations_, TableCheck::Whole, strings_, messages_)) DirectoryChanged();
+  schedule_->StartWatching();
+}
 
 unsigned Application::Minute() {
   LoadUnreadFiles();

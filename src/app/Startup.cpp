@@ -66,20 +66,26 @@ bool Startup::PrepareDirectory() {
   return !end && view_.GoesOn(0.7);
 }
 
-// A table that is not that of the station list is made anew, and nobody has to know unless that fails: then
-// the next start finds it so again.
+// The table's bytes are looked at once the window is painted (Application::Loaded).
 void Startup::SwapInDownloads() {
   RemoveUnfinishedSaves(use_.data);
   if (use_.finishUndo) use_.finishUndo();
   RunDeferredSwap(use_.data, use_.reg, [this] { return use_.stations.RebuildStationTable(); });
-  if (use_.stations.EnsureStationTable() != TableCare::NotMade) return;
+  (void)CareForStationTable(use_.stations, TableCheck::Lengths, use_.strings, use_.messageBox);
+}
+
+bool CareForStationTable(StatList& stations, TableCheck check, const Strings& strings,
+                         MessageBoxView& messageBox) {
+  const TableCare care = stations.EnsureStationTable(check);
+  if (care != TableCare::NotMade) return care == TableCare::Made;
   Message message;
   message.key = "StationTableNotMade";
-  message.caption = use_.strings.Load(IDS_APP_TITLE);
-  message.text = use_.strings.Load(IDS_TABLE_NOT_MADE);
-  message.firstButton = use_.strings.Load(IDS_APP_OK);
+  message.caption = strings.Load(IDS_APP_TITLE);
+  message.text = strings.Load(IDS_TABLE_NOT_MADE);
+  message.firstButton = strings.Load(IDS_APP_OK);
   message.isTrouble = true;
-  use_.messageBox.Ask(message);
+  messageBox.Ask(message);
+  return false;
 }
 
 bool Startup::CheckDataFiles(bool askUser, bool& end) {

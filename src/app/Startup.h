@@ -5,6 +5,7 @@
 #include <functional>
 #include <string>
 
+#include "directory/StatList.h"
 #include "tray/StartUpInfoPage.h"
 
 namespace sonaro {
@@ -57,6 +58,11 @@ struct StartupServices {
   std::function<bool()> proxyFound;             // looks for a proxy that the user's browsers are set to
   std::function<void()> finishUndo;             // goes on with an undoing of an update that was cut short
 };
+
+// Has the station table be that of the station list, and says so when that fails; the next start finds it so
+// again. True: the table was made anew.
+bool CareForStationTable(StatList& stations, TableCheck check, const Strings& strings,
+                         MessageBoxView& messageBox);
 
 class Startup {
  public:

@@ -29,6 +29,12 @@ enum class TableCare {
   NoDirectory  // there is no table, and no list with a station to make one of
 };
 
+// How closely EnsureStationTable looks.
+enum class TableCheck {
+  Lengths,  // of table and list: what a start that died left behind shows in them. Reads a header
+  Whole     // every byte of both
+};
+
 class StatList {
  public:
   using Handle = int;  // 0: not open
@@ -58,7 +64,7 @@ class StatList {
   // The table that belongs to "\station.snr": one that is missing, damaged or of another list is made anew.
   // Without a list that holds a station a whole table stays, and a damaged or empty one is removed, so that
   // the directory counts as missing. Compares lengths first, then reads list and table once each.
-  [[nodiscard]] TableCare EnsureStationTable();
+  [[nodiscard]] TableCare EnsureStationTable(TableCheck check = TableCheck::Whole);
 
   // A page of a list: opens the table once and looks each identifier up once (LookUps). Unknown identifiers
   // are left out; the order is that of `ids`.
@@ -89,7 +95,7 @@ class StatList {
   bool Verify();
 
  private:
-  bool MadeOf(InputFile& list);
+  bool MadeOf(InputFile& list, TableCheck check);
   TableCare KeepWithoutList();
   std::vector<std::int32_t> Search(Handle handle, std::string_view text, bool allWords);
   void Visit(Handle handle, std::span<const std::int32_t> ids, const Visitor& visit);

@@ -20,6 +20,7 @@ constexpr UINT kIconId = 1;
 constexpr unsigned kStartUpDelay = 500;  // milliseconds: the main window has been painted
 constexpr unsigned kMinute = 60000;
 constexpr std::size_t kMaxGroups = 10;
+constexpr unsigned kOncePainted = 1;   // milliseconds: a timer's message comes after those of painting
 constexpr unsigned kIconPause = 2000;  // milliseconds until the icon is offered again
 constexpr int kMaxIconTries = 150;     // five minutes
 
@@ -85,11 +86,11 @@ bool frmSysTrayMenu::Start() {
   taskbarCreated_ = RegisterWindowMessageW(L"TaskbarCreated");
   icon_ = static_cast<HICON>(LoadImageW(GetModuleHandleW(nullptr), MAKEINTRESOURCEW(IDI_PROGRAM), IMAGE_ICON,
                                         GetSystemMetrics(SM_CXSMICON), GetSystemMetrics(SM_CYSMICON), 0));
-  PutIcon();
   return true;
 }
 
 void frmSysTrayMenu::FinishedLoading() {
+  StartTimer(tmrIcon, kOncePainted);
   StartTimer(tmrStartUp, kStartUpDelay);
   StartTimer(tmrMinute, kMinute);
 }

@@ -36,12 +36,12 @@ class frmSysTrayMenu final : public Form {
                  ProgramCommands& program, TrayListener& listener);
   ~frmSysTrayMenu() override;
 
-  // Creates the hidden window and its icon, before anything else of the program is there: until then the
-  // commands may have nothing to work on, and have to bear that. False: the system refused the window. An
-  // icon that the shell does not take yet, as while the user logs on, is offered again for some minutes and
-  // whenever the task bar is made.
+  // Creates the hidden window before anything else of the program is there: until then the commands may have
+  // nothing to work on, and have to bear that. False: the system refused the window.
   [[nodiscard]] bool Start();
-  // Runs the start-up work once the message loop runs, and the minute watch from then on.
+  // Once the message loop runs: the icon, the start-up work, and the minute watch from then on. An icon that
+  // the shell does not take yet, as while the user logs on, is offered again for some minutes and whenever
+  // the task bar is made.
   void FinishedLoading();
   // "SearchResults", "AddNewFavGroup" ... with their tabs: what the main window tells.
   void Tell(const std::string& text);

@@ -37,6 +37,7 @@ void DieAtEveryMoment(bool updateWaits) {
     Startup({messages, system, reg, data, stations, players, help, strings, view, nullptr, nullptr}, state,
             view)
         .Main();
+    (void)CareForStationTable(stations, TableCheck::Whole, strings, view);  // once the window is painted
   };
   const int operations = ForEachCrashPoint(
       [&](FakeFiles& files) {

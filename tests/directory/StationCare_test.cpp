@@ -90,6 +90,9 @@ TEST_F(StationCare, ReadsNoMoreThanItMust) {
   };
   const std::uint64_t table = files_.Get(kData)->size() + files_.Get(kIndex)->size();
   EXPECT_LE(readBy(TableCare::Sound), list.size() + table + kHeaders);
+  const std::uint64_t before = files_.BytesRead();
+  EXPECT_EQ(StatList(data_).EnsureStationTable(TableCheck::Lengths), TableCare::Sound);
+  EXPECT_LE(files_.BytesRead() - before, 2 * kHeaders) << "before the window is painted";
   files_.Put(kListFile, list + "4000\tNew\n");
   EXPECT_LE(readBy(TableCare::Made), kFirstPiece + list.size() + kHeaders);
   files_.Put(kListFile, list + "4000\tOld\n");
