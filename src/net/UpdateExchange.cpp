@@ -13,6 +13,7 @@
 #include "net/ServiceAnswer.h"
 #include "net/ServiceRequest.h"
 #include "net/ServiceUrlTable.h"
+#include "net/UpdateChanges.h"
 #include "net/UpdateFile.h"
 #include "net/UpdateFormat.h"
 #include "net/UpdateInstall.h"
@@ -74,8 +75,8 @@ void UpdateExchange::AskForUpdate() {
     Complete();
     return;
   }
-  const std::string query = QueryStart(needs_.reg) +
-                            "&LastUpdate=" + UrlEncodeQuery(needs_.reg.Get(setting::kLastUpdate)) +
+  const std::string lastUpdate = whole_ ? std::string() : needs_.reg.Get(setting::kLastUpdate);
+  const std::string query = QueryStart(needs_.reg) + "&LastUpdate=" + UrlEncodeQuery(lastUpdate) +
                             "&Version=" + UrlEncodeQuery(kVersionText);
   Send(BuildServiceRequest(needs_.reg, ServiceSetting(needs_.reg, setting::kUpdateUrl), query), *http_,
        *this);
@@ -170,7 +171,7 @@ void UpdateExchange::Received() {
     Refused(IDS_NET_NOT_SAVED);
     return;
   }
-  const UpdateContents contents = ReadUpdateFile(needs_.data);
+  UpdateContents contents = ReadUpdateFile(needs_.data);
   switch (contents.status) {
     case UpdateFileStatus::Missing:
       return Refused(IDS_NET_NOT_SAVED);
@@ -185,7 +186,17 @@ void UpdateExchange::Received() {
     case UpdateFileStatus::Read:
       break;
   }
+  if (!ExpandChanges(needs_.data, contents)) return AskForWhole();
   Installed(needs_.install.Install(contents, installMode_));
+}
+
+// A service that answers with changes again, although it is told of nothing to change, is not asked a third
+// time.
+void UpdateExchange::AskForWhole() {
+  if (whole_) return Refused(IDS_NET_NOT_FITTING);
+  whole_ = true;
+  phase_ = Phase::FirstRequest;
+  view_.StartTimer(kSoon);
 }
 
 void UpdateExchange::Installed(InstallStatus status) {

@@ -107,6 +107,7 @@ class UpdateExchange final : private HttpEvents {
   void Complete();
   void FollowRedirect();
   void Received();
+  void AskForWhole();
   void Installed(InstallStatus status);
   void ReportInstalled();
   void NothingNew();
@@ -130,6 +131,7 @@ class UpdateExchange final : private HttpEvents {
   bool failed_ = false;
   bool dataStarted_ = false;
   bool bodyReceived_ = false;
+  bool whole_ = false;  // the changes that came do not fit: the guide is asked for as if there were none
   int tries_ = 0;
   std::unique_ptr<OutputFile> file_;
 };

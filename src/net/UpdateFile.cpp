@@ -61,7 +61,8 @@ class Sections {
     lines.Next(start);
     // Counted before the name is looked at, so that sections whose names are refused are limited too.
     if (++count_ > update::kMaxSections) return;
-    const bool taken = update::MayBringFile(name);
+    const bool changes = EqualIgnoringCase(name, update::kChanges);
+    const bool taken = changes || update::MayBringFile(name);
     if (!taken) ++contents_.skippedSections;
     std::string bytes;
     // A section ends at its end line, at the end of the text, or at two empty lines, where UpdateLines gives
@@ -72,7 +73,11 @@ class Sections {
       if (TooLarge()) return;
       if (taken) bytes.append(line).append(kLineEnd);
     }
-    if (taken) Keep(name, std::move(bytes));
+    if (changes) {
+      contents_.changes = std::move(bytes);
+    } else if (taken) {
+      Keep(name, std::move(bytes));
+    }
   }
   bool TooLarge() const { return count_ > update::kMaxSections || bytes_ > update::kMaxBytes; }
 
@@ -153,7 +158,27 @@ UpdateContents Refusal(UpdateFileStatus status) {
   return contents;
 }
 
+// Puts into `contents` what the text says; false when it says more than an update may.
+bool ReadText(std::string_view text, UpdateContents& contents) {
+  UpdateLines lines(text);
+  Sections sections(contents);
+  for (std::string_view line; lines.Next(line);) {
+    if (StartsWithIgnoringCase(line, update::kFile)) {
+      sections.Take(line.substr(update::kFile.size()), lines);
+    } else {
+      TakeOtherLine(line, contents);
+    }
+    if (sections.TooLarge()) return false;
+  }
+  return true;
+}
+
 }  // namespace
+
+UpdateContents ReadUpdateText(std::string_view text) {
+  UpdateContents contents = Refusal(UpdateFileStatus::Read);
+  return ReadText(text, contents) ? contents : Refusal(UpdateFileStatus::TooLarge);
+}
 
 UpdateContents ReadUpdateFile(DataFolder& data) {
   const ReadResult file = data.Read(work_file::kUpdate);
@@ -164,18 +189,7 @@ UpdateContents ReadUpdateFile(DataFolder& data) {
   if (contents.status != UpdateFileStatus::Read) return contents;
   // A signed update without a serial number counts as the oldest of all.
   if (check == SignatureCheck::Good) contents.serial = 0;
-
-  UpdateLines lines(text);
-  Sections sections(contents);
-  for (std::string_view line; lines.Next(line);) {
-    if (StartsWithIgnoringCase(line, update::kFile)) {
-      sections.Take(line.substr(update::kFile.size()), lines);
-    } else {
-      TakeOtherLine(line, contents);
-    }
-    if (sections.TooLarge()) return Refusal(UpdateFileStatus::TooLarge);
-  }
-  return contents;
+  return ReadText(text, contents) ? contents : Refusal(UpdateFileStatus::TooLarge);
 }
 
 }  // namespace sonaro

@@ -7,6 +7,7 @@
 #include <cstdint>
 #include <optional>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "net/ServiceUrlTable.h"
@@ -32,6 +33,7 @@ struct ReceivedFile {
 struct UpdateContents {
   UpdateFileStatus status = UpdateFileStatus::Missing;
   std::vector<ReceivedFile> files;  // no name twice, whatever its letter case: the last section counts
+  std::string changes;              // of further files, for ExpandChanges; "" when there are none
   std::optional<std::string> date;  // of the directory
   std::optional<std::string> version;
   std::vector<ServiceValue> values;  // one for a setting: the last
@@ -43,5 +45,8 @@ struct UpdateContents {
 
 // Unless the status is Read, there is nothing in the contents.
 UpdateContents ReadUpdateFile(DataFolder& data);
+
+// The same of a text whose signature is checked already, or nobody's business: of one's own making.
+UpdateContents ReadUpdateText(std::string_view text);
 
 }  // namespace sonaro

@@ -45,7 +45,8 @@ bool MayBringFile(std::string_view name) {
     return false;
   if (name.front() == '.' || TrimBlanks(name) != name || IsDevice(name)) return false;
   // The user's own files, and those that an update works with, must not come from outside.
-  if (IsOwnFile(name) || EqualIgnoringCase(name, kAlphabet)) return false;
+  if (IsOwnFile(name) || EqualIgnoringCase(name, kAlphabet) || EqualIgnoringCase(name, kChanges))
+    return false;
   return std::any_of(std::begin(kEndings), std::end(kEndings),
                      [name](std::string_view ending) { return EndsWithIgnoringCase(name, ending); });
 }

@@ -15,6 +15,11 @@ inline constexpr std::string_view kVersion = "version::";  // a value and a blan
 // A whole number and "::" follow: when a signed update was published, in seconds since 1970. It grows with
 // every update of one publisher, so that an older one is known although its signature is good.
 inline constexpr std::string_view kSerial = "serial::";
+// The section that carries changes of files instead of the files (UpdateChanges.h). It is never installed
+// itself.
+inline constexpr std::string_view kChanges = "changes.snr";
+// What an installation says of itself when it can read changes: a service gives them to no other version.
+inline constexpr std::string_view kVersionsReadingChanges[] = {"4.00.2"};
 // The last line before the sentinel of a signed file: the SHA-256 of everything before the line in
 // hexadecimal,
 // "::", the publisher's signature of that digest in hexadecimal, "::".

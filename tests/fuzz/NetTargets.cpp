@@ -12,6 +12,7 @@
 #include "net/ProxyDetection.h"
 #include "net/ServiceAnswer.h"
 #include "net/ServiceRequest.h"
+#include "net/UpdateChanges.h"
 #include "net/UpdateFile.h"
 #include "net/UpdateFormat.h"
 #include "net/WhatIsNew.h"
@@ -42,7 +43,7 @@ void FuzzUpdateFile(std::string_view input) {
   files.MakeFolder("/d");
   files.Put("/d/update.txt", input);
   DataFolder data(files, "/d", '/');
-  const UpdateContents contents = ReadUpdateFile(data);
+  UpdateContents contents = ReadUpdateFile(data);
   Require(contents.status == UpdateFileStatus::Read, "read without a key");
   std::set<std::string> names;
   std::size_t bytes = 0;
@@ -56,6 +57,11 @@ void FuzzUpdateFile(std::string_view input) {
   for (const ServiceValue& value : contents.values)
     Require(!value.value.empty() && value.value.size() <= 2048, "the length of a value");
   Require(files.AllPaths() == std::vector<std::string>{"/d/update.txt"}, "no other file is touched");
+
+  // The file that is there may be what the changes start from.
+  const std::size_t before = contents.files.size();
+  if (ExpandChanges(data, contents)) Require(contents.files.size() >= before, "files are added");
+  (void)ApplySteps("one\r\ntwo\r\n", input, 1000);
 
   files.Put("/d/publish.key", "d75a980182b10ab7d54bfed3c964073a0ee172f3daa62325af021a68f707511a\n");
   const UpdateFileStatus guarded = ReadUpdateFile(data).status;

@@ -5,6 +5,8 @@
 #include <optional>
 #include <random>
 
+#include "base/Text.h"
+#include "base/crypto/Signing.h"
 #include "directory/DeferredSwap.h"
 #include "net/NetWorld.h"
 #include "resources/texts/net.h"
@@ -245,6 +247,38 @@ TEST_F(UpdateExchangeTest, TriesAgainByItselfOnlyWhenNobodyWatches) {
   EXPECT_EQ(exchange.view.intervals, (std::vector<int>{soon, soon, 10000, soon, 10000, soon}));
   EXPECT_EQ(exchange.view.outcome->callerCode, CallerCode::NoUpdate);
   EXPECT_TRUE(NothingChanged());
+}
+
+std::string Changes(const std::string& was, std::string_view becomes, const std::string& steps) {
+  return Complete(
+      Section("changes.snr", ">Station.snr\t" + was + "\t" + Sha256Hex(becomes) + "\r\n" + steps) +
+      "date::9/1/2000::\r\n");
+}
+
+TEST_F(UpdateExchangeTest, TakesChangesAndAsksForTheWholeGuideWhenTheyDoNotFit) {
+  const std::string now = ReplaceFirst(kOldList, "Old", "New");
+  const std::string steps = "2 3 New\r\n";
+  machine_->http.Answer("?Flush=", FakeAnswer::Body(Changes(Sha256Hex(kOldList), now, steps)));
+  Exchange fits(*machine_, CallerCode::UpdateDialog, InstallMode::InstallAndRebuild);
+  fits.Run();
+  EXPECT_EQ(fits.view.outcome.value().kind, Kind::Updated);
+  EXPECT_EQ(File("Station.snr"), now);
+  EXPECT_EQ(machine_->stations.FindStation(1).fields[0], "New One");
+
+  // They start from the list of before: told of no date, the service sends the whole guide, or it does not.
+  for (const bool sendsWhole : {false, true}) {
+    machine_.emplace(files_);
+    machine_->http.Answer("?Flush=", FakeAnswer::Body(Changes(Sha256Hex(kOldList), now, steps)));
+    machine_->http.Answer("/update.asp", Redirect(kFileAt));
+    if (sendsWhole) machine_->http.Answer("/whole.txt", FakeAnswer::Body(kUpdate));
+    if (sendsWhole) machine_->http.Answer("LastUpdate=&", Redirect("http://files.example/whole.txt"));
+    Exchange exchange(*machine_, CallerCode::UpdateDialog, InstallMode::InstallAndRebuild);
+    exchange.Run();
+    EXPECT_EQ(exchange.view.outcome.value().kind, sendsWhole ? Kind::Updated : Kind::Refused);
+    EXPECT_EQ(File("Station.snr"), sendsWhole ? kNewList : now);
+    ASSERT_EQ(machine_->http.Requests().size(), 4u);
+    EXPECT_NE(Request(2).find("&LastUpdate=&Version="), std::string::npos) << Request(2);
+  }
 }
 
 TEST_F(UpdateExchangeTest, CancelsAtOnce) {

@@ -2,9 +2,11 @@
 
 #include <gtest/gtest.h>
 
+#include "base/Text.h"
 #include "base/crypto/Signing.h"
 #include "fakes/FakeStrings.h"
 #include "net/NetWorld.h"
+#include "net/UpdateChanges.h"
 #include "net/UpdateReport.h"
 #include "net/UpdateSignature.h"
 #include "net/WhatIsNew.h"
@@ -211,6 +213,63 @@ TEST(WhatIsNew, ComparesDateAndSideFile) {
     EXPECT_EQ(machine.reg.Setting(setting::kDoWhat.name), each.toDo) << each.answer;
     EXPECT_EQ(found.sideFileUrl, each.url) << each.answer;
     EXPECT_EQ(found.sideFileValue, each.value) << each.answer;
+  }
+}
+
+TEST(UpdateChanges, TakesNoStepThatDoesNotFit) {
+  const struct {
+    std::string steps;
+    std::optional<std::string> after;
+  } kCases[] = {
+      {"", "one\r\ntwo\r\n"},
+      {"3 2 \\n1\\l\\r\\\\\r\n", "one\r\n1\n\r\\two\r\n"},
+      {"0 5 \r\n3 2 x", "twox"},
+      {"10 0 ", "one\r\ntwo\r\n"},
+      {"11 0 ", std::nullopt},
+      {"0 11 ", std::nullopt},
+      {"9 2 ", std::nullopt},
+      {"1 18446744073709551615 ", std::nullopt},
+      {"18446744073709551616 0 ", std::nullopt},
+      {"-1 0 ", std::nullopt},
+      {" 1 0 ", std::nullopt},
+      {"1 0", std::nullopt},
+      {"x", std::nullopt},
+      {"1 0 \\", std::nullopt},
+      {"1 0 \\t", std::nullopt},
+      {"10 0 12345678901", std::nullopt},  // more than 20 bytes
+  };
+  for (const auto& each : kCases)
+    EXPECT_EQ(ApplySteps("one\r\ntwo\r\n", each.steps, 20), each.after) << each.steps;
+}
+
+// Of a section that is right in all but one thing nothing is taken.
+TEST_F(UpdateFileTest, TakesChangesWholeOrNotAtAll) {
+  const std::string before = "a\r\nb\r\n", after = "a\r\nc\r\n";
+  const std::string was = Sha256Hex(before), becomes = Sha256Hex(after);
+  const std::string good = ">Station.snr\t" + was + "\t" + becomes + "\r\n3 1 c\r\n";
+  const struct {
+    std::string section;
+    bool taken;
+  } kCases[] = {
+      {good, true},
+      {ReplaceFirst(good, "3 1 c", "3 1 d"), false},
+      {ReplaceFirst(good, was, becomes), false},
+      {ReplaceFirst(good, "Station.snr", "fun.snr"), false},   // not there
+      {ReplaceFirst(good, "Station.snr", "favs.snr"), false},  // the user's own
+      {good + good, false},                                    // twice
+      {"3 1 c\r\n" + good, false},                             // steps of no file
+      {good + ">Station.snr\r\n", false},
+  };
+  for (const auto& each : kCases) {
+    files_.Put("/d/Station.snr", before);
+    files_.Put("/d/favs.snr", before);
+    UpdateContents contents = Read(Section("changes.snr", each.section));
+    EXPECT_EQ(contents.changes, each.section);
+    EXPECT_TRUE(contents.files.empty());
+    EXPECT_EQ(ExpandChanges(data_, contents), each.taken) << each.section;
+    if (each.taken) {
+      EXPECT_EQ(First(contents), after);
+    }
   }
 }
 

@@ -1,12 +1,16 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <map>
+#include <random>
 
 #include "base/Text.h"
 #include "commands/LocalFolder.h"
+#include "net/UpdateChanges.h"
 #include "net/UpdateFile.h"
 #include "net/UpdateFormat.h"
 #include "settings/HelpPages.h"
+#include "site/TextChanges.h"
 #include "site/UpdateText.h"
 #include "tool/ToolTest.h"
 
@@ -154,6 +158,83 @@ TEST_F(PublishTest, HasEveryPage) {
   EXPECT_TRUE(fs::exists(Site() + "/public/privacy.html"));
   EXPECT_TRUE(
       FileBytes(Site() + "/public/sonaroapp/sonaro3/asp/proxy/test.asp").starts_with("cool proxy works!"));
+}
+
+// The file that the site's server leads an installation to.
+std::string Lead(const std::string& config, const std::string& key) {
+  const std::size_t at = config.find("\"" + key + "\" \"");
+  if (at == std::string::npos) return {};
+  const std::size_t from = at + key.size() + 4;
+  return config.substr(from, config.find('"', from) - from);
+}
+
+// A year of weeks: each takes stations out, puts some in, and changes a few in place.
+TEST_F(PublishTest, ChangesLeadFromEarlierGuidesToThisOne) {
+  const std::string list = Directory() + "/station.snr";
+  const std::string category = Directory() + "/genre-pop.snr";
+  std::vector<std::map<std::string, std::string>> guides;
+  for (std::size_t week = 1; week <= 14; ++week) {
+    std::string text = FileBytes(list);
+    const std::size_t line = text.find("\r\n", text.size() * week / 16) + 2;
+    text.erase(line, text.find("\r\n", line) + 2 - line);
+    text.insert(text.find("\r\n", text.size() / 2) + 2,
+                "-" + std::to_string(week) + "\tNew\tmusic\tNorway\tJazz\tgood\r\n");
+    WriteBytes(list, text);
+    WriteBytes(category, ReplaceFirst(FileBytes(category), " ", " -" + std::to_string(week) + " "));
+    if (week == 14) WriteBytes(Directory() + "/genre-new.snr", "1\t\tNew\t0\t-1\r\n");
+    ASSERT_EQ(Publish({"--date", "2026-01-" + std::to_string(week + 10)}).status, 0);
+    const auto files = FolderContents(Directory());
+    guides.emplace_back(files.begin(), files.end());
+  }
+  const std::string config = FileBytes(Site() + "/nginx.conf");
+  EXPECT_EQ(Lead(config, "2026-01-11 4.00.2"), "") << "thirteen dates ago";
+  EXPECT_EQ(Lead(config, "2026-01-23 4.00.1"), "") << "an older program cannot read changes";
+  for (const std::size_t week : {2u, 13u}) {
+    const std::string path = Lead(config, "2026-01-" + std::to_string(week + 10) + " 4.00.2");
+    ASSERT_FALSE(path.empty()) << week;
+    const std::string update = FileBytes(Site() + "/public" + path);
+    EXPECT_LT(update.size(), 8000u) << week;
+    UpdateContents contents = Receive(update);
+    for (const auto& [name, bytes] : guides[week - 1]) {
+      if (name.ends_with(".snr")) WriteBytes(Installation() + "/" + name, bytes);
+    }
+    LocalFolder folder(Installation());
+    ASSERT_TRUE(ExpandChanges(folder.Data(), contents)) << week;
+    EXPECT_EQ(contents.date, "2026-01-24");
+    std::vector<std::string> names;
+    for (const ReceivedFile& file : contents.files) {
+      names.push_back(file.name);
+      const std::string onDisk = file.name == "Station.snr" ? "station.snr" : file.name;
+      EXPECT_EQ(file.bytes, guides.back()[onDisk]) << file.name;
+    }
+    std::sort(names.begin(), names.end());
+    EXPECT_EQ(names, (std::vector<std::string>{"Station.snr", "genre-new.snr", "genre-pop.snr"}));
+  }
+  // Whole updates of thirteen dates, changes from twelve, and what the last publication replaced.
+  std::size_t updates = 0;
+  for (const auto& entry : fs::directory_iterator(Site() + kUpdateFolder))
+    if (entry.path().filename().string().starts_with("update-")) ++updates;
+  EXPECT_EQ(updates, 13u + 12u + 12u + 1u);
+}
+
+// Any two texts: what the steps make of the one is the other.
+TEST(TextChanges, LeadFromOneTextToTheOther) {
+  std::mt19937 random(7);
+  const auto number = [&random](int below) {
+    return static_cast<int>(random() % static_cast<unsigned>(below));
+  };
+  const std::string kPieces[] = {"a", " ", "\t", "\r\n", "\n", "\r", "\\", "word ", "-123 ", "\\n"};
+  for (int round = 0; round < 2000; ++round) {
+    std::string before;
+    for (int i = number(60); i > 0; --i) before += kPieces[number(std::size(kPieces))];
+    std::string after = before;
+    for (int i = number(5); i > 0; --i) {
+      const std::size_t at = static_cast<std::size_t>(number(static_cast<int>(after.size()) + 1));
+      if (number(2) != 0) after.erase(at, static_cast<std::size_t>(number(9)));
+      if (number(2) != 0) after.insert(at, kPieces[number(std::size(kPieces))]);
+    }
+    EXPECT_EQ(ApplySteps(before, StepsBetween(before, after), 1000), after) << before;
+  }
 }
 
 struct SectionCase {

@@ -134,7 +134,9 @@ int RunPublish(Arguments arguments, Console& console) {
     console.err << name << " is left out: it is not made of lines that an update can carry.\n";
   console.out << options->out << ": " << result.files << " files, "
               << (options->site.secretKey.empty() ? "an unsigned" : "a signed") << " update of "
-              << result.updateBytes << " bytes.\n";
+              << result.updateBytes << " bytes";
+  if (result.changes > 0) console.out << ", changes from " << result.changes << " earlier dates";
+  console.out << ".\n";
   return kDone;
 }
 

@@ -2,6 +2,7 @@
 
 #include "base/Text.h"
 #include "base/http/UrlEncoding.h"
+#include "net/UpdateFormat.h"
 
 namespace sonaro {
 namespace {
@@ -39,8 +40,13 @@ http {
   uwsgi_temp_path temp;
   scgi_temp_path temp;
 
-  map $arg_LastUpdate $sonaro_answer {
+  map_hash_bucket_size 256;
+  # Who has an earlier guide and can read changes gets what changed since.
+  map "$arg_LastUpdate $arg_Version" $sonaro_update {
     default "{update}";
+{changes}  }
+  map $arg_LastUpdate $sonaro_answer {
+    default $sonaro_update;
     "{date}" "{nothing}";
   }
   server {
@@ -52,12 +58,23 @@ http {
       add_header Cache-Control no-store;
       return 302 http://$host$sonaro_answer;
     }
-    location = {update} {
+    location ^~ {updates} {
       add_header Cache-Control "public, max-age=31536000, immutable";
     }
   }
 }
 )";
+
+std::string ChangesLines(const NginxSite& site) {
+  std::string lines;
+  for (const NginxSite::Changes& changes : site.changes) {
+    for (const std::string_view version : update::kVersionsReadingChanges) {
+      lines.append("    \"").append(UrlEncodeQuery(changes.date)).append(" ").append(UrlEncodeQuery(version));
+      lines.append("\" \"").append(changes.file).append("\";\n");
+    }
+  }
+  return lines;
+}
 
 }  // namespace
 
@@ -73,6 +90,8 @@ std::string NginxConfig(const NginxSite& site) {
   put("{listen}", site.listen);
   put("{name}", site.serverName);
   put("{script}", site.updateScript);
+  put("{changes}", ChangesLines(site));
+  put("{updates}", site.updateFile.substr(0, site.updateFile.find_last_of("/-") + 1));
   put("{update}", site.updateFile);
   put("{nothing}", site.nothingNewFile);
   // Encoded just as installations encode it, since the server compares the query as it comes.

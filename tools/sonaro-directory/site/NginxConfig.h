@@ -3,6 +3,7 @@
 #pragma once
 
 #include <string>
+#include <vector>
 
 namespace sonaro {
 
@@ -11,6 +12,11 @@ struct NginxSite {
   std::string serverName;    // answers requests that name no host, too
   std::string updateScript;  // paths on the host, each beginning with "/"
   std::string updateFile;
+  struct Changes {
+    std::string date;  // of the directory that they start from
+    std::string file;
+  };
+  std::vector<Changes> changes;  // for installations that read them
   std::string nothingNewFile;
   std::string date;  // of the directory, as installations keep it
 };

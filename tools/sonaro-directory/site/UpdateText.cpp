@@ -9,9 +9,11 @@
 #include <algorithm>
 
 #include "base/Text.h"
+#include "base/crypto/Signing.h"
 #include "directory/StationListFile.h"
 #include "net/UpdateFormat.h"
 #include "net/UpdateSignature.h"
+#include "site/TextChanges.h"
 
 namespace sonaro {
 namespace {
@@ -55,7 +57,28 @@ void AddSection(std::string& text, std::string_view name, std::string_view bytes
   text.append(name).append(update::kSectionEnd).append(kLineEnd);
 }
 
-void AddSections(DataFolder& data, UpdateText& update) {
+// Carries a file by what changed in it since `before`, in the text of the section kChanges. False when the
+// whole file is shorter.
+bool AddChanges(const ReceivedFile& before, std::string_view bytes, std::string& changes) {
+  if (before.bytes == bytes) return true;
+  const std::string steps = StepsBetween(before.bytes, bytes);
+  if (steps.size() >= bytes.size()) return false;
+  changes.append(">").append(before.name).append("\t").append(Sha256Hex(before.bytes)).append("\t");
+  changes.append(Sha256Hex(bytes)).append(kLineEnd).append(steps);
+  return true;
+}
+
+bool AddAsChanges(const UpdateRequest& request, std::string_view name, std::string_view bytes,
+                  std::string& changes) {
+  if (!request.since) return false;
+  const auto before =
+      std::find_if(request.since->begin(), request.since->end(),
+                   [&](const ReceivedFile& one) { return EqualIgnoringCase(one.name, name); });
+  return before != request.since->end() && AddChanges(*before, bytes, changes);
+}
+
+void AddSections(DataFolder& data, const UpdateRequest& request, UpdateText& update) {
+  std::string changes;
   for (const std::string& name : NamesOf(data)) {
     const ReadResult file = data.Read("\\" + name);
     if (file.status != ReadStatus::Ok) {
@@ -66,7 +89,7 @@ void AddSections(DataFolder& data, UpdateText& update) {
     if (isList && !HoldsStation(file.bytes)) {
       update.failure = "\"" + name + "\" holds no station.";
     } else if (FitsInSection(name, file.bytes)) {
-      AddSection(update.bytes, name, file.bytes);
+      if (!AddAsChanges(request, name, file.bytes, changes)) AddSection(update.bytes, name, file.bytes);
       update.carried.push_back(name);
     } else if (isList) {
       update.failure = "\"" + name + "\" is not made of lines ended by CR LF.";
@@ -75,6 +98,7 @@ void AddSections(DataFolder& data, UpdateText& update) {
     }
     if (!update.failure.empty()) return;
   }
+  if (!changes.empty()) AddSection(update.bytes, update::kChanges, changes);
   if (update.carried.size() > update::kMaxSections)
     update.failure = "The folder has more files than an installation takes in one update.";
   if (update.carried.empty() || update.carried.front() != kStationList)
@@ -108,7 +132,7 @@ UpdateText MakeUpdateText(DataFolder& data, const UpdateRequest& request) {
   UpdateText update;
   for (const ServiceLine& line : request.service)
     update.bytes.append(line.key).append(line.value).append("::").append(kLineEnd);
-  AddSections(data, update);
+  AddSections(data, request, update);
   update.bytes.append(update::kDate).append(request.date).append("::").append(kLineEnd);
   const bool isSigned = !request.secretKey.empty();
   // The serial number before the signature, so that it is signed too: an old update could otherwise be played

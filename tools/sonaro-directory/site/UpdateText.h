@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "base/DataFolder.h"
+#include "net/UpdateFile.h"
 
 namespace sonaro {
 
@@ -21,6 +22,8 @@ struct UpdateRequest {
   std::vector<ServiceLine> service;
   std::string secretKey;    // 128 hexadecimal digits, or "" for an update that nobody signs
   std::int64_t serial = 0;  // of a signed update: when it is published, in seconds since 1970
+  // The files of the guide that this update changes; none: it carries every file whole.
+  const std::vector<ReceivedFile>* since = nullptr;
 };
 
 struct UpdateText {

@@ -1,5 +1,7 @@
 #include "site/WriteSite.h"
 
+#include <algorithm>
+
 #include "base/crypto/Signing.h"
 #include "net/ServiceUrlTable.h"
 #include "net/UpdateFormat.h"
@@ -7,6 +9,7 @@
 #include "settings/SettingNames.h"
 #include "site/HelpSite.h"
 #include "site/NginxConfig.h"
+#include "site/PublishedGuides.h"
 #include "site/UpdateText.h"
 
 namespace sonaro {
@@ -74,12 +77,40 @@ void PutPages(SiteWriter& writer) {
   }
 }
 
+// The files of a guide that was published before; none when its update is no longer there, or no update.
+std::vector<ReceivedFile> FilesOf(DataFolder& site, const PublishedGuide& guide) {
+  std::string name = "\\public" + guide.update;
+  std::replace(name.begin(), name.end(), '/', '\\');
+  const ReadResult file = site.Read(name);
+  return file.status == ReadStatus::Ok ? ReadUpdateText(file.bytes).files : std::vector<ReceivedFile>();
+}
+
+// Another update has another name: caches on the way never mix them up.
+std::string UpdateName(const std::string& folder, std::string_view bytes) {
+  return folder + "update-" + Sha256Hex(bytes).substr(0, kDigitsOfName) + ".txt";
+}
+
+// Puts the changes from each earlier guide beside the whole update.
+void PutChanges(DataFolder& directory, DataFolder& site, const PublishedGuides& published,
+                UpdateRequest request, SiteWriter& writer, NginxSite& server) {
+  for (const PublishedGuide& guide : published.Before(request.date)) {
+    const std::vector<ReceivedFile> files = FilesOf(site, guide);
+    if (files.empty()) continue;
+    request.since = &files;
+    const UpdateText changes = MakeUpdateText(directory, request);
+    if (!changes.failure.empty()) continue;  // who has that guide gets the whole one
+    const std::string path = UpdateName(FolderOf(server.updateScript), changes.bytes);
+    writer.PutPublic(path, changes.bytes);
+    server.changes.push_back({guide.date, path});
+  }
+}
+
 }  // namespace
 
 SiteResult WriteSite(DataFolder& directory, DataFolder& site, const SiteOptions& options) {
   SiteResult result;
-  UpdateText update = MakeUpdateText(
-      directory, {options.date, ServiceLines(options.host), options.secretKey, options.serial});
+  const UpdateRequest request{options.date, ServiceLines(options.host), options.secretKey, options.serial};
+  UpdateText update = MakeUpdateText(directory, request);
   result.failure = std::move(update.failure);
   result.leftOut = std::move(update.leftOut);
   result.updateBytes = update.bytes.size();
@@ -89,18 +120,24 @@ SiteResult WriteSite(DataFolder& directory, DataFolder& site, const SiteOptions&
   server.serverName = options.host.empty() ? HostOf(ServiceHost::Web) : options.host;
   server.updateScript = PathOf(setting::kUpdateUrl);
   const std::string folder = FolderOf(server.updateScript);
-  // Another update has another name: caches on the way never mix them up.
-  server.updateFile = folder + "update-" + Sha256Hex(update.bytes).substr(0, kDigitsOfName) + ".txt";
+  server.updateFile = UpdateName(folder, update.bytes);
   server.nothingNewFile = folder + std::string(update::kNothingNew);
   server.date = options.date;
 
   SiteWriter writer(site, result);
   // The update first and the configuration last: a server is not told of a file before it is there.
   writer.PutPublic(server.updateFile, update.bytes);
+  PublishedGuides published(site);
+  if (result.failure.empty()) PutChanges(directory, site, published, request, writer, server);
   writer.PutPublic(server.nothingNewFile, "Nothing is newer.\r\n");
   writer.PutPublic(PathOf(setting::kProxyTest), ServiceDefault(setting::kProxyTestText) + "\r\n");
   PutPages(writer);
   writer.Put("/nginx.conf", NginxConfig(server));
+  std::vector<std::string> changes;
+  for (const NginxSite::Changes& one : server.changes) changes.push_back(one.file);
+  result.changes = changes.size();
+  if (result.failure.empty() && !published.Add({options.date, server.updateFile}, changes))
+    result.failure = "The list of what was published could not be saved.";
   return result;
 }
 

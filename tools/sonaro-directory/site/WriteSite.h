@@ -23,6 +23,7 @@ struct SiteResult {
   std::string failure;  // one sentence, or ""
   std::size_t files = 0;
   std::size_t updateBytes = 0;
+  std::size_t changes = 0;           // earlier dates from which changes lead to this guide
   std::vector<std::string> leftOut;  // files of the folder that an update cannot carry
 };
 
