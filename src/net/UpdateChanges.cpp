@@ -127,9 +127,9 @@ bool ExpandChanges(DataFolder& data, UpdateContents& contents) {
     if (file.status != ReadStatus::Ok || Sha256Hex(file.bytes) != change.was) return false;
     std::optional<std::string> bytes = ApplySteps(file.bytes, change.steps, room);
     if (!bytes || Sha256Hex(*bytes) != change.becomes) return false;
-    const bool twice = std::any_of(contents.files.begin(), contents.files.end(), [&](const ReceivedFile& one) {
-      return EqualIgnoringCase(one.name, change.name);
-    });
+    const bool twice =
+        std::any_of(contents.files.begin(), contents.files.end(),
+                    [&](const ReceivedFile& one) { return EqualIgnoringCase(one.name, change.name); });
     if (twice || contents.files.size() == update::kMaxSections) return false;
     room -= bytes->size();
     contents.files.push_back({std::string(change.name), std::move(*bytes)});

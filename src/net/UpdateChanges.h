@@ -1,4 +1,5 @@
-// Changes instead of whole files: a weekly update touches few of a guide's lines, and need not carry the rest.
+// Changes instead of whole files: a weekly update touches few of a guide's lines, and need not carry the
+// rest.
 //
 // The section "changes.snr" of an update has for each file a line ">" name, tab, the SHA-256 of the file that
 // it starts from, tab, the SHA-256 of what comes out; then its steps, one on a line: "KEEP SKIP TEXT", the

@@ -135,7 +135,7 @@ int RunPublish(Arguments arguments, Console& console) {
   console.out << options->out << ": " << result.files << " files, "
               << (options->site.secretKey.empty() ? "an unsigned" : "a signed") << " update of "
               << result.updateBytes << " bytes";
-  if (result.changes > 0) console.out << ", changes from " << result.changes << " earlier dates";
+  if (result.changes > 0) console.out << ", and changes from earlier dates: " << result.changes;
   console.out << ".\n";
   return kDone;
 }

@@ -1,7 +1,7 @@
 // The guides that a site has published, so that the next one can be told apart from each of them. Kept in
-// "published.txt" in the site's folder, fields apart by tabs: a line "guide", date and path of the whole update
-// for each, the latest first; "changes" and path of each further file of the latest; "left" and path of each
-// file that no request leads to since the latest.
+// "published.txt" in the site's folder, fields apart by tabs: a line "guide", date and path of the whole
+// update for each, the latest first; "changes" and path of each further file of the latest; "left" and path
+// of each file that no request leads to since the latest.
 #pragma once
 
 #include <string>

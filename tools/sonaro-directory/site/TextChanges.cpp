@@ -1,7 +1,7 @@
 // Compares by anchors: pieces that both texts have exactly once, taken in the longest row that stands in the
 // same order in both. Between two anchors the comparison begins again, first of lines, then of words, so that
-// a changed rating costs its digit and a new station in a category, whose stations stand on one long line, its
-// number. A general shortest difference would take the square of what changed.
+// a changed rating costs its digit and a new station in a category, whose stations stand on one long line,
+// its number. A general shortest difference would take the square of what changed.
 #include "site/TextChanges.h"
 
 #include <algorithm>
@@ -122,9 +122,8 @@ std::vector<Anchor> LongestRising(const std::vector<Anchor>& anchors) {
   std::vector<std::size_t> ends;  // ends[n]: the anchor with the lowest place that ends a row of n + 1
   std::vector<std::size_t> previous(anchors.size(), kNone);
   for (std::size_t i = 0; i < anchors.size(); ++i) {
-    const auto place = std::partition_point(ends.begin(), ends.end(), [&](std::size_t end) {
-      return anchors[end].before < anchors[i].before;
-    });
+    const auto place = std::partition_point(
+        ends.begin(), ends.end(), [&](std::size_t end) { return anchors[end].before < anchors[i].before; });
     if (place != ends.begin()) previous[i] = *(place - 1);
     if (place == ends.end()) {
       ends.push_back(i);
