@@ -62,12 +62,14 @@
 //
 // What every form does by itself: outline, dragging, painting at any dpi, high contrast, Tab and arrow keys,
 // access keys, Enter on the primary button, Esc and Alt+F4 (see OnCloseRequest), F1 on butHelp, tool tips,
-// click sound, the hidden label lblBringUp. A handler may close or destroy its own form.
+// click sound, the hidden label lblBringUp. A handler may close its own form, but not destroy
+// it: the form's own calls are still running.
 #pragma once
 
 #include <windows.h>
 
 #include <functional>
+#include <initializer_list>
 #include <memory>
 #include <span>
 #include <string>
@@ -75,12 +77,12 @@
 
 #include "forms/EventTable.h"
 #include "forms/FormDesign.h"
-#include "forms/Menu.h"
+#include "forms/MenuEntry.h"
 
 namespace sonaro {
 
 class Faceplate;
-class FormImpl;
+class FormWindow;
 class Painter;
 class Shape;
 class Strings;
@@ -159,10 +161,12 @@ class Form : public EventTarget {
   virtual bool OnMessage(UINT message, WPARAM wParam, LPARAM lParam, LRESULT& result);
 
  private:
-  friend class FormImpl;
+  friend class FormWindow;
   friend class ControlHandle;
 
-  std::shared_ptr<FormImpl> parts_;  // outlives a form that a handler destroys
+  void PressFirst(std::initializer_list<int> buttons);  // the first that is shown; closes without one
+
+  const std::unique_ptr<FormWindow> window_;
 };
 
 }  // namespace sonaro

@@ -1,8 +1,11 @@
-// Painting of a form: the backdrop, texts, glass of the edits, and the entry to the buttons' painting.
-#include <algorithm>
+#include "forms/FormPaint.h"
 
+#include <algorithm>
+#include <utility>
+
+#include "faceplate/Faceplate.h"
 #include "forms/Dpi.h"
-#include "forms/FormImpl.h"
+#include "forms/FormWindow.h"
 #include "forms/WideText.h"
 #include "forms/controls/TabDial.h"
 
@@ -37,24 +40,25 @@ Color InkColor(const ControlInstance& item, const FaceplateColors& colors) {
   return glass ? colors.glassText : colors.text;
 }
 
-void PaintText(const FormImpl& parts, const ControlInstance& item, HDC dc, const RECT& box) {
-  const FaceplateColors& colors = parts.painter->Colors();
-  const TextStyle style = TextStyleOf(*item.row);
+UINT TextFormat(const ControlInstance& item, bool accessKeys) {
   UINT format = 0;
   if (item.Has(kRightAligned)) format |= DT_RIGHT;
   if (item.Has(kCentred)) format |= DT_CENTER;
   if (item.Has(kWrap)) format |= DT_WORDBREAK;
-  if (item.KindOf() != ControlKind::Label || item.Has(kNoPrefix)) {
-    format |= DT_NOPREFIX;
-  } else if (!parts.showAccessKeys) {
-    format |= DT_HIDEPREFIX;
-  }
+  if (item.KindOf() != ControlKind::Label || item.Has(kNoPrefix)) return format | DT_NOPREFIX;
+  return accessKeys ? format : format | DT_HIDEPREFIX;
+}
+
+void PaintText(HDC dc, const RECT& box, const ControlInstance& item, const Painter& painter,
+               bool accessKeys) {
+  const FaceplateColors& colors = painter.Colors();
   const Color color = IsWindowEnabled(item.window) ? InkColor(item, colors) : colors.textOff;
   if (item.icon != Icon::None) {  // as large as its row is wide
-    parts.painter->DrawIcon(dc, item.icon, box.left, box.top, item.row->at.width, color);
+    painter.DrawIcon(dc, item.icon, box.left, box.top, item.row->at.width, color);
     return;
   }
-  parts.painter->Text(dc, box, TextOfWindow(item.window), style, color, format);
+  painter.Text(dc, box, TextOfWindow(item.window), TextStyleOf(*item.row), color,
+               TextFormat(item, accessKeys));
 }
 
 // Slots of a vent, cut at 45 degrees; the left ones end higher, the right ones start lower, like the
@@ -108,11 +112,11 @@ void FrameRegion(HDC dc, HRGN region, Color color, int width) {
 }
 
 // The outline's line and, just inside, the milled one.
-void PaintOutline(HDC dc, const FormImpl& parts, const RECT& client) {
-  const int width = parts.painter->Line();
+void PaintOutline(HDC dc, HWND window, const Painter& painter, const RECT& client) {
+  const int width = painter.Line();
   const HRGN outline = CreateRectRgn(0, 0, 0, 0);
-  if (GetWindowRgn(parts.window, outline) == ERROR) SetRectRgn(outline, 0, 0, client.right, client.bottom);
-  FrameRegion(dc, outline, parts.painter->Colors().outline, width);
+  if (GetWindowRgn(window, outline) == ERROR) SetRectRgn(outline, 0, 0, client.right, client.bottom);
+  FrameRegion(dc, outline, painter.Colors().outline, width);
 
   const HRGN inner = CreateRectRgn(0, 0, 0, 0);
   const HRGN moved = CreateRectRgn(0, 0, 0, 0);
@@ -123,29 +127,10 @@ void PaintOutline(HDC dc, const FormImpl& parts, const RECT& client) {
     OffsetRgn(moved, shift.x, shift.y);
     CombineRgn(inner, inner, moved, RGN_AND);
   }
-  FrameRegion(dc, inner, parts.painter->Colors().milledInner, width);
+  FrameRegion(dc, inner, painter.Colors().milledInner, width);
   DeleteObject(moved);
   DeleteObject(inner);
   DeleteObject(outline);
-}
-
-void PaintBackdropContents(HDC dc, const FormImpl& parts, const RECT& client) {
-  const Painter& painter = *parts.painter;
-  painter.Gradient(dc, client, painter.Colors().plateTop, painter.Colors().plateBottom);
-  if (parts.design.titleGroove > 0) {
-    painter.Groove(dc, painter.Line(), painter.Px(parts.design.titleGroove),
-                   client.right - 2 * painter.Line());
-  }
-  for (const ControlInstance& item : parts.items) {
-    if (!item.shown) continue;
-    if (IsDecoration(item.KindOf())) PaintDecoration(dc, item, painter);
-    if (item.KindOf() == ControlKind::TitleBar) {
-      const int size = 18;
-      painter.DrawIcon(dc, Icon::ProgramMark, item.place.left - painter.Px(26), painter.Px(8), size,
-                       painter.Colors().text);
-    }
-  }
-  PaintOutline(dc, parts, client);
 }
 
 void PaintEditGlass(HDC dc, const ControlInstance& item, const Painter& painter) {
@@ -161,101 +146,159 @@ void PaintEditGlass(HDC dc, const ControlInstance& item, const Painter& painter)
 
 }  // namespace
 
-void Backdrop::Discard() {
-  if (!dc_) return;
-  SelectObject(dc_, before_);
+FormPaint::FormPaint(const FormWindow& form, const Faceplate& faceplate)
+    : form_(form), faceplate_(faceplate) {}
+
+FormPaint::~FormPaint() {
+  DiscardGround();
+  for (const HBRUSH brush : {glassBrush_, plateBrush_, offBrush_}) {
+    if (brush) DeleteObject(brush);
+  }
+}
+
+std::unique_ptr<Painter> FormPaint::Renew(int dpi) {
+  auto former = std::exchange(painter_, std::make_unique<Painter>(faceplate_.Colors(), dpi));
+  const auto renew = [](HBRUSH& brush, Color color) {
+    if (brush) DeleteObject(brush);
+    brush = CreateSolidBrush(ToColorRef(color));
+  };
+  renew(glassBrush_, painter_->Colors().glass);
+  renew(plateBrush_, painter_->Colors().plate);
+  renew(offBrush_, painter_->Colors().buttonOff);
+  DiscardGround();
+  return former;
+}
+
+void FormPaint::DiscardGround() {
+  if (!ground_) return;
+  SelectObject(ground_, before_);
   DeleteObject(bitmap_);
-  DeleteDC(dc_);
-  dc_ = nullptr;
+  DeleteDC(ground_);
+  ground_ = nullptr;
 }
 
-HDC Backdrop::Get(const FormImpl& parts) {
-  if (dc_) return dc_;
+HDC FormPaint::Ground() {
+  if (ground_) return ground_;
+  const HWND window = form_.Window();
   RECT client{};
-  GetClientRect(parts.window, &client);
-  const HDC screen = GetDC(parts.window);
-  dc_ = CreateCompatibleDC(screen);
+  GetClientRect(window, &client);
+  const HDC screen = GetDC(window);
+  ground_ = CreateCompatibleDC(screen);
   bitmap_ = CreateCompatibleBitmap(screen, std::max<int>(1, client.right), std::max<int>(1, client.bottom));
-  before_ = SelectObject(dc_, bitmap_);
-  ReleaseDC(parts.window, screen);
-  PaintBackdropContents(dc_, parts, client);
-  return dc_;
+  before_ = SelectObject(ground_, bitmap_);
+  ReleaseDC(window, screen);
+  PaintGround(client);
+  return ground_;
 }
 
-void FormImpl::PaintBackdrop(HDC dc, HWND control) {
+void FormPaint::PaintGround(const RECT& client) const {
+  const Painter& painter = *painter_;
+  const int groove = form_.Design().titleGroove;
+  painter.Gradient(ground_, client, painter.Colors().plateTop, painter.Colors().plateBottom);
+  if (groove > 0) {
+    painter.Groove(ground_, painter.Line(), painter.Px(groove), client.right - 2 * painter.Line());
+  }
+  for (const ControlInstance& item : form_.Controls().All()) {
+    if (!item.shown) continue;
+    if (IsDecoration(item.KindOf())) PaintDecoration(ground_, item, painter);
+    if (item.KindOf() == ControlKind::TitleBar) {
+      const int size = 18;
+      painter.DrawIcon(ground_, Icon::ProgramMark, item.place.left - painter.Px(26), painter.Px(8), size,
+                       painter.Colors().text);
+    }
+  }
+  PaintOutline(ground_, form_.Window(), painter, client);
+}
+
+void FormPaint::CopyGround(HDC dc, HWND control) {
   RECT box{};
   GetClientRect(control, &box);
   POINT corner{};
-  MapWindowPoints(control, window, &corner, 1);
-  BitBlt(dc, 0, 0, box.right, box.bottom, backdrop.Get(*this), corner.x, corner.y, SRCCOPY);
+  MapWindowPoints(control, form_.Window(), &corner, 1);
+  BitBlt(dc, 0, 0, box.right, box.bottom, Ground(), corner.x, corner.y, SRCCOPY);
 }
 
-void FormImpl::PaintWindow(HDC dc, const RECT& dirty) {
+void FormPaint::PaintWindow(HDC dc, const RECT& dirty) {
   const BufferedPaint buffer(dc, dirty);
-  BitBlt(buffer.Dc(), dirty.left, dirty.top, dirty.right - dirty.left, dirty.bottom - dirty.top,
-         backdrop.Get(*this), dirty.left, dirty.top, SRCCOPY);
-  for (const ControlInstance& item : items) {
+  BitBlt(buffer.Dc(), dirty.left, dirty.top, dirty.right - dirty.left, dirty.bottom - dirty.top, Ground(),
+         dirty.left, dirty.top, SRCCOPY);
+  for (const ControlInstance& item : form_.Controls().All()) {
     if (!item.shown) continue;
-    if (IsEdit(item.KindOf())) PaintEditGlass(buffer.Dc(), item, *painter);
-    if (IsFramedView(item.KindOf())) painter->Glass(buffer.Dc(), ToRect(item.place));
+    if (IsEdit(item.KindOf())) PaintEditGlass(buffer.Dc(), item, *painter_);
+    if (IsFramedView(item.KindOf())) painter_->Glass(buffer.Dc(), ToRect(item.place));
   }
 }
 
 // How far a tab lies from the left end of the dial that it stands on.
-int FormImpl::DialOffset(const ControlInstance& tab) const {
-  for (const ControlInstance& item : items) {
+int FormPaint::DialOffset(const ControlInstance& tab) const {
+  for (const ControlInstance& item : form_.Controls().All()) {
     if (item.KindOf() == ControlKind::Dial) return static_cast<int>(tab.place.left - item.place.left);
   }
   return 0;
 }
 
-ButtonPicture FormImpl::PictureOf(const ControlInstance& item) const {
-  ButtonPicture key;
-  key.kind = item.KindOf();
-  key.secondary = item.Has(kSecondary);
-  key.text = TextOfWindow(item.window);
-  key.detail = Widen(item.detail);
-  key.icon = item.icon;
-  key.sort = item.sort;
-  key.noPrefix = item.Has(kNoPrefix);
-  key.hideAccel = !showAccessKeys;
-  key.focused = showFocus && GetFocus() == item.window;
-  key.state.hover = item.hover;
-  key.state.pressed = (SendMessageW(item.window, BM_GETSTATE, 0, 0) & BST_PUSHED) != 0;
-  key.state.disabled = !IsWindowEnabled(item.window);
-  key.state.active = (IsToggle(item.KindOf()) || IsCheck(item.KindOf())) &&
-                     SendMessageW(item.window, BM_GETCHECK, 0, 0) == BST_CHECKED;
-  key.state.empty = item.emptySocket;
-  if (key.kind == ControlKind::TabButton) {
-    key.dialOffset = DialOffset(item);
-    key.needle = NeedleOn(item, key.state.active);
+ButtonPicture FormPaint::PictureOf(const ControlInstance& item) const {
+  ButtonPicture picture;
+  picture.kind = item.KindOf();
+  picture.secondary = item.Has(kSecondary);
+  picture.text = TextOfWindow(item.window);
+  picture.detail = Widen(item.detail);
+  picture.icon = item.icon;
+  picture.sort = item.sort;
+  picture.noPrefix = item.Has(kNoPrefix);
+  picture.hideAccel = !form_.Keys().ShowsAccessKeys();
+  picture.focused = form_.Keys().ShowsFocus() && GetFocus() == item.window;
+  picture.state.hover = item.hover;
+  picture.state.pressed = (SendMessageW(item.window, BM_GETSTATE, 0, 0) & BST_PUSHED) != 0;
+  picture.state.disabled = !IsWindowEnabled(item.window);
+  picture.state.active = (IsToggle(item.KindOf()) || IsCheck(item.KindOf())) &&
+                         SendMessageW(item.window, BM_GETCHECK, 0, 0) == BST_CHECKED;
+  picture.state.empty = item.emptySocket;
+  if (picture.kind == ControlKind::TabButton) {
+    picture.dialOffset = DialOffset(item);
+    picture.needle = form_.Needle().On(item, picture.state.active);
   }
-  return key;
+  return picture;
 }
 
-void FormImpl::PaintItem(const ControlInstance& item, HDC dc, const RECT& box) {
+void FormPaint::PaintControl(const ControlInstance& item, HDC dc, const RECT& box) {
   const BufferedPaint buffer(dc, box);
-  PaintBackdrop(buffer.Dc(), item.window);
+  CopyGround(buffer.Dc(), item.window);
   if (IsText(item.KindOf())) {
-    PaintText(*this, item, buffer.Dc(), box);
+    PaintText(buffer.Dc(), box, item, *painter_, form_.Keys().ShowsAccessKeys());
   } else if (item.KindOf() == ControlKind::Picture) {
-    if (item.picture) item.picture(buffer.Dc(), box, *painter);
+    if (item.picture) item.picture(buffer.Dc(), box, *painter_);
   } else {
-    PaintButton(buffer.Dc(), box, PictureOf(item), *painter);
+    PaintButton(buffer.Dc(), box, PictureOf(item), *painter_);
   }
 }
 
-void FormImpl::RepaintItem(const ControlInstance& item) {
+void FormPaint::Repaint(const ControlInstance& item) {
+  const HWND window = form_.Window();
   if (window && !IsWindowVisible(window)) {
-    if (!item.Window()) backdrop.Discard();
+    if (!item.Window()) DiscardGround();
     return;  // everything is painted when the form is shown
   }
   if (item.Window()) {
     RedrawWindow(item.Window(), nullptr, nullptr, RDW_INVALIDATE | RDW_ALLCHILDREN);
   } else if (window) {
-    backdrop.Discard();
+    DiscardGround();
     InvalidateRect(window, nullptr, FALSE);
   }
+}
+
+LRESULT FormPaint::ColorControl(UINT message, HDC dc, HWND control, const ControlInstance* item) const {
+  const FaceplateColors& colors = painter_->Colors();
+  const bool enabled = IsWindowEnabled(control) != FALSE;
+  const bool onPlate = item && item->KindOf() == ControlKind::ReadOnlyText && !item->Has(kOnGlass);
+  SetTextColor(dc, ToColorRef(!enabled ? colors.textOff : onPlate ? colors.text : colors.glassText));
+  if (onPlate) {
+    SetBkColor(dc, ToColorRef(colors.plate));
+    return reinterpret_cast<LRESULT>(plateBrush_);
+  }
+  const bool off = !enabled && message != WM_CTLCOLORLISTBOX;
+  SetBkColor(dc, ToColorRef(off ? colors.buttonOff : colors.glass));
+  return reinterpret_cast<LRESULT>(off ? offBrush_ : glassBrush_);
 }
 
 }  // namespace sonaro

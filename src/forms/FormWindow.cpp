@@ -1,49 +1,17 @@
-// The one window procedure of all forms, and what it does with each message.
-#include <algorithm>
+// The one window procedure of all forms, what it does with each message, and the handlers of the event
+// tables.
+#include "forms/FormWindow.h"
+
+#include <array>
 
 #include "forms/ControlIds.h"
 #include "forms/Dpi.h"
-#include "forms/FormImpl.h"
 #include "forms/Guard.h"
 #include "forms/HighContrast.h"
 #include "forms/WideText.h"
-#include "forms/controls/ToolTips.h"
+#include "settings/Strings.h"
 
 namespace sonaro {
-namespace {
-
-constexpr UINT kDestroyNow = WM_APP + 0x3F00;  // posted by Close from inside a handler
-
-// Frees what a destroyed form leaves behind once the calls that are still running in it have returned: a
-// message to a window of its own comes after them, whatever loop runs.
-LRESULT CALLBACK ReaperProcedure(HWND reaper, UINT message, WPARAM wParam, LPARAM lParam, UINT_PTR id,
-                                 DWORD_PTR held) noexcept {
-  if (message == kDestroyNow) {
-    DestroyWindow(reaper);
-    return 0;
-  }
-  if (message == WM_NCDESTROY) {
-    RemoveWindowSubclass(reaper, ReaperProcedure, id);
-    delete reinterpret_cast<std::shared_ptr<FormImpl>*>(held);
-  }
-  return DefSubclassProc(reaper, message, wParam, lParam);
-}
-
-void FreeLater(std::shared_ptr<FormImpl> parts) {
-  const HWND reaper = CreateWindowExW(0, L"STATIC", nullptr, 0, 0, 0, 0, 0, HWND_MESSAGE, nullptr,
-                                      GetModuleHandleW(nullptr), nullptr);
-  if (!reaper) return;
-  auto held = std::make_unique<std::shared_ptr<FormImpl>>(std::move(parts));
-  SetWindowSubclass(reaper, ReaperProcedure, 1, reinterpret_cast<DWORD_PTR>(held.release()));
-  PostMessageW(reaper, kDestroyNow, 0, 0);
-}
-
-}  // namespace
-
-void LetGo(std::shared_ptr<FormImpl> parts) {
-  if (!parts->form && parts->depth == 0 && parts.use_count() == 1) FreeLater(std::move(parts));
-}
-
 namespace {
 
 // What Alt+Space opens: moving, minimising and closing by the keyboard.
@@ -61,161 +29,124 @@ POINT PointOf(LPARAM lParam) {
 
 }  // namespace
 
-FormImpl* FormImplOf(HWND window) {
+FormWindow* FormWindow::Of(HWND window) {
   if (!window || GetWindowThreadProcessId(window, nullptr) != GetCurrentThreadId()) return nullptr;
-  if (GetWindowLongPtrW(window, GWLP_WNDPROC) != reinterpret_cast<LONG_PTR>(&FormProcedure)) return nullptr;
-  return reinterpret_cast<FormImpl*>(GetWindowLongPtrW(window, GWLP_USERDATA));
+  if (GetWindowLongPtrW(window, GWLP_WNDPROC) != reinterpret_cast<LONG_PTR>(&Procedure)) return nullptr;
+  return reinterpret_cast<FormWindow*>(GetWindowLongPtrW(window, GWLP_USERDATA));
 }
 
-LRESULT CALLBACK FormProcedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam) noexcept {
+LRESULT CALLBACK FormWindow::Procedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam) noexcept {
   return Guarded(0, [&]() -> LRESULT {
-    auto* known = reinterpret_cast<FormImpl*>(GetWindowLongPtrW(window, GWLP_USERDATA));
-    if (!known) return DefDlgProcW(window, message, wParam, lParam);
+    auto* form = reinterpret_cast<FormWindow*>(GetWindowLongPtrW(window, GWLP_USERDATA));
+    if (!form) return DefDlgProcW(window, message, wParam, lParam);
 
-    auto parts = known->shared_from_this();
     struct Depth {
       explicit Depth(int& counted) : depth(counted) { ++depth; }
       ~Depth() { --depth; }
       int& depth;
     };
-    LRESULT answer = 0;
-    {
-      const Depth deeper(parts->depth);
-      answer = parts->HandleMessage(message, wParam, lParam);
-    }
-    LetGo(std::move(parts));
-    return answer;
+    const Depth deeper(form->depth_);
+    return form->HandleMessage(message, wParam, lParam);
   });
 }
 
-LRESULT FormImpl::HandleMessage(UINT message, WPARAM wParam, LPARAM lParam) {
-  const HWND self = window;
+LRESULT FormWindow::HandleMessage(UINT message, WPARAM wParam, LPARAM lParam) {
   LRESULT answer = 0;
-  if (form && form->OnMessage(message, wParam, lParam, answer)) return answer;
-  RelayMouse(tips, window, message, wParam, lParam);
+  if (form_ && form_->OnMessage(message, wParam, lParam, answer)) return answer;
+  controls_.RelayToTips(message, wParam, lParam);
   switch (message) {
     case WM_COMMAND:
       return HandleCommand(wParam, lParam);
     case WM_NOTIFY:
       return HandleNotice(*reinterpret_cast<NMHDR*>(lParam));
     case WM_TIMER:
-      if (!StepNeedle(wParam)) RunTimer(static_cast<int>(wParam));
+      if (!needle_.Step(wParam)) RunTimer(static_cast<int>(wParam));
       return 0;
     case WM_ERASEBKGND:
-      return 1;
     case WM_PAINT:
     case WM_DRAWITEM:
     case WM_MEASUREITEM:
-      return HandleDrawing(message, lParam);
     case WM_CTLCOLOREDIT:
     case WM_CTLCOLORSTATIC:
     case WM_CTLCOLORLISTBOX:
-      return HandleControlColor(message, reinterpret_cast<HDC>(wParam), reinterpret_cast<HWND>(lParam));
+      return HandleDrawing(message, wParam, lParam);
     case WM_LBUTTONDOWN:
     case WM_RBUTTONDOWN:
     case WM_MBUTTONDOWN:
-      return HandlePointer(message, lParam);
     case WM_RBUTTONUP:
     case WM_MBUTTONUP:
-      if (!moving) break;
-      // The move loop waits for the left button alone; a drag by another one would never end.
-      PostMessageW(window, WM_LBUTTONUP, 0, lParam);
-      return 0;
-    case WM_UPDATEUISTATE:
-      if (LOWORD(wParam) == UIS_CLEAR) {
-        ShowCues((HIWORD(wParam) & UISF_HIDEFOCUS) != 0, (HIWORD(wParam) & UISF_HIDEACCEL) != 0);
-      }
-      break;
+      return HandlePointer(message, wParam, lParam);
     case WM_CONTEXTMENU:
       return HandleContextMenu(reinterpret_cast<HWND>(wParam), lParam);
-    case WM_SYSCOMMAND:
-      if ((wParam & 0xFFF0) != SC_KEYMENU) break;
-      // The system would walk along a menu bar that is not there, and draw its picture into the window's
-      // corner.
-      if (lParam == L' ') ShowSystemMenu(window);
-      return 0;
-    case WM_CLOSE:
-      // A form that waits for the answer of a modal one cannot go before it, whoever asks.
-      if (IsWindowEnabled(window)) CloseRequest();
-      return 0;
-    case kDestroyNow:
-      if (closing) Destroy();
-      return 0;
+    case WM_UPDATEUISTATE:
     case WM_NEXTDLGCTL:
-      UpdateTabStops();
-      break;
-    case DM_GETDEFID: {
-      const ControlInstance* primary = ShownPrimary();
-      return primary ? MAKELRESULT(primary->Id(), DC_HASDEFID) : 0;
-    }
+    case WM_SYSCOMMAND:
+    case DM_GETDEFID:
+      return HandleKeyboard(message, wParam, lParam);
     case WM_DPICHANGED:
     case WM_DISPLAYCHANGE:
     case WM_SYSCOLORCHANGE:
     case WM_THEMECHANGED:
     case WM_SETTINGCHANGE:
       return HandleSurroundings(message, wParam, lParam);
+    case WM_CLOSE:
     case WM_DESTROY:
-      if (!closing && form) form->OnUnload();  // the system destroys it together with its owner
+    case WM_NCDESTROY:
+    case kDestroyNow:
+      return HandleEnd(message, wParam, lParam);
+    default:
+      return DefDlgProcW(window_, message, wParam, lParam);
+  }
+}
+
+LRESULT FormWindow::HandleKeyboard(UINT message, WPARAM wParam, LPARAM lParam) {
+  switch (message) {
+    case WM_UPDATEUISTATE:
+      if (LOWORD(wParam) == UIS_CLEAR) {
+        keys_.ShowCues((HIWORD(wParam) & UISF_HIDEFOCUS) != 0, (HIWORD(wParam) & UISF_HIDEACCEL) != 0);
+      }
       break;
-    case WM_NCDESTROY: {
-      answer = DefDlgProcW(self, message, wParam, lParam);
+    case WM_NEXTDLGCTL:
+      keys_.UpdateTabStops();
+      break;
+    case WM_SYSCOMMAND:
+      if ((wParam & 0xFFF0) != SC_KEYMENU) break;
+      // The system would walk along a menu bar that is not there, and draw its picture into the window's
+      // corner.
+      if (lParam == L' ') ShowSystemMenu(window_);
+      return 0;
+    default: {  // DM_GETDEFID
+      const ControlInstance* primary = keys_.ShownPrimary();
+      return primary ? MAKELRESULT(primary->Id(), DC_HASDEFID) : 0;
+    }
+  }
+  return DefDlgProcW(window_, message, wParam, lParam);
+}
+
+LRESULT FormWindow::HandleEnd(UINT message, WPARAM wParam, LPARAM lParam) {
+  switch (message) {
+    case WM_CLOSE:
+      // A form that waits for the answer of a modal one cannot go before it, whoever asks.
+      if (IsWindowEnabled(window_) && form_) form_->OnCloseRequest();
+      return 0;
+    case kDestroyNow:
+      if (closing_) Destroy();
+      return 0;
+    case WM_NCDESTROY: {  // the last message
+      const LRESULT answer = DefDlgProcW(window_, message, wParam, lParam);
       Forget();
       return answer;
     }
     default:
-      break;
-  }
-  return DefDlgProcW(self, message, wParam, lParam);
-}
-
-void FormImpl::Load() {
-  // Newer systems would scale the controls of a dialog by themselves; the tables are the only hand on them.
-  using SetBehaviour = BOOL(WINAPI*)(HWND, int, int);
-  const auto setBehaviour = reinterpret_cast<SetBehaviour>(
-      reinterpret_cast<void*>(GetProcAddress(GetModuleHandleW(L"user32.dll"), "SetDialogDpiChangeBehavior")));
-  constexpr int kDisableAll = 1;
-  if (setBehaviour) setBehaviour(window, kDisableAll, kDisableAll);
-
-  SetWindowTextW(window, Widen(TextOf(design.caption)).c_str());
-  BuildControls();
-  UseDpi(painter->Dpi());
-  BOOL cues = FALSE;
-  SystemParametersInfoW(SPI_GETKEYBOARDCUES, 0, &cues, 0);
-  const FormImpl* owner = FormImplOf(GetWindow(window, GW_OWNER));
-  showFocus = cues || (owner && owner->showFocus);
-  showAccessKeys = cues || (owner && owner->showAccessKeys);
-  form->OnLoad();
-}
-
-void FormImpl::ShowCues(bool focus, bool accessKeys) {
-  if ((showFocus || !focus) && (showAccessKeys || !accessKeys)) return;
-  showFocus = showFocus || focus;
-  showAccessKeys = showAccessKeys || accessKeys;
-  for (const ControlInstance& item : items) {
-    if (item.window && !IsEdit(item.KindOf())) InvalidateRect(item.window, nullptr, FALSE);
+      if (!closing_ && form_) form_->OnUnload();  // the system destroys it together with its owner
+      return DefDlgProcW(window_, message, wParam, lParam);
   }
 }
 
-void FormImpl::Destroy() {
-  if (window) DestroyWindow(window);
-}
-
-void FormImpl::DestroySoon() { PostMessageW(window, kDestroyNow, 0, 0); }
-
-void FormImpl::Forget() {
-  SetWindowLongPtrW(window, GWLP_USERDATA, 0);
-  window = nullptr;
-  tips = nullptr;
-  needleTab = 0;
-  needleAt.reset();
-  backdrop.Discard();
-  for (ControlInstance& item : items) item.window = nullptr;
-}
-
-LRESULT FormImpl::HandleCommand(WPARAM wParam, LPARAM lParam) {
+LRESULT FormWindow::HandleCommand(WPARAM wParam, LPARAM lParam) {
   const int id = LOWORD(wParam);
   const int code = HIWORD(wParam);
-  if (lParam == 0) {
+  if (lParam == 0) {  // a menu's entry, or what the dialog keyboard makes of Esc and Enter
     if (id == IDCANCEL) {
       Escape();
     } else if (id != IDOK) {
@@ -223,28 +154,22 @@ LRESULT FormImpl::HandleCommand(WPARAM wParam, LPARAM lParam) {
     }
     return 0;
   }
-  ControlInstance* item = Find(reinterpret_cast<HWND>(lParam));
+  const ControlInstance* item = controls_.Find(reinterpret_cast<HWND>(lParam));
   if (!item) return 0;
   if (IsButton(item->KindOf()) || IsCheck(item->KindOf())) {
     // A fast second click comes as a double click; it is a click like any other.
     if (code != BN_CLICKED && code != BN_DBLCLK) return 0;
-    if (context.clickSound) context.clickSound();
+    if (context_.clickSound) context_.clickSound();
     Handle({.id = item->Id()});
   } else if (IsCombo(item->KindOf())) {
-    ComboNotice(*item, code);
-  } else {
-    EditNotice(*item, code);
+    HandleCombo(*item, code);
+  } else if (code == EN_CHANGE && !controls_.IsQuiet()) {
+    Handle({.id = item->Id(), .kind = FormEvent::Kind::Change});
   }
   return 0;
 }
 
-void FormImpl::EditNotice(ControlInstance& item, int code) {
-  using Event = FormEvent::Kind;
-  if (code == EN_CHANGE && !quiet) Handle({.id = item.Id(), .kind = Event::Change});
-}
-
-void FormImpl::ComboNotice(ControlInstance& item, int code) {
-  using Event = FormEvent::Kind;
+void FormWindow::HandleCombo(const ControlInstance& item, int code) {
   InvalidateRect(item.window, nullptr, FALSE);
   if (code == CBN_SELCHANGE) {
     if (item.KindOf() == ControlKind::ComboEdit) {
@@ -252,14 +177,14 @@ void FormImpl::ComboNotice(ControlInstance& item, int code) {
       const int row = static_cast<int>(SendMessageW(item.window, CB_GETCURSEL, 0, 0));
       SetWindowTextW(item.window, ComboRowText(item.window, row).c_str());
     }
-    Handle({.id = item.Id(), .kind = Event::SelChange});
-  } else if (code == CBN_EDITCHANGE && !quiet) {
-    Handle({.id = item.Id(), .kind = Event::Change});
+    Handle({.id = item.Id(), .kind = FormEvent::Kind::SelChange});
+  } else if (code == CBN_EDITCHANGE && !controls_.IsQuiet()) {
+    Handle({.id = item.Id(), .kind = FormEvent::Kind::Change});
   }
 }
 
-LRESULT FormImpl::HandleNotice(NMHDR& notice) {
-  ControlInstance* item = Find(notice.hwndFrom);
+LRESULT FormWindow::HandleNotice(NMHDR& notice) {
+  const ControlInstance* item = controls_.Find(notice.hwndFrom);
   if (!item) return 0;
   LRESULT answer = 0;
   if (item->view) return item->view->OnNotify(notice, answer) ? answer : 0;
@@ -267,7 +192,7 @@ LRESULT FormImpl::HandleNotice(NMHDR& notice) {
     const auto& draw = reinterpret_cast<const NMCUSTOMDRAW&>(notice);
     RECT box{};
     GetClientRect(item->window, &box);
-    PaintItem(*item, draw.hdc, box);
+    paint_.PaintControl(*item, draw.hdc, box);
     return CDRF_SKIPDEFAULT;
   }
   if (item->KindOf() == ControlKind::MonthCalendar && notice.code == static_cast<UINT>(MCN_SELCHANGE)) {
@@ -276,72 +201,72 @@ LRESULT FormImpl::HandleNotice(NMHDR& notice) {
   return 0;
 }
 
-LRESULT FormImpl::HandleDrawing(UINT message, LPARAM lParam) {
-  if (message == WM_PAINT) {
-    PAINTSTRUCT paint{};
-    const HDC dc = BeginPaint(window, &paint);
-    PaintWindow(dc, paint.rcPaint);
-    EndPaint(window, &paint);
+LRESULT FormWindow::HandleDrawing(UINT message, WPARAM wParam, LPARAM lParam) {
+  switch (message) {
+    case WM_ERASEBKGND:
+      return 1;  // WM_PAINT paints it all
+    case WM_PAINT: {
+      PAINTSTRUCT paint{};
+      const HDC dc = BeginPaint(window_, &paint);
+      paint_.PaintWindow(dc, paint.rcPaint);
+      EndPaint(window_, &paint);
+      return 0;
+    }
+    case WM_MEASUREITEM:
+      reinterpret_cast<MEASUREITEMSTRUCT*>(lParam)->itemHeight = static_cast<UINT>(Theme().Px(22));
+      return TRUE;
+    case WM_DRAWITEM: {
+      const auto& draw = *reinterpret_cast<const DRAWITEMSTRUCT*>(lParam);
+      const ControlInstance* item = controls_.Find(draw.hwndItem);
+      if (!item) return FALSE;
+      if (draw.CtlType == ODT_COMBOBOX) {
+        PaintComboRow(Theme(), draw);
+      } else {
+        paint_.PaintControl(*item, draw.hDC, draw.rcItem);
+      }
+      return TRUE;
+    }
+    default: {  // WM_CTLCOLOR...
+      const auto control = reinterpret_cast<HWND>(lParam);
+      return paint_.ColorControl(message, reinterpret_cast<HDC>(wParam), control, controls_.Find(control));
+    }
+  }
+}
+
+LRESULT FormWindow::HandlePointer(UINT message, WPARAM wParam, LPARAM lParam) {
+  if (message == WM_RBUTTONUP || message == WM_MBUTTONUP) {
+    if (!moving_) return DefDlgProcW(window_, message, wParam, lParam);
+    // The move loop waits for the left button alone; a drag by another one would never end.
+    PostMessageW(window_, WM_LBUTTONUP, 0, lParam);
     return 0;
   }
-  if (message == WM_MEASUREITEM) {
-    reinterpret_cast<MEASUREITEMSTRUCT*>(lParam)->itemHeight = static_cast<UINT>(painter->Px(22));
-    return TRUE;
-  }
-  const auto& draw = *reinterpret_cast<const DRAWITEMSTRUCT*>(lParam);
-  const ControlInstance* item = Find(draw.hwndItem);
-  if (!item) return FALSE;
-  if (draw.CtlType == ODT_COMBOBOX) {
-    PaintComboRow(*this, draw);
-  } else {
-    PaintItem(*item, draw.hDC, draw.rcItem);
-  }
-  return TRUE;
-}
-
-LRESULT FormImpl::HandleControlColor(UINT message, HDC dc, HWND control) {
-  const FaceplateColors& colors = painter->Colors();
-  const ControlInstance* item = Find(control);
-  const bool enabled = IsWindowEnabled(control) != FALSE;
-  const bool onPlate = item && item->KindOf() == ControlKind::ReadOnlyText && !item->Has(kOnGlass);
-  SetTextColor(dc, ToColorRef(!enabled ? colors.textOff : onPlate ? colors.text : colors.glassText));
-  if (onPlate) {
-    SetBkColor(dc, ToColorRef(colors.plate));
-    return reinterpret_cast<LRESULT>(plateBrush);
-  }
-  const bool off = !enabled && message != WM_CTLCOLORLISTBOX;
-  SetBkColor(dc, ToColorRef(off ? colors.buttonOff : colors.glass));
-  return reinterpret_cast<LRESULT>(off ? offBrush : glassBrush);
-}
-
-LRESULT FormImpl::HandlePointer(UINT message, LPARAM lParam) {
   const POINT at = PointOf(lParam);
-  for (const ControlInstance& item : items) {
+  for (const ControlInstance& item : controls_.All()) {
     const RECT glass = ToRect(item.place);
     if (!IsEdit(item.KindOf()) || !item.shown || !PtInRect(&glass, at)) continue;
     if (message == WM_LBUTTONDOWN && IsWindowEnabled(item.window)) SetFocus(item.window);
     return 0;
   }
-  if (design.draggable) Drag();
+  if (design_.draggable) Drag();
   return 0;
 }
 
 // The loop lets messages in: another button that goes down meanwhile must not begin a second one inside it.
-void FormImpl::Drag() {
-  if (moving) return;
+void FormWindow::Drag() {
+  if (moving_) return;
   RECT before{};
-  GetWindowRect(window, &before);
-  moving = true;
+  GetWindowRect(window_, &before);
+  moving_ = true;
   ReleaseCapture();
-  SendMessageA(window, WM_NCLBUTTONDOWN, HTCAPTION, 0);  // returns when the system's move loop has ended
-  moving = false;
+  SendMessageA(window_, WM_NCLBUTTONDOWN, HTCAPTION, 0);  // returns when the system's move loop has ended
+  moving_ = false;
   RECT after{};
-  if (!window || !GetWindowRect(window, &after)) return;
-  if (form && !EqualRect(&before, &after)) form->OnMoved();
+  if (!window_ || !GetWindowRect(window_, &after)) return;
+  if (form_ && !EqualRect(&before, &after)) form_->OnMoved();
 }
 
-LRESULT FormImpl::HandleContextMenu(HWND control, LPARAM lParam) {
-  const ControlInstance* item = Find(control);
+LRESULT FormWindow::HandleContextMenu(HWND control, LPARAM lParam) {
+  const ControlInstance* item = controls_.Find(control);
   if (!item || item->view) return 0;
   POINT at = PointOf(lParam);
   if (lParam == -1) {  // by the keyboard
@@ -353,25 +278,90 @@ LRESULT FormImpl::HandleContextMenu(HWND control, LPARAM lParam) {
   return 0;
 }
 
-LRESULT FormImpl::HandleSurroundings(UINT message, WPARAM wParam, LPARAM lParam) {
+LRESULT FormWindow::HandleSurroundings(UINT message, WPARAM wParam, LPARAM lParam) {
   if (message == WM_DPICHANGED) {
     const RECT& suggested = *reinterpret_cast<const RECT*>(lParam);
-    SetWindowPos(window, nullptr, suggested.left, suggested.top, 0, 0,
+    SetWindowPos(window_, nullptr, suggested.left, suggested.top, 0, 0,
                  SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
     UseDpi(HIWORD(wParam));
     return 0;
   }
   if (message == WM_DISPLAYCHANGE) {
     RECT box{};
-    GetWindowRect(window, &box);
-    if (form) form->MoveToPixels(box.left, box.top);
+    GetWindowRect(window_, &box);
+    MoveToPixels(box.left, box.top);
     return 0;
   }
   if (message != WM_SETTINGCHANGE || wParam == SPI_SETHIGHCONTRAST) {
-    FollowHighContrast(context.faceplate);
+    FollowHighContrast(context_.faceplate);
     RenewTheme();
   }
-  return DefDlgProcW(window, message, wParam, lParam);
+  return DefDlgProcW(window_, message, wParam, lParam);
 }
+
+FormWindow::Binding FormWindow::BindingOf(int id, FormEvent::Kind kind) const {
+  for (EventTarget* target : targets_) {
+    for (const EventRow& row : target->Events()) {
+      if (row.kind == kind && id >= row.first && id < row.first + row.count) return {target, &row};
+    }
+  }
+  return {};
+}
+
+bool FormWindow::Handle(const FormEvent& event) {
+  if (event.id == 0) return false;
+  const auto [target, row] = BindingOf(event.id, event.kind);
+  if (!row) return false;
+  if (row->plain) (target->*row->plain)();
+  if (row->withIndex) (target->*row->withIndex)(event.id - row->first);
+  if (row->withRow) (target->*row->withRow)(event.row);
+  if (row->atPoint) (target->*row->atPoint)(row->count > 1 ? event.id - row->first : event.row, event.point);
+  if (row->withNode) (target->*row->withNode)(event.node);
+  return true;
+}
+
+void FormWindow::RunTimer(int id) const {
+  if (!form_) return;
+  for (const TimerRow& row : form_->Timers()) {
+    if (row.id == id) return (form_->*row.handler)();
+  }
+}
+
+void FormWindow::Press(int id) {
+  const ControlInstance* item = controls_.Find(id);
+  if (!item) {
+    Handle({.id = id});
+    return;
+  }
+  if (!item->shown || !IsWindowEnabled(item->Window())) return;
+  if (IsCheck(item->KindOf())) {
+    SendMessageW(item->window, BM_CLICK, 0, 0);
+    return;
+  }
+  if (IsButton(item->KindOf())) {
+    if (context_.clickSound) context_.clickSound();
+    Handle({.id = id});
+    return;
+  }
+  if (Handle({.id = id})) return;
+  keys_.FocusOn(*item);
+  if (item->KindOf() == ControlKind::ComboEdit)
+    SendMessageW(item->window, CB_SETEDITSEL, 0, MAKELPARAM(0, -1));
+  if (IsEdit(item->KindOf())) SendMessageW(item->window, EM_SETSEL, 0, -1);
+}
+
+void FormWindow::Escape() {
+  if (form_) form_->OnEscape();
+}
+
+void FormWindow::BringUp(const std::string& caption) const {
+  if (context_.bringUp) context_.bringUp(caption);
+}
+
+std::string FormWindow::TextOf(const ControlText& text) const {
+  return text.id != 0 ? LoadText(text.id) : std::string(text.text);
+}
+
+std::string FormWindow::LoadText(int stringId) const { return context_.strings.Load(stringId); }
 
 }  // namespace sonaro

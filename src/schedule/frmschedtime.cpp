@@ -29,29 +29,19 @@ void frmschedtime::tmrFullMinute_Timer() {
   ticks_.FullMinute();
 }
 
-bool ScheduleTimerWindow::IsLoaded() { return form_ && form_->IsOpen(); }
+bool ScheduleTimerWindow::IsLoaded() { return form_.IsOpen(); }
 
-void ScheduleTimerWindow::Load() {
-  form_ = std::make_unique<frmschedtime>(context_, ticks_);
-  form_->Create();
-}
+void ScheduleTimerWindow::Load() { form_.Create(); }
 
-void ScheduleTimerWindow::SetCloseItCaption(const char* caption) {
-  if (form_) form_->SetCloseItCaption(caption);
-}
+void ScheduleTimerWindow::SetCloseItCaption(const char* caption) { form_.SetCloseItCaption(caption); }
 
 void ScheduleTimerWindow::RestartTimer(unsigned milliseconds) {
-  if (!form_) return;
-  form_->StopTimer(Timer1);
-  form_->StartTimer(Timer1, milliseconds);
+  form_.StopTimer(Timer1);
+  form_.StartTimer(Timer1, milliseconds);
 }
 
-void ScheduleTimerWindow::TickOnceIn(unsigned milliseconds) {
-  if (form_) form_->StartTimer(tmrFullMinute, milliseconds);
-}
+void ScheduleTimerWindow::TickOnceIn(unsigned milliseconds) { form_.StartTimer(tmrFullMinute, milliseconds); }
 
-void ScheduleTimerWindow::Unload() {
-  if (form_) form_->Close();
-}
+void ScheduleTimerWindow::Unload() { form_.Close(); }
 
 }  // namespace sonaro

@@ -2,8 +2,6 @@
 // does; this window only has the system's timer and the label that says it is in use.
 #pragma once
 
-#include <memory>
-
 #include "forms/ControlIds.h"
 #include "forms/controls/Controls.h"
 #include "schedule/ScheduleTimer.h"
@@ -37,7 +35,7 @@ class frmschedtime final : public Form {
 // The window as ScheduleTimer sees it. Owned by Application.
 class ScheduleTimerWindow final : public ScheduleTimerView {
  public:
-  ScheduleTimerWindow(FormContext& context, TimerTicks& ticks) : context_(context), ticks_(ticks) {}
+  ScheduleTimerWindow(FormContext& context, TimerTicks& ticks) : form_(context, ticks) {}
 
   bool IsLoaded() override;
   void Load() override;
@@ -47,9 +45,7 @@ class ScheduleTimerWindow final : public ScheduleTimerView {
   void Unload() override;
 
  private:
-  FormContext& context_;
-  TimerTicks& ticks_;
-  std::unique_ptr<frmschedtime> form_;
+  frmschedtime form_;
 };
 
 }  // namespace sonaro

@@ -113,12 +113,6 @@ void DemoForm::OnEscape() {
 
 void DemoForm::Push_Click(int index) {
   Note("Click", kPush + index);
-  if (destroyOnClick) {
-    DemoForm* self = *destroyOnClick;
-    *destroyOnClick = nullptr;
-    delete self;
-    return;
-  }
   if (closeOnClick) Close(resultOnClick);
 }
 

@@ -33,7 +33,6 @@ class DemoForm final : public Form {
   std::vector<std::string> log;  // one entry for each event, "Click 5001"
   bool closeOnClick = false;
   int resultOnClick = 0;
-  DemoForm** destroyOnClick = nullptr;  // the owner's pointer: the handler deletes the form itself
 
   ControlArray<Button> push{*this, kPush, 5};
   ControlArray<Button> primary{*this, kPrimary, 5};

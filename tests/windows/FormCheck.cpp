@@ -4,7 +4,7 @@
 #include <set>
 
 #include "forms/Dpi.h"
-#include "forms/FormImpl.h"
+#include "forms/FormWindow.h"
 #include "forms/WideText.h"
 #include "forms/paint/Painter.h"
 
@@ -13,11 +13,11 @@ namespace {
 
 class Check {
  public:
-  Check(Form& form, FormImpl& parts) : form_(form), parts_(parts) {}
+  Check(Form& form, FormWindow& window) : form_(form), window_(window) {}
 
   std::vector<std::string> Run() {
     CheckControls();
-    const int layouts = static_cast<int>(parts_.design.layouts.size());
+    const int layouts = static_cast<int>(window_.Design().layouts.size());
     for (int layout = 0; layout <= layouts; ++layout) {
       form_.UseLayout(layout);
       CheckTabOrder();
@@ -43,12 +43,12 @@ class Check {
   // Past the work area of the test's screen as well: a form would otherwise fall back to a smaller dpi.
   void UseDpi(int dpi) {
     where_ = "layout " + std::to_string(form_.CurrentLayout()) + " at " + std::to_string(dpi) + ": ";
-    parts_.UseDpi(dpi, FormImpl::Fit::No);
+    window_.UseDpi(dpi, FormWindow::Fit::No);
   }
 
   void CheckControls() {
     std::set<int> numbers;
-    for (const ControlInstance& item : parts_.items) {
+    for (const ControlInstance& item : window_.Controls().All()) {
       if (item.Id() != 0 && !numbers.insert(item.Id()).second)
         Add(item, "has a number that is already taken");
       if (IsDecoration(item.KindOf())) continue;
@@ -56,7 +56,7 @@ class Check {
         Add(item, "has no window");
         continue;
       }
-      if (item.Id() != 0 && GetDlgItem(parts_.window, item.Id()) != item.Window())
+      if (item.Id() != 0 && GetDlgItem(window_.Window(), item.Id()) != item.Window())
         Add(item, "is not found by number");
       if (IsEdit(item.KindOf()) && item.row->text.id != 0)
         Add(item, "holds its name, as if the user had typed it");
@@ -67,29 +67,29 @@ class Check {
       if (item.shown && GetWindowTextLengthW(item.Window()) == 0) Add(item, "has no text");
       const bool heading =
           item.KindOf() == ControlKind::HeaderButton && item.Has(kNoTabStop);  // of a list without sorting
-      if (IsButton(item.KindOf()) && !heading && !parts_.IsBound(item.Id(), FormEvent::Kind::Click))
+      if (IsButton(item.KindOf()) && !heading && !window_.IsBound(item.Id(), FormEvent::Kind::Click))
         Add(item, "does nothing");
     }
   }
 
   void CheckTabOrder() {
-    parts_.UpdateTabStops();
-    const HWND first = GetNextDlgTabItem(parts_.window, nullptr, FALSE);
+    window_.Keys().UpdateTabStops();
+    const HWND first = GetNextDlgTabItem(window_.Window(), nullptr, FALSE);
     HWND at = first;
     std::ptrdiff_t before = -1;
     for (int steps = 0; at && steps < 500; ++steps) {
-      const ControlInstance* item = parts_.Find(at);
-      const std::ptrdiff_t row = item ? item - parts_.items.data() : -1;
+      const ControlInstance* item = window_.Controls().Find(at);
+      const std::ptrdiff_t row = item ? item - window_.Controls().All().data() : -1;
       if (item && row <= before) Add(*item, "is reached by Tab before a row above it");
       before = row;
-      at = GetNextDlgTabItem(parts_.window, at, FALSE);
+      at = GetNextDlgTabItem(window_.Window(), at, FALSE);
       if (at == first) break;
     }
   }
 
   void CheckAccessKeys() {
     std::map<wchar_t, const ControlInstance*> taken;
-    for (const ControlInstance& item : parts_.items) {
+    for (const ControlInstance& item : window_.Controls().All()) {
       const bool labels =
           item.KindOf() == ControlKind::Label || IsButton(item.KindOf()) || IsCheck(item.KindOf());
       if (!labels || !item.shown || item.Has(kNoPrefix)) continue;
@@ -108,15 +108,15 @@ class Check {
 
   void CheckPlaces() {
     RECT client{};
-    GetClientRect(parts_.window, &client);
-    for (const ControlInstance& item : parts_.items) {
+    GetClientRect(window_.Window(), &client);
+    for (const ControlInstance& item : window_.Controls().All()) {
       if (!item.shown) continue;
       const RECT box = ToRect(item.place);
       if (box.left < 0 || box.top < 0 || box.right > client.right || box.bottom > client.bottom) {
         Add(item, "leaves the form");
       }
       if (IsDecoration(item.KindOf()) || IsText(item.KindOf())) continue;
-      for (const ControlInstance& other : parts_.items) {
+      for (const ControlInstance& other : window_.Controls().All()) {
         if (&other == &item) break;
         if (!other.shown || IsDecoration(other.KindOf()) || IsText(other.KindOf())) continue;
         const RECT otherBox = ToRect(other.place);
@@ -128,12 +128,12 @@ class Check {
   }
 
   void CheckTexts() {
-    for (const ControlInstance& item : parts_.items) {
+    for (const ControlInstance& item : window_.Controls().All()) {
       if (!item.shown) continue;
       RECT box{};
       if (item.Window()) GetClientRect(item.Window(), &box);
       if (IsButton(item.KindOf()) || IsCheck(item.KindOf())) {
-        const ButtonTextRoom room = MeasureButton(box, parts_.PictureOf(item), *parts_.painter);
+        const ButtonTextRoom room = MeasureButton(box, window_.Paint().PictureOf(item), window_.Theme());
         if (room.needed > room.available) Add(item, Lacks(room.needed, room.available));
       } else if (IsText(item.KindOf())) {
         CheckLabel(item, box);
@@ -147,11 +147,11 @@ class Check {
     const TextStyle style = TextStyleOf(*item.row);
     const int width = static_cast<int>(box.right);
     if (item.Has(kWrap)) {
-      const int needed = parts_.painter->WrappedHeight(text, style, width);
+      const int needed = window_.Theme().WrappedHeight(text, style, width);
       if (needed > box.bottom) Add(item, Lacks(needed, static_cast<int>(box.bottom)));
     } else {
       const UINT prefix = item.KindOf() == ControlKind::Label && !item.Has(kNoPrefix) ? 0 : DT_NOPREFIX;
-      const int needed = static_cast<int>(parts_.painter->Measure(text, style, prefix).cx);
+      const int needed = static_cast<int>(window_.Theme().Measure(text, style, prefix).cx);
       if (needed > width) Add(item, Lacks(needed, width));
     }
   }
@@ -161,7 +161,7 @@ class Check {
   }
 
   Form& form_;
-  FormImpl& parts_;
+  FormWindow& window_;
   std::string where_;
   std::vector<std::string> problems_;
 };
@@ -169,9 +169,9 @@ class Check {
 }  // namespace
 
 std::vector<std::string> ProblemsOf(Form& form) {
-  FormImpl* parts = FormImplOf(form.Window());
-  if (!parts) return {"the form is not open"};
-  return Check(form, *parts).Run();
+  FormWindow* window = FormWindow::Of(form.Window());
+  if (!window) return {"the form is not open"};
+  return Check(form, *window).Run();
 }
 
 }  // namespace sonaro

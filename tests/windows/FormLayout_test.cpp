@@ -2,7 +2,7 @@
 #include <gtest/gtest.h>
 
 #include "forms/Dpi.h"
-#include "forms/FormImpl.h"
+#include "forms/FormWindow.h"
 #include "forms/WindowShape.h"
 #include "windows/DemoForm.h"
 #include "windows/FormContextForTests.h"
@@ -54,18 +54,18 @@ TEST_F(FormLayoutTest, AnotherLayoutKeepsTheCornerAndHidesWhatItDoesNotName) {
   form.UseLayout(1);
   EXPECT_EQ(PlaceOf(form.Window()), (PixelRect{30, 40, 470, 190}));
   EXPECT_EQ(PlaceInForm(form, DemoForm::kPush), (PixelRect{20, 20, 150, 50}));
-  EXPECT_TRUE(FormImplOf(form.Window())->Find(DemoForm::kPush)->shown);
-  EXPECT_FALSE(FormImplOf(form.Window())->Find(DemoForm::kPush + 1)->shown);
+  EXPECT_TRUE(FormWindow::Of(form.Window())->Controls().Find(DemoForm::kPush)->shown);
+  EXPECT_FALSE(FormWindow::Of(form.Window())->Controls().Find(DemoForm::kPush + 1)->shown);
   EXPECT_EQ(BoundsOfOutline(form.Window()).right, 440);
   form.UseLayout(0);
   EXPECT_EQ(PlaceOf(form.Window()), (PixelRect{30, 40, 1010, 800}));
   EXPECT_EQ(PlaceInForm(form, DemoForm::kPush), (PixelRect{130, 64, 260, 94}));
-  EXPECT_TRUE(FormImplOf(form.Window())->Find(DemoForm::kPush + 1)->shown);
+  EXPECT_TRUE(FormWindow::Of(form.Window())->Controls().Find(DemoForm::kPush + 1)->shown);
 }
 
 TEST_F(FormLayoutTest, TakesAnotherDpiWithAllItsParts) {
   form.UseLayout(1);
-  const LONG fontBefore = FormImplOf(form.Window())->painter->LineHeight(TextStyle::Body);
+  const LONG fontBefore = FormWindow::Of(form.Window())->Theme().LineHeight(TextStyle::Body);
   SendDpi(form, 144, 7, 9);
   EXPECT_EQ(PlaceOf(form.Window()), (PixelRect{7, 9, 667, 234}));
   EXPECT_EQ(PlaceInForm(form, DemoForm::kPush), (PixelRect{30, 30, 225, 75}));
@@ -76,16 +76,16 @@ TEST_F(FormLayoutTest, TakesAnotherDpiWithAllItsParts) {
   ASSERT_NE(GetObjectW(handle, sizeof(font), &font), 0)
       << "the old font is gone, the control has the new one";
   EXPECT_EQ(font.lfHeight, -18);
-  EXPECT_GT(FormImplOf(form.Window())->painter->LineHeight(TextStyle::Body), fontBefore);
+  EXPECT_GT(FormWindow::Of(form.Window())->Theme().LineHeight(TextStyle::Body), fontBefore);
   const PixelRect edit = PlaceInForm(form, DemoForm::kEdit);
-  EXPECT_GE(edit.Height(), FormImplOf(form.Window())->painter->LineHeight(TextStyle::Body));
+  EXPECT_GE(edit.Height(), FormWindow::Of(form.Window())->Theme().LineHeight(TextStyle::Body));
   EXPECT_GE(edit.top, 90);
   EXPECT_LE(edit.bottom, 132) << "inside its glass";
 }
 
 TEST_F(FormLayoutTest, CombosAreAsHighAsTheirPlace) {
   for (const int dpi : {96, 120, 144, 192}) {
-    FormImplOf(form.Window())->UseDpi(dpi, FormImpl::Fit::No);
+    FormWindow::Of(form.Window())->UseDpi(dpi, FormWindow::Fit::No);
     EXPECT_EQ(PlaceInForm(form, DemoForm::kCombo).Height(), ScaleToDpi(412 + 28, dpi) - ScaleToDpi(412, dpi))
         << dpi;
     EXPECT_EQ(PlaceInForm(form, DemoForm::kSearch).Height(), ScaleToDpi(464 + 28, dpi) - ScaleToDpi(464, dpi))
@@ -99,7 +99,7 @@ TEST_F(FormLayoutTest, GrowsByATextWithItsOutline) {
   EXPECT_EQ(PlaceOf(form.Window()).Height(), 150) << "it fits";
   form.state.SetTextAndGrow("One line\nand another\nand a third\nand a fourth");
   const int height = PlaceOf(form.Window()).Height();
-  const int lines = 4 * FormImplOf(form.Window())->painter->LineHeight(TextStyle::Body);
+  const int lines = 4 * FormWindow::Of(form.Window())->Theme().LineHeight(TextStyle::Body);
   EXPECT_EQ(height, 150 - 30 + lines) << "of the layout, not of the design";
   EXPECT_EQ(BoundsOfOutline(form.Window()), (PixelRect{0, 0, 440, height}));
   EXPECT_EQ(PlaceInForm(form, DemoForm::kPush), (PixelRect{20, 20, 150, 50})) << "anchored to the top left";
@@ -119,8 +119,8 @@ TEST_F(FormLayoutTest, SurvivesAnOutlineFarBeyondTheWindow) {
 }
 
 TEST_F(FormLayoutTest, ShowsPanesTogether) {
-  FormImpl& parts = *FormImplOf(form.Window());
-  ControlInstance* key = parts.Find(DemoForm::kToggle);
+  FormWindow& parts = *FormWindow::Of(form.Window());
+  ControlInstance* key = parts.Controls().Find(DemoForm::kToggle);
   form.ShowPane(3, false);
   EXPECT_FALSE(key->shown);
   form.toggle[0].Show();

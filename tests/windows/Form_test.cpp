@@ -8,7 +8,7 @@
 #include <stdexcept>
 
 #include "forms/ControlIds.h"
-#include "forms/FormImpl.h"
+#include "forms/FormWindow.h"
 #include "windows/DemoFormTest.h"
 
 namespace sonaro {
@@ -55,9 +55,9 @@ TEST_F(FormTest, TipsBelongToWhatThePointerReaches) {
     EXPECT_TRUE(HasTip(control->Window()));
     PressKey(VK_TAB);
     EXPECT_NE(form.FocusedControl(), std::exchange(focused, form.FocusedControl())) << "still a form";
-    FormImplOf(form.Window())->UseDpi(120);
+    FormWindow::Of(form.Window())->UseDpi(120);
     EXPECT_TRUE(HasTip(control->Window())) << "at its new place";
-    FormImplOf(form.Window())->UseDpi(96);
+    FormWindow::Of(form.Window())->UseDpi(96);
     control->SetTip("");
     EXPECT_FALSE(HasTip(control->Window()));
   }

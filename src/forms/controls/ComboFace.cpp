@@ -3,7 +3,7 @@
 #include <algorithm>
 
 #include "forms/Dpi.h"
-#include "forms/FormImpl.h"
+#include "forms/FormWindow.h"
 #include "forms/Guard.h"
 #include "forms/WideText.h"
 
@@ -41,8 +41,7 @@ void PlaceEdit(HWND combo, const Painter& painter) {
   SendMessageW(edit, EM_SETMARGINS, EC_LEFTMARGIN | EC_RIGHTMARGIN, 0);
 }
 
-void PaintFace(const FormImpl& parts, const ControlInstance& item, HDC dc) {
-  const Painter& painter = *parts.painter;
+void PaintFace(const Painter& painter, const ControlInstance& item, HDC dc) {
   const FaceplateColors& colors = painter.Colors();
   const bool enabled = IsWindowEnabled(item.window) != FALSE;
   RECT box{};
@@ -69,12 +68,12 @@ void PaintFace(const FormImpl& parts, const ControlInstance& item, HDC dc) {
   }
 }
 
-void PaintFrameOfList(const FormImpl& parts, HWND list) {
+void PaintFrameOfList(const Painter& painter, HWND list) {
   const HDC dc = GetWindowDC(list);
   RECT box{};
   GetWindowRect(list, &box);
   OffsetRect(&box, -box.left, -box.top);
-  parts.painter->Frame(dc, box, parts.painter->Colors().focus, 1);
+  painter.Frame(dc, box, painter.Colors().focus, 1);
   ReleaseDC(list, dc);
 }
 
@@ -95,14 +94,14 @@ void FitRows(HWND list, HWND combo, WINDOWPOS& pos) {
 }
 
 LRESULT CALLBACK ListProcedure(HWND list, UINT message, WPARAM wParam, LPARAM lParam, UINT_PTR combo,
-                               DWORD_PTR parts) noexcept {
+                               DWORD_PTR form) noexcept {
   return Guarded(0, [&]() -> LRESULT {
     if (message == WM_NCDESTROY) RemoveWindowSubclass(list, ListProcedure, combo);
     if (message == WM_WINDOWPOSCHANGING) {
       FitRows(list, reinterpret_cast<HWND>(combo), *reinterpret_cast<WINDOWPOS*>(lParam));
     }
     const LRESULT answer = DefSubclassProc(list, message, wParam, lParam);
-    if (message == WM_NCPAINT) PaintFrameOfList(*reinterpret_cast<FormImpl*>(parts), list);
+    if (message == WM_NCPAINT) PaintFrameOfList(reinterpret_cast<const FormWindow*>(form)->Theme(), list);
     return answer;
   });
 }
@@ -118,8 +117,7 @@ std::wstring ComboRowText(HWND combo, int row) {
   return text;
 }
 
-LRESULT HandleComboMessage(FormImpl& parts, const ControlInstance& item, UINT message, WPARAM wParam,
-                           LPARAM lParam) {
+LRESULT HandleComboMessage(const ControlInstance& item, UINT message, WPARAM wParam, LPARAM lParam) {
   const HWND combo = item.window;
   if (message == WM_ERASEBKGND) return 1;
   if (message == WM_PAINT) {
@@ -129,18 +127,18 @@ LRESULT HandleComboMessage(FormImpl& parts, const ControlInstance& item, UINT me
     GetClientRect(combo, &box);
     {
       const BufferedPaint buffer(dc, box);
-      PaintFace(parts, item, buffer.Dc());
+      PaintFace(item.form->Theme(), item, buffer.Dc());
     }
     EndPaint(combo, &paint);
     return 0;
   }
   const LRESULT answer = CallControl(item, message, wParam, lParam);
-  if (!parts.window) return answer;
+  if (!item.form->Window()) return answer;
   switch (message) {
     case WM_SIZE:
     case WM_SETFONT:
     case CB_SETITEMHEIGHT:
-      PlaceEdit(combo, *parts.painter);
+      PlaceEdit(combo, item.form->Theme());
       break;
     case WM_SETFOCUS:
     case WM_KILLFOCUS:
@@ -160,15 +158,14 @@ LRESULT HandleComboMessage(FormImpl& parts, const ControlInstance& item, UINT me
   return answer;
 }
 
-void AttachCombo(FormImpl& parts, ControlInstance& item) {
+void AttachCombo(const ControlInstance& item) {
   const COMBOBOXINFO info = InfoOf(item.window);
   if (!info.hwndList) return;
   SetWindowSubclass(info.hwndList, ListProcedure, reinterpret_cast<UINT_PTR>(item.window),
-                    reinterpret_cast<DWORD_PTR>(&parts));
+                    reinterpret_cast<DWORD_PTR>(item.form));
 }
 
-void SizeCombo(FormImpl& parts, ControlInstance& item) {
-  const Painter& painter = *parts.painter;
+void SizeCombo(const Painter& painter, const ControlInstance& item) {
   const int height = item.place.Height();
   SendMessageW(item.window, CB_SETMINVISIBLE, kRowsShown, 0);
   SendMessageW(item.window, CB_SETITEMHEIGHT, 0, painter.Px(kRowHeight));
@@ -184,8 +181,7 @@ void SizeCombo(FormImpl& parts, ControlInstance& item) {
   PlaceEdit(item.window, painter);
 }
 
-void PaintComboRow(const FormImpl& parts, const DRAWITEMSTRUCT& draw) {
-  const Painter& painter = *parts.painter;
+void PaintComboRow(const Painter& painter, const DRAWITEMSTRUCT& draw) {
   const FaceplateColors& colors = painter.Colors();
   if ((draw.itemState & ODS_COMBOBOXEDIT) != 0) {
     InvalidateRect(draw.hwndItem, nullptr, FALSE);  // the face is painted as a whole

@@ -1,6 +1,6 @@
 // What every control of a form does besides its class's own work: tell when the pointer is over it, repaint
 // when its state or text changes, paint itself where the class has no owner drawing.
-#include "forms/FormImpl.h"
+#include "forms/FormWindow.h"
 #include "forms/Guard.h"
 
 namespace sonaro {
@@ -10,20 +10,20 @@ bool IsDrawn(ControlKind kind) {
   return IsText(kind) || IsButton(kind) || IsCheck(kind) || kind == ControlKind::Picture;
 }
 
-void TrackPointer(ControlInstance& item, FormImpl& parts) {
+void TrackPointer(ControlInstance& item, FormWindow& form) {
   if (item.hover) return;
   item.hover = true;
   TRACKMOUSEEVENT track = {sizeof(track), TME_LEAVE, item.window, 0};
   TrackMouseEvent(&track);
-  parts.RepaintItem(item);
+  form.Paint().Repaint(item);
 }
 
-void PaintInWindow(FormImpl& parts, const ControlInstance& item) {
+void PaintInWindow(FormWindow& form, const ControlInstance& item) {
   PAINTSTRUCT paint{};
   const HDC dc = BeginPaint(item.window, &paint);
   RECT box{};
   GetClientRect(item.window, &box);
-  parts.PaintItem(item, dc, box);
+  form.Paint().PaintControl(item, dc, box);
   EndPaint(item.window, &paint);
 }
 
@@ -43,16 +43,16 @@ bool ChangesAppearance(UINT message) {
   }
 }
 
-void AfterChange(FormImpl& parts, const ControlInstance& item, UINT message) {
+void AfterChange(FormWindow& form, const ControlInstance& item, UINT message) {
   if (IsDrawn(item.KindOf())) {
-    parts.RepaintItem(item);
+    form.Paint().Repaint(item);
   } else if (IsEdit(item.KindOf()) && message != WM_SETTEXT) {
     const RECT box = {item.place.left, item.place.top, item.place.right, item.place.bottom};
-    InvalidateRect(parts.window, &box, FALSE);
+    InvalidateRect(form.Window(), &box, FALSE);
   }
   // A label's text is a request from outside when the program did not set it itself.
-  if (message == WM_SETTEXT && item.KindOf() == ControlKind::Label && !parts.quiet) {
-    parts.Handle({.id = item.Id(), .kind = FormEvent::Kind::Change});
+  if (message == WM_SETTEXT && item.KindOf() == ControlKind::Label && !form.Controls().IsQuiet()) {
+    form.Handle({.id = item.Id(), .kind = FormEvent::Kind::Change});
   }
   if (message == WM_SETTEXT && item.KindOf() == ControlKind::StateLabel) {
     constexpr DWORD kLiveRegionChanged = 0x8019;
@@ -60,24 +60,24 @@ void AfterChange(FormImpl& parts, const ControlInstance& item, UINT message) {
   }
 }
 
-LRESULT HandleControlMessage(FormImpl& parts, ControlInstance& item, UINT message, WPARAM wParam,
+LRESULT HandleControlMessage(FormWindow& form, ControlInstance& item, UINT message, WPARAM wParam,
                              LPARAM lParam) {
   const HWND window = item.window;
   const ControlKind kind = item.KindOf();
   switch (message) {
     case WM_MOUSEMOVE:
-      if (IsButton(kind) || IsCheck(kind)) TrackPointer(item, parts);
+      if (IsButton(kind) || IsCheck(kind)) TrackPointer(item, form);
       break;
     case WM_MOUSELEAVE:
       item.hover = false;
-      parts.RepaintItem(item);
+      form.Paint().Repaint(item);
       break;
     case WM_ERASEBKGND:
       if (IsDrawn(kind)) return 1;
       break;
     case WM_PAINT:
       if (!IsToggle(kind) && !IsCheck(kind)) break;
-      PaintInWindow(parts, item);
+      PaintInWindow(form, item);
       return 0;
     case BM_SETSTYLE:
       // The dialog keyboard makes the focused button the default one by giving it another button style, which
@@ -96,10 +96,11 @@ LRESULT HandleControlMessage(FormImpl& parts, ControlInstance& item, UINT messag
   // A label's class would draw a new text at once, in its own way.
   const LRESULT answer = message == WM_SETTEXT && IsText(kind)
                              ? DefWindowProcW(window, message, wParam, lParam)
-                         : IsCombo(kind) ? HandleComboMessage(parts, item, message, wParam, lParam)
+                         : IsCombo(kind) ? HandleComboMessage(item, message, wParam, lParam)
                                          : CallControl(item, message, wParam, lParam);
-  if (item.bar && message == WM_PAINT && parts.window) UpdateLinesBar(parts, item);
-  if (ChangesAppearance(message) && parts.window) AfterChange(parts, item, message);
+  if (item.bar && message == WM_PAINT && form.Window())
+    item.bar->Update(form.Theme().LineHeight(TextStyleOf(*item.row)));
+  if (ChangesAppearance(message) && form.Window()) AfterChange(form, item, message);
   return answer;
 }
 
@@ -107,8 +108,7 @@ LRESULT CALLBACK ControlProcedure(HWND window, UINT message, WPARAM wParam, LPAR
   return Guarded(0, [&]() -> LRESULT {
     auto& item = *reinterpret_cast<ControlInstance*>(GetWindowLongPtrW(window, GWLP_USERDATA));
     if (message == WM_NCDESTROY) return CallWindowProcW(item.original, window, message, wParam, lParam);
-    const auto kept = item.parts->shared_from_this();
-    return HandleControlMessage(*kept, item, message, wParam, lParam);
+    return HandleControlMessage(*item.form, item, message, wParam, lParam);
   });
 }
 
@@ -120,8 +120,7 @@ LRESULT CallControl(const ControlInstance& item, UINT message, WPARAM wParam, LP
 
 // Not by SetWindowSubclass: it looks up a property of the window for every message, which on some systems
 // costs more than the message.
-void WatchControl(FormImpl& parts, ControlInstance& item) {
-  item.parts = &parts;
+void WatchControl(ControlInstance& item) {
   SetWindowLongPtrW(item.window, GWLP_USERDATA, reinterpret_cast<LONG_PTR>(&item));
   item.original = reinterpret_cast<WNDPROC>(
       SetWindowLongPtrW(item.window, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(&ControlProcedure)));

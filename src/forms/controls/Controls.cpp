@@ -4,7 +4,7 @@
 #include <stdexcept>
 #include <utility>
 
-#include "forms/FormImpl.h"
+#include "forms/FormWindow.h"
 #include "forms/WideText.h"
 #include "forms/controls/ListView.h"
 #include "forms/controls/ProgressScale.h"
@@ -16,10 +16,11 @@ namespace {
 
 // Something that the control is painted from.
 template <class T>
-void Change(FormImpl& parts, ControlInstance* item, T ControlInstance::*what, std::type_identity_t<T> value) {
+void Change(FormWindow& form, ControlInstance* item, T ControlInstance::*what,
+            std::type_identity_t<T> value) {
   if (!item || item->*what == value) return;
   item->*what = std::move(value);
-  parts.RepaintItem(*item);
+  form.Paint().Repaint(*item);
 }
 
 // A number of another kind is a mistake in the form's own code: the cast throws, and the window goes on.
@@ -40,7 +41,7 @@ ControlHandle::ControlHandle(Form& form, int id, std::initializer_list<ControlKi
                          " of the kind that its member says");
 }
 
-ControlInstance* ControlHandle::Item() const { return Parts().Find(id_); }
+ControlInstance* ControlHandle::Item() const { return Inside().Controls().Find(id_); }
 
 HWND ControlHandle::Window() const {
   const ControlInstance* item = Item();
@@ -56,14 +57,14 @@ void ControlHandle::Show(bool shown) const {
   ControlInstance* item = Item();
   if (!item || item->wanted == shown) return;
   item->wanted = shown;
-  Parts().ShowOrHide(*item);
+  Inside().Controls().ShowOrHide(*item);
 }
 
 void ControlHandle::Enable(bool enabled) const {
   const HWND window = Window();
   if (!window || (IsWindowEnabled(window) != FALSE) == enabled) return;
   // A disabled control that keeps the focus would swallow every key.
-  if (!enabled && HasFocus()) SendMessageW(Parts().window, WM_NEXTDLGCTL, 0, FALSE);
+  if (!enabled && HasFocus()) SendMessageW(Inside().Window(), WM_NEXTDLGCTL, 0, FALSE);
   EnableWindow(window, enabled);
 }
 
@@ -73,22 +74,22 @@ bool ControlHandle::IsEnabled() const {
 }
 
 void ControlHandle::Focus() const {
-  if (const ControlInstance* item = Item()) Parts().FocusOn(*item);
+  if (const ControlInstance* item = Item()) Inside().Keys().FocusOn(*item);
 }
 
 bool ControlHandle::HasFocus() const {
   const ControlInstance* item = Item();
-  return item && Parts().Focused() == item;
+  return item && Inside().Keys().Focused() == item;
 }
 
 void ControlHandle::SetTip(std::string_view text) const {
-  if (ControlInstance* item = Item()) Parts().SetTip(*item, std::string(text));
+  if (ControlInstance* item = Item()) Inside().Controls().SetTip(*item, std::string(text));
 }
 
-void ControlHandle::SetIconTo(Icon icon) const { Change(Parts(), Item(), &ControlInstance::icon, icon); }
+void ControlHandle::SetIconTo(Icon icon) const { Change(Inside(), Item(), &ControlInstance::icon, icon); }
 
 void ControlHandle::SetDetailTo(std::string_view text) const {
-  Change(Parts(), Item(), &ControlInstance::detail, std::string(text));
+  Change(Inside(), Item(), &ControlInstance::detail, std::string(text));
 }
 
 std::string TextControl::Text() const {
@@ -101,15 +102,18 @@ void TextControl::SetText(std::string_view text) const {
   if (!window) return;
   const std::wstring wide = Widen(text);
   if (TextOfWindow(window) == wide) return;  // an edit keeps its caret, a label does not flicker
-  const Quietly quietly(Parts().quiet);
+  const ControlSet::Quiet quiet(Inside().Controls());
   SetWindowTextW(window, wide.c_str());
 }
 
-void Label::SetColor(TextColor color) const { Change(Parts(), Item(), &ControlInstance::color, color); }
+void Label::SetColor(TextColor color) const { Change(Inside(), Item(), &ControlInstance::color, color); }
 
 void Label::SetTextAndGrow(std::string_view text) const {
   SetText(text);
-  if (const ControlInstance* item = Item()) Parts().GrowFor(*item, text);
+  const ControlInstance* item = Item();
+  if (!item) return;
+  Inside().Controls().GrowFor(*item, text);
+  Inside().Resize();
 }
 
 void Button::PopUpMenu(std::span<const MenuEntry> entries) const {
@@ -117,19 +121,21 @@ void Button::PopUpMenu(std::span<const MenuEntry> entries) const {
   if (GetWindowRect(Window(), &box)) form_->PopUpMenu(entries, {box.left, box.bottom});
 }
 
-void ColumnButton::SetSortMark(SortMark mark) const { Change(Parts(), Item(), &ControlInstance::sort, mark); }
+void ColumnButton::SetSortMark(SortMark mark) const {
+  Change(Inside(), Item(), &ControlInstance::sort, mark);
+}
 
 void ActiveControl::SetActive(bool active) const {
   if (IsActive() == active) return;
   Send(BM_SETCHECK, active ? BST_CHECKED : BST_UNCHECKED);
   const ControlInstance* item = Item();
-  if (active && item && item->KindOf() == ControlKind::TabButton) Parts().MoveNeedle(*item);
+  if (active && item && item->KindOf() == ControlKind::TabButton) Inside().Needle().MoveTo(*item);
 }
 
 bool ActiveControl::IsActive() const { return Send(BM_GETCHECK) == BST_CHECKED; }
 
 void GroupButton::SetEmptySocket(bool empty) const {
-  Change(Parts(), Item(), &ControlInstance::emptySocket, empty);
+  Change(Inside(), Item(), &ControlInstance::emptySocket, empty);
 }
 
 void CheckBox::Check(bool checked) const { Send(BM_SETCHECK, checked ? BST_CHECKED : BST_UNCHECKED); }
@@ -138,7 +144,7 @@ bool CheckBox::IsChecked() const { return Send(BM_GETCHECK) == BST_CHECKED; }
 void RadioButton::Check() const {
   const ControlInstance* item = Item();
   if (!item) return;
-  for (const ControlInstance& other : Parts().GroupOf(*item)) {
+  for (const ControlInstance& other : Inside().Keys().GroupOf(*item)) {
     SendMessageW(other.window, BM_SETCHECK, &other == item ? BST_CHECKED : BST_UNCHECKED, 0);
   }
 }
@@ -154,7 +160,7 @@ void ComboBox::AddItem(std::string_view text, int data) const {
 }
 
 void ComboBox::ClearItems() const {
-  const Quietly quietly(Parts().quiet);
+  const ControlSet::Quiet quiet(Inside().Controls());
   const ControlInstance* item = Item();
   const std::string typed = item && item->KindOf() == ControlKind::ComboEdit ? Text() : std::string();
   Send(CB_RESETCONTENT);
@@ -176,7 +182,7 @@ int ComboBox::ItemData(int row) const {
 int ComboBox::SelectedItem() const { return Window() ? static_cast<int>(Send(CB_GETCURSEL)) : -1; }
 
 void ComboBox::SelectItem(int row) const {
-  const Quietly quietly(Parts().quiet);
+  const ControlSet::Quiet quiet(Inside().Controls());
   Send(CB_SETCURSEL, static_cast<WPARAM>(row));
 }
 
@@ -203,7 +209,7 @@ void MonthCalendar::SetDate(const SYSTEMTIME& date) const {
 }
 
 void Picture::SetPainter(PicturePainter paint) const {
-  Change(Parts(), Item(), &ControlInstance::picture, paint);
+  Change(Inside(), Item(), &ControlInstance::picture, paint);
 }
 
 ListView& ListHandle::operator*() const { return ViewOf<ListView>(Item()); }

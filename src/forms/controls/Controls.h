@@ -41,8 +41,8 @@ class ControlHandle {
  protected:
   ControlHandle(Form& form, int id, std::initializer_list<ControlKind> kinds);
 
-  FormImpl& Parts() const { return *form_->parts_; }
-  ControlInstance* Item() const;  // nullptr while the form is not open
+  FormWindow& Inside() const { return *form_->window_; }
+  ControlInstance* Item() const;  // nullptr before the form was open
   LRESULT Send(UINT message, WPARAM wParam = 0, LPARAM lParam = 0) const;
   void SetIconTo(Icon icon) const;
   void SetDetailTo(std::string_view text) const;

@@ -36,8 +36,8 @@ void RegisterOnce(WNDPROC procedure) {
 
 }  // namespace
 
-ScrollBar::ScrollBar(HWND form, FormServices& services, std::function<void(int first)> scrollTo)
-    : services_(services), scrollTo_(std::move(scrollTo)) {
+ScrollBar::ScrollBar(HWND form, FormServices& services, ScrollTarget& target)
+    : services_(services), target_(target) {
   RegisterOnce(&ScrollBar::Procedure);
   window_ = CreateWindowExW(0, kClass, L"", WS_CHILD | WS_CLIPSIBLINGS, 0, 0, 0, 0, form, nullptr,
                             GetModuleHandleW(nullptr), nullptr);
@@ -209,7 +209,7 @@ void ScrollBar::Release() {
 
 void ScrollBar::ScrollTo(int first) {
   first = std::clamp(first, 0, std::max(0, range_.total - range_.page));
-  if (first != range_.first) scrollTo_(first);
+  if (first != range_.first) target_.ScrollTo(first);
 }
 
 }  // namespace sonaro

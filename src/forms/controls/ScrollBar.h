@@ -5,11 +5,18 @@
 
 #include <windows.h>
 
-#include <functional>
-
 #include "forms/controls/FormControl.h"
 
 namespace sonaro {
+
+// The view that a bar scrolls.
+class ScrollTarget {
+ public:
+  virtual void ScrollTo(int first) = 0;  // the row that should be at the top
+
+ protected:
+  ~ScrollTarget() = default;
+};
 
 class ScrollBar {
  public:
@@ -22,8 +29,7 @@ class ScrollBar {
     bool operator==(const Range&) const = default;
   };
 
-  // `scrollTo` is given the row that should be at the top.
-  ScrollBar(HWND form, FormServices& services, std::function<void(int first)> scrollTo);
+  ScrollBar(HWND form, FormServices& services, ScrollTarget& target);
   ~ScrollBar();
   ScrollBar(const ScrollBar&) = delete;
   ScrollBar& operator=(const ScrollBar&) = delete;
@@ -51,7 +57,7 @@ class ScrollBar {
   void ScrollTo(int first);
 
   FormServices& services_;
-  std::function<void(int)> scrollTo_;
+  ScrollTarget& target_;
   HWND window_ = nullptr;
   Range range_;
   bool shown_ = true;

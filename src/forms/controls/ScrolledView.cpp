@@ -6,7 +6,7 @@
 namespace sonaro {
 
 ScrolledView::ScrolledView(HWND form, int id, FormServices& services, const wchar_t* windowClass, DWORD style)
-    : services_(services), id_(id), bar_(form, services, [this](int first) { ScrollTo(first); }) {
+    : services_(services), id_(id), bar_(form, services, *this) {
   window_ =
       CreateWindowExW(0, windowClass, L"", WS_CHILD | WS_TABSTOP | WS_CLIPSIBLINGS | style, 0, 0, 0, 0, form,
                       reinterpret_cast<HMENU>(static_cast<INT_PTR>(id)), GetModuleHandleW(nullptr), nullptr);

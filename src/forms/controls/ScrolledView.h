@@ -9,7 +9,7 @@
 
 namespace sonaro {
 
-class ScrolledView : public FormControl {
+class ScrolledView : public FormControl, private ScrollTarget {
  public:
   ScrolledView(const ScrolledView&) = delete;
   ScrolledView& operator=(const ScrolledView&) = delete;
@@ -29,7 +29,6 @@ class ScrolledView : public FormControl {
   // A message of the window; what the derived class does not deal with goes to PassOn.
   virtual LRESULT Handle(UINT message, WPARAM wParam, LPARAM lParam) = 0;
   virtual void SyncScrollBar() = 0;  // the view has scrolled, or has more or fewer rows
-  virtual void ScrollTo(int first) = 0;
   LRESULT PassOn(UINT message, WPARAM wParam, LPARAM lParam) {
     return DefSubclassProc(window_, message, wParam, lParam);
   }

@@ -1,0 +1,210 @@
+#include "forms/ControlSet.h"
+
+#include <windows.h>
+
+#include <commctrl.h>
+#include <uxtheme.h>
+
+#include <algorithm>
+
+#include "forms/Dpi.h"
+#include "forms/FormWindow.h"
+#include "forms/WideText.h"
+#include "forms/controls/ToolTips.h"
+#include "platform/SystemFunction.h"
+
+namespace sonaro {
+namespace {
+
+// A themed calendar ignores colours. The title's ground is also that of the chosen day, on which the month's
+// ground is the text, and the colour of the weekdays.
+void ColourCalendar(HWND calendar, const FaceplateColors& colors) {
+  static const auto setTheme =
+      reinterpret_cast<decltype(&SetWindowTheme)>(SystemFunction(L"uxtheme.dll", "SetWindowTheme"));
+  if (setTheme) setTheme(calendar, L"", L"");
+  MonthCal_SetColor(calendar, MCSC_BACKGROUND, ToColorRef(colors.glass));
+  MonthCal_SetColor(calendar, MCSC_MONTHBK, ToColorRef(colors.glass));
+  MonthCal_SetColor(calendar, MCSC_TEXT, ToColorRef(colors.glassText));
+  MonthCal_SetColor(calendar, MCSC_TITLEBK, ToColorRef(colors.accent));
+  MonthCal_SetColor(calendar, MCSC_TITLETEXT, ToColorRef(colors.onAccent));
+  MonthCal_SetColor(calendar, MCSC_TRAILINGTEXT, ToColorRef(colors.textOff));
+}
+
+// The control's window, which may be smaller than its place.
+RECT WindowBox(const ControlInstance& item, const Painter& painter) {
+  RECT box = ToRect(item.place);
+  if (IsCheck(item.KindOf())) box.left -= painter.Px(kMarkMargin);
+  if (HasLines(item.KindOf())) box.right -= painter.Px(ScrollBar::kDesignWidth);
+  if (!IsEdit(item.KindOf())) return box;
+  box.left += painter.Px(8);
+  box.right -= painter.Px(6);
+  if (item.KindOf() == ControlKind::Edit) {
+    // The font decides: a fixed inset would cut it off at some dpi.
+    const int height = painter.LineHeight(TextStyleOf(*item.row));
+    box.top += (box.bottom - box.top - height) / 2;
+    box.bottom = box.top + height;
+  } else {
+    box.top += painter.Px(6);
+    box.bottom -= painter.Px(6);
+  }
+  return box;
+}
+
+}  // namespace
+
+void ControlSet::Reset() {
+  layout_ = 0;
+  grown_ = {};
+  hiddenPanes_.reset();
+}
+
+void ControlSet::Forget() {
+  window_ = nullptr;
+  tips_ = nullptr;
+  for (ControlInstance& item : items_) item.window = nullptr;
+}
+
+ControlInstance* ControlSet::Find(int id) {
+  if (id == 0) return nullptr;
+  for (ControlInstance& item : items_) {
+    if (item.Id() == id) return &item;
+  }
+  return nullptr;
+}
+
+ControlInstance* ControlSet::Find(HWND control) {
+  while (control && control != window_ && GetParent(control) != window_) control = GetParent(control);
+  if (!control || control == window_) return nullptr;
+  for (ControlInstance& item : items_) {
+    if (item.Window() == control) return &item;
+  }
+  return nullptr;
+}
+
+ControlInstance* ControlSet::FirstShown(std::initializer_list<int> ids) {
+  for (const int id : ids) {
+    if (ControlInstance* item = Find(id); item && item->shown) return item;
+  }
+  return nullptr;
+}
+
+void ControlSet::SetLayout(int layout) {
+  layout_ = layout;
+  grown_ = {};
+}
+
+DesignSize ControlSet::Size() const { return grown_.width > 0 ? grown_ : SizeOf(design_, layout_); }
+
+void ControlSet::GrowFor(const ControlInstance& label, std::string_view text) {
+  const DesignRect* at = BoundsIn(design_, layout_, *label.row);
+  if (!at) return;
+  const Painter asDesigned(FaceplateColors{}, 96);
+  const int needed = asDesigned.WrappedHeight(Widen(text), TextStyleOf(*label.row), at->width);
+  const DesignSize size = SizeOf(design_, layout_);
+  grown_ = {size.width, size.height + std::max(0, needed - at->height)};
+}
+
+void ControlSet::Place(const Painter& painter) {
+  const DesignSize made = SizeOf(design_, layout_);
+  const PixelSize client = ScaleToDpi(Size(), painter.Dpi());
+  for (ControlInstance& item : items_) {
+    if (const DesignRect* at = BoundsIn(design_, layout_, *item.row)) {
+      item.place = Arrange(*at, item.row->anchors, made, client, painter.Dpi());
+      PlaceWindow(item, painter);
+    }
+    ShowOrHide(item);
+  }
+}
+
+void ControlSet::PlaceWindow(ControlInstance& item, const Painter& painter) {
+  const RECT box = WindowBox(item, painter);
+  if (item.view) return item.view->MoveTo(box);
+  if (!item.window) return;
+  if (IsCombo(item.KindOf())) return SizeCombo(painter, item);
+  SetWindowPos(item.window, nullptr, box.left, box.top, box.right - box.left, box.bottom - box.top,
+               SWP_NOZORDER | SWP_NOACTIVATE | SWP_NOCOPYBITS);
+  if (item.bar) {
+    RECT glass = ToRect(item.place);
+    if (IsEdit(item.KindOf())) InflateRect(&glass, -painter.Line(), -painter.Line());
+    item.bar->MoveTo(glass, painter.Px(ScrollBar::kDesignWidth));
+    item.bar->Update(painter.LineHeight(TextStyleOf(*item.row)));
+  }
+  if (tips_ && IsText(item.KindOf())) {
+    TTTOOLINFOW tool = ToolOf(item);
+    SendMessageW(tips_, TTM_NEWTOOLRECTW, 0, reinterpret_cast<LPARAM>(&tool));
+  }
+}
+
+void ControlSet::ShowOrHide(ControlInstance& item) {
+  const bool wasShown = item.shown;
+  item.shown =
+      item.wanted && !hiddenPanes_[item.row->pane] && BoundsIn(design_, layout_, *item.row) != nullptr;
+  // The system leaves the focus on a control that is hidden, where it swallows every key.
+  if (!item.shown && Find(GetFocus()) == &item) SendMessageW(window_, WM_NEXTDLGCTL, 0, FALSE);
+  if (item.view) {
+    item.view->SetShown(item.shown);
+  } else if (item.window) {
+    ShowWindow(item.window, item.shown ? SW_SHOWNA : SW_HIDE);
+    if (item.bar) item.bar->SetShown(item.shown);
+  }
+  if (wasShown == item.shown || !window_) return;
+  if (IsDecoration(item.KindOf())) form_.Paint().DiscardGround();
+  if (!item.window || IsEdit(item.KindOf())) {
+    RECT box = ToRect(item.place);
+    InflateRect(&box, 2, 2);
+    RedrawWindow(window_, &box, nullptr, RDW_INVALIDATE | RDW_ALLCHILDREN);
+  }
+}
+
+void ControlSet::ShowPane(int pane, bool shown) {
+  const auto index = static_cast<std::size_t>(pane);
+  if (pane <= 0 || index >= hiddenPanes_.size() || hiddenPanes_[index] == !shown) return;
+  hiddenPanes_[index] = !shown;
+  for (ControlInstance& item : items_) {
+    if (item.row->pane == pane) ShowOrHide(item);
+  }
+}
+
+void ControlSet::TakeTheme(const Painter& painter) {
+  for (ControlInstance& item : items_) {
+    if (item.view) item.view->ThemeChanged();
+    if (!item.window) continue;
+    SendMessageW(item.window, WM_SETFONT, reinterpret_cast<WPARAM>(painter.Font(TextStyleOf(*item.row))),
+                 FALSE);
+    if (IsEdit(item.KindOf()) || item.KindOf() == ControlKind::ReadOnlyText) {
+      SendMessageW(item.window, EM_SETMARGINS, EC_LEFTMARGIN | EC_RIGHTMARGIN, 0);
+    }
+    if (item.KindOf() == ControlKind::MonthCalendar) ColourCalendar(item.window, painter.Colors());
+  }
+}
+
+// A label is known to the tips by its number and its place in the form, since the mouse goes through it;
+// every other control by its window.
+TTTOOLINFOW ControlSet::ToolOf(const ControlInstance& item) const {
+  TTTOOLINFOW tool{};
+  tool.cbSize = TTTOOLINFOW_V1_SIZE;
+  tool.hwnd = window_;
+  if (IsText(item.KindOf())) {
+    tool.uId = static_cast<UINT_PTR>(item.Id());
+    tool.rect = ToRect(item.place);
+  } else {
+    tool.uFlags = TTF_SUBCLASS | TTF_IDISHWND;
+    tool.uId = reinterpret_cast<UINT_PTR>(item.Window());
+  }
+  return tool;
+}
+
+void ControlSet::SetTip(ControlInstance& item, const std::string& text) {
+  if (!tips_) tips_ = MakeTips(window_);
+  std::wstring wide = Widen(text);
+  TTTOOLINFOW tool = ToolOf(item);
+  tool.lpszText = wide.data();
+  SendMessageW(tips_, TTM_DELTOOLW, 0, reinterpret_cast<LPARAM>(&tool));
+  if (!wide.empty()) SendMessageW(tips_, TTM_ADDTOOLW, 0, reinterpret_cast<LPARAM>(&tool));
+}
+
+void ControlSet::RelayToTips(UINT message, WPARAM wParam, LPARAM lParam) const {
+  RelayMouse(tips_, window_, message, wParam, lParam);
+}
+
+}  // namespace sonaro

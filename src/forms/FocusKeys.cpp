@@ -1,0 +1,175 @@
+#include "forms/FocusKeys.h"
+
+#include "forms/ControlIds.h"
+#include "forms/FormWindow.h"
+
+namespace sonaro {
+namespace {
+
+unsigned ModifiersDown() {
+  const auto down = [](int key) { return GetKeyState(key) < 0; };
+  unsigned modifiers = kPlain;
+  if (down(VK_SHIFT)) modifiers |= kShift;
+  if (down(VK_CONTROL)) modifiers |= kCtrl;
+  if (down(VK_MENU)) modifiers |= kAlt;
+  return modifiers;
+}
+
+bool IsInRun(int number, int first, int count) { return number >= first && number < first + count; }
+
+bool IsListOpen(const ControlInstance* focused) {
+  return focused && IsCombo(focused->KindOf()) &&
+         SendMessageW(focused->window, CB_GETDROPPEDSTATE, 0, 0) != 0;
+}
+
+// Alt with an arrow key opens and closes a list; not every system does it for drawn combos.
+bool OpensList(const ControlInstance* focused, const MSG& message) {
+  if (!focused || !IsCombo(focused->KindOf()) || message.message != WM_SYSKEYDOWN) return false;
+  if ((message.wParam != VK_DOWN && message.wParam != VK_UP) || ModifiersDown() != kAlt) return false;
+  SendMessageW(focused->window, CB_SHOWDROPDOWN, IsListOpen(focused) ? FALSE : TRUE, 0);
+  return true;
+}
+
+bool IsUsable(const ControlInstance& item) { return item.shown && IsWindowEnabled(item.window); }
+
+void SetTabStop(HWND control, bool stop) {
+  const LONG_PTR style = GetWindowLongPtrW(control, GWL_STYLE);
+  const LONG_PTR wanted = stop ? style | WS_TABSTOP : style & ~static_cast<LONG_PTR>(WS_TABSTOP);
+  if (wanted != style) SetWindowLongPtrW(control, GWL_STYLE, wanted);
+}
+
+}  // namespace
+
+void FocusKeys::BeginCues(const FormWindow* owner) {
+  BOOL cues = FALSE;
+  SystemParametersInfoW(SPI_GETKEYBOARDCUES, 0, &cues, 0);
+  showFocus_ = cues || (owner && owner->Keys().showFocus_);
+  showAccessKeys_ = cues || (owner && owner->Keys().showAccessKeys_);
+}
+
+void FocusKeys::ShowCues(bool focus, bool accessKeys) {
+  if ((showFocus_ || !focus) && (showAccessKeys_ || !accessKeys)) return;
+  showFocus_ = showFocus_ || focus;
+  showAccessKeys_ = showAccessKeys_ || accessKeys;
+  for (const ControlInstance& item : form_.Controls().All()) {
+    if (item.window && !IsEdit(item.KindOf())) InvalidateRect(item.window, nullptr, FALSE);
+  }
+}
+
+ControlInstance* FocusKeys::Focused() const { return form_.Controls().Find(GetFocus()); }
+
+void FocusKeys::FocusOn(const ControlInstance& item) {
+  if (!item.Window()) return;
+  focusGiven_ = true;
+  SendMessageW(form_.Window(), WM_NEXTDLGCTL, reinterpret_cast<WPARAM>(item.Window()), TRUE);
+}
+
+void FocusKeys::GiveFirstFocus() {
+  if (focusGiven_) return;
+  focusGiven_ = true;
+  UpdateTabStops();
+  const ControlInstance* item = form_.Controls().Find(form_.Design().firstFocus);
+  if (!item) item = ShownPrimary();
+  const HWND control = item ? item->Window() : GetNextDlgTabItem(form_.Window(), nullptr, FALSE);
+  if (control) SendMessageW(form_.Window(), WM_NEXTDLGCTL, reinterpret_cast<WPARAM>(control), TRUE);
+}
+
+std::span<ControlInstance> FocusKeys::GroupOf(const ControlInstance& item) const {
+  const std::span<ControlInstance> items = form_.Controls().All();
+  auto first = static_cast<std::size_t>(&item - items.data());
+  while (first > 0 && !items[first].groupStart) --first;
+  std::size_t last = first + 1;
+  while (last < items.size() && items[last].window && !items[last].groupStart) ++last;
+  return items.subspan(first, last - first);
+}
+
+ControlInstance* FocusKeys::ShownPrimary() const {
+  for (ControlInstance& item : form_.Controls().All()) {
+    if (item.KindOf() == ControlKind::PrimaryButton && IsUsable(item)) return &item;
+  }
+  return nullptr;
+}
+
+void FocusKeys::UpdateTabStops() {
+  const HWND focus = GetFocus();
+  const auto rank = [&](const ControlInstance& item) {
+    if (focus == item.window) return 2;  // Tab goes on from where the arrow keys have led
+    return SendMessageW(item.window, BM_GETCHECK, 0, 0) == BST_CHECKED ? 1 : 0;
+  };
+  const std::span<ControlInstance> items = form_.Controls().All();
+  for (std::size_t first = 0; first < items.size();) {
+    const std::span<ControlInstance> group = GroupOf(items[first]);
+    first += group.size();
+    if (group.size() < 2) continue;
+    const ControlInstance* stop = nullptr;
+    for (const ControlInstance& item : group) {
+      if (IsUsable(item) && (!stop || rank(item) > rank(*stop))) stop = &item;
+    }
+    for (const ControlInstance& item : group) SetTabStop(item.window, &item == stop);
+  }
+}
+
+bool FocusKeys::RunKey(MSG& message) {
+  NoteKeyboardUse(message);
+  const ControlInstance* focused = Focused();
+  const int key = static_cast<int>(message.wParam);
+  if (IsListOpen(focused) && (key == VK_RETURN || key == VK_ESCAPE)) return false;  // the list's own
+  if (OpensList(focused, message)) return true;
+  if (RunKeyTable(key, focused ? focused->Id() : 0)) return true;
+  if (key == VK_RETURN && message.message == WM_KEYDOWN) return RunEnter(focused, message);
+  if (key == VK_ESCAPE && message.message == WM_KEYDOWN) {
+    form_.Escape();
+    return true;
+  }
+  return false;
+}
+
+// Keys that move the focus, and Alt, show that the user works with the keyboard.
+void FocusKeys::NoteKeyboardUse(const MSG& message) {
+  const WPARAM key = message.wParam;
+  if (message.message == WM_SYSKEYDOWN) {
+    ShowCues(true, true);
+  } else if (key == VK_TAB || (key >= VK_LEFT && key <= VK_DOWN)) {
+    ShowCues(true, false);
+    if (key == VK_TAB) UpdateTabStops();
+  }
+}
+
+bool FocusKeys::RunKeyTable(int key, int focusedId) {
+  for (const KeyRow& row : form_.Design().keys) {
+    if (!IsInRun(key, row.key, row.keys) || row.modifiers != ModifiersDown()) continue;
+    if (row.onlyIn != 0 && !IsInRun(focusedId, row.onlyIn, row.controls)) continue;
+    form_.Press(row.command + key - row.key);
+    return true;
+  }
+  if (key == VK_F1 && ModifiersDown() == kPlain && form_.Controls().Find(butHelp)) {
+    form_.Press(butHelp);
+    return true;
+  }
+  return false;
+}
+
+// Enter: what waits for it in the focused control, the focused button, else the primary button.
+bool FocusKeys::RunEnter(const ControlInstance* focused, MSG& message) {
+  if (focused) {
+    const int id = focused->Id();
+    if (form_.Handle({.id = id, .kind = FormEvent::Kind::EnterPressed})) return true;
+    const bool actsItself = form_.IsBound(id, FormEvent::Kind::ItemActivated) ||
+                            form_.IsBound(id, FormEvent::Kind::NodeClick) ||
+                            (focused->KindOf() == ControlKind::MultiEdit && ModifiersDown() == kCtrl);
+    if (actsItself) {
+      TranslateMessage(&message);
+      DispatchMessageW(&message);
+      return true;
+    }
+    if (IsButton(focused->KindOf())) {
+      form_.Press(id);
+      return true;
+    }
+  }
+  if (ModifiersDown() != kPlain) return false;
+  if (const ControlInstance* primary = ShownPrimary()) form_.Press(primary->Id());
+  return true;
+}
+
+}  // namespace sonaro
