@@ -1,7 +1,7 @@
-// What every station list of the main window is narrowed to: a place, a genre, a least bit rate, stations that
-// answered when they were last tried. The parts hold together, over all lists and views and, kept in a
-// setting, over restarts, until each is taken away. Stations of the user's own pass: the guide says nothing of
-// them, and they stand in a list because he put them there. Owned by the main window.
+// What every station list of the main window is narrowed to: a place, a genre, a least bit rate, stations
+// that answered when they were last tried. The parts hold together, over all lists and views and, kept in a
+// setting, over restarts, until each is taken away. Stations of the user's own pass: the guide says nothing
+// of them, and they stand in a list because he put them there. Owned by the main window.
 #pragma once
 
 #include <array>
@@ -29,8 +29,8 @@ class StationFilter {
   static constexpr int kParts = 4;
   static constexpr std::array kBitRates{64, 96, 128, 192, 256, 320};  // kbit/s that can be asked for
 
-  // A place or a genre that can be asked for. Its value names the way to it in the browse tree by texts, since
-  // the codes of entries are others in the next guide.
+  // A place or a genre that can be asked for. Its value names the way to it in the browse tree by texts,
+  // since the codes of entries are others in the next guide.
   struct Choice {
     std::string text;
     std::string value;
@@ -67,7 +67,8 @@ class StationFilter {
   StatList& stations_;
   SortKeyOf sortKey_;
   std::array<std::string, kParts> values_;
-  mutable std::array<std::optional<std::vector<std::int32_t>>, 2> ids_;  // of the place and the genre, once read
+  mutable std::array<std::optional<std::vector<std::int32_t>>, 2>
+      ids_;  // of the place and the genre, once read
 };
 
 }  // namespace sonaro

@@ -78,6 +78,23 @@ TEST_F(RealServersTest, UpdatesOnceAndThenFindsNothingNew) {
   }
 }
 
+// Both guides were published here, so the server knows what has changed between them.
+TEST_F(RealServersTest, GivesAnEarlierGuideWhatChangedSince) {
+  std::filesystem::remove_all(Site());
+  for (const auto& [guide, date] : {std::pair("old", kOldDate), std::pair("new", kDate)}) {
+    ASSERT_EQ(
+        RunDirectoryTool({"publish", Made(guide), "--out", Site(), "--date", date, "--key",
+                          Made("key") + "/secret.key", "--listen", "127.0.0.1:" + std::to_string(port_)})
+            .status,
+        0);
+  }
+  Serve();
+  const UpdateOutcome outcome = Installed().Update();
+  EXPECT_EQ(outcome.kind, Kind::Updated) << outcome.reason;
+  ExpectUpdated();
+  EXPECT_NE(Installed().Bytes("update.txt").find("file::changes.snr"), std::string::npos);
+}
+
 struct Trouble {
   const char* what;
   const char* from;  // in the server's configuration; "" to leave it
