@@ -25,11 +25,11 @@ SearchIndex::SearchIndex(const SearchColumn& column) : frequencies_(column.text)
   const std::size_t count = column.starts.size() - 1;
   slots_.resize((count + kGroupRecords - 1) / kGroupRecords * kSlots);
   for (std::size_t first = 0; first < count; first += kBlockRecords) {
-    std::uint64_t* const slots = &slots_[first / kGroupRecords * kSlots];
-    const std::uint64_t block = std::uint64_t{1} << (first % kGroupRecords / kBlockRecords);
+    Blocks* const slots = &slots_[first / kGroupRecords * kSlots];
+    const std::size_t block = first % kGroupRecords / kBlockRecords;
     const char* const end = column.text.data() + column.starts[std::min(first + kBlockRecords, count)];
     for (const char* at = column.text.data() + column.starts[first]; at < end; ++at)
-      slots[SlotAt(at)] |= block;
+      slots[SlotAt(at)].Set(block);
   }
 }
 
@@ -40,11 +40,18 @@ std::vector<std::uint16_t> SearchIndex::SlotsOf(std::string_view word) {
   return slots;
 }
 
-std::uint64_t SearchIndex::BlocksWith(std::span<const std::uint16_t> slots, std::size_t group) const {
-  // A bit for each block of the group. A word of less than four bytes has no slots and rules nothing out.
-  std::uint64_t blocks = ~std::uint64_t{0};
-  for (const std::uint16_t slot : slots) blocks &= slots_[group * kSlots + slot];
+SearchIndex::Blocks SearchIndex::AllBlocks() {
+  Blocks blocks;
+  blocks.bits.fill(~std::uint64_t{0});
   return blocks;
+}
+
+void SearchIndex::KeepBlocksWith(std::span<const std::uint16_t> slots, std::size_t group,
+                                 Blocks& blocks) const {
+  for (const std::uint16_t slot : slots) {
+    blocks.KeepOnly(slots_[group * kSlots + slot]);
+    if (blocks.Empty()) return;
+  }
 }
 
 }  // namespace sonaro

@@ -1,9 +1,13 @@
 // What is known of a search column before it is searched: how often each byte occurs, and where a word cannot
-// stand. For every sixteen records there is a Bloom filter over their 4-grams, the runs of four bytes; the
-// filters of a group of blocks lie bit-sliced, a slot's bits for all of them in one number, so that a word
-// costs a few reads for a thousand records. Made in memory when a column is first searched.
+// stand. For every eight records, a block, there is a Bloom filter over their 4-grams, the runs of four
+// bytes; the filters of a group of blocks lie bit-sliced, a slot's bits for all of them side by side, so that
+// a word costs a few reads for two thousand records. 32 bytes a record, made in memory when a column is first
+// searched.
 #pragma once
 
+#include <algorithm>
+#include <array>
+#include <bit>
 #include <cstddef>
 #include <cstdint>
 #include <span>
@@ -22,8 +26,9 @@ struct SearchColumn {
 
 class SearchIndex {
  public:
-  static constexpr std::size_t kBlockRecords = 16;
-  static constexpr std::size_t kGroupRecords = 64 * kBlockRecords;
+  static constexpr std::size_t kBlockRecords = 8;
+  static constexpr std::size_t kGroupBlocks = 256;
+  static constexpr std::size_t kGroupRecords = kGroupBlocks * kBlockRecords;
 
   explicit SearchIndex(const SearchColumn& column);
 
@@ -32,18 +37,36 @@ class SearchIndex {
 
   // The slots that a word sets wherever it stands; none for a word of fewer than four bytes.
   static std::vector<std::uint16_t> SlotsOf(std::string_view word);
-  // The blocks of a group, the first one in the lowest bit, that can hold a word with these slots: all that
-  // hold it and a few others, perhaps also such behind the last record.
-  std::uint64_t BlocksWith(std::span<const std::uint16_t> slots, std::size_t group) const;
+  // A bit for each block of a group, the first one in the lowest bit of the first number.
+  struct alignas(kGroupBlocks / 8) Blocks {
+    std::array<std::uint64_t, kGroupBlocks / 64> bits{};
+    bool Has(std::size_t block) const { return (bits[block / 64] >> (block % 64) & 1) != 0; }
+    void Set(std::size_t block) { bits[block / 64] |= std::uint64_t{1} << (block % 64); }
+    bool Empty() const {
+      return std::all_of(bits.begin(), bits.end(), [](std::uint64_t number) { return number == 0; });
+    }
+    std::size_t Count() const {
+      std::size_t count = 0;
+      for (const std::uint64_t number : bits) count += static_cast<std::size_t>(std::popcount(number));
+      return count;
+    }
+    void KeepOnly(const Blocks& others) {
+      for (std::size_t i = 0; i < bits.size(); ++i) bits[i] &= others.bits[i];
+    }
+  };
+  static Blocks AllBlocks();
+  // Keeps of a group's blocks those that can hold a word with these slots: all that hold it and a few others,
+  // perhaps also such behind the last record.
+  void KeepBlocksWith(std::span<const std::uint16_t> slots, std::size_t group, Blocks& blocks) const;
 
  private:
-  static constexpr unsigned kSlotBits = 12;
+  static constexpr unsigned kSlotBits = 11;
   static constexpr std::size_t kSlots = std::size_t{1} << kSlotBits;
 
   static std::uint16_t SlotAt(const char* fourBytes);
 
   ByteFrequencies frequencies_;
-  std::vector<std::uint64_t> slots_;  // kSlots for every group
+  std::vector<Blocks> slots_;  // kSlots for every group
 };
 
 }  // namespace sonaro

@@ -1,14 +1,16 @@
-// A search runs in three steps, each of which leaves less for the next. The index tells for 64 blocks of
-// sixteen records at a time which of them can hold the words (SearchIndex). Runs of such blocks are scanned
+// A search runs in three steps, each of which leaves less for the next. The index tells for a group of blocks
+// of records at a time which of them can hold the words (SearchIndex). Runs of such blocks are scanned
 // for a word (WordFinder), which yields places in the column. A cursor turns places into records; it only
 // ever moves forwards, so that all hits together cost one walk.
 #include "directory/StationSearch.h"
 
 #include <algorithm>
+#include <array>
 #include <bit>
 #include <bitset>
 
 #include "base/Text.h"
+#include "directory/ByteScan.h"
 #include "directory/VmxFormat.h"
 #include "directory/WordFinder.h"
 
@@ -67,22 +69,58 @@ std::vector<Wanted> WantedWords(const std::vector<std::string>& words, const Sea
   return wanted;
 }
 
-// Calls `visit(first, last)` for the records, from `first` to before `last`, of each run of blocks of a
-// group. One run over all of them is faster than many short ones.
-template <typename Visit>
-void ForEachRun(std::uint64_t blocks, std::size_t group, std::size_t recordCount, Visit visit) {
+// Runs of records that can hold a word, each from `first` to before `last`.
+struct Run {
+  std::size_t first;
+  std::size_t last;
+};
+struct Runs {
+  std::array<Run, SearchIndex::kGroupBlocks / 2> runs;
+  std::size_t count = 0;
+};
+
+// The first block from `block` on that is in `blocks`, or is not when `flip` has all bits.
+std::size_t NextBlock(const SearchIndex::Blocks& blocks, std::size_t block, std::uint64_t flip) {
+  std::size_t word = block / 64;
+  if (word == blocks.bits.size()) return block;
+  std::uint64_t bits = (blocks.bits[word] ^ flip) & ~std::uint64_t{0} << (block % 64);
+  while (bits == 0 && ++word != blocks.bits.size()) bits = blocks.bits[word] ^ flip;
+  return word * 64 + (bits == 0 ? 0 : static_cast<std::size_t>(std::countr_zero(bits)));
+}
+
+Runs RunsOf(const SearchIndex::Blocks& blocks, std::size_t group, std::size_t recordCount) {
+  Runs runs;
   const std::size_t start = group * SearchIndex::kGroupRecords;
-  // More than half of the blocks: scanning the others too costs less than starting anew so often.
-  if (std::popcount(blocks) > 32) blocks = ~std::uint64_t{0};
-  while (blocks != 0) {
-    const int from = std::countr_zero(blocks);
-    const int to = from + std::countr_one(blocks >> from);
-    const std::size_t first = start + static_cast<std::size_t>(from) * SearchIndex::kBlockRecords;
-    const std::size_t last = start + static_cast<std::size_t>(to) * SearchIndex::kBlockRecords;
-    if (first >= recordCount) return;
-    visit(first, std::min(last, recordCount));
-    // A shift by 64 is undefined.
-    blocks = to == 64 ? 0 : blocks & ~std::uint64_t{0} << to;
+  for (std::size_t to = 0;;) {
+    const std::size_t from = NextBlock(blocks, to, 0);
+    const std::size_t first = start + from * SearchIndex::kBlockRecords;
+    if (from == SearchIndex::kGroupBlocks || first >= recordCount) return runs;
+    to = NextBlock(blocks, from, ~std::uint64_t{0});
+    runs.runs[runs.count++] = {first, std::min(start + to * SearchIndex::kBlockRecords, recordCount)};
+  }
+}
+
+// Calls `visit(first, last)` for each run of a group's blocks, or for the whole group at once when there are
+// many: reading on is cheaper than jumping over a few records. What lies between them is jumped over, so the
+// machine cannot guess what is read next and is told.
+template <typename Visit>
+void ForEachRun(const SearchColumn& column, const SearchIndex::Blocks& blocks, std::size_t group,
+                Visit visit) {
+  constexpr std::size_t kAhead = 3;
+  constexpr std::size_t kMany = SearchIndex::kGroupBlocks / 8;
+  if (blocks.Count() > kMany) {
+    const std::size_t first = group * SearchIndex::kGroupRecords;
+    visit(first, std::min(first + SearchIndex::kGroupRecords, column.starts.size() - 1));
+    return;
+  }
+  const Runs runs = RunsOf(blocks, group, column.starts.size() - 1);
+  const auto bring = [&](std::size_t run) {
+    if (run < runs.count) Prefetch(column.text.data() + column.starts[runs.runs[run].first]);
+  };
+  for (std::size_t i = 0; i < kAhead; ++i) bring(i);
+  for (std::size_t i = 0; i < runs.count; ++i) {
+    bring(i + kAhead);
+    visit(runs.runs[i].first, runs.runs[i].last);
   }
 }
 
@@ -115,9 +153,9 @@ std::vector<std::uint32_t> FindAll(const SearchColumn& column, const SearchIndex
     if (std::all_of(wanted.begin() + 1, wanted.end(), stands)) records.push_back(cursor.Record());
   };
   for (std::size_t group = 0; group < index.GroupCount(); ++group) {
-    std::uint64_t blocks = ~std::uint64_t{0};
-    for (const Wanted& word : wanted) blocks &= index.BlocksWith(word.slots, group);
-    ForEachRun(blocks, group, column.starts.size() - 1, [&](std::size_t first, std::size_t last) {
+    SearchIndex::Blocks blocks = SearchIndex::AllBlocks();
+    for (const Wanted& word : wanted) index.KeepBlocksWith(word.slots, group, blocks);
+    ForEachRun(column, blocks, group, [&](std::size_t first, std::size_t last) {
       ForEachRecord(wanted.front().finder, column, first, last, take);
     });
   }
@@ -135,10 +173,11 @@ std::vector<std::uint32_t> FindAny(const SearchColumn& column, const SearchIndex
     const std::size_t start = group * SearchIndex::kGroupRecords;
     const auto mark = [&](const RecordCursor& cursor) { matches.set(cursor.Record() - start); };
     for (const Wanted& word : wanted) {
-      ForEachRun(index.BlocksWith(word.slots, group), group, column.starts.size() - 1,
-                 [&](std::size_t first, std::size_t last) {
-                   ForEachRecord(word.finder, column, first, last, mark);
-                 });
+      SearchIndex::Blocks blocks = SearchIndex::AllBlocks();
+      index.KeepBlocksWith(word.slots, group, blocks);
+      ForEachRun(column, blocks, group, [&](std::size_t first, std::size_t last) {
+        ForEachRecord(word.finder, column, first, last, mark);
+      });
     }
     for (std::size_t i = 0; i < matches.size(); ++i) {
       if (matches[i]) records.push_back(static_cast<std::uint32_t>(start + i));

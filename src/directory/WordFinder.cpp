@@ -58,21 +58,13 @@ const char* WordFinder::Find(const char* from, const char* end) const {
     return std::uint64_t{static_cast<std::uint32_t>(_mm_movemask_epi8(bytes))};
   };
 
-  const char* at = from;
-  // Four vectors for each test: mostly there is no candidate in any, and the test is what costs.
-  for (; stop - at >= 64; at += 64) {
+  // Four vectors for each test: mostly there is no candidate in any, and the test is what costs. The last
+  // ones reach beyond `end`, for which the column is padded; what is found behind `stop` does not count.
+  for (const char* at = from; at < stop; at += 64) {
     const __m128i c[] = {candidates(at), candidates(at + 16), candidates(at + 32), candidates(at + 48)};
     if (bits(_mm_or_si128(_mm_or_si128(c[0], c[1]), _mm_or_si128(c[2], c[3]))) == 0) continue;
     std::uint64_t places = bits(c[0]) | bits(c[1]) << 16 | bits(c[2]) << 32 | bits(c[3]) << 48;
     for (; places != 0; places &= places - 1) {
-      const char* const place = at + std::countr_zero(places);
-      if (MatchesAt(place)) return place;
-    }
-  }
-  // The last vector may reach beyond `stop` and beyond `end`: the column is padded for that. What is found
-  // behind `stop` does not count.
-  for (; at < stop; at += 16) {
-    for (std::uint64_t places = bits(candidates(at)); places != 0; places &= places - 1) {
       const char* const place = at + std::countr_zero(places);
       if (place >= stop) return end;
       if (MatchesAt(place)) return place;
