@@ -364,19 +364,6 @@ Options ParseOptions(int argc, char** argv) {
   return options;
 }
 
-// The real list has no planted words: these are what people look for.
-std::vector<Query> RealQueries() {
-  return {{"absent word", {"mokerlag"}, true},
-          {"rare word", {"reggaeton"}, true},
-          {"common word", {"music"}, true},
-          {"3 words, all", {"radio", "rock", "germany"}, true},
-          {"20 words, any",
-           {"jazz",  "blues", "soul",   "funk",   "swing",     "bossa",   "latin",
-            "salsa", "tango", "samba",  "cumbia", "fado",      "chanson", "schlager",
-            "polka", "opera", "gospel", "celtic", "bluegrass", "ambient"},
-           false}};
-}
-
 }  // namespace
 }  // namespace sonaro
 

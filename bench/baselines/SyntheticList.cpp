@@ -114,4 +114,16 @@ std::vector<Query> SyntheticQueries() {
           {"20 words, any", PlantedFrom(5, 20), false}, {"100 words, any", PlantedFrom(5, 100), false}};
 }
 
+std::vector<Query> RealQueries() {
+  return {{"absent word", {"mokerlag"}, true},
+          {"rare word", {"reggaeton"}, true},
+          {"common word", {"music"}, true},
+          {"3 words, all", {"radio", "rock", "germany"}, true},
+          {"20 words, any",
+           {"jazz",  "blues", "soul",   "funk",   "swing",     "bossa",   "latin",
+            "salsa", "tango", "samba",  "cumbia", "fado",      "chanson", "schlager",
+            "polka", "opera", "gospel", "celtic", "bluegrass", "ambient"},
+           false}};
+}
+
 }  // namespace sonaro

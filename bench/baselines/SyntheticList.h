@@ -21,5 +21,7 @@ struct Query {
 // One absent word, a rare and a common one, three words of which all must match, twenty and a hundred of
 // which any suffices.
 std::vector<Query> SyntheticQueries();
+// The same for a real list, which has no planted words: what people look for.
+std::vector<Query> RealQueries();
 
 }  // namespace sonaro

@@ -25,6 +25,12 @@ void AppendFoldCase(std::string& out, std::string_view text);
 // void.
 inline constexpr std::uint32_t kFoldCaseVersion = 14;
 
+// A folded text with plain letters in the place of Latin, Greek and some Cyrillic ones that carry accents
+// ("e" for "é", "o" for "ø", "ae" for "æ") and without combining marks. Other bytes are copied.
+std::string WithoutAccents(std::string_view folded);
+// The same, appended to `out`.
+void AppendWithoutAccents(std::string& out, std::string_view folded);
+
 // Comparisons that ignore letter case in the sense of FoldCase.
 bool EqualIgnoringCase(std::string_view a, std::string_view b);
 bool StartsWithIgnoringCase(std::string_view text, std::string_view start);

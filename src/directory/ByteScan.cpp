@@ -116,6 +116,19 @@ void SplitAtTabs(std::string_view text, std::span<std::string_view> pieces) {
   while (piece != last) *++piece = {};
 }
 
+bool IsAscii(std::string_view text) {
+  std::size_t at = 0;
+#if SONARO_SSE2
+  for (; text.size() - at >= 16; at += 16) {
+    if (Mask(Load(text.data() + at)) != 0) return false;
+  }
+#endif
+  for (; at < text.size(); ++at) {
+    if (static_cast<unsigned char>(text[at]) >= 0x80) return false;
+  }
+  return true;
+}
+
 std::size_t CopyFoldedAscii(std::string_view text, char* out) {
   const char* const start = text.data();
   const char* const end = start + text.size();

@@ -23,6 +23,9 @@ std::size_t FindTab(std::string_view text, std::size_t count);
 // empty.
 void SplitAtTabs(std::string_view text, std::span<std::string_view> pieces);
 
+// Whether every byte is ASCII.
+bool IsAscii(std::string_view text);
+
 // Copies `text` to `out` (room for as many bytes) with A-Z folded to a-z, as long as it is ASCII. Returns how
 // many bytes at the start were; bytes behind these may have been written too.
 std::size_t CopyFoldedAscii(std::string_view text, char* out);

@@ -146,7 +146,7 @@ TableStatus OpenTable::WriteChanges() {
   return complete && writer.PutInPlace() ? TableStatus::Success : TableStatus::NotWritten;
 }
 
-const TableImage* OpenTable::SearchImage() {
+TableImage* OpenTable::SearchImage() {
   return image_->LoadSearch(files_) == TableStatus::Success ? image_.get() : nullptr;
 }
 

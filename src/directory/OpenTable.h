@@ -47,7 +47,7 @@ class OpenTable {
   TableStatus Close();
 
   // The records on disk, ready to be searched, or null when they are damaged.
-  const TableImage* SearchImage();
+  TableImage* SearchImage();
   std::uint32_t RecordCount() const { return image_->RecordCount(); }
   std::uint32_t FieldCount() const { return image_->Header().fieldCount; }
 

@@ -24,6 +24,35 @@ struct SearchColumn {
   std::span<const std::uint32_t> starts;  // where each record begins, and the end of the last one
 };
 
+// Walks over the records of a column from place to place, forwards only.
+class RecordCursor {
+ public:
+  RecordCursor(const SearchColumn& column, std::size_t record) : column_(column), record_(record) {}
+
+  // Moves to the record that holds `place`, at or behind the current one.
+  void MoveTo(const char* place) {
+    const auto offset = static_cast<std::uint32_t>(place - column_.text.data());
+    // Steps that double, then a binary search within the last one: cheap when the next hit is near, which is
+    // usual, and logarithmic when it is far.
+    std::size_t step = 1;
+    while (record_ + step < column_.starts.size() && column_.starts[record_ + step] <= offset) {
+      record_ += step;
+      step *= 2;
+    }
+    const auto from = column_.starts.begin() + static_cast<std::ptrdiff_t>(record_);
+    const auto to =
+        column_.starts.begin() + static_cast<std::ptrdiff_t>(std::min(record_ + step, column_.starts.size()));
+    record_ += static_cast<std::size_t>(std::upper_bound(from, to, offset) - from) - 1;
+  }
+  std::uint32_t Record() const { return static_cast<std::uint32_t>(record_); }
+  const char* Begin() const { return column_.text.data() + column_.starts[record_]; }
+  const char* End() const { return column_.text.data() + column_.starts[record_ + 1]; }
+
+ private:
+  SearchColumn column_;
+  std::size_t record_;
+};
+
 class SearchIndex {
  public:
   static constexpr std::size_t kBlockRecords = 8;

@@ -6,6 +6,7 @@
 #include "directory/StationListFile.h"
 #include "directory/StationSearch.h"
 #include "directory/TablePath.h"
+#include "directory/TypedSearch.h"
 #include "directory/Vmx.h"
 
 namespace sonaro {
@@ -179,6 +180,51 @@ std::vector<std::int32_t> StatList::SearchStationIds(std::string_view text, bool
 
 std::vector<StationRecord> StatList::SearchStations(std::string_view text, bool allWords) {
   return WithTable([&](Handle handle) { return GetAll(handle, Search(handle, text, allWords)); });
+}
+
+// Opens the table, ready to be searched, for one operation.
+template <typename Operation>
+auto StatList::WithSearchImage(Operation operation) {
+  return WithTable([&](Handle handle) {
+    TableImage* const image = vmx_->SearchImage(handle);
+    status_ = vmx_->LastStatus();
+    return image ? operation(*image) : decltype(operation(*image))();
+  });
+}
+
+std::vector<std::int32_t> StatList::BestMatches(std::string_view typed, std::size_t max) {
+  return WithSearchImage([&](TableImage& image) {
+    std::vector<std::int32_t> ids;
+    const TypedWords words(typed);
+    for (const std::uint32_t record : BestRecords(image.Column(), image.Index(), image.Plain(), words, max))
+      ids.push_back(image.KeyAt(record));
+    return ids;
+  });
+}
+
+std::vector<std::int32_t> StatList::FilterStations(std::span<const std::int32_t> ids,
+                                                   std::string_view typed) {
+  return WithSearchImage([&](TableImage& image) {
+    const TypedWords words(typed);
+    std::vector<bool> matches(image.RecordCount(), words.Empty());
+    matches.push_back(false);  // of no record
+    for (const std::uint32_t record : TypedRecords(image.Column(), image.Index(), image.Plain(), words))
+      matches[record] = true;
+    std::vector<std::int32_t> left;
+    std::uint32_t record = 0;
+    for (const std::int32_t id : ids) {
+      record = image.IndexOf(id, record);
+      if (matches[record]) left.push_back(id);
+    }
+    return left;
+  });
+}
+
+void StatList::PrepareTyping() {
+  WithSearchImage([](TableImage& image) {
+    image.Plain();
+    return true;
+  });
 }
 
 std::uint32_t StatList::StationCount() {

@@ -37,6 +37,8 @@ enum class TableCheck {
 
 class StatList {
  public:
+  static constexpr std::size_t kMaxBestMatches = 200;
+
   using Handle = int;  // 0: not open
   enum class OpenMode { Read, Write };
 
@@ -87,6 +89,17 @@ class StatList {
   std::vector<std::int32_t> SearchStationIds(std::string_view text, bool allWords);
   std::vector<StationRecord> SearchStations(std::string_view text, bool allWords);
 
+  // While the user types: the best stations for the words so far, at most `max`. First those in whose name
+  // every word begins a word, then those with all words in the name, then those with all words in the
+  // searched fields, letter case and accents aside; each kind in key order, which is that of popularity. None
+  // without words.
+  std::vector<std::int32_t> BestMatches(std::string_view typed, std::size_t max = kMaxBestMatches);
+  // What the filter box of a list leaves: those of `ids`, in their order, that have all words typed in their
+  // searched fields, letter case and accents aside; without words all that are in the table.
+  std::vector<std::int32_t> FilterStations(std::span<const std::int32_t> ids, std::string_view typed);
+  // Reads and makes what the two need, so that the first key does not wait for it.
+  void PrepareTyping();
+
   // Identifiers looked up since this object was made: the work that an operation costs.
   std::uint64_t LookUps() const { return lookUps_; }
   // Records in the table; 0 when it cannot be opened.
@@ -98,6 +111,8 @@ class StatList {
   bool MadeOf(InputFile& list, TableCheck check);
   TableCare KeepWithoutList();
   std::vector<std::int32_t> Search(Handle handle, std::string_view text, bool allWords);
+  template <typename Operation>
+  auto WithSearchImage(Operation operation);
   void Visit(Handle handle, std::span<const std::int32_t> ids, const Visitor& visit);
   std::vector<StationRecord> GetAll(Handle handle, std::span<const std::int32_t> ids);
   template <typename Operation>

@@ -17,35 +17,6 @@
 namespace sonaro {
 namespace {
 
-// Walks over the records of a column from place to place, forwards only.
-class RecordCursor {
- public:
-  RecordCursor(const SearchColumn& column, std::size_t record) : column_(column), record_(record) {}
-
-  // Moves to the record that holds `place`, at or behind the current one.
-  void MoveTo(const char* place) {
-    const auto offset = static_cast<std::uint32_t>(place - column_.text.data());
-    // Steps that double, then a binary search within the last one: cheap when the next hit is near, which is
-    // usual, and logarithmic when it is far.
-    std::size_t step = 1;
-    while (record_ + step < column_.starts.size() && column_.starts[record_ + step] <= offset) {
-      record_ += step;
-      step *= 2;
-    }
-    const auto from = column_.starts.begin() + static_cast<std::ptrdiff_t>(record_);
-    const auto to =
-        column_.starts.begin() + static_cast<std::ptrdiff_t>(std::min(record_ + step, column_.starts.size()));
-    record_ += static_cast<std::size_t>(std::upper_bound(from, to, offset) - from) - 1;
-  }
-  std::uint32_t Record() const { return static_cast<std::uint32_t>(record_); }
-  const char* Begin() const { return column_.text.data() + column_.starts[record_]; }
-  const char* End() const { return column_.text.data() + column_.starts[record_ + 1]; }
-
- private:
-  const SearchColumn& column_;
-  std::size_t record_;
-};
-
 // The words as they stand in a column. Tabs divide it: no field that is searched holds a word with one.
 std::vector<std::string> FoldedWords(const std::vector<std::string>& words) {
   std::vector<std::string> folded;
@@ -63,7 +34,7 @@ struct Wanted {
   std::vector<std::uint16_t> slots;
 };
 
-std::vector<Wanted> WantedWords(const std::vector<std::string>& words, const SearchIndex& index) {
+std::vector<Wanted> WantedWords(std::span<const std::string> words, const SearchIndex& index) {
   std::vector<Wanted> wanted;
   for (const std::string& word : words) wanted.emplace_back(word, index);
   return wanted;
@@ -102,16 +73,15 @@ Runs RunsOf(const SearchIndex::Blocks& blocks, std::size_t group, std::size_t re
 
 // Calls `visit(first, last)` for each run of a group's blocks, or for the whole group at once when there are
 // many: reading on is cheaper than jumping over a few records. What lies between them is jumped over, so the
-// machine cannot guess what is read next and is told.
+// machine cannot guess what is read next and is told. Ends with the first false, which it returns.
 template <typename Visit>
-void ForEachRun(const SearchColumn& column, const SearchIndex::Blocks& blocks, std::size_t group,
+bool ForEachRun(const SearchColumn& column, const SearchIndex::Blocks& blocks, std::size_t group,
                 Visit visit) {
   constexpr std::size_t kAhead = 3;
   constexpr std::size_t kMany = SearchIndex::kGroupBlocks / 8;
   if (blocks.Count() > kMany) {
     const std::size_t first = group * SearchIndex::kGroupRecords;
-    visit(first, std::min(first + SearchIndex::kGroupRecords, column.starts.size() - 1));
-    return;
+    return visit(first, std::min(first + SearchIndex::kGroupRecords, column.starts.size() - 1));
   }
   const Runs runs = RunsOf(blocks, group, column.starts.size() - 1);
   const auto bring = [&](std::size_t run) {
@@ -120,13 +90,15 @@ void ForEachRun(const SearchColumn& column, const SearchIndex::Blocks& blocks, s
   for (std::size_t i = 0; i < kAhead; ++i) bring(i);
   for (std::size_t i = 0; i < runs.count; ++i) {
     bring(i + kAhead);
-    visit(runs.runs[i].first, runs.runs[i].last);
+    if (!visit(runs.runs[i].first, runs.runs[i].last)) return false;
   }
+  return true;
 }
 
-// Calls `visit(cursor)` for each record from `first` to before `last` in which the word stands.
+// Calls `visit(cursor)` for each record from `first` to before `last` in which the word stands. Ends with the
+// first false, which it returns.
 template <typename Visit>
-void ForEachRecord(const WordFinder& finder, const SearchColumn& column, std::size_t first, std::size_t last,
+bool ForEachRecord(const WordFinder& finder, const SearchColumn& column, std::size_t first, std::size_t last,
                    Visit visit) {
   const char* const end = column.text.data() + column.starts[last];
   RecordCursor cursor(column, first);
@@ -134,49 +106,63 @@ void ForEachRecord(const WordFinder& finder, const SearchColumn& column, std::si
   // word.
   for (const char* at = cursor.Begin(); (at = finder.Find(at, end)) != end; at = cursor.End()) {
     cursor.MoveTo(at);
-    visit(cursor);
+    if (!visit(cursor)) return false;
   }
+  return true;
 }
 
 // The rarest word leads through the column; the others are looked for only in the records where it stands.
-std::vector<std::uint32_t> FindAll(const SearchColumn& column, const SearchIndex& index,
-                                   const std::vector<std::string>& words) {
+template <typename Take>
+void ForEachWithAll(const SearchColumn& column, const SearchIndex& index, std::span<const std::string> words,
+                    Take take) {
   std::vector<Wanted> wanted = WantedWords(words, index);
   std::sort(wanted.begin(), wanted.end(), [](const Wanted& a, const Wanted& b) {
     return a.finder.EstimatedHits() < b.finder.EstimatedHits();
   });
-  std::vector<std::uint32_t> records;
-  const auto take = [&](const RecordCursor& cursor) {
+  const auto visit = [&](const RecordCursor& cursor) {
     const auto stands = [&](const Wanted& word) {
       return word.finder.Find(cursor.Begin(), cursor.End()) != cursor.End();
     };
-    if (std::all_of(wanted.begin() + 1, wanted.end(), stands)) records.push_back(cursor.Record());
+    return !std::all_of(wanted.begin() + 1, wanted.end(), stands) || take(cursor.Record());
   };
   for (std::size_t group = 0; group < index.GroupCount(); ++group) {
     SearchIndex::Blocks blocks = SearchIndex::AllBlocks();
     for (const Wanted& word : wanted) index.KeepBlocksWith(word.slots, group, blocks);
-    ForEachRun(column, blocks, group, [&](std::size_t first, std::size_t last) {
-      ForEachRecord(wanted.front().finder, column, first, last, take);
+    const bool goOn = ForEachRun(column, blocks, group, [&](std::size_t first, std::size_t last) {
+      return ForEachRecord(wanted.front().finder, column, first, last, visit);
     });
+    if (!goOn) return;
   }
+}
+
+std::vector<std::uint32_t> FindAll(const SearchColumn& column, const SearchIndex& index,
+                                   std::span<const std::string> words) {
+  std::vector<std::uint32_t> records;
+  ForEachWithAll(column, index, words, [&](std::uint32_t record) {
+    records.push_back(record);
+    return true;
+  });
   return records;
 }
 
 // Word after word over a group at a time, which stays in the cache meanwhile.
 std::vector<std::uint32_t> FindAny(const SearchColumn& column, const SearchIndex& index,
-                                   const std::vector<std::string>& words) {
+                                   std::span<const std::string> words) {
   const std::vector<Wanted> wanted = WantedWords(words, index);
   std::vector<std::uint32_t> records;
   for (std::size_t group = 0; group < index.GroupCount(); ++group) {
     // Records in which several words stand are marked several times and reported once, in ascending order.
     std::bitset<SearchIndex::kGroupRecords> matches;
     const std::size_t start = group * SearchIndex::kGroupRecords;
-    const auto mark = [&](const RecordCursor& cursor) { matches.set(cursor.Record() - start); };
+    const auto mark = [&](const RecordCursor& cursor) {
+      matches.set(cursor.Record() - start);
+      return true;
+    };
     for (const Wanted& word : wanted) {
       SearchIndex::Blocks blocks = SearchIndex::AllBlocks();
       index.KeepBlocksWith(word.slots, group, blocks);
       ForEachRun(column, blocks, group, [&](std::size_t first, std::size_t last) {
-        ForEachRecord(word.finder, column, first, last, mark);
+        return ForEachRecord(word.finder, column, first, last, mark);
       });
     }
     for (std::size_t i = 0; i < matches.size(); ++i) {
@@ -206,6 +192,11 @@ std::vector<std::uint32_t> FindRecords(const SearchColumn& column, const SearchI
   // counts.
   if (folded.empty() || (allWords && folded.size() < words.size())) return {};
   return allWords ? FindAll(column, index, folded) : FindAny(column, index, folded);
+}
+
+void ForEachMatch(const SearchColumn& column, const SearchIndex& index, std::span<const std::string> folded,
+                  const std::function<bool(std::uint32_t record)>& take) {
+  if (!column.text.empty()) ForEachWithAll(column, index, folded, take);
 }
 
 }  // namespace sonaro

@@ -3,6 +3,8 @@
 #pragma once
 
 #include <cstdint>
+#include <functional>
+#include <span>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -20,5 +22,10 @@ std::vector<std::string> SearchWords(std::string_view text);
 // anywhere in one of the searched fields, letter case ignored. No words match no record.
 std::vector<std::uint32_t> FindRecords(const SearchColumn& column, const SearchIndex& index,
                                        const std::vector<std::string>& words, bool allWords);
+
+// Calls `take` with each record, in ascending order, in which all words occur, until it gives false.
+// `folded`: at least one word, as it would stand in the column.
+void ForEachMatch(const SearchColumn& column, const SearchIndex& index, std::span<const std::string> folded,
+                  const std::function<bool(std::uint32_t record)>& take);
 
 }  // namespace sonaro

@@ -129,6 +129,36 @@ TableStatus TableImage::LoadSearch(TableFiles& files) {
   return status;
 }
 
+const PlainTexts& TableImage::Plain() {
+  if (!plain_) plain_ = std::make_unique<PlainTexts>(Column());
+  return *plain_;
+}
+
+// Lists are mostly in the order of the table: steps that double lead from the last record to the next one,
+// and a binary search within the last step finds it. What stands before is looked for in the whole table.
+std::uint32_t TableImage::IndexOf(std::int32_t key, std::uint32_t near) const {
+  const std::uint32_t count = RecordCount();
+  std::uint32_t first = near < count && KeyAt(near) <= key ? near : 0;
+  std::uint32_t behind = count;
+  if (first == near) {
+    std::uint32_t step = 1;
+    while (step < count - first && KeyAt(first + step) <= key) {
+      first += step;
+      step *= 2;
+    }
+    behind = first + std::min(step, count - first);
+  }
+  while (first < behind) {
+    const std::uint32_t middle = first + (behind - first) / 2;
+    if (KeyAt(middle) < key) {
+      first = middle + 1;
+    } else {
+      behind = middle;
+    }
+  }
+  return first < count && KeyAt(first) == key ? first : count;
+}
+
 TableStatus TableImage::Verify(TableFiles& files) {
   // A fresh image: what is in memory already was checked when it came and says nothing of the disk today.
   TableImage image(files.indexHeader);

@@ -13,6 +13,7 @@
 #include "directory/SearchIndex.h"
 #include "directory/TableFiles.h"
 #include "directory/TableStatus.h"
+#include "directory/TypedSearch.h"
 #include "directory/VmxFormat.h"
 
 namespace sonaro {
@@ -49,6 +50,11 @@ class TableImage {
   SearchColumn Column() const { return {{column_.get(), columnStarts_.back()}, columnStarts_}; }
   const SearchIndex& Index() const { return *searchIndex_; }
   std::int32_t KeyAt(std::uint32_t index) const { return EntryAt(index).key; }
+  // The index of the record with the key; RecordCount when there is none. Quick when it lies near `near`, the
+  // index of another record or RecordCount.
+  std::uint32_t IndexOf(std::int32_t key, std::uint32_t near) const;
+  // Made at the first call.
+  const PlainTexts& Plain();
 
   // Reads and checks everything that the files hold, whatever is in memory already.
   static TableStatus Verify(TableFiles& files);
@@ -73,6 +79,7 @@ class TableImage {
   std::unique_ptr<char[]> column_;
   std::vector<std::uint32_t> columnStarts_;
   std::unique_ptr<SearchIndex> searchIndex_;
+  std::unique_ptr<PlainTexts> plain_;
 };
 
 }  // namespace sonaro

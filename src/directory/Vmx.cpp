@@ -197,8 +197,8 @@ TableStatus Vmx::VmxDelete(Handle handle, std::string_view key) {
   });
 }
 
-const TableImage* Vmx::SearchImage(Handle handle) {
-  const TableImage* image = nullptr;
+TableImage* Vmx::SearchImage(Handle handle) {
+  TableImage* image = nullptr;
   RunOn(handle, [&](OpenTable& table) {
     image = table.SearchImage();
     return image ? TableStatus::Success : TableStatus::Damaged;

@@ -78,7 +78,7 @@ class Vmx {
   TableStatus VmxDelete(Handle handle, std::string_view key);
 
   // The records on disk, ready to be searched, valid until the table is closed; null when they are damaged.
-  const TableImage* SearchImage(Handle handle);
+  TableImage* SearchImage(Handle handle);
   std::uint32_t RecordCount(Handle handle);  // on disk
   // What the table says it was made of; reads the headers only.
   TableStatus Source(const std::string& path, TableSource& source);

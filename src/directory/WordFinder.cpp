@@ -9,6 +9,14 @@
 #include "directory/ByteScan.h"
 
 namespace sonaro {
+namespace {
+
+// Of folded text. Bytes above ASCII are taken for parts of letters.
+bool IsInWord(char c) {
+  return static_cast<unsigned char>(c) >= 0x80 || (c >= 'a' && c <= 'z') || (c >= '0' && c <= '9');
+}
+
+}  // namespace
 
 ByteFrequencies::ByteFrequencies(std::string_view column) {
   // A sample spread over the column; exact counts would cost a pass over it and change no choice. Counts
@@ -44,7 +52,8 @@ const char* WordFinder::FindPlain(const char* from, const char* end) const {
 
 #if SONARO_SSE2
 
-const char* WordFinder::Find(const char* from, const char* end) const {
+template <typename Accept>
+const char* WordFinder::FindWhere(const char* from, const char* end, Accept accept) const {
   if (end - from < static_cast<std::ptrdiff_t>(word_.size())) return end;
   const char* const stop = end - word_.size() + 1;  // behind the last place where the word can stand
   const __m128i firstByte = _mm_set1_epi8(word_[first_]);
@@ -67,7 +76,7 @@ const char* WordFinder::Find(const char* from, const char* end) const {
     for (; places != 0; places &= places - 1) {
       const char* const place = at + std::countr_zero(places);
       if (place >= stop) return end;
-      if (MatchesAt(place)) return place;
+      if (MatchesAt(place) && accept(place)) return place;
     }
   }
   return end;
@@ -75,8 +84,21 @@ const char* WordFinder::Find(const char* from, const char* end) const {
 
 #else
 
-const char* WordFinder::Find(const char* from, const char* end) const { return FindPlain(from, end); }
+template <typename Accept>
+const char* WordFinder::FindWhere(const char* from, const char* end, Accept accept) const {
+  const char* at = FindPlain(from, end);
+  while (at != end && !accept(at)) at = FindPlain(at + 1, end);
+  return at;
+}
 
 #endif
+
+const char* WordFinder::Find(const char* from, const char* end) const {
+  return FindWhere(from, end, [](const char*) { return true; });
+}
+
+const char* WordFinder::FindBeginning(const char* from, const char* end) const {
+  return FindWhere(from, end, [](const char* place) { return !IsInWord(place[-1]); });
+}
 
 }  // namespace sonaro

@@ -30,12 +30,17 @@ class WordFinder {
   const char* Find(const char* from, const char* end) const;
   // The same without the machine's wide registers.
   const char* FindPlain(const char* from, const char* end) const;
+  // The first place that is the beginning of a word: no letter or digit stands before it. The byte before
+  // `from` must be readable.
+  const char* FindBeginning(const char* from, const char* end) const;
 
   // A guess at how many places need the close look; for comparing words.
   std::uint64_t EstimatedHits() const { return commonness_; }
 
  private:
   bool MatchesAt(const char* place) const;
+  template <typename Accept>
+  const char* FindWhere(const char* from, const char* end, Accept accept) const;
 
   std::string word_;
   std::size_t first_ = 0;  // positions in the word of the two bytes
