@@ -18,6 +18,7 @@
 #include "platform/SystemInfo.h"
 #include "playback/frmScan.h"
 #include "resources/texts/app.h"
+#include "resources/texts/mainwindow.h"
 #include "resources/texts/net.h"
 #include "settings/FileWords.h"
 #include "settings/InstallId.h"
@@ -147,7 +148,7 @@ bool Application::LoadMainWindow() {
       context_,
       GuideData{data_, reg_, strings_, state_, stations_, personal_, extra_, recent_, favorites_, source_,
                 [this](std::string_view text) { return platform_.systemInfo.SortKey(text); }},
-      MainServices{player_, scan_, pages_, help_, messages_, *schedule_, *service_, *this});
+      MainServices{player_, scan_, pages_, help_, messages_, *schedule_, *service_, *this, undo_});
   if (!main_->Create()) {
     main_.reset();
     return SayNoWindow();
@@ -178,6 +179,18 @@ void Application::UpdateProgress(int percent) {
 
 void Application::UpdateProgressEnded() {
   if (main_) main_->Status().EndProgress();
+}
+
+void Application::Removed(const std::string& sentence) {
+  if (main_) main_->Status().SayRemoved(sentence);
+}
+
+void Application::Undone(const std::string& sentence) {
+  if (main_) main_->RemovalUndone(sentence);
+}
+
+void Application::NotUndone() {
+  if (main_) main_->Status().Say(strings_.Load(IDS_STATUS_NOT_UNDONE));
 }
 
 // Where the user left it, if that is still on a screen; the first time in the middle.

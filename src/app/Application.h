@@ -27,6 +27,7 @@
 #include "settings/CReg.h"
 #include "settings/HelpPages.h"
 #include "settings/SettingsRegistry.h"
+#include "settings/UndoList.h"
 #include "stations/Commands.h"
 #include "stations/ExtraLinks.h"
 #include "stations/FavoriteGroups.h"
@@ -50,6 +51,7 @@ class Application final : private StartupView,
                           private ProgramCommands,
                           private TrayListener,
                           private RecentListener,
+                          private UndoListener,
                           private ProgramListener {
  public:
   // `program`: full path of the executable, whose folder is the data folder. `commandLine`: what follows the
@@ -99,6 +101,9 @@ class Application final : private StartupView,
   void DirectoryChanged() override;
   void UpdateProgress(int percent) override;
   void UpdateProgressEnded() override;
+  void Removed(const std::string& sentence) override;
+  void Undone(const std::string& sentence) override;
+  void NotUndone() override;
 
   bool SayNoWindow();
   void ReadData();
@@ -117,6 +122,7 @@ class Application final : private StartupView,
   Platform platform_;
   const Strings& strings_;
   AppState state_;
+  UndoList undo_{*this};
   DataFolder data_;
   SettingsRegistry settings_;
   CReg reg_;

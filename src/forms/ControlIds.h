@@ -85,6 +85,7 @@ inline constexpr int butUpdate = 1145;
 inline constexpr int butScan = 1146;
 inline constexpr int butSchedule = 1147;
 inline constexpr int butOptions = 1148;
+inline constexpr int butUndo = 1149;
 
 // frmScan: 2001 to 2099.
 inline constexpr int butStartIt = 2001;
@@ -347,6 +348,7 @@ inline constexpr int mnuHideToTray = 3244;
 inline constexpr int mnuExit = 3245;
 inline constexpr int mnuViewPersonalPage = 3246;
 inline constexpr int mnuUndoUpdate = 3247;
+inline constexpr int mnuUndo = 3248;
 // The menu of an event.
 inline constexpr int mnuEventNotifyMe = 3251;
 inline constexpr int mnuEventPersonalShow = 3252;

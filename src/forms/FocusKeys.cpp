@@ -17,6 +17,15 @@ unsigned ModifiersDown() {
 
 bool IsInRun(int number, int first, int count) { return number >= first && number < first + count; }
 
+// Ctrl with one of these works on the text in an edit, whatever the window has it for.
+bool EditsText(const ControlInstance* focused, int key) {
+  if (!focused || ModifiersDown() != kCtrl) return false;
+  const ControlKind kind = focused->KindOf();
+  const bool edit =
+      kind == ControlKind::Edit || kind == ControlKind::MultiEdit || kind == ControlKind::ComboEdit;
+  return edit && (key == 'A' || key == 'C' || key == 'V' || key == 'X' || key == 'Z');
+}
+
 bool IsListOpen(const ControlInstance* focused) {
   return focused && IsCombo(focused->KindOf()) &&
          SendMessageW(focused->window, CB_GETDROPPEDSTATE, 0, 0) != 0;
@@ -115,6 +124,7 @@ bool FocusKeys::RunKey(MSG& message) {
   const int key = static_cast<int>(message.wParam);
   if (IsListOpen(focused) && (key == VK_RETURN || key == VK_ESCAPE)) return false;  // the list's own
   if (OpensList(focused, message)) return true;
+  if (EditsText(focused, key)) return false;
   if (RunKeyTable(key, focused ? focused->Id() : 0)) return true;
   if (key == VK_RETURN && message.message == WM_KEYDOWN) return RunEnter(focused, message);
   if (key == VK_ESCAPE && message.message == WM_KEYDOWN) {

@@ -10,6 +10,7 @@
 #include "settings/FileWords.h"
 #include "settings/SettingNames.h"
 #include "settings/Strings.h"
+#include "settings/UndoList.h"
 
 namespace sonaro {
 namespace {
@@ -59,9 +60,24 @@ void FavoriteCommands::DeleteFavoriteGroup(std::size_t group) {
   const std::string name = groups_.Name(group);
   if (!settings_.Get(setting::kNoShowDelete) && !ConfirmDelete(name)) return;
   const auto removed = groups_.Find(name);  // while the question stood the groups may have moved
-  if (!removed || !Changed(groups_.Remove(*removed))) return;
+  if (!removed) return;
+  const std::string line = groups_.Line(*removed);
+  if (!Changed(groups_.Remove(*removed))) return;
   prompts_.TellTray("DeleteFavGroup\t" + name);
   listing_.GroupDeleted(name);
+  undo_.Add(FormatText(strings_.Load(IDS_GROUP_DELETED), {name}),
+            [this, place = *removed, name, line] { return PutBackGroup(place, name, line); });
+}
+
+// Not as an eleventh, which no button shows.
+UndoResult FavoriteCommands::PutBackGroup(std::size_t place, const std::string& name,
+                                          const std::string& line) {
+  if (!groups_.Find(name) && RefuseEleventh()) return UndoResult::Kept;
+  const FavoriteChange change = groups_.PutBackGroup(place, line);
+  if (change == FavoriteChange::Nothing) return UndoResult::Gone;
+  if (!Changed(change)) return UndoResult::Kept;
+  prompts_.TellTray("AddNewFavGroup\t" + name);
+  return UndoResult::Done;
 }
 
 bool FavoriteCommands::ConfirmDelete(const std::string& name) {
@@ -86,10 +102,10 @@ void FavoriteCommands::AddStationToGroup(std::string_view groupName, const Stati
   const auto group = groups_.Find(groupName);
   if (!group) return;
   const std::string name = groups_.Name(*group);
-  if (groups_.Contains(*group, station)) return prompts_.SayDone(IDS_GROUP_HAS_IT, station, name);
+  if (groups_.Contains(*group, station)) return SayDone(IDS_GROUP_HAS_IT, station, name);
   if (!Changed(groups_.AddStation(*group, station))) return;
   listing_.GroupsChanged();
-  prompts_.SayDone(IDS_GROUP_ADDED_TO, station, name);
+  SayDone(IDS_GROUP_ADDED_TO, station, name);
 }
 
 void FavoriteCommands::AddStationToGroupOrNew(std::string_view groupName, const StationKey& station) {
@@ -97,7 +113,7 @@ void FavoriteCommands::AddStationToGroupOrNew(std::string_view groupName, const 
   if (name.empty() || groups_.Find(name)) return AddStationToGroup(name, station);
   if (RefuseEleventh() || !Changed(groups_.Add(name, station))) return;
   prompts_.TellTray("AddNewFavGroup\t" + name);
-  prompts_.SayDone(IDS_GROUP_ADDED_TO, station, name);
+  SayDone(IDS_GROUP_ADDED_TO, station, name);
 }
 
 void FavoriteCommands::TakeOutMissing() {
@@ -121,16 +137,40 @@ void FavoriteCommands::TakeOutMissing() {
   for (const StationKey& station : listing_.State().missing) {
     if (asked.contains(station)) gone.push_back(station);
   }
-  if (group && Changed(groups_.RemoveStations(*group, gone))) listing_.GroupsChanged();
+  if (group) TakeOut(*group, gone);
 }
 
-void FavoriteCommands::RemoveStation(std::string_view groupName, const StationKey& station) {
-  const auto group = groups_.Find(groupName);
-  if (!group) return;
-  const std::string name = groups_.Name(*group);
-  if (!Changed(groups_.RemoveStation(*group, station))) return;
+void FavoriteCommands::RemoveStations(std::string_view groupName, const std::vector<StationKey>& stations) {
+  if (const auto group = groups_.Find(groupName)) TakeOut(*group, stations);
+}
+
+void FavoriteCommands::TakeOut(std::size_t group, const std::vector<StationKey>& stations) {
+  const std::string name = groups_.Name(group);
+  const std::vector<FavoriteGroups::Member> members = groups_.Members(group, stations);
+  // A member alone leaves the rest of its line as it stands.
+  const FavoriteChange change = stations.size() == 1 ? groups_.RemoveStation(group, stations.front())
+                                                     : groups_.RemoveStations(group, stations);
+  if (!Changed(change)) return;
   listing_.GroupsChanged();
-  prompts_.SayDone(IDS_GROUP_REMOVED_FROM, station, name);
+  const std::string sentence =
+      stations.size() == 1 && stations.front()
+          ? FormatText(strings_.Load(IDS_GROUP_REMOVED_FROM), {prompts_.NameOf(stations.front()), name})
+          : FormatText(strings_.Load(IDS_GROUP_REMOVED_MANY), {std::to_string(members.size()), name});
+  undo_.Add(sentence, [this, name, members] { return PutBack(name, members); });
+}
+
+UndoResult FavoriteCommands::PutBack(const std::string& name,
+                                     const std::vector<FavoriteGroups::Member>& members) {
+  const auto group = groups_.Find(name);
+  const FavoriteChange change = group ? groups_.PutBack(*group, members) : FavoriteChange::Nothing;
+  if (change == FavoriteChange::Nothing) return UndoResult::Gone;
+  if (!Changed(change)) return UndoResult::Kept;
+  listing_.GroupsChanged();
+  return UndoResult::Done;
+}
+
+void FavoriteCommands::SayDone(int textId, const StationKey& station, std::string_view group) {
+  prompts_.SayDone(FormatText(strings_.Load(textId), {prompts_.NameOf(station), group}));
 }
 
 void FavoriteCommands::PlaceStation(const StationKey& station, const StationKey& where) {

@@ -14,6 +14,8 @@ namespace sonaro {
 class CReg;
 class StationListState;
 class Strings;
+class UndoList;
+enum class UndoResult;
 
 // What the commands need of the windows around them.
 class FavoritePrompts : public MessageBoxView {
@@ -24,15 +26,21 @@ class FavoritePrompts : public MessageBoxView {
   virtual std::string AskGroupName(const std::string& present) = 0;
   // Takes a text for the small tray menu window: "AddNewFavGroup", tab, name ...
   virtual void TellTray(const std::string& text) = 0;
-  // Says in the status line what became of a station: text `textId` with its name and the group's.
-  virtual void SayDone(int textId, const StationKey& station, std::string_view group) = 0;
+  virtual std::string NameOf(const StationKey& station) = 0;
+  // In the status line.
+  virtual void SayDone(const std::string& sentence) = 0;
 };
 
 class FavoriteCommands {
  public:
   FavoriteCommands(FavoriteGroups& groups, StationListState& listing, CReg& settings, const Strings& strings,
-                   FavoritePrompts& prompts)
-      : groups_(groups), listing_(listing), settings_(settings), strings_(strings), prompts_(prompts) {}
+                   UndoList& undo, FavoritePrompts& prompts)
+      : groups_(groups),
+        listing_(listing),
+        settings_(settings),
+        strings_(strings),
+        undo_(undo),
+        prompts_(prompts) {}
 
   // True when there is a new group; it is the last one.
   bool AddFavoriteGroup();
@@ -44,13 +52,18 @@ class FavoriteCommands {
   void AddStationToGroup(std::string_view groupName, const StationKey& station);
   // The same, and a name that no group has makes one with the station in it.
   void AddStationToGroupOrNew(std::string_view groupName, const StationKey& station);
-  void RemoveStation(std::string_view groupName, const StationKey& station);
+  void RemoveStations(std::string_view groupName, const std::vector<StationKey>& stations);
   // Asks whether the members of the group on show that the guide does not know are to go, and takes them out.
   void TakeOutMissing();
   // Of the group that the list shows: puts one member in the place of another, those between moving along.
   void PlaceStation(const StationKey& station, const StationKey& where);
 
  private:
+  // Both can be undone. The sentence of several stations is IDS_GROUP_REMOVED_MANY.
+  void TakeOut(std::size_t group, const std::vector<StationKey>& stations);
+  UndoResult PutBack(const std::string& name, const std::vector<FavoriteGroups::Member>& members);
+  UndoResult PutBackGroup(std::size_t place, const std::string& name, const std::string& line);
+  void SayDone(int textId, const StationKey& station, std::string_view group);
   void Say(const char* key, const std::string& text);
   bool ConfirmDelete(const std::string& name);
   bool RefuseEleventh();
@@ -61,6 +74,7 @@ class FavoriteCommands {
   StationListState& listing_;
   CReg& settings_;
   const Strings& strings_;
+  UndoList& undo_;
   FavoritePrompts& prompts_;
 };
 

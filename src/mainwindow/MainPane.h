@@ -13,6 +13,7 @@ namespace sonaro {
 class HelpPages;
 class PlayerLaunch;
 class StationScan;
+class UndoList;
 class WebPageOpener;
 
 // What the main window uses of the rest of the program; owned by Application.
@@ -25,6 +26,7 @@ struct MainServices {
   ScheduleCommands& schedule;
   UpdateCommands& update;
   ProgramCommands& program;
+  UndoList& undo;
 };
 
 // The window around the panes.

@@ -3,6 +3,7 @@
 #include "forms/ControlIds.h"
 #include "mainwindow/SonaroFrm_panes.h"
 #include "resources/texts/mainwindow.h"
+#include "settings/Strings.h"
 
 namespace sonaro {
 namespace {
@@ -132,6 +133,12 @@ void SonaroFrm::DirectoryChanged() {
   browse_.GuideChanged();
   models_.listing.StationsChanged();
   status_.ShowGuide();
+  ShowEverything();
+}
+
+void SonaroFrm::RemovalUndone(const std::string& sentence) {
+  if (!IsOpen()) return;
+  status_.Say(FormatText(LoadText(IDS_STATUS_UNDONE), {sentence}));
   ShowEverything();
 }
 

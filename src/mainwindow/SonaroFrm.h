@@ -31,6 +31,8 @@ class SonaroFrm final : public Form, private MainView {
   void PersonalStationsChanged() override;
   void DirectoryChanged();
   void ScheduleChanged();
+  // A removal was undone: everything is shown anew, and the sentence in the status line.
+  void RemovalUndone(const std::string& sentence);
 
   // For other windows: the groups, and the status line with the progress of an update.
   GroupsPane& Groups() { return groups_; }

@@ -21,7 +21,7 @@ GroupsPane::GroupsPane(const MainContext& context, StatusPane& status)
       status_(status),
       playlists_(context),
       commands_(context.data.favorites, context.models.listing, context.data.settings, context.data.strings,
-                *this) {}
+                context.services.undo, *this) {}
 
 std::span<const EventRow> GroupsPane::Events() const {
   static const EventRow kRows[] = {
@@ -212,7 +212,7 @@ void GroupsPane::AddStationToGroup(const std::string& groupName, const StationKe
 }
 
 void GroupsPane::RemoveStation() {
-  commands_.RemoveStation(subject_.GroupName(), subject_.Station().station);
+  commands_.RemoveStations(subject_.GroupName(), {subject_.Station().station});
   context_.view.ShowEverything();
 }
 
@@ -228,9 +228,10 @@ std::string GroupsPane::AskGroupName(const std::string& present) {
 
 void GroupsPane::TellTray(const std::string& text) { context_.services.program.TellTray(text); }
 
-void GroupsPane::SayDone(int textId, const StationKey& station, std::string_view group) {
-  if (!form_.IsOpen()) return;
-  status_.Say(FormatText(form_.LoadText(textId), {context_.data.source.NameOf(station), group}));
+std::string GroupsPane::NameOf(const StationKey& station) { return context_.data.source.NameOf(station); }
+
+void GroupsPane::SayDone(const std::string& sentence) {
+  if (form_.IsOpen()) status_.Say(sentence);
 }
 
 }  // namespace sonaro

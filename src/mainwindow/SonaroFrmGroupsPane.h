@@ -36,7 +36,8 @@ class GroupsPane final : public EventTarget, private FavoritePrompts {
   std::string AskNewGroupName() override;
   std::string AskGroupName(const std::string& present) override;
   void TellTray(const std::string& text) override;
-  void SayDone(int textId, const StationKey& station, std::string_view group) override;
+  std::string NameOf(const StationKey& station) override;
+  void SayDone(const std::string& sentence) override;
   bool ShowFocusedGroup();
 
   void butFavs_Click(int group);

@@ -11,6 +11,7 @@
 #include "settings/FormatCount.h"
 #include "settings/SettingNames.h"
 #include "settings/Strings.h"
+#include "settings/UndoList.h"
 
 namespace sonaro {
 
@@ -18,6 +19,8 @@ std::span<const EventRow> StatusPane::Events() const {
   static const EventRow kRows[] = {
       {butUpdate, Click, &StatusPane::butUpdate_Click},
       {mnuUpdate, Click, &StatusPane::butUpdate_Click},
+      {butUndo, Click, &StatusPane::butUndo_Click},
+      {mnuUndo, Click, &StatusPane::butUndo_Click},
       {mnuUndoUpdate, Click, &StatusPane::mnuUndoUpdate_Click},
       {butScan, Click, &StatusPane::butScan_Click},
       {mnuScan, Click, &StatusPane::butScan_Click},
@@ -31,6 +34,7 @@ std::span<const EventRow> StatusPane::Events() const {
 
 void StatusPane::ShowGuide() {
   said_ = Said::Nothing;
+  butUndo_.Show(false);
   const std::size_t count = context_.data.stations.StationCount();
   const std::string updated = context_.data.settings.Get(setting::kLastUpdate);
   int textId = IDS_STATUS_GUIDE;
@@ -42,8 +46,16 @@ void StatusPane::ShowGuide() {
 
 void StatusPane::Say(const std::string& sentence) {
   lblStatus_.SetText(sentence);
+  butUndo_.Show(false);
   said_ = Said::JustNow;
 }
+
+void StatusPane::SayRemoved(const std::string& sentence) {
+  Say(sentence);
+  butUndo_.Show();
+}
+
+void StatusPane::butUndo_Click() { context_.services.undo.Undo(); }
 
 // The first change is the one that the sentence is about.
 void StatusPane::WindowChanged() {

@@ -16,6 +16,8 @@ class StatusPane final : public EventTarget {
   void ShowGuide();
   // A sentence about what was done. It stands until the window shows something else after that.
   void Say(const std::string& sentence);
+  // The same of a removal: the button to undo it stands beside the sentence.
+  void SayRemoved(const std::string& sentence);
   // After every change of what the window shows.
   void WindowChanged();
   // 0 to 100; below 0 when it is not known.
@@ -28,6 +30,7 @@ class StatusPane final : public EventTarget {
   void butScan_Click() { Open(ProgramWindow::Scan); }
   void butSchedule_Click() { Open(ProgramWindow::Schedule); }
   void butOptions_Click() { Open(ProgramWindow::Options); }
+  void butUndo_Click();
   void mnuUndoUpdate_Click() { context_.services.update.OfferUndo(form_); }
   void Open(ProgramWindow window) { context_.services.program.Open(window, &form_); }
 
@@ -40,6 +43,7 @@ class StatusPane final : public EventTarget {
   Label lblPercent_{form_, lblPercent};
   ProgressHandle picProgress_{form_, picProgress};
   Button butUpdate_{form_, butUpdate};
+  Button butUndo_{form_, butUndo};
   Said said_ = Said::Nothing;
 };
 

@@ -246,6 +246,43 @@ FavoriteChange FavoriteGroups::RemoveStations(std::size_t group, const std::vect
   });
 }
 
+std::vector<FavoriteGroups::Member> FavoriteGroups::Members(std::size_t group,
+                                                            const std::vector<StationKey>& stations) const {
+  const std::unordered_set<StationKey> wanted(stations.begin(), stations.end());
+  std::vector<Member> members;
+  for (std::size_t place = 0; place < Keys(group).size(); ++place) {
+    if (!wanted.contains(Keys(group)[place])) continue;
+    members.push_back({place, std::string(TrimBlanks(groups_[group].texts[place]))});
+  }
+  return members;
+}
+
+// In the order of their places, so that each finds those in front of it there again.
+FavoriteChange FavoriteGroups::PutBack(std::size_t group, const std::vector<Member>& members) {
+  return Change(group, [&](std::size_t at) {
+    Group& now = groups_[at];
+    bool changed = false;
+    for (const Member& member : members) {
+      const StationKey key = StationKey::FromToken(member.token);
+      if (key && Contains(at, key)) continue;
+      const auto place = static_cast<std::ptrdiff_t>(std::min(member.place, now.keys.size()));
+      now.keys.insert(now.keys.begin() + place, key);
+      now.texts.insert(now.texts.begin() + place, " " + member.token);
+      changed = true;
+    }
+    return changed;
+  });
+}
+
+FavoriteChange FavoriteGroups::PutBackGroup(std::size_t place, std::string_view line) {
+  return Change([&] {
+    Group group = Group::FromLine(line);
+    if (Find(group.name)) return false;
+    groups_.insert(groups_.begin() + static_cast<std::ptrdiff_t>(std::min(place, Count())), std::move(group));
+    return true;
+  });
+}
+
 FavoriteChange FavoriteGroups::MoveStation(std::size_t group, std::size_t from, std::size_t to) {
   if (group >= Count()) return FavoriteChange::Nothing;
   const Group meant = groups_[group];

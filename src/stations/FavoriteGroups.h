@@ -65,6 +65,18 @@ class FavoriteGroups {
   FavoriteChange RemoveStation(std::size_t group, const StationKey& station);
   // Several with one write. None stands for all that names no station.
   FavoriteChange RemoveStations(std::size_t group, const std::vector<StationKey>& stations);
+  // Of the members that are one of `stations`: what puts them back after they were removed.
+  struct Member {
+    std::size_t place = 0;
+    std::string token;
+  };
+  std::vector<Member> Members(std::size_t group, const std::vector<StationKey>& stations) const;
+  // Puts removed members back to their places, or to the end of a group that has become shorter. Those that
+  // the group has again are left out.
+  FavoriteChange PutBack(std::size_t group, const std::vector<Member>& members);
+  // A group as it stands in the file, and a removed one back at its place. Nothing: its name is in use again.
+  std::string Line(std::size_t group) const { return groups_[group].Line(); }
+  FavoriteChange PutBackGroup(std::size_t place, std::string_view line);
   // Moves the member at place `from` to place `to`, places counted as in Keys().
   FavoriteChange MoveStation(std::size_t group, std::size_t from, std::size_t to);
 

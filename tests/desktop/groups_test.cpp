@@ -41,10 +41,18 @@ TEST_F(GroupTest, GroupsLiveFromTheFirstToTheRefusedEleventh) {
   Command(main, mnuActionRemoveFromFavList);
   EXPECT_TRUE(WaitUntil([&] { return status() == "Removed " + name + " from Group 2."; })) << status();
   SaveShot("group");
+  Click(Control(main, butUndo));
+  EXPECT_TRUE(WaitUntil([&] { return status() == "Undone: Removed " + name + " from Group 2."; }))
+      << status();
+  EXPECT_EQ(ColumnTexts(List(main)), std::vector<std::string>{name});
+  EXPECT_FALSE(IsShown(Control(main, butUndo)));
   Command(main, mnuFavDeleteFav);
   AnswerBox(main, butMsg);
   EXPECT_TRUE(Listing(main, "Your Recent"));
   EXPECT_EQ(TextOf(Control(main, butFavs + 1)), "Group 3");
+  EXPECT_TRUE(IsShown(Control(main, butUndo)));
+  PressKey(main, 'Z', Modifier::Control);
+  EXPECT_TRUE(WaitUntil([&] { return TextOf(Control(main, butFavs + 1)) == "Group 2"; }));
 }
 
 TEST_F(GroupTest, StationsAndGroupsAreDragged) {

@@ -1,8 +1,10 @@
 #include "mainwindow/FavoriteCommands.h"
 
 #include "fakes/FakeMessageBox.h"
+#include "fakes/FakeUndo.h"
 #include "mainwindow/Models.h"
 #include "resources/texts/mainwindow.h"
+#include "settings/SettingNames.h"
 
 namespace sonaro {
 namespace {
@@ -18,9 +20,8 @@ class FakePrompts : public FavoritePrompts {
   std::string AskNewGroupName() override { return name; }
   std::string AskGroupName(const std::string&) override { return name; }
   void TellTray(const std::string& text) override { told.push_back(text); }
-  void SayDone(int textId, const StationKey& station, std::string_view group) override {
-    done.push_back(std::to_string(textId) + " " + station.Token() + " " + std::string(group));
-  }
+  std::string NameOf(const StationKey& station) override { return station.Token(); }
+  void SayDone(const std::string& sentence) override { done.push_back(sentence); }
 };
 
 class FavoriteCommandsTest : public Models {
@@ -28,10 +29,14 @@ class FavoriteCommandsTest : public Models {
   std::string File() const { return files.Get("/d/favs.snr").value_or("(no file)"); }
   std::string LastKey() const { return prompts.box.asked.empty() ? "" : prompts.box.asked.back().key; }
 
-  static std::string Done(int textId, const std::string& what) { return std::to_string(textId) + " " + what; }
+  static std::string Done(int textId, const char* what, const char* group) {
+    return FormatText(MarkedStrings().Load(textId), {what, group});
+  }
 
   FakePrompts prompts;
-  FavoriteCommands commands{groups, listing, settings, strings, prompts};
+  FakeUndoListener user;
+  UndoList undo{user};
+  FavoriteCommands commands{groups, listing, settings, strings, undo, prompts};
 };
 
 TEST_F(FavoriteCommandsTest, GroupsAreAddedUntilThereAreTen) {
@@ -106,18 +111,18 @@ TEST_F(FavoriteCommandsTest, StationsComeGoAndMoveInTheGroupOnShow) {
   commands.PlaceStation(Key("3"), Key("unknown"));
   commands.PlaceStation(Key("unknown"), Key("3"));
   EXPECT_EQ(Shown(), "S4 P1 S1 S3 ");
-  commands.RemoveStation("jazz", Key("P1"));
+  commands.RemoveStations("jazz", {Key("P1")});
   EXPECT_EQ(File(), "Jazz\t77 4 1 3 \r\nEmpty\t\r\nRock\t2\r\n");
   listing.ShowRecent();
-  commands.RemoveStation("No such group", Key("3"));
+  commands.RemoveStations("No such group", {Key("3")});
   commands.PlaceStation(Key("3"), Key("1"));
   EXPECT_EQ(Shown(), "S3 P1 S1 ") << "no group is on show";
   commands.AddStationToGroup("ROCK", Key("P1"));
   EXPECT_TRUE(File().ends_with("Rock\t2 P1 \r\n"));
   EXPECT_TRUE(prompts.box.asked.empty());
-  EXPECT_EQ(prompts.done, (std::vector<std::string>{
-                              Done(IDS_GROUP_ADDED_TO, "3 Jazz"), Done(IDS_GROUP_HAS_IT, "3 Jazz"),
-                              Done(IDS_GROUP_REMOVED_FROM, "P1 Jazz"), Done(IDS_GROUP_ADDED_TO, "P1 Rock")}));
+  EXPECT_EQ(prompts.done, (std::vector<std::string>{Done(IDS_GROUP_ADDED_TO, "3", "Jazz"),
+                                                    Done(IDS_GROUP_HAS_IT, "3", "Jazz"),
+                                                    Done(IDS_GROUP_ADDED_TO, "P1", "Rock")}));
 }
 
 TEST_F(FavoriteCommandsTest, TheFirstStationMakesItsGroup) {
@@ -125,7 +130,7 @@ TEST_F(FavoriteCommandsTest, TheFirstStationMakesItsGroup) {
   commands.AddStationToGroupOrNew(" First\t", Key("3"));
   EXPECT_TRUE(File().ends_with("First\t3 \r\n")) << File();
   EXPECT_EQ(prompts.told, std::vector<std::string>{"AddNewFavGroup\tFirst"});
-  EXPECT_EQ(prompts.done, std::vector<std::string>{Done(IDS_GROUP_ADDED_TO, "3 First")});
+  EXPECT_EQ(prompts.done, std::vector<std::string>{Done(IDS_GROUP_ADDED_TO, "3", "First")});
   commands.AddStationToGroupOrNew("FIRST", Key("1"));
   EXPECT_TRUE(File().ends_with("First\t3 1 \r\n")) << "a name that is there means that group";
   commands.AddStationToGroupOrNew(" ", Key("1"));
@@ -162,11 +167,54 @@ TEST_F(FavoriteCommandsTest, MissingMembersAreTakenOutWhenTheUserSaysSo) {
   EXPECT_EQ(File(), before) << "the box was closed";
   prompts.box.answers = {{MessageAnswer::First, false}};
   commands.TakeOutMissing();
-  EXPECT_TRUE(File().starts_with("Jazz\t4 P1 1 \r\n")) << File();
+  EXPECT_TRUE(File().starts_with("Jazz\t4 P1 1\r\n")) << File();
   EXPECT_TRUE(listing.State().missing.empty());
   const std::size_t asked = prompts.box.asked.size();
   commands.TakeOutMissing();
   EXPECT_EQ(prompts.box.asked.size(), asked) << "none is missing";
+}
+
+TEST_F(FavoriteCommandsTest, WhatWasTakenAwayComesBackToItsPlace) {
+  listing.ShowFavoriteGroup(0);
+  commands.RemoveStations("Jazz", {Key("77")});
+  commands.RemoveStations("Jazz", {Key("4"), Key("1")});
+  EXPECT_EQ(user.heard, (std::vector<std::string>{Done(IDS_GROUP_REMOVED_FROM, "77", "Jazz"),
+                                                  Done(IDS_GROUP_REMOVED_MANY, "2", "Jazz")}));
+  commands.AddStationToGroup("Jazz", Key("3"));  // stays when the others come back
+  undo.Undo();
+  EXPECT_EQ(Shown(), "S4 P1 S1 S3 ");
+  commands.AddStationToGroup("Jazz", Key("77"));  // is there once, then
+  undo.Undo();
+  EXPECT_EQ(user.heard.back(), "not undone");
+  EXPECT_TRUE(File().starts_with("Jazz\t4 P1 1 3 77")) << File();
+
+  settings.Set(setting::kNoShowDelete, true);
+  const std::string file = File();
+  commands.DeleteFavoriteGroup(0);
+  undo.Undo();
+  EXPECT_EQ(File(), file);
+  EXPECT_EQ(prompts.told.back(), "AddNewFavGroup\tJazz");
+  commands.DeleteFavoriteGroup(1);
+  prompts.name = "Empty";
+  EXPECT_TRUE(commands.AddFavoriteGroup());
+  undo.Undo();
+  EXPECT_EQ(user.heard.back(), "not undone") << "the name is in use again";
+
+  // No room, and no way to write: said, and to be tried again.
+  commands.DeleteFavoriteGroup(0);
+  files.SetSpaceLeft(0);
+  undo.Undo();
+  EXPECT_EQ(LastKey(), "NotSaved");
+  files.SetSpaceLeft(std::nullopt);
+  while (groups.Count() < FavoriteGroups::kSlots) {
+    prompts.name = "G" + std::to_string(groups.Count());
+    EXPECT_TRUE(commands.AddFavoriteGroup());
+  }
+  undo.Undo();
+  EXPECT_EQ(LastKey(), "AlreadyHave10FavoriteGroups");
+  commands.DeleteFavoriteGroup(9);
+  undo.Undo();
+  EXPECT_EQ(groups.Count(), FavoriteGroups::kSlots);
 }
 
 TEST_F(FavoriteCommandsTest, AChangeThatCannotBeWrittenIsSaid) {

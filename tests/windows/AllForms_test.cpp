@@ -15,6 +15,7 @@
 #include "fakes/FakeHttpControl.h"
 #include "fakes/FakeMessageBox.h"
 #include "fakes/FakeShell.h"
+#include "fakes/FakeUndo.h"
 #include "forms/StringTable.h"
 #include "mainwindow/MainModels.h"
 #include "mainwindow/SonaroFrm.h"
@@ -130,6 +131,8 @@ struct EmptyProgram {
   NoUpdates updateDialog{forms, update};
   FakeCommands commands;
   NoNotify notify;
+  FakeUndoListener undoListener;
+  UndoList undo{undoListener};
   GuideData guide{folder, settings, words, state, stations, personal, extra, recent, favorites, source};
 };
 
@@ -177,9 +180,9 @@ const NamedForm kForms[] = {
     {"frmSplash", [](EmptyProgram& p) { return Make<frmSplash>(p.forms); }},
     {"SonaroFrm",
      [](EmptyProgram& p) {
-       return Make<SonaroFrm>(
-           p.forms, p.guide,
-           MainServices{p.player, p.scan, p.pages, p.help, p.messages, p.commands, p.commands, p.commands});
+       return Make<SonaroFrm>(p.forms, p.guide,
+                              MainServices{p.player, p.scan, p.pages, p.help, p.messages, p.commands,
+                                           p.commands, p.commands, p.undo});
      }},
     {"frmExtraLink",
      [](EmptyProgram& p) {
