@@ -18,20 +18,24 @@ std::vector<std::string> StationPicker::Sources() const {
   for (std::size_t group = 0; group < groups_.Count(); ++group) names.push_back(groups_.Name(group));
   names.push_back(strings_.Load(IDS_SCHED_PICK_YOURS));
   names.push_back(strings_.Load(IDS_SCHED_PICK_RECENT));
+  names.push_back(strings_.Load(IDS_SCHED_PICK_GUIDE));
   return names;
 }
 
-// The two lists behind the groups have no place in them, so they count on from the last one.
+std::size_t StationPicker::WholeGuide() const { return groups_.Count() + 2; }
+
+// The lists behind the groups have no place in them, so they count on from the last one.
 std::vector<StationInfo> StationPicker::RowsOf(std::size_t source) {
+  if (source == WholeGuide()) return found_;
   if (source < groups_.Count()) return source_.InfosOf(groups_.Keys(source));
   return source == groups_.Count() ? source_.InfosOf(source_.OwnKeys()) : source_.InfosOf(recent_.Keys());
 }
 
-// The search of the main window with "all words": in name, place, kind and description alike.
+// The search of the main window with "all words".
 std::vector<StationInfo> StationPicker::Find(std::string_view text) {
-  std::vector<StationInfo> rows;
-  for (const StationRecord& record : stations_.SearchStations(text, true)) rows.push_back(InfoOf(record));
-  return rows;
+  found_.clear();
+  for (const StationRecord& record : stations_.SearchStations(text, true)) found_.push_back(InfoOf(record));
+  return found_;
 }
 
 std::vector<std::string> StationPicker::SearchHistory() const {

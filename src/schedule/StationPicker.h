@@ -27,10 +27,13 @@ class StationPicker {
         reg_(reg),
         strings_(strings) {}
 
-  // What can be taken from: the groups, then "Your Stations" and "Recently Launched Stations".
+  // What can be taken from: the groups, then "Your Stations", "Recently Launched Stations" and the whole
+  // guide, of which the last search is shown.
   std::vector<std::string> Sources() const;
+  std::size_t WholeGuide() const;  // its place among the sources
   std::vector<StationInfo> RowsOf(std::size_t source);
-  // Stations that hold every word of the text.
+  // Stations of the guide that hold every word of the text: in the name, the place, the media type, the
+  // format or the description.
   std::vector<StationInfo> Find(std::string_view text);
   // Earlier searches, newest first.
   std::vector<std::string> SearchHistory() const;
@@ -42,6 +45,7 @@ class StationPicker {
   const RecentList& recent_;
   const CReg& reg_;
   const Strings& strings_;
+  std::vector<StationInfo> found_;
 };
 
 }  // namespace sonaro

@@ -15,11 +15,8 @@ const FormDesign& frmSelectStation::Design() {
        .kind = ControlKind::Combo,
        .text = IDS_SCHED_PICK_FROM,
        .at = {120, 48, 312, 28}},
-      Caption(IDS_SCHED_PICK_NAME_HAS, {14, 84, 100, 28}),
-      {.id = txtFind,
-       .kind = ControlKind::ComboEdit,
-       .text = IDS_SCHED_PICK_NAME_HAS,
-       .at = {120, 84, 312, 28}},
+      Caption(IDS_SCHED_PICK_WORDS, {14, 84, 100, 28}),
+      {.id = txtFind, .kind = ControlKind::ComboEdit, .text = IDS_SCHED_PICK_WORDS, .at = {120, 84, 312, 28}},
       {.id = butSearchIt,
        .kind = ControlKind::PushButton,
        .text = IDS_SCHED_PICK_FIND,
@@ -86,15 +83,18 @@ void frmSelectStation::OnLoad() {
   lstResult_->SetColumns({{LoadText(IDS_SCHED_COLUMN_NAME), 249},
                           {LoadText(IDS_SCHED_COLUMN_LOCATION), 170},
                           {LoadText(IDS_SCHED_COLUMN_MEDIA), 112}});
-  lstResult_->SetEmptyText(LoadText(IDS_SCHED_PICK_EMPTY), LoadText(IDS_SCHED_PICK_EMPTY_HELP));
   lstResult_->SetModel(&rows_, true);
   for (const std::string& source : stations_.Sources()) cmbSelectGroup_.AddItem(source);
   for (const std::string& earlier : stations_.SearchHistory()) txtFind_.AddItem(earlier);
+  txtFind_.SetTip(LoadText(IDS_SCHED_PICK_WORDS_TIP));
   cmbSelectGroup_.SelectItem(0);
   cmbSelectGroup_Change();
 }
 
 void frmSelectStation::ShowRows(std::vector<StationInfo> rows) {
+  const bool searched = cmbSelectGroup_.SelectedItem() == static_cast<int>(stations_.WholeGuide());
+  lstResult_->SetEmptyText(LoadText(searched ? IDS_SCHED_PICK_NONE : IDS_SCHED_PICK_EMPTY),
+                           LoadText(searched ? IDS_SCHED_PICK_NONE_HELP : IDS_SCHED_PICK_EMPTY_HELP));
   rows_.rows = std::move(rows);
   lstResult_->RowsChanged();
   lstResult_->SelectNone();
@@ -108,7 +108,8 @@ void frmSelectStation::cmbSelectGroup_Change() {
 
 void frmSelectStation::butSearchIt_Click() {
   const std::string text = txtFind_.Text();
-  if (TrimBlanks(text).empty()) return;
+  if (TrimBlanks(text).empty()) return txtFind_.Focus();
+  cmbSelectGroup_.SelectItem(static_cast<int>(stations_.WholeGuide()));
   ShowRows(stations_.Find(text));
   lstResult_.Focus();
 }

@@ -21,12 +21,12 @@ TEST_F(HandClockTest, TheListAddsChangesAndDeletes) {
   Click(Control(dialog, butSchedIt));
   HWND picker = Dialog("frmSelectStation");
   const auto sources = ComboTexts(Control(picker, cmbSelectGroup));
-  ASSERT_GE(sources.size(), 2u);
-  EXPECT_EQ(sources[sources.size() - 2], "Your Stations");
-  EXPECT_EQ(sources.back(), "Recently Launched Stations");
+  EXPECT_EQ(sources, (std::vector<std::string>{"Your Stations", "Recently Launched Stations",
+                                               "The Whole Guide, by Search"}));
   SetText(Control(picker, txtFind), "news");
   Click(Control(picker, butSearchIt));
   ASSERT_TRUE(WaitUntil([&] { return RowCount(Control(picker, lstResult)) > 1; }));
+  EXPECT_EQ(ChosenText(Control(picker, cmbSelectGroup)), sources.back());
   const std::string name = CellText(Control(picker, lstResult), 1);
   SelectRow(Control(picker, lstResult), 1);
   PressOk(picker, dialog);
