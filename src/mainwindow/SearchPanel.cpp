@@ -49,6 +49,33 @@ std::vector<std::string> SearchPanel::History() const {
   return SearchHistory(settings_.Get(setting::kSearchList)).Entries();
 }
 
+SearchHistory SearchPanel::Pinned() const {
+  return SearchHistory(settings_.Get(setting::kPinnedSearches), SearchHistory::kMaxPinned);
+}
+
+std::vector<std::string> SearchPanel::Searches() const {
+  const SearchHistory pinned = Pinned();
+  std::vector<std::string> searches(pinned.Entries().rbegin(), pinned.Entries().rend());
+  for (const std::string& past : History()) {
+    if (!pinned.Contains(past)) searches.push_back(past);
+  }
+  return searches;
+}
+
+bool SearchPanel::IsPinned(std::string_view text) const { return Pinned().Contains(CleanText(text)); }
+
+void SearchPanel::TogglePinned(std::string_view text) {
+  const std::string clean = CleanText(text);
+  if (clean.empty()) return;
+  SearchHistory pinned = Pinned();
+  if (pinned.Contains(clean)) {
+    pinned.Remove(clean);
+  } else {
+    pinned.Add(clean);
+  }
+  settings_.Set(setting::kPinnedSearches, pinned.ToSetting());
+}
+
 SearchPanel::Outcome SearchPanel::FindStation(std::string_view text, std::size_t kind, bool allWords) {
   const std::string clean = CleanText(text);
   if (clean.empty() || kinds_.empty()) return Outcome::Nothing;

@@ -45,6 +45,11 @@ class SearchPanel {
 
   // Past searches, oldest first.
   std::vector<std::string> History() const;
+  // What the list of searches offers: the pinned ones, the newest first, then the past ones, oldest first.
+  std::vector<std::string> Searches() const;
+  bool IsPinned(std::string_view text) const;
+  // Pins the search to the list of searches, or lets go of it. A text without a word changes nothing.
+  void TogglePinned(std::string_view text);
 
   // Runs the search for `text` as the user typed it. `kind` is an index into Kinds(); one beyond the end
   // means the last.
@@ -57,6 +62,7 @@ class SearchPanel {
   const std::string& WebAddress() const { return webAddress_; }
 
  private:
+  SearchHistory Pinned() const;
   void FindOnTheWeb(const std::string& text, const SearchKind& kind, bool allWords);
   void FindInTheDirectory(const std::string& text, bool allWords);
 

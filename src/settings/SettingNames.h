@@ -59,6 +59,7 @@ inline constexpr Text kProxyPort{"ProxyPort"};                          // Proxy
 inline constexpr Text kPlayWith{"PlayWith"};                            // playback/Players: the kind of the link decides
 inline constexpr Number kScanTime{"ScanTime"};                          // playback/StationScan: its default seconds
 inline constexpr Text kSearchList{"SearchList"};                        // stations/SearchHistory: no earlier searches
+inline constexpr Text kPinnedSearches{"PinnedSearches"};                // stations/SearchHistory: none
 inline constexpr Text kListFilter{"ListFilter"};                        // mainwindow/StationFilter: no filter
 inline constexpr Switch kNoShowDelete{"NoShowDelete", "Yes", "", false, true};  // mainwindow, favourite groups: ask
 inline constexpr Switch kNoShowDeletePersonalStation{"NoShowDeletePersonalStation", "Yes", "", false, true};  // personal stations: ask

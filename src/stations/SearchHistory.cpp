@@ -1,20 +1,31 @@
 #include "stations/SearchHistory.h"
 
+#include <algorithm>
+
 #include "base/Text.h"
 
 namespace sonaro {
 
-SearchHistory::SearchHistory(std::string_view setting) {
+SearchHistory::SearchHistory(std::string_view setting, std::size_t maxCount) : maxCount_(maxCount) {
   for (const std::string_view entry : Split(setting, '\t')) {
     if (!entry.empty()) entries_.emplace_back(entry);
   }
 }
 
 void SearchHistory::Add(std::string_view text) {
-  const std::size_t moved =
-      std::erase_if(entries_, [text](const std::string& entry) { return EqualIgnoringCase(entry, text); });
-  while (moved == 0 && entries_.size() >= kMaxCount) entries_.erase(entries_.begin());
+  const bool moved = Contains(text);
+  Remove(text);
+  while (!moved && entries_.size() >= maxCount_) entries_.erase(entries_.begin());
   entries_.emplace_back(text);
+}
+
+void SearchHistory::Remove(std::string_view text) {
+  std::erase_if(entries_, [text](const std::string& entry) { return EqualIgnoringCase(entry, text); });
+}
+
+bool SearchHistory::Contains(std::string_view text) const {
+  return std::any_of(entries_.begin(), entries_.end(),
+                     [text](const std::string& entry) { return EqualIgnoringCase(entry, text); });
 }
 
 std::string SearchHistory::ToSetting() const {

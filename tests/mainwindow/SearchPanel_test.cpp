@@ -52,6 +52,21 @@ TEST_F(SearchPanelTest, ASearchOfTheDirectoryKeepsItsWordsAndTellsTheTray) {
   EXPECT_EQ(listing.State().view, View::List);
 }
 
+TEST_F(SearchPanelTest, PinnedSearchesStandBeforeThePastOnesAndOutsideTheirSetting) {
+  LoadKinds("");
+  panel.TogglePinned("  ");
+  for (const char* text : {"rock", "jazz", "polka"}) panel.FindStation(text, 0, true);
+  panel.TogglePinned(" Jazz\t");
+  panel.TogglePinned("blues bar");
+  EXPECT_EQ(panel.Searches(), (std::vector<std::string>{"blues bar", "Jazz", "rock", "polka"}));
+  EXPECT_EQ(settings.Setting("SearchList"), "\trock\tjazz\tpolka\t");
+  EXPECT_EQ(settings.Setting("PinnedSearches"), "\tJazz\tblues bar\t");
+  EXPECT_TRUE(panel.IsPinned("jazz "));
+  panel.TogglePinned("jazz");
+  EXPECT_FALSE(panel.IsPinned("jazz"));
+  EXPECT_EQ(panel.Searches(), (std::vector<std::string>{"blues bar", "rock", "jazz", "polka"}));
+}
+
 TEST_F(SearchPanelTest, AWebSearchFillsTheTemplateAndLeavesTheListAlone) {
   LoadKinds(
       "Stations\tFindStation\nShows\tWeb\thttp://s/?q=<<SearchWord>>&o=<<SearchOpt>>&again=<<SearchWord>>\n"
