@@ -30,6 +30,46 @@ namespace {
 
 constexpr std::string_view kRedirectStatus = "302";
 constexpr std::string_view kToDoReason = "Update";
+constexpr int kWholeWanted = -1;  // in place of a refusal: the changes that came do not fit
+
+int RefusalOf(UpdateFileStatus status) {
+  switch (status) {
+    case UpdateFileStatus::Missing:
+      return IDS_NET_NOT_SAVED;
+    case UpdateFileStatus::TooLarge:
+      return IDS_NET_TOO_MUCH;
+    case UpdateFileStatus::CannotCheck:
+      return IDS_NET_CANNOT_CHECK;
+    case UpdateFileStatus::NotSigned:
+      return IDS_NET_NOT_SIGNED;
+    case UpdateFileStatus::WrongSign:
+      return IDS_NET_WRONG_SIGN;
+    case UpdateFileStatus::Read:
+      break;
+  }
+  return 0;
+}
+
+int RefusalOf(InstallStatus status) {
+  switch (status) {
+    case InstallStatus::NoStations:
+      return IDS_NET_NO_STATIONS;
+    case InstallStatus::Older:
+      return IDS_NET_OLDER;
+    case InstallStatus::NotFitting:
+      return IDS_NET_NOT_FITTING;
+    case InstallStatus::NotKept:
+      return IDS_NET_NOT_KEPT;
+    case InstallStatus::NotSaved:
+      return IDS_NET_NOT_SAVED;
+    case InstallStatus::NotRebuilt:
+      return IDS_NET_NOT_REBUILT;
+    case InstallStatus::Waits:
+    case InstallStatus::Done:
+      break;
+  }
+  return 0;
+}
 
 }  // namespace
 
@@ -55,6 +95,8 @@ void UpdateExchange::tmrInetStuff_Timer() {
     Complete();
   } else if (phase_ == Phase::FileRequest) {
     FetchUpdate();
+  } else if (phase_ == Phase::Installing) {
+    DoSlice();
   } else {
     AskForUpdate();
   }
@@ -92,6 +134,11 @@ void UpdateExchange::FetchUpdate() {
 void UpdateExchange::Cancel() {
   view_.StopTimer();
   http_->Cancel();
+  if (taking_ && !needs_.install.MayGiveUp()) return Taken(taking_->Finish());
+  if (taking_) {
+    taking_.reset();
+    needs_.install.GiveUp();
+  }
   Finish(UpdateOutcome::Kind::Cancelled);
 }
 
@@ -171,23 +218,17 @@ void UpdateExchange::Received() {
     Refused(IDS_NET_NOT_SAVED);
     return;
   }
-  UpdateContents contents = ReadUpdateFile(needs_.data);
-  switch (contents.status) {
-    case UpdateFileStatus::Missing:
-      return Refused(IDS_NET_NOT_SAVED);
-    case UpdateFileStatus::TooLarge:
-      return Refused(IDS_NET_TOO_MUCH);
-    case UpdateFileStatus::CannotCheck:
-      return Refused(IDS_NET_CANNOT_CHECK);
-    case UpdateFileStatus::NotSigned:
-      return Refused(IDS_NET_NOT_SIGNED);
-    case UpdateFileStatus::WrongSign:
-      return Refused(IDS_NET_WRONG_SIGN);
-    case UpdateFileStatus::Read:
-      break;
+  phase_ = Phase::Installing;
+  taking_.emplace(TakeUpdate());
+  view_.StartTimer(kNextSlice);
+}
+
+void UpdateExchange::DoSlice() {
+  if (taking_->Step()) {
+    view_.StartTimer(kNextSlice);
+  } else {
+    Taken(taking_->Take());
   }
-  if (!ExpandChanges(needs_.data, contents)) return AskForWhole();
-  Installed(needs_.install.Install(contents, installMode_));
 }
 
 // A service that answers with changes again, although it is told of nothing to change, is not asked a third
@@ -199,31 +240,23 @@ void UpdateExchange::AskForWhole() {
   view_.StartTimer(kSoon);
 }
 
-void UpdateExchange::Installed(InstallStatus status) {
-  switch (status) {
-    case InstallStatus::NoStations:
-      return Refused(IDS_NET_NO_STATIONS);
-    case InstallStatus::Older:
-      return Refused(IDS_NET_OLDER);
-    case InstallStatus::NotFitting:
-      return Refused(IDS_NET_NOT_FITTING);
-    case InstallStatus::NotKept:
-      return Refused(IDS_NET_NOT_KEPT);
-    case InstallStatus::NotSaved:
-      return Refused(IDS_NET_NOT_SAVED);
-    case InstallStatus::NotRebuilt:
-      return Refused(IDS_NET_NOT_REBUILT);
-    // Counts as installed: what is in use takes its place at the next start.
-    case InstallStatus::Waits:
-      reason_ = needs_.strings.Load(IDS_NET_WAITS);
-      break;
-    case InstallStatus::Done:
-      break;
-  }
-  ReportInstalled();
+// Gives the text of the refusal, 0 when there is none, or kWholeWanted.
+Sliced<int> UpdateExchange::TakeUpdate() {
+  UpdateContents contents = co_await ReadUpdateFile(needs_.data);
+  if (contents.status != UpdateFileStatus::Read) co_return RefusalOf(contents.status);
+  co_await NextSlice();
+  if (!ExpandChanges(needs_.data, contents)) co_return kWholeWanted;
+  co_await NextSlice();
+  const InstallStatus status = co_await needs_.install.Install(contents, installMode_);
+  // Counts as installed: what is in use takes its place at the next start.
+  if (status == InstallStatus::Waits) reason_ = needs_.strings.Load(IDS_NET_WAITS);
+  co_return RefusalOf(status);
 }
 
-void UpdateExchange::ReportInstalled() {
+void UpdateExchange::Taken(int refusal) {
+  taking_.reset();
+  if (refusal == kWholeWanted) return AskForWhole();
+  if (refusal != 0) return Refused(refusal);
   if (ForDialog()) {
     callerCode_ = CallerCode::Finished;
     listener_.UpdateProgress(needs_.strings.Load(IDS_NET_FINISHED));

@@ -6,10 +6,12 @@
 #include <cstdint>
 #include <functional>
 #include <memory>
+#include <optional>
 #include <string>
 #include <string_view>
 
 #include "base/Files.h"
+#include "base/Sliced.h"
 #include "platform/HttpControl.h"
 
 namespace sonaro {
@@ -79,6 +81,7 @@ struct UpdateDependencies {
 class UpdateExchange final : private HttpEvents {
  public:
   static constexpr int kSoon = 100;        // milliseconds
+  static constexpr int kNextSlice = 1;     // behind whatever waits in the window
   static constexpr int kTryLater = 10000;  // between two tries that nobody watches
   static constexpr int kTriesUnwatched = 3;
 
@@ -89,12 +92,13 @@ class UpdateExchange final : private HttpEvents {
   void Load();
   // The window's timer fired.
   void tmrInetStuff_Timer();
-  // Ends the exchange at once, without installing anything.
+  // Ends the exchange at once, without installing anything; an installing that cannot be given up any more is
+  // finished instead.
   void Cancel();
 
  private:
   // What the next tick of the timer does, or the answer that is waited for belongs to.
-  enum class Phase { FirstRequest, FileRequest, ConnectionFailed };
+  enum class Phase { FirstRequest, FileRequest, ConnectionFailed, Installing };
 
   void HTTPDataReceived(std::string_view body) override;
   void HTTPDataTransferred(std::uint64_t bytes, std::uint64_t expected) override;
@@ -108,8 +112,9 @@ class UpdateExchange final : private HttpEvents {
   void FollowRedirect();
   void Received();
   void AskForWhole();
-  void Installed(InstallStatus status);
-  void ReportInstalled();
+  void DoSlice();
+  void Taken(int refusal);
+  Sliced<int> TakeUpdate();
   void NothingNew();
   void Failed();
   void Fail(int reasonText);
@@ -134,6 +139,7 @@ class UpdateExchange final : private HttpEvents {
   bool whole_ = false;  // the changes that came do not fit: the guide is asked for as if there were none
   int tries_ = 0;
   std::unique_ptr<OutputFile> file_;
+  std::optional<Sliced<int>> taking_;  // what was received, from its reading to its installing
 };
 
 }  // namespace sonaro

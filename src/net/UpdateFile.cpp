@@ -180,16 +180,18 @@ UpdateContents ReadUpdateText(std::string_view text) {
   return ReadText(text, contents) ? contents : Refusal(UpdateFileStatus::TooLarge);
 }
 
-UpdateContents ReadUpdateFile(DataFolder& data) {
+Sliced<UpdateContents> ReadUpdateFile(DataFolder& data) {
   const ReadResult file = data.Read(work_file::kUpdate);
-  if (file.status != ReadStatus::Ok) return Refusal(UpdateFileStatus::Missing);
+  if (file.status != ReadStatus::Ok) co_return Refusal(UpdateFileStatus::Missing);
   std::string_view text = file.bytes;
   const SignatureCheck check = CheckUpdateSignature(data, text);
   UpdateContents contents = Refusal(StatusOf(check));
-  if (contents.status != UpdateFileStatus::Read) return contents;
+  if (contents.status != UpdateFileStatus::Read) co_return contents;
+  co_await NextSlice();
   // A signed update without a serial number counts as the oldest of all.
   if (check == SignatureCheck::Good) contents.serial = 0;
-  return ReadText(text, contents) ? contents : Refusal(UpdateFileStatus::TooLarge);
+  if (!ReadText(text, contents)) co_return Refusal(UpdateFileStatus::TooLarge);
+  co_return contents;
 }
 
 }  // namespace sonaro

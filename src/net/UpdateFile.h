@@ -10,6 +10,7 @@
 #include <string_view>
 #include <vector>
 
+#include "base/Sliced.h"
 #include "net/ServiceUrlTable.h"
 
 namespace sonaro {
@@ -44,7 +45,7 @@ struct UpdateContents {
 };
 
 // Unless the status is Read, there is nothing in the contents.
-UpdateContents ReadUpdateFile(DataFolder& data);
+Sliced<UpdateContents> ReadUpdateFile(DataFolder& data);
 
 // The same of a text whose signature is checked already, or nobody's business: of one's own making.
 UpdateContents ReadUpdateText(std::string_view text);

@@ -9,6 +9,9 @@
 //   5  move each copy into its place and rebuild the station table
 //   6  store the date, by which the service knows what this installation has
 //
+// Between the steps, and between two files, the window has its turn. Until 3 the work can be given up at any
+// of these moments, with nothing but copies to remove; from there on it goes on to its end.
+//
 // Undoing renames the kept file first; from then on the next start goes on with it until everything is back.
 #include "net/UpdateInstall.h"
 
@@ -36,6 +39,8 @@ namespace {
 
 constexpr std::string_view kStationList = "\\Station.snr";
 constexpr std::string_view kCategories = "cat.snr";
+// What is copied in one slice: small files together, a large one alone.
+constexpr std::size_t kSliceBytes = std::size_t{1} << 20;
 
 bool HoldsStations(std::string_view list) {
   StationLine station;
@@ -70,10 +75,11 @@ bool HasStationList(const HeldNames& names) {
 
 HeldNames UpdateInstall::Waiting() const { return HeldNames(reg_.Get(setting::kUpdateHold)); }
 
-InstallStatus UpdateInstall::Install(const UpdateContents& contents, InstallMode mode) {
+Sliced<InstallStatus> UpdateInstall::Install(const UpdateContents& contents, InstallMode mode) {
+  mayGiveUp_ = true;
   InstallStatus status = Check(contents);
-  if (status == InstallStatus::Done) status = Unpack(contents);
-  if (status != InstallStatus::Done) return status;
+  if (status == InstallStatus::Done) status = co_await Unpack(contents);
+  if (status != InstallStatus::Done) co_return status;
   const HeldNames earlier = Waiting();
   HeldNames held = earlier;
   held.Add(NamesOf(contents));
@@ -82,9 +88,12 @@ InstallStatus UpdateInstall::Install(const UpdateContents& contents, InstallMode
   // The registry writes to disk when it likes; the list of waiting files has to be there before files are
   // moved.
   reg_.FlushSettings();
-  if (mode == InstallMode::HoldFiles) return InstallStatus::Done;
-  return PutInPlace(contents, earlier, mode == InstallMode::InstallAndRebuild);
+  if (mode == InstallMode::HoldFiles) co_return InstallStatus::Done;
+  co_await NextSlice();
+  co_return co_await PutInPlace(contents, earlier, mode == InstallMode::InstallAndRebuild);
 }
+
+void UpdateInstall::GiveUp() { RemoveTemporaries(data_, Waiting()); }
 
 // A list without a station is no directory, whoever sent it.
 InstallStatus UpdateInstall::Check(const UpdateContents& contents) {
@@ -125,14 +134,22 @@ bool UpdateInstall::CategoriesHaveLists(const UpdateContents& contents) {
 }
 
 // The copies first: while they cannot be written, what the update before replaced stays kept.
-InstallStatus UpdateInstall::Unpack(const UpdateContents& contents) {
+Sliced<InstallStatus> UpdateInstall::Unpack(const UpdateContents& contents) {
   bool saved = contents.files.empty() || NoteTemporaries(data_, NamesOf(contents));
+  std::size_t copied = 0;
   for (const ReceivedFile& file : contents.files) {
+    if (copied > 0 && copied + file.bytes.size() > kSliceBytes) {
+      copied = 0;
+      co_await NextSlice();
+    }
+    copied += file.bytes.size();
     saved = saved && data_.Save(TemporaryName(file.name), file.bytes);
   }
+  co_await NextSlice();
+  mayGiveUp_ = false;
   const InstallStatus status = saved ? KeepPrevious(contents) : InstallStatus::NotSaved;
   if (status != InstallStatus::Done) RemoveTemporaries(data_, Waiting());
-  return status;
+  co_return status;
 }
 
 InstallStatus UpdateInstall::KeepPrevious(const UpdateContents& contents) {
@@ -180,8 +197,8 @@ void UpdateInstall::StoreValues(const UpdateContents& contents, bool listWaits) 
 
 // A file that is in use stays as it is, and its copy waits for the next start. A list and its table belong
 // together: when no table can be made of the new list, everything of before comes back.
-InstallStatus UpdateInstall::PutInPlace(const UpdateContents& contents, const HeldNames& earlier,
-                                        bool rebuild) {
+Sliced<InstallStatus> UpdateInstall::PutInPlace(const UpdateContents& contents, const HeldNames& earlier,
+                                                bool rebuild) {
   HeldNames waiting = earlier;
   bool allInPlace = true;
   bool rebuilt = true;
@@ -203,11 +220,12 @@ InstallStatus UpdateInstall::PutInPlace(const UpdateContents& contents, const He
   }
   if (!rebuilt) {
     (void)UndoLastUpdate();  // what is in use is put back at the next start
-    return InstallStatus::NotRebuilt;
+    co_return InstallStatus::NotRebuilt;
   }
+  co_await NextSlice();
   StoreDates(contents, HasStationList(waiting));
   Wait(waiting);
-  return allInPlace ? InstallStatus::Done : InstallStatus::Waits;
+  co_return allInPlace ? InstallStatus::Done : InstallStatus::Waits;
 }
 
 void UpdateInstall::StoreDates(const UpdateContents& contents, bool listWaits) {

@@ -6,6 +6,8 @@
 #include <optional>
 #include <string>
 
+#include "base/Sliced.h"
+
 namespace sonaro {
 
 class CReg;
@@ -47,7 +49,11 @@ class UpdateInstall {
 
   // Takes what ReadUpdateFile gave, as a whole or not at all. The addresses of the update count as soon as it
   // is installed or held; the date of the directory and the version once the station list is in place.
-  [[nodiscard]] InstallStatus Install(const UpdateContents& contents, InstallMode mode);
+  Sliced<InstallStatus> Install(const UpdateContents& contents, InstallMode mode);
+  // Whether the installing that runs can be dropped as if it had never begun; GiveUp, behind it, removes what
+  // it has copied. Otherwise it has to be finished.
+  bool MayGiveUp() const { return mayGiveUp_; }
+  void GiveUp();
 
   // Brings back everything that the last update changed, and makes the station table.
   [[nodiscard]] UndoStatus UndoLastUpdate();
@@ -62,10 +68,10 @@ class UpdateInstall {
   InstallStatus Check(const UpdateContents& contents);
   bool NamesAreFree(const UpdateContents& contents);
   bool CategoriesHaveLists(const UpdateContents& contents);
-  InstallStatus Unpack(const UpdateContents& contents);
+  Sliced<InstallStatus> Unpack(const UpdateContents& contents);
   InstallStatus KeepPrevious(const UpdateContents& contents);
   void StoreValues(const UpdateContents& contents, bool listWaits);
-  InstallStatus PutInPlace(const UpdateContents& contents, const HeldNames& earlier, bool rebuild);
+  Sliced<InstallStatus> PutInPlace(const UpdateContents& contents, const HeldNames& earlier, bool rebuild);
   void StoreDates(const UpdateContents& contents, bool listWaits);
   void Wait(const HeldNames& names);
   UndoStatus Restore();
@@ -76,6 +82,7 @@ class UpdateInstall {
   DataFolder& data_;
   CReg& reg_;
   StatList& stations_;
+  bool mayGiveUp_ = true;
 };
 
 }  // namespace sonaro

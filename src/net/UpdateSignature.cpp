@@ -46,8 +46,9 @@ SignatureCheck CheckUpdateSignature(DataFolder& data, std::string_view& text) {
   const std::string_view digest = line.substr(0, cut);
   line.remove_prefix(cut + 2);
   const std::string_view signature = line.substr(0, line.find("::"));
-  if (!EqualIgnoringCase(digest, Sha256Hex(covered))) return SignatureCheck::Wrong;
-  if (!IsSignedBy(key, SignedMessage(Sha256Hex(covered)), signature)) return SignatureCheck::Wrong;
+  const std::string found = Sha256Hex(covered);
+  if (!EqualIgnoringCase(digest, found)) return SignatureCheck::Wrong;
+  if (!IsSignedBy(key, SignedMessage(found), signature)) return SignatureCheck::Wrong;
   // Only what was signed is read from here on; nothing can be appended behind the signature.
   text = covered;
   return SignatureCheck::Good;

@@ -43,7 +43,7 @@ void FuzzUpdateFile(std::string_view input) {
   files.MakeFolder("/d");
   files.Put("/d/update.txt", input);
   DataFolder data(files, "/d", '/');
-  UpdateContents contents = ReadUpdateFile(data);
+  UpdateContents contents = ReadUpdateFile(data).Finish();
   Require(contents.status == UpdateFileStatus::Read, "read without a key");
   std::set<std::string> names;
   std::size_t bytes = 0;
@@ -64,7 +64,7 @@ void FuzzUpdateFile(std::string_view input) {
   (void)ApplySteps("one\r\ntwo\r\n", input, 1000);
 
   files.Put("/d/publish.key", "d75a980182b10ab7d54bfed3c964073a0ee172f3daa62325af021a68f707511a\n");
-  const UpdateFileStatus guarded = ReadUpdateFile(data).status;
+  const UpdateFileStatus guarded = ReadUpdateFile(data).Finish().status;
   Require(guarded == UpdateFileStatus::NotSigned || guarded == UpdateFileStatus::WrongSign, "refused");
 }
 

@@ -19,7 +19,7 @@ class UpdateFileTest : public testing::Test {
  protected:
   UpdateContents Read(std::string_view text) {
     files_.Put("/d/update.txt", text);
-    return ReadUpdateFile(data_);
+    return ReadUpdateFile(data_).Finish();
   }
   static std::string Names(const UpdateContents& contents) {
     std::string names;

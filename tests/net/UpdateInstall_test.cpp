@@ -33,7 +33,8 @@ void PrepareGuide(FakeFiles& files) {
 InstallStatus Take(Machine& machine, const std::string& update,
                    InstallMode mode = InstallMode::InstallAndRebuild) {
   machine.files.Put("/d/update.txt", update);
-  return machine.install.Install(ReadUpdateFile(machine.data), mode);
+  const UpdateContents contents = ReadUpdateFile(machine.data).Finish();
+  return machine.install.Install(contents, mode).Finish();
 }
 
 void StartAgain(Machine& machine) {
@@ -257,9 +258,7 @@ void DieAtEveryMoment(Story story) {
       (void)machine->install.UndoLastUpdate();
       return;
     }
-    (void)machine->install.Install(ReadUpdateFile(machine->data), story == Story::Held
-                                                                      ? InstallMode::HoldFiles
-                                                                      : InstallMode::InstallAndRebuild);
+    (void)Take(*machine, kWhole, story == Story::Held ? InstallMode::HoldFiles : InstallMode::InstallAndRebuild);
     if (story == Story::Held) StartAgain(*machine);
   };
   FakeFiles whole;

@@ -57,7 +57,7 @@ class PublishTest : public testing::Test {
     WriteBytes(Installation() + "/update.txt", update);
     if (!publisherKey.empty()) WriteBytes(Installation() + "/publish.key", publisherKey);
     LocalFolder folder(Installation());
-    return ReadUpdateFile(folder.Data());
+    return ReadUpdateFile(folder.Data()).Finish();
   }
 
   ScratchFolder place_;
