@@ -48,7 +48,8 @@ std::string UpdateOf(const std::string& folder) {
     if (number % 100 == 50) continue;
     if (number % 100 >= 97) line.insert(std::min(line.size(), line.find('\t') + 1), "A ");
     text += line + "\r\n";
-    if (number % 100 == 51) text += std::to_string(900000000 + number) + line.substr(line.find('\t')) + "\r\n";
+    if (number % 100 == 51)
+      text += std::to_string(900000000 + number) + line.substr(line.find('\t')) + "\r\n";
   }
   return Section("Station.snr", text) + Section("cat.snr", Content(folder + "cat.snr")) +
          Section("fun.snr", Content(folder + "fun.snr")) + "date::3/4/2026::\r\n" +
@@ -61,10 +62,15 @@ struct Run {
 };
 
 bool TakeUpdate(const std::string& program, const LoopbackServer& server, Run& run) {
-  const std::pair<const char*, std::string> settings[] = {
-      {"StartPlayer", "No"},   {"StartProxy", "No"},         {"StartQuickStart", "No"},
-      {"ProxyUse", "Yes"},     {"ProxyAddress", "127.0.0.1"}, {"ProxyPort", std::to_string(server.Port())},
-      {"UpdateURL", "http://service.test/update.asp"}, {"LastUpdate", "1/2/2026"}, {"DoWhat", ""}};
+  const std::pair<const char*, std::string> settings[] = {{"StartPlayer", "No"},
+                                                          {"StartProxy", "No"},
+                                                          {"StartQuickStart", "No"},
+                                                          {"ProxyUse", "Yes"},
+                                                          {"ProxyAddress", "127.0.0.1"},
+                                                          {"ProxyPort", std::to_string(server.Port())},
+                                                          {"UpdateURL", "http://service.test/update.asp"},
+                                                          {"LastUpdate", "1/2/2026"},
+                                                          {"DoWhat", ""}};
   for (const auto& [name, value] : settings) WriteText(HKEY_LOCAL_MACHINE, kKey, name, value);
   const SonaroProcess process(program, "");
   HWND main = process.WaitForShownWindow("SonaroFrm", "", std::chrono::seconds(60));
@@ -75,7 +81,8 @@ bool TakeUpdate(const std::string& program, const LoopbackServer& server, Run& r
   const auto finished = [&] {
     DWORD_PTR ignored = 0;
     SendMessageTimeoutA(main, WM_NULL, 0, 0, SMTO_NORMAL, 60000, &ignored);
-    return TextOf(Control(process.Window("MsgboxFrm", "Update"), lblStuff)).find("Finished") != std::string::npos;
+    return TextOf(Control(process.Window("MsgboxFrm", "Update"), lblStuff)).find("Finished") !=
+           std::string::npos;
   };
   bool done = false;
   while (!done && process.Running() && Clock::now() - begin < std::chrono::minutes(2)) {
@@ -112,8 +119,8 @@ int main(int argc, char** argv) {
       }
     }
   }
-  std::printf("update of %zu bytes, median of %d: milliseconds, longest answer, answers above 50 ms\n", body.size(),
-              kRounds);
+  std::printf("update of %zu bytes, median of %d: milliseconds, longest answer, answers above 50 ms\n",
+              body.size(), kRounds);
   for (int i = 1; i < argc; ++i) {
     std::vector<Run>& all = runs[static_cast<std::size_t>(i - 1)];
     std::sort(all.begin(), all.end(), [](const Run& a, const Run& b) { return a.longest < b.longest; });

@@ -103,8 +103,7 @@ void ApplicationService::RunPendingWork() {
   background_->Load();
 }
 
-std::string ApplicationService::Installed() {
-  TellDirectoryChanged();
+std::string ApplicationService::Report() {
   const std::optional<std::string> before = install_.ReplacedStationList();
   const ReadResult now = dependencies_.data.Read("\\Station.snr");
   if (!before || now.status != ReadStatus::Ok || *before == now.bytes) return {};

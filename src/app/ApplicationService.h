@@ -78,7 +78,8 @@ class ApplicationService final : public UpdateCommands, private UpdateDialogComm
   };
 
   std::unique_ptr<frmInetUpdate> MakeWatchedUpdate(UpdateListener& dialog) override;
-  std::string Installed() override;
+  void Installed() override { TellDirectoryChanged(); }
+  std::string Report() override;
   UndoStatus UndoUpdate() override;
   void OpenUpdateHelp() override;
 

@@ -17,8 +17,8 @@ namespace sliced {
 
 // What the functions of one piece of work have in common, whatever they return.
 struct Promise {
-  Promise* whole = this;           // of the outermost function
-  std::coroutine_handle<> caller;  // awaits this one; none: this is the outermost
+  Promise* whole = this;            // of the outermost function
+  std::coroutine_handle<> caller;   // awaits this one; none: this is the outermost
   std::coroutine_handle<> running;  // of the outermost: where the next slice begins
   std::exception_ptr failure;
 

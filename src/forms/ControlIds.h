@@ -221,6 +221,7 @@ inline constexpr int lblCheckPort = 2612;
 inline constexpr int lblStatusInfo = 2613;
 inline constexpr int lblProxyStuff = 2614;
 inline constexpr int tmrSock = 2615;
+inline constexpr int tmrReport = 2616;
 inline constexpr int imgProxyStep = 2616;      // 3 numbers
 inline constexpr int lblProxyStep = 2619;      // 3 numbers
 inline constexpr int lblProxyStepTime = 2622;  // 3 numbers

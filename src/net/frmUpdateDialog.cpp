@@ -11,6 +11,7 @@ namespace sonaro {
 
 namespace {
 
+constexpr unsigned kReportSoon = 1;  // milliseconds: behind whatever waits in the window
 constexpr int kScaleSteps = 1000;
 constexpr std::uint64_t kTextSteps = 20;
 constexpr std::uint64_t kQuietBytes = 256 * 1024;  // between two texts when the length is not known
@@ -74,6 +75,11 @@ std::span<const EventRow> frmUpdateDialog::Events() const {
   return kRows;
 }
 
+std::span<const TimerRow> frmUpdateDialog::Timers() const {
+  static const TimerRow kRows[] = {{tmrReport, &frmUpdateDialog::tmrReport_Timer}};
+  return kRows;
+}
+
 frmUpdateDialog::frmUpdateDialog(FormContext& context, UpdateDialogCommands& commands, UpdateOpening opening)
     : Form(context, Design()), strings_(context.strings), commands_(commands), opening_(opening) {}
 
@@ -123,15 +129,24 @@ void frmUpdateDialog::UpdateBytes(std::uint64_t bytes, std::uint64_t expected) {
 }
 
 void frmUpdateDialog::UpdateFinished(const UpdateOutcome& outcome) {
+  const bool updated = outcome.kind == UpdateOutcome::Kind::Updated;
+  if (updated) commands_.Installed();  // also when the dialog closes over an update that had to be finished
   if (unloading_) return;
   updating_ = false;
-  const bool updated = outcome.kind == UpdateOutcome::Kind::Updated;
+  outcome_ = outcome;
   lblBytes_.SetText("");
-  lblStuff_.SetTextAndGrow(OutcomeText(outcome, updated ? commands_.Installed() : std::string(), strings_));
+  lblStuff_.SetTextAndGrow(OutcomeText(outcome, "", strings_));
+  if (updated) StartTimer(tmrReport, kReportSoon);
   prgUpdate_->SetProgress(updated ? kScaleSteps : 0, kScaleSteps);
   butMsg_[1].SetText(LoadText(IDS_NET_CLOSE));
   ShowFailure(MayRetry(outcome));
   SetOffer(MayRetry(outcome) ? Offer::Retry : commands_.CanUndoUpdate() ? Offer::Undo : Offer::Nothing);
+}
+
+// In a turn of its own: the two lists are compared for it, just after the windows have taken the new one.
+void frmUpdateDialog::tmrReport_Timer() {
+  StopTimer(tmrReport);
+  if (!updating_) lblStuff_.SetTextAndGrow(OutcomeText(outcome_, commands_.Report(), strings_));
 }
 
 void frmUpdateDialog::ShowFailure(bool failed) {
@@ -151,6 +166,7 @@ void frmUpdateDialog::butMsg_Click() {
   if (offer_ == Offer::Retry) {
     Begin();
   } else if (offer_ == Offer::Undo) {
+    StopTimer(tmrReport);
     lblStuff_.SetTextAndGrow(LoadText(SentenceOf(commands_.UndoUpdate())));
     SetOffer(Offer::Nothing);
     butMsg_[1].Focus();

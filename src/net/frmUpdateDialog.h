@@ -25,8 +25,9 @@ class UpdateDialogCommands {
 
   // An update that reports to `dialog` and has not begun.
   virtual std::unique_ptr<frmInetUpdate> MakeWatchedUpdate(UpdateListener& dialog) = 0;
-  // The directory has changed: returns the report on it, "" when there is nothing to report.
-  virtual std::string Installed() = 0;
+  virtual void Installed() = 0;  // the directory has changed
+  // What the update has changed, "" when there is nothing to report.
+  virtual std::string Report() = 0;
   virtual bool CanUndoUpdate() = 0;
   virtual UndoStatus UndoUpdate() = 0;
   virtual void OpenUpdateHelp() = 0;
@@ -46,6 +47,7 @@ class frmUpdateDialog final : public Form, private UpdateListener {
 
   static const FormDesign& Design();
   std::span<const EventRow> Events() const override;
+  std::span<const TimerRow> Timers() const override;
   void OnLoad() override;
   void OnUnload() override;
   void Begin();
@@ -56,6 +58,7 @@ class frmUpdateDialog final : public Form, private UpdateListener {
   void UpdateBytes(std::uint64_t bytes, std::uint64_t expected) override;
   void UpdateFinished(const UpdateOutcome& outcome) override;
 
+  void tmrReport_Timer();
   void butMsg_Click();
   void butCancel_Click() { Close(); }
   void butHelp_Click() { commands_.OpenUpdateHelp(); }
@@ -67,6 +70,7 @@ class frmUpdateDialog final : public Form, private UpdateListener {
   Offer offer_ = Offer::Nothing;
   bool updating_ = false;
   bool unloading_ = false;
+  UpdateOutcome outcome_;                  // of the update that has finished, until it is reported
   std::optional<std::uint64_t> textStep_;  // of the text that tells how much has come
 
   ProgressHandle prgUpdate_{*this, prgUpdate};

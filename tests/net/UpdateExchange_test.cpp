@@ -292,6 +292,38 @@ TEST_F(UpdateExchangeTest, CancelsAtOnce) {
   EXPECT_TRUE(NothingChanged());
 }
 
+// Cancelled in whichever slice: the update never was, with nothing left lying about, or it is finished.
+TEST_F(UpdateExchangeTest, CancellingBetweenSlicesLeavesTheOldDirectoryOrTheNewOne) {
+  int given = 0, finished = 0;
+  for (int slices = 0; finished == 0 || slices < 5; ++slices) {
+    FakeFiles files;
+    PrepareDirectory(files);
+    Machine machine(files);
+    machine.http.Answer("?Flush=", FakeAnswer::Body(kUpdate));
+    machine.http.Answer("/update.asp", Redirect(kFileAt));
+    Exchange exchange(machine, CallerCode::UpdateDialog, InstallMode::InstallAndRebuild);
+    exchange.Get().Load();
+    for (int left = slices; !exchange.view.outcome;) {
+      if (!exchange.view.timer) {
+        ASSERT_TRUE(machine.http.DeliverNext());
+      } else if (exchange.view.timer == UpdateExchange::kNextSlice && left-- == 0) {
+        exchange.Get().Cancel();
+      } else {
+        exchange.Get().tmrInetStuff_Timer();
+      }
+    }
+    const bool updated = exchange.view.outcome->kind == Kind::Updated;
+    EXPECT_EQ(files.Get("/d/Station.snr"), updated ? kNewList : kOldList) << slices;
+    EXPECT_EQ(machine.stations.FindStation(1).fields[0], updated ? "New One" : "Old One") << slices;
+    EXPECT_EQ(machine.reg.Setting("UpdateHold"), "") << slices;
+    for (const std::string& path : files.AllPaths()) EXPECT_FALSE(path.starts_with("/d/t")) << path;
+    EXPECT_EQ(machine.install.CanUndo(), updated) << slices;
+    ++(updated ? finished : given);
+    ASSERT_LT(slices, 20);
+  }
+  EXPECT_GT(given, 2);
+}
+
 // A file that is in use keeps its content; its new copy waits for the next start.
 TEST_F(UpdateExchangeTest, KeepsAFileThatIsInUse) {
   std::unique_ptr<InputFile> inUse = files_.Open("/d/fun.snr");

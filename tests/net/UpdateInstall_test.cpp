@@ -258,7 +258,8 @@ void DieAtEveryMoment(Story story) {
       (void)machine->install.UndoLastUpdate();
       return;
     }
-    (void)Take(*machine, kWhole, story == Story::Held ? InstallMode::HoldFiles : InstallMode::InstallAndRebuild);
+    (void)Take(*machine, kWhole,
+               story == Story::Held ? InstallMode::HoldFiles : InstallMode::InstallAndRebuild);
     if (story == Story::Held) StartAgain(*machine);
   };
   FakeFiles whole;

@@ -78,7 +78,8 @@ class NoUpdates final : public UpdateDialogCommands {
     return std::make_unique<frmInetUpdate>(forms_, update_, dialog, CallerCode::UpdateDialog,
                                            InstallMode::InstallAndRebuild);
   }
-  std::string Installed() override { return {}; }
+  void Installed() override {}
+  std::string Report() override { return {}; }
   bool CanUndoUpdate() override { return false; }
   UndoStatus UndoUpdate() override { return UndoStatus::Impossible; }
   void OpenUpdateHelp() override {}
