@@ -36,7 +36,8 @@ struct Act {
 
 class Acts {
  public:
-  Acts(const fs::path& folder, const std::vector<Query>& queries) : data_(files_, folder.string(), '/'), stations_(data_) {
+  Acts(const fs::path& folder, const std::vector<Query>& queries)
+      : data_(files_, folder.string(), '/'), stations_(data_) {
     if (!stations_.RebuildStationTable()) std::exit(1);
     stations_.VisitAllStations([this](const auto& station) { ids_.push_back(station.StationId); });
     std::mt19937 random(1);
@@ -77,9 +78,8 @@ class Acts {
                      }});
     acts_.push_back({"scan of all fields", [this] {
                        std::size_t count = 0;
-                       StatList(data_).VisitAllStations([&](const auto& station) {
-                         count += station.fields[0].size();
-                       });
+                       StatList(data_).VisitAllStations(
+                           [&](const auto& station) { count += station.fields[0].size(); });
                        return count;
                      }});
     acts_.push_back({"a screen of 20 rows", [this] {
@@ -93,16 +93,17 @@ class Acts {
                        return stations_.SearchStationIds(text, all).size();
                      }});
     if (query.words.size() > 1) return;
-    acts_.push_back({"search " + query.name + ", first after the start", [this, text] {
-                       return StatList(data_).SearchStationIds(text, true).size();
-                     }});
+    acts_.push_back({"search " + query.name + ", first after the start",
+                     [this, text] { return StatList(data_).SearchStationIds(text, true).size(); }});
   }
 
   void AddTyping() {
-    acts_.push_back({"first key typed after the start", [this] { return StatList(data_).BestMatches("j").size(); }});
-    for (const char* typed : {"r", "ra", "rad", "radio", "ja", "jaz", "jazz", "jazz p", "jazz paris", "mp3", "dio", "cafe",
-                              "qz", "xqz", "kbit", "radio mp3", "e n", "japan english"})
-      acts_.push_back({std::string("typed \"") + typed + '"', [this, typed] { return stations_.BestMatches(typed).size(); }});
+    acts_.push_back(
+        {"first key typed after the start", [this] { return StatList(data_).BestMatches("j").size(); }});
+    for (const char* typed : {"r", "ra", "rad", "radio", "ja", "jaz", "jazz", "jazz p", "jazz paris", "mp3",
+                              "dio", "cafe", "qz", "xqz", "kbit", "radio mp3", "e n", "japan english"})
+      acts_.push_back({std::string("typed \"") + typed + '"',
+                       [this, typed] { return stations_.BestMatches(typed).size(); }});
     for (const char* typed : {"a", "radio", "jazz", "qz"})
       acts_.push_back({std::string("list of all stations filtered by \"") + typed + '"',
                        [this, typed] { return stations_.FilterStations(ids_, typed).size(); }});
@@ -130,7 +131,8 @@ int main(int argc, char** argv) {
     if (name == "--list") list = argv[i + 1];
     if (name == "--rounds") rounds = std::atoi(argv[i + 1]);
   }
-  const fs::path folder = fs::temp_directory_path() / ("directory_acts-" + std::to_string(std::random_device()()));
+  const fs::path folder =
+      fs::temp_directory_path() / ("directory_acts-" + std::to_string(std::random_device()()));
   fs::create_directories(folder);
   if (list.empty()) {
     std::ofstream(folder / "station.snr", std::ios::binary)

@@ -1,6 +1,6 @@
 // Letters and what they are without their accents. Only what case folding leaves is here: small letters. A
-// letter that an alphabet counts as one of its own and that is typed with a key of its own, such as the short i
-// of Russian, stays; Latin ones do not, since names are often typed on a keyboard without them.
+// letter that an alphabet counts as one of its own and that is typed with a key of its own, such as the short
+// i of Russian, stays; Latin ones do not, since names are often typed on a keyboard without them.
 #include <algorithm>
 #include <array>
 #include <cstddef>

@@ -1,6 +1,6 @@
-// Names come first, so they are searched first, and for most of what is typed that is all: a pass ends when it
-// has found as many as are wanted. What is left is found in the search column as a search finds it, but for the
-// records with accents, which are looked for in their own texts.
+// Names come first, so they are searched first, and for most of what is typed that is all: a pass ends when
+// it has found as many as are wanted. What is left is found in the search column as a search finds it, but
+// for the records with accents, which are looked for in their own texts.
 #include "directory/TypedSearch.h"
 
 #include <algorithm>
@@ -21,16 +21,17 @@ std::string_view TextOf(const SearchColumn& column, std::size_t record) {
   return column.text.substr(column.starts[record], column.starts[record + 1] - column.starts[record]);
 }
 
-std::string_view NameOf(std::string_view record) { return record.substr(0, FindByte(record, kFieldSeparator)); }
+std::string_view NameOf(std::string_view record) {
+  return record.substr(0, FindByte(record, kFieldSeparator));
+}
 
 // The words as they are looked for in names.
 class NameWords {
  public:
   NameWords(std::span<const std::string> words, const ByteFrequencies& frequencies) {
     for (const std::string& word : words) finders_.emplace_back(word, frequencies);
-    std::sort(finders_.begin(), finders_.end(), [](const WordFinder& a, const WordFinder& b) {
-      return a.EstimatedHits() < b.EstimatedHits();
-    });
+    std::sort(finders_.begin(), finders_.end(),
+              [](const WordFinder& a, const WordFinder& b) { return a.EstimatedHits() < b.EstimatedHits(); });
   }
   const WordFinder& Rarest() const { return finders_.front(); }
   bool AllStandIn(std::string_view name) const {

@@ -1,6 +1,6 @@
-// The search while the user types and the filter of a list: letter case and accents aside, every word that was
-// typed stands somewhere in a searched field of a station, as a beginning or a part. StatList applies it to
-// the directory, TypedWords to any other text.
+// The search while the user types and the filter of a list: letter case and accents aside, every word that
+// was typed stands somewhere in a searched field of a station, as a beginning or a part. StatList applies it
+// to the directory, TypedWords to any other text.
 #pragma once
 
 #include <cstdint>
@@ -30,8 +30,8 @@ class TypedWords {
 };
 
 // What the records of a search column are without accents: all names, in one run, since most searches end
-// there, and of the rest only those records that have any, about every sixth. Made in memory when something is
-// first typed: some 60 bytes a record. Owned by the table's image.
+// there, and of the rest only those records that have any, about every sixth. Made in memory when something
+// is first typed: some 60 bytes a record. Owned by the table's image.
 class PlainTexts {
  public:
   explicit PlainTexts(const SearchColumn& column);
@@ -63,8 +63,8 @@ class PlainTexts {
   SearchIndex textsIndex_;
 };
 
-// The best records for what was typed, at most `max`: first those in whose name every word begins a word, then
-// those with all words in the name, then the others; each kind in ascending order. None without words.
+// The best records for what was typed, at most `max`: first those in whose name every word begins a word,
+// then those with all words in the name, then the others; each kind in ascending order. None without words.
 std::vector<std::uint32_t> BestRecords(const SearchColumn& column, const SearchIndex& index,
                                        const PlainTexts& plain, const TypedWords& words, std::size_t max);
 

@@ -67,6 +67,11 @@ const ReceivedFile* Find(const UpdateContents& contents, std::string_view name) 
 
 bool IsStationTable(std::string_view name) { return StartsWithIgnoringCase(name, "statorg."); }
 
+bool BringsTable(const UpdateContents& contents) {
+  return std::any_of(contents.files.begin(), contents.files.end(),
+                     [](const ReceivedFile& file) { return IsStationTable(file.name); });
+}
+
 bool HasStationList(const HeldNames& names) {
   return std::any_of(names.begin(), names.end(), [](const std::string& name) { return IsStationList(name); });
 }
@@ -214,8 +219,7 @@ Sliced<InstallStatus> UpdateInstall::PutInPlace(const UpdateContents& contents, 
     // The files behind the list stay unmoved; undoing brings the moved ones back.
     if (!rebuilt) break;
   }
-  const auto isTable = [](const ReceivedFile& file) { return IsStationTable(file.name); };
-  if (rebuilt && std::any_of(contents.files.begin(), contents.files.end(), isTable)) {
+  if (rebuilt && BringsTable(contents)) {
     rebuilt = stations_.EnsureStationTable() != TableCare::NotMade;
   }
   if (!rebuilt) {

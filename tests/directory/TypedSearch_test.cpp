@@ -60,13 +60,12 @@ struct Oracle {
 
 TEST(TypedSearch, TheRuleByExamples) {
   StationFolder folder;
-  ASSERT_TRUE(
-      folder.Rebuild(ListOf({{1, {"News", "MP3", "Orléans", "Jazz", "Música"}},
-                             {2, {"Megajazz"}},
-                             {3, {"Café del Már", "AAC", "Ibiza"}},
-                             {4, {"Rock 'Jazz'"}},
-                             {5, {"Jazz Øresund", "", "Paris"}},
-                             {6, {"Радио Ёлка", "", "", "", "", "jazz"}}})));
+  ASSERT_TRUE(folder.Rebuild(ListOf({{1, {"News", "MP3", "Orléans", "Jazz", "Música"}},
+                                     {2, {"Megajazz"}},
+                                     {3, {"Café del Már", "AAC", "Ibiza"}},
+                                     {4, {"Rock 'Jazz'"}},
+                                     {5, {"Jazz Øresund", "", "Paris"}},
+                                     {6, {"Радио Ёлка", "", "", "", "", "jazz"}}})));
   const struct {
     std::string typed;
     std::vector<std::int32_t> best;
@@ -87,8 +86,9 @@ TEST(TypedSearch, TheRuleByExamples) {
 
 TEST(TypedSearch, RandomKeysInRandomStations) {
   std::mt19937 random(5);
-  const std::vector<std::string> pieces = {"a", "b", "ab", "É", "e", "ø", "o", "æ", "ß", "е\u0301", "ё",
-                                           "中", "-", " ", " ", "1", "\xFF", "c\u0327", "jazz", "Ja"};
+  const std::vector<std::string> pieces = {"a", "b", "ab",      "É",       "e",    "ø", "o",
+                                           "æ", "ß", "е\u0301", "ё",       "中",   "-", " ",
+                                           " ", "1", "\xFF",    "c\u0327", "jazz", "Ja"};
   const auto text = [&](std::size_t most) {
     std::string result;
     for (std::size_t n = random() % (most + 1); n > 0; --n) result += pieces[random() % pieces.size()];
