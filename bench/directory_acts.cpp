@@ -45,6 +45,7 @@ class Acts {
     AddReads();
     for (const Query& query : queries) AddSearch(query);
     AddTyping();
+    AddSorting();
   }
 
   void Measure(int rounds) {
@@ -107,6 +108,31 @@ class Acts {
     for (const char* typed : {"a", "radio", "jazz", "qz"})
       acts_.push_back({std::string("list of all stations filtered by \"") + typed + '"',
                        [this, typed] { return stations_.FilterStations(ids_, typed).size(); }});
+  }
+
+  // A list of all stations by a column: the ranks and the sort of whole numbers.
+  std::size_t Sort(StatList& stations, StationField field) {
+    const std::vector<std::uint32_t> ranks = stations.RanksOf(ids_, field, FoldCase);
+    std::vector<std::uint64_t> order(ranks.size());
+    for (std::size_t i = 0; i < ranks.size(); ++i) order[i] = std::uint64_t{ranks[i]} << 32 | i;
+    std::sort(order.begin(), order.end());
+    return order.size();
+  }
+  void AddSorting() {
+    const struct {
+      const char* name;
+      StationField field;
+    } columns[] = {{"name", StationField::Name},
+                   {"location", StationField::Location},
+                   {"overall rating", StationField::OverallRating}};
+    for (const auto& column : columns) {
+      acts_.push_back({std::string("sort of all stations by ") + column.name + ", first", [this, column] {
+                         StatList fresh(data_);
+                         return Sort(fresh, column.field);
+                       }});
+      acts_.push_back({std::string("sort of all stations by ") + column.name,
+                       [this, column] { return Sort(stations_, column.field); }});
+    }
   }
 
   FilesPosix files_;

@@ -147,7 +147,7 @@ TableStatus OpenTable::WriteChanges() {
 }
 
 TableImage* OpenTable::SearchImage() {
-  return image_->LoadSearch(files_) == TableStatus::Success ? image_.get() : nullptr;
+  return image_->LoadColumn(files_) == TableStatus::Success ? image_.get() : nullptr;
 }
 
 }  // namespace sonaro

@@ -1,8 +1,11 @@
 #include "directory/StatList.h"
 
+#include <algorithm>
+#include <limits>
 #include <new>
 
 #include "base/DataFolder.h"
+#include "directory/ByteScan.h"
 #include "directory/StationListFile.h"
 #include "directory/StationSearch.h"
 #include "directory/TablePath.h"
@@ -14,6 +17,13 @@ namespace {
 
 constexpr std::string_view kTableName = "\\statorg";
 constexpr std::string_view kListName = "\\station.snr";
+
+// Of the `number`th searched field, from 1 on, as it stands in the search column.
+std::string_view SearchedField(const SearchColumn& column, std::size_t record, std::size_t number) {
+  std::string_view rest = column.text.substr(column.starts[record]);
+  if (number > 1) rest.remove_prefix(FindTab(rest, number - 1) + 1);
+  return rest.substr(0, FindByte(rest, kFieldSeparator));
+}
 
 }  // namespace
 
@@ -164,7 +174,7 @@ StationRecord StatList::FindStation(std::int32_t stationId) {
 
 std::vector<std::int32_t> StatList::Search(Handle handle, std::string_view text, bool allWords) {
   std::vector<std::int32_t> ids;
-  const TableImage* const image = vmx_->SearchImage(handle);
+  TableImage* const image = vmx_->SearchImage(handle);
   status_ = vmx_->LastStatus();
   if (!image) return ids;
   const std::vector<std::uint32_t> found =
@@ -188,12 +198,12 @@ auto StatList::WithSearchImage(Operation operation) {
   return WithTable([&](Handle handle) {
     TableImage* const image = vmx_->SearchImage(handle);
     status_ = vmx_->LastStatus();
-    return image ? operation(*image) : decltype(operation(*image))();
+    return image ? operation(handle, *image) : decltype(operation(handle, *image))();
   });
 }
 
 std::vector<std::int32_t> StatList::BestMatches(std::string_view typed, std::size_t max) {
-  return WithSearchImage([&](TableImage& image) {
+  return WithSearchImage([&](Handle, TableImage& image) {
     std::vector<std::int32_t> ids;
     const TypedWords words(typed);
     for (const std::uint32_t record : BestRecords(image.Column(), image.Index(), image.Plain(), words, max))
@@ -204,7 +214,7 @@ std::vector<std::int32_t> StatList::BestMatches(std::string_view typed, std::siz
 
 std::vector<std::int32_t> StatList::FilterStations(std::span<const std::int32_t> ids,
                                                    std::string_view typed) {
-  return WithSearchImage([&](TableImage& image) {
+  return WithSearchImage([&](Handle, TableImage& image) {
     const TypedWords words(typed);
     std::vector<bool> matches(image.RecordCount(), words.Empty());
     matches.push_back(false);  // of no record
@@ -221,10 +231,77 @@ std::vector<std::int32_t> StatList::FilterStations(std::span<const std::int32_t>
 }
 
 void StatList::PrepareTyping() {
-  WithSearchImage([](TableImage& image) {
+  WithSearchImage([](Handle, TableImage& image) {
     image.Plain();
     return true;
   });
+}
+
+// Searched fields are taken from the search column, whose letter case does not count in a sort; others take a
+// pass over all records.
+void StatList::AddTexts(Handle handle, TableImage& image, StationField field, const SortKeyOf& sortKey,
+                        std::size_t records) {
+  const auto number = static_cast<std::size_t>(field);
+  FieldRanks& ranks = image.Ranks(number);
+  if (number <= kSearchedStationFields) {
+    const std::size_t end = std::min<std::size_t>(image.RecordCount(), ranks.Count() + records);
+    for (std::size_t record = ranks.Count(); record < end; ++record)
+      ranks.Add(SearchedField(image.Column(), record, number), sortKey);
+  } else {
+    ranks = {};
+    status_ = vmx_->VmxVisitAll(handle, [&](const VmxRecord& record) {
+      ranks.Add(StationView{record.key, record.fields}[field], sortKey);
+    });
+  }
+  if (status_ == TableStatus::Success && ranks.Count() == image.RecordCount()) ranks.Finish();
+}
+
+bool StatList::MakeRanks(StationField field, const SortKeyOf& sortKey, std::size_t records) {
+  bool more = false;
+  WithSearchImage([&](Handle handle, TableImage& image) {
+    const FieldRanks& ranks = image.Ranks(static_cast<std::size_t>(field));
+    if (!ranks.Finished()) AddTexts(handle, image, field, sortKey, records);
+    more = status_ == TableStatus::Success && !ranks.Finished();
+    return true;
+  });
+  return !more;
+}
+
+// Ranks among themselves, of stations that are read one by one.
+std::vector<std::uint32_t> StatList::RanksOfFew(std::span<const std::int32_t> ids, StationField field,
+                                                const SortKeyOf& sortKey) {
+  std::vector<std::uint32_t> result(ids.size());
+  std::vector<std::size_t> known;  // places in `ids`
+  FieldRanks ranks;
+  VisitStations(ids, [&](const StationView& station) {
+    std::size_t place = known.empty() ? 0 : known.back() + 1;
+    while (ids[place] != station.StationId) ++place;
+    known.push_back(place);
+    ranks.Add(station[field], sortKey);
+  });
+  ranks.Finish();
+  for (std::size_t i = 0; i < known.size(); ++i) result[known[i]] = ranks.Of(i);
+  return result;
+}
+
+std::vector<std::uint32_t> StatList::RanksOf(std::span<const std::int32_t> ids, StationField field,
+                                             const SortKeyOf& sortKey) {
+  // So few records are read, and their keys made, within some milliseconds.
+  constexpr std::size_t kFew = 2000;
+  if (ids.size() <= kFew) return RanksOfFew(ids, field, sortKey);
+  MakeRanks(field, sortKey, std::numeric_limits<std::uint32_t>::max());
+  std::vector<std::uint32_t> result = WithSearchImage([&](Handle, TableImage& image) {
+    const FieldRanks& ranks = image.Ranks(static_cast<std::size_t>(field));
+    std::vector<std::uint32_t> found(ids.size());
+    std::uint32_t record = 0;
+    for (std::size_t i = 0; i < ids.size() && ranks.Finished(); ++i) {
+      record = image.IndexOf(ids[i], record);
+      if (record != image.RecordCount()) found[i] = ranks.Of(record);
+    }
+    return found;
+  });
+  result.resize(ids.size());  // also without a table
+  return result;
 }
 
 std::uint32_t StatList::StationCount() {

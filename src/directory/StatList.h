@@ -12,13 +12,16 @@
 #include <string_view>
 #include <vector>
 
+#include "base/Text.h"
 #include "directory/StationRecord.h"
 #include "directory/TableStatus.h"
 
 namespace sonaro {
 
 class DataFolder;
+class FieldRanks;
 class InputFile;
+class TableImage;
 class Vmx;
 
 // How EnsureStationTable left the table.
@@ -100,6 +103,17 @@ class StatList {
   // Reads and makes what the two need, so that the first key does not wait for it.
   void PrepareTyping();
 
+  // For sorting: a number for each of `ids` whose order is the order of the field's texts by `sortKey`, which
+  // is always the same function; equal for equal keys, 0 for a station that is not in the table. The numbers
+  // of one call compare with each other only. A few stations are read for it. For many the ranks of all
+  // stations are made, which takes a sort key for each text that differs, and kept as long as the table is
+  // the same; from then on a station costs a look-up in memory.
+  std::vector<std::uint32_t> RanksOf(std::span<const std::int32_t> ids, StationField field,
+                                     const SortKeyOf& sortKey);
+  // Makes the ranks of all stations beforehand, piece by piece: those of `records` more of them. True when
+  // all are made, or cannot be.
+  bool MakeRanks(StationField field, const SortKeyOf& sortKey, std::size_t records);
+
   // Identifiers looked up since this object was made: the work that an operation costs.
   std::uint64_t LookUps() const { return lookUps_; }
   // Records in the table; 0 when it cannot be opened.
@@ -113,6 +127,10 @@ class StatList {
   std::vector<std::int32_t> Search(Handle handle, std::string_view text, bool allWords);
   template <typename Operation>
   auto WithSearchImage(Operation operation);
+  std::vector<std::uint32_t> RanksOfFew(std::span<const std::int32_t> ids, StationField field,
+                                        const SortKeyOf& sortKey);
+  void AddTexts(Handle handle, TableImage& image, StationField field, const SortKeyOf& sortKey,
+                std::size_t records);
   void Visit(Handle handle, std::span<const std::int32_t> ids, const Visitor& visit);
   std::vector<StationRecord> GetAll(Handle handle, std::span<const std::int32_t> ids);
   template <typename Operation>

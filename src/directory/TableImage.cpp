@@ -123,10 +123,9 @@ TableStatus TableImage::LoadColumn(TableFiles& files) {
   return TableStatus::Success;
 }
 
-TableStatus TableImage::LoadSearch(TableFiles& files) {
-  const TableStatus status = LoadColumn(files);
-  if (status == TableStatus::Success && !searchIndex_) searchIndex_ = std::make_unique<SearchIndex>(Column());
-  return status;
+const SearchIndex& TableImage::Index() {
+  if (!searchIndex_) searchIndex_ = std::make_unique<SearchIndex>(Column());
+  return *searchIndex_;
 }
 
 const PlainTexts& TableImage::Plain() {

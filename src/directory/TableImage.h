@@ -5,10 +5,12 @@
 #pragma once
 
 #include <cstdint>
+#include <map>
 #include <memory>
 #include <string_view>
 #include <vector>
 
+#include "directory/FieldRanks.h"
 #include "directory/RecordTexts.h"
 #include "directory/SearchIndex.h"
 #include "directory/TableFiles.h"
@@ -44,23 +46,24 @@ class TableImage {
   // So many records are going to be asked for, in any order.
   void Expect(std::size_t records) { texts_.Expect(records); }
 
-  // Reads the search column and all entries, and makes the column's index. The functions below may be called
-  // after a success.
-  TableStatus LoadSearch(TableFiles& files);
+  // Reads the search column and all entries. The functions below may be called after a success.
+  TableStatus LoadColumn(TableFiles& files);
   SearchColumn Column() const { return {{column_.get(), columnStarts_.back()}, columnStarts_}; }
-  const SearchIndex& Index() const { return *searchIndex_; }
   std::int32_t KeyAt(std::uint32_t index) const { return EntryAt(index).key; }
   // The index of the record with the key; RecordCount when there is none. Quick when it lies near `near`, the
   // index of another record or RecordCount.
   std::uint32_t IndexOf(std::int32_t key, std::uint32_t near) const;
-  // Made at the first call.
+  // These two are made at the first call.
+  const SearchIndex& Index();
   const PlainTexts& Plain();
+  // The places of all records by the `field`th field, from 1 on, as far as they were made; whoever needs them
+  // makes them.
+  FieldRanks& Ranks(std::size_t field) { return ranks_[field]; }
 
   // Reads and checks everything that the files hold, whatever is in memory already.
   static TableStatus Verify(TableFiles& files);
 
  private:
-  TableStatus LoadColumn(TableFiles& files);
   TableStatus NeedPage(TableFiles& files, std::uint32_t page) {
     return checkedPages_[page] ? TableStatus::Success : LoadPage(files, page);
   }
@@ -80,6 +83,7 @@ class TableImage {
   std::vector<std::uint32_t> columnStarts_;
   std::unique_ptr<SearchIndex> searchIndex_;
   std::unique_ptr<PlainTexts> plain_;
+  std::map<std::size_t, FieldRanks> ranks_;  // by field
 };
 
 }  // namespace sonaro

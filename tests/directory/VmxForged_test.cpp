@@ -57,7 +57,7 @@ TEST_F(VmxForged, AnyByteUnderRightChecksums) {
     vmx.VmxBOF(handle);
     while (Next(vmx, handle).status == TableStatus::Success) {
     }
-    if (const TableImage* image = vmx.SearchImage(handle)) {
+    if (TableImage* image = vmx.SearchImage(handle)) {
       for (const std::uint32_t index :
            FindRecords(image->Column(), image->Index(), {"t", "e"}, round % 2 == 0))
         image->KeyAt(index);

@@ -188,7 +188,7 @@ void ExpectNothingWrong(FakeFiles& files, const Model& model, const std::string&
     EXPECT_EQ(read.fields, expected->second) << what;
   }
   EXPECT_TRUE(read.status == TableStatus::Damaged || expected == model.end()) << what;
-  const TableImage* const image = vmx.SearchImage(handle);
+  TableImage* const image = vmx.SearchImage(handle);
   if (image) {
     EXPECT_EQ(image->Column().starts.size(), model.size() + 1) << what;
     EXPECT_TRUE(image->Column().text.starts_with("name\t")) << what;
