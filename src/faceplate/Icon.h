@@ -41,6 +41,8 @@ enum class Icon : unsigned char {
   Bell,
   Fav,
   Sort,
+  Filter,
+  OwnOrder,
   TriDown,
   ProgramMark  // drawn in several colours on a 20 x 20 grid
 };

@@ -34,6 +34,8 @@ inline constexpr int butMissing = 1058;   // members of the group on show that t
 inline constexpr int butOwnOrder = 1059;  // there while the list is sorted
 inline constexpr int butFilter = 1060;
 inline constexpr int txtFilter = 1069;
+inline constexpr int lblFilter = 1070;
+inline constexpr int tmrTyped = 1079;
 inline constexpr int lblSide = 1061;
 inline constexpr int butNewStations = 1062;
 inline constexpr int butMostPop = 1063;
@@ -286,6 +288,8 @@ inline constexpr int mnuActionSortByWebSite = 3117;
 inline constexpr int mnuActionSortByMostReliable = 3118;
 inline constexpr int mnuOwnOrder = 3121;   // of both menus
 inline constexpr int mnuEndFilter = 3122;  // a key only
+inline constexpr int mnuFilter = 3123;
+inline constexpr int mnuFiltered = 3124;  // a key only: from the words to the rows
 // Rankings.
 inline constexpr int mnuActionNewStations = 3131;
 inline constexpr int mnuActionMostPoular = 3132;

@@ -36,6 +36,10 @@ class MainView {
   virtual void ShowView(View view) = 0;
   // After every change of what the window shows.
   virtual void ShowEverything() = 0;
+  // Words were typed that a list goes by: TakeTyped of the panes follows as soon as no key waits any more.
+  virtual void Typed() = 0;
+  // The user is about to type.
+  virtual void PrepareTyping() = 0;
   // Another row is selected.
   virtual void ShowSelection() = 0;
   // The user's own stations, or links that he has added to others, are new.

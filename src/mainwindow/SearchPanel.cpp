@@ -45,6 +45,10 @@ void SearchPanel::LoadSearchKinds(std::string builtInCaption) {
   if (kinds_.empty()) kinds_.push_back({std::move(builtInCaption), kFindStation, {}});
 }
 
+bool SearchPanel::SearchesStations(std::size_t kind) const {
+  return !kinds_.empty() && kinds_[std::min(kind, kinds_.size() - 1)].SearchesStations();
+}
+
 std::vector<std::string> SearchPanel::History() const {
   return SearchHistory(settings_.Get(setting::kSearchList)).Entries();
 }

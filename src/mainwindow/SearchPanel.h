@@ -43,6 +43,9 @@ class SearchPanel {
   void LoadSearchKinds(std::string builtInCaption);
   const std::vector<SearchKind>& Kinds() const { return kinds_; }
 
+  // Whether the kind at this index, as FindStation takes it, is the one that searches the directory.
+  bool SearchesStations(std::size_t kind) const;
+
   // Past searches, oldest first.
   std::vector<std::string> History() const;
   // What the list of searches offers: the pinned ones, the newest first, then the past ones, oldest first.

@@ -1,5 +1,8 @@
 #include "mainwindow/SonaroFrm.h"
 
+#include <utility>
+
+#include "directory/StatList.h"
 #include "forms/ControlIds.h"
 #include "mainwindow/SonaroFrm_panes.h"
 #include "resources/texts/mainwindow.h"
@@ -7,6 +10,8 @@
 
 namespace sonaro {
 namespace {
+
+constexpr UINT kTypedMessage = WM_APP + 40;
 
 // The heading of the left column.
 int SideCaptionOf(View view) {
@@ -60,6 +65,13 @@ void SonaroFrm::BringUpView(std::string_view name) {
 void SonaroFrm::ShowView(View view) {
   models_.listing.ShowView(view);
   ShowEverything();
+  if (view == View::Search) PrepareTyping();
+}
+
+// Once the window is painted, so that the first letter does not wait for it.
+void SonaroFrm::PrepareTyping() {
+  UpdateWindow(Window());
+  context_.data.stations.PrepareTyping();
 }
 
 void SonaroFrm::ShowEverything() {
@@ -84,14 +96,15 @@ void SonaroFrm::ShowEverything() {
 
 void SonaroFrm::ShowPanes() {
   const ListingState& state = models_.listing.State();
-  ShowPane(kRankingPane, state.view == View::List || state.view == View::PersonalPage);
-  ShowPane(kTreePane, state.view == View::Browse || state.view == View::BrowseLoc);
-  ShowPane(kSearchPane, state.view == View::Search);
-  ShowPane(kYoursPane, state.view == View::YourSonaro);
+  const View front = state.Front();
+  ShowPane(kRankingPane, front == View::List || front == View::PersonalPage);
+  ShowPane(kTreePane, front == View::Browse || front == View::BrowseLoc);
+  ShowPane(kSearchPane, front == View::Search);
+  ShowPane(kYoursPane, front == View::YourSonaro);
   ShowPane(kListPane, state.middle == Middle::StationList);
   ShowPane(kWebPane, state.middle == Middle::WebSearch);
   ShowPane(kEventPane, state.middle == Middle::EventPage);
-  lblSide_.SetText(LoadText(SideCaptionOf(state.view)));
+  lblSide_.SetText(LoadText(SideCaptionOf(front)));
 }
 
 void SonaroFrm::ShowSelection() {
@@ -99,7 +112,35 @@ void SonaroFrm::ShowSelection() {
   detail_.Show(models_.listing.Rows().SelectedKey());
 }
 
+void SonaroFrm::Typed() {
+  if (std::exchange(typed_, true)) return;
+  PostMessageW(Window(), kTypedMessage, 0, 0);
+}
+
+// A posted message comes before the keys that wait, a timer after them: the newest words are taken, once, and
+// no key waits for a search of the words before it.
+void SonaroFrm::TakeTyped() {
+  if (HIWORD(GetQueueStatus(QS_KEY)) != 0) return StartTimer(tmrTyped, USER_TIMER_MINIMUM);
+  StopTimer(tmrTyped);
+  typed_ = false;
+  if (FocusedControl() != 0) UpdateWindow(GetFocus());  // the letter first
+  search_.TakeTyped();
+  list_.TakeTyped();
+}
+
+void SonaroFrm::tmrTyped_Timer() { TakeTyped(); }
+
+std::span<const TimerRow> SonaroFrm::Timers() const {
+  static const TimerRow kRows[] = {{tmrTyped, &SonaroFrm::tmrTyped_Timer}};
+  return kRows;
+}
+
 bool SonaroFrm::OnMessage(UINT message, WPARAM, LPARAM, LRESULT& result) {
+  if (message == kTypedMessage) {
+    result = 0;
+    TakeTyped();
+    return true;
+  }
   if (!drag_.Handle(message)) return false;
   result = 0;
   return true;

@@ -46,6 +46,11 @@ class SonaroFrm final : public Form, private MainView {
   void ShowView(View view) override;
   void ShowEverything() override;
   void ShowSelection() override;
+  void Typed() override;
+  void PrepareTyping() override;
+  void TakeTyped();
+  void tmrTyped_Timer();
+  std::span<const TimerRow> Timers() const override;
   void ShowPanes();
 
   MainModels models_;
@@ -59,6 +64,7 @@ class SonaroFrm final : public Form, private MainView {
   DetailPane detail_{context_};
   PersonalPane personal_{context_};
   ListPane list_{context_, groups_, detail_, personal_};
+  bool typed_ = false;  // TakeTyped is on its way
   DragPane drag_{context_, list_, groups_};
   Label lblSide_{*this, lblSide};
   ListHandle lstFavs_{*this, lstFavs};

@@ -1,6 +1,7 @@
 #include "mainwindow/SonaroFrmListPane.h"
 
 #include "forms/ControlIds.h"
+#include "forms/WideText.h"
 #include "mainwindow/SonaroFrmDetailPane.h"
 #include "mainwindow/SonaroFrmGroupsPane.h"
 #include "mainwindow/SonaroFrmPersonalPane.h"
@@ -21,6 +22,14 @@ std::span<const EventRow> ListPane::Events() const {
       {butSplit1, Click, &ListPane::butSplit_Click, 4},
       {butSplit1, ContextMenu, &ListPane::butSplit_ContextMenu, 4},
       {mnuSortByName, Click, &ListPane::mnuSort_Click, 18},  // the sort menu's and the action menu's
+      {mnuOwnOrder, Click, &ListPane::mnuOwnOrder_Click},
+      {butOwnOrder, Click, &ListPane::mnuOwnOrder_Click},
+      {mnuFilter, Click, &ListPane::mnuFilter_Click},
+      {butFilter, Click, &ListPane::butFilter_Click},
+      {mnuEndFilter, Click, &ListPane::mnuEndFilter_Click},
+      {mnuFiltered, Click, &ListPane::mnuFiltered_Click},
+      {txtFilter, Change, &ListPane::txtFilter_Change},
+      {txtFilter, EnterPressed, &ListPane::mnuFiltered_Click},
       {butMissing, Click, &ListPane::butMissing_Click},
       {mnuRemoveRow, Click, &ListPane::mnuRemoveRow_Click},
       {mnuActionMoveUp, Click, &ListPane::mnuActionMoveUp_Click},
@@ -47,29 +56,56 @@ void ListPane::ShowRows() {
   list.Select(rows.Selected() ? static_cast<int>(*rows.Selected()) : -1);
   const ListingState& state = listing_.State();
   lblListing_.SetText(state.caption);
+  ShowFilterBox();
   ShowMissing();
+  ShowCount();
+}
+
+void ListPane::ShowCount() {
+  const StationRows& rows = listing_.Rows();
+  const auto figure = [&](std::size_t count) { return FormatCount(count, context_.data.state.decimalMode); };
   const std::size_t count = rows.StationCount();
   const int textId = count == 1 ? IDS_COUNT_ONE_STATION : IDS_COUNT_STATIONS;
-  lblCount_.SetText(
-      state.holds == Holds::Nothing && count == 0
-          ? std::string()
-          : FormatText(form_.LoadText(textId), {FormatCount(count, context_.data.state.decimalMode)}));
+  if (!listing_.State().narrowedBy.empty() && !rows.IsNotice()) {
+    lblCount_.SetText(
+        FormatText(form_.LoadText(IDS_COUNT_FILTERED), {figure(count), figure(rows.FilledCount())}));
+  } else if (listing_.State().holds == Holds::Nothing && count == 0) {
+    lblCount_.SetText("");
+  } else {
+    lblCount_.SetText(FormatText(form_.LoadText(textId), {figure(count)}));
+  }
 }
 
 // Beside the caption, which is shorter then.
 void ListPane::ShowMissing() {
   const ListingState& state = listing_.State();
-  const std::size_t count = state.middle == Middle::StationList ? state.missing.size() : 0;
+  const bool room = state.middle == Middle::StationList && !filterOpen_;
+  const std::size_t count = room ? state.missing.size() : 0;
   const int textId = count == 1 ? IDS_GROUP_MISSING_ONE : IDS_GROUP_MISSING;
   butMissing_.SetText(
       FormatText(form_.LoadText(textId), {FormatCount(count, context_.data.state.decimalMode)}));
   butMissing_.Show(count > 0);
-  form_.UseLayout(count > 0 ? kMainLayoutWithMissing : 0);
+  form_.UseLayout(count > 0 ? kMainLayoutWithMissing : filterOpen_ ? kMainLayoutWithFilter : 0);
+}
+
+// The box goes when the list for which it was opened does: the words have been taken, and narrow nothing now.
+void ListPane::ShowFilterBox() {
+  if (filterOpen_ && !takenFilter_.empty() && listing_.State().narrowedBy.empty()) filterOpen_ = false;
+  if (!filterOpen_) {
+    takenFilter_.clear();
+    txtFilter_.SetText("");
+  }
+  lblFilter_.Show(filterOpen_);
+  txtFilter_.Show(filterOpen_);
 }
 
 void ListPane::ShowEmptyText() {
   int heading = IDS_EMPTY_LIST;
   int help = IDS_EMPTY_LIST_HELP;
+  if (!listing_.State().narrowedBy.empty()) {
+    lstFavs_->SetEmptyText(form_.LoadText(IDS_EMPTY_FILTER), form_.LoadText(IDS_EMPTY_FILTER_HELP));
+    return;
+  }
   switch (listing_.State().holds) {
     case Holds::Nothing:
       heading = IDS_EMPTY_CHOOSE;
@@ -88,6 +124,7 @@ void ListPane::ShowEmptyText() {
       help = IDS_EMPTY_PERSONAL_HELP;
       break;
     case Holds::Search:
+    case Holds::Matches:
       heading = IDS_LISTING_NO_STATIONS;
       help = IDS_EMPTY_SEARCH_HELP;
       break;
@@ -100,6 +137,13 @@ void ListPane::ShowEmptyText() {
 
 void ListPane::ShowSort() {
   const SortState& sort = listing_.Rows().Sort();
+  butOwnOrder_.Show(sort.on);
+  for (const SortEntry& entry : SortEntries()) {  // a rating has no header that could show it
+    if (entry.key != sort.key) continue;
+    const std::string by = Narrow(WithoutAccessKey(Widen(form_.LoadText(entry.captionId))));
+    butOwnOrder_.SetText(FormatText(form_.LoadText(IDS_OWN_ORDER_KEY), {by}));
+    butOwnOrder_.SetTip(butOwnOrder_.Text());
+  }
   for (const SortEntry& entry : SortEntries()) {
     if (entry.headerButton == 0) continue;
     const bool active = sort.on && sort.key == entry.key;
@@ -141,6 +185,40 @@ void ListPane::SortBy(int command) {
   ShowRows();
 }
 
+void ListPane::mnuOwnOrder_Click() {
+  listing_.Rows().EndSort();
+  ShowSort();
+  ShowRows();
+}
+
+void ListPane::mnuFilter_Click() {
+  if (listing_.State().middle != Middle::StationList) return;
+  filterOpen_ = true;
+  ShowFilterBox();
+  ShowMissing();
+  txtFilter_.Focus();
+  txtFilter_.SelectAll();
+  context_.view.PrepareTyping();
+}
+
+void ListPane::butFilter_Click() { filterOpen_ ? mnuEndFilter_Click() : mnuFilter_Click(); }
+
+void ListPane::mnuEndFilter_Click() {
+  if (!filterOpen_) return;
+  lstFavs_.Focus();  // before its own window goes
+  filterOpen_ = false;
+  listing_.NarrowByWords("");
+  context_.view.ShowEverything();
+}
+
+void ListPane::TakeTyped() {
+  const std::string words(TrimBlanks(txtFilter_.Text()));
+  if (!filterOpen_ || words == takenFilter_) return;
+  takenFilter_ = words;
+  listing_.NarrowByWords(words);
+  context_.view.ShowEverything();
+}
+
 void ListPane::butMissing_Click() {
   groups_.Commands().TakeOutMissing();
   context_.view.ShowEverything();
@@ -161,7 +239,7 @@ void ListPane::MoveStation(int by) {
 
 void ListPane::MoveRow(const StationKey& station, int to) {
   const StationRows& rows = listing_.Rows();
-  if (rows.Sort().on || !rows.Find(station) || to < 0 || to >= static_cast<int>(rows.Count())) return;
+  if (!rows.InOwnOrder() || !rows.Find(station) || to < 0 || to >= static_cast<int>(rows.Count())) return;
   groups_.Commands().PlaceStation(station, rows.KeyAt(static_cast<std::size_t>(to)));
   context_.view.ShowEverything();
 }

@@ -28,6 +28,8 @@ class ListPane final : public EventTarget, private ListModel {
   StationKey KeyAt(int row) const;  // None for a row that stands for no station
   // Puts the row in the place of another one; only where the list shows a group in the group's own order.
   void MoveRow(const StationKey& station, int to);
+  // Narrows the list to what stands in the filter's box by now.
+  void TakeTyped();
 
  private:
   std::span<const EventRow> Events() const override;
@@ -39,6 +41,8 @@ class ListPane final : public EventTarget, private ListModel {
 
   void ShowEmptyText();
   void ShowMissing();
+  void ShowCount();
+  void ShowFilterBox();
   void SortBy(int command);
   void MoveStation(int by);
 
@@ -48,6 +52,12 @@ class ListPane final : public EventTarget, private ListModel {
   void butSplit_Click(int column);
   void butSplit_ContextMenu(int column, POINT at);
   void mnuSort_Click(int entry);
+  void mnuOwnOrder_Click();
+  void mnuFilter_Click();
+  void butFilter_Click();
+  void mnuEndFilter_Click();
+  void mnuFiltered_Click() { lstFavs_.Focus(); }
+  void txtFilter_Change() { context_.view.Typed(); }
   void butMissing_Click();
   void mnuRemoveRow_Click();
   void mnuActionMoveUp_Click() { MoveStation(-1); }
@@ -65,6 +75,11 @@ class ListPane final : public EventTarget, private ListModel {
   Label lblListing_{form_, lblListing};
   Label lblCount_{form_, lblCount};
   Button butMissing_{form_, butMissing};
+  Label lblFilter_{form_, lblFilter};
+  Edit txtFilter_{form_, txtFilter};
+  Button butOwnOrder_{form_, butOwnOrder};
+  bool filterOpen_ = false;
+  std::string takenFilter_;  // by which the list is narrowed
 };
 
 }  // namespace sonaro

@@ -9,6 +9,8 @@ namespace sonaro {
 
 std::span<const EventRow> SearchPane::Events() const {
   static const EventRow kRows[] = {
+      {txtQuickSearch, Change, &SearchPane::txtQuickSearch_Change},
+      {txtQuickSearch, SelChange, &SearchPane::txtQuickSearch_Change},
       {txtQuickSearch, EnterPressed, &SearchPane::FindStation},
       {butSearchList, Click, &SearchPane::FindStation},
       {butWebOpen, Click, &SearchPane::butWebOpen_Click},
@@ -30,10 +32,8 @@ void SearchPane::Load() {
 }
 
 void SearchPane::ShowHistory() {
-  const std::string typed = txtQuickSearch_.Text();
   txtQuickSearch_.ClearItems();
   for (const std::string& entry : search_.History()) txtQuickSearch_.AddItem(entry);
-  txtQuickSearch_.SetText(typed);
 }
 
 void SearchPane::ShowWebSearch() {
@@ -50,18 +50,29 @@ std::size_t SearchPane::ChosenKind() const {
   return SearchPanel::kMaxKinds - 1;
 }
 
+void SearchPane::TakeTyped() {
+  const std::string typed = txtQuickSearch_.Text();
+  if (typed == taken_ || !search_.SearchesStations(ChosenKind())) return;
+  taken_ = typed;
+  context_.models.listing.ShowMatches(TrimBlanks(typed));
+  context_.view.ShowEverything();
+}
+
+// The words stay, with the focus on them, so that the search can be made narrower or wider.
 void SearchPane::FindStation() {
-  switch (search_.FindStation(txtQuickSearch_.Text(), ChosenKind(), optSearch_.IsChecked())) {
+  taken_ = txtQuickSearch_.Text();
+  switch (search_.FindStation(taken_, ChosenKind(), optSearch_.IsChecked())) {
     case SearchPanel::Outcome::Nothing:
-      return txtQuickSearch_.Focus();
+      break;
     case SearchPanel::Outcome::Web:
       context_.view.ShowEverything();
       return butWebOpen_Click();
     case SearchPanel::Outcome::Stations:
       ShowHistory();
       context_.view.ShowEverything();
-      return lstFavs_.Focus();
+      break;
   }
+  txtQuickSearch_.Focus();
 }
 
 void SearchPane::butWebOpen_Click() {

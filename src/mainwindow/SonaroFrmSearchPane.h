@@ -12,12 +12,15 @@ class SearchPane final : public EventTarget {
 
   void Load();
   void ShowWebSearch();
+  // Shows the stations that fit best to what stands in the words by now.
+  void TakeTyped();
 
  private:
   std::span<const EventRow> Events() const override;
   void ShowHistory();
   // The first chosen of the first five kinds, otherwise the sixth.
   std::size_t ChosenKind() const;
+  void txtQuickSearch_Change() { context_.view.Typed(); }
   void FindStation();
   void butWebOpen_Click();
 
@@ -31,7 +34,7 @@ class SearchPane final : public EventTarget {
   Edit lblWebAddress_{form_, lblWebAddress};
   Label lblListing_{form_, lblListing};
   Label lblCount_{form_, lblCount};
-  ListHandle lstFavs_{form_, lstFavs};
+  std::string taken_;  // the words that the list shows something of
 };
 
 }  // namespace sonaro

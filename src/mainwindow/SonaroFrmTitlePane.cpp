@@ -31,7 +31,7 @@ std::span<const EventRow> TitlePane::Events() const {
 }
 
 void TitlePane::Show() {
-  const View shown = context_.models.listing.State().view;
+  const View shown = context_.models.listing.State().Front();
   for (int tab = 0; tab < butTabs_.Count(); ++tab)
     butTabs_[tab].SetActive(kTabs[static_cast<std::size_t>(tab)] == shown);
 }

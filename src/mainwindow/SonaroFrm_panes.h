@@ -17,7 +17,9 @@ enum MainPane : unsigned char {
   kProgressPane
 };
 
-// The layout in which members of a group that the guide does not know are told of beside the caption.
+// The layouts in which the caption leaves room: for a word on members of a group that the guide does not
+// know, and for the box of the filter.
 inline constexpr int kMainLayoutWithMissing = 1;
+inline constexpr int kMainLayoutWithFilter = 2;
 
 }  // namespace sonaro

@@ -93,6 +93,7 @@ MenuEntries StationActions::ActionMenu(const StationDetail& detail) const {
                             : Entry(mnuActionExtraLink, IDS_ACTION_EXTRA_LINK_NONE, false));
   }
   AddSeparator(menu);
+  menu.push_back(Entry(mnuFilter, IDS_ACTION_FILTER));
   menu.push_back(Submenu(strings_.Load(IDS_ACTION_SORT), SortEntriesFor(Place::ActionMenu)));
   menu.push_back(Submenu(strings_.Load(IDS_ACTION_RANKINGS), RankingEntries()));
   return menu;
@@ -136,8 +137,8 @@ void StationActions::AddGroupEntries(const StationDetail& detail, MenuEntries& m
   menu.push_back(StationEntry(mnuActionRemoveFromFavList, IDS_ACTION_REMOVE_FROM_GROUP, detail));
   menu.back().enabled = groupShown && detail.station;
   if (!groupShown) return;
-  // In a sorted list the places of a group's members cannot be seen, so they are not moved there.
-  const bool canMove = menu.back().enabled && !listing_.Rows().Sort().on;
+  // In a sorted or narrowed list the places of a group's members cannot be seen, so they are not moved there.
+  const bool canMove = menu.back().enabled && listing_.Rows().InOwnOrder();
   const std::size_t row = listing_.Rows().Selected().value_or(0);
   menu.push_back(Entry(mnuActionMoveUp, IDS_ACTION_MOVE_UP, canMove && row > 0));
   menu.push_back(
@@ -161,7 +162,9 @@ MenuEntries StationActions::SortMenu() const { return SortEntriesFor(Place::Sort
 
 MenuEntries StationActions::SortEntriesFor(Place place) const {
   const SortState& sort = listing_.Rows().Sort();
-  MenuEntries entries;
+  MenuEntries entries = {Entry(mnuOwnOrder, IDS_SORT_OWN_ORDER)};
+  entries.back().checked = !sort.on;
+  AddSeparator(entries);
   for (const SortEntry& facts : SortEntries()) {
     MenuEntry entry = Entry(place == Place::SortMenu ? facts.sortMenu : facts.actionMenu, facts.captionId);
     entry.checked = sort.on && sort.key == facts.key;

@@ -5,11 +5,22 @@
 #include "base/Numbers.h"
 #include "base/Text.h"
 #include "directory/StatList.h"
+#include "directory/TypedSearch.h"
 #include "resources/texts/mainwindow.h"
 #include "settings/Strings.h"
 #include "stations/RecentList.h"
 
 namespace sonaro {
+namespace {
+
+std::vector<StationKey> KeysOf(const std::vector<std::int32_t>& ids) {
+  std::vector<StationKey> keys;
+  keys.reserve(ids.size());
+  for (const std::int32_t id : ids) keys.push_back(StationKey::OfGuide(id));
+  return keys;
+}
+
+}  // namespace
 
 void StationListFiller::FillListFromIds(std::string_view ids, StationRows& list) {
   std::vector<StationKey> wanted;
@@ -22,10 +33,7 @@ void StationListFiller::FillListFromIds(std::string_view ids, StationRows& list)
 
 std::vector<StationKey> StationListFiller::FillListFromSearch(std::string_view text, bool allWords,
                                                               StationRows& list) {
-  std::vector<StationKey> found;
-  for (const std::int32_t id : stations_.SearchStationIds(text, allWords)) {
-    found.push_back(StationKey::OfGuide(id));
-  }
+  std::vector<StationKey> found = KeysOf(stations_.SearchStationIds(text, allWords));
   Show(found, list);
   return found;
 }
@@ -38,6 +46,27 @@ void StationListFiller::Show(std::vector<StationKey> found, StationRows& list) {
 
 void StationListFiller::FillListFromFound(std::span<const StationKey> found, StationRows& list) {
   Show(source_.KnownOf(found), list);
+}
+
+void StationListFiller::FillListFromMatches(std::string_view typed, StationRows& list) {
+  Show(KeysOf(stations_.BestMatches(typed)), list);
+}
+
+std::vector<StationKey> StationListFiller::Fitting(std::string_view words, const StationRows& list) const {
+  std::vector<std::int32_t> ids;
+  for (const StationKey& key : list.FilledKeys()) {
+    if (key.IsOfGuide()) ids.push_back(key.number);
+  }
+  const std::vector<std::int32_t> inGuide = stations_.FilterStations(ids, words);
+  const TypedWords typed(words);
+  auto next = inGuide.begin();
+  std::vector<StationKey> fitting;
+  for (const StationKey& key : list.FilledKeys()) {
+    const bool ofGuide = key.IsOfGuide() && next != inGuide.end() && *next == key.number;
+    if (ofGuide) ++next;
+    if (ofGuide || (key.IsOfUser() && source_.OwnFits(key, typed))) fitting.push_back(key);
+  }
+  return fitting;
 }
 
 void StationListFiller::FillListFromPersonal(StationRows& list) { list.Fill(source_.OwnKeys()); }

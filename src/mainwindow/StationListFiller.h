@@ -34,6 +34,11 @@ class StationListFiller {
   void FillListFromPersonal(StationRows& list);
   // What a search found, once more.
   void FillListFromFound(std::span<const StationKey> found, StationRows& list);
+  // The stations that fit best to the words typed so far, the best first, or one row that says that there are
+  // none.
+  void FillListFromMatches(std::string_view typed, StationRows& list);
+  // Those of the list's stations that fit to the words, by the rules of typing, in the order of its fill.
+  std::vector<StationKey> Fitting(std::string_view words, const StationRows& list) const;
   // The members of a favourite group. Returns those that the guide does not know, which are left out, None
   // for what names no station; empty when the guide could not be read, which says nothing about them.
   std::vector<StationKey> FillListFromGroup(std::span<const StationKey> members, StationRows& list);

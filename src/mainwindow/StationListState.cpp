@@ -32,6 +32,7 @@ std::string_view NameOf(View view) {
 
 void StationListState::ShowView(View view) {
   if (view == View::List) return ShowListView();
+  state_.searchForm = false;
   state_.view = view;
   state_.middle = view == View::YourSonaro                   ? Middle::EventPage
                   : view == View::Search && webSearchIsLast_ ? Middle::WebSearch
@@ -45,6 +46,7 @@ void StationListState::ShowView(View view) {
 }
 
 void StationListState::ShowListView() {
+  state_.searchForm = false;
   if (state_.view == View::List) return;
   state_.view = View::List;
   state_.middle = Middle::StationList;
@@ -75,6 +77,8 @@ void StationListState::LeaveForList() {
 
 void StationListState::Hold(Holds holds, std::string caption) {
   state_.missing.clear();
+  state_.typed.clear();
+  state_.narrowedBy.clear();
   state_.holds = holds;
   state_.caption = std::move(caption);
   state_.ranking.reset();
@@ -140,6 +144,7 @@ void StationListState::ShowSearch(std::string_view text, bool allWords) {
   searchText_ = text;
   webSearchIsLast_ = false;
   LeaveForList();
+  state_.searchForm = true;
   HoldLastSearch();
   found_ = lists_.FillListFromSearch(text, allWords, rows_);
 }
@@ -147,6 +152,38 @@ void StationListState::ShowSearch(std::string_view text, bool allWords) {
 void StationListState::HoldLastSearch() {
   state_.listingMode = ListingState::kLastSearch;
   Hold(Holds::Search, FormatText(strings_.Load(IDS_LISTING_SEARCH), {searchText_}));
+}
+
+// What is typed belongs to the search form: the list that comes back with its tab is the one of the listing
+// mode, so this is no list of its own.
+void StationListState::ShowMatches(std::string_view typed) {
+  state_.view = View::Search;
+  state_.searchForm = false;
+  state_.middle = Middle::StationList;
+  if (!SplitWords(typed).empty()) {
+    if (state_.holds != Holds::Matches) beforeMatches_ = state_;
+    Hold(Holds::Matches, FormatText(strings_.Load(IDS_LISTING_MATCHES), {std::string(typed)}));
+    state_.typed = typed;
+  } else if (state_.holds == Holds::Matches && beforeMatches_) {
+    const ListingState before = *beforeMatches_;
+    Hold(before.holds, before.caption);
+    state_.ranking = before.ranking;
+    state_.group = before.group;
+  } else {
+    return;
+  }
+  FillHeld();
+}
+
+void StationListState::NarrowByWords(std::string_view words) {
+  const bool any = !SplitWords(words).empty();
+  state_.narrowedBy = any ? std::string(words) : std::string();
+  Narrow();
+}
+
+void StationListState::Narrow() {
+  if (state_.narrowedBy.empty()) return rows_.NarrowTo(std::nullopt);
+  rows_.NarrowTo(lists_.Fitting(state_.narrowedBy, rows_));
 }
 
 void StationListState::ShowWebSearch() {
@@ -183,6 +220,7 @@ void StationListState::Refill() {
   const std::vector<StationKey> before = rows_.Keys();
   const std::size_t selected = rows_.Selected().value_or(0);
   FillHeld();
+  if (!state_.narrowedBy.empty()) Narrow();
   rows_.Select(SelectionAfterFill(before, selected, rows_.Keys()));
 }
 
@@ -206,6 +244,8 @@ void StationListState::FillHeld() {
       return;
     case Holds::Search:
       return lists_.FillListFromFound(found_, rows_);
+    case Holds::Matches:
+      return lists_.FillListFromMatches(state_.typed, rows_);
   }
 }
 

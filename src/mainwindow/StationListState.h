@@ -3,6 +3,7 @@
 #pragma once
 
 #include <cstddef>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <utility>
@@ -56,6 +57,13 @@ class StationListState {
   // What the last search found, in the directory's order. It is what its listing mode shows until the next
   // search, whatever else was listed meanwhile.
   const std::vector<StationKey>& LastFound() const { return found_; }
+  // The list shows what fits best to the words typed so far, in place of what it held, which comes back with
+  // no words left. The listing mode stays.
+  void ShowMatches(std::string_view typed);
+  // Narrows what the list shows to the rows that fit to these words, until it shows something else; "" brings
+  // all back.
+  void NarrowByWords(std::string_view words);
+
   // The middle shows what was asked of the web in place of the list, and does so again whenever the search
   // view comes back, until the directory is searched.
   void ShowWebSearch();
@@ -80,6 +88,7 @@ class StationListState {
   void HoldLastSearch();
   void FillHeld();
   void Refill();
+  void Narrow();
   void Hold(Holds holds, std::string caption);
 
   StationListFiller& lists_;
@@ -89,6 +98,7 @@ class StationListState {
   const Strings& strings_;
   StationRows rows_;
   ListingState state_;
+  std::optional<ListingState> beforeMatches_;  // what the list held when the typing began
   std::string searchText_;
   bool webSearchIsLast_ = false;
   std::vector<StationKey> found_;

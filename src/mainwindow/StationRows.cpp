@@ -90,6 +90,7 @@ const std::string& CellOf(const StationInfo& row, int subItem) {
 
 void StationRows::Fill(std::vector<StationKey> keys) {
   notice_.reset();
+  narrowedTo_.reset();
   keys_ = std::move(keys);
   selected_.reset();
   Arrange();
@@ -117,29 +118,44 @@ void StationRows::FilterChanged() {
   if (!selected_) Select(0);
 }
 
+void StationRows::NarrowTo(std::optional<std::vector<StationKey> > keys) {
+  if (IsNotice() || (!keys && !narrowedTo_)) return;
+  narrowedTo_ = std::move(keys);
+  Arrange();
+  if (!selected_) Select(0);
+}
+
 // Everything that goes by shown positions is void afterwards, but the selected row stays selected while it is
 // shown.
 void StationRows::Arrange() {
   const std::uint32_t selected = selected_ ? order_[*selected_] : 0;
   order_.resize(keys_.size());
   std::iota(order_.begin(), order_.end(), 0U);
+  if (narrowedTo_) {
+    std::size_t count = 0;
+    for (std::uint32_t row = 0; row < keys_.size() && count < narrowedTo_->size(); ++row) {
+      if (keys_[row] == (*narrowedTo_)[count]) order_[count++] = row;
+    }
+    order_.resize(count);
+  }
   if (filter_ != nullptr && !IsNotice()) filter_->Narrow(keys_, order_);
   if (sort_.on && !IsNotice()) SortShown();
   pages_ = {};
   if (!selected_) return;
-  selected_ = static_cast<std::size_t>(std::find(order_.begin(), order_.end(), selected) - order_.begin());
-  if (*selected_ == order_.size()) selected_.reset();
+  const auto at = std::find(order_.begin(), order_.end(), selected);
+  selected_.reset();
+  if (at != order_.end()) selected_ = static_cast<std::size_t>(at - order_.begin());
 }
 
 void StationRows::SortShown() {
-  const std::vector<std::uint32_t> shown = order_;
-  SortKeys keys(shown.size());
-  source_.VisitInfos(Keys(), [&](std::size_t row, const StationInfo& info) {
-    keys.Set(static_cast<std::uint32_t>(row), sortKey_(CellOf(info, sort_.key)));
+  const std::vector<std::uint32_t> rows = order_;
+  SortKeys keys(rows.size());
+  source_.VisitInfos(Keys(), [&](std::size_t place, const StationInfo& info) {
+    keys.Set(static_cast<std::uint32_t>(place), sortKey_(CellOf(info, sort_.key)));
   });
   keys.SortStably(sort_.order);
   std::transform(keys.Keys().begin(), keys.Keys().end(), order_.begin(),
-                 [&shown](const SortKey& key) { return shown[key.row]; });
+                 [&](const SortKey& key) { return rows[key.row]; });
 }
 
 StationRows::Page StationRows::ReadPage(std::size_t number) const {

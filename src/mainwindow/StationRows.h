@@ -67,9 +67,16 @@ class StationRows {
   // The filter lets others through. The selected row stays selected if it is still shown.
   void FilterChanged();
 
-  // Stations of the fill, shown or not.
-  std::size_t FilledCount() const { return IsNotice() ? 0 : keys_.size(); }
+  // Shows only the rows with these keys, which stand in the order of the fill; nothing: all rows, as every fill
+  // does. The selected row stays selected; when it is not shown, the first one is.
+  void NarrowTo(std::optional<std::vector<StationKey>> keys);
+  // Every row is shown, in the order of the fill.
+  bool InOwnOrder() const { return !sort_.on && order_.size() == keys_.size(); }
+
   std::size_t Count() const { return order_.size(); }
+  // What the fill brought, shown or not.
+  std::size_t FilledCount() const { return IsNotice() ? 0 : keys_.size(); }
+  const std::vector<StationKey>& FilledKeys() const { return keys_; }
   // Stations among the rows: all but a notice.
   std::size_t StationCount() const { return IsNotice() ? 0 : Count(); }
   // By position in the shown order, which must be below Count(). None for a notice.
@@ -110,6 +117,7 @@ class StationRows {
   std::vector<StationKey> keys_;      // in the order of the fill
   std::vector<std::uint32_t> order_;  // shown position -> index in keys_
   std::optional<StationInfo> notice_;
+  std::optional<std::vector<StationKey>> narrowedTo_;
   SortState sort_;
   std::optional<std::size_t> selected_;  // a shown position
   mutable std::array<Page, kKeptPages> pages_;

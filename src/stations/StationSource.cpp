@@ -7,6 +7,7 @@
 #include "base/Text.h"
 #include "directory/Scrambling.h"
 #include "directory/StatList.h"
+#include "directory/TypedSearch.h"
 #include "resources/texts/playback.h"
 #include "settings/Strings.h"
 #include "stations/ExtraLinks.h"
@@ -129,6 +130,13 @@ std::vector<StationKey> StationSource::KnownOf(std::span<const StationKey> keys)
 
 std::vector<std::int32_t> StationSource::IdsHolding(std::string_view text) const {
   return stations_.SearchStationIds(text, true);
+}
+
+bool StationSource::OwnFits(const StationKey& key, const TypedWords& words) const {
+  const PersonalStation* own = Personal(key);
+  if (own == nullptr) return false;
+  const std::string_view fields[] = {own->name, own->type, own->note};
+  return words.StandIn(fields);
 }
 
 std::vector<StationKey> StationSource::OwnKeys() const {

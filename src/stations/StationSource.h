@@ -22,6 +22,7 @@ struct StationRecord;
 struct StationView;
 class Strings;
 struct ScramblingAlphabets;
+class TypedWords;
 
 // Which link is asked for. The numbers are those that are passed around in the program.
 enum class PlayMode : int {
@@ -101,6 +102,8 @@ class StationSource {
   void VisitInfos(std::span<const StationKey> keys, const InfoVisitor& visit) const;
   // The user's own that have a name, in table order.
   std::vector<StationKey> OwnKeys() const;
+  // Whether all words stand somewhere in the name, the type or the note of one of the user's own.
+  bool OwnFits(const StationKey& key, const TypedWords& words) const;
   // The guide's stations, ascending, in which all words of `text` stand somewhere, letter case ignored.
   std::vector<std::int32_t> IdsHolding(std::string_view text) const;
   // "" when the key names nothing.

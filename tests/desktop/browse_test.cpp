@@ -47,6 +47,11 @@ TEST_F(WholeGuideTest, RankingsAndSortsOfTheRealDirectory) {
   Click(Control(main, butSplit3));
   EXPECT_TRUE(WaitUntil(sorted));  // a second click does not turn the order round
   SaveShot("sorted");
+  Command(main, mnuActionMostPoular);
+  EXPECT_TRUE(sorted()) << "the sort stays in force";
+  Click(Control(main, butOwnOrder));
+  EXPECT_FALSE(sorted());
+  EXPECT_FALSE(IsShown(Control(main, butOwnOrder)));
 }
 
 TEST_F(WholeGuideTest, AnEntryOfTheTreeFillsTheListAndTheTreeStays) {
@@ -74,6 +79,44 @@ TEST_F(WholeGuideTest, AnEntryOfTheTreeFillsTheListAndTheTreeStays) {
   EndWith(main, dialog, butOKIt);
   EXPECT_EQ(TreeView_GetSelection(tree), entries.front()) << "the tree stays as it is";
   EXPECT_GT(RowCount(List(main)), 20);
+}
+
+TEST_F(WholeGuideTest, TheListFollowsWhatIsTyped) {
+  HWND main = StartAndShowMain("DoWhat=BringSearch");
+  HWND words = Control(main, txtQuickSearch);
+  ASSERT_TRUE(WaitUntil([&] { return IsShown(words); }));
+  TypeText(main, "jazz");
+  EXPECT_TRUE(Listing(main, "Best Matches: jazz"));
+  const int matches = RowCount(List(main));
+  EXPECT_GT(matches, 20);
+  EXPECT_LE(matches, 200);
+  SaveShot("typed");
+  PressKey(main, VK_RETURN);
+  EXPECT_TRUE(Listing(main, "Search: jazz"));
+  EXPECT_GT(RowCount(List(main)), matches) << "all of them";
+  EXPECT_TRUE(IsShown(words)) << "the form stays, with its words";
+  EXPECT_EQ(TextOf(words), "jazz");
+  SaveShot("found");
+  SetText(words, "");
+  Click(Control(main, butTabs + 1));
+  EXPECT_FALSE(IsShown(words));
+  EXPECT_TRUE(Listing(main, "Search: jazz")) << "it is what the list view shows";
+}
+
+TEST_F(WholeGuideTest, AFilterNarrowsAListUntilEsc) {
+  HWND main = MainWithStations();
+  const auto all = ColumnTexts(List(main));
+  PressKey(main, 'L', Modifier::Control);
+  ASSERT_TRUE(WaitUntil([&] { return FocusOf(main) == Control(main, txtFilter); }));
+  TypeText(main, "jazz");
+  EXPECT_TRUE(WaitUntil([&] { return RowCount(List(main)) < static_cast<int>(all.size()); }));
+  EXPECT_GT(RowCount(List(main)), 0);
+  EXPECT_NE(TextOf(Control(main, lblCount)).find(" of "), std::string::npos);
+  SaveShot("filtered");
+  PressKey(main, VK_ESCAPE);
+  EXPECT_TRUE(WaitUntil([&] { return ColumnTexts(List(main)) == all; }));
+  EXPECT_EQ(FocusOf(main), List(main));
+  EXPECT_FALSE(IsShown(Control(main, txtFilter)));
 }
 
 TEST_F(BrowseTest, ASearchIsRememberedAcrossARestart) {

@@ -124,6 +124,65 @@ TEST_F(StationListingTest, ASearchThatFindsNothingSaysSo) {
   EXPECT_EQ(listing.State().listingMode, "LastSearch");
 }
 
+TEST_F(StationListingTest, TheSearchFormStaysBesideWhatItFound) {
+  listing.ShowRanking(Ranking::MostPop);
+  listing.ShowView(View::Search);
+  listing.ShowSearch("rock", true);
+  EXPECT_EQ(listing.State().view, View::List);
+  EXPECT_EQ(listing.State().Front(), View::Search);
+  listing.ShowView(View::List);
+  EXPECT_EQ(listing.State().Front(), View::List);
+  EXPECT_EQ(Shown(), "S2 S3 S4 ");
+  listing.ShowSearch("rock", true);
+  listing.ShowRanking(Ranking::MostPop);
+  EXPECT_EQ(listing.State().Front(), View::List);
+}
+
+TEST_F(StationListingTest, WhatIsTypedShowsMatchesAndGivesTheListBack) {
+  listing.ShowFavoriteGroup(0);
+  listing.ShowView(View::Search);
+  listing.ShowMatches("j");
+  listing.ShowMatches("jazz");
+  EXPECT_EQ(Shown(), "S1 S4 ");
+  EXPECT_EQ(listing.State().caption, FormatText(Caption(IDS_LISTING_MATCHES), {"jazz"}));
+  EXPECT_EQ(listing.State().listingMode, "favJazz");
+  listing.StationsChanged();
+  EXPECT_EQ(Shown(), "S1 S4 ");
+  listing.ShowMatches("");
+  EXPECT_EQ(Shown(), "S4 P1 S1 ");
+  EXPECT_EQ(listing.State().caption, "Jazz");
+  EXPECT_EQ(listing.State().missing, KeysOf("77"));
+  listing.ShowSearch("rock", true);
+  listing.ShowMatches("polka");
+  EXPECT_EQ(Shown(), "X ");
+  listing.ShowView(View::List);
+  EXPECT_EQ(Shown(), "S2 S3 S4 ") << "what the search found comes back with its list";
+}
+
+TEST_F(StationListingTest, AFilterNarrowsTheListUntilItShowsSomethingElse) {
+  listing.ShowFavoriteGroup(0);
+  listing.Rows().Select(2);
+  listing.NarrowByWords(" jazz  ACID");
+  EXPECT_EQ(Shown(), "S1 ");
+  EXPECT_EQ(listing.Rows().SelectedKey(), Key("1"));
+  EXPECT_EQ(listing.Rows().FilledCount(), 3U);
+  EXPECT_FALSE(listing.Rows().InOwnOrder());
+  listing.NarrowByWords("garage");
+  EXPECT_EQ(Shown(), "P1 ");
+  EXPECT_EQ(listing.Rows().SelectedKey(), Key("P1")) << "the selected one is not shown: the first one";
+  groups.AddStations(0, KeysOf("3"));
+  listing.GroupsChanged();
+  EXPECT_EQ(Shown(), "P1 ") << "the same list, filled again";
+  listing.NarrowByWords("polka");
+  EXPECT_EQ(Shown(), "");
+  listing.NarrowByWords(" ");
+  EXPECT_EQ(Shown(), "S4 P1 S1 S3 ");
+  listing.NarrowByWords("jazz");
+  listing.ShowRecent();
+  EXPECT_EQ(Shown(), "S3 P1 S1 ");
+  EXPECT_EQ(listing.State().narrowedBy, "");
+}
+
 TEST_F(StationListingTest, ARefillKeepsTheSelectedStation) {
   listing.ShowFavoriteGroup(0);
   listing.Rows().Select(2);

@@ -163,8 +163,11 @@ void ComboBox::ClearItems() const {
   const ControlSet::Quiet quiet(Inside().Controls());
   const ControlInstance* item = Item();
   const std::string typed = item && item->KindOf() == ControlKind::ComboEdit ? Text() : std::string();
+  const LRESULT caret = Send(CB_GETEDITSEL);
   Send(CB_RESETCONTENT);
-  if (!typed.empty()) SetText(typed);  // what the user typed is not one of the items
+  if (typed.empty()) return;
+  SetText(typed);  // what the user typed is not one of the items
+  Send(CB_SETEDITSEL, 0, caret);
 }
 
 int ComboBox::ItemCount() const { return static_cast<int>(Send(CB_GETCOUNT)); }

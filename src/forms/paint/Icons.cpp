@@ -13,7 +13,7 @@ constexpr double kLargePen = 1.3;  // grid units, where that is more
 constexpr int kBlurredFrom = 17;   // smaller icons lie as their grid says
 
 // In the order of the names, without None and ProgramMark.
-constexpr std::array<IconShape, 37> kShapes = {{
+constexpr std::array<IconShape, 39> kShapes = {{
     {true, "M4 2 L14 8 L4 14 Z"},  // Play
     {false,
      "M8 1.75 A6.25 6.25 0 1 1 7.99 1.75 Z M1.75 8 H14.25 M8 1.75 C4.4 5.4 4.4 10.6 8 14.25 M8 1.75 "
@@ -62,9 +62,11 @@ constexpr std::array<IconShape, 37> kShapes = {{
     {false, "M2.5 12 H13.5 M4 12 V6.5 L6 3.25 H10 L12 6.5 V12 M6.75 14.25 H9.25 M8 1.5 V3.25"},  // Bell
     {true,
      "M8 1.5 L9.95 6.1 L14.75 6.45 L11.1 9.65 L12.2 14.5 L8 11.95 L3.8 14.5 L4.9 9.65 L1.25 6.45 "
-     "L6.05 6.1 Z"},                     // Fav
-    {true, "M4 10 L8 5 L12 10 Z"},       // Sort
-    {true, "M4 5.5 L12 5.5 L8 10.5 Z"},  // TriDown
+     "L6.05 6.1 Z"},                                                                      // Fav
+    {true, "M4 10 L8 5 L12 10 Z"},                                                        // Sort
+    {false, "M2 3 H14 L9.75 8.25 V13.75 L6.25 12 V8.25 Z"},                               // Filter
+    {false, "M6.5 3.5 H14 M6.5 8 H14 M6.5 12.5 H14 M2 3.5 H3.5 M2 8 H3.5 M2 12.5 H3.5"},  // OwnOrder
+    {true, "M4 5.5 L12 5.5 L8 10.5 Z"},                                                   // TriDown
 }};
 static_assert(kShapes.size() == static_cast<std::size_t>(Icon::ProgramMark) - 1);
 
