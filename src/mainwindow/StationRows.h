@@ -67,8 +67,8 @@ class StationRows {
   // The filter lets others through. The selected row stays selected if it is still shown.
   void FilterChanged();
 
-  // Shows only the rows with these keys, which stand in the order of the fill; nothing: all rows, as every fill
-  // does. The selected row stays selected; when it is not shown, the first one is.
+  // Shows only the rows with these keys, which stand in the order of the fill; nothing: all rows, as every
+  // fill does. The selected row stays selected; when it is not shown, the first one is.
   void NarrowTo(std::optional<std::vector<StationKey>> keys);
   // Every row is shown, in the order of the fill.
   bool InOwnOrder() const { return !sort_.on && order_.size() == keys_.size(); }
