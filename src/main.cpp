@@ -9,7 +9,6 @@
 
 #include "app/Application.h"
 #include "forms/Guard.h"
-#include "forms/StringTable.h"
 #include "forms/WideText.h"
 #include "platform/SystemFunction.h"
 #include "platform/win/ClockWin.h"

@@ -8,8 +8,8 @@
 #include "base/OwnFiles.h"
 #include "base/Text.h"
 #include "directory/CheckDataFiles.h"
-#include "forms/HighContrast.h"
 #include "forms/MessageLoop.h"
+#include "forms/Screen.h"
 #include "forms/WideText.h"
 #include "mainwindow/SonaroFrm.h"
 #include "net/ServiceUrlTable.h"
@@ -68,13 +68,7 @@ Application::Application(const Platform& platform, const Strings& strings, const
   state_.commandLine = std::move(commandLine);
   player_.SetView(this);
   pages_.SetShowErrorText([this](const std::string& sentence) { ShowErrorText(sentence); });
-  context_.clickSound = [this] {
-    // Keys click unless the user switched it off.
-    if (reg_.Get(setting::kSoundClick)) PlaySoundFile(kClickSound);
-  };
-  context_.bringUp = [this](const std::string& caption) {
-    if (schedule_) schedule_->ShowNotification(caption);
-  };
+  context_.listener = this;
 }
 
 Application::~Application() = default;
@@ -332,6 +326,15 @@ void Application::Exit() {
   RememberPlace();
   if (main_) main_->Hide();
   PostQuitMessage(0);
+}
+
+// Keys click unless the user switched it off.
+void Application::ButtonPressed() {
+  if (reg_.Get(setting::kSoundClick)) PlaySoundFile(kClickSound);
+}
+
+void Application::BringUpAsked(const std::string& caption) {
+  if (schedule_) schedule_->ShowNotification(caption);
 }
 
 void Application::PlaySoundFile(const char* fileName) { platform_.sound.Play(faceplate_.FilePath(fileName)); }

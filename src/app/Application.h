@@ -52,7 +52,8 @@ class Application final : private StartupView,
                           private TrayListener,
                           private RecentListener,
                           private UndoListener,
-                          private ProgramListener {
+                          private ProgramListener,
+                          private FormListener {
  public:
   // `program`: full path of the executable, whose folder is the data folder. `commandLine`: what follows the
   // program's name.
@@ -117,6 +118,8 @@ class Application final : private StartupView,
   void PlaceMainWindow();
   void RememberPlace();
   bool IsFree();
+  void ButtonPressed() override;
+  void BringUpAsked(const std::string& caption) override;
   void PlaySoundFile(const char* fileName);
 
   Platform platform_;

@@ -1,5 +1,5 @@
 // The polygon outlines of the windows, read from the faceplate's point file. Finds a window's line by its key
-// and scales its points for the screen; cutting the window is forms/WindowShape's business.
+// and scales its points for the screen; cutting the window is forms/Screen's business.
 #pragma once
 
 #include <string_view>

@@ -1,4 +1,6 @@
 // Makes the controls of a form: which kind is which window class, and which is a class of our own.
+#include <windows.h>
+
 #include <commctrl.h>
 
 #include <utility>

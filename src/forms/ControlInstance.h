@@ -9,7 +9,7 @@
 #include "forms/Arrange.h"
 #include "forms/Form.h"
 #include "forms/controls/FormControl.h"
-#include "forms/controls/LinesBar.h"
+#include "forms/controls/ScrollBar.h"
 
 namespace sonaro {
 

@@ -7,8 +7,8 @@
 
 #include <algorithm>
 
-#include "forms/Dpi.h"
 #include "forms/FormWindow.h"
+#include "forms/Screen.h"
 #include "forms/WideText.h"
 #include "forms/controls/ToolTips.h"
 #include "platform/SystemFunction.h"

@@ -27,7 +27,8 @@ class EventRow {
   };
   enum OfRow : unsigned char {
     ItemActivated = static_cast<unsigned char>(Kind::ItemActivated),
-    ItemSelected = static_cast<unsigned char>(Kind::ItemSelected)
+    ItemSelected = static_cast<unsigned char>(Kind::ItemSelected),
+    BeginDrag = static_cast<unsigned char>(Kind::BeginDrag)
   };
   enum AtPoint { ContextMenu };
   enum OfNode { NodeClick };
@@ -92,6 +93,7 @@ class EventTarget {
   static constexpr auto EnterPressed = EventRow::EnterPressed;
   static constexpr auto ItemActivated = EventRow::ItemActivated;
   static constexpr auto ItemSelected = EventRow::ItemSelected;
+  static constexpr auto BeginDrag = EventRow::BeginDrag;
   static constexpr auto ContextMenu = EventRow::ContextMenu;
   static constexpr auto NodeClick = EventRow::NodeClick;
 };

@@ -68,7 +68,6 @@
 
 #include <windows.h>
 
-#include <functional>
 #include <initializer_list>
 #include <memory>
 #include <span>
@@ -77,7 +76,7 @@
 
 #include "forms/EventTable.h"
 #include "forms/FormDesign.h"
-#include "forms/MenuEntry.h"
+#include "forms/Menu.h"
 
 namespace sonaro {
 
@@ -90,14 +89,21 @@ class Strings;
 // Paints a control of kind Picture; `box` is its client area.
 using PicturePainter = void (*)(HDC dc, const RECT& box, const Painter& painter);
 
-// What all forms share; owned by Application. The functions may be empty: a form alone, as in the tests, has
-// nobody to sound a click or to bring up a program.
+// Who is told what happens in any form.
+class FormListener {
+ public:
+  virtual ~FormListener() = default;
+  virtual void ButtonPressed() = 0;
+  // Another window, perhaps of another program, has set the caption of the form's lblBringUp.
+  virtual void BringUpAsked(const std::string& caption) = 0;
+};
+
+// What all forms share; owned by Application.
 struct FormContext {
   const Strings& strings;
   Faceplate& faceplate;  // a form that hears of a high-contrast theme sets it
   const Shape& shape;
-  std::function<void()> clickSound = {};                         // after every press of a button
-  std::function<void(const std::string& caption)> bringUp = {};  // lblBringUp's caption was set
+  FormListener* listener = nullptr;  // set by Application, whose parts have the context before it is complete
 };
 
 class Form : public EventTarget {
@@ -134,7 +140,8 @@ class Form : public EventTarget {
   void StartTimer(int id, unsigned milliseconds);
   void StopTimer(int id);
 
-  // Menus: the chosen entry comes as a Click event of its command number.
+  // Menus, with the top-left corner at `at` (screen pixels). Returns when the menu is closed. The chosen
+  // entry comes as a Click event of its command number, by a WM_COMMAND, as when it is sent from outside.
   void PopUpMenu(std::span<const MenuEntry> entries, POINT at);
 
   std::string LoadText(int stringId) const;  // from resources/texts

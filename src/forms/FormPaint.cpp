@@ -4,8 +4,8 @@
 #include <utility>
 
 #include "faceplate/Faceplate.h"
-#include "forms/Dpi.h"
 #include "forms/FormWindow.h"
+#include "forms/Screen.h"
 #include "forms/WideText.h"
 #include "forms/controls/TabDial.h"
 

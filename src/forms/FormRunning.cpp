@@ -4,13 +4,11 @@
 #include <array>
 
 #include "faceplate/Faceplate.h"
-#include "forms/Dpi.h"
 #include "forms/FormWindow.h"
 #include "forms/Guard.h"
-#include "forms/HighContrast.h"
 #include "forms/MessageLoop.h"
+#include "forms/Screen.h"
 #include "forms/WideText.h"
-#include "forms/WindowShape.h"
 
 namespace sonaro {
 namespace {

@@ -5,9 +5,8 @@
 #include <array>
 
 #include "forms/ControlIds.h"
-#include "forms/Dpi.h"
 #include "forms/Guard.h"
-#include "forms/HighContrast.h"
+#include "forms/Screen.h"
 #include "forms/WideText.h"
 #include "settings/Strings.h"
 
@@ -159,7 +158,7 @@ LRESULT FormWindow::HandleCommand(WPARAM wParam, LPARAM lParam) {
   if (IsButton(item->KindOf()) || IsCheck(item->KindOf())) {
     // A fast second click comes as a double click; it is a click like any other.
     if (code != BN_CLICKED && code != BN_DBLCLK) return 0;
-    if (context_.clickSound) context_.clickSound();
+    if (context_.listener) context_.listener->ButtonPressed();
     Handle({.id = item->Id()});
   } else if (IsCombo(item->KindOf())) {
     HandleCombo(*item, code);
@@ -339,7 +338,7 @@ void FormWindow::Press(int id) {
     return;
   }
   if (IsButton(item->KindOf())) {
-    if (context_.clickSound) context_.clickSound();
+    if (context_.listener) context_.listener->ButtonPressed();
     Handle({.id = id});
     return;
   }
@@ -355,7 +354,7 @@ void FormWindow::Escape() {
 }
 
 void FormWindow::BringUp(const std::string& caption) const {
-  if (context_.bringUp) context_.bringUp(caption);
+  if (context_.listener) context_.listener->BringUpAsked(caption);
 }
 
 std::string FormWindow::TextOf(const ControlText& text) const {

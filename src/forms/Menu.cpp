@@ -1,39 +1,34 @@
 #include "forms/Menu.h"
 
-#include "forms/WideText.h"
+#include "base/Text.h"
 
 namespace sonaro {
+
 namespace {
 
-HMENU Build(std::span<const MenuEntry> entries) {
-  const HMENU menu = CreatePopupMenu();
-  for (const MenuEntry& entry : entries) {
-    const UINT state = (entry.enabled ? MF_ENABLED : MF_GRAYED) | (entry.checked ? MF_CHECKED : MF_UNCHECKED);
-    const std::wstring text = Widen(entry.text);
-    if (!entry.children.empty()) {
-      AppendMenuW(menu, MF_POPUP | state, reinterpret_cast<UINT_PTR>(Build(entry.children)), text.c_str());
-    } else if (entry.command == 0) {
-      AppendMenuW(menu, MF_SEPARATOR, 0, nullptr);
-    } else {
-      AppendMenuW(menu, MF_STRING | state, static_cast<UINT_PTR>(entry.command), text.c_str());
-    }
-  }
-  return menu;
-}
+constexpr std::size_t kMaxBytes = 60;  // two names and the words around them stay on the screen
 
 }  // namespace
 
-int ShowPopupMenu(HWND owner, std::span<const MenuEntry> entries, POINT at) {
-  if (entries.empty()) return 0;
-  const HMENU menu = Build(entries);
-  // Without these two a menu of a window in the background does not close when the user clicks elsewhere.
-  SetForegroundWindow(owner);
-  const BOOL command = TrackPopupMenuEx(menu, TPM_RETURNCMD | TPM_LEFTALIGN | TPM_TOPALIGN | TPM_RIGHTBUTTON,
-                                        at.x, at.y, owner, nullptr);
-  PostMessageW(owner, WM_NULL, 0, 0);
-  DestroyMenu(menu);
-  if (command != 0) SendMessageW(owner, WM_COMMAND, static_cast<WPARAM>(command), 0);
-  return command;
+// A menu takes "&" for the mark of an access key, so a real one is doubled, and what stands behind a tab for
+// a shortcut at the right edge.
+std::string MenuText(std::string_view text) {
+  const std::string_view shown = TruncateUtf8(text, kMaxBytes);
+  std::string out;
+  for (const char c : shown) {
+    if (c == '&') out += '&';
+    out += c == '\t' ? ' ' : c;
+  }
+  if (shown.size() < text.size()) out += "...";
+  return out;
+}
+
+const MenuEntry* FindEntry(const MenuEntries& entries, int command) {
+  for (const MenuEntry& entry : entries) {
+    if (entry.command == command && command != 0) return &entry;
+    if (const MenuEntry* found = FindEntry(entry.children, command)) return found;
+  }
+  return nullptr;
 }
 
 }  // namespace sonaro

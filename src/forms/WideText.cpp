@@ -1,5 +1,7 @@
 #include "forms/WideText.h"
 
+#include <cstring>
+
 namespace sonaro {
 
 // CP_ACP is UTF-8 here: the program's manifest makes it so. Without the manifest letters beyond ASCII would
@@ -36,6 +38,33 @@ std::wstring WithoutAccessKey(std::wstring_view caption) {
     words += caption[i];
   }
   return words;
+}
+
+std::string StringTable::Load(int id) const {
+  // With a buffer of length 0 the call gives a pointer into the resource itself, which is not zero-ended.
+  const wchar_t* text = nullptr;
+  const int length =
+      LoadStringW(GetModuleHandleW(nullptr), static_cast<UINT>(id), reinterpret_cast<wchar_t*>(&text), 0);
+  if (length <= 0) return {};
+  return Narrow({text, static_cast<std::size_t>(length)});
+}
+
+bool CopyToClipboard(HWND owner, std::string_view text) {
+  const std::wstring wide = Widen(text);
+  const std::size_t bytes = (wide.size() + 1) * sizeof(wchar_t);
+  const HGLOBAL memory = GlobalAlloc(GMEM_MOVEABLE, bytes);
+  if (!memory) return false;
+  std::memcpy(GlobalLock(memory), wide.c_str(), bytes);
+  GlobalUnlock(memory);
+  // The clipboard owns the memory once it has taken it.
+  bool taken = false;
+  if (OpenClipboard(owner)) {
+    EmptyClipboard();
+    taken = SetClipboardData(CF_UNICODETEXT, memory) != nullptr;
+    CloseClipboard();
+  }
+  if (!taken) GlobalFree(memory);
+  return taken;
 }
 
 }  // namespace sonaro

@@ -1,7 +1,7 @@
 #include "mainwindow/SonaroFrmDetailPane.h"
 
-#include "forms/Clipboard.h"
 #include "forms/ControlIds.h"
+#include "forms/WideText.h"
 #include "forms/controls/RatingPicture.h"
 #include "forms/paint/Painter.h"
 #include "mainwindow/SonaroFrm_panes.h"

@@ -27,12 +27,16 @@ constexpr int kNoCursor = 32648;
 
 }  // namespace
 
+std::span<const EventRow> DragPane::Events() const {
+  static const EventRow kRows[] = {{lstFavs, BeginDrag, &DragPane::lstFavs_BeginDrag}};
+  return kRows;
+}
+
 void DragPane::Load() {
   for (int slot = 0; slot < butFavs_.Count(); ++slot) {
     SetWindowSubclass(butFavs_[slot].Window(), GroupButtonProcedure, static_cast<UINT_PTR>(slot),
                       reinterpret_cast<DWORD_PTR>(this));
   }
-  lstFavs_->onBeginDrag = [this](int row) { Begin(Thing::Row, list_.KeyAt(row), {}); };
 }
 
 LRESULT CALLBACK DragPane::GroupButtonProcedure(HWND key, UINT message, WPARAM wParam, LPARAM lParam,
@@ -58,6 +62,8 @@ void DragPane::WatchGroupButton(UINT message, WPARAM wParam, LPARAM lParam, int 
     if (moved) Begin(Thing::Group, {}, groups_.NameOf(static_cast<std::size_t>(slot)));
   }
 }
+
+void DragPane::lstFavs_BeginDrag(int row) { Begin(Thing::Row, list_.KeyAt(row), {}); }
 
 void DragPane::Begin(Thing what, StationKey station, std::string group) {
   pressedSlot_ = -1;

@@ -13,18 +13,19 @@ namespace sonaro {
 class GroupsPane;
 class ListPane;
 
-class DragPane {
+class DragPane final : public EventTarget {
  public:
   DragPane(const MainContext& context, ListPane& list, GroupsPane& groups)
       : context_(context), form_(context.form), list_(list), groups_(groups) {}
 
-  // Lets rows of the list and buttons of the group bar be dragged.
+  // Lets buttons of the group bar be dragged; rows of the list are anyway.
   void Load();
 
   // A message to the form; true when a drag ended with it.
   bool Handle(UINT message);
 
  private:
+  std::span<const EventRow> Events() const override;
   enum class Thing { Nothing, Row, Group, Scan };
   struct Drop {
     Thing onto = Thing::Nothing;
@@ -35,6 +36,7 @@ class DragPane {
   static LRESULT CALLBACK GroupButtonProcedure(HWND key, UINT message, WPARAM wParam, LPARAM lParam,
                                                UINT_PTR slot, DWORD_PTR self) noexcept;
   void WatchGroupButton(UINT message, WPARAM wParam, LPARAM lParam, int slot);
+  void lstFavs_BeginDrag(int row);
   void Begin(Thing what, StationKey station, std::string group);
   void End();
   void Take(const Drop& drop, Thing what, const StationKey& station, const std::string& group);

@@ -173,7 +173,7 @@ void ListPane::butSplit_ContextMenu(int, POINT at) {
 }
 
 void ListPane::mnuSort_Click(int entry) {
-  if (context_.forms.clickSound) context_.forms.clickSound();
+  if (context_.forms.listener) context_.forms.listener->ButtonPressed();
   SortBy(mnuSortByName + entry);
 }
 

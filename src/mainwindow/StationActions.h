@@ -6,7 +6,7 @@
 #include <cstddef>
 #include <optional>
 
-#include "forms/MenuText.h"
+#include "forms/Menu.h"
 #include "mainwindow/Rankings.h"
 #include "mainwindow/StationDetailBuilder.h"
 

@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "forms/MenuText.h"
+#include "forms/Menu.h"
 #include "forms/controls/ProgressScale.h"
 #include "playback/frmScanTime.h"
 #include "resources/texts/playback.h"
@@ -54,7 +54,6 @@ void frmScan::OnLoad() {
       {{LoadText(IDS_SCAN_W_COLUMN_NAME), 163}, {LoadText(IDS_SCAN_W_COLUMN_LOCATION), 136}});
   lstToScan_->SetEmptyText(LoadText(IDS_SCAN_W_EMPTY), LoadText(IDS_SCAN_W_EMPTY_HELP));
   lstToScan_->SetModel(&queue_, false);
-  lstToScan_->onBeginDrag = [this](int row) { BeginQueueDrag(row); };
   lstScanedAlready_->SetColumns(
       {{LoadText(IDS_SCAN_W_COLUMN_NAME), 169}, {LoadText(IDS_SCAN_W_COLUMN_WHAT), 118}});
   lstScanedAlready_->SetEmptyText(LoadText(IDS_SCAN_W_HISTORY_EMPTY),
@@ -225,7 +224,7 @@ void frmScan::mnuScanToGroup_Click(int group) {
 }
 
 // Rows of the queue are moved by dragging: while the button is down the window has the mouse.
-void frmScan::BeginQueueDrag(int row) {
+void frmScan::lstToScan_BeginDrag(int row) {
   draggedRow_ = row;
   SetCapture(Window());
 }

@@ -65,7 +65,7 @@ class frmScan final : public Form, private ScanView {
   std::optional<std::size_t> QueueRow();
   void UseFullLayout(bool full);
   std::vector<MenuEntry> GroupEntries() const;
-  void BeginQueueDrag(int row);
+  void lstToScan_BeginDrag(int row);
 
   void butStartIt_Click() { scan_.StartPauseContinue(); }
   void butMoveNextIt_Click() { scan_.MoveNext(); }

@@ -138,6 +138,7 @@ const FormDesign& frmScan::Design() {
 std::span<const EventRow> frmScan::Events() const {
   static const EventRow kRows[] = {
       {butStartIt, Click, &frmScan::butStartIt_Click},
+      {lstToScan, BeginDrag, &frmScan::lstToScan_BeginDrag},
       {butMoveNextIt, Click, &frmScan::butMoveNextIt_Click},
       {butMoveUpIt, Click, &frmScan::butMoveUpIt_Click},
       {butMoveDownIt, Click, &frmScan::butMoveDownIt_Click},

@@ -5,7 +5,7 @@
 #include <algorithm>
 #include <iterator>
 
-#include "forms/MenuText.h"
+#include "forms/Menu.h"
 #include "forms/WideText.h"
 #include "resources/icon.h"
 #include "resources/texts/tray.h"

@@ -5,8 +5,6 @@
 #include <cmath>
 #include <numbers>
 
-#include "forms/paint/RatingRing.h"
-
 namespace sonaro {
 namespace {
 

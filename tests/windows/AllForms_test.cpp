@@ -16,7 +16,7 @@
 #include "fakes/FakeMessageBox.h"
 #include "fakes/FakeShell.h"
 #include "fakes/FakeUndo.h"
-#include "forms/StringTable.h"
+#include "forms/WideText.h"
 #include "mainwindow/MainModels.h"
 #include "mainwindow/SonaroFrm.h"
 #include "mainwindow/frmExtraLink.h"

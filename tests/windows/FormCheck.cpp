@@ -3,8 +3,8 @@
 #include <map>
 #include <set>
 
-#include "forms/Dpi.h"
 #include "forms/FormWindow.h"
+#include "forms/Screen.h"
 #include "forms/WideText.h"
 #include "forms/paint/Painter.h"
 

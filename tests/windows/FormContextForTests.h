@@ -16,7 +16,7 @@
 
 namespace sonaro {
 
-struct FormContextForTests {
+struct FormContextForTests : FormListener {
   FakeRegistry registry;
   FakeFiles files;
   CReg settings{registry};
@@ -26,8 +26,10 @@ struct FormContextForTests {
   FakeStrings strings;
   int clicks = 0;
   std::vector<std::string> broughtUp;
-  FormContext forms{strings, faceplate, shape, [this] { ++clicks; },
-                    [this](const std::string& caption) { broughtUp.push_back(caption); }};
+  FormContext forms{strings, faceplate, shape, this};
+
+  void ButtonPressed() override { ++clicks; }
+  void BringUpAsked(const std::string& caption) override { broughtUp.push_back(caption); }
 };
 
 }  // namespace sonaro

@@ -1,9 +1,8 @@
 // Size, place, outline and look of a form: layouts, dpi, growing, dragging.
 #include <gtest/gtest.h>
 
-#include "forms/Dpi.h"
 #include "forms/FormWindow.h"
-#include "forms/WindowShape.h"
+#include "forms/Screen.h"
 #include "windows/DemoForm.h"
 #include "windows/FormContextForTests.h"
 #include "windows/Pump.h"

@@ -3,7 +3,6 @@
 
 #include "contract/HttpListener.h"
 #include "forms/ControlIds.h"
-#include "forms/StringTable.h"
 #include "forms/WideText.h"
 #include "loopback/LoopbackServer.h"
 #include "net/HttpFaultText.h"

@@ -2,9 +2,9 @@
 // its painting is ours.
 #include <algorithm>
 
-#include "forms/Dpi.h"
 #include "forms/FormWindow.h"
 #include "forms/Guard.h"
+#include "forms/Screen.h"
 #include "forms/WideText.h"
 
 namespace sonaro {

@@ -20,6 +20,7 @@ struct FormEvent {
     EnterPressed,
     ItemActivated,
     ItemSelected,  // row
+    BeginDrag,     // row: the left button is down on it and has moved; the handler may take the mouse
     ContextMenu,   // row (-1: none) and point
     NodeClick      // node
   };

@@ -328,7 +328,7 @@ bool ListView::OnNotify(NMHDR& notice, LRESULT& result) {
       return true;
     }
     case LVN_BEGINDRAG:
-      if (onBeginDrag) onBeginDrag(reinterpret_cast<const NMLISTVIEW&>(notice).iItem);
+      Raise({.kind = FormEvent::Kind::BeginDrag, .row = reinterpret_cast<const NMLISTVIEW&>(notice).iItem});
       return true;
     default:
       return false;

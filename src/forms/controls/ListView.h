@@ -5,7 +5,6 @@
 
 #include <windows.h>
 
-#include <functional>
 #include <memory>
 #include <span>
 #include <string>
@@ -63,10 +62,6 @@ class ListView final : public ScrolledView {
   void RepaintRows();
   int RowAt(POINT screen) const;  // -1: none
   RECT RowBox(int row) const;     // client pixels of the form
-
-  // A row is being dragged (the left button is down and has moved); set to take part. A function and no event
-  // of the table: who drags takes the mouse at once, within the list's own message.
-  std::function<void(int row)> onBeginDrag;
 
   void MoveTo(const RECT& place) override;
   void ThemeChanged() override;

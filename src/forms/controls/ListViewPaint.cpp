@@ -1,4 +1,4 @@
-// How a list's rows theme.
+// How a list's rows are painted.
 
 #include <windowsx.h>
 
@@ -7,7 +7,6 @@
 #include "forms/WideText.h"
 #include "forms/controls/ListView.h"
 #include "forms/paint/Painter.h"
-#include "forms/paint/ReliabilitySymbol.h"
 
 namespace sonaro {
 
@@ -23,7 +22,28 @@ constexpr int kEmptyPitch = 8;
 constexpr int kEmptyLineAboveMiddle = 37;
 constexpr int kEmptyScaleFrom = 180;  // lists less high show the words only
 
+// The four bars that say how reliable a station is.
+constexpr int kSymbolSize = 11;
+constexpr int kBarHeights[] = {3, 6, 8, 11};
+constexpr int kBarWidth = 2;
+constexpr int kBarPitch = 3;
+
 Color GroundOf(const FaceplateColors& colors, int row) { return row % 2 == 0 ? colors.glass : colors.zebra; }
+
+// `level` 0 (not known) to 4 (very good); the top-left corner at pixel (x, y). On a selected row a
+// high-contrast theme may give the bars the colour of the row's text as well.
+void PaintReliability(HDC dc, const Painter& painter, int x, int y, int level, bool selected) {
+  const FaceplateColors& colors = painter.Colors();
+  Color lit = level == 1 ? colors.alert : colors.signal;
+  if (selected && colors.highContrast) lit = colors.rowSelectedText;
+  const int bottom = y + painter.Px(kSymbolSize);
+  const int width = std::max(2, painter.Px(kBarWidth));
+  for (int bar = 0; bar < 4; ++bar) {
+    const int left = x + bar * painter.Px(kBarPitch);
+    const int height = painter.Px(level == 0 ? kBarHeights[0] : kBarHeights[bar]);
+    painter.Fill(dc, {left, bottom - height, left + width, bottom}, bar < level ? lit : colors.tickOff);
+  }
+}
 
 }  // namespace
 
@@ -86,7 +106,7 @@ void ListView::PaintCells(HDC dc, int row, const RECT& box, bool selected, bool 
                ink, DT_NOPREFIX | (column.rightAligned ? DT_RIGHT : 0U));
   }
   if (symbol >= 0) {
-    const int top = box.top + (box.bottom - box.top - theme.Px(kReliabilitySize)) / 2;
+    const int top = box.top + (box.bottom - box.top - theme.Px(kSymbolSize)) / 2;
     PaintReliability(dc, theme, box.left + theme.Px(kSymbolInset), top, symbol, selected && focused);
   }
 }

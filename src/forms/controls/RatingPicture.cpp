@@ -1,8 +1,8 @@
 #include "forms/controls/RatingPicture.h"
 
 #include "forms/WideText.h"
+#include "forms/paint/Icons.h"
 #include "forms/paint/Painter.h"
-#include "forms/paint/RatingRing.h"
 
 namespace sonaro {
 namespace {

@@ -2,6 +2,8 @@
 
 #include <algorithm>
 #include <array>
+#include <cmath>
+#include <numbers>
 
 namespace sonaro {
 namespace {
@@ -93,6 +95,14 @@ long Blur(const Coverage& coverage) {
   return blur;
 }
 
+// The ring of a rating, in pixels of a 96-dpi screen.
+constexpr PathPoint kRingCentre = {27, 23};
+constexpr double kRingInner = 14;
+constexpr double kRingOuter = 20;
+constexpr double kRingPen = 2;
+constexpr int kFirstTick = 150;  // degrees clockwise from the right
+constexpr int kTickStep = 24;
+
 }  // namespace
 
 const IconShape& ShapeOf(Icon icon) {
@@ -133,6 +143,24 @@ Pixels RenderProgramMark(int size, const MarkColors& colors, const Color* ground
   paint(StrokePolygons(ParsePath(kNeedle, tolerance), kNeedlePen), colors.needle);
   paint(FillPolygons(ParsePath(kHub, tolerance)), colors.needle);
   return pixels;
+}
+
+int LitTicks(int halves) { return halves <= 0 ? 0 : std::min(halves + 1, kRingTicks); }
+
+Coverage RenderRing(int first, int end, int dpi) {
+  FlatPath ticks;
+  for (int tick = first; tick < end; ++tick) {
+    const double angle = (kFirstTick + kTickStep * tick) * std::numbers::pi / 180;
+    const PathPoint direction = {std::cos(angle), std::sin(angle)};
+    const auto at = [&](double radius) {
+      return PathPoint{kRingCentre.x + direction.x * radius, kRingCentre.y + direction.y * radius};
+    };
+    ticks.push_back({{at(kRingInner), at(kRingOuter)}, false});
+  }
+  const double scale = dpi / 96.0;
+  return Rasterize(StrokePolygons(ticks, kRingPen), {scale, 0, 0},
+                   static_cast<int>(std::ceil(kRingWidth * scale)),
+                   static_cast<int>(std::ceil(kRingHeight * scale)));
 }
 
 }  // namespace sonaro

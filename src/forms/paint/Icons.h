@@ -1,4 +1,5 @@
-// How the icons look: their paths, and pixels of any size made from them. Pure; IconPainter shows them.
+// How the icons and the ring of a rating look: their geometry, and pixels of any size made from them. Pure;
+// IconPainter and RatingPicture show them.
 #pragma once
 
 #include "faceplate/Icon.h"
@@ -26,5 +27,16 @@ struct MarkColors {
   Color needle;
 };
 Pixels RenderProgramMark(int size, const MarkColors& colors, const Color* ground = nullptr);
+
+// The ring of eleven ticks that shows a rating.
+inline constexpr int kRingWidth = 54;   // 96-dpi pixels of the picture that the ring is part of
+inline constexpr int kRingHeight = 44;  // down to the caption
+inline constexpr int kRingTicks = 11;   // one for each half from 0 to 5
+
+// How many ticks are lit for a rating in halves (1 to 10); none when it is not rated (0 or less).
+int LitTicks(int halves);
+
+// The ticks `first` to before `end`, `dpi` / 96 times as large.
+Coverage RenderRing(int first, int end, int dpi);
 
 }  // namespace sonaro

@@ -13,9 +13,13 @@ struct NeedleSlide {
   int to = 0;
   std::uint64_t start = 0;  // on the clock of the calls below, in milliseconds
 
-  bool IsOver(std::uint64_t now) const;
+  bool IsOver(std::uint64_t now) const { return now >= start + kMilliseconds; }
   // `to` when it is over; a clock that stands before the start gives `from`.
-  int At(std::uint64_t now) const;
+  int At(std::uint64_t now) const {
+    if (IsOver(now)) return to;
+    if (now <= start) return from;
+    return from + (to - from) * static_cast<int>(now - start) / static_cast<int>(kMilliseconds);
+  }
 };
 
 }  // namespace sonaro

@@ -1,4 +1,4 @@
-#include "forms/MenuText.h"
+#include "forms/Menu.h"
 
 #include <gtest/gtest.h>
 
