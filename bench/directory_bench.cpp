@@ -39,7 +39,7 @@ void WriteFile(const fs::path& path, const std::string& bytes) {
 struct Directory {
   Directory(const fs::path& where, const std::string& list) : folder(where) {
     fs::create_directories(folder);
-    WriteFile(folder / "station.snr", list);
+    WriteFile(folder / "Station.snr", list);
     Require(stations.RebuildStationTable(), "building the table");
     RememberIds();
 #ifdef SONARO_SQLITE
@@ -60,7 +60,7 @@ struct Directory {
     std::mt19937 random(1);
     for (std::size_t i = 0; i < kBatch; ++i) someIds.push_back(ids[random() % ids.size()]);
   }
-  std::string List() const { return folder / "station.snr"; }
+  std::string List() const { return folder / "Station.snr"; }
   std::string Database() const { return folder / "stations.db"; }
   bool IsLarge() const { return ids.size() > 200'000; }
 

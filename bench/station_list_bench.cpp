@@ -40,7 +40,7 @@ class Guide {
  public:
   Guide() {
     std::filesystem::create_directories(folder_);
-    std::ofstream list(folder_ + "/station.snr");
+    std::ofstream list(folder_ + "/Station.snr");
     std::mt19937 random(1);
     for (int id = 1; id <= kStations; ++id) {
       list << id << '\t' << MadeUpName(random) << "\tMP3\tGhent, Belgium\tJazz & Blues\tOne of many stations."

@@ -10,7 +10,7 @@ namespace sonaro {
 
 enum class ListOrder { Ascending, Shuffled };
 
-// The bytes of a "\station.snr" with `count` stations, identifiers 10, 20, 30 and so on.
+// The bytes of a "\Station.snr" with `count` stations, identifiers 10, 20, 30 and so on.
 std::string SyntheticList(std::uint32_t count, ListOrder order);
 
 struct Query {

@@ -3,6 +3,7 @@
 #include <utility>
 
 #include "base/DataFolder.h"
+#include "base/OwnFiles.h"
 #include "base/Text.h"
 #include "net/ProxyDetection.h"
 #include "net/UpdateReport.h"
@@ -105,7 +106,7 @@ void ApplicationService::RunPendingWork() {
 
 std::string ApplicationService::Report() {
   const std::optional<std::string> before = install_.ReplacedStationList();
-  const ReadResult now = dependencies_.data.Read("\\Station.snr");
+  const ReadResult now = dependencies_.data.Read(guide_file::kStations);
   if (!before || now.status != ReadStatus::Ok || *before == now.bytes) return {};
   return DescribeUpdate(CompareStationLists(*before, now.bytes, StationsOfGroups()), dependencies_.strings,
                         dependencies_.state.decimalMode);

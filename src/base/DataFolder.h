@@ -1,5 +1,5 @@
 // The data folder: the folder of the executable, which holds every data file of the program. Files are named
-// with a leading backslash ("\station.snr", "\Depot\sshape.pts") that is appended to the folder. On a file
+// with a leading backslash ("\Station.snr", "\Depot\sshape.pts") that is appended to the folder. On a file
 // system that tells letter case apart, names are found ignoring it. Owned by Application; knows no file
 // format.
 #pragma once

@@ -1,7 +1,7 @@
 // The names of the files that the program makes in its folder: one list for the stores that write them, the
 // start, which clears away what a crash left of them, the updates, which may not bring them, and the
-// uninstaller (scripts/package reads this header, so each name stands on a line of its own). Not here: the
-// tables and lists of the guide and the copies of an update, whose names come with the guide.
+// uninstaller (scripts/package reads this header, so each name stands on a line of its own). And the names of
+// the guide's files that the program asks for; those of its other lists and copies come with the guide.
 #pragma once
 
 #include <string_view>
@@ -41,6 +41,20 @@ inline constexpr std::string_view kMp3Marker = "\\dummy.mp3";
 inline constexpr std::string_view kAll[] = {kPrevious,  kUndoing,   kCopies,    kUpdate,    kEventUpdate,
                                             kAsxMarker, kRamMarker, kM3uMarker, kPlsMarker, kMp3Marker};
 }  // namespace work_file
+
+// What the guide consists of, besides a list for each category. Not the program's own: updates bring them.
+namespace guide_file {
+inline constexpr std::string_view kStations = "\\Station.snr";
+inline constexpr std::string_view kTable = "\\Statorg.isd";
+inline constexpr std::string_view kTableIndex = "\\Statorg.ism";
+inline constexpr std::string_view kCategories = "\\cat.snr";
+inline constexpr std::string_view kLocations = "\\catloc.snr";
+inline constexpr std::string_view kRanking = "\\fun.snr";
+inline constexpr std::string_view kReliable = "\\reliable.snr";
+inline constexpr std::string_view kSearchKinds = "\\searchst.snr";
+inline constexpr std::string_view kAlphabet = "\\alphabet.snr";
+inline constexpr std::string_view kSideFile = "\\sstz.vbt";
+}  // namespace guide_file
 
 // `name` without a backslash, in any letter case. Copies beside a file of the user's (".bad", ".bad2") count.
 bool IsOwnFile(std::string_view name);

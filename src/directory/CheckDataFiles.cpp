@@ -4,6 +4,7 @@
 #include <string_view>
 
 #include "base/DataFolder.h"
+#include "base/OwnFiles.h"
 #include "base/Text.h"
 #include "resources/texts/app.h"
 #include "settings/CReg.h"
@@ -15,10 +16,10 @@ namespace sonaro {
 
 namespace {
 
-constexpr std::string_view kCategories = "\\cat.snr";
 // Without these the window would open empty: rankings, the station table's two files, the list of categories.
 // What is optional (alphabets, events, places, the user's files) does not count as missing.
-constexpr std::string_view kNeeded[] = {"\\fun.snr", "\\Statorg.isd", "\\Statorg.ism", kCategories};
+constexpr std::string_view kNeeded[] = {guide_file::kRanking, guide_file::kTable, guide_file::kTableIndex,
+                                        guide_file::kCategories};
 
 }  // namespace
 
@@ -37,7 +38,7 @@ bool DataFilesMissing(DataFolder& data) {
   for (const std::string_view name : kNeeded) {
     if (!data.Exists(name)) return true;
   }
-  return CategoryListMissing(data.Read(kCategories).bytes,
+  return CategoryListMissing(data.Read(guide_file::kCategories).bytes,
                              [&data](const std::string& name) { return data.Exists(name); });
 }
 

@@ -2,7 +2,7 @@
 // at the next start. Three records make that safe at any moment of a crash:
 //
 //   UpdateHold  the setting that lists the files to put in place, "name TAB name TAB"; cleared last
-//   the copies  "tstation.snr" beside "station.snr"; moved in one step: a file is the old or the new one
+//   the copies  "tStation.snr" beside "Station.snr"; moved in one step: a file is the old or the new one
 //   kCopies     the file that lists the copies that may lie about, so that those of an abandoned update
 //               can be removed; written before the first copy and removed after the last
 //
@@ -46,7 +46,7 @@ bool SwapInDownloaded(DataFolder& data, std::string_view name) {
   return data.Replace(TemporaryName(name), std::string("\\").append(name));
 }
 
-bool IsStationList(std::string_view name) { return EqualIgnoringCase(name, "Station.snr"); }
+bool IsStationList(std::string_view name) { return EqualIgnoringCase(name, guide_file::kStations.substr(1)); }
 
 bool NoteTemporaries(DataFolder& data, const HeldNames& names) {
   HeldNames noted = NotedTemporaries(data);

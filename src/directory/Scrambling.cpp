@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "base/DataFolder.h"
+#include "base/OwnFiles.h"
 #include "base/Text.h"
 
 namespace sonaro {
@@ -74,7 +75,7 @@ bool ParseAlphabets(std::string_view fileText, ScramblingAlphabets& alphabets) {
 
 AlphabetSource LoadAlphabets(DataFolder& data, ScramblingAlphabets& alphabets) {
   alphabets = BuiltInAlphabets();
-  const ReadResult file = data.Read("\\alphabet.snr");
+  const ReadResult file = data.Read(guide_file::kAlphabet);
   if (file.status == ReadStatus::Missing) return AlphabetSource::BuiltIn;
   const bool usable = file.status == ReadStatus::Ok && ParseAlphabets(file.bytes, alphabets);
   return usable ? AlphabetSource::DataFolder : AlphabetSource::BuiltInAfterBadFile;

@@ -5,6 +5,7 @@
 #include <new>
 
 #include "base/DataFolder.h"
+#include "base/OwnFiles.h"
 #include "directory/ByteScan.h"
 #include "directory/StationListFile.h"
 #include "directory/StationSearch.h"
@@ -16,7 +17,6 @@ namespace sonaro {
 namespace {
 
 constexpr std::string_view kTableName = "\\statorg";
-constexpr std::string_view kListName = "\\station.snr";
 
 // Of the `number`th searched field, from 1 on, as it stands in the search column.
 std::string_view SearchedField(const SearchColumn& column, std::size_t record, std::size_t number) {
@@ -66,7 +66,8 @@ bool StatList::PutStation(Handle handle, const StationRecord& record) {
 
 bool StatList::RebuildStationTable() {
   try {
-    status_ = BuildStationTable(data_.FileSystem(), data_.Path(kListName), TablePath(data_, kTableName));
+    status_ = BuildStationTable(data_.FileSystem(), data_.Path(guide_file::kStations),
+                                TablePath(data_, kTableName));
   } catch (const std::bad_alloc&) {
     status_ = TableStatus::NoMemory;
   }
@@ -97,7 +98,7 @@ TableCare StatList::KeepWithoutList() {
 // update or a virus scanner holds it, is no reason to throw a table away.
 TableCare StatList::EnsureStationTable(TableCheck check) {
   Files& files = data_.FileSystem();
-  const std::string path = data_.Path(kListName);
+  const std::string path = data_.Path(guide_file::kStations);
   try {
     const std::unique_ptr<InputFile> list = files.Open(path);
     if (!list && files.Exists(path)) return Verify() ? TableCare::Sound : TableCare::NotMade;

@@ -1,4 +1,4 @@
-// The station directory: the table "\statorg" built from "\station.snr", looked up by identifier and
+// The station directory: the table "\statorg" built from "\Station.snr", looked up by identifier and
 // searched. Owned by Application. Opening is cheap: the table stays in memory between operations as long as
 // the files on disk are still the generation that was read, and no file is held open, so that an update can
 // replace them.
@@ -62,11 +62,11 @@ class StatList {
   // True when the last status is 0 or 2. A record whose identifier is 0 is not written and yields true.
   bool PutStation(Handle handle, const StationRecord& record);
 
-  // Throws the table away and builds it anew from "\station.snr". A crash at any moment leaves the old or the
+  // Throws the table away and builds it anew from "\Station.snr". A crash at any moment leaves the old or the
   // new table. False when the list could not be read or the table not written; the old table then stays.
   bool RebuildStationTable();
 
-  // The table that belongs to "\station.snr": one that is missing, damaged or of another list is made anew.
+  // The table that belongs to "\Station.snr": one that is missing, damaged or of another list is made anew.
   // Without a list that holds a station a whole table stays, and a damaged or empty one is removed, so that
   // the directory counts as missing. Compares lengths first, then reads list and table once each.
   [[nodiscard]] TableCare EnsureStationTable(TableCheck check = TableCheck::Whole);

@@ -1,4 +1,4 @@
-// The text list "\station.snr" and the station table that is built from it. One station a line: identifier,
+// The text list "\Station.snr" and the station table that is built from it. One station a line: identifier,
 // tab, sixteen fields with a tab between them. Used by StatList; does not know where the files lie.
 #pragma once
 

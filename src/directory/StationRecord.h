@@ -1,5 +1,5 @@
 // One station of the directory: its identifier and sixteen text fields, as they stand on a line of
-// "\station.snr" and in the station table. Fields 6 to 10 are held scrambled (directory/Scrambling.h).
+// "\Station.snr" and in the station table. Fields 6 to 10 are held scrambled (directory/Scrambling.h).
 #pragma once
 
 #include <algorithm>

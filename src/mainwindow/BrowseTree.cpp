@@ -7,13 +7,12 @@
 
 #include "base/DataFolder.h"
 #include "base/Numbers.h"
+#include "base/OwnFiles.h"
 #include "base/Text.h"
 
 namespace sonaro {
 namespace {
 
-constexpr const char* kCategoriesFile = "\\cat.snr";
-constexpr const char* kLocationsFile = "\\catloc.snr";
 constexpr const char* kListFileEnd = ".snr";
 constexpr const char* kYourStationsText = "Your Stations";
 constexpr const char* kYourStationsKey = "O1";
@@ -38,7 +37,8 @@ void BrowseTree::FillBrowseTree(BrowseMode mode) {
   mode_ = mode;
   nodes_.clear();
   roots_.clear();
-  const ReadResult file = data_.Read(mode == BrowseMode::ByCategory ? kCategoriesFile : kLocationsFile);
+  const ReadResult file =
+      data_.Read(mode == BrowseMode::ByCategory ? guide_file::kCategories : guide_file::kLocations);
   for (const std::string_view line : SplitLines(file.bytes)) {
     const auto fields = SplitAtMost(line, '\t', 4);
     if (fields.size() < 4) continue;

@@ -1,14 +1,12 @@
 #include "mainwindow/Rankings.h"
 
 #include "base/DataFolder.h"
+#include "base/OwnFiles.h"
 #include "base/Text.h"
 #include "resources/texts/mainwindow.h"
 
 namespace sonaro {
 namespace {
-
-constexpr const char* kRankingsFile = "\\fun.snr";
-constexpr const char* kReliableFile = "\\reliable.snr";
 
 struct RankingFacts {
   std::string_view nameInFile;  // "" = has a file of its own
@@ -59,7 +57,7 @@ std::string Rankings::Ids(Ranking ranking) {
 }
 
 void Rankings::ReadRankings() {
-  const ReadResult file = data_.Read(kRankingsFile);
+  const ReadResult file = data_.Read(guide_file::kRanking);
   read_ = file.status == ReadStatus::Ok;
   for (const std::string_view line : SplitLines(file.bytes)) {
     const auto fields = SplitAtMost(line, '\t', 2);
@@ -69,7 +67,8 @@ void Rankings::ReadRankings() {
       if (!name.empty() && EqualIgnoringCase(fields[0], name)) ids_[i] = TrimBlanks(fields[1]);
     }
   }
-  ids_[static_cast<std::size_t>(Ranking::MostReliable)] = ReliableIds(data_.Read(kReliableFile).bytes);
+  ids_[static_cast<std::size_t>(Ranking::MostReliable)] =
+      ReliableIds(data_.Read(guide_file::kReliable).bytes);
 }
 
 }  // namespace sonaro

@@ -4,6 +4,7 @@
 #include <utility>
 
 #include "base/DataFolder.h"
+#include "base/OwnFiles.h"
 #include "base/Text.h"
 #include "base/http/UrlEncoding.h"
 #include "mainwindow/StationListState.h"
@@ -14,7 +15,6 @@
 namespace sonaro {
 namespace {
 
-constexpr const char* kKindsFile = "\\searchst.snr";
 constexpr const char* kFindStation = "FindStation";
 constexpr const char* kWordMark = "<<SearchWord>>";
 constexpr const char* kOptionMark = "<<SearchOpt>>";
@@ -34,7 +34,7 @@ bool SearchKind::SearchesStations() const { return name == kFindStation; }
 
 void SearchPanel::LoadSearchKinds(std::string builtInCaption) {
   kinds_.clear();
-  std::string text = data_.Read(kKindsFile).bytes;
+  std::string text = data_.Read(guide_file::kSearchKinds).bytes;
   std::replace(text.begin(), text.end(), '\r', '\n');
   for (const std::string_view line : Split(text, '\n')) {
     if (line.empty() || kinds_.size() == kMaxKinds) continue;

@@ -14,9 +14,6 @@ constexpr std::size_t kMaxNameLength = 64;
 // What a directory consists of. Nothing that Windows would run is among them.
 constexpr std::string_view kEndings[] = {".snr", ".vbt", ".pts", ".isd", ".ism", ".isf", ".isl"};
 
-// What tells how links are to be read comes with the program.
-constexpr std::string_view kAlphabet = "alphabet.snr";
-
 // Opening such a name talks to a device instead of a file.
 constexpr std::string_view kDevices[] = {"con", "prn", "aux", "nul"};
 constexpr std::string_view kNumberedDevices[] = {"com", "lpt"};
@@ -44,9 +41,12 @@ bool MayBringFile(std::string_view name) {
   if (name.empty() || name.size() > kMaxNameLength || !std::all_of(name.begin(), name.end(), IsPlain))
     return false;
   if (name.front() == '.' || TrimBlanks(name) != name || IsDevice(name)) return false;
-  // The user's own files, and those that an update works with, must not come from outside.
-  if (IsOwnFile(name) || EqualIgnoringCase(name, kAlphabet) || EqualIgnoringCase(name, kChanges))
+  // The user's own files, and those that an update works with, must not come from outside; what tells how
+  // links are to be read comes with the program.
+  if (IsOwnFile(name) || EqualIgnoringCase(name, guide_file::kAlphabet.substr(1)) ||
+      EqualIgnoringCase(name, kChanges)) {
     return false;
+  }
   return std::any_of(std::begin(kEndings), std::end(kEndings),
                      [name](std::string_view ending) { return EndsWithIgnoringCase(name, ending); });
 }

@@ -37,8 +37,6 @@ namespace sonaro {
 
 namespace {
 
-constexpr std::string_view kStationList = "\\Station.snr";
-constexpr std::string_view kCategories = "cat.snr";
 // What is copied in one slice: small files together, a large one alone.
 constexpr std::size_t kSliceBytes = std::size_t{1} << 20;
 
@@ -106,7 +104,7 @@ InstallStatus UpdateInstall::Check(const UpdateContents& contents) {
     return InstallStatus::Older;
   }
   if (!NamesAreFree(contents) || !CategoriesHaveLists(contents)) return InstallStatus::NotFitting;
-  const ReceivedFile* const list = Find(contents, kStationList.substr(1));
+  const ReceivedFile* const list = Find(contents, guide_file::kStations.substr(1));
   return list == nullptr || HoldsStations(list->bytes) ? InstallStatus::Done : InstallStatus::NoStations;
 }
 
@@ -128,7 +126,7 @@ bool UpdateInstall::NamesAreFree(const UpdateContents& contents) {
 
 // Otherwise every start would ask for files that no update brings.
 bool UpdateInstall::CategoriesHaveLists(const UpdateContents& contents) {
-  const ReceivedFile* const categories = Find(contents, kCategories);
+  const ReceivedFile* const categories = Find(contents, guide_file::kCategories.substr(1));
   if (categories == nullptr) return true;
   std::set<std::string> there;
   for (const std::string& name : data_.FileSystem().List(data_.Folder())) there.insert(FoldCase(name));
@@ -173,7 +171,7 @@ InstallStatus UpdateInstall::KeepPrevious(const UpdateContents& contents) {
   for (const ServiceValue& value : contents.values) {
     previous.settings.push_back({value.key, value.setting, reg_.GetData(value.key, value.setting)});
   }
-  const KeptFile* const list = previous.Find(kStationList.substr(1));
+  const KeptFile* const list = previous.Find(guide_file::kStations.substr(1));
   if (list != nullptr && !HoldsStations(list->bytes.value_or(""))) {  // nothing that one could want back
     data_.Remove(work_file::kPrevious);
   } else if (!SavePreviousGuide(data_, work_file::kPrevious, previous)) {
@@ -243,7 +241,7 @@ bool UpdateInstall::CanUndo() const { return IsPreviousGuide(data_, work_file::k
 
 std::optional<std::string> UpdateInstall::ReplacedStationList() {
   const auto previous = LoadPreviousGuide(data_, work_file::kPrevious);
-  const KeptFile* const list = previous ? previous->Find(kStationList.substr(1)) : nullptr;
+  const KeptFile* const list = previous ? previous->Find(guide_file::kStations.substr(1)) : nullptr;
   return list == nullptr ? std::nullopt : list->bytes;
 }
 

@@ -8,6 +8,7 @@
 #include "base/DataFolder.h"
 #include "base/Dates.h"
 #include "base/Numbers.h"
+#include "base/OwnFiles.h"
 #include "base/Text.h"
 #include "settings/CReg.h"
 #include "settings/SettingNames.h"
@@ -20,7 +21,6 @@ constexpr std::string_view kDateBegin = "<--LastStationUpdateStart-->";
 constexpr std::string_view kDateEnd = "<--LastStationUpdateEnd-->";
 constexpr std::string_view kSideFileBegin = "<--SideFileBegin-->";
 constexpr std::string_view kSideFileEnd = "<--SideFileEnd-->";
-constexpr std::string_view kSideFile = "\\sstz.vbt";
 
 std::optional<std::string_view> Between(std::string_view text, std::string_view begin, std::string_view end) {
   const std::size_t from = text.find(begin);
@@ -33,7 +33,7 @@ std::optional<std::string_view> Between(std::string_view text, std::string_view 
 
 // A missing file has no bytes.
 std::int64_t SideFileSize(const DataFolder& data) {
-  const std::unique_ptr<InputFile> file = data.FileSystem().Open(data.Path(kSideFile));
+  const std::unique_ptr<InputFile> file = data.FileSystem().Open(data.Path(guide_file::kSideFile));
   return file ? static_cast<std::int64_t>(file->Size()) : 0;
 }
 

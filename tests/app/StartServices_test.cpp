@@ -42,7 +42,7 @@ class StartServicesTest : public testing::Test {
   bool RunSwap(const std::string& hold) {
     reg_.SetSetting("UpdateHold", hold);
     return RunDeferredSwap(data_, reg_, [this] {
-      rebuiltFrom_.push_back(Get("station.snr"));
+      rebuiltFrom_.push_back(Get("Station.snr"));
       return rebuilds_;
     });
   }
@@ -113,14 +113,14 @@ TEST_F(StartServicesTest, HelpAddress) {
 
 TEST_F(StartServicesTest, SwapPutsCopiesInPlaceAndRebuilds) {
   Put("Station.snr", "old");
-  Put("tstation.snr", "new");
+  Put("tStation.snr", "new");
   Put("tnew.snr", "n");
   Put("fun.snr", "old fun");  // no copy of it: stays
   EXPECT_TRUE(RunSwap("Station.snr\tnew.snr\tfun.snr\t"));
   EXPECT_EQ(Get("Station.snr"), "new");
   EXPECT_EQ(Get("new.snr"), "n");
   EXPECT_EQ(Get("fun.snr"), "old fun");
-  EXPECT_EQ(Get("tstation.snr"), "(none)");
+  EXPECT_EQ(Get("tStation.snr"), "(none)");
   EXPECT_EQ(rebuiltFrom_.size(), 1u);
   EXPECT_EQ(reg_.Setting("UpdateHold"), "");
   EXPECT_FALSE(RunSwap(""));

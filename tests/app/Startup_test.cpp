@@ -26,7 +26,7 @@ class StartupTest : public testing::Test {
     registry_.Put(RootKey::CurrentUser, "Control Panel\\International", "sShortDate", "M/d/yyyy");
     files_.Put("/d/fun.snr", "");
     files_.Put("/d/cat.snr", "");
-    files_.Put("/d/station.snr", "1\tOld\r\n");
+    files_.Put("/d/Station.snr", "1\tOld\r\n");
     stations_.RebuildStationTable();
     journal_.clear();
   }
@@ -208,7 +208,7 @@ TEST_F(StartupTest, ExitEndsTheStartAtOnceAndDecidesNothing) {
       {"faceplate", nothing},
       {"ask StationTableNotMade",
        [&] {
-         files_.Put("/d/station.snr", "1\tNewer\r\n");
+         files_.Put("/d/Station.snr", "1\tNewer\r\n");
          files_.SetSpaceLeft(20);
        }},
       {"page Player", nothing},
@@ -288,7 +288,7 @@ TEST_F(StartupTest, ATableThatCannotBeMadeIsToldAndTriedAgain) {
 
 TEST_F(StartupTest, ADamagedTableWithoutAListIsAMissingOne) {
   AllChecksDone();
-  files_.Remove("/d/station.snr");
+  files_.Remove("/d/Station.snr");
   EXPECT_TRUE(Main(""));
   EXPECT_TRUE(view_.asked.empty()) << "a whole table does without its list";
   files_.Put(data_.Path("\\Statorg.isd"), "damaged");

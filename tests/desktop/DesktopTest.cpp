@@ -60,7 +60,7 @@ void DesktopTest::TearDown() {
 
 void DesktopTest::MakeDataFolder() {
   const fs::path source = BuildFolder() / "test-data" / (directory_ == Directory::Small ? "small" : "whole");
-  ASSERT_TRUE(fs::exists(source / "station.snr")) << source.string() << " is missing: scripts/make-test-data";
+  ASSERT_TRUE(fs::exists(source / "Station.snr")) << source.string() << " is missing: scripts/make-test-data";
   const fs::path folder = BuildFolder() / "desktop" / TestName();
   std::error_code error;
   fs::remove_all(folder, error);

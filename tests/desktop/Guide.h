@@ -11,7 +11,7 @@ namespace sonaro::desktop {
 
 // The station of the data folder, its links and web site unscrambled; empty when there is none.
 StationRecord StationIn(const std::string& folder, const std::string& identifier);
-// A line of "station.snr" for a station with this link text and web site (scrambled here).
+// A line of "Station.snr" for a station with this link text and web site (scrambled here).
 std::string StationLine(int identifier, const std::string& name, const std::string& linkText,
                         const std::string& webSite = "");
 // An event of station 1 at a GMT stamp ("200505052215").

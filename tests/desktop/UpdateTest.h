@@ -33,7 +33,7 @@ class UpdateTest : public DesktopTest {
   void SetUp() override {
     DesktopTest::SetUp();
     if (HasFatalFailure()) return;
-    before_ = ReadFile("station.snr");
+    before_ = ReadFile("Station.snr");
     categories_ = ReadFile("cat.snr");
     rankings_ = ReadFile("fun.snr");
     WriteFile("favs.snr", kFavorites);
@@ -93,7 +93,7 @@ class UpdateTest : public DesktopTest {
     return WaitUntil([&] { return ColumnTexts(Control(main, lstFavs)) == names; });
   }
   void ExpectTheOldDirectory() {
-    EXPECT_EQ(ReadFile("station.snr"), before_);
+    EXPECT_EQ(ReadFile("Station.snr"), before_);
     EXPECT_EQ(ReadFile("cat.snr"), categories_);
     EXPECT_EQ(ReadFile("fun.snr"), rankings_);
     EXPECT_EQ(ReadFile("genre-new.snr"), "");

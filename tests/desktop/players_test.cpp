@@ -20,7 +20,7 @@ class PlayersTest : public MainWindowTest {
     RegisterProgram(".asx", "");
   }
   std::string StationCount() {
-    const std::string list = ReadFile("station.snr");
+    const std::string list = ReadFile("Station.snr");
     return std::to_string(std::count(list.begin(), list.end(), '\n'));
   }
   // Names the recording browser as the player on the page, which it is as well as any other program.
@@ -107,7 +107,7 @@ TEST_F(PlayersTest, AScanWaitsForAPlayerAndTakesStationsByItsHiddenLabel) {
   EXPECT_EQ(RowCount(Control(scan, lstScanedAlready)), 0);
   EXPECT_EQ(Sonaro().Window("frmStartUpInfo"), nullptr);
 
-  const std::string list = ReadFile("station.snr");
+  const std::string list = ReadFile("Station.snr");
   const std::string id = list.substr(0, list.find('\t'));
   SetText(Control(scan, lblStationsAdd), "S" + id);
   EXPECT_TRUE(WaitUntil([&] { return RowCount(queue) == 3; })) << id;

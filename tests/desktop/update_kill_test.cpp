@@ -63,7 +63,7 @@ TEST_F(UpdateKillTest, TheNextStartFindsTheOldDirectoryOrTheNewOne) {
     }
     name = now;
     EXPECT_EQ(StationIn(Folder(), "18230211")[StationField::Name], name);
-    EXPECT_NE(ReadFile("station.snr").find(name), std::string::npos);
+    EXPECT_NE(ReadFile("Station.snr").find(name), std::string::npos);
     EXPECT_EQ(ReadFile("favs.snr"), kFavorites);
     EXPECT_EQ(ReadSetting("UpdateHold"), "");
   }

@@ -158,7 +158,7 @@ TEST_F(UpdateTest, AnUpdateThatDidNotComeThroughChangesNothing) {
     Click(Control(dialog, butMsg + 1));
     ASSERT_TRUE(WaitUntil([&] { return !IsShown(dialog); }));
   }
-  EXPECT_EQ(ReadFile("station.snr"), before_);
+  EXPECT_EQ(ReadFile("Station.snr"), before_);
   EXPECT_EQ(ReadSetting("LastUpdate"), "1/2/2026");
   EXPECT_EQ(StationIn(Folder(), "6044347")[StationField::Name], "B5 aktuell");
 }

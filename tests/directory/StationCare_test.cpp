@@ -10,7 +10,7 @@
 namespace sonaro {
 namespace {
 
-constexpr const char* kListFile = "/data/station.snr";
+constexpr const char* kListFile = "/data/Station.snr";
 constexpr const char* kData = "/data/statorg.isd";
 constexpr const char* kIndex = "/data/statorg.ism";
 

@@ -17,12 +17,12 @@ struct StationFolder {
 
   StationFolder() { files.MakeFolder("/data"); }
   bool Rebuild(const std::string& list) {
-    files.Put("/data/station.snr", list);
+    files.Put("/data/Station.snr", list);
     return stations.RebuildStationTable();
   }
 };
 
-// The records as the lines of "station.snr".
+// The records as the lines of "Station.snr".
 inline std::string ListOf(const std::vector<StationRecord>& records) {
   std::string list;
   for (const StationRecord& record : records) {

@@ -8,7 +8,7 @@
 namespace sonaro {
 namespace {
 
-constexpr const char* kList = "/data/station.snr";
+constexpr const char* kList = "/data/Station.snr";
 
 TEST(StationRebuild, EveryKindOfLineHasADefinedResult) {
   const struct {

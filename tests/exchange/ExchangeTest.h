@@ -70,14 +70,14 @@ class ExchangeTest : public testing::Test {
 
   // The directory, the groups and the settings are as they were, and the table opens.
   void ExpectNothingChanged() {
-    EXPECT_EQ(Installed().Bytes("station.snr"), FileBytes(Made("old") + "/station.snr"));
+    EXPECT_EQ(Installed().Bytes("Station.snr"), FileBytes(Made("old") + "/Station.snr"));
     EXPECT_EQ(Installed().Bytes("favs.snr"), kUsersGroups);
     EXPECT_EQ(Installed().reg.Setting(setting::kLastUpdate.name), kOldDate);
     EXPECT_EQ(Installed().reg.Setting(setting::kUpdateHold.name), "");
     EXPECT_EQ(Installed().stations.StationCount(), 40u);
   }
   void ExpectUpdated() {
-    EXPECT_EQ(Installed().Bytes("station.snr"), FileBytes(Made("new") + "/station.snr"));
+    EXPECT_EQ(Installed().Bytes("Station.snr"), FileBytes(Made("new") + "/Station.snr"));
     EXPECT_EQ(Installed().Bytes("cat.snr"), FileBytes(Made("new") + "/cat.snr"));
     EXPECT_EQ(Installed().Bytes("favs.snr"), kUsersGroups);
     EXPECT_EQ(Installed().reg.Setting(setting::kLastUpdate.name), kDate);

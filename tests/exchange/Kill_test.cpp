@@ -93,9 +93,9 @@ TEST_F(KillTest, LeavesTheOldDirectoryOrTheNewOne) {
     Reinstall(UpdateAndKill(std::chrono::microseconds(life)));
 
     Installed().StartAgain();
-    const bool isNew = Installed().Bytes("station.snr") == FileBytes(Made("new") + "/station.snr");
+    const bool isNew = Installed().Bytes("Station.snr") == FileBytes(Made("new") + "/Station.snr");
     updated += isNew;
-    EXPECT_TRUE(isNew || Installed().Bytes("station.snr") == FileBytes(Made("old") + "/station.snr"));
+    EXPECT_TRUE(isNew || Installed().Bytes("Station.snr") == FileBytes(Made("old") + "/Station.snr"));
     EXPECT_EQ(Installed().stations.StationCount(), isNew ? 127u : 40u);
     EXPECT_EQ(Installed().Bytes("favs.snr"), kUsersGroups);
     EXPECT_EQ(Installed().reg.Setting(setting::kUpdateHold.name), "");

@@ -39,7 +39,7 @@ struct PlaybackWorld {
     for (std::size_t i = 0; i < 3; ++i) line += "\t" + Scrambled(i < links.size() ? links[i] : "");
     line += "\t" + Scrambled(alternate) + "\t" + Scrambled(webSite) + "\t128\t9\t8\t7\t6\t3\r\n";
     list += line;
-    files.Put("/d/station.snr", list);
+    files.Put("/d/Station.snr", list);
     stations.RebuildStationTable();
   }
   std::string Scrambled(std::string text) { return ScrambleText(text, BuiltInAlphabets()); }
@@ -64,7 +64,7 @@ struct PlaybackWorld {
   Players players{reg, data, shell};
   WebPages pages{source, data, shell, strings};
   PlayerLaunch launch{source, recent, players, pages, strings};
-  std::string list;  // "\station.snr"
+  std::string list;  // "\Station.snr"
 };
 
 }  // namespace sonaro

@@ -37,7 +37,7 @@ TEST_F(PlaylistTransferTest, AStationOfTheDirectoryIsKnownByWhateverName) {
   std::string longName;
   for (int i = 0; i < 150; ++i) longName += "\xD0\x96";
   for (const std::string& name : {longName, std::string(" blanks "), std::string("a\x01z")}) {
-    files.Put("/d/station.snr", "4\t" + name + "\t\t\t\t\thttp://a.example/\n");
+    files.Put("/d/Station.snr", "4\t" + name + "\t\t\t\t\thttp://a.example/\n");
     ASSERT_TRUE(stations.RebuildStationTable());
     ASSERT_TRUE(transfer.ExportGroup(0, "/out/jazz.m3u"));
     groups.Remove(*groups.Find("Empty"));
@@ -49,7 +49,7 @@ TEST_F(PlaylistTransferTest, AStationOfTheDirectoryIsKnownByWhateverName) {
 
 TEST_F(PlaylistTransferTest, OnAnotherMachineTheStationsBecomeOnesOwn) {
   ASSERT_TRUE(transfer.ExportGroup(0, "/out/jazz.m3u"));
-  files.Put("/d/station.snr", "4\tAnother station\n1\tacid jazz\n");
+  files.Put("/d/Station.snr", "4\tAnother station\n1\tacid jazz\n");
   ASSERT_TRUE(stations.RebuildStationTable());
   personal.Delete(1);
   groups.Add("New");

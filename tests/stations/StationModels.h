@@ -32,7 +32,7 @@ inline std::string TextOf(const std::vector<StationKey>& keys) {
 class StationModels : public testing::Test {
  protected:
   StationModels() {
-    files.Put("/d/station.snr",
+    files.Put("/d/Station.snr",
               "1\tAcid Jazz\tMP3\tGhent\tJazz\t\tl1\tl2\t\t\tw\t128\t9\t1\t5\t0\t4\n"
               "2\tRock One\tAAC\tOslo\tRock\t\tl1\t\t\t\t\t64\t0\t0\t0\t0\t1\n"
               "3\tblues bar\tMP3\tRock City\tBlues\t\t\t\t\talt\t\t\t3\t0\t0\t0\t0\n"

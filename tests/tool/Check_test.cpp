@@ -66,18 +66,18 @@ std::function<void(std::string&)> AfterFirstTab(std::string inserted) {
 void FlipMiddle(std::string& text) { text[text.size() / 2] = static_cast<char>(text[text.size() / 2] ^ 4); }
 
 const Damage kDamages[] = {
-    {"station.snr", nullptr, "station.snr: is missing"},
-    {"station.snr", Replacing("\t", ""), "station.snr:1: the line has 16 columns, not 17"},
-    {"station.snr", AtStart("x"), "station.snr:1: \"x"},
-    {"station.snr", AfterFirstTab("\x01"), "station.snr:1: field 1 holds a control character"},
-    {"station.snr", AfterFirstTab("\xFF"), "station.snr:1: field 1 is not valid UTF-8"},
-    {"station.snr", [](std::string& text) { text += text.substr(0, text.find('\n') + 1); },
-     "station.snr:128: station "},
-    {"station.snr", [](std::string& text) { text.erase(0, text.find('\n') + 1); },
+    {"Station.snr", nullptr, "Station.snr: is missing"},
+    {"Station.snr", Replacing("\t", ""), "Station.snr:1: the line has 16 columns, not 17"},
+    {"Station.snr", AtStart("x"), "Station.snr:1: \"x"},
+    {"Station.snr", AfterFirstTab("\x01"), "Station.snr:1: field 1 holds a control character"},
+    {"Station.snr", AfterFirstTab("\xFF"), "Station.snr:1: field 1 is not valid UTF-8"},
+    {"Station.snr", [](std::string& text) { text += text.substr(0, text.find('\n') + 1); },
+     "Station.snr:128: station "},
+    {"Station.snr", [](std::string& text) { text.erase(0, text.find('\n') + 1); },
      "Statorg.isd: holds 127 stations, the station list 126"},
-    {"station.snr", AfterFirstTab("x"), "Statorg.isd: station "},
-    {"station.snr", [](std::string& text) { text.replace(text.find('\r') - 1, 1, "7"); },
-     "station.snr:1: the reliability is not 0 to 4"},
+    {"Station.snr", AfterFirstTab("x"), "Statorg.isd: station "},
+    {"Station.snr", [](std::string& text) { text.replace(text.find('\r') - 1, 1, "7"); },
+     "Station.snr:1: the reliability is not 0 to 4"},
     {"statorg.isd", nullptr, "Statorg.isd: is missing"},
     {"statorg.ism", nullptr, "Statorg.ism: is missing"},
     {"statorg.isd", FlipMiddle, "Statorg.isd: the station table is damaged"},
@@ -152,26 +152,26 @@ TEST_F(CheckTest, FindsEveryDamage) {
 
 // A table made of the list is what the check expects of it, whatever is odd about the list's identifiers.
 TEST_F(CheckTest, ReadsTheListAsTheProgramDoes) {
-  const std::string list = FileBytes(Folder() + "/station.snr");
+  const std::string list = FileBytes(Folder() + "/Station.snr");
   const std::string first = list.substr(0, list.find('\n') + 1);
   std::string again = first;
   again.insert(again.find('\t') + 1, "Renamed ");
-  WriteBytes(Folder() + "/station.snr",
+  WriteBytes(Folder() + "/Station.snr",
              "\xEF\xBB\xBF" + list + again + "-5" + first.substr(first.find('\t')));
   LocalFolder folder(Folder());
   ASSERT_TRUE(StatList(folder.Data()).RebuildStationTable());
   const ToolRun run = RunDirectoryTool({"check", Folder()});
-  EXPECT_EQ(run.out, "station.snr:128: station " + id_ + " stands there twice; this line counts\n");
+  EXPECT_EQ(run.out, "Station.snr:128: station " + id_ + " stands there twice; this line counts\n");
 }
 
 TEST_F(CheckTest, CountsWhatItDoesNotList) {
-  std::string text = FileBytes(Folder() + "/station.snr");
+  std::string text = FileBytes(Folder() + "/Station.snr");
   for (std::size_t at = text.find('\t'); at != std::string::npos; at = text.find('\t', at + 1))
     text[at] = ' ';
-  WriteBytes(Folder() + "/station.snr", text);
+  WriteBytes(Folder() + "/Station.snr", text);
   const ToolRun run = RunDirectoryTool({"check", Folder()});
   EXPECT_EQ(run.status, 1);
-  EXPECT_NE(run.out.find("station.snr: and "), std::string::npos);
+  EXPECT_NE(run.out.find("Station.snr: and "), std::string::npos);
   EXPECT_LT(std::count(run.out.begin(), run.out.end(), '\n'), 1000);
 }
 

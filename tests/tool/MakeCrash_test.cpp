@@ -66,7 +66,7 @@ TEST(MakeCrash, AFolderIsWholeOrMarked) {
           EXPECT_TRUE(now == wholeOld || now == wholeFresh);
         }
         EXPECT_NE(StatList(data).EnsureStationTable(), TableCare::NotMade);
-        const bool oldList = files.Get("/d/station.snr") == wholeOld.at("/d/station.snr");
+        const bool oldList = files.Get("/d/Station.snr") == wholeOld.at("/d/Station.snr");
         EXPECT_EQ(StatList(data).SearchStationIds("new", true).size(), oldList ? 0U : 3U);
         ASSERT_EQ(WriteInto(files, fresh), "");
         EXPECT_EQ(ContentsOf(files), wholeFresh);

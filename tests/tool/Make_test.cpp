@@ -51,7 +51,7 @@ TEST(Make, GivesTheSameBytesForTheSameLists) {
   EXPECT_GT(contents.size(), 20u);
   // The order of the lists makes no difference to the stations either.
   MakeData({kBundledList, "iprd_jp.m3u"}, second);
-  EXPECT_EQ(FileBytes(first + "/station.snr"), FileBytes(second + "/station.snr"));
+  EXPECT_EQ(FileBytes(first + "/Station.snr"), FileBytes(second + "/Station.snr"));
 }
 
 TEST(Make, RemovesListsThatAreNotNeededAnyMore) {
@@ -256,7 +256,7 @@ TEST(Make, SaysWhatIsWrongInOneSentence) {
       {{"make", jp, "--out", file}, 1, "Cannot make the folder \"" + file + "\".\n"},
       {{"make", jp, "--out", file + "x", "--previous", scratch.Path()},
        1,
-       "There is no readable station.snr in \"" + scratch.Path() + "\".\n"},
+       "There is no readable Station.snr in \"" + scratch.Path() + "\".\n"},
       {{"make", jp}, 2, "make needs --out DIR; see sonaro-directory --help.\n"},
       {{"make", "--out", file}, 2, "make needs a station list; see sonaro-directory --help.\n"},
       {{"make", jp, "--out"}, 2, "\"--out\" needs a value; see sonaro-directory --help.\n"},

@@ -261,7 +261,7 @@ TEST_F(PublishTest, SaysWhatItCannotPublish) {
   const std::string hollow = place_.Path() + "/hollow";
   fs::create_directory(empty);
   fs::create_directory(hollow);
-  WriteBytes(hollow + "/station.snr", "no station\r\n");
+  WriteBytes(hollow + "/Station.snr", "no station\r\n");
   const std::string unfinished = place_.Path() + "/unfinished";
   fs::copy(Directory(), unfinished);
   WriteBytes(unfinished + "/unfinished.snr", "of two directories\r\n");

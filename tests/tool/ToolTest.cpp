@@ -64,7 +64,7 @@ std::vector<std::pair<std::string, std::string>> FolderContents(const std::strin
 }
 
 std::vector<std::vector<std::string>> StationRows(const std::string& folder) {
-  const std::string text = FileBytes(folder + "/station.snr");
+  const std::string text = FileBytes(folder + "/Station.snr");
   std::vector<std::vector<std::string>> rows;
   for (const std::string_view line : SplitLines(text)) {
     const std::vector<std::string_view> columns = Split(line, '\t');

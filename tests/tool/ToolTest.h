@@ -38,7 +38,7 @@ void WriteBytes(const std::string& path, std::string_view bytes);
 // The files of a folder and what is in them, to compare folders by.
 std::vector<std::pair<std::string, std::string>> FolderContents(const std::string& folder);
 
-// The lines of a data folder's "station.snr", each cut at its tabs.
+// The lines of a data folder's "Station.snr", each cut at its tabs.
 std::vector<std::vector<std::string>> StationRows(const std::string& folder);
 
 // A station as a list has it.

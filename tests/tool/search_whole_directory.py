@@ -62,7 +62,7 @@ def random_search(rng, words, foreign):
 def main():
     tool, folder = sys.argv[1], pathlib.Path(sys.argv[2])
     rng = random.Random(SEED)
-    stations = read_stations(folder / 'station.snr')
+    stations = read_stations(folder / 'Station.snr')
     numbers = [str(number) for number, _ in stations]
     # One text, with the place where each station begins: no word holds a line break.
     texts = [b'\t'.join(folded(field) for field in fields) + b'\n' for _, fields in stations]

@@ -3,6 +3,7 @@
 #include <set>
 
 #include "base/Numbers.h"
+#include "base/OwnFiles.h"
 #include "base/Text.h"
 #include "check/Checks.h"
 
@@ -105,7 +106,7 @@ class TreeCheck {
 void CheckCategories(CheckContext& context) {
   std::set<std::string> files;
   std::map<std::string, std::string> prefixes;
-  for (const std::string_view tree : {"\\cat.snr", "\\catloc.snr"})
+  for (const std::string_view tree : {guide_file::kCategories, guide_file::kLocations})
     TreeCheck(context, tree, files, prefixes).Run();
   for (const std::string& name : context.data.FileSystem().List(context.data.Folder())) {
     const bool list = (name.starts_with("genre-") || name.starts_with("place-")) && name.ends_with(".snr");

@@ -19,7 +19,7 @@ struct CheckContext {
   DataFolder& data;
   Findings& findings;
   ScramblingAlphabets alphabets;
-  std::vector<StationRecord> stations;        // of "\station.snr", in the order of the identifiers
+  std::vector<StationRecord> stations;        // of "\Station.snr", in the order of the identifiers
   std::unordered_set<std::int32_t> ids;       // of these
   std::unordered_set<std::int32_t> personal;  // indexes of the user's own stations
 
@@ -36,7 +36,7 @@ struct CheckContext {
 };
 
 void CheckAlphabets(CheckContext& context);    // "\alphabet.snr"; must come first
-void CheckStationList(CheckContext& context);  // "\station.snr"; fills stations and ids
+void CheckStationList(CheckContext& context);  // "\Station.snr"; fills stations and ids
 void CheckStationTable(CheckContext& context);
 void CheckEventTables(CheckContext& context);
 void CheckCategories(CheckContext& context);  // "\cat.snr", "\catloc.snr" and the lists that they name

@@ -3,6 +3,7 @@
 #include <set>
 
 #include "base/Numbers.h"
+#include "base/OwnFiles.h"
 #include "base/Text.h"
 #include "check/Checks.h"
 #include "output/RankingLists.h"
@@ -28,7 +29,7 @@ void ForEachLine(CheckContext& context, std::string_view name, Need need, Check 
 
 // Lines of index TAB name TAB ...; an index alone stands for a station that was deleted.
 void CheckPersonalStations(CheckContext& context) {
-  constexpr std::string_view kName = "\\personal.snr";
+  constexpr std::string_view kName = user_file::kStations;
   constexpr std::size_t kLeastColumns = 2;
   ForEachLine(context, kName, Need::Optional, [&](std::size_t number, std::string_view line) {
     const std::vector<std::string_view> columns = Split(line, '\t');
@@ -44,7 +45,7 @@ void CheckPersonalStations(CheckContext& context) {
 
 // Lines of station TAB title TAB link, the link in the form of PlayLink, not scrambled.
 void CheckOwnLinks(CheckContext& context) {
-  constexpr std::string_view kName = "\\ownlinks.snr";
+  constexpr std::string_view kName = user_file::kLinks;
   ForEachLine(context, kName, Need::Optional, [&](std::size_t number, std::string_view line) {
     const std::vector<std::string_view> columns = SplitAtMost(line, '\t', 3);
     if (columns.size() < 3) {
@@ -59,7 +60,7 @@ void CheckOwnLinks(CheckContext& context) {
 
 // Lines of name TAB stations. Names are compared without regard to letter case, as the program does.
 void CheckGroups(CheckContext& context) {
-  constexpr std::string_view kName = "\\favs.snr";
+  constexpr std::string_view kName = user_file::kGroups;
   constexpr std::size_t kMaxGroups = 10;
   std::set<std::string> names;
   ForEachLine(context, kName, Need::Optional, [&](std::size_t number, std::string_view line) {
@@ -78,7 +79,7 @@ void CheckGroups(CheckContext& context) {
 
 // One line, the stations with blanks between them, the latest first.
 void CheckRecent(CheckContext& context) {
-  constexpr std::string_view kName = "\\recent.snr";
+  constexpr std::string_view kName = user_file::kRecent;
   constexpr std::size_t kMaxEntries = 20;
   ForEachLine(context, kName, Need::Optional, [&](std::size_t number, std::string_view line) {
     const std::string_view tokens = TrimBlanks(line);
@@ -89,7 +90,7 @@ void CheckRecent(CheckContext& context) {
 }
 
 void CheckSchedule(CheckContext& context) {
-  constexpr std::string_view kName = "\\Sched.snr";
+  constexpr std::string_view kName = user_file::kSchedule;
   constexpr std::size_t kColumns = 7;
   ForEachLine(context, kName, Need::Optional, [&](std::size_t number, std::string_view line) {
     const std::vector<std::string_view> columns = SplitAtMost(line, '\t', kColumns);
@@ -103,8 +104,9 @@ void CheckSchedule(CheckContext& context) {
 }
 
 void CheckShows(CheckContext& context) {
-  ForEachLine(context, "\\Shows.snr", Need::Optional, [&](std::size_t number, std::string_view line) {
-    if (line.find('X') == std::string_view::npos) context.Add("\\Shows.snr", number, "the show has no name");
+  ForEachLine(context, user_file::kShows, Need::Optional, [&](std::size_t number, std::string_view line) {
+    if (line.find('X') == std::string_view::npos)
+      context.Add(user_file::kShows, number, "the show has no name");
   });
 }
 
@@ -119,14 +121,14 @@ bool IsPointsText(std::string_view points) {
 }  // namespace
 
 void CheckAlphabets(CheckContext& context) {
-  const std::optional<std::string> text = context.Read("\\alphabet.snr", Need::Optional);
+  const std::optional<std::string> text = context.Read(guide_file::kAlphabet, Need::Optional);
   if (text && !ParseAlphabets(*text, context.alphabets)) {
-    context.Add("\\alphabet.snr", 0, "is not two lines of the same 76 different characters");
+    context.Add(guide_file::kAlphabet, 0, "is not two lines of the same 76 different characters");
   }
 }
 
 void CheckRankings(CheckContext& context) {
-  constexpr std::string_view kName = "\\fun.snr";
+  constexpr std::string_view kName = guide_file::kRanking;
   std::set<std::string> missing;
   for (const std::string_view name : kRankingNames) missing.insert(FoldCase(name));
   std::set<std::string> seen;
@@ -146,7 +148,7 @@ void CheckRankings(CheckContext& context) {
   if (!seen.empty()) {
     for (const std::string& name : missing) context.Add(kName, 0, "the ranking \"" + name + "\" is missing");
   }
-  constexpr std::string_view kReliable = "\\reliable.snr";
+  constexpr std::string_view kReliable = guide_file::kReliable;
   ForEachLine(context, kReliable, Need::Required, [&](std::size_t number, std::string_view line) {
     if (number > 1) context.Add(kReliable, number, "there is more than one line");
     context.CheckIds(kReliable, number, TrimBlanks(line));
@@ -154,7 +156,7 @@ void CheckRankings(CheckContext& context) {
 }
 
 void CheckSearchKinds(CheckContext& context) {
-  constexpr std::string_view kName = "\\searchst.snr";
+  constexpr std::string_view kName = guide_file::kSearchKinds;
   constexpr std::size_t kMaxKinds = 6;
   std::size_t kinds = 0;
   bool searchesStations = false;

@@ -5,6 +5,7 @@
 
 #include "base/Dates.h"
 #include "base/Numbers.h"
+#include "base/OwnFiles.h"
 #include "base/Text.h"
 #include "base/Utf8.h"
 #include "check/Checks.h"
@@ -17,7 +18,7 @@
 namespace sonaro {
 namespace {
 
-constexpr std::string_view kListName = "\\station.snr";
+constexpr std::string_view kListName = guide_file::kStations;
 constexpr std::size_t kColumns = StationRecord::kFieldCount + 1;
 
 bool HasControlCharacter(std::string_view text) {
@@ -173,12 +174,12 @@ void CheckStationList(CheckContext& context) {
 }
 
 void CheckStationTable(CheckContext& context) {
-  constexpr std::string_view kTable = "\\Statorg.isd";
-  for (const std::string_view name : {kTable, std::string_view("\\Statorg.ism")}) {
+  constexpr std::string_view kTable = guide_file::kTable;
+  for (const std::string_view name : {kTable, guide_file::kTableIndex}) {
     if (!context.data.Exists(name)) context.Add(name, 0, "is missing");
   }
   // Verify would report the missing file a second time, as damage.
-  if (!context.data.Exists(kTable) || !context.data.Exists("\\Statorg.ism")) return;
+  if (!context.data.Exists(kTable) || !context.data.Exists(guide_file::kTableIndex)) return;
   StatList table(context.data);
   if (!table.Verify()) {
     context.Add(kTable, 0, "the station table is damaged");

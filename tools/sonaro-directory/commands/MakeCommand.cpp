@@ -4,6 +4,7 @@
 #include <ostream>
 #include <vector>
 
+#include "base/OwnFiles.h"
 #include "commands/Commands.h"
 #include "commands/LocalFolder.h"
 #include "commands/Progress.h"
@@ -137,9 +138,9 @@ bool Maker::ReadSources() {
 bool Maker::ReadEarlier(EarlierIds& earlier) {
   if (options_.previous.empty()) return true;
   LocalFolder folder(options_.previous);
-  const ReadResult list = folder.Data().Read("\\station.snr");
+  const ReadResult list = folder.Data().Read(guide_file::kStations);
   if (list.status != ReadStatus::Ok) {
-    failure_ = "There is no readable station.snr in \"" + options_.previous + "\".";
+    failure_ = "There is no readable Station.snr in \"" + options_.previous + "\".";
     return false;
   }
   earlier = EarlierIds(list.bytes, AlphabetsOf(folder.Data()));

@@ -12,6 +12,7 @@
 #include <initializer_list>
 #include <set>
 
+#include "base/OwnFiles.h"
 #include "base/Text.h"
 #include "places/Languages.h"
 #include "text/CleanText.h"
@@ -113,7 +114,7 @@ void AppendEntries(const CategoryNode& node, int parent, int& code, const Direct
 }  // namespace
 
 CategoryTree GenreTree(const Directory& directory) {
-  CategoryTree tree{"\\cat.snr", {}};
+  CategoryTree tree{std::string(guide_file::kCategories), {}};
   std::map<char, std::size_t> byCode;
   for (const Genre& genre : GenreList()) {
     byCode.emplace(genre.code, tree.categories.size());
@@ -139,7 +140,7 @@ CategoryTree GenreTree(const Directory& directory) {
 }
 
 CategoryTree PlaceTree(const Directory& directory) {
-  CategoryTree tree{"\\catloc.snr", {}};
+  CategoryTree tree{std::string(guide_file::kLocations), {}};
   for (const CategoryName& place : kPlaceCategories) {
     tree.categories.push_back({place.code,
                                std::string(place.name),

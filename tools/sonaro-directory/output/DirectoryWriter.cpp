@@ -9,6 +9,7 @@
 #include <set>
 #include <vector>
 
+#include "base/OwnFiles.h"
 #include "base/Text.h"
 #include "directory/EvList.h"
 #include "directory/StatList.h"
@@ -111,12 +112,12 @@ std::string WriteDirectory(DataFolder& data, const Directory& directory, const E
   const bool wasUnfinished = data.Exists(kUnfinishedMark);
   saver.Save(kUnfinishedMark, "These files belong to two directories. Run sonaro-directory make again.\r\n");
   if (!saver.Failed().empty()) return CannotWrite(saver.Failed());
-  saver.Save("\\station.snr", StationListText(directory, options));
+  saver.Save(guide_file::kStations, StationListText(directory, options));
   // The mark of an earlier, interrupted run has to stay even so.
   if (!saver.Failed().empty() && !wasUnfinished) data.Remove(kUnfinishedMark);  // nothing was changed
   if (!saver.Failed().empty()) return CannotWrite(saver.Failed());
   StatList stations(data);
-  if (!stations.RebuildStationTable()) return CannotWrite(data.Path("\\Statorg.isd"));
+  if (!stations.RebuildStationTable()) return CannotWrite(data.Path(guide_file::kTable));
   EvList eventTables(data);
   if (!WriteEventTable(eventTables, EventSet::Current, events.current))
     return CannotWrite(data.Path("\\Eventorg.isd"));
@@ -125,9 +126,9 @@ std::string WriteDirectory(DataFolder& data, const Directory& directory, const E
   std::set<std::string> written;
   SaveTree(saver, GenreTree(directory), directory, written);
   SaveTree(saver, PlaceTree(directory), directory, written);
-  saver.Save("\\fun.snr", RankingList(directory));
-  saver.Save("\\reliable.snr", ReliableList(directory));
-  saver.Save("\\searchst.snr", SearchKindsText());
+  saver.Save(guide_file::kRanking, RankingList(directory));
+  saver.Save(guide_file::kReliable, ReliableList(directory));
+  saver.Save(guide_file::kSearchKinds, SearchKindsText());
   if (!saver.Failed().empty()) return CannotWrite(saver.Failed());
   // Last, when no list of categories names the old files any more.
   RemoveStaleLists(data, written);

@@ -20,7 +20,7 @@ struct WriteOptions {
   ScramblingAlphabets alphabets = BuiltInAlphabets();
 };
 
-// The text of "\station.snr": one station a line in the order of the identifiers.
+// The text of "\Station.snr": one station a line in the order of the identifiers.
 std::string StationListText(const Directory& directory, const WriteOptions& options);
 
 // The text of "\searchst.snr": the directory first, then the service's searches of the web.

@@ -8,6 +8,7 @@
 
 #include <algorithm>
 
+#include "base/OwnFiles.h"
 #include "base/Text.h"
 #include "base/crypto/Signing.h"
 #include "directory/StationListFile.h"
@@ -18,7 +19,7 @@
 namespace sonaro {
 namespace {
 
-constexpr std::string_view kStationList = "Station.snr";
+constexpr std::string_view kStationList = guide_file::kStations.substr(1);
 constexpr std::string_view kLineEnd = "\r\n";
 
 // A station table is made by the installation itself.

@@ -17,7 +17,7 @@ namespace sonaro {
 class EarlierIds {
  public:
   EarlierIds() = default;
-  // From the text of a "\station.snr"; its links are read with `alphabets`.
+  // From the text of a "\Station.snr"; its links are read with `alphabets`.
   EarlierIds(std::string_view stationList, const ScramblingAlphabets& alphabets);
 
   bool Empty() const { return ids_.empty(); }
