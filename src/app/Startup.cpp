@@ -1,21 +1,19 @@
 #include "app/Startup.h"
 
-#include "app/WhatToShow.h"
 #include "base/DataFolder.h"
 #include "base/OwnFiles.h"
 #include "base/Text.h"
 #include "directory/CheckDataFiles.h"
 #include "directory/DeferredSwap.h"
 #include "directory/StatList.h"
+#include "net/ServiceRequest.h"
 #include "platform/MessagePost.h"
 #include "playback/Players.h"
 #include "resources/texts/app.h"
 #include "settings/AppState.h"
 #include "settings/CReg.h"
 #include "settings/HelpPages.h"
-#include "settings/InstallId.h"
 #include "settings/Message.h"
-#include "settings/RegionalSettings.h"
 #include "settings/SettingNames.h"
 #include "settings/Strings.h"
 
@@ -135,6 +133,19 @@ bool Startup::OfferQuickStart() {
   if (answer == MessageAnswer::First) use_.help.OpenHelpPage(HelpPageForMessage(message.key));
   use_.reg.Set(setting::kStartQuickStart, false);
   return true;
+}
+
+bool IsStartWithWindows(std::string_view commandLine) {
+  return EqualIgnoringCase(commandLine, "WinStart=Yes");
+}
+
+bool AsksForView(std::string_view commandLine) { return StartsWithIgnoringCase(commandLine, "DoWhat=Bring"); }
+
+std::string_view WhatToShow(std::string_view commandLine) {
+  if (EqualIgnoringCase(commandLine, "DoWhat=BringEvents")) return "YourSonaro";
+  if (EqualIgnoringCase(commandLine, "DoWhat=BringBrowse")) return "Browse";
+  if (EqualIgnoringCase(commandLine, "DoWhat=BringSearch")) return "Search";
+  return "";
 }
 
 }  // namespace sonaro

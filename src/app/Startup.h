@@ -1,12 +1,14 @@
 // The start of the program: one instance only, the user's conventions, files of the last update, the checks
-// of a first run, the main window. Run once by Application, which does what needs windows.
+// of a first run, the main window; and what its command line asks for. Run once by Application, which does
+// what needs windows.
 #pragma once
 
 #include <functional>
 #include <string>
+#include <string_view>
 
 #include "directory/StatList.h"
-#include "tray/StartUpInfoPage.h"
+#include "stations/Commands.h"
 
 namespace sonaro {
 
@@ -90,5 +92,17 @@ class Startup {
   AppState& state_;
   StartupView& view_;
 };
+
+// True for "WinStart=Yes" in any letter case and nothing else: the system started the program with the
+// session.
+bool IsStartWithWindows(std::string_view commandLine);
+
+// True when the command line asks for a view ("DoWhat=Bring..."): no splash window then.
+bool AsksForView(std::string_view commandLine);
+
+// The main window's view for a command line: "Browse" for "DoWhat=BringBrowse", "Search" for
+// "DoWhat=BringSearch", "YourSonaro" for "DoWhat=BringEvents". "" for everything else, "DoWhat=BringUp"
+// included: the main window then opens as it always does.
+std::string_view WhatToShow(std::string_view commandLine);
 
 }  // namespace sonaro

@@ -3,6 +3,7 @@
 // selected, and when none did, the last one. An empty list has no selection. Rows count from 0.
 #pragma once
 
+#include <algorithm>
 #include <cstddef>
 #include <optional>
 #include <unordered_map>
@@ -19,7 +20,17 @@ struct RowsChange {
 
 // Where the selected row stands after the change, which leaves `count` rows. For lists that can hold the same
 // thing twice.
-std::optional<std::size_t> SelectionAfter(const RowsChange& change, std::size_t selected, std::size_t count);
+inline std::optional<std::size_t> SelectionAfter(const RowsChange& change, std::size_t selected,
+                                                 std::size_t count) {
+  if (count == 0) return std::nullopt;
+  if (selected >= change.at + change.removed) {
+    selected += change.inserted;
+    selected -= change.removed;
+  } else if (selected >= change.at) {
+    selected = change.at + change.inserted;  // it went: the row that followed it
+  }
+  return std::min(selected, count - 1);
+}
 
 // The same for a list that was filled anew: rows are known by their keys. `before` and `after` are all keys
 // in the order of the lists; `selected` is a row of `before`. Of rows with the same key that in the same

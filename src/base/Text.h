@@ -69,4 +69,9 @@ std::string_view TruncateUtf8(std::string_view text, std::size_t maxBytes);
 // The text with a blank for each carriage return and line feed: fit for one line of a file of lines.
 std::string OnOneLine(std::string_view text);
 
+// A text that the user typed or imported, made fit to stand in a field of a line that TABs divide: `text`
+// with every control character replaced by a blank, without blanks at its ends, at most `maxBytes` long and
+// never cut inside a character.
+std::string CleanField(std::string_view text, std::size_t maxBytes);
+
 }  // namespace sonaro

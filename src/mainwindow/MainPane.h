@@ -14,13 +14,13 @@ class HelpPages;
 class PlayerLaunch;
 class StationScan;
 class UndoList;
-class WebPageOpener;
+class WebBrowser;
 
 // What the main window uses of the rest of the program; owned by Application.
 struct MainServices {
   PlayerLaunch& player;
   StationScan& scan;
-  WebPageOpener& pages;
+  WebBrowser& pages;
   HelpPages& help;
   MessageBoxView& messages;
   ScheduleCommands& schedule;

@@ -3,7 +3,7 @@
 #include "forms/FileDialog.h"
 #include "resources/texts/app.h"
 #include "resources/texts/mainwindow.h"
-#include "settings/FileWords.h"
+#include "settings/Message.h"
 #include "settings/Strings.h"
 
 namespace sonaro {

@@ -6,7 +6,7 @@
 #include "base/DataFolder.h"
 #include "base/OwnFiles.h"
 #include "base/Text.h"
-#include "base/http/UrlEncoding.h"
+#include "base/http/HttpRequest.h"
 #include "mainwindow/StationListState.h"
 #include "settings/CReg.h"
 #include "settings/SettingNames.h"

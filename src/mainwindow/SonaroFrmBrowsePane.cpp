@@ -5,7 +5,7 @@
 
 #include "forms/ControlIds.h"
 #include "forms/controls/TreeView.h"
-#include "settings/FormatCount.h"
+#include "settings/Strings.h"
 #include "stations/PersonalStations.h"
 
 namespace sonaro {

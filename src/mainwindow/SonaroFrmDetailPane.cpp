@@ -8,7 +8,7 @@
 #include "mainwindow/frmExtraLink.h"
 #include "playback/PlayerLaunch.h"
 #include "playback/StationScan.h"
-#include "settings/WebPageOpener.h"
+#include "settings/HelpPages.h"
 #include "stations/RecentList.h"
 
 namespace sonaro {

@@ -9,7 +9,6 @@
 #include "mainwindow/SortEntries.h"
 #include "playback/StationScan.h"
 #include "resources/texts/mainwindow.h"
-#include "settings/FormatCount.h"
 #include "settings/Strings.h"
 
 namespace sonaro {

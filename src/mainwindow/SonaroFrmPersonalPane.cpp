@@ -5,7 +5,7 @@
 #include "resources/texts/app.h"
 #include "resources/texts/mainwindow.h"
 #include "settings/CReg.h"
-#include "settings/FileWords.h"
+#include "settings/Message.h"
 #include "settings/SettingNames.h"
 #include "settings/Strings.h"
 

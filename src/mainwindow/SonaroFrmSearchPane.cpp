@@ -2,8 +2,8 @@
 
 #include "forms/ControlIds.h"
 #include "resources/texts/mainwindow.h"
+#include "settings/HelpPages.h"
 #include "settings/Strings.h"
-#include "settings/WebPageOpener.h"
 
 namespace sonaro {
 

@@ -8,7 +8,6 @@
 #include "mainwindow/SonaroFrm_panes.h"
 #include "resources/texts/mainwindow.h"
 #include "settings/CReg.h"
-#include "settings/FormatCount.h"
 #include "settings/SettingNames.h"
 #include "settings/Strings.h"
 #include "settings/UndoList.h"

@@ -3,7 +3,6 @@
 #include "forms/DialogRows.h"
 #include "resources/texts/app.h"
 #include "resources/texts/mainwindow.h"
-#include "settings/FileWords.h"
 #include "settings/HelpPages.h"
 #include "settings/Message.h"
 #include "stations/PlayLink.h"

@@ -1,6 +1,6 @@
 #include "net/ProxyTest.h"
 
-#include "net/HttpFaultText.h"
+#include "net/NetTexts.h"
 #include "net/ServiceRequest.h"
 #include "net/ServiceUrlTable.h"
 #include "platform/Clock.h"

@@ -1,10 +1,11 @@
 #include "net/ServiceRequest.h"
 
 #include <algorithm>
+#include <random>
 
 #include "base/Numbers.h"
 #include "base/Text.h"
-#include "base/http/UrlEncoding.h"
+#include "base/http/HttpRequest.h"
 #include "platform/HttpControl.h"
 #include "settings/CReg.h"
 #include "settings/SettingNames.h"
@@ -27,6 +28,14 @@ std::uint16_t PortOf(std::string_view text) {
 std::string_view BehindScheme(std::string_view url) {
   const std::size_t slashes = url.find("//");
   return slashes == std::string_view::npos ? std::string_view() : url.substr(slashes + 2);
+}
+
+std::string RandomDigits(std::size_t count) {
+  std::random_device random;
+  std::uniform_int_distribution<std::size_t> digit(0, 15);
+  std::string digits;
+  while (digits.size() < count) digits += "0123456789abcdef"[digit(random)];
+  return digits;
 }
 
 }  // namespace
@@ -84,6 +93,21 @@ bool IsServiceAddress(std::string_view url) {
   return !rest.empty() && rest.front() != '/' && std::none_of(url.begin(), url.end(), [](char c) {
     return static_cast<unsigned char>(c) <= ' ' || c == '\x7F';
   });
+}
+
+void EnsureInstallId(CReg& reg) {
+  if (reg.Get(setting::kInstallId).empty()) reg.Set(setting::kInstallId, RandomDigits(32));
+}
+
+// The headers come from HttpResponse, which spells this name and ends each line in one way only.
+std::string RedirectTarget(std::string_view headers) {
+  constexpr std::string_view kMark = "\nLocation: ";
+  const std::size_t at = headers.find(kMark);
+  if (at == std::string_view::npos) return {};
+  const std::string_view rest = headers.substr(at + kMark.size());
+  const std::size_t end = rest.find('\n');
+  if (end == std::string_view::npos || end == 0) return {};
+  return std::string(rest.substr(0, end - 1));  // without the carriage return
 }
 
 }  // namespace sonaro

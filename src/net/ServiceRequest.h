@@ -1,5 +1,6 @@
-// How a request to the service is put together: where to connect, what to ask for, by way of which proxy. One
-// set of rules for every window that talks to the service. Reads the proxy settings; sends nothing itself.
+// How a request to the service is put together: where to connect, what to ask for, by way of which proxy and
+// with which identifier; and where a redirect leads. One set of rules for every window that talks to the
+// service. Reads the proxy settings; sends nothing itself.
 #pragma once
 
 #include <cstdint>
@@ -45,5 +46,13 @@ std::string QueryStart(const CReg& reg);
 // Whether the program contacts such an address at all: "http://" and a host, without control characters or
 // blanks.
 bool IsServiceAddress(std::string_view url);
+
+// Makes the identifier of this installation, the setting "InstallId", at the first start: 32 random
+// hexadecimal digits, which say nothing about the user or the machine. A value that is there stays.
+void EnsureInstallId(CReg& reg);
+
+// The address behind "Location: " in the headers of a redirect; "" when there is none. `headers` begin with
+// the status line and end their lines with CR LF.
+std::string RedirectTarget(std::string_view headers);
 
 }  // namespace sonaro

@@ -8,9 +8,8 @@
 #include "base/DataFolder.h"
 #include "base/OwnFiles.h"
 #include "base/Text.h"
-#include "base/http/UrlEncoding.h"
-#include "net/HttpFaultText.h"
-#include "net/ServiceAnswer.h"
+#include "base/http/HttpRequest.h"
+#include "net/NetTexts.h"
 #include "net/ServiceRequest.h"
 #include "net/ServiceUrlTable.h"
 #include "net/UpdateChanges.h"
@@ -147,7 +146,7 @@ void UpdateExchange::HTTPDataReceived(std::string_view body) {
   bodyReceived_ = true;
   if (!file_ || !file_->Append(body)) Fail(IDS_NET_NOT_SAVED);
   // Without a length in its head an answer that was cut off looks complete; the sentinel tells.
-  if (!EndsWithSentinel(body)) Fail(IDS_NET_CUT_SHORT);
+  if (!update::EndsWithSentinel(body)) Fail(IDS_NET_CUT_SHORT);
 }
 
 void UpdateExchange::HTTPDataTransferred(std::uint64_t bytes, std::uint64_t expected) {

@@ -51,4 +51,9 @@ bool MayBringFile(std::string_view name) {
                      [name](std::string_view ending) { return EndsWithIgnoringCase(name, ending); });
 }
 
+bool EndsWithSentinel(std::string_view body) {
+  return body.size() >= kSentinel.size() &&
+         EqualIgnoringCase(body.substr(body.size() - kSentinel.size()), kSentinel);
+}
+
 }  // namespace sonaro::update

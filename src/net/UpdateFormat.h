@@ -40,4 +40,7 @@ inline constexpr std::size_t kMaxBytes = std::size_t{128} * 1024 * 1024;
 // one that the user made or that the program keeps for itself.
 bool MayBringFile(std::string_view name);
 
+// True when the last 100 characters of `body` are the mark of a complete update, letter case ignored.
+bool EndsWithSentinel(std::string_view body);
+
 }  // namespace sonaro::update

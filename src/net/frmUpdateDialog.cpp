@@ -2,8 +2,8 @@
 
 #include "forms/DialogRows.h"
 #include "forms/controls/ProgressScale.h"
+#include "net/NetTexts.h"
 #include "net/UpdateInstall.h"
-#include "net/UpdateText.h"
 #include "net/frmInetUpdate.h"
 #include "resources/texts/net.h"
 

@@ -7,7 +7,7 @@
 #include <string>
 #include <string_view>
 
-#include "base/http/HttpFault.h"
+#include "base/http/HttpResponse.h"
 
 namespace sonaro {
 

@@ -4,7 +4,6 @@
 #include "playback/Players.h"
 #include "resources/texts/playback.h"
 #include "settings/AppState.h"
-#include "settings/FormatCount.h"
 #include "settings/Strings.h"
 
 namespace sonaro {

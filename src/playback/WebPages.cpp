@@ -2,11 +2,11 @@
 
 #include "base/DataFolder.h"
 #include "base/Text.h"
+#include "base/http/HttpRequest.h"
 #include "platform/Shell.h"
 #include "resources/texts/playback.h"
 #include "settings/Strings.h"
 #include "stations/StationSource.h"
-#include "stations/WebAddress.h"
 
 namespace sonaro {
 

@@ -4,7 +4,7 @@
 #include <functional>
 #include <string>
 
-#include "settings/WebPageOpener.h"
+#include "settings/HelpPages.h"
 
 namespace sonaro {
 
@@ -20,7 +20,7 @@ enum class WebPageOutcome {
   NotStarted  // lweb is missing or did not start
 };
 
-class WebPages : public WebPageOpener {
+class WebPages : public WebBrowser {
  public:
   WebPages(const StationSource& stations, DataFolder& data, Shell& shell, const Strings& strings)
       : stations_(stations), data_(data), shell_(shell), strings_(strings) {}

@@ -6,7 +6,6 @@
 #include "base/Text.h"
 #include "base/Utf8.h"
 #include "playlists/PlaylistFields.h"
-#include "stations/FieldText.h"
 
 namespace sonaro {
 namespace {

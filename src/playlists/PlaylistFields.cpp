@@ -3,7 +3,7 @@
 #include <array>
 #include <utility>
 
-#include "stations/FieldText.h"
+#include "base/Text.h"
 #include "stations/OwnLink.h"
 #include "stations/PlayLink.h"
 

@@ -10,7 +10,6 @@
 #include "base/Files.h"
 #include "base/Text.h"
 #include "stations/FavoriteGroups.h"
-#include "stations/FieldText.h"
 #include "stations/StationKey.h"
 #include "stations/StationSource.h"
 

@@ -7,7 +7,6 @@
 #include "base/Text.h"
 #include "resources/texts/app.h"
 #include "resources/texts/schedule.h"
-#include "settings/FileWords.h"
 #include "settings/Message.h"
 #include "settings/Strings.h"
 

@@ -5,7 +5,7 @@
 
 #include "base/Numbers.h"
 #include "base/Text.h"
-#include "base/http/UrlEncoding.h"
+#include "base/http/HttpRequest.h"
 #include "platform/Clock.h"
 #include "platform/SystemInfo.h"
 

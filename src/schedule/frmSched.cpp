@@ -12,7 +12,6 @@
 #include "schedule/ScheduleStore.h"
 #include "schedule/frmAboutEventTime.h"
 #include "schedule/frmSchedChange.h"
-#include "settings/FileWords.h"
 #include "settings/HelpPages.h"
 #include "settings/Message.h"
 #include "settings/Strings.h"

@@ -7,7 +7,6 @@
 #include "schedule/ScheduleStore.h"
 #include "schedule/frmDateFinder.h"
 #include "schedule/frmSelectStation.h"
-#include "settings/FileWords.h"
 #include "settings/HelpPages.h"
 #include "settings/Message.h"
 #include "settings/Strings.h"

@@ -4,7 +4,6 @@
 #include "settings/CReg.h"
 #include "settings/ServiceHosts.h"
 #include "settings/SettingNames.h"
-#include "settings/WebPageOpener.h"
 
 namespace sonaro {
 

@@ -2,8 +2,10 @@
 
 #include "base/DataFolder.h"
 #include "base/Text.h"
+#include "platform/SystemInfo.h"
 
 namespace sonaro {
+
 namespace {
 
 constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";
@@ -271,6 +273,11 @@ void IniSettings::KeepOld() {
   const std::string text = TextOf(keys_);
   if (ReadWholeFile(files_, path_ + ".old").bytes != text)
     static_cast<void>(SaveWholeFile(files_, path_ + ".old", text));
+}
+
+std::string ReadIniValue(SystemInfo& system, const std::string& section, const std::string& key,
+                         const std::string& defaultText, const std::string& fileName) {
+  return system.ProfileString(section, key, defaultText, fileName);
 }
 
 }  // namespace sonaro

@@ -21,6 +21,8 @@
 
 namespace sonaro {
 
+class SystemInfo;
+
 class IniSettings {
  public:
   enum class Condition {
@@ -89,5 +91,11 @@ class IniSettings {
   bool changed_ = false;
   int holds_ = 0;
 };
+
+// Of the INI file of another program, read by the system: the entry `key` of `section`, `defaultText` when it
+// is missing. Entries longer than 254 bytes are cut. A fileName without a folder means the system's own
+// folder for such files.
+std::string ReadIniValue(SystemInfo& system, const std::string& section, const std::string& key,
+                         const std::string& defaultText, const std::string& fileName);
 
 }  // namespace sonaro

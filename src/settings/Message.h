@@ -2,9 +2,15 @@
 // from the string table (resources/texts) unless they are put together at run time.
 #pragma once
 
+#include <optional>
 #include <string>
+#include <string_view>
+#include <vector>
 
 namespace sonaro {
+
+class Strings;
+struct FileNote;
 
 // What the user answered. Closing the box, Esc, Cancel and the end of the program are 0: nothing is decided.
 enum class MessageAnswer : int { Closed = 0, First = 1, Second = 2 };
@@ -31,5 +37,15 @@ class MessageBoxView {
   virtual ~MessageBoxView() = default;
   virtual MessageResult Ask(const Message& message) = 0;
 };
+
+// What the user is told of his own files is worded in one place: when a change could not be saved, and what
+// the start found.
+
+// The sentence for a save that failed. `what` begins it: "Your schedule", or the path of an exported file.
+Message NotSavedMessage(std::string_view what, const Strings& strings);
+// Returns `saved`, having said so when it is false.
+bool SavedOrSaid(bool saved, std::string_view what, MessageBoxView& box, const Strings& strings);
+// All notes in one message; nothing when there are none.
+std::optional<Message> NotesMessage(const std::vector<FileNote>& notes, const Strings& strings);
 
 }  // namespace sonaro

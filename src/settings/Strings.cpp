@@ -18,4 +18,13 @@ std::string FormatText(std::string_view text, std::initializer_list<std::string_
   return filled;
 }
 
+std::string FormatCount(std::size_t figure, DecimalMode mode) {
+  std::string text = std::to_string(figure);
+  for (std::size_t place = text.size(); place > 3;) {
+    place -= 3;
+    text.insert(place, 1, mode == DecimalMode::Comma ? '.' : ',');
+  }
+  return text;
+}
+
 }  // namespace sonaro

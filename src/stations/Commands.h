@@ -76,6 +76,14 @@ class TrayMessages {
   virtual void TellTray(const std::string& text) = 0;
 };
 
+// The pages of the dialog frmStartUpInfo.
+enum class StartUpInfoPage {
+  Player,        // at the start: no player is registered
+  Proxy,         // at the start: a proxy was found
+  NoPlayer,      // a station has no player
+  ChoosePlayer,  // asked for by the user
+};
+
 enum class ProgramWindow { Scan, Schedule, Update, Options };
 
 class ProgramCommands : public TrayMessages {

@@ -2,7 +2,6 @@
 
 #include "base/Numbers.h"
 #include "base/Text.h"
-#include "stations/FieldText.h"
 #include "stations/OwnLink.h"
 #include "stations/PersonalStations.h"
 

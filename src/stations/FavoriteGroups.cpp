@@ -9,7 +9,6 @@
 #include <utility>
 
 #include "base/Text.h"
-#include "stations/FieldText.h"
 
 namespace sonaro {
 namespace {

@@ -1,7 +1,6 @@
 #include "stations/OwnLink.h"
 
 #include "base/Text.h"
-#include "stations/FieldText.h"
 #include "stations/PlayLink.h"
 
 namespace sonaro {

@@ -5,7 +5,6 @@
 
 #include "base/Numbers.h"
 #include "base/Text.h"
-#include "stations/FieldText.h"
 
 namespace sonaro {
 

@@ -9,8 +9,8 @@
 
 #include "forms/ControlIds.h"
 #include "forms/controls/Controls.h"
+#include "stations/Commands.h"
 #include "stations/StationSource.h"
-#include "tray/StartUpInfoPage.h"
 
 namespace sonaro {
 

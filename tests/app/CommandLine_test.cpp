@@ -1,7 +1,7 @@
 // What the program reads from its command line, and the addresses that it is built with.
 #include <gtest/gtest.h>
 
-#include "app/WhatToShow.h"
+#include "app/Startup.h"
 #include "settings/HelpPages.h"
 #include "settings/ServiceHosts.h"
 

@@ -9,17 +9,16 @@
 #include "fakes/FakeMessageBox.h"
 #include "fakes/FakeRegistry.h"
 #include "fakes/FakeStrings.h"
-#include "net/LiveEventUpdate.h"
+#include "net/ServiceRequest.h"
+#include "net/WhatIsNew.h"
 #include "resources/texts/app.h"
 #include "settings/CReg.h"
 #include "settings/HelpPages.h"
-#include "settings/InstallId.h"
-#include "settings/WebPageOpener.h"
 
 namespace sonaro {
 namespace {
 
-class FakeBrowser : public WebPageOpener {
+class FakeBrowser : public WebBrowser {
  public:
   std::vector<std::string> opened;
   void OpenWebPage(const std::string& textOrKey) override { opened.push_back(textOrKey); }

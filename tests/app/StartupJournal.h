@@ -12,7 +12,7 @@
 #include "fakes/FakeMessagePost.h"
 #include "fakes/FakeRegistry.h"
 #include "fakes/FakeSystemInfo.h"
-#include "settings/WebPageOpener.h"
+#include "settings/HelpPages.h"
 
 namespace sonaro {
 
@@ -52,7 +52,7 @@ class JournalMessages : public FakeMessagePost {
   Journal& journal_;
 };
 
-class JournalView : public StartupView, public FakeMessageBox, public WebPageOpener {
+class JournalView : public StartupView, public FakeMessageBox, public WebBrowser {
  public:
   explicit JournalView(Journal& journal) : journal_(journal) {}
   std::string exitAfter;    // the happening during which the user chooses Exit

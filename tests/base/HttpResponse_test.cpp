@@ -4,7 +4,7 @@
 
 #include <vector>
 
-#include "base/http/HttpRequestText.h"
+#include "base/http/HttpRequest.h"
 
 namespace sonaro {
 namespace {

@@ -1,4 +1,4 @@
-#include "base/http/UrlEncoding.h"
+#include "base/http/HttpRequest.h"
 
 #include <gtest/gtest.h>
 

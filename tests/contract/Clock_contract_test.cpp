@@ -6,7 +6,7 @@
 
 #include "fakes/FakeClock.h"
 #ifdef _WIN32
-#include "platform/win/ClockWin.h"
+#include "platform/win/PlatformWin.h"
 #endif
 
 namespace sonaro {

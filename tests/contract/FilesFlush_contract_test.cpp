@@ -10,7 +10,7 @@
 #include <cstring>
 
 #include "platform/win/FilesWin.h"
-#include "platform/win/RegistryWin.h"
+#include "platform/win/PlatformWin.h"
 #else
 #include <sys/stat.h>
 #include <sys/syscall.h>

@@ -4,7 +4,7 @@
 #ifdef _WIN32
 #include <windows.h>
 
-#include "platform/win/MessagePostWin.h"
+#include "platform/win/PlatformWin.h"
 #endif
 
 namespace sonaro {

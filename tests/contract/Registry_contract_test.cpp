@@ -6,7 +6,7 @@
 #ifdef _WIN32
 #include <windows.h>
 
-#include "platform/win/RegistryWin.h"
+#include "platform/win/PlatformWin.h"
 #endif
 
 namespace sonaro {

@@ -10,7 +10,7 @@
 #ifdef _WIN32
 #include <windows.h>
 
-#include "platform/win/ShellWin.h"
+#include "platform/win/PlatformWin.h"
 #endif
 
 namespace sonaro {

@@ -2,7 +2,7 @@
 
 #include "fakes/FakeSound.h"
 #ifdef _WIN32
-#include "platform/win/SoundWin.h"
+#include "platform/win/PlatformWin.h"
 #endif
 
 namespace sonaro {

@@ -5,7 +5,7 @@
 #include "contract/ScratchFolder.h"
 #include "fakes/FakeSystemInfo.h"
 #ifdef _WIN32
-#include "platform/win/SystemInfoWin.h"
+#include "platform/win/PlatformWin.h"
 #endif
 
 namespace sonaro {

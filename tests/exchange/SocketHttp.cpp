@@ -8,7 +8,7 @@
 #include <functional>
 #include <utility>
 
-#include "base/http/HttpRequestText.h"
+#include "base/http/HttpRequest.h"
 #include "base/http/HttpResponse.h"
 #include "exchange/Servers.h"
 

@@ -3,9 +3,9 @@
 #include "base/Dates.h"
 #include "fuzz/Targets.h"
 #include "model/SkipLog.h"
-#include "readers/EventReader.h"
 #include "readers/ReadSource.h"
-#include "stations/CleanStation.h"
+#include "readers/Readers.h"
+#include "stations/BuildDirectory.h"
 
 namespace sonaro {
 namespace {

@@ -2,11 +2,11 @@
 
 #include <gtest/gtest.h>
 
-#include "base/http/HttpRequestText.h"
+#include "base/http/HttpRequest.h"
 #include "net/NetWorld.h"
 #include "net/ProxyDetection.h"
-#include "net/ServiceAnswer.h"
 #include "net/ServiceUrlTable.h"
+#include "net/UpdateFormat.h"
 
 namespace sonaro {
 namespace {

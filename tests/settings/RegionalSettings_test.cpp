@@ -1,10 +1,9 @@
-#include "settings/RegionalSettings.h"
+#include "settings/AppState.h"
 
 #include <gtest/gtest.h>
 
 #include "fakes/FakeRegistry.h"
 #include "fakes/FakeSystemInfo.h"
-#include "settings/AppState.h"
 #include "settings/CReg.h"
 
 namespace sonaro {

@@ -1,4 +1,4 @@
-#include "platform/win/ClockWin.h"
+#include "platform/win/PlatformWin.h"
 
 #include <windows.h>
 

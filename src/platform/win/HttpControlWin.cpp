@@ -5,7 +5,7 @@
 #include <thread>
 #include <utility>
 
-#include "base/http/HttpRequestText.h"
+#include "base/http/HttpRequest.h"
 #include "base/http/HttpResponse.h"
 #include "platform/win/SocketHandles.h"
 

@@ -1,4 +1,4 @@
-#include "platform/win/MessagePostWin.h"
+#include "platform/win/PlatformWin.h"
 
 #include <utility>
 

@@ -1,4 +1,4 @@
-#include "platform/win/RegistryWin.h"
+#include "platform/win/PlatformWin.h"
 
 #include <windows.h>
 

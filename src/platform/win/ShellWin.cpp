@@ -1,4 +1,4 @@
-#include "platform/win/ShellWin.h"
+#include "platform/win/PlatformWin.h"
 
 #include <windows.h>
 // After windows.h, which it needs and WIN32_LEAN_AND_MEAN keeps out.

@@ -1,4 +1,4 @@
-#include "platform/win/SystemInfoWin.h"
+#include "platform/win/PlatformWin.h"
 
 #include <windows.h>
 

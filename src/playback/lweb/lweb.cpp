@@ -7,7 +7,7 @@
 #include <string>
 
 #include "base/Text.h"
-#include "stations/WebAddress.h"
+#include "base/http/HttpRequest.h"
 
 int WINAPI WinMain(HINSTANCE, HINSTANCE, LPSTR commandLine, int) {
   SetDefaultDllDirectories(LOAD_LIBRARY_SEARCH_SYSTEM32);  // nothing out of the program's folder

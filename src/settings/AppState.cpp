@@ -1,10 +1,9 @@
-#include "settings/RegionalSettings.h"
+#include "settings/AppState.h"
 
 #include <string>
 
 #include "base/Text.h"
 #include "platform/SystemInfo.h"
-#include "settings/AppState.h"
 #include "settings/CReg.h"
 #include "settings/SettingNames.h"
 

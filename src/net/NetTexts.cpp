@@ -1,4 +1,4 @@
-#include "net/UpdateText.h"
+#include "net/NetTexts.h"
 
 #include "net/UpdateExchange.h"
 #include "resources/texts/net.h"
@@ -29,6 +29,35 @@ int SentenceOf(Outcome kind) {
   return 0;
 }
 
+int TextOf(HttpFault fault) {
+  switch (fault) {
+    case HttpFault::None:
+    case HttpFault::BadRequest:
+      return IDS_NET_FAULT_BAD_REQUEST;
+    case HttpFault::NoSuchHost:
+      return IDS_NET_FAULT_NO_HOST;
+    case HttpFault::Refused:
+      return IDS_NET_FAULT_REFUSED;
+    case HttpFault::Lost:
+      return IDS_NET_FAULT_LOST;
+    case HttpFault::Silent:
+      return IDS_NET_FAULT_SILENT;
+    case HttpFault::NotHttp:
+      return IDS_NET_FAULT_NOT_HTTP;
+    case HttpFault::HeadTooLarge:
+    case HttpFault::BodyTooLarge:
+      return IDS_NET_FAULT_TOO_LARGE;
+    case HttpFault::BadLength:
+    case HttpFault::BadChunk:
+      return IDS_NET_FAULT_BROKEN;
+    case HttpFault::CutShort:
+      return IDS_NET_FAULT_CUT_SHORT;
+    case HttpFault::TooSlow:
+      return IDS_NET_FAULT_TOO_SLOW;
+  }
+  return IDS_NET_FAULT_BROKEN;
+}
+
 }  // namespace
 
 std::string OutcomeText(const UpdateOutcome& outcome, const std::string& report, const Strings& strings) {
@@ -50,5 +79,7 @@ std::string BytesText(std::uint64_t bytes, std::uint64_t expected, const Strings
   const int text = expected == 0 ? IDS_NET_BYTES : IDS_NET_BYTES_OF;
   return FormatText(strings.Load(text), {Kilobytes(bytes), Kilobytes(expected)});
 }
+
+std::string HttpFaultText(HttpFault fault, const Strings& strings) { return strings.Load(TextOf(fault)); }
 
 }  // namespace sonaro

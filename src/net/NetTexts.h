@@ -1,8 +1,10 @@
-// What the update dialog says when an update is over, and how far one is.
+// What windows say of requests and updates: why a transfer failed, how far an update is, and how it ended.
 #pragma once
 
 #include <cstdint>
 #include <string>
+
+#include "base/http/HttpResponse.h"
 
 namespace sonaro {
 
@@ -15,5 +17,8 @@ bool MayRetry(const UpdateOutcome& outcome);
 
 // The kilobytes so far, and of how many if that is known (`expected` is not 0).
 std::string BytesText(std::uint64_t bytes, std::uint64_t expected, const Strings& strings);
+
+// The sentence that tells the user why a transfer failed.
+std::string HttpFaultText(HttpFault fault, const Strings& strings);
 
 }  // namespace sonaro

@@ -1,4 +1,4 @@
-#include "settings/FileWords.h"
+#include "settings/Message.h"
 
 #include <string>
 
