@@ -101,6 +101,18 @@ TEST_F(PublishTest, OnlyTheOwnersSignatureCounts) {
   EXPECT_EQ(fs::status(secret).permissions() & (fs::perms::group_all | fs::perms::others_all),
             fs::perms::none);
 
+  // A public key that could not be written is made again from the secret one, and from nothing else.
+  const std::string lost = place_.Path() + "/ours/publish.key";
+  fs::remove(lost);
+  fs::create_directories(lost + "/in the way");
+  EXPECT_EQ(RunDirectoryTool({"keygen", place_.Path() + "/ours"}).status, 1);
+  fs::remove_all(lost);
+  EXPECT_EQ(RunDirectoryTool({"keygen", place_.Path() + "/ours"}).status, 0);
+  EXPECT_EQ(FileBytes(lost), ours);
+  fs::create_directories(place_.Path() + "/half");
+  WriteBytes(place_.Path() + "/half/secret.key", FileBytes(secret).substr(0, 100));
+  EXPECT_EQ(RunDirectoryTool({"keygen", place_.Path() + "/half"}).status, 1);
+
   ASSERT_EQ(Publish().status, 0);
   EXPECT_EQ(Receive(PublishedUpdate(), ours).status, UpdateFileStatus::NotSigned);
   fs::remove_all(Site());

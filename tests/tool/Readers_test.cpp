@@ -1,8 +1,8 @@
 #include <gtest/gtest.h>
 
-#include "readers/Gzip.h"
 #include "readers/ReadSource.h"
-#include "text/FileText.h"
+#include "readers/Readers.h"
+#include "text/CleanText.h"
 #include "tool/ToolTest.h"
 
 namespace sonaro {

@@ -5,12 +5,10 @@
 
 #include "base/Text.h"
 #include "genres/Genres.h"
-#include "places/Languages.h"
 #include "places/Places.h"
 #include "stations/Addresses.h"
 #include "stations/BuildDirectory.h"
-#include "stations/IdNumbers.h"
-#include "stations/JoinStations.h"
+#include "stations/StationIds.h"
 #include "stations/StationTexts.h"
 #include "text/CleanText.h"
 #include "tool/ToolTest.h"
@@ -294,8 +292,9 @@ TEST(Genres, HaveTheirOwnCodesAndFiles) {
     EXPECT_TRUE(codes.insert(genre.code).second) << genre.name;
     EXPECT_TRUE(files.insert(genre.file).second) << genre.name;
   }
-  for (const std::span<const GenreLine> lines : {MusicTags(), WorldTags(), OtherTags()}) {
-    for (const GenreLine& line : lines) EXPECT_EQ(codes.count(line.genre), 1u) << line.subGenre;
+  for (const GenreLine& line : Tags().lines) {
+    EXPECT_EQ(codes.count(line.genre), 1u) << line.subGenre;
+    EXPECT_FALSE(line.tags.empty() || line.tags.front().empty()) << line.genre << line.subGenre;
   }
 }
 
@@ -382,8 +381,8 @@ TEST(StationTexts, WriteLinksForTheirPlayer) {
   EXPECT_EQ(link(LinkPlayer::Asx, StationField::LinkOne), "mhttp://a.example/1");
   EXPECT_EQ(link(LinkPlayer::Asx, StationField::AlternateLink), "mrtsp://a.example/4");
   EXPECT_EQ(link(LinkPlayer::Real, StationField::LinkOne), "http://a.example/1");
-  // Without a prefix this one would be taken for "m" and an address.
-  EXPECT_EQ(link(LinkPlayer::Real, StationField::LinkTwo), "mmms://a.example/2");
+  // With a small letter this one would be taken for "m" and an address.
+  EXPECT_EQ(link(LinkPlayer::Real, StationField::LinkTwo), "Mms://a.example/2");
   EXPECT_NE(RecordOf(stations[0], LinkPlayer::Asx, BuiltInAlphabets())[StationField::LinkOne],
             "mhttp://a.example/1");
 }

@@ -8,7 +8,7 @@
 #include <vector>
 
 #include "contract/ScratchFolder.h"
-#include "model/SourceStation.h"
+#include "model/Sources.h"
 
 namespace sonaro {
 

@@ -7,6 +7,7 @@
 #include "text/CleanText.h"
 
 namespace sonaro {
+
 namespace {
 
 std::string_view WithoutBackslash(std::string_view name) {
@@ -72,6 +73,23 @@ void CheckFolder(DataFolder& data, Findings& findings) {
   CheckSearchKinds(context);
   CheckUserFiles(context);
   CheckOutlines(context);
+}
+
+void Findings::Add(std::string_view file, std::size_t line, std::string_view problem) {
+  ++total_;
+  // A file in the wrong format has a finding on every line; the first ones tell as much as all.
+  if (++perFile_[std::string(file)] > kMaxPerFile) return;
+  std::string text(file);
+  if (line > 0) text += ":" + std::to_string(line);
+  lines_.push_back(text.append(": ").append(problem));
+}
+
+std::vector<std::string> Findings::Lines() const {
+  std::vector<std::string> lines = lines_;
+  for (const auto& [file, count] : perFile_) {
+    if (count > kMaxPerFile) lines.push_back(file + ": and " + std::to_string(count - kMaxPerFile) + " more");
+  }
+  return lines;
 }
 
 }  // namespace sonaro

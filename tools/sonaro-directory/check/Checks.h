@@ -9,7 +9,7 @@
 #include <vector>
 
 #include "base/DataFolder.h"
-#include "check/Findings.h"
+#include "check/CheckFolder.h"
 #include "directory/Scrambling.h"
 #include "directory/StationRecord.h"
 

@@ -6,7 +6,7 @@
 #include "base/OwnFiles.h"
 #include "base/Text.h"
 #include "check/Checks.h"
-#include "output/RankingLists.h"
+#include "output/BrowseLists.h"
 #include "schedule/ScheduleItem.h"
 #include "stations/PlayLink.h"
 

@@ -8,12 +8,12 @@
 #include "base/OwnFiles.h"
 #include "base/Text.h"
 #include "base/Utf8.h"
+#include "base/http/HttpRequest.h"
 #include "check/Checks.h"
 #include "directory/EvList.h"
 #include "directory/StatList.h"
 #include "directory/StationListFile.h"
 #include "stations/PlayLink.h"
-#include "stations/WebAddress.h"
 
 namespace sonaro {
 namespace {

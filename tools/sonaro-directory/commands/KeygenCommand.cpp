@@ -3,12 +3,16 @@
 #include <ostream>
 #include <random>
 
+#include "base/Text.h"
 #include "base/crypto/Signing.h"
 #include "commands/Commands.h"
 #include "commands/LocalFolder.h"
 
 namespace sonaro {
 namespace {
+
+constexpr std::string_view kSecretKey = "\\secret.key";
+constexpr std::string_view kPublicKey = "\\publish.key";
 
 // The seed of the pair of keys: eight words of 32 bits, the highest digit of each first. Only its length and
 // its randomness matter; nobody sees it again, since the secret key is what is kept.
@@ -41,6 +45,32 @@ bool WriteSecret(const std::filesystem::path& path, const std::string& secret) {
   return file.good();
 }
 
+// The public key of the secret key in `text`, its second half; nothing when the two do not belong together,
+// as after a write that was cut short.
+std::optional<std::string> PublicKeyOf(std::string_view text) {
+  constexpr std::size_t kDigits = 64;
+  const std::string_view secret = TrimBlanks(text.substr(0, text.find_first_of("\r\n")));
+  if (secret.size() != 2 * kDigits) return std::nullopt;
+  const std::string_view publicKey = secret.substr(kDigits);
+  constexpr std::string_view kAnything = "sonaro";
+  if (!IsSignedBy(publicKey, kAnything, SignatureOf(secret, kAnything))) return std::nullopt;
+  return std::string(publicKey);
+}
+
+// A new secret key in `path`. False, with no file left there, when it could not be made or written.
+bool MakeSecret(DataFolder& data, const std::string& path) {
+  std::optional<SigningKey> key;
+  try {
+    key = SigningKeyFromSeed(RandomSeed());
+  } catch (const std::exception&) {  // the system gives no random numbers
+  }
+  if (!key || !data.FileSystem().MakeFolder(data.Folder())) return false;
+  if (WriteSecret(path, key->secret)) return true;
+  // Half a key would be taken for one that must not be overwritten.
+  data.Remove(kSecretKey);
+  return false;
+}
+
 }  // namespace
 
 int RunKeygen(Arguments arguments, Console& console) {
@@ -49,21 +79,24 @@ int RunKeygen(Arguments arguments, Console& console) {
     return kWrongUse;
   }
   LocalFolder folder(arguments[0]);
-  const std::string path = folder.Data().Path("\\secret.key");
+  DataFolder& data = folder.Data();
+  const std::string path = data.Path(kSecretKey);
+  const bool isThere = data.Exists(kSecretKey);
   // Never overwrite a secret key: installations with the old public key would refuse every later update.
-  if (folder.Data().Exists("\\secret.key")) {
+  if (isThere && data.Exists(kPublicKey)) {
     console.err << "There is a key already: \"" << path << "\".\n";
     return kFailed;
   }
-  std::optional<SigningKey> key;
-  try {
-    key = SigningKeyFromSeed(RandomSeed());
-  } catch (const std::exception&) {  // the system gives no chance
+  // The secret first: the other way round a public key could be handed out that nobody can sign for. A secret
+  // key alone is what a failed save of the public one has left, or the user took that away. It is made again,
+  // from the secret one.
+  const bool made = isThere || MakeSecret(data, path);
+  const std::optional<std::string> publicKey = made ? PublicKeyOf(data.Read(kSecretKey).bytes) : std::nullopt;
+  if (isThere && !publicKey) {
+    console.err << "\"" << path << "\" holds no key.\n";
+    return kFailed;
   }
-  // The secret first. Should the public key fail to be written the pair is useless but nothing is out in the
-  // world; the other way round a public key could be handed out that nobody can sign for.
-  if (!key || !folder.Data().FileSystem().MakeFolder(arguments[0]) || !WriteSecret(path, key->secret) ||
-      !folder.Data().Save("\\publish.key", key->publicKey + "\n")) {
+  if (!publicKey || !data.Save(kPublicKey, *publicKey + "\n")) {
     console.err << "The keys could not be written to \"" << arguments[0] << "\".\n";
     return kFailed;
   }

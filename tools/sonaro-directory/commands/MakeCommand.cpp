@@ -9,11 +9,10 @@
 #include "commands/LocalFolder.h"
 #include "commands/Progress.h"
 #include "output/DirectoryWriter.h"
-#include "output/EventRecords.h"
-#include "readers/EventReader.h"
 #include "readers/ReadSource.h"
+#include "readers/Readers.h"
 #include "stations/BuildDirectory.h"
-#include "text/FileText.h"
+#include "text/CleanText.h"
 
 namespace sonaro {
 namespace {

@@ -1,9 +1,9 @@
-// The tree of genres and the tags that lead to each of its entries. The tags are those that lists use most,
-// in the languages in which they are used; this table is where a new one goes.
+// The tree of genres, and the tags that lead to each of its entries.
 #pragma once
 
 #include <span>
 #include <string_view>
+#include <vector>
 
 namespace sonaro {
 
@@ -13,10 +13,18 @@ struct Genre {
   std::string_view file;  // name of its list file, without ending
 };
 
+// A line of tags.tsv, where the tags are.
 struct GenreLine {
   char genre;                 // Genre::code
   std::string_view subGenre;  // "" for the genre as a whole
-  std::string_view tags;      // joined by "|", compared by MatchKey; a tag may stand in several lines
+  std::vector<std::string_view> tags;
+};
+
+struct TagTable {
+  std::vector<GenreLine> lines;
+  std::vector<std::string_view> fillers;  // say nothing about what is played: "radio", "fm", networks, towns
+  std::vector<std::string_view> onlyAsWholeTag;  // genres as a tag, something else beside other words
+  std::vector<std::string_view> notInNames;      // promise nothing in a station's name
 };
 
 inline constexpr char kOtherGenre = 'z';
@@ -24,12 +32,10 @@ inline constexpr char kOtherGenre = 'z';
 // In the order in which the browse tree shows them.
 std::span<const Genre> GenreList();
 
-// The lines of the table: styles of music, music of parts of the world, everything else.
-std::span<const GenreLine> MusicTags();
-std::span<const GenreLine> WorldTags();
-std::span<const GenreLine> OtherTags();
+// Read out of tags.tsv once.
+const TagTable& Tags();
 
-// Tags that say nothing about what is played: "radio", "fm", "online", networks, towns.
-std::span<const std::string_view> EmptyTags();
+// The file as it is, embedded by CMake.
+std::string_view TagTableText();
 
 }  // namespace sonaro

@@ -13,7 +13,6 @@
 
 #include "base/Text.h"
 #include "places/Countries.h"
-#include "places/Languages.h"
 #include "places/Places.h"
 #include "text/CleanText.h"
 
@@ -23,168 +22,23 @@ namespace {
 constexpr std::size_t kMaxTermLength = 4;  // words
 constexpr std::size_t kMaxTagWords = 6;    // a longer tag is a sentence, and its words mean something else
 
-// Words that are genres as a tag of their own but mean something else beside other words.
-constexpr std::string_view kOnlyAsWholeTag[] = {"adult",
-                                                "anglo",
-                                                "art",
-                                                "arts",
-                                                "bass",
-                                                "beach",
-                                                "best",
-                                                "black",
-                                                "calm",
-                                                "charts",
-                                                "church",
-                                                "congo",
-                                                "dark",
-                                                "deep",
-                                                "drama",
-                                                "easy",
-                                                "epic",
-                                                "exitos",
-                                                "fe",
-                                                "features",
-                                                "film",
-                                                "fire",
-                                                "foot",
-                                                "fox",
-                                                "fresh",
-                                                "fusion",
-                                                "game",
-                                                "garage",
-                                                "general",
-                                                "global",
-                                                "glam",
-                                                "gold",
-                                                "golden",
-                                                "groove",
-                                                "health",
-                                                "heavy",
-                                                "history",
-                                                "hit",
-                                                "holiday",
-                                                "industrial",
-                                                "info",
-                                                "island",
-                                                "light",
-                                                "lite",
-                                                "local",
-                                                "love",
-                                                "masa",
-                                                "mellow",
-                                                "minimal",
-                                                "mix",
-                                                "mixx",
-                                                "monde",
-                                                "mood",
-                                                "musical",
-                                                "nature",
-                                                "new",
-                                                "noise",
-                                                "pacific",
-                                                "piano",
-                                                "police",
-                                                "public",
-                                                "rain",
-                                                "reading",
-                                                "regional",
-                                                "science",
-                                                "slow",
-                                                "smooth",
-                                                "social",
-                                                "society",
-                                                "soft",
-                                                "son",
-                                                "space",
-                                                "summer",
-                                                "sunset",
-                                                "tech",
-                                                "theater",
-                                                "today",
-                                                "top",
-                                                "tout",
-                                                "traffic",
-                                                "travel",
-                                                "trio",
-                                                "underground",
-                                                "urban",
-                                                "vocal",
-                                                "wave",
-                                                "women",
-                                                "world",
-                                                "magazine",
-                                                "history",
-                                                "60",
-                                                "70",
-                                                "80",
-                                                "90",
-                                                "1920",
-                                                "1930",
-                                                "1950",
-                                                "1960",
-                                                "1970",
-                                                "1980",
-                                                "1990",
-                                                "2000",
-                                                "2010",
-                                                "2020",
-                                                "community",
-                                                "university",
-                                                "college",
-                                                "student",
-                                                "universidad",
-                                                "campus",
-                                                "international",
-                                                "energy",
-                                                "information",
-                                                "talks",
-                                                "fashion",
-                                                "fan",
-                                                "party",
-                                                "contemporary",
-                                                "live",
-                                                "family",
-                                                "education",
-                                                "entertainment",
-                                                "various",
-                                                "club",
-                                                "religion",
-                                                "weather",
-                                                "progressive",
-                                                "sports"};
-
-// Words of names that promise nothing about the programme.
-constexpr std::string_view kNotInNames[] = {
-    "classic", "classics", "hit",     "retro",   "latina", "latino", "cultura",
-    "culture", "queen",    "exitos",  "dance",   "nova",   "africa", "jovem",
-    "fiesta",  "tropical", "publica", "cristal", "india",  "local",  "hong kong"};
-
 using TagMap = std::unordered_map<std::string, std::vector<GenreEntry>>;
 
-void AddLines(TagMap& map, std::span<const GenreLine> lines) {
-  for (const GenreLine& line : lines) {
-    for (const std::string_view tag : Split(line.tags, '|')) {
-      std::vector<GenreEntry>& entries = map[MatchKey(tag)];
-      const GenreEntry entry{GenreByCode(line.genre), line.subGenre};
-      if (std::find(entries.begin(), entries.end(), entry) == entries.end()) entries.push_back(entry);
-    }
-    // A sub-genre's name is a tag for it as well, unless an earlier line has it among its tags.
-    if (!line.subGenre.empty()) {
-      map.try_emplace(MatchKey(line.subGenre),
-                      std::vector{GenreEntry{GenreByCode(line.genre), line.subGenre}});
-    }
-  }
-}
-
-const TagMap& Tags() {
-  static const TagMap tags = [] {
+const TagMap& GenresByTag() {
+  static const TagMap kMap = [] {
     TagMap map;
-    AddLines(map, MusicTags());
-    AddLines(map, WorldTags());
-    AddLines(map, OtherTags());
+    for (const GenreLine& line : Tags().lines) {
+      const GenreEntry entry{GenreByCode(line.genre), line.subGenre};
+      for (const std::string_view tag : line.tags) {
+        std::vector<GenreEntry>& entries = map[MatchKey(tag)];
+        if (std::find(entries.begin(), entries.end(), entry) == entries.end()) entries.push_back(entry);
+      }
+      // A sub-genre's name is a tag for it as well, unless an earlier line has it among its tags.
+      if (!line.subGenre.empty()) map.try_emplace(MatchKey(line.subGenre), std::vector{entry});
+    }
     return map;
   }();
-  return tags;
+  return kMap;
 }
 
 bool IsOneOf(std::span<const std::string_view> words, std::string_view word) {
@@ -207,9 +61,10 @@ std::vector<GenreEntry> GenresInWords(const std::vector<std::string_view>& words
     for (std::size_t length = std::min(kMaxTermLength, words.size() - start); length > 0; --length) {
       const std::string_view last = words[start + length - 1];
       const std::string term(words[start].data(), last.data() + last.size());
-      if (length == 1 && (IsOneOf(kOnlyAsWholeTag, term) || (name && IsOneOf(kNotInNames, term)))) continue;
-      const auto found = Tags().find(term);
-      if (found == Tags().end()) continue;
+      if (length == 1 && (IsOneOf(Tags().onlyAsWholeTag, term) || (name && IsOneOf(Tags().notInNames, term))))
+        continue;
+      const auto found = GenresByTag().find(term);
+      if (found == GenresByTag().end()) continue;
       Append(entries, found->second);
       taken = length;
       break;
@@ -231,7 +86,7 @@ bool IsFrequencyWord(std::string_view word) {
 bool SaysNothing(std::string_view tag, std::string_view key, const Country* country) {
   static const std::unordered_set<std::string> kFillers = [] {
     std::unordered_set<std::string> set;
-    for (const std::string_view filler : EmptyTags()) set.insert(MatchKey(filler));
+    for (const std::string_view filler : Tags().fillers) set.insert(MatchKey(filler));
     return set;
   }();
   if (key.empty() || kFillers.count(std::string(key)) > 0) return true;
@@ -282,7 +137,7 @@ const Genre* GenreByCode(char code) {
 
 std::vector<GenreEntry> GenresOfTag(std::string_view tag) {
   const std::string key = MatchKey(tag);
-  if (const auto found = Tags().find(key); found != Tags().end()) return found->second;
+  if (const auto found = GenresByTag().find(key); found != GenresByTag().end()) return found->second;
   const std::vector<std::string_view> words = KeyWords(key);
   if (words.size() < 2 || words.size() > kMaxTagWords) return {};
   return GenresInWords(words, /*name=*/false);

@@ -6,7 +6,7 @@
 #include <vector>
 
 #include "genres/GenreTable.h"
-#include "model/SourceStation.h"
+#include "model/Sources.h"
 
 namespace sonaro {
 

@@ -5,7 +5,7 @@
 #include <vector>
 
 #include "genres/Genres.h"
-#include "model/SourceStation.h"
+#include "model/Sources.h"
 #include "places/Places.h"
 #include "stations/Ratings.h"
 

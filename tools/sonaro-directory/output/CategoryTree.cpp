@@ -5,7 +5,7 @@
 // A category always has one entry of all its stations ("All Jazz"), since the root itself lists nothing. The
 // program shows entries in the order of their texts, and a blank stands before all letters: with one at its
 // beginning the entry of all comes first.
-#include "output/CategoryTree.h"
+#include "output/BrowseLists.h"
 
 #include <algorithm>
 #include <array>
@@ -14,9 +14,8 @@
 
 #include "base/OwnFiles.h"
 #include "base/Text.h"
-#include "places/Languages.h"
+#include "places/Places.h"
 #include "text/CleanText.h"
-#include "text/FileText.h"
 
 namespace sonaro {
 namespace {

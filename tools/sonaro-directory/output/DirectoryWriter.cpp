@@ -13,8 +13,7 @@
 #include "base/Text.h"
 #include "directory/EvList.h"
 #include "directory/StatList.h"
-#include "output/CategoryTree.h"
-#include "output/RankingLists.h"
+#include "output/BrowseLists.h"
 #include "settings/ServiceHosts.h"
 
 namespace sonaro {

@@ -4,16 +4,30 @@
 #pragma once
 
 #include <string>
+#include <vector>
 
 #include "base/DataFolder.h"
+#include "directory/EventRecord.h"
 #include "model/Directory.h"
-#include "output/EventRecords.h"
+#include "model/SkipLog.h"
+#include "model/Sources.h"
 #include "stations/StationTexts.h"
 
 namespace sonaro {
 
 // The file that marks a folder in which the writing has begun and not ended.
 inline constexpr std::string_view kUnfinishedMark = "\\unfinished.snr";
+
+// Events out of a list as the records of the event tables.
+struct EventRecords {
+  std::vector<EventRecord> current;  // the first seven days of the list, by identifier
+  std::vector<EventRecord> coming;   // what is later
+};
+
+// Stations are found by identifier or name; events of others are logged and left out. The identifier of an
+// event is computed from what it is, so that it stays the same when the list is read again.
+EventRecords MakeEventRecords(const std::vector<SourceEvent>& events, const Directory& directory,
+                              SkipLog& skips);
 
 struct WriteOptions {
   LinkPlayer player = LinkPlayer::Asx;

@@ -1,4 +1,4 @@
-#include "output/EventRecords.h"
+#include "output/DirectoryWriter.h"
 
 #include <algorithm>
 #include <array>
@@ -9,7 +9,7 @@
 
 #include "base/Numbers.h"
 #include "stations/Addresses.h"
-#include "stations/IdNumbers.h"
+#include "stations/StationIds.h"
 #include "text/CleanText.h"
 
 namespace sonaro {

@@ -1,4 +1,4 @@
-#include "output/RankingLists.h"
+#include "output/BrowseLists.h"
 
 #include <algorithm>
 #include <functional>

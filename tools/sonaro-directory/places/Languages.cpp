@@ -1,4 +1,4 @@
-#include "places/Languages.h"
+#include "places/Places.h"
 
 #include <algorithm>
 #include <string>

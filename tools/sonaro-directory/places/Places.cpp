@@ -13,7 +13,6 @@
 #include <utility>
 
 #include "base/Text.h"
-#include "places/RegionTable.h"
 #include "text/CleanText.h"
 
 namespace sonaro {
@@ -31,22 +30,20 @@ std::string RegionKey(std::string_view countryCode, std::string_view text) {
 }
 
 // The first to claim a key keeps it.
-void AddRegions(RegionMap& map, std::span<const RegionLine> lines) {
-  // Names first: "Buenos Aires" is the province even where a list of the capital's spellings has it too.
-  for (const RegionLine& line : lines) map.emplace(RegionKey(line.country, line.name), line.name);
-  for (const RegionLine& line : lines) {
-    for (const std::string_view spelling : Split(line.spellings, '|')) {
-      if (!spelling.empty()) map.emplace(RegionKey(line.country, spelling), line.name);
-    }
-  }
-}
-
 const RegionMap& Regions() {
   static const RegionMap regions = [] {
     RegionMap map;
-    AddRegions(map, RegionsOfAmerica());
-    AddRegions(map, RegionsOfWesternEurope());
-    AddRegions(map, RegionsElsewhere());
+    std::vector<std::vector<std::string_view>> lines;  // country, name, spellings
+    for (const std::string_view line : SplitLines(RegionTableText())) {
+      if (!line.empty() && !line.starts_with('#')) lines.push_back(SplitAtMost(line, '\t', 3));
+    }
+    // Names first: "Buenos Aires" is the province even where a list of the capital's spellings has it too.
+    for (const auto& line : lines) map.emplace(RegionKey(line[0], line[1]), line[1]);
+    for (const auto& line : lines) {
+      for (const std::string_view spelling : Split(line[2], '|')) {
+        if (!spelling.empty()) map.emplace(RegionKey(line[0], spelling), line[1]);
+      }
+    }
     return map;
   }();
   return regions;

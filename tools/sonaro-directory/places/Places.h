@@ -1,11 +1,11 @@
-// Where stations are: country and region out of what lists say in many spellings.
+// Where stations are and which languages they speak, out of what lists say in many spellings.
 #pragma once
 
 #include <string>
 #include <string_view>
 #include <vector>
 
-#include "model/SourceStation.h"
+#include "model/Sources.h"
 #include "places/Countries.h"
 
 namespace sonaro {
@@ -26,5 +26,15 @@ std::vector<StationPlace> LocateStations(const std::vector<SourceStation>& stati
 // The region of the table that `text` means in a country, "" when there is none. "Sydney NSW", "Houston, TX"
 // and "Texas (USA)" are understood.
 std::string_view KnownRegion(const Country& country, std::string_view text);
+
+// regions.tsv as it is, embedded by CMake.
+std::string_view RegionTableText();
+
+// The languages that `text` names, in English where it is a known name ("deutsch", "castellano. español" and
+// "engilsh" are), each once, at most four. Names may be joined by commas, semicolons or slashes.
+std::vector<std::string> LanguagesIn(std::string_view text);
+
+// True for the name of a known language in any of its spellings.
+bool IsLanguage(std::string_view text);
 
 }  // namespace sonaro

@@ -1,4 +1,4 @@
-#include "readers/EventReader.h"
+#include "readers/Readers.h"
 
 #include <algorithm>
 #include <nlohmann/json.hpp>

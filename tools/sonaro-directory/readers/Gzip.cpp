@@ -1,4 +1,4 @@
-#include "readers/Gzip.h"
+#include "readers/Readers.h"
 
 #include <zlib.h>
 

@@ -12,9 +12,8 @@
 #include <system_error>
 
 #include "base/Text.h"
-#include "readers/Gzip.h"
 #include "readers/Readers.h"
-#include "text/FileText.h"
+#include "text/CleanText.h"
 
 namespace sonaro {
 namespace {

@@ -8,7 +8,7 @@
 #include <vector>
 
 #include "model/SkipLog.h"
-#include "model/SourceStation.h"
+#include "model/Sources.h"
 
 namespace sonaro {
 

@@ -4,12 +4,13 @@
 // later.
 #pragma once
 
+#include <cstddef>
 #include <string>
 #include <string_view>
 #include <vector>
 
 #include "model/SkipLog.h"
-#include "model/SourceStation.h"
+#include "model/Sources.h"
 
 namespace sonaro {
 
@@ -36,5 +37,20 @@ void ReadPls(const SourceText& source, std::vector<SourceStation>& stations, Ski
 
 // OPML: every outline with an address is a station; the outlines around it are its tags.
 void ReadOpml(const SourceText& source, std::vector<SourceStation>& stations, SkipLog& skips);
+
+// A list of broadcast events: JSON Lines with the keys name, station, start (ISO date and time, GMT),
+// minutes, category, web and description.
+// `name` is the file's, for messages. Lines without a name, a station or a possible start are logged and left
+// out.
+std::vector<SourceEvent> ReadEvents(const std::string& name, std::string_view text, SkipLog& skips);
+
+// Gzip data, unpacked in memory.
+bool IsGzip(std::string_view bytes);
+
+enum class GunzipStatus { Ok, Damaged, TooLarge };
+
+// All members of the file, one after the other. Stops at `limit` bytes of result, so that a small hostile
+// file cannot fill the memory.
+GunzipStatus Gunzip(std::string_view bytes, std::size_t limit, std::string& unpacked);
 
 }  // namespace sonaro

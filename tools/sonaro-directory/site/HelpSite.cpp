@@ -1,4 +1,4 @@
-#include "site/HelpSite.h"
+#include "site/WriteSite.h"
 
 #include <map>
 

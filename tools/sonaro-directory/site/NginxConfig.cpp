@@ -1,7 +1,7 @@
-#include "site/NginxConfig.h"
+#include "site/WriteSite.h"
 
 #include "base/Text.h"
-#include "base/http/UrlEncoding.h"
+#include "base/http/HttpRequest.h"
 #include "net/UpdateFormat.h"
 
 namespace sonaro {

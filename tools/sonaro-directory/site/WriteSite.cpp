@@ -7,8 +7,6 @@
 #include "net/UpdateFormat.h"
 #include "settings/ServiceHosts.h"
 #include "settings/SettingNames.h"
-#include "site/HelpSite.h"
-#include "site/NginxConfig.h"
 #include "site/PublishedGuides.h"
 #include "site/UpdateText.h"
 

@@ -4,8 +4,6 @@
 #include <tuple>
 #include <utility>
 
-#include "stations/JoinStations.h"
-
 namespace sonaro {
 namespace {
 

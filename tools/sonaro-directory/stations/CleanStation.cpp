@@ -1,4 +1,4 @@
-#include "stations/CleanStation.h"
+#include "stations/BuildDirectory.h"
 
 #include <algorithm>
 #include <set>
@@ -18,7 +18,7 @@ constexpr std::size_t kMaxSloganLength = 200;
 constexpr std::size_t kMaxPlaceOrLanguageLength = 100;
 constexpr std::size_t kMaxTags = 40;
 
-std::string CleanField(std::string_view text, std::size_t longest) {
+std::string DecodedField(std::string_view text, std::size_t longest) {
   const std::string clean = CleanText(DecodeEntities(text));
   return std::string(TrimBlanks(TruncateUtf8(clean, longest)));
 }
@@ -96,7 +96,7 @@ std::string CodecInOgg(const SourceStation& station) {
 }
 
 void CleanSound(SourceStation& station) {
-  station.codec = CleanField(station.codec, kMaxTagLength);
+  station.codec = DecodedField(station.codec, kMaxTagLength);
   if (EqualIgnoringCase(station.codec, "UNKNOWN")) station.codec.clear();
   if (AddressEnding(station.addresses.front()) == ".m3u8") station.segmented = true;
   for (const std::string& address : station.addresses) {
@@ -113,7 +113,7 @@ void CleanSound(SourceStation& station) {
 }  // namespace
 
 bool CleanStation(SourceStation& station, MakeLogs& logs) {
-  station.name = CleanField(station.name, kMaxNameLength);
+  station.name = DecodedField(station.name, kMaxNameLength);
   CleanAddresses(station, logs.addresses);
   if (station.addresses.empty()) {
     logs.entries.Skip(station.place, station.name, "without a usable address");
@@ -123,11 +123,11 @@ bool CleanStation(SourceStation& station, MakeLogs& logs) {
   if (station.name.empty()) station.name = HostOfAddress(station.addresses.front());
   CleanWebSite(station, logs.addresses);
   CleanTags(station);
-  station.slogan = CleanField(station.slogan, kMaxSloganLength);
-  station.country = CleanField(station.country, kMaxPlaceOrLanguageLength);
-  station.countryCode = CleanField(station.countryCode, kMaxPlaceOrLanguageLength);
-  station.region = CleanField(station.region, kMaxPlaceOrLanguageLength);
-  station.language = CleanField(station.language, kMaxPlaceOrLanguageLength);
+  station.slogan = DecodedField(station.slogan, kMaxSloganLength);
+  station.country = DecodedField(station.country, kMaxPlaceOrLanguageLength);
+  station.countryCode = DecodedField(station.countryCode, kMaxPlaceOrLanguageLength);
+  station.region = DecodedField(station.region, kMaxPlaceOrLanguageLength);
+  station.language = DecodedField(station.language, kMaxPlaceOrLanguageLength);
   CleanSound(station);
   return true;
 }

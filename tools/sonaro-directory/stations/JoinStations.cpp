@@ -5,7 +5,7 @@
 // One pass with a hash map of "name, address" keys. The first entry wins each field; a later one fills what
 // is empty and adds its addresses. Two entries that only a third one connects stay separate when the third
 // comes last: it is joined with the first that it matches.
-#include "stations/JoinStations.h"
+#include "stations/BuildDirectory.h"
 
 #include <algorithm>
 #include <optional>

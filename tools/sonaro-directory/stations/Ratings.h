@@ -4,7 +4,7 @@
 
 #include <cstdint>
 
-#include "model/SourceStation.h"
+#include "model/Sources.h"
 
 namespace sonaro {
 

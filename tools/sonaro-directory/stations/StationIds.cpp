@@ -17,7 +17,6 @@
 #include "directory/StationListFile.h"
 #include "directory/StationRecord.h"
 #include "stations/Addresses.h"
-#include "stations/IdNumbers.h"
 #include "stations/PlayLink.h"
 #include "text/CleanText.h"
 

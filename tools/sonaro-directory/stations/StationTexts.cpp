@@ -6,7 +6,7 @@
 #include <vector>
 
 #include "base/Text.h"
-#include "places/Languages.h"
+#include "places/Places.h"
 #include "stations/PlayLink.h"
 #include "text/CleanText.h"
 

@@ -1,5 +1,5 @@
-// Makes texts out of strangers' lists fit for a field of the directory, and the keys by which they are
-// compared.
+// Makes strangers' files into text, texts out of them fit for a field of the directory, and the keys by which
+// they are compared.
 #pragma once
 
 #include <cstddef>
@@ -32,5 +32,13 @@ std::string Capitalized(std::string_view text);
 
 // "a", "a and b", "a, b and c".
 std::string JoinAsSentence(const std::vector<std::string>& parts);
+
+// The character at `position`, which moves behind it. A byte that begins no valid UTF-8 character counts as
+// one U+FFFD.
+char32_t NextCharacter(std::string_view text, std::size_t& position);
+
+// A file's bytes as valid UTF-8 without a byte-order mark. They are read as UTF-16 when a mark says so, as
+// Windows-1252 when more bytes break the rules of UTF-8 than characters keep them, else as UTF-8.
+std::string DecodeFileText(std::string_view bytes);
 
 }  // namespace sonaro

@@ -1,11 +1,14 @@
-// A station as one list describes it: what the readers hand on and everything after them works with. Texts
-// are UTF-8 but otherwise as the list has them until stations/CleanStation has been over them.
+// Stations and broadcast events as one list describes them: what the readers hand on and everything after
+// them works with. Texts are UTF-8 but otherwise as the list has them until stations/CleanStation has been
+// over them.
 #pragma once
 
 #include <cstdint>
 #include <optional>
 #include <string>
 #include <vector>
+
+#include "base/Dates.h"
 
 namespace sonaro {
 
@@ -30,6 +33,18 @@ struct SourceStation {
   // Of the usable addresses the one that the list gives first: with the name it tells who the station is.
   std::string firstAddress;
   std::string place;  // where it was read, "file.m3u:12", for messages
+};
+
+// A broadcast event as a list of events describes it.
+struct SourceEvent {
+  std::string name;
+  std::string station;  // its name or its identifier
+  DateTime start;       // GMT
+  int minutes = 0;
+  std::string category;
+  std::string web;
+  std::string description;
+  std::string place;  // where it was read, "events.jsonl:3", for messages
 };
 
 }  // namespace sonaro

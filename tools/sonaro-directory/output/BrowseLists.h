@@ -1,6 +1,8 @@
-// The tree that the main window browses, by genre or by place, and the list files that it is stored in.
+// What the main window shows of a directory: the tree that it browses, by genre or by place, and the ranking
+// lists, each with the files that hold it.
 #pragma once
 
+#include <array>
 #include <cstddef>
 #include <cstdint>
 #include <map>
@@ -41,5 +43,16 @@ std::string CategoryList(const CategoryTree& tree);
 // One category's entries, parents before children: entry code, number of stations, name, parent's code or 0,
 // the identifiers with a blank between them.
 std::string CategoryEntries(const Category& category, const Directory& directory);
+
+// The ranking lists, "\fun.snr" and "\reliable.snr":
+inline constexpr std::array<std::string_view, 7> kRankingNames = {
+    "New Stations", "Most Pop", "Least Pop", "Best Overall", "Best Sound", "Best Speed", "Best Website"};
+
+inline constexpr std::size_t kRankingLength = 250;
+
+// One ranking a line: name, tab, identifiers with a blank between them.
+std::string RankingList(const Directory& directory);
+// The identifiers of the most reliable stations with a blank between them.
+std::string ReliableList(const Directory& directory);
 
 }  // namespace sonaro
