@@ -1,6 +1,6 @@
 // A link is an address with the way to play it in front: "w" for a web page, "m" for the program of .asx
-// files, nothing for RealPlayer. An address that itself begins with one of these letters therefore always has
-// a prefix.
+// files, nothing for RealPlayer. An address for RealPlayer that itself begins with one of these letters is
+// written with a capital one: schemes and hosts, which addresses begin with, ignore letter case.
 //
 // Addresses end up on the command line of a program. PlayerArgument lets through what is one argument, is no
 // switch, names nothing on this computer and holds nothing that the system would expand.
@@ -39,8 +39,10 @@ PlayLink PlayLink::FromText(std::string_view text) {
 std::string PlayLink::ToText() const {
   if (address.empty()) return {};
   if (way == PlayWay::WebPage) return kWebPage + address;
-  const bool readsAsPrefix = address[0] == kWebPage || address[0] == kAsxProgram;
-  return way == PlayWay::AsxProgram || readsAsPrefix ? kAsxProgram + address : address;
+  if (way == PlayWay::AsxProgram) return kAsxProgram + address;
+  std::string text = address;
+  if (text[0] == kWebPage || text[0] == kAsxProgram) text[0] = static_cast<char>(text[0] - 'a' + 'A');
+  return text;
 }
 
 namespace {

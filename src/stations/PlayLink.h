@@ -15,8 +15,8 @@ struct PlayLink {
   std::string address;  // what is handed over
 
   static PlayLink FromText(std::string_view text);
-  // The link text of a way and an address. An address that begins with "w" or "m" itself cannot be meant for
-  // the RealPlayer-compatible player: it is written for the .asx program.
+  // The link text of a way and an address. One for the RealPlayer-compatible player that begins with "w" or
+  // "m" itself gets that as a capital, "Mms://host/x": the same address, which reads back as what it is.
   std::string ToText() const;
   bool operator==(const PlayLink&) const = default;
 };

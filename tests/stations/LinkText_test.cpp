@@ -2,9 +2,9 @@
 // keys.
 #include <gtest/gtest.h>
 
+#include "base/http/HttpRequest.h"
 #include "stations/PlayLink.h"
 #include "stations/StationKey.h"
-#include "stations/WebAddress.h"
 
 namespace sonaro {
 namespace {
@@ -27,9 +27,10 @@ TEST(PlayLinkText, FirstCharacterDecidesWhoPlays) {
   }
 }
 
-TEST(PlayLinkText, AddressThatReadsAsPrefixIsWrittenForTheAsxProgram) {
-  EXPECT_EQ((PlayLink{PlayWay::RealPlayer, "mms://a.example/"}.ToText()), "mmms://a.example/");
-  EXPECT_EQ((PlayLink{PlayWay::RealPlayer, "www.a.example"}.ToText()), "mwww.a.example");
+TEST(PlayLinkText, AnAddressThatReadsAsPrefixGetsACapital) {
+  EXPECT_EQ((PlayLink{PlayWay::RealPlayer, "mms://a.example/"}.ToText()), "Mms://a.example/");
+  EXPECT_EQ((PlayLink{PlayWay::RealPlayer, "www.a.example"}.ToText()), "Www.a.example");
+  EXPECT_EQ(PlayLink::FromText("Mms://a.example/").way, PlayWay::RealPlayer);
   EXPECT_EQ((PlayLink{PlayWay::WebPage, ""}.ToText()), "");
 }
 

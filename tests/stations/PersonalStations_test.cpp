@@ -30,7 +30,7 @@ TEST(OwnLink, IsAPlayerLinkWithAScheme) {
       {"a.example:8000/live", "", "mhttp://a.example:8000/live"},
       {"www.a.example", "whttp://b.example/", "whttp://www.a.example"},
       {"rtsp://a.example/x", "http://b.example/", "rtsp://a.example/x"},
-      {"mms://a.example/x", "http://b.example/", "mmms://a.example/x"},
+      {"mms://a.example/x", "http://b.example/", "Mms://a.example/x"},
       {"http://a.example/\xC3\xA9", "", "mhttp://a.example/\xC3\xA9"},
       {"a.example/?u=http://b", "", "mhttp://a.example/?u=http://b"},
       {"   ", "mhttp://b.example/", ""},
