@@ -5,7 +5,6 @@
 #include "base/Text.h"
 #include "directory/StationListFile.h"
 #include "resources/texts/net.h"
-#include "settings/FormatCount.h"
 #include "settings/Strings.h"
 
 namespace sonaro {
