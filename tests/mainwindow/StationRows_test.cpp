@@ -29,7 +29,7 @@ class StationRowsTest : public testing::Test {
       list += std::to_string(i + 1) + '\t' + all[i].name + "\tMP3\tGhent\tJazz" + std::string(8, '\t') +
               all[i].overall + "\t\t\t\t2\n";
     }
-    files.Put("/d/station.snr", list);
+    files.Put("/d/Station.snr", list);
     ASSERT_TRUE(stations.RebuildStationTable());
     std::vector<StationKey> keys;
     for (std::size_t i = 0; i < all.size(); ++i) keys.push_back(StationKey::OfGuide(static_cast<int>(i) + 1));

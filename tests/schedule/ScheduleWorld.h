@@ -50,7 +50,7 @@ class ScheduleWorld : public testing::Test {
       }
       line += "\t" + field;
     }
-    files_.Put("data/station.snr", line + "\r\n");
+    files_.Put("data/Station.snr", line + "\r\n");
     ASSERT_TRUE(stations_.RebuildStationTable());
   }
 

@@ -182,7 +182,7 @@ std::string Lead(const std::string& config, const std::string& key) {
 
 // A year of weeks: each takes stations out, puts some in, and changes a few in place.
 TEST_F(PublishTest, ChangesLeadFromEarlierGuidesToThisOne) {
-  const std::string list = Directory() + "/station.snr";
+  const std::string list = Directory() + "/Station.snr";
   const std::string category = Directory() + "/genre-pop.snr";
   std::vector<std::map<std::string, std::string>> guides;
   for (std::size_t week = 1; week <= 14; ++week) {
