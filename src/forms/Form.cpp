@@ -2,29 +2,9 @@
 
 #include "forms/ControlIds.h"
 #include "forms/FormWindow.h"
-#include "forms/WideText.h"
+#include "forms/PopupMenu.h"
 
 namespace sonaro {
-namespace {
-
-HMENU BuildMenu(std::span<const MenuEntry> entries) {
-  const HMENU menu = CreatePopupMenu();
-  for (const MenuEntry& entry : entries) {
-    const UINT state = (entry.enabled ? MF_ENABLED : MF_GRAYED) | (entry.checked ? MF_CHECKED : MF_UNCHECKED);
-    const std::wstring text = Widen(entry.text);
-    if (!entry.children.empty()) {
-      AppendMenuW(menu, MF_POPUP | state, reinterpret_cast<UINT_PTR>(BuildMenu(entry.children)),
-                  text.c_str());
-    } else if (entry.command == 0) {
-      AppendMenuW(menu, MF_SEPARATOR, 0, nullptr);
-    } else {
-      AppendMenuW(menu, MF_STRING | state, static_cast<UINT_PTR>(entry.command), text.c_str());
-    }
-  }
-  return menu;
-}
-
-}  // namespace
 
 Form::Form(FormContext& context, const FormDesign& design)
     : window_(std::make_unique<FormWindow>(*this, context, design)) {
@@ -70,16 +50,10 @@ void Form::StopTimer(int id) {
 }
 
 void Form::PopUpMenu(std::span<const MenuEntry> entries, POINT at) {
-  const HWND owner = window_->Window();
-  if (!owner || entries.empty()) return;
-  const HMENU menu = BuildMenu(entries);
-  // Without these two a menu of a window in the background does not close when the user clicks elsewhere.
-  SetForegroundWindow(owner);
-  const BOOL command = TrackPopupMenuEx(menu, TPM_RETURNCMD | TPM_LEFTALIGN | TPM_TOPALIGN | TPM_RIGHTBUTTON,
-                                        at.x, at.y, owner, nullptr);
-  PostMessageW(owner, WM_NULL, 0, 0);
-  DestroyMenu(menu);
-  if (command != 0) SendMessageW(owner, WM_COMMAND, static_cast<WPARAM>(command), 0);
+  if (window_->Window()) {
+    const Painter& theme = window_->Theme();
+    ShowPopupMenu(window_->Window(), entries, at, theme.Colors(), theme.Dpi());
+  }
 }
 
 std::string Form::LoadText(int stringId) const { return window_->LoadText(stringId); }
