@@ -198,6 +198,49 @@ TEST_F(ViewsTest, TheProgramSelectsInSilence) {
   EXPECT_EQ(Events(), Log{});
 }
 
+TEST_F(ViewsTest, SeveralRowsAreSelectedByKeysAndByTheProgram) {
+  Open(40000);
+  List().Select(3);
+  PressKey('A', false, true);
+  EXPECT_EQ(List().SelectedCount(), 1) << "one at a time unless told so";
+  Events();
+  List().AllowSeveral();
+  const struct {
+    WORD key;
+    bool shift;
+    bool control;
+    std::vector<int> selected;
+    Log log;
+  } steps[] = {
+      {VK_DOWN, true, false, {3, 4}, {"ItemSelected 4"}},
+      {VK_DOWN, true, false, {3, 4, 5}, {"ItemSelected 5"}},
+      {VK_UP, true, false, {3, 4}, {"ItemSelected 4"}},
+      {VK_DOWN, false, false, {5}, {"ItemSelected 5"}},
+  };
+  for (const auto& step : steps) {
+    PressKey(step.key, step.shift, step.control);
+    EXPECT_EQ(List().SelectedRows(), step.selected);
+    EXPECT_EQ(Events(), step.log);
+  }
+  // Not every system takes the state that a test gives its keyboard at once.
+  for (int attempt = 0; attempt < 5 && List().SelectedCount() < 2; ++attempt) PressKey('A', false, true);
+  EXPECT_EQ(List().SelectedCount(), 40000);
+  EXPECT_EQ(Events(), Log{"ItemSelected 5"});
+  List().Select(7);
+  EXPECT_EQ(List().SelectedRows(), std::vector<int>{7});
+  const std::array rows = {2, 7, 39000};
+  List().SelectRows(rows);
+  EXPECT_EQ(List().SelectedRows(), std::vector<int>(rows.begin(), rows.end()));
+  EXPECT_EQ(List().Selected(), 7);
+  stations.SetCount(10);
+  List().RowsChanged();
+  EXPECT_EQ(List().SelectedRows(), (std::vector<int>{2, 7}));
+  EXPECT_EQ(Events(), Log{});
+  ClickRow(5);
+  EXPECT_EQ(List().SelectedRows(), std::vector<int>{5});
+  EXPECT_EQ(Events(), Log{"ItemSelected 5"});
+}
+
 TEST_F(ViewsTest, ContextMenusKnowTheirRow) {
   Open(40);
   List().Select(4);

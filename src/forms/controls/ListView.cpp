@@ -16,6 +16,7 @@ namespace {
 
 constexpr DWORD kListStyle =
     LVS_REPORT | LVS_OWNERDATA | LVS_SINGLESEL | LVS_SHOWSELALWAYS | LVS_NOCOLUMNHEADER;
+constexpr int kAllRows[] = {-1};
 
 }  // namespace
 
@@ -109,10 +110,58 @@ void ListView::Deselect(int row) {
   quiet_ = wasQuiet;
 }
 
+void ListView::AllowSeveral() {
+  several_ = true;
+  SetWindowLongPtrW(Window(), GWL_STYLE,
+                    GetWindowLongPtrW(Window(), GWL_STYLE) & ~static_cast<LONG_PTR>(LVS_SINGLESEL));
+}
+
+int ListView::SelectedCount() const { return static_cast<int>(ListView_GetSelectedCount(Window())); }
+
+std::vector<int> ListView::SelectedRows() const {
+  std::vector<int> rows;
+  if (SelectedCount() == 1) return {Selected()};
+  for (int row = -1; (row = ListView_GetNextItem(Window(), row, LVNI_SELECTED)) >= 0;) rows.push_back(row);
+  return rows;
+}
+
+// Some systems deal with each row by itself; nothing is painted or told meanwhile.
+void ListView::ChangeMany(std::span<const int> rows, UINT state) {
+  const bool wasQuiet = std::exchange(quiet_, true);
+  many_ = true;
+  SendMessageW(Window(), WM_SETREDRAW, FALSE, 0);
+  for (const int row : rows) ListView_SetItemState(Window(), row, state, LVIS_SELECTED);
+  SendMessageW(Window(), WM_SETREDRAW, TRUE, 0);
+  many_ = false;
+  quiet_ = wasQuiet;
+  Repaint();
+}
+
+void ListView::SelectRows(std::span<const int> rows) {
+  if (SelectedCount() > 0) ChangeMany(kAllRows, 0);
+  ChangeMany(rows, LVIS_SELECTED);
+}
+
+void ListView::SelectAll() {
+  if (!several_ || ListView_GetItemCount(Window()) == 0 || (model_ != nullptr && model_->IsNotice())) return;
+  if (FocusedRow() < 0) ListView_SetItemState(Window(), 0, LVIS_FOCUSED, LVIS_FOCUSED);
+  ChangeMany(kAllRows, LVIS_SELECTED);
+  Raise({.kind = FormEvent::Kind::ItemSelected, .row = Selected()});
+}
+
+// What the user does next takes the place of the one row that is selected.
+bool ListView::SelectsOne() const {
+  return !several_ || (SelectedCount() <= 1 && GetKeyState(VK_SHIFT) >= 0 && GetKeyState(VK_CONTROL) >= 0);
+}
+
 void ListView::Select(int row) {
   quiet_ = true;
   const int before = Selected();
-  if (row != before) Deselect(before);
+  if (SelectedCount() > 1) {
+    ChangeMany(kAllRows, 0);
+  } else if (row != before) {
+    Deselect(before);
+  }
   if (row >= 0) {
     ListView_SetItemState(Window(), row, LVIS_SELECTED | LVIS_FOCUSED, LVIS_SELECTED | LVIS_FOCUSED);
     ListView_EnsureVisible(Window(), row, FALSE);
@@ -207,12 +256,16 @@ LRESULT ListView::Handle(UINT message, WPARAM wParam, LPARAM lParam) {
     case WM_GETDLGCODE:
       return DialogCode(wParam, lParam, Selected() >= 0);
     case WM_KEYDOWN:
+      if (several_ && wParam == 'A' && GetKeyState(VK_CONTROL) < 0) {
+        SelectAll();
+        return 0;
+      }
       SelectByKey(wParam, lParam);
       return 0;
     case WM_LBUTTONDOWN: {
       const int row = RowUnder(lParam);
       if (row < 0) return FocusOnly();
-      if (const int before = Selected(); row != before) Deselect(before);
+      if (const int before = Selected(); row != before && SelectsOne()) Deselect(before);
       break;
     }
     case WM_RBUTTONDOWN:
@@ -234,7 +287,8 @@ LRESULT ListView::Handle(UINT message, WPARAM wParam, LPARAM lParam) {
     default:
       break;
   }
-  const LRESULT result = PassOn(message, wParam, lParam);
+  const LRESULT result =
+      message == WM_LBUTTONDOWN ? PassOnGathering(message, wParam, lParam) : PassOn(message, wParam, lParam);
   // Whatever scrolled, by wheel, key or program, paints.
   if (message == WM_PAINT || message == WM_MOUSEWHEEL) SyncScrollBar();
   if (message == WM_MOUSEWHEEL) {  // another row came below the pointer
@@ -256,13 +310,22 @@ LRESULT ListView::FocusOnly() {
   return 0;
 }
 
+LRESULT ListView::PassOnGathering(UINT message, WPARAM wParam, LPARAM lParam) {
+  gathering_ = true;
+  changed_ = false;
+  const LRESULT result = PassOn(message, wParam, lParam);
+  gathering_ = false;
+  if (std::exchange(changed_, false)) Raise({.kind = FormEvent::Kind::ItemSelected, .row = Selected()});
+  return result;
+}
+
 // The keys are the system's; only its way of moving the selection is shortened.
 void ListView::SelectByKey(WPARAM key, LPARAM lParam) {
-  const bool moves = key >= VK_PRIOR && key <= VK_DOWN;
+  const bool moves = key >= VK_PRIOR && key <= VK_DOWN && SelectsOne();
   const int before = Selected();
   byKey_ = true;
   if (moves) Deselect(before);
-  PassOn(WM_KEYDOWN, key, lParam);
+  PassOnGathering(WM_KEYDOWN, key, lParam);
   byKey_ = false;
   if (moves && before >= 0 && Selected() < 0) Select(before);  // already at the end: stays where it was
   SyncScrollBar();
@@ -310,17 +373,14 @@ bool ListView::OnNotify(NMHDR& notice, LRESULT& result) {
     case LVN_ODFINDITEMW:
       result = FindTyped(reinterpret_cast<const NMLVFINDITEMW&>(notice));
       return true;
-    case LVN_ITEMCHANGED: {
-      const auto& change = reinterpret_cast<const NMLISTVIEW&>(notice);
-      RepaintRow(change.iItem);
-      if (change.iItem > 0) RepaintRow(0);  // it may have had the frame
-      const bool selected =
-          (change.uNewState & LVIS_SELECTED) != 0 && (change.uOldState & LVIS_SELECTED) == 0;
-      if (selected && !quiet_ && change.iItem >= 0) {
-        Raise({.kind = FormEvent::Kind::ItemSelected, .row = change.iItem});
-      }
+    case LVN_ITEMCHANGED:
+      ItemChanged(reinterpret_cast<const NMLISTVIEW&>(notice));
       return true;
-    }
+    case LVN_ODSTATECHANGED:  // many rows at once
+      Repaint();
+      if (!quiet_ && gathering_) changed_ = true;
+      if (!quiet_ && !gathering_) Raise({.kind = FormEvent::Kind::ItemSelected, .row = Selected()});
+      return true;
     case LVN_ITEMACTIVATE: {
       // Not every system says which row it was when it was a key.
       const int row = byKey_ ? Selected() : reinterpret_cast<const NMITEMACTIVATE&>(notice).iItem;
@@ -332,6 +392,22 @@ bool ListView::OnNotify(NMHDR& notice, LRESULT& result) {
       return true;
     default:
       return false;
+  }
+}
+
+void ListView::ItemChanged(const NMLISTVIEW& change) {
+  if (many_) return;
+  RepaintRow(change.iItem);
+  if (change.iItem > 0) RepaintRow(0);  // it may have had the frame
+  const UINT turned = (change.uNewState ^ change.uOldState) & LVIS_SELECTED;
+  if (turned == 0 || quiet_) return;
+  if (several_ && gathering_ && SelectedCount() != 1) {
+    changed_ = true;  // one event for all rows that this key or click changes
+  } else if (several_) {
+    changed_ = false;
+    Raise({.kind = FormEvent::Kind::ItemSelected, .row = Selected()});
+  } else if ((change.uNewState & LVIS_SELECTED) != 0 && change.iItem >= 0) {
+    Raise({.kind = FormEvent::Kind::ItemSelected, .row = change.iItem});
   }
 }
 

@@ -53,7 +53,16 @@ class ListView final : public ScrolledView {
 
   // The model's rows changed: takes their number and paints anew, redrawing switched off meanwhile.
   void RowsChanged();
-  int Selected() const;  // -1: none
+  // Shift, Ctrl and Ctrl+A select several rows from now on; one at a time unless told so. The event
+  // ItemSelected then comes after every change, with the row that Selected() gives.
+  void AllowSeveral();
+  // The focused row when it is selected, else the first that is; -1: none.
+  int Selected() const;
+  int SelectedCount() const;
+  std::vector<int> SelectedRows() const;  // ascending
+  // These alone; the focus stays where it is. Raises no event.
+  void SelectRows(std::span<const int> rows);
+  void SelectAll();  // with the event, as Ctrl+A
   // Selects one row only and scrolls it into view; -1: none. Raises no event.
   void Select(int row);
   // After a fill that chooses nothing: no row is selected, and the keys go on from the first, which is in
@@ -79,8 +88,11 @@ class ListView final : public ScrolledView {
   int FocusedRow() const;  // -1: none
   int RowUnder(LPARAM pointer) const;
   LRESULT FocusOnly();
+  LRESULT PassOnGathering(UINT message, WPARAM wParam, LPARAM lParam);
   void SelectByKey(WPARAM key, LPARAM lParam);
   void Deselect(int row);
+  void ChangeMany(std::span<const int> rows, UINT state);
+  bool SelectsOne() const;
   void PaintBelowRows(HDC dc) const;
   void PaintEmpty(HDC dc, const RECT& box) const;
   void PaintEmptyScale(HDC dc, int centre, int line) const;
@@ -88,6 +100,7 @@ class ListView final : public ScrolledView {
   void PaintColumnLines(HDC dc, int top, int bottom) const;
   void PaintCells(HDC dc, int row, const RECT& box, bool selected, bool focused) const;
   LRESULT CustomDraw(const NMLVCUSTOMDRAW& draw) const;
+  void ItemChanged(const NMLISTVIEW& change);
   void OnGetDispInfo(NMLVDISPINFOW& info) const;
   LRESULT FindTyped(const NMLVFINDITEMW& find) const;
   void ShowContextMenu(POINT screen);
@@ -107,6 +120,10 @@ class ListView final : public ScrolledView {
   int hover_ = -1;
   bool quiet_ = false;  // selecting by program
   bool byKey_ = false;  // a key is being dealt with
+  bool several_ = false;
+  bool many_ = false;       // being selected or deselected in one go
+  bool gathering_ = false;  // a key or click may change several rows
+  bool changed_ = false;    // it has
 };
 
 }  // namespace sonaro
