@@ -23,8 +23,11 @@ struct ControlClass {
   DWORD style;
 };
 
+// What no control has: GetDlgItem would find a 0.
 constexpr WORD kNoNumber = 0xFFFF;
 
+// Without WS_VSCROLL: the bar beside a text of several lines is the faceplate's. ES_AUTOVSCROLL lets the
+// caret still go beyond what is seen.
 DWORD EditStyle(const ControlRow& row) {
   DWORD style = row.kind == ControlKind::Edit ? ES_AUTOHSCROLL : ES_MULTILINE | ES_AUTOVSCROLL;
   if (row.kind == ControlKind::ReadOnlyText) style |= ES_READONLY;
@@ -32,6 +35,7 @@ DWORD EditStyle(const ControlRow& row) {
   return style;
 }
 
+// SS_NOPREFIX also keeps the system from taking an access key out of a text that is data.
 ControlClass ClassOf(const ControlRow& row) {
   constexpr DWORD kCombo =
       CBS_OWNERDRAWFIXED | CBS_HASSTRINGS | CBS_NOINTEGRALHEIGHT | WS_VSCROLL | CBS_AUTOHSCROLL;
@@ -64,6 +68,7 @@ ControlClass ClassOf(const ControlRow& row) {
     case ControlKind::ComboEdit:
       return {L"COMBOBOX", CBS_DROPDOWN | kCombo};
     case ControlKind::MonthCalendar:
+      // Without the system's line for today.
       return {MONTHCAL_CLASSW, MCS_NOTODAY};
     default:
       return {L"BUTTON", BS_OWNERDRAW};
@@ -97,6 +102,7 @@ LRESULT CALLBACK BringUpProcedure(HWND label, UINT message, WPARAM wParam, LPARA
   });
 }
 
+// Hidden, and without a place: both come with the layout.
 HWND MakeChild(HWND form, const ControlClass& kind, DWORD style, WORD number, const std::wstring& text) {
   return CreateWindowExW(0, kind.name, text.c_str(), WS_CHILD | kind.style | style, 0, 0, 0, 0, form,
                          reinterpret_cast<HMENU>(static_cast<UINT_PTR>(number)), GetModuleHandleW(nullptr),

@@ -31,6 +31,8 @@ void ColourCalendar(HWND calendar, const FaceplateColors& colors) {
 }
 
 // The control's window, which may be smaller than its place.
+// A check box begins left of its place, where its focus line stands; a text of several lines leaves room for
+// its bar; an edit stands inside the glass that the form paints.
 RECT WindowBox(const ControlInstance& item, const Painter& painter) {
   RECT box = ToRect(item.place);
   if (IsCheck(item.KindOf())) box.left -= painter.Px(kMarkMargin);
@@ -64,6 +66,7 @@ void ControlSet::Forget() {
   for (ControlInstance& item : items_) item.window = nullptr;
 }
 
+// Rows without a number cannot be addressed. The tables are short enough to be searched.
 ControlInstance* ControlSet::Find(int id) {
   if (id == 0) return nullptr;
   for (ControlInstance& item : items_) {
@@ -72,6 +75,7 @@ ControlInstance* ControlSet::Find(int id) {
   return nullptr;
 }
 
+// Up to the window whose parent is the form: a combo's edit field is the combo, a list's edit is the list.
 ControlInstance* ControlSet::Find(HWND control) {
   while (control && control != window_ && GetParent(control) != window_) control = GetParent(control);
   if (!control || control == window_) return nullptr;
@@ -95,6 +99,7 @@ void ControlSet::SetLayout(int layout) {
 
 DesignSize ControlSet::Size() const { return grown_.width > 0 ? grown_ : SizeOf(design_, layout_); }
 
+// Measured at 96 dpi, in design pixels, so that the window has the same lines at every dpi.
 void ControlSet::GrowFor(const ControlInstance& label, std::string_view text) {
   const DesignRect* at = BoundsIn(design_, layout_, *label.row);
   if (!at) return;
@@ -104,6 +109,7 @@ void ControlSet::GrowFor(const ControlInstance& label, std::string_view text) {
   grown_ = {size.width, size.height + std::max(0, needed - at->height)};
 }
 
+// Controls that the layout does not name keep their old place, hidden.
 void ControlSet::Place(const Painter& painter) {
   const DesignSize made = SizeOf(design_, layout_);
   const PixelSize client = ScaleToDpi(Size(), painter.Dpi());
@@ -116,6 +122,7 @@ void ControlSet::Place(const Painter& painter) {
   }
 }
 
+// Without SWP_NOCOPYBITS the old picture would be moved along, with the ground of where it was.
 void ControlSet::PlaceWindow(ControlInstance& item, const Painter& painter) {
   const RECT box = WindowBox(item, painter);
   if (item.view) return item.view->MoveTo(box);
@@ -165,6 +172,7 @@ void ControlSet::ShowPane(int pane, bool shown) {
   }
 }
 
+// The margins of edits belong to the font: the system sets new ones with it, and the glass has its own.
 void ControlSet::TakeTheme(const Painter& painter) {
   for (ControlInstance& item : items_) {
     if (item.view) item.view->ThemeChanged();
@@ -194,6 +202,7 @@ TTTOOLINFOW ControlSet::ToolOf(const ControlInstance& item) const {
   return tool;
 }
 
+// A tool is deleted first: adding it again with another text would leave two.
 void ControlSet::SetTip(ControlInstance& item, const std::string& text) {
   if (!tips_) tips_ = MakeTips(window_);
   std::wstring wide = Widen(text);

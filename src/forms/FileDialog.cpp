@@ -12,6 +12,7 @@ namespace sonaro {
 
 namespace {
 
+// The dialog fails when the buffer is too small; paths may be longer than MAX_PATH.
 using PathBuffer = std::array<wchar_t, 2048>;
 
 // The dialog wants zero-separated pairs with a further zero at the end.
@@ -27,6 +28,7 @@ bool RunDialog(const char* function, OPENFILENAMEW& dialog) {
   return run && run(&dialog);
 }
 
+// OFN_NOCHANGEDIR: the dialog otherwise leaves the process in the chosen folder, which would hold it fast.
 OPENFILENAMEW Dialog(HWND owner, const std::wstring& filter, PathBuffer& path) {
   OPENFILENAMEW dialog{};
   dialog.lStructSize = sizeof dialog;
@@ -48,6 +50,7 @@ std::string AskOpenPath(HWND owner, std::string_view filter) {
   return RunDialog("GetOpenFileNameW", dialog) ? Narrow(path.data()) : "";
 }
 
+// The dialog's own default ending goes without the dot.
 std::string AskSavePath(HWND owner, std::string_view filter, std::string_view suggested) {
   const std::wstring pairs = FilterPairs(filter);
   PathBuffer path{};

@@ -6,6 +6,8 @@
 namespace sonaro {
 namespace {
 
+// As they were when the message was sent: GetKeyState goes with the message queue, GetAsyncKeyState with the
+// hand.
 unsigned ModifiersDown() {
   const auto down = [](int key) { return GetKeyState(key) < 0; };
   unsigned modifiers = kPlain;
@@ -41,6 +43,7 @@ bool OpensList(const ControlInstance* focused, const MSG& message) {
 
 bool IsUsable(const ControlInstance& item) { return item.shown && IsWindowEnabled(item.window); }
 
+// Written only when it changes: each write sends two messages.
 void SetTabStop(HWND control, bool stop) {
   const LONG_PTR style = GetWindowLongPtrW(control, GWL_STYLE);
   const LONG_PTR wanted = stop ? style | WS_TABSTOP : style & ~static_cast<LONG_PTR>(WS_TABSTOP);
@@ -49,6 +52,7 @@ void SetTabStop(HWND control, bool stop) {
 
 }  // namespace
 
+// A dialog that the keyboard has opened shows its cues at once, like the window that it was opened from.
 void FocusKeys::BeginCues(const FormWindow* owner) {
   BOOL cues = FALSE;
   SystemParametersInfoW(SPI_GETKEYBOARDCUES, 0, &cues, 0);
@@ -56,6 +60,7 @@ void FocusKeys::BeginCues(const FormWindow* owner) {
   showAccessKeys_ = cues || (owner && owner->Keys().showAccessKeys_);
 }
 
+// They never go again while the form is open. Edits show the focus by their caret.
 void FocusKeys::ShowCues(bool focus, bool accessKeys) {
   if ((showFocus_ || !focus) && (showAccessKeys_ || !accessKeys)) return;
   showFocus_ = showFocus_ || focus;
@@ -67,6 +72,7 @@ void FocusKeys::ShowCues(bool focus, bool accessKeys) {
 
 ControlInstance* FocusKeys::Focused() const { return form_.Controls().Find(GetFocus()); }
 
+// By the dialog's message instead of SetFocus: it also moves the default button and selects an edit's text.
 void FocusKeys::FocusOn(const ControlInstance& item) {
   if (!item.Window()) return;
   focusGiven_ = true;
@@ -83,6 +89,7 @@ void FocusKeys::GiveFirstFocus() {
   if (control) SendMessageW(form_.Window(), WM_NEXTDLGCTL, reinterpret_cast<WPARAM>(control), TRUE);
 }
 
+// Groups are runs of rows; a decoration in between ends one, since it has no window.
 std::span<ControlInstance> FocusKeys::GroupOf(const ControlInstance& item) const {
   const std::span<ControlInstance> items = form_.Controls().All();
   auto first = static_cast<std::size_t>(&item - items.data());
@@ -92,6 +99,7 @@ std::span<ControlInstance> FocusKeys::GroupOf(const ControlInstance& item) const
   return items.subspan(first, last - first);
 }
 
+// Forms that change their face have one for each; only one of them is shown at a time.
 ControlInstance* FocusKeys::ShownPrimary() const {
   for (ControlInstance& item : form_.Controls().All()) {
     if (item.KindOf() == ControlKind::PrimaryButton && IsUsable(item)) return &item;
@@ -99,6 +107,8 @@ ControlInstance* FocusKeys::ShownPrimary() const {
   return nullptr;
 }
 
+// The system would stop at every button of a group, or at its first one only. The stop is where the user is
+// in the group, else what is active in it, else its first usable one.
 void FocusKeys::UpdateTabStops() {
   const HWND focus = GetFocus();
   const auto rank = [&](const ControlInstance& item) {
@@ -118,6 +128,8 @@ void FocusKeys::UpdateTabStops() {
   }
 }
 
+// Before the system's dialog keyboard sees the key: cues, an open list, the form's own keys, then Enter and
+// Esc.
 bool FocusKeys::RunKey(MSG& message) {
   NoteKeyboardUse(message);
   const ControlInstance* focused = Focused();
@@ -145,6 +157,7 @@ void FocusKeys::NoteKeyboardUse(const MSG& message) {
   }
 }
 
+// F1 is the help button in every form that has one, without a row.
 bool FocusKeys::RunKeyTable(int key, int focusedId) {
   for (const KeyRow& row : form_.Design().keys) {
     if (!IsInRun(key, row.key, row.keys) || row.modifiers != ModifiersDown()) continue;

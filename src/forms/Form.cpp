@@ -6,11 +6,14 @@
 
 namespace sonaro {
 
+// The form's own table is the first to be asked for a handler. It is read only when something happens, by
+// then the derived class is whole.
 Form::Form(FormContext& context, const FormDesign& design)
     : window_(std::make_unique<FormWindow>(*this, context, design)) {
   AddPart(*this);
 }
 
+// The derived class and its panes are gone already: the window ends without asking them anything.
 Form::~Form() = default;
 
 void Form::AddPart(EventTarget& pane) { window_->AddTarget(pane); }
@@ -23,6 +26,8 @@ int Form::ShowModal(HWND owner) { return window_->ShowModal(owner); }
 void Form::Close(int result) { window_->Close(result); }
 bool Form::IsOpen() const { return window_->IsOpen(); }
 bool Form::IsShown() const { return IsOpen() && IsWindowVisible(window_->Window()); }
+
+// A form that is closing has a window still, which nobody may use any more.
 HWND Form::Window() const { return IsOpen() ? window_->Window() : nullptr; }
 
 void Form::UseLayout(int layout) {

@@ -12,6 +12,7 @@
 namespace sonaro {
 namespace {
 
+// The row's own colour, else what its ground asks for.
 Color InkColor(const ControlInstance& item, const FaceplateColors& colors) {
   const bool glass = item.Has(kOnGlass);
   switch (item.color) {
@@ -40,6 +41,7 @@ Color InkColor(const ControlInstance& item, const FaceplateColors& colors) {
   return glass ? colors.glassText : colors.text;
 }
 
+// Access keys are underlined only in labels, and only once the user works with the keyboard.
 UINT TextFormat(const ControlInstance& item, bool accessKeys) {
   UINT format = 0;
   if (item.Has(kRightAligned)) format |= DT_RIGHT;
@@ -82,6 +84,7 @@ void PaintSlots(HDC dc, const RECT& box, const Painter& painter) {
   }
 }
 
+// Grooves, slots and marks have no size of their own but their row's; only glass has corners to cut.
 void PaintDecoration(HDC dc, const ControlInstance& item, const Painter& painter) {
   const RECT box = ToRect(item.place);
   switch (item.KindOf()) {
@@ -105,6 +108,7 @@ void PaintDecoration(HDC dc, const ControlInstance& item, const Painter& painter
   }
 }
 
+// FrameRgn paints inwards from the region's edge, so that nothing falls outside of the window.
 void FrameRegion(HDC dc, HRGN region, Color color, int width) {
   const HBRUSH brush = CreateSolidBrush(ToColorRef(color));
   FrameRgn(dc, region, brush, width, width);
@@ -118,6 +122,8 @@ void PaintOutline(HDC dc, HWND window, const Painter& painter, const RECT& clien
   if (GetWindowRgn(window, outline) == ERROR) SetRectRgn(outline, 0, 0, client.right, client.bottom);
   FrameRegion(dc, outline, painter.Colors().outline, width);
 
+  // The milled line follows the outline one line further inside, round every corner: what all four diagonal
+  // shifts of the outline have in common.
   const HRGN inner = CreateRectRgn(0, 0, 0, 0);
   const HRGN moved = CreateRectRgn(0, 0, 0, 0);
   CombineRgn(inner, outline, nullptr, RGN_COPY);
@@ -133,6 +139,7 @@ void PaintOutline(HDC dc, HWND window, const Painter& painter, const RECT& clien
   DeleteObject(outline);
 }
 
+// The line of the focus is the glass's own, outside of the edit's window.
 void PaintEditGlass(HDC dc, const ControlInstance& item, const Painter& painter) {
   const RECT box = ToRect(item.place);
   painter.Glass(dc, box);
@@ -156,6 +163,8 @@ FormPaint::~FormPaint() {
   }
 }
 
+// Brushes that were handed out for WM_CTLCOLOR... are not kept by the system beyond that one painting, and
+// may go.
 std::unique_ptr<Painter> FormPaint::Renew(int dpi) {
   auto former = std::exchange(painter_, std::make_unique<Painter>(faceplate_.Colors(), dpi));
   const auto renew = [](HBRUSH& brush, Color color) {
@@ -177,6 +186,8 @@ void FormPaint::DiscardGround() {
   ground_ = nullptr;
 }
 
+// A bitmap as large as the window. Painting it is slow and copying from it is not; the pointer over a button
+// would else paint the whole plate.
 HDC FormPaint::Ground() {
   if (ground_) return ground_;
   const HWND window = form_.Window();
@@ -191,6 +202,7 @@ HDC FormPaint::Ground() {
   return ground_;
 }
 
+// Decorations in the order of their rows: a panel stands before what lies on it.
 void FormPaint::PaintGround(const RECT& client) const {
   const Painter& painter = *painter_;
   const int groove = form_.Design().titleGroove;
@@ -210,6 +222,7 @@ void FormPaint::PaintGround(const RECT& client) const {
   PaintOutline(ground_, form_.Window(), painter, client);
 }
 
+// Most windows of controls lie at whole pixels of the form; the corner is all that is needed.
 void FormPaint::CopyGround(HDC dc, HWND control) {
   RECT box{};
   GetClientRect(control, &box);
@@ -218,6 +231,8 @@ void FormPaint::CopyGround(HDC dc, HWND control) {
   BitBlt(dc, 0, 0, box.right, box.bottom, Ground(), corner.x, corner.y, SRCCOPY);
 }
 
+// The children are cut out of the device context by WS_CLIPCHILDREN; here is what is between and around
+// them.
 void FormPaint::PaintWindow(HDC dc, const RECT& dirty) {
   const BufferedPaint buffer(dc, dirty);
   BitBlt(buffer.Dc(), dirty.left, dirty.top, dirty.right - dirty.left, dirty.bottom - dirty.top, Ground(),
@@ -237,6 +252,8 @@ int FormPaint::DialOffset(const ControlInstance& tab) const {
   return 0;
 }
 
+// The text, what is pressed and what is checked are asked of the control at every painting: the system and
+// other programs change them too.
 ButtonPicture FormPaint::PictureOf(const ControlInstance& item) const {
   ButtonPicture picture;
   picture.kind = item.KindOf();
@@ -273,6 +290,7 @@ void FormPaint::PaintControl(const ControlInstance& item, HDC dc, const RECT& bo
   }
 }
 
+// A control without a window is part of the ground, which is then painted anew.
 void FormPaint::Repaint(const ControlInstance& item) {
   const HWND window = form_.Window();
   if (window && !IsWindowVisible(window)) {
@@ -287,6 +305,7 @@ void FormPaint::Repaint(const ControlInstance& item) {
   }
 }
 
+// A disabled edit gets a static control's message. An open list has no disabled look: it cannot be opened.
 LRESULT FormPaint::ColorControl(UINT message, HDC dc, HWND control, const ControlInstance* item) const {
   const FaceplateColors& colors = painter_->Colors();
   const bool enabled = IsWindowEnabled(control) != FALSE;

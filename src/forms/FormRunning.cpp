@@ -43,11 +43,14 @@ class OtherFormsDisabled {
 
 // An empty dialog of the form's own class: the system then gives it the dialog keyboard, default button and
 // the restoring of the focus. Size and place are set afterwards, in pixels.
+// The layout is the system's: DLGTEMPLATE, then three texts that end with 0.
 struct EmptyDialog {
   DLGTEMPLATE head{};
   std::array<wchar_t, 64> texts{};  // no menu, class name, no caption
 };
 
+// Once for each design; a class stays registered as long as the process runs. The name is how other programs
+// find the window. 32512 is the arrow, which the headers know only as a narrow text.
 void RegisterFormClass(const wchar_t* name, WNDPROC procedure) {
   WNDCLASSEXW description{};
   description.cbSize = sizeof(description);
@@ -80,6 +83,7 @@ PixelRect PlaceOf(HWND window) {
 
 }  // namespace
 
+// The parts know the form from the beginning and use it only while it has a window.
 FormWindow::FormWindow(Form& form, FormContext& context, const FormDesign& design)
     : form_(&form),
       context_(context),
@@ -96,6 +100,7 @@ FormWindow::~FormWindow() {
   Destroy();
 }
 
+// A form can be opened again and again; each time it begins as its design says.
 bool FormWindow::Create(HWND owner) {
   if (IsOpen()) return true;
   Destroy();  // a closed window that waits for its last handler to return
@@ -108,6 +113,7 @@ bool FormWindow::Create(HWND owner) {
   return BuildWindow(owner ? GetAncestor(owner, GA_ROOT) : nullptr);
 }
 
+// The dpi is chosen for the owner's monitor before there is a window to ask.
 bool FormWindow::BuildWindow(HWND owner) {
   const std::wstring name = Widen(design_.name);
   RegisterFormClass(name.c_str(), Procedure);
@@ -131,6 +137,8 @@ bool FormWindow::BuildWindow(HWND owner) {
   return window_ != nullptr;
 }
 
+// Controls first, then their fonts and places, then the program's own OnLoad, which already sees everything
+// where it will be. An exception in OnLoad ends the window.
 void FormWindow::Load() {
   KeepSystemFromScaling(window_);
   SetWindowTextW(window_, Widen(TextOf(design_.caption)).c_str());
@@ -140,6 +148,7 @@ void FormWindow::Load() {
   form_->OnLoad();
 }
 
+// OnLoad may have closed the form again; then there is nothing to show.
 void FormWindow::Show(HWND owner) {
   if (!Create(owner) || !window_) return;
   if (!placed_) CentreOn(owner);
@@ -158,6 +167,8 @@ void FormWindow::Hide() const {
   if (window_) ShowWindow(window_, SW_HIDE);
 }
 
+// Messages of all windows are delivered meanwhile. Before the window goes the others are enabled again: the
+// system would otherwise activate a window of another program.
 int FormWindow::ShowModal(HWND owner) {
   // A window that the user can close meanwhile would take the one that it owns with it.
   const FormWindow* owning = owner ? FormWindow::Of(GetAncestor(owner, GA_ROOT)) : nullptr;
@@ -177,6 +188,8 @@ int FormWindow::ShowModal(HWND owner) {
   return result_;
 }
 
+// Ends when the form is closing or its window was destroyed with its owner. WM_QUIT ends all loops, from the
+// innermost outwards.
 void FormWindow::RunModalLoop() {
   MSG message{};
   while (!closing_ && window_) {
@@ -187,6 +200,7 @@ void FormWindow::RunModalLoop() {
   }
 }
 
+// Three ways, after who waits: a modal loop, a handler that must return first, or nobody.
 void FormWindow::Close(int result) {
   if (!IsOpen()) return;
   closing_ = true;
@@ -208,6 +222,8 @@ void FormWindow::Destroy() const {
   if (window_) DestroyWindow(window_);
 }
 
+// After the last message. The rows of the controls stay, without windows: the call that brought the end may
+// be one of theirs.
 void FormWindow::Forget() {
   SetWindowLongPtrW(window_, GWLP_USERDATA, 0);
   window_ = nullptr;
@@ -216,6 +232,7 @@ void FormWindow::Forget() {
   controls_.Forget();
 }
 
+// A place that was kept from an earlier run may be on a screen that is not there any more.
 void FormWindow::MoveToPixels(int left, int top) {
   if (!window_) return;
   const PixelRect box = PlaceOf(window_);
@@ -224,6 +241,7 @@ void FormWindow::MoveToPixels(int left, int top) {
   SetWindowPos(window_, nullptr, place.left, place.top, 0, 0, SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
 }
 
+// A hidden or minimised window has no middle that a user could see.
 void FormWindow::CentreOn(HWND other) {
   if (!window_) return;
   const PixelRect box = PlaceOf(window_);
@@ -242,6 +260,8 @@ void FormWindow::ChooseDpi(HMONITOR monitor) {
       paint_.Renew(FittingDpi(controls_.Size(), {room.Width(), room.Height()}, DpiOfMonitor(monitor))));
 }
 
+// The controls' places follow from the size, the size from the dpi, the dpi perhaps from the room: a form
+// that would not fit its screen is made smaller as a whole.
 void FormWindow::UseDpi(int dpi, Fit fit) {
   const PixelRect room = WorkAreaOf(window_);
   const int fitting =
@@ -258,6 +278,8 @@ void FormWindow::Resize() {
   const PixelSize made = ScaleToDpi(OutlineSizeOf(design_, layout), dpi);
   const PixelSize size = ScaleToDpi(controls_.Size(), dpi);
   SetWindowPos(window_, nullptr, 0, 0, size.width, size.height, SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
+  // The outline of the size before would cut off what the new one adds, also where the point file has no
+  // outline.
   RECT shaped{};
   if (GetWindowRgnBox(window_, &shaped) != ERROR) SetWindowRgn(window_, nullptr, FALSE);
   ApplyWindowShape(window_, OutlineOf(design_, layout), context_.shape, dpi, {made.width, made.height});

@@ -28,12 +28,16 @@ POINT PointOf(LPARAM lParam) {
 
 }  // namespace
 
+// By the procedure and not by the class: each design has a window class of its own. A window of another
+// thread is not looked into, its form may be ending there.
 FormWindow* FormWindow::Of(HWND window) {
   if (!window || GetWindowThreadProcessId(window, nullptr) != GetCurrentThreadId()) return nullptr;
   if (GetWindowLongPtrW(window, GWLP_WNDPROC) != reinterpret_cast<LONG_PTR>(&Procedure)) return nullptr;
   return reinterpret_cast<FormWindow*>(GetWindowLongPtrW(window, GWLP_USERDATA));
 }
 
+// Before the window knows its form, and after it has forgotten it, messages go to the dialog's default:
+// creating and destroying both send some.
 LRESULT CALLBACK FormWindow::Procedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam) noexcept {
   return Guarded(0, [&]() -> LRESULT {
     auto* form = reinterpret_cast<FormWindow*>(GetWindowLongPtrW(window, GWLP_USERDATA));
@@ -49,6 +53,7 @@ LRESULT CALLBACK FormWindow::Procedure(HWND window, UINT message, WPARAM wParam,
   });
 }
 
+// The one place where messages are told apart; what each comes to stands in the functions below.
 LRESULT FormWindow::HandleMessage(UINT message, WPARAM wParam, LPARAM lParam) {
   LRESULT answer = 0;
   if (form_ && form_->OnMessage(message, wParam, lParam, answer)) return answer;
@@ -108,6 +113,8 @@ LRESULT FormWindow::HandleKeyboard(UINT message, WPARAM wParam, LPARAM lParam) {
     case WM_NEXTDLGCTL:
       keys_.UpdateTabStops();
       break;
+    // SC_KEYMENU is Alt alone, or Alt with a letter that no control has; the low four bits are the system's
+    // own.
     case WM_SYSCOMMAND:
       if ((wParam & 0xFFF0) != SC_KEYMENU) break;
       // The system would walk along a menu bar that is not there, and draw its picture into the window's
@@ -122,6 +129,7 @@ LRESULT FormWindow::HandleKeyboard(UINT message, WPARAM wParam, LPARAM lParam) {
   return DefDlgProcW(window_, message, wParam, lParam);
 }
 
+// Close, then WM_DESTROY and WM_NCDESTROY. A window can also be destroyed from outside, with its owner.
 LRESULT FormWindow::HandleEnd(UINT message, WPARAM wParam, LPARAM lParam) {
   switch (message) {
     case WM_CLOSE:
@@ -142,6 +150,8 @@ LRESULT FormWindow::HandleEnd(UINT message, WPARAM wParam, LPARAM lParam) {
   }
 }
 
+// WM_COMMAND comes from a control (lParam is its window), from a menu, from the dialog keyboard, and from
+// other programs that work the window by its numbers.
 LRESULT FormWindow::HandleCommand(WPARAM wParam, LPARAM lParam) {
   const int id = LOWORD(wParam);
   const int code = HIWORD(wParam);
@@ -182,6 +192,8 @@ void FormWindow::HandleCombo(const ControlInstance& item, int code) {
   }
 }
 
+// The common controls tell what happened by WM_NOTIFY. The controls with a class of their own read theirs
+// themselves.
 LRESULT FormWindow::HandleNotice(NMHDR& notice) {
   const ControlInstance* item = controls_.Find(notice.hwndFrom);
   if (!item) return 0;
@@ -200,6 +212,8 @@ LRESULT FormWindow::HandleNotice(NMHDR& notice) {
   return 0;
 }
 
+// What the system asks of an owner of drawn controls: sizes, pictures, colours. The answers to
+// WM_CTLCOLOR... are brushes, which stay this form's.
 LRESULT FormWindow::HandleDrawing(UINT message, WPARAM wParam, LPARAM lParam) {
   switch (message) {
     case WM_ERASEBKGND:
@@ -232,6 +246,8 @@ LRESULT FormWindow::HandleDrawing(UINT message, WPARAM wParam, LPARAM lParam) {
   }
 }
 
+// A press on the background or a label drags the form. The glass around an edit is painted by the form but
+// belongs to the edit for the user.
 LRESULT FormWindow::HandlePointer(UINT message, WPARAM wParam, LPARAM lParam) {
   if (message == WM_RBUTTONUP || message == WM_MBUTTONUP) {
     if (!moving_) return DefDlgProcW(window_, message, wParam, lParam);
@@ -264,6 +280,8 @@ void FormWindow::Drag() {
   if (form_ && !EqualRect(&before, &after)) form_->OnMoved();
 }
 
+// Lists and trees raise the event themselves, since they know the row. lParam is -1 when it was the
+// keyboard.
 LRESULT FormWindow::HandleContextMenu(HWND control, LPARAM lParam) {
   const ControlInstance* item = controls_.Find(control);
   if (!item || item->view) return 0;
@@ -277,6 +295,8 @@ LRESULT FormWindow::HandleContextMenu(HWND control, LPARAM lParam) {
   return 0;
 }
 
+// Screens, colours and themes change while the program runs. WM_SETTINGCHANGE comes for hundreds of
+// settings, of which only high contrast matters here.
 LRESULT FormWindow::HandleSurroundings(UINT message, WPARAM wParam, LPARAM lParam) {
   if (message == WM_DPICHANGED) {
     const RECT& suggested = *reinterpret_cast<const RECT*>(lParam);
@@ -307,6 +327,8 @@ FormWindow::Binding FormWindow::BindingOf(int id, FormEvent::Kind kind) const {
   return {};
 }
 
+// A handler may close the form. Nothing of it may be used afterwards but what Close leaves: the caller gets
+// only whether there was a handler.
 bool FormWindow::Handle(const FormEvent& event) {
   if (event.id == 0) return false;
   const auto [target, row] = BindingOf(event.id, event.kind);
@@ -319,6 +341,7 @@ bool FormWindow::Handle(const FormEvent& event) {
   return true;
 }
 
+// The number of a timer is that of its row in the timer table.
 void FormWindow::RunTimer(int id) const {
   if (!form_) return;
   for (const TimerRow& row : form_->Timers()) {
@@ -326,6 +349,8 @@ void FormWindow::RunTimer(int id) const {
   }
 }
 
+// Also the way of keys and menus to a control. A number without a control is a command of a menu. A control
+// that cannot be pressed, and that nobody listens to, takes the focus: that is what a key for an edit means.
 void FormWindow::Press(int id) {
   const ControlInstance* item = controls_.Find(id);
   if (!item) {

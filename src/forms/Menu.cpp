@@ -23,6 +23,7 @@ std::string MenuText(std::string_view text) {
   return out;
 }
 
+// Commands are unique in a menu; 0 is every separator's.
 const MenuEntry* FindEntry(const MenuEntries& entries, int command) {
   for (const MenuEntry& entry : entries) {
     if (entry.command == command && command != 0) return &entry;

@@ -15,6 +15,7 @@ bool SendWheelToPointer(HWND form, MSG& message) {
   return true;
 }
 
+// Modal forms nest; the one that is enabled waits for the user, the others wait for it.
 BOOL CALLBACK FindModal(HWND window, LPARAM found) {
   const FormWindow* form = FormWindow::Of(window);
   if (!form || !form->IsModal() || !IsWindowEnabled(window)) return TRUE;
@@ -29,6 +30,8 @@ BOOL CALLBACK RefreshForm(HWND window, LPARAM) {
 
 }  // namespace
 
+// Runs before the message's own window gets it. A window may be gone after any of the steps, so the last
+// ones look first.
 bool TranslateFormMessage(MSG& message) {
   const HWND root = message.hwnd ? GetAncestor(message.hwnd, GA_ROOT) : nullptr;
   FormWindow* form = FormWindow::Of(root);
@@ -55,12 +58,14 @@ void DeliverMessage(MSG& message) {
   DispatchMessageW(&message);
 }
 
+// GetMessage also returns -1, for a window that is gone: that ends the loop, it would come again and again.
 int RunMessageLoop() {
   MSG message{};
   while (GetMessageW(&message, nullptr, 0, 0) > 0) DeliverMessage(message);
   return static_cast<int>(message.wParam);
 }
 
+// Handlers run within this call. It is for the start, which shows its progress between two steps.
 void RunWaitingMessages() {
   MSG message{};
   while (PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE)) {

@@ -5,6 +5,7 @@
 namespace sonaro {
 namespace {
 
+// What all screens have on systems without a resolution for each.
 int SystemDpi() {
   const HDC screen = GetDC(nullptr);
   const int dpi = GetDeviceCaps(screen, LOGPIXELSX);
@@ -36,11 +37,13 @@ int DpiOfMonitor(HMONITOR monitor) {
   return SystemDpi();
 }
 
+// The nearest one also for a window that is off all screens, or minimised.
 HMONITOR MonitorOf(HWND window) {
   if (window) return MonitorFromWindow(window, MONITOR_DEFAULTTONEAREST);
   return MonitorFromPoint({0, 0}, MONITOR_DEFAULTTOPRIMARY);
 }
 
+// Without the task bar, wherever the user has put it.
 PixelRect WorkAreaOf(HWND window) {
   MONITORINFO info{};
   info.cbSize = sizeof(info);
@@ -54,6 +57,7 @@ std::vector<PixelRect> WorkAreas() {
   return areas;
 }
 
+// The system keeps a high-contrast theme's name when it is off; only the flag counts.
 void FollowHighContrast(Faceplate& faceplate) {
   HIGHCONTRASTW contrast{};
   contrast.cbSize = sizeof(contrast);
@@ -68,6 +72,7 @@ void FollowHighContrast(Faceplate& faceplate) {
   });
 }
 
+// SetWindowRgn takes the region over when it succeeds; else it stays ours to delete.
 bool ApplyWindowShape(HWND window, std::string_view key, const Shape& shape, int dpi, OutlineSize made) {
   const Shape::Result found = shape.OutlineOf(key, TwipsPerPixel::OfDpi(dpi));
   if (found.status == Shape::Status::NoFile) return false;

@@ -16,11 +16,14 @@ int MiddleOf(const ControlInstance& tab) { return (tab.place.left + tab.place.ri
 
 }  // namespace
 
+// Nothing slides while the form is being built, while it is hidden, or when the user has switched animations
+// off: the needle then stands at once where it belongs.
 void TabNeedle::MoveTo(const ControlInstance& tab) {
   if (tab_ == tab.Id()) return;
   const ControlInstance* before = form_.Controls().Find(tab_);
   tab_ = tab.Id();
   if (!before || !IsWindowVisible(form_.Window()) || !SystemAnimates()) return Stop();
+  // From where it is: another tab can be chosen while it is on its way.
   if (!at_) at_ = MiddleOf(*before);
   slide_ = {*at_, MiddleOf(tab)};
   SetTimer(form_.Window(), kNeedleTimer, NeedleSlide::kFrame, nullptr);
@@ -33,11 +36,13 @@ void TabNeedle::Stop() {
   KillTimer(form_.Window(), kNeedleTimer);
 }
 
+// The timer went with the window.
 void TabNeedle::Forget() {
   tab_ = 0;
   at_.reset();
 }
 
+// All tabs: the needle crosses those between, and each paints the piece of it that lies on it.
 bool TabNeedle::Step(WPARAM timer) {
   if (timer != kNeedleTimer) return false;
   const std::uint64_t now = GetTickCount64();

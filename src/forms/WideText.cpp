@@ -14,6 +14,7 @@ std::wstring Widen(std::string_view text) {
   return wide;
 }
 
+// Characters that the code page lacks become "?"; with UTF-8 that are only halves of surrogate pairs.
 std::string Narrow(std::wstring_view text) {
   const int length = static_cast<int>(text.size());
   const int count = WideCharToMultiByte(CP_ACP, 0, text.data(), length, nullptr, 0, nullptr, nullptr);
@@ -31,6 +32,7 @@ std::wstring TextOfWindow(HWND window) {
   return text;
 }
 
+// "&&" stands for one "&", and an "&" at the end for itself.
 std::wstring WithoutAccessKey(std::wstring_view caption) {
   std::wstring words;
   for (std::size_t i = 0; i < caption.size(); ++i) {
@@ -49,6 +51,7 @@ std::string StringTable::Load(int id) const {
   return Narrow({text, static_cast<std::size_t>(length)});
 }
 
+// As UTF-16: the system makes the other formats from it for programs that ask for them.
 bool CopyToClipboard(HWND owner, std::string_view text) {
   const std::wstring wide = Widen(text);
   const std::size_t bytes = (wide.size() + 1) * sizeof(wchar_t);

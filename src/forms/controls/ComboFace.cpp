@@ -10,11 +10,14 @@
 namespace sonaro {
 namespace {
 
+// 96-dpi pixels; the rows of the open list are as high as those of a list.
 constexpr int kDropZone = 24;
 constexpr int kTextInset = 8;
 constexpr int kRowHeight = 22;
 constexpr int kRowsShown = 12;
 
+// The edit field and the open list of a combo have no numbers; the system gives their windows by this call
+// only.
 COMBOBOXINFO InfoOf(HWND combo) {
   COMBOBOXINFO info{};
   info.cbSize = sizeof(info);
@@ -30,6 +33,8 @@ RECT TextPlace(HWND combo, const Painter& painter) {
           box.bottom - painter.Line()};
 }
 
+// The system puts the edit field back to its own place after every change of size or font. A list without an
+// edit field has none.
 void PlaceEdit(HWND combo, const Painter& painter) {
   const HWND edit = InfoOf(combo).hwndItem;
   if (!edit || edit == combo) return;
@@ -41,6 +46,8 @@ void PlaceEdit(HWND combo, const Painter& painter) {
   SendMessageW(edit, EM_SETMARGINS, EC_LEFTMARGIN | EC_RIGHTMARGIN, 0);
 }
 
+// The whole closed combo, in place of what the class would paint: frame, text, divider, arrow. In a combo
+// with an edit field the text is the field's.
 void PaintFace(const Painter& painter, const ControlInstance& item, HDC dc) {
   const FaceplateColors& colors = painter.Colors();
   const bool enabled = IsWindowEnabled(item.window) != FALSE;
@@ -68,6 +75,7 @@ void PaintFace(const Painter& painter, const ControlInstance& item, HDC dc) {
   }
 }
 
+// The frame of the open list is not its client area; the system paints it in its own colour just before.
 void PaintFrameOfList(const Painter& painter, HWND list) {
   const HDC dc = GetWindowDC(list);
   RECT box{};
@@ -117,6 +125,8 @@ std::wstring ComboRowText(HWND combo, int row) {
   return text;
 }
 
+// What the class draws by itself, in its own look, at once and outside of WM_PAINT, is painted over by
+// asking for a WM_PAINT after it.
 LRESULT HandleComboMessage(const ControlInstance& item, UINT message, WPARAM wParam, LPARAM lParam) {
   const HWND combo = item.window;
   if (message == WM_ERASEBKGND) return 1;
@@ -158,6 +168,7 @@ LRESULT HandleComboMessage(const ControlInstance& item, UINT message, WPARAM wPa
   return answer;
 }
 
+// The list is a window of the desktop, not of the form, and gets none of the form's messages.
 void AttachCombo(const ControlInstance& item) {
   const COMBOBOXINFO info = InfoOf(item.window);
   if (!info.hwndList) return;

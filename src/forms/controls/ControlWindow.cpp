@@ -10,6 +10,7 @@ bool IsDrawn(ControlKind kind) {
   return IsText(kind) || IsButton(kind) || IsCheck(kind) || kind == ControlKind::Picture;
 }
 
+// The system tells when the pointer goes only on request, once for each.
 void TrackPointer(ControlInstance& item, FormWindow& form) {
   if (item.hover) return;
   item.hover = true;
@@ -18,6 +19,7 @@ void TrackPointer(ControlInstance& item, FormWindow& form) {
   form.Paint().Repaint(item);
 }
 
+// For the classes that have no owner drawing: check boxes, radio buttons and the toggles made of them.
 void PaintInWindow(FormWindow& form, const ControlInstance& item) {
   PAINTSTRUCT paint{};
   const HDC dc = BeginPaint(item.window, &paint);
@@ -43,6 +45,8 @@ bool ChangesAppearance(UINT message) {
   }
 }
 
+// An edit paints itself, in the colours of WM_CTLCOLOREDIT; what changes with it is the glass around it,
+// which is the form's.
 void AfterChange(FormWindow& form, const ControlInstance& item, UINT message) {
   if (IsDrawn(item.KindOf())) {
     form.Paint().Repaint(item);
@@ -60,6 +64,7 @@ void AfterChange(FormWindow& form, const ControlInstance& item, UINT message) {
   }
 }
 
+// Before the class: what it must not do. After it: what the form has to do about it.
 LRESULT HandleControlMessage(FormWindow& form, ControlInstance& item, UINT message, WPARAM wParam,
                              LPARAM lParam) {
   const HWND window = item.window;
@@ -104,6 +109,9 @@ LRESULT HandleControlMessage(FormWindow& form, ControlInstance& item, UINT messa
   return answer;
 }
 
+// The row lives as long as the window: rows are never moved, and those of a closed form stay until the next
+// one is built. At the last message the form may be half gone, and the class's own work is all there is to
+// do.
 LRESULT CALLBACK ControlProcedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam) noexcept {
   return Guarded(0, [&]() -> LRESULT {
     auto& item = *reinterpret_cast<ControlInstance*>(GetWindowLongPtrW(window, GWLP_USERDATA));

@@ -32,6 +32,7 @@ T& ViewOf(const ControlInstance* item) {
 
 }  // namespace
 
+// Looked up in the design, not among the windows: the form is not open yet when its members are made.
 ControlHandle::ControlHandle(Form& form, int id, std::initializer_list<ControlKind> kinds)
     : form_(&form), id_(id) {
   for (const ControlRow& row : form.Description().controls) {
@@ -97,6 +98,8 @@ std::string TextControl::Text() const {
   return window ? Narrow(TextOfWindow(window)) : std::string();
 }
 
+// Compared first, since setting the same text again would move an edit's caret to its start, and have a
+// screen reader say a state again.
 void TextControl::SetText(std::string_view text) const {
   const HWND window = Window();
   if (!window) return;
@@ -125,6 +128,7 @@ void ColumnButton::SetSortMark(SortMark mark) const {
   Change(Inside(), Item(), &ControlInstance::sort, mark);
 }
 
+// The state is the system's check mark, so that a screen reader says it. The dial's needle follows the tab.
 void ActiveControl::SetActive(bool active) const {
   if (IsActive() == active) return;
   Send(BM_SETCHECK, active ? BST_CHECKED : BST_UNCHECKED);
@@ -141,6 +145,7 @@ void GroupButton::SetEmptySocket(bool empty) const {
 void CheckBox::Check(bool checked) const { Send(BM_SETCHECK, checked ? BST_CHECKED : BST_UNCHECKED); }
 bool CheckBox::IsChecked() const { return Send(BM_GETCHECK) == BST_CHECKED; }
 
+// The system clears the others only when the user clicks.
 void RadioButton::Check() const {
   const ControlInstance* item = Item();
   if (!item) return;
@@ -154,6 +159,7 @@ bool RadioButton::IsChecked() const { return Send(BM_GETCHECK) == BST_CHECKED; }
 void Edit::Limit(int bytes) const { Send(EM_LIMITTEXT, static_cast<WPARAM>(bytes)); }
 void Edit::SelectAll() const { Send(EM_SETSEL, 0, -1); }
 
+// The number goes with the text, since the order on the screen may be another than the program's.
 void ComboBox::AddItem(std::string_view text, int data) const {
   const LRESULT row = Send(CB_ADDSTRING, 0, reinterpret_cast<LPARAM>(Widen(text).c_str()));
   Send(CB_SETITEMDATA, static_cast<WPARAM>(row), data);
@@ -177,6 +183,7 @@ std::string ComboBox::ItemText(int row) const {
   return window ? Narrow(ComboRowText(window, row)) : std::string();
 }
 
+// For a row that is not there the system answers -1, which would be a number like any other.
 int ComboBox::ItemData(int row) const {
   if (row < 0 || row >= ItemCount()) return 0;
   return static_cast<int>(Send(CB_GETITEMDATA, static_cast<WPARAM>(row)));
@@ -184,6 +191,7 @@ int ComboBox::ItemData(int row) const {
 
 int ComboBox::SelectedItem() const { return Window() ? static_cast<int>(Send(CB_GETCURSEL)) : -1; }
 
+// Row -1 clears the selection; the system reports that as an error, and it is none.
 void ComboBox::SelectItem(int row) const {
   const ControlSet::Quiet quiet(Inside().Controls());
   Send(CB_SETCURSEL, static_cast<WPARAM>(row));

@@ -14,6 +14,8 @@ namespace sonaro {
 
 namespace {
 
+// What is selected stays to be seen while the list has no focus. The column names are
+// there for screen readers only; buttons of the form stand where the system's header would.
 constexpr DWORD kListStyle =
     LVS_REPORT | LVS_OWNERDATA | LVS_SINGLESEL | LVS_SHOWSELALWAYS | LVS_NOCOLUMNHEADER;
 constexpr int kAllRows[] = {-1};
@@ -29,6 +31,7 @@ int ListModel::FindRow(const std::string& start, int from) const {
   return -1;
 }
 
+// Messages begin to reach the class at Attach; what they use is made before.
 ListView::ListView(HWND form, int id, FormServices& services)
     : ScrolledView(form, id, services, WC_LISTVIEWW, kListStyle) {
   ListView_SetExtendedListViewStyle(Window(), LVS_EX_DOUBLEBUFFER | LVS_EX_FULLROWSELECT);
@@ -37,11 +40,13 @@ ListView::ListView(HWND form, int id, FormServices& services)
   UseRowHeight();
 }
 
+// The system's list may still ask for rows while its window goes, so messages are cut off first.
 ListView::~ListView() {
   Detach();
   if (rowHeight_ != nullptr) ImageList_Destroy(rowHeight_);
 }
 
+// The widths are set by PlaceColumns, which knows the place; 10 is anything but 0.
 void ListView::SetColumns(std::vector<Column> columns) {
   while (ListView_DeleteColumn(Window(), 0)) {
   }
@@ -83,6 +88,9 @@ void ListView::UseRowHeight() {
   rowHeight_ = fresh;
 }
 
+// The count goes by a call that keeps the scroll position: without the flag the list jumps to its top, which
+// a change of one row must not do. With redrawing switched off nothing is painted from a model that is ahead
+// of the count.
 void ListView::RowsChanged() {
   SendMessageW(Window(), WM_SETREDRAW, FALSE, 0);
   hover_ = -1;
@@ -96,6 +104,7 @@ void ListView::RowsChanged() {
 int ListView::FocusedRow() const { return ListView_GetNextItem(Window(), -1, LVNI_FOCUSED); }
 
 int ListView::Selected() const {
+  // The search for a selected row asks for each one; in 40,000 rows that is felt.
   const int focused = FocusedRow();  // nearly always the one, and found at once
   if (focused >= 0 && (ListView_GetItemState(Window(), focused, LVIS_SELECTED) & LVIS_SELECTED) != 0)
     return focused;
@@ -170,6 +179,8 @@ void ListView::Select(int row) {
   SyncScrollBar();
 }
 
+// The keys begin from the row that has the focus mark; without one the first arrow key would do nothing but
+// set it.
 void ListView::SelectNone() {
   Select(-1);
   if (ListView_GetItemCount(Window()) == 0) return;
@@ -182,6 +193,8 @@ void ListView::SelectNone() {
 
 void ListView::RepaintRows() { Repaint(); }
 
+// What lies right of
+// the width that is seen is the hidden native scroll bar.
 int ListView::RowAt(POINT screen) const {
   ScreenToClient(Window(), &screen);
   if (screen.x < 0 || screen.x >= Width()) return -1;
@@ -196,6 +209,8 @@ RECT ListView::RowBox(int row) const {
   return box;
 }
 
+// The system's box is as wide as the columns, which leave out what the bar covers; a row is painted from
+// edge to edge.
 RECT ListView::ItemBox(int row) const {
   RECT box{};
   ListView_GetItemRect(Window(), row, &box, LVIR_BOUNDS);
@@ -215,6 +230,8 @@ void ListView::ThemeChanged() {
   ScrolledView::ThemeChanged();
 }
 
+// Edges are scaled, not widths, so that the columns meet their header buttons at every dpi. The last one
+// takes what is left.
 void ListView::PlaceColumns() {
   edges_.clear();
   const int bar = BarWidth();
@@ -230,6 +247,7 @@ void ListView::PlaceColumns() {
   }
 }
 
+// The bar comes and goes with the rows; the last column gets narrower and the cells must be cut anew.
 void ListView::SyncScrollBar() {
   const bool had = HasBar();
   const int total = model_ != nullptr ? model_->RowCount() : 0;
@@ -240,6 +258,7 @@ void ListView::SyncScrollBar() {
   }
 }
 
+// A report list scrolls by pixels, whole rows of them.
 void ListView::ScrollTo(int first) {
   const RECT row = ItemBox(0);
   ListView_Scroll(Window(), 0, (first - ListView_GetTopIndex(Window())) * (row.bottom - row.top));
@@ -411,6 +430,8 @@ void ListView::ItemChanged(const NMLISTVIEW& change) {
   }
 }
 
+// Called for every cell that is painted or read out. The list may still ask for rows that the model no
+// longer has, between a change of the model and RowsChanged.
 void ListView::OnGetDispInfo(NMLVDISPINFOW& info) const {
   if ((info.item.mask & LVIF_TEXT) == 0 || info.item.pszText == nullptr || info.item.cchTextMax <= 0) return;
   std::wstring text;
@@ -422,6 +443,8 @@ void ListView::OnGetDispInfo(NMLVDISPINFOW& info) const {
   info.item.pszText[length] = L'\0';
 }
 
+// Typing letters goes to the row that begins with them. In owner-data mode only the owner of the rows can
+// look.
 LRESULT ListView::FindTyped(const NMLVFINDITEMW& find) const {
   if (model_ == nullptr || (find.lvfi.flags & (LVFI_STRING | LVFI_PARTIAL)) == 0 || find.lvfi.psz == nullptr)
     return -1;

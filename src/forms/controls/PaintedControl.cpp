@@ -7,6 +7,7 @@
 
 namespace sonaro {
 
+// A class of the system, so that screen readers know what it is; only its painting is taken over.
 PaintedControl::PaintedControl(HWND form, int id, FormServices& services, const Design& design,
                                const wchar_t* text)
     : services_(services), overhang_(design.overhang) {
@@ -16,12 +17,15 @@ PaintedControl::PaintedControl(HWND form, int id, FormServices& services, const 
   SetWindowSubclass(window_, Procedure, kSubclassId, reinterpret_cast<DWORD_PTR>(this));
 }
 
+// When the form's window is gone, this one is gone with it.
 PaintedControl::~PaintedControl() {
   if (!IsWindow(window_)) return;
   RemoveWindowSubclass(window_, Procedure, kSubclassId);
   DestroyWindow(window_);
 }
 
+// Wider than its place where a needle or a name stands out; the ground that it copies is the form's, so
+// nobody sees where it ends.
 void PaintedControl::MoveTo(const RECT& place) {
   const int overhang = Theme().Px(overhang_);
   SetWindowPos(window_, nullptr, place.left - overhang, place.top, place.right - place.left + 2 * overhang,
@@ -49,6 +53,7 @@ LRESULT CALLBACK PaintedControl::Procedure(HWND window, UINT message, WPARAM wPa
   });
 }
 
+// In memory first: ground and picture come to the screen in one step, without flicker.
 void PaintedControl::Paint() {
   PAINTSTRUCT paint{};
   const HDC dc = BeginPaint(window_, &paint);

@@ -18,11 +18,14 @@ constexpr int kNeedleLead = 3;  // of the triangle left of the bar, which may st
 
 }  // namespace
 
+// The range is the control's own and never changes, so that its value reads as parts of a thousand whatever
+// is being counted.
 ProgressScale::ProgressScale(HWND form, int id, FormServices& services)
     : PaintedControl(form, id, services, {.windowClass = PROGRESS_CLASSW, .overhang = kNeedleLead}, L"") {
   SendMessageW(Window(), PBM_SETRANGE32, 0, kSteps);
 }
 
+// By MulDiv, which multiplies in 64 bits: steps may be bytes of a download.
 void ProgressScale::SetProgress(int done, int total) {
   const int value = total <= 0 ? 0 : MulDiv(std::clamp(done, 0, total), kSteps, total);
   SendMessageW(Window(), PBM_SETPOS, static_cast<WPARAM>(value), 0);
@@ -34,6 +37,7 @@ void ProgressScale::SetPitch(int design) {
   Repaint();
 }
 
+// The last needle position is the last tick, not the place after it. Every fifth tick is taller.
 void ProgressScale::PaintOn(HDC dc, const RECT& box) const {
   const Painter& theme = Theme();
   const FaceplateColors& colors = theme.Colors();

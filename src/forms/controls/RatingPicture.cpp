@@ -15,6 +15,7 @@ constexpr int kCaptionOverhang = 2;  // the name may be a little wider than the 
 
 }  // namespace
 
+// Until there is a rating, the name alone is what a screen reader says.
 RatingPicture::RatingPicture(HWND form, int id, FormServices& services, std::string_view caption)
     : PaintedControl(form, id, services,
                      {.windowClass = L"STATIC", .style = SS_NOPREFIX, .overhang = kCaptionOverhang},
@@ -28,6 +29,7 @@ void RatingPicture::SetRating(int halves, std::string_view figure, std::string_v
   Repaint();
 }
 
+// Lit and dark ticks are two pictures of one ring, each smoothed by itself; they never touch.
 void RatingPicture::PaintOn(HDC dc, const RECT& box) const {
   const Painter& theme = Theme();
   const FaceplateColors& colors = theme.Colors();

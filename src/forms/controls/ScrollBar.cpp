@@ -12,9 +12,11 @@ namespace sonaro {
 namespace {
 
 constexpr wchar_t kClass[] = L"SonaroScrollBar";
+// A held arrow or page goes on by itself.
 constexpr UINT_PTR kRepeatTimer = 1;
 constexpr UINT kFirstRepeat = 300;  // milliseconds
 constexpr UINT kNextRepeat = 50;
+// 96-dpi pixels. The thumb never gets shorter than can be taken with the mouse, however long the list.
 constexpr int kArrowDesign = 14;
 constexpr int kThumbInset = 3;
 constexpr int kThumbWidth = 7;
@@ -36,6 +38,8 @@ void RegisterOnce(WNDPROC procedure) {
 
 }  // namespace
 
+// No number: by numbers only the form's own controls are found. No tab stop either; the keys scroll in the
+// view.
 ScrollBar::ScrollBar(HWND form, FormServices& services, ScrollTarget& target)
     : services_(services), target_(target) {
   RegisterOnce(&ScrollBar::Procedure);
@@ -44,12 +48,15 @@ ScrollBar::ScrollBar(HWND form, FormServices& services, ScrollTarget& target)
   SetWindowLongPtrW(window_, GWLP_USERDATA, reinterpret_cast<LONG_PTR>(this));
 }
 
+// The form's window has usually taken the bar with it. Where it has not, the last messages must not reach
+// what is being destroyed.
 ScrollBar::~ScrollBar() {
   if (!IsWindow(window_)) return;
   SetWindowLongPtrW(window_, GWLP_USERDATA, 0);
   DestroyWindow(window_);
 }
 
+// To the top of its siblings: it lies over the view's right end and would otherwise be painted over.
 void ScrollBar::MoveTo(const RECT& place) {
   SetWindowPos(window_, HWND_TOP, place.left, place.top, place.right - place.left, place.bottom - place.top,
                SWP_NOACTIVATE);
@@ -96,6 +103,8 @@ LRESULT ScrollBar::Handle(UINT message, WPARAM wParam, LPARAM lParam) {
     case WM_LBUTTONDOWN:
       Press(at);
       return 0;
+    // The capture can also be taken away, by a message box or a switch of windows: then the button's going
+    // up never comes here.
     case WM_LBUTTONUP:
     case WM_CAPTURECHANGED:
       Release();
@@ -113,6 +122,7 @@ LRESULT ScrollBar::Handle(UINT message, WPARAM wParam, LPARAM lParam) {
       hover_ = false;
       InvalidateRect(window_, nullptr, FALSE);
       return 0;
+    // The first repeat waits longer than the next ones, so that a short press is one step.
     case WM_TIMER:
       SetTimer(window_, kRepeatTimer, kNextRepeat, nullptr);
       Step(pressed_);
@@ -137,6 +147,8 @@ void ScrollBar::Paint(HDC dc, const RECT& box) const {
   theme.DrawIcon(dc, Icon::Down, x, box.bottom - inset - icon, kArrowIcon, colors.glassMuted);
 }
 
+// As long a part of the track as the page is of all rows, but long enough to be taken. The way that is left
+// for it then stands for the rows that can be the top one.
 RECT ScrollBar::ThumbBox() const {
   const Painter& theme = services_.Theme();
   RECT box{};
@@ -162,6 +174,7 @@ ScrollBar::Zone ScrollBar::ZoneAt(POINT at) const {
   return at.y < thumb.bottom ? Zone::Thumb : Zone::PageDown;
 }
 
+// Where in the thumb it was taken stays under the pointer while it is dragged.
 void ScrollBar::Press(POINT at) {
   SetCapture(window_);
   pressed_ = ZoneAt(at);
@@ -190,6 +203,7 @@ void ScrollBar::Step(Zone zone) {
   }
 }
 
+// Rows, not pixels: the view answers with its own position, and the thumb stands where that is.
 void ScrollBar::DragTo(int y) {
   RECT box{};
   GetClientRect(window_, &box);
@@ -199,6 +213,7 @@ void ScrollBar::DragTo(int y) {
   ScrollTo(MulDiv(y - dragOffset_ - arrow, range_.total - range_.page, way));
 }
 
+// Giving the capture back sends WM_CAPTURECHANGED, which leads here again: the zone goes first.
 void ScrollBar::Release() {
   if (pressed_ == Zone::None) return;
   pressed_ = Zone::None;
@@ -207,11 +222,13 @@ void ScrollBar::Release() {
   InvalidateRect(window_, nullptr, FALSE);
 }
 
+// The bar does not move itself: the view scrolls, and tells its new range.
 void ScrollBar::ScrollTo(int first) {
   first = std::clamp(first, 0, std::max(0, range_.total - range_.page));
   if (first != range_.first) target_.ScrollTo(first);
 }
 
+// The edit tells lines and the first one in sight, but not how many fit: those come from its text rectangle.
 void LinesBar::Update(int lineHeight) {
   RECT text{};
   SendMessageW(edit_, EM_GETRECT, 0, reinterpret_cast<LPARAM>(&text));

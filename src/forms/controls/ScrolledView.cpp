@@ -5,6 +5,8 @@
 
 namespace sonaro {
 
+// The bar comes before the view's window among the members: it is there when the first message arrives, and
+// goes last.
 ScrolledView::ScrolledView(HWND form, int id, FormServices& services, const wchar_t* windowClass, DWORD style)
     : services_(services), id_(id), bar_(form, services, *this) {
   window_ =
@@ -12,10 +14,13 @@ ScrolledView::ScrolledView(HWND form, int id, FormServices& services, const wcha
                       reinterpret_cast<HMENU>(static_cast<INT_PTR>(id)), GetModuleHandleW(nullptr), nullptr);
 }
 
+// Not in the constructor: a message would call Handle of a class that is not made yet.
 void ScrolledView::Attach() {
   SetWindowSubclass(window_, &ScrolledView::Procedure, kSubclassId, reinterpret_cast<DWORD_PTR>(this));
 }
 
+// Called by the destructor of the derived class, while Handle is still its own. When the form's window was
+// destroyed, the view's went with it.
 void ScrolledView::Detach() {
   if (!IsWindow(window_)) return;
   RemoveWindowSubclass(window_, &ScrolledView::Procedure, kSubclassId);
@@ -31,6 +36,8 @@ LRESULT CALLBACK ScrolledView::Procedure(HWND window, UINT message, WPARAM wPara
   });
 }
 
+// The window is wider than its place by a native scroll bar, and cut to the place. The glass around it is
+// the form's: its line stays free.
 void ScrolledView::MoveTo(const RECT& place) {
   const int line = Theme().Line();
   const RECT inner = {place.left + line, place.top + line, place.right - line, place.bottom - line};
@@ -56,12 +63,15 @@ void ScrolledView::ThemeChanged() {
   InvalidateRect(bar_.Window(), nullptr, TRUE);
 }
 
+// The dialog keyboard asks before it takes a key. Enter belongs to the view only while it has something to
+// do with it; else it presses the primary button.
 LRESULT ScrolledView::DialogCode(WPARAM wParam, LPARAM lParam, bool takesEnter) {
   const auto* key = reinterpret_cast<const MSG*>(lParam);
   const bool enter = takesEnter && key && key->message == WM_KEYDOWN && key->wParam == VK_RETURN;
   return PassOn(WM_GETDLGCODE, wParam, lParam) | (enter ? DLGC_WANTMESSAGE : 0);
 }
 
+// The system tells of the pointer's going once for each request.
 void ScrolledView::TrackLeave() const {
   TRACKMOUSEEVENT track = {sizeof track, TME_LEAVE, window_, 0};
   TrackMouseEvent(&track);

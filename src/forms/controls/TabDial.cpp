@@ -21,6 +21,7 @@ constexpr int kHeadWidth = 11;
 constexpr int kHeadHeight = 7;
 
 // The ticks of the dial between two pixels counted from the scale's start, which lies at pixel `origin`.
+// The ticks count from the scale's start, so that a tab's stretch falls on the dial's own.
 void PaintTicks(HDC dc, int origin, int from, int to, int bottom, int width, Color color,
                 const Painter& painter) {
   const int pitch = painter.Px(kTickPitch);
@@ -53,6 +54,7 @@ void PaintDial(HDC dc, const RECT& box, const Painter& painter) {
              painter.Colors().tickOff, painter);
 }
 
+// An idle tab paints nothing of its own ground: the dial behind it is to be seen.
 void PaintTab(HDC dc, const RECT& box, const TabPicture& tab, const Painter& painter) {
   const FaceplateColors& colors = painter.Colors();
   const int start = tab.offset - painter.Px(kInset);  // of the tab on the scale

@@ -4,6 +4,8 @@
 
 namespace sonaro {
 
+// The class exists since main has initialised the common controls. Tips of a window in the background show
+// as well: a user who compares two windows gets them without a click.
 HWND MakeTips(HWND form) {
   return CreateWindowExW(WS_EX_TOPMOST, TOOLTIPS_CLASSW, nullptr, WS_POPUP | TTS_ALWAYSTIP | TTS_NOPREFIX, 0,
                          0, 0, 0, form, nullptr, GetModuleHandleW(nullptr), nullptr);
@@ -20,6 +22,7 @@ CellTip::~CellTip() {
 }
 
 void CellTip::Set(const RECT& cell, const std::wstring& text) {
+  // The pointer moves inside a cell far more often than from one to another.
   if (text == text_ && EqualRect(&cell, &cell_)) return;
   if (!tip_) tip_ = MakeTips(GetAncestor(list_, GA_ROOT));
   // A new cell is a new tool: one that was only moved would keep its tip up, or never show it again.

@@ -13,6 +13,8 @@ namespace sonaro {
 
 namespace {
 
+// Lines and marks are painted by this class, at places of its own. The system's tips would show a text where
+// it is not.
 constexpr DWORD kTreeStyle =
     TVS_HASBUTTONS | TVS_LINESATROOT | TVS_SHOWSELALWAYS | TVS_NOHSCROLL | TVS_NOTOOLTIPS;
 constexpr int kRow = 22;
@@ -39,6 +41,7 @@ TreeView::TreeView(HWND form, int id, FormServices& services)
 
 TreeView::~TreeView() { Detach(); }
 
+// A thousand nodes are added in a moment when nothing is drawn and no selection is reported meanwhile.
 void TreeView::BeginFill() {
   SendMessageW(Window(), WM_SETREDRAW, FALSE, 0);
   quiet_ = true;
@@ -51,6 +54,7 @@ void TreeView::EndFill() {
   SyncScrollBar();
 }
 
+// While the nodes go, the system selects one neighbour after the other; none of that is the user's.
 void TreeView::Clear() {
   const bool wasQuiet = std::exchange(quiet_, true);
   hover_ = nullptr;
@@ -59,6 +63,7 @@ void TreeView::Clear() {
   quiet_ = wasQuiet;
 }
 
+// The item's number is an index: pointers into the vector would not survive the next Add.
 HTREEITEM TreeView::Add(HTREEITEM parent, std::string_view text, std::string_view figure, int data) {
   std::wstring wide = Widen(text);
   TVINSERTSTRUCTW insert{};
@@ -80,6 +85,7 @@ void TreeView::SetFigure(HTREEITEM node, std::string_view figure) {
   RepaintNode(node);
 }
 
+// A node that was deleted meanwhile has no item any more, and then no number.
 const TreeView::Node* TreeView::NodeOf(HTREEITEM node) const {
   if (node == nullptr) return nullptr;
   TVITEMW item{};
@@ -108,12 +114,15 @@ void TreeView::Expand(HTREEITEM node, bool expanded) {
   SyncScrollBar();
 }
 
+// The height of the rows first: the page of the scroll bar is counted in them.
 void TreeView::MoveTo(const RECT& place) {
   TreeView_SetItemHeight(Window(), Theme().Px(kRow));
   TreeView_SetIndent(Window(), Theme().Px(kIndent));
   ScrolledView::MoveTo(place);
 }
 
+// The tree keeps its position in the native bar, which is there but never seen; when everything fits the
+// bar's style goes and its numbers are stale.
 void TreeView::SyncScrollBar() {
   SCROLLINFO info{};
   info.cbSize = sizeof info;
@@ -126,11 +135,13 @@ void TreeView::SyncScrollBar() {
   SetRange({info.nMax - info.nMin + 1, static_cast<int>(info.nPage), info.nPos});
 }
 
+// There is no call to scroll a tree; it does what its native bar asks.
 void TreeView::ScrollTo(int first) {
   SendMessageW(Window(), WM_VSCROLL, MAKEWPARAM(SB_THUMBPOSITION, first), 0);
   SyncScrollBar();
 }
 
+// Beside the text counts as well: the whole row is the node, as it is painted.
 HTREEITEM TreeView::NodeAt(POINT client) const {
   TVHITTESTINFO hit{};
   hit.pt = client;
@@ -213,6 +224,7 @@ void TreeView::Press(POINT at) {
   Raise({.kind = FormEvent::Kind::NodeClick, .node = node});
 }
 
+// A little wider than the mark is painted; it is small.
 bool TreeView::OnMark(HTREEITEM node, POINT at) const {
   if (node == nullptr || TreeView_GetChild(Window(), node) == nullptr) return false;
   const int mark = Theme().Px(kMarkInset + kIndent * LevelOf(node));
@@ -260,6 +272,7 @@ bool TreeView::OnNotify(NMHDR& notice, LRESULT& result) {
     case TVN_ITEMEXPANDEDW:
       SyncScrollBar();
       return true;
+    // Enter opens and closes, like the click on the mark, and it is a click on the node as well.
     case NM_RETURN: {
       const HTREEITEM node = Selected();
       if (node == nullptr) return true;
@@ -272,6 +285,8 @@ bool TreeView::OnNotify(NMHDR& notice, LRESULT& result) {
   }
 }
 
+// The whole row, from the ground up. The figure at the right end is measured first: the text gives way to
+// it, not the other way round.
 void TreeView::PaintNode(HDC dc, HTREEITEM node) const {
   const Painter& theme = Theme();
   const FaceplateColors& colors = theme.Colors();

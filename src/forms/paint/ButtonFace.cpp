@@ -3,6 +3,7 @@
 namespace sonaro {
 namespace {
 
+// The first link of a station is what the whole panel is for.
 bool IsPrimary(ControlKind kind, bool secondary) {
   return kind == ControlKind::PrimaryButton || (kind == ControlKind::PlayButton && !secondary);
 }
@@ -12,6 +13,7 @@ void SetFace(ButtonFace& face, Color top, Color bottom) {
   face.bottom = bottom;
 }
 
+// A strip button shows its face only under the pointer; it lies on the title strip like print.
 void PickPlain(ButtonFace& face, ControlKind kind, bool secondary, const ButtonState& state,
                const FaceplateColors& c) {
   SetFace(face, c.buttonTop, c.buttonBottom);
@@ -33,6 +35,7 @@ void PickPlain(ButtonFace& face, ControlKind kind, bool secondary, const ButtonS
   }
 }
 
+// Its focus line is drawn on the accent, on which the usual one could not be seen.
 void PickPrimary(ButtonFace& face, const ButtonState& state, const FaceplateColors& c) {
   SetFace(face, c.accentTop, c.accentBottom);
   if (state.pressed) {
@@ -56,6 +59,7 @@ void PickActive(ButtonFace& face, const ButtonState& state, const FaceplateColor
 
 }  // namespace
 
+// The first that holds decides. An empty socket does not move when it is pressed: there is nothing in it.
 ButtonFace PickButtonFace(ControlKind kind, bool secondary, const ButtonState& state,
                           const FaceplateColors& c) {
   ButtonFace face;

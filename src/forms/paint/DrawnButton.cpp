@@ -9,6 +9,7 @@
 namespace sonaro {
 namespace {
 
+// 96-dpi pixels that the corners of the buttons are cut by.
 constexpr int kCut = 5;
 constexpr int kPlayCut = 7;
 
@@ -40,6 +41,7 @@ struct Canvas {
   }
 };
 
+// The milled line leaves out the corner that is cut.
 void PaintShape(const Canvas& c, int cut) {
   if (!c.face.hasFace) return;
   c.painter.CutShape(c.dc, c.box, cut, c.face.top, c.face.bottom, c.face.edge);
@@ -50,6 +52,7 @@ void PaintShape(const Canvas& c, int cut) {
       c.face.milledLine);
 }
 
+// Inside the edge, with corners cut along.
 void PaintFocus(const Canvas& c, int cut) {
   if (!c.button.focused) return;
   RECT inner = c.box;
@@ -97,6 +100,7 @@ void PaintStripButton(const Canvas& c) {
   PaintFocus(c, c.Px(kCut));
 }
 
+// The bar at the left edge is the needle of the lists, and says the same: this one.
 void PaintRankingButton(const Canvas& c) {
   PaintShape(c, c.Px(kCut));
   if (c.button.state.active) {
@@ -109,6 +113,7 @@ void PaintRankingButton(const Canvas& c) {
   PaintFocus(c, c.Px(kCut));
 }
 
+// An empty socket shows its plus only under the pointer or the focus; its text is for screen readers.
 void PaintGroupButton(const Canvas& c) {
   PaintShape(c, c.Px(kCut));
   if (c.button.state.active) {
@@ -128,6 +133,8 @@ void PaintGroupButton(const Canvas& c) {
   PaintFocus(c, c.Px(kCut));
 }
 
+// The detail is "64 kbit/s" or "64 kbit/s<tab>2". With a number the button has a divider and the number at
+// its end.
 void PaintPlayButton(const Canvas& c) {
   PaintShape(c, c.Px(kPlayCut));
   const std::wstring_view detail = c.button.detail;
@@ -179,6 +186,7 @@ void PaintHeaderButton(const Canvas& c) {
   PaintFocus(c, 0);
 }
 
+// Row by row like every cut shape, since the system would smooth or shift the slanting edges of a polygon.
 void PaintOctagon(const Canvas& c, const RECT& box, int cut, Color fill, Color edge) {
   const int line = c.painter.Line();
   const int height = static_cast<int>(box.bottom - box.top);
@@ -223,6 +231,7 @@ void PaintMark(const Canvas& c, const RECT& mark) {
                sign);
 }
 
+// The focus line goes round mark and text, not round the whole place, which is as wide as the column.
 void PaintCheck(const Canvas& c) {
   const FaceplateColors& colors = c.painter.Colors();
   const ButtonState& state = c.button.state;
@@ -251,6 +260,7 @@ TabPicture TabOf(const Canvas& c) {
 
 }  // namespace
 
+// A header button keeps no state of its own: it is active while its list is sorted by it.
 void PaintButton(HDC dc, const RECT& box, const ButtonPicture& button, const Painter& painter) {
   ButtonState state = button.state;
   if (button.kind == ControlKind::HeaderButton) state.active = button.sort != SortMark::None;
@@ -277,6 +287,7 @@ void PaintButton(HDC dc, const RECT& box, const ButtonPicture& button, const Pai
   }
 }
 
+// The strong style where the button can become active: the text must fit then, too.
 ButtonTextRoom MeasureButton(const RECT& box, const ButtonPicture& button, const Painter& painter) {
   const int width = static_cast<int>(box.right - box.left);
   const auto needed = [&](TextStyle style) {

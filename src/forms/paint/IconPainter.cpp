@@ -6,6 +6,7 @@ namespace sonaro {
 namespace {
 
 // A top-down bitmap of 32 bits a pixel. nullptr when the system refuses.
+// The negative height makes the first row the top one.
 HBITMAP MakeBitmap(const Pixels& pixels, int width, int height) {
   BITMAPINFO info{};
   info.bmiHeader.biSize = sizeof(info.bmiHeader);
@@ -30,6 +31,7 @@ BlendBitmap::~BlendBitmap() {
   if (bitmap_) DeleteObject(bitmap_);
 }
 
+// The pixels carry their colour multiplied by their coverage, as AC_SRC_ALPHA wants it.
 void BlendBitmap::Draw(HDC dc, int x, int y) const {
   if (!bitmap_) return;
   const HDC source = CreateCompatibleDC(dc);
@@ -40,6 +42,7 @@ void BlendBitmap::Draw(HDC dc, int x, int y) const {
   DeleteDC(source);
 }
 
+// Not kept: rings and marks come in too many sizes and states to be worth it.
 void DrawCoverage(HDC dc, int x, int y, const Coverage& coverage, Color color) {
   Pixels pixels;
   PaintOver(pixels, coverage, color);
@@ -51,6 +54,7 @@ void DrawNeedleHead(HDC dc, int x, int y, int width, int height, Color color) {
   DrawCoverage(dc, x, y, Rasterize({head}, {}, width, height), color);
 }
 
+// Icons are the same few in the same few colours: each is rendered once for a theme and a dpi.
 void IconPainter::Draw(HDC dc, Icon icon, int x, int y, int designSize, int size, Color color) {
   if (icon == Icon::None || designSize <= 0 || size <= 0) return;
   const Key key = {icon, designSize, size, Number(color), 0};

@@ -13,6 +13,7 @@ struct StyleSpec {
   bool strong;
 };
 
+// In the order of TextStyle; the first is what Default comes to where no kind says otherwise.
 constexpr std::array<StyleSpec, 13> kStyles = {{{12, false},
                                                 {11, false},
                                                 {11, true},
@@ -62,6 +63,7 @@ LOGFONTW FaceFor(bool strong) {
   return font;
 }
 
+// The last row has the last colour: as many steps as rows, less one.
 Color Between(Color top, Color bottom, int step, int steps) {
   if (top == bottom || steps <= 1) return top;
   const auto channel = [&](int from, int to) {
@@ -78,6 +80,7 @@ struct CutSpan {
   int Right(int y) const { return box.right - std::max(0, cut - (static_cast<int>(box.bottom) - 1 - y)); }
 };
 
+// ExtTextOut with an opaque rectangle fills without a brush: no object is made and freed for each span.
 void FillSpan(HDC dc, int left, int right, int y, Color color) {
   if (right <= left) return;
   const RECT line = {left, y, right, y + 1};
@@ -97,6 +100,8 @@ Painter::~Painter() {
   }
 }
 
+// Made when first used: a form needs few of them. The negative height is that of the letters,
+// without the leading above them.
 HFONT Painter::Font(TextStyle style) const {
   HFONT& font = fonts_[static_cast<std::size_t>(style)];
   if (!font) {
@@ -118,6 +123,7 @@ void Painter::Fill(HDC dc, const RECT& box, Color color) const {
   ExtTextOutW(dc, 0, 0, ETO_OPAQUE, &box, nullptr, 0, nullptr);
 }
 
+// One call of the system, which runs from edge to edge in 16-bit channels.
 void Painter::Gradient(HDC dc, const RECT& box, Color top, Color bottom) const {
   if (top == bottom) return Fill(dc, box, top);
   const auto corner = [](LONG x, LONG y, Color color) {
@@ -138,6 +144,8 @@ void Painter::Text(HDC dc, const RECT& box, std::string_view text, TextStyle sty
   Text(dc, box, std::wstring_view(Widen(text)), style, color, format);
 }
 
+// Wrapped texts break as in an edit, also inside a word that is too long; a partly seen last line is left
+// out.
 void Painter::Text(HDC dc, const RECT& box, std::wstring_view text, TextStyle style, Color color,
                    UINT format) const {
   const UINT layout = (format & DT_WORDBREAK) != 0 ? DT_EDITCONTROL | DT_END_ELLIPSIS
@@ -167,6 +175,7 @@ int Painter::WrappedHeight(std::wstring_view text, TextStyle style, int width) c
   return place.bottom;
 }
 
+// A capital with a letter that goes below the line.
 int Painter::LineHeight(TextStyle style) const { return static_cast<int>(Measure(L"Xg", style).cy); }
 
 void Painter::MeasureIn(RECT& place, std::wstring_view text, TextStyle style, UINT format) const {
@@ -174,6 +183,8 @@ void Painter::MeasureIn(RECT& place, std::wstring_view text, TextStyle style, UI
   DrawTextW(measuring_, text.data(), static_cast<int>(text.size()), &place, format | DT_CALCRECT);
 }
 
+// Only the program mark has two colours: its needle is lit where the mark has the colour of text, and goes
+// with the mark where that is muted.
 void Painter::DrawIcon(HDC dc, Icon icon, int x, int y, int designSize, Color color) const {
   if (icon == Icon::ProgramMark) {
     icons_.DrawProgramMark(dc, x, y, Px(designSize), {color, color == colors_.text ? colors_.accent : color});
@@ -182,6 +193,7 @@ void Painter::DrawIcon(HDC dc, Icon icon, int x, int y, int designSize, Color co
   }
 }
 
+// The rows of the cut corners one by one, what is between them in one call.
 void Painter::CutShape(HDC dc, const RECT& box, int cut, Color top, Color bottom, Color edge) const {
   const int height = static_cast<int>(box.bottom - box.top);
   const int rows = std::min(cut, height);
@@ -223,6 +235,7 @@ void Painter::CutFrame(HDC dc, const RECT& box, int cut, Color color, int width)
   Fill(dc, {box.right - width, box.top + rows, box.right, box.bottom - rows}, color);
 }
 
+// The light edge below makes the glass lie deeper than the plate.
 void Painter::Glass(HDC dc, const RECT& box, int cut) const {
   CutShape(dc, box, cut, colors_.glass, colors_.glass, colors_.frame);
   const RECT light = {box.left, box.bottom, box.right - cut, box.bottom + Line()};
@@ -234,6 +247,7 @@ void Painter::Groove(HDC dc, int x, int y, int width) const {
   Fill(dc, {x, y + Line(), x + width, y + 2 * Line()}, colors_.milledSoft);
 }
 
+// The origin is moved, so that whoever paints uses the coordinates of the target.
 BufferedPaint::BufferedPaint(HDC target, const RECT& box) : target_(target), box_(box) {
   dc_ = CreateCompatibleDC(target);
   bitmap_ = CreateCompatibleBitmap(target, std::max<int>(1, box.right - box.left),
