@@ -137,7 +137,7 @@ bool Application::LoadMainWindow() {
   ReadData();
   schedule_ = std::make_unique<ApplicationSchedule>(ApplicationSchedule::Dependencies{
       platform_, context_, data_, reg_, strings_, state_, stations_, extra_, recent_, favorites_, source_,
-      player_, pages_, help_, messages_, *this, *this});
+      player_, pages_, help_, messages_, *this, *this, undo_});
   main_ = std::make_unique<SonaroFrm>(
       context_,
       GuideData{data_, reg_, strings_, state_, stations_, personal_, extra_, recent_, favorites_, source_,

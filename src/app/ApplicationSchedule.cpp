@@ -43,6 +43,8 @@ ApplicationSchedule::ApplicationSchedule(const Dependencies& dependencies)
       coming_({diary_, store_, shows_, dependencies.source, dependencies.platform.clock, texts_}),
       picker_(dependencies.stations, dependencies.source, dependencies.favorites, dependencies.recent,
               dependencies.reg, dependencies.strings),
+      changes_({store_, shows_, dependencies.reg, dependencies.undo, dependencies.messages,
+                dependencies.strings, texts_, *this}),
       services_{store_,
                 calendar_,
                 shows_,
@@ -56,6 +58,8 @@ ApplicationSchedule::ApplicationSchedule(const Dependencies& dependencies)
                 coming_,
                 *this,
                 texts_,
+                changes_,
+                dependencies.undo,
                 dependencies.state.shortDatePattern},
       timerWindow_(dependencies.context, *this),
       timer_(calendar_, dependencies.platform.clock, dependencies.platform.messages, timerWindow_, *this),
@@ -66,8 +70,13 @@ ApplicationSchedule::ApplicationSchedule(const Dependencies& dependencies)
   diary_.Reload();
 }
 
-void ApplicationSchedule::Play(const PlayChoice& choice) {
-  dependencies_.player.LaunchStation(choice.request);
+bool ApplicationSchedule::Play(const PlayChoice& choice) {
+  PlayerLaunch& player = dependencies_.player;
+  return player.ErrorText(player.LaunchStation(choice.request)).empty();
+}
+
+bool ApplicationSchedule::Snooze(const ScheduleItem& item, int minutes) {
+  return changes_.Snooze(item, minutes, dependencies_.platform.clock.LocalNow());
 }
 
 void ApplicationSchedule::OpenPage(const std::string& address) { dependencies_.pages.OpenWebPage(address); }
@@ -93,7 +102,8 @@ std::vector<Occurrence> ApplicationSchedule::LiveStarts(const DateTime& from, co
 }
 
 void ApplicationSchedule::WhileYouWereAway(const std::vector<Occurrence>& missed) {
-  notices_.ShowMissed(AwayLines(missed, store_, dependencies_.platform.clock.LocalNow(), texts_));
+  notices_.ShowMissed(MissedNotifications(missed, store_, dependencies_.source, dependencies_.extra,
+                                          dependencies_.platform.clock.LocalNow(), texts_));
 }
 
 void ApplicationSchedule::StartWatching() {

@@ -13,6 +13,7 @@
 #include "schedule/EventDiary.h"
 #include "schedule/PersonalShows.h"
 #include "schedule/ScheduleCalendar.h"
+#include "schedule/ScheduleChanges.h"
 #include "schedule/ScheduleServices.h"
 #include "schedule/ScheduleStore.h"
 #include "schedule/ScheduleTimer.h"
@@ -34,6 +35,7 @@ class PlayerLaunch;
 class RecentList;
 class StatList;
 class StationSource;
+class UndoList;
 class Strings;
 class WebPages;
 struct AppState;
@@ -62,6 +64,7 @@ class ApplicationSchedule final : public ScheduleCommands,
     MessageBoxView& messages;
     ProgramCommands& program;
     ProgramListener& listener;
+    UndoList& undo;
   };
 
   explicit ApplicationSchedule(const Dependencies& dependencies);
@@ -89,8 +92,9 @@ class ApplicationSchedule final : public ScheduleCommands,
 
  private:
   // What a notification asks for, the timer and its window, and the schedule's windows.
-  void Play(const PlayChoice& choice) override;
+  bool Play(const PlayChoice& choice) override;
   void OpenPage(const std::string& address) override;
+  bool Snooze(const ScheduleItem& item, int minutes) override;
   void PlaySound() override;
   void ShowHelp() override;
   void Tick() override;
@@ -110,6 +114,7 @@ class ApplicationSchedule final : public ScheduleCommands,
   PersonalShows shows_;
   sonaro::ComingEvents coming_;  // not the command of that name
   StationPicker picker_;
+  ScheduleChanges changes_;
   ScheduleServices services_;
   ScheduleTimerWindow timerWindow_;
   ScheduleTimer timer_;

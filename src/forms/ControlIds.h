@@ -163,7 +163,7 @@ inline constexpr int txtExtraLink = 2222;
 inline constexpr int lblEventName = 2301;
 inline constexpr int lblNoticeInfo = 2302;
 inline constexpr int lblNote = 2303;
-inline constexpr int txtMissed = 2304;
+inline constexpr int lstMissed = 2304;
 inline constexpr int butPlay1It = 2305;
 inline constexpr int butPlay2It = 2306;
 inline constexpr int butPlay3It = 2307;
@@ -171,6 +171,7 @@ inline constexpr int butGoWebSiteIt = 2308;
 inline constexpr int butCloselIt = 2309;
 inline constexpr int Timer1 = 2310;
 inline constexpr int lblCloseIt = 2311;
+inline constexpr int butSnoozeIt = 2312;
 inline constexpr int lblTimeInfo1 = 2321;
 inline constexpr int lblTimeInfo2 = 2322;
 inline constexpr int lblTimeInfo3 = 2323;
@@ -357,5 +358,7 @@ inline constexpr int mnuUndo = 3248;
 // The menu of an event.
 inline constexpr int mnuEventNotifyMe = 3251;
 inline constexpr int mnuEventPersonalShow = 3252;
+// The menu of a notice.
+inline constexpr int mnuSnooze = 3253;  // 3 numbers
 
 }  // namespace sonaro

@@ -8,6 +8,7 @@
 #include "settings/Message.h"
 #include "settings/SettingNames.h"
 #include "settings/Strings.h"
+#include "settings/UndoList.h"
 
 namespace sonaro {
 
@@ -43,12 +44,22 @@ void PersonalPane::mnuPersonalChange_Click() {
 void PersonalPane::Delete() {
   const PersonalStation* station = Meant();
   if (station == nullptr) return;
-  const std::int32_t index = station->index;  // while the question stands the stations may be read anew
-  if (!ConfirmDelete(station->name)) return;
-  const Strings& strings = context_.data.strings;
-  SavedOrSaid(context_.data.personal.Delete(index), strings.Load(IDS_FILE_STATIONS),
-              context_.services.messages, strings);
+  const PersonalStation deleted = *station;  // while the question stands the stations may be read anew
+  if (!ConfirmDelete(deleted.name)) return;
+  const bool saved = Saved(context_.data.personal.Delete(deleted.index));
   context_.view.PersonalStationsChanged();
+  if (!saved) return;
+  context_.services.undo.Add(FormatText(context_.data.strings.Load(IDS_PERSONAL_DELETED), {deleted.name}),
+                             [this, deleted] {
+                               const bool back = Saved(context_.data.personal.PutBack(deleted));
+                               context_.view.PersonalStationsChanged();
+                               return back ? UndoResult::Done : UndoResult::Kept;
+                             });
+}
+
+bool PersonalPane::Saved(bool saved) {
+  const Strings& strings = context_.data.strings;
+  return SavedOrSaid(saved, strings.Load(IDS_FILE_STATIONS), context_.services.messages, strings);
 }
 
 bool PersonalPane::ConfirmDelete(const std::string& name) {

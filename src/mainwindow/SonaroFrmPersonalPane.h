@@ -18,6 +18,7 @@ class PersonalPane final : public EventTarget {
   std::span<const EventRow> Events() const override;
   void Edit(const PersonalStation& station);
   bool ConfirmDelete(const std::string& name);
+  bool Saved(bool saved);                // says when not
   const PersonalStation* Meant() const;  // nullptr: the command is not about one of them
 
   void mnuPersonalAdd_Click();

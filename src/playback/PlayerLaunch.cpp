@@ -41,10 +41,12 @@ LaunchOutcome FromWebPage(WebPageOutcome outcome) {
 
 }  // namespace
 
-void PlayerLaunch::LaunchStation(const PlayRequest& request) {
-  // Until it works or the user gives up.
-  while (Tell(TryLaunch(request))) {
-  }
+LaunchOutcome PlayerLaunch::LaunchStation(const PlayRequest& request) {
+  LaunchOutcome outcome{};
+  do {
+    outcome = TryLaunch(request);  // until it works or the user gives up
+  } while (Tell(outcome));
+  return outcome;
 }
 
 // True when the user has chosen a player, so that it is worth another try.

@@ -57,7 +57,7 @@ class PlayerLaunch {
   // Plays a station's link, or one that the request brings along; a link that the station lacks gives way to
   // the alternate one, then to the web site. Says to the user why nothing plays; when a player is chosen
   // thereupon, it plays after all.
-  void LaunchStation(const PlayRequest& request);
+  LaunchOutcome LaunchStation(const PlayRequest& request);
   // The same without a word, for those who play by themselves and must not stop in a dialog.
   LaunchOutcome TryLaunch(const PlayRequest& request);
   // The same for a station as a whole: the first link that it has, or the alternate one. Never opens its web

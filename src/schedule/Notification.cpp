@@ -79,6 +79,7 @@ std::vector<PlayChoice> PlayChoices(const Station& station, const ExtraLinks& ex
 Notification NotificationFor(const ScheduleItem& item, const StationSource& stations,
                              const ExtraLinks& extraLinks, const ScheduleTexts& texts) {
   Notification shown;
+  shown.item = item;
   shown.eventName = texts.Name(item.name);
   shown.notice = texts.Notice(item);
   shown.note = item.note;
@@ -99,18 +100,20 @@ int AskedItem(std::string_view bringUpText) {
 
 std::string BringUpText(std::size_t slot) { return std::to_string(slot) + std::string(kAskMark); }
 
-// The day is told only when it is not today. A slot that was freed meanwhile has nothing to tell.
-std::vector<std::string> AwayLines(const std::vector<Occurrence>& missed, const ScheduleStore& store,
-                                   const DateTime& now, const ScheduleTexts& texts) {
-  std::vector<std::string> lines;
+// A slot that was freed meanwhile has nothing to tell. The day is told only when it is not today.
+std::vector<Notification> MissedNotifications(const std::vector<Occurrence>& missed,
+                                              const ScheduleStore& store, const StationSource& stations,
+                                              const ExtraLinks& extraLinks, const DateTime& now,
+                                              const ScheduleTexts& texts) {
+  std::vector<Notification> notices;
   for (const Occurrence& occurrence : missed) {
-    if (occurrence.slot >= store.SlotCount()) continue;
+    if (occurrence.slot >= store.SlotCount() || store.Item(occurrence.slot).Free()) continue;
+    notices.push_back(NotificationFor(store.Item(occurrence.slot), stations, extraLinks, texts));
     const bool today = occurrence.at.date == now.date;
-    lines.push_back((today ? "" : FormatMonthDay(occurrence.at.date) + ", ") +
-                    FormatTime(occurrence.at.time, texts.Style()) + "  " +
-                    texts.Name(store.Item(occurrence.slot).name));
+    notices.back().when = (today ? "" : FormatMonthDay(occurrence.at.date) + ", ") +
+                          FormatTime(occurrence.at.time, texts.Style());
   }
-  return lines;
+  return notices;
 }
 
 }  // namespace sonaro

@@ -26,8 +26,10 @@ struct PlayChoice {
 struct Notification {
   static constexpr std::size_t kPlayButtons = 3;
 
+  ScheduleItem item;  // as it was when it came on
   std::string eventName;
   std::string notice;
+  std::string when;  // of one that was missed: "8:00 PM", with the day unless it is today
   std::string note;
   std::string webSite;            // an address that begins with "http", or ""
   bool opensWebSite = false;      // by itself, when it comes
@@ -41,8 +43,10 @@ Notification NotificationFor(const ScheduleItem& item, const StationSource& stat
 int AskedItem(std::string_view bringUpText);
 std::string BringUpText(std::size_t slot);
 
-// The lines of the notice "while you were away": when, and what.
-std::vector<std::string> AwayLines(const std::vector<Occurrence>& missed, const ScheduleStore& store,
-                                   const DateTime& now, const ScheduleTexts& texts);
+// What was missed "while you were away", in the same order.
+std::vector<Notification> MissedNotifications(const std::vector<Occurrence>& missed,
+                                              const ScheduleStore& store, const StationSource& stations,
+                                              const ExtraLinks& extraLinks, const DateTime& now,
+                                              const ScheduleTexts& texts);
 
 }  // namespace sonaro

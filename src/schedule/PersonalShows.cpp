@@ -66,6 +66,13 @@ void PersonalShows::RemovePersonalShow(std::string_view showKey) {
   Tell(saved, "RemovePersonalShow", IDS_SCHED_SHOW_REMOVED, showKey);
 }
 
+bool PersonalShows::PutBack(const std::string& line) {
+  std::vector<std::string> lines = List();
+  if (Holds(lines, line)) return true;
+  lines.push_back(line);
+  return WritePersonalShows(EachOnItsLine(lines));
+}
+
 std::string PersonalShows::ReadPersonalShows() {
   std::string text = EachOnItsLine(List());
   if (!text.empty()) text.resize(text.size() - kLineEnd.size());

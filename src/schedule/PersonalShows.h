@@ -27,6 +27,8 @@ class PersonalShows {
   static bool Holds(const std::vector<std::string>& lines, std::string_view showKey);
   // Removes the show's line and tells the user, or that it could not be saved.
   void RemovePersonalShow(std::string_view showKey);
+  // A removed line back, at the end, without a word. False when it could not be saved.
+  [[nodiscard]] bool PutBack(const std::string& line);
   // The whole file, its lines joined by CR LF; "" when it is missing.
   std::string ReadPersonalShows();
   // Writes one line for each piece that ends in CR LF; text after the last CR LF is not written.

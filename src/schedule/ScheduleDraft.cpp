@@ -84,11 +84,18 @@ std::string ScheduleDraft::StationShown(const ScheduleTexts& texts) const {
 }
 
 // A station that has no name any more counts as none. The order is that of the controls.
-DraftFault ScheduleDraft::Fault(std::string_view shortDatePattern) const {
+DraftFault ScheduleDraft::Missing(std::string_view shortDatePattern) const {
   if (TrimBlanks(name.name).empty()) return DraftFault::NoStation;
   if (kind == ScheduleKind::Once && !ParseTypedDate(dateText, shortDatePattern)) return DraftFault::NoDate;
   if (kind == ScheduleKind::Daily && !AnyDay(days)) return DraftFault::NoDay;
   return DraftFault::None;
+}
+
+DraftFault ScheduleDraft::Fault(std::string_view shortDatePattern, const DateTime& now) const {
+  const DraftFault missing = Missing(shortDatePattern);
+  if (missing != DraftFault::None || kind != ScheduleKind::Once) return missing;
+  const bool passed = DateTime{ParseTypedDate(dateText, shortDatePattern)->date, time} <= now;
+  return passed ? DraftFault::Passed : DraftFault::None;
 }
 
 // Only the fields that the kind reads are filled, so that no date or day of an earlier kind stays in the
@@ -119,7 +126,7 @@ ScheduleFields ScheduleDraft::ToFields(ClockStyle style, std::string_view shortD
 }
 
 std::string ScheduleDraft::Summary(const ScheduleTexts& texts, std::string_view shortDatePattern) const {
-  if (Fault(shortDatePattern) != DraftFault::None) return {};
+  if (Missing(shortDatePattern) != DraftFault::None) return {};
   const std::string at = FormatTime(time, texts.Style());
   switch (kind) {
     case ScheduleKind::Daily:

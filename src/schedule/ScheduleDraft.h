@@ -19,7 +19,7 @@ class ScheduleTexts;
 enum class DraftMode { AddMain, AddLive, Modify };
 
 // Why a draft cannot be saved, in the order in which it is checked.
-enum class DraftFault { None, NoStation, NoDate, NoDay };
+enum class DraftFault { None, NoStation, NoDate, NoDay, Passed };
 
 struct ScheduleDraft {
   DraftMode mode = DraftMode::AddMain;
@@ -42,8 +42,11 @@ struct ScheduleDraft {
 
   // "Station To Schedule: Radio", followed by " (Event)" for an event.
   std::string StationShown(const ScheduleTexts& texts) const;
-  DraftFault Fault(std::string_view shortDatePattern) const;
-  // Only for a draft without a fault.
+  // What is missing: never Passed.
+  DraftFault Missing(std::string_view shortDatePattern) const;
+  // The same, and a single notice must lie after `now`, local time.
+  DraftFault Fault(std::string_view shortDatePattern, const DateTime& now) const;
+  // Only for a draft that misses nothing.
   ScheduleFields ToFields(ClockStyle style, std::string_view shortDatePattern) const;
 
   // "Every Thursday at 8:00 PM"; "" while something is missing.

@@ -14,9 +14,11 @@ class HelpPages;
 class MessageBoxView;
 class PersonalShows;
 class ScheduleCalendar;
+class ScheduleChanges;
 class Shell;
 class StationPicker;
 class StationSource;
+class UndoList;
 
 class ScheduleListener {
  public:
@@ -38,6 +40,8 @@ struct ScheduleServices {
   const ComingEvents& events;
   ScheduleListener& listener;
   const ScheduleTexts& texts;
+  ScheduleChanges& changes;
+  UndoList& undo;
   std::string shortDatePattern = {};
 };
 

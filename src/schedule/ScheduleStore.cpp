@@ -10,7 +10,6 @@
 
 #include <algorithm>
 #include <array>
-#include <optional>
 #include <utility>
 
 #include "base/OwnFiles.h"
@@ -164,6 +163,14 @@ std::size_t ScheduleStore::FirstFreeSlot() {
   const auto slot = static_cast<std::size_t>(free - slots_.begin());
   GrowTo(slot);
   return slot;
+}
+
+std::optional<std::size_t> ScheduleStore::SlotOf(const ScheduleFields& fields) const {
+  const auto found = std::find_if(slots_.begin(), slots_.end(), [&](const ScheduleItem& item) {
+    return !item.Free() && item.fields == fields;
+  });
+  return found == slots_.end() ? std::nullopt
+                               : std::optional(static_cast<std::size_t>(found - slots_.begin()));
 }
 
 bool ScheduleStore::SetItem(std::size_t slot, ScheduleFields item) {

@@ -9,6 +9,7 @@
 #pragma once
 
 #include <cstddef>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -42,6 +43,8 @@ class ScheduleStore {
   std::size_t SlotCount() const { return slots_.size(); }
   const ScheduleItem& Item(std::size_t slot) const { return slots_.at(slot); }
 
+  // Where an item with just these fields stands; nothing when there is none.
+  std::optional<std::size_t> SlotOf(const ScheduleFields& fields) const;
   // The first slot that an item can be put into; the table grows when every slot is taken.
   std::size_t FirstFreeSlot();
   // Puts an item into a slot, or takes the one in it away. When another session has changed the file, what

@@ -55,6 +55,21 @@ std::string ScheduleTexts::Action(const ScheduleItem& item) const {
   return Filled(item.opensWebSite ? IDS_SCHED_ACTION_WEB : IDS_SCHED_ACTION_NOTIFY);
 }
 
+std::string ScheduleTexts::DeleteQuestion(const ScheduleItem& item) const {
+  const std::string name = Name(item.name);
+  switch (item.kind) {
+    case ScheduleKind::Once:
+      return Filled(IDS_SCHED_DELETE_ONCE,
+                    {item.date ? FormatMonthDay(*item.date) : item.fields.date, item.fields.time, name});
+    case ScheduleKind::Daily:
+      return Filled(IDS_SCHED_DELETE_DAILY, {item.fields.time, name});
+    case ScheduleKind::Weekly:
+      return Filled(IDS_SCHED_DELETE_WEEKLY, {item.fields.weekday, item.fields.time, name});
+    default:
+      return Filled(IDS_SCHED_DELETE_EVENT, {name});
+  }
+}
+
 // Times and dates as the user entered them, not as they would be written now.
 std::string ScheduleTexts::HowOften(const ScheduleItem& item) const {
   switch (item.kind) {

@@ -28,6 +28,8 @@ class ScheduleTexts {
   // "every day at 7:15 AM", "every Mon, Thr at 7:15 AM", "every Thursday at 8:00 PM", "at 8:00 PM on
   // 12/24/2026".
   std::string HowOften(const ScheduleItem& item) const;
+  // "Delete the weekly Thursday 8:00 PM notice for Long Wave Theatre?"
+  std::string DeleteQuestion(const ScheduleItem& item) const;
   // When an item comes next, seen from now: "Today 8:00 PM", "Tomorrow 7:15 AM", "Sat 10:00 PM" within a
   // week, "Dec 24, 6:00 PM" within a year, else with the year.
   std::string Next(const DateTime& next, const DateTime& now) const;

@@ -12,6 +12,14 @@ namespace {
 constexpr unsigned kSoundDelay = 50;  // milliseconds: the window has been painted
 constexpr unsigned char kNoticePane = 1;
 constexpr unsigned char kMissedPane = 2;
+
+struct SnoozeLength {
+  int minutes = 0;
+  int text = 0;
+};
+constexpr SnoozeLength kSnoozes[] = {
+    {5, IDS_SCHED_SNOOZE_5}, {15, IDS_SCHED_SNOOZE_15}, {60, IDS_SCHED_SNOOZE_60}};
+
 constexpr int kGap = 12;
 
 // The top-left corner of place `number`: upwards from the lower right corner, then column by column to the
@@ -32,17 +40,23 @@ const FormDesign& frmNotify::Design() {
   static constexpr ControlRow kControls[] = {
       {.id = lblTitle, .kind = ControlKind::TitleBar, .text = IDS_SCHED_NOTIFY_TITLE, .at = {40, 4, 200, 26}},
       {.kind = ControlKind::Glass, .at = {14, 46, 412, 94}, .pane = kNoticePane, .cut = 12},
-      {.kind = ControlKind::Glass, .at = {14, 46, 412, 150}, .pane = kMissedPane, .cut = 12},
+      {.id = lstMissed,
+       .kind = ControlKind::ListView,
+       .text = IDS_SCHED_AWAY_TEXT,
+       .at = {14, 46, 412, 94},
+       .pane = kMissedPane},
       {.kind = ControlKind::Label,
        .at = {34, 56, 24, 24},
        .icon = Icon::Bell,
        .flags = kOnGlass,
-       .color = TextColor::Accent},
+       .color = TextColor::Accent,
+       .pane = kNoticePane},
       {.id = lblNoticeInfo,
        .kind = ControlKind::StateLabel,
        .at = {70, 52, 344, 22},
        .flags = kOnGlass | kNoPrefix,
-       .color = TextColor::GlassMuted},
+       .color = TextColor::GlassMuted,
+       .pane = kNoticePane},
       {.id = lblEventName,
        .kind = ControlKind::StateLabel,
        .at = {70, 72, 344, 30},
@@ -54,11 +68,6 @@ const FormDesign& frmNotify::Design() {
        .at = {70, 104, 344, 34},
        .flags = kOnGlass | kNoPrefix | kWrap,
        .pane = kNoticePane},
-      {.id = txtMissed,
-       .kind = ControlKind::ReadOnlyText,
-       .at = {70, 74, 344, 118},
-       .flags = kOnGlass | kTabStop,
-       .pane = kMissedPane},
       {.id = butPlay1It,
        .kind = ControlKind::PlayButton,
        .at = {14, 150, 134, 40},
@@ -77,6 +86,11 @@ const FormDesign& frmNotify::Design() {
        .at = {14, 206, 150, 30},
        .icon = Icon::Web,
        .flags = kHidden},
+      {.id = butSnoozeIt,
+       .kind = ControlKind::PushButton,
+       .text = IDS_SCHED_SNOOZE,
+       .at = {226, 206, 96, 30},
+       .icon = Icon::Bell},
       {.id = butCloselIt,
        .kind = ControlKind::PushButton,
        .text = IDS_SCHED_NOTIFY_CLOSE,
@@ -96,7 +110,10 @@ const FormDesign& frmNotify::Design() {
 std::span<const EventRow> frmNotify::Events() const {
   static const EventRow kRows[] = {
       {butPlay1It, Click, &frmNotify::butPlay_Click, static_cast<int>(Notification::kPlayButtons)},
+      {lstMissed, ItemSelected, &frmNotify::lstMissed_ItemSelected},
       {butGoWebSiteIt, Click, &frmNotify::butGoWebSiteIt_Click},
+      {butSnoozeIt, Click, &frmNotify::butSnoozeIt_Click},
+      {mnuSnooze, Click, &frmNotify::mnuSnooze_Click, static_cast<int>(std::size(kSnoozes))},
       {butCloselIt, Click, &frmNotify::butCloselIt_Click},
       {butCloseIt, Click, &frmNotify::butCloselIt_Click},
       {butHelp, Click, &frmNotify::butHelp_Click},
@@ -110,56 +127,94 @@ std::span<const TimerRow> frmNotify::Timers() const {
 }
 
 frmNotify::frmNotify(FormContext& context, NotifyCommands& commands, Notification notification)
-    : Form(context, Design()), commands_(commands), notification_(std::move(notification)) {}
+    : Form(context, Design()), commands_(commands) {
+  notices_.push_back(std::move(notification));
+}
 
-frmNotify::frmNotify(FormContext& context, NotifyCommands& commands, std::vector<std::string> missed)
-    : Form(context, Design()), commands_(commands), missed_(std::move(missed)) {}
+frmNotify::frmNotify(FormContext& context, NotifyCommands& commands, std::vector<Notification> missed)
+    : Form(context, Design()), commands_(commands), notices_(std::move(missed)), missed_(true) {}
+
+std::string frmNotify::Rows::Cell(int row, int column) const {
+  const Notification& notice = notices_[static_cast<std::size_t>(row)];
+  return column == 0 ? notice.when : notice.eventName;
+}
 
 void frmNotify::OnLoad() {
-  const bool away = !missed_.empty();
-  ShowPane(kNoticePane, !away);
-  ShowPane(kMissedPane, away);
-  if (away) {
-    lblTitle_.SetText(LoadText(IDS_SCHED_AWAY_TITLE));
-    lblNoticeInfo_.SetText(LoadText(IDS_SCHED_AWAY_TEXT));
-    std::string lines;
-    for (const std::string& line : missed_) lines += (lines.empty() ? "" : "\r\n") + line;
-    txtMissed_.SetText(lines);
+  ShowPane(kNoticePane, !missed_);
+  ShowPane(kMissedPane, missed_);
+  if (missed_) {
+    ShowMissed();
   } else {
-    lblNoticeInfo_.SetText(notification_.notice);
-    lblEventName_.SetText(notification_.eventName);
-    lblNote_.SetText(notification_.note);
-    ShowPlayButtons();
+    lblNoticeInfo_.SetText(Shown().notice);
+    lblEventName_.SetText(Shown().eventName);
+    lblNote_.SetText(Shown().note);
   }
+  butSnoozeIt_.Show(!missed_);  // what was missed is over, or may be heard now
+  ShowButtons();
   StartTimer(Timer1, kSoundDelay);
 }
 
-void frmNotify::ShowPlayButtons() {
-  for (std::size_t i = 0; i < notification_.plays.size(); ++i) {
-    const TwoLineButton button = butPlay_[static_cast<int>(i)];
-    button.SetText(notification_.plays[i].caption);
-    button.SetDetail(notification_.plays[i].detail);
-    button.Show();
-  }
-  butGoWebSiteIt_.Show(!notification_.webSite.empty());
+// The latest one is selected: it may still be on.
+void frmNotify::ShowMissed() {
+  shown_ = notices_.size() - 1;
+  lblTitle_.SetText(LoadText(IDS_SCHED_AWAY_TITLE));
+  lstMissed_->SetColumns({{LoadText(IDS_SCHED_AWAY_WHEN), 150}, {LoadText(IDS_SCHED_AWAY_WHAT), 0}});
+  lstMissed_->SetModel(&rows_, false);
+  lstMissed_->RowsChanged();
+  lstMissed_->Select(static_cast<int>(shown_));
 }
 
+void frmNotify::ShowButtons() {
+  const std::vector<PlayChoice>& plays = Shown().plays;
+  for (std::size_t i = 0; i < Notification::kPlayButtons; ++i) {
+    const TwoLineButton button = butPlay_[static_cast<int>(i)];
+    const bool used = i < plays.size();
+    if (used) {
+      button.SetText(plays[i].caption);
+      button.SetDetail(plays[i].detail);
+    }
+    button.Show(used);
+  }
+  butGoWebSiteIt_.Show(!Shown().webSite.empty());
+}
+
+void frmNotify::lstMissed_ItemSelected(int row) {
+  if (row < 0 || row >= rows_.RowCount()) return;
+  shown_ = static_cast<std::size_t>(row);
+  ShowButtons();
+}
+
+// A notice has done its work when it plays; one of several that were missed has others to tell of.
 void frmNotify::butPlay_Click(int index) {
   const auto choice = static_cast<std::size_t>(index);
-  if (choice < notification_.plays.size()) commands_.Play(notification_.plays[choice]);
+  if (choice < Shown().plays.size() && commands_.Play(Shown().plays[choice]) && notices_.size() == 1) Close();
+}
+
+void frmNotify::butSnoozeIt_Click() {
+  std::vector<MenuEntry> entries;
+  for (const SnoozeLength& length : kSnoozes) {
+    entries.push_back(
+        {.command = mnuSnooze + static_cast<int>(entries.size()), .text = LoadText(length.text)});
+  }
+  butSnoozeIt_.PopUpMenu(entries);
+}
+
+void frmNotify::mnuSnooze_Click(int length) {
+  if (commands_.Snooze(Shown().item, kSnoozes[length].minutes)) Close();
 }
 
 void frmNotify::Timer1_Timer() {
   StopTimer(Timer1);
   commands_.PlaySound();
-  if (notification_.opensWebSite) butGoWebSiteIt_Click();
+  if (!missed_ && Shown().opensWebSite) butGoWebSiteIt_Click();
 }
 
 void frmNotifyStack::ShowNotification(Notification notification) {
   Put(std::make_unique<frmNotify>(context_, commands_, std::move(notification)));
 }
 
-void frmNotifyStack::ShowMissed(std::vector<std::string> missed) {
+void frmNotifyStack::ShowMissed(std::vector<Notification> missed) {
+  if (missed.empty()) return;  // all of it was deleted meanwhile
   Put(std::make_unique<frmNotify>(context_, commands_, std::move(missed)));
 }
 

@@ -8,13 +8,14 @@
 #include "platform/Clock.h"
 #include "resources/texts/app.h"
 #include "resources/texts/schedule.h"
-#include "schedule/PersonalShows.h"
+#include "schedule/ScheduleChanges.h"
 #include "schedule/ScheduleStore.h"
 #include "schedule/frmAboutEventTime.h"
 #include "schedule/frmSchedChange.h"
 #include "settings/HelpPages.h"
 #include "settings/Message.h"
 #include "settings/Strings.h"
+#include "settings/UndoList.h"
 
 namespace sonaro {
 
@@ -122,20 +123,13 @@ void frmSched::butChangeIt_Click() {
 
 void frmSched::butDeleteIt_Click() {
   const std::string key = SelectedKey();
-  if (const int show = ShowOfKey(key); show >= 0) {
-    const std::vector<std::string> lines = services_.shows.List();
-    if (static_cast<std::size_t>(show) < lines.size()) {
-      services_.shows.RemovePersonalShow(lines[static_cast<std::size_t>(show)]);
-      services_.listener.ItemsChanged();
-    }
-  } else if (const int slot = SlotOfKey(key); slot >= 0) {
-    const bool saved = services_.store.FreeSlot(static_cast<std::size_t>(slot));
-    services_.listener.ItemsChanged();
-    SavedOrSaid(saved, LoadText(IDS_FILE_SCHEDULE), services_.messages, context_.strings);
-  }
+  if (key.empty()) return;
+  services_.changes.Delete({key});
   FillLists();
   (showsUsed_ ? lstShows_ : lstSched_).Focus();  // the button may be out of use now
 }
+
+void frmSched::mnuUndo_Click() { services_.undo.Undo(); }
 
 void frmSched::butAboutTimeIt_Click() {
   frmAboutEventTime(context_, services_.clock, services_.shell, services_.help).ShowModal(Window());

@@ -61,6 +61,7 @@ class frmSched final : public Form {
   void butAddIt_Click();
   void butChangeIt_Click();
   void butDeleteIt_Click();
+  void mnuUndo_Click();
   void butAboutTimeIt_Click();
   void butExportIt_Click();
   void butCloseIt_Click() { Close(); }

@@ -1,6 +1,5 @@
 #include "schedule/frmSchedChange.h"
 
-#include "platform/Clock.h"
 #include "resources/texts/app.h"
 #include "resources/texts/schedule.h"
 #include "schedule/ScheduleCalendar.h"
@@ -75,15 +74,17 @@ void frmSchedChange::ShowSummary() {
   lblSummary_.SetText(draft_.Summary(services_.texts, services_.shortDatePattern));
   std::string next;
   TextColor color = TextColor::GlassMuted;
-  if (draft_.Fault(services_.shortDatePattern) == DraftFault::None) {
+  const DraftFault fault = Fault();
+  if (fault == DraftFault::Passed) {
+    next = LoadText(IDS_SCHED_CHANGE_PASSED);
+    color = TextColor::Alert;
+  } else if (fault == DraftFault::None) {
     const DateTime now = services_.clock.LocalNow();
     const ScheduleItem item(draft_.ToFields(services_.texts.Style(), services_.shortDatePattern),
                             services_.shortDatePattern);
+    // Nothing for a live item, which comes when its event does.
     if (const auto at = ScheduleCalendar::NextOf(item, now)) {
       next = FormatText(LoadText(IDS_SCHED_CHANGE_NEXT), {services_.texts.Next(*at, now)});
-    } else if (draft_.kind == ScheduleKind::Once) {
-      next = LoadText(IDS_SCHED_CHANGE_PASSED);
-      color = TextColor::Alert;
     }
   }
   lblNextTime_.SetColor(color);
@@ -146,6 +147,7 @@ bool frmSchedChange::ShowError(DraftFault fault) {
       {DraftFault::NoStation, "ScheduleStationYourNeedToSelectAStation", IDS_SCHED_NEED_STATION, butSchedIt_},
       {DraftFault::NoDate, "ScheduleStationYourNeedToSelectADate", IDS_SCHED_NEED_DATE, txtOneDate_},
       {DraftFault::NoDay, "ScheduleStationYourNeedToSelectADay", IDS_SCHED_NEED_DAY, chkDay_[0]},
+      {DraftFault::Passed, "ScheduleStationTimeHasPassed", IDS_SCHED_CHANGE_PASSED, cmbTimeHour_},
   };
   for (const Complaint& complaint : kComplaints) {
     if (complaint.fault != fault) continue;
@@ -161,7 +163,7 @@ bool frmSchedChange::ShowError(DraftFault fault) {
 
 void frmSchedChange::butOKIt_Click() {
   ReadControls();
-  if (ShowError(draft_.Fault(services_.shortDatePattern))) return;
+  if (ShowError(Fault())) return;
   // The notice opens what the item carries; a station's own site is taken when it is to be opened.
   if (draft_.openWebSite && draft_.name.webSite.empty())
     draft_.name.webSite = services_.source.WebSiteOf(draft_.station);

@@ -6,6 +6,7 @@
 
 #include "forms/ControlIds.h"
 #include "forms/controls/Controls.h"
+#include "platform/Clock.h"
 #include "schedule/ScheduleDraft.h"
 #include "schedule/ScheduleServices.h"
 
@@ -30,6 +31,7 @@ class frmSchedChange final : public Form {
   void ShowSummary();
   void ReadControls();
   bool ShowError(DraftFault fault);
+  DraftFault Fault() const { return draft_.Fault(services_.shortDatePattern, services_.clock.LocalNow()); }
 
   void cmdHowOften_Click(int index);
   void chkDay_Click(int day);

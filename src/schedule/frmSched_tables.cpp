@@ -73,6 +73,7 @@ const FormDesign& frmSched::Design() {
   static constexpr KeyRow kKeys[] = {
       {.key = VK_DELETE, .command = butDeleteIt, .onlyIn = lstSched, .controls = 2},
       {.key = VK_INSERT, .command = butAddIt},
+      {.key = 'Z', .modifiers = kCtrl, .command = mnuUndo},
   };
   static constexpr FormDesign kDesign = {.name = "frmSched",
                                          .caption = IDS_SCHED_LIST_TITLE,
@@ -94,6 +95,7 @@ std::span<const EventRow> frmSched::Events() const {
       {butAddIt, Click, &frmSched::butAddIt_Click},
       {butChangeIt, Click, &frmSched::butChangeIt_Click},
       {butDeleteIt, Click, &frmSched::butDeleteIt_Click},
+      {mnuUndo, Click, &frmSched::mnuUndo_Click},
       {butExportIt, Click, &frmSched::butExportIt_Click},
       {butAboutTimeIt, Click, &frmSched::butAboutTimeIt_Click},
       {butCloseIt, Click, &frmSched::butCloseIt_Click},

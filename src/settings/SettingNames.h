@@ -63,6 +63,7 @@ inline constexpr Text kPinnedSearches{"PinnedSearches"};                // stati
 inline constexpr Text kListFilter{"ListFilter"};                        // mainwindow/StationFilter: no filter
 inline constexpr Switch kNoShowDelete{"NoShowDelete", "Yes", "", false, true};  // mainwindow, favourite groups: ask
 inline constexpr Switch kNoShowDeletePersonalStation{"NoShowDeletePersonalStation", "Yes", "", false, true};  // personal stations: ask
+inline constexpr Switch kNoShowDeleteNotice{"NoShowDeleteNotice", "Yes", "", false, true};  // schedule: ask
 inline constexpr Switch kSoundNotify{"SoundNotify", "True", "False", true, false};  // schedule/Notify, options: a sound
 inline constexpr Switch kSoundClick{"SoundClick", "True", "False", true, true};     // Application, options: keys click
 inline constexpr Text kMainPlace{"MainPlace"};                          // Application: "left,top" in pixels; the middle

@@ -166,4 +166,20 @@ bool PersonalStations::Delete(std::int32_t index) {
   return Save(std::move(changed));
 }
 
+bool PersonalStations::PutBack(const PersonalStation& station) {
+  if (!Refresh()) return false;
+  if (lineOf_.contains(station.index)) return true;
+  std::vector<Line> changed = lines_;
+  const std::string left = std::to_string(station.index);
+  const auto place = std::find_if(changed.begin(), changed.end(), [&](const Line& line) {
+    return line.station.index == 0 && line.kept == left;
+  });
+  if (place != changed.end()) {
+    *place = {station, {}};
+  } else {
+    changed.push_back({station, {}});
+  }
+  return Save(std::move(changed));
+}
+
 }  // namespace sonaro

@@ -79,6 +79,9 @@ class PersonalStations {
   // Replaces the station with `station.index`.
   [[nodiscard]] bool Change(const PersonalStation& station);
   [[nodiscard]] bool Delete(std::int32_t index);
+  // A deleted station back under its own index, so that groups and the schedule find it again; to its place
+  // if that is known. True as well when it is there already.
+  [[nodiscard]] bool PutBack(const PersonalStation& station);
 
  private:
   // A line of the file: a station, or, with index 0, a line that is kept as it stands.

@@ -58,7 +58,7 @@ TEST_F(HandClockTest, AOneTimeItemComesOnAndPlays) {
       << played[0];
   EXPECT_TRUE(ReadFile("recent.snr").starts_with(id));
 
-  CloseNotice(notice);
+  EXPECT_TRUE(WaitUntil([&] { return !IsWindow(notice); })) << "it has done its work";
   TurnTo({kFriday, {20, 6, 0}});
   TurnTo({kSaturday, {20, 5, 0}});
   EXPECT_TRUE(Notices().empty());
@@ -197,17 +197,19 @@ TEST_F(HandClockTest, AComputerThatWakesTellsTheLastHourAsUsual) {
   TurnTo(18, 0);
   std::vector<HWND> notices = Notices();
   ASSERT_EQ(notices.size(), 2u);
-  const auto away = std::find_if(notices.begin(), notices.end(),
-                                 [](HWND notice) { return IsShown(Control(notice, txtMissed)); });
+  const auto away = std::find_if(notices.begin(), notices.end(), [](HWND notice) {
+    return Control(notice, lstMissed) && IsShown(Control(notice, lstMissed));
+  });
   ASSERT_NE(away, notices.end());
-  EXPECT_EQ(TextOf(Control(*away, txtMissed)), "4:00 PM  Tea\r\n4:59 PM  Bread");
+  EXPECT_EQ(ColumnTexts(Control(*away, lstMissed), 0), (std::vector<std::string>{"4:00 PM", "4:59 PM"}));
+  EXPECT_EQ(ColumnTexts(Control(*away, lstMissed), 1), (std::vector<std::string>{"Tea", "Bread"}));
   HWND usual = notices[away == notices.begin() ? 1 : 0];
   EXPECT_EQ(TextOf(Control(usual, lblEventName)), "Cake");
   EXPECT_EQ(TextOf(Control(usual, lblNoticeInfo)), "This is your May 5  5:58 PM notice for");
 }
 
 TEST_F(HandClockTest, WhatWasToldIsNotToldAgainAtTheNextStart) {
-  WriteFile("Sched.snr", "Tea\tN\t\t10:05 AM\t\tdaily\t\r\nCake\tN\t\t10:07 AM\t\tdaily\t\r\n");
+  WriteFile("Sched.snr", "Tea\tN\t\t10:05 AM\t\tdaily\t\r\nCake\tNS1\t\t10:07 AM\t\tdaily\t\r\n");
   StartAndShowMain();
   TurnTo(10, 4);
   CloseNotice(ExpectNotice({kThursday, {10, 5, 30}}, "This is your daily 10:05 AM notice for", "Tea"));
@@ -216,8 +218,29 @@ TEST_F(HandClockTest, WhatWasToldIsNotToldAgainAtTheNextStart) {
   ASSERT_TRUE(Sonaro().WaitForEnd());
   HWND notice = Start().WaitForShownWindow("frmNotify");
   ASSERT_NE(notice, nullptr);
-  EXPECT_EQ(TextOf(Control(notice, txtMissed)), "10:07 AM  Cake");
-  EXPECT_FALSE(IsShown(Control(notice, butPlay1It)));
+  EXPECT_EQ(ColumnTexts(Control(notice, lstMissed), 0), std::vector<std::string>{"10:07 AM"});
+  EXPECT_EQ(ColumnTexts(Control(notice, lstMissed), 1), std::vector<std::string>{"Cake"});
+  SaveShot("away");
+  Click(Control(notice, butPlay1It));  // it came on a moment ago
+  EXPECT_EQ(AsxLines().size(), 1u);
+  EXPECT_TRUE(WaitUntil([&] { return !IsWindow(notice); }));
+}
+
+TEST_F(HandClockTest, ANoticeThatIsPutOffComesAgainAfterARestart) {
+  WriteFile("Sched.snr", "Tea\tN\t\t10:05 AM\t\tdaily\tpot\r\n");
+  StartAndShowMain();
+  TurnTo(10, 4);
+  HWND notice = ExpectNotice({kThursday, {10, 5, 0}}, "This is your daily 10:05 AM notice for", "Tea");
+  SaveShot("notice");
+  Command(notice, mnuSnooze + 1);
+  EXPECT_TRUE(WaitUntil([&] { return !IsWindow(notice); }));
+  EXPECT_EQ(ReadFile("Sched.snr"),
+            "Tea\tN\t\t10:05 AM\t\tdaily\tpot\r\nTea\tN\t5/5/2005\t10:20 AM\t\tonce\tpot\r\n");
+  Command(Sonaro().Window("frmSysTrayMenu"), mnuTrayExit);
+  ASSERT_TRUE(Sonaro().WaitForEnd());
+  StartAndShowMain();
+  TurnTo(10, 19);
+  ExpectNotice({kThursday, {10, 20, 0}}, "This is your May 5  10:20 AM notice for", "Tea");
 }
 
 TEST_F(HandClockTest, TwoItemsOfOneMinuteStandBesideEachOtherAndLeaveTheFocus) {

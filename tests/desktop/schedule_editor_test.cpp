@@ -33,6 +33,9 @@ TEST_F(HandClockTest, TheListAddsChangesAndDeletes) {
   EXPECT_EQ(TextOf(Control(dialog, lblStationToSched)), "Station To Schedule: " + name);
   ExpectRefusal(dialog, "You Need To Select a Date");
   EXPECT_FALSE(Exists("Sched.snr"));
+  SetText(Control(dialog, txtOneDate), "5/5/2005");
+  ChooseTime(dialog, "10", "00", "AM");
+  ExpectRefusal(dialog, "This time has passed. Choose a later one.");
   SetText(Control(dialog, txtOneDate), "6/1/2005");
   ChooseTime(dialog, "12", "00", "PM");
   PressOk(dialog, list);
@@ -63,6 +66,14 @@ TEST_F(HandClockTest, TheListAddsChangesAndDeletes) {
       << file;
 
   Click(Control(list, butDeleteIt));
+  EXPECT_EQ(AnswerBox(list, butMsg), "Delete the daily 12:00 PM notice for " + name + "?");
+  EXPECT_TRUE(WaitUntil([&] { return RowCount(rows) == 0; }));
+  EXPECT_EQ(TextOf(Control(main, lblStatus)), "Deleted the notice for " + name + ".");
+  PressKey(list, 'Z', Modifier::Control);
+  EXPECT_TRUE(WaitUntil([&] { return RowCount(rows) == 1; }));
+  EXPECT_EQ(ReadFile("Sched.snr"), file);
+  Click(Control(list, butDeleteIt));
+  AnswerBox(list, butMsg);
   EXPECT_TRUE(WaitUntil([&] { return RowCount(rows) == 0; }));
   EXPECT_EQ(ReadFile("Sched.snr"), "");
   EXPECT_TRUE(WaitUntil([&] { return FocusOf(list) == rows; }));

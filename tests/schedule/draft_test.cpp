@@ -29,17 +29,21 @@ TEST(Draft, EveryTimeOfDayGoesThroughTheBoxesAndBack) {
 }
 
 TEST(Draft, FaultsComeInOrder) {
-  ScheduleDraft draft;
-  EXPECT_EQ(draft.Fault(""), DraftFault::NoStation);
+  ScheduleDraft draft;  // at eight in the evening
+  const Date day{2026, 12, 24};
+  const auto fault = [&](int hour, int minute) { return draft.Fault("", {day, {hour, minute, 0}}); };
+  EXPECT_EQ(fault(10, 0), DraftFault::NoStation);
   draft.name.name = "Radio";
-  EXPECT_EQ(draft.Fault(""), DraftFault::NoDate);
+  EXPECT_EQ(fault(10, 0), DraftFault::NoDate);
   draft.dateText = "2/30/2001";
-  EXPECT_EQ(draft.Fault(""), DraftFault::NoDate);
+  EXPECT_EQ(fault(10, 0), DraftFault::NoDate);
   draft.dateText = "December 24 2026 (Thursday)";
-  EXPECT_EQ(draft.Fault(""), DraftFault::None);
+  EXPECT_EQ(fault(19, 59), DraftFault::None);
+  EXPECT_EQ(fault(20, 0), DraftFault::Passed);
   draft.kind = ScheduleKind::Daily;
+  EXPECT_EQ(fault(20, 0), DraftFault::None);
   draft.days = {};
-  EXPECT_EQ(draft.Fault(""), DraftFault::NoDay);
+  EXPECT_EQ(fault(20, 0), DraftFault::NoDay);
 }
 
 TEST_F(ScheduleWorld, ItemsComeBackAsTheyWereEntered) {

@@ -89,10 +89,16 @@ TEST_F(OwnDataTest, StationSurvivesARestartWithEveryField) {
 
 TEST_F(OwnDataTest, AnIndexIsNeverGivenTwice) {
   for (const char* name : {"A", "B", "C"}) stations_.Add(Named(name));
+  const PersonalStation first = *stations_.Find(1);
   EXPECT_TRUE(stations_.Delete(3));
   EXPECT_TRUE(stations_.Delete(1));
   EXPECT_FALSE(stations_.Delete(1));
   EXPECT_EQ(stations_.Add(Named("D")), 4);
+  EXPECT_TRUE(stations_.PutBack(first) && stations_.PutBack(first));
+  EXPECT_EQ(Reloaded().All(), stations_.All());
+  EXPECT_EQ(stations_.All().size(), 3u);
+  EXPECT_EQ(stations_.All().front(), first);
+  EXPECT_TRUE(stations_.Delete(1));
 
   PersonalStations again = Reloaded();
   EXPECT_EQ(again.Find(1), nullptr);

@@ -39,6 +39,7 @@
 #include "schedule/ComingEvents.h"
 #include "schedule/PersonalShows.h"
 #include "schedule/ScheduleCalendar.h"
+#include "schedule/ScheduleChanges.h"
 #include "schedule/ScheduleServices.h"
 #include "schedule/ScheduleStore.h"
 #include "schedule/StationPicker.h"
@@ -60,7 +61,8 @@ namespace sonaro {
 namespace {
 
 struct NoNotify final : NotifyCommands {
-  void Play(const PlayChoice&) override {}
+  bool Play(const PlayChoice&) override { return true; }
+  bool Snooze(const ScheduleItem&, int) override { return true; }
   void OpenPage(const std::string&) override {}
   void PlaySound() override {}
   void ShowHelp() override {}
@@ -124,16 +126,18 @@ struct EmptyProgram {
   ScheduleTexts scheduleTexts{words, ClockStyle::Hours24};
   ComingEvents coming{{diary, store, shows, source, clock, scheduleTexts}};
   NoScheduleListener scheduleListener;
-  ScheduleServices schedule{store, calendar, shows, picker, source,           clock,        outside.files,
-                            shell, messages, help,  coming, scheduleListener, scheduleTexts};
+  FakeUndoListener undoListener;
+  UndoList undo{undoListener};
+  ScheduleChanges changes{{store, shows, settings, undo, messages, words, scheduleTexts, scheduleListener}};
+  ScheduleServices schedule{store,  calendar,         shows,         picker,   source,
+                            clock,  outside.files,    shell,         messages, help,
+                            coming, scheduleListener, scheduleTexts, changes,  undo};
   OptionsModel options{settings, outside.faceplate, "C:\\Guide\\Sonaro.exe"};
   UpdateInstall install{folder, settings, stations};
   UpdateDependencies update{settings, folder, words, install, http, {}};
   NoUpdates updateDialog{forms, update};
   FakeCommands commands;
   NoNotify notify;
-  FakeUndoListener undoListener;
-  UndoList undo{undoListener};
   GuideData guide{folder, settings, words, state, stations, personal, extra, recent, favorites, source};
 };
 
