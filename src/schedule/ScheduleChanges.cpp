@@ -24,6 +24,8 @@ constexpr int kOneMinute = 60;  // seconds
 
 }  // namespace
 
+// The rows are read to what they stand for before anything is asked: while the box is open, the minute goes
+// on, and another session may write the file.
 void ScheduleChanges::Delete(const std::vector<std::string>& rowKeys) {
   std::vector<ScheduleFields> items;
   std::vector<std::string> shows;
@@ -39,6 +41,7 @@ void ScheduleChanges::Delete(const std::vector<std::string>& rowKeys) {
       shows.push_back(lines[static_cast<std::size_t>(show)]);
     }
   }
+  // A show is not asked about: it is told of afterwards, and both can be undone.
   if (!items.empty() && ConfirmDelete(items)) DeleteItems(items);
   for (const std::string& line : shows) DeleteShow(line);
 }
@@ -61,6 +64,7 @@ bool ScheduleChanges::ConfirmDelete(const std::vector<ScheduleFields>& items) {
   return true;
 }
 
+// Each removal is saved by itself. When one fails the rest stays too, and what has gone so far can be undone.
 void ScheduleChanges::DeleteItems(const std::vector<ScheduleFields>& items) {
   const auto& [store, shows, settings, undo, messages, strings, texts, listener] = dependencies_;
   std::vector<ScheduleFields> gone;
@@ -116,6 +120,7 @@ void ScheduleChanges::DeleteShow(const std::string& line) {
 
 bool ScheduleChanges::Snooze(const ScheduleItem& item, int minutes, const DateTime& now) {
   ScheduleStore& store = dependencies_.store;
+  // Items have no seconds, so half a minute is what rounding costs at most.
   const DateTime at = AddSeconds(now, std::int64_t{minutes} * kOneMinute + kOneMinute / 2);
   ScheduleFields later = item.fields;
   later.kind = "once";

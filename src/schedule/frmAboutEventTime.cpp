@@ -1,3 +1,5 @@
+// Everything of an event is shown in this computer's time, so a wrong clock or zone makes every time wrong:
+// the window says what the computer believes, and leads to where that is changed.
 #include "schedule/frmAboutEventTime.h"
 
 #include "forms/DialogRows.h"
@@ -13,6 +15,7 @@ namespace sonaro {
 
 namespace {
 
+// The control panel's page of date and time, by the way that works on every Windows.
 constexpr const char* kTimeSettings = "rundll32.exe shell32.dll,Control_RunDLL timedate.cpl";
 
 }  // namespace
@@ -80,6 +83,8 @@ std::span<const EventRow> frmAboutEventTime::Events() const {
   return kRows;
 }
 
+// The three lines are those of the moment at which the window opens; they do not run on, so that they can be
+// read out in peace.
 void frmAboutEventTime::OnLoad() {
   const DateTime now = clock_.LocalNow();
   std::string zone;

@@ -1,3 +1,5 @@
+// The system's month calendar with the chosen day in large beside it, since the mark in the calendar is small
+// and, in some themes, pale. Returns a date, never a time.
 #include "schedule/frmDateFinder.h"
 
 #include "forms/DialogRows.h"
@@ -81,6 +83,7 @@ void frmDateFinder::Show(const Date& date) {
 void frmDateFinder::calDates_Change() {
   const SYSTEMTIME date = calDates_.Date();
   const Date chosen{date.wYear, date.wMonth, date.wDay};
+  // The calendar tells of a date that it was given, too.
   if (IsValid(chosen) && chosen != chosen_) Show(chosen);
 }
 

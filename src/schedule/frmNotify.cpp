@@ -1,3 +1,5 @@
+// A notice comes while the user does something else. It takes neither focus nor time: it is done with by one
+// press (Play, Snooze, Close), and several stand side by side until that.
 #include "schedule/frmNotify.h"
 
 #include <algorithm>
@@ -9,6 +11,8 @@ namespace sonaro {
 
 namespace {
 
+// A moment later than the window, so that the sound does not come before the eye can find its reason. The web
+// site of an item that opens one waits for the same moment: the browser takes the focus.
 constexpr unsigned kSoundDelay = 50;  // milliseconds: the window has been painted
 constexpr unsigned char kNoticePane = 1;
 constexpr unsigned char kMissedPane = 2;
@@ -203,6 +207,7 @@ void frmNotify::mnuSnooze_Click(int length) {
   if (commands_.Snooze(Shown().item, kSnoozes[length].minutes)) Close();
 }
 
+// What was missed opens nothing by itself: it may be many pages, of hours ago.
 void frmNotify::Timer1_Timer() {
   StopTimer(Timer1);
   commands_.PlaySound();
@@ -218,6 +223,8 @@ void frmNotifyStack::ShowMissed(std::vector<Notification> missed) {
   Put(std::make_unique<frmNotify>(context_, commands_, std::move(missed)));
 }
 
+// A window is destroyed when its place is taken again, not when it closes: it may be closing from one of its
+// own handlers.
 void frmNotifyStack::Put(std::unique_ptr<frmNotify> window) {
   auto place =
       std::find_if(windows_.begin(), windows_.end(), [](const auto& shown) { return !shown->IsOpen(); });

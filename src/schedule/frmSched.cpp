@@ -1,3 +1,5 @@
+// Two lists in one window: what is scheduled, and the personal shows. Rows are made anew from the table every
+// time, sorted by a column of each list's own, and found again by their keys.
 #include "schedule/frmSched.h"
 
 #include <algorithm>
@@ -40,6 +42,7 @@ std::vector<std::string> frmSched::Rows::Keys() const {
   return keys;
 }
 
+// Filled anew every minute, as times like "Today" move on; the user must not lose his row by that.
 void frmSched::Rows::Fill(std::vector<ScheduleRow> rows) {
   const std::vector<std::string> before = Keys();
   rows_ = std::move(rows);
@@ -76,6 +79,7 @@ void frmSched::OnLoad() {
   FillLists();
 }
 
+// Of the two lists one has the selection; it is the one that the buttons mean.
 void frmSched::FillLists() {
   if (!IsOpen()) return;
   const DateTime now = services_.clock.LocalNow();
@@ -106,6 +110,7 @@ void frmSched::lstShows_ItemSelected(int) {
   ShowKeys();
 }
 
+// A double click, or Enter.
 void frmSched::lstSched_ItemActivate(int) { butChangeIt_Click(); }
 
 void frmSched::butAddIt_Click() {
@@ -135,6 +140,7 @@ void frmSched::butAboutTimeIt_Click() {
   frmAboutEventTime(context_, services_.clock, services_.shell, services_.help).ShowModal(Window());
 }
 
+// All items, whatever is selected: a calendar that imports the file again knows them by their identity.
 void frmSched::butExportIt_Click() {
   const std::string path = AskSavePath(Window(), LoadText(IDS_SCHED_EXPORT_FILTER), "Sonaro.ics");
   if (path.empty()) return;

@@ -1,3 +1,5 @@
+// The dialog copies its controls into the draft at every change and asks the draft what to show. Nothing is
+// written before OK; a slot of the table is taken then, not when the dialog opens.
 #include "schedule/frmSchedChange.h"
 
 #include "resources/texts/app.h"
@@ -48,6 +50,7 @@ void frmSchedChange::OnLoad() {
   ShowKind();
 }
 
+// In the order in which the choices of ScheduleDraft count: PM stands before AM.
 void frmSchedChange::FillChoices() {
   for (const std::string& hour : HourChoices(services_.texts.Style())) cmbTimeHour_.AddItem(hour);
   for (const std::string& minute : MinuteChoices()) cmbTimeMinute_.AddItem(minute);
@@ -70,6 +73,7 @@ void frmSchedChange::ShowKind() {
   ShowSummary();
 }
 
+// Told while the user types, so that OK has nothing new to say: what the item means, and when it comes next.
 void frmSchedChange::ShowSummary() {
   lblSummary_.SetText(draft_.Summary(services_.texts, services_.shortDatePattern));
   std::string next;
@@ -136,6 +140,8 @@ void frmSchedChange::butPickDateIt_Click() {
   Any_Change();
 }
 
+// The control at fault has the focus after the message. The keys are those that a message box looks its help
+// up by.
 bool frmSchedChange::ShowError(DraftFault fault) {
   struct Complaint {
     DraftFault fault;

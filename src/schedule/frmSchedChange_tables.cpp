@@ -7,6 +7,7 @@
 namespace sonaro {
 namespace {
 
+// Beside the last box of the time, of which the 24-hour clock has one less.
 constexpr ControlRow LocalTime(int x, unsigned char pane) {
   return {.kind = ControlKind::Label,
           .text = IDS_SCHED_CHANGE_LOCAL,

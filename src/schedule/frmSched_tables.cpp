@@ -70,6 +70,7 @@ const FormDesign& frmSched::Design() {
       HelpButton(628),
       CloseButton(660, butCancelIt),
   };
+  // lstSched and lstShows have consecutive numbers: Del works in both.
   static constexpr KeyRow kKeys[] = {
       {.key = VK_DELETE, .command = butDeleteIt, .onlyIn = lstSched, .controls = 2},
       {.key = VK_INSERT, .command = butAddIt},

@@ -1,3 +1,5 @@
+// Two ways to a station: the rows of a group or list, and a search of the guide. Either fills the same list,
+// and what was typed or chosen last is what it shows.
 #include "schedule/frmSelectStation.h"
 
 #include "base/Text.h"
@@ -91,6 +93,7 @@ void frmSelectStation::OnLoad() {
   cmbSelectGroup_Change();
 }
 
+// No row is chosen by itself: Enter after a search would otherwise take the first hit unseen.
 void frmSelectStation::ShowRows(std::vector<StationInfo> rows) {
   const bool searched = cmbSelectGroup_.SelectedItem() == static_cast<int>(stations_.WholeGuide());
   lstResult_->SetEmptyText(LoadText(searched ? IDS_SCHED_PICK_NONE : IDS_SCHED_PICK_EMPTY),
@@ -121,6 +124,7 @@ void frmSelectStation::lstResult_ItemActivate(int) { butOKIt_Click(); }
 void frmSelectStation::butOKIt_Click() {
   const int row = lstResult_->Selected();
   if (row < 0) return;
+  // By value: the rows go with the window.
   chosen_ = rows_.rows[static_cast<std::size_t>(row)];
   Close(1);
 }

@@ -24,6 +24,7 @@ std::span<const TimerRow> frmschedtime::Timers() const {
 
 void frmschedtime::OnLoad() { StartTimer(Timer1, kFirstTick); }
 
+// A timer of the system comes again and again; this one is wanted once.
 void frmschedtime::tmrFullMinute_Timer() {
   StopTimer(tmrFullMinute);
   ticks_.FullMinute();
@@ -31,6 +32,7 @@ void frmschedtime::tmrFullMinute_Timer() {
 
 bool ScheduleTimerWindow::IsLoaded() { return form_.IsOpen(); }
 
+// Never shown: the window is there for its timer, and for its label, by which others see that it lives.
 void ScheduleTimerWindow::Load() { form_.Create(); }
 
 void ScheduleTimerWindow::SetCloseItCaption(const char* caption) { form_.SetCloseItCaption(caption); }
@@ -42,6 +44,7 @@ void ScheduleTimerWindow::RestartTimer(unsigned milliseconds) {
 
 void ScheduleTimerWindow::TickOnceIn(unsigned milliseconds) { form_.StartTimer(tmrFullMinute, milliseconds); }
 
+// The form stays until the next Load: Unload is called from its own timer.
 void ScheduleTimerWindow::Unload() { form_.Close(); }
 
 }  // namespace sonaro

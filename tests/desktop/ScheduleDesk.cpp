@@ -59,9 +59,9 @@ void HandClockTest::TurnTo(const DateTime& local) {
   // Watching begins a moment after the main window has come.
   ASSERT_TRUE(WaitUntil([] { return !ReadSetting("ScheduleLastSeen").empty(); }));
   clock_.Set(local);
-  HWND tray = Sonaro().Window("frmSysTrayMenu");
+  HWND tray = Running().Window("frmSysTrayMenu");
   RunTimer(tray, tmrMinute);
-  if (HWND timer = Sonaro().Window("frmschedtime")) {
+  if (HWND timer = Running().Window("frmschedtime")) {
     RunTimer(timer, Timer1);  // may be the tick that takes the command of a new window
     RunTimer(timer, Timer1);
   }
@@ -71,13 +71,13 @@ void HandClockTest::TurnTo(const DateTime& local) {
 // What is due was posted to the tray window. One more message behind it, for a slot that no table has, shows
 // nothing but passes through the same label.
 void HandClockTest::WaitUntilTold(HWND tray) {
-  HWND label = Control(Sonaro().Window("SonaroFrm"), lblBringUp);
+  HWND label = Control(Running().Window("SonaroFrm"), lblBringUp);
   const int slot = ++lastMark_;
   PostMessageA(tray, 1795, static_cast<WPARAM>(slot), slot);
   EXPECT_TRUE(WaitUntil([&] { return TextOf(label) == std::to_string(slot) + "XX"; }));
 }
 
-std::vector<HWND> HandClockTest::Notices() { return ShownWindows(Sonaro().Id(), "frmNotify"); }
+std::vector<HWND> HandClockTest::Notices() { return ShownWindows(Running().Id(), "frmNotify"); }
 
 HWND HandClockTest::ExpectNotice(const DateTime& local, const std::string& info, const std::string& name) {
   const std::vector<HWND> before = Notices();

@@ -209,7 +209,7 @@ TEST_F(HandClockTest, AComputerThatWakesTellsTheLastHourAsUsual) {
 }
 
 TEST_F(HandClockTest, WhatWasToldIsNotToldAgainAtTheNextStart) {
-  WriteFile("Sched.snr", "Tea\tN\t\t10:05 AM\t\tdaily\t\r\nCake\tNS1\t\t10:07 AM\t\tdaily\t\r\n");
+  WriteFile("Sched.snr", "Tea\tN\t\t10:05 AM\t\tdaily\t\r\nCake\tNS6044347\t\t10:07 AM\t\tdaily\t\r\n");
   StartAndShowMain();
   TurnTo(10, 4);
   CloseNotice(ExpectNotice({kThursday, {10, 5, 30}}, "This is your daily 10:05 AM notice for", "Tea"));
