@@ -48,7 +48,8 @@ class EventRow {
       : first(id),
         kind(static_cast<Kind>(event)),
         withRow(static_cast<void (EventTarget::*)(int)>(handler)) {}
-  template <class T>  // row of a list, or index of a control array (count > 1), -1: none; screen pixels
+  // Row of a list, data of a node, or index of a control array (count > 1), -1: none; screen pixels.
+  template <class T>
   EventRow(int id, AtPoint, void (T::*handler)(int row, POINT at), int arraySize = 1)
       : first(id),
         count(arraySize),

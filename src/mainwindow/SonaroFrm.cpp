@@ -36,8 +36,9 @@ int SideCaptionOf(View view) {
 SonaroFrm::SonaroFrm(FormContext& context, const GuideData& data, const MainServices& services)
     : Form(context, Design()), models_(data, services.program), context_{*this,    context, data,
                                                                          services, models_, *this} {
-  for (EventTarget* pane : std::initializer_list<EventTarget*>{
-           &title_, &groups_, &browse_, &search_, &yours_, &list_, &detail_, &personal_, &status_, &drag_}) {
+  for (EventTarget* pane :
+       std::initializer_list<EventTarget*>{&title_, &groups_, &browse_, &search_, &yours_, &list_, &filter_,
+                                           &detail_, &personal_, &status_, &drag_}) {
     AddPart(*pane);
   }
 }
@@ -172,6 +173,7 @@ void SonaroFrm::PersonalStationsChanged() {
 void SonaroFrm::DirectoryChanged() {
   if (!IsOpen()) return;
   browse_.GuideChanged();
+  filter_.GuideChanged();
   models_.listing.StationsChanged();
   status_.ShowGuide();
   ShowEverything();

@@ -8,6 +8,7 @@
 #include "mainwindow/SonaroFrmBrowsePane.h"
 #include "mainwindow/SonaroFrmDetailPane.h"
 #include "mainwindow/SonaroFrmDragPane.h"
+#include "mainwindow/SonaroFrmFilterPane.h"
 #include "mainwindow/SonaroFrmGroupsPane.h"
 #include "mainwindow/SonaroFrmListPane.h"
 #include "mainwindow/SonaroFrmPersonalPane.h"
@@ -58,12 +59,13 @@ class SonaroFrm final : public Form, private MainView {
   TitlePane title_{context_};
   StatusPane status_{context_};
   GroupsPane groups_{context_, status_};
-  BrowsePane browse_{context_};
+  FilterPane filter_{context_};
+  BrowsePane browse_{context_, filter_};
   SearchPane search_{context_};
   YoursPane yours_{context_};
   DetailPane detail_{context_};
   PersonalPane personal_{context_};
-  ListPane list_{context_, groups_, detail_, personal_};
+  ListPane list_{context_, groups_, detail_, personal_, filter_};
   bool typed_ = false;  // TakeTyped is on its way
   DragPane drag_{context_, list_, groups_};
   Label lblSide_{*this, lblSide};

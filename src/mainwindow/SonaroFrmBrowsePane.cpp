@@ -5,6 +5,8 @@
 
 #include "forms/ControlIds.h"
 #include "forms/controls/TreeView.h"
+#include "mainwindow/SonaroFrmFilterPane.h"
+#include "resources/texts/mainwindow.h"
 #include "settings/Strings.h"
 #include "stations/PersonalStations.h"
 
@@ -24,6 +26,7 @@ std::span<const EventRow> BrowsePane::Events() const {
       {mnuActionNewStations, Click, &BrowsePane::mnuActionRanking_Click, 8},
       {treeBrowse, NodeClick, &BrowsePane::treeBrowse_NodeClick},
       {treeBrowse, ContextMenu, &BrowsePane::treeBrowse_ContextMenu},
+      {mnuFilterByNode, Click, &BrowsePane::mnuFilterByNode_Click},
   };
   return kRows;
 }
@@ -95,8 +98,19 @@ void BrowsePane::treeBrowse_NodeClick(HTREEITEM item) {
   context_.view.ShowEverything();
 }
 
-void BrowsePane::treeBrowse_ContextMenu(int, POINT at) {
-  form_.PopUpMenu(context_.models.actions.PersonalMenu(), at);
+void BrowsePane::treeBrowse_ContextMenu(int node, POINT at) {
+  menuValue_ = node >= 0 ? StationFilter::ValueOf(tree_, node) : std::string();
+  if (menuValue_.empty()) return form_.PopUpMenu(context_.models.actions.PersonalMenu(), at);
+  const std::string name = MenuText(StationFilter::ShortText(menuValue_));
+  form_.PopUpMenu(std::vector<MenuEntry>{{.command = mnuFilterByNode,
+                                          .text = FormatText(form_.LoadText(IDS_FILTER_NODE), {name})}},
+                  at);
+}
+
+void BrowsePane::mnuFilterByNode_Click() {
+  const bool places = tree_.Mode() == BrowseMode::ByLocation;
+  if (!menuValue_.empty())
+    filter_.Set(places ? StationFilter::Part::Place : StationFilter::Part::Genre, menuValue_);
 }
 
 }  // namespace sonaro

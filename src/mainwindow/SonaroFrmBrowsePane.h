@@ -12,12 +12,13 @@
 
 namespace sonaro {
 
+class FilterPane;
 class TreeView;
 
 class BrowsePane final : public EventTarget {
  public:
-  explicit BrowsePane(const MainContext& context)
-      : context_(context), form_(context.form), tree_(context.models.tree) {}
+  BrowsePane(const MainContext& context, FilterPane& filter)
+      : context_(context), form_(context.form), filter_(filter), tree_(context.models.tree) {}
 
   // Lights the ranking on show; in the browsing views shows the tree as it is built. The same tree keeps its
   // expansion and its selection, whatever the number of the user's own stations.
@@ -34,15 +35,18 @@ class BrowsePane final : public EventTarget {
   void butRanking_Click(int button);
   void mnuActionRanking_Click(int entry);
   void treeBrowse_NodeClick(HTREEITEM item);
-  void treeBrowse_ContextMenu(int row, POINT at);
+  void treeBrowse_ContextMenu(int node, POINT at);
+  void mnuFilterByNode_Click();
 
   const MainContext& context_;
   Form& form_;
+  FilterPane& filter_;
   BrowseTree& tree_;
   ControlArray<ToggleButton> butRankings_{form_, butNewStations, 7};
   TreeHandle treeBrowse_{form_, treeBrowse};
   BrowseMode shown_ = BrowseMode::NotBuilt;
   HTREEITEM personal_ = nullptr;  // "Your Stations"
+  std::string menuValue_;         // of the node that the open menu is about, as the filter knows it
 };
 
 }  // namespace sonaro

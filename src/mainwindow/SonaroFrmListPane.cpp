@@ -3,6 +3,7 @@
 #include "forms/ControlIds.h"
 #include "forms/WideText.h"
 #include "mainwindow/SonaroFrmDetailPane.h"
+#include "mainwindow/SonaroFrmFilterPane.h"
 #include "mainwindow/SonaroFrmGroupsPane.h"
 #include "mainwindow/SonaroFrmPersonalPane.h"
 #include "mainwindow/SonaroFrm_panes.h"
@@ -34,6 +35,7 @@ std::span<const EventRow> ListPane::Events() const {
       {mnuActionMoveUp, Click, &ListPane::mnuActionMoveUp_Click},
       {mnuActionMoveDown, Click, &ListPane::mnuActionMoveDown_Click},
       {mnuActionAddListToScan, Click, &ListPane::mnuActionAddListToScan_Click},
+      {mnuSomethingElse, Click, &ListPane::mnuSomethingElse_Click},
   };
   return kRows;
 }
@@ -56,7 +58,7 @@ void ListPane::ShowRows() {
   const ListingState& state = listing_.State();
   lblListing_.SetText(state.caption);
   ShowFilterBox();
-  ShowMissing();
+  ShowBesideCaption();
   ShowCount();
 }
 
@@ -65,7 +67,7 @@ void ListPane::ShowCount() {
   const auto figure = [&](std::size_t count) { return FormatCount(count, context_.data.state.decimalMode); };
   const std::size_t count = rows.StationCount();
   const int textId = count == 1 ? IDS_COUNT_ONE_STATION : IDS_COUNT_STATIONS;
-  if (!listing_.State().narrowedBy.empty() && !rows.IsNotice()) {
+  if (count != rows.FilledCount()) {
     lblCount_.SetText(
         FormatText(form_.LoadText(IDS_COUNT_FILTERED), {figure(count), figure(rows.FilledCount())}));
   } else if (listing_.State().holds == Holds::Nothing && count == 0) {
@@ -75,8 +77,8 @@ void ListPane::ShowCount() {
   }
 }
 
-// Beside the caption, which is shorter then.
-void ListPane::ShowMissing() {
+// What stands beside the caption and between it and the list, which are smaller then.
+void ListPane::ShowBesideCaption() {
   const ListingState& state = listing_.State();
   const bool room = state.middle == Middle::StationList && !filterOpen_;
   const std::size_t count = room ? state.missing.size() : 0;
@@ -84,7 +86,12 @@ void ListPane::ShowMissing() {
   butMissing_.SetText(
       FormatText(form_.LoadText(textId), {FormatCount(count, context_.data.state.decimalMode)}));
   butMissing_.Show(count > 0);
-  form_.UseLayout(count > 0 ? kMainLayoutWithMissing : filterOpen_ ? kMainLayoutWithFilter : 0);
+  const bool filterRow =
+      state.middle == Middle::StationList && (filterOpen_ || context_.models.filter.IsOn());
+  filter_.Show(filterRow);
+  int layout = count > 0 ? kMainLayoutWithMissing : 0;
+  if (filterRow) layout = count > 0 ? kMainLayoutWithMissingAndFilterRow : kMainLayoutWithFilterRow;
+  form_.UseLayout(filterOpen_ ? kMainLayoutWithFilter : layout);
 }
 
 // The box goes when the list for which it was opened does: the words have been taken, and narrow nothing now.
@@ -105,8 +112,17 @@ void ListPane::ShowEmptyText() {
     lstFavs_->SetEmptyText(form_.LoadText(IDS_EMPTY_FILTER), form_.LoadText(IDS_EMPTY_FILTER_HELP));
     return;
   }
+  if (context_.models.filter.IsOn() && listing_.Rows().FilledCount() > 0) {
+    lstFavs_->SetEmptyText(form_.LoadText(IDS_EMPTY_PARTS), form_.LoadText(IDS_EMPTY_PARTS_HELP));
+    return;
+  }
   switch (listing_.State().holds) {
-    case Holds::Nothing:
+    case Holds::Nothing:  // with the name of a category that was clicked
+      if (!listing_.State().caption.empty()) {
+        lstFavs_->SetEmptyText(FormatText(form_.LoadText(IDS_EMPTY_CATEGORY), {listing_.State().caption}),
+                               form_.LoadText(IDS_EMPTY_CATEGORY_HELP));
+        return;
+      }
       heading = IDS_EMPTY_CHOOSE;
       help = IDS_EMPTY_CHOOSE_HELP;
       break;
@@ -194,7 +210,7 @@ void ListPane::mnuFilter_Click() {
   if (listing_.State().middle != Middle::StationList) return;
   filterOpen_ = true;
   ShowFilterBox();
-  ShowMissing();
+  ShowBesideCaption();
   txtFilter_.Focus();
   txtFilter_.SelectAll();
   context_.view.PrepareTyping();
@@ -245,6 +261,16 @@ void ListPane::MoveRow(const StationKey& station, int to) {
 
 void ListPane::mnuActionAddListToScan_Click() {
   if (listing_.Rows().StationCount() > 0) context_.services.scan.Add(listing_.Rows().Keys());
+}
+
+// Chosen by the moment of the click, which nobody hits on purpose.
+void ListPane::mnuSomethingElse_Click() {
+  const auto row = listing_.Rows().AnyOther(GetTickCount());
+  if (!row || listing_.State().middle != Middle::StationList) return;
+  listing_.Rows().Select(row);
+  ShowRows();
+  context_.view.ShowSelection();
+  detail_.PlayFirst();
 }
 
 StationKey ListPane::KeyAt(int row) const {

@@ -8,18 +8,21 @@
 namespace sonaro {
 
 class DetailPane;
+class FilterPane;
 class GroupsPane;
 class PersonalPane;
 
 class ListPane final : public EventTarget, private ListModel {
  public:
-  ListPane(const MainContext& context, GroupsPane& groups, DetailPane& detail, PersonalPane& personal)
+  ListPane(const MainContext& context, GroupsPane& groups, DetailPane& detail, PersonalPane& personal,
+           FilterPane& filter)
       : context_(context),
         form_(context.form),
         listing_(context.models.listing),
         groups_(groups),
         detail_(detail),
-        personal_(personal) {}
+        personal_(personal),
+        filter_(filter) {}
 
   void Load();
   // The rows are others, or in another order: shows them with their selection, caption and count.
@@ -40,7 +43,7 @@ class ListPane final : public EventTarget, private ListModel {
   bool IsNotice() const override;
 
   void ShowEmptyText();
-  void ShowMissing();
+  void ShowBesideCaption();
   void ShowCount();
   void ShowFilterBox();
   void SortBy(int command);
@@ -63,6 +66,7 @@ class ListPane final : public EventTarget, private ListModel {
   void mnuActionMoveUp_Click() { MoveStation(-1); }
   void mnuActionMoveDown_Click() { MoveStation(1); }
   void mnuActionAddListToScan_Click();
+  void mnuSomethingElse_Click();
 
   const MainContext& context_;
   Form& form_;
@@ -70,6 +74,7 @@ class ListPane final : public EventTarget, private ListModel {
   GroupsPane& groups_;
   DetailPane& detail_;
   PersonalPane& personal_;
+  FilterPane& filter_;
   ListHandle lstFavs_{form_, lstFavs};
   ControlArray<ColumnButton> butSplit_{form_, butSplit1, 4};
   Label lblListing_{form_, lblListing};

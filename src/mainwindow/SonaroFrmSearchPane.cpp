@@ -13,6 +13,7 @@ std::span<const EventRow> SearchPane::Events() const {
       {txtQuickSearch, SelChange, &SearchPane::txtQuickSearch_Change},
       {txtQuickSearch, EnterPressed, &SearchPane::FindStation},
       {butSearchList, Click, &SearchPane::FindStation},
+      {butPinSearch, Click, &SearchPane::butPinSearch_Click},
       {butWebOpen, Click, &SearchPane::butWebOpen_Click},
   };
   return kRows;
@@ -33,7 +34,19 @@ void SearchPane::Load() {
 
 void SearchPane::ShowHistory() {
   txtQuickSearch_.ClearItems();
-  for (const std::string& entry : search_.History()) txtQuickSearch_.AddItem(entry);
+  for (const std::string& entry : search_.Searches()) txtQuickSearch_.AddItem(entry);
+  ShowPinned();
+}
+
+void SearchPane::ShowPinned() const {
+  const std::string typed = txtQuickSearch_.Text();
+  butPinSearch_.Enable(!TrimBlanks(typed).empty());
+  butPinSearch_.SetActive(search_.IsPinned(typed));
+}
+
+void SearchPane::butPinSearch_Click() {
+  search_.TogglePinned(txtQuickSearch_.Text());
+  ShowHistory();
 }
 
 void SearchPane::ShowWebSearch() {
@@ -52,6 +65,7 @@ std::size_t SearchPane::ChosenKind() const {
 
 void SearchPane::TakeTyped() {
   const std::string typed = txtQuickSearch_.Text();
+  ShowPinned();
   if (typed == taken_ || !search_.SearchesStations(ChosenKind())) return;
   taken_ = typed;
   context_.models.listing.ShowMatches(TrimBlanks(typed));

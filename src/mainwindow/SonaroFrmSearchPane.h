@@ -22,6 +22,8 @@ class SearchPane final : public EventTarget {
   std::size_t ChosenKind() const;
   void txtQuickSearch_Change() { context_.view.Typed(); }
   void FindStation();
+  void butPinSearch_Click();
+  void ShowPinned() const;
   void butWebOpen_Click();
 
   const MainContext& context_;
@@ -30,6 +32,7 @@ class SearchPane final : public EventTarget {
   ComboBox txtQuickSearch_{form_, txtQuickSearch};
   RadioButton optSearch_{form_, optSearch};  // all words; the other one any word
   ControlArray<RadioButton> optSearchType_{form_, optSearchType, static_cast<int>(SearchPanel::kMaxKinds)};
+  ToggleButton butPinSearch_{form_, butPinSearch};
   Label lblWebAsked_{form_, lblWebAsked};
   Edit lblWebAddress_{form_, lblWebAddress};
   Label lblListing_{form_, lblListing};

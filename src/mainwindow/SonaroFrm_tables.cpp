@@ -1,4 +1,6 @@
 // The main window as tables: its controls in tab order and its keys. What they do stands with the panes.
+#include <array>
+
 #include "faceplate/Icon.h"
 #include "forms/ControlIds.h"
 #include "mainwindow/SonaroFrm.h"
@@ -45,6 +47,24 @@ constexpr ControlRow Header(int index, int text, int x, int width) {
           .text = text,
           .at = {x, 164, width, 24},
           .pane = kListPane};
+}
+
+constexpr ControlRow FilterBox(int index, int name, int x, int width) {
+  return {.id = cmbListFilter + index,
+          .kind = ControlKind::Combo,
+          .text = name,
+          .at = {x, 164, width, 26},
+          .pane = kFilterPane};
+}
+
+constexpr ControlRow EndFilterButton(int index, int text, int x) {
+  return {.id = butEndListFilter + index,
+          .kind = ControlKind::StripButton,
+          .text = text,
+          .at = {x, 166, 22, 22},
+          .icon = Icon::Close,
+          .flags = kHidden | kTabStop,
+          .pane = kFilterPane};
 }
 
 constexpr ControlRow RatingRow(int index, int image, int name) {
@@ -159,7 +179,13 @@ const ControlRow kControls[] = {
      .at = {14, 440, 200, 36},
      .icon = Icon::Search,
      .pane = kSearchPane},
-    {.kind = ControlKind::Slots, .at = {14, 496, 200, 90}, .pane = kSearchPane},
+    {.id = butPinSearch,
+     .kind = ControlKind::ToggleButton,
+     .text = IDS_SEARCH_PIN,
+     .at = {14, 482, 200, 28},
+     .icon = Icon::Fav,
+     .pane = kSearchPane},
+    {.kind = ControlKind::Slots, .at = {14, 526, 200, 60}, .pane = kSearchPane},
     {.id = lstGroups, .kind = ControlKind::ListView, .at = {14, 164, 200, 234}, .pane = kYoursPane},
     {.id = butNewGroup,
      .kind = ControlKind::PushButton,
@@ -239,6 +265,17 @@ const ControlRow kControls[] = {
      .at = {568, 138, 26, 22},
      .icon = Icon::Filter,
      .pane = kListPane},
+    FilterBox(0, IDS_FILTER_PLACE, 224, 118),
+    EndFilterButton(0, IDS_FILTER_END_PLACE, 344),
+    FilterBox(1, IDS_FILTER_GENRE, 370, 118),
+    EndFilterButton(1, IDS_FILTER_END_GENRE, 490),
+    FilterBox(2, IDS_FILTER_LEAST_RATE, 516, 100),
+    EndFilterButton(2, IDS_FILTER_END_RATE, 618),
+    {.id = butOnlyAnswering,
+     .kind = ControlKind::ToggleButton,
+     .text = IDS_FILTER_ANSWERS,
+     .at = {642, 164, 74, 26},
+     .pane = kFilterPane},
     {.id = lstFavs, .kind = ControlKind::ListView, .at = {224, 188, 492, 398}, .pane = kListPane},
     {.id = lstEvents, .kind = ControlKind::ListView, .at = {224, 164, 492, 382}, .pane = kEventPane},
     {.id = butNotifyMe,
@@ -382,15 +419,29 @@ const ControlRow kControls[] = {
 };
 
 constexpr Bounds kWithMissing[] = {{lblListing, {224, 137, 128, 24}}};
-constexpr Bounds kWithFilter[] = {{lblListing, {224, 137, 112, 24}}};
+// The list with its header buttons below the filter's row, and a caption of this width.
+constexpr std::array<Bounds, 6> BelowFilterRow(int captionWidth) {
+  return {{{lblListing, {224, 137, captionWidth, 24}},
+           {butSplit1, {224, 196, 186, 24}},
+           {butSplit2, {410, 196, 112, 24}},
+           {butSplit3, {522, 196, 82, 24}},
+           {butSplit4, {604, 196, 112, 24}},
+           {lstFavs, {224, 220, 492, 366}}}};
+}
+constexpr auto kWithFilter = BelowFilterRow(112);
+constexpr auto kWithFilterRow = BelowFilterRow(312);
+constexpr auto kWithMissingAndFilterRow = BelowFilterRow(128);
 constexpr Layout kLayouts[] = {{.places = kWithMissing, .others = Layout::Others::AsDesigned},
-                               {.places = kWithFilter, .others = Layout::Others::AsDesigned}};
+                               {.places = kWithFilter, .others = Layout::Others::AsDesigned},
+                               {.places = kWithFilterRow, .others = Layout::Others::AsDesigned},
+                               {.places = kWithMissingAndFilterRow, .others = Layout::Others::AsDesigned}};
 
 constexpr KeyRow kKeys[] = {
     {'F', kCtrl, mnuViewSearch},
     {VK_F3, kPlain, mnuViewSearch},
     {'Z', kCtrl, mnuUndo},
     {'L', kCtrl, mnuFilter},
+    {'R', kCtrl, mnuSomethingElse},
     {VK_ESCAPE, kPlain, mnuEndFilter, txtFilter},
     {VK_ESCAPE, kPlain, mnuEndFilter, lstFavs},
     {VK_DOWN, kPlain, mnuFiltered, txtFilter},

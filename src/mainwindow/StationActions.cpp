@@ -93,6 +93,7 @@ MenuEntries StationActions::ActionMenu(const StationDetail& detail) const {
                             : Entry(mnuActionExtraLink, IDS_ACTION_EXTRA_LINK_NONE, false));
   }
   AddSeparator(menu);
+  menu.push_back(Entry(mnuSomethingElse, IDS_ACTION_SOMETHING_ELSE, listing_.Rows().StationCount() > 0));
   menu.push_back(Entry(mnuFilter, IDS_ACTION_FILTER));
   menu.push_back(Submenu(strings_.Load(IDS_ACTION_SORT), SortEntriesFor(Place::ActionMenu)));
   menu.push_back(Submenu(strings_.Load(IDS_ACTION_RANKINGS), RankingEntries()));
@@ -208,6 +209,7 @@ MenuEntries StationActions::ProgramMenu() const {
                                          {mnuViewByLocation, IDS_MENU_BY_LOCATION},
                                          {mnuViewSearch, IDS_MENU_SEARCH},
                                          {mnuRecent, IDS_MENU_RECENT},
+                                         {mnuSomethingElse, IDS_ACTION_SOMETHING_ELSE},
                                          {mnuViewPersonalPage, IDS_MENU_PERSONAL_PAGE},
                                          {0, 0},
                                          {mnuFavoritesAdd, IDS_GROUP_NEW},

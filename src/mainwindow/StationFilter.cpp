@@ -28,9 +28,10 @@ void AppendIds(const BrowseTree& tree, int node, std::vector<std::int32_t>& ids)
 }
 
 // A sub-genre is an entry that has none below it; entries that do sort stations of other genres by initials.
-bool CanBeChosen(StationFilter::Part part, const BrowseNode& node) {
+// An entry with the name of its category stands for all of it.
+bool CanBeChosen(StationFilter::Part part, const BrowseTree& tree, const BrowseNode& node) {
   if (node.level == 0) return true;
-  if (node.level > 1 || node.text.starts_with(' ')) return false;
+  if (node.level > 1 || node.text.starts_with(' ') || node.text == tree.Node(node.parent).text) return false;
   return part == StationFilter::Part::Place || node.children.empty();
 }
 
@@ -86,7 +87,7 @@ std::vector<StationFilter::Choice> StationFilter::Choices(Part placeOrGenre) con
   const BrowseTree tree = ReadTree(placeOrGenre);
   std::multimap<std::string, Choice> byText;
   for (int node = 0; node < static_cast<int>(tree.NodeCount()); ++node) {
-    if (!CanBeChosen(placeOrGenre, tree.Node(node))) continue;
+    if (!CanBeChosen(placeOrGenre, tree, tree.Node(node))) continue;
     std::string value = ValueOf(tree, node);
     if (value.empty()) continue;
     Choice choice{std::string(ShortText(value)), std::move(value)};

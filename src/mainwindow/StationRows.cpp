@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <numeric>
+#include <random>
 #include <utility>
 
 #include "mainwindow/StationFilter.h"
@@ -223,6 +224,14 @@ std::optional<std::size_t> StationRows::FindByName(std::string_view start, std::
     enough *= 2;
   }
   return FirstNamed(positions, start);
+}
+
+// Numbers that follow each other, as those of a clock do, give rows far from each other.
+std::optional<std::size_t> StationRows::AnyOther(std::uint32_t chance) const {
+  if (StationCount() == 0) return std::nullopt;
+  const std::size_t others = std::max<std::size_t>(Count() - (selected_ ? 1 : 0), 1);
+  const std::size_t position = std::minstd_rand(chance)() % others;
+  return selected_ && position >= *selected_ && Count() > 1 ? position + 1 : position;
 }
 
 void StationRows::Select(std::optional<std::size_t> position) {

@@ -93,6 +93,9 @@ class StationRows {
   const std::optional<std::size_t>& Selected() const { return selected_; }
   // None without one.
   StationKey SelectedKey() const { return selected_ ? KeyAt(*selected_) : StationKey(); }
+  // The position of a station other than the selected one, or the only one; nothing without a station.
+  // `chance` is any number, and decides.
+  std::optional<std::size_t> AnyOther(std::uint32_t chance) const;
   // Selecting a row that stands for no station, or nothing, leaves no selection.
   void Select(std::optional<std::size_t> position);
 

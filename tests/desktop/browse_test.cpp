@@ -119,6 +119,45 @@ TEST_F(WholeGuideTest, AFilterNarrowsAListUntilEsc) {
   EXPECT_FALSE(IsShown(Control(main, txtFilter)));
 }
 
+TEST_F(WholeGuideTest, JazzStationsOfPolandInThreeClicks) {
+  HWND main = StartAndShowMain("DoWhat=BringBrowse");
+  HWND tree = Control(main, treeBrowse);
+  ASSERT_TRUE(WaitUntil([&] { return IsShown(tree) && TreeChildren(tree).size() > 10; }));
+  ClickTreeItem(tree, FindTreeItem(tree, {"Jazz", " All Jazz"}));
+  ASSERT_TRUE(WaitUntil([&] { return RowCount(List(main)) > 500; }));
+  const int jazz = RowCount(List(main));
+  const auto allOfPoland = [&] {
+    for (const std::string& place : ColumnTexts(List(main), 1)) {
+      if (place.find("Poland") == std::string::npos) return false;
+    }
+    return RowCount(List(main)) > 0;
+  };
+  Click(Control(main, butFilter));
+  ASSERT_TRUE(ChooseItem(Control(main, cmbListFilter), "Poland"));
+  EXPECT_TRUE(WaitUntil(allOfPoland));
+  EXPECT_LT(RowCount(List(main)), jazz / 10);
+  // It holds in the next list and after a restart, until it is taken away.
+  Command(main, mnuActionMostPoular);
+  EXPECT_TRUE(Listing(main, "Most Popular"));
+  EXPECT_TRUE(WaitUntil(allOfPoland));
+  Command(main, mnuExit);
+  EXPECT_TRUE(Sonaro().WaitForEnd().has_value());
+  main = StartAndShowMain();
+  EXPECT_TRUE(WaitUntil(allOfPoland));
+  EXPECT_EQ(ChosenText(Control(main, cmbListFilter)), "Poland");
+  const int poland = RowCount(List(main));
+  Click(Control(main, butEndListFilter));
+  EXPECT_TRUE(WaitUntil([&] { return RowCount(List(main)) > poland; }));
+  EXPECT_TRUE(WaitUntil([&] { return !IsShown(Control(main, cmbListFilter)); }));
+}
+
+TEST_F(BrowseTest, SomethingElsePlaysAnotherStationOfTheList) {
+  HWND main = MainWithStations();
+  Command(main, mnuSomethingElse);
+  EXPECT_EQ(AsxLines(1).size(), 1u);
+  EXPECT_TRUE(WaitUntil([&] { return SelectedRows(List(main)) != std::vector<int>{0}; }));
+}
+
 TEST_F(BrowseTest, ASearchIsRememberedAcrossARestart) {
   HWND main = StartAndShowMain("DoWhat=BringSearch");
   HWND words = Control(main, txtQuickSearch);

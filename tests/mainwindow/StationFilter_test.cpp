@@ -1,5 +1,7 @@
 #include "mainwindow/StationFilter.h"
 
+#include <set>
+
 #include "mainwindow/Models.h"
 #include "settings/SettingNames.h"
 
@@ -16,7 +18,7 @@ class StationFilterTest : public Models {
     files.Put("/d/rock.snr", "1\t\tPunk\t0\t2\n2\t\tGoth\t0\t4 2\n");
     files.Put("/d/catloc.snr", "1\tEurope\teu\tE\n2\tAsia\tas\tA\n");
     files.Put("/d/eu.snr", "1\t\tPoland\t0\t1 2 9\n2\t\tKraków\t1\t2\n3\t\tNorway\t0\t4\n");
-    files.Put("/d/as.snr", "1\t\tGeorgia\t0\t3\n");
+    files.Put("/d/as.snr", "1\t\tGeorgia\t0\t3\n2\t\tAsia\t0\t\n");
     files.Put("/d/favs.snr", "All\t4 3 P1 1 2\n");
     groups.LoadFavoriteGroups();
     listing.ShowFavoriteGroup(0);
@@ -67,7 +69,7 @@ TEST_F(StationFilterTest, HoldsInEveryListAndASortAndKeepsTheSelection) {
 }
 
 TEST_F(StationFilterTest, OffersCategoriesAndTheirEntriesByText) {
-  // Neither the entry of all nor one that only sorts others.
+  // Neither the entry of all, by its blank or its name, nor one that only sorts others.
   EXPECT_EQ(Texts(Part::Genre), "Acid Jazz|Goth|Jazz|Punk|Rock|");
   EXPECT_EQ(Texts(Part::Place), "Asia|Europe|Georgia|Norway|Poland|");
   for (const StationFilter::Choice& choice : filter.Choices(Part::Place)) {
@@ -94,6 +96,23 @@ TEST_F(StationFilterTest, IsKeptAndReadAgainFromANewGuide) {
   filter.TakeAllAway();
   EXPECT_FALSE(filter.IsOn());
   EXPECT_EQ(settings.Get(setting::kListFilter), "");
+}
+
+TEST_F(StationFilterTest, SomethingElseIsAnotherOfTheShownStations) {
+  const auto chosen = [&] {
+    std::set<std::size_t> rows;
+    for (std::uint32_t chance = 1; chance < 200; ++chance)
+      rows.insert(listing.Rows().AnyOther(chance).value_or(99));
+    return rows;
+  };
+  EXPECT_EQ(chosen(), (std::set<std::size_t>{1, 2, 3, 4}));
+  listing.Rows().Select(3);
+  EXPECT_EQ(chosen(), (std::set<std::size_t>{0, 1, 2, 4}));
+  listing.ShowRanking(Ranking::NewStations);
+  With(Part::Place, "Asia");
+  EXPECT_EQ(chosen(), std::set<std::size_t>{0}) << "the only one";
+  listing.ShowSearch("zzz", true);
+  EXPECT_EQ(chosen(), std::set<std::size_t>{99});
 }
 
 TEST_F(StationFilterTest, PlaceAndGenreReadNoStation) {

@@ -206,6 +206,19 @@ bool ComboBox::SelectItemData(int data) const {
   return false;
 }
 
+void ComboBox::FitListToTexts() const {
+  constexpr int kBesideText = 40;  // insets and scroll bar
+  const HWND window = Window();
+  if (!window) return;
+  const Painter& painter = Inside().Theme();
+  int widest = 0;
+  for (int row = 0; row < ItemCount(); ++row) {
+    widest =
+        std::max(widest, static_cast<int>(painter.Measure(ComboRowText(window, row), TextStyle::Body).cx));
+  }
+  Send(CB_SETDROPPEDWIDTH, static_cast<WPARAM>(widest + painter.Px(kBesideText)));
+}
+
 void ComboBox::SelectAll() const { Send(CB_SETEDITSEL, 0, MAKELPARAM(0, -1)); }
 
 SYSTEMTIME MonthCalendar::Date() const {

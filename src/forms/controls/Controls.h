@@ -156,6 +156,7 @@ class ComboBox final : public TextControl {
   void SelectItem(int row) const;
   bool SelectItemData(int data) const;  // false: no row has it, the selection stays
   void SelectAll() const;               // the typed text
+  void FitListToTexts() const;          // the open list becomes as wide as its longest text
 };
 
 class MonthCalendar final : public ControlHandle {

@@ -185,6 +185,11 @@ LRESULT TreeView::Handle(UINT message, WPARAM wParam, LPARAM lParam) {
       // The first click opened the node; only on its mark does each click count.
       if (OnMark(NodeAt(at), at)) Press(at);
       return 0;
+    case WM_RBUTTONDOWN:  // the system would wait here for the button, and then tell of a menu by itself
+      return 0;
+    case WM_CONTEXTMENU:
+      ShowContextMenu(at);
+      return 0;
     case WM_MOUSEMOVE:
       SetHover(NodeAt(at));
       break;
@@ -239,6 +244,20 @@ void TreeView::Toggle(HTREEITEM node) {
   if (node == nullptr) return;
   TreeView_Expand(Window(), node, TVE_TOGGLE);
   SyncScrollBar();
+}
+
+void TreeView::ShowContextMenu(POINT screen) {
+  HTREEITEM node = Selected();
+  if (screen.x == -1 && screen.y == -1) {  // by keyboard: at the selected node
+    const RECT box = node != nullptr ? BoxOf(node) : RECT{};
+    screen = {box.left + Theme().Px(kIndent * 2), box.bottom};
+    ClientToScreen(Window(), &screen);
+  } else {
+    POINT client = screen;
+    ScreenToClient(Window(), &client);
+    node = NodeAt(client);
+  }
+  Raise({.kind = FormEvent::Kind::ContextMenu, .row = Data(node), .point = screen});
 }
 
 void TreeView::SetHover(HTREEITEM node) {

@@ -1,6 +1,6 @@
 // A tree drawn in the faceplate's way: the system's tree view with its own painting and scroll bar. Nodes
-// have a text, a figure at the right end, and a number of the owner's. A click on a root opens it as well.
-// Made by Form for rows of kind TreeView.
+// have a text, a figure at the right end, and a number of the owner's, which is the row of a ContextMenu
+// event. A click on a root opens it as well. Made by Form for rows of kind TreeView.
 #pragma once
 
 #include <windows.h>
@@ -46,6 +46,7 @@ class TreeView final : public ScrolledView {
   void ScrollTo(int first) override;
   void Press(POINT at);
   void Toggle(HTREEITEM node);
+  void ShowContextMenu(POINT screen);
   void SetHover(HTREEITEM node);
   HTREEITEM NodeAt(POINT client) const;
   bool OnMark(HTREEITEM node, POINT at) const;  // the plus or minus of a node with children
