@@ -12,6 +12,12 @@
 
 namespace sonaro {
 
+// What one file becomes. Outside the unnamed namespace, since the frame of ExpandChanges holds one.
+struct FileChange {
+  std::string_view name, was, becomes;
+  std::string_view steps;
+};
+
 namespace {
 
 constexpr char kFileMark = '>';
@@ -60,12 +66,6 @@ bool AppendUnescaped(std::string_view text, std::string& out) {
   }
   return true;
 }
-
-// What one file becomes.
-struct FileChange {
-  std::string_view name, was, becomes;
-  std::string_view steps;
-};
 
 // Takes the next file and its steps from the section; false when they do not begin with a line of a file.
 bool TakeFile(std::string_view& section, FileChange& change) {
@@ -116,25 +116,28 @@ std::string EscapedForStep(std::string_view text) {
 
 // The digest of what comes out is the proof: whatever the steps say, only what the publisher had is taken.
 // The one before is looked at first, since it costs less to find out then that this guide is another one.
-bool ExpandChanges(DataFolder& data, UpdateContents& contents) {
+Sliced<bool> ExpandChanges(DataFolder& data, UpdateContents& contents) {
   const std::string section = std::exchange(contents.changes, {});
   std::string_view rest = section;
   std::size_t room = update::kMaxBytes;
   while (!rest.empty()) {
     FileChange change;
-    if (!TakeFile(rest, change) || !update::MayBringFile(change.name)) return false;
+    if (!TakeFile(rest, change) || !update::MayBringFile(change.name)) co_return false;
     const ReadResult file = data.Read("\\" + std::string(change.name));
-    if (file.status != ReadStatus::Ok || Sha256Hex(file.bytes) != change.was) return false;
+    co_await NextSlice();
+    if (file.status != ReadStatus::Ok || Sha256Hex(file.bytes) != change.was) co_return false;
+    co_await NextSlice();
     std::optional<std::string> bytes = ApplySteps(file.bytes, change.steps, room);
-    if (!bytes || Sha256Hex(*bytes) != change.becomes) return false;
+    co_await NextSlice();
+    if (!bytes || Sha256Hex(*bytes) != change.becomes) co_return false;
     const bool twice =
         std::any_of(contents.files.begin(), contents.files.end(),
                     [&](const ReceivedFile& one) { return EqualIgnoringCase(one.name, change.name); });
-    if (twice || contents.files.size() == update::kMaxSections) return false;
+    if (twice || contents.files.size() == update::kMaxSections) co_return false;
     room -= bytes->size();
     contents.files.push_back({std::string(change.name), std::move(*bytes)});
   }
-  return true;
+  co_return true;
 }
 
 }  // namespace sonaro

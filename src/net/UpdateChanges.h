@@ -12,6 +12,8 @@
 #include <string>
 #include <string_view>
 
+#include "base/Sliced.h"
+
 namespace sonaro {
 
 class DataFolder;
@@ -27,6 +29,6 @@ std::string EscapedForStep(std::string_view text);
 // Adds the files that contents.changes lead to to contents.files, whole, made of those in the data folder,
 // and empties the changes. False when a digest does not fit, a file is missing or a name may not come: then
 // nothing of the contents may be used, and the whole guide has to be asked for.
-[[nodiscard]] bool ExpandChanges(DataFolder& data, UpdateContents& contents);
+Sliced<bool> ExpandChanges(DataFolder& data, UpdateContents& contents);
 
 }  // namespace sonaro

@@ -244,7 +244,7 @@ Sliced<int> UpdateExchange::TakeUpdate() {
   UpdateContents contents = co_await ReadUpdateFile(needs_.data);
   if (contents.status != UpdateFileStatus::Read) co_return RefusalOf(contents.status);
   co_await NextSlice();
-  if (!ExpandChanges(needs_.data, contents)) co_return kWholeWanted;
+  if (!co_await ExpandChanges(needs_.data, contents)) co_return kWholeWanted;
   co_await NextSlice();
   const InstallStatus status = co_await needs_.install.Install(contents, installMode_);
   // Counts as installed: what is in use takes its place at the next start.

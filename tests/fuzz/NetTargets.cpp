@@ -59,7 +59,7 @@ void FuzzUpdateFile(std::string_view input) {
 
   // The file that is there may be what the changes start from.
   const std::size_t before = contents.files.size();
-  if (ExpandChanges(data, contents)) Require(contents.files.size() >= before, "files are added");
+  if (ExpandChanges(data, contents).Finish()) Require(contents.files.size() >= before, "files are added");
   (void)ApplySteps("one\r\ntwo\r\n", input, 1000);
 
   files.Put("/d/publish.key", "d75a980182b10ab7d54bfed3c964073a0ee172f3daa62325af021a68f707511a\n");

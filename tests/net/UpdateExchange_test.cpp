@@ -3,76 +3,17 @@
 #include <gtest/gtest.h>
 
 #include <optional>
-#include <random>
 
 #include "base/Text.h"
 #include "base/crypto/Signing.h"
 #include "directory/DeferredSwap.h"
-#include "net/NetWorld.h"
+#include "net/ExchangeRun.h"
 #include "resources/texts/net.h"
 
 namespace sonaro {
 namespace {
 
 using Kind = UpdateOutcome::Kind;
-
-class FakeUpdateView : public UpdateView, public UpdateListener {
- public:
-  std::optional<int> timer;
-  std::vector<int> intervals;
-  std::string progress;
-  std::optional<UpdateOutcome> outcome;
-
-  void StartTimer(int milliseconds) override {
-    timer = milliseconds;
-    intervals.push_back(milliseconds);
-  }
-  void StopTimer() override { timer.reset(); }
-  void UpdateProgress(const std::string& text) override { progress += text + ";"; }
-  void UpdateBytes(std::uint64_t, std::uint64_t) override {}
-  void Unload() override { EXPECT_TRUE(outcome) << "unloaded before it is finished"; }
-  void UpdateFinished(const UpdateOutcome& ended) override {
-    ASSERT_FALSE(outcome) << "finished twice";
-    outcome = ended;
-  }
-};
-
-std::string Text(int id) { return std::to_string(id) + ";"; }
-
-FakeAnswer Redirect(const std::string& target) {
-  return FakeAnswer::Status("302", "HTTP/1.1 302 Found\r\nLocation: " + target + "\r\n\r\n");
-}
-
-constexpr const char* kFileAt = "http://files.example/u/update7.txt";
-
-class Exchange {
- public:
-  Exchange(Machine& machine, CallerCode callerCode, InstallMode mode)
-      : exchange_({machine.reg, machine.data, machine.strings, machine.install, machine.http,
-                   [this](std::string_view reason) { toDo += reason; }},
-                  view, view, callerCode, mode),
-        http_(machine.http) {}
-
-  // Until it has finished or waits for nothing.
-  void Run() {
-    exchange_.Load();
-    for (int step = 0; step < 50 && !view.outcome; ++step) {
-      if (view.timer) {
-        exchange_.tmrInetStuff_Timer();
-      } else if (!http_.DeliverNext()) {
-        return;
-      }
-    }
-  }
-
-  FakeUpdateView view;
-  std::string toDo;
-  UpdateExchange& Get() { return exchange_; }
-
- private:
-  UpdateExchange exchange_;
-  FakeHttp& http_;
-};
 
 class UpdateExchangeTest : public testing::Test {
  protected:
@@ -337,88 +278,6 @@ TEST_F(UpdateExchangeTest, KeepsAFileThatIsInUse) {
     return true;
   });
   EXPECT_EQ(File("fun.snr"), "a new line\r\n");
-}
-
-// The start after whatever happened: what it does about the directory, and what must hold then.
-void StartAgain(FakeFiles& files, Machine& machine) {
-  machine.install.FinishUndo();
-  RunDeferredSwap(machine.data, machine.reg, [&] { return machine.stations.RebuildStationTable(); });
-  (void)machine.stations.EnsureStationTable();
-  EXPECT_EQ(files.Get("/d/favs.snr"), kFavorites);
-  EXPECT_GT(machine.stations.StationCount(), 0u);
-}
-
-TEST(UpdateCrash, LeavesTheOldDirectoryOrTheNewOne) {
-  std::optional<Machine> machine;
-  int newOnes = 0;
-  const auto prepare = [&](FakeFiles& files) {
-    PrepareDirectory(files);
-    machine.emplace(files);
-    machine->http.Answer("?Flush=", FakeAnswer::Body(kUpdate));
-    machine->http.Answer("/update.asp", Redirect(kFileAt));
-  };
-  const auto scenario = [&](FakeFiles&) {
-    Exchange(*machine, CallerCode::UpdateDialog, InstallMode::InstallAndRebuild).Run();
-  };
-  const auto check = [&](FakeFiles& files, const CrashPoint& point) {
-    SCOPED_TRACE("crash at operation " + std::to_string(point.operation));
-    StartAgain(files, *machine);
-    const std::string list = files.Get("/d/Station.snr").value_or("");
-    const std::string name = machine->stations.FindStation(1).fields[0];
-    EXPECT_TRUE(list == kOldList ? name == "Old One" : list == kNewList && name == "New One") << name << list;
-    if (machine->reg.Setting("LastUpdate") == "9/1/2000") {
-      EXPECT_EQ(list, kNewList);
-    }
-    newOnes += list == kNewList;
-    EXPECT_EQ(machine->reg.Setting("UpdateHold"), "");
-  };
-  EXPECT_GT(ForEachCrashPoint(prepare, scenario, check), 15);
-  EXPECT_GT(newOnes, 0);
-}
-
-// One to three changes anywhere: a byte, a piece cut out, a piece doubled, a line end put in.
-std::string Mutated(std::string text, std::mt19937& random) {
-  const auto below = [&](std::size_t end) {
-    return std::uniform_int_distribution<std::size_t>(0, end - 1)(random);
-  };
-  for (std::size_t changes = 1 + below(3); changes > 0; --changes) {
-    const std::size_t at = below(text.size());
-    const std::size_t length = 1 + below(60);
-    switch (below(4)) {
-      case 0:
-        text[at] = static_cast<char>(below(256));
-        break;
-      case 1:
-        text.erase(at, length);
-        break;
-      case 2:
-        text.insert(below(text.size()), text.substr(at, length));
-        break;
-      default:
-        text.insert(at, "\r\n\r\n");
-    }
-  }
-  return text;
-}
-
-TEST(UpdateMutation, NeverCostsTheUserAnything) {
-  std::mt19937 random(20000814);
-  for (int round = 0; round < 200; ++round) {
-    SCOPED_TRACE("round " + std::to_string(round));
-    FakeFiles files;
-    PrepareDirectory(files);
-    Machine machine(files);
-    std::string update = Mutated(kUpdate.substr(0, kUpdate.size() - update::kSentinel.size()), random);
-    if (round % 4 != 0) update += update::kSentinel;  // else the sentinel is missing
-    machine.http.Answer("?Flush=", FakeAnswer::Body(update));
-    machine.http.Answer("/update.asp", Redirect(kFileAt));
-    Exchange exchange(machine, CallerCode::UpdateDialog, InstallMode::InstallAndRebuild);
-    exchange.Run();
-    ASSERT_TRUE(exchange.view.outcome);
-    StartAgain(files, machine);
-    EXPECT_NE(machine.stations.FindStation(1).StationId + machine.stations.FindStation(3).StationId, 0);
-    for (const std::string& path : files.AllPaths()) EXPECT_EQ(path.substr(0, 3), "/d/");
-  }
 }
 
 }  // namespace

@@ -266,7 +266,7 @@ TEST_F(UpdateFileTest, TakesChangesWholeOrNotAtAll) {
     UpdateContents contents = Read(Section("changes.snr", each.section));
     EXPECT_EQ(contents.changes, each.section);
     EXPECT_TRUE(contents.files.empty());
-    EXPECT_EQ(ExpandChanges(data_, contents), each.taken) << each.section;
+    EXPECT_EQ(ExpandChanges(data_, contents).Finish(), each.taken) << each.section;
     if (each.taken) {
       EXPECT_EQ(First(contents), after);
     }
