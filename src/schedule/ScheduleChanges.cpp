@@ -10,7 +10,6 @@
 #include "schedule/ScheduleStore.h"
 #include "schedule/ScheduleTexts.h"
 #include "settings/CReg.h"
-#include "settings/FileWords.h"
 #include "settings/Message.h"
 #include "settings/SettingNames.h"
 #include "settings/Strings.h"
