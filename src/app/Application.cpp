@@ -13,7 +13,6 @@
 #include "forms/WideText.h"
 #include "mainwindow/SonaroFrm.h"
 #include "net/ServiceRequest.h"
-#include "net/ServiceUrlTable.h"
 #include "platform/Shell.h"
 #include "platform/Sound.h"
 #include "platform/SystemInfo.h"
@@ -67,7 +66,7 @@ Application::Application(const Platform& platform, const Strings& strings, const
           platform_, context_, data_, reg_, strings_, state_, stations_, favorites_, help_, *this})) {
   state_.commandLine = std::move(commandLine);
   player_.SetView(this);
-  pages_.SetShowErrorText([this](const std::string& sentence) { ShowErrorText(sentence); });
+  pages_.SetView(this);
   context_.listener = this;
 }
 
@@ -83,9 +82,7 @@ int Application::Run() {
                                     .help = help_,
                                     .strings = strings_,
                                     .messageBox = messages_,
-                                    .storeServiceAddresses = [this] { WriteServiceDefaults(reg_); },
-                                    .proxyFound = [this] { return !service_->DetectProxy().empty(); },
-                                    .finishUndo = [this] { service_->FinishUndo(); }};
+                                    .exchange = *service_};
   if (!Startup(services, state_, *this).Main()) return 0;
   FinishedLoading();
   const int exitCode = RunMessageLoop();

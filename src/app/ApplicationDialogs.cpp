@@ -41,6 +41,7 @@ bool Application::OfferPlayers(const std::string& sentence) {
          ChoosePlayer(StartUpInfoPage::ChoosePlayer, GetActiveWindow());
 }
 
+// Made once and kept: the scan remembers its queue while its window is closed.
 void Application::ShowScan() {
   if (!scanWindow_) {
     ProgramCommands& program = *this;
@@ -49,6 +50,7 @@ void Application::ShowScan() {
   scanWindow_->Show();
 }
 
+// The tray can ask for it while it is open, and two would overwrite each other's choices.
 void Application::ShowOptions(HWND owner) {
   if (optionsWindow_ && optionsWindow_->IsOpen()) {
     optionsWindow_->Show();
@@ -77,6 +79,7 @@ void Application::Open(ProgramWindow window, Form* owner) {
   }
 }
 
+// While a dialog waits for an answer that comes forward instead.
 void Application::OpenWhenFree(ProgramWindow window) {
   if (IsFree()) Open(window, nullptr);
 }
@@ -87,6 +90,7 @@ void Application::ShowGroup(const std::string& name) {
   main_->Groups().ShowGroupNamed(name);
 }
 
+// Only windows ask for this that are opened after the main window.
 void Application::AddStationToGroup(const std::string& group, const StationKey& station) {
   main_->Groups().AddStationToGroup(group, station);
 }

@@ -6,6 +6,7 @@
 #include "base/OwnFiles.h"
 #include "base/Text.h"
 #include "net/ProxyDetection.h"
+#include "net/ServiceUrlTable.h"
 #include "net/UpdateReport.h"
 #include "net/WhatIsNew.h"
 #include "net/frmInetUpdate.h"
@@ -24,9 +25,11 @@ ApplicationService::ApplicationService(const Dependencies& dependencies)
 ApplicationService::~ApplicationService() = default;
 
 UpdateDependencies ApplicationService::MakeUpdateDependencies() {
-  return {dependencies_.reg, dependencies_.data,          dependencies_.strings,
-          install_,          dependencies_.platform.http, [this](std::string_view) { toDoDue_ = true; }};
+  return {dependencies_.reg, dependencies_.data, dependencies_.strings, install_,
+          dependencies_.platform.http};
 }
+
+void ApplicationService::StoreAddresses() { WriteServiceDefaults(dependencies_.reg); }
 
 void ApplicationService::ShowUpdate(HWND owner) { OpenDialog(owner, UpdateOpening::Begin); }
 void ApplicationService::OfferUndo(Form& owner) { OpenDialog(owner.Window(), UpdateOpening::OfferUndo); }
@@ -71,6 +74,8 @@ void ApplicationService::Listener::UpdateBytes(std::uint64_t bytes, std::uint64_
                                                                  : static_cast<int>(bytes * 100 / expected));
   if (dialog_) dialog_->UpdateBytes(bytes, expected);
 }
+
+void ApplicationService::Listener::PendingWorkIsDue() { service_.toDoDue_ = true; }
 
 void ApplicationService::Listener::UpdateFinished(const UpdateOutcome& outcome) {
   service_.EndProgress();

@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "app/ProgramListener.h"
+#include "app/Startup.h"
 #include "forms/Form.h"
 #include "net/UpdateExchange.h"
 #include "net/UpdateInstall.h"
@@ -25,7 +26,7 @@ class Strings;
 class frmInetUpdate;
 struct AppState;
 
-class ApplicationService final : public UpdateCommands, private UpdateDialogCommands {
+class ApplicationService final : public UpdateCommands, public StartupExchange, private UpdateDialogCommands {
  public:
   struct Dependencies {
     const Platform& platform;
@@ -50,7 +51,9 @@ class ApplicationService final : public UpdateCommands, private UpdateDialogComm
   void ShowUpdate(HWND owner);
   bool CanUndoUpdate() override { return install_.CanUndo(); }
   void OfferUndo(Form& owner) override;
-  void FinishUndo() { install_.FinishUndo(); }  // early in the start
+  void StoreAddresses() override;
+  bool ProxyFound() override { return !DetectProxy().empty(); }
+  void FinishUndo() override { install_.FinishUndo(); }
   // When the program has finished loading, and after every update: an update that is on the to-do list,
   // unwatched.
   void RunPendingWork();
@@ -71,6 +74,7 @@ class ApplicationService final : public UpdateCommands, private UpdateDialogComm
     void UpdateProgress(const std::string& text) override;
     void UpdateBytes(std::uint64_t bytes, std::uint64_t expected) override;
     void UpdateFinished(const UpdateOutcome& outcome) override;
+    void PendingWorkIsDue() override;
 
    private:
     ApplicationService& service_;

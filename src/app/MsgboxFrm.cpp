@@ -9,6 +9,7 @@ namespace sonaro {
 
 namespace {
 
+// Layout 0 is the design itself; the others follow in the order of kLayouts.
 constexpr int kOneButtonLayout = 1;
 constexpr int kWideButtonLayout = 2;
 constexpr int kTwoButtonLayout = 3;
@@ -95,6 +96,7 @@ std::span<const EventRow> MsgboxFrm::Events() const {
 MsgboxFrm::MsgboxFrm(FormContext& context, HelpPages& help, Message message)
     : Form(context, Design()), help_(help), message_(std::move(message)) {}
 
+// "Do not ask again" counts with an answer only: closing the box leaves the question open.
 MessageResult MsgboxFrm::Ask(HWND owner) {
   const auto answer = static_cast<MessageAnswer>(ShowModal(owner));
   return {answer, dontAskAgain_ && answer != MessageAnswer::Closed};
@@ -125,8 +127,10 @@ void MsgboxFrm::OnLoad() {
   chkDontAsk_.Show(!message_.dontAskText.empty());
 }
 
+// The last moment at which the check box still exists.
 void MsgboxFrm::OnUnload() { dontAskAgain_ = chkDontAsk_.IsChecked(); }
 
+// The result of the window is the answer: 1 or 2, and 0 for every way of closing it.
 void MsgboxFrm::butMsg_Click(int index) { Close(index + 1); }
 
 void MsgboxFrm::butHelp_Click() {
@@ -135,6 +139,7 @@ void MsgboxFrm::butHelp_Click() {
 
 MessageResult MessageBoxes::Ask(const Message& message) {
   MsgboxFrm box(context_, help_, message);
+  // Before the window that the user works in. One that is hidden must not own it: the box would not be seen.
   HWND owner = GetActiveWindow();
   return box.Ask(owner != nullptr && IsWindowVisible(owner) ? owner : nullptr);
 }

@@ -47,7 +47,7 @@ bool Startup::AnotherInstanceRuns() {
 void Startup::PrepareSettings() {
   use_.reg.CheckKeyIsThere(kSettingsKey);
   EnsureInstallId(use_.reg);
-  if (use_.storeServiceAddresses) use_.storeServiceAddresses();
+  use_.exchange.StoreAddresses();
 }
 
 bool Startup::ShowSplashAndFaceplate() {
@@ -67,7 +67,7 @@ bool Startup::PrepareDirectory() {
 // The table's bytes are looked at once the window is painted (Application::Loaded).
 void Startup::SwapInDownloads() {
   RemoveUnfinishedSaves(use_.data);
-  if (use_.finishUndo) use_.finishUndo();
+  use_.exchange.FinishUndo();
   RunDeferredSwap(use_.data, use_.reg, [this] { return use_.stations.RebuildStationTable(); });
   (void)CareForStationTable(use_.stations, TableCheck::Lengths, use_.strings, use_.messageBox);
 }
@@ -111,7 +111,7 @@ bool Startup::FirstRunChecks() {
     }
   }
   if (use_.reg.Get(setting::kStartProxy)) {
-    if (use_.proxyFound && use_.proxyFound()) {
+    if (use_.exchange.ProxyFound()) {
       view_.ShowStartUpInfo(StartUpInfoPage::Proxy);
     } else {
       use_.reg.Set(setting::kStartProxy, false);

@@ -3,7 +3,6 @@
 // what needs windows.
 #pragma once
 
-#include <functional>
 #include <string>
 #include <string_view>
 
@@ -44,6 +43,15 @@ class StartupView {
   virtual void ShowMainWindow() = 0;
 };
 
+// What the start needs of the exchange with the service.
+class StartupExchange {
+ public:
+  virtual ~StartupExchange() = default;
+  virtual void StoreAddresses() = 0;  // gives every missing address of the service its default
+  virtual bool ProxyFound() = 0;      // looks for a proxy that the user's browsers are set to
+  virtual void FinishUndo() = 0;      // goes on with an undoing of an update that was cut short
+};
+
 struct StartupServices {
   MessagePost& messages;
   SystemInfo& systemInfo;
@@ -54,11 +62,7 @@ struct StartupServices {
   HelpPages& help;
   const Strings& strings;
   MessageBoxView& messageBox;
-  // The three steps that belong to the exchange with the service. Functions, so that the start is tested
-  // without an exchange; an empty one is left out.
-  std::function<void()> storeServiceAddresses;  // gives every missing address of the service its default
-  std::function<bool()> proxyFound;             // looks for a proxy that the user's browsers are set to
-  std::function<void()> finishUndo;             // goes on with an undoing of an update that was cut short
+  StartupExchange& exchange;
 };
 
 // Has the station table be that of the station list, and says so when that fails; the next start finds it so

@@ -14,6 +14,7 @@ constexpr int kMarkSize = 84;
 
 }  // namespace
 
+// Questions of the start come up beside this window, which must not keep the user from answering.
 const FormDesign& frmSplash::Design() {
   static constexpr ControlRow kControls[] = {
       {.id = picMark, .kind = ControlKind::Picture, .at = {56, 52, kMarkSize, kMarkSize}},
@@ -67,11 +68,14 @@ void frmSplash::OnLoad() {
   CentreOn(nullptr);
 }
 
+// Painted at once: the start does not come back to the message loop before the work that the window stands
+// for.
 void frmSplash::ShowNow() {
   Show();
   if (IsOpen()) RedrawWindow(Window(), nullptr, nullptr, RDW_UPDATENOW | RDW_ALLCHILDREN);
 }
 
+// The user may have closed it, which only means that it is not to be looked at.
 void frmSplash::ShowProgress(double done) {
   if (!IsOpen()) return;
   picDial_->SetProgress(static_cast<int>(done * 100), 100);

@@ -10,8 +10,10 @@ namespace {
 
 using Outcome = UpdateOutcome::Kind;
 
+// Rounded up, so that something that has come never reads as 0.
 std::string Kilobytes(std::uint64_t bytes) { return std::to_string((bytes + 1023) / 1024); }
 
+// 0 where the reason says it all, and for a user who has cancelled.
 int SentenceOf(Outcome kind) {
   switch (kind) {
     case Outcome::Updated:
@@ -29,6 +31,8 @@ int SentenceOf(Outcome kind) {
   return 0;
 }
 
+// Several faults read the same: what is wrong with a body is of no use to the user. A request that cannot be
+// sent comes of an address in the settings.
 int TextOf(HttpFault fault) {
   switch (fault) {
     case HttpFault::None:
@@ -60,6 +64,7 @@ int TextOf(HttpFault fault) {
 
 }  // namespace
 
+// What happened, what it did to the directory, and the reason, as paragraphs of their own.
 std::string OutcomeText(const UpdateOutcome& outcome, const std::string& report, const Strings& strings) {
   const int sentence = SentenceOf(outcome.kind);
   std::string text = sentence == 0 ? std::string() : strings.Load(sentence);
@@ -70,6 +75,7 @@ std::string OutcomeText(const UpdateOutcome& outcome, const std::string& report,
   return text;
 }
 
+// An update that was refused may be a new one by the next try.
 bool MayRetry(const UpdateOutcome& outcome) {
   return outcome.kind == Outcome::CantConnect || outcome.kind == Outcome::NotComplete ||
          outcome.kind == Outcome::Refused;

@@ -37,6 +37,8 @@ ProxyTest::ProxyTest(CReg& reg, HttpControlFactory& http, Clock& clock, const St
 void ProxyTest::Begin(ProxyTestView& view) {
   view_ = &view;
   works_ = false;
+  // The page is known by a text on it: a proxy that wants a password, or a hotel's welcome page, answers as
+  // well.
   expected_ = StoredServiceSetting(reg_, setting::kProxyTestText);
   view.ShowResult(ProxyTestState::Running, strings_.Load(IDS_NET_TEST_RUNS));
   for (int step = 0; step < kStepCount; ++step) view.ShowStep(step, {});
@@ -82,6 +84,7 @@ void ProxyTest::HTTPError(const std::string& statusCode, const std::string&) {
   StepFailed(FormatText(strings_.Load(IDS_NET_WRONG_STATUS), {statusCode}));
 }
 
+// The transfer ends with this; after an answer the result comes with its own event.
 void ProxyTest::HTTPObjectError(HttpFault fault) {
   StepFailed(HttpFaultText(fault, strings_));
   ShowResult();

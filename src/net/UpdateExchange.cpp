@@ -28,7 +28,6 @@ namespace sonaro {
 namespace {
 
 constexpr std::string_view kRedirectStatus = "302";
-constexpr std::string_view kToDoReason = "Update";
 constexpr int kWholeWanted = -1;  // in place of a refusal: the changes that came do not fit
 
 int RefusalOf(UpdateFileStatus status) {
@@ -292,7 +291,7 @@ void UpdateExchange::Fail(int reasonText) {
 
 void UpdateExchange::ToDoIsDone() {
   StationListIsDone(needs_.reg);
-  if (needs_.runToDo) needs_.runToDo(kToDoReason);
+  listener_.PendingWorkIsDue();
 }
 
 void UpdateExchange::Finish(UpdateOutcome::Kind kind) {

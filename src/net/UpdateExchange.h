@@ -55,6 +55,9 @@ class UpdateListener {
   // So far, and of how many; 0 when that is not known.
   virtual void UpdateBytes(std::uint64_t bytes, std::uint64_t expected) = 0;
   virtual void UpdateFinished(const UpdateOutcome& outcome) = 0;  // once, the last
+  // Before UpdateFinished: the update has taken its mark off the list of pending work, and whoever owns that
+  // goes on with it, but only once the update is over, since going on ends this exchange.
+  virtual void PendingWorkIsDue() {}
 };
 
 // What the exchange needs of its window.
@@ -73,9 +76,6 @@ struct UpdateDependencies {
   const Strings& strings;
   UpdateInstall& install;
   HttpControlFactory& http;
-  // Continues with the list of pending work. A function, and empty in most tests: the list belongs to the
-  // owner of the exchange, which ends the exchange with it.
-  std::function<void(std::string_view reason)> runToDo;
 };
 
 class UpdateExchange final : private HttpEvents {

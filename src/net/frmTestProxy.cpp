@@ -32,6 +32,7 @@ constexpr ControlRow StepTime(int step) {
 
 }  // namespace
 
+// Three lines, one for each step of ProxyTest, in the order in which they are done.
 const FormDesign& frmTestProxy::Design() {
   static constexpr ControlRow kControls[] = {
       {.id = lblTitle, .kind = ControlKind::TitleBar, .text = IDS_NET_TEST_TITLE, .at = {40, 4, 156, 26}},
@@ -129,6 +130,7 @@ void frmTestProxy::ShowStep(int step, const ProxyTestStep& shown) {
   imgProxyStep_[step].Show(shown.state != ProxyTestState::Waiting);
   lblProxyStep_[step].SetText(shown.text);
   lblProxyStepTime_[step].SetText(shown.time);
+  // A step that failed leaves the bar where it is: that far the proxy was good.
   if (shown.state == ProxyTestState::Running) prgProxyTest_->SetProgress(step, ProxyTest::kStepCount);
   if (shown.state == ProxyTestState::Done) prgProxyTest_->SetProgress(step + 1, ProxyTest::kStepCount);
 }
@@ -139,6 +141,7 @@ void frmTestProxy::ShowResult(ProxyTestState state, const std::string& text) {
   lblStatusInfo_.SetColor(runs                            ? TextColor::Default
                           : state == ProxyTestState::Done ? TextColor::Signal
                                                           : TextColor::Alert);
+  // A disabled button must not keep the focus: keys would then reach nothing.
   if (runs && butTestAgainIt_.HasFocus()) butOKIt_.Focus();
   butTestAgainIt_.Enable(!runs);
 }

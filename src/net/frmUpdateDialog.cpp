@@ -30,6 +30,7 @@ int SentenceOf(UndoStatus status) {
 
 }  // namespace
 
+// It has the name and the shape of the message box, which is what it is to the user.
 const FormDesign& frmUpdateDialog::Design() {
   static constexpr unsigned char kFoot = kLeft | kBottom;
   static constexpr ControlRow kControls[] = {
@@ -97,11 +98,13 @@ void frmUpdateDialog::OnLoad() {
 }
 
 // Closing the dialog ends the update that runs.
+// The exchange may report within Cancel; unloading_ keeps that from touching controls that are going.
 void frmUpdateDialog::OnUnload() {
   unloading_ = true;
   if (update_) update_->Cancel();
 }
 
+// Also for another try, so all that the last one has left is reset here.
 void frmUpdateDialog::Begin() {
   unloading_ = false;
   updating_ = true;
@@ -154,6 +157,7 @@ void frmUpdateDialog::ShowFailure(bool failed) {
   picStuff_.SetColor(failed ? TextColor::Accent : TextColor::Signal);
 }
 
+// The first button stands for what can be done next, and is hidden when there is nothing.
 void frmUpdateDialog::SetOffer(Offer offer) {
   offer_ = offer;
   if (offer != Offer::Nothing) {
@@ -169,6 +173,7 @@ void frmUpdateDialog::butMsg_Click() {
     StopTimer(tmrReport);
     lblStuff_.SetTextAndGrow(LoadText(SentenceOf(commands_.UndoUpdate())));
     SetOffer(Offer::Nothing);
+    // The button that had the focus is hidden by now.
     butMsg_[1].Focus();
   }
 }

@@ -66,14 +66,13 @@ bool PlayerLaunch::Tell(LaunchOutcome outcome) {
 }
 
 LaunchOutcome PlayerLaunch::TryLaunch(const PlayRequest& request) {
-  if (request.mode == PlayMode::KeyItself) return Launch(request, request.link);
-  if (request.mode == PlayMode::BeforeTab)
-    return Launch(request, request.link.substr(0, request.link.find('\t')));
+  if (request.mode == PlayMode::KeyItself) return Launch(request.link);
+  if (request.mode == PlayMode::BeforeTab) return Launch(request.link.substr(0, request.link.find('\t')));
   const Station station = stations_.Find(request.station);
   recent_.AddRecent(request.station);
   const std::string link = LinkOf(station, request.mode);
-  if (!IsBlank(link)) return Launch(request, link);
-  if (!station.alternateLink.empty()) return Launch(request, station.alternateLink);
+  if (!IsBlank(link)) return Launch(link);
+  if (!station.alternateLink.empty()) return Launch(station.alternateLink);
   return station.webSite.empty() ? LaunchOutcome::NoLink : FromWebPage(pages_.Open(station.webSite));
 }
 
@@ -90,18 +89,12 @@ LaunchOutcome PlayerLaunch::TryLaunch(const StationKey& station) {
   }
   if (link.empty()) return LaunchOutcome::NoLink;
   recent_.AddRecent(station);
-  return Launch(request, link);
-}
-
-LaunchOutcome PlayerLaunch::Launch(const PlayRequest& request, const std::string& linkText) {
-  if (IsBlank(linkText)) return LaunchOutcome::NoLink;
-  const LaunchOutcome outcome = HandOver(linkText);
-  if (outcome == LaunchOutcome::Started && afterLaunch_) afterLaunch_(request);
-  return outcome;
+  return Launch(link);
 }
 
 // The player is looked up first, whatever the link turns out to be: its marker file is then always in place.
-LaunchOutcome PlayerLaunch::HandOver(const std::string& linkText) {
+LaunchOutcome PlayerLaunch::Launch(const std::string& linkText) {
+  if (IsBlank(linkText)) return LaunchOutcome::NoLink;
   std::string player(TrimBlanks(players_.FindRealPlayer(false)));
   const PlayLink link = PlayLink::FromText(linkText);
   if (link.way == PlayWay::WebPage) return FromWebPage(pages_.Open(link.address));

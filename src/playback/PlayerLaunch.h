@@ -2,9 +2,9 @@
 // something (lists, groups, the scan, notifications) comes through here.
 #pragma once
 
-#include <functional>
 #include <string>
 
+#include "playback/WebPages.h"
 #include "stations/StationKey.h"
 #include "stations/StationSource.h"
 
@@ -13,8 +13,6 @@ namespace sonaro {
 class Players;
 class RecentList;
 class Strings;
-class WebPages;
-
 // What became of a request.
 enum class LaunchOutcome {
   Started,        // a player was given the link
@@ -29,15 +27,12 @@ enum class LaunchOutcome {
 };
 
 // What only a window can do.
-class LaunchView {
+class LaunchView : public ErrorView {
  public:
-  virtual ~LaunchView() = default;
   // Shows the "NoPlayer" page of frmStartUpInfo and returns when it is closed. True when the user has chosen
   // a player there.
   virtual bool ShowNoPlayer() = 0;
-  // Tells the user in one sentence why nothing plays.
-  virtual void ShowErrorText(const std::string& sentence) = 0;
-  // The same, with the choice of a player as a way out. True when the user has chosen one.
+  // Says why nothing plays, with the choice of a player as a way out. True when the user has chosen one.
   virtual bool OfferPlayers(const std::string& sentence) = 0;
 };
 
@@ -49,10 +44,6 @@ class PlayerLaunch {
 
   // The view may be set late; without one nothing is shown.
   void SetView(LaunchView* view) { view_ = view; }
-  // Called after every launch. Sends nothing by itself: play reports are off.
-  void SetAfterLaunch(std::function<void(const PlayRequest& request)> afterLaunch) {
-    afterLaunch_ = std::move(afterLaunch);
-  }
 
   // Plays a station's link, or one that the request brings along; a link that the station lacks gives way to
   // the alternate one, then to the web site. Says to the user why nothing plays; when a player is chosen
@@ -73,8 +64,7 @@ class PlayerLaunch {
   std::string ErrorText(LaunchOutcome outcome) const;
 
  private:
-  LaunchOutcome Launch(const PlayRequest& request, const std::string& linkText);
-  LaunchOutcome HandOver(const std::string& linkText);
+  LaunchOutcome Launch(const std::string& linkText);
   bool Tell(LaunchOutcome outcome);
 
   static constexpr int kNoPlayerShown = 100;
@@ -85,7 +75,6 @@ class PlayerLaunch {
   WebPages& pages_;
   const Strings& strings_;
   LaunchView* view_ = nullptr;
-  std::function<void(const PlayRequest&)> afterLaunch_;
   int noPlayerGuard_ = 0;
 };
 

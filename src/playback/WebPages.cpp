@@ -22,7 +22,7 @@ std::string WithScheme(const std::string& address) {
 
 void WebPages::OpenWebPage(const std::string& textOrKey) {
   const std::string sentence = ErrorText(Open(textOrKey));
-  if (!sentence.empty() && showErrorText_) showErrorText_(sentence);
+  if (!sentence.empty() && view_) view_->ShowErrorText(sentence);
 }
 
 std::string WebPages::ErrorText(WebPageOutcome outcome) const {

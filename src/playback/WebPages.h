@@ -1,7 +1,6 @@
 // Opens web pages through the small program lweb, which lies beside the program. Owned by Application.
 #pragma once
 
-#include <functional>
 #include <string>
 
 #include "settings/HelpPages.h"
@@ -20,16 +19,21 @@ enum class WebPageOutcome {
   NotStarted  // lweb is missing or did not start
 };
 
+// Tells the user in one sentence why something did not open or play.
+class ErrorView {
+ public:
+  virtual ~ErrorView() = default;
+  virtual void ShowErrorText(const std::string& sentence) = 0;
+};
+
 class WebPages : public WebBrowser {
  public:
   WebPages(const StationSource& stations, DataFolder& data, Shell& shell, const Strings& strings)
       : stations_(stations), data_(data), shell_(shell), strings_(strings) {}
 
-  // Tells the user in one sentence why a page was not opened; without it nothing is said. Set late because of
-  // a circle: the message box that says it has a key for the help, whose pages are opened here.
-  void SetShowErrorText(std::function<void(const std::string& sentence)> say) {
-    showErrorText_ = std::move(say);
-  }
+  // Without a view nothing is said. Set late because of a circle: the message box that says it has a button
+  // for the help, whose pages are opened here.
+  void SetView(ErrorView* view) { view_ = view; }
 
   // A text that does not begin with "http" is a station's token, whose web site is opened. Says to the user
   // why nothing opens.
@@ -46,7 +50,7 @@ class WebPages : public WebBrowser {
   DataFolder& data_;
   Shell& shell_;
   const Strings& strings_;
-  std::function<void(const std::string&)> showErrorText_;
+  ErrorView* view_ = nullptr;
 };
 
 }  // namespace sonaro

@@ -19,6 +19,7 @@ constexpr unsigned kSecond = 1000;
 
 }  // namespace
 
+// Rows are made when the list asks for them: a queue can hold thousands, of which a dozen are seen.
 std::string frmScan::QueueRows::Cell(int row, int column) const {
   const ScanRow shown = scan_.QueueRow(static_cast<std::size_t>(row));
   return column == 0 ? shown.name : shown.second;
@@ -45,6 +46,8 @@ frmScan::frmScan(FormContext& context, StationScan& scan, HelpPages& help, const
       queue_(scan),
       history_(scan) {}
 
+// When the owner goes while the window is open, OnUnload does not run; the scan must not keep a view that is
+// gone.
 frmScan::~frmScan() {
   if (IsOpen()) scan_.Close();
 }
@@ -66,16 +69,20 @@ void frmScan::OnLoad() {
 
 void frmScan::OnUnload() { scan_.Close(); }
 
+// What lies on top counts: a point of the window that another one covers is not this window.
 bool frmScan::IsAt(POINT screen) const {
   return IsOpen() && GetAncestor(WindowFromPoint(screen), GA_ROOT) == Window();
 }
 
+// Dropped on a row the station goes before it, anywhere else to the end of the queue.
 void frmScan::TakeDropped(const StationKey& station, POINT screen) {
   const bool onQueue = WindowFromPoint(screen) == lstToScan_.Window();
   const int row = onQueue ? lstToScan_->RowAt(screen) : -1;
   scan_.Add({&station, 1}, row >= 0 ? std::optional(static_cast<std::size_t>(row)) : std::nullopt);
 }
 
+// The scan calls this whenever anything may have changed, also while the window is not open yet or not any
+// more.
 void frmScan::ShowState() {
   if (!IsOpen()) return;
   butStartIt_.SetText(scan_.StartCaption());
@@ -100,6 +107,8 @@ void frmScan::ShowTimeLeft() {
   picScan_->SetProgress(counts ? scan_.ScanTime() - scan_.TimeLeft() : 0, counts ? scan_.ScanTime() : 0);
 }
 
+// The selection stays at its row number; where rows have moved, QueueRowsChanged has moved the selection
+// before.
 void frmScan::ShowLists() {
   if (!IsOpen()) return;
   const int selected = lstToScan_->Selected();
@@ -170,6 +179,7 @@ void frmScan::butScanTimeIt_Click() {
 
 void frmScan::butHelp_Click() { help_.OpenHelpPage("9018.html"); }
 
+// Other programs hand stations over by setting the text of this hidden label.
 void frmScan::lblStationsAdd_Change() { scan_.StationsAdded(lblStationsAdd_.Text()); }
 
 void frmScan::lstToScan_ItemSelected(int) { ShowState(); }
@@ -183,6 +193,7 @@ std::vector<MenuEntry> frmScan::GroupEntries() const {
   return entries;
 }
 
+// The station is remembered by its key: the scan goes on while the menu is open, and rows move up.
 void frmScan::lstToScan_ContextMenu(int row, POINT at) {
   if (row < 0) return;
   menuStation_ = scan_.QueueRow(static_cast<std::size_t>(row)).key;
@@ -199,6 +210,7 @@ void frmScan::lstScanedAlready_ItemActivate(int row) {
 
 void frmScan::lstScanedAlready_ContextMenu(int row, POINT at) {
   if (row < 0) return;
+  // A row number is enough here: rows of the history are only added at the end.
   menuHistoryRow_ = row;
   menuStation_ = scan_.HistoryRow(static_cast<std::size_t>(row)).key;
   std::vector<MenuEntry> menu = {{.command = mnuScanPutBack, .text = LoadText(IDS_SCAN_W_MENU_PUT_BACK)}};
@@ -237,6 +249,8 @@ bool frmScan::OnMessage(UINT message, WPARAM, LPARAM lParam, LRESULT& result) {
     const int from = draggedRow_;
     draggedRow_ = -1;
     ReleaseCapture();
+    // The row is put before the one below the mouse when it comes from below, and behind it when it comes
+    // from above.
     const int to = lstToScan_->RowAt(at);
     if (to >= 0 && to != from) {
       scan_.MoveRow(static_cast<std::size_t>(from), static_cast<std::size_t>(to > from ? to + 1 : to));
@@ -244,6 +258,7 @@ bool frmScan::OnMessage(UINT message, WPARAM, LPARAM lParam, LRESULT& result) {
     result = 0;
     return true;
   }
+  // Taken away by another window, a menu or Esc: the drag is over and nothing moves.
   if (message == WM_CAPTURECHANGED) draggedRow_ = -1;
   return false;
 }

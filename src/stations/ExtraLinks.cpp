@@ -15,6 +15,7 @@ ExtraLink Cleaned(const ExtraLink& link) {
 
 }  // namespace
 
+// A line that is not understood is kept as it is, in its place, with the station 0, which no link belongs to.
 ExtraLinks::Line ExtraLinks::ReadLine(std::string_view text) {
   const auto fields = Split(text, '\t');
   Line line;
@@ -45,6 +46,8 @@ std::vector<ExtraLink> ExtraLinks::Of(std::int32_t stationId) const {
   return links;
 }
 
+// All links of the station are replaced; their lines move to the end of the file. What is empty or too many
+// is left out without a word, as the dialog does not let it get here.
 bool ExtraLinks::Set(std::int32_t stationId, const std::vector<ExtraLink>& links) {
   const UserFile::Seen seen = file_.Look();
   if (stationId == 0 || seen == UserFile::Seen::Unreadable) return false;
@@ -67,6 +70,7 @@ bool ExtraLinks::Set(std::int32_t stationId, const std::vector<ExtraLink>& links
     }
     text.append("\r\n");
   }
+  // Memory follows the file, never the other way round.
   if (!file_.Save(text)) return false;
   lines_ = std::move(changed);
   return true;

@@ -134,6 +134,8 @@ FavoriteChange FavoriteGroups::SaveFavoriteGroups() {
   return file_.Save(FileText()) ? FavoriteChange::Saved : FavoriteChange::NotSaved;
 }
 
+// Every change goes through here: the file is looked at first, since another Sonaro may have written it, then
+// `edit` works on the groups as they are now, and the file is saved.
 FavoriteChange FavoriteGroups::Change(const std::function<bool()>& edit) {
   const UserFile::Seen seen = file_.Look();
   if (seen == UserFile::Seen::Unreadable) return FavoriteChange::NotSaved;
@@ -146,6 +148,8 @@ FavoriteChange FavoriteGroups::Change(const std::function<bool()>& edit) {
   return saved;
 }
 
+// The caller's index is of the groups as they were shown. Should the file have changed meanwhile, the group
+// of that name is meant.
 FavoriteChange FavoriteGroups::Change(std::size_t group, const std::function<bool(std::size_t)>& edit) {
   if (group >= Count()) return FavoriteChange::Nothing;
   const std::string name = Name(group);
@@ -264,6 +268,7 @@ FavoriteChange FavoriteGroups::PutBack(std::size_t group, const std::vector<Memb
     for (const Member& member : members) {
       const StationKey key = StationKey::FromToken(member.token);
       if (key && Contains(at, key)) continue;
+      // A group that became shorter takes it at its end.
       const auto place = static_cast<std::ptrdiff_t>(std::min(member.place, now.keys.size()));
       now.keys.insert(now.keys.begin() + place, key);
       now.texts.insert(now.texts.begin() + place, " " + member.token);
@@ -273,6 +278,7 @@ FavoriteChange FavoriteGroups::PutBack(std::size_t group, const std::vector<Memb
   });
 }
 
+// Nothing happens when a group of that name has been made since: it would hide one of the two.
 FavoriteChange FavoriteGroups::PutBackGroup(std::size_t place, std::string_view line) {
   return Change([&] {
     Group group = Group::FromLine(line);
@@ -284,10 +290,12 @@ FavoriteChange FavoriteGroups::PutBackGroup(std::size_t place, std::string_view 
 
 FavoriteChange FavoriteGroups::MoveStation(std::size_t group, std::size_t from, std::size_t to) {
   if (group >= Count()) return FavoriteChange::Nothing;
+  // A copy, because a change of the file replaces groups_ before the edit runs.
   const Group meant = groups_[group];
   if (from >= meant.keys.size() || to >= meant.keys.size() || from == to) return FavoriteChange::Nothing;
   return Change(group, [&](std::size_t at) {
     Group& now = groups_[at];
+    // The station is moved that the user saw at `from`, wherever it stands now.
     const auto stands = [&](std::size_t place) { return now.keys[place] == meant.keys[from]; };
     std::size_t place = from < now.keys.size() && stands(from) ? from : 0;
     while (place < now.keys.size() && !stands(place)) ++place;

@@ -10,6 +10,7 @@ namespace sonaro {
 
 namespace {
 
+// Index, name, three links, web site, type and note.
 constexpr std::size_t kFields = 8;
 
 std::string LineText(const PersonalStation& station) {
@@ -23,6 +24,7 @@ std::string LineText(const PersonalStation& station) {
 
 }  // namespace
 
+// A tab or line end within a field would make another line of it.
 PersonalStation Cleaned(const PersonalStation& station) {
   PersonalStation clean;
   clean.index = station.index;
@@ -36,6 +38,8 @@ PersonalStation Cleaned(const PersonalStation& station) {
   return clean;
 }
 
+// Links first: a wrong address is what a user is most likely to have to mend. The index is that of what was
+// shown, so that a change never becomes a new station.
 StationEntry ReadEntry(const PersonalStation& shown, PersonalStation typed) {
   bool anyLink = false;
   for (std::size_t link = 0; link < typed.links.size(); ++link) {
@@ -56,6 +60,7 @@ bool PersonalStations::Load() {
   return true;
 }
 
+// Another Sonaro, or an editor, may have written the file; its lines are not lost to this one's copy.
 bool PersonalStations::Refresh() {
   const UserFile::Seen seen = file_.Look();
   if (seen == UserFile::Seen::Changed) ReadFile();
@@ -78,6 +83,7 @@ PersonalStations::Line PersonalStations::ReadLine(std::string_view text) {
   if (numbered) highestIndex_ = std::max(highestIndex_, index);
   if (!numbered || fields.size() != kFields || CleanField(fields[1], PersonalStation::kMaxName).empty() ||
       !lineOf_.emplace(index, 0).second) {
+    // Kept word for word and written back: somebody may repair it, or a later version may understand it.
     return {{}, std::string(text)};
   }
   PersonalStation station;
@@ -100,6 +106,7 @@ void PersonalStations::Adopt(std::vector<Line> lines) {
   }
 }
 
+// Memory takes the change when the file has it, so that both always say the same.
 bool PersonalStations::Save(std::vector<Line> changed) {
   std::string text;
   for (const Line& line : changed) {

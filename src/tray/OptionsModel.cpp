@@ -79,6 +79,7 @@ bool OptionsModel::StartsWithWindows() const {
 void OptionsModel::StoreStart(bool withWindows) {
   if (portable_) return;
   {
+    // First, so that the two lists never both start the program.
     const MainKeyScope user(reg_, RootKey::CurrentUser);
     reg_.DeleteValue(systemkey::kRun, systemkey::kRunValue);
   }

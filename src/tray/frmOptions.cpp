@@ -41,6 +41,7 @@ void frmOptions::OnLoad() {
                                      std::pair(IDS_OPTIONS_CLOSE_TRAY, AfterClose::KeepInTray),
                                      std::pair(IDS_OPTIONS_CLOSE_EXIT, AfterClose::Exit)})
     cmbAfterClose_.AddItem(LoadText(text), static_cast<int>(choice));
+  // In a portable folder nothing is written to the registry, and the start with Windows stands there.
   if (!model_.CanStartWithWindows()) {
     chkStartWindows_.Enable(false);
     chkStartWindows_.SetText(LoadText(IDS_OPTIONS_NO_START));
@@ -49,10 +50,12 @@ void frmOptions::OnLoad() {
   Fill(options_);
 }
 
+// Also when the window is closed: a faceplate that was only tried gives way to the stored one.
 void frmOptions::OnUnload() {
   if (model_.EndTrying()) RefreshAllForms();
 }
 
+// No faceplate is marked when the stored one is none of the built-in ones; it stays until the user chooses.
 void frmOptions::Fill(const Options& options) {
   chkStartWindows_.Check(options.startWithWindows);
   cmbAfterClose_.SelectItemData(static_cast<int>(options.afterClose));
@@ -68,6 +71,7 @@ void frmOptions::Fill(const Options& options) {
   ShowProxyControls();
 }
 
+// Begins with what was read, so that what the window does not show stays as it is.
 Options frmOptions::Wanted() const {
   Options wanted = options_;
   wanted.startWithWindows = chkStartWindows_.IsChecked();
@@ -112,6 +116,7 @@ void frmOptions::butFindProxyIt_Click() {
     Inform(LoadText(IDS_OPTIONS_PROXY_NONE), TextColor::Text);
     return;
   }
+  // Only put into the fields: it is used when the user says OK, like everything here.
   const ProxyServer server = SplitProxy(found);
   optProxy_[1].Check();
   txtProxy_.SetText(server.address);
@@ -148,6 +153,7 @@ bool frmOptions::ShowProxyError() {
   return false;
 }
 
+// Shown at once in all windows, stored with OK only.
 void frmOptions::optFaceplate_Click(int faceplate) {
   options_.faceplate = static_cast<BuiltInFaceplate>(faceplate);
   optFaceplate_.SetOnly(faceplate);
@@ -160,9 +166,11 @@ void frmOptions::butOKIt_Click() {
     case StoreOutcome::Stored:
       Close(1);
       break;
+    // The window stays open with the fault marked; nothing was stored.
     case StoreOutcome::BadProxy:
       ShowProxyError();
       break;
+    // Some settings may have been taken. OK can be tried again: only what differs is written.
     case StoreOutcome::Refused:
       Inform(LoadText(IDS_OPTIONS_NOT_STORED), TextColor::Alert);
       break;

@@ -20,6 +20,7 @@ namespace sonaro {
 
 namespace {
 
+// The two halves of the window: only one of them is shown, by the page that it is opened for.
 constexpr unsigned char kPlayerPane = 1;
 constexpr unsigned char kProxyPane = 2;
 constexpr const char* kPlayerHelp = "9036.html";
@@ -41,6 +42,8 @@ constexpr ControlRow ReportLine(int id, int y) {
 
 }  // namespace
 
+// Both panes stand in the same place. Texts that depend on the page are empty here; OnLoad and ShowReport
+// fill them.
 const FormDesign& frmStartUpInfo::Design() {
   static constexpr ControlRow kControls[] = {
       {.id = lblTitle, .kind = ControlKind::TitleBar, .text = IDS_STARTUP_TITLE, .at = {40, 4, 216, 26}},
@@ -160,11 +163,13 @@ void frmStartUpInfo::OnLoad() {
     optUseProxy_.Check();
     chkDontShow_.Check();  // a proxy that was decided on need not be asked for again
   } else {
+    // Counted once: going over the whole directory takes too long to be done with every choice.
     counts_ = needs_.reporter.CountLinks();
     OfferPrograms(needs_.player.Chosen());
   }
 }
 
+// The caption of the window is set besides the title on it: it is what a screen reader and the task bar tell.
 void frmStartUpInfo::ShowTexts(int title, int head, int text) {
   SetWindowTextW(Window(), Widen(LoadText(title)).c_str());
   lblTitle_.SetText(LoadText(title));
@@ -172,6 +177,8 @@ void frmStartUpInfo::ShowTexts(int title, int head, int text) {
   lblText_.SetText(LoadText(text));
 }
 
+// The first row stands for no program: each kind of link goes to the one that the system has for it. So row n
+// is paths_[n - 1] everywhere below.
 void frmStartUpInfo::OfferPrograms(const std::string& selected) {
   paths_.clear();
   cmbPlayWith_.ClearItems();
@@ -193,6 +200,8 @@ std::string frmStartUpInfo::Selected() const {
   return row > 0 ? paths_[static_cast<std::size_t>(row) - 1] : std::string();
 }
 
+// Says for each kind of link who plays it, with the program that is selected. At the start and when chosen by
+// the user the heading tells how much plays; when a station has just failed it speaks of that one.
 void frmStartUpInfo::ShowReport() {
   using Plays = PlayerReport::Plays;
   const PlayerReport report = needs_.reporter.Report(counts_, Selected());
@@ -213,11 +222,13 @@ void frmStartUpInfo::ShowReport() {
   }
 }
 
+// In place of the first line of the report, which is shown again with the next choice.
 void frmStartUpInfo::ShowError(const std::string& sentence) {
   lblFound_.SetColor(TextColor::Alert);
   lblFound_.SetText(sentence);
 }
 
+// A program that is offered already is only selected, so that no path stands in the list twice.
 void frmStartUpInfo::butBrowseIt_Click() {
   const std::string path = AskOpenPath(Window(), LoadText(IDS_NOPLAYER_FILE_FILTER));
   if (path.empty()) return;
@@ -237,6 +248,8 @@ void frmStartUpInfo::butFindIt_Click() {
   ShowReport();
 }
 
+// Plays the link of the setting, or a page of the service: it tells whether the player starts, not whether
+// the stream comes.
 void frmStartUpInfo::butTestProgramIt_Click() {
   std::string link = needs_.reg.Get(setting::kTestRealUrl);
   if (link.empty()) link = ServiceAddress(ServiceHost::Web, "/sonaroapp/sonaro3/testrealurl.ram");
@@ -267,9 +280,12 @@ void frmStartUpInfo::butOKIt_Click() {
     StoreProxy(needs_.reg, optUseProxy_.IsChecked(), SplitProxy(proxy_));
     return Done(0);
   }
+  // The result says whether a player was chosen, so that a caller tries the station once more.
   if (StorePlayer()) Done(Selected().empty() ? 0 : 1);
 }
 
+// The box that ends these questions counts on every way out that decides something, and not when the window
+// is closed.
 void frmStartUpInfo::Done(int result) {
   const setting::Switch* const check = CheckOf(page_);
   if (check != nullptr && chkDontShow_.IsChecked()) needs_.reg.Set(*check, false);

@@ -15,6 +15,7 @@ namespace sonaro {
 
 namespace {
 
+// The shell sends this for events of the icon; the parameters are those of version 4.
 constexpr UINT kTrayMessage = WM_APP + 1;
 constexpr UINT kIconId = 1;
 constexpr unsigned kStartUpDelay = 500;  // milliseconds: the main window has been painted
@@ -34,6 +35,8 @@ NOTIFYICONDATAW IconData(HWND window) {
 
 }  // namespace
 
+// Never shown. Other programs find the window by its caption and read the text of its label, so both stay as
+// they are.
 const FormDesign& frmSysTrayMenu::Design() {
   static constexpr ControlRow kControls[] = {
       {.id = lblTrayText, .kind = ControlKind::Label, .at = {0, 0, 100, 20}}};
@@ -89,6 +92,8 @@ bool frmSysTrayMenu::Start() {
   return true;
 }
 
+// In this order: the icon when the main window has been painted, then what may wait, such as pending updates.
+// The minute only begins now, since its listener needs all that is loaded.
 void frmSysTrayMenu::FinishedLoading() {
   StartTimer(tmrIcon, kOncePainted);
   StartTimer(tmrStartUp, kStartUpDelay);
@@ -102,6 +107,7 @@ void frmSysTrayMenu::PutIcon() {
   data.uFlags = NIF_MESSAGE | NIF_ICON | NIF_TIP | NIF_SHOWTIP;
   data.uCallbackMessage = kTrayMessage;
   data.hIcon = icon_;
+  // The array is filled with zeros, so copying one less than it holds leaves the end in place.
   const std::wstring tip = Widen(LoadText(IDS_TRAY_TIP));
   tip.copy(data.szTip, std::size(data.szTip) - 1);
   // A busy shell may have taken the icon and yet report a failure; then it can be changed.
@@ -110,6 +116,8 @@ void frmSysTrayMenu::PutIcon() {
     StopTimer(tmrIcon);
     data.uVersion = NOTIFYICON_VERSION_4;
     Shell_NotifyIconW(NIM_SETVERSION, &data);
+    // At logon the shell may not be there yet. Without a limit a system that has none would be asked for
+    // ever.
   } else if (++iconTries_ < kMaxIconTries) {
     StartTimer(tmrIcon, kIconPause);
   }
@@ -157,6 +165,7 @@ bool frmSysTrayMenu::OnMessage(UINT message, WPARAM wParam, LPARAM lParam, LRESU
   return true;
 }
 
+// Clicks and keys, as the shell reports them.
 // Version 4 of the icon: the point comes with the event, the keyboard gives NIN_KEYSELECT and WM_CONTEXTMENU.
 void frmSysTrayMenu::TrayEvent(UINT event, POINT at) {
   switch (event) {
@@ -179,6 +188,7 @@ std::vector<std::string> frmSysTrayMenu::GroupNames() const {
 }
 
 void frmSysTrayMenu::ShowMenu(POINT at) {
+  // Kept while the menu is open: a change of the groups meanwhile must not give its entries another meaning.
   shownGroups_ = GroupNames();
   std::vector<MenuEntry> groups;
   for (std::size_t i = 0; i < std::min(shownGroups_.size(), kMaxGroups); ++i) {
@@ -206,6 +216,8 @@ void frmSysTrayMenu::ShowMenu(POINT at) {
   // Without this the menu would stay open when the user clicks elsewhere.
   SetForegroundWindow(Window());
   PopUpMenu(menu, at);
+  // The other half of the workaround: without a message behind it the menu would vanish at once the next
+  // time.
   PostMessageW(Window(), WM_NULL, 0, 0);
   shownGroups_.clear();
 }
@@ -222,6 +234,7 @@ void frmSysTrayMenu::tmrStartUp_Timer() {
   listener_.Loaded();
 }
 
+// The listener says how long to wait, so that the ticks stay close to full minutes.
 void frmSysTrayMenu::tmrMinute_Timer() { StartTimer(tmrMinute, listener_.Minute()); }
 
 }  // namespace sonaro

@@ -52,9 +52,10 @@ class JournalMessages : public FakeMessagePost {
   Journal& journal_;
 };
 
-class JournalView : public StartupView, public FakeMessageBox, public WebBrowser {
+class JournalView : public StartupView, public StartupExchange, public FakeMessageBox, public WebBrowser {
  public:
   explicit JournalView(Journal& journal) : journal_(journal) {}
+  bool proxyFound = false;
   std::string exitAfter;    // the happening during which the user chooses Exit
   std::string noWindowFor;  // what the system refuses a window for
 
@@ -72,6 +73,12 @@ class JournalView : public StartupView, public FakeMessageBox, public WebBrowser
     journal_.push_back(page == StartUpInfoPage::Player ? "page Player" : "page Proxy");
   }
   bool LoadMainWindow() override { return Window("load main"); }
+  void StoreAddresses() override { journal_.push_back("addresses"); }
+  bool ProxyFound() override {
+    journal_.push_back("find proxy");
+    return proxyFound;
+  }
+  void FinishUndo() override {}
   void ShowMainWindow() override { journal_.push_back("show main"); }
   MessageResult Ask(const Message& message) override {
     journal_.push_back("ask " + message.key);

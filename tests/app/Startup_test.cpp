@@ -42,12 +42,7 @@ class StartupTest : public testing::Test {
   }
   bool Main(const std::string& commandLine) {
     state_.commandLine = commandLine;
-    Startup startup({messages_, system_, reg_, data_, stations_, players_, help_, strings_, view_,
-                     [this] { journal_.push_back("addresses"); },
-                     [this] {
-                       journal_.push_back("find proxy");
-                       return proxyFound_;
-                     }},
+    Startup startup({messages_, system_, reg_, data_, stations_, players_, help_, strings_, view_, view_},
                     state_, view_);
     return startup.Main();
   }
@@ -75,7 +70,6 @@ class StartupTest : public testing::Test {
   JournalView view_{journal_};
   HelpPages help_{reg_, view_};
   AppState state_;
-  bool proxyFound_ = false;
 };
 
 TEST_F(StartupTest, StepsOfAFirstStartInOrder) {
@@ -83,7 +77,7 @@ TEST_F(StartupTest, StepsOfAFirstStartInOrder) {
   PutSetting("HelpURL", "http://help.example");
   files_.Put("/d/tStation.snr", "1\tNew\r\n");
   view_.answers = {{MessageAnswer::First, false}};
-  proxyFound_ = true;
+  view_.proxyFound = true;
   EXPECT_TRUE(Main(""));
   EXPECT_EQ(Happenings(),
             "look for frmSysTrayMenu, earlier instance?, "
@@ -216,7 +210,7 @@ TEST_F(StartupTest, ExitEndsTheStartAtOnceAndDecidesNothing) {
       {"ask QuickStart", nothing},
       {"ask MissingDataFilesNeedToDownloadThem", filesMissing},
   };
-  proxyFound_ = true;
+  view_.proxyFound = true;
   for (const auto& [shown, prepare] : kCases) {
     prepare();
     journal_.clear();

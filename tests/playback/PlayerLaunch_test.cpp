@@ -275,16 +275,16 @@ TEST_F(PlayerLaunchTest, WebPagesByAddressAndByStation) {
     EXPECT_EQ(pages.Open(c.text), c.outcome) << c.text;
     EXPECT_EQ(Browsed(), c.browsed) << c.text;
   }
-  std::vector<std::string> said;
-  pages.SetShowErrorText([&](const std::string& sentence) { said.push_back(sentence); });
+  view_.sentences.clear();
+  pages.SetView(&view_);
   pages.OpenWebPage("12");
   pages.OpenWebPage("99");
   pages.OpenWebPage("http://");
   shell.startsFail = true;
   pages.OpenWebPage("12");
-  EXPECT_EQ(said, (std::vector<std::string>{std::to_string(IDS_WHYNOT_NO_PAGE),
-                                            std::to_string(IDS_WHYNOT_REFUSED_PAGE),
-                                            std::to_string(IDS_WHYNOT_PAGE_NOT_STARTED)}));
+  EXPECT_EQ(view_.sentences, (std::vector<std::string>{std::to_string(IDS_WHYNOT_NO_PAGE),
+                                                       std::to_string(IDS_WHYNOT_REFUSED_PAGE),
+                                                       std::to_string(IDS_WHYNOT_PAGE_NOT_STARTED)}));
 }
 
 TEST(WebPagesFolder, AFolderWithBlanksIsQuoted) {
@@ -295,17 +295,6 @@ TEST(WebPagesFolder, AFolderWithBlanksIsQuoted) {
   pages.RunBrowser("http://a.example/");
   EXPECT_EQ(world.shell.runMinimised,
             std::vector<std::string>{"\"/Program Files/S/lweb.exe\" http://a.example/"});
-}
-
-TEST_F(PlayerLaunchTest, AfterLaunchHearsOfPlaysOnly) {
-  std::vector<PlayRequest> heard;
-  launch.SetAfterLaunch([&](const PlayRequest& request) { heard.push_back(request); });
-  AddStation(12, "Jazz", {"m1://x", "whttp://a.example"});
-  launch.LaunchStation(OfStation("12", PlayMode::LinkOne));
-  launch.LaunchStation(OfStation("12", PlayMode::LinkTwo));
-  launch.LaunchStation(Link("mhttp://b"));
-  launch.LaunchStation(Link("m-b"));
-  EXPECT_EQ(heard, (std::vector<PlayRequest>{OfStation("12", PlayMode::LinkOne), Link("mhttp://b")}));
 }
 
 TEST_F(PlayerLaunchTest, APlayReadsTheStationOnce) {

@@ -134,7 +134,7 @@ struct EmptyProgram {
                             coming, scheduleListener, scheduleTexts, changes,  undo};
   OptionsModel options{settings, outside.faceplate, "C:\\Guide\\Sonaro.exe"};
   UpdateInstall install{folder, settings, stations};
-  UpdateDependencies update{settings, folder, words, install, http, {}};
+  UpdateDependencies update{settings, folder, words, install, http};
   NoUpdates updateDialog{forms, update};
   FakeCommands commands;
   NoNotify notify;
