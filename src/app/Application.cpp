@@ -65,6 +65,7 @@ Application::Application(const Platform& platform, const Strings& strings, const
       service_(std::make_unique<ApplicationService>(ApplicationService::Dependencies{
           platform_, context_, data_, reg_, strings_, state_, stations_, favorites_, help_, *this})) {
   state_.commandLine = std::move(commandLine);
+  // The windows are members of this object, so what needs them is told of it here, when all is made.
   player_.SetView(this);
   pages_.SetView(this);
   context_.listener = this;
@@ -83,6 +84,7 @@ int Application::Run() {
                                     .strings = strings_,
                                     .messageBox = messages_,
                                     .exchange = *service_};
+  // No main window was shown, or the user has ended the program meanwhile.
   if (!Startup(services, state_, *this).Main()) return 0;
   FinishedLoading();
   const int exitCode = RunMessageLoop();
@@ -120,6 +122,7 @@ bool Application::SayNoWindow() {
   return false;
 }
 
+// What cannot be read is no fault yet: it is tried again every minute, and the user is told once.
 void Application::ReadData() {
   alphabetRefused_ = LoadAlphabets(data_, alphabets_) == AlphabetSource::BuiltInAfterBadFile;
   EnsureInstallId(reg_);
@@ -129,6 +132,7 @@ void Application::ReadData() {
   favorites_.LoadFavoriteGroups();
 }
 
+// Order: the data, then the schedule, which the main window asks for coming events while it is made.
 bool Application::LoadMainWindow() {
   if (main_) return true;
   ReadData();
@@ -141,6 +145,7 @@ bool Application::LoadMainWindow() {
                 [this](std::string_view text) { return platform_.systemInfo.SortKey(text); }},
       MainServices{player_, scan_, pages_, help_, messages_, *schedule_, *service_, *this, undo_});
   if (!main_->Create()) {
+    // Half a window would be asked for things; without one the program says so and ends.
     main_.reset();
     return SayNoWindow();
   }
@@ -196,6 +201,7 @@ void Application::PlaceMainWindow() {
   }
 }
 
+// A minimised window is somewhere off the screen, which is no place to come back to.
 void Application::RememberPlace() {
   RECT box{};
   if (!main_ || IsIconic(main_->Window()) || !GetWindowRect(main_->Window(), &box)) return;
@@ -212,6 +218,8 @@ void Application::ShowErrorText(const std::string& sentence) {
                  .isTrouble = true});
 }
 
+// Messages of the start stand before the main window, so they come last; the update goes first, since it is
+// what makes the window useful.
 void Application::FinishedLoading() {
   tray_.FinishedLoading();
   TellOfFiles();
@@ -254,6 +262,7 @@ unsigned Application::Minute() {
   return next;
 }
 
+// As if a minute had passed: what is due by the new time comes now, and nothing twice.
 void Application::ClockChanged() {
   if (schedule_) schedule_->Minute();
 }

@@ -6,12 +6,14 @@
 
 namespace sonaro {
 
+// A view of nothing still points into the text, so that callers can tell where it was.
 std::string_view TrimBlanks(std::string_view text) {
   const std::size_t first = text.find_first_not_of(' ');
   if (first == std::string_view::npos) return text.substr(0, 0);
   return text.substr(first, text.find_last_not_of(' ') - first + 1);
 }
 
+// A text that ends with a line end has no empty line behind it.
 std::vector<std::string_view> SplitLines(std::string_view text) {
   std::vector<std::string_view> lines;
   while (!text.empty()) {
@@ -79,6 +81,8 @@ std::string OnOneLine(std::string_view text) {
   return line;
 }
 
+// Trimmed twice: before the cut so that blanks do not take room, behind it because the cut may leave one at
+// the end.
 std::string CleanField(std::string_view text, std::size_t maxBytes) {
   std::string clean(text);
   std::replace_if(

@@ -37,7 +37,7 @@ TablePaths TablePaths::Of(const std::string& path) {
   return {path + std::string(kDataExtension), path + std::string(kIndexExtension)};
 }
 
-TablePaths TablePaths::NeighboursOf(const std::string& path) {
+TablePaths TablePaths::TemporariesOf(const std::string& path) {
   const TablePaths paths = Of(path);
   return {TemporaryPath(paths.data), TemporaryPath(paths.index)};
 }
@@ -54,31 +54,31 @@ TableStatus OpenTableFiles(Files& files, const std::string& path, TableFiles& op
   if (OpenIndex(files, paths.index, opened)) return TableStatus::Success;
 
   const bool hasIndex = opened.index != nullptr;
-  const std::string neighbour = TablePaths::NeighboursOf(path).index;
-  if (!OpenIndex(files, neighbour, opened)) return hasIndex ? TableStatus::Damaged : TableStatus::NoTable;
-  // An open file cannot be renamed everywhere; where renaming is refused the neighbour serves as it is.
+  const std::string temporary = TablePaths::TemporariesOf(path).index;
+  if (!OpenIndex(files, temporary, opened)) return hasIndex ? TableStatus::Damaged : TableStatus::NoTable;
+  // An open file cannot be renamed everywhere; where renaming is refused the temporary file serves as it is.
   opened.index.reset();
-  const bool renamed = files.Replace(neighbour, paths.index, Durability::Cached);
-  return OpenIndex(files, renamed ? paths.index : neighbour, opened) ? TableStatus::Success
+  const bool renamed = files.Replace(temporary, paths.index, Durability::Cached);
+  return OpenIndex(files, renamed ? paths.index : temporary, opened) ? TableStatus::Success
                                                                      : TableStatus::Damaged;
 }
 
-bool SwapInNeighbours(Files& files, const std::string& path) {
+bool SwapInTemporaries(Files& files, const std::string& path) {
   const TablePaths paths = TablePaths::Of(path);
-  const TablePaths neighbours = TablePaths::NeighboursOf(path);
-  if (!files.Replace(neighbours.data, paths.data, Durability::Cached)) return false;
+  const TablePaths temporaries = TablePaths::TemporariesOf(path);
+  if (!files.Replace(temporaries.data, paths.data, Durability::Cached)) return false;
   // A failure here, such as a reader that has the old index open, is no failure of the swap: opening the
   // table uses the temporary file and renames it when it can.
-  (void)files.Replace(neighbours.index, paths.index, Durability::Cached);  // until then it serves as it is
+  (void)files.Replace(temporaries.index, paths.index, Durability::Cached);  // until then it serves as it is
   return true;
 }
 
 bool RemoveTableFiles(Files& files, const std::string& path) {
   const TablePaths paths = TablePaths::Of(path);
-  const TablePaths neighbours = TablePaths::NeighboursOf(path);
-  // The neighbours first: otherwise a crash in between could bring back what was to be removed.
-  bool removed = files.Remove(neighbours.index);
-  removed = files.Remove(neighbours.data) && removed;
+  const TablePaths temporaries = TablePaths::TemporariesOf(path);
+  // The temporary files first: otherwise a crash in between could bring back what was to be removed.
+  bool removed = files.Remove(temporaries.index);
+  removed = files.Remove(temporaries.data) && removed;
   removed = files.Remove(paths.index) && removed;
   return files.Remove(paths.data) && removed;
 }

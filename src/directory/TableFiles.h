@@ -16,7 +16,7 @@ struct TablePaths {
   std::string index;
   // The files of the table at `path` (without an extension), and those that a new generation is written to.
   static TablePaths Of(const std::string& path);
-  static TablePaths NeighboursOf(const std::string& path);
+  static TablePaths TemporariesOf(const std::string& path);
 };
 
 // An open pair whose headers passed every check and name the same generation.
@@ -28,14 +28,14 @@ struct TableFiles {
 };
 
 // Success, NoTable when a file is missing or cannot be opened, or Damaged. When the data file is of a newer
-// generation than the index and the index's neighbour is of the same one, a swap was cut short between its
-// two steps: it is completed.
+// generation than the index and the index's temporary file is of the same one, a swap was cut short between
+// its two steps: it is completed.
 TableStatus OpenTableFiles(Files& files, const std::string& path, TableFiles& opened);
 
-// Puts complete neighbours in the place of the table's files, none of which may be open. False when the table
-// is still the old one; true when it is the new one, even if a crash or a failure left the second step to the
-// next OpenTableFiles.
-bool SwapInNeighbours(Files& files, const std::string& path);
+// Puts complete temporary files in the place of the table's files, none of which may be open. False when the
+// table is still the old one; true when it is the new one, even if a crash or a failure left the second step
+// to the next OpenTableFiles.
+bool SwapInTemporaries(Files& files, const std::string& path);
 
 // Removes the table and what an interrupted writer left beside it. False when a file is still there.
 bool RemoveTableFiles(Files& files, const std::string& path);

@@ -22,12 +22,12 @@ std::string_view BytesOf(const Item* items, std::size_t count) {
 
 TableWriter::TableWriter(Files& files, std::string path, const TableDefinition& definition)
     : files_(files), path_(std::move(path)), definition_(definition), generation_(definition.fieldCount) {
-  TableFiles old;  // opening it completes an interrupted swap, whose neighbour would be overwritten now
+  TableFiles old;  // opening it completes an interrupted swap, whose temporary file would be overwritten now
   OpenTableFiles(files_, path_, old);
   old = {};
-  const TablePaths neighbours = TablePaths::NeighboursOf(path_);
-  data_.emplace(files_.Create(neighbours.data), BlockWriter::Checking::None);
-  index_.emplace(files_.Create(neighbours.index), BlockWriter::Checking::Chained);
+  const TablePaths temporaries = TablePaths::TemporariesOf(path_);
+  data_.emplace(files_.Create(temporaries.data), BlockWriter::Checking::None);
+  index_.emplace(files_.Create(temporaries.index), BlockWriter::Checking::Chained);
   data_->WriteHeader(std::string(sizeof(DataHeader), '\0'));
   index_->WriteHeader(std::string(sizeof(IndexHeader), '\0'));
 }
@@ -36,9 +36,9 @@ TableWriter::~TableWriter() {
   if (putInPlace_) return;
   data_.reset();
   index_.reset();
-  const TablePaths neighbours = TablePaths::NeighboursOf(path_);
-  files_.Remove(neighbours.data);
-  files_.Remove(neighbours.index);
+  const TablePaths temporaries = TablePaths::TemporariesOf(path_);
+  files_.Remove(temporaries.data);
+  files_.Remove(temporaries.index);
 }
 
 bool TableWriter::Append(std::int32_t key, std::string_view text) {
@@ -117,7 +117,7 @@ std::uint64_t TableWriter::WritePages(const IndexHeader& header) {
 }
 
 bool TableWriter::PutInPlace() {
-  putInPlace_ = SwapInNeighbours(files_, path_);
+  putInPlace_ = SwapInTemporaries(files_, path_);
   return putInPlace_;
 }
 

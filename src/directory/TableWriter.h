@@ -1,5 +1,5 @@
-// Writes one generation of an indexed table from records in ascending key order: first as neighbours of the
-// table's files, then in their place. Until PutInPlace the old table is untouched; a crash at any moment
+// Writes one generation of an indexed table from records in ascending key order: first as temporary files of
+// the table's files, then in their place. Until PutInPlace the old table is untouched; a crash at any moment
 // leaves a table that opens, the old one or the new. Owned by the one operation that writes; not used for
 // reading.
 #pragma once
@@ -20,7 +20,7 @@ class TableWriter {
  public:
   // `path` is the table's path without an extension. Begins to write at once; a failure shows in Finish.
   TableWriter(Files& files, std::string path, const TableDefinition& definition);
-  // Removes the neighbours unless they were put in place.
+  // Removes the temporary files unless they were put in place.
   ~TableWriter();
   TableWriter(const TableWriter&) = delete;
   TableWriter& operator=(const TableWriter&) = delete;
@@ -30,10 +30,10 @@ class TableWriter {
   bool Append(std::int32_t key, std::string_view text);
   // What the records come from; without it the table is one of no list.
   void SetSource(const TableSource& source) { source_ = source; }
-  // Completes the neighbours. False when anything could not be written.
+  // Completes the temporary files. False when anything could not be written.
   bool Finish();
-  // Replaces the table by the finished neighbours; no file of the table may be open. False when the table is
-  // still the old one.
+  // Replaces the table by the finished temporary files; no file of the table may be open. False when the
+  // table is still the old one.
   bool PutInPlace();
 
  private:

@@ -18,6 +18,7 @@ constexpr const char* kYourStationsText = "Your Stations";
 constexpr const char* kYourStationsKey = "O1";
 constexpr const char* kYourStationsTag = "O";
 
+// Tags hold identifiers with blanks between them; what is no number is passed over.
 void AppendIds(std::string_view tag, std::vector<std::int32_t>& ids) {
   while (!tag.empty()) {
     std::int32_t id = 0;
@@ -27,12 +28,15 @@ void AppendIds(std::string_view tag, std::vector<std::int32_t>& ids) {
 
 }  // namespace
 
+// Reading takes a while, so the same tree is not read again. A new guide calls FillBrowseTree itself.
 bool BrowseTree::Show(BrowseMode mode) {
   if (mode == mode_) return false;
   FillBrowseTree(mode);
   return true;
 }
 
+// One file lists the categories, and each has a file of its own entries. A missing one leaves its category
+// empty.
 void BrowseTree::FillBrowseTree(BrowseMode mode) {
   mode_ = mode;
   nodes_.clear();
@@ -42,6 +46,7 @@ void BrowseTree::FillBrowseTree(BrowseMode mode) {
   for (const std::string_view line : SplitLines(file.bytes)) {
     const auto fields = SplitAtMost(line, '\t', 4);
     if (fields.size() < 4) continue;
+    // The first character is the category's code, the rest the name of its file.
     const std::string tag = std::string(fields[0]) + std::string(fields[2]);
     const int category = AddNode(BrowseNode::kRoot, "M" + std::string(fields[0]), fields[1], tag);
     ExpandCategory(tag, category, fields[3]);
@@ -51,6 +56,7 @@ void BrowseTree::FillBrowseTree(BrowseMode mode) {
   SortChildren();
 }
 
+// An index, since nodes_ moves when it grows: references to nodes do not last across this call.
 int BrowseTree::AddNode(int parent, std::string key, std::string_view text, std::string tag) {
   const int index = static_cast<int>(nodes_.size());
   BrowseNode node;
@@ -71,6 +77,7 @@ void BrowseTree::ExpandCategory(const std::string& tag, int category, std::strin
   std::unordered_map<std::string_view, int> entries;  // by entry code, of this file only
   for (const std::string_view line : SplitLines(file.bytes)) {
     const auto fields = SplitAtMost(line, '\t', 5);
+    // A line that is cut short ends the list: what follows cannot be trusted to be whole.
     if (fields.size() < 5) return;
     int parent = category;
     if (NumberValue(fields[3]) != 0) {
@@ -85,6 +92,8 @@ void BrowseTree::ExpandCategory(const std::string& tag, int category, std::strin
   }
 }
 
+// In the order of the user's language. The keys are made once, not with every comparison. Roots keep the
+// order of the file.
 void BrowseTree::SortChildren() {
   std::vector<std::string> keys;
   keys.reserve(nodes_.size());
@@ -109,6 +118,7 @@ void BrowseTree::CountStations(int category) {
   nodes_[static_cast<std::size_t>(category)].stationCount = static_cast<std::size_t>(last - all.begin());
 }
 
+// -1 when there is none, which is also the parent of the roots.
 int BrowseTree::Find(std::string_view key) const {
   for (std::size_t i = 0; i < nodes_.size(); ++i) {
     if (nodes_[i].key == key) return static_cast<int>(i);

@@ -15,6 +15,7 @@
 namespace sonaro {
 namespace {
 
+// Keys of messages: each has its help page. They are part of the program's face to the outside.
 constexpr const char* kTenGroupsKey = "AlreadyHave10FavoriteGroups";
 constexpr const char* kExistsKey = "TheFavoriteGroupAlreadyExists";
 constexpr const char* kDeleteKey = "DeleteFavoriteGroup";
@@ -28,6 +29,7 @@ bool FavoriteCommands::RefuseEleventh() {
   return true;
 }
 
+// The limit is checked before the question, so that nobody types a name for nothing.
 bool FavoriteCommands::AddFavoriteGroup() {
   if (RefuseEleventh()) return false;
   const std::string name = FavoriteGroups::CleanName(prompts_.AskNewGroupName());
@@ -41,6 +43,7 @@ bool FavoriteCommands::AddFavoriteGroup() {
   return true;
 }
 
+// Another letter case of its own name is a new name; the same name is no change and no fault.
 void FavoriteCommands::RenameFavoriteGroup(std::size_t group) {
   if (group >= groups_.Count()) return;
   const std::string oldName = groups_.Name(group);
@@ -61,6 +64,7 @@ void FavoriteCommands::DeleteFavoriteGroup(std::size_t group) {
   if (!settings_.Get(setting::kNoShowDelete) && !ConfirmDelete(name)) return;
   const auto removed = groups_.Find(name);  // while the question stood the groups may have moved
   if (!removed) return;
+  // The whole line with its stations, for the way back. It is taken now, since the group is gone afterwards.
   const std::string line = groups_.Line(*removed);
   if (!Changed(groups_.Remove(*removed))) return;
   prompts_.TellTray("DeleteFavGroup\t" + name);
@@ -80,6 +84,8 @@ UndoResult FavoriteCommands::PutBackGroup(std::size_t place, const std::string& 
   return UndoResult::Done;
 }
 
+// "Do not ask again" counts together with "Delete" only: after "Keep" it would mean that deleting is done
+// unasked.
 bool FavoriteCommands::ConfirmDelete(const std::string& name) {
   Message message;
   message.key = kDeleteKey;
@@ -108,6 +114,7 @@ void FavoriteCommands::AddStationToGroup(std::string_view groupName, const Stati
   SayDone(IDS_GROUP_ADDED_TO, station, name);
 }
 
+// A new group is made with its first station in one save, so that no crash leaves an empty group.
 void FavoriteCommands::AddStationToGroupOrNew(std::string_view groupName, const StationKey& station) {
   const std::string name = FavoriteGroups::CleanName(groupName);
   if (name.empty() || groups_.Find(name)) return AddStationToGroup(name, station);

@@ -15,6 +15,8 @@
 namespace sonaro {
 namespace {
 
+// The kind that searches this directory; every other name is a search of the web. The marks stand in its
+// address, the last text begins what the tray tells other programs.
 constexpr const char* kFindStation = "FindStation";
 constexpr const char* kWordMark = "<<SearchWord>>";
 constexpr const char* kOptionMark = "<<SearchOpt>>";
@@ -32,6 +34,7 @@ std::string CleanText(std::string_view text) {
 
 bool SearchKind::SearchesStations() const { return name == kFindStation; }
 
+// The file comes with the guide and may be missing: searching the directory is always offered.
 void SearchPanel::LoadSearchKinds(std::string builtInCaption) {
   kinds_.clear();
   std::string text = data_.Read(guide_file::kSearchKinds).bytes;
@@ -46,6 +49,7 @@ void SearchPanel::LoadSearchKinds(std::string builtInCaption) {
 }
 
 bool SearchPanel::SearchesStations(std::size_t kind) const {
+  // A setting may name a kind that a newer guide has no more; then the last one is meant.
   return !kinds_.empty() && kinds_[std::min(kind, kinds_.size() - 1)].SearchesStations();
 }
 
@@ -57,6 +61,7 @@ SearchHistory SearchPanel::Pinned() const {
   return SearchHistory(settings_.Get(setting::kPinnedSearches), SearchHistory::kMaxPinned);
 }
 
+// Pinned searches first, the newest of them at the top; none stands in the list twice.
 std::vector<std::string> SearchPanel::Searches() const {
   const SearchHistory pinned = Pinned();
   std::vector<std::string> searches(pinned.Entries().rbegin(), pinned.Entries().rend());
@@ -92,6 +97,8 @@ SearchPanel::Outcome SearchPanel::FindStation(std::string_view text, std::size_t
   return Outcome::Stations;
 }
 
+// The words are encoded, the option is not: it is one of two fixed words. The page opens when the user asks
+// for it.
 void SearchPanel::FindOnTheWeb(const std::string& text, const SearchKind& kind, bool allWords) {
   last_ = LastKind::Web;
   webCaption_ = kind.caption;
@@ -101,6 +108,7 @@ void SearchPanel::FindOnTheWeb(const std::string& text, const SearchKind& kind, 
   listing_.ShowWebSearch();
 }
 
+// Kept before the search, so that a search that takes the program down is not forgotten.
 void SearchPanel::FindInTheDirectory(const std::string& text, bool allWords) {
   SearchHistory history(settings_.Get(setting::kSearchList));
   history.Add(text);

@@ -75,6 +75,8 @@ void SonaroFrm::PrepareTyping() {
   context_.data.stations.PrepareTyping();
 }
 
+// Everything that is shown follows from the models, so after any change all of it is shown anew. No pane has
+// to know what else its change touches.
 void SonaroFrm::ShowEverything() {
   const int focused = FocusedControl();
   status_.WindowChanged();
@@ -95,6 +97,7 @@ void SonaroFrm::ShowEverything() {
   }
 }
 
+// The left column goes by the front tab, the middle by what the listing holds.
 void SonaroFrm::ShowPanes() {
   const ListingState& state = models_.listing.State();
   const View front = state.Front();
@@ -108,11 +111,13 @@ void SonaroFrm::ShowPanes() {
   lblSide_.SetText(LoadText(SideCaptionOf(front)));
 }
 
+// The detail belongs to the one list that is on show in the middle.
 void SonaroFrm::ShowSelection() {
   if (models_.listing.State().middle == Middle::EventPage) return detail_.Show(yours_.SelectedStation());
   detail_.Show(models_.listing.Rows().SelectedKey());
 }
 
+// One message however many letters come before it is read.
 void SonaroFrm::Typed() {
   if (std::exchange(typed_, true)) return;
   PostMessageW(Window(), kTypedMessage, 0, 0);
@@ -136,6 +141,7 @@ std::span<const TimerRow> SonaroFrm::Timers() const {
   return kRows;
 }
 
+// A drag has the mouse captured, so its messages come to this window and not to the list.
 bool SonaroFrm::OnMessage(UINT message, WPARAM, LPARAM, LRESULT& result) {
   if (message == kTypedMessage) {
     result = 0;
@@ -147,6 +153,7 @@ bool SonaroFrm::OnMessage(UINT message, WPARAM, LPARAM, LRESULT& result) {
   return true;
 }
 
+// Every play changes the recent list; other lists keep their rows and their place.
 void SonaroFrm::RecentChanged() {
   if (!IsOpen()) return;
   const ListingState& state = models_.listing.State();
@@ -170,6 +177,7 @@ void SonaroFrm::PersonalStationsChanged() {
   ShowEverything();
 }
 
+// All that comes out of the guide's files: the tree, the rows on show, the date in the status line.
 void SonaroFrm::DirectoryChanged() {
   if (!IsOpen()) return;
   browse_.GuideChanged();

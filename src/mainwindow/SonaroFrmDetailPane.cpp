@@ -14,6 +14,7 @@
 namespace sonaro {
 namespace {
 
+// Painters of the small pictures; they get the colours of the faceplate with every paint, as it can change.
 void PaintHair(HDC dc, const RECT& box, const Painter& painter) {
   painter.Fill(dc, {box.left, box.top, box.right, box.top + painter.Line()}, painter.Colors().hair);
 }
@@ -30,6 +31,8 @@ void PaintNoStation(HDC dc, const RECT& box, const Painter& painter) {
 
 }  // namespace
 
+// Buttons and menu entries do the same for the station that is meant, which with a menu is that of its
+// opening.
 std::span<const EventRow> DetailPane::Events() const {
   static const EventRow kRows[] = {
       {butGoMediaLinkOneIt, Click, &DetailPane::butGoMediaLink_Click, 3},
@@ -52,6 +55,7 @@ void DetailPane::Load() {
   picPin_.SetPainter(PaintPin);
 }
 
+// The record is read once here; buttons and menus work on what was read.
 void DetailPane::Show(const StationKey& station) {
   subject_.Show(context_.models.details.Of(station));
   const StationDetail& detail = subject_.Shown();
@@ -76,13 +80,14 @@ void DetailPane::ShowRatings(const StationDetail& detail) {
   }
 }
 
+// The second line of a button: the bit rate, and behind the tab the key on the keyboard.
 void DetailPane::ShowPlayButtons(const StationDetail& detail) {
   for (std::size_t i = 0; i < StationDetail::kPlayButtons; ++i) {
-    const PlayButton& key = detail.playButtons[i];
+    const PlayButton& shown = detail.playButtons[i];
     const TwoLineButton button = butGoMediaLink_[static_cast<int>(i)];
-    button.SetText(key.caption);
-    button.SetDetail(key.bitRate + "\t" + std::to_string(i + 1));
-    button.Show(key.shown);
+    button.SetText(shown.caption);
+    button.SetDetail(shown.bitRate + "\t" + std::to_string(i + 1));
+    button.Show(shown.shown);
   }
 }
 
@@ -114,8 +119,8 @@ void DetailPane::mnuActionPlayExtra_Click(int link) {
   Play(station.extraButtons[index]);
 }
 
-void DetailPane::Play(const PlayButton& key) {
-  const PlayRequest request = key.request;  // what is shown changes with the recent list
+void DetailPane::Play(const PlayButton& button) {
+  const PlayRequest request = button.request;  // what is shown changes with the recent list
   // The launch notes plays of the links that the guide gives; the others are noted here.
   if (request.mode == PlayMode::KeyItself) context_.data.recent.AddRecent(request.station);
   context_.services.player.LaunchStation(request);
@@ -141,6 +146,7 @@ void DetailPane::mnuActionSchedule_Click() {
   if (station) context_.services.schedule.ScheduleStation(form_, station);
 }
 
+// Links are added to stations of the guide only; the user's own are edited in their own dialog.
 void DetailPane::mnuActionExtraLink_Click() {
   const StationKey station = subject_.Station().station;
   if (!station.IsOfGuide()) return;

@@ -24,7 +24,7 @@ class DetailPane final : public EventTarget {
   std::span<const EventRow> Events() const override;
   void ShowRatings(const StationDetail& detail);
   void ShowPlayButtons(const StationDetail& detail);
-  void Play(const PlayButton& key);
+  void Play(const PlayButton& button);
 
   void butGoMediaLink_Click(int link);
   void mnuActionPlay_Click(int link);

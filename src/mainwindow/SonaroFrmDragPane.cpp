@@ -32,6 +32,7 @@ std::span<const EventRow> DragPane::Events() const {
   return kRows;
 }
 
+// Buttons have no event for the beginning of a drag, so their messages are watched on the way.
 void DragPane::Load() {
   for (int slot = 0; slot < butFavs_.Count(); ++slot) {
     SetWindowSubclass(butFavs_[slot].Window(), GroupButtonProcedure, static_cast<UINT_PTR>(slot),
@@ -39,12 +40,14 @@ void DragPane::Load() {
   }
 }
 
-LRESULT CALLBACK DragPane::GroupButtonProcedure(HWND key, UINT message, WPARAM wParam, LPARAM lParam,
+LRESULT CALLBACK DragPane::GroupButtonProcedure(HWND button, UINT message, WPARAM wParam, LPARAM lParam,
                                                 UINT_PTR slot, DWORD_PTR self) noexcept {
   return Guarded(0, [&]() -> LRESULT {
-    if (message == WM_NCDESTROY) RemoveWindowSubclass(key, GroupButtonProcedure, slot);
+    // The last message of a window: a subclass that is still there then would be called with a pane that is
+    // gone.
+    if (message == WM_NCDESTROY) RemoveWindowSubclass(button, GroupButtonProcedure, slot);
     reinterpret_cast<DragPane*>(self)->WatchGroupButton(message, wParam, lParam, static_cast<int>(slot));
-    return DefSubclassProc(key, message, wParam, lParam);
+    return DefSubclassProc(button, message, wParam, lParam);
   });
 }
 
@@ -65,6 +68,7 @@ void DragPane::WatchGroupButton(UINT message, WPARAM wParam, LPARAM lParam, int 
 
 void DragPane::lstFavs_BeginDrag(int row) { Begin(Thing::Row, list_.KeyAt(row), {}); }
 
+// The station is taken by its key: the list may be filled anew while the mouse is on its way.
 void DragPane::Begin(Thing what, StationKey station, std::string group) {
   pressedSlot_ = -1;
   if (!station && group.empty()) return;
@@ -85,6 +89,7 @@ bool DragPane::Handle(UINT message) {
     case WM_LBUTTONUP:
       drop = DropAt(PointOfMessage());
       break;
+    // Another window took the mouse, or the right button gave the drag up: it ends and changes nothing.
     case WM_CAPTURECHANGED:
     case WM_CANCELMODE:
     case WM_RBUTTONDOWN:
@@ -92,6 +97,7 @@ bool DragPane::Handle(UINT message) {
     default:
       return false;
   }
+  // Copies, because End forgets them and what is dropped may open a dialog with a loop of its own.
   const Thing what = what_;
   const StationKey station = station_;
   const std::string group = group_;
@@ -141,6 +147,7 @@ DragPane::Drop DragPane::DropAt(POINT screen) const {
   return drop;
 }
 
+// Buttons are drawn anew when the pointer comes to another one, not with every move.
 void DragPane::Follow() {
   const Drop drop = DropAt(PointOfMessage());
   SetCursor(SystemCursor(drop.onto == Thing::Nothing ? kNoCursor : kHandCursor));

@@ -33,7 +33,7 @@ class DragPane final : public EventTarget {
     POINT at = {};  // on the screen
   };
 
-  static LRESULT CALLBACK GroupButtonProcedure(HWND key, UINT message, WPARAM wParam, LPARAM lParam,
+  static LRESULT CALLBACK GroupButtonProcedure(HWND button, UINT message, WPARAM wParam, LPARAM lParam,
                                                UINT_PTR slot, DWORD_PTR self) noexcept;
   void WatchGroupButton(UINT message, WPARAM wParam, LPARAM lParam, int slot);
   void lstFavs_BeginDrag(int row);

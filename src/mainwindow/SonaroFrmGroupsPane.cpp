@@ -23,6 +23,8 @@ GroupsPane::GroupsPane(const MainContext& context, StatusPane& status)
       commands_(context.data.favorites, context.models.listing, context.data.settings, context.data.strings,
                 context.services.undo, *this) {}
 
+// Events of the group buttons, and of every menu that acts on a group. A menu acts on the group that it was
+// opened for, which CommandSubject knows.
 std::span<const EventRow> GroupsPane::Events() const {
   static const EventRow kRows[] = {
       {butFavs, Click, &GroupsPane::butFavs_Click, 10},
@@ -52,6 +54,7 @@ std::span<const EventRow> GroupsPane::Events() const {
   return kRows;
 }
 
+// Ten buttons, whatever the number of groups: a free one is a socket that founds a group.
 void GroupsPane::Show() {
   const std::size_t count = groups_.Count();
   const std::size_t shown = subject_.GroupOnShow().value_or(count);
@@ -69,6 +72,7 @@ void GroupsPane::Show() {
   for (std::size_t group = 0; group < count; ++group) {
     cmbFavs_.AddItem(groups_.Name(group), static_cast<int>(group) + 1);
   }
+  // Without a group on show the first one stands there.
   cmbFavs_.SelectItem(shown < count ? static_cast<int>(shown) : 0);
   butRemoveGroup_.Enable(subject_.Group().has_value());
 }
@@ -87,6 +91,7 @@ void GroupsPane::ShowGroupNamed(std::string_view name) {
   if (const auto group = groups_.Find(name)) butFavs_Click(static_cast<int>(*group));
 }
 
+// A press of a free button asks for the name of a new group.
 void GroupsPane::butFavs_Click(int group) {
   if (static_cast<std::size_t>(group) >= groups_.Count()) return mnuAddFavGroup_Click();
   context_.models.listing.ShowFavoriteGroup(static_cast<std::size_t>(group));
@@ -119,6 +124,7 @@ bool GroupsPane::ShowFocusedGroup() {
   return true;
 }
 
+// The new group comes on show, since its button may be beyond those that the user looks at.
 void GroupsPane::butNewGroup_Click() {
   if (commands_.AddFavoriteGroup()) context_.models.listing.ShowGroupInPlace(groups_.Count() - 1);
   context_.view.ShowEverything();
@@ -135,6 +141,7 @@ void GroupsPane::TakeDropped(const StationKey& station, int slot) {
   context_.view.ShowEverything();
 }
 
+// By its name: the groups may have changed during the drag. Dropped on a free button it becomes the last.
 void GroupsPane::MoveGroup(const std::string& name, int to) {
   const auto from = groups_.Find(name);
   const int last = static_cast<int>(groups_.Count()) - 1;
@@ -206,6 +213,7 @@ void GroupsPane::mnuActionStationToGroup_Click(int group) {
   context_.view.ShowEverything();
 }
 
+// For other windows, which may ask while this one is not there.
 void GroupsPane::AddStationToGroup(const std::string& groupName, const StationKey& station) {
   commands_.AddStationToGroup(groupName, station);
   if (form_.IsOpen()) context_.view.ShowEverything();

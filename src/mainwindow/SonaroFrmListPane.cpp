@@ -14,6 +14,8 @@
 
 namespace sonaro {
 
+// Header buttons, both menus and the keys lead to the same handlers: what the list does is decided in one
+// place.
 std::span<const EventRow> ListPane::Events() const {
   static const EventRow kRows[] = {
       {lstFavs, ItemSelected, &ListPane::lstFavs_ItemSelected},
@@ -49,6 +51,7 @@ void ListPane::Load() {
   list.SetModel(this, true);
 }
 
+// The rows are those of the listing; the window asks for the texts of those that are seen.
 void ListPane::ShowRows() {
   ListView& list = *lstFavs_;
   const StationRows& rows = listing_.Rows();
@@ -62,6 +65,8 @@ void ListPane::ShowRows() {
   ShowCount();
 }
 
+// A narrowed list tells both figures, so that nobody takes a filter for the whole list. Before anything was
+// chosen there is nothing to count.
 void ListPane::ShowCount() {
   const StationRows& rows = listing_.Rows();
   const auto figure = [&](std::size_t count) { return FormatCount(count, context_.data.state.decimalMode); };
@@ -105,6 +110,7 @@ void ListPane::ShowFilterBox() {
   txtFilter_.Show(filterOpen_);
 }
 
+// An empty list says why it is empty and what to do about it; that depends on what it would hold.
 void ListPane::ShowEmptyText() {
   int heading = IDS_EMPTY_LIST;
   int help = IDS_EMPTY_LIST_HELP;
@@ -150,6 +156,7 @@ void ListPane::ShowEmptyText() {
   lstFavs_->SetEmptyText(form_.LoadText(heading), form_.LoadText(help));
 }
 
+// The mark on a header, and for what has no header the name of the sorting on the button that ends it.
 void ListPane::ShowSort() {
   const SortState& sort = listing_.Rows().Sort();
   butOwnOrder_.Show(sort.on);
@@ -173,6 +180,7 @@ void ListPane::lstFavs_ItemSelected(int row) {
 
 void ListPane::lstFavs_ItemActivate(int) { detail_.PlayFirst(); }
 
+// The menu is for the station and group as they are now; both are remembered by key and name until it closes.
 void ListPane::lstFavs_ContextMenu(int, POINT at) {
   const CommandSubject& subject = context_.models.subject;
   const auto group = subject.GroupOnShow();
@@ -187,6 +195,7 @@ void ListPane::butSplit_ContextMenu(int, POINT at) {
   form_.PopUpMenu(context_.models.actions.SortMenu(), at);
 }
 
+// A press of a header clicks by itself; the same from a menu is made to sound alike.
 void ListPane::mnuSort_Click(int entry) {
   if (context_.forms.listener) context_.forms.listener->ButtonPressed();
   SortBy(mnuSortByName + entry);
@@ -206,6 +215,7 @@ void ListPane::mnuOwnOrder_Click() {
   ShowRows();
 }
 
+// Opened again the words are selected, so that typing replaces them.
 void ListPane::mnuFilter_Click() {
   if (listing_.State().middle != Middle::StationList) return;
   filterOpen_ = true;
@@ -226,6 +236,7 @@ void ListPane::mnuEndFilter_Click() {
   context_.view.ShowEverything();
 }
 
+// Words that are the same as before are not looked for again: typing a blank changes nothing.
 void ListPane::TakeTyped() {
   const std::string words(TrimBlanks(txtFilter_.Text()));
   if (!filterOpen_ || words == takenFilter_) return;
@@ -245,6 +256,7 @@ void ListPane::mnuRemoveRow_Click() {
   groups_.RemoveStation();
 }
 
+// Only in the list of the group that is meant, since places are those of the group and not of any other list.
 void ListPane::MoveStation(int by) {
   const CommandSubject& subject = context_.models.subject;
   const StationKey key = subject.Station().station;
@@ -252,6 +264,8 @@ void ListPane::MoveStation(int by) {
   if (row && subject.Group() == subject.GroupOnShow()) MoveRow(key, static_cast<int>(*row) + by);
 }
 
+// The target is told by the key of the station there. Rows and places of the group differ where stations are
+// missing.
 void ListPane::MoveRow(const StationKey& station, int to) {
   const StationRows& rows = listing_.Rows();
   if (!rows.InOwnOrder() || !rows.Find(station) || to < 0 || to >= static_cast<int>(rows.Count())) return;

@@ -23,6 +23,7 @@ YoursPane::YoursPane(const MainContext& context)
       groups_(context.data.favorites),
       listing_(context.models.listing) {}
 
+// Both lists of this view: groups on the left, coming events in the middle.
 std::span<const EventRow> YoursPane::Events() const {
   static const EventRow kRows[] = {
       {lstGroups, ItemSelected, &YoursPane::lstGroups_ItemSelected},
@@ -71,6 +72,7 @@ StationKey YoursPane::SelectedStation() const {
   return event ? event->key : StationKey();
 }
 
+// The selected row follows from what is on show and is never kept apart from it.
 void YoursPane::ShowGroups() {
   ListView& list = *lstGroups_;
   list.RowsChanged();
@@ -83,6 +85,8 @@ int YoursPane::RowOf(const EventKey& event) const {
   return same != events_.end() ? static_cast<int>(same - events_.begin()) : -1;
 }
 
+// The selection stays with its event, known by its key: the list is made anew every minute, and rows move up
+// as events begin.
 void YoursPane::ShowEvents() {
   ListView& list = *lstEvents_;
   const EventKey chosen = SelectedEvent() ? SelectedEvent()->event : EventKey();
@@ -93,6 +97,7 @@ void YoursPane::ShowEvents() {
   ShowEventButtons(list.Selected());
 }
 
+// An event that is noticed already cannot be noticed once more; a show can be added and removed.
 void YoursPane::ShowEventButtons(int row) {
   const EventLine* event = EventAt(row);
   butNotifyMe_.Enable(event && !event->noticed);
@@ -110,10 +115,12 @@ void YoursPane::ShowNextNotice() {
   lblNextOften_.SetText(next.howOften);
 }
 
+// A file may hold more groups than there are buttons; they are kept, and not shown.
 int YoursPane::GroupCount() const {
   return static_cast<int>(std::min(groups_.Count(), FavoriteGroups::kSlots));
 }
 
+// -1 for a list that is not in the left column, such as a ranking.
 int YoursPane::SelectedGroupRow() const {
   const ListingState& state = listing_.State();
   if (state.middle == Middle::EventPage) return kEventsRow;
@@ -134,6 +141,7 @@ const EventLine* YoursPane::EventAt(int row) const {
                                                                     : nullptr;
 }
 
+// The arrow keys walk through the groups: each is shown at once, and the focus stays here.
 void YoursPane::lstGroups_ItemSelected(int row) {
   if (const auto group = GroupAt(row)) {
     listing_.ShowGroupInPlace(*group);
@@ -174,6 +182,7 @@ void YoursPane::lstEvents_ContextMenu(int, POINT at) {
                         context_.models.actions.EventMenu(*event, station), at);
 }
 
+// From a menu the event for which it was opened, although the list may have changed under it.
 std::optional<EventKey> YoursPane::EventMeant() const {
   if (const CommandSubject::Menu* menu = context_.models.subject.OpenMenu()) return menu->event.event;
   const EventLine* selected = SelectedEvent();
@@ -195,12 +204,14 @@ void YoursPane::butPersonalShow_Click() {
   ShowEvents();
 }
 
+// Two rows that are always there, then the groups.
 int YoursPane::GroupRows::RowCount() const { return kFirstGroupRow + pane_.GroupCount(); }
 
 std::string YoursPane::GroupRows::Cell(int row, int column) const {
   const auto group = pane_.GroupAt(row);
   switch (column) {
     case 0:
+      // The digit of its key on the keyboard: the tenth has 0.
       return group ? std::to_string((*group + 1) % FavoriteGroups::kSlots) : std::string();
     case 1:
       if (group) return pane_.groups_.Name(*group);

@@ -114,10 +114,10 @@ MenuEntries StationActions::EventMenu(const EventLine& event, const StationDetai
 void StationActions::AddPlayEntries(const StationDetail& detail, MenuEntries& menu) const {
   if (!detail.station) menu.push_back(Entry(mnuActionPlayOne, IDS_ACTION_PLAY, false));
   for (std::size_t i = 0; i < StationDetail::kPlayButtons; ++i) {
-    const PlayButton& key = detail.playButtons[i];
-    if (!key.shown) continue;
+    const PlayButton& button = detail.playButtons[i];
+    if (!button.shown) continue;
     MenuEntry entry = Entry(kPlayCommands[i], kPlayShortcuts[i]);
-    entry.text = FormatText(entry.text, {MenuText(key.caption)});
+    entry.text = FormatText(entry.text, {MenuText(button.caption)});
     menu.push_back(std::move(entry));
   }
   for (std::size_t i = 0; i < detail.extraButtons.size() && i < kExtraPlayCommands; ++i) {

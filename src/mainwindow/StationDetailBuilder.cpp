@@ -11,6 +11,7 @@
 namespace sonaro {
 namespace {
 
+// The four ratings, in the order in which the window shows them.
 struct RatingField {
   std::string StationInfo::*digit;
   int nameId;
@@ -25,6 +26,7 @@ constexpr std::array<RatingField, StationDetail::kRatings> kRatingFields{{
 
 }  // namespace
 
+// Empty for a station that the guide no longer has; the window then shows that none is selected.
 StationDetail StationDetailBuilder::Of(const StationKey& key) const {
   StationDetail detail;
   const Station station = source_.Find(key);
@@ -41,6 +43,8 @@ StationDetail StationDetailBuilder::Of(const StationKey& key) const {
   return detail;
 }
 
+// Ratings are digits from 1 to 9, each half a point of 0.5 to 4.5; anything else means that there is none.
+// The spoken text is for screen readers, to which a dash says nothing.
 RatingFigure StationDetailBuilder::Rating(const std::string& digit, int nameId) const {
   RatingFigure rating;
   if (digit.size() == 1 && digit[0] >= '1' && digit[0] <= '9') rating.halves = digit[0] - '0';
@@ -61,33 +65,34 @@ void StationDetailBuilder::AddPlayButtons(const Station& station, StationDetail&
   detail.playButtons[0].request = {station.key,
                                    station.key.IsOfUser() ? PlayMode::Personal : PlayMode::LinkOne};
   for (const PlayableLink& playable : PlayableLinks(station, extra_)) {
-    PlayButton key = ButtonFor(playable, station);
+    PlayButton button = ButtonFor(playable, station);
     if (playable.number == 0) {
-      detail.extraButtons.push_back(std::move(key));
+      detail.extraButtons.push_back(std::move(button));
       continue;
     }
     if (detail.firstLink.empty()) detail.firstLink = PlayLink::FromText(TrimBlanks(playable.link)).address;
-    detail.playButtons[static_cast<std::size_t>(playable.number) - 1] = std::move(key);
+    detail.playButtons[static_cast<std::size_t>(playable.number) - 1] = std::move(button);
   }
 }
 
+// Number 0 is a link that the user added; it has a name instead of a media type.
 PlayButton StationDetailBuilder::ButtonFor(const PlayableLink& playable, const Station& station) const {
-  PlayButton key;
-  key.shown = true;
-  key.request = playable.request;
+  PlayButton button;
+  button.shown = true;
+  button.request = playable.request;
   if (playable.number == 0) {
-    key.caption = playable.name.empty() ? strings_.Load(IDS_PLAY_EXTRA) : playable.name;
-    return key;
+    button.caption = playable.name.empty() ? strings_.Load(IDS_PLAY_EXTRA) : playable.name;
+    return button;
   }
   if (PlayLink::FromText(TrimBlanks(playable.link)).way == PlayWay::WebPage) {
-    key.caption = strings_.Load(IDS_PLAY_IN_BROWSER);
+    button.caption = strings_.Load(IDS_PLAY_IN_BROWSER);
   } else {
-    key.caption = TrimBlanks(FormatText(strings_.Load(IDS_PLAY_MEDIA), {station.mediaType}));
+    button.caption = TrimBlanks(FormatText(strings_.Load(IDS_PLAY_MEDIA), {station.mediaType}));
   }
   if (const std::int64_t bitRate = NumberValue(station.bitRate); bitRate > 0) {
-    key.bitRate = FormatText(strings_.Load(IDS_PLAY_BIT_RATE), {std::to_string(bitRate)});
+    button.bitRate = FormatText(strings_.Load(IDS_PLAY_BIT_RATE), {std::to_string(bitRate)});
   }
-  return key;
+  return button;
 }
 
 }  // namespace sonaro

@@ -45,6 +45,7 @@ void StationListState::ShowView(View view) {
   if (view == View::BrowseLoc) tree_.Show(BrowseMode::ByLocation);
 }
 
+// Coming back to the tab shows what it showed before, read anew: other tabs have used the one list meanwhile.
 void StationListState::ShowListView() {
   state_.searchForm = false;
   if (state_.view == View::List) return;
@@ -53,11 +54,13 @@ void StationListState::ShowListView() {
   RebuildFromListingMode();
 }
 
+// The mode is a text so that it can be told to other programs; an unknown one leaves the list as it is.
 void StationListState::RebuildFromListingMode() {
   const std::string mode = state_.listingMode;
   if (mode == ListingState::kRecent) {
     ShowRecent();
   } else if (mode == ListingState::kLastSearch) {
+    // The search's rows are still there, and searching again would cost time for the same result.
     if (state_.holds == Holds::Search) return;
     HoldLastSearch();
     FillHeld();
@@ -75,6 +78,7 @@ void StationListState::LeaveForList() {
   ShowListView();
 }
 
+// Everything that belonged to the last list goes, so that no filter or group name of it is left.
 void StationListState::Hold(Holds holds, std::string caption) {
   state_.missing.clear();
   state_.typed.clear();
@@ -98,6 +102,7 @@ void StationListState::ShowRecent() {
   HoldRecent();
 }
 
+// Without leaving the view: the left column keeps showing groups.
 void StationListState::ShowRecentInPlace() {
   state_.middle = Middle::StationList;
   HoldRecent();

@@ -49,6 +49,7 @@ std::span<const EventRow> frmExtraLink::Events() const {
   return kRows;
 }
 
+// A file made by hand may hold several links of a station. The first is edited, the others are kept.
 void frmExtraLink::OnLoad() {
   txtExtraLink_.Limit(PersonalStation::kMaxAddress);
   txtExtraName_.Limit(PersonalStation::kMaxName);
@@ -72,6 +73,7 @@ void frmExtraLink::butOKIt_Click() {
     ShowError("PersonalStationLink", IDS_DLG_OWN_BAD_LINK);
     return;
   }
+  // An empty field removes the link: Set leaves out what has no address.
   all_.front() = {txtExtraName_.Text(), *linkText};
   const bool saved = links_.Set(stationId_, all_);
   if (!SavedOrSaid(saved, LoadText(IDS_FILE_LINKS), messages_, context_.strings)) return;

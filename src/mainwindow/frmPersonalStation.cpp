@@ -9,6 +9,7 @@
 
 namespace sonaro {
 
+// The three links are a control array, txtLink on, in the order in which they are tried.
 const FormDesign& frmPersonalStation::Design() {
   static constexpr ControlRow kControls[] = {
       {.id = lblTitle, .kind = ControlKind::TitleBar, .text = IDS_DLG_OWN_TITLE, .at = {40, 4, 196, 26}},
@@ -51,6 +52,7 @@ std::span<const EventRow> frmPersonalStation::Events() const {
   return kRows;
 }
 
+// Limits are those of the file: what fits into a field here is not cut when it is saved.
 void frmPersonalStation::OnLoad() {
   txtStationName_.Limit(PersonalStation::kMaxName);
   txtType_.Limit(PersonalStation::kMaxName);
@@ -74,6 +76,7 @@ void frmPersonalStation::ShowError(const char* key, int text) {
                  .firstButton = LoadText(IDS_APP_OK)});
 }
 
+// The dialog stays open with the focus on the field that is at fault, or when the file cannot be saved.
 void frmPersonalStation::butOKIt_Click() {
   PersonalStation typed;
   typed.name = txtStationName_.Text();
@@ -98,6 +101,7 @@ void frmPersonalStation::butOKIt_Click() {
   if (saved) Close(1);
 }
 
+// Index 0 is a new station.
 bool frmPersonalStation::Save(const PersonalStation& station) {
   return station.index == 0 ? stations_.Add(station) != 0 : stations_.Change(station);
 }

@@ -9,6 +9,7 @@ namespace sonaro {
 
 namespace {
 
+// The field for a new group's name, shown with the last entry only.
 constexpr unsigned char kNamePane = 1;
 
 }  // namespace
@@ -57,12 +58,14 @@ void frmPickGroup::OnLoad() {
   lblStation_.SetText(station_);
   txtGroupName_.Limit(FavoriteGroups::kMaxNameBytes);
   for (const std::string& group : groups_) cmbGroup_.AddItem(group);
+  // Eleven groups cannot be shown, so a full row of buttons offers no new one.
   if (groups_.size() < FavoriteGroups::kSlots) cmbGroup_.AddItem(LoadText(IDS_DLG_PICK_NEW));
   cmbGroup_.SelectItem(0);
   cmbGroup_SelChange();
   if (groups_.empty()) txtGroupName_.Focus();
 }
 
+// The entry behind all groups. With ten groups there is none, and the number is never selected.
 bool frmPickGroup::IsNewChosen() const {
   return cmbGroup_.SelectedItem() == static_cast<int>(groups_.size());
 }
@@ -72,6 +75,7 @@ void frmPickGroup::cmbGroup_SelChange() {
   txtGroupName_Change();
 }
 
+// A new group needs a name before OK can be pressed.
 void frmPickGroup::txtGroupName_Change() {
   butOKIt_.Enable(!IsNewChosen() || !TrimBlanks(txtGroupName_.Text()).empty());
 }

@@ -19,6 +19,7 @@ constexpr std::int64_t kLastPort = 65535;
 
 bool UsesProxy(const CReg& reg) { return reg.Get(setting::kProxyUse); }
 
+// A setting or a field: what is no port means the usual one, rather than no request at all.
 std::uint16_t PortOf(std::string_view text) {
   const std::int64_t port = IsNumeric(text) ? NumberValue(text) : 0;
   return port >= 1 && port <= kLastPort ? static_cast<std::uint16_t>(port) : kUsualPort;
@@ -30,6 +31,7 @@ std::string_view BehindScheme(std::string_view url) {
   return slashes == std::string_view::npos ? std::string_view() : url.substr(slashes + 2);
 }
 
+// Of the system's source of chance. They need not be secret, only different from everybody else's.
 std::string RandomDigits(std::size_t count) {
   std::random_device random;
   std::uniform_int_distribution<std::size_t> digit(0, 15);
@@ -46,6 +48,7 @@ std::string ServerHostFor(const CReg& reg, std::string_view url) {
   return std::string(rest.substr(0, rest.find('/')));
 }
 
+// A proxy has to be told the host too, so it gets the whole address.
 std::string RequestTargetFor(const CReg& reg, std::string_view url) {
   if (UsesProxy(reg)) return std::string(url);
   const std::string_view rest = BehindScheme(url);
@@ -70,6 +73,7 @@ ServiceRequest BuildServiceRequest(const CReg& reg, std::string_view url, std::s
   return request;
 }
 
+// The proxy first: the request begins with the second call.
 void Send(const ServiceRequest& request, HttpControl& http, HttpEvents& events) {
   http.SetProxy(request.proxy);
   http.Request(request.host, request.port, request.requestText, events);
@@ -86,6 +90,7 @@ ServiceRequest BuildProxyTest(std::string_view address, std::string_view port, s
 
 std::string QueryStart(const CReg& reg) { return "?ajfsfsr=" + UrlEncodeQuery(reg.Get(setting::kInstallId)); }
 
+// Addresses come out of settings, which an update may have set.
 bool IsServiceAddress(std::string_view url) {
   constexpr std::string_view kScheme = "http://";
   if (!StartsWithIgnoringCase(url, kScheme)) return false;

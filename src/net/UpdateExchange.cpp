@@ -71,12 +71,12 @@ int RefusalOf(InstallStatus status) {
 
 }  // namespace
 
-UpdateExchange::UpdateExchange(const UpdateDependencies& needs, UpdateView& view, UpdateListener& listener,
-                               CallerCode callerCode, InstallMode installMode)
-    : needs_(needs),
+UpdateExchange::UpdateExchange(const UpdateDependencies& dependencies, UpdateView& view,
+                               UpdateListener& listener, CallerCode callerCode, InstallMode installMode)
+    : dependencies_(dependencies),
       view_(view),
       listener_(listener),
-      http_(needs.http.Make()),
+      http_(dependencies.http.Make()),
       openedBy_(callerCode),
       callerCode_(callerCode),
       installMode_(installMode) {}
@@ -108,34 +108,35 @@ void UpdateExchange::AskForUpdate() {
   reason_.clear();
   file_.reset();
   // An earlier update that was cut off must never be taken for the new one.
-  needs_.data.Remove(work_file::kUpdate);
-  file_ = needs_.data.FileSystem().Create(needs_.data.Path(work_file::kUpdate));
+  dependencies_.data.Remove(work_file::kUpdate);
+  file_ = dependencies_.data.FileSystem().Create(dependencies_.data.Path(work_file::kUpdate));
   if (!file_) {
     Fail(IDS_NET_NOT_SAVED);
     Complete();
     return;
   }
-  const std::string lastUpdate = whole_ ? std::string() : needs_.reg.Get(setting::kLastUpdate);
-  const std::string query = QueryStart(needs_.reg) + "&LastUpdate=" + UrlEncodeQuery(lastUpdate) +
+  const std::string lastUpdate = whole_ ? std::string() : dependencies_.reg.Get(setting::kLastUpdate);
+  const std::string query = QueryStart(dependencies_.reg) + "&LastUpdate=" + UrlEncodeQuery(lastUpdate) +
                             "&Version=" + UrlEncodeQuery(kVersionText);
-  Send(BuildServiceRequest(needs_.reg, ServiceSetting(needs_.reg, setting::kUpdateUrl), query), *http_,
-       *this);
+  Send(BuildServiceRequest(dependencies_.reg, ServiceSetting(dependencies_.reg, setting::kUpdateUrl), query),
+       *http_, *this);
 }
 
 void UpdateExchange::FetchUpdate() {
   failed_ = false;
   bodyReceived_ = false;
   const bool watched = openedBy_ == CallerCode::UpdateDialog || openedBy_ == CallerCode::FaceplateDialog;
-  Send(BuildServiceRequest(needs_.reg, redirect_, watched ? "?Flush=No" : "?Flush=Yes"), *http_, *this);
+  Send(BuildServiceRequest(dependencies_.reg, redirect_, watched ? "?Flush=No" : "?Flush=Yes"), *http_,
+       *this);
 }
 
 void UpdateExchange::Cancel() {
   view_.StopTimer();
   http_->Cancel();
-  if (taking_ && !needs_.install.MayGiveUp()) return Taken(taking_->Finish());
+  if (taking_ && !dependencies_.install.MayGiveUp()) return Taken(taking_->Finish());
   if (taking_) {
     taking_.reset();
-    needs_.install.GiveUp();
+    dependencies_.install.GiveUp();
   }
   Finish(UpdateOutcome::Kind::Cancelled);
 }
@@ -151,7 +152,7 @@ void UpdateExchange::HTTPDataReceived(std::string_view body) {
 void UpdateExchange::HTTPDataTransferred(std::uint64_t bytes, std::uint64_t expected) {
   if (ForDialog() && !dataStarted_) {
     dataStarted_ = true;
-    listener_.UpdateProgress(needs_.strings.Load(IDS_NET_GETTING_DATA));
+    listener_.UpdateProgress(dependencies_.strings.Load(IDS_NET_GETTING_DATA));
   }
   if (phase_ == Phase::FileRequest) listener_.UpdateBytes(bytes, expected);
 }
@@ -163,13 +164,13 @@ void UpdateExchange::HTTPError(const std::string& statusCode, const std::string&
     redirect_ = RedirectTarget(headers);
   } else {
     failed_ = true;
-    reason_ = FormatText(needs_.strings.Load(IDS_NET_WRONG_STATUS), {statusCode});
+    reason_ = FormatText(dependencies_.strings.Load(IDS_NET_WRONG_STATUS), {statusCode});
   }
 }
 
 void UpdateExchange::HTTPObjectError(HttpFault fault) {
   failed_ = true;
-  reason_ = HttpFaultText(fault, needs_.strings);
+  reason_ = HttpFaultText(fault, dependencies_.strings);
   phase_ = Phase::ConnectionFailed;
   view_.StartTimer(kSoon);
 }
@@ -204,7 +205,7 @@ void UpdateExchange::NothingNew() {
     return;
   }
   callerCode_ = CallerCode::NoUpdate;
-  listener_.UpdateProgress(needs_.strings.Load(IDS_NET_CANT_CONNECT));
+  listener_.UpdateProgress(dependencies_.strings.Load(IDS_NET_CANT_CONNECT));
   ToDoIsDone();
   Finish(UpdateOutcome::Kind::UpToDate);
 }
@@ -240,14 +241,14 @@ void UpdateExchange::AskForWhole() {
 
 // Gives the text of the refusal, 0 when there is none, or kWholeWanted.
 Sliced<int> UpdateExchange::TakeUpdate() {
-  UpdateContents contents = co_await ReadUpdateFile(needs_.data);
+  UpdateContents contents = co_await ReadUpdateFile(dependencies_.data);
   if (contents.status != UpdateFileStatus::Read) co_return RefusalOf(contents.status);
   co_await NextSlice();
-  if (!co_await ExpandChanges(needs_.data, contents)) co_return kWholeWanted;
+  if (!co_await ExpandChanges(dependencies_.data, contents)) co_return kWholeWanted;
   co_await NextSlice();
-  const InstallStatus status = co_await needs_.install.Install(contents, installMode_);
+  const InstallStatus status = co_await dependencies_.install.Install(contents, installMode_);
   // Counts as installed: what is in use takes its place at the next start.
-  if (status == InstallStatus::Waits) reason_ = needs_.strings.Load(IDS_NET_WAITS);
+  if (status == InstallStatus::Waits) reason_ = dependencies_.strings.Load(IDS_NET_WAITS);
   co_return RefusalOf(status);
 }
 
@@ -257,7 +258,7 @@ void UpdateExchange::Taken(int refusal) {
   if (refusal != 0) return Refused(refusal);
   if (ForDialog()) {
     callerCode_ = CallerCode::Finished;
-    listener_.UpdateProgress(needs_.strings.Load(IDS_NET_FINISHED));
+    listener_.UpdateProgress(dependencies_.strings.Load(IDS_NET_FINISHED));
   }
   ToDoIsDone();
   Finish(UpdateOutcome::Kind::Updated);
@@ -268,12 +269,12 @@ void UpdateExchange::Failed() {
   file_.reset();
   if (!ForDialog() && tries_ < kTriesUnwatched) {
     phase_ = Phase::FirstRequest;
-    listener_.UpdateProgress(needs_.strings.Load(IDS_NET_CANT_CONNECT));
+    listener_.UpdateProgress(dependencies_.strings.Load(IDS_NET_CANT_CONNECT));
     view_.StartTimer(kTryLater);
     return;
   }
   callerCode_ = ForDialog() ? CallerCode::Failed : CallerCode::NoUpdate;
-  listener_.UpdateProgress(needs_.strings.Load(IDS_NET_CANT_CONNECT));
+  listener_.UpdateProgress(dependencies_.strings.Load(IDS_NET_CANT_CONNECT));
   Finish(redirect_.empty() ? UpdateOutcome::Kind::CantConnect : UpdateOutcome::Kind::NotComplete);
 }
 
@@ -286,11 +287,11 @@ void UpdateExchange::Refused(int reasonText) {
 
 void UpdateExchange::Fail(int reasonText) {
   failed_ = true;
-  if (reason_.empty()) reason_ = needs_.strings.Load(reasonText);
+  if (reason_.empty()) reason_ = dependencies_.strings.Load(reasonText);
 }
 
 void UpdateExchange::ToDoIsDone() {
-  StationListIsDone(needs_.reg);
+  StationListIsDone(dependencies_.reg);
   listener_.PendingWorkIsDue();
 }
 

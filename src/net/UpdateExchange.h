@@ -85,7 +85,7 @@ class UpdateExchange final : private HttpEvents {
   static constexpr int kTryLater = 10000;  // between two tries that nobody watches
   static constexpr int kTriesUnwatched = 3;
 
-  UpdateExchange(const UpdateDependencies& needs, UpdateView& view, UpdateListener& listener,
+  UpdateExchange(const UpdateDependencies& dependencies, UpdateView& view, UpdateListener& listener,
                  CallerCode callerCode, InstallMode installMode);
 
   // The window was loaded.
@@ -123,7 +123,7 @@ class UpdateExchange final : private HttpEvents {
   bool ForDialog() const { return callerCode_ == CallerCode::UpdateDialog; }
   void Finish(UpdateOutcome::Kind kind);
 
-  UpdateDependencies needs_;
+  UpdateDependencies dependencies_;
   UpdateView& view_;
   UpdateListener& listener_;
   std::unique_ptr<HttpControl> http_;

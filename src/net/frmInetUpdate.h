@@ -9,9 +9,9 @@ namespace sonaro {
 
 class frmInetUpdate final : public Form, private UpdateView {
  public:
-  frmInetUpdate(FormContext& context, const UpdateDependencies& needs, UpdateListener& listener,
+  frmInetUpdate(FormContext& context, const UpdateDependencies& dependencies, UpdateListener& listener,
                 CallerCode callerCode, InstallMode installMode)
-      : Form(context, Design()), exchange_(needs, *this, listener, callerCode, installMode) {}
+      : Form(context, Design()), exchange_(dependencies, *this, listener, callerCode, installMode) {}
 
   // Begins the update.
   void Load() { Create(); }

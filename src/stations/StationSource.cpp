@@ -20,6 +20,7 @@ namespace {
 
 constexpr std::int64_t kMaxReliability = 4;
 
+// The fields that are scrambled in the guide. All others are plain.
 constexpr StationField kScrambled[] = {StationField::LinkOne, StationField::LinkTwo, StationField::LinkThree,
                                        StationField::AlternateLink, StationField::WebSite};
 
@@ -27,6 +28,7 @@ bool IsBlank(std::string_view text) { return TrimBlanks(text).empty(); }
 
 }  // namespace
 
+// A number out of a file: anything outside the five pictures becomes the nearest.
 int StationInfo::Symbol() const {
   return static_cast<int>(std::clamp<std::int64_t>(NumberValue(reliability), 0, kMaxReliability));
 }
@@ -50,6 +52,7 @@ StationInfo InfoOf(const StationRecord& record) {
   return InfoOf(StationView{record.StationId, fields});
 }
 
+// Nobody has rated it, and where others show a place it says that it is the user's own.
 StationInfo StationSource::InfoOfOwn(const PersonalStation& station) const {
   return {StationKey::OfUser(station.index),
           station.name,
@@ -94,6 +97,8 @@ void StationSource::VisitInfos(std::span<const StationKey> keys, const InfoVisit
     if (const PersonalStation* own = Named(keys[place])) visit(place, InfoOfOwn(*own));
   }
   std::size_t place = 0;
+  // The table gives them in the order of `ids` without those that it lacks, so one walk over the keys finds
+  // the place of each.
   stations_.VisitStations(ids, [&](const StationView& station) {
     StationInfo info = InfoOf(station);
     while (keys[place] != info.key) ++place;
@@ -108,6 +113,7 @@ std::vector<StationInfo> StationSource::InfosOf(std::span<const StationKey> keys
   return infos;
 }
 
+// For all at once: the table is asked one time, whatever the number of keys.
 std::vector<StationKey> StationSource::KnownOf(std::span<const StationKey> keys) const {
   std::vector<std::int32_t> ids;
   for (const StationKey& key : keys) {
@@ -153,6 +159,8 @@ std::string StationSource::NameOf(const StationKey& key) const {
   return personal ? personal->name : std::string();
 }
 
+// The alternate link takes the place of a missing first one only; a missing second one leaves a gap, so that
+// numbers stay with their links.
 std::vector<PlayableLink> PlayableLinks(const Station& station, const ExtraLinks& extra) {
   std::vector<PlayableLink> playable;
   for (int number = 1; number <= 3; ++number) {
@@ -172,6 +180,7 @@ std::vector<PlayableLink> PlayableLinks(const Station& station, const ExtraLinks
   return playable;
 }
 
+// Counts stations by the link that would be played first.
 LinkCounts StationSource::CountLinks() const {
   LinkCounts counts;
   stations_.VisitAllStations([&](const StationView& record) {

@@ -134,7 +134,7 @@ void frmOptions::butTestProxyIt_Click() {
 
 // True when the proxy cannot be used as it is typed: the sentence is shown and the edit has the focus.
 bool frmOptions::ShowProxyError() {
-  const auto complain = [this](int sentence, const Edit& edit) {
+  const auto refuse = [this](int sentence, const Edit& edit) {
     Inform(LoadText(sentence), TextColor::Alert);
     edit.Focus();
     edit.SelectAll();
@@ -144,11 +144,11 @@ bool frmOptions::ShowProxyError() {
     case ProxyFault::None:
       break;
     case ProxyFault::NoAddress:
-      return complain(IDS_OPTIONS_NO_ADDRESS, txtProxy_);
+      return refuse(IDS_OPTIONS_NO_ADDRESS, txtProxy_);
     case ProxyFault::BadAddress:
-      return complain(IDS_OPTIONS_BAD_ADDRESS, txtProxy_);
+      return refuse(IDS_OPTIONS_BAD_ADDRESS, txtProxy_);
     case ProxyFault::BadPort:
-      return complain(IDS_OPTIONS_BAD_PORT, txtPort_);
+      return refuse(IDS_OPTIONS_BAD_PORT, txtPort_);
   }
   return false;
 }

@@ -148,9 +148,9 @@ std::span<const EventRow> frmStartUpInfo::Events() const {
   return kRows;
 }
 
-frmStartUpInfo::frmStartUpInfo(FormContext& context, const StartUpInfoDependencies& needs,
+frmStartUpInfo::frmStartUpInfo(FormContext& context, const StartUpInfoDependencies& dependencies,
                                StartUpInfoPage page, std::string proxy)
-    : Form(context, Design()), needs_(needs), page_(page), proxy_(std::move(proxy)) {}
+    : Form(context, Design()), dependencies_(dependencies), page_(page), proxy_(std::move(proxy)) {}
 
 void frmStartUpInfo::OnLoad() {
   const bool proxyPage = page_ == StartUpInfoPage::Proxy;
@@ -164,8 +164,8 @@ void frmStartUpInfo::OnLoad() {
     chkDontShow_.Check();  // a proxy that was decided on need not be asked for again
   } else {
     // Counted once: going over the whole directory takes too long to be done with every choice.
-    counts_ = needs_.reporter.CountLinks();
-    OfferPrograms(needs_.player.Chosen());
+    counts_ = dependencies_.reporter.CountLinks();
+    OfferPrograms(dependencies_.player.Chosen());
   }
 }
 
@@ -184,7 +184,7 @@ void frmStartUpInfo::OfferPrograms(const std::string& selected) {
   cmbPlayWith_.ClearItems();
   cmbPlayWith_.AddItem(LoadText(IDS_STARTUP_BY_KIND));
   cmbPlayWith_.SelectItem(0);
-  for (const PlayerProgram& program : needs_.player.Programs()) OfferProgram(program);
+  for (const PlayerProgram& program : dependencies_.player.Programs()) OfferProgram(program);
   const auto at = std::find(paths_.begin(), paths_.end(), selected);
   if (at != paths_.end()) cmbPlayWith_.SelectItem(static_cast<int>(at - paths_.begin()) + 1);
   ShowReport();
@@ -204,7 +204,7 @@ std::string frmStartUpInfo::Selected() const {
 // the user the heading tells how much plays; when a station has just failed it speaks of that one.
 void frmStartUpInfo::ShowReport() {
   using Plays = PlayerReport::Plays;
-  const PlayerReport report = needs_.reporter.Report(counts_, Selected());
+  const PlayerReport report = dependencies_.reporter.Report(counts_, Selected());
   const Label lines[] = {lblFound_, lblOthersFound_, lblWebFound_};
   for (std::size_t line = 0; line < report.lines.size(); ++line) {
     lines[line].SetColor(report.lines[line].missing ? TextColor::Alert : TextColor::Signal);
@@ -243,7 +243,7 @@ void frmStartUpInfo::butBrowseIt_Click() {
 void frmStartUpInfo::butFindIt_Click() {
   OfferPrograms(Selected());
   if (paths_.empty()) return ShowError(LoadText(IDS_STARTUP_NONE));
-  if (needs_.reporter.Report(counts_, Selected()).plays != PlayerReport::Plays::Nothing) return;
+  if (dependencies_.reporter.Report(counts_, Selected()).plays != PlayerReport::Plays::Nothing) return;
   cmbPlayWith_.SelectItem(1);
   ShowReport();
 }
@@ -251,18 +251,18 @@ void frmStartUpInfo::butFindIt_Click() {
 // Plays the link of the setting, or a page of the service: it tells whether the player starts, not whether
 // the stream comes.
 void frmStartUpInfo::butTestProgramIt_Click() {
-  std::string link = needs_.reg.Get(setting::kTestRealUrl);
+  std::string link = dependencies_.reg.Get(setting::kTestRealUrl);
   if (link.empty()) link = ServiceAddress(ServiceHost::Web, "/sonaroapp/sonaro3/testrealurl.ram");
   const std::string path = Selected();
-  if (needs_.player.Test(path, link)) return;
+  if (dependencies_.player.Test(path, link)) return;
   ShowError(path.empty() ? LoadText(IDS_STARTUP_NONE) : LoadText(IDS_NOPLAYER_CANT_FIND) + path);
 }
 
-void frmStartUpInfo::butPlayerWebSiteIt_Click() { needs_.help.OpenHelpPage(kPlayerHelp); }
+void frmStartUpInfo::butPlayerWebSiteIt_Click() { dependencies_.help.OpenHelpPage(kPlayerHelp); }
 
 bool frmStartUpInfo::StorePlayer() {
   const std::string path = Selected();
-  switch (needs_.player.Choose(path)) {
+  switch (dependencies_.player.Choose(path)) {
     case PlayerChoiceOutcome::Stored:
       return true;
     case PlayerChoiceOutcome::NoSuchFile:
@@ -277,7 +277,7 @@ bool frmStartUpInfo::StorePlayer() {
 
 void frmStartUpInfo::butOKIt_Click() {
   if (page_ == StartUpInfoPage::Proxy) {
-    StoreProxy(needs_.reg, optUseProxy_.IsChecked(), SplitProxy(proxy_));
+    StoreProxy(dependencies_.reg, optUseProxy_.IsChecked(), SplitProxy(proxy_));
     return Done(0);
   }
   // The result says whether a player was chosen, so that a caller tries the station once more.
@@ -288,12 +288,12 @@ void frmStartUpInfo::butOKIt_Click() {
 // is closed.
 void frmStartUpInfo::Done(int result) {
   const setting::Switch* const check = CheckOf(page_);
-  if (check != nullptr && chkDontShow_.IsChecked()) needs_.reg.Set(*check, false);
+  if (check != nullptr && chkDontShow_.IsChecked()) dependencies_.reg.Set(*check, false);
   Close(result);
 }
 
 void frmStartUpInfo::butHelp_Click() {
-  needs_.help.OpenHelpPage(page_ == StartUpInfoPage::Proxy ? kProxyHelp : kPlayerHelp);
+  dependencies_.help.OpenHelpPage(page_ == StartUpInfoPage::Proxy ? kProxyHelp : kPlayerHelp);
 }
 
 }  // namespace sonaro

@@ -30,7 +30,7 @@ struct StartUpInfoDependencies {
 class frmStartUpInfo final : public Form {
  public:
   // `proxy`: "host:port" that was found, for the page "Proxy". ShowModal gives 1 when a player was chosen.
-  frmStartUpInfo(FormContext& context, const StartUpInfoDependencies& needs, StartUpInfoPage page,
+  frmStartUpInfo(FormContext& context, const StartUpInfoDependencies& dependencies, StartUpInfoPage page,
                  std::string proxy);
 
  private:
@@ -55,7 +55,7 @@ class frmStartUpInfo final : public Form {
   void butCloseIt_Click() { Done(0); }
   void butHelp_Click();
 
-  const StartUpInfoDependencies needs_;
+  const StartUpInfoDependencies dependencies_;
   const StartUpInfoPage page_;
   const std::string proxy_;
   LinkCounts counts_;

@@ -29,7 +29,7 @@ struct HttpCanned {
     network.Answer("/moved", FakeAnswer::Status("302", "HTTP/1.1 302 Found\r\nLocation: http://x/y\r\n\r\n"));
     network.Answer("/lost", FakeAnswer::ObjectError(HttpFault::CutShort));
   }
-  HttpControlFactory& Maker() { return network; }
+  HttpControlFactory& Factory() { return network; }
   void Run(const std::function<bool()>& until) {
     while (!until() && network.DeliverNext()) {
     }
@@ -40,7 +40,7 @@ struct HttpCanned {
 #ifdef _WIN32
 struct HttpOnSockets {
   LoopbackServer server;
-  HttpControlFactoryWin maker{"Contract/1.0"};
+  HttpControlFactoryWin factory{"Contract/1.0"};
   std::string host = "127.0.0.1";
   std::uint16_t port = server.Port();
 
@@ -49,7 +49,7 @@ struct HttpOnSockets {
     server.Answer("/moved", script::Redirect("http://x/y"));
     server.Answer("/lost", script::Exactly(""));
   }
-  HttpControlFactory& Maker() { return maker; }
+  HttpControlFactory& Factory() { return factory; }
   void Run(const std::function<bool()>& until) { PumpUntil(until); }
   // What is still on its way arrives.
   void Settle() {
@@ -75,7 +75,7 @@ class HttpContract : public testing::Test {
   }
 
   World world_;
-  std::unique_ptr<HttpControl> control_ = world_.Maker().Make();
+  std::unique_ptr<HttpControl> control_ = world_.Factory().Make();
 };
 TYPED_TEST_SUITE(HttpContract, HttpWorlds);
 
@@ -124,7 +124,7 @@ TYPED_TEST(HttpContract, CancellingOrDestroyingWithinAnEventEndsTheRequestThere)
       for (const bool destroy : {false, true}) {
         SCOPED_TRACE(last + (destroy ? ", destroyed" : ", cancelled"));
         Listener listener;
-        std::unique_ptr<HttpControl> control = this->world_.Maker().Make();
+        std::unique_ptr<HttpControl> control = this->world_.Factory().Make();
         listener.then = [&](const std::string& event) {
           if (event != last) return;
           control->Cancel();
@@ -142,7 +142,7 @@ TYPED_TEST(HttpContract, CancellingOrDestroyingWithinAnEventEndsTheRequestThere)
 TYPED_TEST(HttpContract, NothingFollowsAStepThatCancelsOrDestroys) {
   for (const bool destroy : {false, true}) {
     Listener listener;
-    std::unique_ptr<HttpControl> control = this->world_.Maker().Make();
+    std::unique_ptr<HttpControl> control = this->world_.Factory().Make();
     listener.then = [&](const std::string&) {
       control->Cancel();
       if (destroy) control.reset();
@@ -189,7 +189,7 @@ TYPED_TEST(HttpContract, ManyAtOnceDoNotMixUp) {
   std::vector<std::unique_ptr<HttpControl>> controls;
   std::vector<Listener> listeners(kCount);
   for (std::size_t i = 0; i < kCount; ++i) {
-    controls.push_back(this->world_.Maker().Make());
+    controls.push_back(this->world_.Factory().Make());
     this->Ask(*controls.back(), kOutcomes[i % 3].path, listeners[i]);
     if (i % 4 == 3) controls[i - 1]->Cancel();
   }

@@ -34,7 +34,7 @@ class Installation : private UpdateView, private UpdateListener {
   // One update for the dialog, until its outcome.
   UpdateOutcome Update() {
     outcome_.reset();
-    UpdateExchange exchange({reg, data, strings_, install_, http, {}}, *this, *this, CallerCode::UpdateDialog,
+    UpdateExchange exchange({reg, data, strings_, install_, http}, *this, *this, CallerCode::UpdateDialog,
                             InstallMode::InstallAndRebuild);
     exchange.Load();
     for (int step = 0; step < 50 && !outcome_; ++step) {

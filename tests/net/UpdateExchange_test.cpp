@@ -61,7 +61,7 @@ TEST_F(UpdateExchangeTest, UpdatesForTheDialog) {
   EXPECT_EQ(Setting("HelpURL"), "http://help.example/new");
   EXPECT_EQ(Setting("UpdateHold"), "");
   EXPECT_EQ(Setting("DoWhat"), "/SF//XX/");
-  EXPECT_EQ(exchange.toDo, "Update");
+  EXPECT_EQ(exchange.view.pendingWork, 1);
   EXPECT_EQ(machine_->stations.FindStation(3).fields[0], "Three");
 
   EXPECT_EQ(machine_->install.UndoLastUpdate(), UndoStatus::Done);
@@ -133,7 +133,7 @@ TEST_F(UpdateExchangeTest, StopsWhenNothingIsNew) {
   background.Run();
   EXPECT_EQ(background.view.outcome->callerCode, CallerCode::NoUpdate);
   EXPECT_EQ(background.view.progress, Text(IDS_NET_CANT_CONNECT));
-  EXPECT_EQ(background.toDo, "Update");
+  EXPECT_EQ(background.view.pendingWork, 1);
   EXPECT_EQ(Setting("DoWhat"), "/SF//XX/");
   EXPECT_EQ(machine_->http.Requests().size(), 2u);
 }
@@ -175,7 +175,7 @@ TEST_F(UpdateExchangeTest, LeavesEverythingAloneWhenItFails) {
     EXPECT_EQ(exchange.view.outcome->callerCode, CallerCode::Failed);
     EXPECT_NE(exchange.view.outcome->reason, "");
     EXPECT_EQ(machine_->http.Requests().size() - before, each.requests);
-    EXPECT_EQ(exchange.toDo, "");
+    EXPECT_EQ(exchange.view.pendingWork, 0);
     EXPECT_TRUE(NothingChanged());
   }
 }

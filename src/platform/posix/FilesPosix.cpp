@@ -12,6 +12,7 @@
 namespace sonaro {
 namespace {
 
+// An open file that is closed on every way out.
 class Descriptor {
  public:
   explicit Descriptor(int value) : value_(value) {}
@@ -62,6 +63,7 @@ class OutputFilePosix : public OutputFile {
  public:
   explicit OutputFilePosix(int descriptor) : file_(descriptor) {}
 
+  // The size counts what was written whole, so that a failed write is not taken for part of the file.
   bool Append(std::string_view bytes) override {
     const bool written = Write(size_, bytes);
     if (written) size_ += bytes.size();
@@ -73,6 +75,7 @@ class OutputFilePosix : public OutputFile {
     return Write(offset, bytes);
   }
 
+  // A failure may be reported at any of these steps, on network drives only when closing; all of them count.
   bool Commit(Durability durability) override {
     if (!file_.IsOpen()) return false;
     const bool flushed = durability == Durability::Cached || ::fsync(file_.Get()) == 0;
@@ -127,6 +130,7 @@ std::unique_ptr<InputFile> FilesPosix::Open(const std::string& path) {
   return std::make_unique<InputFilePosix>(descriptor, static_cast<std::uint64_t>(info.st_size));
 }
 
+// An existing file is emptied. Whoever wants the old or the new one writes beside it and uses Replace.
 std::unique_ptr<OutputFile> FilesPosix::Create(const std::string& path) {
   const int descriptor = ::open(path.c_str(), O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC, 0666);
   return descriptor < 0 ? nullptr : std::make_unique<OutputFilePosix>(descriptor);
@@ -138,6 +142,7 @@ bool FilesPosix::Replace(const std::string& from, const std::string& to, Durabil
   return true;
 }
 
+// A file that is not there counts as removed.
 bool FilesPosix::Remove(const std::string& path) { return ::unlink(path.c_str()) == 0 || errno == ENOENT; }
 
 bool FilesPosix::Exists(const std::string& path) { return ::access(path.c_str(), F_OK) == 0; }

@@ -123,6 +123,8 @@ LRESULT CALLBACK HttpControlWin::WindowProcedure(HWND window, UINT message, WPAR
   return message == WM_TIMER ? 0 : DefWindowProcA(window, message, first, second);
 }
 
+// Messages of a transfer that is over may still wait in the queue; the number of the request tells them
+// apart.
 void HttpControlWin::OnMessage(UINT message, WPARAM first, LPARAM second) {
   if (events_ == nullptr) return;
   if (message == SocketMessage()) {
@@ -157,6 +159,7 @@ void HttpControlWin::Request(const std::string& host, std::uint16_t port, const 
   StartLookup(HostWithoutPort(host), port);
 }
 
+// Counting on makes every message that is under way a stranger.
 void HttpControlWin::Cancel() {
   ++request_;
   events_ = nullptr;
@@ -169,6 +172,7 @@ void HttpControlWin::Cancel() {
 
 void HttpControlWin::StartLookup(const std::string& host, std::uint16_t port) {
   lookup_ = std::make_shared<Lookup>();
+  // A number needs no look-up and therefore no thread.
   lookup_->found = FindAddresses(host, port, AI_NUMERICHOST);
   if (lookup_->found) {
     PostMessageA(window_, NameFoundMessage(), request_, 0);
@@ -206,6 +210,8 @@ void HttpControlWin::ConnectNext() {
   Fail(HttpFault::Refused);
 }
 
+// The events are asked for before connecting, which makes the socket non-blocking; the outcome comes as
+// FD_CONNECT.
 bool HttpControlWin::TryConnect(const addrinfo& address) {
   socket_.Reset(socket(address.ai_family, address.ai_socktype, address.ai_protocol));
   if (!socket_) return false;
@@ -244,6 +250,7 @@ void HttpControlWin::OnSocket(WPARAM socket, LPARAM event) {
   }
 }
 
+// What does not go now goes with the next FD_WRITE.
 void HttpControlWin::SendRest() {
   while (!unsent_.empty()) {
     const int sent = send(socket_.Get(), unsent_.data(), static_cast<int>(unsent_.size()), 0);
