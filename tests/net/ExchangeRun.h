@@ -19,6 +19,7 @@ class FakeUpdateView : public UpdateView, public UpdateListener {
   std::vector<int> intervals;
   std::string progress;
   std::optional<UpdateOutcome> outcome;
+  int pendingWork = 0;
 
   void StartTimer(int milliseconds) override {
     timer = milliseconds;
@@ -32,6 +33,7 @@ class FakeUpdateView : public UpdateView, public UpdateListener {
     ASSERT_FALSE(outcome) << "finished twice";
     outcome = ended;
   }
+  void PendingWorkIsDue() override { ++pendingWork; }
 };
 
 inline std::string Text(int id) { return std::to_string(id) + ";"; }
@@ -45,9 +47,8 @@ inline constexpr const char* kFileAt = "http://files.example/u/update7.txt";
 class Exchange {
  public:
   Exchange(Machine& machine, CallerCode callerCode, InstallMode mode)
-      : exchange_({machine.reg, machine.data, machine.strings, machine.install, machine.http,
-                   [this](std::string_view reason) { toDo += reason; }},
-                  view, view, callerCode, mode),
+      : exchange_({machine.reg, machine.data, machine.strings, machine.install, machine.http}, view, view,
+                  callerCode, mode),
         http_(machine.http) {}
 
   // Until it has finished or waits for nothing.
@@ -63,7 +64,6 @@ class Exchange {
   }
 
   FakeUpdateView view;
-  std::string toDo;
   UpdateExchange& Get() { return exchange_; }
 
  private:
