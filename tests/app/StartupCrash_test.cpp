@@ -34,9 +34,7 @@ void DieAtEveryMoment(bool updateWaits) {
     HelpPages help(reg, view);
     AppState state;
     state.commandLine = "WinStart=Yes";
-    Startup({messages, system, reg, data, stations, players, help, strings, view, nullptr, nullptr}, state,
-            view)
-        .Main();
+    Startup({messages, system, reg, data, stations, players, help, strings, view, view}, state, view).Main();
     (void)CareForStationTable(stations, TableCheck::Whole, strings, view);  // once the window is painted
   };
   const int operations = ForEachCrashPoint(
