@@ -75,6 +75,7 @@ ControlClass ClassOf(const ControlRow& row) {
   }
 }
 
+// Texts to read are no stops of the Tab key, unless a row says that they scroll or are copied from.
 bool TakesTab(const ControlRow& row) {
   if (row.flags & kNoTabStop) return false;
   if (row.flags & kTabStop) return true;
@@ -127,6 +128,7 @@ void ControlSet::Build(HWND window) {
       before = nullptr;
       continue;
     }
+    // Decorations end a group: what looks divided is.
     item.groupStart = !ContinuesGroup(row, before);
     before = &row;
     item.view = MakeView(row);
@@ -149,6 +151,7 @@ void ControlSet::MakeControl(ControlInstance& item) {
   if (row.kind == ControlKind::StripButton) SetTip(item, Narrow(WithoutAccessKey(text)));
 }
 
+// They make their windows themselves, with the row's number.
 std::unique_ptr<FormControl> ControlSet::MakeView(const ControlRow& row) {
   switch (row.kind) {
     case ControlKind::ListView:

@@ -60,6 +60,7 @@ void ControlSet::Reset() {
   hiddenPanes_.reset();
 }
 
+// Views keep their objects: their destructors find that the windows are gone.
 void ControlSet::Forget() {
   window_ = nullptr;
   tips_ = nullptr;
@@ -142,6 +143,8 @@ void ControlSet::PlaceWindow(ControlInstance& item, const Painter& painter) {
   }
 }
 
+// Shown is what the program wants, in a pane that is shown, at a place that the layout knows. What the form
+// itself paints must be painted anew where it came or went; a little around it for its light edge.
 void ControlSet::ShowOrHide(ControlInstance& item) {
   const bool wasShown = item.shown;
   item.shown =
@@ -163,6 +166,7 @@ void ControlSet::ShowOrHide(ControlInstance& item) {
   }
 }
 
+// Pane 0 is what is always there.
 void ControlSet::ShowPane(int pane, bool shown) {
   const auto index = static_cast<std::size_t>(pane);
   if (pane <= 0 || index >= hiddenPanes_.size() || hiddenPanes_[index] == !shown) return;

@@ -49,11 +49,13 @@ HWND ControlHandle::Window() const {
   return item ? item->Window() : nullptr;
 }
 
+// A control of a form that is not open answers 0 to everything.
 LRESULT ControlHandle::Send(UINT message, WPARAM wParam, LPARAM lParam) const {
   const HWND window = Window();
   return window ? SendMessageW(window, message, wParam, lParam) : 0;
 }
 
+// What the program wants is kept, also while the pane of the control is hidden.
 void ControlHandle::Show(bool shown) const {
   ControlInstance* item = Item();
   if (!item || item->wanted == shown) return;
@@ -61,6 +63,7 @@ void ControlHandle::Show(bool shown) const {
   Inside().Controls().ShowOrHide(*item);
 }
 
+// Nothing when it stays as it is: EnableWindow would repaint it and tell screen readers.
 void ControlHandle::Enable(bool enabled) const {
   const HWND window = Window();
   if (!window || (IsWindowEnabled(window) != FALSE) == enabled) return;
@@ -119,6 +122,7 @@ void Label::SetTextAndGrow(std::string_view text) const {
   Inside().Resize();
 }
 
+// As wide menus of a window open: at the left edge, just below.
 void Button::PopUpMenu(std::span<const MenuEntry> entries) const {
   RECT box{};
   if (GetWindowRect(Window(), &box)) form_->PopUpMenu(entries, {box.left, box.bottom});
@@ -221,6 +225,7 @@ void ComboBox::FitListToTexts() const {
 
 void ComboBox::SelectAll() const { Send(CB_SETEDITSEL, 0, MAKELPARAM(0, -1)); }
 
+// Only the date counts; the system fills in a time of its own.
 SYSTEMTIME MonthCalendar::Date() const {
   SYSTEMTIME date{};
   Send(MCM_GETCURSEL, 0, reinterpret_cast<LPARAM>(&date));

@@ -47,6 +47,7 @@ void PaintReliability(HDC dc, const Painter& painter, int x, int y, int level, b
 
 }  // namespace
 
+// Each row is painted as a whole at its first notice; nothing of the system's own painting is left.
 LRESULT ListView::CustomDraw(const NMLVCUSTOMDRAW& draw) const {
   switch (draw.nmcd.dwDrawStage) {
     case CDDS_PREPAINT:
@@ -59,6 +60,7 @@ LRESULT ListView::CustomDraw(const NMLVCUSTOMDRAW& draw) const {
   }
 }
 
+// Between a change of the model and RowsChanged the system may ask for a row that is not there.
 void ListView::PaintRow(HDC dc, int row) const {
   if (model_ == nullptr || row >= model_->RowCount() || model_->IsNotice()) return;
   const Painter& theme = Theme();
@@ -66,6 +68,8 @@ void ListView::PaintRow(HDC dc, int row) const {
   const RECT box = ItemBox(row);
   const bool selected = (ListView_GetItemState(Window(), row, LVIS_SELECTED) & LVIS_SELECTED) != 0;
   const bool focused = GetFocus() == Window();
+  // The list buffers itself too, but not on every system, and not with rows of different colours in one
+  // step.
   BufferedPaint buffer(dc, box);
   Color ground = row == hover_ ? colors.rowHover : GroundOf(colors, row);
   if (selected) ground = focused ? colors.rowSelected : colors.rowSelectedOff;
@@ -82,12 +86,15 @@ void ListView::PaintRow(HDC dc, int row) const {
   }
 }
 
+// They run on below the last row, so that the list looks full.
 void ListView::PaintColumnLines(HDC dc, int top, int bottom) const {
   if (!columnLines_) return;
   const Painter& theme = Theme();
   for (const int edge : edges_) theme.Fill(dc, {edge - theme.Line(), top, edge, bottom}, theme.Colors().hair);
 }
 
+// The first text is the row's name and stands out; figures before it are only its number. A text is asked of
+// the model as it is painted, for the rows in sight.
 void ListView::PaintCells(HDC dc, int row, const RECT& box, bool selected, bool focused) const {
   const Painter& theme = Theme();
   const FaceplateColors& colors = theme.Colors();
@@ -111,6 +118,7 @@ void ListView::PaintCells(HDC dc, int row, const RECT& box, bool selected, bool 
   }
 }
 
+// Painting and the tip agree on it: what is cut here is what a tip shows whole.
 RECT ListView::TextBox(std::size_t column, const RECT& row) const {
   const Painter& theme = Theme();
   const int left = column == 0 ? static_cast<int>(row.left) : edges_[column - 1];
@@ -140,6 +148,7 @@ void ListView::PaintBelowRows(HDC dc) const {
   box.right = Width();
   const int count = model_ != nullptr ? model_->RowCount() : 0;
   const bool notice = count > 0 && model_->IsNotice();
+  // An empty list says so in its middle; one without a heading stays striped, as while it is being filled.
   if (notice || (count == 0 && !emptyHeading_.empty())) {
     theme.Fill(dc, box, colors.glass);
     PaintEmpty(dc, box);
@@ -148,6 +157,7 @@ void ListView::PaintBelowRows(HDC dc) const {
   const int height = std::max(1, theme.Px(designRow_));
   int top = 0;
   int row = 0;
+  // From the last row in sight, which may be cut by the lower edge: its box says where the stripes go on.
   if (count > 0) {
     row = std::min(count, ListView_GetTopIndex(Window()) + ListView_GetCountPerPage(Window()) + 1);
     top = ItemBox(row - 1).bottom;
@@ -178,6 +188,7 @@ void ListView::PaintEmpty(HDC dc, const RECT& box) const {
   if (GetFocus() == Window()) theme.Frame(dc, box, colors.focus, theme.FocusLine());
 }
 
+// A number of ticks to either side of the needle, whatever the list's width, with every fifth a tall one.
 void ListView::PaintEmptyScale(HDC dc, int centre, int line) const {
   const Painter& theme = Theme();
   const FaceplateColors& colors = theme.Colors();

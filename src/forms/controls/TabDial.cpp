@@ -21,7 +21,6 @@ constexpr int kHeadWidth = 11;
 constexpr int kHeadHeight = 7;
 
 // The ticks of the dial between two pixels counted from the scale's start, which lies at pixel `origin`.
-// The ticks count from the scale's start, so that a tab's stretch falls on the dial's own.
 void PaintTicks(HDC dc, int origin, int from, int to, int bottom, int width, Color color,
                 const Painter& painter) {
   const int pitch = painter.Px(kTickPitch);

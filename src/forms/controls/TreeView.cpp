@@ -169,6 +169,7 @@ void TreeView::RepaintNode(HTREEITEM node) {
   Repaint(&box);
 }
 
+// The mouse is dealt with here; keys, wheel and screen readers are the system's business.
 LRESULT TreeView::Handle(UINT message, WPARAM wParam, LPARAM lParam) {
   const POINT at = {GET_X_LPARAM(lParam), GET_Y_LPARAM(lParam)};
   switch (message) {
@@ -260,6 +261,7 @@ void TreeView::ShowContextMenu(POINT screen) {
   Raise({.kind = FormEvent::Kind::ContextMenu, .row = Data(node), .point = screen});
 }
 
+// Two rows at most are painted anew for each move of the pointer.
 void TreeView::SetHover(HTREEITEM node) {
   if (node == hover_) return;
   RepaintNode(std::exchange(hover_, node));
@@ -310,6 +312,7 @@ void TreeView::PaintNode(HDC dc, HTREEITEM node) const {
   const Painter& theme = Theme();
   const FaceplateColors& colors = theme.Colors();
   const RECT box = BoxOf(node);
+  // The system also asks for nodes that are out of sight.
   if (box.bottom <= box.top) return;
   const bool selected = node == Selected();
   const bool focused = GetFocus() == Window();
@@ -319,6 +322,7 @@ void TreeView::PaintNode(HDC dc, HTREEITEM node) const {
   if (selected) ground = focused ? colors.rowSelected : colors.rowSelectedOff;
   theme.Fill(paint, box, ground);
   const int level = LevelOf(node);
+  // One hair line for each level above, below the middle of that level's mark.
   for (int outer = 0; outer < level; ++outer) {
     const int x = theme.Px(13 + kIndent * outer);
     theme.Fill(paint, {x, box.top, x + theme.Line(), box.bottom}, colors.hair);
@@ -338,6 +342,7 @@ void TreeView::PaintNode(HDC dc, HTREEITEM node) const {
   const std::wstring_view figure = found != nullptr ? std::wstring_view(found->figure) : std::wstring_view();
   const int figureWidth = figure.empty() ? 0 : static_cast<int>(theme.Measure(figure, TextStyle::Small).cx);
   const int right = Width() - bar - theme.Px(kCountGap);
+  // Two colours that are given together must stay together: text of the selection on its ground.
   const bool highContrastRow = selected && focused;
   theme.Text(paint, {right - figureWidth, box.top, right, box.bottom}, figure, TextStyle::Small,
              highContrastRow ? colors.rowSelectedText : colors.glassMuted, DT_RIGHT | DT_NOPREFIX);

@@ -67,6 +67,7 @@ struct Centred {
   RECT text{};
 };
 
+// 96-dpi pixels: the icon, from it to the text, and what stays free at either side.
 constexpr int kPushIcon = 14;
 constexpr int kIconGap = 6;
 constexpr int kSideRoom = 4;
@@ -84,6 +85,7 @@ Centred CentreTogether(const Canvas& c) {
   return result;
 }
 
+// A primary button has the same parts; its face alone is another.
 void PaintPushButton(const Canvas& c) {
   PaintShape(c, c.Px(kCut));
   const Centred place = CentreTogether(c);
@@ -163,6 +165,7 @@ void PaintPlayButton(const Canvas& c) {
   PaintFocus(c, c.Px(kPlayCut));
 }
 
+// Square like the column below it; the line at its foot and the triangle are the mark of the order.
 void PaintHeaderButton(const Canvas& c) {
   PaintShape(c, 0);
   const bool sorted = c.button.sort != SortMark::None;
@@ -222,6 +225,7 @@ void PaintMark(const Canvas& c, const RECT& mark) {
   }
   c.painter.CutShape(c.dc, mark, c.Px(4), fill, fill, edge);
   if (!state.active) return;
+  // The check of a box is the icon's path with a pen of its own.
   constexpr double kPen = 8.0 / 3;  // of the icon's grid: heavier than in an icon, 2 pixels at this size
   const int size = c.Px(12);
   const double tolerance = 0.5 / size;
@@ -252,6 +256,7 @@ void PaintCheck(const Canvas& c) {
                  state.disabled ? colors.textOff : colors.text, c.Prefix());
 }
 
+// A tab is painted with the dial, whose piece it is.
 TabPicture TabOf(const Canvas& c) {
   const ButtonState& state = c.button.state;
   return {c.button.text, c.Prefix(),       state.active,        state.hover,

@@ -6,7 +6,6 @@ namespace sonaro {
 namespace {
 
 // A top-down bitmap of 32 bits a pixel. nullptr when the system refuses.
-// The negative height makes the first row the top one.
 HBITMAP MakeBitmap(const Pixels& pixels, int width, int height) {
   BITMAPINFO info{};
   info.bmiHeader.biSize = sizeof(info.bmiHeader);

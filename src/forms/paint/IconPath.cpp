@@ -187,6 +187,7 @@ void Draw(Builder& builder, char command, const std::array<double, 7>& n) {
   }
 }
 
+// The area, positive when the polygon runs clockwise on the screen.
 double SignedArea(const Polygon& polygon) {
   double area = 0;
   for (std::size_t i = 0; i < polygon.size(); ++i)
@@ -245,6 +246,7 @@ void AddStroke(std::vector<Polygon>& polygons, const SubPath& part, double half)
 
 }  // namespace
 
+// The paths are the program's own: one that cannot be read ends where that begins, and the tests see it.
 FlatPath ParsePath(std::string_view path, double tolerance) {
   Builder builder(tolerance);
   Reader reader(path);

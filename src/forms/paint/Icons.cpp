@@ -145,8 +145,10 @@ Pixels RenderProgramMark(int size, const MarkColors& colors, const Color* ground
   return pixels;
 }
 
+// The first tick is the zero: a rating of one half lights two.
 int LitTicks(int halves) { return halves <= 0 ? 0 : std::min(halves + 1, kRingTicks); }
 
+// As lines with a pen, like the icons, so that they are as sharp at any size.
 Coverage RenderRing(int first, int end, int dpi) {
   FlatPath ticks;
   for (int tick = first; tick < end; ++tick) {

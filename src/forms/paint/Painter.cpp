@@ -28,11 +28,13 @@ constexpr std::array<StyleSpec, 13> kStyles = {{{12, false},
                                                 {34, true},
                                                 {46, true}}};
 
+// The first font found is enough: 0 ends the search.
 int CALLBACK NoteFont(const LOGFONTW*, const TEXTMETRICW*, DWORD, LPARAM found) {
   *reinterpret_cast<bool*>(found) = true;
   return 0;
 }
 
+// Asking the system for a face that it lacks gives another one without a word.
 bool HasFace(HDC dc, const wchar_t* face) {
   LOGFONTW wanted{};
   wanted.lfCharSet = DEFAULT_CHARSET;
@@ -163,6 +165,7 @@ void Painter::Text(HDC dc, const RECT& box, std::wstring_view text, TextStyle st
   SelectObject(dc, before);
 }
 
+// In a device context of its own: texts are measured before there is anything to paint on.
 SIZE Painter::Measure(std::wstring_view text, TextStyle style, UINT format) const {
   RECT place{};
   MeasureIn(place, text, style, format | DT_SINGLELINE);
@@ -213,6 +216,7 @@ void Painter::CutShape(HDC dc, const RECT& box, int cut, Color top, Color bottom
   CutFrame(dc, box, cut, edge, Line());
 }
 
+// Rows of the cut corners first, from both ends, then the straight sides.
 void Painter::CutFrame(HDC dc, const RECT& box, int cut, Color color, int width) const {
   const CutSpan outer = {box, cut};
   // So much of the cut that the slanting edges look as wide as the straight ones.
@@ -242,6 +246,7 @@ void Painter::Glass(HDC dc, const RECT& box, int cut) const {
   Fill(dc, light, colors_.milledSoft);
 }
 
+// Two lines, dark above light: light falls from above.
 void Painter::Groove(HDC dc, int x, int y, int width) const {
   Fill(dc, {x, y, x + width, y + Line()}, colors_.groove);
   Fill(dc, {x, y + Line(), x + width, y + 2 * Line()}, colors_.milledSoft);
