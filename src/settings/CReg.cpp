@@ -50,6 +50,7 @@ std::vector<std::string> CReg::ValueNames(const std::string& key) const {
   return registry_.ValueNames(mainKey_, key);
 }
 
+// Values are not written into a key that is missing, so whoever writes the first one calls this before.
 void CReg::CheckKeyIsThere(const std::string& key) {
   if (!registry_.KeyExists(mainKey_, key)) registry_.CreateKey(mainKey_, key);
 }

@@ -9,6 +9,8 @@ namespace sonaro {
 
 namespace {
 
+// Where the pages lie on the service's host. The edition stands between the stored base and the page, so that
+// a newer program can have pages of its own.
 constexpr std::string_view kDefaultHelpPath = "/sonaroapp/sonaro4vf/apphelp";
 constexpr std::string_view kHelpEdition = "/2/";
 
@@ -17,6 +19,7 @@ struct PageOfMessage {
   std::string_view page;
 };
 
+// Pages by message key. The numbers are file names on the service and never change.
 constexpr PageOfMessage kPages[] = {
     {"DeletePersonalStation", "9030.html"},
     {"ToAddMorePersonalStationYouNeedMoreInfo", "9031.html"},
@@ -49,6 +52,7 @@ void HelpPages::OpenHelpPage(std::string_view page) {
     reg_.Set(setting::kHelpUrl, address);
   }
   address.append(kHelpEdition).append(page);
+  // The setting may have been written without a scheme.
   if (!StartsWithIgnoringCase(address, "http://")) address.insert(0, "http://");
   browser_.OpenWebPage(address);
 }

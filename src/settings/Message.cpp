@@ -10,6 +10,7 @@ namespace sonaro {
 
 namespace {
 
+// All of these have one button and the warning sign: nothing is asked.
 Message Told(const char* key, std::string text, const Strings& strings) {
   Message message;
   message.key = key;
@@ -26,11 +27,13 @@ Message NotSavedMessage(std::string_view what, const Strings& strings) {
   return Told("NotSaved", FormatText(strings.Load(IDS_FILE_NOT_SAVED), {what}), strings);
 }
 
+// So that a caller can return its result and no failure goes unsaid.
 bool SavedOrSaid(bool saved, std::string_view what, MessageBoxView& box, const Strings& strings) {
   if (!saved) box.Ask(NotSavedMessage(what, strings));
   return saved;
 }
 
+// One message for all files: a disk that fails would otherwise bring a box for each.
 std::optional<Message> NotesMessage(const std::vector<FileNote>& notes, const Strings& strings) {
   std::string unreadable;
   std::string kept;

@@ -7,6 +7,7 @@
 namespace sonaro {
 
 SearchHistory::SearchHistory(std::string_view setting, std::size_t maxCount) : maxCount_(maxCount) {
+  // Empty pieces come of the tabs at both ends, and of a text that somebody has edited.
   for (const std::string_view entry : Split(setting, '\t')) {
     if (!entry.empty()) entries_.emplace_back(entry);
   }

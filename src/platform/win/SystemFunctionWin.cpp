@@ -6,6 +6,8 @@
 
 namespace sonaro {
 
+// The flag keeps the search to the system's folder: a file of that name beside the program, where a download
+// may have put it, is never loaded.
 void* SystemFunction(const wchar_t* library, const char* name) {
   const HMODULE module = LoadLibraryExW(library, nullptr, LOAD_LIBRARY_SEARCH_SYSTEM32);
   return module ? reinterpret_cast<void*>(GetProcAddress(module, name)) : nullptr;

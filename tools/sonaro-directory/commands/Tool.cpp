@@ -6,6 +6,7 @@
 namespace sonaro {
 namespace {
 
+// The whole help. Every option of a command stands here; README.md explains what comes of them.
 constexpr std::string_view kHelp =
     R"(sonaro-directory: real lists of internet radio stations in, a data folder for Sonaro out.
 
@@ -41,6 +42,7 @@ constexpr std::string_view kHelp =
 Exit status: 0 done, 1 failed or something is wrong, 2 wrong use.
 )";
 
+// A table instead of a chain of comparisons: a new command is a line here and a function of its own.
 struct Command {
   std::string_view name;
   int (*run)(Arguments, Console&);

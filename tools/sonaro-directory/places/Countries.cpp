@@ -286,6 +286,7 @@ const std::unordered_map<std::string, const Country*>& ByName() {
 
 }  // namespace
 
+// In the order of the enumeration.
 std::string_view ContinentName(Continent continent) {
   constexpr std::array<std::string_view, kContinents> kNames = {
       "Africa", "Antarctica", "Asia", "Europe", "North America", "Oceania", "South America"};
@@ -302,6 +303,7 @@ const Country* CountryByCode(std::string_view code) {
   return found == std::end(kCountries) ? nullptr : found;
 }
 
+// A leading article does not count: "The Netherlands" is found like "Netherlands".
 const Country* CountryByName(std::string_view name) {
   std::string key = MatchKey(name);
   if (key.starts_with("the ")) key.erase(0, 4);

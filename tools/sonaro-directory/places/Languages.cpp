@@ -10,9 +10,11 @@
 namespace sonaro {
 namespace {
 
+// A longer list names every language that its maker knows, and says nothing about the station.
 constexpr std::size_t kMaxLanguages = 4;
 constexpr std::size_t kMaxNameLength = 30;
 
+// One language with the ways in which lists write it, misspelt ones among them when they are frequent.
 struct LanguageLine {
   std::string_view name;
   std::string_view spellings;  // joined by "|"; the name itself is always one
@@ -114,6 +116,7 @@ std::string WithCapitals(std::string_view name) {
 
 }  // namespace
 
+// Compared as a whole: "French" is a language, "French pop" is not.
 bool IsLanguage(std::string_view text) { return BySpelling().count(MatchKey(text)) > 0; }
 
 std::vector<std::string> LanguagesIn(std::string_view text) {
