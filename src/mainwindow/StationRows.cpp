@@ -1,6 +1,7 @@
 #include "mainwindow/StationRows.h"
 
 #include <algorithm>
+#include <limits>
 #include <numeric>
 #include <random>
 #include <utility>
@@ -10,84 +11,29 @@
 namespace sonaro {
 namespace {
 
-// The sort key of a text and the row it belongs to. The first eight bytes decide most comparisons without
-// touching the text itself.
-struct SortKey {
-  std::uint64_t prefix = 0;
-  std::uint32_t offset = 0;
-  std::uint32_t length = 0;
-  std::uint32_t row = 0;
-};
-
-std::uint64_t PrefixOf(std::string_view key) {
-  std::uint64_t prefix = 0;
-  for (std::size_t i = 0; i < 8; ++i) {
-    prefix = prefix << 8 | (i < key.size() ? static_cast<unsigned char>(key[i]) : 0U);
-  }
-  return prefix;
-}
-
-// All sort keys of one sort, end to end in one buffer.
-class SortKeys {
- public:
-  // For so many rows, whose keys are empty until they are set.
-  explicit SortKeys(std::size_t rows) : keys_(rows) {
-    for (std::uint32_t row = 0; row < rows; ++row) keys_[row].row = row;
-  }
-  void Set(std::uint32_t row, std::string_view key) {
-    keys_[row] = {PrefixOf(key), static_cast<std::uint32_t>(bytes_.size()),
-                  static_cast<std::uint32_t>(key.size()), row};
-    bytes_ += key;
-  }
-
-  void SortStably(SortOrder order) {
-    if (order == SortOrder::Ascending) {
-      std::stable_sort(keys_.begin(), keys_.end(),
-                       [this](const SortKey& a, const SortKey& b) { return Compare(a, b) < 0; });
-    } else {
-      std::stable_sort(keys_.begin(), keys_.end(),
-                       [this](const SortKey& a, const SortKey& b) { return Compare(a, b) > 0; });
+// Puts the rows in the order of their ranks; equal ones stay as they are. Two steps of counting, or one when
+// the ranks are small: linear, however many rows there are.
+void OrderByRanks(std::vector<std::uint32_t>& rows, std::vector<std::uint32_t>& ranks) {
+  constexpr unsigned kDigitBits = 16;
+  constexpr std::uint32_t kDigit = (1U << kDigitBits) - 1;
+  const std::uint32_t most = ranks.empty() ? 0 : *std::max_element(ranks.begin(), ranks.end());
+  std::vector<std::uint32_t> sortedRows(rows.size());
+  std::vector<std::uint32_t> sortedRanks(rows.size());
+  for (unsigned shift = 0; shift < 32 && (most >> shift) != 0; shift += kDigitBits) {
+    std::vector<std::uint32_t> starts(kDigit + 2);
+    for (const std::uint32_t rank : ranks) ++starts[(rank >> shift & kDigit) + 1];
+    std::partial_sum(starts.begin(), starts.end(), starts.begin());
+    for (std::size_t i = 0; i < rows.size(); ++i) {
+      const std::uint32_t to = starts[ranks[i] >> shift & kDigit]++;
+      sortedRows[to] = rows[i];
+      sortedRanks[to] = ranks[i];
     }
+    rows.swap(sortedRows);
+    ranks.swap(sortedRanks);
   }
-
-  const std::vector<SortKey>& Keys() const { return keys_; }
-
- private:
-  int Compare(const SortKey& a, const SortKey& b) const {
-    if (a.prefix != b.prefix) return a.prefix < b.prefix ? -1 : 1;
-    return BytesOf(a).compare(BytesOf(b));
-  }
-  std::string_view BytesOf(const SortKey& key) const {
-    return std::string_view(bytes_).substr(key.offset, key.length);
-  }
-
-  std::vector<SortKey> keys_;
-  std::string bytes_;
-};
+}
 
 }  // namespace
-
-const std::string& CellOf(const StationInfo& row, int subItem) {
-  switch (static_cast<SubItem>(subItem)) {
-    case SubItem::Location:
-      return row.location;
-    case SubItem::MediaType:
-      return row.mediaType;
-    case SubItem::Format:
-      return row.format;
-    case SubItem::Overall:
-      return row.overall;
-    case SubItem::Sound:
-      return row.sound;
-    case SubItem::Speed:
-      return row.speed;
-    case SubItem::WebSite:
-      return row.webSiteRating;
-    case SubItem::Reliability:
-      return row.reliability;
-  }
-  return row.name;
-}
 
 void StationRows::Fill(std::vector<StationKey> keys) {
   notice_.reset();
@@ -149,14 +95,11 @@ void StationRows::Arrange() {
 }
 
 void StationRows::SortShown() {
-  const std::vector<std::uint32_t> rows = order_;
-  SortKeys keys(rows.size());
-  source_.VisitInfos(Keys(), [&](std::size_t place, const StationInfo& info) {
-    keys.Set(static_cast<std::uint32_t>(place), sortKey_(CellOf(info, sort_.key)));
-  });
-  keys.SortStably(sort_.order);
-  std::transform(keys.Keys().begin(), keys.Keys().end(), order_.begin(),
-                 [&](const SortKey& key) { return rows[key.row]; });
+  std::vector<std::uint32_t> ranks = source_.RanksOf(Keys(), sort_.key, sortKey_);
+  if (sort_.order == SortOrder::Descending) {
+    for (std::uint32_t& rank : ranks) rank = std::numeric_limits<std::uint32_t>::max() - rank;
+  }
+  OrderByRanks(order_, ranks);
 }
 
 StationRows::Page StationRows::ReadPage(std::size_t number) const {

@@ -20,14 +20,6 @@ namespace sonaro {
 
 class StationFilter;
 
-// The eight sub-items of a row, behind its name. 1 to 3 have a visible column; 4 to 8 are there to be sorted
-// by.
-enum class SubItem : int { Location = 1, MediaType, Format, Overall, Sound, Speed, WebSite, Reliability };
-inline constexpr int kSubItems = 8;
-
-// The name (0) or a sub-item of a row.
-const std::string& CellOf(const StationInfo& row, int subItem);
-
 enum class SortOrder { Ascending, Descending };
 
 struct SortState {

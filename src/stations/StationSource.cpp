@@ -1,6 +1,7 @@
 #include "stations/StationSource.h"
 
 #include <algorithm>
+#include <numeric>
 #include <utility>
 
 #include "base/Numbers.h"
@@ -23,6 +24,29 @@ constexpr std::int64_t kMaxReliability = 4;
 // The fields that are scrambled in the guide. All others are plain.
 constexpr StationField kScrambled[] = {StationField::LinkOne, StationField::LinkTwo, StationField::LinkThree,
                                        StationField::AlternateLink, StationField::WebSite};
+
+// The field of the name (0) or a sub-item.
+StationField FieldOf(int subItem) {
+  switch (static_cast<SubItem>(subItem)) {
+    case SubItem::Location:
+      return StationField::Location;
+    case SubItem::MediaType:
+      return StationField::MediaType;
+    case SubItem::Format:
+      return StationField::Format;
+    case SubItem::Overall:
+      return StationField::OverallRating;
+    case SubItem::Sound:
+      return StationField::SoundRating;
+    case SubItem::Speed:
+      return StationField::SpeedRating;
+    case SubItem::WebSite:
+      return StationField::WebSiteRating;
+    case SubItem::Reliability:
+      return StationField::Reliability;
+  }
+  return StationField::Name;
+}
 
 bool IsBlank(std::string_view text) { return TrimBlanks(text).empty(); }
 
@@ -50,6 +74,28 @@ StationInfo InfoOf(const StationView& station) {
 StationInfo InfoOf(const StationRecord& record) {
   const std::vector<std::string_view> fields(record.fields.begin(), record.fields.end());
   return InfoOf(StationView{record.StationId, fields});
+}
+
+const std::string& CellOf(const StationInfo& row, int subItem) {
+  switch (static_cast<SubItem>(subItem)) {
+    case SubItem::Location:
+      return row.location;
+    case SubItem::MediaType:
+      return row.mediaType;
+    case SubItem::Format:
+      return row.format;
+    case SubItem::Overall:
+      return row.overall;
+    case SubItem::Sound:
+      return row.sound;
+    case SubItem::Speed:
+      return row.speed;
+    case SubItem::WebSite:
+      return row.webSiteRating;
+    case SubItem::Reliability:
+      return row.reliability;
+  }
+  return row.name;
 }
 
 // Nobody has rated it, and where others show a place it says that it is the user's own.
@@ -111,6 +157,29 @@ std::vector<StationInfo> StationSource::InfosOf(std::span<const StationKey> keys
   VisitInfos(keys, [&](std::size_t place, StationInfo info) { infos[place] = std::move(info); });
   std::erase_if(infos, [](const StationInfo& info) { return !info.key; });
   return infos;
+}
+
+// The guide ranks its own. With some of the user's own among them all texts are compared: such lists are
+// short.
+std::vector<std::uint32_t> StationSource::RanksOf(std::span<const StationKey> keys, int subItem,
+                                                  const SortKeyOf& sortKey) const {
+  if (std::ranges::all_of(keys, &StationKey::IsOfGuide)) {
+    std::vector<std::int32_t> ids(keys.size());
+    std::ranges::transform(keys, ids.begin(), &StationKey::number);
+    return stations_.RanksOf(ids, FieldOf(subItem), sortKey);
+  }
+  std::vector<std::string> texts(keys.size());
+  VisitInfos(keys, [&](std::size_t place, const StationInfo& info) {
+    texts[place] = sortKey(CellOf(info, subItem));
+  });
+  std::vector<std::size_t> places(keys.size());
+  std::iota(places.begin(), places.end(), std::size_t{0});
+  std::ranges::sort(places, {}, [&](std::size_t place) { return std::string_view(texts[place]); });
+  std::vector<std::uint32_t> ranks(keys.size());
+  for (std::size_t i = 1; i < places.size(); ++i) {
+    ranks[places[i]] = ranks[places[i - 1]] + (texts[places[i]] != texts[places[i - 1]] ? 1U : 0U);
+  }
+  return ranks;
 }
 
 // For all at once: the table is asked one time, whatever the number of keys.

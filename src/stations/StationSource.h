@@ -10,6 +10,7 @@
 #include <string>
 #include <vector>
 
+#include "base/Text.h"
 #include "stations/StationKey.h"
 
 namespace sonaro {
@@ -56,6 +57,14 @@ struct StationInfo {
   int Symbol() const;
 };
 
+// The eight sub-items of a row of a list, behind the name. 1 to 3 have a visible column; 4 to 8 are there to
+// be sorted by.
+enum class SubItem : int { Location = 1, MediaType, Format, Overall, Sound, Speed, WebSite, Reliability };
+inline constexpr int kSubItems = 8;
+
+// The name (0) or a sub-item of a row.
+const std::string& CellOf(const StationInfo& row, int subItem);
+
 // All of a station.
 struct Station : StationInfo {
   std::string description;
@@ -100,6 +109,10 @@ class StationSource {
   // ask for a station.
   using InfoVisitor = std::function<void(std::size_t place, StationInfo info)>;
   void VisitInfos(std::span<const StationKey> keys, const InfoVisitor& visit) const;
+  // For sorting: a number for each of the keys whose order is the order of the name (0) or the sub-item by
+  // `sortKey`, equal for equal texts. The numbers of one call compare with each other only.
+  std::vector<std::uint32_t> RanksOf(std::span<const StationKey> keys, int subItem,
+                                     const SortKeyOf& sortKey) const;
   // The user's own that have a name, in table order.
   std::vector<StationKey> OwnKeys() const;
   // Whether all words stand somewhere in the name, the type or the note of one of the user's own.

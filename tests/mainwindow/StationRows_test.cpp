@@ -87,6 +87,14 @@ TEST_F(StationRowsTest, EqualTextsKeepTheOrderOfTheFillInBothOrders) {
   EXPECT_EQ(Shown(), "2 1 3 4 ");
   rows.SortBy(4, SortOrder::Ascending);
   EXPECT_EQ(Shown(), "4 1 3 2 ");
+  PersonalStation own;
+  own.name = "xa";
+  ASSERT_EQ(personal.Add(own), 1);
+  std::vector<StationKey> keys = rows.Keys();
+  keys.insert(keys.begin(), StationKey::OfUser(1));
+  rows.Fill(keys);
+  rows.SortBy(0, SortOrder::Descending);
+  EXPECT_EQ(Shown(), "3 2 P1 1 4 ") << "one of the user's own stands among those of the guide";
 }
 
 TEST_F(StationRowsTest, SortIgnoresLetterCaseInEveryScript) {
@@ -186,6 +194,13 @@ TEST_F(StationRowsTest, ReadsOnlyTheStationsThatAreShown) {
   EXPECT_LE(read(), 4 * StationRows::kPageRows);
   EXPECT_EQ(rows.FindByName("zebra", 5), 31000U);
   EXPECT_LE(read(), StationRows::kPageRows);
+  rows.SortBy(0, SortOrder::Descending);
+  EXPECT_EQ(rows.KeyAt(0), StationKey::OfGuide(31001));
+  read();
+  rows.SortBy(4, SortOrder::Descending);
+  rows.SortBy(0, SortOrder::Descending);
+  EXPECT_EQ(read(), 0U) << "a column is looked at once";
+  rows.EndSort();
   rows.Fill(rows.Keys());
   screen(0);
   EXPECT_EQ(read(), StationRows::kPageRows) << "what was read before the fill is forgotten";
