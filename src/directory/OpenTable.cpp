@@ -3,6 +3,7 @@
 // new table; nothing on disk is ever changed in place.
 #include "directory/OpenTable.h"
 
+#include <array>
 #include <cstring>
 #include <utility>
 
@@ -47,20 +48,48 @@ void OpenTable::GoBehindLast() {
 
 TableStatus OpenTable::Read(std::int32_t key, TableImage::Record& record) {
   TableImage::Place place;
-  TableStatus status = image_->Locate(files_, key, place);
-  if (status != TableStatus::Success) return status;
+  const TableStatus status = image_->Locate(files_, key, place);
+  return status == TableStatus::Success ? ReadAt(place, key, record) : status;
+}
+
+TableStatus OpenTable::ReadAt(const TableImage::Place& place, std::int32_t key, TableImage::Record& record) {
   const auto change = changes_.find(key);
   if (change != changes_.end()) {
     if (!change->second) return TableStatus::NotFound;
     record = {key, *change->second};
   } else {
     if (!place.found) return TableStatus::NotFound;
-    status = image_->Get(files_, place.index, record);
+    const TableStatus status = image_->Get(files_, place.index, record);
     if (status != TableStatus::Success) return status;
   }
   // Reading in order goes on behind this key.
   position_ = key;
   next_ = place.index + (place.found ? 1 : 0);
+  return TableStatus::Success;
+}
+
+// Records in no order lie all over the memory. Each is located some turns before it is read, and asked for,
+// so that nothing waits for it.
+TableStatus OpenTable::Visit(std::span<const std::int32_t> keys,
+                             const std::function<void(const TableImage::Record&)>& visit) {
+  constexpr std::size_t kAhead = 8;
+  std::array<TableImage::Place, kAhead> places;
+  image_->Expect(keys.size());
+  for (std::size_t turn = 0; turn < keys.size() + kAhead; ++turn) {
+    TableImage::Place& place = places[turn % kAhead];
+    if (turn >= kAhead) {
+      TableImage::Record record;
+      const TableStatus status = ReadAt(place, keys[turn - kAhead], record);
+      if (status == TableStatus::Success) {
+        visit(record);
+      } else if (status != TableStatus::NotFound) {
+        return status;
+      }
+    }
+    if (turn >= keys.size()) continue;
+    if (image_->Locate(files_, keys[turn], place) != TableStatus::Success) return TableStatus::Damaged;
+    image_->Bring(place);
+  }
   return TableStatus::Success;
 }
 

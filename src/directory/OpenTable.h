@@ -3,10 +3,12 @@
 #pragma once
 
 #include <cstdint>
+#include <functional>
 #include <limits>
 #include <map>
 #include <memory>
 #include <optional>
+#include <span>
 #include <string>
 
 #include "base/Files.h"
@@ -32,8 +34,9 @@ class OpenTable {
   // operation.
   TableStatus Read(std::int32_t key, TableImage::Record& record);
   TableStatus ReadNext(TableImage::Record& record);
-  // So many records are going to be read by their keys.
-  void Expect(std::size_t records) { image_->Expect(records); }
+  // Calls `visit` with the record of each key that is there.
+  TableStatus Visit(std::span<const std::int32_t> keys,
+                    const std::function<void(const TableImage::Record&)>& visit);
 
   // Whether the key is there, in the changes or else on disk; reads no text.
   TableStatus Contains(std::int32_t key, bool& contains);
@@ -53,6 +56,7 @@ class OpenTable {
 
  private:
   OpenTable() = default;
+  TableStatus ReadAt(const TableImage::Place& place, std::int32_t key, TableImage::Record& record);
   TableStatus ReadNextOnDisk(TableImage::Record& record);
   TableStatus WriteChanges();
 

@@ -21,11 +21,11 @@ const char* RecordTexts::Get(InputFile& file, std::size_t at, std::size_t length
   if (at > size_ || length > size_ - at) return nullptr;
   if (length == 0) return "";
   const bool inMemory = at >= begin_ && at <= end_ && length <= end_ - at;
-  if (!inMemory && !Bring(file, at, length)) return nullptr;
+  if (!inMemory && !ReadIn(file, at, length)) return nullptr;
   return bytes_.get() + (at - begin_);
 }
 
-bool RecordTexts::Bring(InputFile& file, std::size_t at, std::size_t length) {
+bool RecordTexts::ReadIn(InputFile& file, std::size_t at, std::size_t length) {
   // A read that begins where the last one ended is taken for reading in order.
   const bool goesOn = at == end_ && end_ != 0;
   if (goesOn) return Load(file, at, std::min(std::max(kReadStep, length), size_ - at));

@@ -9,6 +9,7 @@
 #include <memory>
 
 #include "base/Files.h"
+#include "directory/ByteScan.h"
 
 namespace sonaro {
 
@@ -20,12 +21,16 @@ class RecordTexts {
   // So many texts are going to be asked for, in any order.
   void Expect(std::size_t reads) { expected_ = reads; }
 
+  // The text at `at` is going to be asked for soon: brings it near when it is in memory.
+  void Bring(std::size_t at) const {
+    if (at >= begin_ && at < end_) Prefetch(bytes_.get() + (at - begin_));
+  }
   // The bytes from `at` to `at + length` of the texts; null when they are not all there or could not be read.
   // Valid until the next call.
   const char* Get(InputFile& file, std::size_t at, std::size_t length);
 
  private:
-  bool Bring(InputFile& file, std::size_t at, std::size_t length);
+  bool ReadIn(InputFile& file, std::size_t at, std::size_t length);
   bool Load(InputFile& file, std::size_t at, std::size_t length);
 
   std::uint64_t offset_;

@@ -76,8 +76,15 @@ TableStatus TableImage::Locate(TableFiles& files, std::int32_t key, Place& place
   if (NeedPage(files, page) != TableStatus::Success) return TableStatus::Damaged;
   const Entry* const first = &EntryAt(page * kPageEntries);
   const Entry* const end = first + EntriesIn(page);
-  const Entry* const at =
-      std::lower_bound(first, end, key, [](const Entry& entry, std::int32_t k) { return entry.key < k; });
+  // Halving without a branch that the machine would guess wrong every second time. The page's first key is
+  // not above `key`.
+  const Entry* at = first;
+  for (std::size_t left = EntriesIn(page); left > 1;) {
+    const std::size_t half = left / 2;
+    at += at[half].key <= key ? half : 0;
+    left -= half;
+  }
+  if (at->key < key) ++at;
   place.index = page * kPageEntries + static_cast<std::uint32_t>(at - first);
   place.found = at != end && at->key == key;
   return TableStatus::Success;

@@ -45,6 +45,10 @@ class TableImage {
   TableStatus Get(TableFiles& files, std::uint32_t index, Record& record);
   // So many records are going to be asked for, in any order.
   void Expect(std::size_t records) { texts_.Expect(records); }
+  // A place that was located is going to be asked for soon.
+  void Bring(const Place& place) const {
+    if (place.found) texts_.Bring(EntryAt(place.index).dataOffset);
+  }
 
   // Reads the search column and all entries. The functions below may be called after a success.
   TableStatus LoadColumn(TableFiles& files);

@@ -139,16 +139,10 @@ TableStatus Vmx::VmxGet(Handle handle, std::string_view key, VmxReadMode mode, V
 TableStatus Vmx::VmxVisit(Handle handle, std::span<const std::int32_t> keys, const Visitor& visit) {
   return RunOn(handle, [&](OpenTable& table) {
     VmxRecord record;
-    table.Expect(keys.size());
-    for (const std::int32_t key : keys) {
-      TableImage::Record found;
-      const TableStatus status = table.Read(key, found);
-      if (status == TableStatus::NotFound) continue;
-      if (status != TableStatus::Success) return status;
+    return table.Visit(keys, [&](const TableImage::Record& found) {
       Split(table, found, record);
       visit(record);
-    }
-    return TableStatus::Success;
+    });
   });
 }
 
