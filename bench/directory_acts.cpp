@@ -1,8 +1,9 @@
-// Counts and times what the directory's logic does for each act of a user, one act after the other.
-//   directory_acts [--stations N | --list STATION.SNR] [--rounds N]
-// prints "act, tab, milliseconds" with the best of the rounds (9), in which all acts take turns. Under
-// callgrind, told to collect within RunAct only and to dump after it, one round gives an act's instructions:
-// scripts/measure does that.
+// Times what the directory's logic does for each act of a user, one act after the other.
+//   directory_acts [--list STATION.SNR] [--stations N] [--rounds N]
+// prints for each act its name, what it found and the best milliseconds of the rounds (9), in which all acts
+// take turns, with tabs between. A list is repeated with other names until there are N stations; without one,
+// stations are made up. Under callgrind, told to collect within RunAct only and to dump behind it, one round
+// gives each act's instructions: scripts/measure-directory does that.
 #include <algorithm>
 #include <chrono>
 #include <cstdio>
@@ -31,6 +32,7 @@ namespace fs = std::filesystem;
 struct Act {
   std::string name;
   std::function<std::size_t()> run;
+  std::size_t result = 0;
   double best = 1e9;
 };
 
@@ -51,18 +53,17 @@ class Acts {
   void Measure(int rounds) {
     for (int round = 0; round <= rounds; ++round) {
       for (Act& act : acts_) {
-        std::size_t result = 0;
         const auto begin = std::chrono::steady_clock::now();
         if (round == 0) {
-          result = act.run();  // not counted: brings what stays in memory
+          act.result = act.run();  // not counted: brings what stays in memory
         } else {
-          RunAct(act.run, result);
+          RunAct(act.run, act.result);
         }
         const std::chrono::duration<double, std::milli> took = std::chrono::steady_clock::now() - begin;
         if (round != 0) act.best = std::min(act.best, took.count());
       }
     }
-    for (const Act& act : acts_) std::printf("%s\t%.4f\n", act.name.c_str(), act.best);
+    for (const Act& act : acts_) std::printf("%s\t%zu\t%.4f\n", act.name.c_str(), act.result, act.best);
   }
 
  private:
@@ -146,6 +147,30 @@ class Acts {
 }  // namespace
 }  // namespace sonaro
 
+namespace {
+
+// The lines of a list in ascending order, each as often as it takes to get `count`.
+std::string Grown(const std::string& path, std::size_t count) {
+  std::ifstream file(path, std::ios::binary);
+  std::vector<std::string> lines;
+  for (std::string line; std::getline(file, line);) lines.push_back(line);
+  if (lines.empty()) return {};
+  const std::size_t turns = (count + lines.size() - 1) / lines.size();
+  std::string list;
+  for (std::size_t i = 0; i < count; ++i) {
+    const std::string& line = lines[i / turns];
+    const std::size_t id = line.find('\t');
+    const std::size_t name = line.find('\t', id + 1);
+    const std::size_t turn = i % turns;
+    list += std::to_string(std::atol(line.c_str()) + static_cast<long>(turn)) + line.substr(id, name - id);
+    if (turn != 0) list += ' ' + std::to_string(turn);
+    list += line.substr(name) + '\n';
+  }
+  return list;
+}
+
+}  // namespace
+
 int main(int argc, char** argv) {
   namespace fs = std::filesystem;
   std::uint32_t count = 41'270;
@@ -160,12 +185,8 @@ int main(int argc, char** argv) {
   const fs::path folder =
       fs::temp_directory_path() / ("directory_acts-" + std::to_string(std::random_device()()));
   fs::create_directories(folder);
-  if (list.empty()) {
-    std::ofstream(folder / "station.snr", std::ios::binary)
-        << sonaro::SyntheticList(count, sonaro::ListOrder::Ascending);
-  } else {
-    fs::copy_file(list, folder / "station.snr");
-  }
+  std::ofstream(folder / "station.snr", std::ios::binary)
+      << (list.empty() ? sonaro::SyntheticList(count, sonaro::ListOrder::Ascending) : Grown(list, count));
   sonaro::Acts(folder, list.empty() ? sonaro::SyntheticQueries() : sonaro::RealQueries()).Measure(rounds);
   fs::remove_all(folder);
 }
