@@ -45,7 +45,7 @@ bool Application::OfferPlayers(const std::string& sentence) {
 void Application::ShowScan() {
   if (!scanWindow_) {
     ProgramCommands& program = *this;
-    scanWindow_ = std::make_unique<frmScan>(context_, scan_, help_, favorites_, program);
+    scanWindow_ = std::make_unique<frmScan>(context_, scan_, help_, favorites_, program, undo_);
   }
   scanWindow_->Show();
 }

@@ -120,6 +120,14 @@ void StationScan::Clear() {
   if (ran) EnableTimer(true);
 }
 
+void StationScan::Restore(const Lists& lists) {
+  queue_.insert(queue_.begin(), lists.queue.begin(), lists.queue.end());
+  history_.insert(history_.begin(), lists.history.begin(), lists.history.end());
+  QueueRowsChanged({.at = 0, .inserted = lists.queue.size()});
+  ShowLists();
+  ShowState();
+}
+
 void StationScan::Tick() {
   // Also a tick that was under way when the timer was stopped.
   if (state_ != ScanState::Scanning || launching_) return;

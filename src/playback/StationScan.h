@@ -83,6 +83,13 @@ class StationScan {
   void MoveDown(std::size_t row);
   void Remove(std::size_t row);
   void Clear();
+  // What Clear takes away, and back again: before what has come into either list since.
+  struct Lists {
+    std::deque<StationKey> queue;
+    std::vector<ScanRow> history;
+  };
+  Lists Contents() const { return {queue_, history_}; }
+  void Restore(const Lists& lists);
   // A tick of tmrScan.
   void Tick();
 

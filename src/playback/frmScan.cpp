@@ -8,6 +8,7 @@
 #include "resources/texts/playback.h"
 #include "settings/HelpPages.h"
 #include "settings/Strings.h"
+#include "settings/UndoList.h"
 #include "stations/Commands.h"
 #include "stations/FavoriteGroups.h"
 
@@ -36,15 +37,29 @@ int frmScan::HistoryRows::Symbol(int row) const {
 }
 
 frmScan::frmScan(FormContext& context, StationScan& scan, HelpPages& help, const FavoriteGroups& groups,
-                 ProgramCommands& program)
+                 ProgramCommands& program, UndoList& undo)
     : Form(context, Design()),
       context_(context),
       scan_(scan),
       help_(help),
       groups_(groups),
       program_(program),
+      undo_(undo),
       queue_(scan),
       history_(scan) {}
+
+// The scan outlives its window, so that undoing needs none.
+void frmScan::butClearIt_Click() {
+  StationScan& scan = scan_;
+  const StationScan::Lists lists = scan.Contents();
+  scan.Clear();
+  undo_.Add(LoadText(IDS_SCAN_CLEARED), [&scan, lists] {
+    scan.Restore(lists);
+    return UndoResult::Done;
+  });
+}
+
+void frmScan::mnuUndo_Click() { undo_.Undo(); }
 
 // When the owner goes while the window is open, OnUnload does not run; the scan must not keep a view that is
 // gone.

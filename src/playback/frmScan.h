@@ -15,11 +15,12 @@ namespace sonaro {
 class FavoriteGroups;
 class HelpPages;
 class ProgramCommands;
+class UndoList;
 
 class frmScan final : public Form, private ScanView {
  public:
   frmScan(FormContext& context, StationScan& scan, HelpPages& help, const FavoriteGroups& groups,
-          ProgramCommands& program);
+          ProgramCommands& program, UndoList& undo);
   ~frmScan() override;
 
   // Whether the window is what the user sees at the point of the screen.
@@ -72,7 +73,8 @@ class frmScan final : public Form, private ScanView {
   void butMoveUpIt_Click();
   void butMoveDownIt_Click();
   void butRemoveStationIt_Click();
-  void butClearIt_Click() { scan_.Clear(); }
+  void butClearIt_Click();
+  void mnuUndo_Click();
   void butFullIt_Click() { UseFullLayout(CurrentLayout() != 0); }
   void butScanTimeIt_Click();
   void butCloseIt_Click() { Close(); }
@@ -92,6 +94,7 @@ class frmScan final : public Form, private ScanView {
   HelpPages& help_;
   const FavoriteGroups& groups_;
   ProgramCommands& program_;
+  UndoList& undo_;
   QueueRows queue_;
   HistoryRows history_;
   StationKey menuStation_;  // whose context menu is open

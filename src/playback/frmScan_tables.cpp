@@ -123,6 +123,7 @@ const FormDesign& frmScan::Design() {
   };
   static constexpr Layout kLayouts[] = {{.size = {440, 150}, .outline = "scc44", .places = kCompact}};
   static constexpr KeyRow kKeys[] = {{.key = VK_DELETE, .command = butRemoveStationIt, .onlyIn = lstToScan},
+                                     {'Z', kCtrl, mnuUndo},
                                      {.key = 'F', .modifiers = kAlt, .command = butFullIt}};
   static constexpr FormDesign kDesign = {.name = "frmScan",
                                          .caption = IDS_SCAN_W_TITLE,
@@ -145,6 +146,7 @@ std::span<const EventRow> frmScan::Events() const {
       {butRemoveStationIt, Click, &frmScan::butRemoveStationIt_Click},
       {mnuScanRemove, Click, &frmScan::mnuScanRemove_Click},
       {butClearIt, Click, &frmScan::butClearIt_Click},
+      {mnuUndo, Click, &frmScan::mnuUndo_Click},
       {butFullIt, Click, &frmScan::butFullIt_Click},
       {butScanTimeIt, Click, &frmScan::butScanTimeIt_Click},
       {butDoneScanIt, Click, &frmScan::butCloseIt_Click},

@@ -222,8 +222,14 @@ TEST_F(StationScanTest, ClearKeepsTheStationThatPlays) {
   scan_.StartPauseContinue();
   TickFor(20);
   view_.timer.clear();
+  const std::string before = Queue() + History();
+  const StationScan::Lists lists = scan_.Contents();
   scan_.Clear();
   EXPECT_EQ(Queue() + History(), "");
+  scan_.Restore(lists);
+  EXPECT_EQ(Queue() + History(), before);
+  view_.timer.clear();
+  scan_.Clear();
   EXPECT_EQ(view_.timer, (std::vector<bool>{false, true}));
   EXPECT_EQ(scan_.CurrentText(), Text(IDS_SCAN_CURRENT) + "Two");
   scan_.PutBack(0);  // nothing there

@@ -210,7 +210,7 @@ const NamedForm kForms[] = {
     {"frmUpdateDialog",
      [](EmptyProgram& p) { return Make<frmUpdateDialog>(p.forms, p.updateDialog, UpdateOpening::Begin); }},
     {"frmScan",
-     [](EmptyProgram& p) { return Make<frmScan>(p.forms, p.scan, p.help, p.favorites, p.commands); }},
+     [](EmptyProgram& p) { return Make<frmScan>(p.forms, p.scan, p.help, p.favorites, p.commands, p.undo); }},
     {"frmScanTime", [](EmptyProgram& p) { return Make<frmScanTime>(p.forms, 30); }},
     {"frmAboutEventTime",
      [](EmptyProgram& p) { return Make<frmAboutEventTime>(p.forms, p.clock, p.shell, p.help); }},
