@@ -7,7 +7,7 @@
 namespace sonaro {
 namespace {
 
-class CommandSubjectTest : public testing::Test, protected Models {
+class CommandSubjectTest : public Models {
  protected:
   CommandSubjectTest() {
     for (const char* name : {"One", "Two"}) groups.Add(name);
