@@ -4,6 +4,8 @@ namespace sonaro {
 
 Utf8Character DecodeUtf8(std::string_view text, std::size_t position) {
   const auto byte = [&](std::size_t offset) { return static_cast<unsigned char>(text[position + offset]); };
+  // The lead byte tells the length; a byte that can lead nothing, a continuation byte among them, leaves it
+  // at 0.
   const unsigned char lead = byte(0);
   if (lead < 0x80) return {lead, 1};
   std::size_t length = 0;
@@ -28,6 +30,7 @@ Utf8Character DecodeUtf8(std::string_view text, std::size_t position) {
   return {code, length};
 }
 
+// `code` must be a character: halves of surrogates are replaced before they come here.
 void AppendUtf8(std::string& text, char32_t code) {
   const auto put = [&](char32_t byte) { text.push_back(static_cast<char>(byte)); };
   if (code < 0x80) {
@@ -73,12 +76,14 @@ Utf16Text DecodeUtf16(std::string_view bytes, bool bigEndian) {
     }
     high = unit >= 0xD800 && unit <= 0xDBFF ? unit : 0;
   }
+  // What ends in the middle of a unit or a character is damaged, and the rest of it is kept.
   if (high != 0 || bytes.size() % 2 != 0) appendHalf();
   return decoded;
 }
 
 }  // namespace
 
+// Both marks have two bytes, so either may be cut off by the length of one.
 std::optional<Utf16Text> DecodeMarkedUtf16(std::string_view bytes) {
   const bool little = bytes.starts_with(kMarkOfUtf16Little);
   if (!little && !bytes.starts_with(kMarkOfUtf16Big)) return std::nullopt;

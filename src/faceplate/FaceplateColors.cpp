@@ -5,6 +5,8 @@ namespace {
 
 using B = BaseColors;
 
+// Setting, colour, and its value in the two built-in faceplates. The names are those of settings that users
+// may have stored, so they never change.
 constexpr std::array<ColorSetting, 20> kSettings = {{
     {{"ColorBackground"}, &B::plate, Rgb(0x262A30), Rgb(0xECE9E2)},
     {{"Color1"}, &B::plateTop, Rgb(0x2E333A), Rgb(0xF6F4EF)},
@@ -39,6 +41,8 @@ struct MixRule {
 
 using F = FaceplateColors;
 
+// What a faceplate does not name. Percentages keep lit, pressed and disabled parts apart on dark and light
+// plates alike.
 constexpr std::array<MixRule, 26> kMixes = {{
     {&F::buttonTop, &B::button, nullptr, kWhite, 6},   {&F::buttonBottom, &B::button, nullptr, kBlack, 6},
     {&F::buttonHigh, &B::button, nullptr, kWhite, 20}, {&F::buttonHover, &B::button, &B::accent, {}, 14},
@@ -55,6 +59,8 @@ constexpr std::array<MixRule, 26> kMixes = {{
     {&F::edgeControl, &B::plate, &B::muted, {}, 75},   {&F::glassMuted, &B::muted, &B::glassText, {}, 12},
 }};
 
+// In high contrast every base colour is one of the system's, so that what the user has set there is what he
+// sees.
 struct SystemRule {
   Color BaseColors::*member;
   SystemColor color;

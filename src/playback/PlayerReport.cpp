@@ -26,6 +26,7 @@ PlayerReport::Line PlayerReporter::OfKind(std::size_t stations, const std::strin
   return {FormatText(strings_.Load(missing), {Figure(stations)}), true};
 }
 
+// A chosen program gets every stream link, so one line says it all.
 PlayerReport PlayerReporter::OfProgram(std::size_t stations, const std::string& program) const {
   if (!data_.FileSystem().Exists(program)) {
     return {PlayerReport::Plays::Nothing,
@@ -41,6 +42,7 @@ PlayerReport PlayerReporter::Report(const LinkCounts& counts, const std::string&
     report = OfProgram(counts.asxProgram + counts.realPlayer, program);
   } else {
     const std::string asx = players_.FindAsxProgram();
+    // What opens .ram files need not be such a player; only one that is counts.
     const std::string found = players_.FindRealPlayer(false);
     const std::string real = Players::IsRealPlayer(found) ? found : std::string();
     report.lines[0] =

@@ -8,6 +8,7 @@
 
 namespace sonaro {
 
+// The shape of a message box, with one choice in it.
 const FormDesign& frmScanTime::Design() {
   static constexpr ControlRow kControls[] = {
       {.id = lblTitle, .kind = ControlKind::TitleBar, .text = IDS_SCAN_W_TIME_TITLE, .at = {40, 4, 156, 26}},
@@ -39,6 +40,7 @@ std::span<const EventRow> frmScanTime::Events() const {
   return kRows;
 }
 
+// A time out of the settings that is not offered here selects the first one; it is stored only with OK.
 void frmScanTime::OnLoad() {
   for (int seconds : StationScan::kScanTimes) cmbScanTime_.AddItem(std::to_string(seconds), seconds);
   if (!cmbScanTime_.SelectItemData(seconds_)) cmbScanTime_.SelectItem(0);

@@ -42,6 +42,7 @@ class PlsReader {
     if (key.number <= 0) return;
     if (EqualIgnoringCase(key.name, "File")) {
       addresses_[key.number] = value;
+      // Makes the entry, so that an address without a title counts too.
       entries_[key.number];
     } else if (EqualIgnoringCase(key.name, "Title")) {
       entries_[key.number].station.name = value;
@@ -50,6 +51,8 @@ class PlsReader {
     }
   }
 
+  // Lines of one entry may stand anywhere in the file, so entries are whole only at its end. They come in the
+  // order of their numbers.
   void Finish(Playlist& playlist) {
     for (auto& [number, entry] : entries_) {
       const std::string_view address = addresses_[number];
@@ -81,6 +84,7 @@ std::string WritePls(const Playlist& playlist) {
     const std::string address = AddressOf(entry);
     if (!address.empty()) out += "File" + number + "=" + address + "\r\n";
     out += "Title" + number + "=" + entry.station.name + "\r\n";
+    // Unknown, as for every stream; some players want the line.
     out += "Length" + number + "=-1\r\n";
     ForEachPlaylistField(entry, [&](std::string_view name, std::string_view value) {
       out += std::string(kFieldKey) + std::string(name) + "." + number + "=" + std::string(value) + "\r\n";

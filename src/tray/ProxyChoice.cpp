@@ -11,6 +11,7 @@ namespace sonaro {
 namespace {
 
 constexpr std::string_view kScheme = "http://";
+// Longer numbers are refused before they are read, leading zeros included.
 constexpr std::size_t kMaxPortDigits = 5;
 constexpr std::int64_t kHighestPort = 65535;
 
@@ -35,6 +36,7 @@ void SetIfChanged(CReg& reg, const setting::Text& setting, std::string_view text
 
 }  // namespace
 
+// As browsers store it: with or without scheme, port and slash. The last colon sets off the port.
 ProxyServer SplitProxy(std::string_view found) {
   found = TrimBlanks(found);
   if (StartsWithIgnoringCase(found, kScheme)) found.remove_prefix(kScheme.size());
@@ -53,6 +55,7 @@ ProxyFault CheckProxy(const ProxyServer& server) {
 
 void StoreProxy(CReg& reg, bool use, const ProxyServer& server) {
   if (reg.Get(setting::kProxyUse) != use) reg.Set(setting::kProxyUse, use);
+  // The address stays stored for the next time that a proxy is wanted.
   if (!use) return;
   SetIfChanged(reg, setting::kProxyAddress, TrimBlanks(server.address));
   SetIfChanged(reg, setting::kProxyPort, TrimBlanks(server.port));

@@ -22,6 +22,7 @@ int DigitValue(char c) {
 }
 
 template <std::size_t size>
+// The length is checked first: the library takes arrays of fixed sizes and would read beyond a short one.
 bool FromHex(std::string_view hex, std::array<Byte, size>& bytes) {
   if (hex.size() != 2 * size) return false;
   for (std::size_t i = 0; i < size; ++i) {
