@@ -51,10 +51,10 @@ Application::Application(const Platform& platform, const Strings& strings, const
       players_(reg_, data_, platform.shell),
       installedPlayers_(reg_, data_, players_),
       playerSetup_(reg_, platform.files, players_, installedPlayers_),
-      playerReporter_(players_, data_, source_, strings_, state_),
+      playerReporter_(players_, installedPlayers_, data_, source_, strings_, state_),
       pages_(source_, data_, platform.shell, strings_),
       help_(reg_, pages_),
-      player_(source_, recent_, players_, pages_, strings_),
+      player_(source_, recent_, players_, installedPlayers_, pages_, strings_),
       scan_(reg_, platform.clock, player_, source_, strings_),
       faceplate_(reg_, data_),
       options_(reg_, faceplate_, program, settings_.Place() == SettingsPlace::PortableFile),
@@ -164,6 +164,7 @@ void Application::ScheduleChanged() {
 }
 
 void Application::DirectoryChanged() {
+  playerReporter_.DirectoryChanged();
   if (!main_) return;
   schedule_->DirectoryChanged();  // first: the main window asks it for the coming events
   main_->DirectoryChanged();
@@ -209,6 +210,10 @@ void Application::RememberPlace() {
 }
 
 void Application::ShowMainWindow() { main_->Show(); }
+
+void Application::HandedOver(const std::string& sentence) {
+  if (main_) main_->Status().Say(sentence);
+}
 
 void Application::ShowErrorText(const std::string& sentence) {
   messages_.Ask({.key = "CantFindProgram",

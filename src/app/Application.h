@@ -76,6 +76,7 @@ class Application final : private StartupView,
   bool ShowNoPlayer() override { return ChoosePlayer(StartUpInfoPage::NoPlayer, GetActiveWindow()); }
   void ShowErrorText(const std::string& sentence) override;
   bool OfferPlayers(const std::string& sentence) override;
+  void HandedOver(const std::string& sentence) override;
 
   // What the windows ask for.
   void Open(ProgramWindow window, Form* owner) override;
@@ -83,6 +84,7 @@ class Application final : private StartupView,
   void BringForward(std::string_view view) override;
   void ShowGroup(const std::string& name) override;
   void AddStationToGroup(const std::string& group, const StationKey& station) override;
+  void KeepStation(Form& owner, const StationKey& station) override;
   void HideToTray() override;
   void CloseAsked() override;
   void Exit() override;

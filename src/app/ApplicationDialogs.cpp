@@ -47,7 +47,7 @@ void Application::ShowScan() {
     ProgramCommands& program = *this;
     scanWindow_ = std::make_unique<frmScan>(context_, scan_, help_, favorites_, program, undo_);
   }
-  scanWindow_->Show();
+  scanWindow_->Show(main_->Window());
 }
 
 // The tray can ask for it while it is open, and two would overwrite each other's choices.
@@ -56,8 +56,9 @@ void Application::ShowOptions(HWND owner) {
     optionsWindow_->Show();
     return;
   }
-  optionsWindow_ =
-      std::make_unique<frmOptions>(context_, options_, OptionsServices{*this, *schedule_, *service_, help_});
+  optionsWindow_ = std::make_unique<frmOptions>(
+      context_, options_,
+      OptionsServices{*this, *schedule_, *service_, help_, playerSetup_, playerReporter_});
   optionsWindow_->ShowModal(owner);
 }
 
@@ -93,6 +94,10 @@ void Application::ShowGroup(const std::string& name) {
 // Only windows ask for this that are opened after the main window.
 void Application::AddStationToGroup(const std::string& group, const StationKey& station) {
   main_->Groups().AddStationToGroup(group, station);
+}
+
+void Application::KeepStation(Form& owner, const StationKey& station) {
+  main_->Groups().Keep(owner, station);
 }
 
 bool Application::ScanIsAt(int x, int y) { return scanWindow_ && scanWindow_->IsAt({x, y}); }

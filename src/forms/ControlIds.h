@@ -92,6 +92,8 @@ inline constexpr int butScan = 1146;
 inline constexpr int butSchedule = 1147;
 inline constexpr int butOptions = 1148;
 inline constexpr int butUndo = 1149;
+inline constexpr int butPlayExtraIt = 1150;
+inline constexpr int butAddToGroupIt = 1151;
 
 // frmScan: 2001 to 2099.
 inline constexpr int butStartIt = 2001;
@@ -120,8 +122,10 @@ inline constexpr int butHistoryName = 2025;
 inline constexpr int butHistoryWhat = 2026;
 inline constexpr int cmbScanTime = 2027;
 inline constexpr int butDoneScanIt = 2028;
+inline constexpr int butKeepIt = 2029;
 inline constexpr int mnuScanPutBack = 2031;
 inline constexpr int mnuScanRemove = 2032;
+inline constexpr int mnuScanPlay = 2033;
 inline constexpr int mnuScanToGroup = 2041;  // 10 numbers: one for each favourite group
 
 // MsgboxFrm, frmSplash, frmStartUpInfo: 2101 to 2199.
@@ -142,13 +146,11 @@ inline constexpr int butBrowseIt = 2144;
 inline constexpr int butFindIt = 2145;
 inline constexpr int butTestProgramIt = 2146;
 inline constexpr int butPlayerWebSiteIt = 2147;
-inline constexpr int lblFound = 2148;  // links of .asx programs
-inline constexpr int lblOthersFound = 2149;
 inline constexpr int lblProxyFound = 2150;
 inline constexpr int optUseProxy = 2151;  // 2 numbers: use it, connect directly
 inline constexpr int chkDontShow = 2153;
 inline constexpr int butDoneIt = 2154;
-inline constexpr int lblWebFound = 2155;
+inline constexpr int lblFound = 2161;  // 4 numbers: what plays which kind of link
 
 // frmNewFavorite, frmRenameFav, dialogs of personal stations and extra links: 2201 to 2299.
 inline constexpr int txtGroupName = 2201;
@@ -252,6 +254,8 @@ inline constexpr int chkLookForProxy = 2714;
 inline constexpr int chkOfferTutorial = 2715;
 inline constexpr int butPlayerIt = 2716;
 inline constexpr int optFaceplate = 2717;  // 2 numbers: Graphite, Porcelain
+inline constexpr int lblPlaying = 2719;
+inline constexpr int tmrPlaying = 2720;
 
 // frmSysTrayMenu (menu entries): 3001 to 3099.
 inline constexpr int mnuTrayOpen = 3001;
@@ -336,6 +340,7 @@ inline constexpr int mnuFavScanGroup = 3199;
 inline constexpr int mnuFavExport = 3200;
 inline constexpr int mnuFavImport = 3201;
 // Personal stations.
+inline constexpr int mnuActionStar = 3202;  // into a group, or out of it
 inline constexpr int mnuPersonalAdd = 3211;
 inline constexpr int mnuPersonalChange = 3212;
 inline constexpr int mnuPersonalDelete = 3213;

@@ -28,7 +28,8 @@ class EventRow {
   enum OfRow : unsigned char {
     ItemActivated = static_cast<unsigned char>(Kind::ItemActivated),
     ItemSelected = static_cast<unsigned char>(Kind::ItemSelected),
-    BeginDrag = static_cast<unsigned char>(Kind::BeginDrag)
+    BeginDrag = static_cast<unsigned char>(Kind::BeginDrag),
+    ItemStarred = static_cast<unsigned char>(Kind::ItemStarred)
   };
   enum AtPoint { ContextMenu };
   enum OfNode { NodeClick };
@@ -95,6 +96,7 @@ class EventTarget {
   static constexpr auto ItemActivated = EventRow::ItemActivated;
   static constexpr auto ItemSelected = EventRow::ItemSelected;
   static constexpr auto BeginDrag = EventRow::BeginDrag;
+  static constexpr auto ItemStarred = EventRow::ItemStarred;
   static constexpr auto ContextMenu = EventRow::ContextMenu;
   static constexpr auto NodeClick = EventRow::NodeClick;
 };

@@ -111,7 +111,7 @@ void FavoriteCommands::AddStationToGroup(std::string_view groupName, const Stati
   if (groups_.Contains(*group, station)) return SayDone(IDS_GROUP_HAS_IT, station, name);
   if (!Changed(groups_.AddStation(*group, station))) return;
   listing_.GroupsChanged();
-  SayDone(IDS_GROUP_ADDED_TO, station, name);
+  SayAdded(station, name);
 }
 
 // A new group is made with its first station in one save, so that no crash leaves an empty group.
@@ -120,7 +120,21 @@ void FavoriteCommands::AddStationToGroupOrNew(std::string_view groupName, const 
   if (name.empty() || groups_.Find(name)) return AddStationToGroup(name, station);
   if (RefuseEleventh() || !Changed(groups_.Add(name, station))) return;
   prompts_.TellTray("AddNewFavGroup\t" + name);
-  SayDone(IDS_GROUP_ADDED_TO, station, name);
+  SayAdded(station, name);
+}
+
+void FavoriteCommands::SayAdded(const StationKey& station, const std::string& group) {
+  undo_.Add(FormatText(strings_.Load(IDS_GROUP_ADDED_TO), {prompts_.NameOf(station), group}),
+            [this, group, station] { return TakeBack(group, station); });
+}
+
+UndoResult FavoriteCommands::TakeBack(const std::string& name, const StationKey& station) {
+  const auto group = groups_.Find(name);
+  const FavoriteChange change = group ? groups_.RemoveStation(*group, station) : FavoriteChange::Nothing;
+  if (change == FavoriteChange::Nothing) return UndoResult::Gone;
+  if (!Changed(change)) return UndoResult::Kept;
+  listing_.GroupsChanged();
+  return UndoResult::Done;
 }
 
 void FavoriteCommands::TakeOutMissing() {

@@ -59,8 +59,10 @@ class FavoriteCommands {
   void PlaceStation(const StationKey& station, const StationKey& where);
 
  private:
-  // Both can be undone. The sentence of several stations is IDS_GROUP_REMOVED_MANY.
+  void SayAdded(const StationKey& station, const std::string& group);
+  // These can be undone. The sentence of several stations is IDS_GROUP_REMOVED_MANY.
   void TakeOut(std::size_t group, const std::vector<StationKey>& stations);
+  UndoResult TakeBack(const std::string& name, const StationKey& station);
   UndoResult PutBack(const std::string& name, const std::vector<FavoriteGroups::Member>& members);
   UndoResult PutBackGroup(std::size_t place, const std::string& name, const std::string& line);
   void SayDone(int textId, const StationKey& station, std::string_view group);

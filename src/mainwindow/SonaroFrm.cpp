@@ -160,9 +160,10 @@ void SonaroFrm::RecentChanged() {
   if (state.holds == Holds::Recent) {
     models_.listing.StationsChanged();
     ShowEverything();
-  } else if (state.view == View::YourSonaro) {
-    yours_.ShowGroups();
+    return;
   }
+  list_.ShowMarks();
+  if (state.view == View::YourSonaro) yours_.ShowGroups();
 }
 
 void SonaroFrm::GroupsChanged() {

@@ -8,6 +8,7 @@
 #include "mainwindow/frmExtraLink.h"
 #include "playback/PlayerLaunch.h"
 #include "playback/StationScan.h"
+#include "resources/texts/mainwindow.h"
 #include "settings/HelpPages.h"
 #include "stations/RecentList.h"
 
@@ -36,6 +37,7 @@ void PaintNoStation(HDC dc, const RECT& box, const Painter& painter) {
 std::span<const EventRow> DetailPane::Events() const {
   static const EventRow kRows[] = {
       {butGoMediaLinkOneIt, Click, &DetailPane::butGoMediaLink_Click, 3},
+      {butPlayExtraIt, Click, &DetailPane::butPlayExtraIt_Click},
       {butGoWebPageIt, Click, &DetailPane::butGoWebPageIt_Click},
       {mnuActionPlayOne, Click, &DetailPane::mnuActionPlay_Click, 3},
       {mnuActionPlayExtra, Click, &DetailPane::mnuActionPlayExtra_Click, 20},
@@ -53,6 +55,7 @@ void DetailPane::Load() {
   picHairAbove_.SetPainter(PaintHair);
   picHairBelow_.SetPainter(PaintHair);
   picPin_.SetPainter(PaintPin);
+  butAddToGroupIt_.SetTip(form_.LoadText(IDS_MAIN_ADD_TIP));
 }
 
 // The record is read once here; buttons and menus work on what was read.
@@ -86,9 +89,14 @@ void DetailPane::ShowPlayButtons(const StationDetail& detail) {
     const PlayButton& shown = detail.playButtons[i];
     const TwoLineButton button = butGoMediaLink_[static_cast<int>(i)];
     button.SetText(shown.caption);
-    button.SetDetail(shown.bitRate + "\t" + std::to_string(i + 1));
+    button.SetDetail(shown.detail + "\t" + std::to_string(i + 1));
+    button.SetTip(shown.address);
     button.Show(shown.shown);
   }
+  const bool extra = !detail.extraButtons.empty();
+  butPlayExtraIt_.Show(extra);
+  butPlayExtraIt_.SetText(extra ? detail.extraButtons[0].caption : std::string());
+  butPlayExtraIt_.SetTip(extra ? detail.extraButtons[0].address : std::string());
 }
 
 void DetailPane::butGoMediaLink_Click(int link) {
@@ -115,8 +123,7 @@ void DetailPane::mnuActionPlay_Click(int link) {
 void DetailPane::mnuActionPlayExtra_Click(int link) {
   const StationDetail& station = subject_.Station();
   const auto index = static_cast<std::size_t>(link);
-  if (index >= station.extraButtons.size()) return;
-  Play(station.extraButtons[index]);
+  if (index < station.extraButtons.size()) Play(station.extraButtons[index]);
 }
 
 void DetailPane::Play(const PlayButton& button) {

@@ -29,6 +29,7 @@ class DetailPane final : public EventTarget {
   void butGoMediaLink_Click(int link);
   void mnuActionPlay_Click(int link);
   void mnuActionPlayExtra_Click(int link);
+  void butPlayExtraIt_Click() { mnuActionPlayExtra_Click(0); }
   void butGoWebPageIt_Click();
   void mnuActionCopyLink_Click();
   void mnuActionAddToScan_Click();
@@ -49,6 +50,8 @@ class DetailPane final : public EventTarget {
       {{form_, imgOverAll}, {form_, imgSound}, {form_, imgSpeed}, {form_, imgWebSite}}};
   ControlArray<TwoLineButton> butGoMediaLink_{form_, butGoMediaLinkOneIt, StationDetail::kPlayButtons};
   Button butGoWebPageIt_{form_, butGoWebPageIt};
+  Button butPlayExtraIt_{form_, butPlayExtraIt};
+  Button butAddToGroupIt_{form_, butAddToGroupIt};
 };
 
 }  // namespace sonaro

@@ -48,6 +48,8 @@ std::span<const EventRow> GroupsPane::Events() const {
       {mnuFavExport, Click, &GroupsPane::mnuFavExport_Click},
       {mnuFavImport, Click, &GroupsPane::mnuFavImport_Click},
       {mnuActionStationToFavList, Click, &GroupsPane::mnuActionStationToFavList_Click},
+      {butAddToGroupIt, Click, &GroupsPane::mnuActionStationToFavList_Click},
+      {mnuActionStar, Click, &GroupsPane::mnuActionStar_Click},
       {mnuActionStationToGroup, Click, &GroupsPane::mnuActionStationToGroup_Click, 10},
       {mnuActionRemoveFromFavList, Click, &GroupsPane::RemoveStation},
   };
@@ -137,7 +139,7 @@ void GroupsPane::TakeDropped(const StationKey& station, int slot) {
     if (!commands_.AddFavoriteGroup()) return;
     group = groups_.Count() - 1;
   }
-  commands_.AddStationToGroup(groups_.Name(group), station);
+  AddTo(groups_.Name(group), station);
   context_.view.ShowEverything();
 }
 
@@ -195,27 +197,55 @@ void GroupsPane::mnuFavImport_Click() {
 }
 
 void GroupsPane::mnuActionStationToFavList_Click() {
-  const StationDetail& station = subject_.Station();
-  if (!station.station) return;
-  const StationKey key = station.station;  // what is meant may change while the question stands
+  if (const StationKey station = subject_.Station().station) AskGroupFor(form_, station);
+}
+
+// By value: what is meant may change while the question stands.
+void GroupsPane::AskGroupFor(Form& owner, StationKey station) {
   std::vector<std::string> names;
   for (std::size_t group = 0; group < groups_.Count(); ++group) names.push_back(NameOf(group));
   const std::string name =
-      frmPickGroup(context_.forms, station.name, std::move(names)).AskGroup(form_.Window());
-  if (!name.empty()) commands_.AddStationToGroupOrNew(name, key);
+      frmPickGroup(context_.forms, context_.data.source.NameOf(station), std::move(names), lastUsed_)
+          .AskGroup(owner.Window());
+  if (!name.empty()) commands_.AddStationToGroupOrNew(name, station);
+  if (!name.empty()) lastUsed_ = name;
   context_.view.ShowEverything();
 }
+
+void GroupsPane::AddTo(const std::string& groupName, const StationKey& station) {
+  commands_.AddStationToGroup(groupName, station);
+  lastUsed_ = groupName;
+}
+
+void GroupsPane::Keep(Form& owner, const StationKey& station) {
+  if (!station) return;
+  const auto last = groups_.Find(lastUsed_);
+  if (!last && groups_.Count() != 1) return AskGroupFor(owner, station);
+  AddTo(NameOf(last.value_or(0)), station);
+  context_.view.ShowEverything();
+}
+
+void GroupsPane::ToggleStar(const StationKey& station) {
+  const auto holder = groups_.GroupOf(station);
+  if (!holder) return Keep(form_, station);
+  const auto shown = subject_.GroupOnShow();
+  const std::size_t group = shown && groups_.Contains(*shown, station) ? *shown : *holder;
+  commands_.RemoveStations(NameOf(group), {station});
+  context_.view.ShowEverything();
+}
+
+void GroupsPane::mnuActionStar_Click() { ToggleStar(subject_.Station().station); }
 
 void GroupsPane::mnuActionStationToGroup_Click(int group) {
   const auto index = static_cast<std::size_t>(group);
   if (!subject_.Station().station || index >= groups_.Count()) return;
-  commands_.AddStationToGroup(groups_.Name(index), subject_.Station().station);
+  AddTo(groups_.Name(index), subject_.Station().station);
   context_.view.ShowEverything();
 }
 
 // For other windows, which may ask while this one is not there.
 void GroupsPane::AddStationToGroup(const std::string& groupName, const StationKey& station) {
-  commands_.AddStationToGroup(groupName, station);
+  AddTo(groupName, station);
   if (form_.IsOpen()) context_.view.ShowEverything();
 }
 

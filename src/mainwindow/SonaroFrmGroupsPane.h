@@ -27,6 +27,11 @@ class GroupsPane final : public EventTarget, private FavoritePrompts {
   void MoveGroup(const std::string& name, int to);
   // For a window that has no groups of its own.
   void AddStationToGroup(const std::string& groupName, const StationKey& station);
+  // Adds the station to the group that was used last in this session, or the only one; else `owner` asks.
+  void Keep(Form& owner, const StationKey& station);
+  // The star of a station: kept when no group holds it, else taken out of the group on show or the first that
+  // holds it.
+  void ToggleStar(const StationKey& station);
   // Takes the station that the command means out of the group that it means.
   void RemoveStation();
 
@@ -54,7 +59,10 @@ class GroupsPane final : public EventTarget, private FavoritePrompts {
   void mnuFavScanGroup_Click();
   void mnuFavExport_Click();
   void mnuFavImport_Click();
+  void AskGroupFor(Form& owner, StationKey station);
+  void AddTo(const std::string& groupName, const StationKey& station);
   void mnuActionStationToFavList_Click();
+  void mnuActionStar_Click();
   void mnuActionStationToGroup_Click(int group);
 
   const MainContext& context_;
@@ -67,6 +75,7 @@ class GroupsPane final : public EventTarget, private FavoritePrompts {
   Button butRemoveGroup_{form_, butRemoveGroup};
   PlaylistDialogs playlists_;
   FavoriteCommands commands_;
+  std::string lastUsed_;  // the name of the group that a station came into last
 };
 
 }  // namespace sonaro

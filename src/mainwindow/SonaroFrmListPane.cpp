@@ -11,6 +11,7 @@
 #include "playback/StationScan.h"
 #include "resources/texts/mainwindow.h"
 #include "settings/Strings.h"
+#include "stations/RecentList.h"
 
 namespace sonaro {
 
@@ -20,6 +21,7 @@ std::span<const EventRow> ListPane::Events() const {
   static const EventRow kRows[] = {
       {lstFavs, ItemSelected, &ListPane::lstFavs_ItemSelected},
       {lstFavs, ItemActivated, &ListPane::lstFavs_ItemActivate},
+      {lstFavs, ItemStarred, &ListPane::lstFavs_ItemStarred},
       {lstFavs, ContextMenu, &ListPane::lstFavs_ContextMenu},
       {butSplit1, Click, &ListPane::butSplit_Click, 4},
       {butSplit1, ContextMenu, &ListPane::butSplit_ContextMenu, 4},
@@ -180,6 +182,8 @@ void ListPane::lstFavs_ItemSelected(int row) {
 
 void ListPane::lstFavs_ItemActivate(int) { detail_.PlayFirst(); }
 
+void ListPane::lstFavs_ItemStarred(int row) { groups_.ToggleStar(KeyAt(row)); }
+
 // The menu is for the station and group as they are now; both are remembered by key and name until it closes.
 void ListPane::lstFavs_ContextMenu(int, POINT at) {
   const CommandSubject& subject = context_.models.subject;
@@ -304,6 +308,21 @@ std::string ListPane::Cell(int row, int column) const {
 }
 
 int ListPane::Symbol(int row) const { return listing_.Rows().At(static_cast<std::size_t>(row)).Symbol(); }
+
+RowMarks ListPane::Marks(int row) const {
+  const StationKey station = KeyAt(row);
+  const std::vector<StationKey>& recent = context_.data.recent.Keys();
+  return {.star = context_.data.favorites.IsMember(station),
+          .offer = static_cast<bool>(station),
+          .sound = station && !recent.empty() && recent.front() == station};
+}
+
+std::string ListPane::MarksSpoken(int row) const {
+  const RowMarks marks = Marks(row);
+  std::string spoken = marks.star ? form_.LoadText(IDS_ROW_FAVORITE) : std::string();
+  if (marks.sound) spoken += (spoken.empty() ? "" : ", ") + form_.LoadText(IDS_ROW_PLAYED_LAST);
+  return spoken;
+}
 
 bool ListPane::IsNotice() const { return listing_.Rows().IsNotice(); }
 

@@ -28,6 +28,8 @@ class ListPane final : public EventTarget, private ListModel {
   // The rows are others, or in another order: shows them with their selection, caption and count.
   void ShowRows();
   void ShowSort();
+  // The marks of the rows are others: a station was played, came into a group or left one.
+  void ShowMarks() { lstFavs_->RepaintRows(); }
   StationKey KeyAt(int row) const;  // None for a row that stands for no station
   // Puts the row in the place of another one; only where the list shows a group in the group's own order.
   void MoveRow(const StationKey& station, int to);
@@ -40,6 +42,8 @@ class ListPane final : public EventTarget, private ListModel {
   std::string Cell(int row, int column) const override;
   int Symbol(int row) const override;
   int FindRow(const std::string& start, int from) const override;
+  RowMarks Marks(int row) const override;
+  std::string MarksSpoken(int row) const override;
   bool IsNotice() const override;
 
   void ShowEmptyText();
@@ -51,6 +55,7 @@ class ListPane final : public EventTarget, private ListModel {
 
   void lstFavs_ItemSelected(int row);
   void lstFavs_ItemActivate(int row);
+  void lstFavs_ItemStarred(int row);
   void lstFavs_ContextMenu(int row, POINT at);
   void butSplit_Click(int column);
   void butSplit_ContextMenu(int column, POINT at);

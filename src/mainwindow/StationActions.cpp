@@ -117,7 +117,8 @@ void StationActions::AddPlayEntries(const StationDetail& detail, MenuEntries& me
     const PlayButton& button = detail.playButtons[i];
     if (!button.shown) continue;
     MenuEntry entry = Entry(kPlayCommands[i], kPlayShortcuts[i]);
-    entry.text = FormatText(entry.text, {MenuText(button.caption)});
+    const std::string told = button.detail.empty() ? button.caption : button.caption + ", " + button.detail;
+    entry.text = FormatText(entry.text, {MenuText(told)});
     menu.push_back(std::move(entry));
   }
   for (std::size_t i = 0; i < detail.extraButtons.size() && i < kExtraPlayCommands; ++i) {

@@ -1,5 +1,7 @@
 #include "mainwindow/StationDetailBuilder.h"
 
+#include <algorithm>
+#include <set>
 #include <utility>
 
 #include "base/Numbers.h"
@@ -23,6 +25,41 @@ constexpr std::array<RatingField, StationDetail::kRatings> kRatingFields{{
     {&StationInfo::speed, IDS_RATING_SPEED},
     {&StationInfo::webSiteRating, IDS_RATING_WEB_SITE},
 }};
+
+// "radio.example" of "https://radio.example:8000/jazz.mp3".
+std::string HostOf(std::string_view address) {
+  const std::size_t scheme = address.find("://");
+  if (scheme != std::string_view::npos) address.remove_prefix(scheme + 3);
+  return std::string(address.substr(0, address.find_first_of(":/?#")));
+}
+
+// "jazz.mp3" of it.
+std::string FileOf(std::string_view address) {
+  while (address.ends_with('/')) address.remove_suffix(1);
+  return std::string(address.substr(address.rfind('/') + 1));
+}
+
+std::string Whole(std::string_view address) { return std::string(address); }
+
+// All links of a station have its one media type and bit rate, so that several would read alike. The figure
+// is that of the first; the others are told by the shortest part of their addresses that no two have in
+// common.
+void TellApart(std::array<PlayButton, StationDetail::kPlayButtons>& buttons) {
+  const auto shown =
+      std::count_if(buttons.begin(), buttons.end(), [](const PlayButton& b) { return b.shown; });
+  if (shown < 2) return;
+  for (std::string (*const part)(std::string_view) : {HostOf, FileOf, Whole}) {
+    std::set<std::string> parts;
+    for (const PlayButton& button : buttons) {
+      if (button.shown) parts.insert(part(button.address));
+    }
+    if (parts.contains("") || static_cast<std::ptrdiff_t>(parts.size()) < shown) continue;
+    for (PlayButton& button : buttons) {
+      if (&button != buttons.data() || button.detail.empty()) button.detail = part(button.address);
+    }
+    return;
+  }
+}
 
 }  // namespace
 
@@ -70,9 +107,10 @@ void StationDetailBuilder::AddPlayButtons(const Station& station, StationDetail&
       detail.extraButtons.push_back(std::move(button));
       continue;
     }
-    if (detail.firstLink.empty()) detail.firstLink = PlayLink::FromText(TrimBlanks(playable.link)).address;
+    if (detail.firstLink.empty()) detail.firstLink = button.address;
     detail.playButtons[static_cast<std::size_t>(playable.number) - 1] = std::move(button);
   }
+  TellApart(detail.playButtons);
 }
 
 // Number 0 is a link that the user added; it has a name instead of a media type.
@@ -80,6 +118,7 @@ PlayButton StationDetailBuilder::ButtonFor(const PlayableLink& playable, const S
   PlayButton button;
   button.shown = true;
   button.request = playable.request;
+  button.address = PlayLink::FromText(TrimBlanks(playable.link)).address;
   if (playable.number == 0) {
     button.caption = playable.name.empty() ? strings_.Load(IDS_PLAY_EXTRA) : playable.name;
     return button;
@@ -90,7 +129,7 @@ PlayButton StationDetailBuilder::ButtonFor(const PlayableLink& playable, const S
     button.caption = TrimBlanks(FormatText(strings_.Load(IDS_PLAY_MEDIA), {station.mediaType}));
   }
   if (const std::int64_t bitRate = NumberValue(station.bitRate); bitRate > 0) {
-    button.bitRate = FormatText(strings_.Load(IDS_PLAY_BIT_RATE), {std::to_string(bitRate)});
+    button.detail = FormatText(strings_.Load(IDS_PLAY_BIT_RATE), {std::to_string(bitRate)});
   }
   return button;
 }

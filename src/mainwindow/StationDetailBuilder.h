@@ -18,7 +18,8 @@ class Strings;
 struct PlayButton {
   bool shown = false;
   std::string caption;  // "Play MP3"
-  std::string bitRate;  // "128 kbit/s"; "" when not known
+  std::string detail;   // "128 kbit/s", or what tells it from another button; "" when not known
+  std::string address;  // what is handed over
   PlayRequest request;
 };
 

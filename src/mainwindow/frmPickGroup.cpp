@@ -1,5 +1,7 @@
 #include "mainwindow/frmPickGroup.h"
 
+#include <algorithm>
+
 #include "base/Text.h"
 #include "forms/DialogRows.h"
 #include "resources/texts/mainwindow.h"
@@ -60,7 +62,8 @@ void frmPickGroup::OnLoad() {
   for (const std::string& group : groups_) cmbGroup_.AddItem(group);
   // Eleven groups cannot be shown, so a full row of buttons offers no new one.
   if (groups_.size() < FavoriteGroups::kSlots) cmbGroup_.AddItem(LoadText(IDS_DLG_PICK_NEW));
-  cmbGroup_.SelectItem(0);
+  const auto usual = std::find(groups_.begin(), groups_.end(), usual_);
+  cmbGroup_.SelectItem(usual != groups_.end() ? static_cast<int>(usual - groups_.begin()) : 0);
   cmbGroup_SelChange();
   if (groups_.empty()) txtGroupName_.Focus();
 }

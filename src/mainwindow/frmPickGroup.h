@@ -12,8 +12,12 @@ namespace sonaro {
 
 class frmPickGroup final : public Form {
  public:
-  frmPickGroup(FormContext& context, std::string station, std::vector<std::string> groups)
-      : Form(context, Design()), station_(std::move(station)), groups_(std::move(groups)) {}
+  // `usual`: the group that is offered first; any text.
+  frmPickGroup(FormContext& context, std::string station, std::vector<std::string> groups, std::string usual)
+      : Form(context, Design()),
+        station_(std::move(station)),
+        groups_(std::move(groups)),
+        usual_(std::move(usual)) {}
 
   // The name of a group, which may be a new one; "" when none was chosen.
   std::string AskGroup(HWND owner);
@@ -30,6 +34,7 @@ class frmPickGroup final : public Form {
 
   std::string station_;
   std::vector<std::string> groups_;
+  const std::string usual_;
   std::string chosen_;
 
   Label lblStation_{*this, lblStation};

@@ -8,14 +8,26 @@
 #include "playback/Players.h"
 #include "settings/CReg.h"
 #include "settings/SettingNames.h"
+#include "stations/PlayLink.h"
 
 namespace sonaro {
 
 namespace {
 
-constexpr const char* kKinds[] = {".m3u", ".pls", ".mp3", ".asx"};
+constexpr const char* kKinds[] = {".m3u", kPls, ".mp3", ".asx"};
 // The system's question which program to take; it stands for a kind of file that has none.
 constexpr const char* kSystemQuestion = "openwith.exe";
+
+std::string FileNameOf(const std::string& path) { return path.substr(path.find_last_of("\\/") + 1); }
+
+bool AsksTheUser(const std::string& path) { return EqualIgnoringCase(FileNameOf(path), kSystemQuestion); }
+
+const PlayerProgram* At(const std::vector<PlayerProgram>& programs, const std::string& path) {
+  const auto found = std::find_if(programs.begin(), programs.end(), [&](const PlayerProgram& program) {
+    return EqualIgnoringCase(program.path, path);
+  });
+  return found != programs.end() ? &*found : nullptr;
+}
 
 // A command is a path in quotes, or one that ends with the first ".exe".
 std::string ProgramOf(const std::string& command) {
@@ -43,26 +55,50 @@ std::string WithVariables(const std::string& path) {
 
 std::vector<PlayerProgram> InstalledPlayers::Find() const {
   Programs programs;
-  AddRegistered(programs);
+  AddRegistered(programs, kKinds);
   AddAssociated(programs);
   return programs;
 }
 
-void InstalledPlayers::AddRegistered(Programs& programs) const {
+std::string InstalledPlayers::ForKind(const char* kind) const {
+  const std::string associated = players_.AssociatedProgram(kind);
+  if (!associated.empty() && !AsksTheUser(associated) && data_.FileSystem().Exists(associated))
+    return associated;
+  Programs programs;
+  AddRegistered(programs, {&kind, 1});
+  return programs.empty() ? std::string() : programs.front().path;
+}
+
+std::string InstalledPlayers::ForLink(const PlayLink& link, const std::string& realPlayer) const {
+  if (std::string reader = link.IsPls() ? ForKind(kPls) : ""; !reader.empty()) return reader;
+  if (link.way == PlayWay::AsxProgram) return players_.FindAsxProgram();
+  return Players::IsRealPlayer(realPlayer) ? realPlayer : std::string();
+}
+
+std::string InstalledPlayers::NameOf(const std::string& path) const {
+  if (const PlayerProgram* known = At(named_, path)) return known->name;
+  Programs registered;
+  AddRegistered(registered, kKinds);
+  const PlayerProgram* const found = At(registered, path);
+  named_.push_back({found != nullptr ? found->name : OwnNameOf(FileNameOf(path)), path});
+  return named_.back().name;
+}
+
+void InstalledPlayers::AddRegistered(Programs& programs, Kinds kinds) const {
   for (const RootKey root : {RootKey::LocalMachine, RootKey::CurrentUser}) {
     const MainKeyScope scope(reg_, root);
     for (const std::string& name : reg_.ValueNames(systemkey::kRegisteredApplications)) {
       const std::string capabilities = reg_.GetData(systemkey::kRegisteredApplications, name);
-      if (!capabilities.empty()) AddApplication(programs, capabilities, name);
+      if (!capabilities.empty()) AddApplication(programs, kinds, capabilities, name);
     }
   }
 }
 
-void InstalledPlayers::AddApplication(Programs& programs, const std::string& capabilities,
+void InstalledPlayers::AddApplication(Programs& programs, Kinds kinds, const std::string& capabilities,
                                       const std::string& name) const {
   std::string shown = reg_.GetData(capabilities, systemkey::kApplicationName);
   if (shown.empty() || shown[0] == '@') shown = name;  // "@" refers to a text in some library
-  for (const char* kind : kKinds) {
+  for (const char* kind : kinds) {
     const std::string fileClass = reg_.GetData(capabilities + systemkey::kFileAssociations, kind);
     if (!fileClass.empty()) Add(programs, shown, ProgramOfClass(fileClass));
   }
@@ -86,13 +122,14 @@ std::string InstalledPlayers::ProgramOfClass(const std::string& fileClass) const
 }
 
 void InstalledPlayers::Add(Programs& programs, const std::string& name, const std::string& path) const {
-  const std::string fileName = path.substr(path.find_last_of("\\/") + 1);
-  if (path.empty() || EqualIgnoringCase(fileName, kSystemQuestion)) return;
-  const bool known = std::any_of(programs.begin(), programs.end(), [&](const PlayerProgram& program) {
-    return EqualIgnoringCase(program.path, path);
-  });
-  if (known || !data_.FileSystem().Exists(path)) return;
-  programs.push_back({name.empty() ? fileName : name, path});
+  if (path.empty() || AsksTheUser(path) || At(programs, path) || !data_.FileSystem().Exists(path)) return;
+  programs.push_back({name.empty() ? OwnNameOf(FileNameOf(path)) : name, path});
+}
+
+std::string InstalledPlayers::OwnNameOf(const std::string& fileName) const {
+  const MainKeyScope classes(reg_, RootKey::ClassesRoot);
+  const std::string own = reg_.GetData(systemkey::kApplications + fileName, systemkey::kFriendlyName);
+  return own.empty() || own[0] == '@' ? fileName : own;
 }
 
 }  // namespace sonaro

@@ -4,6 +4,7 @@
 #include <optional>
 
 #include "base/Text.h"
+#include "playback/InstalledPlayers.h"
 #include "playback/Players.h"
 #include "playback/WebPages.h"
 #include "resources/texts/playback.h"
@@ -49,6 +50,14 @@ LaunchOutcome PlayerLaunch::LaunchStation(const PlayRequest& request) {
   return outcome;
 }
 
+LaunchOutcome PlayerLaunch::LaunchStation(const StationKey& station) {
+  LaunchOutcome outcome{};
+  do {
+    outcome = TryLaunch(station);
+  } while (Tell(outcome));
+  return outcome;
+}
+
 // True when the user has chosen a player, so that it is worth another try.
 bool PlayerLaunch::Tell(LaunchOutcome outcome) {
   const std::string sentence = ErrorText(outcome);
@@ -66,50 +75,58 @@ bool PlayerLaunch::Tell(LaunchOutcome outcome) {
 }
 
 LaunchOutcome PlayerLaunch::TryLaunch(const PlayRequest& request) {
-  if (request.mode == PlayMode::KeyItself) return Launch(request.link);
-  if (request.mode == PlayMode::BeforeTab) return Launch(request.link.substr(0, request.link.find('\t')));
+  if (request.mode == PlayMode::KeyItself || request.mode == PlayMode::BeforeTab) {
+    const std::string name = request.station ? stations_.NameOf(request.station) : std::string();
+    return HandOver(name, request.mode == PlayMode::KeyItself
+                              ? request.link
+                              : request.link.substr(0, request.link.find('\t')));
+  }
   const Station station = stations_.Find(request.station);
   recent_.AddRecent(request.station);
   const std::string link = LinkOf(station, request.mode);
-  if (!IsBlank(link)) return Launch(link);
-  if (!station.alternateLink.empty()) return Launch(station.alternateLink);
-  return station.webSite.empty() ? LaunchOutcome::NoLink : FromWebPage(pages_.Open(station.webSite));
+  if (!IsBlank(link)) return HandOver(station.name, link);
+  if (!station.alternateLink.empty()) return HandOver(station.name, station.alternateLink);
+  return station.webSite.empty() ? LaunchOutcome::NoLink : OpenPage(station.name, station.webSite);
 }
 
 LaunchOutcome PlayerLaunch::TryLaunch(const StationKey& station) {
   const Station found = stations_.Find(station);
-  PlayRequest request{station};
-  std::string link = found.alternateLink;
-  // Backwards, so that the first link that there is wins.
-  for (int number = 3; number >= 1; --number) {
-    const std::string& own = found.links[static_cast<std::size_t>(number) - 1];
-    if (IsBlank(own)) continue;
-    link = own;
-    request.mode = station.IsOfUser() ? PlayMode::Personal : static_cast<PlayMode>(number);
-  }
+  const auto first = std::find_if_not(found.links.begin(), found.links.end(), IsBlank);
+  const std::string& link = first != found.links.end() ? *first : found.alternateLink;
   if (link.empty()) return LaunchOutcome::NoLink;
   recent_.AddRecent(station);
-  return Launch(link);
+  return HandOver(found.name, link);
+}
+
+LaunchOutcome PlayerLaunch::OpenPage(const std::string& name, const std::string& address) {
+  const LaunchOutcome outcome = FromWebPage(pages_.Open(address));
+  if (outcome == LaunchOutcome::WebPage && view_)
+    view_->HandedOver(FormatText(strings_.Load(IDS_HANDED_PAGE), {name}));
+  return outcome;
 }
 
 // The player is looked up first, whatever the link turns out to be: its marker file is then always in place.
-LaunchOutcome PlayerLaunch::Launch(const std::string& linkText) {
+LaunchOutcome PlayerLaunch::HandOver(const std::string& name, const std::string& linkText) {
   if (IsBlank(linkText)) return LaunchOutcome::NoLink;
-  std::string player(TrimBlanks(players_.FindRealPlayer(false)));
+  const std::string realPlayer(TrimBlanks(players_.FindRealPlayer(false)));
   const PlayLink link = PlayLink::FromText(linkText);
-  if (link.way == PlayWay::WebPage) return FromWebPage(pages_.Open(link.address));
+  if (link.way == PlayWay::WebPage) return OpenPage(name, link.address);
   if (TrimBlanks(link.address).empty()) return LaunchOutcome::NoLink;
   const std::optional<std::string> argument = PlayerArgument(link.address);
   if (!argument) return LaunchOutcome::RefusedLink;
-  if (const std::string chosen = players_.Chosen(); !chosen.empty()) {
-    player = chosen;
-  } else if (link.way == PlayWay::AsxProgram) {
-    player = players_.FindAsxProgram();
-    if (player.empty()) return LaunchOutcome::NoAsxProgram;
-  } else if (!Players::IsRealPlayer(player)) {
-    return LaunchOutcome::NoPlayer;
-  }
-  return players_.Play(player, *argument) ? LaunchOutcome::Started : LaunchOutcome::NotStarted;
+  std::string player = players_.Chosen();
+  if (player.empty()) player = installed_.ForLink(link, realPlayer);
+  if (player.empty())
+    return link.way == PlayWay::AsxProgram ? LaunchOutcome::NoAsxProgram : LaunchOutcome::NoPlayer;
+  if (!players_.Play(player, *argument)) return LaunchOutcome::NotStarted;
+  SayHandedOver(name, player);
+  return LaunchOutcome::Started;
+}
+
+void PlayerLaunch::SayHandedOver(const std::string& name, const std::string& program) {
+  if (!view_) return;
+  const int text = name.empty() ? IDS_HANDED_LINK : IDS_HANDED_TO;
+  view_->HandedOver(FormatText(strings_.Load(text), {name, installed_.NameOf(program)}));
 }
 
 // A launch by a timer can come while the dialog of an earlier one is open; there is only ever one.

@@ -10,6 +10,7 @@
 
 namespace sonaro {
 
+class InstalledPlayers;
 class Players;
 class RecentList;
 class Strings;
@@ -34,22 +35,30 @@ class LaunchView : public ErrorView {
   virtual bool ShowNoPlayer() = 0;
   // Says why nothing plays, with the choice of a player as a way out. True when the user has chosen one.
   virtual bool OfferPlayers(const std::string& sentence) = 0;
+  // A program has been given the link; `sentence` says to whom what was handed.
+  virtual void HandedOver(const std::string& sentence) = 0;
 };
 
 class PlayerLaunch {
  public:
-  PlayerLaunch(const StationSource& stations, RecentList& recent, Players& players, WebPages& pages,
-               const Strings& strings)
-      : stations_(stations), recent_(recent), players_(players), pages_(pages), strings_(strings) {}
+  PlayerLaunch(const StationSource& stations, RecentList& recent, Players& players,
+               const InstalledPlayers& installed, WebPages& pages, const Strings& strings)
+      : stations_(stations),
+        recent_(recent),
+        players_(players),
+        installed_(installed),
+        pages_(pages),
+        strings_(strings) {}
 
-  // The view may be set late; without one nothing is shown.
+  // The view may be set late; without one nothing is shown. No play is reported to anybody else.
   void SetView(LaunchView* view) { view_ = view; }
 
   // Plays a station's link, or one that the request brings along; a link that the station lacks gives way to
   // the alternate one, then to the web site. Says to the user why nothing plays; when a player is chosen
   // thereupon, it plays after all.
   LaunchOutcome LaunchStation(const PlayRequest& request);
-  // The same without a word, for those who play by themselves and must not stop in a dialog.
+  LaunchOutcome LaunchStation(const StationKey& station);
+  // The same without a dialog, for those who play by themselves and must not stop in one.
   LaunchOutcome TryLaunch(const PlayRequest& request);
   // The same for a station as a whole: the first link that it has, or the alternate one. Never opens its web
   // site instead.
@@ -64,7 +73,9 @@ class PlayerLaunch {
   std::string ErrorText(LaunchOutcome outcome) const;
 
  private:
-  LaunchOutcome Launch(const std::string& linkText);
+  LaunchOutcome HandOver(const std::string& name, const std::string& linkText);
+  LaunchOutcome OpenPage(const std::string& name, const std::string& address);
+  void SayHandedOver(const std::string& name, const std::string& program);
   bool Tell(LaunchOutcome outcome);
 
   static constexpr int kNoPlayerShown = 100;
@@ -72,6 +83,7 @@ class PlayerLaunch {
   const StationSource& stations_;
   RecentList& recent_;
   Players& players_;
+  const InstalledPlayers& installed_;
   WebPages& pages_;
   const Strings& strings_;
   LaunchView* view_ = nullptr;

@@ -1,6 +1,9 @@
 #include "playback/PlayerReport.h"
 
+#include <algorithm>
+
 #include "base/DataFolder.h"
+#include "playback/InstalledPlayers.h"
 #include "playback/Players.h"
 #include "resources/texts/playback.h"
 #include "settings/AppState.h"
@@ -8,54 +11,64 @@
 
 namespace sonaro {
 
-namespace {
-
-std::string FileNameOf(const std::string& path) { return path.substr(path.find_last_of("\\/") + 1); }
-
-}  // namespace
+const LinkCounts& PlayerReporter::CountLinks() {
+  if (!counts_) counts_ = stations_.CountLinks();
+  return *counts_;
+}
 
 std::string PlayerReporter::Figure(std::size_t figure) const {
   return FormatCount(figure, state_.decimalMode);
 }
 
 // A kind of link that no station has is not worth a line.
-PlayerReport::Line PlayerReporter::OfKind(std::size_t stations, const std::string& program, int plays,
-                                          int missing) const {
-  if (stations == 0) return {};
-  if (!program.empty()) return {FormatText(strings_.Load(plays), {Figure(stations), FileNameOf(program)})};
-  return {FormatText(strings_.Load(missing), {Figure(stations)}), true};
+void PlayerReporter::AddKind(PlayerReport& report, std::size_t stations, const std::string& program,
+                             int plays, int missing) const {
+  if (stations == 0) return;
+  if (program.empty()) {
+    report.lines.push_back({FormatText(strings_.Load(missing), {Figure(stations)}), true});
+  } else {
+    report.lines.push_back(
+        {FormatText(strings_.Load(plays), {Figure(stations), installed_.NameOf(program)})});
+  }
 }
 
-// A chosen program gets every stream link, so one line says it all.
-PlayerReport PlayerReporter::OfProgram(std::size_t stations, const std::string& program) const {
-  if (!data_.FileSystem().Exists(program)) {
-    return {PlayerReport::Plays::Nothing,
-            {{{strings_.Load(IDS_NOPLAYER_CANT_FIND) + program, true}, {}, {}}}};
+void PlayerReporter::AddProgram(PlayerReport& report, std::size_t stations,
+                                const std::string& program) const {
+  if (data_.FileSystem().Exists(program)) {
+    report.plays = PlayerReport::Plays::Everything;
+    AddKind(report, stations, program, IDS_PLAYERS_ALL, 0);
+  } else {
+    report.lines.push_back({strings_.Load(IDS_NOPLAYER_CANT_FIND) + program, true});
   }
-  return {PlayerReport::Plays::Everything,
-          {{{FormatText(strings_.Load(IDS_PLAYERS_ALL), {Figure(stations), FileNameOf(program)})}, {}, {}}}};
+}
+
+void PlayerReporter::AddKinds(PlayerReport& report, const LinkCounts& counts) const {
+  const std::string asx = players_.FindAsxProgram();
+  const std::string found = players_.FindRealPlayer(false);
+  const std::string real = Players::IsRealPlayer(found) ? found : std::string();
+  const std::string pls = installed_.ForKind(kPls);
+  // Without a reader of their own such playlists go where the other links go.
+  const std::size_t plsOfAsx = pls.empty() ? 0 : counts.plsAmongAsx;
+  const std::size_t plsOfReal = pls.empty() ? 0 : counts.plsAmongReal;
+  AddKind(report, counts.asxProgram - plsOfAsx, asx, IDS_PLAYERS_ASX,
+          counts.asxProgram > counts.realPlayer ? IDS_PLAYERS_ASX_NONE_MOST : IDS_PLAYERS_ASX_NONE);
+  AddKind(report, counts.realPlayer - plsOfReal, real, IDS_PLAYERS_REAL, IDS_PLAYERS_REAL_NONE);
+  AddKind(report, plsOfAsx + plsOfReal, pls, IDS_PLAYERS_PLS, 0);
+  if (asx.empty() && real.empty()) return;
+  const bool some = std::any_of(report.lines.begin(), report.lines.end(),
+                                [](const PlayerReport::Line& line) { return line.missing; });
+  report.plays = some ? PlayerReport::Plays::Some : PlayerReport::Plays::Everything;
 }
 
 PlayerReport PlayerReporter::Report(const LinkCounts& counts, const std::string& program) const {
   PlayerReport report;
-  if (!program.empty()) {
-    report = OfProgram(counts.asxProgram + counts.realPlayer, program);
+  if (program.empty()) {
+    AddKinds(report, counts);
   } else {
-    const std::string asx = players_.FindAsxProgram();
-    // What opens .ram files need not be such a player; only one that is counts.
-    const std::string found = players_.FindRealPlayer(false);
-    const std::string real = Players::IsRealPlayer(found) ? found : std::string();
-    report.lines[0] =
-        OfKind(counts.asxProgram, asx, IDS_PLAYERS_ASX,
-               counts.asxProgram > counts.realPlayer ? IDS_PLAYERS_ASX_NONE_MOST : IDS_PLAYERS_ASX_NONE);
-    report.lines[1] = OfKind(counts.realPlayer, real, IDS_PLAYERS_REAL, IDS_PLAYERS_REAL_NONE);
-    const bool nothing = asx.empty() && real.empty();
-    report.plays = nothing                                              ? PlayerReport::Plays::Nothing
-                   : report.lines[0].missing || report.lines[1].missing ? PlayerReport::Plays::Some
-                                                                        : PlayerReport::Plays::Everything;
+    AddProgram(report, counts.asxProgram + counts.realPlayer, program);
   }
   if (counts.webPage > 0)
-    report.lines[2] = {FormatText(strings_.Load(IDS_PLAYERS_WEB), {Figure(counts.webPage)})};
+    report.lines.push_back({FormatText(strings_.Load(IDS_PLAYERS_WEB), {Figure(counts.webPage)})});
   return report;
 }
 

@@ -31,12 +31,12 @@ PlayerChoiceOutcome PlayerSetup::Choose(const std::string& path) {
   return Chosen() == path ? PlayerChoiceOutcome::Stored : PlayerChoiceOutcome::NotStored;
 }
 
-bool PlayerSetup::Test(const std::string& path, const std::string& testLink) const {
-  const std::optional<std::string> link = PlayerArgument(testLink);
-  std::string program = path;
-  if (program.empty()) program = players_.FindRealPlayer(false);
-  if (program.empty()) program = players_.FindAsxProgram();
-  return link && files_.Exists(program) && players_.Play(program, *link);
+std::string PlayerSetup::Test(const std::string& path, const std::string& linkText) const {
+  const PlayLink link = PlayLink::FromText(linkText);
+  const std::string program = path.empty() ? installed_.ForLink(link, players_.FindRealPlayer(false)) : path;
+  const std::optional<std::string> argument = PlayerArgument(link.address);
+  const bool started = argument && files_.Exists(program) && players_.Play(program, *argument);
+  return started ? installed_.NameOf(program) : std::string();
 }
 
 }  // namespace sonaro

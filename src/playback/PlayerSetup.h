@@ -26,9 +26,9 @@ class PlayerSetup {
   std::string Chosen() const;
   // Any executable; "" leaves it to the kind of the link again.
   [[nodiscard]] PlayerChoiceOutcome Choose(const std::string& path);
-  // Plays the service's test link with the program, or with the one that the system has when it is "". False
-  // when none did start.
-  bool Test(const std::string& path, const std::string& testLink) const;
+  // Plays a link text with the program or, when `path` is "", as one of its kind is played. What the program
+  // is called; "" when none was started.
+  std::string Test(const std::string& path, const std::string& linkText) const;
 
  private:
   CReg& reg_;

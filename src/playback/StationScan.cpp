@@ -244,6 +244,18 @@ void StationScan::PutBack(std::size_t historyRow) {
   ShowState();
 }
 
+void StationScan::PlayAgain(std::size_t historyRow) {
+  if (historyRow >= history_.size()) return;
+  const StationKey station = history_[historyRow].key;  // the list can grow while the player starts
+  if (state_ != ScanState::Idle) {
+    state_ = ScanState::Paused;
+    currentWaits_ = true;
+    EnableTimer(false);
+    ShowState();
+  }
+  player_.LaunchStation(station);
+}
+
 ScanRow StationScan::QueueRow(std::size_t row) const {
   return row < queue_.size() ? Describe(queue_[row]) : ScanRow{};
 }
@@ -265,6 +277,7 @@ ScanButtons StationScan::Buttons(std::optional<std::size_t> selectedQueueRow) co
   buttons.moveDown = selected && *selectedQueueRow + 1 < queue_.size();
   buttons.remove = selected;
   buttons.clear = !queue_.empty() || !history_.empty();
+  buttons.keep = current_.has_value();
   return buttons;
 }
 

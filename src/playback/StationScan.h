@@ -56,6 +56,7 @@ struct ScanButtons {
   bool moveDown = false;
   bool remove = false;
   bool clear = false;
+  bool keep = false;
   bool operator==(const ScanButtons&) const = default;
 };
 
@@ -103,8 +104,11 @@ class StationScan {
   void MoveRow(std::size_t from, std::size_t to);
   // Puts the station of a history row to the end of the queue.
   void PutBack(std::size_t historyRow);
+  // Plays the station of a history row. A scan that runs pauses, and then goes on with its station anew.
+  void PlayAgain(std::size_t historyRow);
 
   ScanState State() const { return state_; }
+  StationKey Current() const { return current_ ? current_->key : StationKey(); }  // None while idle
   std::size_t QueueCount() const { return queue_.size(); }
   ScanRow QueueRow(std::size_t row) const;
   std::size_t HistoryCount() const { return history_.size(); }

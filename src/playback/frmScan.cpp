@@ -68,6 +68,8 @@ frmScan::~frmScan() {
 }
 
 void frmScan::OnLoad() {
+  // Owned windows have no button in the task bar otherwise, and the main window may be in the tray.
+  SetWindowLongPtrW(Window(), GWL_EXSTYLE, GetWindowLongPtrW(Window(), GWL_EXSTYLE) | WS_EX_APPWINDOW);
   lstToScan_->SetColumns(
       {{LoadText(IDS_SCAN_W_COLUMN_NAME), 163}, {LoadText(IDS_SCAN_W_COLUMN_LOCATION), 136}});
   lstToScan_->SetEmptyText(LoadText(IDS_SCAN_W_EMPTY), LoadText(IDS_SCAN_W_EMPTY_HELP));
@@ -114,6 +116,9 @@ void frmScan::ShowState() {
   butMoveDownIt_.Enable(can.moveDown);
   butRemoveStationIt_.Enable(can.remove);
   butClearIt_.Enable(can.clear);
+  const bool kept = groups_.IsMember(scan_.Current());
+  butKeepIt_.SetText(LoadText(kept ? IDS_SCAN_W_KEPT : IDS_SCAN_W_KEEP));
+  butKeepIt_.Enable(can.keep && !kept);
 }
 
 void frmScan::ShowTimeLeft() {
@@ -187,6 +192,11 @@ void frmScan::butRemoveStationIt_Click() {
   if (const auto row = QueueRow()) scan_.Remove(*row);
 }
 
+void frmScan::butKeepIt_Click() {
+  program_.KeepStation(*this, scan_.Current());
+  ShowState();
+}
+
 void frmScan::butScanTimeIt_Click() {
   frmScanTime dialog(context_, scan_.StoredScanTime());
   if (dialog.ShowModal(Window()) == 1) scan_.SetScanTime(dialog.Chosen());
@@ -220,7 +230,7 @@ void frmScan::lstToScan_ContextMenu(int row, POINT at) {
 }
 
 void frmScan::lstScanedAlready_ItemActivate(int row) {
-  if (row >= 0) scan_.PutBack(static_cast<std::size_t>(row));
+  if (row >= 0) scan_.PlayAgain(static_cast<std::size_t>(row));
 }
 
 void frmScan::lstScanedAlready_ContextMenu(int row, POINT at) {
@@ -228,7 +238,8 @@ void frmScan::lstScanedAlready_ContextMenu(int row, POINT at) {
   // A row number is enough here: rows of the history are only added at the end.
   menuHistoryRow_ = row;
   menuStation_ = scan_.HistoryRow(static_cast<std::size_t>(row)).key;
-  std::vector<MenuEntry> menu = {{.command = mnuScanPutBack, .text = LoadText(IDS_SCAN_W_MENU_PUT_BACK)}};
+  std::vector<MenuEntry> menu = {{.command = mnuScanPlay, .text = LoadText(IDS_SCAN_W_MENU_PLAY)},
+                                 {.command = mnuScanPutBack, .text = LoadText(IDS_SCAN_W_MENU_PUT_BACK)}};
   std::vector<MenuEntry> groups = GroupEntries();
   if (!groups.empty()) menu.push_back({});
   menu.insert(menu.end(), groups.begin(), groups.end());
@@ -242,7 +253,11 @@ void frmScan::mnuScanRemove_Click() {
   if (row && (!menuStation_ || scan_.QueueRow(*row).key == menuStation_)) scan_.Remove(*row);
 }
 
-void frmScan::mnuScanPutBack_Click() { lstScanedAlready_ItemActivate(menuHistoryRow_); }
+void frmScan::mnuScanPlay_Click() { lstScanedAlready_ItemActivate(menuHistoryRow_); }
+
+void frmScan::mnuScanPutBack_Click() {
+  if (menuHistoryRow_ >= 0) scan_.PutBack(static_cast<std::size_t>(menuHistoryRow_));
+}
 
 void frmScan::mnuScanToGroup_Click(int group) {
   const auto index = static_cast<std::size_t>(group);
@@ -257,6 +272,10 @@ void frmScan::lstToScan_BeginDrag(int row) {
 }
 
 bool frmScan::OnMessage(UINT message, WPARAM, LPARAM lParam, LRESULT& result) {
+  if (message == WM_SHOWWINDOW && lParam == SW_PARENTCLOSING) {
+    result = 0;  // the main window was minimised; the scan goes on before the user's eyes
+    return true;
+  }
   if (draggedRow_ < 0) return false;
   if (message == WM_LBUTTONUP) {
     POINT at = {static_cast<short>(LOWORD(lParam)), static_cast<short>(HIWORD(lParam))};

@@ -1,5 +1,6 @@
 // The window of the station scan, full with queue and history or compact with the labels and buttons only.
-// StationScan decides everything; this window shows it and hands the presses on.
+// The main window owns it, so that it stays above that one. StationScan decides everything; this window shows
+// it and hands the presses on.
 #pragma once
 
 #include <string>
@@ -76,6 +77,7 @@ class frmScan final : public Form, private ScanView {
   void butClearIt_Click();
   void mnuUndo_Click();
   void butFullIt_Click() { UseFullLayout(CurrentLayout() != 0); }
+  void butKeepIt_Click();
   void butScanTimeIt_Click();
   void butCloseIt_Click() { Close(); }
   void butHelp_Click();
@@ -86,6 +88,7 @@ class frmScan final : public Form, private ScanView {
   void lstScanedAlready_ItemActivate(int row);
   void lstScanedAlready_ContextMenu(int row, POINT at);
   void mnuScanRemove_Click();
+  void mnuScanPlay_Click();
   void mnuScanPutBack_Click();
   void mnuScanToGroup_Click(int group);
 
@@ -112,6 +115,7 @@ class frmScan final : public Form, private ScanView {
   Button butMoveDownIt_{*this, butMoveDownIt};
   Button butRemoveStationIt_{*this, butRemoveStationIt};
   Button butClearIt_{*this, butClearIt};
+  Button butKeepIt_{*this, butKeepIt};
   Label lblQueueCount_{*this, lblQueueCount};
   Panel panScanFull_{*this, panScanFull};
   Panel panScanCompact_{*this, panScanCompact};

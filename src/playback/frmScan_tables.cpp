@@ -100,6 +100,11 @@ const FormDesign& frmScan::Design() {
        .text = IDS_SCAN_W_SKIP,
        .at = {162, 432, 96, 30},
        .icon = Icon::Skip},
+      {.id = butKeepIt,
+       .kind = ControlKind::PushButton,
+       .text = IDS_SCAN_W_KEEP,
+       .at = {266, 432, 96, 30},
+       .icon = Icon::Fav},
       {.id = butFullIt,
        .kind = ControlKind::PushButton,
        .text = IDS_SCAN_W_COMPACT,
@@ -116,10 +121,10 @@ const FormDesign& frmScan::Design() {
   static constexpr Bounds kCompact[] = {
       {lblTitle, {40, 4, 156, 26}},           {panScanCompact, {12, 44, 416, 52}},
       {lblCurrentScaning, {22, 47, 250, 22}}, {lblTimeLeft, {274, 47, 144, 22}},
-      {picScan, {22, 72, 396, 18}},           {butStartIt, {12, 104, 124, 28}},
-      {butMoveNextIt, {142, 104, 76, 28}},    {butFullIt, {246, 104, 92, 28}},
-      {butDoneScanIt, {344, 104, 84, 28}},    {butHelp, {368, 12, 28, 22}},
-      {butCloseIt, {400, 12, 28, 22}},
+      {picScan, {22, 72, 396, 18}},           {butStartIt, {12, 104, 120, 28}},
+      {butMoveNextIt, {136, 104, 68, 28}},    {butKeepIt, {208, 104, 72, 28}},
+      {butFullIt, {288, 104, 72, 28}},        {butDoneScanIt, {364, 104, 64, 28}},
+      {butHelp, {368, 12, 28, 22}},           {butCloseIt, {400, 12, 28, 22}},
   };
   static constexpr Layout kLayouts[] = {{.size = {440, 150}, .outline = "scc44", .places = kCompact}};
   static constexpr KeyRow kKeys[] = {{.key = VK_DELETE, .command = butRemoveStationIt, .onlyIn = lstToScan},
@@ -144,6 +149,7 @@ std::span<const EventRow> frmScan::Events() const {
       {butMoveUpIt, Click, &frmScan::butMoveUpIt_Click},
       {butMoveDownIt, Click, &frmScan::butMoveDownIt_Click},
       {butRemoveStationIt, Click, &frmScan::butRemoveStationIt_Click},
+      {butKeepIt, Click, &frmScan::butKeepIt_Click},
       {mnuScanRemove, Click, &frmScan::mnuScanRemove_Click},
       {butClearIt, Click, &frmScan::butClearIt_Click},
       {mnuUndo, Click, &frmScan::mnuUndo_Click},
@@ -157,6 +163,7 @@ std::span<const EventRow> frmScan::Events() const {
       {lstToScan, ContextMenu, &frmScan::lstToScan_ContextMenu},
       {lstScanedAlready, ItemActivated, &frmScan::lstScanedAlready_ItemActivate},
       {lstScanedAlready, ContextMenu, &frmScan::lstScanedAlready_ContextMenu},
+      {mnuScanPlay, Click, &frmScan::mnuScanPlay_Click},
       {mnuScanPutBack, Click, &frmScan::mnuScanPutBack_Click},
       {mnuScanToGroup, Click, &frmScan::mnuScanToGroup_Click, 10},
   };

@@ -116,7 +116,10 @@ inline constexpr const char* kRegisteredApplications = "SOFTWARE\\RegisteredAppl
 inline constexpr const char* kFileAssociations = "\\FileAssociations";
 inline constexpr const char* kApplicationName = "ApplicationName";
 
-// HKEY_CLASSES_ROOT: the command of a class, and the classes that a kind of file can be opened with.
+// HKEY_CLASSES_ROOT: the command of a class, the classes that a kind of file can be opened with, and what a
+// program is called, by its file name.
+inline constexpr const char* kApplications = "Applications\\";
+inline constexpr const char* kFriendlyName = "FriendlyAppName";
 inline constexpr const char* kOpenCommand = "\\shell\\open\\command";
 inline constexpr const char* kOpenWith = "\\OpenWithProgids";
 

@@ -1,6 +1,6 @@
-// What the user has taken away in this session and can have back, the last act first. Whoever removes
-// something of the user's adds the act that gives it back; Ctrl+Z and the button in the status line call
-// Undo. Owned by Application; every window shares it.
+// What the user has done to his own in this session and can take back, the last act first. Whoever removes
+// something of the user's, or puts it somewhere with one click, adds the act that undoes it; Ctrl+Z and the
+// button in the status line call Undo. Owned by Application; every window shares it.
 //
 // An act holds values only (keys, names, lines): between the removal and its undoing the files, the lists and
 // the windows may change.

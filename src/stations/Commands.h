@@ -96,6 +96,8 @@ class ProgramCommands : public TrayMessages {
   virtual void ShowGroup(const std::string& name) = 0;
   // For windows that have no groups of their own.
   virtual void AddStationToGroup(const std::string& group, const StationKey& station) = 0;
+  // Adds the station to the group that was used last, or asks for one before `owner`.
+  virtual void KeepStation(Form& owner, const StationKey& station) = 0;
   // Hides the main window; the tray brings it back.
   virtual void HideToTray() = 0;
   // The close button: hides or ends the program, as the user wants.

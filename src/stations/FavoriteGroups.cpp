@@ -83,6 +83,7 @@ bool FavoriteGroups::LoadUnread() {
 }
 
 void FavoriteGroups::ReadFile() {
+  members_.reset();
   groups_.clear();
   owesCopy_ = false;
   for (const std::string_view line : SplitLines(file_.Text())) {
@@ -142,6 +143,7 @@ FavoriteChange FavoriteGroups::Change(const std::function<bool()>& edit) {
   if (seen == UserFile::Seen::Changed) ReadFile();
   // For the case that the change cannot be saved: memory never holds what the file does not.
   std::vector<Group> before = groups_;
+  members_.reset();
   if (!edit()) return FavoriteChange::Nothing;
   const FavoriteChange saved = SaveFavoriteGroups();
   if (saved != FavoriteChange::Saved) groups_ = std::move(before);
@@ -170,6 +172,21 @@ std::optional<std::size_t> FavoriteGroups::Find(std::string_view name) const {
 
 bool FavoriteGroups::Contains(std::size_t group, const StationKey& station) const {
   return std::find(Keys(group).begin(), Keys(group).end(), station) != Keys(group).end();
+}
+
+bool FavoriteGroups::IsMember(const StationKey& station) const {
+  if (!members_) {
+    members_.emplace();
+    for (const Group& group : groups_) members_->insert(group.keys.begin(), group.keys.end());
+  }
+  return station && members_->contains(station);
+}
+
+std::optional<std::size_t> FavoriteGroups::GroupOf(const StationKey& station) const {
+  if (!IsMember(station)) return std::nullopt;
+  std::size_t group = 0;
+  while (!Contains(group, station)) ++group;
+  return group;
 }
 
 FavoriteChange FavoriteGroups::Add(std::string_view name, const StationKey& firstMember) {

@@ -10,6 +10,7 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <unordered_set>
 #include <vector>
 
 #include "base/OwnFiles.h"
@@ -53,6 +54,10 @@ class FavoriteGroups {
   // The group of this name, letter case ignored.
   std::optional<std::size_t> Find(std::string_view name) const;
   bool Contains(std::size_t group, const StationKey& station) const;
+  // Whether any group holds the station. For a list's rows: cheap.
+  bool IsMember(const StationKey& station) const;
+  // The first group that holds it.
+  std::optional<std::size_t> GroupOf(const StationKey& station) const;
 
   // The changes. `name` is cleaned first; an empty one changes nothing.
   FavoriteChange Add(std::string_view name, const StationKey& firstMember = {});
@@ -111,6 +116,7 @@ class FavoriteGroups {
   UserFile file_;
   bool owesCopy_ = false;  // the file holds lines that were left out and are not kept beside yet
   std::vector<Group> groups_;
+  mutable std::optional<std::unordered_set<StationKey>> members_;  // of all groups, once they were asked for
 };
 
 }  // namespace sonaro

@@ -36,6 +36,13 @@ PlayLink PlayLink::FromText(std::string_view text) {
   return {PlayWay::RealPlayer, std::string(text)};
 }
 
+bool PlayLink::IsPls() const {
+  constexpr std::string_view kEnding = ".pls";
+  const std::string_view path = std::string_view(address).substr(0, address.find_first_of("?#;"));
+  return path.size() > kEnding.size() &&
+         EqualIgnoringCase(path.substr(path.size() - kEnding.size()), kEnding);
+}
+
 std::string PlayLink::ToText() const {
   if (address.empty()) return {};
   if (way == PlayWay::WebPage) return kWebPage + address;

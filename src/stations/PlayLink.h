@@ -15,6 +15,8 @@ struct PlayLink {
   std::string address;  // what is handed over
 
   static PlayLink FromText(std::string_view text);
+  // Whether the address is that of a .pls playlist, which not every player reads.
+  bool IsPls() const;
   // The link text of a way and an address. One for the RealPlayer-compatible player that begins with "w" or
   // "m" itself gets that as a capital, "Mms://host/x": the same address, which reads back as what it is.
   std::string ToText() const;

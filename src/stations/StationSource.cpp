@@ -249,6 +249,22 @@ std::vector<PlayableLink> PlayableLinks(const Station& station, const ExtraLinks
   return playable;
 }
 
+void LinkCounts::Add(std::string_view station, const std::string& linkText) {
+  const PlayLink played = PlayLink::FromText(linkText);
+  if (played.way == PlayWay::WebPage) {
+    ++webPage;
+    return;
+  }
+  const bool asx = played.way == PlayWay::AsxProgram;
+  ++(asx ? asxProgram : realPlayer);
+  if (played.IsPls()) {
+    ++(asx ? plsAmongAsx : plsAmongReal);
+  } else if (link.empty()) {
+    name = station;
+    link = linkText;
+  }
+}
+
 // Counts stations by the link that would be played first.
 LinkCounts StationSource::CountLinks() const {
   LinkCounts counts;
@@ -260,11 +276,7 @@ LinkCounts StationSource::CountLinks() const {
       link = record[field];
       UnscrambleText(link, alphabets_);
     }
-    if (TrimBlanks(link).empty()) return;
-    const PlayWay way = PlayLink::FromText(link).way;
-    ++(way == PlayWay::AsxProgram ? counts.asxProgram
-       : way == PlayWay::WebPage  ? counts.webPage
-                                  : counts.realPlayer);
+    if (!TrimBlanks(link).empty()) counts.Add(record[StationField::Name], link);
   });
   return counts;
 }

@@ -88,6 +88,12 @@ struct LinkCounts {
   std::size_t asxProgram = 0;
   std::size_t realPlayer = 0;
   std::size_t webPage = 0;
+  std::size_t plsAmongAsx = 0;   // of those for the program for .asx files, the links to .pls playlists
+  std::size_t plsAmongReal = 0;  // the same of those for the RealPlayer-compatible player
+  std::string name;              // of the first station that is played by a player, and its link text
+  std::string link;
+
+  void Add(std::string_view station, const std::string& linkText);
 };
 
 StationInfo InfoOf(const StationView& station);

@@ -2,6 +2,8 @@
 
 #include "base/Text.h"
 #include "forms/MessageLoop.h"
+#include "playback/PlayerReport.h"
+#include "playback/PlayerSetup.h"
 #include "resources/texts/tray.h"
 #include "settings/Strings.h"
 
@@ -48,6 +50,26 @@ void frmOptions::OnLoad() {
   }
   options_ = model_.Read();
   Fill(options_);
+  StartTimer(tmrPlaying, 1);  // counting the links goes through the whole guide: once the window is there
+}
+
+std::span<const TimerRow> frmOptions::Timers() const {
+  static const TimerRow kRows[] = {{tmrPlaying, &frmOptions::tmrPlaying_Timer}};
+  return kRows;
+}
+
+void frmOptions::tmrPlaying_Timer() {
+  StopTimer(tmrPlaying);
+  const PlayerReport report = use_.players.Report(use_.players.CountLinks(), use_.playWith.Chosen());
+  std::string text;
+  for (const PlayerReport::Line& line : report.lines) text += (text.empty() ? "" : "\n") + line.text;
+  lblPlaying_.SetColor(report.plays == PlayerReport::Plays::Nothing ? TextColor::Alert : TextColor::Text);
+  lblPlaying_.SetText(text);
+}
+
+void frmOptions::butPlayerIt_Click() {
+  use_.program.ChoosePlayer(*this);
+  tmrPlaying_Timer();
 }
 
 // Also when the window is closed: a faceplate that was only tried gives way to the stored one.

@@ -12,12 +12,17 @@
 
 namespace sonaro {
 
+class PlayerReporter;
+class PlayerSetup;
+
 // What the options use of the rest of the program.
 struct OptionsServices {
   ProgramCommands& program;
   ScheduleCommands& schedule;
   UpdateCommands& update;
   HelpPages& help;
+  const PlayerSetup& playWith;
+  PlayerReporter& players;
 };
 
 class frmOptions final : public Form {
@@ -28,6 +33,7 @@ class frmOptions final : public Form {
  private:
   static const FormDesign& Design();
   std::span<const EventRow> Events() const override;
+  std::span<const TimerRow> Timers() const override;
   void OnLoad() override;
   void OnUnload() override;
   void Fill(const Options& options);
@@ -42,7 +48,8 @@ class frmOptions final : public Form {
   void txtProxy_Change();
   void butFindProxyIt_Click();
   void butTestProxyIt_Click();
-  void butPlayerIt_Click() { use_.program.ChoosePlayer(*this); }
+  void butPlayerIt_Click();
+  void tmrPlaying_Timer();
   void optFaceplate_Click(int faceplate);
   void butAboutTimeIt_Click() { use_.schedule.ExplainTimes(*this); }
   void butOKIt_Click();
@@ -66,6 +73,7 @@ class frmOptions final : public Form {
   ControlArray<RadioButton> optProxy_{*this, optProxy, 2};
   Button butTestProxyIt_{*this, butTestProxyIt};
   Label lblOptionsInfo_{*this, lblOptionsInfo};
+  Label lblPlaying_{*this, lblPlaying};
 };
 
 }  // namespace sonaro

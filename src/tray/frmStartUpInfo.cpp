@@ -5,7 +5,6 @@
 #include "forms/DialogRows.h"
 #include "forms/FileDialog.h"
 #include "forms/WideText.h"
-#include "playback/PlayerReport.h"
 #include "playback/PlayerSetup.h"
 #include "resources/texts/playback.h"
 #include "resources/texts/tray.h"
@@ -32,10 +31,10 @@ const setting::Switch* CheckOf(StartUpInfoPage page) {
   return page == StartUpInfoPage::Proxy ? &setting::kStartProxy : nullptr;
 }
 
-constexpr ControlRow ReportLine(int id, int y) {
-  return {.id = id,
+constexpr ControlRow ReportLine(int line) {
+  return {.id = lblFound + line,
           .kind = ControlKind::StateLabel,
-          .at = {30, y, 540, 20},
+          .at = {30, 203 + 17 * line, 540, 17},
           .flags = kOnGlass | kNoPrefix,
           .pane = kPlayerPane};
 }
@@ -49,7 +48,7 @@ const FormDesign& frmStartUpInfo::Design() {
       {.id = lblTitle, .kind = ControlKind::TitleBar, .text = IDS_STARTUP_TITLE, .at = {40, 4, 216, 26}},
       {.id = lblHead, .kind = ControlKind::StateLabel, .at = {14, 48, 560, 28}, .style = TextStyle::Heading},
       {.id = lblText, .kind = ControlKind::StateLabel, .at = {14, 80, 572, 56}, .flags = kWrap},
-      {.kind = ControlKind::Glass, .at = {14, 142, 572, 160}, .cut = 12},
+      {.kind = ControlKind::Glass, .at = {14, 142, 572, 164}, .cut = 12},
       {.kind = ControlKind::Label,
        .text = IDS_STARTUP_PLAY_WITH,
        .at = {30, 148, 400, 22},
@@ -68,19 +67,20 @@ const FormDesign& frmStartUpInfo::Design() {
        .at = {474, 172, 98, 28},
        .flags = kOnGlass,
        .pane = kPlayerPane},
-      ReportLine(lblFound, 204),
-      ReportLine(lblOthersFound, 223),
-      ReportLine(lblWebFound, 242),
+      ReportLine(0),
+      ReportLine(1),
+      ReportLine(2),
+      ReportLine(3),
       {.id = butFindIt,
        .kind = ControlKind::PushButton,
        .text = IDS_NOPLAYER_FIND_IT,
-       .at = {30, 266, 104, 30},
+       .at = {30, 274, 104, 26},
        .flags = kOnGlass,
        .pane = kPlayerPane},
       {.id = butTestProgramIt,
        .kind = ControlKind::PushButton,
        .text = IDS_NOPLAYER_TEST_PROGRAM,
-       .at = {142, 266, 124, 30},
+       .at = {142, 274, 124, 26},
        .flags = kOnGlass,
        .pane = kPlayerPane},
       {.kind = ControlKind::Label,
@@ -158,10 +158,9 @@ void frmStartUpInfo::OnLoad() {
   ShowPane(kProxyPane, proxyPage);
   chkDontShow_.Show(CheckOf(page_) != nullptr);
   if (proxyPage) {
-    ShowTexts(IDS_STARTUP_TITLE, IDS_STARTUP_PROXY_HEAD, IDS_STARTUP_PROXY_TEXT);
+    ShowTexts(IDS_STARTUP_PROXY_TITLE, IDS_STARTUP_PROXY_HEAD, IDS_STARTUP_PROXY_TEXT);
     lblProxyFound_.SetText(proxy_);
     optUseProxy_.Check();
-    chkDontShow_.Check();  // a proxy that was decided on need not be asked for again
   } else {
     // Counted once: going over the whole directory takes too long to be done with every choice.
     counts_ = dependencies_.reporter.CountLinks();
@@ -205,10 +204,11 @@ std::string frmStartUpInfo::Selected() const {
 void frmStartUpInfo::ShowReport() {
   using Plays = PlayerReport::Plays;
   const PlayerReport report = dependencies_.reporter.Report(counts_, Selected());
-  const Label lines[] = {lblFound_, lblOthersFound_, lblWebFound_};
-  for (std::size_t line = 0; line < report.lines.size(); ++line) {
-    lines[line].SetColor(report.lines[line].missing ? TextColor::Alert : TextColor::Signal);
-    lines[line].SetText(report.lines[line].text);
+  for (std::size_t line = 0; line < PlayerReport::kMaxLines; ++line) {
+    const PlayerReport::Line told = line < report.lines.size() ? report.lines[line] : PlayerReport::Line();
+    const Label label = lblFound_[static_cast<int>(line)];
+    label.SetColor(told.missing ? TextColor::Alert : TextColor::Signal);
+    label.SetText(told.text);
   }
   const bool none = report.plays == Plays::Nothing;
   const int head = none                          ? IDS_STARTUP_PLAYER_HEAD
@@ -223,9 +223,9 @@ void frmStartUpInfo::ShowReport() {
 }
 
 // In place of the first line of the report, which is shown again with the next choice.
-void frmStartUpInfo::ShowError(const std::string& sentence) {
-  lblFound_.SetColor(TextColor::Alert);
-  lblFound_.SetText(sentence);
+void frmStartUpInfo::ShowSentence(const std::string& sentence, TextColor color) {
+  lblFound_[0].SetColor(color);
+  lblFound_[0].SetText(sentence);
 }
 
 // A program that is offered already is only selected, so that no path stands in the list twice.
@@ -248,13 +248,21 @@ void frmStartUpInfo::butFindIt_Click() {
   ShowReport();
 }
 
-// Plays the link of the setting, or a page of the service: it tells whether the player starts, not whether
-// the stream comes.
+// A link that the service has given for this; at the built-in address nothing needs to lie, so that until
+// then a station of the guide is played.
 void frmStartUpInfo::butTestProgramIt_Click() {
+  const std::string builtIn = ServiceAddress(ServiceHost::Web, "/sonaroapp/sonaro3/testrealurl.ram");
   std::string link = dependencies_.reg.Get(setting::kTestRealUrl);
-  if (link.empty()) link = ServiceAddress(ServiceHost::Web, "/sonaroapp/sonaro3/testrealurl.ram");
+  std::string name = LoadText(IDS_STARTUP_TEST_LINK);
+  if (link.empty()) link = builtIn;
+  if (link == builtIn && !counts_.link.empty()) {
+    link = counts_.link;
+    name = counts_.name;
+  }
   const std::string path = Selected();
-  if (dependencies_.player.Test(path, link)) return;
+  if (const std::string program = dependencies_.player.Test(path, link); !program.empty()) {
+    return ShowSentence(FormatText(LoadText(IDS_STARTUP_TESTED), {name, program}), TextColor::Signal);
+  }
   ShowError(path.empty() ? LoadText(IDS_STARTUP_NONE) : LoadText(IDS_NOPLAYER_CANT_FIND) + path);
 }
 
@@ -278,6 +286,7 @@ bool frmStartUpInfo::StorePlayer() {
 void frmStartUpInfo::butOKIt_Click() {
   if (page_ == StartUpInfoPage::Proxy) {
     StoreProxy(dependencies_.reg, optUseProxy_.IsChecked(), SplitProxy(proxy_));
+    dependencies_.reg.Set(setting::kStartProxy, false);  // it is decided
     return Done(0);
   }
   // The result says whether a player was chosen, so that a caller tries the station once more.

@@ -3,20 +3,18 @@
 // Pages of one dialog; what it finds and stores is PlayerSetup's and the caller's business.
 #pragma once
 
-#include <functional>
 #include <string>
 #include <vector>
 
 #include "forms/ControlIds.h"
 #include "forms/controls/Controls.h"
+#include "playback/PlayerReport.h"
 #include "stations/Commands.h"
-#include "stations/StationSource.h"
 
 namespace sonaro {
 
 class CReg;
 class HelpPages;
-class PlayerReporter;
 class PlayerSetup;
 struct PlayerProgram;
 
@@ -24,7 +22,7 @@ struct StartUpInfoDependencies {
   CReg& reg;
   HelpPages& help;
   PlayerSetup& player;
-  const PlayerReporter& reporter;
+  PlayerReporter& reporter;
 };
 
 class frmStartUpInfo final : public Form {
@@ -42,7 +40,8 @@ class frmStartUpInfo final : public Form {
   void OfferProgram(const PlayerProgram& program);
   std::string Selected() const;
   void ShowReport();
-  void ShowError(const std::string& sentence);
+  void ShowSentence(const std::string& sentence, TextColor color);
+  void ShowError(const std::string& sentence) { ShowSentence(sentence, TextColor::Alert); }
   bool StorePlayer();
   void Done(int result);
 
@@ -68,9 +67,7 @@ class frmStartUpInfo final : public Form {
   Label lblHead_{*this, lblHead};
   Label lblText_{*this, lblText};
   ComboBox cmbPlayWith_{*this, cmbPlayWith};
-  Label lblFound_{*this, lblFound};
-  Label lblOthersFound_{*this, lblOthersFound};
-  Label lblWebFound_{*this, lblWebFound};
+  ControlArray<Label> lblFound_{*this, lblFound, static_cast<int>(PlayerReport::kMaxLines)};
 };
 
 }  // namespace sonaro

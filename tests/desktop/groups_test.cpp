@@ -157,6 +157,30 @@ TEST_F(GroupTest, TheFirstFavouriteMakesItsGroupAndSurvivesARestart) {
   EXPECT_TRUE(ReadFile("favs.snr").ends_with("Second\t\r\n")) << ReadFile("favs.snr");
 }
 
+TEST_F(GroupTest, TheStarOfARowKeepsItsStationAndLetsItGo) {
+  HWND main = MainWithGroups("One\t\r\n");
+  const auto said = [&](const std::string& sentence) {
+    return WaitUntil([&] { return TextOf(Control(main, lblStatus)) == sentence; });
+  };
+  const std::string first = CellText(List(main), 0);
+  const std::string third = CellText(List(main), 2);
+  const RECT name = BoundsOf(Control(main, butSplit1));
+  const POINT star{name.right - 10, RowAt(main, 2).y};
+  ASSERT_TRUE(ClickUntil(star, [&] { return ReadFile("favs.snr") != "One\t\r\n"; }));
+  EXPECT_TRUE(said("Added " + third + " to One."));
+  EXPECT_TRUE(CellText(List(main), 2, 3).ends_with(", favorite"));
+  EXPECT_EQ(TextOf(Control(main, lblStationName)), first) << "the selection stays";
+  SaveShot("star");
+
+  NewGroup(main, "Two");
+  SelectRow(List(main), 0);
+  PressKey(main, 'D', Modifier::Control);
+  EXPECT_TRUE(said("Added " + first + " to One.")) << "the group used last";
+  PressKey(main, 'D', Modifier::Control);
+  EXPECT_TRUE(said("Removed " + first + " from One."));
+  EXPECT_FALSE(CellText(List(main), 0, 3).ends_with(", favorite"));
+}
+
 TEST_F(GroupTest, DelThreeTimesRemovesThreeStationsInARow) {
   HWND main = MainWithStations();
   Command(main, mnuFavoritesAdd);

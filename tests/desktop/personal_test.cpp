@@ -161,7 +161,9 @@ TEST_F(PersonalTest, AnExtraLinkOutlivesTheDirectoryThatItWasMadeFor) {
   main = StartAndShowMain();
   Command(main, mnuActionMostPoular);
   ASSERT_TRUE(WaitUntil([&] { return ColumnTexts(List(main)) == std::vector<std::string>{"Renamed"}; }));
-  Command(main, mnuActionPlayExtra);
+  EXPECT_TRUE(IsShown(Control(main, butPlayExtraIt)));
+  SaveShot("extra");
+  Click(Control(main, butPlayExtraIt));
   const auto lines = AsxLines();
   ASSERT_EQ(lines.size(), 1u) << line;
   EXPECT_TRUE(lines[0].ends_with(" http://127.0.0.1:9/extra")) << lines[0];

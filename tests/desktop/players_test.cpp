@@ -44,14 +44,27 @@ TEST_F(PlayersTest, AProgramForAsxLinksIsEnoughForTheFirstStart) {
             "Stations with .asx links: " + StationCount() + ". They play with mediaplay.exe.");
   EXPECT_FALSE(IsChecked(Control(page, chkDontShow)));
   SaveShot("well");
+  Click(Control(page, butTestProgramIt));
+  EXPECT_EQ(AsxLines(1).size(), 1u);
+  EXPECT_TRUE(WaitUntil([&] {
+    return TextOf(Control(page, lblFound)).ends_with(": handed to mediaplay.exe. You should hear it now.");
+  })) << TextOf(Control(page, lblFound));
+  EXPECT_FALSE(Exists("recent.snr")) << "a test is no play";
   Click(Control(page, butOKIt));
   HWND main = Dialog("SonaroFrm");
   EXPECT_EQ(ReadSetting("StartPlayer") + ReadSetting("PlayWith"), "");
   Command(main, mnuActionMostPoular);
   ASSERT_TRUE(WaitUntil([&] { return RowCount(List(main)) > 30; }));
-  SelectRow(List(main), 0);
+  SelectRow(List(main), 2);
   Click(Control(main, butGoMediaLinkOneIt));
-  EXPECT_EQ(AsxLines().size(), 1u);
+  EXPECT_EQ(AsxLines(2).size(), 2u);
+  const std::string name = CellText(List(main), 2);
+  EXPECT_TRUE(WaitUntil([&] {
+    return TextOf(Control(main, lblStatus)) == name + ": handed to mediaplay.exe";
+  })) << TextOf(Control(main, lblStatus));
+  EXPECT_TRUE(CellText(List(main), 2, 3).ends_with(", played last")) << CellText(List(main), 2, 3);
+  EXPECT_FALSE(CellText(List(main), 0, 3).ends_with(", played last"));
+  SaveShot("played");
 }
 
 TEST_F(PlayersTest, APlayerThatIsChosenAfterAnErrorPlays) {
@@ -77,6 +90,10 @@ TEST_F(PlayersTest, APlayerThatIsChosenAfterAnErrorPlays) {
   // In the options it is offered by name and can be taken back.
   Click(Control(main, butOptions));
   HWND options = Dialog("frmOptions");
+  EXPECT_TRUE(WaitUntil([&] {
+    return TextOf(Control(options, lblPlaying)) ==
+           "All stations with streams: " + StationCount() + ". They play with browser.exe.";
+  })) << TextOf(Control(options, lblPlaying));
   SaveShot("options");
   Click(Control(options, butPlayerIt));
   page = Dialog("frmStartUpInfo", "Player");

@@ -66,6 +66,31 @@ TEST_F(ScanTest, AScanPlaysItsQueueOneAfterAnother) {
   Click(Control(scan, butFullIt));
   EXPECT_TRUE(WaitUntil([&] { return !IsShown(queue); }));
   SaveShot("compact");
+
+  Click(Control(scan, butKeepIt));
+  HWND pick = Dialog("frmPickGroup");
+  SetText(Control(pick, txtGroupName), "Heard");
+  EndWith(scan, pick, butOKIt);
+  EXPECT_TRUE(
+      WaitUntil([&] { return TextOf(Control(main, lblStatus)) == "Added " + names[1] + " to Heard."; }));
+  EXPECT_TRUE(WaitUntil([&] { return TextOf(Control(scan, butKeepIt)) == "Kept"; }));
+  EXPECT_FALSE(IsWindowEnabled(Control(scan, butKeepIt)));
+  Click(Control(scan, butFullIt));
+  ASSERT_TRUE(WaitUntil([&] { return IsShown(queue); }));
+  EXPECT_EQ(GetWindow(scan, GW_OWNER), main) << "stays above it";
+  SetWindowPos(scan, HWND_TOP, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE);  // no window manager does so here
+  const POINT heard = RowOf(Control(scan, lstScanedAlready), 0);
+  EXPECT_TRUE(ClickUntil(heard, [&] { return !SelectedRows(Control(scan, lstScanedAlready)).empty(); }));
+  SetForegroundWindow(scan);
+  SendMessageA(scan, WM_NEXTDLGCTL, reinterpret_cast<WPARAM>(Control(scan, lstScanedAlready)), TRUE);
+  PressKey(scan, VK_RETURN);
+  EXPECT_EQ(AsxLines(3).size(), 3u) << "what is activated there plays";
+  EXPECT_EQ(RowCount(queue), 1);
+  EXPECT_EQ(TextOf(Control(scan, butStartIt)), "Continue Scan");
+  SaveShot("full");
+  ShowWindow(main, SW_MINIMIZE);
+  EXPECT_TRUE(WaitUntil([&] { return IsIconic(main) != 0; }));
+  EXPECT_TRUE(IsShown(scan));
 }
 
 TEST_F(ScanTest, StationsAreDroppedIntoTheQueue) {

@@ -28,6 +28,7 @@ class FakeCommands final : public ScheduleCommands, public UpdateCommands, publi
   void BringForward(std::string_view) override {}
   void ShowGroup(const std::string&) override {}
   void AddStationToGroup(const std::string&, const StationKey&) override {}
+  void KeepStation(Form&, const StationKey&) override {}
   void HideToTray() override {}
   void CloseAsked() override {}
   void Exit() override {}

@@ -120,9 +120,12 @@ TEST_F(FavoriteCommandsTest, StationsComeGoAndMoveInTheGroupOnShow) {
   commands.AddStationToGroup("ROCK", Key("P1"));
   EXPECT_TRUE(File().ends_with("Rock\t2 P1 \r\n"));
   EXPECT_TRUE(prompts.box.asked.empty());
-  EXPECT_EQ(prompts.done, (std::vector<std::string>{Done(IDS_GROUP_ADDED_TO, "3", "Jazz"),
-                                                    Done(IDS_GROUP_HAS_IT, "3", "Jazz"),
-                                                    Done(IDS_GROUP_ADDED_TO, "P1", "Rock")}));
+  EXPECT_EQ(prompts.done, std::vector<std::string>{Done(IDS_GROUP_HAS_IT, "3", "Jazz")});
+  EXPECT_EQ(user.heard, (std::vector<std::string>{Done(IDS_GROUP_ADDED_TO, "3", "Jazz"),
+                                                  Done(IDS_GROUP_REMOVED_FROM, "P1", "Jazz"),
+                                                  Done(IDS_GROUP_ADDED_TO, "P1", "Rock")}));
+  undo.Undo();
+  EXPECT_TRUE(File().ends_with("Rock\t2 \r\n")) << File();
 }
 
 TEST_F(FavoriteCommandsTest, TheFirstStationMakesItsGroup) {
@@ -130,7 +133,7 @@ TEST_F(FavoriteCommandsTest, TheFirstStationMakesItsGroup) {
   commands.AddStationToGroupOrNew(" First\t", Key("3"));
   EXPECT_TRUE(File().ends_with("First\t3 \r\n")) << File();
   EXPECT_EQ(prompts.told, std::vector<std::string>{"AddNewFavGroup\tFirst"});
-  EXPECT_EQ(prompts.done, std::vector<std::string>{Done(IDS_GROUP_ADDED_TO, "3", "First")});
+  EXPECT_EQ(user.heard, std::vector<std::string>{Done(IDS_GROUP_ADDED_TO, "3", "First")});
   commands.AddStationToGroupOrNew("FIRST", Key("1"));
   EXPECT_TRUE(File().ends_with("First\t3 1 \r\n")) << "a name that is there means that group";
   commands.AddStationToGroupOrNew(" ", Key("1"));
@@ -180,10 +183,10 @@ TEST_F(FavoriteCommandsTest, WhatWasTakenAwayComesBackToItsPlace) {
   commands.RemoveStations("Jazz", {Key("4"), Key("1")});
   EXPECT_EQ(user.heard, (std::vector<std::string>{Done(IDS_GROUP_REMOVED_FROM, "77", "Jazz"),
                                                   Done(IDS_GROUP_REMOVED_MANY, "2", "Jazz")}));
-  commands.AddStationToGroup("Jazz", Key("3"));  // stays when the others come back
+  EXPECT_EQ(groups.AddStation(0, Key("3")), FavoriteChange::Saved);  // stays when the others come back
   undo.Undo();
   EXPECT_EQ(Shown(), "S4 P1 S1 S3 ");
-  commands.AddStationToGroup("Jazz", Key("77"));  // is there once, then
+  EXPECT_EQ(groups.AddStation(0, Key("77")), FavoriteChange::Saved);  // is there once, then
   undo.Undo();
   EXPECT_EQ(user.heard.back(), "not undone");
   EXPECT_TRUE(File().starts_with("Jazz\t4 P1 1 3 77")) << File();

@@ -152,7 +152,7 @@ TEST_F(StationActionsTest, DetailsOfAStationAndOfOnesOwn) {
   const StationDetail one = details.Of(Key("1"));
   EXPECT_EQ(one.name, "Acid Jazz");
   EXPECT_EQ(one.playButtons[0].caption, Text(IDS_PLAY_MEDIA, "MP3", "{1}"));
-  EXPECT_EQ(one.playButtons[0].bitRate, Text(IDS_PLAY_BIT_RATE, "128", "{1}"));
+  EXPECT_EQ(one.playButtons[0].detail, Text(IDS_PLAY_BIT_RATE, "128", "{1}"));
   EXPECT_EQ(one.playButtons[1].request.station, Key("1"));
   EXPECT_EQ(one.playButtons[1].request.mode, PlayMode::LinkTwo);
   EXPECT_EQ((std::array<int, 4>{one.ratings[0].halves, one.ratings[1].halves, one.ratings[2].halves,
@@ -166,6 +166,29 @@ TEST_F(StationActionsTest, DetailsOfAStationAndOfOnesOwn) {
   EXPECT_EQ(own.firstLink, "http://garage.example/");
   EXPECT_FALSE(details.Of(Key("P9")).station) << "deleted meanwhile";
   EXPECT_FALSE(details.Of(StationKey()).station);
+}
+
+TEST_F(StationActionsTest, LinksThatWouldReadAlikeTellWhereTheyLead) {
+  const struct {
+    std::array<std::string, 3> links;
+    std::array<std::string, 3> told;
+  } kCases[] = {
+      {{"mhttp://one.example:8000/a", "", ""}, {"", "", ""}},
+      {{"mhttp://one.example:8000/a", "http://two.example/a", ""}, {"one.example", "two.example", ""}},
+      {{"mhttps://one.example/dance.mp3", "mhttps://one.example/dance.ogg", "mhttps://one.example/aac/"},
+       {"dance.mp3", "dance.ogg", "aac"}},
+      {{"mhttp://one.example/live?b=1", "mhttp://one.example/low/live?b=1", ""},
+       {"http://one.example/live?b=1", "http://one.example/low/live?b=1", ""}},
+  };
+  for (const auto& c : kCases) {
+    PersonalStation own;
+    own.name = "Several";
+    own.links = c.links;
+    ASSERT_TRUE(personal.Add(own));
+    const std::string token = "P" + std::to_string(personal.All().size());
+    const StationDetail detail = details.Of(Key(token));
+    for (std::size_t i = 0; i < 3; ++i) EXPECT_EQ(detail.playButtons[i].detail, c.told[i]) << c.links[0];
+  }
 }
 
 }  // namespace

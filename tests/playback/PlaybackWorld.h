@@ -12,6 +12,7 @@
 #include "fakes/FakeRegistry.h"
 #include "fakes/FakeShell.h"
 #include "fakes/FakeStrings.h"
+#include "playback/InstalledPlayers.h"
 #include "playback/PlayerLaunch.h"
 #include "playback/Players.h"
 #include "playback/WebPages.h"
@@ -63,7 +64,8 @@ struct PlaybackWorld {
   RecentList recent{data};
   Players players{reg, data, shell};
   WebPages pages{source, data, shell, strings};
-  PlayerLaunch launch{source, recent, players, pages, strings};
+  InstalledPlayers installed{reg, data, players};
+  PlayerLaunch launch{source, recent, players, installed, pages, strings};
   std::string list;  // "\Station.snr"
 };
 

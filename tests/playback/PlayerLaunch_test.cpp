@@ -18,6 +18,7 @@ class FakeLaunchView : public LaunchView {
   std::function<void()> whileShown;
   std::function<void()> choose;  // what the user does with an offer of players, which counts as a choice
   std::vector<std::string> sentences;
+  std::vector<std::string> handed;
 
   bool ShowNoPlayer() override {
     ++noPlayerPages;
@@ -25,6 +26,7 @@ class FakeLaunchView : public LaunchView {
     return Choose();
   }
   void ShowErrorText(const std::string& sentence) override { sentences.push_back(sentence); }
+  void HandedOver(const std::string& sentence) override { handed.push_back(sentence); }
   bool OfferPlayers(const std::string& sentence) override {
     ++offers;
     sentences.push_back(sentence);
@@ -295,6 +297,42 @@ TEST(WebPagesFolder, AFolderWithBlanksIsQuoted) {
   pages.RunBrowser("http://a.example/");
   EXPECT_EQ(world.shell.runMinimised,
             std::vector<std::string>{"\"/Program Files/S/lweb.exe\" http://a.example/"});
+}
+
+TEST_F(PlayerLaunchTest, WhatWasHandedOverIsSaidAndNothingElse) {
+  strings.texts = {{IDS_HANDED_TO, "{0} to {1}"}, {IDS_HANDED_LINK, "to {1}"}, {IDS_HANDED_PAGE, "{0} page"}};
+  registry.Put(RootKey::ClassesRoot, "Applications\\player.exe", "FriendlyAppName", "The Player");
+  AddStation(12, "Jazz", {"m1://x", "whttp://a.example"});
+  launch.LaunchStation(OfStation("12", PlayMode::LinkOne));
+  launch.LaunchStation(OfStation("12", PlayMode::LinkTwo));
+  launch.LaunchStation({StationKey::FromToken("12"), PlayMode::KeyItself, "mhttp://own"});
+  launch.LaunchStation(Link("mhttp://b"));
+  launch.LaunchStation(Link("m-b"));
+  EXPECT_EQ(launch.TryLaunch(StationKey::FromToken("12")), LaunchOutcome::Started);
+  EXPECT_EQ(view_.handed, (std::vector<std::string>{"Jazz to The Player", "Jazz page", "Jazz to The Player",
+                                                    "to The Player", "Jazz to The Player"}));
+}
+
+TEST_F(PlayerLaunchTest, APlsLinkGoesToAProgramThatReadsIt) {
+  InstallRealPlayer();
+  const std::string asx = "c:\\media\\player.exe|";
+  const std::string reader = "c:\\apps\\lists.exe|";
+  const auto playedOf = [this](const char* link) {
+    ClearShell();
+    launch.LaunchStation(Link(link));
+    return Played();
+  };
+  EXPECT_EQ(playedOf("mhttp://a/s.pls"), asx + "http://a/s.pls") << "there is no program for them";
+  shell.programs[".pls"] = "C:\\Windows\\OpenWith.exe";
+  files.Put("c:\\windows\\openwith.exe", "");
+  EXPECT_EQ(playedOf("mhttp://a/s.pls"), asx + "http://a/s.pls");
+  shell.programs[".pls"] = "C:\\Apps\\Lists.exe %1";
+  files.Put("c:\\apps\\lists.exe", "");
+  EXPECT_EQ(playedOf("mhttp://a/s.PLS?x=.mp3"), reader + "http://a/s.PLS?x=.mp3");
+  EXPECT_EQ(playedOf("http://a/s.pls"), reader + "http://a/s.pls");
+  EXPECT_EQ(playedOf("mhttp://a/pls"), asx + "http://a/pls");
+  reg.SetSetting("PlayWith", "C:\\any.exe");
+  EXPECT_EQ(playedOf("mhttp://a/s.pls"), "C:\\any.exe|http://a/s.pls");
 }
 
 TEST_F(PlayerLaunchTest, APlayReadsTheStationOnce) {

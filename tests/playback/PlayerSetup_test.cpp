@@ -3,7 +3,6 @@
 
 #include <cstdlib>
 
-#include "playback/InstalledPlayers.h"
 #include "playback/PlaybackWorld.h"
 #include "playback/PlayerReport.h"
 #include "playback/PlayerSetup.h"
@@ -34,14 +33,13 @@ class PlayerSetupTest : public testing::Test, protected PlaybackWorld {
   }
 
   AppState state_;
-  InstalledPlayers installed_{reg, data, players};
-  PlayerSetup setup_{reg, files, players, installed_};
-  PlayerReporter reporter_{players, data, source, strings, state_};
+  PlayerSetup setup_{reg, files, players, installed};
+  PlayerReporter reporter_{players, installed, data, source, strings, state_};
 };
 
 TEST_F(PlayerSetupTest, InstalledPlayersAreFoundOnceAndByName) {
   shell.programs.clear();
-  EXPECT_TRUE(installed_.Find().empty());
+  EXPECT_TRUE(installed.Find().empty());
 
   Install("C:\\Apps\\One.exe");
   RegisterClass("One.mp3", "\"C:\\Apps\\One.exe\" --play \"%1\"");
@@ -66,10 +64,10 @@ TEST_F(PlayerSetupTest, InstalledPlayersAreFoundOnceAndByName) {
 #else
   setenv("SONARO_TEST_FOLDER", "/players", 1);
 #endif
-  EXPECT_EQ(installed_.Find(), (std::vector<PlayerProgram>{{"one player", "C:\\Apps\\One.exe"},
-                                                           {"Two of Mine", "C:\\two.exe"},
-                                                           {"three.exe", "c:\\three.exe"},
-                                                           {"four.exe", "/players/four.exe"}}));
+  EXPECT_EQ(installed.Find(), (std::vector<PlayerProgram>{{"one player", "C:\\Apps\\One.exe"},
+                                                          {"Two of Mine", "C:\\two.exe"},
+                                                          {"three.exe", "c:\\three.exe"},
+                                                          {"four.exe", "/players/four.exe"}}));
   EXPECT_FALSE(files.Exists("/d/dummy.mp3"));
   EXPECT_EQ(reg.MainKey(), RootKey::LocalMachine);
 }
@@ -92,16 +90,19 @@ TEST_F(PlayerSetupTest, AnyExecutableCanBeChosenAndTheChoiceTakenBack) {
 
 TEST_F(PlayerSetupTest, ATestNeedsAProgramAndALinkThatMayBePlayed) {
   Install("C:\\any.exe");
-  EXPECT_TRUE(setup_.Test("C:\\any.exe", "http://a.example/t.ram"));
-  EXPECT_EQ(shell.opened.back(), (FakeShell::Opened{"C:\\any.exe", "http://a.example/t.ram", "/d"}));
-  EXPECT_FALSE(setup_.Test("C:\\any.exe", "file://a/t.ram"));
-  EXPECT_FALSE(setup_.Test("C:\\none.exe", "http://a.example/t.ram"));
-  EXPECT_FALSE(setup_.Test("", "http://a.example/t.ram"));
+  EXPECT_EQ(setup_.Test("C:\\any.exe", "mhttp://a.example/t"), "any.exe");
+  EXPECT_EQ(shell.opened.back(), (FakeShell::Opened{"C:\\any.exe", "http://a.example/t", "/d"}));
+  EXPECT_EQ(setup_.Test("C:\\any.exe", "mfile://a/t.ram"), "");
+  EXPECT_EQ(setup_.Test("C:\\none.exe", "http://a.example/t.ram"), "");
+  EXPECT_EQ(setup_.Test("", "http://a.example/t.ram"), "");
+  EXPECT_EQ(setup_.Test("", "mhttp://a.example/t"), "") << "its program does not exist";
   Install("c:\\media\\player.exe");
-  EXPECT_TRUE(setup_.Test("", "http://a.example/t.ram"));
+  EXPECT_EQ(setup_.Test("", "mhttp://a.example/t"), "player.exe");
+  EXPECT_EQ(shell.opened.size(), 2u);
 }
 
 TEST_F(PlayerSetupTest, StationsAreCountedByTheLinkThatPlays) {
+  AddStation(-9, "list", {"mhttp://a/x.pls"});
   AddStation(1, "asx", {"mhttp://a", "http://a"});
   AddStation(2, "asx", {" ", "mhttp://a"});
   AddStation(3, "asx", {}, "mhttp://a");
@@ -109,9 +110,15 @@ TEST_F(PlayerSetupTest, StationsAreCountedByTheLinkThatPlays) {
   AddStation(5, "page", {"whttp://a"});
   AddStation(6, "site", {}, "", "www.a.example");
   const LinkCounts counts = reporter_.CountLinks();
-  EXPECT_EQ(counts.asxProgram, 3u);
+  EXPECT_EQ(counts.asxProgram, 4u);
+  EXPECT_EQ(counts.plsAmongAsx, 1u);
   EXPECT_EQ(counts.realPlayer, 1u);
   EXPECT_EQ(counts.webPage, 1u);
+  EXPECT_EQ(counts.name + " " + counts.link, "real http://a") << "for a test: the first that is no playlist";
+  AddStation(7, "new", {"http://a"});
+  EXPECT_EQ(reporter_.CountLinks().realPlayer, 1u) << "counted once";
+  reporter_.DirectoryChanged();
+  EXPECT_EQ(reporter_.CountLinks().realPlayer, 2u);
 }
 
 TEST_F(PlayerSetupTest, TheReportAlarmsOnlyWhereNothingPlays) {
@@ -120,20 +127,27 @@ TEST_F(PlayerSetupTest, TheReportAlarmsOnlyWhereNothingPlays) {
   const std::string real = std::to_string(IDS_PLAYERS_REAL);
   const std::string missing = "!";
   EXPECT_EQ(reporter_.Report({41270, 0, 0}, "").plays, Plays::Everything);
-  EXPECT_EQ(Lines(reporter_.Report({41270, 0, 0}, "")), (std::vector<std::string>{asx, "", ""}));
+  EXPECT_EQ(Lines(reporter_.Report({41270, 0, 0}, "")), (std::vector<std::string>{asx}));
   const PlayerReport some = reporter_.Report({3, 2, 1}, "");
   EXPECT_EQ(some.plays, Plays::Some);
   EXPECT_EQ(Lines(some), (std::vector<std::string>{asx, missing + std::to_string(IDS_PLAYERS_REAL_NONE),
                                                    std::to_string(IDS_PLAYERS_WEB)}));
   InstallRealPlayer();
   EXPECT_EQ(reporter_.Report({3, 2, 1}, "").plays, Plays::Everything);
-  EXPECT_EQ(Lines(reporter_.Report({3, 0, 0}, "")), (std::vector<std::string>{asx, "", ""}));
+  EXPECT_EQ(Lines(reporter_.Report({3, 0, 0}, "")), (std::vector<std::string>{asx}));
   shell.programs.clear();
   EXPECT_EQ(Lines(reporter_.Report({3, 2, 0}, "")),
-            (std::vector<std::string>{missing + std::to_string(IDS_PLAYERS_ASX_NONE_MOST), real, ""}));
+            (std::vector<std::string>{missing + std::to_string(IDS_PLAYERS_ASX_NONE_MOST), real}));
   files.Remove("C:\\Real\\RealPlay.exe");
   EXPECT_EQ(reporter_.Report({3, 2, 0}, "").plays, Plays::Nothing);
   EXPECT_EQ(reporter_.Report({}, "").plays, Plays::Nothing);
+
+  // .pls playlists have a line of their own once a program reads them.
+  Install("c:\\lists.exe");
+  shell.programs[".pls"] = "c:\\lists.exe";
+  strings.texts = {{IDS_PLAYERS_ASX_NONE_MOST, "{0}"}, {IDS_PLAYERS_PLS, "{0} {1}"}};
+  EXPECT_EQ(Lines(reporter_.Report({.asxProgram = 3, .plsAmongAsx = 2}, "")),
+            (std::vector<std::string>{"!1", "2 lists.exe"}));
 
   Install("C:\\any.exe");
   EXPECT_EQ(reporter_.Report({3, 2, 0}, "C:\\any.exe").plays, Plays::Everything);

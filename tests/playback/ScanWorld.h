@@ -37,6 +37,7 @@ class FakeNoPlayer : public LaunchView {
   bool ShowNoPlayer() override { return ++shown == 0; }
   void ShowErrorText(const std::string&) override { ++shown; }
   bool OfferPlayers(const std::string&) override { return ++shown == 0; }
+  void HandedOver(const std::string&) override {}
 };
 
 inline std::string Text(int id) { return std::to_string(id); }

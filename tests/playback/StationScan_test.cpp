@@ -239,6 +239,24 @@ TEST_F(StationScanTest, ClearKeepsTheStationThatPlays) {
   EXPECT_TRUE(view_.timer.empty());  // was paused
 }
 
+TEST_F(StationScanTest, AStationOfTheHistoryPlaysAndTheScanWaitsForItsOwn) {
+  Add({"S1", "S2", "S3"});
+  scan_.StartPauseContinue();
+  EXPECT_EQ(scan_.Current(), StationKey::FromRowKey("S1"));
+  TickFor(25);
+  scan_.PlayAgain(0);
+  EXPECT_EQ(Playing(), "1://x");
+  EXPECT_EQ(scan_.State(), ScanState::Paused);
+  TickFor(60);
+  EXPECT_EQ(Queue() + "|" + History(), "S3 |S1 ");
+  scan_.StartPauseContinue();
+  EXPECT_EQ(Playing(), "2://x");
+  TickFor(19);
+  EXPECT_EQ(scan_.TimeLeft(), 1) << "its whole time again";
+  scan_.PlayAgain(7);  // nothing there
+  EXPECT_EQ(scan_.State(), ScanState::Scanning);
+}
+
 TEST_F(StationScanTest, StationsComeBackFromTheHistoryAndByTheHiddenLabel) {
   Add({"S1"});
   scan_.StartPauseContinue();

@@ -112,10 +112,10 @@ struct EmptyProgram {
   Players players{settings, folder, shell};
   InstalledPlayers installed{settings, folder, players};
   PlayerSetup playerSetup{settings, outside.files, players, installed};
-  PlayerReporter reporter{players, folder, source, words, state};
+  PlayerReporter reporter{players, installed, folder, source, words, state};
   WebPages pages{source, folder, shell, words};
   HelpPages help{settings, pages};
-  PlayerLaunch player{source, recent, players, pages, words};
+  PlayerLaunch player{source, recent, players, installed, pages, words};
   StationScan scan{settings, clock, player, source, words};
   ScheduleStore store{folder, "M/d/yyyy"};
   ScheduleCalendar calendar{store};
@@ -200,7 +200,7 @@ const NamedForm kForms[] = {
      }},
     {"frmPickGroup",
      [](EmptyProgram& p) {
-       return Make<frmPickGroup>(p.forms, std::string("Jazz"), std::vector<std::string>{});
+       return Make<frmPickGroup>(p.forms, std::string("Jazz"), std::vector<std::string>{}, std::string());
      }},
     {"frmTestProxy",
      [](EmptyProgram& p) {
@@ -228,8 +228,9 @@ const NamedForm kForms[] = {
     {"frmSelectStation", [](EmptyProgram& p) { return Make<frmSelectStation>(p.forms, p.picker, p.help); }},
     {"frmOptions",
      [](EmptyProgram& p) {
-       return Make<frmOptions>(p.forms, p.options,
-                               OptionsServices{p.commands, p.commands, p.commands, p.help});
+       return Make<frmOptions>(
+           p.forms, p.options,
+           OptionsServices{p.commands, p.commands, p.commands, p.help, p.playerSetup, p.reporter});
      }},
     {"frmStartUpInfo",
      [](EmptyProgram& p) {

@@ -19,6 +19,7 @@ struct FormEvent {
     SelChange,
     EnterPressed,
     ItemActivated,
+    ItemStarred,   // the star of a row was clicked
     ItemSelected,  // row
     BeginDrag,     // row: the left button is down on it and has moved; the handler may take the mouse
     ContextMenu,   // row (-1: none) and point

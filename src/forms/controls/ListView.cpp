@@ -190,9 +190,15 @@ LRESULT ListView::Handle(UINT message, WPARAM wParam, LPARAM lParam) {
       }
       SelectByKey(wParam, lParam);
       return 0;
+    case WM_LBUTTONDBLCLK:
     case WM_LBUTTONDOWN: {
       const int row = RowUnder(lParam);
       if (row < 0) return FocusOnly();
+      if (HitsStar(row, lParam)) {
+        Raise({.kind = FormEvent::Kind::ItemStarred, .row = row});
+        return 0;
+      }
+      if (message == WM_LBUTTONDBLCLK) break;
       if (const int before = Selected(); row != before && SelectsOne()) Deselect(before);
       break;
     }
@@ -308,7 +314,12 @@ void ListView::OnGetDispInfo(NMLVDISPINFOW& info) const {
   if ((info.item.mask & LVIF_TEXT) == 0 || info.item.pszText == nullptr || info.item.cchTextMax <= 0) return;
   std::wstring text;
   if (model_ != nullptr && info.item.iItem < model_->RowCount()) {
-    text = Widen(model_->Cell(info.item.iItem, info.item.iSubItem));
+    std::string cell = model_->Cell(info.item.iItem, info.item.iSubItem);
+    if (info.item.iSubItem + 1 == static_cast<int>(columns_.size())) {
+      const std::string spoken = model_->MarksSpoken(info.item.iItem);
+      if (!spoken.empty()) cell += (cell.empty() ? "" : ", ") + spoken;
+    }
+    text = Widen(cell);
   }
   const std::size_t length = std::min(text.size(), static_cast<std::size_t>(info.item.cchTextMax - 1));
   text.copy(info.item.pszText, length);

@@ -15,6 +15,13 @@
 
 namespace sonaro {
 
+// What is drawn at the end of a row's first text.
+struct RowMarks {
+  bool star = false;   // a filled star
+  bool offer = false;  // an empty one as long as the pointer or the selection is on the row
+  bool sound = false;  // of the row that was played last
+};
+
 // What a list shows. Rows count from 0.
 class ListModel {
  public:
@@ -25,6 +32,9 @@ class ListModel {
   // -1: none. For models whose cells cost something to be read.
   virtual int FindRow(const std::string& start, int from) const;
   virtual int Symbol(int /*row*/) const { return -1; }  // reliability 0 to 4; -1: none
+  virtual RowMarks Marks(int /*row*/) const { return {}; }
+  // What the marks say, for screen readers: read behind the row's last text.
+  virtual std::string MarksSpoken(int /*row*/) const { return {}; }
   // The one row only says that there is nothing: it is drawn as the picture of an empty list.
   virtual bool IsNotice() const { return false; }
 };
@@ -84,6 +94,9 @@ class ListView final : public ScrolledView {
   void ScrollTo(int first) override;
   void RepaintRow(int row);
   void SetHover(int row);
+  bool HitsStar(int row, LPARAM pointer) const;
+  RECT StarBox(const RECT& row) const;
+  int PaintMarks(HDC dc, int row, const RECT& box, bool selected, bool focused) const;
   void ShowTipAt(LPARAM pointer);
   int FocusedRow() const;  // -1: none
   int RowUnder(LPARAM pointer) const;

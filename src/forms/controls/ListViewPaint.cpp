@@ -16,6 +16,9 @@ constexpr int kCellInset = 9;
 constexpr int kSymbolInset = 9;
 constexpr int kTextAfterSymbol = 28;
 constexpr int kCellGap = 5;
+constexpr int kStarSize = 14;
+constexpr int kStarGap = 4;  // behind it, and between the marks
+constexpr int kSoundSize = 12;
 // The picture that an empty list shows.
 constexpr int kEmptyWidth = 320;
 constexpr int kEmptyPitch = 8;
@@ -99,6 +102,7 @@ void ListView::PaintCells(HDC dc, int row, const RECT& box, bool selected, bool 
   const Painter& theme = Theme();
   const FaceplateColors& colors = theme.Colors();
   const int symbol = withSymbols_ ? model_->Symbol(row) : -1;
+  const int marks = PaintMarks(dc, row, box, selected, focused);
   bool leading = true;  // until the first text of the row
   for (std::size_t i = 0; i < edges_.size(); ++i) {
     const Column& column = columns_[i];
@@ -106,7 +110,9 @@ void ListView::PaintCells(HDC dc, int row, const RECT& box, bool selected, bool 
     leading = leading && !strong;
     Color ink = strong || (selected && !column.figure) ? colors.glassText : colors.glassMuted;
     if (selected && focused) ink = colors.rowSelectedText;
-    theme.Text(dc, TextBox(i, box), model_->Cell(row, static_cast<int>(i)),
+    RECT text = TextBox(i, box);
+    if (i == 0) text.right -= marks;
+    theme.Text(dc, text, model_->Cell(row, static_cast<int>(i)),
                column.figure        ? TextStyle::Small
                : strong && selected ? TextStyle::BodyStrong
                                     : TextStyle::Body,
@@ -116,6 +122,44 @@ void ListView::PaintCells(HDC dc, int row, const RECT& box, bool selected, bool 
     const int top = box.top + (box.bottom - box.top - theme.Px(kSymbolSize)) / 2;
     PaintReliability(dc, theme, box.left + theme.Px(kSymbolInset), top, symbol, selected && focused);
   }
+}
+
+RECT ListView::StarBox(const RECT& row) const {
+  const Painter& theme = Theme();
+  const int right = edges_.front() - theme.Px(kStarGap);
+  const int top = row.top + (row.bottom - row.top - theme.Px(kStarSize)) / 2;
+  return {right - theme.Px(kStarSize), top, right, top + theme.Px(kStarSize)};
+}
+
+// The whole height of the row counts, and what is beside the star up to the column's edge.
+bool ListView::HitsStar(int row, LPARAM pointer) const {
+  if (model_ == nullptr || edges_.empty() || row >= model_->RowCount()) return false;
+  const RowMarks marks = model_->Marks(row);
+  const int x = GET_X_LPARAM(pointer);
+  return (marks.star || marks.offer) && x >= StarBox(ItemBox(row)).left - Theme().Px(kStarGap) &&
+         x < edges_.front();
+}
+
+// How much of the first column's width the marks take.
+int ListView::PaintMarks(HDC dc, int row, const RECT& box, bool selected, bool focused) const {
+  const RowMarks marks = model_->Marks(row);
+  const Painter& theme = Theme();
+  const Color ink = selected && focused ? theme.Colors().rowSelectedText : theme.Colors().accent;
+  RECT star = StarBox(box);
+  int taken = 0;
+  if (marks.star || (marks.offer && (selected || row == hover_))) {
+    const Color pale = selected && focused ? ink : theme.Colors().glassMuted;
+    theme.DrawIcon(dc, marks.star ? Icon::Fav : Icon::Overall, static_cast<int>(star.left),
+                   static_cast<int>(star.top), kStarSize, marks.star ? ink : pale);
+    taken = theme.Px(kStarSize + kStarGap);
+  }
+  if (marks.sound) {
+    const int top = box.top + (box.bottom - box.top - theme.Px(kSoundSize)) / 2;
+    taken += theme.Px(kSoundSize + kStarGap);
+    theme.DrawIcon(dc, Icon::Sound, static_cast<int>(star.right) - taken + theme.Px(kStarGap), top,
+                   kSoundSize, ink);
+  }
+  return taken;
 }
 
 // Painting and the tip agree on it: what is cut here is what a tip shows whole.
@@ -135,7 +179,10 @@ void ListView::ShowTipAt(LPARAM pointer) {
   const RECT box = TextBox(column, ItemBox(row));
   const std::wstring text = Widen(model_->Cell(row, static_cast<int>(column)));
   const TextStyle style = row == Selected() && column == 0 ? TextStyle::BodyStrong : TextStyle::Body;
-  if (Theme().Measure(text, style).cx <= box.right - box.left) return tip_->Clear();
+  const RowMarks marks = column == 0 ? model_->Marks(row) : RowMarks();
+  const int marksTaken = (marks.star || marks.offer ? Theme().Px(kStarSize + kStarGap) : 0) +
+                         (marks.sound ? Theme().Px(kSoundSize + kStarGap) : 0);
+  if (Theme().Measure(text, style).cx <= box.right - box.left - marksTaken) return tip_->Clear();
   tip_->Set(box, text);
 }
 
