@@ -20,16 +20,24 @@ std::uint16_t SearchIndex::SlotAt(const char* fourBytes) {
 }
 
 // The grams that begin in a block's last three bytes reach into the next block or the padding: they set a few
-// slots more than needed, which does no harm.
+// slots more than needed, which does no harm. The slots lie all over: 64 blocks at a time are written to numbers
+// of their own, which stay in the nearest cache, and then put in their places.
 SearchIndex::SearchIndex(const SearchColumn& column) : frequencies_(column.text) {
   const std::size_t count = column.starts.size() - 1;
   slots_.resize((count + kGroupRecords - 1) / kGroupRecords * kSlots);
-  for (std::size_t first = 0; first < count; first += kBlockRecords) {
-    Blocks* const slots = &slots_[first / kGroupRecords * kSlots];
-    const std::size_t block = first % kGroupRecords / kBlockRecords;
-    const char* const end = column.text.data() + column.starts[std::min(first + kBlockRecords, count)];
-    for (const char* at = column.text.data() + column.starts[first]; at < end; ++at)
-      slots[SlotAt(at)].Set(block);
+  std::vector<std::uint64_t> blocksOf(kSlots);
+  constexpr std::size_t kPartRecords = 64 * kBlockRecords;
+  for (std::size_t part = 0; part < count; part += kPartRecords) {
+    blocksOf.assign(kSlots, 0);
+    for (std::size_t block = 0; block < 64; ++block) {
+      const std::size_t first = std::min(part + block * kBlockRecords, count);
+      const char* const end = column.text.data() + column.starts[std::min(first + kBlockRecords, count)];
+      for (const char* at = column.text.data() + column.starts[first]; at < end; ++at)
+        blocksOf[SlotAt(at)] |= std::uint64_t{1} << block;
+    }
+    Blocks* const slots = &slots_[part / kGroupRecords * kSlots];
+    for (std::size_t slot = 0; slot < kSlots; ++slot)
+      slots[slot].bits[part % kGroupRecords / kPartRecords] = blocksOf[slot];
   }
 }
 

@@ -70,7 +70,6 @@ class SearchIndex {
   struct alignas(kGroupBlocks / 8) Blocks {
     std::array<std::uint64_t, kGroupBlocks / 64> bits{};
     bool Has(std::size_t block) const { return (bits[block / 64] >> (block % 64) & 1) != 0; }
-    void Set(std::size_t block) { bits[block / 64] |= std::uint64_t{1} << (block % 64); }
     bool Empty() const {
       return std::all_of(bits.begin(), bits.end(), [](std::uint64_t number) { return number == 0; });
     }
