@@ -6,8 +6,6 @@
 #include <algorithm>
 #include <utility>
 
-#include "directory/Checksum.h"
-
 namespace sonaro {
 
 BlockWriter::BlockWriter(std::unique_ptr<OutputFile> file, Checking checking)
@@ -46,14 +44,6 @@ void BlockWriter::WriteBlock(std::string_view block) {
   if (checking_ == Checking::Chained) check_ = Checksum(block, check_);
   failed_ = failed_ || !file_->Append(block);
   written_ += block.size();
-}
-
-std::uint64_t ChainedChecksum(std::string_view stream, std::uint64_t before) {
-  std::uint64_t check = before;
-  for (; !stream.empty(); stream.remove_prefix(std::min(stream.size(), kColumnBlock))) {
-    check = Checksum(stream.substr(0, kColumnBlock), check);
-  }
-  return check;
 }
 
 }  // namespace sonaro

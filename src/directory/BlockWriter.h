@@ -10,7 +10,7 @@
 #include <vector>
 
 #include "base/Files.h"
-#include "directory/VmxFormat.h"
+#include "directory/Checksum.h"
 
 namespace sonaro {
 
@@ -47,7 +47,7 @@ class BlockWriter {
   bool Commit(std::string_view header);
 
  private:
-  static constexpr std::size_t kBlock = kColumnBlock;
+  static constexpr std::size_t kBlock = kChecksumBlock;
 
   void Grow(std::size_t length);
   void WriteBlocks();
@@ -61,9 +61,5 @@ class BlockWriter {
   std::uint64_t check_ = 0;
   bool failed_ = false;
 };
-
-// The checksum of a stream, chained over its blocks as BlockWriter does. A stream can be given in pieces,
-// each with the checksum of what came before; all but the last must be whole blocks.
-std::uint64_t ChainedChecksum(std::string_view stream, std::uint64_t before = 0);
 
 }  // namespace sonaro

@@ -53,4 +53,12 @@ std::uint64_t Checksum(std::string_view bytes, std::uint64_t seed) {
   return MixChecksum(sum, 0);
 }
 
+std::uint64_t ChainedChecksum(std::string_view stream, std::uint64_t before) {
+  std::uint64_t check = before;
+  for (; !stream.empty(); stream.remove_prefix(std::min(stream.size(), kChecksumBlock))) {
+    check = Checksum(stream.substr(0, kChecksumBlock), check);
+  }
+  return check;
+}
+
 }  // namespace sonaro

@@ -5,6 +5,7 @@
 #pragma once
 
 #include <bit>
+#include <cstddef>
 #include <cstdint>
 #include <string_view>
 
@@ -13,6 +14,13 @@ namespace sonaro {
 // The bytes' checksum; another `seed` gives an unrelated one. The result depends on the bytes alone on every
 // machine whose numbers are stored little-endian.
 std::uint64_t Checksum(std::string_view bytes, std::uint64_t seed = 0);
+
+// A stream's checksum is chained over blocks of this size, so that it can be made while the stream goes by.
+inline constexpr std::size_t kChecksumBlock = 64 * 1024;
+
+// The checksum of a stream, chained over its blocks. A stream can be given in pieces,
+// each with the checksum of what came before; all but the last must be whole blocks.
+std::uint64_t ChainedChecksum(std::string_view stream, std::uint64_t before = 0);
 
 // One reversible mixing step: for a given `state` no two values of `word` give the same result.
 constexpr std::uint64_t MixChecksum(std::uint64_t state, std::uint64_t word) {

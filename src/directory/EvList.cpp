@@ -1,10 +1,11 @@
+// Each operation goes straight to Vmx. Events are not searched by words, so their tables are created without
+// searched fields, and their images never grow a search column.
 #include "directory/EvList.h"
 
 #include <new>
 #include <string_view>
 
 #include "base/DataFolder.h"
-#include "directory/TablePath.h"
 #include "directory/Vmx.h"
 
 namespace sonaro {

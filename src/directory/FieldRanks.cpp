@@ -1,3 +1,6 @@
+// A record is given the number of its text when it is added, and the rank of that number when all are there:
+// what is sorted are the texts that differ. Sorting the records would compare the same places and formats
+// again and again.
 #include "directory/FieldRanks.h"
 
 #include <algorithm>
@@ -39,16 +42,19 @@ void FieldRanks::AddKey(std::string_view key) {
 }
 
 void FieldRanks::Finish() {
+  // Equal starts are frequent, since thousands of names begin with the same word.
   std::sort(keys_.begin(), keys_.end(), [this](const Key& a, const Key& b) {
     return a.start != b.start ? a.start < b.start : BytesOf(a) < BytesOf(b);
   });
   std::vector<std::uint32_t> ranks(keys_.size());
+  // 0 stays free for a record that is not there.
   std::uint32_t rank = 0;
   for (std::size_t i = 0; i < keys_.size(); ++i) {
     if (i == 0 || BytesOf(keys_[i - 1]) != BytesOf(keys_[i])) ++rank;
     ranks[keys_[i].value] = rank;
   }
   for (std::uint32_t& place : places_) place = ranks[place];
+  // Assigned anew, not cleared, so that the memory goes back.
   keys_ = {};
   bytes_ = {};
   values_.reset();

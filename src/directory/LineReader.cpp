@@ -8,14 +8,14 @@
 #include <cstring>
 
 #include "base/Utf8.h"
-#include "directory/BlockWriter.h"
 #include "directory/ByteScan.h"
+#include "directory/Checksum.h"
 
 namespace sonaro {
 namespace {
 
 constexpr std::size_t kBufferSize = 256 * 1024;
-static_assert(kBufferSize % kColumnBlock == 0, "what is read at once are whole blocks of the checksum");
+static_assert(kBufferSize % kChecksumBlock == 0, "what is read at once are whole blocks of the checksum");
 
 }  // namespace
 

@@ -93,6 +93,7 @@ TableStatus OpenTable::Visit(std::span<const std::int32_t> keys,
   return TableStatus::Success;
 }
 
+// Nearly every table is open for reading only, and a scan of it need not merge anything.
 TableStatus OpenTable::ReadNextOnDisk(TableImage::Record& record) {
   if (next_ >= image_->RecordCount()) return TableStatus::NotFound;
   const TableStatus status = image_->Get(files_, next_, record);

@@ -20,8 +20,8 @@ std::uint16_t SearchIndex::SlotAt(const char* fourBytes) {
 }
 
 // The grams that begin in a block's last three bytes reach into the next block or the padding: they set a few
-// slots more than needed, which does no harm. The slots lie all over: 64 blocks at a time are written to numbers
-// of their own, which stay in the nearest cache, and then put in their places.
+// slots more than needed, which does no harm. The slots lie all over: 64 blocks at a time are written to
+// numbers of their own, which stay in the nearest cache, and then put in their places.
 SearchIndex::SearchIndex(const SearchColumn& column) : frequencies_(column.text) {
   const std::size_t count = column.starts.size() - 1;
   slots_.resize((count + kGroupRecords - 1) / kGroupRecords * kSlots);

@@ -1,3 +1,6 @@
+// Every operation opens the table and closes it (WithTable). That is cheap, since Vmx keeps what it read, and
+// it is what makes an update visible at once: an opening notices that the files are another generation, and
+// whatever was made of the old one goes with it.
 #include "directory/StatList.h"
 
 #include <algorithm>
@@ -9,7 +12,6 @@
 #include "directory/ByteScan.h"
 #include "directory/StationListFile.h"
 #include "directory/StationSearch.h"
-#include "directory/TablePath.h"
 #include "directory/TypedSearch.h"
 #include "directory/Vmx.h"
 
@@ -127,6 +129,7 @@ auto StatList::WithTable(Operation operation) -> decltype(operation(Handle{})) {
   return result;
 }
 
+// Copies: what a visitor sees is gone with the next record.
 std::vector<StationRecord> StatList::GetAll(Handle handle, std::span<const std::int32_t> ids) {
   std::vector<StationRecord> records;
   records.reserve(ids.size());
@@ -173,6 +176,7 @@ StationRecord StatList::FindStation(std::int32_t stationId) {
   return WithTable([&](Handle handle) { return GetStation(handle, stationId); });
 }
 
+// Record numbers become identifiers here and nowhere else: they mean nothing once the table is closed.
 std::vector<std::int32_t> StatList::Search(Handle handle, std::string_view text, bool allWords) {
   std::vector<std::int32_t> ids;
   TableImage* const image = vmx_->SearchImage(handle);
@@ -218,7 +222,7 @@ std::vector<std::int32_t> StatList::FilterStations(std::span<const std::int32_t>
   return WithSearchImage([&](Handle, TableImage& image) {
     const TypedWords words(typed);
     std::vector<bool> matches(image.RecordCount(), words.Empty());
-    matches.push_back(false);  // of no record
+    matches.push_back(false);  // of no record, which IndexOf gives for an unknown identifier
     for (const std::uint32_t record : TypedRecords(image.Column(), image.Index(), image.Plain(), words))
       matches[record] = true;
     std::vector<std::int32_t> left;
@@ -249,7 +253,7 @@ void StatList::AddTexts(Handle handle, TableImage& image, StationField field, co
     for (std::size_t record = ranks.Count(); record < end; ++record)
       ranks.Add(SearchedField(image.Column(), record, number), sortKey);
   } else {
-    ranks = {};
+    ranks = {};  // what a pass that ran out of memory has left
     status_ = vmx_->VmxVisitAll(handle, [&](const VmxRecord& record) {
       ranks.Add(StationView{record.key, record.fields}[field], sortKey);
     });
@@ -275,6 +279,7 @@ std::vector<std::uint32_t> StatList::RanksOfFew(std::span<const std::int32_t> id
   std::vector<std::size_t> known;  // places in `ids`
   FieldRanks ranks;
   VisitStations(ids, [&](const StationView& station) {
+    // Unknown ones are left out of the visit: the next identifier that is this one is its place.
     std::size_t place = known.empty() ? 0 : known.back() + 1;
     while (ids[place] != station.StationId) ++place;
     known.push_back(place);

@@ -83,4 +83,10 @@ bool RemoveTableFiles(Files& files, const std::string& path) {
   return files.Remove(paths.data) && removed;
 }
 
+std::string TablePath(const DataFolder& data, std::string_view name) {
+  std::string path = data.Path(std::string(name).append(kDataExtension));
+  path.resize(path.size() - kDataExtension.size());
+  return path;
+}
+
 }  // namespace sonaro

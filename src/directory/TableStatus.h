@@ -1,9 +1,14 @@
-// The status that every operation on an indexed table leaves behind.
+// What every user of an indexed table knows: where it lies, and the status that each operation on it leaves
+// behind.
 #pragma once
 
 #include <cstdint>
+#include <string>
+#include <string_view>
 
 namespace sonaro {
+
+class DataFolder;
 
 enum class TableStatus : std::int16_t {
   Success = 0,
@@ -20,5 +25,9 @@ enum class TableStatus : std::int16_t {
 constexpr bool Stored(TableStatus status) {
   return status == TableStatus::Success || status == TableStatus::ReplacedExisting;
 }
+
+// The path without an extension of the table `name` ("\statorg"), in the letter case of its data file if
+// there is one.
+std::string TablePath(const DataFolder& data, std::string_view name);
 
 }  // namespace sonaro

@@ -25,7 +25,8 @@ std::string_view NameOf(std::string_view record) {
   return record.substr(0, FindByte(record, kFieldSeparator));
 }
 
-// The words as they are looked for in names.
+// The words as they are looked for in names, rarest first: it leads through the names, and where it is
+// missing the others need not be looked for.
 class NameWords {
  public:
   NameWords(std::span<const std::string> words, const ByteFrequencies& frequencies) {
@@ -98,6 +99,7 @@ Records SearchTexts(const SearchColumn& column, const SearchIndex& index, const 
     if (wanted(TextOf(texts, place))) others.push_back(plain.Accented()[place]);
     return others.size() < max;
   });
+  // Both are in ascending order and hold no record twice, since an accented one counts in its own text only.
   Records all;
   all.reserve(usual.size() + others.size());
   std::merge(usual.begin(), usual.end(), others.begin(), others.end(), std::back_inserter(all));
@@ -128,6 +130,7 @@ PlainTexts::PlainTexts(const SearchColumn& column)
 void PlainTexts::Build(const SearchColumn& column) {
   const std::size_t count = column.starts.size() - 1;
   names_.bytes = texts_.bytes = kFieldSeparator;
+  // A guess; names are about a fifth of what is searched.
   names_.bytes.reserve(column.text.size() / 4);
   names_.starts.reserve(count + 1);
   for (std::uint32_t record = 0; record < count; ++record) Add(column, record);
@@ -138,6 +141,8 @@ void PlainTexts::Build(const SearchColumn& column) {
 void PlainTexts::Add(const SearchColumn& column, std::uint32_t record) {
   const std::string_view text = TextOf(column, record);
   names_.starts.push_back(static_cast<std::uint32_t>(names_.bytes.size()));
+  // Most records are ASCII, which is seen at a glance. Others need not have accents: Chinese or Russian ones
+  // stay as they are.
   if (!IsAscii(text)) {
     const std::size_t start = texts_.bytes.size();
     AppendWithoutAccents(texts_.bytes, text);
@@ -164,6 +169,7 @@ Records BestRecords(const SearchColumn& column, const SearchIndex& index, const 
   const NameWords nameWords(words.Folded(), plain.NameFrequencies());
   auto [best, parts] = SearchNames(plain.Names(), nameWords, max);
   best.insert(best.end(), parts.begin(), parts.end());
+  // The quota ends this pass as well: a word that stands in every description costs a few hundred records.
   if (best.size() < max) {
     const auto isOther = [&](std::string_view text) { return !nameWords.AllStandIn(NameOf(text)); };
     const Records others = SearchTexts(column, index, plain, words.Folded(), max - best.size(), isOther);

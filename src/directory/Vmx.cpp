@@ -27,6 +27,7 @@ std::string JoinFields(std::span<const std::string> fields) {
   return text;
 }
 
+// The fields of a text where it lies. As many as the definition says, whatever the text holds.
 void Split(const OpenTable& table, const TableImage::Record& found, VmxRecord& record) {
   record.fields.resize(table.FieldCount());
   SplitAtTabs(found.text, record.fields);
@@ -146,6 +147,8 @@ TableStatus Vmx::VmxVisit(Handle handle, std::span<const std::int32_t> keys, con
   });
 }
 
+// One operation for all records: what an operation costs by itself is paid once, and the texts come in large
+// steps.
 TableStatus Vmx::VmxVisitAll(Handle handle, const Visitor& visit) {
   return RunOn(handle, [&](OpenTable& table) {
     VmxRecord record;
@@ -174,6 +177,7 @@ TableStatus Vmx::VmxKnown(Handle handle, std::span<const std::int32_t> keys,
   });
 }
 
+// Nothing is written before VmxClose.
 TableStatus Vmx::VmxPut(Handle handle, std::string_view key, std::span<const std::string> fields) {
   return RunOn(handle, [&](OpenTable& table) {
     std::int32_t id = 0;
@@ -191,6 +195,7 @@ TableStatus Vmx::VmxDelete(Handle handle, std::string_view key) {
   });
 }
 
+// The image outlives the call, since images_ holds it too, but a table that was replaced gets another one.
 TableImage* Vmx::SearchImage(Handle handle) {
   TableImage* image = nullptr;
   RunOn(handle, [&](OpenTable& table) {
@@ -218,6 +223,7 @@ TableStatus Vmx::Source(const std::string& path, TableSource& source) {
   });
 }
 
+// Not by way of images_: what is in memory says nothing of the disk.
 TableStatus Vmx::Verify(const std::string& path) {
   return Run([&] {
     TableFiles files;

@@ -40,8 +40,6 @@ inline constexpr std::uint32_t kFormatVersion = 2;
 inline constexpr std::uint32_t kByteOrderMark = 0x01020304;
 inline constexpr char kFieldSeparator = '\t';
 inline constexpr std::size_t kColumnPadding = 64;
-inline constexpr std::size_t kColumnBlock =
-    64 * 1024;  // checksums of long streams are chained over such blocks
 inline constexpr std::uint32_t kPageEntries = 512;
 inline constexpr std::uint64_t kMaxTextSize = std::numeric_limits<std::uint32_t>::max();
 
