@@ -14,7 +14,6 @@ namespace sonaro {
 namespace {
 
 constexpr const char* kListFileEnd = ".snr";
-constexpr const char* kYourStationsText = "Your Stations";
 constexpr const char* kYourStationsKey = "O1";
 constexpr const char* kYourStationsTag = "O";
 
@@ -52,7 +51,7 @@ void BrowseTree::FillBrowseTree(BrowseMode mode) {
     ExpandCategory(tag, category, fields[3]);
     CountStations(category);
   }
-  AddNode(BrowseNode::kRoot, kYourStationsKey, kYourStationsText, kYourStationsTag);
+  AddNode(BrowseNode::kRoot, kYourStationsKey, ownStations_, kYourStationsTag);
   SortChildren();
 }
 

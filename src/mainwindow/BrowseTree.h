@@ -41,8 +41,9 @@ struct NodeClick {
 
 class BrowseTree {
  public:
-  explicit BrowseTree(DataFolder& data, SortKeyOf sortKey = FoldCase)
-      : data_(data), sortKey_(std::move(sortKey)) {}
+  // `ownStations`: the text of the last root.
+  explicit BrowseTree(DataFolder& data, SortKeyOf sortKey = FoldCase, std::string ownStations = {})
+      : data_(data), sortKey_(std::move(sortKey)), ownStations_(std::move(ownStations)) {}
 
   // Rebuilds the tree when `mode` is not the one it was built for; true when it did.
   bool Show(BrowseMode mode);
@@ -68,6 +69,7 @@ class BrowseTree {
 
   DataFolder& data_;
   SortKeyOf sortKey_;
+  std::string ownStations_;
   BrowseMode mode_ = BrowseMode::NotBuilt;
   std::vector<BrowseNode> nodes_;
   std::vector<int> roots_;

@@ -14,6 +14,8 @@
 #include "mainwindow/StationListFiller.h"
 #include "mainwindow/StationListState.h"
 #include "playlists/PlaylistTransfer.h"
+#include "resources/texts/mainwindow.h"
+#include "settings/Strings.h"
 #include "stations/FavoriteGroups.h"
 
 namespace sonaro {
@@ -44,7 +46,7 @@ struct GuideData {
 
 struct MainModels {
   MainModels(const GuideData& data, TrayMessages& tray)
-      : tree(data.folder, data.sortKey),
+      : tree(data.folder, data.sortKey, data.strings.Load(IDS_LISTING_YOUR_STATIONS)),
         rankings(data.folder),
         lists(data.stations, data.source, data.recent, data.strings),
         filter(data.folder, data.settings, data.stations, data.sortKey),

@@ -57,14 +57,37 @@ void frmSched::Rows::SortBy(int column) {
 void frmSched::Rows::ShowSorted(const std::vector<std::string>& before) {
   ListView& list = *list_;
   const int selected = list.Selected();
+  std::vector<std::string> several;
+  if (list.SelectedCount() > 1) {
+    for (const int row : list.SelectedRows()) several.push_back(before[static_cast<std::size_t>(row)]);
+  }
   SortRows(rows_, sortedBy_);
   for (int column = 0; column < kScheduleColumns; ++column) {
     headers_[column].SetSortMark(column == sortedBy_ ? SortMark::Up : SortMark::None);
   }
   list.RowsChanged();
+  if (!several.empty()) return SelectKeys(several);
   const auto after =
       selected >= 0 ? SelectionAfterFill(before, static_cast<std::size_t>(selected), Keys()) : std::nullopt;
   list.Select(after ? static_cast<int>(*after) : -1);
+}
+
+void frmSched::Rows::SelectKeys(const std::vector<std::string>& keys) {
+  std::vector<int> found;
+  for (int row = 0; row < RowCount(); ++row) {
+    if (std::find(keys.begin(), keys.end(), rows_[static_cast<std::size_t>(row)].key) != keys.end()) {
+      found.push_back(row);
+    }
+  }
+  list_->SelectRows(found);
+}
+
+std::vector<std::string> frmSched::Rows::SelectedKeys() const {
+  std::vector<std::string> keys;
+  for (const int row : list_->SelectedRows()) {
+    if (row >= 0 && row < RowCount()) keys.push_back(rows_[static_cast<std::size_t>(row)].key);
+  }
+  return keys;
 }
 
 std::string frmSched::Rows::SelectedKey() const {
@@ -75,6 +98,8 @@ std::string frmSched::Rows::SelectedKey() const {
 void frmSched::OnLoad() {
   scheduled_.Load(IDS_SCHED_COLUMN_STATION, IDS_SCHED_LIST_EMPTY, IDS_SCHED_LIST_EMPTY_HELP);
   shows_.Load(IDS_SCHED_COLUMN_SHOW, IDS_SCHED_SHOWS_EMPTY, IDS_SCHED_SHOWS_EMPTY_HELP);
+  // Not the shows: each one that is deleted is told of in a box of its own.
+  lstSched_->AllowSeveral();
   showsUsed_ = false;
   FillLists();
 }
@@ -93,7 +118,7 @@ void frmSched::FillLists() {
 
 void frmSched::ShowKeys() {
   const std::string key = SelectedKey();
-  butChangeIt_.Enable(SlotOfKey(key) >= 0);
+  butChangeIt_.Enable(SlotOfKey(key) >= 0 && lstSched_->SelectedCount() == 1);
   butDeleteIt_.Enable(!key.empty());
   butExportIt_.Enable(scheduled_.RowCount() > 0);
 }
@@ -120,16 +145,16 @@ void frmSched::butAddIt_Click() {
 
 void frmSched::butChangeIt_Click() {
   const int slot = SlotOfKey(SelectedKey());
-  if (slot < 0) return;
+  if (slot < 0 || lstSched_->SelectedCount() != 1) return;
   const auto index = static_cast<std::size_t>(slot);
   frmSchedChange dialog(context_, services_, ScheduleDraft::FromItem(services_.store.Item(index)), index);
   if (dialog.ShowModal(Window()) == 1) FillLists();
 }
 
 void frmSched::butDeleteIt_Click() {
-  const std::string key = SelectedKey();
-  if (key.empty()) return;
-  services_.changes.Delete({key});
+  const std::vector<std::string> keys = (showsUsed_ ? shows_ : scheduled_).SelectedKeys();
+  if (keys.empty()) return;
+  services_.changes.Delete(keys);
   FillLists();
   (showsUsed_ ? lstShows_ : lstSched_).Focus();  // the button may be out of use now
 }

@@ -29,15 +29,17 @@ class frmSched final : public Form {
     std::string Cell(int row, int column) const override;
 
     void Load(int nameText, int emptyText, int emptyHelp);
-    // The selection follows the rule of base/RowSelection.h.
+    // One selected row follows the rule of base/RowSelection.h, several stay those that are still there.
     void Fill(std::vector<ScheduleRow> rows);
     void SortBy(int column);
     // "" without one.
     std::string SelectedKey() const;
+    std::vector<std::string> SelectedKeys() const;
 
    private:
     std::vector<std::string> Keys() const;
     void ShowSorted(const std::vector<std::string>& before);
+    void SelectKeys(const std::vector<std::string>& keys);
 
     Form& form_;
     ListHandle list_;

@@ -161,6 +161,17 @@ TEST_F(HandClockTest, TheScheduleIsExportedAsACalendar) {
   for (std::size_t at = 0; (at = calendar.find("BEGIN:VEVENT\r\n", at)) != std::string::npos; ++at) ++events;
   EXPECT_EQ(events, 2u);
   EXPECT_NE(calendar.find("SUMMARY:Tee früh\r\n"), std::string::npos) << calendar;
+
+  // Several rows at once.
+  HWND rows = Control(list, lstSched);
+  PressKey(list, 'A', Modifier::Control);
+  ASSERT_TRUE(WaitUntil([&] { return SelectedRows(rows).size() == 3; }));
+  EXPECT_FALSE(IsWindowEnabled(Control(list, butChangeIt)));
+  PressKey(list, VK_DELETE);
+  EXPECT_EQ(AnswerBox(list, butMsg), "Delete these 3 notices?");
+  EXPECT_TRUE(WaitUntil([&] { return RowCount(rows) == 0; }));
+  PressKey(list, 'Z', Modifier::Control);
+  EXPECT_TRUE(WaitUntil([&] { return RowCount(rows) == 3; }));
 }
 
 // Another program holds the schedule from before the start: said once, nothing shown as if it were all, no

@@ -28,7 +28,7 @@ class BrowseTreeTest : public testing::Test {
   FakeSystemInfo system;
   FakeFiles files;
   DataFolder data{files, "/d", '/'};
-  BrowseTree tree{data, [this](std::string_view text) { return system.SortKey(text); }};
+  BrowseTree tree{data, [this](std::string_view text) { return system.SortKey(text); }, "Your Stations"};
 };
 
 TEST_F(BrowseTreeTest, BuildsCategoriesWithTheirEntries) {
