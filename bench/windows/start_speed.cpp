@@ -5,7 +5,6 @@
 //
 // start_speed --idle SECONDS PROGRAM...: how often each program, started hidden, wakes up in that time.
 //
-// Under Wine processor time, memory and wake-ups come from the host's /proc, which Wine shows as Z:\proc.
 #include <windows.h>
 
 #include <psapi.h>
@@ -14,11 +13,10 @@
 #include <chrono>
 #include <cstdio>
 #include <cstdlib>
-#include <fstream>
-#include <sstream>
 #include <string>
 #include <vector>
 
+#include "HostProcess.h"
 #include "Probe.h"
 #include "SonaroProcess.h"
 
@@ -40,64 +38,6 @@ struct Contender {
   std::string program, arguments;
   std::vector<Figures> rounds;
 };
-
-std::string Content(const std::string& path) {
-  std::ifstream file(path, std::ios::binary);
-  std::ostringstream text;
-  text << file.rdbuf();
-  return text.str();
-}
-
-// The number behind a word in a text of lines; 0 when it is not there.
-double NumberBehind(const std::string& text, const std::string& word) {
-  const auto at = text.find(word);
-  return at == std::string::npos ? 0 : std::atof(text.c_str() + at + word.size());
-}
-
-// The process of the host that runs a program, as a folder of /proc; "" on Windows itself.
-std::string HostProcess(const std::string& program, const std::string& arguments) {
-  WIN32_FIND_DATAA entry{};
-  const HANDLE find = FindFirstFileA("Z:\\proc\\*", &entry);
-  if (find == INVALID_HANDLE_VALUE) return "";
-  std::string found;
-  do {
-    if (entry.cFileName[0] < '1' || entry.cFileName[0] > '9') continue;
-    const std::string folder = std::string("Z:\\proc\\") + entry.cFileName;
-    const std::string line = Content(folder + "\\cmdline");
-    if (line.find(program) == 0 && line.find(arguments) != std::string::npos) found = folder;
-  } while (found.empty() && FindNextFileA(find, &entry));
-  FindClose(find);
-  return found;
-}
-
-// Nanoseconds on a processor, over all threads.
-double HostProcessorTime(const std::string& folder) {
-  WIN32_FIND_DATAA entry{};
-  const HANDLE find = FindFirstFileA((folder + "\\task\\*").c_str(), &entry);
-  double sum = 0;
-  if (find == INVALID_HANDLE_VALUE) return sum;
-  do {
-    if (entry.cFileName[0] != '.') {
-      sum += std::atof(Content(folder + "\\task\\" + entry.cFileName + "\\schedstat").c_str());
-    }
-  } while (FindNextFileA(find, &entry));
-  FindClose(find);
-  return sum;
-}
-
-double Wakeups(const std::string& folder) {
-  WIN32_FIND_DATAA entry{};
-  const HANDLE find = FindFirstFileA((folder + "\\task\\*").c_str(), &entry);
-  double sum = 0;
-  if (find == INVALID_HANDLE_VALUE) return sum;
-  do {
-    if (entry.cFileName[0] == '.') continue;
-    sum += NumberBehind(Content(folder + "\\task\\" + entry.cFileName + "\\status"),
-                        "\nvoluntary_ctxt_switches:");
-  } while (FindNextFileA(find, &entry));
-  FindClose(find);
-  return sum;
-}
 
 BOOL CALLBACK CountUnpainted(HWND window, LPARAM count) {
   if (IsWindowVisible(window) && GetUpdateRect(window, nullptr, FALSE)) ++*reinterpret_cast<int*>(count);
@@ -138,17 +78,17 @@ double Milliseconds(const FILETIME& time) {
 Figures Of(DWORD id, const Contender& contender) {
   Figures figures;
   const HANDLE process = OpenProcess(PROCESS_QUERY_INFORMATION | PROCESS_VM_READ, FALSE, id);
-  const std::string host = HostProcess(contender.program, contender.arguments);
-  if (host.empty()) {
+  const HostProcess host(contender.program, contender.arguments);
+  if (host.Found()) {
+    figures.processor = host.Processor();
+    figures.memory = host.PrivateMegabytes();
+  } else {
     FILETIME ignored{}, kernel{}, user{};
     GetProcessTimes(process, &ignored, &ignored, &kernel, &user);
     figures.processor = Milliseconds(kernel) + Milliseconds(user);
     PROCESS_MEMORY_COUNTERS_EX memory{};
     GetProcessMemoryInfo(process, reinterpret_cast<PROCESS_MEMORY_COUNTERS*>(&memory), sizeof memory);
     figures.memory = static_cast<double>(memory.PrivateUsage) / 1048576;
-  } else {
-    figures.processor = HostProcessorTime(host) / 1e6;
-    figures.memory = NumberBehind(Content(host + "\\smaps_rollup"), "\nPrivate_Dirty:") / 1024;
   }
   HMODULE modules[512];
   DWORD bytes = 0;
@@ -208,11 +148,11 @@ int MeasureIdle(std::vector<Contender>& contenders, int seconds) {
     const SonaroProcess process(contender.program, contender.arguments);
     if (!process.WaitForWindow(kMainClass, "", kLimit)) return 1;
     Sleep(10000);  // what the start put off is done by then
-    const std::string host = HostProcess(contender.program, contender.arguments);
-    const double wakeups = Wakeups(host), processor = HostProcessorTime(host);
+    const HostProcess host(contender.program, contender.arguments);
+    const double wakeups = host.Wakeups(), processor = host.Processor();
     Sleep(static_cast<DWORD>(seconds) * 1000);
-    std::printf("%4.0f wake-ups and %.1f ms of processor in %d s, hidden   %s\n", Wakeups(host) - wakeups,
-                (HostProcessorTime(host) - processor) / 1e6, seconds, contender.program.c_str());
+    std::printf("%4.0f wake-ups and %.1f ms of processor in %d s, hidden   %s\n", host.Wakeups() - wakeups,
+                host.Processor() - processor, seconds, contender.program.c_str());
   }
   return 0;
 }
