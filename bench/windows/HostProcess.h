@@ -12,10 +12,10 @@ class HostProcess {
   HostProcess(const std::string& program, const std::string& arguments);
 
   bool Found() const { return !folder_.empty(); }
-  double Processor() const;        // milliseconds, of all threads
-  double FirstThread() const;      // milliseconds of processor, of the one that has the windows
+  double Processor() const;         // milliseconds, of all threads
+  double FirstThread() const;       // milliseconds of processor, of the one that has the windows
   double PrivateMegabytes() const;  // written pages that are nobody else's
-  double Wakeups() const;          // so far: how often a thread has gone to sleep
+  double Wakeups() const;           // so far: how often a thread has gone to sleep
 
  private:
   template <typename Figure>

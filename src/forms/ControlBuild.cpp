@@ -103,16 +103,17 @@ LRESULT CALLBACK BringUpProcedure(HWND label, UINT message, WPARAM wParam, LPARA
   });
 }
 
-// Hidden, and without a place: both come with the layout.
-HWND MakeChild(HWND form, const ControlClass& kind, DWORD style, WORD number, const std::wstring& text) {
-  return CreateWindowExW(0, kind.name, text.c_str(), WS_CHILD | kind.style | style, 0, 0, 0, 0, form,
+HWND MakeChild(HWND form, const ControlClass& kind, DWORD style, WORD number, const std::wstring& text,
+               const RECT& box) {
+  return CreateWindowExW(0, kind.name, text.c_str(), WS_CHILD | kind.style | style, box.left, box.top,
+                         box.right - box.left, box.bottom - box.top, form,
                          reinterpret_cast<HMENU>(static_cast<UINT_PTR>(number)), GetModuleHandleW(nullptr),
                          nullptr);
 }
 
 }  // namespace
 
-void ControlSet::Build(HWND window) {
+void ControlSet::Build(HWND window, const Painter& painter) {
   window_ = window;
   const ControlRow* before = nullptr;
   formerItems_ = std::exchange(items_, std::vector<ControlInstance>());
@@ -124,30 +125,69 @@ void ControlSet::Build(HWND window) {
     item.icon = row.icon;
     item.color = row.color;
     item.wanted = (row.flags & kHidden) == 0;
-    if (IsDecoration(row.kind)) {
-      before = nullptr;
-      continue;
-    }
     // Decorations end a group: what looks divided is.
-    item.groupStart = !ContinuesGroup(row, before);
-    before = &row;
-    item.view = MakeView(row);
-    if (!item.view) MakeControl(item);
-    if (row.flags & kDisabled) EnableWindow(item.Window(), FALSE);
+    const bool isWindow = !IsDecoration(row.kind);
+    item.groupStart = !isWindow || !ContinuesGroup(row, before);
+    before = isWindow ? &row : nullptr;
+    if (isWindow && !late_[row.pane]) Make(item, painter);
   }
-  const HWND bringUp = MakeChild(window, {L"STATIC", SS_NOPREFIX}, 0, static_cast<WORD>(lblBringUp), L"");
+  const HWND bringUp = MakeChild(window, {L"STATIC", SS_NOPREFIX}, 0, static_cast<WORD>(lblBringUp), L"", {});
   SetWindowSubclass(bringUp, BringUpProcedure, 1, reinterpret_cast<DWORD_PTR>(&form_));
 }
 
-void ControlSet::MakeControl(ControlInstance& item) {
+// The tab order is that of the windows, which is that of the rows.
+void ControlSet::MakePane(std::size_t pane) {
+  if (!late_[pane] || !window_) return;
+  late_[pane] = false;
+  HWND before = HWND_TOP;
+  for (ControlInstance& item : items_) {
+    if (item.row->pane == pane && !IsDecoration(item.KindOf())) {
+      Make(item, form_.Theme());
+      SetWindowPos(item.Window(), before, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
+    }
+    if (item.Window()) before = item.Window();
+  }
+  form_.PaneMade(static_cast<int>(pane));
+}
+
+void ControlSet::MakeLatePanes() {
+  for (const unsigned char pane : design_.latePanes) MakePane(pane);
+}
+
+// In its place and shown at once: every further call about a window costs as much as its making.
+void ControlSet::Make(ControlInstance& item, const Painter& painter) {
+  const DesignRect* at = BoundsIn(design_, layout_, *item.row);
+  if (at) {
+    item.place = Arrange(*at, item.row->anchors, SizeOf(design_, layout_), ScaleToDpi(Size(), painter.Dpi()),
+                         painter.Dpi());
+  }
+  item.shown = IsWanted(item);
+  item.view = MakeView(*item.row);
+  if (!item.view) {
+    MakeControl(item, painter);
+  } else {
+    item.view->ThemeChanged();
+    if (at) PlaceWindow(item, painter);
+    item.view->SetShown(item.shown);
+  }
+  if (item.Has(kDisabled)) EnableWindow(item.Window(), FALSE);
+}
+
+void ControlSet::MakeControl(ControlInstance& item, const Painter& painter) {
   const ControlRow& row = *item.row;
-  const DWORD style = WS_CLIPSIBLINGS | (item.groupStart ? WS_GROUP : 0) | (TakesTab(row) ? WS_TABSTOP : 0);
+  const DWORD style = WS_CLIPSIBLINGS | (item.groupStart ? WS_GROUP : 0) | (TakesTab(row) ? WS_TABSTOP : 0) |
+                      (item.shown ? WS_VISIBLE : 0);
   const WORD number = row.id == 0 ? kNoNumber : static_cast<WORD>(row.id);
   const std::wstring text = Widen(form_.TextOf(row.text));
-  item.window = MakeChild(window_, ClassOf(row), style, number, text);
+  const bool isDrawn = IsDrawn(row.kind);  // the others take their place from their font
+  if (isDrawn) item.box = WindowBox(item, painter);
+  item.window = MakeChild(window_, ClassOf(row), style, number, text, item.box);
   WatchControl(item);
   if (IsCombo(row.kind)) AttachCombo(item);
   if (HasLines(row.kind)) item.bar = std::make_unique<LinesBar>(window_, form_, item.window);
+  TakeFont(item, painter);
+  if (!isDrawn) PlaceWindow(item, painter);
+  if (item.bar) item.bar->SetShown(item.shown);
   if (row.kind == ControlKind::StripButton) SetTip(item, Narrow(WithoutAccessKey(text)));
 }
 

@@ -27,6 +27,7 @@ struct ControlInstance {
   bool emptySocket = false;  // GroupButton
   bool groupStart = true;    // the arrow keys do not come here from the row before
   PixelRect place;           // of the row's rectangle; the window may be smaller (an edit in its glass)
+  RECT box{};                // where its window is
   std::string detail;
   Icon icon = Icon::None;
   TextColor color = TextColor::Default;
@@ -62,6 +63,11 @@ constexpr bool IsCheck(ControlKind kind) {
   return kind == ControlKind::CheckBox || kind == ControlKind::RadioButton;
 }
 
+// Painted by us alone; its class shows nothing.
+constexpr bool IsDrawn(ControlKind kind) {
+  return IsText(kind) || IsButton(kind) || IsCheck(kind) || kind == ControlKind::Picture;
+}
+
 // In glass that the form paints.
 constexpr bool IsEdit(ControlKind kind) {
   return kind == ControlKind::Edit || kind == ControlKind::MultiEdit;
@@ -88,6 +94,9 @@ constexpr TextStyle TextStyleOf(const ControlRow& row) {
   if (row.style != TextStyle::Default) return row.style;
   return row.kind == ControlKind::TitleBar ? TextStyle::Title : TextStyle::Body;
 }
+
+// ControlSet.cpp: the control's window, which may be smaller than its place.
+RECT WindowBox(const ControlInstance& item, const Painter& painter);
 
 // ControlWindow.cpp: hover, repainting, painting of check boxes for every control of a form.
 void WatchControl(ControlInstance& item);

@@ -6,6 +6,7 @@
 #include <uxtheme.h>
 
 #include <algorithm>
+#include <utility>
 
 #include "forms/FormWindow.h"
 #include "forms/Screen.h"
@@ -30,7 +31,8 @@ void ColourCalendar(HWND calendar, const FaceplateColors& colors) {
   MonthCal_SetColor(calendar, MCSC_TRAILINGTEXT, ToColorRef(colors.textOff));
 }
 
-// The control's window, which may be smaller than its place.
+}  // namespace
+
 // A check box begins left of its place, where its focus line stands; a text of several lines leaves room for
 // its bar; an edit stands inside the glass that the form paints.
 RECT WindowBox(const ControlInstance& item, const Painter& painter) {
@@ -52,12 +54,12 @@ RECT WindowBox(const ControlInstance& item, const Painter& painter) {
   return box;
 }
 
-}  // namespace
-
 void ControlSet::Reset() {
   layout_ = 0;
   grown_ = {};
   hiddenPanes_.reset();
+  late_.reset();
+  for (const unsigned char pane : design_.latePanes) hiddenPanes_[pane] = late_[pane] = true;
 }
 
 // Views keep their objects: their destructors find that the windows are gone.
@@ -71,7 +73,9 @@ void ControlSet::Forget() {
 ControlInstance* ControlSet::Find(int id) {
   if (id == 0) return nullptr;
   for (ControlInstance& item : items_) {
-    if (item.Id() == id) return &item;
+    if (item.Id() != id) continue;
+    MakePane(item.row->pane);
+    return &item;
   }
   return nullptr;
 }
@@ -126,8 +130,13 @@ void ControlSet::Place(const Painter& painter) {
 // Without SWP_NOCOPYBITS the old picture would be moved along, with the ground of where it was.
 void ControlSet::PlaceWindow(ControlInstance& item, const Painter& painter) {
   const RECT box = WindowBox(item, painter);
-  if (item.view) return item.view->MoveTo(box);
-  if (!item.window) return;
+  const bool moved = !EqualRect(&box, &item.box);
+  if ((!item.window && !item.view) || (!moved && IsDrawn(item.KindOf()))) return;
+  item.box = box;
+  if (item.view) {
+    if (moved) item.view->MoveTo(box);
+    return;
+  }
   if (IsCombo(item.KindOf())) return SizeCombo(painter, item);
   SetWindowPos(item.window, nullptr, box.left, box.top, box.right - box.left, box.bottom - box.top,
                SWP_NOZORDER | SWP_NOACTIVATE | SWP_NOCOPYBITS);
@@ -143,12 +152,15 @@ void ControlSet::PlaceWindow(ControlInstance& item, const Painter& painter) {
   }
 }
 
+bool ControlSet::IsWanted(const ControlInstance& item) const {
+  return item.wanted && !hiddenPanes_[item.row->pane] && BoundsIn(design_, layout_, *item.row) != nullptr;
+}
+
 // Shown is what the program wants, in a pane that is shown, at a place that the layout knows. What the form
 // itself paints must be painted anew where it came or went; a little around it for its light edge.
 void ControlSet::ShowOrHide(ControlInstance& item) {
-  const bool wasShown = item.shown;
-  item.shown =
-      item.wanted && !hiddenPanes_[item.row->pane] && BoundsIn(design_, layout_, *item.row) != nullptr;
+  const bool wasShown = std::exchange(item.shown, IsWanted(item));
+  if (wasShown == item.shown) return;
   // The system leaves the focus on a control that is hidden, where it swallows every key.
   if (!item.shown && Find(GetFocus()) == &item) SendMessageW(window_, WM_NEXTDLGCTL, 0, FALSE);
   if (item.view) {
@@ -157,7 +169,7 @@ void ControlSet::ShowOrHide(ControlInstance& item) {
     ShowWindow(item.window, item.shown ? SW_SHOWNA : SW_HIDE);
     if (item.bar) item.bar->SetShown(item.shown);
   }
-  if (wasShown == item.shown || !window_) return;
+  if (!window_) return;
   if (IsDecoration(item.KindOf())) form_.Paint().DiscardGround();
   if (!item.window || IsEdit(item.KindOf())) {
     RECT box = ToRect(item.place);
@@ -170,6 +182,7 @@ void ControlSet::ShowOrHide(ControlInstance& item) {
 void ControlSet::ShowPane(int pane, bool shown) {
   const auto index = static_cast<std::size_t>(pane);
   if (pane <= 0 || index >= hiddenPanes_.size() || hiddenPanes_[index] == !shown) return;
+  if (shown) MakePane(index);
   hiddenPanes_[index] = !shown;
   for (ControlInstance& item : items_) {
     if (item.row->pane == pane) ShowOrHide(item);
@@ -180,14 +193,20 @@ void ControlSet::ShowPane(int pane, bool shown) {
 void ControlSet::TakeTheme(const Painter& painter) {
   for (ControlInstance& item : items_) {
     if (item.view) item.view->ThemeChanged();
-    if (!item.window) continue;
-    SendMessageW(item.window, WM_SETFONT, reinterpret_cast<WPARAM>(painter.Font(TextStyleOf(*item.row))),
-                 FALSE);
-    if (IsEdit(item.KindOf()) || item.KindOf() == ControlKind::ReadOnlyText) {
-      SendMessageW(item.window, EM_SETMARGINS, EC_LEFTMARGIN | EC_RIGHTMARGIN, 0);
-    }
-    if (item.KindOf() == ControlKind::MonthCalendar) ColourCalendar(item.window, painter.Colors());
+    if (item.window) TakeFont(item, painter);
+    item.box = {};  // placed anew, since what the font decides may have changed
   }
+}
+
+// What is drawn is drawn with the painter's fonts.
+void ControlSet::TakeFont(const ControlInstance& item, const Painter& painter) const {
+  if (IsDrawn(item.KindOf())) return;
+  SendMessageW(item.window, WM_SETFONT, reinterpret_cast<WPARAM>(painter.Font(TextStyleOf(*item.row))),
+               FALSE);
+  if (IsEdit(item.KindOf()) || item.KindOf() == ControlKind::ReadOnlyText) {
+    SendMessageW(item.window, EM_SETMARGINS, EC_LEFTMARGIN | EC_RIGHTMARGIN, 0);
+  }
+  if (item.KindOf() == ControlKind::MonthCalendar) ColourCalendar(item.window, painter.Colors());
 }
 
 // A label is known to the tips by its number and its place in the form, since the mouse goes through it;

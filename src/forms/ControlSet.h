@@ -20,16 +20,19 @@ class ControlSet {
  public:
   ControlSet(FormWindow& form, const FormDesign& design) : form_(form), design_(design) {}
 
-  // All panes shown, layout 0, not grown.
+  // All panes shown but the late ones, layout 0, not grown.
   void Reset();
-  // Makes the controls in the window, without a place yet.
-  void Build(HWND window);
+  // Makes the controls in the window, in their places, but for those of late panes.
+  void Build(HWND window, const Painter& painter);
+  bool HasPane(int pane) const { return !late_[static_cast<std::size_t>(pane)]; }
+  bool IsWhole() const { return late_.none(); }
+  void MakeLatePanes();
   // The windows are gone. The rows stay until the next Build, since a control's last call may still run.
   void Forget();
 
   std::span<ControlInstance> All() { return items_; }
   std::span<const ControlInstance> All() const { return items_; }
-  ControlInstance* Find(int id);        // nullptr: none of this number
+  ControlInstance* Find(int id);        // nullptr: none of this number. Makes its pane
   ControlInstance* Find(HWND control);  // the control or a window inside it
   ControlInstance* FirstShown(std::initializer_list<int> ids);
 
@@ -66,7 +69,11 @@ class ControlSet {
   bool IsQuiet() const { return quiet_; }
 
  private:
-  void MakeControl(ControlInstance& item);
+  void Make(ControlInstance& item, const Painter& painter);
+  void MakeControl(ControlInstance& item, const Painter& painter);
+  void MakePane(std::size_t pane);
+  void TakeFont(const ControlInstance& item, const Painter& painter) const;
+  bool IsWanted(const ControlInstance& item) const;
   std::unique_ptr<FormControl> MakeView(const ControlRow& row);  // nullptr: a control of a system class
   TTTOOLINFOW ToolOf(const ControlInstance& item) const;
   void PlaceWindow(ControlInstance& item, const Painter& painter);
@@ -78,7 +85,8 @@ class ControlSet {
   std::vector<ControlInstance> items_;
   std::vector<ControlInstance> formerItems_;  // of the window before: its last call may still be running
   std::bitset<256> hiddenPanes_;
-  DesignSize grown_;  // {} = the layout's size
+  std::bitset<256> late_;  // panes that are still to be made
+  DesignSize grown_;       // {} = the layout's size
   int layout_ = 0;
   bool quiet_ = false;
 };

@@ -39,6 +39,8 @@ void Form::UseLayout(int layout) {
 int Form::CurrentLayout() const { return window_->Controls().Layout(); }
 void Form::MoveToPixels(int left, int top) { window_->MoveToPixels(left, top); }
 void Form::CentreOn(HWND other) { window_->CentreOn(other); }
+bool Form::HasPane(int pane) const { return window_->Controls().HasPane(pane); }
+
 void Form::ShowPane(int pane, bool shown) { window_->Controls().ShowPane(pane, shown); }
 
 int Form::FocusedControl() const {

@@ -134,7 +134,8 @@ class Form : public EventTarget {
 
   // Controls. A form and its panes work them through the classes of forms/controls/Controls.h.
   void ShowPane(int pane, bool shown = true);
-  int FocusedControl() const;  // 0: none of this form
+  bool HasPane(int pane) const;  // false: its controls are still to be made
+  int FocusedControl() const;    // 0: none of this form
 
   // Timers of the timer table; starting again restarts.
   void StartTimer(int id, unsigned milliseconds);
@@ -156,9 +157,10 @@ class Form : public EventTarget {
  protected:
   std::span<const EventRow> Events() const override { return {}; }
   virtual std::span<const TimerRow> Timers() const { return {}; }
-  virtual void OnLoad() {}    // controls exist, nothing is shown yet
-  virtual void OnUnload() {}  // just before the window is destroyed
-  virtual void OnMoved() {}   // the user has dragged the form to a new place
+  virtual void OnLoad() {}         // controls exist, nothing is shown yet
+  virtual void OnPaneMade(int) {}  // the controls of a late pane exist (FormDesign::latePanes)
+  virtual void OnUnload() {}       // just before the window is destroyed
+  virtual void OnMoved() {}        // the user has dragged the form to a new place
   // Esc: clicks butCancelIt or butCloseIt, the first that is shown. Alt+F4 and the system menu: clicks
   // butCloseIt or butCancelIt. Without either both close the form. What the user has not accepted by then is
   // forgotten: Esc and closing store nothing.

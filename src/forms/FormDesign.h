@@ -178,6 +178,9 @@ struct FormDesign {
   int titleGroove = 36;         // y of the groove under the title strip, 0 = none
   std::span<const Layout> layouts = {};  // layout 1, 2 ...; layout 0 is this design itself
   std::span<const KeyRow> keys = {};
+  // Panes that are hidden at first and whose controls are made when one of them is first used or shown, at
+  // the latest once the form has been painted. What is to be done with them then is OnPaneMade's.
+  std::span<const unsigned char> latePanes = {};
   int firstFocus = 0;        // 0 = the primary button, or the first tab stop
   bool draggable = true;     // moved by its background and passive labels
   bool besideModal = false;  // takes input while a modal form waits for its answer

@@ -142,10 +142,18 @@ bool FormWindow::BuildWindow(HWND owner) {
 void FormWindow::Load() {
   KeepSystemFromScaling(window_);
   SetWindowTextW(window_, Widen(TextOf(design_.caption)).c_str());
-  controls_.Build(window_);
-  UseDpi(Theme().Dpi());
+  controls_.Build(window_, Theme());
+  const PixelRect room = WorkAreaOf(window_);
+  const int dpi = FittingDpi(controls_.Size(), {room.Width(), room.Height()}, Theme().Dpi());
+  if (dpi == Theme().Dpi()) {
+    Resize();
+  } else {
+    UseDpi(dpi, Fit::No);
+  }
   keys_.BeginCues(FormWindow::Of(GetWindow(window_, GW_OWNER)));
   form_->OnLoad();
+  // A timer's message comes after all others, those of painting among them.
+  if (!controls_.IsWhole()) SetTimer(window_, kLatePanesTimer, USER_TIMER_MINIMUM, nullptr);
 }
 
 // OnLoad may have closed the form again; then there is nothing to show.

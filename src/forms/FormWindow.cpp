@@ -64,7 +64,12 @@ LRESULT FormWindow::HandleMessage(UINT message, WPARAM wParam, LPARAM lParam) {
     case WM_NOTIFY:
       return HandleNotice(*reinterpret_cast<NMHDR*>(lParam));
     case WM_TIMER:
-      if (!needle_.Step(wParam)) RunTimer(static_cast<int>(wParam));
+      if (wParam == kLatePanesTimer) {
+        KillTimer(window_, kLatePanesTimer);
+        controls_.MakeLatePanes();
+      } else if (!needle_.Step(wParam)) {
+        RunTimer(static_cast<int>(wParam));
+      }
       return 0;
     case WM_ERASEBKGND:
     case WM_PAINT:
@@ -339,6 +344,10 @@ bool FormWindow::Handle(const FormEvent& event) {
   if (row->atPoint) (target->*row->atPoint)(row->count > 1 ? event.id - row->first : event.row, event.point);
   if (row->withNode) (target->*row->withNode)(event.node);
   return true;
+}
+
+void FormWindow::PaneMade(int pane) const {
+  if (form_) form_->OnPaneMade(pane);
 }
 
 // The number of a timer is that of its row in the timer table.

@@ -64,6 +64,7 @@ class FormWindow final : public FormServices {
   // What pressing the control or choosing the menu entry does. Hidden and disabled controls do nothing.
   void Press(int id);
   void Escape();
+  void PaneMade(int pane) const;                   // by ControlSet
   void BringUp(const std::string& caption) const;  // lblBringUp's caption was set
 
   // What the controls with a class of their own ask.
@@ -72,6 +73,8 @@ class FormWindow final : public FormServices {
   void Raise(const FormEvent& event) override { Handle(event); }
 
  private:
+  static constexpr UINT_PTR kLatePanesTimer =
+      2;  // 1 is the needle's; those of the tables are control numbers
   static constexpr UINT kDestroyNow = WM_APP + 0x3F00;  // posted by Close from inside a handler
 
   // The first row of the tables that is about this event, and whose it is; {} when none is.

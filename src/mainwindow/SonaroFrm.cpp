@@ -45,14 +45,19 @@ SonaroFrm::SonaroFrm(FormContext& context, const GuideData& data, const MainServ
 
 void SonaroFrm::OnLoad() {
   list_.Load();
-  search_.Load();
   detail_.Load();
-  yours_.Load();
   drag_.Load();
-  ShowPane(kProgressPane, false);
   status_.ShowGuide();
   models_.listing.ShowRanking(Ranking::MostPop);
   ShowEverything();
+}
+
+void SonaroFrm::OnPaneMade(int pane) {
+  if (pane == kSearchPane) search_.Load();
+  if (pane == kYoursPane) yours_.LoadGroups();
+  if (pane == kEventPane) yours_.LoadEvents();
+  if (pane == kStationPane) detail_.LoadStation();
+  if (pane == kYoursPane || pane == kOutsidePane) groups_.ShowOutsideTheBar();
 }
 
 void SonaroFrm::BringUpView(std::string_view name) {

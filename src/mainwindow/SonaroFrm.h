@@ -42,6 +42,7 @@ class SonaroFrm final : public Form, private MainView {
  private:
   static const FormDesign& Design();
   void OnLoad() override;
+  void OnPaneMade(int pane) override;
   void OnEscape() override {}  // the main window is not a dialog: nothing closes it by mistake
   bool OnMessage(UINT message, WPARAM wParam, LPARAM lParam, LRESULT& result) override;
   void ShowView(View view) override;

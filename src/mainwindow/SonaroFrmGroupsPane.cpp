@@ -4,6 +4,7 @@
 
 #include "forms/ControlIds.h"
 #include "mainwindow/SonaroFrmStatusPane.h"
+#include "mainwindow/SonaroFrm_panes.h"
 #include "mainwindow/frmNewFavorite.h"
 #include "mainwindow/frmPickGroup.h"
 #include "playback/StationScan.h"
@@ -70,13 +71,20 @@ void GroupsPane::Show() {
     button.SetFigure(std::to_string((slot + 1) % FavoriteGroups::kSlots));
     button.SetActive(used && shown == slot);
   }
+  ShowOutsideTheBar();
+}
+
+void GroupsPane::ShowOutsideTheBar() {
+  const std::size_t count = groups_.Count();
+  if (form_.HasPane(kYoursPane)) butRemoveGroup_.Enable(subject_.Group().has_value());
+  if (!form_.HasPane(kOutsidePane)) return;
+  const std::size_t shown = subject_.GroupOnShow().value_or(count);
   cmbFavs_.ClearItems();
   for (std::size_t group = 0; group < count; ++group) {
     cmbFavs_.AddItem(groups_.Name(group), static_cast<int>(group) + 1);
   }
   // Without a group on show the first one stands there.
   cmbFavs_.SelectItem(shown < count ? static_cast<int>(shown) : 0);
-  butRemoveGroup_.Enable(subject_.Group().has_value());
 }
 
 // The button that something dragged would fall on is lit beside the one of the group on show.

@@ -18,6 +18,7 @@ class GroupsPane final : public EventTarget, private FavoritePrompts {
   FavoriteCommands& Commands() { return commands_; }
 
   void Show();
+  void ShowOutsideTheBar();  // the groups once more, in what is made late
   // Something dragged is over the button of this slot; -1: over none.
   void ShowDropOn(int slot);
   std::string NameOf(std::size_t group) const;  // "" for a free slot

@@ -40,7 +40,7 @@ std::span<const EventRow> YoursPane::Events() const {
   return kRows;
 }
 
-void YoursPane::Load() {
+void YoursPane::LoadGroups() {
   ListView& groups = *lstGroups_;
   groups.SetRowHeight(26);
   groups.SetColumns({{.name = "#", .width = 24, .figure = true},
@@ -48,6 +48,9 @@ void YoursPane::Load() {
                      {.name = form_.LoadText(IDS_COLUMN_STATIONS), .rightAligned = true, .figure = true}});
   groups.SetColumnLines(false);
   groups.SetModel(&groupRows_, false);
+}
+
+void YoursPane::LoadEvents() {
   ListView& events = *lstEvents_;
   events.SetColumns({{form_.LoadText(IDS_COLUMN_WHEN), 150},
                      {form_.LoadText(IDS_COLUMN_EVENT), 190},

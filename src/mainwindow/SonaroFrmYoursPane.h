@@ -14,7 +14,8 @@ class YoursPane final : public EventTarget {
  public:
   explicit YoursPane(const MainContext& context);
 
-  void Load();
+  void LoadGroups();
+  void LoadEvents();
   // Everything of the page, of which the schedule and the lists may have changed.
   void Show();
   void ShowGroups();

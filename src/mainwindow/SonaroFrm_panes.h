@@ -15,7 +15,8 @@ enum MainPane : unsigned char {
   kNoStationPane,
   kStatusPane,  // the status line
   kProgressPane,
-  kFilterPane  // above the list
+  kFilterPane,  // above the list
+  kOutsidePane  // never shown: for who works the window from outside
 };
 
 // The layouts in which the caption leaves room: for a word on members of a group that the guide does not

@@ -130,7 +130,11 @@ const ControlRow kControls[] = {
      .at = {876, 94, 90, 28},
      .icon = Icon::Recent},
     // The groups once more, for who works the window from outside: choosing one does what its key does.
-    {.id = cmbFavs, .kind = ControlKind::Combo, .at = {14, 94, 82, 28}, .flags = kHidden | kNoTabStop},
+    {.id = cmbFavs,
+     .kind = ControlKind::Combo,
+     .at = {14, 94, 82, 28},
+     .flags = kHidden | kNoTabStop,
+     .pane = kOutsidePane},
     {.kind = ControlKind::Groove, .at = {14, 130, 952, 2}},
 
     // The left column.
@@ -448,6 +452,9 @@ constexpr Layout kLayouts[] = {{.places = kWithMissing, .others = Layout::Others
                                {.places = kWithFilterRow, .others = Layout::Others::AsDesigned},
                                {.places = kWithMissingAndFilterRow, .others = Layout::Others::AsDesigned}};
 
+constexpr unsigned char kLatePanes[] = {kTreePane,  kSearchPane,  kYoursPane,    kWebPane,
+                                        kEventPane, kStationPane, kProgressPane, kOutsidePane};
+
 constexpr KeyRow kKeys[] = {
     {'F', kCtrl, mnuViewSearch},
     {VK_F3, kPlain, mnuViewSearch},
@@ -485,6 +492,7 @@ const FormDesign& SonaroFrm::Design() {
                                      .titleGroove = 38,
                                      .layouts = kLayouts,
                                      .keys = kKeys,
+                                     .latePanes = kLatePanes,
                                      .firstFocus = lstFavs};
   return kDesign;
 }

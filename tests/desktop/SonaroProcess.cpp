@@ -1,6 +1,7 @@
 #include "SonaroProcess.h"
 
 #include "Probe.h"
+#include "forms/ControlIds.h"
 
 namespace sonaro::desktop {
 
@@ -58,6 +59,8 @@ HWND SonaroProcess::WaitForShownWindow(const std::string& className, const std::
   if (!IsShown(window)) return nullptr;
   DWORD_PTR ignored = 0;  // answered when the handlers of its showing have run
   SendMessageTimeoutA(window, WM_NULL, 0, 0, SMTO_NORMAL, static_cast<UINT>(limit.count()), &ignored);
+  // The main window makes what it does not show at first once it is painted, this one last.
+  if (className == "SonaroFrm") WaitUntil([&] { return Control(window, cmbFavs) != nullptr; }, limit);
   return window;
 }
 

@@ -6,10 +6,6 @@
 namespace sonaro {
 namespace {
 
-bool IsDrawn(ControlKind kind) {
-  return IsText(kind) || IsButton(kind) || IsCheck(kind) || kind == ControlKind::Picture;
-}
-
 // The system tells when the pointer goes only on request, once for each.
 void TrackPointer(ControlInstance& item, FormWindow& form) {
   if (item.hover) return;
@@ -79,6 +75,10 @@ LRESULT HandleControlMessage(FormWindow& form, ControlInstance& item, UINT messa
       break;
     case WM_ERASEBKGND:
       if (IsDrawn(kind)) return 1;
+      break;
+    case WM_NCCALCSIZE:
+      // No frame: some systems measure several fonts to find that out, at every move.
+      if (IsDrawn(kind)) return 0;
       break;
     case WM_PAINT:
       if (!IsToggle(kind) && !IsCheck(kind)) break;
