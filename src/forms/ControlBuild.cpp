@@ -111,6 +111,32 @@ HWND MakeChild(HWND form, const ControlClass& kind, DWORD style, WORD number, co
                          nullptr);
 }
 
+// A window that is made asks its procedure for its frame and more before its maker has a handle of it. While
+// this lives, the first one of the thread has our procedure from its first message on.
+class WatchedFromTheStart {
+ public:
+  explicit WatchedFromTheStart(ControlInstance& item)
+      : hook_(SetWindowsHookExW(WH_CBT, Notice, nullptr, GetCurrentThreadId())) {
+    made_ = &item;
+  }
+  ~WatchedFromTheStart() {
+    UnhookWindowsHookEx(hook_);
+    made_ = nullptr;
+  }
+  WatchedFromTheStart(const WatchedFromTheStart&) = delete;
+  WatchedFromTheStart& operator=(const WatchedFromTheStart&) = delete;
+
+ private:
+  static LRESULT CALLBACK Notice(int code, WPARAM window, LPARAM facts) noexcept {
+    if (code == HCBT_CREATEWND && made_)
+      WatchControl(*std::exchange(made_, nullptr), reinterpret_cast<HWND>(window));
+    return CallNextHookEx(nullptr, code, window, facts);
+  }
+
+  static inline ControlInstance* made_ = nullptr;  // a hook is told of nothing but the window
+  HHOOK hook_;
+};
+
 }  // namespace
 
 void ControlSet::Build(HWND window, const Painter& painter) {
@@ -181,8 +207,10 @@ void ControlSet::MakeControl(ControlInstance& item, const Painter& painter) {
   const std::wstring text = Widen(form_.TextOf(row.text));
   const bool isDrawn = IsDrawn(row.kind);  // the others take their place from their font
   if (isDrawn) item.box = WindowBox(item, painter);
-  item.window = MakeChild(window_, ClassOf(row), style, number, text, item.box);
-  WatchControl(item);
+  {
+    const WatchedFromTheStart watched(item);
+    item.window = MakeChild(window_, ClassOf(row), style, number, text, item.box);
+  }
   if (IsCombo(row.kind)) AttachCombo(item);
   if (HasLines(row.kind)) item.bar = std::make_unique<LinesBar>(window_, form_, item.window);
   TakeFont(item, painter);

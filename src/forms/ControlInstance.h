@@ -99,7 +99,7 @@ constexpr TextStyle TextStyleOf(const ControlRow& row) {
 RECT WindowBox(const ControlInstance& item, const Painter& painter);
 
 // ControlWindow.cpp: hover, repainting, painting of check boxes for every control of a form.
-void WatchControl(ControlInstance& item);
+void WatchControl(ControlInstance& item, HWND window);
 // Its class's own work.
 LRESULT CallControl(const ControlInstance& item, UINT message, WPARAM wParam, LPARAM lParam);
 

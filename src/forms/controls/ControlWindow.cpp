@@ -77,7 +77,8 @@ LRESULT HandleControlMessage(FormWindow& form, ControlInstance& item, UINT messa
       if (IsDrawn(kind)) return 1;
       break;
     case WM_NCCALCSIZE:
-      // No frame: some systems measure several fonts to find that out, at every move.
+    case WM_NCPAINT:
+      // No frame: some systems measure several fonts to find that out, at every move and painting.
       if (IsDrawn(kind)) return 0;
       break;
     case WM_PAINT:
@@ -128,10 +129,11 @@ LRESULT CallControl(const ControlInstance& item, UINT message, WPARAM wParam, LP
 
 // Not by SetWindowSubclass: it looks up a property of the window for every message, which on some systems
 // costs more than the message.
-void WatchControl(ControlInstance& item) {
-  SetWindowLongPtrW(item.window, GWLP_USERDATA, reinterpret_cast<LONG_PTR>(&item));
+void WatchControl(ControlInstance& item, HWND window) {
+  item.window = window;
+  SetWindowLongPtrW(window, GWLP_USERDATA, reinterpret_cast<LONG_PTR>(&item));
   item.original = reinterpret_cast<WNDPROC>(
-      SetWindowLongPtrW(item.window, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(&ControlProcedure)));
+      SetWindowLongPtrW(window, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(&ControlProcedure)));
 }
 
 }  // namespace sonaro

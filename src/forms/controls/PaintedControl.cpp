@@ -43,6 +43,9 @@ LRESULT CALLBACK PaintedControl::Procedure(HWND window, UINT message, WPARAM wPa
         return DefWindowProcW(window, message, wParam, lParam);
       case WM_ERASEBKGND:
         return 1;
+      case WM_NCCALCSIZE:  // no frame
+      case WM_NCPAINT:
+        return 0;
       case WM_PAINT:
         reinterpret_cast<PaintedControl*>(data)->Paint();
         return 0;

@@ -152,7 +152,9 @@ void Painter::Text(HDC dc, const RECT& box, std::wstring_view text, TextStyle st
                    UINT format) const {
   const UINT layout = (format & DT_WORDBREAK) != 0 ? DT_EDITCONTROL | DT_END_ELLIPSIS
                                                    : DT_SINGLELINE | DT_VCENTER | DT_END_ELLIPSIS;
-  const HGDIOBJ before = SelectObject(dc, Font(style));
+  // It stays selected: to select one costs much on some systems, and the context is a buffer's, which goes
+  // before the font does.
+  SelectObject(dc, Font(style));
   SetBkMode(dc, TRANSPARENT);
   SetTextColor(dc, ToColorRef(color));
   RECT place = box;
@@ -162,7 +164,6 @@ void Painter::Text(HDC dc, const RECT& box, std::wstring_view text, TextStyle st
     format = (format & ~static_cast<UINT>(DT_HIDEPREFIX)) | DT_NOPREFIX;
   }
   DrawTextW(dc, text.data(), static_cast<int>(text.size()), &place, format | layout);
-  SelectObject(dc, before);
 }
 
 // In a device context of its own: texts are measured before there is anything to paint on.
