@@ -56,7 +56,7 @@ void SonaroFrm::OnPaneMade(int pane) {
   if (pane == kSearchPane) search_.Load();
   if (pane == kYoursPane) yours_.LoadGroups();
   if (pane == kEventPane) yours_.LoadEvents();
-  if (pane == kStationPane) detail_.LoadStation();
+  if (pane == kNoStationPane) detail_.LoadNoStation();
   if (pane == kYoursPane || pane == kOutsidePane) groups_.ShowOutsideTheBar();
 }
 

@@ -50,9 +50,9 @@ std::span<const EventRow> DetailPane::Events() const {
   return kRows;
 }
 
-void DetailPane::Load() { picNoStation_.SetPainter(PaintNoStation); }
+void DetailPane::LoadNoStation() { picNoStation_.SetPainter(PaintNoStation); }
 
-void DetailPane::LoadStation() {
+void DetailPane::Load() {
   picHairAbove_.SetPainter(PaintHair);
   picHairBelow_.SetPainter(PaintHair);
   picPin_.SetPainter(PaintPin);
@@ -66,7 +66,6 @@ void DetailPane::Show(const StationKey& station) {
   const bool anything = !detail.name.empty();
   form_.ShowPane(kStationPane, anything);
   form_.ShowPane(kNoStationPane, !anything);
-  if (!form_.HasPane(kStationPane)) return;
   lblStationName_.SetText(detail.name);
   lblStationName_.SetTip(detail.name);
   lblStationLocation_.SetText(detail.location);

@@ -15,7 +15,7 @@ class DetailPane final : public EventTarget {
       : context_(context), form_(context.form), subject_(context.models.subject) {}
 
   void Load();
-  void LoadStation();
+  void LoadNoStation();
   // Shows the station; a key that no station has shows that none is selected.
   void Show(const StationKey& station);
   // A station may lack a first link and have others: plays the first that there is.

@@ -452,8 +452,8 @@ constexpr Layout kLayouts[] = {{.places = kWithMissing, .others = Layout::Others
                                {.places = kWithFilterRow, .others = Layout::Others::AsDesigned},
                                {.places = kWithMissingAndFilterRow, .others = Layout::Others::AsDesigned}};
 
-constexpr unsigned char kLatePanes[] = {kTreePane,  kSearchPane,  kYoursPane,    kWebPane,
-                                        kEventPane, kStationPane, kProgressPane, kOutsidePane};
+constexpr unsigned char kLatePanes[] = {kTreePane,     kSearchPane,    kYoursPane,  kWebPane,    kEventPane,
+                                        kProgressPane, kNoStationPane, kFilterPane, kOutsidePane};
 
 constexpr KeyRow kKeys[] = {
     {'F', kCtrl, mnuViewSearch},
