@@ -301,6 +301,7 @@ inline constexpr int mnuFilter = 3123;
 inline constexpr int mnuFiltered = 3124;  // a key only: from the words to the rows
 inline constexpr int mnuFilterByNode = 3125;
 inline constexpr int mnuSomethingElse = 3126;
+inline constexpr int mnuShowValues = 3127;  // of both menus that sort
 // Rankings.
 inline constexpr int mnuActionNewStations = 3131;
 inline constexpr int mnuActionMostPoular = 3132;

@@ -39,6 +39,7 @@ struct ListingState {
   Holds holds = Holds::Nothing;
   std::optional<Ranking> ranking;  // with Holds::Ranking: its key shows the active colour
   std::string group;               // with Holds::Group: its name
+  bool showsValues = false;        // ratings stand beside the names
   std::string typed;               // with Holds::Matches: the words typed so far
   // With Holds::Group: its members that the guide does not know, None for what names no station. They are
   // not among the rows.

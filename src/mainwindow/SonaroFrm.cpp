@@ -44,6 +44,7 @@ SonaroFrm::SonaroFrm(FormContext& context, const GuideData& data, const MainServ
 }
 
 void SonaroFrm::OnLoad() {
+  browse_.Load();
   list_.Load();
   detail_.Load();
   drag_.Load();

@@ -31,6 +31,14 @@ std::span<const EventRow> BrowsePane::Events() const {
   return kRows;
 }
 
+void BrowsePane::Load() {
+  constexpr int kTips[] = {IDS_RANKING_NEW_TIP,     IDS_RANKING_POP_TIP,  IDS_RATING_OVERALL_TIP,
+                           IDS_RATING_SOUND_TIP,    IDS_RATING_SPEED_TIP, IDS_RATING_WEB_SITE_TIP,
+                           IDS_RANKING_RELIABLE_TIP};
+  for (int button = 0; button < butRankings_.Count(); ++button)
+    butRankings_[button].SetTip(form_.LoadText(kTips[button]));
+}
+
 void BrowsePane::Show() {
   const ListingState& state = context_.models.listing.State();
   for (int button = 0; button < butRankings_.Count(); ++button) {

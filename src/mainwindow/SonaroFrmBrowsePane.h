@@ -20,6 +20,7 @@ class BrowsePane final : public EventTarget {
   BrowsePane(const MainContext& context, FilterPane& filter)
       : context_(context), form_(context.form), filter_(filter), tree_(context.models.tree) {}
 
+  void Load();
   // Lights the ranking on show; in the browsing views shows the tree as it is built. The same tree keeps its
   // expansion and its selection, whatever the number of the user's own stations.
   void Show();

@@ -57,6 +57,9 @@ void DetailPane::Load() {
   picHairBelow_.SetPainter(PaintHair);
   picPin_.SetPainter(PaintPin);
   butAddToGroupIt_.SetTip(form_.LoadText(IDS_MAIN_ADD_TIP));
+  constexpr int kTips[] = {IDS_RATING_OVERALL_TIP, IDS_RATING_SOUND_TIP, IDS_RATING_SPEED_TIP,
+                           IDS_RATING_WEB_SITE_TIP};
+  for (std::size_t i = 0; i < ratings_.size(); ++i) ratings_[i].SetTip(form_.LoadText(kTips[i]));
 }
 
 // The record is read once here; buttons and menus work on what was read.

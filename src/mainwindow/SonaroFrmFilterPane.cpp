@@ -71,6 +71,8 @@ void FilterPane::ShowBox(int box) {
     found = values.insert(values.end(), value);
   }
   cmbListFilter_[box].SelectItem(static_cast<int>(found - values.begin()));
+  if (static_cast<FilterPart>(box) != FilterPart::BitRate)
+    cmbListFilter_[box].SetTip(value);  // whole, and the way to it
   butEndListFilter_[box].Show(!value.empty());
 }
 

@@ -10,6 +10,8 @@
 #include "mainwindow/SortEntries.h"
 #include "playback/StationScan.h"
 #include "resources/texts/mainwindow.h"
+#include "settings/CReg.h"
+#include "settings/SettingNames.h"
 #include "settings/Strings.h"
 #include "stations/RecentList.h"
 
@@ -40,17 +42,29 @@ std::span<const EventRow> ListPane::Events() const {
       {mnuActionMoveDown, Click, &ListPane::mnuActionMoveDown_Click},
       {mnuActionAddListToScan, Click, &ListPane::mnuActionAddListToScan_Click},
       {mnuSomethingElse, Click, &ListPane::mnuSomethingElse_Click},
+      {mnuShowValues, Click, &ListPane::mnuShowValues_Click},
   };
   return kRows;
 }
 
 void ListPane::Load() {
-  ListView& list = *lstFavs_;
-  list.SetColumns({{form_.LoadText(IDS_COLUMN_NAME), 185},
-                   {form_.LoadText(IDS_COLUMN_LOCATION), 112},
-                   {form_.LoadText(IDS_COLUMN_MEDIA_TYPE), 82},
-                   {form_.LoadText(IDS_COLUMN_FORMAT), 0}});
-  list.SetModel(this, true);
+  listing_.ShowValues(context_.data.settings.Get(setting::kListValues));
+  SetColumns();
+  lstFavs_->SetModel(this, true);
+}
+
+// Values stand below the right end of the first header button, and take their room from the names.
+void ListPane::SetColumns() {
+  constexpr int kValueWidth = 34;
+  const bool values = listing_.State().showsValues;
+  std::vector<ListView::Column> columns = {
+      {form_.LoadText(IDS_COLUMN_NAME), values ? 185 - kValueWidth : 185},
+      {form_.LoadText(IDS_COLUMN_LOCATION), 112},
+      {form_.LoadText(IDS_COLUMN_MEDIA_TYPE), 82},
+      {form_.LoadText(IDS_COLUMN_FORMAT), 0}};
+  if (values)
+    columns.insert(columns.begin() + 1, {form_.LoadText(IDS_COLUMN_VALUE), kValueWidth, true, true});
+  lstFavs_->SetColumns(std::move(columns));
 }
 
 // The rows are those of the listing; the window asks for the texts of those that are seen.
@@ -291,6 +305,14 @@ void ListPane::mnuSomethingElse_Click() {
   detail_.PlayFirst();
 }
 
+void ListPane::mnuShowValues_Click() {
+  const bool wanted = !listing_.State().showsValues;
+  context_.data.settings.Set(setting::kListValues, wanted);
+  listing_.ShowValues(wanted);
+  SetColumns();
+  ShowRows();
+}
+
 StationKey ListPane::KeyAt(int row) const {
   if (row < 0 || row >= RowCount()) return {};
   return listing_.Rows().KeyAt(static_cast<std::size_t>(row));
@@ -304,7 +326,13 @@ int ListPane::FindRow(const std::string& start, int from) const {
 }
 
 std::string ListPane::Cell(int row, int column) const {
-  return std::string(listing_.Rows().Cell(static_cast<std::size_t>(row), column));
+  const StationRows& rows = listing_.Rows();
+  const auto position = static_cast<std::size_t>(row);
+  if (!listing_.State().showsValues || column == 0) return std::string(rows.Cell(position, column));
+  if (column > 1) return std::string(rows.Cell(position, column - 1));
+  const int rating = listing_.ValueShown();
+  if (rating == 0 || IsNotice()) return {};
+  return context_.models.details.RatingText(CellOf(rows.At(position), rating));
 }
 
 int ListPane::Symbol(int row) const { return listing_.Rows().At(static_cast<std::size_t>(row)).Symbol(); }

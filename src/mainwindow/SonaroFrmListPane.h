@@ -46,6 +46,7 @@ class ListPane final : public EventTarget, private ListModel {
   std::string MarksSpoken(int row) const override;
   bool IsNotice() const override;
 
+  void SetColumns();
   void ShowEmptyText();
   void ShowBesideCaption();
   void ShowCount();
@@ -72,6 +73,7 @@ class ListPane final : public EventTarget, private ListModel {
   void mnuActionMoveDown_Click() { MoveStation(1); }
   void mnuActionAddListToScan_Click();
   void mnuSomethingElse_Click();
+  void mnuShowValues_Click();
 
   const MainContext& context_;
   Form& form_;

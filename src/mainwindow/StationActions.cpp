@@ -173,6 +173,9 @@ MenuEntries StationActions::SortEntriesFor(Place place) const {
     if (facts.key == static_cast<int>(SubItem::Overall)) AddSeparator(entries);
     entries.push_back(std::move(entry));
   }
+  AddSeparator(entries);
+  entries.push_back(Entry(mnuShowValues, IDS_SORT_SHOW_VALUES));
+  entries.back().checked = listing_.State().showsValues;
   return entries;
 }
 

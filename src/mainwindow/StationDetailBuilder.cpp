@@ -26,6 +26,11 @@ constexpr std::array<RatingField, StationDetail::kRatings> kRatingFields{{
     {&StationInfo::webSiteRating, IDS_RATING_WEB_SITE},
 }};
 
+// Ratings are digits from 1 to 9, each half a point of 0.5 to 4.5; anything else means that there is none.
+int HalvesOf(std::string_view digit) {
+  return digit.size() == 1 && digit[0] >= '1' && digit[0] <= '9' ? digit[0] - '0' : 0;
+}
+
 // "radio.example" of "https://radio.example:8000/jazz.mp3".
 std::string HostOf(std::string_view address) {
   const std::size_t scheme = address.find("://");
@@ -80,21 +85,19 @@ StationDetail StationDetailBuilder::Of(const StationKey& key) const {
   return detail;
 }
 
-// Ratings are digits from 1 to 9, each half a point of 0.5 to 4.5; anything else means that there is none.
 // The spoken text is for screen readers, to which a dash says nothing.
 RatingFigure StationDetailBuilder::Rating(const std::string& digit, int nameId) const {
-  RatingFigure rating;
-  if (digit.size() == 1 && digit[0] >= '1' && digit[0] <= '9') rating.halves = digit[0] - '0';
-  const std::string name = strings_.Load(nameId);
-  if (rating.halves == 0) {
-    rating.figure = "\xE2\x80\x93";  // an en dash
-    rating.spoken = FormatText(strings_.Load(IDS_RATING_NONE_SPOKEN), {name});
-    return rating;
-  }
-  const char point = state_.decimalMode == DecimalMode::Comma ? ',' : '.';
-  rating.figure = std::to_string(rating.halves / 2) + point + (rating.halves % 2 ? '5' : '0');
-  rating.spoken = FormatText(strings_.Load(IDS_RATING_SPOKEN), {name, rating.figure});
+  RatingFigure rating{HalvesOf(digit), RatingText(digit), {}};
+  const int spokenId = rating.halves == 0 ? IDS_RATING_NONE_SPOKEN : IDS_RATING_SPOKEN;
+  rating.spoken = FormatText(strings_.Load(spokenId), {strings_.Load(nameId), rating.figure});
   return rating;
+}
+
+std::string StationDetailBuilder::RatingText(std::string_view digit) const {
+  const int halves = HalvesOf(digit);
+  if (halves == 0) return "\xE2\x80\x93";  // an en dash
+  const char point = state_.decimalMode == DecimalMode::Comma ? ',' : '.';
+  return std::to_string(halves / 2) + point + (halves % 2 ? '5' : '0');
 }
 
 void StationDetailBuilder::AddPlayButtons(const Station& station, StationDetail& detail) const {

@@ -52,6 +52,8 @@ class StationDetailBuilder {
                        const AppState& state)
       : source_(source), extra_(extra), strings_(strings), state_(state) {}
 
+  // "4.5" for a rating's digit, with the user's decimal sign; a dash when there is none.
+  std::string RatingText(std::string_view digit) const;
   StationDetail Of(const StationKey& key) const;
   // A rating stored as one digit: half as much, in halves. Anything but 1 to 9 is not rated. `nameId` is the
   // number of the rating's name in the string table.

@@ -191,6 +191,20 @@ void StationListState::Narrow() {
   rows_.NarrowTo(lists_.Fitting(state_.narrowedBy, rows_));
 }
 
+int StationListState::ValueShown() const {
+  constexpr std::pair<Ranking, SubItem> kRatings[] = {{Ranking::BestSound, SubItem::Sound},
+                                                      {Ranking::BestSpeed, SubItem::Speed},
+                                                      {Ranking::BestWebsite, SubItem::WebSite}};
+  if (!state_.showsValues) return 0;
+  const SortState& sort = rows_.Sort();
+  if (sort.on && sort.key == static_cast<int>(SubItem::Reliability)) return 0;
+  if (sort.on && sort.key >= static_cast<int>(SubItem::Overall)) return sort.key;
+  for (const auto& [ranking, rating] : kRatings) {
+    if (state_.ranking == ranking) return static_cast<int>(rating);
+  }
+  return static_cast<int>(SubItem::Overall);
+}
+
 void StationListState::ShowWebSearch() {
   webSearchIsLast_ = true;
   state_.middle = Middle::WebSearch;

@@ -76,6 +76,11 @@ class StationListState {
   // Falls back to the recent list when the group was on show in the middle, whatever page is beside it. A
   // list that held it behind another page is emptied.
   void GroupDeleted(std::string_view name);
+  // The rating that stands beside the names, sub-item 4 to 7: the one that the list is sorted or ranked by,
+  // else the overall one. 0: none, since values are not wanted, or their order is that of the symbols.
+  int ValueShown() const;
+  void ShowValues(bool wanted) { state_.showsValues = wanted; }
+
   void FilterChanged() { rows_.FilterChanged(); }
   // Stations changed (the directory, or the user's own): looks all rows up again.
   void StationsChanged();

@@ -60,6 +60,7 @@ inline constexpr Text kPlayWith{"PlayWith"};                            // playb
 inline constexpr Number kScanTime{"ScanTime"};                          // playback/StationScan: its default seconds
 inline constexpr Text kSearchList{"SearchList"};                        // stations/SearchHistory: no earlier searches
 inline constexpr Text kPinnedSearches{"PinnedSearches"};                // stations/SearchHistory: none
+inline constexpr Switch kListValues{"ListValues", "Yes", "", false, true};  // mainwindow, the station list: no ratings beside the names
 inline constexpr Text kListFilter{"ListFilter"};                        // mainwindow/StationFilter: no filter
 inline constexpr Switch kNoShowDelete{"NoShowDelete", "Yes", "", false, true};  // mainwindow, favourite groups: ask
 inline constexpr Switch kNoShowDeletePersonalStation{"NoShowDeletePersonalStation", "Yes", "", false, true};  // personal stations: ask

@@ -233,6 +233,22 @@ TEST_F(StationListingTest, ThePersonalPageListsYourStationsAndLeavesTheListingMo
   EXPECT_EQ(Shown(), "S3 S1 ");
 }
 
+TEST_F(StationListingTest, TheValueBesideTheNamesIsTheOneOfTheOrder) {
+  listing.ShowRanking(Ranking::BestSpeed);
+  EXPECT_EQ(listing.ValueShown(), 0) << "not wanted";
+  listing.ShowValues(true);
+  EXPECT_EQ(listing.ValueShown(), 6);
+  listing.Rows().SortBy(0, SortOrder::Ascending);
+  EXPECT_EQ(listing.ValueShown(), 6);
+  listing.Rows().SortBy(5, SortOrder::Descending);
+  EXPECT_EQ(listing.ValueShown(), 5);
+  listing.Rows().SortBy(8, SortOrder::Descending);
+  EXPECT_EQ(listing.ValueShown(), 0) << "the symbols show it";
+  listing.Rows().EndSort();
+  listing.ShowRanking(Ranking::NewStations);
+  EXPECT_EQ(listing.ValueShown(), 4);
+}
+
 TEST_F(StationListingTest, AGroupCanBeShownInPlace) {
   listing.ShowView(View::YourSonaro);
   EXPECT_EQ(listing.State().middle, Middle::EventPage);
