@@ -123,8 +123,9 @@ void OpenMenu::Measure(MEASUREITEMSTRUCT& measure) const {
   LONG width = painter_.Px(kGutter + kRightInset) + painter_.Measure(entry.text, TextStyle::Body, 0).cx;
   if (!entry.shortcut.empty())
     width += painter_.Px(kShortcutGap) + painter_.Measure(entry.shortcut, TextStyle::Body).cx;
-  // The system adds the place of a check mark of its own.
-  measure.itemWidth = static_cast<UINT>(std::max<LONG>(width - GetSystemMetrics(SM_CXMENUCHECK) + 1, 0));
+  // The system adds the place of a check mark of its own, how much it does not say: a metric taken off here
+  // cut the longest entry on a screen whose dpi are not the form's.
+  measure.itemWidth = static_cast<UINT>(width);
 }
 
 void OpenMenu::Draw(const DRAWITEMSTRUCT& draw) const {
