@@ -16,6 +16,7 @@ std::string_view WithoutBackslash(std::string_view name) {
 
 }  // namespace
 
+// A file that is there and cannot be read is always a finding, whoever needs it.
 std::optional<std::string> CheckContext::Read(std::string_view name, Need need) {
   ReadResult file = data.Read(name);
   if (file.status == ReadStatus::Ok) return std::move(file.bytes);

@@ -1,4 +1,6 @@
-// The small files: alphabets, rankings, kinds of search, the user's own files, window outlines.
+// The small files: alphabets, rankings, kinds of search, the user's own files, window outlines. The program
+// passes over a line that it cannot use; what is reported here is what a user would miss by it. Of the user's
+// own files any may be missing.
 #include <algorithm>
 #include <set>
 
@@ -27,6 +29,7 @@ void ForEachLine(CheckContext& context, std::string_view name, Need need, Check 
   }
 }
 
+// Also notes the indices, which groups and the recent list name by "P" and the index.
 // Lines of index TAB name TAB ...; an index alone stands for a station that was deleted.
 void CheckPersonalStations(CheckContext& context) {
   constexpr std::string_view kName = user_file::kStations;
@@ -72,6 +75,7 @@ void CheckGroups(CheckContext& context) {
     if (!names.insert(FoldCase(TrimBlanks(columns[0]))).second) {
       context.Add(kName, number, "there is a group of this name already");
     }
+    // Said once, with the first one too many.
     if (names.size() == kMaxGroups + 1) context.Add(kName, number, "there are more than ten groups");
     context.CheckTokens(kName, number, columns[1]);
   });
@@ -89,6 +93,7 @@ void CheckRecent(CheckContext& context) {
   });
 }
 
+// Only what makes an entry never due; dates and stations of old entries may be anything.
 void CheckSchedule(CheckContext& context) {
   constexpr std::string_view kName = user_file::kSchedule;
   constexpr std::size_t kColumns = 7;
@@ -131,6 +136,7 @@ void CheckRankings(CheckContext& context) {
   constexpr std::string_view kName = guide_file::kRanking;
   std::set<std::string> missing;
   for (const std::string_view name : kRankingNames) missing.insert(FoldCase(name));
+  // Both in folded form, as the program looks rankings up.
   std::set<std::string> seen;
   ForEachLine(context, kName, Need::Required, [&](std::size_t number, std::string_view line) {
     const std::vector<std::string_view> columns = SplitAtMost(line, '\t', 2);
@@ -145,6 +151,7 @@ void CheckRankings(CheckContext& context) {
     }
     seen.insert(name);
   });
+  // An empty file was reported as such.
   if (!seen.empty()) {
     for (const std::string& name : missing) context.Add(kName, 0, "the ranking \"" + name + "\" is missing");
   }

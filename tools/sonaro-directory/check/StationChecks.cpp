@@ -1,4 +1,6 @@
-// The station list, the station table and the event tables.
+// The station list, the station table and the event tables. The list is checked as text, column by column,
+// and not through the reader that builds the table: that one takes whatever it finds, since a program that
+// starts is worth more than a complaint, and here every oddity is to be named.
 #include <algorithm>
 #include <array>
 #include <map>
@@ -21,6 +23,7 @@ namespace {
 constexpr std::string_view kListName = guide_file::kStations;
 constexpr std::size_t kColumns = StationRecord::kFieldCount + 1;
 
+// A tab or a line end inside a field would shift the fields behind it; others garble what is shown.
 bool HasControlCharacter(std::string_view text) {
   return std::any_of(text.begin(), text.end(),
                      [](char c) { return static_cast<unsigned char>(c) < 0x20 || c == 0x7F; });
@@ -35,10 +38,13 @@ bool IsUtf8(std::string_view text) {
   return true;
 }
 
+// Empty is "not known", which every figure of a station may be.
 bool IsDigitUpTo(std::string_view text, char highest) {
   return text.empty() || (text.size() == 1 && text[0] >= '0' && text[0] <= highest);
 }
 
+// One record that could be read, field by field. It says what is wrong and goes on, so that one run names
+// all.
 class RecordCheck {
  public:
   RecordCheck(CheckContext& context, std::size_t line, const StationRecord& record)
@@ -62,6 +68,7 @@ class RecordCheck {
     if (TrimBlanks(record_[StationField::Name]).empty()) Add("the station has no name");
   }
 
+  // With the alphabets of the folder, which may be others than the built-in ones.
   std::string Plain(StationField field) const {
     std::string text = record_[field];
     return UnscrambleText(text, context_.alphabets);
@@ -90,6 +97,7 @@ class RecordCheck {
   void CheckNumbers() {
     const std::string& bitRate = record_[StationField::BitRate];
     if (bitRate.find_first_not_of("0123456789") != std::string::npos) Add("the bit rate is no number");
+    // A list compares ratings as texts when it is sorted, so a second digit would put 10 before 2.
     for (const StationField field : {StationField::OverallRating, StationField::SpeedRating,
                                      StationField::SoundRating, StationField::WebSiteRating}) {
       if (!IsDigitUpTo(record_[field], '9')) {
@@ -109,6 +117,7 @@ using StationsById = std::map<std::int32_t, StationRecord>;
 
 void CheckStationLine(CheckContext& context, std::size_t number, std::string_view line,
                       StationsById& stations) {
+  // Reported, and the line read all the same: the program fills up what is missing.
   const std::vector<std::string_view> columns = Split(line, '\t');
   if (columns.size() != kColumns) {
     context.Add(
@@ -133,7 +142,7 @@ void CheckStationLine(CheckContext& context, std::size_t number, std::string_vie
   stations[station.id] = std::move(record);
 }
 
-// "YYYYMMDDhhmm".
+// "YYYYMMDDhhmm" of a day and a time that there are.
 bool IsGmtStamp(const std::string& text) {
   if (text.size() != 12 || text.find_first_not_of("0123456789") != std::string::npos) return false;
   const auto part = [&](std::size_t start, std::size_t length) {
@@ -167,6 +176,7 @@ void CheckStationList(CheckContext& context) {
     if (!line.empty()) CheckStationLine(context, number, line, stations);
   }
   if (stations.empty()) context.Add(kListName, 0, "holds no station");
+  // Other checks ask which stations there are.
   for (auto& [id, record] : stations) {
     context.ids.insert(id);
     context.stations.push_back(std::move(record));
@@ -192,6 +202,7 @@ void CheckStationTable(CheckContext& context) {
   }
   std::vector<std::int32_t> ids;
   for (const StationRecord& record : context.stations) ids.push_back(record.StationId);
+  // Verify has found the table whole in itself; this finds one that was made of another list.
   const std::vector<StationRecord> stored = table.GetStations(ids);
   // Both are in ascending order and the table leaves out what it does not hold, so one walk compares them.
   auto next = stored.begin();

@@ -1,3 +1,6 @@
+// Findings go to the output, one a line, and say where in which file; problems with the call itself go to the
+// error output. That a folder is whole is said as well, since silence could also mean that nothing was looked
+// at.
 #include <ostream>
 
 #include "check/CheckFolder.h"

@@ -1,3 +1,6 @@
+// Reads everything, then builds, then writes: the three differ in what a failure means. A source that cannot
+// be read ends the run, an entry that cannot be used is left out and counted, a file that cannot be written
+// leaves the folder marked as unfinished.
 #include <algorithm>
 #include <charconv>
 #include <optional>
@@ -27,6 +30,7 @@ struct MakeOptions {
   bool verbose = false;
 };
 
+// The whole text is a number from 1 on.
 bool ParseLimit(const std::string& text, std::size_t& limit) {
   const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), limit);
   return error == std::errc() && end == text.data() + text.size() && limit > 0;

@@ -41,6 +41,7 @@ std::string Joined(const std::vector<std::int32_t>& ids, char separator) {
   return text;
 }
 
+// For comparing with another program: many searches in one run, each answered on a line of its own.
 // Each line is "all" or "any", a TAB and the words; for each, a line of identifiers.
 bool RunQueries(StatList& stations, const std::string& path, std::ostream& out) {
   std::ifstream file(path, std::ios::binary);

@@ -1,3 +1,4 @@
+// Shows a station as it stands in the table, not in the list: that is what the program reads.
 #include <array>
 #include <iomanip>
 #include <ostream>
@@ -50,6 +51,7 @@ int RunShow(Arguments arguments, Console& console) {
   }
   LocalFolder folder(arguments[0]);
   StatList stations(folder.Data());
+  // An empty record has two reasons, which the status tells apart.
   const StationRecord record = stations.FindStation(id);
   if (stations.LastStatus() == TableStatus::NoTable || stations.LastStatus() == TableStatus::Damaged) {
     console.err << "There is no readable station table in \"" << arguments[0] << "\".\n";

@@ -1,3 +1,5 @@
+// The way from the words of a command line to one of the commands. Each command reads its own options, so
+// that a wrong one is answered with what that command takes.
 #include <array>
 #include <ostream>
 

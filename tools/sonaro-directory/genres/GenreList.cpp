@@ -44,6 +44,7 @@ constexpr Genre kGenres[] = {
 
 std::span<const Genre> GenreList() { return kGenres; }
 
+// Built at the first use. The texts are part of the program, so the pieces can point into them.
 const TagTable& Tags() {
   static const TagTable kTable = [] {
     TagTable table;

@@ -1,3 +1,5 @@
+// Lists write countries in every way: as a code, in English, in the country's own language, by a city. All
+// of them are spellings of one line here, compared as match keys.
 #include "places/Countries.h"
 
 #include <algorithm>

@@ -1,3 +1,6 @@
+// A PLS list is an INI file that hardly any program writes strictly: keys in any letter case and order,
+// titles that go on over several lines, numbers that have gaps. What counts is the number behind "File" and
+// "Title".
 #include <cstdint>
 #include <map>
 #include <optional>
@@ -18,6 +21,7 @@ struct PlsEntry {
   std::size_t line = 0;
 };
 
+// One line of the list, the key taken apart.
 struct PlsKey {
   std::string_view word;  // "File", "Title", ... as written
   std::int64_t number = 0;

@@ -31,6 +31,7 @@ std::string_view FirstPlainLine(std::string_view text) {
   return {};
 }
 
+// A scheme of letters. Longer ones than eight are no schemes of streams but words before a colon.
 bool LooksLikeAddress(std::string_view line) {
   const std::size_t scheme = line.find("://");
   return scheme != std::string_view::npos && scheme > 0 && scheme <= 8 &&
@@ -123,6 +124,7 @@ SourceResult ReadSourceBytes(const std::string& name, std::string bytes, SkipLog
     bytes = std::move(unpacked);
   }
   const std::string text = DecodeFileText(bytes);
+  // All readers take UTF-8; DecodeFileText has made it of whatever the file was in.
   std::string why;
   result.format = RecogniseFormat(text, why);
   const SourceText source{name, text};

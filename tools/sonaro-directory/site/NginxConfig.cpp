@@ -65,6 +65,7 @@ http {
 }
 )";
 
+// A line of the map for each earlier guide and each version of the program that can read changes.
 std::string ChangesLines(const NginxSite& site) {
   std::string lines;
   for (const NginxSite::Changes& changes : site.changes) {

@@ -1,3 +1,6 @@
+// The list is a text file in the site, beside what it speaks of: kept guides, the files of changes between
+// them, and files that were in use until the last publication. Those are removed one publication later, so
+// that an installation that was told of one can still fetch it.
 #include "site/PublishedGuides.h"
 
 #include <algorithm>
@@ -11,6 +14,7 @@ namespace {
 constexpr std::string_view kList = "\\published.txt";
 constexpr std::string_view kGuide = "guide", kChanges = "changes", kLeft = "left";
 
+// A path of the site as it stands in an address becomes a name in the folder that the server shows.
 std::string PublicName(std::string_view path) {
   std::string name = "\\public" + std::string(path);
   std::replace(name.begin(), name.end(), '/', '\\');
@@ -49,14 +53,17 @@ std::vector<PublishedGuide> PublishedGuides::Before(std::string_view date) const
 bool PublishedGuides::Add(const PublishedGuide& guide, const std::vector<std::string>& others) {
   std::vector<PublishedGuide> guides = Before(guide.date);
   guides.insert(guides.begin(), guide);
+  // What the new publication needs.
   std::vector<std::string> present = others;
   for (const PublishedGuide& one : guides) present.push_back(one.update);
   const auto isPresent = [&present](const std::string& path) {
     return std::find(present.begin(), present.end(), path) != present.end();
   };
+  // What the last one needed and this one does not: it stays until the next.
   std::vector<std::string> leaving = std::exchange(others_, others);
   for (const PublishedGuide& one : guides_) leaving.push_back(one.update);
   std::erase_if(leaving, isPresent);
+  // A path may leave, come back and leave again before it is removed.
   for (const std::string& path : left_) {
     const bool again = std::find(leaving.begin(), leaving.end(), path) != leaving.end();
     if (!again && !isPresent(path)) site_.Remove(PublicName(path));

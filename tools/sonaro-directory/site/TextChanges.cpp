@@ -37,6 +37,7 @@ std::string_view Joined(std::span<const std::string_view> pieces) {
   return {begin, static_cast<std::size_t>(pieces.back().data() + pieces.back().size() - begin)};
 }
 
+// Gathers the steps in the order of the old text. Neighbouring changes become one step.
 class StepWriter {
  public:
   void Keep(std::string_view text) {
@@ -98,6 +99,7 @@ std::vector<Anchor> CommonOnce(std::span<const std::string_view> before,
   struct Count {
     std::size_t inBefore = 0, inAfter = 0, at = 0;
   };
+  // Words that occur often, such as a genre, anchor nothing: they would be matched with the wrong place.
   std::unordered_map<std::string_view, Count> counts;
   for (std::size_t i = 0; i < before.size(); ++i) {
     Count& count = counts[before[i]];
@@ -119,6 +121,7 @@ std::vector<Anchor> CommonOnce(std::span<const std::string_view> before,
 // The longest row of anchors that rises in both texts.
 std::vector<Anchor> LongestRising(const std::vector<Anchor>& anchors) {
   constexpr std::size_t kNone = static_cast<std::size_t>(-1);
+  // As in sorting cards into piles: a card goes on the first pile whose top is not below it.
   std::vector<std::size_t> ends;  // ends[n]: the anchor with the lowest place that ends a row of n + 1
   std::vector<std::size_t> previous(anchors.size(), kNone);
   for (std::size_t i = 0; i < anchors.size(); ++i) {
@@ -156,6 +159,7 @@ void CompareRest(std::span<const std::string_view> before, std::span<const std::
 
 void Compare(std::span<const std::string_view> before, std::span<const std::string_view> after,
              std::string_view ends, StepWriter& steps) {
+  // What is the same at both ends is the most of it, and needs no anchors.
   const auto differ = std::mismatch(before.begin(), before.end(), after.begin(), after.end());
   const auto head = static_cast<std::size_t>(differ.first - before.begin());
   steps.Keep(Joined(before.first(head)));

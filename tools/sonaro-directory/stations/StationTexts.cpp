@@ -42,6 +42,7 @@ bool TakesArticle(std::string_view country) {
 std::string WhereFrom(const StationPlace& place) {
   const std::string text = place.Text();
   if (place.country && text == place.country->name) return (TakesArticle(text) ? "the " : "") + text;
+  // The list's own words for the place often begin with the city already.
   if (place.nearby.empty() || text.starts_with(place.nearby)) return text;
   // A city that the list names beside its region keeps the station findable by it.
   return ContainsIgnoringCase(place.nearby, place.region)
@@ -75,6 +76,7 @@ std::string MediaTypeOf(const SourceStation& station) {
        {"FLV", "Flash"},
        {"AAC,H.264", "Video"},
        {"AAC+,H.264", "Video"}}};
+  // A codec that is not known is named as the list names it: better than nothing when somebody looks for it.
   for (const auto& [codec, name] : kNames) {
     if (station.codec == codec) return std::string(name);
   }

@@ -1,3 +1,5 @@
+// What can be learned from a title or an address when a list says nothing else. Wrong guesses are worse than
+// none: a number counts as a bit rate only with its unit, and only in the range that streams have.
 #include "text/Hints.h"
 
 #include <array>
