@@ -6,6 +6,7 @@
 #include <optional>
 #include <string>
 #include <utility>
+#include <vector>
 
 #include "mainwindow/StationDetailBuilder.h"
 #include "stations/Commands.h"
@@ -19,6 +20,7 @@ class CommandSubject {
  public:
   struct Menu {
     StationDetail station = {};
+    std::vector<StationKey> stations = {};  // with `station`, when it was opened for several
     std::string group = {};  // whose button's menu it is, or which the station's list shows; "" without one
     EventLine event = {};
   };
@@ -31,6 +33,8 @@ class CommandSubject {
   const StationDetail& Shown() const { return shown_; }
 
   const StationDetail& Station() const { return menu_ ? menu_->station : shown_; }
+  // What a command for several acts on: all that are selected, that one station, or nothing.
+  std::vector<StationKey> Stations() const;
   // Nothing when the group was deleted, or no group is on show.
   std::optional<std::size_t> Group() const;
   std::string GroupName() const;

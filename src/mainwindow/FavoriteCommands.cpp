@@ -104,33 +104,42 @@ void FavoriteCommands::MoveFavoriteGroup(std::size_t from, std::size_t to) {
   Changed(groups_.Move(from, to));
 }
 
-void FavoriteCommands::AddStationToGroup(std::string_view groupName, const StationKey& station) {
+void FavoriteCommands::AddStationsToGroup(std::string_view groupName,
+                                          const std::vector<StationKey>& stations) {
   const auto group = groups_.Find(groupName);
-  if (!group) return;
+  if (!group || stations.empty()) return;
   const std::string name = groups_.Name(*group);
-  if (groups_.Contains(*group, station)) return SayDone(IDS_GROUP_HAS_IT, station, name);
-  if (!Changed(groups_.AddStation(*group, station))) return;
+  std::vector<StationKey> fresh;
+  for (const StationKey& station : stations) {
+    if (!groups_.Contains(*group, station)) fresh.push_back(station);
+  }
+  if (fresh.empty()) {
+    return prompts_.SayDone(Sentence(IDS_GROUP_HAS_IT, IDS_GROUP_HAS_THEM, stations, name));
+  }
+  if (!Changed(groups_.AddStations(*group, fresh))) return;
   listing_.GroupsChanged();
-  SayAdded(station, name);
+  SayAdded(fresh, name);
 }
 
 // A new group is made with its first station in one save, so that no crash leaves an empty group.
-void FavoriteCommands::AddStationToGroupOrNew(std::string_view groupName, const StationKey& station) {
+void FavoriteCommands::AddStationsToGroupOrNew(std::string_view groupName,
+                                               const std::vector<StationKey>& stations) {
   const std::string name = FavoriteGroups::CleanName(groupName);
-  if (name.empty() || groups_.Find(name)) return AddStationToGroup(name, station);
-  if (RefuseEleventh() || !Changed(groups_.Add(name, station))) return;
+  if (name.empty() || stations.empty() || groups_.Find(name)) return AddStationsToGroup(name, stations);
+  if (RefuseEleventh() || !Changed(groups_.Add(name, stations.front()))) return;
   prompts_.TellTray("AddNewFavGroup\t" + name);
-  SayAdded(station, name);
+  if (stations.size() > 1 && !Changed(groups_.AddStations(groups_.Count() - 1, stations))) return;
+  SayAdded(stations, name);
 }
 
-void FavoriteCommands::SayAdded(const StationKey& station, const std::string& group) {
-  undo_.Add(FormatText(strings_.Load(IDS_GROUP_ADDED_TO), {prompts_.NameOf(station), group}),
-            [this, group, station] { return TakeBack(group, station); });
+void FavoriteCommands::SayAdded(const std::vector<StationKey>& stations, const std::string& group) {
+  undo_.Add(Sentence(IDS_GROUP_ADDED_TO, IDS_GROUP_ADDED_MANY, stations, group),
+            [this, group, stations] { return TakeBack(group, stations); });
 }
 
-UndoResult FavoriteCommands::TakeBack(const std::string& name, const StationKey& station) {
+UndoResult FavoriteCommands::TakeBack(const std::string& name, const std::vector<StationKey>& stations) {
   const auto group = groups_.Find(name);
-  const FavoriteChange change = group ? groups_.RemoveStation(*group, station) : FavoriteChange::Nothing;
+  const FavoriteChange change = group ? groups_.RemoveStations(*group, stations) : FavoriteChange::Nothing;
   if (change == FavoriteChange::Nothing) return UndoResult::Gone;
   if (!Changed(change)) return UndoResult::Kept;
   listing_.GroupsChanged();
@@ -190,8 +199,11 @@ UndoResult FavoriteCommands::PutBack(const std::string& name,
   return UndoResult::Done;
 }
 
-void FavoriteCommands::SayDone(int textId, const StationKey& station, std::string_view group) {
-  prompts_.SayDone(FormatText(strings_.Load(textId), {prompts_.NameOf(station), group}));
+std::string FavoriteCommands::Sentence(int textOfOne, int textOfMany, const std::vector<StationKey>& stations,
+                                       const std::string& group) {
+  const bool one = stations.size() == 1;
+  const std::string what = one ? prompts_.NameOf(stations.front()) : std::to_string(stations.size());
+  return FormatText(strings_.Load(one ? textOfOne : textOfMany), {what, group});
 }
 
 void FavoriteCommands::PlaceStation(const StationKey& station, const StationKey& where) {

@@ -47,11 +47,11 @@ class FavoriteCommands {
   void RenameFavoriteGroup(std::size_t group);
   void DeleteFavoriteGroup(std::size_t group);
   void MoveFavoriteGroup(std::size_t from, std::size_t to);
-  // Adds a station to the group of this name, and says so; one that the group holds already, or a
-  // name that no group has, changes nothing.
-  void AddStationToGroup(std::string_view groupName, const StationKey& station);
-  // The same, and a name that no group has makes one with the station in it.
-  void AddStationToGroupOrNew(std::string_view groupName, const StationKey& station);
+  // Adds stations to the group of this name with one save, and says so; those that the group holds already,
+  // or a name that no group has, change nothing.
+  void AddStationsToGroup(std::string_view groupName, const std::vector<StationKey>& stations);
+  // The same, and a name that no group has makes one with the stations in it.
+  void AddStationsToGroupOrNew(std::string_view groupName, const std::vector<StationKey>& stations);
   void RemoveStations(std::string_view groupName, const std::vector<StationKey>& stations);
   // Asks whether the members of the group on show that the guide does not know are to go, and takes them out.
   void TakeOutMissing();
@@ -59,13 +59,14 @@ class FavoriteCommands {
   void PlaceStation(const StationKey& station, const StationKey& where);
 
  private:
-  void SayAdded(const StationKey& station, const std::string& group);
+  void SayAdded(const std::vector<StationKey>& stations, const std::string& group);
   // These can be undone. The sentence of several stations is IDS_GROUP_REMOVED_MANY.
   void TakeOut(std::size_t group, const std::vector<StationKey>& stations);
-  UndoResult TakeBack(const std::string& name, const StationKey& station);
+  UndoResult TakeBack(const std::string& name, const std::vector<StationKey>& stations);
   UndoResult PutBack(const std::string& name, const std::vector<FavoriteGroups::Member>& members);
   UndoResult PutBackGroup(std::size_t place, const std::string& name, const std::string& line);
-  void SayDone(int textId, const StationKey& station, std::string_view group);
+  std::string Sentence(int textOfOne, int textOfMany, const std::vector<StationKey>& stations,
+                       const std::string& group);
   void Say(const char* key, const std::string& text);
   bool ConfirmDelete(const std::string& name);
   bool RefuseEleventh();

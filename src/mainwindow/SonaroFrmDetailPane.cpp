@@ -144,12 +144,17 @@ void DetailPane::butGoWebPageIt_Click() {
 }
 
 void DetailPane::mnuActionCopyLink_Click() {
-  if (!subject_.Station().firstLink.empty()) CopyToClipboard(form_.Window(), subject_.Station().firstLink);
+  std::string links;  // one a line
+  for (const StationKey& station : subject_.Stations()) {
+    const std::string link = context_.models.details.Of(station).firstLink;
+    if (!link.empty()) links += (links.empty() ? "" : "\r\n") + link;
+  }
+  if (!links.empty()) CopyToClipboard(form_.Window(), links);
 }
 
 void DetailPane::mnuActionAddToScan_Click() {
-  const StationKey station = subject_.Station().station;
-  if (station) context_.services.scan.Add({&station, 1});
+  const std::vector<StationKey> stations = subject_.Stations();
+  if (!stations.empty()) context_.services.scan.Add(stations);
 }
 
 void DetailPane::mnuActionSchedule_Click() {

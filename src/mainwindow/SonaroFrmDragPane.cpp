@@ -3,6 +3,7 @@
 #include <commctrl.h>
 #include <windowsx.h>
 
+#include <algorithm>
 #include <cstdlib>
 #include <utility>
 
@@ -66,15 +67,22 @@ void DragPane::WatchGroupButton(UINT message, WPARAM wParam, LPARAM lParam, int 
   }
 }
 
-void DragPane::lstFavs_BeginDrag(int row) { Begin(Thing::Row, list_.KeyAt(row), {}); }
+// One of several rows that are selected takes the others with it.
+void DragPane::lstFavs_BeginDrag(int row) {
+  std::vector<StationKey> stations = context_.models.listing.Rows().SelectedKeys();
+  const StationKey station = list_.KeyAt(row);
+  if (!station) return;
+  if (std::ranges::find(stations, station) == stations.end()) stations = {station};
+  Begin(Thing::Row, std::move(stations), {});
+}
 
 // The station is taken by its key: the list may be filled anew while the mouse is on its way.
-void DragPane::Begin(Thing what, StationKey station, std::string group) {
+void DragPane::Begin(Thing what, std::vector<StationKey> stations, std::string group) {
   pressedSlot_ = -1;
-  if (!station && group.empty()) return;
+  if (stations.empty() && group.empty()) return;
   SetCapture(form_.Window());
   what_ = what;
-  station_ = station;
+  stations_ = std::move(stations);
   group_ = std::move(group);
   Follow();
 }
@@ -99,19 +107,23 @@ bool DragPane::Handle(UINT message) {
   }
   // Copies, because End forgets them and what is dropped may open a dialog with a loop of its own.
   const Thing what = what_;
-  const StationKey station = station_;
+  const std::vector<StationKey> stations = stations_;
   const std::string group = group_;
   End();
   groups_.Show();
-  Take(drop, what, station, group);
+  Take(drop, what, stations, group);
   return true;
 }
 
-void DragPane::Take(const Drop& drop, Thing what, const StationKey& station, const std::string& group) {
-  if (what == Thing::Row && drop.onto == Thing::Group) groups_.TakeDropped(station, drop.to);
-  if (what == Thing::Row && drop.onto == Thing::Row) list_.MoveRow(station, drop.to);
+void DragPane::Take(const Drop& drop, Thing what, const std::vector<StationKey>& stations,
+                    const std::string& group) {
+  if (what == Thing::Row && drop.onto == Thing::Group) groups_.TakeDropped(stations, drop.to);
+  if (what == Thing::Row && drop.onto == Thing::Row && stations.size() == 1)
+    list_.MoveRow(stations.front(), drop.to);
   if (what == Thing::Row && drop.onto == Thing::Scan) {
-    context_.services.program.DropOnScan(station, static_cast<int>(drop.at.x), static_cast<int>(drop.at.y));
+    for (const StationKey& station : stations) {
+      context_.services.program.DropOnScan(station, static_cast<int>(drop.at.x), static_cast<int>(drop.at.y));
+    }
   }
   if (what == Thing::Group && drop.onto == Thing::Group) groups_.MoveGroup(group, drop.to);
 }

@@ -5,6 +5,7 @@
 #include <windows.h>
 
 #include <string>
+#include <vector>
 
 #include "mainwindow/MainPane.h"
 
@@ -37,9 +38,9 @@ class DragPane final : public EventTarget {
                                                UINT_PTR slot, DWORD_PTR self) noexcept;
   void WatchGroupButton(UINT message, WPARAM wParam, LPARAM lParam, int slot);
   void lstFavs_BeginDrag(int row);
-  void Begin(Thing what, StationKey station, std::string group);
+  void Begin(Thing what, std::vector<StationKey> stations, std::string group);
   void End();
-  void Take(const Drop& drop, Thing what, const StationKey& station, const std::string& group);
+  void Take(const Drop& drop, Thing what, const std::vector<StationKey>& stations, const std::string& group);
   Drop DropAt(POINT screen) const;
   int SlotAt(POINT screen) const;
   void Follow();
@@ -51,9 +52,9 @@ class DragPane final : public EventTarget {
   ControlArray<GroupButton> butFavs_{form_, butFavs, 10};
   ListHandle lstFavs_{form_, lstFavs};
   Thing what_ = Thing::Nothing;  // what is dragged
-  // The row's station or the group's name, asked when the drag begins: rows and groups may change while the
+  // The rows' stations or the group's name, asked when the drag begins: rows and groups may change while the
   // button is down.
-  StationKey station_;
+  std::vector<StationKey> stations_;
   std::string group_;
   int overSlot_ = -1;
   POINT pressedAt_ = {};

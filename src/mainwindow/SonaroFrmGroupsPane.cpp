@@ -52,7 +52,7 @@ std::span<const EventRow> GroupsPane::Events() const {
       {butAddToGroupIt, Click, &GroupsPane::mnuActionStationToFavList_Click},
       {mnuActionStar, Click, &GroupsPane::mnuActionStar_Click},
       {mnuActionStationToGroup, Click, &GroupsPane::mnuActionStationToGroup_Click, 10},
-      {mnuActionRemoveFromFavList, Click, &GroupsPane::RemoveStation},
+      {mnuActionRemoveFromFavList, Click, &GroupsPane::RemoveStations},
   };
   return kRows;
 }
@@ -141,13 +141,13 @@ void GroupsPane::butNewGroup_Click() {
 }
 
 // A station was dropped on a group button; on a free one it founds a group.
-void GroupsPane::TakeDropped(const StationKey& station, int slot) {
+void GroupsPane::TakeDropped(const std::vector<StationKey>& stations, int slot) {
   auto group = static_cast<std::size_t>(slot);
   if (group >= groups_.Count()) {
     if (!commands_.AddFavoriteGroup()) return;
     group = groups_.Count() - 1;
   }
-  AddTo(groups_.Name(group), station);
+  AddTo(groups_.Name(group), stations);
   context_.view.ShowEverything();
 }
 
@@ -205,31 +205,35 @@ void GroupsPane::mnuFavImport_Click() {
 }
 
 void GroupsPane::mnuActionStationToFavList_Click() {
-  if (const StationKey station = subject_.Station().station) AskGroupFor(form_, station);
+  AskGroupFor(form_, subject_.Stations());
 }
 
 // By value: what is meant may change while the question stands.
-void GroupsPane::AskGroupFor(Form& owner, StationKey station) {
+void GroupsPane::AskGroupFor(Form& owner, std::vector<StationKey> stations) {
+  if (stations.empty()) return;
   std::vector<std::string> names;
   for (std::size_t group = 0; group < groups_.Count(); ++group) names.push_back(NameOf(group));
+  const std::string what =
+      stations.size() == 1
+          ? context_.data.source.NameOf(stations.front())
+          : FormatText(form_.LoadText(IDS_COUNT_STATIONS), {std::to_string(stations.size())});
   const std::string name =
-      frmPickGroup(context_.forms, context_.data.source.NameOf(station), std::move(names), lastUsed_)
-          .AskGroup(owner.Window());
-  if (!name.empty()) commands_.AddStationToGroupOrNew(name, station);
+      frmPickGroup(context_.forms, what, std::move(names), lastUsed_).AskGroup(owner.Window());
+  if (!name.empty()) commands_.AddStationsToGroupOrNew(name, stations);
   if (!name.empty()) lastUsed_ = name;
   context_.view.ShowEverything();
 }
 
-void GroupsPane::AddTo(const std::string& groupName, const StationKey& station) {
-  commands_.AddStationToGroup(groupName, station);
+void GroupsPane::AddTo(const std::string& groupName, const std::vector<StationKey>& stations) {
+  commands_.AddStationsToGroup(groupName, stations);
   lastUsed_ = groupName;
 }
 
 void GroupsPane::Keep(Form& owner, const StationKey& station) {
   if (!station) return;
   const auto last = groups_.Find(lastUsed_);
-  if (!last && groups_.Count() != 1) return AskGroupFor(owner, station);
-  AddTo(NameOf(last.value_or(0)), station);
+  if (!last && groups_.Count() != 1) return AskGroupFor(owner, {station});
+  AddTo(NameOf(last.value_or(0)), {station});
   context_.view.ShowEverything();
 }
 
@@ -246,19 +250,20 @@ void GroupsPane::mnuActionStar_Click() { ToggleStar(subject_.Station().station);
 
 void GroupsPane::mnuActionStationToGroup_Click(int group) {
   const auto index = static_cast<std::size_t>(group);
-  if (!subject_.Station().station || index >= groups_.Count()) return;
-  AddTo(groups_.Name(index), subject_.Station().station);
+  if (index >= groups_.Count()) return;
+  AddTo(NameOf(index), subject_.Stations());
   context_.view.ShowEverything();
 }
 
 // For other windows, which may ask while this one is not there.
 void GroupsPane::AddStationToGroup(const std::string& groupName, const StationKey& station) {
-  AddTo(groupName, station);
+  AddTo(groupName, {station});
   if (form_.IsOpen()) context_.view.ShowEverything();
 }
 
-void GroupsPane::RemoveStation() {
-  commands_.RemoveStations(subject_.GroupName(), {subject_.Station().station});
+void GroupsPane::RemoveStations() {
+  const std::vector<StationKey> stations = subject_.Stations();
+  if (!stations.empty()) commands_.RemoveStations(subject_.GroupName(), stations);
   context_.view.ShowEverything();
 }
 

@@ -24,7 +24,7 @@ class GroupsPane final : public EventTarget, private FavoritePrompts {
   std::string NameOf(std::size_t group) const;  // "" for a free slot
   void ShowGroupNamed(std::string_view name);
   // A station was dropped on a slot, or a group's button on another slot.
-  void TakeDropped(const StationKey& station, int slot);
+  void TakeDropped(const std::vector<StationKey>& stations, int slot);
   void MoveGroup(const std::string& name, int to);
   // For a window that has no groups of its own.
   void AddStationToGroup(const std::string& groupName, const StationKey& station);
@@ -34,7 +34,7 @@ class GroupsPane final : public EventTarget, private FavoritePrompts {
   // holds it.
   void ToggleStar(const StationKey& station);
   // Takes the station that the command means out of the group that it means.
-  void RemoveStation();
+  void RemoveStations();
 
  private:
   std::span<const EventRow> Events() const override;
@@ -60,8 +60,8 @@ class GroupsPane final : public EventTarget, private FavoritePrompts {
   void mnuFavScanGroup_Click();
   void mnuFavExport_Click();
   void mnuFavImport_Click();
-  void AskGroupFor(Form& owner, StationKey station);
-  void AddTo(const std::string& groupName, const StationKey& station);
+  void AskGroupFor(Form& owner, std::vector<StationKey> stations);
+  void AddTo(const std::string& groupName, const std::vector<StationKey>& stations);
   void mnuActionStationToFavList_Click();
   void mnuActionStar_Click();
   void mnuActionStationToGroup_Click(int group);

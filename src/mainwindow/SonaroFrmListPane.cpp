@@ -51,6 +51,7 @@ void ListPane::Load() {
   listing_.ShowValues(context_.data.settings.Get(setting::kListValues));
   SetColumns();
   lstFavs_->SetModel(this, true);
+  lstFavs_->AllowSeveral();
 }
 
 // Values stand below the right end of the first header button, and take their room from the names.
@@ -74,6 +75,8 @@ void ListPane::ShowRows() {
   ShowEmptyText();
   list.RowsChanged();
   list.Select(rows.Selected() ? static_cast<int>(*rows.Selected()) : -1);
+  if (const std::vector<std::size_t> several = rows.SelectedRows(); several.size() > 1)
+    list.SelectRows(std::vector<int>(several.begin(), several.end()));
   const ListingState& state = listing_.State();
   lblListing_.SetText(state.caption);
   ShowFilterBox();
@@ -88,7 +91,10 @@ void ListPane::ShowCount() {
   const auto figure = [&](std::size_t count) { return FormatCount(count, context_.data.state.decimalMode); };
   const std::size_t count = rows.StationCount();
   const int textId = count == 1 ? IDS_COUNT_ONE_STATION : IDS_COUNT_STATIONS;
-  if (count != rows.FilledCount()) {
+  if (const std::size_t selected = rows.SelectedRows().size(); selected > 1) {
+    lblCount_.SetText(
+        FormatText(form_.LoadText(IDS_COUNT_SELECTED), {figure(selected), figure(rows.FilledCount())}));
+  } else if (count != rows.FilledCount()) {
     lblCount_.SetText(
         FormatText(form_.LoadText(IDS_COUNT_FILTERED), {figure(count), figure(rows.FilledCount())}));
   } else if (listing_.State().holds == Holds::Nothing && count == 0) {
@@ -190,7 +196,14 @@ void ListPane::ShowSort() {
 }
 
 void ListPane::lstFavs_ItemSelected(int row) {
-  if (row >= 0) listing_.Rows().Select(static_cast<std::size_t>(row));
+  StationRows& rows = listing_.Rows();
+  const std::vector<int> all = lstFavs_->SelectedRows();
+  if (row < 0) {
+    rows.Select(std::nullopt);
+  } else {
+    rows.SelectSeveral(static_cast<std::size_t>(row), std::vector<std::size_t>(all.begin(), all.end()));
+  }
+  ShowCount();
   context_.view.ShowSelection();
 }
 
@@ -202,9 +215,10 @@ void ListPane::lstFavs_ItemStarred(int row) { groups_.ToggleStar(KeyAt(row)); }
 void ListPane::lstFavs_ContextMenu(int, POINT at) {
   const CommandSubject& subject = context_.models.subject;
   const auto group = subject.GroupOnShow();
-  context_.PopUpMenuFor(
-      {.station = subject.Shown(), .group = group ? std::string(context_.data.favorites.Name(*group)) : ""},
-      context_.models.actions.ActionMenu(subject.Shown()), at);
+  context_.PopUpMenuFor({.station = subject.Shown(),
+                         .stations = listing_.Rows().SelectedKeys(),
+                         .group = group ? std::string(context_.data.favorites.Name(*group)) : ""},
+                        context_.models.actions.ActionMenu(subject.Shown()), at);
 }
 
 void ListPane::butSplit_Click(int column) { SortBy(butSplit1 + column); }
@@ -271,7 +285,7 @@ void ListPane::butMissing_Click() {
 // What removing means for the list on show: a group loses a member, the user's own stations one of them.
 void ListPane::mnuRemoveRow_Click() {
   if (listing_.State().holds == Holds::PersonalStations) return personal_.Delete();
-  groups_.RemoveStation();
+  groups_.RemoveStations();
 }
 
 // Only in the list of the group that is meant, since places are those of the group and not of any other list.

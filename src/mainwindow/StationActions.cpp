@@ -40,6 +40,12 @@ void AddSeparator(MenuEntries& menu) {
   if (!menu.empty() && !IsSeparator(menu.back())) menu.emplace_back();
 }
 
+// The others are about the one station that the detail shows.
+bool ActsOnSeveral(int command) {
+  return command == mnuActionStationToFavList || command == mnuActionRemoveFromFavList ||
+         command == mnuActionAddToScan || command == mnuPersonalDelete;
+}
+
 MenuEntry Submenu(std::string caption, MenuEntries children) {
   MenuEntry entry;
   entry.text = std::move(caption);
@@ -67,8 +73,11 @@ MenuEntry StationActions::Entry(int command, int textId, bool enabled) const {
 MenuEntry StationActions::StationEntry(int command, int textId, const StationDetail& detail) const {
   const bool selected = static_cast<bool>(detail.station);
   MenuEntry entry = Entry(command, textId, selected);
-  const std::string name =
-      detail.name.empty() ? strings_.Load(IDS_ACTION_ANY_STATION) : MenuText(detail.name);
+  const std::size_t several = ActsOnSeveral(command) ? listing_.Rows().SelectedRows().size() : 1;
+  const std::string name = several > 1
+                               ? FormatText(strings_.Load(IDS_ACTION_STATIONS), {std::to_string(several)})
+                           : detail.name.empty() ? strings_.Load(IDS_ACTION_ANY_STATION)
+                                                 : MenuText(detail.name);
   entry.text = FormatText(entry.text, {name, MenuText(listing_.State().group)});
   return entry;
 }
@@ -140,7 +149,8 @@ void StationActions::AddGroupEntries(const StationDetail& detail, MenuEntries& m
   menu.back().enabled = groupShown && detail.station;
   if (!groupShown) return;
   // In a sorted or narrowed list the places of a group's members cannot be seen, so they are not moved there.
-  const bool canMove = menu.back().enabled && listing_.Rows().InOwnOrder();
+  const bool canMove =
+      menu.back().enabled && listing_.Rows().InOwnOrder() && listing_.Rows().SelectedRows().size() == 1;
   const std::size_t row = listing_.Rows().Selected().value_or(0);
   menu.push_back(Entry(mnuActionMoveUp, IDS_ACTION_MOVE_UP, canMove && row > 0));
   menu.push_back(
@@ -148,12 +158,13 @@ void StationActions::AddGroupEntries(const StationDetail& detail, MenuEntries& m
 }
 
 MenuEntries StationActions::GroupChoices(const StationDetail& detail) const {
+  const std::size_t several = listing_.Rows().SelectedRows().size();
   MenuEntries choices;
   for (std::size_t group = 0; group < groups_.Count() && group < FavoriteGroups::kSlots; ++group) {
     MenuEntry entry;
     entry.command = mnuActionStationToGroup + static_cast<int>(group);
     entry.text = MenuText(groups_.Name(group));
-    entry.checked = detail.station && groups_.Contains(group, detail.station);
+    entry.checked = detail.station && several < 2 && groups_.Contains(group, detail.station);
     entry.enabled = detail.station && !entry.checked;
     choices.push_back(std::move(entry));
   }

@@ -40,6 +40,7 @@ void StationRows::Fill(std::vector<StationKey> keys) {
   narrowedTo_.reset();
   keys_ = std::move(keys);
   selected_.reset();
+  several_.clear();
   Arrange();
   Select(0);
 }
@@ -179,7 +180,31 @@ std::optional<std::size_t> StationRows::AnyOther(std::uint32_t chance) const {
 
 void StationRows::Select(std::optional<std::size_t> position) {
   selected_.reset();
+  several_.clear();
   if (position && *position < Count() && KeyAt(*position)) selected_ = position;
+}
+
+void StationRows::SelectSeveral(std::size_t position, std::span<const std::size_t> all) {
+  Select(position);
+  if (!selected_ || all.size() < 2) return;
+  several_.resize(keys_.size());
+  for (const std::size_t row : all) several_[order_[row]] = true;
+}
+
+std::vector<std::size_t> StationRows::SelectedRows() const {
+  if (!selected_) return {};
+  if (several_.empty()) return {*selected_};
+  std::vector<std::size_t> rows;
+  for (std::size_t position = 0; position < Count(); ++position) {
+    if (several_[order_[position]]) rows.push_back(position);
+  }
+  return rows;
+}
+
+std::vector<StationKey> StationRows::SelectedKeys() const {
+  std::vector<StationKey> keys;
+  for (const std::size_t row : SelectedRows()) keys.push_back(KeyAt(row));
+  return keys;
 }
 
 std::vector<StationKey> StationRows::Keys() const {

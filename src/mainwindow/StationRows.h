@@ -8,6 +8,7 @@
 #include <cstddef>
 #include <cstdint>
 #include <optional>
+#include <span>
 #include <string>
 #include <string_view>
 #include <utility>
@@ -88,8 +89,14 @@ class StationRows {
   // The position of a station other than the selected one, or the only one; nothing without a station.
   // `chance` is any number, and decides.
   std::optional<std::size_t> AnyOther(std::uint32_t chance) const;
-  // Selecting a row that stands for no station, or nothing, leaves no selection.
+  // Selecting a row that stands for no station, or nothing, leaves no selection. The row is the only one.
   void Select(std::optional<std::size_t> position);
+  // The selected row and others with it. They stay selected while the list is sorted or narrowed; a fill
+  // leaves one.
+  void SelectSeveral(std::size_t position, std::span<const std::size_t> all);
+  // In the shown order; empty without a selection.
+  std::vector<std::size_t> SelectedRows() const;
+  std::vector<StationKey> SelectedKeys() const;
 
   // The keys of all rows in the shown order.
   std::vector<StationKey> Keys() const;
@@ -115,6 +122,7 @@ class StationRows {
   std::optional<std::vector<StationKey>> narrowedTo_;
   SortState sort_;
   std::optional<std::size_t> selected_;  // a shown position
+  std::vector<bool> several_;            // by index in keys_, while more than one is selected
   mutable std::array<Page, kKeptPages> pages_;
   mutable std::size_t oldestPage_ = 0;
 };

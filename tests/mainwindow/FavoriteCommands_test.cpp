@@ -102,10 +102,10 @@ TEST_F(FavoriteCommandsTest, DeletingAsksUntilToldNotTo) {
 
 TEST_F(FavoriteCommandsTest, StationsComeGoAndMoveInTheGroupOnShow) {
   listing.ShowFavoriteGroup(0);
-  commands.AddStationToGroup("jazz", Key("3"));
+  commands.AddStationsToGroup("jazz", KeysOf("3"));
   EXPECT_EQ(Shown(), "S4 P1 S1 S3 ");
-  commands.AddStationToGroup("jazz", Key("3"));
-  commands.AddStationToGroup("No such group", Key("3"));
+  commands.AddStationsToGroup("jazz", KeysOf("3"));
+  commands.AddStationsToGroup("No such group", KeysOf("3"));
   commands.PlaceStation(Key("77"), Key("4"));
   commands.PlaceStation(Key("77"), Key("77"));
   commands.PlaceStation(Key("3"), Key("unknown"));
@@ -117,7 +117,7 @@ TEST_F(FavoriteCommandsTest, StationsComeGoAndMoveInTheGroupOnShow) {
   commands.RemoveStations("No such group", {Key("3")});
   commands.PlaceStation(Key("3"), Key("1"));
   EXPECT_EQ(Shown(), "S3 P1 S1 ") << "no group is on show";
-  commands.AddStationToGroup("ROCK", Key("P1"));
+  commands.AddStationsToGroup("ROCK", KeysOf("P1"));
   EXPECT_TRUE(File().ends_with("Rock\t2 P1 \r\n"));
   EXPECT_TRUE(prompts.box.asked.empty());
   EXPECT_EQ(prompts.done, std::vector<std::string>{Done(IDS_GROUP_HAS_IT, "3", "Jazz")});
@@ -130,16 +130,16 @@ TEST_F(FavoriteCommandsTest, StationsComeGoAndMoveInTheGroupOnShow) {
 
 TEST_F(FavoriteCommandsTest, TheFirstStationMakesItsGroup) {
   groups.Remove(2);
-  commands.AddStationToGroupOrNew(" First\t", Key("3"));
+  commands.AddStationsToGroupOrNew(" First\t", KeysOf("3"));
   EXPECT_TRUE(File().ends_with("First\t3 \r\n")) << File();
   EXPECT_EQ(prompts.told, std::vector<std::string>{"AddNewFavGroup\tFirst"});
   EXPECT_EQ(user.heard, std::vector<std::string>{Done(IDS_GROUP_ADDED_TO, "3", "First")});
-  commands.AddStationToGroupOrNew("FIRST", Key("1"));
+  commands.AddStationsToGroupOrNew("FIRST", KeysOf("1"));
   EXPECT_TRUE(File().ends_with("First\t3 1 \r\n")) << "a name that is there means that group";
-  commands.AddStationToGroupOrNew(" ", Key("1"));
+  commands.AddStationsToGroupOrNew(" ", KeysOf("1"));
   while (groups.Count() < FavoriteGroups::kSlots) groups.Add("G" + std::to_string(groups.Count()));
   const std::string full = File();
-  commands.AddStationToGroupOrNew("Eleven", Key("1"));
+  commands.AddStationsToGroupOrNew("Eleven", KeysOf("1"));
   EXPECT_EQ(LastKey(), "AlreadyHave10FavoriteGroups");
   EXPECT_EQ(File(), full);
 }
@@ -222,7 +222,7 @@ TEST_F(FavoriteCommandsTest, WhatWasTakenAwayComesBackToItsPlace) {
 
 TEST_F(FavoriteCommandsTest, AChangeThatCannotBeWrittenIsSaid) {
   files.SetSpaceLeft(0);
-  commands.AddStationToGroup("Rock", Key("1"));
+  commands.AddStationsToGroup("Rock", KeysOf("1"));
   EXPECT_EQ(prompts.box.asked.size(), 1U);
   EXPECT_TRUE(prompts.done.empty());
   EXPECT_FALSE(groups.Contains(2, Key("1")));
