@@ -158,6 +158,27 @@ TEST_F(BrowseTest, SomethingElsePlaysAnotherStationOfTheList) {
   EXPECT_TRUE(WaitUntil([&] { return SelectedRows(List(main)) != std::vector<int>{0}; }));
 }
 
+TEST_F(BrowseTest, SeveralRowsGoIntoAGroupAndOutOfIt) {
+  HWND main = MainWithStations();
+  NewGroup(main, "Morning");
+  HWND list = List(main);
+  SelectRow(list, 0);
+  PressKey(main, VK_DOWN, Modifier::Shift);
+  PressKey(main, VK_DOWN, Modifier::Shift);
+  ASSERT_TRUE(WaitUntil([&] { return SelectedRows(list) == std::vector<int>{0, 1, 2}; }));
+  SaveShot("several");
+  Command(main, mnuActionStationToGroup);
+  Click(Control(main, butFavs));
+  EXPECT_TRUE(WaitUntil([&] { return RowCount(list) == 3; }));
+  EXPECT_TRUE(ClickUntil(RowAt(main, 1), [&] { return FocusOf(main) == list; }));
+  PressKey(main, 'A', Modifier::Control);
+  EXPECT_TRUE(WaitUntil([&] { return SelectedRows(list).size() == 3; }));
+  PressKey(main, VK_DELETE);
+  EXPECT_TRUE(WaitUntil([&] { return RowCount(list) == 0; }));
+  PressKey(main, 'Z', Modifier::Control);
+  EXPECT_TRUE(WaitUntil([&] { return RowCount(list) == 3; }));
+}
+
 TEST_F(BrowseTest, ASearchIsRememberedAcrossARestart) {
   HWND main = StartAndShowMain("DoWhat=BringSearch");
   HWND words = Control(main, txtQuickSearch);

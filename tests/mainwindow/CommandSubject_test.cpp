@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <array>
+
 #include "mainwindow/Models.h"
 
 namespace sonaro {
@@ -42,6 +44,25 @@ TEST_F(CommandSubjectTest, AnOpenMenuDecidesWhateverIsOnShow) {
   subject_.Close(before);
   EXPECT_EQ(subject_.Station().station, StationKey::OfGuide(3));
   EXPECT_EQ(subject_.OpenMenu(), nullptr);
+}
+
+TEST_F(CommandSubjectTest, CommandsForSeveralActOnAllThatAreSelected) {
+  listing.ShowSearch("rock", true);  // 2, 3 and 4
+  subject_.Show(Detail(2));
+  EXPECT_EQ(subject_.Stations(), KeysOf("2"));
+  const std::array<std::size_t, 2> rows = {0, 2};
+  listing.Rows().SelectSeveral(2, rows);
+  subject_.Show(Detail(4));
+  EXPECT_EQ(subject_.Stations(), KeysOf("2 4"));
+  const auto before = subject_.Open({.station = Detail(4), .stations = listing.Rows().SelectedKeys()});
+  listing.ShowRanking(Ranking::NewStations);
+  EXPECT_EQ(subject_.Stations(), KeysOf("2 4")) << "what the menu was opened for";
+  subject_.Close(before);
+  listing.ShowSearch("rock", true);
+  listing.Rows().SelectSeveral(2, rows);
+  listing.ShowView(View::YourSonaro);
+  subject_.Show({});
+  EXPECT_EQ(subject_.Stations(), KeysOf("")) << "the list is not on show";
 }
 
 TEST_F(CommandSubjectTest, OnlyAListInTheMiddleHasItsGroupOnShow) {

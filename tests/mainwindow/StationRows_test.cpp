@@ -81,6 +81,25 @@ TEST_F(StationRowsTest, KeepTheOrderOfTheFillUntilTheyAreSorted) {
   EXPECT_EQ(Shown(), "2 3 ");
 }
 
+TEST_F(StationRowsTest, SeveralStaySelectedWhileTheListIsSortedAndNarrowed) {
+  Guide({{"b"}, {"C"}, {"a"}, {"d"}});
+  const std::vector<std::size_t> all = {0, 2, 3};
+  rows.SelectSeveral(2, all);
+  EXPECT_EQ(rows.SelectedRows(), all);
+  rows.SortBy(0, SortOrder::Ascending);
+  EXPECT_EQ(rows.SelectedRows(), (std::vector<std::size_t>{0, 1, 3}));
+  EXPECT_EQ(rows.SelectedKey(), StationKey::OfGuide(3));
+  const std::vector<StationKey> keys = {StationKey::OfGuide(1), StationKey::OfGuide(2),
+                                        StationKey::OfGuide(3)};
+  rows.NarrowTo(keys);
+  EXPECT_EQ(rows.SelectedKeys(), (std::vector<StationKey>{keys[2], keys[0]}));
+  rows.Select(1);
+  EXPECT_EQ(rows.SelectedRows(), std::vector<std::size_t>{1});
+  rows.SelectSeveral(1, std::vector<std::size_t>{0, 1});
+  rows.Fill(keys);
+  EXPECT_EQ(rows.SelectedRows(), std::vector<std::size_t>{0});
+}
+
 TEST_F(StationRowsTest, EqualTextsKeepTheOrderOfTheFillInBothOrders) {
   Guide({{"x", "5"}, {"y", "9"}, {"z", "5"}, {"w", ""}});
   rows.SortBy(4, SortOrder::Descending);

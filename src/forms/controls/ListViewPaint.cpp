@@ -82,7 +82,9 @@ void ListView::PaintRow(HDC dc, int row) const {
   if (selected)
     theme.Fill(buffer.Dc(), {box.left, box.top, box.left + theme.Px(kNeedleBar), box.bottom}, colors.accent);
   // While none is selected the frame shows from where the keys would go on.
-  if (focused && (selected || (row == std::max(0, FocusedRow()) && Selected() < 0))) {
+  // Of several selected rows only one is where the keys go on.
+  const bool here = row == std::max(0, FocusedRow());
+  if (focused && (selected ? here || SelectedCount() == 1 : here && Selected() < 0)) {
     const RECT frame = {box.left + theme.Px(4), box.top + theme.Line(),
                         edges_.empty() ? box.right : edges_.back(), box.bottom - theme.Line()};
     theme.Frame(buffer.Dc(), frame, colors.focus, theme.Line());
