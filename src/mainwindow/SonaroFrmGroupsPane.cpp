@@ -204,19 +204,16 @@ void GroupsPane::mnuFavImport_Click() {
   if (const auto group = subject_.Group()) playlists_.ImportIntoGroup(*group);
 }
 
-void GroupsPane::mnuActionStationToFavList_Click() {
-  AskGroupFor(form_, subject_.Stations());
-}
+void GroupsPane::mnuActionStationToFavList_Click() { AskGroupFor(form_, subject_.Stations()); }
 
 // By value: what is meant may change while the question stands.
 void GroupsPane::AskGroupFor(Form& owner, std::vector<StationKey> stations) {
   if (stations.empty()) return;
   std::vector<std::string> names;
   for (std::size_t group = 0; group < groups_.Count(); ++group) names.push_back(NameOf(group));
-  const std::string what =
-      stations.size() == 1
-          ? context_.data.source.NameOf(stations.front())
-          : FormatText(form_.LoadText(IDS_COUNT_STATIONS), {std::to_string(stations.size())});
+  const std::string what = stations.size() == 1 ? context_.data.source.NameOf(stations.front())
+                                                : FormatText(form_.LoadText(IDS_COUNT_STATIONS),
+                                                             {std::to_string(stations.size())});
   const std::string name =
       frmPickGroup(context_.forms, what, std::move(names), lastUsed_).AskGroup(owner.Window());
   if (!name.empty()) commands_.AddStationsToGroupOrNew(name, stations);

@@ -125,10 +125,10 @@ TEST_F(FavoriteCommandsTest, StationsComeGoAndMoveInTheGroupOnShow) {
   EXPECT_TRUE(prompts.box.asked.empty());
   EXPECT_EQ(prompts.done, (std::vector<std::string>{Done(IDS_GROUP_HAS_IT, "3", "Jazz"),
                                                     Done(IDS_GROUP_HAS_THEM, "2", "Rock")}));
-  EXPECT_EQ(user.heard, (std::vector<std::string>{Done(IDS_GROUP_ADDED_TO, "3", "Jazz"),
-                                                  Done(IDS_GROUP_REMOVED_FROM, "P1", "Jazz"),
-                                                  Done(IDS_GROUP_ADDED_TO, "P1", "Rock"),
-                                                  Done(IDS_GROUP_ADDED_MANY, "2", "Rock")}));
+  EXPECT_EQ(user.heard,
+            (std::vector<std::string>{
+                Done(IDS_GROUP_ADDED_TO, "3", "Jazz"), Done(IDS_GROUP_REMOVED_FROM, "P1", "Jazz"),
+                Done(IDS_GROUP_ADDED_TO, "P1", "Rock"), Done(IDS_GROUP_ADDED_MANY, "2", "Rock")}));
   undo.Undo();
   EXPECT_TRUE(File().ends_with("Rock\t2 P1 \r\n")) << File();
   undo.Undo();
