@@ -51,6 +51,18 @@ void Append(std::vector<GenreEntry>& entries, const std::vector<GenreEntry>& mor
   }
 }
 
+// Names are often written in one word, "RockFM", "jazzradio": what is left of a word without that counts when
+// it is long enough not to be a piece of something else.
+std::string_view WithoutRadio(std::string_view word) {
+  constexpr std::size_t kShortest = 4;
+  for (const std::string_view part : {std::string_view("radio"), std::string_view("fm")}) {
+    if (word.size() < part.size() + kShortest) continue;
+    if (word.ends_with(part)) return word.substr(0, word.size() - part.size());
+    if (word.starts_with(part)) return word.substr(part.size());
+  }
+  return word;
+}
+
 // Returns the genres of the longest terms in `words`, taken from the left. A single word counts only when it
 // is not ambiguous; `name` says that the words are of a name, where more of them are. The words must be
 // pieces of one key with a blank between them: a term is cut out of it from its first word to its last.
@@ -60,10 +72,14 @@ std::vector<GenreEntry> GenresInWords(const std::vector<std::string_view>& words
     std::size_t taken = 1;
     for (std::size_t length = std::min(kMaxTermLength, words.size() - start); length > 0; --length) {
       const std::string_view last = words[start + length - 1];
-      const std::string term(words[start].data(), last.data() + last.size());
+      std::string term(words[start].data(), last.data() + last.size());
+      auto found = GenresByTag().find(term);
+      if (length == 1 && name && found == GenresByTag().end()) {
+        term = WithoutRadio(term);
+        found = GenresByTag().find(term);
+      }
       if (length == 1 && (IsOneOf(Tags().onlyAsWholeTag, term) || (name && IsOneOf(Tags().notInNames, term))))
         continue;
-      const auto found = GenresByTag().find(term);
       if (found == GenresByTag().end()) continue;
       Append(entries, found->second);
       taken = length;
@@ -82,7 +98,6 @@ bool IsFrequencyWord(std::string_view word) {
   return digits == word.size() || IsOneOf(kUnits, word.substr(digits));
 }
 
-// A tag that tells nothing about the programme: a filler, a frequency, a country or one of its regions.
 bool SaysNothing(std::string_view tag, std::string_view key, const Country* country) {
   static const std::unordered_set<std::string> kFillers = [] {
     std::unordered_set<std::string> set;
@@ -141,6 +156,10 @@ std::vector<GenreEntry> GenresOfTag(std::string_view tag) {
   const std::vector<std::string_view> words = KeyWords(key);
   if (words.size() < 2 || words.size() > kMaxTagWords) return {};
   return GenresInWords(words, /*name=*/false);
+}
+
+bool TellsNothing(std::string_view tag, const SourceStation& station) {
+  return SaysNothing(tag, MatchKey(tag), CountryByCode(station.countryCode));
 }
 
 // In the order of the tags: the first genre is the main one unless PutMainFirst finds a better one.

@@ -30,6 +30,10 @@ Classification ClassifyStation(const SourceStation& station);
 // The entries that one tag leads to: as a whole, or else by the words in it that are genres.
 std::vector<GenreEntry> GenresOfTag(std::string_view tag);
 
+// A tag of the station that tells nothing about the programme: a filler, the owner of a network, a frequency,
+// a language, a country or one of its regions.
+bool TellsNothing(std::string_view tag, const SourceStation& station);
+
 const Genre* GenreByCode(char code);
 
 }  // namespace sonaro

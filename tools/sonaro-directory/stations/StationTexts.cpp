@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <unordered_set>
 #include <utility>
 #include <vector>
 
@@ -16,10 +17,28 @@ namespace {
 constexpr std::size_t kMaxTagsTold = 12;
 constexpr std::size_t kMaxTagsToldLength = 220;
 
+// "@fm", "#101", "https": what lists take over from other services.
+bool IsHandle(std::string_view tag) {
+  return tag.starts_with('@') || tag.starts_with('#') || tag.find("://") != std::string_view::npos ||
+         tag.find("www.") != std::string_view::npos;
+}
+
+// The tags that tell something the reader does not know yet: not the words of the name or of an earlier tag
+// once more, nor what says nothing about the programme.
 std::string TagsTold(const SourceStation& station) {
+  const std::string name = MatchKey(station.name);
+  std::unordered_set<std::string> known;
+  for (const std::string_view word : KeyWords(name)) known.emplace(word);
   std::vector<std::string> told;
   std::size_t length = 0;
   for (const std::string& tag : station.tags) {
+    if (IsHandle(tag) || TellsNothing(tag, station)) continue;
+    const std::string key = MatchKey(tag);
+    bool isNew = false;
+    for (const std::string_view word : KeyWords(key)) {
+      isNew |= known.emplace(word).second && !TellsNothing(word, station);
+    }
+    if (!isNew) continue;
     length += tag.size() + 2;
     if (told.size() == kMaxTagsTold || length > kMaxTagsToldLength) break;
     told.push_back(tag);
