@@ -274,7 +274,7 @@ TEST(Genres, FindTheMainOne) {
   EXPECT_EQ(FormatOf({"club dance electronic house trance"}), "House");
   EXPECT_EQ(FormatOf({"80's"}), "80s");
   EXPECT_EQ(FormatOf({}, "Smooth Jazz 104.5"), "Smooth Jazz");
-  EXPECT_EQ(FormatOf({}, "JazzRadio Oslo"), "Jazz") << "in one word";
+  EXPECT_EQ(FormatOf({}, "JazzRadio Oslo"), "Jazz");
   EXPECT_EQ(FormatOf({}, "Hitradio Nord"), "Top 40 & Charts");
   EXPECT_EQ(FormatOf({}, "Classic Love Station"), "Other");
   EXPECT_EQ(FormatOf({"we rock the world with our new best pop on air"}), "Other");
@@ -374,19 +374,10 @@ TEST(StationTexts, DescribeAStationInASentence) {
 
 TEST(StationTexts, LeaveOutOfTheTagsWhatTellsNothingNew) {
   SourceStation source = MakeStation("Arroba FM 99.7", {"http://a.example/"});
-  source.countryCode = "MX";
-  const std::pair<std::vector<std::string>, const char*> kCases[] = {
-      {{"99.7", "99.7 fm", "@fm", "@fm te conecta", "arroba fm", "pop"}, "Pop from Mexico. "},
-      {{"pop", "pop music", "music", "rock", "classic rock"}, "Pop, rock and classic rock from Mexico. "},
-      {{"classic rock", "rock", "https://a.example/", "#1", "español", "méxico", "mp3"},
-       "Classic rock from Mexico. "},
-      {{"beekeeping", "Beekeeping!", "gardens"}, "Beekeeping and gardens from Mexico. "},
-      {{"99.7"}, "Radio from Mexico. "},
-  };
-  for (const auto& [tags, text] : kCases) {
-    source.tags = tags;
-    EXPECT_EQ(DescriptionOf(WithIds({source})[0]) + " ", text) << tags.front();
-  }
+  source.tags = {"99.7 fm", "@fm",       "@fm te conecta", "arroba fm",  "https://a.example/",
+                 "#1",      "español",   "mexico",         "mp3",        "classic rock",
+                 "pop",     "pop music", "rock",           "rock latino"};
+  EXPECT_EQ(DescriptionOf(WithIds({source})[0]), "Classic rock, pop and rock latino.");
 }
 
 TEST(StationTexts, WriteLinksForTheirPlayer) {
