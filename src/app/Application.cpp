@@ -159,6 +159,10 @@ void Application::RecentChanged() {
   if (main_) main_->RecentChanged();
 }
 
+void Application::ActDone(const std::string& sentence) {
+  if (main_) main_->Status().Say(sentence);
+}
+
 void Application::ScheduleChanged() {
   if (main_) main_->ScheduleChanged();
 }

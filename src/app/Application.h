@@ -100,6 +100,7 @@ class Application final : private StartupView,
   void ClockChanged() override;
   void ScheduleItemDue(int slot) override;
   void RecentChanged() override;
+  void ActDone(const std::string& sentence) override;
   void ScheduleChanged() override;
   void DirectoryChanged() override;
   void UpdateProgress(int percent) override;

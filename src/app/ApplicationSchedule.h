@@ -101,6 +101,7 @@ class ApplicationSchedule final : public ScheduleCommands,
   void FullMinute() override;
   std::vector<Occurrence> LiveStarts(const DateTime& from, const DateTime& to) override;
   void WhileYouWereAway(const std::vector<Occurrence>& missed) override;
+  void ActDone(const std::string& sentence) override { dependencies_.listener.ActDone(sentence); }
   void ItemsChanged() override;
 
   void RememberSeen();

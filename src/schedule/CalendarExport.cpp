@@ -78,6 +78,7 @@ struct Times {
   std::string rule;  // "" for an item that comes on once
 };
 
+// A repetition has no end: it is in the schedule until the user deletes it.
 std::optional<Times> TimesOf(const ScheduleItem& item, const Date& today) {
   if (!item.time) return std::nullopt;
   switch (item.kind) {
@@ -109,6 +110,7 @@ std::string IdentityOf(const ScheduleFields& item, std::set<std::string>& earlie
   return identity;
 }
 
+// The alarm is part of each entry: calendars that import an entry without one do not remind.
 void AddEntry(std::string& file, const std::string& identity, const ScheduleItem& item, const Times& times,
               const DateTime& gmtNow, const ScheduleTexts& texts) {
   const std::string name = Escaped(texts.Name(item.name));

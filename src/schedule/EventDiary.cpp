@@ -54,6 +54,7 @@ std::vector<BroadcastEvent> EventDiary::Coming(const DateTime& gmtNow, std::size
   return {first, first + static_cast<std::ptrdiff_t>(count)};
 }
 
+// By name alone, since the list of personal shows knows no stations.
 std::optional<DateTime> EventDiary::Next(std::string_view name, const DateTime& gmtNow) const {
   const auto found = std::find_if(After(gmtNow), diary_.end(), [&](const BroadcastEvent& event) {
     return EqualIgnoringCase(event.record[EventField::Name], name);

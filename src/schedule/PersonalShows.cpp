@@ -58,6 +58,7 @@ void PersonalShows::AddPersonalShow(std::string_view showKey) {
   Tell(saved, "AddPersonalShow", IDS_SCHED_SHOW_ADDED, showKey);
 }
 
+// Told even when the show was gone already: the user asked for it not to be there.
 void PersonalShows::RemovePersonalShow(std::string_view showKey) {
   std::vector<std::string> lines = List();
   std::erase_if(lines,
@@ -73,6 +74,7 @@ bool PersonalShows::PutBack(const std::string& line) {
   return WritePersonalShows(EachOnItsLine(lines));
 }
 
+// Without a line break behind the last line, unlike the file.
 std::string PersonalShows::ReadPersonalShows() {
   std::string text = EachOnItsLine(List());
   if (!text.empty()) text.resize(text.size() - kLineEnd.size());

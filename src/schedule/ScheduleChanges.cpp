@@ -48,6 +48,7 @@ void ScheduleChanges::Delete(const std::vector<std::string>& rowKeys) {
 bool ScheduleChanges::ConfirmDelete(const std::vector<ScheduleFields>& items) {
   const auto& [store, shows, settings, undo, messages, strings, texts, listener] = dependencies_;
   if (settings.Get(setting::kNoShowDeleteNotice)) return true;
+  // The question names one item, and only counts several.
   const auto slot = store.SlotOf(items.front());
   const std::string question = items.size() == 1 && slot
                                    ? texts.DeleteQuestion(store.Item(*slot))
@@ -127,10 +128,14 @@ bool ScheduleChanges::Snooze(const ScheduleItem& item, int minutes, const DateTi
   later.time = FormatTime(at.time, dependencies_.texts.Style());
   later.weekday.clear();
   std::optional<std::size_t> slot;
+  // Where the item stands now; one that was deleted meanwhile is made again.
   if (item.kind == ScheduleKind::Once) slot = store.SlotOf(item.fields);
   const bool saved = store.SetItem(slot ? *slot : store.FirstFreeSlot(), later);
   dependencies_.listener.ItemsChanged();
-  return Saved(saved);
+  if (!Saved(saved)) return false;
+  dependencies_.listener.ActDone(dependencies_.texts.Filled(
+      IDS_SCHED_SNOOZED, {dependencies_.texts.Name(item.name), dependencies_.texts.Next(at, now)}));
+  return true;
 }
 
 bool ScheduleChanges::Saved(bool saved) {

@@ -23,6 +23,7 @@ class UndoList;
 class ScheduleListener {
  public:
   virtual ~ScheduleListener() = default;
+  virtual void ActDone(const std::string& sentence) = 0;  // for the status line
   virtual void ItemsChanged() = 0;  // an item was added, changed or deleted, or would have been
 };
 

@@ -55,6 +55,7 @@ std::string ScheduleTexts::Action(const ScheduleItem& item) const {
   return Filled(item.opensWebSite ? IDS_SCHED_ACTION_WEB : IDS_SCHED_ACTION_NOTIFY);
 }
 
+// With the time as the list shows it, so that the user finds the row again that he is asked about.
 std::string ScheduleTexts::DeleteQuestion(const ScheduleItem& item) const {
   const std::string name = Name(item.name);
   switch (item.kind) {

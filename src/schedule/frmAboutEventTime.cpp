@@ -95,6 +95,7 @@ void frmAboutEventTime::OnLoad() {
   lblTimeInfo5_.SetText(FormatText(LoadText(IDS_SCHED_TIME_ZONE), {zone}));
 }
 
+// Minimised, since the runner of the control panel has a window of its own to no purpose.
 void frmAboutEventTime::lblChangeIt_Click() { shell_.RunMinimised(kTimeSettings); }
 
 void frmAboutEventTime::butHelp_Click() { help_.OpenHelpPage("9003.html"); }

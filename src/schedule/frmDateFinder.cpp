@@ -68,6 +68,7 @@ std::optional<Date> frmDateFinder::Choose(HWND owner) {
 
 void frmDateFinder::OnLoad() { Show(chosen_); }
 
+// The calendar and the large day always show the same date, whichever of them was told.
 void frmDateFinder::Show(const Date& date) {
   chosen_ = date;
   SYSTEMTIME shown{};

@@ -182,6 +182,7 @@ void frmNotify::ShowButtons() {
   butGoWebSiteIt_.Show(!Shown().webSite.empty());
 }
 
+// No row, as after a click below the last one: the buttons stay.
 void frmNotify::lstMissed_ItemSelected(int row) {
   if (row < 0 || row >= rows_.RowCount()) return;
   shown_ = static_cast<std::size_t>(row);
@@ -194,6 +195,7 @@ void frmNotify::butPlay_Click(int index) {
   if (choice < Shown().plays.size() && commands_.Play(Shown().plays[choice]) && notices_.size() == 1) Close();
 }
 
+// A menu and no third row of buttons: the window lies over what the user works on.
 void frmNotify::butSnoozeIt_Click() {
   std::vector<MenuEntry> entries;
   for (const SnoozeLength& length : kSnoozes) {
@@ -203,6 +205,7 @@ void frmNotify::butSnoozeIt_Click() {
   butSnoozeIt_.PopUpMenu(entries);
 }
 
+// One that could not be saved stays on the screen, or it would be lost.
 void frmNotify::mnuSnooze_Click(int length) {
   if (commands_.Snooze(Shown().item, kSnoozes[length].minutes)) Close();
 }

@@ -21,6 +21,7 @@
 
 namespace sonaro {
 
+// The list asks for what it paints only.
 std::string frmSched::Rows::Cell(int row, int column) const {
   return rows_[static_cast<std::size_t>(row)].cells[static_cast<std::size_t>(column)];
 }
@@ -72,6 +73,7 @@ void frmSched::Rows::ShowSorted(const std::vector<std::string>& before) {
   list.Select(after ? static_cast<int>(*after) : -1);
 }
 
+// Rows that went are not replaced by others: several were chosen one by one.
 void frmSched::Rows::SelectKeys(const std::vector<std::string>& keys) {
   std::vector<int> found;
   for (int row = 0; row < RowCount(); ++row) {
@@ -116,6 +118,7 @@ void frmSched::FillLists() {
   ShowKeys();
 }
 
+// A personal show has nothing to modify, and several items have no one dialog.
 void frmSched::ShowKeys() {
   const std::string key = SelectedKey();
   butChangeIt_.Enable(SlotOfKey(key) >= 0 && lstSched_->SelectedCount() == 1);
@@ -138,6 +141,7 @@ void frmSched::lstShows_ItemSelected(int) {
 // A double click, or Enter.
 void frmSched::lstSched_ItemActivate(int) { butChangeIt_Click(); }
 
+// A new item knows no station yet, and asks for it first.
 void frmSched::butAddIt_Click() {
   frmSchedChange dialog(context_, services_, ScheduleDraft::ForStation({}, {}, services_.clock.LocalNow()));
   if (dialog.ShowModal(Window()) == 1) FillLists();
@@ -171,7 +175,10 @@ void frmSched::butExportIt_Click() {
   if (path.empty()) return;
   const std::string calendar = ExportCalendar(services_.store, services_.clock.LocalNow().date,
                                               services_.clock.GmtNow(), services_.texts);
-  SavedOrSaid(SaveWholeFile(services_.files, path, calendar), path, services_.messages, context_.strings);
+  if (SavedOrSaid(SaveWholeFile(services_.files, path, calendar), path, services_.messages,
+                  context_.strings)) {
+    services_.listener.ActDone(FormatText(LoadText(IDS_SCHED_EXPORTED), {path}));
+  }
 }
 
 void frmSched::butHelp_Click() { services_.help.OpenHelpPage("9019.html"); }

@@ -22,6 +22,7 @@ constexpr int kKindCount = 3;
 constexpr int kDays = 7;
 constexpr int kNoteBytes = 4000;
 
+// -1 for a live item, which has no button: none of them is active then.
 int IndexOf(ScheduleKind kind) {
   for (int i = 0; i < kKindCount; ++i) {
     if (kKinds[i] == kind) return i;
@@ -112,6 +113,7 @@ void frmSchedChange::cmdHowOften_Click(int index) {
   ShowKind();
 }
 
+// A toggle shows what it is told to; pressing it only asks.
 void frmSchedChange::chkDay_Click(int day) {
   chkDay_[day].SetActive(!chkDay_[day].IsActive());
   Any_Change();
@@ -122,6 +124,7 @@ void frmSchedChange::Any_Change() {
   ShowSummary();
 }
 
+// What the item was called before, an event perhaps, and its web site go with the old station.
 void frmSchedChange::butSchedIt_Click() {
   frmSelectStation picker(context_, services_.stations, services_.help);
   const std::optional<StationInfo> picked = picker.Choose(Window());
@@ -132,6 +135,7 @@ void frmSchedChange::butSchedIt_Click() {
   ShowSummary();
 }
 
+// The calendar begins with the date that was typed, if it is one.
 void frmSchedChange::butPickDateIt_Click() {
   const Date today = services_.clock.LocalNow().date;
   const auto typed = ParseTypedDate(txtOneDate_.Text(), services_.shortDatePattern);
@@ -179,6 +183,8 @@ void frmSchedChange::butOKIt_Click() {
   services_.listener.ItemsChanged();
   // What was entered stays on the screen until it is saved.
   if (!SavedOrSaid(saved, LoadText(IDS_FILE_SCHEDULE), services_.messages, context_.strings)) return;
+  services_.listener.ActDone(
+      FormatText(LoadText(IDS_SCHED_SAVED), {services_.texts.Name(draft_.name), lblSummary_.Text()}));
   Close(1);
 }
 

@@ -77,10 +77,13 @@ std::string frmSelectStation::Rows::Cell(int row, int column) const {
   return column == 0 ? shown.name : column == 1 ? shown.location : shown.mediaType;
 }
 
+// 1 is what OK and a double click close with.
 std::optional<StationInfo> frmSelectStation::Choose(HWND owner) {
   return ShowModal(owner) == 1 ? chosen_ : std::nullopt;
 }
 
+// Opens with the first group, or, without groups, with the user's own stations: something to choose from at
+// once.
 void frmSelectStation::OnLoad() {
   lstResult_->SetColumns({{LoadText(IDS_SCHED_COLUMN_NAME), 249},
                           {LoadText(IDS_SCHED_COLUMN_LOCATION), 170},

@@ -37,6 +37,7 @@ void ScheduleTimerWindow::Load() { form_.Create(); }
 
 void ScheduleTimerWindow::SetCloseItCaption(const char* caption) { form_.SetCloseItCaption(caption); }
 
+// The interval counts from now: ticks that drifted off the full minute fall on it again.
 void ScheduleTimerWindow::RestartTimer(unsigned milliseconds) {
   form_.StopTimer(Timer1);
   form_.StartTimer(Timer1, milliseconds);

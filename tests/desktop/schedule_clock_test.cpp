@@ -234,6 +234,8 @@ TEST_F(HandClockTest, ANoticeThatIsPutOffComesAgainAfterARestart) {
   SaveShot("notice");
   Command(notice, mnuSnooze + 1);
   EXPECT_TRUE(WaitUntil([&] { return !IsWindow(notice); }));
+  EXPECT_EQ(TextOf(Control(Running().Window("SonaroFrm"), lblStatus)),
+            "Next notice for Tea: Today 10:20 AM.");
   EXPECT_EQ(ReadFile("Sched.snr"),
             "Tea\tN\t\t10:05 AM\t\tdaily\tpot\r\nTea\tN\t5/5/2005\t10:20 AM\t\tonce\tpot\r\n");
   Command(Sonaro().Window("frmSysTrayMenu"), mnuTrayExit);

@@ -24,6 +24,8 @@ class ScheduleWords final : public FakeStrings {
         return "every {0} at {1}";
       case IDS_SCHED_OFTEN_ONCE:
         return "at {0} on {1}";
+      case IDS_SCHED_SNOOZED:
+        return "Again: {0} {1}";
       case IDS_SCHED_DELETE_ONCE:
         return "Delete {0} {1} {2}";
       case IDS_SCHED_EVENT_ON:

@@ -24,6 +24,7 @@ class Changes : public ScheduleWorld, public ScheduleListener {
     before_ = File();
   }
   std::string File() const { return files_.Get("data/Sched.snr").value_or(""); }
+  void ActDone(const std::string& sentence) override { done_ = sentence; }
   void ItemsChanged() override { ++told_; }
 
   const ScheduleFields kTea{.name = "Tea", .time = "4:00 PM", .kind = "daily", .action = "NS77"};
@@ -40,6 +41,7 @@ class Changes : public ScheduleWorld, public ScheduleListener {
   ScheduleChanges changes_{{store_, shows_, settings_, undo_, box_, words_, texts_, *this}};
   std::string before_;
   int told_ = 0;
+  std::string done_;
 };
 
 TEST_F(Changes, DeletingAsksAndCanBeUndone) {
@@ -113,6 +115,7 @@ TEST_F(Changes, ANoticeIsPutOffAndStaysInTheSchedule) {
             "Talk|||Z|||Radio>>>>>>x.example\tW\t\t\t\tlive\t\r\n"
             "Tea\tNS77\t8/17/2000\t12:15 AM\t\tonce\t\r\n"
             "Talk|||Z|||Radio>>>>>>x.example\tW\t8/16/2000\t10:00 AM\t\tonce\t\r\n");
+  EXPECT_EQ(done_, "Again: Talk on Radio Today 10:00 AM");
   // Deleted while its notice lay on the screen: told once more all the same.
   store_.FreeSlot(1);
   EXPECT_TRUE(changes_.Snooze(item(kCake), 5, {{2000, 8, 16}, {20, 0, 0}}));

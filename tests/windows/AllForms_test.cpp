@@ -69,6 +69,7 @@ struct NoNotify final : NotifyCommands {
 };
 
 struct NoScheduleListener final : ScheduleListener {
+  void ActDone(const std::string&) override {}
   void ItemsChanged() override {}
 };
 
