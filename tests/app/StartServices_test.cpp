@@ -6,12 +6,9 @@
 #include "directory/DeferredSwap.h"
 #include "directory/HeldNames.h"
 #include "fakes/FakeFiles.h"
-#include "fakes/FakeMessageBox.h"
 #include "fakes/FakeRegistry.h"
-#include "fakes/FakeStrings.h"
 #include "net/ServiceRequest.h"
 #include "net/WhatIsNew.h"
-#include "resources/texts/app.h"
 #include "settings/CReg.h"
 #include "settings/HelpPages.h"
 
@@ -52,8 +49,6 @@ class StartServicesTest : public testing::Test {
   CReg reg_{registry_};
   FakeBrowser browser_;
   HelpPages help_{reg_, browser_};
-  FakeStrings strings_;
-  FakeMessageBox messages_;
   bool rebuilds_ = true;
   std::vector<std::string> rebuiltFrom_;  // the station list at each rebuild
 };
@@ -84,18 +79,6 @@ TEST_F(StartServicesTest, OnlyLinesWithThreeTabsNameAList) {
   }
 }
 
-TEST_F(StartServicesTest, MissingFilesAreFetchedOnlyWhenTheUserSaysSo) {
-  for (const MessageAnswer answer : {MessageAnswer::First, MessageAnswer::Second, MessageAnswer::Closed}) {
-    reg_.SetSetting("LastUpdate", "8/14/2000");
-    messages_.answers = {{answer, false}};
-    EXPECT_EQ(AskToGetMissingFiles(reg_, strings_, messages_), answer == MessageAnswer::First);
-    EXPECT_EQ(reg_.Setting("LastUpdate"), "");
-  }
-  EXPECT_EQ(messages_.asked[0].key, "MissingDataFilesNeedToDownloadThem");
-  EXPECT_EQ(messages_.asked[0].caption, std::to_string(IDS_FILES_MISSING_CAPTION));
-  EXPECT_EQ(messages_.asked[0].firstButton, std::to_string(IDS_FILES_MISSING_GET));
-}
-
 TEST_F(StartServicesTest, HelpAddress) {
   help_.OpenHelpPage("9037.html");
   EXPECT_EQ(reg_.Setting("HelpURL"), "http://www.sonaro.example/sonaroapp/sonaro4vf/apphelp");
@@ -110,21 +93,6 @@ TEST_F(StartServicesTest, HelpAddress) {
                                       "http://https://help.example/2/a.html"}));
 }
 
-TEST_F(StartServicesTest, SwapPutsCopiesInPlaceAndRebuilds) {
-  Put("Station.snr", "old");
-  Put("tStation.snr", "new");
-  Put("tnew.snr", "n");
-  Put("fun.snr", "old fun");  // no copy of it: stays
-  EXPECT_TRUE(RunSwap("Station.snr\tnew.snr\tfun.snr\t"));
-  EXPECT_EQ(Get("Station.snr"), "new");
-  EXPECT_EQ(Get("new.snr"), "n");
-  EXPECT_EQ(Get("fun.snr"), "old fun");
-  EXPECT_EQ(Get("tStation.snr"), "(none)");
-  EXPECT_EQ(rebuiltFrom_.size(), 1u);
-  EXPECT_EQ(reg_.Setting("UpdateHold"), "");
-  EXPECT_FALSE(RunSwap(""));
-}
-
 TEST_F(StartServicesTest, SwapTakesOnlyPlainNamesThatATabEnds) {
   const struct {
     const char* hold;
@@ -133,7 +101,7 @@ TEST_F(StartServicesTest, SwapTakesOnlyPlainNamesThatATabEnds) {
   } kCases[] = {
       {"a.snr", "old", 0},         {"b.snr\ta.snr", "old", 0},   {"a.snr\t", "new", 0},
       {"\t\ta.snr\t", "new", 0},   {"x/../a.snr\t", "old", 0},   {"..\\a.snr\t", "old", 0},
-      {"STATION.SNR\t", "old", 1}, {"Station.snr \t", "old", 0},
+      {"STATION.SNR\t", "old", 1}, {"Station.snr \t", "old", 0}, {"none.snr\ta.snr\t", "new", 0},
   };
   for (const auto& c : kCases) {
     Put("a.snr", "old");
@@ -192,47 +160,6 @@ TEST_F(StartServicesTest, TheCopiesOfADeadUpdateAreRemoved) {
   files_.Unlock("/d/tb.snr");
   RunSwap("");
   EXPECT_EQ(files_.AllPaths(), (std::vector<std::string>{"/d/alk.snr", "/d/c.snr", "/d/talk.snr"}));
-}
-
-// The run dies at any step and the next start runs it again: all files are the new ones, and the last rebuild
-// was made from the new list.
-TEST(DeferredSwapCrash, TheNextStartFinishesIt) {
-  std::vector<std::string> rebuiltFrom;
-  std::optional<FakeRegistry> registry;
-  const auto run = [&](FakeFiles& files) {
-    DataFolder data(files, "/d", '/');
-    CReg reg(*registry);
-    RunDeferredSwap(data, reg, [&] {
-      if (!files.Crashed()) rebuiltFrom.push_back(files.Get("/d/Station.snr").value_or("(none)"));
-      return !files.Crashed();
-    });
-  };
-  const int operations = ForEachCrashPoint(
-      [&](FakeFiles& files) {
-        files.Put("/d/Station.snr", "old");
-        files.Put("/d/cat.snr", "old");
-        files.Put("/d/tStation.snr", "new");
-        files.Put("/d/tcat.snr", "new");
-        registry.emplace(files.Journal());
-        registry->Put(RootKey::LocalMachine, kSettingsKey, "UpdateHold", "cat.snr\tStation.snr\t");
-        registry->Put(RootKey::LocalMachine, kSettingsKey, "UpdateHoldDate", "9/1/2000");
-        rebuiltFrom.clear();
-      },
-      [&](FakeFiles& files) { run(files); },
-      [&](FakeFiles& files, const CrashPoint& point) {
-        for (const char* name : {"/d/Station.snr", "/d/cat.snr"}) {
-          const std::string now = files.Get(name).value_or("(none)");
-          EXPECT_TRUE(now == "old" || now == "new") << name << " " << point.operation;
-        }
-        run(files);
-        EXPECT_EQ(CReg(*registry).Setting("LastUpdate"), "9/1/2000") << point.operation;
-        EXPECT_EQ(CReg(*registry).Setting("UpdateHold"), "") << point.operation;
-        EXPECT_EQ(files.Get("/d/Station.snr"), "new") << point.operation;
-        EXPECT_EQ(files.Get("/d/cat.snr"), "new") << point.operation;
-        ASSERT_FALSE(rebuiltFrom.empty());
-        EXPECT_EQ(rebuiltFrom.back(), "new");
-      });
-  EXPECT_GE(operations, 2);
 }
 
 constexpr const char* kEnd = "\r\n<<<Cool End Off Live Stuff>>>";

@@ -9,7 +9,6 @@
 #include "fakes/FakeShell.h"
 #include "fakes/FakeStrings.h"
 #include "playback/Players.h"
-#include "resources/texts/app.h"
 #include "settings/AppState.h"
 #include "settings/CReg.h"
 #include "settings/HelpPages.h"
@@ -161,9 +160,6 @@ TEST_F(StartupTest, QuickStartIsOfferedOnceWhateverTheAnswer) {
     EXPECT_FALSE(Happened("open 9070.html"));
     EXPECT_EQ(Setting("StartQuickStart"), "No");
   }
-  EXPECT_EQ(view_.asked[0].text, std::to_string(IDS_QUICK_START_TEXT));
-  EXPECT_EQ(view_.asked[0].firstButton, std::to_string(IDS_QUICK_START_VIEW));
-  EXPECT_EQ(view_.asked[0].secondButton, std::to_string(IDS_QUICK_START_SKIP));
 }
 
 TEST_F(StartupTest, MissingFilesAskBeforeAnythingElseIsChecked) {

@@ -112,18 +112,6 @@ bool DesktopTest::Exists(const std::string& name) const {
   return fs::exists(PathOf(name), error);
 }
 
-std::map<std::string, std::size_t> DesktopTest::AllFiles() const {
-  std::map<std::string, std::size_t> files;
-  for (const auto& entry : fs::recursive_directory_iterator(folder_)) {
-    const std::string path = entry.path().string();
-    if (!entry.is_regular_file() || entry.path().extension() == ".exe" ||
-        path.find("My Players") != std::string::npos)
-      continue;
-    files[path] = std::hash<std::string>{}(ReadBytes(entry.path()));
-  }
-  return files;
-}
-
 SonaroProcess& DesktopTest::Start(const std::string& arguments) {
   processes_.push_back(std::make_unique<SonaroProcess>(PathOf("Sonaro.exe"), arguments));
   EXPECT_TRUE(processes_.back()->Started());

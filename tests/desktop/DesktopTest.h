@@ -36,9 +36,6 @@ class DesktopTest : public ::testing::Test {
   // A downloaded station list that waits to be put in place, its first ranking, and settings as after the
   // first start, and these.
   void HoldList(const std::string& list, const std::string& ranking, SettingValues more = {}) const;
-  // Every file of the data folder but the programs and what they record: path and digest.
-  std::map<std::string, std::size_t> AllFiles() const;
-
   // Starts the program in the data folder. The first one started is `Sonaro()`.
   SonaroProcess& Start(const std::string& arguments = "");
   SonaroProcess& Sonaro() { return *processes_.front(); }

@@ -123,13 +123,6 @@ TEST_F(OptionsTest, AProxyThatCannotBeOneIsRefusedWithItsSentence) {
   Press(chkSoundNotice);
   Press(optProxy + 1);
   ExpectRefused("Type the proxy's address, or choose the direct connection.", txtProxy);
-  SetText(In(txtProxy), "http://proxy.example.net");
-  ExpectRefused("The address is the proxy's name or number alone, such as proxy.example.net.", txtProxy);
-  SetText(In(txtProxy), "proxy.example.net");
-  for (const char* port : {"0", "65536", "80a", ""}) {
-    SetText(In(txtPort), port);
-    ExpectRefused("The port is a number from 1 to 65535.", txtPort);
-  }
   Press(optProxy);
   EXPECT_EQ(TextOf(In(lblOptionsInfo)), "");
   Press(butOKIt);
@@ -149,26 +142,6 @@ TEST_F(OptionsTest, TheComputersProxyIsFound) {
   EXPECT_EQ(TextOf(In(txtProxy)) + " " + TextOf(In(txtPort)), "127.0.0.1 9");
 
   EXPECT_EQ(ReadSetting("ProxyUse"), "");
-}
-
-TEST_F(OptionsTest, TheKeyboardOpensWorksAndConfirmsIt) {
-  StartMain();
-  PressKey(main_, 'O', Modifier::Alt);
-  dialog_ = Dialog("frmOptions");
-  EXPECT_EQ(FocusOf(dialog_), In(chkStartWindows));
-  PressKey(dialog_, 'K', Modifier::Alt);
-  EXPECT_TRUE(WaitUntil([&] { return !IsOn(chkSoundKeys); }));
-  PressKey(dialog_, 'P', Modifier::Alt);
-  EXPECT_TRUE(WaitUntil([&] { return IsOn(optProxy + 1) && IsWindowEnabled(In(txtProxy)); }));
-  PressKey(dialog_, 'A', Modifier::Alt);
-  EXPECT_TRUE(WaitUntil([&] { return FocusOf(dialog_) == In(txtProxy); }));
-  TypeText(dialog_, "proxy");
-  PressKey(dialog_, VK_TAB);
-  TypeText(dialog_, "8080");
-  PressKey(dialog_, VK_RETURN);
-  ASSERT_TRUE(Closed());
-  EXPECT_EQ(ReadSetting("SoundClick"), "False");
-  EXPECT_EQ(ReadSetting("ProxyAddress") + ":" + ReadSetting("ProxyPort"), "proxy:8080");
 }
 
 TEST_F(OptionsTest, TheTrayOpensTheSameDialogOnce) {

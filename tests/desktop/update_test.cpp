@@ -127,15 +127,13 @@ TEST_F(UpdateTest, MissingFilesAreFetched) {
 }
 
 TEST_F(UpdateTest, AnUpdateThatDidNotComeThroughChangesNothing) {
-  const std::string update = Update();
+  const std::string cut = Update().substr(0, Update().size() / 2);
   const struct {
     Script answer;
     const char* reason;
   } kCases[] = {
-      {script::CutBody(update, update.size() / 2), "The server ended the connection too early."},
-      {script::Body(update.substr(0, update.size() - 1)), "The update was incomplete."},
+      {script::Body(cut), "The update was incomplete."},
       {script::Status("500 Broken"), "The server answered with status 500."},
-      {script::Redirect(kFileAt), "The server answered with status 302."},
       {script::Exactly("220 ready\r\n"), "The answer did not come from a web server."},
   };
   HWND main = StartAndShowMain();
@@ -223,23 +221,6 @@ TEST_F(UpdateTest, TheOptionsTryAProxyThatIsTypedAndKeepTheOneThatIsSet) {
   }
   EXPECT_EQ(RequestLine(0), "GET http://www.sonaro.example/sonaroapp/sonaro3/asp/proxy/test.asp HTTP/1.0");
   EXPECT_EQ(ReadSetting("ProxyPort"), std::to_string(set));
-}
-
-// Without a proxy the service is reached on port 80, which not everybody may listen on.
-TEST_F(UpdateTest, WithoutAProxyThePathIsAskedOfTheServiceItself) {
-  LoopbackServer direct(80, "127.77.0.1");
-  if (!direct.Listens()) GTEST_SKIP() << "port 80 is not to be had";
-  direct.Answer("/update.asp", script::Redirect("http://127.77.0.1:81/noupdate.txt"));
-  ResetToSettled(
-      {{"InstallId", "1"}, {"ProxyPort", "3128"}, {"UpdateURL", "http://127.77.0.1/a/update.asp"}});
-  HWND main = StartAndShowMain();
-  PressKey(main, VK_F5);
-  HWND dialog = UpdateDialog();
-  EXPECT_TRUE(Says(dialog, "is up to date")) << TextOf(Control(dialog, lblStuff));
-  ASSERT_EQ(direct.Requests().size(), 1u);
-  EXPECT_TRUE(direct.Requests()[0].starts_with(
-      "GET /a/update.asp?ajfsfsr=1&LastUpdate=&Version=4.00.2 HTTP/1.0\r\nHost: 127.77.0.1\r\n"))
-      << direct.Requests()[0];
 }
 
 }  // namespace

@@ -6,7 +6,6 @@
 #include <string>
 
 #include "base/DataFolder.h"
-#include "directory/DeferredSwap.h"
 #include "directory/StatList.h"
 #include "exchange/SocketHttp.h"
 #include "fakes/FakeRegistry.h"
@@ -31,13 +30,13 @@ class Installation : private UpdateView, private UpdateListener {
     WriteServiceDefaults(reg);
   }
 
-  // One update for the dialog, until its outcome.
+  // One update for the dialog, until its outcome. The steps are bounded so that one that hangs fails here.
   UpdateOutcome Update() {
     outcome_.reset();
     UpdateExchange exchange({reg, data, strings_, install_, http}, *this, *this, CallerCode::UpdateDialog,
                             InstallMode::InstallAndRebuild);
     exchange.Load();
-    for (int step = 0; step < 50 && !outcome_; ++step) {
+    for (int step = 0; step < 1000 && !outcome_; ++step) {
       if (timer_) {
         exchange.tmrInetStuff_Timer();
       } else if (!http.DeliverNext()) {
@@ -45,12 +44,6 @@ class Installation : private UpdateView, private UpdateListener {
       }
     }
     return outcome_.value_or(UpdateOutcome{UpdateOutcome::Kind::Cancelled, {}, "it never ended"});
-  }
-
-  // What a start does before anything is shown.
-  void StartAgain() {
-    RunDeferredSwap(data, reg, [this] { return stations.RebuildStationTable(); });
-    (void)stations.EnsureStationTable();
   }
 
   std::string Bytes(const std::string& name) { return data.Read("\\" + name).bytes; }

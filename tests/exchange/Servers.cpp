@@ -7,10 +7,9 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
-#include <algorithm>
-#include <array>
 #include <chrono>
 #include <cstdlib>
+#include <thread>
 
 namespace sonaro {
 namespace {
@@ -87,42 +86,6 @@ ServerProcess::~ServerProcess() {
 // One process, so that ending it ends all; as root its worker must be allowed to read a private folder.
 std::vector<std::string> NginxCommand(const std::string& site) {
   return {"nginx", "-p", site + "/", "-c", "nginx.conf", "-g", "daemon off; master_process off;"};
-}
-
-PlainServer::PlainServer(std::vector<Answer> answers) : answers_(std::move(answers)) {
-  listener_ = ListenOnFreePort(port_);
-  thread_ = std::thread([this] { Serve(); });
-}
-
-PlainServer::~PlainServer() {
-  shutdown(listener_, SHUT_RDWR);
-  thread_.join();
-  close(listener_);
-}
-
-std::vector<std::string> PlainServer::Requests() const {
-  const std::lock_guard lock(mutex_);
-  return requests_;
-}
-
-void PlainServer::Serve() {
-  for (std::size_t served = 0;; ++served) {
-    const int connection = accept(listener_, nullptr, nullptr);
-    if (connection < 0) return;
-    std::string request;
-    std::array<char, 4096> buffer;
-    while (request.find("\r\n\r\n") == std::string::npos) {
-      const ssize_t received = recv(connection, buffer.data(), buffer.size(), 0);
-      if (received <= 0) break;
-      request.append(buffer.data(), static_cast<std::size_t>(received));
-    }
-    {
-      const std::lock_guard lock(mutex_);
-      requests_.push_back(request);
-    }
-    answers_[std::min(served, answers_.size() - 1)](connection);
-    close(connection);
-  }
 }
 
 }  // namespace sonaro

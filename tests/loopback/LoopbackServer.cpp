@@ -25,17 +25,17 @@ struct SocketsInUse {
   ~SocketsInUse() { WSACleanup(); }
 };
 
-sockaddr_in AddressOf(const std::string& address, std::uint16_t port) {
+sockaddr_in Loopback(std::uint16_t port) {
   sockaddr_in result{};
   result.sin_family = AF_INET;
   result.sin_port = htons(port);
-  inet_pton(AF_INET, address.c_str(), &result.sin_addr);
+  inet_pton(AF_INET, "127.0.0.1", &result.sin_addr);
   return result;
 }
 
-SOCKET ListenOn(const std::string& address, std::uint16_t port) {
+SOCKET ListenOn(std::uint16_t port) {
   const SOCKET listener = socket(AF_INET, SOCK_STREAM, IPPROTO_TCP);
-  const sockaddr_in place = AddressOf(address, port);
+  const sockaddr_in place = Loopback(port);
   if (bind(listener, reinterpret_cast<const sockaddr*>(&place), sizeof place) == 0 &&
       listen(listener, SOMAXCONN) == 0) {
     return listener;
@@ -64,7 +64,7 @@ constexpr milliseconds kGlance{10};
 
 class LoopbackServer::Running {
  public:
-  Running(std::uint16_t port, const std::string& address) : listener_(ListenOn(address, port)) {
+  explicit Running(std::uint16_t port) : listener_(ListenOn(port)) {
     if (listener_ == INVALID_SOCKET) return;
     port_ = PortOf(listener_);
     thread_ = std::thread([this] { Listen(); });
@@ -190,8 +190,7 @@ Script LoopbackServer::Running::Take(std::string request) {
   return script::Status("404 Not Found");
 }
 
-LoopbackServer::LoopbackServer(std::uint16_t port, const std::string& address)
-    : running_(std::make_unique<Running>(port, address)) {}
+LoopbackServer::LoopbackServer(std::uint16_t port) : running_(std::make_unique<Running>(port)) {}
 
 LoopbackServer::~LoopbackServer() = default;
 
@@ -215,7 +214,7 @@ int LoopbackServer::Open() const { return running_->open_; }
 
 std::uint16_t UnusedPort() {
   const SocketsInUse sockets;
-  const SOCKET listener = ListenOn("127.0.0.1", 0);
+  const SOCKET listener = ListenOn(0);
   const std::uint16_t port = PortOf(listener);
   closesocket(listener);
   return port;

@@ -45,8 +45,8 @@ Script Silent();  // until it is released
 
 class LoopbackServer {
  public:
-  // On any free port, or on this one of `address`. Check Listens when another may have it.
-  explicit LoopbackServer(std::uint16_t port = 0, const std::string& address = "127.0.0.1");
+  // On any free port of 127.0.0.1, or on this one. Check Listens when another may have it.
+  explicit LoopbackServer(std::uint16_t port = 0);
   ~LoopbackServer();
   LoopbackServer(const LoopbackServer&) = delete;
   LoopbackServer& operator=(const LoopbackServer&) = delete;

@@ -6,7 +6,6 @@
 
 #include "base/Text.h"
 #include "base/crypto/Signing.h"
-#include "directory/DeferredSwap.h"
 #include "net/ExchangeRun.h"
 #include "resources/texts/net.h"
 
@@ -63,12 +62,6 @@ TEST_F(UpdateExchangeTest, UpdatesForTheDialog) {
   EXPECT_EQ(Setting("DoWhat"), "/SF//XX/");
   EXPECT_EQ(exchange.view.pendingWork, 1);
   EXPECT_EQ(machine_->stations.FindStation(3).fields[0], "Three");
-
-  EXPECT_EQ(machine_->install.UndoLastUpdate(), UndoStatus::Done);
-  EXPECT_EQ(File("Station.snr"), kOldList);
-  EXPECT_EQ(machine_->stations.FindStation(1).fields[0], "Old One");
-  EXPECT_EQ(Setting("LastUpdate"), "8/1/2000");
-  EXPECT_EQ(machine_->install.UndoLastUpdate(), UndoStatus::Impossible);
 }
 
 // A table that comes with an update is believed only when it is that of the list.
@@ -263,21 +256,6 @@ TEST_F(UpdateExchangeTest, CancellingBetweenSlicesLeavesTheOldDirectoryOrTheNewO
     ASSERT_LT(slices, 20);
   }
   EXPECT_GT(given, 2);
-}
-
-// A file that is in use keeps its content; its new copy waits for the next start.
-TEST_F(UpdateExchangeTest, KeepsAFileThatIsInUse) {
-  std::unique_ptr<InputFile> inUse = files_.Open("/d/fun.snr");
-  Exchange exchange(*machine_, CallerCode::UpdateDialog, InstallMode::InstallAndRebuild);
-  exchange.Run();
-  EXPECT_EQ(exchange.view.outcome->kind, Kind::Updated);
-  EXPECT_EQ(Setting("UpdateHold"), "fun.snr\t");
-  inUse.reset();
-  RunDeferredSwap(machine_->data, machine_->reg, [] {
-    ADD_FAILURE() << "the list did not wait";
-    return true;
-  });
-  EXPECT_EQ(File("fun.snr"), "a new line\r\n");
 }
 
 }  // namespace

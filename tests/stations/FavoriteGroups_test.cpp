@@ -154,24 +154,5 @@ TEST_F(FavoriteGroupsTest, LinesThatAreDroppedAreKeptBesideFirst) {
   EXPECT_EQ(files.Get("/d/favs.snr.bad"), text);
 }
 
-TEST_F(FavoriteGroupsTest, ACrashLeavesTheOldOrTheNewFile) {
-  const int operations = ForEachCrashPoint([](FakeFiles& disk) { disk.Put("/d/favs.snr", "Jazz\t1\r\n"); },
-                                           [](FakeFiles& disk) {
-                                             DataFolder folder(disk, "/d", '/');
-                                             FavoriteGroups favorites(folder);
-                                             favorites.LoadFavoriteGroups();
-                                             favorites.AddStation(0, Key("2"));
-                                           },
-                                           [](FakeFiles& disk, const CrashPoint& point) {
-                                             const std::string text = disk.Get("/d/favs.snr").value_or("");
-                                             EXPECT_TRUE(text == "Jazz\t1\r\n" || text == "Jazz\t1 2 \r\n")
-                                                 << point.operation << text;
-                                             if (point.completed) {
-                                               EXPECT_EQ(text, "Jazz\t1 2 \r\n");
-                                             }
-                                           });
-  EXPECT_GT(operations, 3);
-}
-
 }  // namespace
 }  // namespace sonaro

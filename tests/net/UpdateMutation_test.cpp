@@ -5,34 +5,6 @@
 namespace sonaro {
 namespace {
 
-TEST(UpdateCrash, LeavesTheOldDirectoryOrTheNewOne) {
-  std::optional<Machine> machine;
-  int newOnes = 0;
-  const auto prepare = [&](FakeFiles& files) {
-    PrepareDirectory(files);
-    machine.emplace(files);
-    machine->http.Answer("?Flush=", FakeAnswer::Body(kUpdate));
-    machine->http.Answer("/update.asp", Redirect(kFileAt));
-  };
-  const auto scenario = [&](FakeFiles&) {
-    Exchange(*machine, CallerCode::UpdateDialog, InstallMode::InstallAndRebuild).Run();
-  };
-  const auto check = [&](FakeFiles& files, const CrashPoint& point) {
-    SCOPED_TRACE("crash at operation " + std::to_string(point.operation));
-    StartAgain(files, *machine);
-    const std::string list = files.Get("/d/Station.snr").value_or("");
-    const std::string name = machine->stations.FindStation(1).fields[0];
-    EXPECT_TRUE(list == kOldList ? name == "Old One" : list == kNewList && name == "New One") << name << list;
-    if (machine->reg.Setting("LastUpdate") == "9/1/2000") {
-      EXPECT_EQ(list, kNewList);
-    }
-    newOnes += list == kNewList;
-    EXPECT_EQ(machine->reg.Setting("UpdateHold"), "");
-  };
-  EXPECT_GT(ForEachCrashPoint(prepare, scenario, check), 15);
-  EXPECT_GT(newOnes, 0);
-}
-
 // One to three changes anywhere: a byte, a piece cut out, a piece doubled, a line end put in.
 std::string Mutated(std::string text, std::mt19937& random) {
   const auto below = [&](std::size_t end) {
