@@ -36,7 +36,7 @@ bool BrowseTree::Show(BrowseMode mode) {
 
 // One file lists the categories, and each has a file of its own entries. A missing one leaves its category
 // empty.
-void BrowseTree::FillBrowseTree(BrowseMode mode) {
+void BrowseTree::FillBrowseTree(BrowseMode mode, Counts counts) {
   mode_ = mode;
   nodes_.clear();
   roots_.clear();
@@ -49,7 +49,7 @@ void BrowseTree::FillBrowseTree(BrowseMode mode) {
     const std::string tag = std::string(fields[0]) + std::string(fields[2]);
     const int category = AddNode(BrowseNode::kRoot, "M" + std::string(fields[0]), fields[1], tag);
     ExpandCategory(tag, category, fields[3]);
-    CountStations(category);
+    if (counts == Counts::Wanted) CountStations(category);
   }
   AddNode(BrowseNode::kRoot, kYourStationsKey, ownStations_, kYourStationsTag);
   SortChildren();

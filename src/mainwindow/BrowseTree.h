@@ -47,8 +47,10 @@ class BrowseTree {
 
   // Rebuilds the tree when `mode` is not the one it was built for; true when it did.
   bool Show(BrowseMode mode);
-  // Clears the tree and rebuilds it for the mode.
-  void FillBrowseTree(BrowseMode mode);
+  // Clears the tree and rebuilds it for the mode. Counting the stations is the greater part of the work; a
+  // tree that nobody looks at does without.
+  enum class Counts { Wanted, Left };
+  void FillBrowseTree(BrowseMode mode, Counts counts = Counts::Wanted);
 
   BrowseMode Mode() const { return mode_; }
   // Category nodes in the order of the file, then "Your Stations".

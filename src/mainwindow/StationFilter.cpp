@@ -79,7 +79,8 @@ std::string StationFilter::ValueOf(const BrowseTree& tree, int node) {
 
 BrowseTree StationFilter::ReadTree(Part part) const {
   BrowseTree tree(data_, sortKey_);
-  tree.FillBrowseTree(part == Part::Place ? BrowseMode::ByLocation : BrowseMode::ByCategory);
+  tree.FillBrowseTree(part == Part::Place ? BrowseMode::ByLocation : BrowseMode::ByCategory,
+                      BrowseTree::Counts::Left);
   return tree;
 }
 

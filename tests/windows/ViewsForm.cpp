@@ -57,6 +57,7 @@ std::span<const EventRow> ViewsForm::Events() const {
       {kList, ItemActivated, &ViewsForm::List_ItemActivate},
       {kList, ItemSelected, &ViewsForm::List_ItemSelect},
       {kList, ContextMenu, &ViewsForm::List_ContextMenu},
+      {kTree, ContextMenu, &ViewsForm::List_ContextMenu},
       {kTree, NodeClick, &ViewsForm::Tree_NodeClick},
   };
   return kRows;

@@ -249,6 +249,12 @@ TEST_F(ViewsTest, ContextMenusKnowTheirRow) {
   ClientToScreen(list, &at);
   SendMessageW(list, WM_CONTEXTMENU, 0, MAKELPARAM(at.x, at.y));
   EXPECT_EQ(Events(), (Log{"ContextMenu 4", "ContextMenu 0"}));
+  RECT node{};
+  TreeView_GetItemRect(tree, TreeView_GetNextSibling(tree, TreeView_GetRoot(tree)), &node, TRUE);
+  at = {node.left + 2, (node.top + node.bottom) / 2};
+  ClientToScreen(tree, &at);
+  SendMessageW(tree, WM_CONTEXTMENU, reinterpret_cast<WPARAM>(tree), MAKELPARAM(at.x, at.y));
+  EXPECT_EQ(Events(), Log{"ContextMenu 1"}) << "of the tree: the number of the node";
 }
 
 TEST_F(ViewsTest, TheScrollBarAppearsWithNeed) {
