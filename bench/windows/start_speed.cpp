@@ -149,9 +149,14 @@ int MeasureIdle(std::vector<Contender>& contenders, int seconds) {
     if (!process.WaitForWindow(kMainClass, "", kLimit)) return 1;
     Sleep(10000);  // what the start put off is done by then
     const HostProcess host(contender.program, contender.arguments);
-    const double wakeups = host.Wakeups(), processor = host.Processor();
-    Sleep(static_cast<DWORD>(seconds) * 1000);
-    std::printf("%4.0f wake-ups and %.1f ms of processor in %d s, hidden   %s\n", host.Wakeups() - wakeups,
+    const double processor = host.Processor();
+    int awake = 0;  // seconds with anything to do; one wake-up is several sleeps
+    for (int second = 0; second < seconds; ++second) {
+      const double before = host.Wakeups();
+      Sleep(1000);
+      if (host.Wakeups() > before) ++awake;
+    }
+    std::printf("%4d wake-ups and %.1f ms of processor in %d s, hidden   %s\n", awake,
                 host.Processor() - processor, seconds, contender.program.c_str());
   }
   return 0;

@@ -61,7 +61,7 @@ Application::Application(const Platform& platform, const Strings& strings, const
       shape_(data_),
       context_{strings_, faceplate_, shape_},
       messages_(context_, help_),
-      tray_(context_, favorites_, help_, *this, *this),
+      tray_(context_, TrayMenu(favorites_, recent_, source_, strings_), help_, *this, *this),
       service_(std::make_unique<ApplicationService>(ApplicationService::Dependencies{
           platform_, context_, data_, reg_, strings_, state_, stations_, favorites_, help_, *this})) {
   state_.commandLine = std::move(commandLine);

@@ -83,6 +83,7 @@ class Application final : private StartupView,
   void OpenWhenFree(ProgramWindow window) override;
   void BringForward(std::string_view view) override;
   void ShowGroup(const std::string& name) override;
+  void PlayStation(const StationKey& station) override;
   void AddStationToGroup(const std::string& group, const StationKey& station) override;
   void KeepStation(Form& owner, const StationKey& station) override;
   void HideToTray() override;

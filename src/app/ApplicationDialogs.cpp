@@ -91,6 +91,10 @@ void Application::ShowGroup(const std::string& name) {
   main_->Groups().ShowGroupNamed(name);
 }
 
+void Application::PlayStation(const StationKey& station) {
+  if (IsFree()) player_.LaunchStation(station);
+}
+
 // Only windows ask for this that are opened after the main window.
 void Application::AddStationToGroup(const std::string& group, const StationKey& station) {
   main_->Groups().AddStationToGroup(group, station);

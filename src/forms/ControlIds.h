@@ -268,7 +268,8 @@ inline constexpr int mnuTrayUpdate = 3007;
 inline constexpr int mnuTrayOptions = 3008;
 inline constexpr int mnuTrayHelp = 3009;
 inline constexpr int mnuTrayExit = 3010;
-inline constexpr int mnuTrayGroup = 3021;  // 10 numbers
+inline constexpr int mnuTrayGroup = 3021;    // 10 numbers
+inline constexpr int mnuTrayStation = 3700;  // 200 numbers
 inline constexpr int lblTrayText = 3041;
 inline constexpr int tmrStartUp = 3042;
 inline constexpr int tmrMinute = 3043;
@@ -302,6 +303,11 @@ inline constexpr int mnuFiltered = 3124;  // a key only: from the words to the r
 inline constexpr int mnuFilterByNode = 3125;
 inline constexpr int mnuSomethingElse = 3126;
 inline constexpr int mnuShowValues = 3127;  // of both menus that sort
+// Keys only: to the next tab and back, to the next column and back.
+inline constexpr int mnuNextTab = 3141;
+inline constexpr int mnuPreviousTab = 3142;
+inline constexpr int mnuNextColumn = 3143;
+inline constexpr int mnuPreviousColumn = 3144;
 // Rankings.
 inline constexpr int mnuActionNewStations = 3131;
 inline constexpr int mnuActionMostPoular = 3132;

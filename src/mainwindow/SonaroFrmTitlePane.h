@@ -20,6 +20,12 @@ class TitlePane final : public EventTarget {
   void butTabs_Click(int tab);
   void mnuView_Click(int view);
   void mnuViewPersonalPage_Click() { context_.view.ShowView(View::PersonalPage); }
+  void MoveTab(int step);
+  void mnuNextTab_Click() { MoveTab(1); }
+  void mnuPreviousTab_Click() { MoveTab(-1); }
+  void MoveColumn(int step);
+  void mnuNextColumn_Click() { MoveColumn(1); }
+  void mnuPreviousColumn_Click() { MoveColumn(-1); }
   void butMenu_Click();
   void butHelp_Click() { OpenHelp("index.html"); }
   void mnuQuickStart_Click() { OpenHelp("9070.html"); }

@@ -94,6 +94,7 @@ class ProgramCommands : public TrayMessages {
   virtual void OpenWhenFree(ProgramWindow window) = 0;
   virtual void BringForward(std::string_view view) = 0;
   virtual void ShowGroup(const std::string& name) = 0;
+  virtual void PlayStation(const StationKey& station) = 0;
   // For windows that have no groups of their own.
   virtual void AddStationToGroup(const std::string& group, const StationKey& station) = 0;
   // Adds the station to the group that was used last, or asks for one before `owner`.

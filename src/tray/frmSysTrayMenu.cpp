@@ -9,7 +9,6 @@
 #include "forms/WideText.h"
 #include "resources/icon.h"
 #include "resources/texts/tray.h"
-#include "stations/FavoriteGroups.h"
 
 namespace sonaro {
 
@@ -20,7 +19,6 @@ constexpr UINT kTrayMessage = WM_APP + 1;
 constexpr UINT kIconId = 1;
 constexpr unsigned kStartUpDelay = 500;  // milliseconds: the main window has been painted
 constexpr unsigned kMinute = 60000;
-constexpr std::size_t kMaxGroups = 10;
 constexpr unsigned kOncePainted = 1;   // milliseconds: a timer's message comes after those of painting
 constexpr unsigned kIconPause = 2000;  // milliseconds until the icon is offered again
 constexpr int kMaxIconTries = 150;     // five minutes
@@ -60,7 +58,8 @@ std::span<const EventRow> frmSysTrayMenu::Events() const {
       {mnuTrayOptions, Click, &frmSysTrayMenu::mnuTrayOptions_Click},
       {mnuTrayHelp, Click, &frmSysTrayMenu::mnuTrayHelp_Click},
       {mnuTrayExit, Click, &frmSysTrayMenu::mnuTrayExit_Click},
-      {mnuTrayGroup, Click, &frmSysTrayMenu::mnuTrayGroup_Click, static_cast<int>(kMaxGroups)},
+      {mnuTrayGroup, Click, &frmSysTrayMenu::mnuTrayGroup_Click, TrayMenu::kMaxGroups},
+      {mnuTrayStation, Click, &frmSysTrayMenu::mnuTrayStation_Click, TrayMenu::kMaxStations},
   };
   return kRows;
 }
@@ -74,9 +73,9 @@ std::span<const TimerRow> frmSysTrayMenu::Timers() const {
   return kRows;
 }
 
-frmSysTrayMenu::frmSysTrayMenu(FormContext& context, const FavoriteGroups& groups, HelpPages& help,
+frmSysTrayMenu::frmSysTrayMenu(FormContext& context, const TrayMenu& menu, HelpPages& help,
                                ProgramCommands& program, TrayListener& listener)
-    : Form(context, Design()), groups_(groups), help_(help), program_(program), listener_(listener) {}
+    : Form(context, Design()), menu_(menu), help_(help), program_(program), listener_(listener) {}
 
 frmSysTrayMenu::~frmSysTrayMenu() {
   TakeIconAway();
@@ -181,52 +180,23 @@ void frmSysTrayMenu::TrayEvent(UINT event, POINT at) {
   }
 }
 
-std::vector<std::string> frmSysTrayMenu::GroupNames() const {
-  std::vector<std::string> names;
-  for (std::size_t group = 0; group < groups_.Count(); ++group) names.emplace_back(groups_.Name(group));
-  return names;
-}
-
 void frmSysTrayMenu::ShowMenu(POINT at) {
-  // Kept while the menu is open: a change of the groups meanwhile must not give its entries another meaning.
-  shownGroups_ = GroupNames();
-  std::vector<MenuEntry> groups;
-  for (std::size_t i = 0; i < std::min(shownGroups_.size(), kMaxGroups); ++i) {
-    groups.push_back({.command = mnuTrayGroup + static_cast<int>(i), .text = MenuText(shownGroups_[i])});
-  }
-  if (groups.empty())
-    groups.push_back({.command = -1, .text = LoadText(IDS_TRAY_NO_GROUPS), .enabled = false});
-  std::vector<MenuEntry> menu;
-  const auto add = [&](int command, int text) {
-    menu.push_back({.command = command, .text = LoadText(text)});
-  };
-  add(mnuTrayOpen, IDS_TRAY_OPEN);
-  add(mnuTrayYourSonaro, IDS_TRAY_YOUR_SONARO);
-  add(mnuTrayBrowse, IDS_TRAY_BROWSE);
-  add(mnuTraySearch, IDS_TRAY_SEARCH);
-  menu.push_back({.command = 0, .text = LoadText(IDS_TRAY_GROUPS), .children = std::move(groups)});
-  menu.push_back({});
-  add(mnuTrayScan, IDS_TRAY_SCAN);
-  add(mnuTraySchedule, IDS_TRAY_SCHEDULE);
-  add(mnuTrayUpdate, IDS_TRAY_UPDATE);
-  add(mnuTrayOptions, IDS_TRAY_OPTIONS);
-  add(mnuTrayHelp, IDS_TRAY_HELP);
-  menu.push_back({});
-  add(mnuTrayExit, IDS_TRAY_EXIT);
+  const MenuEntries menu = menu_.Make();
   // Without this the menu would stay open when the user clicks elsewhere.
   SetForegroundWindow(Window());
   PopUpMenu(menu, at);
-  // The other half of the workaround: without a message behind it the menu would vanish at once the next
-  // time.
   PostMessageW(Window(), WM_NULL, 0, 0);
-  shownGroups_.clear();
 }
 
-// The group that the entry named when the menu was opened; without a menu the one in that place.
+// Without a menu that was opened, those of now.
 void frmSysTrayMenu::mnuTrayGroup_Click(int group) {
-  const std::vector<std::string> names = shownGroups_.empty() ? GroupNames() : shownGroups_;
-  const auto index = static_cast<std::size_t>(group);
-  if (index < names.size()) program_.ShowGroup(names[index]);
+  if (menu_.GroupAt(group).empty()) (void)menu_.Make();
+  const std::string name = menu_.GroupAt(group);
+  if (!name.empty()) program_.ShowGroup(name);
+}
+
+void frmSysTrayMenu::mnuTrayStation_Click(int station) {
+  if (const StationKey key = menu_.StationAt(station)) program_.PlayStation(key);
 }
 
 void frmSysTrayMenu::tmrStartUp_Timer() {

@@ -11,10 +11,9 @@
 #include "forms/controls/Controls.h"
 #include "settings/HelpPages.h"
 #include "stations/Commands.h"
+#include "tray/TrayMenu.h"
 
 namespace sonaro {
-
-class FavoriteGroups;
 
 // What comes in through the hidden window.
 class TrayListener {
@@ -32,8 +31,8 @@ class frmSysTrayMenu final : public Form {
   static constexpr UINT kSecondStart = 1793;
   static constexpr UINT kScheduleDue = 1795;
 
-  frmSysTrayMenu(FormContext& context, const FavoriteGroups& groups, HelpPages& help,
-                 ProgramCommands& program, TrayListener& listener);
+  frmSysTrayMenu(FormContext& context, const TrayMenu& menu, HelpPages& help, ProgramCommands& program,
+                 TrayListener& listener);
   ~frmSysTrayMenu() override;
 
   // Creates the hidden window before anything else of the program is there: until then the commands may have
@@ -57,7 +56,6 @@ class frmSysTrayMenu final : public Form {
   void TakeIconAway();
   void TrayEvent(UINT event, POINT at);
   void ShowMenu(POINT at);
-  std::vector<std::string> GroupNames() const;
   void tmrStartUp_Timer();
   void tmrMinute_Timer();
   void tmrIcon_Timer();
@@ -72,15 +70,15 @@ class frmSysTrayMenu final : public Form {
   void mnuTrayHelp_Click() { help_.OpenHelpPage("index.html"); }
   void mnuTrayExit_Click() { program_.Exit(); }
   void mnuTrayGroup_Click(int group);
+  void mnuTrayStation_Click(int station);
 
-  const FavoriteGroups& groups_;
+  TrayMenu menu_;
   HelpPages& help_;
   ProgramCommands& program_;
   TrayListener& listener_;
   UINT taskbarCreated_ = 0;
   bool hasIcon_ = false;
   int iconTries_ = 0;
-  std::vector<std::string> shownGroups_;  // while the menu is open
   HICON icon_ = nullptr;
 
   Label lblTrayText_{*this, lblTrayText};

@@ -27,6 +27,7 @@ class FakeCommands final : public ScheduleCommands, public UpdateCommands, publi
   void OpenWhenFree(ProgramWindow) override {}
   void BringForward(std::string_view) override {}
   void ShowGroup(const std::string&) override {}
+  void PlayStation(const StationKey&) override {}
   void AddStationToGroup(const std::string&, const StationKey&) override {}
   void KeepStation(Form&, const StationKey&) override {}
   void HideToTray() override {}
