@@ -29,8 +29,7 @@ void TrayMenu::AddStation(MenuEntries& menu, const StationKey& station, int text
   if (name.empty() || stations_.size() >= static_cast<std::size_t>(kMaxStations)) return;
   const int command = mnuTrayStation + static_cast<int>(stations_.size());
   const std::string shown = MenuText(name);
-  menu.push_back(
-      {.command = command, .text = text == 0 ? shown : FormatText(strings_.Load(text), {shown})});
+  menu.push_back({.command = command, .text = text == 0 ? shown : FormatText(strings_.Load(text), {shown})});
   stations_.push_back(station);
 }
 

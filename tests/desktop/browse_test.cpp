@@ -141,6 +141,22 @@ TEST_F(WholeGuideTest, JazzStationsOfPolandInThreeClicks) {
   EXPECT_TRUE(WaitUntil([&] { return !IsShown(Control(main, cmbListFilter)); }));
 }
 
+TEST_F(BrowseTest, CtrlTabWalksThroughTheTabsAndF6ThroughTheColumns) {
+  HWND main = StartAndShowMain();
+  const auto focused = [&](int id) { return WaitUntil([&] { return FocusOf(main) == Control(main, id); }); };
+  ASSERT_TRUE(focused(lstFavs));
+  for (const int id : {butGoMediaLinkOneIt, butNewStations + 1, lstFavs}) {
+    PressKey(main, VK_F6);
+    EXPECT_TRUE(focused(id)) << id;
+  }
+  PressKey(main, VK_F6, Modifier::Shift);
+  EXPECT_TRUE(focused(butNewStations + 1)) << "the ranking on show";
+  for (const int tab : {2, 3}) {
+    PressKey(main, VK_TAB, Modifier::Control);
+    EXPECT_TRUE(WaitUntil([&] { return IsChecked(Control(main, butTabs + tab)); })) << tab;
+  }
+}
+
 TEST_F(BrowseTest, SomethingElsePlaysAnotherStationOfTheList) {
   HWND main = MainWithStations();
   Command(main, mnuSomethingElse);

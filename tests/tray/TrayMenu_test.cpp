@@ -31,7 +31,8 @@ TEST(TrayMenuTest, StationsAreWhatTheyWereWhenTheMenuWasMade) {
   for (int id = 1; id <= 15; ++id) world.recent.AddRecent({StationKey::Kind::Directory, id});
   ASSERT_EQ(groups.Add("Empty"), FavoriteChange::Saved);
   ASSERT_EQ(groups.Add("Many"), FavoriteChange::Saved);
-  for (const int id : {20, 999, 21}) ASSERT_EQ(groups.AddStation(1, {StationKey::Kind::Directory, id}), FavoriteChange::Saved);
+  for (const int id : {20, 999, 21})
+    ASSERT_EQ(groups.AddStation(1, {StationKey::Kind::Directory, id}), FavoriteChange::Saved);
   made = menu.Make();
   EXPECT_EQ(Named(made, std::to_string(IDS_TRAY_RECENT))->children.size(), TrayMenu::kMaxRecent);
   EXPECT_EQ(Named(made, "Empty")->command, mnuTrayGroup);
