@@ -79,7 +79,7 @@ const FormDesign& frmOptions::Design() {
       ButtonRow(butPlayerIt, IDS_OPTIONS_PLAYER, {kHeadings, 334, 124, 28}),
       {.id = lblPlaying,
        .kind = ControlKind::StateLabel,
-       .at = {kBeside, 307, 416, 72},
+       .at = {kBeside, 309, 416, 70},
        .flags = kWrap | kNoPrefix},
 
       Line(382),

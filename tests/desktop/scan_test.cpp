@@ -65,7 +65,6 @@ TEST_F(ScanTest, AScanPlaysItsQueueOneAfterAnother) {
   EXPECT_TRUE(WaitUntil([&] { return TextOf(Control(scan, butStartIt)) == "Continue Scan"; }));
   Click(Control(scan, butFullIt));
   EXPECT_TRUE(WaitUntil([&] { return !IsShown(queue); }));
-  SaveShot("compact");
 
   Click(Control(scan, butKeepIt));
   HWND pick = Dialog("frmPickGroup");
@@ -75,6 +74,7 @@ TEST_F(ScanTest, AScanPlaysItsQueueOneAfterAnother) {
       WaitUntil([&] { return TextOf(Control(main, lblStatus)) == "Added " + names[1] + " to Heard."; }));
   EXPECT_TRUE(WaitUntil([&] { return TextOf(Control(scan, butKeepIt)) == "Kept"; }));
   EXPECT_FALSE(IsWindowEnabled(Control(scan, butKeepIt)));
+  SaveShot("compact");
   Click(Control(scan, butFullIt));
   ASSERT_TRUE(WaitUntil([&] { return IsShown(queue); }));
   EXPECT_EQ(GetWindow(scan, GW_OWNER), main) << "stays above it";
