@@ -106,7 +106,11 @@ void BrowsePane::treeBrowse_NodeClick(HTREEITEM item) {
   context_.view.ShowEverything();
 }
 
+// The menu is about the node under the pointer, which need not be the selected one. What it means is kept as
+// the filter knows it: the tree may be another one when the entry is chosen.
 void BrowsePane::treeBrowse_ContextMenu(int node, POINT at) {
+  menuPart_ =
+      tree_.Mode() == BrowseMode::ByLocation ? StationFilter::Part::Place : StationFilter::Part::Genre;
   menuValue_ = node >= 0 ? StationFilter::ValueOf(tree_, node) : std::string();
   if (menuValue_.empty()) return form_.PopUpMenu(context_.models.actions.PersonalMenu(), at);
   const std::string name = MenuText(StationFilter::ShortText(menuValue_));
@@ -116,9 +120,7 @@ void BrowsePane::treeBrowse_ContextMenu(int node, POINT at) {
 }
 
 void BrowsePane::mnuFilterByNode_Click() {
-  const bool places = tree_.Mode() == BrowseMode::ByLocation;
-  if (!menuValue_.empty())
-    filter_.Set(places ? StationFilter::Part::Place : StationFilter::Part::Genre, menuValue_);
+  if (!menuValue_.empty()) filter_.Set(menuPart_, menuValue_);
 }
 
 }  // namespace sonaro

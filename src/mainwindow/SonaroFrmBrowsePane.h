@@ -47,7 +47,9 @@ class BrowsePane final : public EventTarget {
   TreeHandle treeBrowse_{form_, treeBrowse};
   BrowseMode shown_ = BrowseMode::NotBuilt;
   HTREEITEM personal_ = nullptr;  // "Your Stations"
-  std::string menuValue_;         // of the node that the open menu is about, as the filter knows it
+  // What the open menu is about, as the filter knows it.
+  StationFilter::Part menuPart_ = StationFilter::Part::Place;
+  std::string menuValue_;
 };
 
 }  // namespace sonaro

@@ -27,7 +27,7 @@ std::span<const EventRow> FilterPane::Events() const {
 void FilterPane::Show(bool shown) {
   form_.ShowPane(kFilterPane, shown);
   if (!shown) return;
-  if (values_[0].empty()) FillBoxes();
+  if (values_[0].empty()) FillBoxes();  // files are read for those only who look for them
   for (int box = 0; box < kBoxes; ++box) ShowBox(box);
   butOnlyAnswering_.SetActive(!filter_.Value(FilterPart::Answers).empty());
 }
@@ -82,6 +82,7 @@ void FilterPane::Set(FilterPart part, std::string_view value) {
   context_.view.ShowEverything();
 }
 
+// Comes with every step of the arrow keys through a box, too: the box stays, so that they can go on.
 void FilterPane::cmbListFilter_Change(int box) {
   const std::vector<std::string>& values = values_[static_cast<std::size_t>(box)];
   const auto row = static_cast<std::size_t>(cmbListFilter_[box].SelectedItem());

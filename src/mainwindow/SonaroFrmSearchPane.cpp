@@ -38,6 +38,7 @@ void SearchPane::ShowHistory() {
   ShowPinned();
 }
 
+// The key is lit for the words that stand in the box by now, not for the search that was made last.
 void SearchPane::ShowPinned() const {
   const std::string typed = txtQuickSearch_.Text();
   butPinSearch_.Enable(!TrimBlanks(typed).empty());

@@ -39,6 +39,7 @@ bool CanBeChosen(StationFilter::Part part, const BrowseTree& tree, const BrowseN
 
 StationFilter::StationFilter(DataFolder& data, CReg& settings, StatList& stations, SortKeyOf sortKey)
     : data_(data), settings_(settings), stations_(stations), sortKey_(std::move(sortKey)) {
+  // A text of fewer values leaves the other parts off.
   const std::string kept = settings_.Get(setting::kListFilter);
   std::size_t part = 0;
   for (const std::string_view value : SplitAtMost(kept, '\t', kParts)) values_[part++] = value;
@@ -48,7 +49,7 @@ void StationFilter::Set(Part part, std::string_view value) {
   const auto place = static_cast<std::size_t>(part);
   if (values_[place] == value) return;
   values_[place] = value;
-  if (place < ids_.size()) ids_[place].reset();
+  if (place < ids_.size()) ids_[place].reset();  // read again by the list that is narrowed next
   std::string kept;
   for (const std::string& each : values_) kept += (&each == values_.data() ? "" : "\t") + each;
   settings_.Set(setting::kListFilter, IsOn() ? kept : "");
@@ -91,6 +92,7 @@ std::vector<StationFilter::Choice> StationFilter::Choices(Part placeOrGenre) con
     if (!CanBeChosen(placeOrGenre, tree, tree.Node(node))) continue;
     std::string value = ValueOf(tree, node);
     if (value.empty()) continue;
+    // Sub-genres of two genres may have one name. Both are offered; the tip of the box tells their ways.
     Choice choice{std::string(ShortText(value)), std::move(value)};
     byText.emplace(sortKey_(choice.text), std::move(choice));
   }
@@ -102,6 +104,8 @@ std::vector<StationFilter::Choice> StationFilter::Choices(Part placeOrGenre) con
 const std::vector<std::int32_t>& StationFilter::Ids(Part placeOrGenre) const {
   auto& ids = ids_[static_cast<std::size_t>(placeOrGenre)];
   if (ids) return *ids;
+  // A place that the guide has no longer leaves this empty, and the list with it: the filter says what it
+  // does.
   ids.emplace();
   const BrowseTree tree = ReadTree(placeOrGenre);
   for (int node = 0; node < static_cast<int>(tree.NodeCount()); ++node) {
@@ -113,6 +117,7 @@ const std::vector<std::int32_t>& StationFilter::Ids(Part placeOrGenre) const {
 
 void StationFilter::GuideChanged() { ids_ = {}; }
 
+// The parts that cost nothing come first, and leave the fewer stations to be read.
 void StationFilter::Narrow(std::span<const StationKey> keys, std::vector<std::uint32_t>& rows) const {
   for (const Part part : {Part::Place, Part::Genre}) {
     if (Value(part).empty()) continue;
@@ -134,6 +139,7 @@ void StationFilter::Narrow(std::span<const StationKey> keys, std::vector<std::ui
     if (answers && NumberValue(station[StationField::Reliability]) < kAnswered) return;
     passed.push_back(station.StationId);
   });
+  // The directory leaves out what it does not know, so that what passed is matched by key, not by place.
   std::sort(passed.begin(), passed.end());
   std::erase_if(rows, [&](std::uint32_t row) {
     return keys[row].IsOfGuide() && !std::binary_search(passed.begin(), passed.end(), keys[row].number);
