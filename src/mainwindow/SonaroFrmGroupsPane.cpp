@@ -61,6 +61,10 @@ std::span<const EventRow> GroupsPane::Events() const {
 void GroupsPane::Show() {
   const std::size_t count = groups_.Count();
   const std::size_t shown = subject_.GroupOnShow().value_or(count);
+  Bar bar{{}, shown};
+  for (std::size_t group = 0; group < count; ++group) bar.names.push_back(NameOf(group));
+  if (bar_ == bar) return;  // ten buttons with their tips are felt with every letter that is typed
+  bar_ = std::move(bar);
   for (std::size_t slot = 0; slot < FavoriteGroups::kSlots; ++slot) {
     const GroupButton button = butFavs_[static_cast<int>(slot)];
     const bool used = slot < count;
@@ -89,8 +93,11 @@ void GroupsPane::ShowOutsideTheBar() {
 
 // The button that something dragged would fall on is lit beside the one of the group on show.
 void GroupsPane::ShowDropOn(int slot) {
+  bar_.reset();
   Show();
-  if (slot >= 0) butFavs_[slot].SetActive(true);
+  if (slot < 0) return;
+  butFavs_[slot].SetActive(true);
+  bar_.reset();  // it shows something else now
 }
 
 std::string GroupsPane::NameOf(std::size_t group) const {

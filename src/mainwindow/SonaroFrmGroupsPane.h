@@ -2,6 +2,10 @@
 // the group that it was opened for, else the one on show. Part of SonaroFrm.
 #pragma once
 
+#include <optional>
+#include <string>
+#include <vector>
+
 #include "mainwindow/FavoriteCommands.h"
 #include "mainwindow/MainPane.h"
 #include "mainwindow/PlaylistDialogs.h"
@@ -68,6 +72,13 @@ class GroupsPane final : public EventTarget, private FavoritePrompts {
 
   const MainContext& context_;
   Form& form_;
+  // What the group bar shows.
+  struct Bar {
+    std::vector<std::string> names;
+    std::size_t onShow = 0;
+    bool operator==(const Bar&) const = default;
+  };
+
   const FavoriteGroups& groups_;
   const CommandSubject& subject_;
   StatusPane& status_;
@@ -76,6 +87,7 @@ class GroupsPane final : public EventTarget, private FavoritePrompts {
   Button butRemoveGroup_{form_, butRemoveGroup};
   PlaylistDialogs playlists_;
   FavoriteCommands commands_;
+  std::optional<Bar> bar_;
   std::string lastUsed_;  // the name of the group that a station came into last
 };
 

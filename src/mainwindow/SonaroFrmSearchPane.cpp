@@ -33,8 +33,12 @@ void SearchPane::Load() {
 }
 
 void SearchPane::ShowHistory() {
-  txtQuickSearch_.ClearItems();
-  for (const std::string& entry : search_.Searches()) txtQuickSearch_.AddItem(entry);
+  std::vector<std::string> searches = search_.Searches();
+  if (searches != shownSearches_) {
+    txtQuickSearch_.ClearItems();
+    for (const std::string& entry : searches) txtQuickSearch_.AddItem(entry);
+    shownSearches_ = std::move(searches);
+  }
   ShowPinned();
 }
 

@@ -37,6 +37,7 @@ class SearchPane final : public EventTarget {
   Edit lblWebAddress_{form_, lblWebAddress};
   Label lblListing_{form_, lblListing};
   Label lblCount_{form_, lblCount};
+  std::vector<std::string> shownSearches_;
   std::string taken_;  // the words that the list shows something of
 };
 
