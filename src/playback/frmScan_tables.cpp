@@ -122,8 +122,8 @@ const FormDesign& frmScan::Design() {
       {lblTitle, {40, 4, 156, 26}},           {panScanCompact, {12, 44, 416, 52}},
       {lblCurrentScaning, {22, 47, 250, 22}}, {lblTimeLeft, {274, 47, 144, 22}},
       {picScan, {22, 72, 396, 18}},           {butStartIt, {12, 104, 120, 28}},
-      {butMoveNextIt, {136, 104, 68, 28}},    {butKeepIt, {208, 104, 72, 28}},
-      {butFullIt, {288, 104, 72, 28}},        {butDoneScanIt, {364, 104, 64, 28}},
+      {butMoveNextIt, {136, 104, 66, 28}},    {butKeepIt, {206, 104, 70, 28}},
+      {butFullIt, {282, 104, 78, 28}},        {butDoneScanIt, {364, 104, 64, 28}},
       {butHelp, {368, 12, 28, 22}},           {butCloseIt, {400, 12, 28, 22}},
   };
   static constexpr Layout kLayouts[] = {{.size = {440, 150}, .outline = "scc44", .places = kCompact}};
