@@ -1,6 +1,7 @@
 #include "forms/FileDialog.h"
 
 #include <commdlg.h>
+#include <shellapi.h>
 
 #include <algorithm>
 #include <array>
@@ -62,6 +63,20 @@ std::string AskSavePath(HWND owner, std::string_view filter, std::string_view su
   dialog.lpstrDefExt = ending.c_str();
   dialog.Flags |= OFN_OVERWRITEPROMPT | OFN_PATHMUSTEXIST;
   return RunDialog("GetSaveFileNameW", dialog) ? Narrow(path.data()) : "";
+}
+
+std::vector<std::string> TakeDroppedPaths(WPARAM drop) {
+  const auto files = reinterpret_cast<HDROP>(drop);
+  constexpr UINT kCount = 0xFFFFFFFF;
+  std::vector<std::string> paths;
+  const UINT count = DragQueryFileW(files, kCount, nullptr, 0);
+  for (UINT file = 0; file < count; ++file) {
+    PathBuffer path{};
+    DragQueryFileW(files, file, path.data(), static_cast<UINT>(path.size()));
+    paths.push_back(Narrow(path.data()));
+  }
+  DragFinish(files);
+  return paths;
 }
 
 }  // namespace sonaro

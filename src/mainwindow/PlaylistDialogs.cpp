@@ -76,6 +76,13 @@ void PlaylistDialogs::ImportPersonalStations() const {
   if (!path.empty()) SayImported(context_.models.transfer.ImportPersonalStations(path));
 }
 
+void PlaylistDialogs::ImportDropped(const std::vector<std::string>& paths,
+                                    std::optional<std::size_t> group) const {
+  PlaylistTransfer& transfer = context_.models.transfer;
+  for (const std::string& path : paths)
+    SayImported(group ? transfer.ImportIntoGroup(*group, path) : transfer.ImportPersonalStations(path));
+}
+
 void PlaylistDialogs::SayNotSaved(const std::string& path) const {
   context_.services.messages.Ask(NotSavedMessage(path, context_.data.strings));
 }

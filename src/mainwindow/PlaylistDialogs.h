@@ -2,6 +2,8 @@
 // came of it. Part of the main window.
 #pragma once
 
+#include <optional>
+
 #include "mainwindow/MainPane.h"
 
 namespace sonaro {
@@ -14,6 +16,8 @@ class PlaylistDialogs {
   void ImportIntoGroup(std::size_t group) const;
   void ExportPersonalStations() const;
   void ImportPersonalStations() const;
+  // Playlists that were dropped on the window: into the group, or into the user's own stations.
+  void ImportDropped(const std::vector<std::string>& paths, std::optional<std::size_t> group) const;
 
  private:
   std::string AskPathToSave(std::string_view name) const;  // "" when the user gave none

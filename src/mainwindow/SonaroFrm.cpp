@@ -4,6 +4,7 @@
 
 #include "directory/StatList.h"
 #include "forms/ControlIds.h"
+#include "forms/FileDialog.h"
 #include "mainwindow/SonaroFrm_panes.h"
 #include "resources/texts/mainwindow.h"
 #include "settings/Strings.h"
@@ -48,6 +49,7 @@ void SonaroFrm::OnLoad() {
   list_.Load();
   detail_.Load();
   drag_.Load();
+  SetWindowLongPtrW(Window(), GWL_EXSTYLE, GetWindowLongPtrW(Window(), GWL_EXSTYLE) | WS_EX_ACCEPTFILES);
   status_.ShowGuide();
   models_.listing.ShowRanking(Ranking::MostPop);
   ShowEverything();
@@ -148,7 +150,13 @@ std::span<const TimerRow> SonaroFrm::Timers() const {
 }
 
 // A drag has the mouse captured, so its messages come to this window and not to the list.
-bool SonaroFrm::OnMessage(UINT message, WPARAM, LPARAM, LRESULT& result) {
+bool SonaroFrm::OnMessage(UINT message, WPARAM wParam, LPARAM, LRESULT& result) {
+  if (message == WM_DROPFILES) {
+    result = 0;
+    const std::vector<std::string> paths = TakeDroppedPaths(wParam);
+    if (IsWindowEnabled(Window())) groups_.ImportDropped(paths);  // else a dialog waits for its answer
+    return true;
+  }
   if (message == kTypedMessage) {
     result = 0;
     TakeTyped();

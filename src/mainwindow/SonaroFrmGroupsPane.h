@@ -30,6 +30,10 @@ class GroupsPane final : public EventTarget, private FavoritePrompts {
   // A station was dropped on a slot, or a group's button on another slot.
   void TakeDropped(const std::vector<StationKey>& stations, int slot);
   void MoveGroup(const std::string& name, int to);
+  // Playlists were dropped on the window: into the group on show, if one is.
+  void ImportDropped(const std::vector<std::string>& paths) {
+    playlists_.ImportDropped(paths, subject_.GroupOnShow());
+  }
   // For a window that has no groups of its own.
   void AddStationToGroup(const std::string& groupName, const StationKey& station);
   // Adds the station to the group that was used last in this session, or the only one; else `owner` asks.

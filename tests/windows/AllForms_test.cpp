@@ -1,5 +1,6 @@
 // What must hold for every window of the program, with its real words: FormCheck on each of them.
 #include <gtest/gtest.h>
+#include <shlobj.h>
 
 #include <functional>
 #include <memory>
@@ -297,6 +298,36 @@ TEST_P(EveryForm, EscapeClosesADialogAndKeepsNothingOfIt) {
   EXPECT_TRUE(program.outside.registry.writes.empty()) << program.outside.registry.writes[0].name;
   EXPECT_TRUE(program.outside.files.Log().empty()) << program.outside.files.Log()[0];
   EXPECT_TRUE(program.shell.opened.empty());
+}
+
+// As Explorer hands over what is dropped: a list of wide paths behind a head, ended by an empty one.
+HGLOBAL Dropped(const std::wstring& path) {
+  const HGLOBAL memory = GlobalAlloc(GHND, sizeof(DROPFILES) + (path.size() + 2) * sizeof(wchar_t));
+  auto* const head = static_cast<DROPFILES*>(GlobalLock(memory));
+  head->pFiles = sizeof(DROPFILES);
+  head->fWide = TRUE;
+  path.copy(reinterpret_cast<wchar_t*>(head + 1), path.size());
+  GlobalUnlock(memory);
+  return memory;
+}
+
+TEST(MainWindow, TakesADroppedPlaylistIntoTheGroupOnShowOrYourStations) {
+  EmptyProgram p;
+  p.outside.files.MakeFolder("/d");
+  p.outside.files.Put("/d/a.m3u", "#EXTM3U\n#EXTINF:-1,Mine\nhttp://127.0.0.1:9/mine\n");
+  p.outside.files.Put("/d/b.m3u", "#EXTM3U\n#EXTINF:-1,Other\nhttp://127.0.0.1:9/other\n");
+  ASSERT_EQ(p.favorites.Add("Jazz"), FavoriteChange::Saved);
+  const auto made = std::find_if(std::begin(kForms), std::end(kForms),
+                                 [](const NamedForm& form) { return form.name == std::string("SonaroFrm"); });
+  const std::unique_ptr<Form> form = made->make(p);
+  form->Show();
+  SendMessageW(form->Window(), WM_DROPFILES, reinterpret_cast<WPARAM>(Dropped(L"/d/a.m3u")), 0);
+  ASSERT_EQ(p.personal.All().size(), 1u);
+  EXPECT_TRUE(p.favorites.Keys(0).empty());
+  SendMessageW(ControlOf(*form, butFavs), BM_CLICK, 0, 0);
+  SendMessageW(form->Window(), WM_DROPFILES, reinterpret_cast<WPARAM>(Dropped(L"/d/b.m3u")), 0);
+  EXPECT_EQ(p.favorites.Keys(0).size(), 1u);
+  EXPECT_EQ(p.messages.asked.size(), 2u) << "each says what came of it";
 }
 
 void ExpectEachAccessKeyOnce(const MenuEntries& menu) {
