@@ -23,6 +23,7 @@ int DaysInMonth(int year, int month) {
   return month == 4 || month == 6 || month == 9 || month == 11 ? 30 : 31;
 }
 
+// Rounds down where the language rounds towards zero, which days before 1970 need.
 std::int64_t FloorDivide(std::int64_t value, std::int64_t by) {
   return value / by - (value % by < 0 ? 1 : 0);
 }
@@ -68,6 +69,7 @@ Date DateFromDays(std::int64_t days) {
           static_cast<int>(dayOfYear - (153 * marchMonth + 2) / 5 + 1)};
 }
 
+// By parts, so that no sum leaves the range however large `seconds` is.
 DateTime AddSeconds(const DateTime& at, std::int64_t seconds) {
   const std::int64_t second = SecondOfDay(at.time) + seconds % kSecondsPerDay;
   const std::int64_t carry = FloorDivide(second, kSecondsPerDay);
@@ -95,6 +97,7 @@ std::string_view EnglishMonthName(int month) {
   return month >= 1 && month <= 12 ? kMonthNames[static_cast<std::size_t>(month - 1)] : std::string_view();
 }
 
+// The form of dates in the program's files, whatever the user's own pattern is.
 std::string FormatShortDate(const Date& date) {
   return std::to_string(date.month) + '/' + std::to_string(date.day) + '/' + std::to_string(date.year);
 }
@@ -108,6 +111,7 @@ std::string FormatLongDate(const Date& date) {
          std::string(EnglishDayName(Weekday(date))) + ')';
 }
 
+// The hour is not padded in either style; midnight is 12 AM, noon 12 PM.
 std::string FormatTime(const TimeOfDay& time, ClockStyle style) {
   if (style == ClockStyle::Hours24) return std::to_string(time.hour) + ':' + Padded(time.minute, 2);
   const int hour = time.hour % 12 == 0 ? 12 : time.hour % 12;

@@ -18,6 +18,7 @@
 namespace sonaro {
 namespace {
 
+// Without an ending: two files of this name make the table.
 constexpr std::string_view kTableName = "\\statorg";
 
 // Of the `number`th searched field, from 1 on, as it stands in the search column.
@@ -51,6 +52,7 @@ void StatList::CloseStationTable(Handle handle) {
   if (handle != 0) status_ = vmx_->VmxClose(handle);
 }
 
+// Counted: tests tell by the number of look-ups what a list on the screen costs.
 StationRecord StatList::GetStation(Handle handle, std::int32_t stationId) {
   if (handle == 0) return {};
   ++lookUps_;
@@ -217,6 +219,7 @@ std::vector<std::int32_t> StatList::BestMatches(std::string_view typed, std::siz
   });
 }
 
+// One search over all stations and one look at each of `ids`: no record is read.
 std::vector<std::int32_t> StatList::FilterStations(std::span<const std::int32_t> ids,
                                                    std::string_view typed) {
   return WithSearchImage([&](Handle, TableImage& image) {
@@ -261,6 +264,8 @@ void StatList::AddTexts(Handle handle, TableImage& image, StationField field, co
   if (status_ == TableStatus::Success && ranks.Count() == image.RecordCount()) ranks.Finish();
 }
 
+// In parts of `records`, for a caller that must not keep the window waiting; true when there is nothing left
+// to do, also when it failed and another call would fail as well.
 bool StatList::MakeRanks(StationField field, const SortKeyOf& sortKey, std::size_t records) {
   bool more = false;
   WithSearchImage([&](Handle handle, TableImage& image) {

@@ -91,6 +91,8 @@ HMENU OpenMenu::Build(std::span<const MenuEntry> entries) {
   return menu;
 }
 
+// The text is given to the system too, although it is drawn here: whoever reads menus from outside asks for
+// it. It is copied; `drawn` is not, and must stay where it is, hence the deque.
 void OpenMenu::Add(HMENU menu, UINT place, const MenuEntry& entry) {
   DrawnEntry& drawn = drawn_.emplace_back();
   std::wstring whole = Widen(entry.text);
@@ -160,6 +162,7 @@ void OpenMenu::Draw(const DRAWITEMSTRUCT& draw) const {
   ExcludeClipRect(draw.hDC, row.left, row.top, row.right, row.bottom);
 }
 
+// Lines of the painter's pixels rather than a font's glyph, which differs between systems.
 void OpenMenu::DrawCheck(HDC dc, const RECT& row, Color color) const {
   const int left = row.left + painter_.Px(9), middle = (row.top + row.bottom) / 2;
   const POINT mark[] = {{left, middle},

@@ -1,3 +1,5 @@
+// The browse tree and the ranking buttons of the left column. The tree's model (BrowseTree) is shared by both
+// of its views; the control holds what was filled into it last (shown_).
 #include "mainwindow/SonaroFrmBrowsePane.h"
 
 #include <array>
@@ -22,6 +24,7 @@ constexpr std::array kRankingButtons{Ranking::NewStations, Ranking::MostPop,   R
 
 std::span<const EventRow> BrowsePane::Events() const {
   static const EventRow kRows[] = {
+      // Arrays: 7 buttons, and 8 menu entries with the ranking that has no button.
       {butNewStations, Click, &BrowsePane::butRanking_Click, 7},
       {mnuActionNewStations, Click, &BrowsePane::mnuActionRanking_Click, 8},
       {treeBrowse, NodeClick, &BrowsePane::treeBrowse_NodeClick},
@@ -47,11 +50,14 @@ void BrowsePane::Show() {
   if (state.view == View::Browse || state.view == View::BrowseLoc) ShowTree();
 }
 
+// A tree that nobody has looked at yet is read when somebody does.
 void BrowsePane::GuideChanged() {
   if (tree_.Mode() != BrowseMode::NotBuilt) tree_.FillBrowseTree(tree_.Mode());
   shown_ = BrowseMode::NotBuilt;
 }
 
+// Filled only when the control holds another tree: filling it costs time and loses what the user has opened.
+// The number of own stations can change between, so it is set each time.
 void BrowsePane::ShowTree() {
   TreeView& view = *treeBrowse_;
   if (shown_ != tree_.Mode()) {
@@ -64,6 +70,7 @@ void BrowsePane::ShowTree() {
   view.SetFigure(personal_, Figure(context_.data.personal.All().size()));
 }
 
+// Without recursion, since how deep a tree goes is up to the files it came from.
 void BrowsePane::FillView(TreeView& view) {
   struct Waiting {
     HTREEITEM parent;
@@ -99,6 +106,7 @@ void BrowsePane::mnuActionRanking_Click(int entry) {
   context_.view.ShowEverything();
 }
 
+// The control's data is an index into the model; -1 or more than there are means a node of a tree before.
 void BrowsePane::treeBrowse_NodeClick(HTREEITEM item) {
   const int node = treeBrowse_->Data(item);
   if (node < 0 || static_cast<std::size_t>(node) >= tree_.NodeCount()) return;

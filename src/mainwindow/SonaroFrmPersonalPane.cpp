@@ -1,3 +1,5 @@
+// Commands on the user's own stations. Changing and deleting act on the station that the command is about,
+// which an open menu fixes, and do nothing when that is none of the user's own.
 #include "mainwindow/SonaroFrmPersonalPane.h"
 
 #include "forms/ControlIds.h"
@@ -28,6 +30,8 @@ const PersonalStation* PersonalPane::Meant() const {
   return station.IsOfUser() ? context_.data.personal.Find(station.number) : nullptr;
 }
 
+// A station without an index is a new one. The windows are told also when the dialog was cancelled; that
+// costs a refill.
 void PersonalPane::Edit(const PersonalStation& station) {
   frmPersonalStation(context_.forms, context_.data.personal, context_.services.messages,
                      context_.services.help, station)
@@ -57,6 +61,7 @@ void PersonalPane::Delete() {
                              });
 }
 
+// Says the failure itself, so callers only have to stop.
 bool PersonalPane::Saved(bool saved) {
   const Strings& strings = context_.data.strings;
   return SavedOrSaid(saved, strings.Load(IDS_FILE_STATIONS), context_.services.messages, strings);

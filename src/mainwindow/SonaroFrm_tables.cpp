@@ -10,6 +10,8 @@
 namespace sonaro {
 namespace {
 
+// Rows of control arrays. `index` or `slot` counts from 0 in the order of the numbers; what a click is told
+// is this index. Places are in pixels at 96 dpi: left, top, width, height.
 constexpr ControlRow Tab(int index, int text) {
   return {.id = butTabs + index,
           .kind = ControlKind::TabButton,
@@ -17,6 +19,7 @@ constexpr ControlRow Tab(int index, int text) {
           .at = {15 + 190 * index, 43, 190, 42}};
 }
 
+// A group has a text only once it is in use; until then the button is drawn as an empty socket.
 constexpr ControlRow Group(int slot) {
   return {.id = butFavs + slot,
           .kind = ControlKind::GroupButton,
@@ -33,6 +36,7 @@ constexpr ControlRow RankingRow(int index, int text, Icon icon) {
           .pane = kRankingPane};
 }
 
+// Six places for the kinds of search that the file of kinds names; those without a kind stay hidden.
 constexpr ControlRow SearchKindRow(int index) {
   return {.id = optSearchType + index,
           .kind = ControlKind::RadioButton,
@@ -49,6 +53,8 @@ constexpr ControlRow Header(int index, int text, int x, int width) {
           .pane = kListPane};
 }
 
+// A part of the filter: a box and the button behind it that takes the part away. The button is hidden while
+// the part is off, and a stop of Tab although its kind is none.
 constexpr ControlRow FilterBox(int index, int name, int x, int width) {
   return {.id = cmbListFilter + index,
           .kind = ControlKind::Combo,
@@ -101,8 +107,13 @@ constexpr ControlRow Strip(int index, int id, int text, Icon icon) {
           .icon = icon};
 }
 
+// The middle of the window: of the list, the events and the web search one is shown at a time.
 constexpr DesignRect kMiddle{224, 164, 492, 422};
 
+// Panes share places: four of them lie on the left column, three on the middle (the filter's row belongs to
+// the list), two on the detail at the right and two on the status line. Which is shown is decided by the
+// panes' own files, never by the rows' flags; kHidden is for single controls that come and go within their
+// pane.
 const ControlRow kControls[] = {
     // The nameplate, the dial and the group bar.
     {.kind = ControlKind::Mark, .at = {20, 8, 22, 22}},
@@ -138,6 +149,7 @@ const ControlRow kControls[] = {
     {.kind = ControlKind::Groove, .at = {14, 130, 952, 2}},
 
     // The left column.
+    // Names the left column, whichever of its panes is shown; its text changes with them.
     {.id = lblSide,
      .text = IDS_SIDE_RANKINGS,
      .at = {14, 137, 200, 24},
@@ -230,6 +242,8 @@ const ControlRow kControls[] = {
     Header(1, IDS_COLUMN_LOCATION, 410, 112),
     Header(2, IDS_COLUMN_MEDIA_TYPE, 522, 82),
     Header(3, IDS_COLUMN_FORMAT, 604, 112),
+    // Between the caption and the count, where the filter's edit stands as well: a layout makes the caption
+    // shorter for either.
     {.id = butMissing,
      .kind = ControlKind::PushButton,
      .at = {356, 138, 180, 22},
@@ -434,6 +448,9 @@ const ControlRow kControls[] = {
     Strip(3, butCloseIt, IDS_MAIN_CLOSE, Icon::Close),
 };
 
+// Layouts 1 to 4 name only what moves; all else stays as designed. They differ in what shares the caption's
+// line (nothing, the count of missing stations, the words of the filter) and in whether the filter's row
+// pushes the list down.
 constexpr Bounds kWithMissing[] = {{lblListing, {224, 137, 128, 24}}};
 // The list with its header buttons below the filter's row, and a caption of this width.
 constexpr std::array<Bounds, 6> BelowFilterRow(int captionWidth) {
@@ -455,6 +472,9 @@ constexpr Layout kLayouts[] = {{.places = kWithMissing, .others = Layout::Others
 constexpr unsigned char kLatePanes[] = {kTreePane,     kSearchPane,    kYoursPane,  kWebPane,    kEventPane,
                                         kProgressPane, kNoStationPane, kFilterPane, kOutsidePane};
 
+// Keys with a control in the last column work only while it has the focus: Del would else delete a station
+// while the user edits words. Groups have no access keys, since a name may hold any character:
+// digits with Alt or Ctrl are rows of this table.
 constexpr KeyRow kKeys[] = {
     {'F', kCtrl, mnuViewSearch},
     {VK_F3, kPlain, mnuViewSearch},
@@ -474,6 +494,7 @@ constexpr KeyRow kKeys[] = {
     {VK_RETURN, kCtrl, mnuActionPlayThree, lstFavs},
     {VK_DELETE, kPlain, mnuRemoveRow, lstFavs},
     {VK_DELETE, kPlain, butRemoveGroup, lstGroups},
+    // Ten rows in one: for each of the group buttons from butFavs on.
     {.key = VK_DELETE, .command = mnuRemoveFocusedGroup, .onlyIn = butFavs, .controls = 10},
     {VK_UP, kAlt, mnuActionMoveUp, lstFavs},
     {VK_DOWN, kAlt, mnuActionMoveDown, lstFavs},

@@ -1,3 +1,6 @@
+// Menus are made anew each time one is opened. What an entry does is decided by its command alone; the
+// subject of the command is fixed when the menu opens (CommandSubject), so a list that changes under an open
+// menu changes nothing.
 #include "mainwindow/StationActions.h"
 
 #include <array>
@@ -19,6 +22,8 @@ struct RankingCommand {
   Ranking ranking;
 };
 
+// In the order of the menu. The commands are consecutive numbers from mnuActionNewStations on, which the
+// event tables rely on.
 constexpr std::array<RankingCommand, kRankingCount> kRankingCommands{{
     {mnuActionNewStations, Ranking::NewStations},
     {mnuActionMostPoular, Ranking::MostPop},
@@ -30,6 +35,7 @@ constexpr std::array<RankingCommand, kRankingCount> kRankingCommands{{
     {mnuActionMostReliable, Ranking::MostReliable},
 }};
 
+// By place: the first, second and third link, whichever of them a station has.
 constexpr std::array<int, StationDetail::kPlayButtons> kPlayCommands{mnuActionPlayOne, mnuActionPlayTwo,
                                                                      mnuActionPlayThree};
 constexpr std::array<int, StationDetail::kPlayButtons> kPlayShortcuts{
@@ -82,6 +88,8 @@ MenuEntry StationActions::StationEntry(int command, int textId, const StationDet
   return entry;
 }
 
+// Without a station the entries are still there, disabled and worded for any station: a menu whose entries
+// come and go cannot be learnt.
 MenuEntries StationActions::ActionMenu(const StationDetail& detail) const {
   const bool selected = static_cast<bool>(detail.station);
   MenuEntries menu;
@@ -120,6 +128,8 @@ MenuEntries StationActions::EventMenu(const EventLine& event, const StationDetai
   return menu;
 }
 
+// Links that the station lacks are left out rather than disabled, so that the shortcuts beside the others
+// stay with their links.
 void StationActions::AddPlayEntries(const StationDetail& detail, MenuEntries& menu) const {
   if (!detail.station) menu.push_back(Entry(mnuActionPlayOne, IDS_ACTION_PLAY, false));
   for (std::size_t i = 0; i < StationDetail::kPlayButtons; ++i) {
@@ -157,6 +167,7 @@ void StationActions::AddGroupEntries(const StationDetail& detail, MenuEntries& m
       Entry(mnuActionMoveDown, IDS_ACTION_MOVE_DOWN, canMove && row + 1 < listing_.Rows().Count()));
 }
 
+// A group that holds the station already is checked and cannot be chosen again.
 MenuEntries StationActions::GroupChoices(const StationDetail& detail) const {
   const std::size_t several = listing_.Rows().SelectedRows().size();
   MenuEntries choices;
@@ -173,6 +184,7 @@ MenuEntries StationActions::GroupChoices(const StationDetail& detail) const {
 
 MenuEntries StationActions::SortMenu() const { return SortEntriesFor(Place::SortMenu); }
 
+// The same entries in two menus, with numbers of their own in each: a command tells from which menu it came.
 MenuEntries StationActions::SortEntriesFor(Place place) const {
   const SortState& sort = listing_.Rows().Sort();
   MenuEntries entries = {Entry(mnuOwnOrder, IDS_SORT_OWN_ORDER)};
@@ -200,6 +212,7 @@ MenuEntries StationActions::RankingEntries() const {
   return entries;
 }
 
+// For a free slot too: everything but making a group is disabled there.
 MenuEntries StationActions::GroupMenu(std::size_t group) const {
   const bool used = group < groups_.Count();
   MenuEntries menu;
@@ -216,6 +229,7 @@ MenuEntries StationActions::GroupMenu(std::size_t group) const {
   return menu;
 }
 
+// {0, 0} is a separator; the one entry without a command opens the menu of help.
 MenuEntries StationActions::ProgramMenu() const {
   MenuEntries menu;
   const std::pair<int, int> entries[] = {{mnuViewYourSonaro, IDS_MENU_YOUR_SONARO},

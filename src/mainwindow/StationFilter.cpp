@@ -1,3 +1,6 @@
+// The filter is kept as the texts that the user sees, not as identifiers of stations: the next guide numbers
+// its entries anew, and "Poland" still means Poland. Identifiers are read out of the tree when a list is
+// narrowed, and forgotten with the guide.
 #include "mainwindow/StationFilter.h"
 
 #include <algorithm>
@@ -13,6 +16,7 @@
 namespace sonaro {
 namespace {
 
+// Between the texts of a way through the tree, in settings too, so it never changes.
 constexpr std::string_view kStep = " > ";
 constexpr int kAnswered = 2;  // reliability of a station that answered when last tried
 
@@ -45,6 +49,8 @@ StationFilter::StationFilter(DataFolder& data, CReg& settings, StatList& station
   for (const std::string_view value : SplitAtMost(kept, '\t', kParts)) values_[part++] = value;
 }
 
+// The setting is written with every change, so a crash keeps the filter; an empty one clears it, so that
+// nothing is left of a filter that was taken away.
 void StationFilter::Set(Part part, std::string_view value) {
   const auto place = static_cast<std::size_t>(part);
   if (values_[place] == value) return;
@@ -68,6 +74,7 @@ std::string_view StationFilter::ShortText(std::string_view value) {
   return step == std::string_view::npos ? value : value.substr(step + kStep.size());
 }
 
+// From the node up to its root, so the steps are put in front of each other.
 std::string StationFilter::ValueOf(const BrowseTree& tree, int node) {
   if (BrowseTree::ClickOn(tree.Node(node)).fill == NodeClick::Fill::PersonalStations) return {};
   std::string value;
@@ -85,6 +92,7 @@ BrowseTree StationFilter::ReadTree(Part part) const {
   return tree;
 }
 
+// A multimap, since two entries may have the same text; they differ by the way to them, which is the value.
 std::vector<StationFilter::Choice> StationFilter::Choices(Part placeOrGenre) const {
   const BrowseTree tree = ReadTree(placeOrGenre);
   std::multimap<std::string, Choice> byText;
@@ -101,6 +109,8 @@ std::vector<StationFilter::Choice> StationFilter::Choices(Part placeOrGenre) con
   return choices;
 }
 
+// Every node with the value counts: an entry may stand in several categories. The list may hold a station
+// more than once, which a binary search does not mind.
 const std::vector<std::int32_t>& StationFilter::Ids(Part placeOrGenre) const {
   auto& ids = ids_[static_cast<std::size_t>(placeOrGenre)];
   if (ids) return *ids;

@@ -1,3 +1,6 @@
+// Two things are told apart here: what the list holds now (state_.holds, with what it takes to fill it again)
+// and the listing mode, which is what the List tab comes back to. A node of the tree or a match of what is
+// typed fills the list without touching the mode.
 #include "mainwindow/StationListState.h"
 
 #include <utility>
@@ -12,6 +15,7 @@
 
 namespace sonaro {
 
+// The names by which a start asks for a view (WhatToShow).
 std::string_view NameOf(View view) {
   switch (view) {
     case View::List:
@@ -214,6 +218,8 @@ void StationListState::GroupsChanged() {
   if (state_.holds == Holds::Group) Refill();
 }
 
+// The list is not filled again: the members are the same, and the selected row and the place in the list
+// stay.
 void StationListState::GroupRenamed(std::string_view from, std::string_view to) {
   const std::string oldMode = std::string(ListingState::kGroup) + std::string(from);
   if (EqualIgnoringCase(state_.listingMode, oldMode)) {
@@ -225,6 +231,8 @@ void StationListState::GroupRenamed(std::string_view from, std::string_view to) 
   }
 }
 
+// With the list on show something must take its place, and the recent stations are always there. Behind
+// another page nothing is shown, and nothing comes back with the List tab.
 void StationListState::GroupDeleted(std::string_view name) {
   if (state_.holds != Holds::Group || !EqualIgnoringCase(state_.group, name)) return;
   if (state_.middle == Middle::StationList) return HoldRecent();
@@ -235,6 +243,8 @@ void StationListState::GroupDeleted(std::string_view name) {
 
 void StationListState::StationsChanged() { Refill(); }
 
+// The same list, read anew: the selected station stays selected by its key, or, when it is gone, the one that
+// took its place.
 void StationListState::Refill() {
   const std::vector<StationKey> before = rows_.Keys();
   const std::size_t selected = rows_.Selected().value_or(0);
@@ -243,6 +253,8 @@ void StationListState::Refill() {
   rows_.Select(SelectionAfterFill(before, selected, rows_.Keys()));
 }
 
+// Everything a fill needs stands in state_ or in found_, so a list can be filled again at any time, after an
+// update of the guide too.
 void StationListState::FillHeld() {
   switch (state_.holds) {
     case Holds::Nothing:

@@ -35,6 +35,8 @@ void OrderByRanks(std::vector<std::uint32_t>& rows, std::vector<std::uint32_t>& 
 
 }  // namespace
 
+// Nothing is read but what a sort or filter in force needs: rows are keys until they are shown. Both are
+// applied at once, so that the list never shows the other order first.
 void StationRows::Fill(std::vector<StationKey> keys) {
   notice_.reset();
   narrowedTo_.reset();
@@ -45,6 +47,7 @@ void StationRows::Fill(std::vector<StationKey> keys) {
   Select(0);
 }
 
+// One row with no key, which can be read but neither selected nor played.
 void StationRows::FillNotice(std::string text) {
   Fill({StationKey()});
   notice_.emplace().name = std::move(text);
@@ -95,6 +98,7 @@ void StationRows::Arrange() {
   if (at != order_.end()) selected_ = static_cast<std::size_t>(at - order_.begin());
 }
 
+// Turning the ranks round, not the rows, keeps equal rows in the order of the fill in both directions.
 void StationRows::SortShown() {
   std::vector<std::uint32_t> ranks = source_.RanksOf(Keys(), sort_.key, sortKey_);
   if (sort_.order == SortOrder::Descending) {
@@ -184,6 +188,7 @@ void StationRows::Select(std::optional<std::size_t> position) {
   if (position && *position < Count() && KeyAt(*position)) selected_ = position;
 }
 
+// `several_` goes by rows of the fill, so a sort does not change which stations are selected.
 void StationRows::SelectSeveral(std::size_t position, std::span<const std::size_t> all) {
   Select(position);
   if (!selected_ || all.size() < 2) return;

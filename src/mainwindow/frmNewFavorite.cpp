@@ -1,3 +1,5 @@
+// Two dialogs of one shape: a new group is named, or one that is there gets another name. Whether the name is
+// free is asked of the groups by the caller, who says so in a message; the dialog only refuses an empty one.
 #include "mainwindow/frmNewFavorite.h"
 
 #include "base/Text.h"
@@ -62,6 +64,7 @@ void frmNewFavorite::OnLoad() {
   txtGroupName_Change();
 }
 
+// A name of blanks would be none once it is trimmed for the file.
 void frmNewFavorite::txtGroupName_Change() { butOKIt_.Enable(!TrimBlanks(txtGroupName_.Text()).empty()); }
 
 void frmNewFavorite::butOKIt_Click() {

@@ -76,6 +76,7 @@ std::optional<std::string_view> ValueBehind(std::string_view line, std::string_v
 
 }  // namespace
 
+// What an update or the user has set stays; an address that was emptied comes back.
 void WriteServiceDefaults(CReg& reg) {
   const SettingsBatch batch(reg);
   for (const Row& row : kRows) {

@@ -130,6 +130,8 @@ void UpdateExchange::FetchUpdate() {
        *this);
 }
 
+// Between two slices. An installation that has begun to replace files is finished rather than given up, and
+// the outcome is told as usual.
 void UpdateExchange::Cancel() {
   view_.StopTimer();
   http_->Cancel();
@@ -168,6 +170,7 @@ void UpdateExchange::HTTPError(const std::string& statusCode, const std::string&
   }
 }
 
+// The timer and not Complete: a request must not be begun from within the events of another.
 void UpdateExchange::HTTPObjectError(HttpFault fault) {
   failed_ = true;
   reason_ = HttpFaultText(fault, dependencies_.strings);
@@ -175,6 +178,8 @@ void UpdateExchange::HTTPObjectError(HttpFault fault) {
   view_.StartTimer(kSoon);
 }
 
+// By what has arrived, not by the phase alone: a second answer without a body, such as a redirect, is a
+// failure.
 void UpdateExchange::Complete() {
   if (!failed_ && phase_ == Phase::FirstRequest) {
     FollowRedirect();
@@ -222,6 +227,7 @@ void UpdateExchange::Received() {
   view_.StartTimer(kNextSlice);
 }
 
+// One slice a turn of the window, so that it paints and takes input while an update is taken.
 void UpdateExchange::DoSlice() {
   if (taking_->Step()) {
     view_.StartTimer(kNextSlice);
@@ -285,6 +291,7 @@ void UpdateExchange::Refused(int reasonText) {
   Finish(UpdateOutcome::Kind::Refused);
 }
 
+// The first reason stays: what fails after it fails because of it.
 void UpdateExchange::Fail(int reasonText) {
   failed_ = true;
   if (reason_.empty()) reason_ = dependencies_.strings.Load(reasonText);

@@ -17,6 +17,7 @@ namespace sonaro {
 
 namespace {
 
+// The answer is a page; what is between these marks counts and all else is ignored.
 constexpr std::string_view kDateBegin = "<--LastStationUpdateStart-->";
 constexpr std::string_view kDateEnd = "<--LastStationUpdateEnd-->";
 constexpr std::string_view kSideFileBegin = "<--SideFileBegin-->";
@@ -96,6 +97,8 @@ void StationListIsDone(CReg& reg) {
   reg.Set(setting::kDoWhat, ReplaceFirst(toDo, kToDoStationList, ""));
 }
 
+// The end mark tells that the transfer was whole, and the stamp that it is what was asked for. The stamp is
+// stored only once the file is saved: without the file it would claim what is not there.
 std::string SaveLiveEventUpdate(std::string_view body, std::string_view shortDatePattern, DataFolder& data,
                                 CReg& reg) {
   if (body.size() < kEndOfBody.size()) return {};

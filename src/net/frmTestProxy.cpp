@@ -9,6 +9,7 @@ namespace sonaro {
 namespace {
 
 // The result line of a step.
+// Each step is a row of three arrays: picture, text and time. The picture is hidden until the step begins.
 constexpr ControlRow StepIcon(int step) {
   return {.id = imgProxyStep + step,
           .kind = ControlKind::Label,
@@ -66,6 +67,7 @@ const FormDesign& frmTestProxy::Design() {
        .kind = ControlKind::PushButton,
        .text = IDS_NET_TEST_AGAIN,
        .at = {196, 268, 104, 28},
+       // Enabled once the test is over: two at a time would share the lines.
        .flags = kDisabled},
       OkButton({308, 268, 98, 28}),
       CloseButton(380),

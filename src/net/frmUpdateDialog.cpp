@@ -37,6 +37,7 @@ const FormDesign& frmUpdateDialog::Design() {
       {.id = lblTitle, .kind = ControlKind::TitleBar, .text = IDS_NET_UPDATE_TITLE, .at = {40, 4, 156, 26}},
       MessagePicture(),
       MessageText(lblStuff, 82),
+      // All below the text keeps to the lower edge: the text grows the window.
       {.id = lblBytes,
        .kind = ControlKind::StateLabel,
        .at = {68, 136, 336, 20},
@@ -49,6 +50,7 @@ const FormDesign& frmUpdateDialog::Design() {
        .at = {172, 202, 128, 28},
        .flags = kHidden,
        .anchors = kFoot},
+      // Cancel, and Close once the update is over; always the primary one, so Enter never begins anything.
       {.id = butMsg + 1,
        .kind = ControlKind::PrimaryButton,
        .text = IDS_NET_CANCEL,

@@ -14,6 +14,7 @@ namespace sonaro {
 
 namespace {
 
+// The kinds of file by which a player is known: who opens playlists or MP3 files plays streams as well.
 constexpr const char* kKinds[] = {".m3u", kPls, ".mp3", ".asx"};
 // The system's question which program to take; it stands for a kind of file that has none.
 constexpr const char* kSystemQuestion = "openwith.exe";
@@ -53,6 +54,8 @@ std::string WithVariables(const std::string& path) {
 
 }  // namespace
 
+// Registered programs first: they bring names of their own, and a program that is found both ways keeps its
+// name.
 std::vector<PlayerProgram> InstalledPlayers::Find() const {
   Programs programs;
   AddRegistered(programs, kKinds);
@@ -75,6 +78,7 @@ std::string InstalledPlayers::ForLink(const PlayLink& link, const std::string& r
   return Players::IsRealPlayer(realPlayer) ? realPlayer : std::string();
 }
 
+// Remembered, since it is asked with every play.
 std::string InstalledPlayers::NameOf(const std::string& path) const {
   if (const PlayerProgram* known = At(named_, path)) return known->name;
   Programs registered;
@@ -84,6 +88,7 @@ std::string InstalledPlayers::NameOf(const std::string& path) const {
   return named_.back().name;
 }
 
+// For the machine first; a user may have installed more for himself.
 void InstalledPlayers::AddRegistered(Programs& programs, Kinds kinds) const {
   for (const RootKey root : {RootKey::LocalMachine, RootKey::CurrentUser}) {
     const MainKeyScope scope(reg_, root);
@@ -121,6 +126,7 @@ std::string InstalledPlayers::ProgramOfClass(const std::string& fileClass) const
       ProgramOf(reg_.GetData(fileClass + systemkey::kOpenCommand, systemkey::kDefaultValue)));
 }
 
+// What an uninstaller left behind in the registry has no file and is no player.
 void InstalledPlayers::Add(Programs& programs, const std::string& name, const std::string& path) const {
   if (path.empty() || AsksTheUser(path) || At(programs, path) || !data_.FileSystem().Exists(path)) return;
   programs.push_back({name.empty() ? OwnNameOf(FileNameOf(path)) : name, path});

@@ -27,6 +27,7 @@ bool IsScanTime(std::int64_t seconds) {
 
 }  // namespace
 
+// The scan outlives its window: the lists are there again when it opens, and the scan itself is idle.
 void StationScan::Open(ScanView& view) {
   view_ = &view;
   ReadScanTime();
@@ -42,6 +43,7 @@ void StationScan::Close() {
   view_ = nullptr;
 }
 
+// One button with three meanings, by the state; its caption is StartCaption.
 void StationScan::StartPauseContinue() {
   switch (state_) {
     case ScanState::Scanning:
@@ -88,6 +90,7 @@ void StationScan::MoveDown(std::size_t row) {
   MoveRow(row, row + 2);
 }
 
+// `to` is the place before which the row goes, counted with the row still there; that is what a drag gives.
 void StationScan::MoveRow(std::size_t from, std::size_t to) {
   if (from >= queue_.size() || to > queue_.size()) return;
   const auto at = [this](std::size_t row) { return queue_.begin() + static_cast<std::ptrdiff_t>(row); };
@@ -110,6 +113,7 @@ void StationScan::Remove(std::size_t row) {
   ShowState();
 }
 
+// The station that plays is in neither list and plays on.
 void StationScan::Clear() {
   const bool ran = state_ == ScanState::Scanning;
   if (ran) EnableTimer(false);
@@ -120,6 +124,8 @@ void StationScan::Clear() {
   if (ran) EnableTimer(true);
 }
 
+// Put before what was added since: the undone clearing gives the old order back, and no station that was
+// queued meanwhile is lost.
 void StationScan::Restore(const Lists& lists) {
   queue_.insert(queue_.begin(), lists.queue.begin(), lists.queue.end());
   history_.insert(history_.begin(), lists.history.begin(), lists.history.end());
@@ -194,6 +200,7 @@ void StationScan::PlayCurrent() {
   if (state_ == ScanState::Scanning) Resume();
 }
 
+// The dialog comes last: it runs a message loop, and whatever is done there finds a scan that is paused.
 void StationScan::PauseForPlayer() {
   state_ = ScanState::Paused;
   currentWaits_ = true;
@@ -208,6 +215,7 @@ void StationScan::AddCurrentToHistory() {
   ShowLists();
 }
 
+// A launch that is still under way finds another number when it returns, and does nothing more.
 void StationScan::GoIdle() {
   state_ = ScanState::Idle;
   ++launch_;
@@ -229,6 +237,7 @@ void StationScan::Add(std::span<const StationKey> stations, std::optional<std::s
   ShowState();
 }
 
+// A word that is no row key becomes no key, and Add leaves it out.
 void StationScan::StationsAdded(std::string_view caption) {
   std::vector<StationKey> stations;
   for (const std::string_view rowKey : Split(caption, ' ')) {
@@ -244,6 +253,8 @@ void StationScan::PutBack(std::size_t historyRow) {
   ShowState();
 }
 
+// By hand, so it goes the usual way, with dialogs; the scan pauses meanwhile and its own station waits for
+// Continue.
 void StationScan::PlayAgain(std::size_t historyRow) {
   if (historyRow >= history_.size()) return;
   const StationKey station = history_[historyRow].key;  // the list can grow while the player starts
@@ -313,6 +324,7 @@ int StationScan::StoredScanTime() const {
   return IsScanTime(seconds) ? static_cast<int>(seconds) : kDefault;
 }
 
+// A stored time that cannot be is written back as the usual one, so that the dialog shows what holds.
 void StationScan::ReadScanTime() {
   scanTime_ = StoredScanTime();
   if (reg_.Get(setting::kScanTime) != scanTime_) reg_.Set(setting::kScanTime, scanTime_);

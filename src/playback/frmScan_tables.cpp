@@ -7,8 +7,13 @@
 namespace sonaro {
 
 const FormDesign& frmScan::Design() {
+  // Three columns: the queue at the left, what can be done with it in the middle, the history at the right;
+  // the key row below belongs to the scan as a whole. The order of the rows is the order of Tab and of screen
+  // readers.
   static constexpr ControlRow kControls[] = {
       {.id = lblTitle, .kind = ControlKind::TitleBar, .text = IDS_SCAN_W_TITLE, .at = {40, 4, 156, 26}},
+      // Two panels rather than one that is moved: a layout gives a place only, and the corner cut differs.
+      // Each layout shows one of them.
       {.id = panScanFull, .kind = ControlKind::Glass, .at = {14, 46, 692, 66}, .cut = 10},
       {.id = panScanCompact, .kind = ControlKind::Glass, .at = {12, 44, 416, 52}, .flags = kHidden, .cut = 8},
       {.id = lblCurrentScaning,
@@ -23,6 +28,8 @@ const FormDesign& frmScan::Design() {
        .flags = kOnGlass | kRightAligned,
        .style = TextStyle::MessageStrong},
       {.id = picScan, .kind = ControlKind::Progress, .at = {28, 82, 664, 20}, .flags = kOnGlass},
+      // Column headings only. Neither list is sorted, since its order is that of playing, so they are no stop
+      // of Tab and nothing is bound to them.
       {.id = butQueueName,
        .kind = ControlKind::HeaderButton,
        .text = IDS_SCAN_W_COLUMN_NAME,
@@ -105,6 +112,8 @@ const FormDesign& frmScan::Design() {
        .text = IDS_SCAN_W_KEEP,
        .at = {266, 432, 96, 30},
        .icon = Icon::Fav},
+      // Its caption changes with the layout and has no letter of its own: Alt+F in the table of keys works in
+      // both.
       {.id = butFullIt,
        .kind = ControlKind::PushButton,
        .text = IDS_SCAN_W_COMPACT,
@@ -118,6 +127,7 @@ const FormDesign& frmScan::Design() {
       // Whoever sets its caption, another process too, adds the stations that it names; it is never shown.
       {.id = lblStationsAdd, .kind = ControlKind::Label, .at = {14, 10, 10, 10}, .flags = kHidden},
   };
+  // The compact layout: what it does not name is hidden, so the lists and their keys go without a word here.
   static constexpr Bounds kCompact[] = {
       {lblTitle, {40, 4, 156, 26}},           {panScanCompact, {12, 44, 416, 52}},
       {lblCurrentScaning, {22, 47, 250, 22}}, {lblTimeLeft, {274, 47, 144, 22}},
@@ -127,6 +137,7 @@ const FormDesign& frmScan::Design() {
       {butHelp, {368, 12, 28, 22}},           {butCloseIt, {400, 12, 28, 22}},
   };
   static constexpr Layout kLayouts[] = {{.size = {440, 150}, .outline = "scc44", .places = kCompact}};
+  // Del takes away a row of the queue only. The history is a record; it goes as a whole, by Clear.
   static constexpr KeyRow kKeys[] = {{.key = VK_DELETE, .command = butRemoveStationIt, .onlyIn = lstToScan},
                                      {'Z', kCtrl, mnuUndo},
                                      {.key = 'F', .modifiers = kAlt, .command = butFullIt}};
@@ -142,6 +153,8 @@ const FormDesign& frmScan::Design() {
 }
 
 std::span<const EventRow> frmScan::Events() const {
+  // mnu...: entries of the two context menus, which are made when they are opened, and the undoing of Ctrl+Z.
+  // None of them has a control here.
   static const EventRow kRows[] = {
       {butStartIt, Click, &frmScan::butStartIt_Click},
       {lstToScan, BeginDrag, &frmScan::lstToScan_BeginDrag},
@@ -165,6 +178,7 @@ std::span<const EventRow> frmScan::Events() const {
       {lstScanedAlready, ContextMenu, &frmScan::lstScanedAlready_ContextMenu},
       {mnuScanPlay, Click, &frmScan::mnuScanPlay_Click},
       {mnuScanPutBack, Click, &frmScan::mnuScanPutBack_Click},
+      // One entry for each of the ten favourite groups.
       {mnuScanToGroup, Click, &frmScan::mnuScanToGroup_Click, 10},
   };
   return kRows;

@@ -1,3 +1,6 @@
+// What changes the schedule on the user's word. A deletion goes one way: find the item anew by its fields,
+// save without it, tell the windows, offer to undo, and say it when saving failed. Slots are never kept over
+// a question, since another session may move what they hold.
 #include "schedule/ScheduleChanges.h"
 
 #include <optional>

@@ -19,6 +19,8 @@ constexpr ControlRow LocalTime(int x, unsigned char pane) {
 }  // namespace
 
 const FormDesign& frmSchedChange::Design() {
+  // One row of the dialog, at 162, is there three times: a date for an item that comes on once, toggles for
+  // the days of a daily one, a weekday for a weekly one. They stand in panes of which one is shown at a time.
   static constexpr ControlRow kControls[] = {
       {.id = lblTitle, .kind = ControlKind::TitleBar, .text = IDS_SCHED_CHANGE_TITLE, .at = {40, 4, 196, 26}},
       {.id = lblStationToSched,
@@ -30,6 +32,7 @@ const FormDesign& frmSchedChange::Design() {
        .kind = ControlKind::PushButton,
        .text = IDS_SCHED_CHANGE_SELECT,
        .at = {440, 48, 106, 28}},
+      // In the order of the buttons: once, daily, weekly.
       Caption(IDS_SCHED_CHANGE_HOW_OFTEN, {14, 86, 100, 28}),
       {.id = cmdHowOften,
        .kind = ControlKind::ToggleButton,
@@ -63,6 +66,7 @@ const FormDesign& frmSchedChange::Design() {
        .text = IDS_SCHED_CHANGE_HALF,
        .at = {270, 124, 70, 28},
        .pane = kHours12Pane},
+      // The same words behind the last box of the time, wherever that is.
       LocalTime(352, kHours12Pane),
       LocalTime(274, kHours24Pane),
       Caption(IDS_SCHED_CHANGE_DATE, {14, 162, 100, 28}, kOncePane),
@@ -74,6 +78,7 @@ const FormDesign& frmSchedChange::Design() {
        .icon = Icon::Sched,
        .pane = kOncePane},
       Caption(IDS_SCHED_CHANGE_DAYS, {14, 162, 100, 28}, kDailyPane),
+      // Monday first, as the flags of a daily item stand in the file.
       {.id = chkDay,
        .kind = ControlKind::ToggleButton,
        .text = IDS_SCHED_MON,
@@ -125,6 +130,8 @@ const FormDesign& frmSchedChange::Design() {
        .icon = Icon::Bell,
        .flags = kOnGlass,
        .color = TextColor::Accent},
+      // What the choices above come to, in words. Both labels are told to a screen reader with every change,
+      // so a choice that means something else than was thought is heard.
       {.id = lblSummary,
        .kind = ControlKind::StateLabel,
        .at = {64, 318, 470, 24},

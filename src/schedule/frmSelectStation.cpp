@@ -10,6 +10,7 @@
 namespace sonaro {
 
 const FormDesign& frmSelectStation::Design() {
+  // OK is disabled until a row is chosen, and so is the answer to Enter.
   static constexpr ControlRow kControls[] = {
       {.id = lblTitle, .kind = ControlKind::TitleBar, .text = IDS_SCHED_PICK_TITLE, .at = {40, 4, 196, 26}},
       Caption(IDS_SCHED_PICK_FROM, {14, 48, 100, 28}),
@@ -60,6 +61,7 @@ const FormDesign& frmSelectStation::Design() {
 std::span<const EventRow> frmSelectStation::Events() const {
   static const EventRow kRows[] = {
       {cmbSelectGroup, SelChange, &frmSelectStation::cmbSelectGroup_Change},
+      // Enter in the words searches; it does not press OK as it does elsewhere in the dialog.
       {txtFind, EnterPressed, &frmSelectStation::butSearchIt_Click},
       {butSearchIt, Click, &frmSelectStation::butSearchIt_Click},
       {lstResult, ItemSelected, &frmSelectStation::lstResult_ItemClick},
@@ -112,6 +114,7 @@ void frmSelectStation::cmbSelectGroup_Change() {
   if (source >= 0) ShowRows(stations_.RowsOf(static_cast<std::size_t>(source)));
 }
 
+// The combo shows where the rows come from, so a search selects the whole guide there.
 void frmSelectStation::butSearchIt_Click() {
   const std::string text = txtFind_.Text();
   if (TrimBlanks(text).empty()) return txtFind_.Focus();

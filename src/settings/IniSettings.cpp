@@ -8,7 +8,10 @@ namespace sonaro {
 
 namespace {
 
+// Editors put it before the first line when they save as UTF-8; it is taken but never written.
 constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";
+// First and last line of every file that is saved here. Only a file with the first one is required to have
+// the last: what a user wrote by hand is not damaged for want of it.
 constexpr std::string_view kHead =
     "; The settings of this folder's Sonaro. While this file is here, nothing is written to the "
     "registry.\r\n";
@@ -55,6 +58,7 @@ std::string Escape(std::string_view text, std::string_view special) {
   return out;
 }
 
+// Of either letter case; -1 for what is no hexadecimal digit.
 int HexValue(char c) {
   const std::size_t at = kHexDigits.find(c >= 'a' && c <= 'f' ? static_cast<char>(c - 'a' + 'A') : c);
   return at == std::string_view::npos ? -1 : static_cast<int>(at);
@@ -91,6 +95,7 @@ bool TakeEscape(std::string_view& text, std::string& out) {
   return true;
 }
 
+// A backslash that begins no escape is kept: paths typed by hand need not double theirs.
 std::string Unescape(std::string_view text) {
   std::string out;
   while (!text.empty()) {
@@ -103,6 +108,8 @@ std::string Unescape(std::string_view text) {
 
 }  // namespace
 
+// What was just read whole is worth keeping. A damaged file is not, since its copy would take the place of
+// the last good one.
 IniSettings::IniSettings(Files& files, std::string path) : files_(files), path_(std::move(path)) {
   if (Load() && condition_ == Condition::Whole) KeepOld();
 }
@@ -111,6 +118,8 @@ IniSettings::~IniSettings() {
   if (loaded_ && !changed_) KeepOld();
 }
 
+// The name as it was first written stays the key's spelling; the map is sorted by the folded one, so saved
+// files do not differ by letter case.
 IniSettings::Key& IniSettings::Make(Keys& keys, std::string_view name) {
   Key& key = keys[FoldCase(name)];
   if (key.name.empty()) key.name = name;
@@ -150,6 +159,7 @@ IniSettings::Parsed IniSettings::Parse(std::string_view text) {
   return parsed;
 }
 
+// Keys and values in the order of their folded names: the same settings give the same bytes.
 std::string IniSettings::TextOf(const Keys& keys) {
   std::string text(kHead);
   for (const auto& [foldedKey, key] : keys) {
@@ -165,6 +175,7 @@ std::string IniSettings::TextOf(const Keys& keys) {
   return text.append(kEnd).append("\r\n");
 }
 
+// What `over` has wins, value by value; what it lacks stays.
 void IniSettings::Merge(Keys& keys, const Keys& over) {
   for (const auto& [folded, key] : over) {
     Key& target = Make(keys, key.name);
@@ -172,6 +183,8 @@ void IniSettings::Merge(Keys& keys, const Keys& over) {
   }
 }
 
+// Keys without a text say nothing: the file of a fresh unpacking has such, and must not hide the settings of
+// the version before.
 bool IniSettings::HoldsText(const Keys& keys) {
   for (const auto& [foldedKey, key] : keys)
     for (const auto& [name, value] : key.values)
@@ -250,6 +263,7 @@ void IniSettings::End() {
   if (--holds_ == 0 && changed_) Save();
 }
 
+// Within a batch a change counts as made; whether it could be saved is known to End alone.
 bool IniSettings::Changed() {
   changed_ = true;
   return holds_ > 0 || Save();

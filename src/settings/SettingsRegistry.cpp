@@ -9,6 +9,8 @@ namespace {
 // What the names in the portable file leave out: they begin with the last part of kSettingsKey.
 constexpr std::size_t kParents = std::string_view(kSettingsKey).rfind('\\') + 1;
 
+// With the backslash behind both, so that a key that only begins with the same letters is not taken for one
+// below the program's.
 bool IsOwn(RootKey root, const std::string& key) {
   return root == RootKey::LocalMachine &&
          StartsWithIgnoringCase(key + "\\", std::string(kSettingsKey) + "\\");
@@ -28,6 +30,8 @@ SettingsRegistry::SettingsRegistry(Registry& system, Files& files, const std::st
   notWritten_ = !MakeWritable(home_);
 }
 
+// A key that can be made cannot always be written: rights can differ for the two, so it is tried after the
+// making as well.
 bool SettingsRegistry::MakeWritable(RootKey root) {
   return system_.CanWrite(root, kSettingsKey) ||
          (system_.CreateKey(root, kSettingsKey) && system_.CanWrite(root, kSettingsKey));
@@ -38,6 +42,8 @@ SettingsPlace SettingsRegistry::Place() const {
   return home_ == RootKey::LocalMachine ? SettingsPlace::Machine : SettingsPlace::User;
 }
 
+// Damage is told before the other fault and apart from it: the file was kept beside, and the user may want to
+// look at it.
 SettingsFault SettingsRegistry::TakeFault() {
   if (file_) {
     const IniSettings::Condition state = file_->State();
@@ -72,6 +78,8 @@ bool SettingsRegistry::KeyExists(RootKey root, const std::string& key) {
   return system_.KeyExists(Home(root, key), key);
 }
 
+// Beside a portable file no key of the system is written, whatever the system would allow: the folder must
+// leave no trace on a machine that it is only plugged into.
 bool SettingsRegistry::CanWrite(RootKey root, const std::string& key) {
   if (const auto name = InFile(root, key)) return file_->HasKey(*name);
   return !file_ && system_.CanWrite(Home(root, key), key);
@@ -93,6 +101,7 @@ bool SettingsRegistry::WriteValue(RootKey root, const std::string& key, const st
   if (const auto own = InFile(root, key)) return file_->Write(*own, name, bytes);
   if (file_) return false;
   const bool written = system_.WriteValue(Home(root, key), key, name, type, bytes);
+  // Only the own key counts as a fault to tell; what the system keeps for itself may be refused.
   if (!IsOwn(root, key) || !system_.KeyExists(home_, key)) return written;
   return Note(written);
 }

@@ -19,6 +19,7 @@ namespace sonaro {
 
 namespace {
 
+// There are five pictures, 0 to 4.
 constexpr std::int64_t kMaxReliability = 4;
 
 // The fields that are scrambled in the guide. All others are plain.
@@ -57,6 +58,7 @@ int StationInfo::Symbol() const {
   return static_cast<int>(std::clamp<std::int64_t>(NumberValue(reliability), 0, kMaxReliability));
 }
 
+// Copies: what a visitor is shown is gone with the next record.
 StationInfo InfoOf(const StationView& station) {
   const auto text = [&](StationField field) { return std::string(station[field]); };
   return {StationKey::OfGuide(station.StationId),
@@ -112,6 +114,8 @@ StationInfo StationSource::InfoOfOwn(const PersonalStation& station) const {
           "0"};
 }
 
+// A station without a key is one that is not there: an identifier of the last guide, one of the user's own
+// that was deleted.
 Station StationSource::Find(const StationKey& key) const {
   Station station;
   if (key.IsOfGuide()) {
@@ -152,6 +156,7 @@ void StationSource::VisitInfos(std::span<const StationKey> keys, const InfoVisit
   });
 }
 
+// In the order of `keys`, without those that are unknown.
 std::vector<StationInfo> StationSource::InfosOf(std::span<const StationKey> keys) const {
   std::vector<StationInfo> infos(keys.size());
   VisitInfos(keys, [&](std::size_t place, StationInfo info) { infos[place] = std::move(info); });
@@ -207,6 +212,8 @@ std::vector<std::int32_t> StationSource::IdsHolding(std::string_view text) const
   return stations_.SearchStationIds(text, true);
 }
 
+// The fields of an own station that a search of the guide would look at: name, type, and the note as its
+// description.
 bool StationSource::OwnFits(const StationKey& key, const TypedWords& words) const {
   const PersonalStation* own = Personal(key);
   if (own == nullptr) return false;
@@ -249,6 +256,7 @@ std::vector<PlayableLink> PlayableLinks(const Station& station, const ExtraLinks
   return playable;
 }
 
+// `link` becomes the first one that is no playlist: a test of a player is to play, not to fetch a list first.
 void LinkCounts::Add(std::string_view station, const std::string& linkText) {
   const PlayLink played = PlayLink::FromText(linkText);
   if (played.way == PlayWay::WebPage) {

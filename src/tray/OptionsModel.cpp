@@ -10,6 +10,7 @@ namespace {
 
 constexpr const char* kHiddenStart = " WinStart=Yes";
 
+// Nothing for a faceplate of another name, which stays in force until the user chooses one of these.
 std::optional<BuiltInFaceplate> ReadFaceplate(const CReg& reg) {
   const std::string name = reg.Get(setting::kFacePlateName);
   if (name.empty()) return BuiltInFaceplate::Graphite;
@@ -43,6 +44,8 @@ Options OptionsModel::Read() const {
   return now;
 }
 
+// One batch, so a portable file is saved once. A bad proxy is found before anything is written. Whether all
+// was taken is seen by reading it back: the registry may refuse a value without a word.
 StoreOutcome OptionsModel::Store(Options wanted) {
   const SettingsBatch batch(reg_);
   const Options before = Read();

@@ -1,3 +1,5 @@
+// The controls of frmOptions. Each section is a heading at the left and its controls beside it, between
+// engraved lines. What the controls call stands in frmOptions.cpp.
 #include "forms/ControlIds.h"
 #include "forms/DialogRows.h"
 #include "resources/texts/tray.h"
@@ -11,6 +13,7 @@ constexpr int kHeadings = 14;  // of the sections' headings
 constexpr int kBeside = 170;   // of what stands beside them
 constexpr int kLineWidth = 572;
 
+// A heading names no control: every control of its section has a text or a caption of its own.
 constexpr ControlRow Heading(int text, int y) {
   return {.kind = ControlKind::Label,
           .text = text,
@@ -27,6 +30,7 @@ constexpr ControlRow Box(int id, int text, int y) {
   return {.id = id, .kind = ControlKind::CheckBox, .text = text, .at = {kBeside, y, 290, 24}};
 }
 
+// For the label that stands just before its control and gives it its spoken name.
 constexpr ControlRow PlainCaption(int text, DesignRect at) {
   return {.kind = ControlKind::Label, .text = text, .at = at, .color = TextColor::Muted};
 }
@@ -54,6 +58,8 @@ const FormDesign& frmOptions::Design() {
 
       Line(170),
       Heading(IDS_OPTIONS_CONNECTION, 176),
+      // The two radio buttons are a control array: optProxy is the direct connection, the next number the
+      // proxy. kGroup keeps the arrow keys within the two.
       {.id = optProxy,
        .kind = ControlKind::RadioButton,
        .text = IDS_OPTIONS_DIRECT,
@@ -69,6 +75,8 @@ const FormDesign& frmOptions::Design() {
       {.id = txtProxy, .kind = ControlKind::Edit, .at = {254, 234, 190, 28}},
       PlainCaption(IDS_OPTIONS_PORT, {454, 234, 34, 28}),
       {.id = txtPort, .kind = ControlKind::Edit, .at = {490, 234, 96, 28}},
+      // What is wrong with the proxy, or what was found. A StateLabel, so that a screen reader says a refusal
+      // that would else only be seen.
       {.id = lblOptionsInfo,
        .kind = ControlKind::StateLabel,
        .at = {194, 264, 392, 34},
@@ -77,6 +85,7 @@ const FormDesign& frmOptions::Design() {
       Line(300),
       Heading(IDS_OPTIONS_PLAYING, 306),
       ButtonRow(butPlayerIt, IDS_OPTIONS_PLAYER, {kHeadings, 334, 124, 28}),
+      // Room for several lines: what plays which stations.
       {.id = lblPlaying,
        .kind = ControlKind::StateLabel,
        .at = {kBeside, 309, 416, 70},
@@ -90,6 +99,8 @@ const FormDesign& frmOptions::Design() {
 
       Line(462),
       Heading(IDS_OPTIONS_FACEPLATE, 468),
+      // In the order of BuiltInFaceplate, from optFaceplate on. Neither is active while a faceplate of
+      // another name is set.
       {.id = optFaceplate,
        .kind = ControlKind::ToggleButton,
        .text = IDS_OPTIONS_GRAPHITE,
@@ -106,6 +117,8 @@ const FormDesign& frmOptions::Design() {
       HelpButton(528),
       CloseButton(560),
   };
+  // The outline of the point file was made for a window of 470; ApplyWindowShape is told, since this one is
+  // higher.
   static constexpr FormDesign kDesign = {.name = "frmOptions",
                                          .caption = IDS_OPTIONS_TITLE,
                                          .size = {600, 552},

@@ -19,6 +19,7 @@ namespace {
 constexpr std::array<int, 6> kSizes = {16, 20, 24, 32, 48, 256};
 constexpr int kPngFrom = 256;
 
+// Icon files and bitmaps are little endian, PNG is big endian.
 void AddLittle(std::string& bytes, std::uint32_t value, int count) {
   for (int i = 0; i < count; ++i) bytes += static_cast<char>(value >> (8 * i));
 }
@@ -39,6 +40,8 @@ void AddPixel(std::string& bytes, std::uint32_t pixel, std::array<int, 3> channe
   bytes += static_cast<char>(pixel >> 24);
 }
 
+// A bitmap of an icon: header of 40 bytes, rows from the bottom up in blue, green, red and alpha, then a mask
+// of one bit a pixel whose rows end at four bytes.
 std::string BitmapOf(const Pixels& pixels, int size) {
   std::string bytes;
   AddLittle(bytes, 40, 4);
@@ -54,6 +57,7 @@ std::string BitmapOf(const Pixels& pixels, int size) {
   return bytes;
 }
 
+// Length of the content, name, content, and a checksum over name and content.
 void AddChunk(std::string& png, std::string name, const std::string& content) {
   AddBig(png, static_cast<std::uint32_t>(content.size()));
   name += content;
@@ -62,6 +66,7 @@ void AddChunk(std::string& png, std::string name, const std::string& content) {
                   crc32(0, reinterpret_cast<const Bytef*>(name.data()), static_cast<uInt>(name.size()))));
 }
 
+// Rows from the top down in red, green, blue and alpha; each begins with the number of its filter.
 std::string PngOf(const Pixels& pixels, int size) {
   std::string rows;
   for (int y = 0; y < size; ++y) {
@@ -84,6 +89,7 @@ std::string PngOf(const Pixels& pixels, int size) {
   return png;
 }
 
+// A head, an entry of 16 bytes for each picture with its place in the file, then the pictures.
 std::string IconFile() {
   const FaceplateColors colors = DeriveColors(BuiltInColors(BuiltInFaceplate::Graphite));
   std::string directory;

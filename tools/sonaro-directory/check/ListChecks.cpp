@@ -33,6 +33,7 @@ void ForEachLine(CheckContext& context, std::string_view name, Need need, Check 
 // Lines of index TAB name TAB ...; an index alone stands for a station that was deleted.
 void CheckPersonalStations(CheckContext& context) {
   constexpr std::string_view kName = user_file::kStations;
+  // Later columns may be missing at the end of the line and are empty then.
   constexpr std::size_t kLeastColumns = 2;
   ForEachLine(context, kName, Need::Optional, [&](std::size_t number, std::string_view line) {
     const std::vector<std::string_view> columns = Split(line, '\t');
@@ -94,6 +95,8 @@ void CheckRecent(CheckContext& context) {
 }
 
 // Only what makes an entry never due; dates and stations of old entries may be anything.
+// Seven columns, the last of them the note, which may hold tabs. What the kind of repetition needs of the
+// others is not looked at: the program takes an item with an odd date and shows it.
 void CheckSchedule(CheckContext& context) {
   constexpr std::string_view kName = user_file::kSchedule;
   constexpr std::size_t kColumns = 7;
@@ -108,6 +111,7 @@ void CheckSchedule(CheckContext& context) {
   });
 }
 
+// Lines of an event's identifier, "X" and its name.
 void CheckShows(CheckContext& context) {
   ForEachLine(context, user_file::kShows, Need::Optional, [&](std::size_t number, std::string_view line) {
     if (line.find('X') == std::string_view::npos)
@@ -125,6 +129,8 @@ bool IsPointsText(std::string_view points) {
 
 }  // namespace
 
+// Without the file the built-in alphabets hold. Must come before the checks of links, which are read with
+// them.
 void CheckAlphabets(CheckContext& context) {
   const std::optional<std::string> text = context.Read(guide_file::kAlphabet, Need::Optional);
   if (text && !ParseAlphabets(*text, context.alphabets)) {
@@ -132,6 +138,8 @@ void CheckAlphabets(CheckContext& context) {
   }
 }
 
+// The lines stand in any order, each ranking once. A file that is missing is one finding, not one more for
+// each ranking.
 void CheckRankings(CheckContext& context) {
   constexpr std::string_view kName = guide_file::kRanking;
   std::set<std::string> missing;
@@ -162,6 +170,8 @@ void CheckRankings(CheckContext& context) {
   });
 }
 
+// Lines of caption TAB kind TAB address. One kind searches the stations of the guide; without it the search
+// form could not do what it is there for.
 void CheckSearchKinds(CheckContext& context) {
   constexpr std::string_view kName = guide_file::kSearchKinds;
   constexpr std::size_t kMaxKinds = 6;
@@ -182,6 +192,7 @@ void CheckSearchKinds(CheckContext& context) {
   if (kinds > 0 && !searchesStations) context.Add(kName, 0, "no kind searches the stations");
 }
 
+// Own stations first: groups, recent stations and links name them.
 void CheckUserFiles(CheckContext& context) {
   CheckPersonalStations(context);
   CheckOwnLinks(context);
@@ -191,6 +202,7 @@ void CheckUserFiles(CheckContext& context) {
   CheckShows(context);
 }
 
+// A window whose key is missing is a plain rectangle, so only the lines that are there are looked at.
 void CheckOutlines(CheckContext& context) {
   constexpr std::string_view kName = "\\Depot\\sshape.pts";
   constexpr std::size_t kKeyLength = 5;

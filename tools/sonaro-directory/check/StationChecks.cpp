@@ -24,6 +24,8 @@ constexpr std::string_view kListName = guide_file::kStations;
 constexpr std::size_t kColumns = StationRecord::kFieldCount + 1;
 
 // A tab or a line end inside a field would shift the fields behind it; others garble what is shown.
+// A tab or line end in a field would make other fields of it when the list is read again; the others have no
+// picture.
 bool HasControlCharacter(std::string_view text) {
   return std::any_of(text.begin(), text.end(),
                      [](char c) { return static_cast<unsigned char>(c) < 0x20 || c == 0x7F; });
@@ -39,12 +41,14 @@ bool IsUtf8(std::string_view text) {
 }
 
 // Empty is "not known", which every figure of a station may be.
+// An empty field is allowed: nobody has rated the station.
 bool IsDigitUpTo(std::string_view text, char highest) {
   return text.empty() || (text.size() == 1 && text[0] >= '0' && text[0] <= highest);
 }
 
 // One record that could be read, field by field. It says what is wrong and goes on, so that one run names
 // all.
+// What holds for one station by itself. Every fault is told, not the first only: a list is mended in one go.
 class RecordCheck {
  public:
   RecordCheck(CheckContext& context, std::size_t line, const StationRecord& record)
@@ -69,6 +73,7 @@ class RecordCheck {
   }
 
   // With the alphabets of the folder, which may be others than the built-in ones.
+  // Links and addresses are scrambled in the list; they are judged as the program will see them.
   std::string Plain(StationField field) const {
     std::string text = record_[field];
     return UnscrambleText(text, context_.alphabets);
@@ -118,6 +123,8 @@ using StationsById = std::map<std::int32_t, StationRecord>;
 void CheckStationLine(CheckContext& context, std::size_t number, std::string_view line,
                       StationsById& stations) {
   // Reported, and the line read all the same: the program fills up what is missing.
+  // A wrong number of columns does not end the look at the line: the program reads it all the same, with
+  // fields empty or run together, and so its other faults count.
   const std::vector<std::string_view> columns = Split(line, '\t');
   if (columns.size() != kColumns) {
     context.Add(
@@ -151,6 +158,7 @@ bool IsGmtStamp(const std::string& text) {
   return IsValid(Date{part(0, 4), part(4, 2), part(6, 2)}) && part(8, 2) < 24 && part(10, 2) < 60;
 }
 
+// Events have no line in a text file; they are named by their number in the table.
 void CheckEvent(CheckContext& context, std::string_view table, const EventRecord& event) {
   const std::string name = "event " + std::to_string(event.EventId);
   std::int32_t station = 0;
@@ -163,6 +171,8 @@ void CheckEvent(CheckContext& context, std::string_view table, const EventRecord
 
 }  // namespace
 
+// Goes first of all checks: what it finds out, the identifiers and the records, is what the others compare
+// with.
 void CheckStationList(CheckContext& context) {
   const std::optional<std::string> text = context.Read(kListName, CheckContext::Need::Required);
   if (!text) return;

@@ -20,6 +20,7 @@
 namespace sonaro {
 namespace {
 
+// What the command line asked for; limit 0 is none.
 struct MakeOptions {
   std::vector<std::string> sources;
   std::string out;
@@ -31,6 +32,7 @@ struct MakeOptions {
 };
 
 // The whole text is a number from 1 on.
+// The whole word must be a number: "10k" is refused, not taken for 10.
 bool ParseLimit(const std::string& text, std::size_t& limit) {
   const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), limit);
   return error == std::errc() && end == text.data() + text.size() && limit > 0;
@@ -102,6 +104,7 @@ class Maker {
   bool ReadSources();
   bool ReadEarlier(EarlierIds& earlier);
   bool ReadEventFile(std::vector<SourceEvent>& events);
+  // The line of progress would else stand before the sentence.
   int Fail(const std::string& sentence) {
     progress_.Clear();
     console_.err << sentence << '\n';
@@ -150,6 +153,7 @@ bool Maker::ReadEarlier(EarlierIds& earlier) {
   return true;
 }
 
+// Bad lines are counted in a log of their own and left out; only a file that cannot be read fails the run.
 bool Maker::ReadEventFile(std::vector<SourceEvent>& events) {
   if (options_.events.empty()) return true;
   std::string bytes;
@@ -175,6 +179,7 @@ void Maker::Summarise(const BuiltDirectory& built, const EventRecords& events) {
       << brackets(eventLog_) << ".\n";
 }
 
+// Events come last of what is made, since they name stations by their names in the finished directory.
 int Maker::Run() {
   EarlierIds earlier;
   std::vector<SourceEvent> sourceEvents;

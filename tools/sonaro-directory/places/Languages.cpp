@@ -119,6 +119,8 @@ std::string WithCapitals(std::string_view name) {
 // Compared as a whole: "French" is a language, "French pop" is not.
 bool IsLanguage(std::string_view text) { return BySpelling().count(MatchKey(text)) > 0; }
 
+// In the order of the text, each language once. Several separators are in use; a blank is none, since names
+// hold blanks.
 std::vector<std::string> LanguagesIn(std::string_view text) {
   std::string plain(text);
   std::replace_if(
