@@ -21,10 +21,12 @@ namespace {
 // Without an ending: two files of this name make the table.
 constexpr std::string_view kTableName = "\\statorg";
 
-// Of the `number`th searched field, from 1 on, as it stands in the search column.
+// The `number`th searched field, from 1 on, as it stands in the search column. A forged table can have fewer
+// tabs than fields.
 std::string_view SearchedField(const SearchColumn& column, std::size_t record, std::size_t number) {
-  std::string_view rest = column.text.substr(column.starts[record]);
-  if (number > 1) rest.remove_prefix(FindTab(rest, number - 1) + 1);
+  std::string_view rest =
+      column.text.substr(column.starts[record], column.starts[record + 1] - column.starts[record]);
+  if (number > 1) rest.remove_prefix(std::min(FindTab(rest, number - 1) + 1, rest.size()));
   return rest.substr(0, FindByte(rest, kFieldSeparator));
 }
 

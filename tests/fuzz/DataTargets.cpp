@@ -24,6 +24,10 @@ void UseTable(StatList& stations, std::string_view word) {
   const std::size_t there = stations.GetStations(found).size();
   Require(!whole || there == found.size(), "what is found in a whole table is there");
   stations.SearchStationIds("a", false);
+  Require(stations.BestMatches(word).size() <= StatList::kMaxBestMatches, "the best are few");
+  Require(stations.FilterStations(found, word).size() <= found.size(), "a filter adds nothing");
+  for (const StationField field : {StationField::Name, StationField::Description, StationField::BitRate})
+    stations.MakeRanks(field, FoldCase, 100'000);
   for (const std::int32_t id : {1, 7, -3, 2147483647}) {
     const StationRecord record = stations.FindStation(id);
     Require(record.Empty() || record.StationId == id, "the record of its identifier");
