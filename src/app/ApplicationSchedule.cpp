@@ -1,3 +1,6 @@
+// The schedule as the program has it: store, timer, notices and dialogs, put together once. Whatever may have
+// told something ends with RememberSeen; whatever changes items ends with an evaluation, so that the list of
+// what is due is never older than the schedule.
 #include "app/ApplicationSchedule.h"
 
 #include <optional>
@@ -65,6 +68,7 @@ ApplicationSchedule::ApplicationSchedule(const Dependencies& dependencies)
       timer_(calendar_, dependencies.platform.clock, dependencies.platform.messages, timerWindow_, *this),
       notices_(dependencies.context, *this),
       list_(dependencies.context, services_) {
+  // Read at once, not with the first tick: what is due in the first minute must be known by then.
   store_.LoadSchedule(dependencies_.platform.clock.LocalNow().date);
   static_cast<void>(shows_.List());  // what cannot be read is told with the other files
   diary_.Reload();
@@ -81,6 +85,7 @@ bool ApplicationSchedule::Snooze(const ScheduleItem& item, int minutes) {
 
 void ApplicationSchedule::OpenPage(const std::string& address) { dependencies_.pages.OpenWebPage(address); }
 
+// The setting is read with each notice, so a change holds without a new start.
 void ApplicationSchedule::PlaySound() {
   if (dependencies_.reg.Get(setting::kSoundNotify)) dependencies_.program.PlayNoticeSound();
 }
@@ -106,6 +111,7 @@ void ApplicationSchedule::WhileYouWereAway(const std::vector<Occurrence>& missed
                                           dependencies_.platform.clock.LocalNow(), texts_));
 }
 
+// What was missed is told before what is due is made out.
 void ApplicationSchedule::StartWatching() {
   if (const auto seen = ParseServiceTime(dependencies_.reg.Get(setting::kScheduleLastSeen)))
     timer_.CatchUp(*seen);
@@ -113,6 +119,8 @@ void ApplicationSchedule::StartWatching() {
   RememberSeen();
 }
 
+// Also tries again what could not be read at the start, and brings back what a clock that was ahead had
+// dropped. Gives the milliseconds to the next minute.
 unsigned ApplicationSchedule::Minute() {
   const DateTime now = dependencies_.platform.clock.LocalNow();
   if (store_.LoadUnread()) timer_.EvaluateSchedule();
@@ -138,6 +146,7 @@ void ApplicationSchedule::AskForNotification(Form& window, int slot) {
   }
 }
 
+// The slot comes from a message that any program can send, so it is checked like one.
 void ApplicationSchedule::ShowNotification(const std::string& asked) {
   const int slot = AskedItem(asked);
   if (slot < 0 || static_cast<std::size_t>(slot) >= store_.SlotCount()) return;

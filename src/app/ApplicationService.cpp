@@ -1,3 +1,6 @@
+// Updates and the proxy as the program has them. At most one update runs: the dialog takes the place of one
+// in the background, and asking for the dialog while it updates brings it forward. Listeners outlive their
+// updates, since an update may tell of its end from within its own call.
 #include "app/ApplicationService.h"
 
 #include <utility>
@@ -34,6 +37,7 @@ void ApplicationService::StoreAddresses() { WriteServiceDefaults(dependencies_.r
 void ApplicationService::ShowUpdate(HWND owner) { OpenDialog(owner, UpdateOpening::Begin); }
 void ApplicationService::OfferUndo(Form& owner) { OpenDialog(owner.Window(), UpdateOpening::OfferUndo); }
 
+// A dialog that is open and idle is made anew, so it begins like the first time.
 void ApplicationService::OpenDialog(HWND owner, UpdateOpening opening) {
   if (dialog_ && dialog_->IsUpdating()) {
     dialog_->Show(owner);
@@ -95,6 +99,7 @@ void ApplicationService::TellDirectoryChanged() {
   if (!stopped_) dependencies_.listener.DirectoryChanged();
 }
 
+// Nothing is told after this: whoever listens may be gone before the last update has ended.
 void ApplicationService::Stop() {
   stopped_ = true;
   dialog_.reset();
@@ -109,6 +114,7 @@ void ApplicationService::RunPendingWork() {
   background_->Load();
 }
 
+// Empty when the last update brought no list, or the same one.
 std::string ApplicationService::Report() {
   const std::optional<std::string> before = install_.ReplacedStationList();
   const ReadResult now = dependencies_.data.Read(guide_file::kStations);
@@ -139,10 +145,12 @@ void ApplicationService::TestProxy(Form& owner, const std::string& address, cons
       .ShowModal(owner.Window());
 }
 
+// For the first start: a proxy that is set already needs no offer.
 std::string ApplicationService::DetectProxy() {
   return dependencies_.reg.Get(setting::kProxyUse) ? std::string() : FindProxy();
 }
 
+// The system's setting first; the other browser is asked when that has none.
 std::string ApplicationService::FindProxy() {
   const std::string proxy = DetectIeProxy(dependencies_.reg);
   return proxy.empty() ? DetectNetscapeProxy(dependencies_.reg, dependencies_.platform.files) : proxy;

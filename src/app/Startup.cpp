@@ -1,3 +1,6 @@
+// The start in its order. Whatever shows something runs a message loop, in which the user may choose Exit in
+// the tray: GoesOn is asked after each, and a start that does not go on decides nothing and stores nothing
+// more. The numbers given to GoesOn are how far the start is, from 0 to 1.
 #include "app/Startup.h"
 
 #include "base/DataFolder.h"
@@ -44,6 +47,8 @@ bool Startup::AnotherInstanceRuns() {
   return use_.messages.EarlierInstanceRuns();
 }
 
+// Before anything reads a setting. The addresses are written when they are missing, so an update can change
+// them.
 void Startup::PrepareSettings() {
   use_.reg.CheckKeyIsThere(kSettingsKey);
   EnsureInstallId(use_.reg);
@@ -86,6 +91,7 @@ bool CareForStationTable(StatList& stations, TableCheck check, const Strings& st
   return false;
 }
 
+// The splash would lie over the question, so it is taken away and shown again.
 bool Startup::CheckDataFiles(bool askUser, bool& end) {
   const bool missing = DataFilesMissing(use_.data);
   if (!missing || !askUser) return missing;
@@ -101,6 +107,8 @@ bool Startup::CheckDataFiles(bool askUser, bool& end) {
   return true;
 }
 
+// A check that has nothing to say is settled here. One that shows a page leaves the setting to the page,
+// where the user decides whether to be asked again.
 bool Startup::FirstRunChecks() {
   if (use_.reg.Get(setting::kStartPlayer)) {
     if (use_.players.RegisteredRealPlayer().empty() && use_.players.Chosen().empty()) {
@@ -120,6 +128,7 @@ bool Startup::FirstRunChecks() {
   return view_.GoesOn(0.9);
 }
 
+// Offered once, whatever the answer; only Exit leaves it for the next start.
 bool Startup::OfferQuickStart() {
   if (!use_.reg.Get(setting::kStartQuickStart)) return true;
   Message message;

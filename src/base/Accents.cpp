@@ -59,6 +59,8 @@ constexpr char32_t kShortEnd = 0x460;  // Latin, Greek, Cyrillic
 constexpr char32_t kFirstLong = 0x1E00;
 constexpr char32_t kLongEnd = 0x2000;  // Latin and Greek with several marks
 
+// Made by the compiler, two ranges behind each other: one look for each letter. 0 means that a letter has
+// nothing to lose. Letters of one unit only; pairs of units have no accents here.
 constexpr auto kTable = [] {
   std::array<char16_t, kShortEnd + (kLongEnd - kFirstLong)> table{};
   for (const PlainLetter& letter : kPlainLetters) {
@@ -68,6 +70,7 @@ constexpr auto kTable = [] {
   return table;
 }();
 
+// Ligatures become two letters, which the table cannot say.
 void AppendPlain(std::string& out, char32_t code, std::string_view asItIs) {
   const bool isLong = code >= kFirstLong && code < kLongEnd;
   const char16_t plain = code < kShortEnd ? kTable[code] : isLong ? kTable[kShortEnd + code - kFirstLong] : 0;
@@ -86,6 +89,7 @@ void AppendPlain(std::string& out, char32_t code, std::string_view asItIs) {
 
 void AppendWithoutAccents(std::string& out, std::string_view folded) {
   for (std::size_t at = 0; at < folded.size();) {
+    // Most texts are ASCII: whole runs of it are copied without decoding.
     const auto isAscii = [](char c) { return static_cast<unsigned char>(c) < 0x80; };
     const auto start = folded.begin() + static_cast<std::ptrdiff_t>(at);
     const auto run = static_cast<std::size_t>(std::find_if_not(start, folded.end(), isAscii) - start);

@@ -1,3 +1,5 @@
+// The ways of stations out to playlist files and in again, with the system's file dialogs. A path of "" is a
+// dialog that was cancelled, after which nothing is said.
 #include "mainwindow/PlaylistDialogs.h"
 
 #include "forms/FileDialog.h"
@@ -76,6 +78,7 @@ void PlaylistDialogs::ImportPersonalStations() const {
   if (!path.empty()) SayImported(context_.models.transfer.ImportPersonalStations(path));
 }
 
+// Each file is told of by itself: of several, one may be no playlist.
 void PlaylistDialogs::ImportDropped(const std::vector<std::string>& paths,
                                     std::optional<std::size_t> group) const {
   PlaylistTransfer& transfer = context_.models.transfer;
@@ -96,6 +99,7 @@ void PlaylistDialogs::SayImported(const ImportResult& result) const {
                 .caption = strings.Load(IDS_TRANSFER_CAPTION),
                 .text = DescribeImport(result, strings),
                 .firstButton = strings.Load(IDS_GROUP_OK)});
+  // After a partial failure too: the stations that did come in are shown.
   context_.models.listing.GroupsChanged();
   context_.view.PersonalStationsChanged();
 }

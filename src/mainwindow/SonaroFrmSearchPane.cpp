@@ -9,6 +9,8 @@ namespace sonaro {
 
 std::span<const EventRow> SearchPane::Events() const {
   static const EventRow kRows[] = {
+      // Typing and choosing an earlier search are taken alike; a search itself is made by Enter and the
+      // button.
       {txtQuickSearch, Change, &SearchPane::txtQuickSearch_Change},
       {txtQuickSearch, SelChange, &SearchPane::txtQuickSearch_Change},
       {txtQuickSearch, EnterPressed, &SearchPane::FindStation},

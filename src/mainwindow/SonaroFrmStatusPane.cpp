@@ -1,3 +1,5 @@
+// The status line. At rest it tells of the guide; a sentence about what was just done takes its place until
+// the window changes again. While an update runs a progress scale lies over both.
 #include "mainwindow/SonaroFrmStatusPane.h"
 
 #include <algorithm>
@@ -43,6 +45,7 @@ void StatusPane::ShowGuide() {
       FormatText(form_.LoadText(textId), {FormatCount(count, context_.data.state.decimalMode), updated}));
 }
 
+// An offer to undo belongs to the sentence before and goes with it.
 void StatusPane::Say(const std::string& sentence) {
   lblStatus_.SetText(sentence);
   butUndo_.Show(false);
@@ -62,6 +65,8 @@ void StatusPane::WindowChanged() {
   if (said_ == Said::JustNow) said_ = Said::Before;
 }
 
+// A percentage below 0: the length is not known, and the scale stays empty. The update button rests, since
+// two updates would write the same files.
 void StatusPane::ShowProgress(const std::string& what, int percent) {
   form_.ShowPane(kStatusPane, false);
   form_.ShowPane(kProgressPane);

@@ -1,3 +1,5 @@
+// Fills the one list from each of its sources. What the guide does not know is left out before the list sees
+// it, except where rows come straight from a search: those are known.
 #include "mainwindow/StationListFiller.h"
 
 #include <utility>
@@ -52,6 +54,8 @@ void StationListFiller::FillListFromMatches(std::string_view typed, StationRows&
   Show(KeysOf(stations_.BestMatches(typed)), list);
 }
 
+// Of all rows of the fill, not of those shown, so that words taken back bring rows back. The guide's come in
+// the order asked for, so one walk merges them with the user's own.
 std::vector<StationKey> StationListFiller::Fitting(std::string_view words, const StationRows& list) const {
   std::vector<std::int32_t> ids;
   for (const StationKey& key : list.FilledKeys()) {
@@ -85,6 +89,7 @@ std::vector<StationKey> StationListFiller::FillListFromGroup(std::span<const Sta
     }
   }
   list.Fill(std::move(known));
+  // A guide that cannot be read knows nobody; that says nothing about the members.
   if (!missing.empty() && stations_.StationCount() == 0) missing.clear();
   return missing;
 }

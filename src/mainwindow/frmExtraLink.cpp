@@ -1,3 +1,5 @@
+// A link of the user's own for a station of the guide. It is kept by the station's identifier, in a file of
+// its own, so that an update of the guide does not take it away.
 #include "mainwindow/frmExtraLink.h"
 
 #include "forms/DialogRows.h"

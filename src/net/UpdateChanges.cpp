@@ -39,6 +39,7 @@ bool TakeNumber(std::string_view& line, std::size_t& number) {
   return true;
 }
 
+// A backslash and anything else than the four is refused, not kept: the publisher writes no other.
 bool AppendUnescaped(std::string_view text, std::string& out) {
   while (!text.empty()) {
     const std::size_t plain = std::min(text.find('\\'), text.size());

@@ -11,8 +11,11 @@ namespace sonaro {
 
 namespace {
 
+// The dialog says the names in one label; more than these are counted.
 constexpr std::size_t kNamedAtMost = 8;
 
+// Descending by identifier, each once. The lines point into `list`, which must outlive them. What is no
+// station is left out, as the table leaves it out.
 std::vector<StationLine> StationsIn(std::string_view list) {
   std::vector<StationLine> stations;
   StationLine station;
@@ -33,6 +36,7 @@ const StationLine* Find(const std::vector<StationLine>& stations, std::int32_t i
   return at != stations.end() && at->id == id ? &*at : nullptr;
 }
 
+// The first field of the line; the identifier has been taken off.
 std::string NameOf(const StationLine& station) {
   return std::string(station.text.substr(0, station.text.find('\t')));
 }

@@ -1,3 +1,5 @@
+// From a request to a player: the link is chosen, judged, and handed to the program that plays its kind. What
+// went wrong is an outcome; telling the user of it is a step of its own, since a scan goes on without a word.
 #include "playback/PlayerLaunch.h"
 
 #include <algorithm>
@@ -26,6 +28,7 @@ std::string LinkOf(const Station& station, PlayMode mode) {
   return found != links.end() ? *found : std::string();
 }
 
+// A page is an outcome of its own: nothing plays, but the request was served.
 LaunchOutcome FromWebPage(WebPageOutcome outcome) {
   switch (outcome) {
     case WebPageOutcome::Opened:

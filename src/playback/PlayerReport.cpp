@@ -1,3 +1,5 @@
+// What plays how many stations of the guide. Counting reads every record, so it is done once and kept; which
+// programs there are is asked anew with each report, since the user may install one meanwhile.
 #include "playback/PlayerReport.h"
 
 #include <algorithm>

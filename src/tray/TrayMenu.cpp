@@ -1,3 +1,5 @@
+// The tray's menu is made with each opening. Entries are numbers in a row; what they stand for is kept here
+// by value until the next opening, so a list that changes under the open menu starts no other station.
 #include "tray/TrayMenu.h"
 
 #include <algorithm>
@@ -40,6 +42,7 @@ MenuEntries TrayMenu::RecentStations() {
   return menu;
 }
 
+// The group itself and a line come first; a group with nothing more has no menu of its own.
 MenuEntries TrayMenu::StationsOf(std::size_t group) {
   MenuEntries menu = {Entry(mnuTrayGroup + static_cast<int>(group), IDS_TRAY_SHOW_GROUP), {}};
   for (const StationKey& station : groups_.Keys(group)) {

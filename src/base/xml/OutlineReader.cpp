@@ -79,6 +79,8 @@ std::string XmlElement::Value(std::initializer_list<std::string_view> names) con
   return {};
 }
 
+// Nothing at the end and after damage. Elements read before the damage stand: a list that was cut off gives
+// the stations up to there.
 std::optional<XmlElement> OutlineReader::Next() {
   while (!damaged_) {
     const std::size_t tag = rest_.find('<');
@@ -113,6 +115,8 @@ bool OutlineReader::SkipTo(std::string_view end) {
   return true;
 }
 
+// A document type with declarations of its own ends at its first ">". What is left of it holds no elements
+// and does no harm.
 bool OutlineReader::SkipMarkup() {
   if (rest_.starts_with("!--")) return SkipTo("-->");
   if (rest_.starts_with("![CDATA[")) return SkipTo("]]>");
@@ -148,6 +152,7 @@ bool OutlineReader::ReadAttributes(XmlElement& element) {
   }
 }
 
+// Values stand in quotes of either kind. One without is damage: where it ends would be a guess.
 bool OutlineReader::ReadAttribute(XmlElement& element) {
   const std::string_view name = TakeName();
   SkipBlanks();

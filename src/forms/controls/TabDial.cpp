@@ -1,3 +1,6 @@
+// The dial over the main window: a glass scale of ticks with one tab for each view, and a needle that points
+// at the view on show. Each tab is a button of its own; ticks are counted from the scale's start, so they run
+// on from tab to tab at every dpi.
 #include "forms/controls/TabDial.h"
 
 #include <algorithm>
@@ -44,6 +47,7 @@ void PaintNeedle(HDC dc, const RECT& box, int at, const Painter& painter) {
 
 }  // namespace
 
+// The ground that the form paints once, ticks of all tabs in their idle colour.
 void PaintDial(HDC dc, const RECT& box, const Painter& painter) {
   painter.Glass(dc, box);
   const int inset = painter.Px(kInset);
@@ -73,6 +77,7 @@ void PaintTab(HDC dc, const RECT& box, const TabPicture& tab, const Painter& pai
     painter.Fill(dc, {box.left, box.top + painter.Px(kDividerTop), box.left + painter.Line(), bottom},
                  colors.hair);
   if (tab.needle) PaintNeedle(dc, box, *tab.needle, painter);
+  // A pressed tab moves its text by a line; its ground stays.
   const int down = tab.pressed ? painter.Line() : 0;
   painter.Text(dc, {box.left, box.top + down, box.right, box.top + painter.Px(kLabelHeight) + down}, tab.text,
                tab.active ? TextStyle::MessageStrong : TextStyle::Message,

@@ -1,3 +1,6 @@
+// The registry by its byte functions: names and values are bytes of the program's code page, and values are
+// handed on as they are stored, terminating zero and all. Keys are opened for each call and closed after it,
+// so no handle outlives a change by another program.
 #include "platform/win/PlatformWin.h"
 
 #include <windows.h>
@@ -21,14 +24,17 @@ RegistryKey OpenKey(RootKey root, const std::string& key, REGSAM access) {
 
 }  // namespace
 
+// A key that may not be read counts as missing: nothing could be done with it.
 bool RegistryWin::KeyExists(RootKey root, const std::string& key) {
   return static_cast<bool>(OpenKey(root, key, KEY_QUERY_VALUE));
 }
 
+// By opening it with all the rights that writing takes; nothing is written.
 bool RegistryWin::CanWrite(RootKey root, const std::string& key) {
   return static_cast<bool>(OpenKey(root, key, kAllSpecificRights));
 }
 
+// Makes the keys above it as well; a key that is there is no failure.
 bool RegistryWin::CreateKey(RootKey root, const std::string& key) {
   RegistryKey created;
   return RegCreateKeyA(Root(root), key.c_str(), created.Receive()) == ERROR_SUCCESS;
