@@ -46,19 +46,28 @@ void PersonalPane::mnuPersonalChange_Click() {
 }
 
 void PersonalPane::Delete() {
-  const PersonalStation* station = Meant();
-  if (station == nullptr) return;
-  const PersonalStation deleted = *station;  // while the question stands the stations may be read anew
-  if (!ConfirmDelete(deleted.name)) return;
-  const bool saved = Saved(context_.data.personal.Delete(deleted.index));
+  std::vector<PersonalStation> deleted;  // while the question stands the stations may be read anew
+  std::vector<std::int32_t> indices;
+  for (const StationKey& station : context_.models.subject.Stations()) {
+    const PersonalStation* own = station.IsOfUser() ? context_.data.personal.Find(station.number) : nullptr;
+    if (own == nullptr) continue;
+    deleted.push_back(*own);
+    indices.push_back(own->index);
+  }
+  if (deleted.empty()) return;
+  const Strings& strings = context_.data.strings;
+  const std::string what =
+      deleted.size() == 1 ? deleted.front().name
+                          : FormatText(strings.Load(IDS_COUNT_STATIONS), {std::to_string(deleted.size())});
+  if (!ConfirmDelete(what)) return;
+  const bool saved = Saved(context_.data.personal.DeleteAll(indices));
   context_.view.PersonalStationsChanged();
   if (!saved) return;
-  context_.services.undo.Add(FormatText(context_.data.strings.Load(IDS_PERSONAL_DELETED), {deleted.name}),
-                             [this, deleted] {
-                               const bool back = Saved(context_.data.personal.PutBack(deleted));
-                               context_.view.PersonalStationsChanged();
-                               return back ? UndoResult::Done : UndoResult::Kept;
-                             });
+  context_.services.undo.Add(FormatText(strings.Load(IDS_PERSONAL_DELETED), {what}), [this, deleted] {
+    const bool back = Saved(context_.data.personal.PutBackAll(deleted));
+    context_.view.PersonalStationsChanged();
+    return back ? UndoResult::Done : UndoResult::Kept;
+  });
 }
 
 // Says the failure itself, so callers only have to stop.

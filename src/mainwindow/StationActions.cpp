@@ -3,6 +3,7 @@
 // menu changes nothing.
 #include "mainwindow/StationActions.h"
 
+#include <algorithm>
 #include <array>
 #include <utility>
 
@@ -79,7 +80,10 @@ MenuEntry StationActions::Entry(int command, int textId, bool enabled) const {
 MenuEntry StationActions::StationEntry(int command, int textId, const StationDetail& detail) const {
   const bool selected = static_cast<bool>(detail.station);
   MenuEntry entry = Entry(command, textId, selected);
-  const std::size_t several = ActsOnSeveral(command) ? listing_.Rows().SelectedRows().size() : 1;
+  const std::vector<StationKey> keys = listing_.Rows().SelectedKeys();
+  const auto several = !ActsOnSeveral(command)        ? 1
+                       : command == mnuPersonalDelete ? std::ranges::count_if(keys, &StationKey::IsOfUser)
+                                                      : static_cast<std::ptrdiff_t>(keys.size());
   const std::string name = several > 1
                                ? FormatText(strings_.Load(IDS_ACTION_STATIONS), {std::to_string(several)})
                            : detail.name.empty() ? strings_.Load(IDS_ACTION_ANY_STATION)

@@ -162,29 +162,35 @@ bool PersonalStations::Change(const PersonalStation& station) {
   return Save(std::move(changed));
 }
 
-bool PersonalStations::Delete(std::int32_t index) {
+bool PersonalStations::DeleteAll(std::span<const std::int32_t> indices) {
   if (!Refresh()) return false;
-  const auto found = lineOf_.find(index);
-  if (found == lineOf_.end()) return false;
   std::vector<Line> changed = lines_;
-  // The index alone stays behind in the file: it is taken for ever, since groups or the schedule may still
-  // name it.
-  changed[found->second] = {{}, std::to_string(index)};
-  return Save(std::move(changed));
+  bool any = false;
+  for (const std::int32_t index : indices) {
+    const auto found = lineOf_.find(index);
+    if (found == lineOf_.end()) continue;
+    // The index alone stays behind in the file: it is taken for ever, since groups or the schedule may still
+    // name it.
+    changed[found->second] = {{}, std::to_string(index)};
+    any = true;
+  }
+  return any && Save(std::move(changed));
 }
 
-bool PersonalStations::PutBack(const PersonalStation& station) {
+bool PersonalStations::PutBackAll(std::span<const PersonalStation> stations) {
   if (!Refresh()) return false;
-  if (lineOf_.contains(station.index)) return true;
   std::vector<Line> changed = lines_;
-  const std::string left = std::to_string(station.index);
-  const auto place = std::find_if(changed.begin(), changed.end(), [&](const Line& line) {
-    return line.station.index == 0 && line.kept == left;
-  });
-  if (place != changed.end()) {
-    *place = {station, {}};
-  } else {
-    changed.push_back({station, {}});
+  for (const PersonalStation& station : stations) {
+    if (lineOf_.contains(station.index)) continue;
+    const std::string left = std::to_string(station.index);
+    const auto place = std::find_if(changed.begin(), changed.end(), [&](const Line& line) {
+      return line.station.index == 0 && line.kept == left;
+    });
+    if (place != changed.end()) {
+      *place = {station, {}};
+    } else {
+      changed.push_back({station, {}});
+    }
   }
   return Save(std::move(changed));
 }

@@ -78,10 +78,12 @@ class PersonalStations {
   [[nodiscard]] std::vector<std::int32_t> AddAll(std::span<const PersonalStation> stations);
   // Replaces the station with `station.index`.
   [[nodiscard]] bool Change(const PersonalStation& station);
-  [[nodiscard]] bool Delete(std::int32_t index);
-  // A deleted station back under its own index, so that groups and the schedule find it again; to its place
-  // if that is known. True as well when it is there already.
-  [[nodiscard]] bool PutBack(const PersonalStation& station);
+  [[nodiscard]] bool Delete(std::int32_t index) { return DeleteAll({&index, 1}); }
+  // Several with one write. False also when none of them was there.
+  [[nodiscard]] bool DeleteAll(std::span<const std::int32_t> indices);
+  // Deleted stations back under their own indices, so that groups and the schedule find them again; to their
+  // places if these are known. True as well when they are there already.
+  [[nodiscard]] bool PutBackAll(std::span<const PersonalStation> stations);
 
  private:
   // A line of the file: a station, or, with index 0, a line that is kept as it stands.

@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <array>
 
 #include "base/DataFolder.h"
 #include "fakes/FakeFiles.h"
@@ -90,11 +91,12 @@ TEST_F(OwnDataTest, StationSurvivesARestartWithEveryField) {
 TEST_F(OwnDataTest, AnIndexIsNeverGivenTwice) {
   for (const char* name : {"A", "B", "C"}) stations_.Add(Named(name));
   const PersonalStation first = *stations_.Find(1);
-  EXPECT_TRUE(stations_.Delete(3));
-  EXPECT_TRUE(stations_.Delete(1));
+  const std::array<std::int32_t, 3> gone = {3, 77, 1};
+  EXPECT_TRUE(stations_.DeleteAll(gone));
   EXPECT_FALSE(stations_.Delete(1));
   EXPECT_EQ(stations_.Add(Named("D")), 4);
-  EXPECT_TRUE(stations_.PutBack(first) && stations_.PutBack(first));
+  const std::array<PersonalStation, 2> back = {first, *stations_.Find(2)};  // the second was never gone
+  EXPECT_TRUE(stations_.PutBackAll(back) && stations_.PutBackAll(back));
   EXPECT_EQ(Reloaded().All(), stations_.All());
   EXPECT_EQ(stations_.All().size(), 3u);
   EXPECT_EQ(stations_.All().front(), first);
