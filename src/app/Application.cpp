@@ -69,6 +69,7 @@ Application::Application(const Platform& platform, const Strings& strings, const
   player_.SetView(this);
   pages_.SetView(this);
   context_.listener = this;
+  context_.settings = &reg_;
 }
 
 Application::~Application() = default;
@@ -206,10 +207,11 @@ void Application::PlaceMainWindow() {
   }
 }
 
-// A minimised window is somewhere off the screen, which is no place to come back to.
+// A minimised window is somewhere off the screen, and a maximised one in its corner, which are no places to
+// come back to.
 void Application::RememberPlace() {
   RECT box{};
-  if (!main_ || IsIconic(main_->Window()) || !GetWindowRect(main_->Window(), &box)) return;
+  if (!main_ || IsIconic(main_->Window()) || IsZoomed(main_->Window()) || !GetWindowRect(main_->Window(), &box)) return;
   reg_.Set(setting::kMainPlace, std::to_string(box.left) + "," + std::to_string(box.top));
 }
 

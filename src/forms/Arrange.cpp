@@ -100,6 +100,10 @@ DesignSize SizeOf(const FormDesign& design, int layout) {
   return other ? other->size : design.size;
 }
 
+bool CanResize(const FormDesign& design, int layout) {
+  return design.keptSize != nullptr && !SizedLayoutOf(design, layout);
+}
+
 const char* OutlineOf(const FormDesign& design, int layout) {
   const Layout* other = SizedLayoutOf(design, layout);
   return other ? other->outline : design.outline;

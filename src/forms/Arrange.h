@@ -36,6 +36,7 @@ PixelRect Arrange(const DesignRect& at, unsigned anchors, DesignSize design, Pix
 // A row as the layout places it; nullptr: the layout has no place for it. Layout 0 is the table itself.
 const DesignRect* BoundsIn(const FormDesign& design, int layout, const ControlRow& row);
 DesignSize SizeOf(const FormDesign& design, int layout);
+bool CanResize(const FormDesign& design, int layout);
 // The window's outline, and the size of the window that it was made for.
 const char* OutlineOf(const FormDesign& design, int layout);
 DesignSize OutlineSizeOf(const FormDesign& design, int layout);

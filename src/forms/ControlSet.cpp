@@ -9,8 +9,10 @@
 #include <utility>
 
 #include "forms/FormWindow.h"
+#include "forms/Resizing.h"
 #include "forms/Screen.h"
 #include "forms/WideText.h"
+#include "forms/controls/ListView.h"
 #include "forms/controls/ToolTips.h"
 #include "platform/SystemFunction.h"
 
@@ -115,16 +117,28 @@ void ControlSet::GrowFor(const ControlInstance& label, std::string_view text) {
 }
 
 // Controls that the layout does not name keep their old place, hidden.
-void ControlSet::Place(const Painter& painter) {
+void ControlSet::Place(const Painter& painter, PixelSize client) {
   const DesignSize made = SizeOf(design_, layout_);
-  const PixelSize client = ScaleToDpi(Size(), painter.Dpi());
   for (ControlInstance& item : items_) {
     if (const DesignRect* at = BoundsIn(design_, layout_, *item.row)) {
-      item.place = Arrange(*at, item.row->anchors, made, client, painter.Dpi());
+      item.place = ArrangeRow(design_, *item.row, *at, made, client, painter.Dpi());
       PlaceWindow(item, painter);
     }
     ShowOrHide(item);
   }
+}
+
+// The header buttons that stand on the list's upper edge say how wide its columns are; their rows come before
+// the list's, so they have their places.
+void ControlSet::PlaceColumnsBelowHeaders(const ControlInstance& list) {
+  std::vector<int> edges;
+  for (const ControlInstance& item : items_) {
+    if (item.KindOf() == ControlKind::HeaderButton && item.place.bottom == list.place.top &&
+        item.place.left >= list.place.left && item.place.right <= list.place.right) {
+      edges.push_back(item.place.right - list.place.left);
+    }
+  }
+  static_cast<ListView&>(*list.view).SetColumnEdges(std::move(edges));
 }
 
 // Without SWP_NOCOPYBITS the old picture would be moved along, with the ground of where it was.
@@ -135,6 +149,7 @@ void ControlSet::PlaceWindow(ControlInstance& item, const Painter& painter) {
   item.box = box;
   if (item.view) {
     if (moved) item.view->MoveTo(box);
+    if (item.KindOf() == ControlKind::ListView) PlaceColumnsBelowHeaders(item);
     return;
   }
   if (IsCombo(item.KindOf())) return SizeCombo(painter, item);

@@ -42,8 +42,8 @@ class ControlSet {
   DesignSize Size() const;
   // Makes the form as much higher than its layout as the text in this label needs.
   void GrowFor(const ControlInstance& label, std::string_view text);
-  // To where layout and size put them.
-  void Place(const Painter& painter);
+  // To where the layout puts them in a client area of this many pixels.
+  void Place(const Painter& painter, PixelSize client);
   void ShowOrHide(ControlInstance& item);
   void ShowPane(int pane, bool shown);
 
@@ -77,6 +77,7 @@ class ControlSet {
   std::unique_ptr<FormControl> MakeView(const ControlRow& row);  // nullptr: a control of a system class
   TTTOOLINFOW ToolOf(const ControlInstance& item) const;
   void PlaceWindow(ControlInstance& item, const Painter& painter);
+  void PlaceColumnsBelowHeaders(const ControlInstance& list);
 
   FormWindow& form_;
   const FormDesign& design_;

@@ -80,6 +80,7 @@
 
 namespace sonaro {
 
+class CReg;
 class Faceplate;
 class FormWindow;
 class Painter;
@@ -104,6 +105,7 @@ struct FormContext {
   Faceplate& faceplate;  // a form that hears of a high-contrast theme sets it
   const Shape& shape;
   FormListener* listener = nullptr;  // set by Application, whose parts have the context before it is complete
+  CReg* settings = nullptr;          // where sizes are kept; nullptr: nowhere
 };
 
 class Form : public EventTarget {

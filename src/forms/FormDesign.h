@@ -9,6 +9,10 @@
 
 namespace sonaro {
 
+namespace setting {
+struct Text;
+}
+
 struct DesignSize {
   int width = 0;
   int height = 0;
@@ -156,6 +160,19 @@ struct Layout {
   enum class Others { Hidden, AsDesigned } others = Others::Hidden;
 };
 
+// How the controls that stand within a rectangle go with a window that the user makes larger: how much of
+// what it gained each side of the rectangle moves by, in percent. Edges between go in proportion: where
+// both ends move alike, controls keep their size. The first that holds a control counts, smaller ones stand
+// before larger. A control in none goes by its anchors.
+struct Stretch {
+  DesignRect at;
+  unsigned char left = 0;
+  unsigned char right = 0;
+  unsigned char top = 0;
+  unsigned char bottom = 0;
+  unsigned char pane = 0;  // 0: controls of any
+};
+
 // A key of the keyboard that does what pressing the control (or choosing the menu entry) `command` does. A
 // row can stand for a run of keys, each with the next command: '1' to '9' for a control array.
 enum KeyModifier : unsigned char { kPlain = 0, kShift = 1, kCtrl = 2, kAlt = 4 };
@@ -184,6 +201,10 @@ struct FormDesign {
   int firstFocus = 0;        // 0 = the primary button, or the first tab stop
   bool draggable = true;     // moved by its background and passive labels
   bool besideModal = false;  // takes input while a modal form waits for its answer
+  // With it the window can be made larger than its size, and maximised, in every layout without a size of its
+  // own; this is where the size is kept.
+  const setting::Text* keptSize = nullptr;
+  std::span<const Stretch> stretches = {};
 };
 
 }  // namespace sonaro

@@ -2,6 +2,7 @@
 // place.
 #include <algorithm>
 #include <array>
+#include <utility>
 
 #include "faceplate/Faceplate.h"
 #include "forms/FormWindow.h"
@@ -57,6 +58,7 @@ void RegisterFormClass(const wchar_t* name, WNDPROC procedure) {
   if (GetClassInfoExW(GetModuleHandleW(nullptr), name, &description)) return;
   description = {};
   description.cbSize = sizeof(description);
+  description.style = CS_DBLCLKS;
   description.lpfnWndProc = procedure;
   description.cbWndExtra = DLGWINDOWEXTRA;
   description.hInstance = GetModuleHandleW(nullptr);
@@ -123,6 +125,7 @@ bool FormWindow::BuildWindow(HWND owner) {
   std::copy(name.begin(), name.begin() + static_cast<std::ptrdiff_t>(std::min<std::size_t>(name.size(), 60)),
             empty.texts.begin() + 1);
   ChooseDpi(MonitorOf(owner));
+  ReadSize();
   window_ = CreateDialogIndirectParamW(GetModuleHandleW(nullptr), &empty.head, owner, nullptr, 0);
   if (!window_) return false;
   SetWindowLongPtrW(window_, GWLP_USERDATA, reinterpret_cast<LONG_PTR>(this));
@@ -161,7 +164,7 @@ void FormWindow::Show(HWND owner) {
   if (!Create(owner) || !window_) return;
   if (!placed_) CentreOn(owner);
   if (IsIconic(window_)) ShowWindow(window_, SW_RESTORE);
-  ShowWindow(window_, SW_SHOW);
+  ShowWindow(window_, std::exchange(toMaximise_, false) ? SW_SHOWMAXIMIZED : SW_SHOW);
   SetForegroundWindow(window_);
   keys_.GiveFirstFocus();
 }
@@ -277,24 +280,6 @@ void FormWindow::UseDpi(int dpi, Fit fit) {
   const auto former = paint_.Renew(fitting);  // its fonts are in use until the controls have the new ones
   controls_.TakeTheme(Theme());
   Resize();
-}
-
-void FormWindow::Resize() {
-  if (!window_) return;
-  const int dpi = Theme().Dpi();
-  const int layout = controls_.Layout();
-  const PixelSize made = ScaleToDpi(OutlineSizeOf(design_, layout), dpi);
-  const PixelSize size = ScaleToDpi(controls_.Size(), dpi);
-  SetWindowPos(window_, nullptr, 0, 0, size.width, size.height, SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
-  // The outline of the size before would cut off what the new one adds, also where the point file has no
-  // outline.
-  RECT shaped{};
-  if (GetWindowRgnBox(window_, &shaped) != ERROR) SetWindowRgn(window_, nullptr, FALSE);
-  ApplyWindowShape(window_, OutlineOf(design_, layout), context_.shape, dpi, {made.width, made.height});
-  needle_.Stop();
-  controls_.Place(Theme());
-  paint_.DiscardGround();
-  RedrawWindow(window_, nullptr, nullptr, RDW_INVALIDATE | RDW_ALLCHILDREN);
 }
 
 }  // namespace sonaro

@@ -2,8 +2,6 @@
 // tables.
 #include "forms/FormWindow.h"
 
-#include <array>
-
 #include "forms/ControlIds.h"
 #include "forms/Guard.h"
 #include "forms/Screen.h"
@@ -11,22 +9,6 @@
 #include "settings/Strings.h"
 
 namespace sonaro {
-namespace {
-
-// What Alt+Space opens: moving, minimising and closing by the keyboard.
-void ShowSystemMenu(HWND window) {
-  RECT place{};
-  GetWindowRect(window, &place);
-  const BOOL command =
-      TrackPopupMenu(GetSystemMenu(window, FALSE), TPM_RETURNCMD, place.left, place.top, 0, window, nullptr);
-  if (command != 0) PostMessageW(window, WM_SYSCOMMAND, static_cast<WPARAM>(command), 0);
-}
-
-POINT PointOf(LPARAM lParam) {
-  return {static_cast<short>(LOWORD(lParam)), static_cast<short>(HIWORD(lParam))};
-}
-
-}  // namespace
 
 // By the procedure and not by the class: each design has a window class of its own. A window of another
 // thread is not looked into, its form may be ending there.
@@ -84,6 +66,9 @@ LRESULT FormWindow::HandleMessage(UINT message, WPARAM wParam, LPARAM lParam) {
     case WM_MBUTTONDOWN:
     case WM_RBUTTONUP:
     case WM_MBUTTONUP:
+    case WM_LBUTTONDBLCLK:
+    case WM_RBUTTONDBLCLK:
+    case WM_MBUTTONDBLCLK:
       return HandlePointer(message, wParam, lParam);
     case WM_CONTEXTMENU:
       return HandleContextMenu(reinterpret_cast<HWND>(wParam), lParam);
@@ -98,6 +83,16 @@ LRESULT FormWindow::HandleMessage(UINT message, WPARAM wParam, LPARAM lParam) {
     case WM_THEMECHANGED:
     case WM_SETTINGCHANGE:
       return HandleSurroundings(message, wParam, lParam);
+    case WM_NCCALCSIZE:
+    case WM_NCPAINT:
+    case WM_NCACTIVATE:
+    case WM_NCHITTEST:
+    case WM_GETMINMAXINFO:
+    case WM_SIZE:
+    case WM_ENTERSIZEMOVE:
+    case WM_EXITSIZEMOVE:
+      return CanResize(design_, controls_.Layout()) ? HandleFrame(message, wParam, lParam)
+                                                    : DefDlgProcW(window_, message, wParam, lParam);
     case WM_CLOSE:
     case WM_DESTROY:
     case WM_NCDESTROY:
@@ -124,7 +119,7 @@ LRESULT FormWindow::HandleKeyboard(UINT message, WPARAM wParam, LPARAM lParam) {
       if ((wParam & 0xFFF0) != SC_KEYMENU) break;
       // The system would walk along a menu bar that is not there, and draw its picture into the window's
       // corner.
-      if (lParam == L' ') ShowSystemMenu(window_);
+      if (lParam == L' ') ShowSystemMenu();
       return 0;
     default: {  // DM_GETDEFID
       const ControlInstance* primary = keys_.ShownPrimary();
@@ -251,46 +246,12 @@ LRESULT FormWindow::HandleDrawing(UINT message, WPARAM wParam, LPARAM lParam) {
   }
 }
 
-// A press on the background or a label drags the form. The glass around an edit is painted by the form but
-// belongs to the edit for the user.
-LRESULT FormWindow::HandlePointer(UINT message, WPARAM wParam, LPARAM lParam) {
-  if (message == WM_RBUTTONUP || message == WM_MBUTTONUP) {
-    if (!moving_) return DefDlgProcW(window_, message, wParam, lParam);
-    // The move loop waits for the left button alone; a drag by another one would never end.
-    PostMessageW(window_, WM_LBUTTONUP, 0, lParam);
-    return 0;
-  }
-  const POINT at = PointOf(lParam);
-  for (const ControlInstance& item : controls_.All()) {
-    const RECT glass = ToRect(item.place);
-    if (!IsEdit(item.KindOf()) || !item.shown || !PtInRect(&glass, at)) continue;
-    if (message == WM_LBUTTONDOWN && IsWindowEnabled(item.window)) SetFocus(item.window);
-    return 0;
-  }
-  if (design_.draggable) Drag();
-  return 0;
-}
-
-// The loop lets messages in: another button that goes down meanwhile must not begin a second one inside it.
-void FormWindow::Drag() {
-  if (moving_) return;
-  RECT before{};
-  GetWindowRect(window_, &before);
-  moving_ = true;
-  ReleaseCapture();
-  SendMessageA(window_, WM_NCLBUTTONDOWN, HTCAPTION, 0);  // returns when the system's move loop has ended
-  moving_ = false;
-  RECT after{};
-  if (!window_ || !GetWindowRect(window_, &after)) return;
-  if (form_ && !EqualRect(&before, &after)) form_->OnMoved();
-}
-
 // Lists and trees raise the event themselves, since they know the row. lParam is -1 when it was the
 // keyboard.
 LRESULT FormWindow::HandleContextMenu(HWND control, LPARAM lParam) {
   const ControlInstance* item = controls_.Find(control);
   if (!item || item->view) return 0;
-  POINT at = PointOf(lParam);
+  POINT at = {static_cast<short>(LOWORD(lParam)), static_cast<short>(HIWORD(lParam))};
   if (lParam == -1) {  // by the keyboard
     RECT box{};
     GetWindowRect(control, &box);
@@ -310,7 +271,7 @@ LRESULT FormWindow::HandleSurroundings(UINT message, WPARAM wParam, LPARAM lPara
     UseDpi(HIWORD(wParam));
     return 0;
   }
-  if (message == WM_DISPLAYCHANGE) {
+  if (message == WM_DISPLAYCHANGE && !IsZoomed(window_)) {
     RECT box{};
     GetWindowRect(window_, &box);
     MoveToPixels(box.left, box.top);

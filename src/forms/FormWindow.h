@@ -11,6 +11,7 @@
 #include "forms/ControlSet.h"
 #include "forms/FocusKeys.h"
 #include "forms/FormPaint.h"
+#include "forms/Resizing.h"
 #include "forms/TabNeedle.h"
 
 namespace sonaro {
@@ -37,7 +38,7 @@ class FormWindow final : public FormServices {
   std::string TextOf(const ControlText& text) const;
   std::string LoadText(int stringId) const;
 
-  // FormRunning.cpp: what Form's functions of these names do.
+  // FormRunning.cpp, FormFrame.cpp: what Form's functions of these names do.
   bool Create(HWND owner);
   void Show(HWND owner);
   void ShowInactive();
@@ -49,7 +50,8 @@ class FormWindow final : public FormServices {
   void MoveToPixels(int left, int top);
   void CentreOn(HWND other);
 
-  // At the layout's size and the dpi, outline included; the controls at their places.
+  // At the dpi and at the layout's size, or at the larger one that the user has given it; outline
+  // and controls with it.
   void Resize();
   // Makes everything anew for `dpi`, with Fit for the largest that lets the form fit its work area. The
   // window keeps its corner.
@@ -102,6 +104,17 @@ class FormWindow final : public FormServices {
   LRESULT HandleContextMenu(HWND control, LPARAM lParam);
   LRESULT HandleSurroundings(UINT message, WPARAM wParam, LPARAM lParam);
   LRESULT HandleEnd(UINT message, WPARAM wParam, LPARAM lParam);
+  LRESULT HandleFrame(UINT message, WPARAM wParam, LPARAM lParam);
+  LRESULT HitOfFrame(LPARAM at) const;
+  void LimitSize(MINMAXINFO& limits) const;
+  void SizeChanged(bool maximised);
+  void ToggleMaximised() const;
+  void ReadSize();
+  void KeepSize() const;
+  void UseFrame(bool resizable);
+  PixelSize SizeWanted() const;
+  void FitToWindow();  // outline and controls go with its size of now
+  void ShowSystemMenu() const;
   void HandleCombo(const ControlInstance& item, int code);
   void Drag();
 
@@ -117,6 +130,10 @@ class FormWindow final : public FormServices {
   bool modal_ = false;    // ShowModal runs
   bool closing_ = false;  // Close was called
   bool moving_ = false;   // the system's move loop runs
+  bool sizing_ = false;   // its size loop runs, which ends with the size that is kept
+  bool fitting_ = false;  // Resize runs: what changes the size is not the user
+  KeptSize user_;         // what the user has made of the size
+  bool toMaximise_ = false;  // when it is shown for the first time
   bool placed_ = false;   // the program has said where the window lies
   int result_ = 0;        // of ShowModal
   int depth_ = 0;         // nested calls of the window procedure

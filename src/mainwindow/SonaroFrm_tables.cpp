@@ -6,6 +6,7 @@
 #include "mainwindow/SonaroFrm.h"
 #include "mainwindow/SonaroFrm_panes.h"
 #include "resources/texts/mainwindow.h"
+#include "settings/SettingNames.h"
 
 namespace sonaro {
 namespace {
@@ -472,6 +473,66 @@ constexpr Layout kLayouts[] = {{.places = kWithMissing, .others = Layout::Others
 constexpr unsigned char kLatePanes[] = {kTreePane,     kSearchPane,    kYoursPane,  kWebPane,    kEventPane,
                                         kProgressPane, kNoStationPane, kFilterPane, kOutsidePane};
 
+// What the window gains goes to the list, most of it to its names, and some to the left column; the panel of
+// the station keeps its width.
+constexpr unsigned char kSide = 18;
+constexpr Stretch kStretches[] = {
+    // Title, dial and group bar.
+    {{720, 8, 260, 30}, 100, 100, 0, 0},
+    {{14, 42, 952, 92}, 0, 100, 0, 0},
+
+    // The left column.
+    {{14, 164, 200, 234}, 0, kSide, 0, 100, kYoursPane},
+    {{14, 406, 200, 180}, 0, kSide, 100, 100, kYoursPane},
+    {{14, 526, 200, 60}, 0, kSide, 100, 100, kSearchPane},
+    {{14, 456, 200, 130}, 0, kSide, 100, 100, kRankingPane},
+    {{14, 137, 200, 376}, 0, kSide, 0, 0},
+    {{14, 164, 200, 422}, 0, kSide, 0, 100, kTreePane},
+
+    // The line above the middle, then the header buttons and the filter's row.
+    {{224, 137, 128, 24}, kSide, 100, 0, 0},
+    {{224, 137, 312, 24}, kSide, 100, 0, 0},
+    {{338, 136, 378, 26}, 100, 100, 0, 0},
+    {{224, 164, 186, 56}, kSide, 66, 0, 0, kListPane},
+    {{410, 164, 112, 56}, 66, 88, 0, 0, kListPane},
+    {{522, 164, 82, 56}, 88, 92, 0, 0, kListPane},
+    {{604, 164, 112, 56}, 92, 100, 0, 0, kListPane},
+    {{224, 164, 118, 26}, kSide, 44, 0, 0, kFilterPane},
+    {{344, 164, 22, 26}, 44, 44, 0, 0, kFilterPane},
+    {{370, 164, 118, 26}, 44, 68, 0, 0, kFilterPane},
+    {{490, 164, 22, 26}, 68, 68, 0, 0, kFilterPane},
+    {{516, 164, 100, 26}, 68, 88, 0, 0, kFilterPane},
+    {{618, 164, 22, 26}, 88, 88, 0, 0, kFilterPane},
+    {{642, 164, 74, 26}, 88, 100, 0, 0, kFilterPane},
+
+    // The middle.
+    {{224, 220, 492, 366}, kSide, 100, 0, 100, kListPane},
+    {{224, 188, 492, 398}, kSide, 100, 0, 100, kListPane},
+    {{224, 556, 492, 30}, kSide, kSide, 100, 100, kEventPane},
+    {{224, 164, 492, 382}, kSide, 100, 0, 100, kEventPane},
+    {{244, 352, 190, 30}, kSide, kSide, 0, 0, kWebPane},
+    {{244, 180, 452, 164}, kSide, 100, 0, 0, kWebPane},
+    {kMiddle, kSide, 100, 0, 100, kWebPane},
+
+    // The selected station.
+    {{740, 290, 212, 82}, 100, 100, 50, 50, kNoStationPane},
+    {{726, 140, 240, 60}, 100, 100, 0, 0, kStationPane},
+    {{740, 202, 224, 68}, 100, 100, 0, 25, kStationPane},
+    {{726, 272, 240, 264}, 100, 100, 25, 25, kStationPane},
+    {{726, 536, 240, 50}, 100, 100, 100, 100, kStationPane},
+    {{726, 140, 240, 446}, 100, 100, 0, 100},
+
+    // The status line and the keys of the other windows.
+    {{14, 592, 952, 2}, 0, 100, 100, 100},
+    {{580, 598, 386, 34}, 100, 100, 100, 100},
+    {{482, 599, 72, 24}, 100, 100, 100, 100},
+    {{26, 599, 92, 24}, 0, 0, 100, 100},
+    {{26, 599, 448, 24}, 0, 100, 100, 100, kStatusPane},
+    {{126, 599, 366, 24}, 0, 100, 100, 100},
+    {{500, 599, 54, 24}, 100, 100, 100, 100},
+    {{14, 599, 546, 24}, 0, 100, 100, 100},
+};
+
 // Keys with a control in the last column work only while it has the focus: Del would else delete a station
 // while the user edits words. Groups have no access keys, since a name may hold any character:
 // digits with Alt or Ctrl are rows of this table.
@@ -518,7 +579,9 @@ const FormDesign& SonaroFrm::Design() {
                                      .layouts = kLayouts,
                                      .keys = kKeys,
                                      .latePanes = kLatePanes,
-                                     .firstFocus = lstFavs};
+                                     .firstFocus = lstFavs,
+                                     .keptSize = &setting::kMainSize,
+                                     .stretches = kStretches};
   return kDesign;
 }
 

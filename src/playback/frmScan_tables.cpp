@@ -3,6 +3,7 @@
 #include "forms/DialogRows.h"
 #include "playback/frmScan.h"
 #include "resources/texts/playback.h"
+#include "settings/SettingNames.h"
 
 namespace sonaro {
 
@@ -141,6 +142,23 @@ const FormDesign& frmScan::Design() {
   static constexpr KeyRow kKeys[] = {{.key = VK_DELETE, .command = butRemoveStationIt, .onlyIn = lstToScan},
                                      {'Z', kCtrl, mnuUndo},
                                      {.key = 'F', .modifiers = kAlt, .command = butFullIt}};
+  static constexpr Stretch kStretches[] = {
+      {{640, 8, 80, 30}, 100, 100, 0, 0},
+      {{28, 53, 440, 24}, 0, 100, 0, 0},
+      {{486, 53, 206, 24}, 100, 100, 0, 0},
+      {{14, 46, 692, 66}, 0, 100, 0, 0},
+      {{14, 120, 300, 24}, 0, 50, 0, 0},
+      {{14, 146, 164, 24}, 0, 32, 0, 0},
+      {{178, 146, 136, 24}, 32, 50, 0, 0},
+      {{14, 170, 300, 244}, 0, 50, 0, 100},
+      {{322, 146, 88, 268}, 50, 50, 0, 0},
+      {{418, 120, 288, 24}, 50, 100, 0, 0},
+      {{418, 146, 170, 24}, 50, 82, 0, 0},
+      {{588, 146, 118, 24}, 82, 100, 0, 0},
+      {{418, 170, 288, 244}, 50, 100, 0, 100},
+      {{480, 420, 240, 60}, 100, 100, 100, 100},
+      {{0, 420, 480, 60}, 0, 0, 100, 100},
+  };
   static constexpr FormDesign kDesign = {.name = "frmScan",
                                          .caption = IDS_SCAN_W_TITLE,
                                          .size = {720, 480},
@@ -148,7 +166,9 @@ const FormDesign& frmScan::Design() {
                                          .controls = kControls,
                                          .layouts = kLayouts,
                                          .keys = kKeys,
-                                         .firstFocus = lstToScan};
+                                         .firstFocus = lstToScan,
+                                         .keptSize = &setting::kScanSize,
+                                         .stretches = kStretches};
   return kDesign;
 }
 

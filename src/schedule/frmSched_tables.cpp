@@ -3,6 +3,7 @@
 #include "forms/DialogRows.h"
 #include "resources/texts/schedule.h"
 #include "schedule/frmSched.h"
+#include "settings/SettingNames.h"
 
 namespace sonaro {
 namespace {
@@ -76,13 +77,32 @@ const FormDesign& frmSched::Design() {
       {.key = VK_INSERT, .command = butAddIt},
       {.key = 'Z', .modifiers = kCtrl, .command = mnuUndo},
   };
+  // Of the height two thirds go to the upper list; names and notes share the width.
+  static constexpr Stretch kStretches[] = {
+      {{620, 8, 80, 30}, 100, 100, 0, 0},
+      {{14, 66, 130, 24}, 0, 10, 0, 0},
+      {{144, 66, 180, 24}, 10, 55, 0, 0},
+      {{324, 66, 172, 24}, 55, 65, 0, 0},
+      {{496, 66, 190, 24}, 65, 100, 0, 0},
+      {{14, 90, 672, 162}, 0, 100, 0, 66},
+      {{14, 260, 400, 24}, 0, 0, 66, 66},
+      {{14, 284, 130, 24}, 0, 10, 66, 66},
+      {{144, 284, 180, 24}, 10, 55, 66, 66},
+      {{324, 284, 172, 24}, 55, 65, 66, 66},
+      {{496, 284, 190, 24}, 65, 100, 66, 66},
+      {{14, 308, 672, 94}, 0, 100, 66, 100},
+      {{450, 404, 250, 56}, 100, 100, 100, 100},
+      {{0, 404, 450, 56}, 0, 0, 100, 100},
+  };
   static constexpr FormDesign kDesign = {.name = "frmSched",
                                          .caption = IDS_SCHED_LIST_TITLE,
                                          .size = {700, 460},
                                          .outline = "ldf30",
                                          .controls = kControls,
                                          .keys = kKeys,
-                                         .firstFocus = lstSched};
+                                         .firstFocus = lstSched,
+                                         .keptSize = &setting::kScheduleSize,
+                                         .stretches = kStretches};
   return kDesign;
 }
 

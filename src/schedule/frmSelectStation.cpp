@@ -6,6 +6,7 @@
 #include "forms/DialogRows.h"
 #include "resources/texts/schedule.h"
 #include "settings/HelpPages.h"
+#include "settings/SettingNames.h"
 
 namespace sonaro {
 
@@ -49,12 +50,24 @@ const FormDesign& frmSelectStation::Design() {
       HelpButton(488),
       CloseButton(520),
   };
+  static constexpr Stretch kStretches[] = {
+      {{480, 8, 80, 30}, 100, 100, 0, 0},
+      {{120, 48, 312, 64}, 0, 100, 0, 0},
+      {{440, 84, 106, 28}, 100, 100, 0, 0},
+      {{14, 124, 250, 24}, 0, 60, 0, 0},
+      {{264, 124, 170, 24}, 60, 90, 0, 0},
+      {{434, 124, 112, 24}, 90, 100, 0, 0},
+      {{14, 148, 532, 220}, 0, 100, 0, 100},
+      {{340, 376, 220, 54}, 100, 100, 100, 100},
+  };
   static constexpr FormDesign kDesign = {.name = "frmSelectStation",
                                          .caption = IDS_SCHED_PICK_TITLE,
                                          .size = {560, 430},
                                          .outline = "ddf44",
                                          .controls = kControls,
-                                         .firstFocus = cmbSelectGroup};
+                                         .firstFocus = cmbSelectGroup,
+                                         .keptSize = &setting::kPickSize,
+                                         .stretches = kStretches};
   return kDesign;
 }
 

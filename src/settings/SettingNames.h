@@ -68,6 +68,10 @@ inline constexpr Switch kNoShowDeleteNotice{"NoShowDeleteNotice", "Yes", "", fal
 inline constexpr Switch kSoundNotify{"SoundNotify", "True", "False", true, false};  // schedule/Notify, options: a sound
 inline constexpr Switch kSoundClick{"SoundClick", "True", "False", true, true};     // Application, options: keys click
 inline constexpr Text kMainPlace{"MainPlace"};                          // Application: "left,top" in pixels; the middle
+inline constexpr Text kMainSize{"MainSize"};                            // forms/FormWindow: "width,height", ",Max" when maximised; as designed
+inline constexpr Text kScanSize{"ScanSize"};                            // forms/FormWindow: the scan's, as kMainSize
+inline constexpr Text kScheduleSize{"ScheduleSize"};                    // forms/FormWindow: the schedule's, as kMainSize
+inline constexpr Text kPickSize{"PickSize"};                            // forms/FormWindow: that of the window that picks a station, as kMainSize
 inline constexpr Choice<AfterClose, 3> kCloseToTray{"CloseToTray", {"", "Yes", "No"}, AfterClose::Exit};  // Application, options: ask at the first close
 inline constexpr Text kScheduleLastSeen{"ScheduleLastSeen"};            // schedule: nothing was missed
 

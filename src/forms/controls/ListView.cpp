@@ -139,6 +139,13 @@ void ListView::ThemeChanged() {
   ScrolledView::ThemeChanged();
 }
 
+void ListView::SetColumnEdges(std::vector<int> edges) {
+  if (edges == headers_) return;
+  headers_ = std::move(edges);
+  PlaceColumns();
+  RepaintWithGround();
+}
+
 // Edges are scaled, not widths, so that the columns meet their header buttons at every dpi. The last one
 // takes what is left.
 void ListView::PlaceColumns() {
@@ -149,7 +156,9 @@ void ListView::PlaceColumns() {
   for (std::size_t i = 0; i < columns_.size(); ++i) {
     design += columns_[i].width;
     const bool last = i + 1 == columns_.size();
-    const int right = last ? std::max(left, Width() - bar) : Theme().Px(design);
+    const int right = last                  ? std::max(left, Width() - bar)
+                      : i < headers_.size() ? headers_[i] - Theme().Line()
+                                            : Theme().Px(design);
     ListView_SetColumnWidth(Window(), static_cast<int>(i), right - left);
     edges_.push_back(right);
     left = right;

@@ -52,6 +52,9 @@ class ListView final : public ScrolledView {
     bool figure = false;  // a number beside the texts: small and muted
   };
   void SetColumns(std::vector<Column> columns);
+  // Right edges in pixels from the left end of the list's place, for columns below header buttons: they count
+  // instead of the widths.
+  void SetColumnEdges(std::vector<int> edges);
   // Rows with a reliability symbol keep its place free before the first column's text.
   void SetModel(const ListModel* model, bool withSymbols);
   // Lines between the columns; there unless told otherwise.
@@ -126,7 +129,8 @@ class ListView final : public ScrolledView {
   bool withSymbols_ = false;
   bool columnLines_ = true;
   std::vector<Column> columns_;
-  std::vector<int> edges_;  // right edges of the columns, pixels
+  std::vector<int> headers_;  // SetColumnEdges
+  std::vector<int> edges_;    // right edges of the columns, pixels
   std::string emptyHeading_;
   std::string emptyHelp_;
   int designRow_ = 22;
