@@ -211,7 +211,9 @@ void Application::PlaceMainWindow() {
 // come back to.
 void Application::RememberPlace() {
   RECT box{};
-  if (!main_ || IsIconic(main_->Window()) || IsZoomed(main_->Window()) || !GetWindowRect(main_->Window(), &box)) return;
+  if (!main_ || IsIconic(main_->Window()) || IsZoomed(main_->Window()) ||
+      !GetWindowRect(main_->Window(), &box))
+    return;
   reg_.Set(setting::kMainPlace, std::to_string(box.left) + "," + std::to_string(box.top));
 }
 

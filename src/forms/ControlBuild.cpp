@@ -9,6 +9,7 @@
 #include "forms/ControlSet.h"
 #include "forms/FormWindow.h"
 #include "forms/Guard.h"
+#include "forms/Resizing.h"
 #include "forms/WideText.h"
 #include "forms/controls/ListView.h"
 #include "forms/controls/ProgressScale.h"
@@ -184,8 +185,8 @@ void ControlSet::MakeLatePanes() {
 void ControlSet::Make(ControlInstance& item, const Painter& painter) {
   const DesignRect* at = BoundsIn(design_, layout_, *item.row);
   if (at) {
-    item.place = Arrange(*at, item.row->anchors, SizeOf(design_, layout_), ScaleToDpi(Size(), painter.Dpi()),
-                         painter.Dpi());
+    const PixelSize client = client_.width > 0 ? client_ : ScaleToDpi(Size(), painter.Dpi());
+    item.place = ArrangeRow(design_, *item.row, *at, SizeOf(design_, layout_), client, painter.Dpi());
   }
   item.shown = IsWanted(item);
   item.view = MakeView(*item.row);

@@ -59,6 +59,7 @@ RECT WindowBox(const ControlInstance& item, const Painter& painter) {
 void ControlSet::Reset() {
   layout_ = 0;
   grown_ = {};
+  client_ = {};
   hiddenPanes_.reset();
   late_.reset();
   for (const unsigned char pane : design_.latePanes) hiddenPanes_[pane] = late_[pane] = true;
@@ -118,6 +119,7 @@ void ControlSet::GrowFor(const ControlInstance& label, std::string_view text) {
 
 // Controls that the layout does not name keep their old place, hidden.
 void ControlSet::Place(const Painter& painter, PixelSize client) {
+  client_ = client;
   const DesignSize made = SizeOf(design_, layout_);
   for (ControlInstance& item : items_) {
     if (const DesignRect* at = BoundsIn(design_, layout_, *item.row)) {

@@ -88,6 +88,7 @@ class ControlSet {
   std::bitset<256> hiddenPanes_;
   std::bitset<256> late_;  // panes that are still to be made
   DesignSize grown_;       // {} = the layout's size
+  PixelSize client_;       // of the last Place; {}: none yet
   int layout_ = 0;
   bool quiet_ = false;
 };

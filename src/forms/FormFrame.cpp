@@ -71,39 +71,43 @@ void FormWindow::Drag() {
   if (form_ && !EqualRect(&before, &after)) form_->OnMoved();
 }
 
-// Of a form that can be made larger. Its whole window is client area, and the system must not draw the frame
-// that it knows of.
-LRESULT FormWindow::HandleFrame(UINT message, WPARAM wParam, LPARAM lParam) {
+// Of a form that can be made larger; false: the message is another's. Its whole window is client area, and
+// the system must not draw the frame that it knows of.
+bool FormWindow::HandleFrame(UINT message, WPARAM wParam, LPARAM lParam, LRESULT& answer) {
+  answer = 0;
   switch (message) {
     case WM_NCCALCSIZE:
     case WM_NCPAINT:
-      return 0;
+      return true;
     case WM_NCACTIVATE:
-      return DefDlgProcW(window_, message, wParam, -1);  // -1: draws nothing
+      answer = DefDlgProcW(window_, message, wParam, -1);  // -1: draws nothing
+      return true;
     case WM_NCHITTEST:
-      return HitOfFrame(lParam);
+      answer = HitOfFrame(lParam);
+      return true;
     case WM_GETMINMAXINFO:
       LimitSize(*reinterpret_cast<MINMAXINFO*>(lParam));
-      return 0;
+      return true;
     case WM_SIZE:
       if (wParam == SIZE_RESTORED || wParam == SIZE_MAXIMIZED) SizeChanged(wParam == SIZE_MAXIMIZED);
-      return 0;
+      return true;
     case WM_ENTERSIZEMOVE:
       sizing_ = true;
-      break;
-    default: {  // WM_EXITSIZEMOVE
+      return false;
+    case WM_EXITSIZEMOVE:
       sizing_ = false;
       KeepSize();
       if (form_ && !moving_) form_->OnMoved();  // pulled at the left or upper edge it has another corner
-      break;
-    }
+      return false;
+    default:
+      return false;
   }
-  return DefDlgProcW(window_, message, wParam, lParam);
 }
 
 LRESULT FormWindow::HitOfFrame(LPARAM at) const {
-  constexpr std::array<LRESULT, 11> kHits = {HTCLIENT, HTLEFT,    HTRIGHT,    HTCLIENT, HTTOP,       HTTOPLEFT,
-                                             HTTOPRIGHT, HTCLIENT, HTBOTTOM, HTBOTTOMLEFT, HTBOTTOMRIGHT};
+  constexpr std::array<LRESULT, 11> kHits = {HTCLIENT, HTLEFT,       HTRIGHT,      HTCLIENT,
+                                             HTTOP,    HTTOPLEFT,    HTTOPRIGHT,   HTCLIENT,
+                                             HTBOTTOM, HTBOTTOMLEFT, HTBOTTOMRIGHT};
   RECT box{};
   if (IsZoomed(window_) || !GetWindowRect(window_, &box)) return HTCLIENT;
   const PixelRect place = ToPixelRect(box);
@@ -182,8 +186,7 @@ void FormWindow::Resize() {
   UseFrame(resizable);
   if (!IsZoomed(window_) && !(resizable && IsIconic(window_))) {
     const PixelSize size = SizeWanted();
-    SetWindowPos(window_, nullptr, 0, 0, size.width, size.height,
-                 SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
+    SetWindowPos(window_, nullptr, 0, 0, size.width, size.height, SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
   }
   fitting_ = false;
   FitToWindow();
@@ -200,8 +203,9 @@ void FormWindow::FitToWindow() {
   const PixelSize made = ScaleToDpi(OutlineSizeOf(design_, layout), dpi);
   RECT client{};
   GetClientRect(window_, &client);
-  const PixelSize size =
-      IsIconic(window_) ? SizeWanted() : PixelSize{static_cast<int>(client.right), static_cast<int>(client.bottom)};
+  const PixelSize size = IsIconic(window_)
+                             ? SizeWanted()
+                             : PixelSize{static_cast<int>(client.right), static_cast<int>(client.bottom)};
   // The outline of the size before would cut off what the new one adds, also where the point file has no
   // outline.
   RECT shaped{};

@@ -40,6 +40,7 @@ LRESULT FormWindow::HandleMessage(UINT message, WPARAM wParam, LPARAM lParam) {
   LRESULT answer = 0;
   if (form_ && form_->OnMessage(message, wParam, lParam, answer)) return answer;
   controls_.RelayToTips(message, wParam, lParam);
+  if (CanResize(design_, controls_.Layout()) && HandleFrame(message, wParam, lParam, answer)) return answer;
   switch (message) {
     case WM_COMMAND:
       return HandleCommand(wParam, lParam);
@@ -83,16 +84,6 @@ LRESULT FormWindow::HandleMessage(UINT message, WPARAM wParam, LPARAM lParam) {
     case WM_THEMECHANGED:
     case WM_SETTINGCHANGE:
       return HandleSurroundings(message, wParam, lParam);
-    case WM_NCCALCSIZE:
-    case WM_NCPAINT:
-    case WM_NCACTIVATE:
-    case WM_NCHITTEST:
-    case WM_GETMINMAXINFO:
-    case WM_SIZE:
-    case WM_ENTERSIZEMOVE:
-    case WM_EXITSIZEMOVE:
-      return CanResize(design_, controls_.Layout()) ? HandleFrame(message, wParam, lParam)
-                                                    : DefDlgProcW(window_, message, wParam, lParam);
     case WM_CLOSE:
     case WM_DESTROY:
     case WM_NCDESTROY:

@@ -104,7 +104,7 @@ class FormWindow final : public FormServices {
   LRESULT HandleContextMenu(HWND control, LPARAM lParam);
   LRESULT HandleSurroundings(UINT message, WPARAM wParam, LPARAM lParam);
   LRESULT HandleEnd(UINT message, WPARAM wParam, LPARAM lParam);
-  LRESULT HandleFrame(UINT message, WPARAM wParam, LPARAM lParam);
+  bool HandleFrame(UINT message, WPARAM wParam, LPARAM lParam, LRESULT& answer);
   LRESULT HitOfFrame(LPARAM at) const;
   void LimitSize(MINMAXINFO& limits) const;
   void SizeChanged(bool maximised);
@@ -127,16 +127,16 @@ class FormWindow final : public FormServices {
   ControlSet controls_;
   FocusKeys keys_;
   TabNeedle needle_;
-  bool modal_ = false;    // ShowModal runs
-  bool closing_ = false;  // Close was called
-  bool moving_ = false;   // the system's move loop runs
-  bool sizing_ = false;   // its size loop runs, which ends with the size that is kept
-  bool fitting_ = false;  // Resize runs: what changes the size is not the user
-  KeptSize user_;         // what the user has made of the size
+  bool modal_ = false;       // ShowModal runs
+  bool closing_ = false;     // Close was called
+  bool moving_ = false;      // the system's move loop runs
+  bool sizing_ = false;      // its size loop runs, which ends with the size that is kept
+  bool fitting_ = false;     // Resize runs: what changes the size is not the user
+  KeptSize user_;            // what the user has made of the size
   bool toMaximise_ = false;  // when it is shown for the first time
-  bool placed_ = false;   // the program has said where the window lies
-  int result_ = 0;        // of ShowModal
-  int depth_ = 0;         // nested calls of the window procedure
+  bool placed_ = false;      // the program has said where the window lies
+  int result_ = 0;           // of ShowModal
+  int depth_ = 0;            // nested calls of the window procedure
 };
 
 }  // namespace sonaro

@@ -59,8 +59,8 @@ TEST(KeptSize, IsReadOnlyWhenItIsWhole) {
   const KeptSize maximised = {{1400, 900}, true};
   EXPECT_EQ(ReadKeptSize(WriteKeptSize(large)), large);
   EXPECT_EQ(ReadKeptSize(WriteKeptSize(maximised)), maximised);
-  for (const char* text : {"", "1400", "1400,", ",900", "1400,900,", "1400,900,max", "1400,900,Max,1", "-1400,900",
-                           "1400 ,900", "14e2,900", "40000,900", "999999999999,900"}) {
+  for (const char* text : {"", "1400", "1400,", ",900", "1400,900,", "1400,900,max", "1400,900,Max,1",
+                           "-1400,900", "1400 ,900", "14e2,900", "40000,900", "999999999999,900"}) {
     EXPECT_EQ(ReadKeptSize(text), std::nullopt) << text;
   }
 }

@@ -28,6 +28,7 @@ class Check {
         CheckTexts();
       }
       UseDpi(96);
+      CheckLarger();
     }
     form_.UseLayout(0);
     return problems_;
@@ -44,6 +45,21 @@ class Check {
   void UseDpi(int dpi) {
     where_ = "layout " + std::to_string(form_.CurrentLayout()) + " at " + std::to_string(dpi) + ": ";
     window_.UseDpi(dpi, FormWindow::Fit::No);
+  }
+
+  // Made larger by its user, a form keeps its controls apart and within it, and gives each its room.
+  void CheckLarger() {
+    if ((GetWindowLongPtrW(window_.Window(), GWL_STYLE) & WS_THICKFRAME) == 0) return;
+    RECT before{};
+    GetWindowRect(window_.Window(), &before);
+    const auto resize = [&](LONG width, LONG height) {
+      SetWindowPos(window_.Window(), nullptr, 0, 0, width, height, SWP_NOMOVE | SWP_NOZORDER);
+    };
+    where_ = "layout " + std::to_string(form_.CurrentLayout()) + " made larger: ";
+    resize(before.right - before.left + 301, before.bottom - before.top + 203);
+    CheckPlaces();
+    CheckTexts();
+    resize(before.right - before.left, before.bottom - before.top);
   }
 
   void CheckControls() {
