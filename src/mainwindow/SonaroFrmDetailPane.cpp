@@ -87,7 +87,8 @@ void DetailPane::ShowRatings(const StationDetail& detail) {
   }
 }
 
-// The second line of a button: the bit rate, and behind the tab the key on the keyboard.
+// The second line of a button: the bit rate or where the link leads, and behind the tab the key on the
+// keyboard.
 void DetailPane::ShowPlayButtons(const StationDetail& detail) {
   for (std::size_t i = 0; i < StationDetail::kPlayButtons; ++i) {
     const PlayButton& shown = detail.playButtons[i];

@@ -233,6 +233,7 @@ void GroupsPane::AddTo(const std::string& groupName, const std::vector<StationKe
   lastUsed_ = groupName;
 }
 
+// One click for the usual case: which group it was stands in the status line, and Undo beside it.
 void GroupsPane::Keep(Form& owner, const StationKey& station) {
   if (!station) return;
   const auto last = groups_.Find(lastUsed_);

@@ -73,6 +73,8 @@ void frmExtraLink::butOKIt_Click() {
   const auto linkText = OwnLinkFromField(txtExtraLink_.Text(), all_.front().link);
   if (!linkText) {
     ShowError("PersonalStationLink", IDS_DLG_OWN_BAD_LINK);
+    txtExtraLink_.Focus();
+    txtExtraLink_.SelectAll();
     return;
   }
   // An empty field removes the link: Set leaves out what has no address.

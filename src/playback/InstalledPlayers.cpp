@@ -63,6 +63,7 @@ std::vector<PlayerProgram> InstalledPlayers::Find() const {
   return programs;
 }
 
+// What the user has set for the kind goes first; a registered application is merely able to open such files.
 std::string InstalledPlayers::ForKind(const char* kind) const {
   const std::string associated = players_.AssociatedProgram(kind);
   if (!associated.empty() && !AsksTheUser(associated) && data_.FileSystem().Exists(associated))
@@ -132,6 +133,7 @@ void InstalledPlayers::Add(Programs& programs, const std::string& name, const st
   programs.push_back({name.empty() ? OwnNameOf(FileNameOf(path)) : name, path});
 }
 
+// A name that begins with "@" is a number in some library, which would have to be loaded.
 std::string InstalledPlayers::OwnNameOf(const std::string& fileName) const {
   const MainKeyScope classes(reg_, RootKey::ClassesRoot);
   const std::string own = reg_.GetData(systemkey::kApplications + fileName, systemkey::kFriendlyName);

@@ -34,6 +34,7 @@ void PlayerReporter::AddKind(PlayerReport& report, std::size_t stations, const s
   }
 }
 
+// A chosen program gets every stream link, so one line says it all.
 void PlayerReporter::AddProgram(PlayerReport& report, std::size_t stations,
                                 const std::string& program) const {
   if (data_.FileSystem().Exists(program)) {

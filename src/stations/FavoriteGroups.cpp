@@ -174,6 +174,7 @@ bool FavoriteGroups::Contains(std::size_t group, const StationKey& station) cons
   return std::find(Keys(group).begin(), Keys(group).end(), station) != Keys(group).end();
 }
 
+// A list asks for every row that it paints; searching all groups for each would be felt with large ones.
 bool FavoriteGroups::IsMember(const StationKey& station) const {
   if (!members_) {
     members_.emplace();

@@ -141,6 +141,10 @@ TEST_F(PersonalTest, AnExtraLinkOutlivesTheDirectoryThatItWasMadeFor) {
   Command(main, mnuActionExtraLink);
   HWND dialog = Dialog("frmExtraLink");
   EXPECT_EQ(TextOf(Control(dialog, lblStation)), name);
+  SetText(Control(dialog, txtExtraLink), "C:\\x.mp3");
+  Click(Control(dialog, butOKIt));
+  AnswerBox(dialog, butMsg);
+  EXPECT_EQ(FocusOf(dialog), Control(dialog, txtExtraLink));
   SetText(Control(dialog, txtExtraLink), "http://127.0.0.1:9/extra");
   EndWith(main, dialog, butOKIt);
   ASSERT_TRUE(WaitUntil([&] { return Exists("ownlinks.snr"); }));

@@ -203,7 +203,7 @@ LRESULT ListView::Handle(UINT message, WPARAM wParam, LPARAM lParam) {
     case WM_LBUTTONDOWN: {
       const int row = RowUnder(lParam);
       if (row < 0) return FocusOnly();
-      if (HitsStar(row, lParam)) {
+      if (HitsStar(row, lParam)) {  // the selection stays, and a double click is two presses
         Raise({.kind = FormEvent::Kind::ItemStarred, .row = row});
         return 0;
       }

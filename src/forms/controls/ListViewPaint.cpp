@@ -142,7 +142,8 @@ bool ListView::HitsStar(int row, LPARAM pointer) const {
          x < edges_.front();
 }
 
-// How much of the first column's width the marks take.
+// How much of the first column's width the marks take. An empty star is drawn only where it can be wanted, so
+// that the list stays calm.
 int ListView::PaintMarks(HDC dc, int row, const RECT& box, bool selected, bool focused) const {
   const RowMarks marks = model_->Marks(row);
   const Painter& theme = Theme();
