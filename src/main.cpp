@@ -6,6 +6,7 @@
 #include <commctrl.h>
 
 #include <string>
+#include <string_view>
 
 #include "app/Application.h"
 #include "forms/Guard.h"
@@ -35,6 +36,11 @@ int WINAPI WinMain(HINSTANCE, HINSTANCE, LPSTR commandLine, int) {
       sizeof classes, ICC_STANDARD_CLASSES | ICC_LISTVIEW_CLASSES | ICC_TREEVIEW_CLASSES | ICC_DATE_CLASSES};
   InitCommonControlsEx(&classes);
 
+  sonaro::StringTable strings;
+  if (std::string_view(commandLine) == "--help") {
+    MessageBoxW(nullptr, sonaro::Widen(strings.Load(IDS_START_HELP)).c_str(), L"Sonaro", MB_OK);
+    return 0;
+  }
   sonaro::RegistryWin registry;
   sonaro::FilesWin files;
   sonaro::ClockWin clock;
@@ -42,7 +48,6 @@ int WINAPI WinMain(HINSTANCE, HINSTANCE, LPSTR commandLine, int) {
   sonaro::SoundWin sound;
   sonaro::SystemInfoWin systemInfo;
   sonaro::MessagePostWin messages;
-  sonaro::StringTable strings;
   sonaro::HttpControlFactoryWin http(std::string("Sonaro/") + sonaro::kVersionText);
   const sonaro::Platform platform = {registry, files, clock, shell, sound, systemInfo, messages, http};
   constexpr int kFailed = -1;

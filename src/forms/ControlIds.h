@@ -373,6 +373,7 @@ inline constexpr int mnuExit = 3245;
 inline constexpr int mnuViewPersonalPage = 3246;
 inline constexpr int mnuUndoUpdate = 3247;
 inline constexpr int mnuUndo = 3248;
+inline constexpr int mnuAbout = 3249;
 // The menu of an event.
 inline constexpr int mnuEventNotifyMe = 3251;
 inline constexpr int mnuEventPersonalShow = 3252;

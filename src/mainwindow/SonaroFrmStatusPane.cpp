@@ -9,6 +9,7 @@
 #include "forms/controls/ProgressScale.h"
 #include "mainwindow/SonaroFrm_panes.h"
 #include "resources/texts/mainwindow.h"
+#include "settings/AppState.h"
 #include "settings/CReg.h"
 #include "settings/SettingNames.h"
 #include "settings/Strings.h"
@@ -23,6 +24,7 @@ std::span<const EventRow> StatusPane::Events() const {
       {butUndo, Click, &StatusPane::butUndo_Click},
       {mnuUndo, Click, &StatusPane::butUndo_Click},
       {mnuUndoUpdate, Click, &StatusPane::mnuUndoUpdate_Click},
+      {mnuAbout, Click, &StatusPane::mnuAbout_Click},
       {butScan, Click, &StatusPane::butScan_Click},
       {mnuScan, Click, &StatusPane::butScan_Click},
       {butSchedule, Click, &StatusPane::butSchedule_Click},
@@ -33,16 +35,27 @@ std::span<const EventRow> StatusPane::Events() const {
   return kRows;
 }
 
-void StatusPane::ShowGuide() {
-  said_ = Said::Nothing;
-  butUndo_.Show(false);
+std::string StatusPane::GuideSentence() const {
   const std::size_t count = context_.data.stations.StationCount();
   const std::string updated = context_.data.settings.Get(setting::kLastUpdate);
   int textId = IDS_STATUS_GUIDE;
   if (!updated.empty()) textId = IDS_STATUS_GUIDE_UPDATED;
   if (count == 0) textId = IDS_STATUS_NO_GUIDE;
-  lblStatus_.SetText(
-      FormatText(form_.LoadText(textId), {FormatCount(count, context_.data.state.decimalMode), updated}));
+  return FormatText(form_.LoadText(textId), {FormatCount(count, context_.data.state.decimalMode), updated});
+}
+
+void StatusPane::ShowGuide() {
+  said_ = Said::Nothing;
+  butUndo_.Show(false);
+  lblStatus_.SetText(GuideSentence());
+}
+
+void StatusPane::mnuAbout_Click() {
+  context_.services.messages.Ask(
+      {.key = "About",
+       .caption = form_.LoadText(IDS_ABOUT_CAPTION),
+       .text = FormatText(form_.LoadText(IDS_ABOUT_TEXT), {kVersionText, GuideSentence()}),
+       .firstButton = form_.LoadText(IDS_GROUP_OK)});
 }
 
 // An offer to undo belongs to the sentence before and goes with it.

@@ -31,6 +31,8 @@ class StatusPane final : public EventTarget {
   void butSchedule_Click() { Open(ProgramWindow::Schedule); }
   void butOptions_Click() { Open(ProgramWindow::Options); }
   void butUndo_Click();
+  void mnuAbout_Click();
+  std::string GuideSentence() const;
   void mnuUndoUpdate_Click() { context_.services.update.OfferUndo(form_); }
   void Open(ProgramWindow window) { context_.services.program.Open(window, &form_); }
 

@@ -267,7 +267,8 @@ MenuEntries StationActions::ProgramMenu() const {
       menu.push_back(Entry(command, textId));
     }
     if (textId == IDS_MENU_INFO) {
-      menu.back().children = {Entry(mnuFullHelp, IDS_MENU_HELP), Entry(mnuQuickStart, IDS_MENU_QUICK_START)};
+      menu.back().children = {Entry(mnuFullHelp, IDS_MENU_HELP), Entry(mnuQuickStart, IDS_MENU_QUICK_START),
+                              Entry(mnuAbout, IDS_MENU_ABOUT)};
     }
   }
   return menu;
