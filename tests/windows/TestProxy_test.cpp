@@ -17,7 +17,6 @@ namespace sonaro {
 namespace {
 
 constexpr const char* kRuns = "Checking Proxy Setup Now";
-const std::string kWorks = "This Proxy is configured correctly";
 const std::string kFails =
     "This Proxy setting does not seem to work. Please check your setting and try again.";
 
@@ -54,31 +53,6 @@ class TestProxyTest : public testing::Test {
   ClockWin clock_;
   LoopbackServer proxy_;
 };
-
-TEST_F(TestProxyTest, AsksTheProxyForTheTestPage) {
-  proxy_.Answer("/", script::Body("<p>cool proxy works!</p>"));
-  const auto form = Show(std::to_string(proxy_.Port()));
-  char caption[64] = "";
-  GetWindowTextA(form->Window(), caption, sizeof caption);
-  EXPECT_STREQ(caption, "Testing Proxy Setting");
-  EXPECT_EQ(TextOf(*form, lblCheckAddress), "127.0.0.1");
-  EXPECT_EQ(TextOf(*form, lblCheckPort), std::to_string(proxy_.Port()));
-  EXPECT_EQ(TextOf(*form, lblProxyStuff), "* You need to be connected to the Internet for this test to work");
-  EXPECT_EQ(Settings().Setting(setting::kProxyTestText.name), "cool proxy works!");
-  PumpUntil([&] { return TextOf(*form, lblStatusInfo) != kRuns; });
-  EXPECT_EQ(TextOf(*form, lblStatusInfo), kWorks);
-  EXPECT_EQ(TextOf(*form, lblProxyStep + 1), "Connection accepted");
-  const std::string page = "http://www.sonaro.example/sonaroapp/sonaro3/asp/proxy/test.asp";
-  EXPECT_EQ(Settings().Setting(setting::kProxyTest.name), page);
-  ASSERT_EQ(proxy_.Requests().size(), 1u);
-  EXPECT_TRUE(proxy_.Requests()[0].starts_with("GET " + page + " HTTP/1.0\r\nHost: www.sonaro.example\r\n"))
-      << proxy_.Requests()[0];
-  SendMessageA(ControlOf(*form, butOKIt), BM_CLICK, 0, 0);
-  EXPECT_FALSE(form->IsOpen());
-  for (const char* name : {"ProxyUse", "ProxyAddress", "ProxyPort"}) {
-    EXPECT_EQ(Settings().Setting(name), "") << name;
-  }
-}
 
 TEST_F(TestProxyTest, ShowsHowFarItCameAndTriesAgain) {
   const auto form = Show(std::to_string(UnusedPort()));
