@@ -1,8 +1,9 @@
-# sonaro_folder(NAME [LINKS FOLDER...] [LOGIC FILE...] [WINDOWS FILE...]): the target of a folder of src.
+# sonaro_folder(NAME [SMALL] [LINKS FOLDER...] [LOGIC FILE...] [WINDOWS FILE...]): the target of a folder of src.
 # LOGIC is compiled natively, too, where no header of Windows exists; WINDOWS only for Windows, and there for
-# size: what windows do is calls of the system, of which none gets faster.
+# size: what windows do is calls of the system, of which none gets faster. With SMALL so is the program's logic, where
+# nothing runs through thousands of stations.
 function(sonaro_folder name)
-  cmake_parse_arguments(PARSE_ARGV 1 arg "" "" "LINKS;LOGIC;WINDOWS")
+  cmake_parse_arguments(PARSE_ARGV 1 arg "SMALL" "" "LINKS;LOGIC;WINDOWS")
   set(parts)
   if(WIN32 AND arg_WINDOWS)
     add_library(${name}_windows OBJECT ${arg_WINDOWS})
@@ -11,6 +12,9 @@ function(sonaro_folder name)
   endif()
   if(parts OR arg_LOGIC)
     add_library(${name} STATIC ${arg_LOGIC})
+    if(WIN32 AND arg_SMALL)
+      target_compile_options(${name} PRIVATE $<$<CONFIG:Release>:-Os>)
+    endif()
     list(APPEND parts ${name})
     set(scope PUBLIC)
     foreach(part IN LISTS parts)
