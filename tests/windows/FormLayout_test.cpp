@@ -3,6 +3,8 @@
 
 #include "forms/FormWindow.h"
 #include "forms/Screen.h"
+#include "forms/controls/ListView.h"
+#include "settings/SettingNames.h"
 #include "windows/DemoForm.h"
 #include "windows/FormContextForTests.h"
 #include "windows/Pump.h"
@@ -180,6 +182,84 @@ TEST_F(FormLayoutTest, IsDraggedByBackgroundAndLabelsButNotByControls) {
   SendMessageW(dragged.Window(), WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(12, 82));
   EXPECT_EQ(dragged.hits.size(), 2U) << "the glass around an edit belongs to it";
   EXPECT_EQ(dragged.FocusedControl(), 5003);
+}
+
+class LargerForm final : public Form {
+ public:
+  explicit LargerForm(FormContext& context) : Form(context, Design()) {}
+
+ private:
+  static const FormDesign& Design() {
+    static constexpr ControlRow kRows[] = {
+        {.id = 5001, .kind = ControlKind::HeaderButton, .text = "Name", .at = {10, 40, 60, 20}},
+        {.id = 5002, .kind = ControlKind::HeaderButton, .text = "Place", .at = {70, 40, 80, 20}},
+        {.id = 5003, .kind = ControlKind::ListView, .at = {10, 60, 140, 50}}};
+    static constexpr Stretch kStretches[] = {
+        {{10, 40, 60, 20}, 0, 75}, {{70, 40, 80, 20}, 75, 100}, {{10, 60, 140, 50}, 0, 100, 0, 100}};
+    static constexpr Layout kLayouts[] = {{.size = {100, 80}, .outline = "scc44"}};
+    static constexpr FormDesign kDesign = {.name = "frmLarger",
+                                           .caption = "Larger",
+                                           .size = {160, 120},
+                                           .outline = "demo1",
+                                           .controls = kRows,
+                                           .layouts = kLayouts,
+                                           .keptSize = &setting::kMainSize,
+                                           .stretches = kStretches};
+    return kDesign;
+  }
+  void OnLoad() override {
+    ListHandle list{*this, 5003};
+    list->SetColumns({{"Name", 59}, {"Place", 80}});
+  }
+};
+
+TEST_F(FormLayoutTest, IsPulledLargerWithItsColumnsAndKeepsTheSize) {
+  context.forms.settings = &context.settings;
+  context.registry.CreateKey(RootKey::LocalMachine, kSettingsKey);
+  LargerForm larger(context.forms);
+  larger.Show();
+  larger.MoveToPixels(30, 40);
+  const auto hit = [&](int x, int y) {
+    return SendMessageW(larger.Window(), WM_NCHITTEST, 0, MAKELPARAM(30 + x, 40 + y));
+  };
+  EXPECT_EQ(hit(158, 60), HTRIGHT);
+  EXPECT_EQ(hit(158, 118), HTBOTTOMRIGHT);
+  EXPECT_EQ(hit(80, 20), HTCLIENT);
+  SetWindowPos(larger.Window(), nullptr, 0, 0, 10, 10, SWP_NOMOVE | SWP_NOZORDER);
+  EXPECT_EQ(PlaceOf(larger.Window()).Width(), 160) << "the design's size is the least";
+  SetWindowPos(larger.Window(), nullptr, 0, 0, 260, 140, SWP_NOMOVE | SWP_NOZORDER);
+  EXPECT_EQ(PlaceInForm(larger, 5001), (PixelRect{10, 40, 145, 60}));
+  EXPECT_EQ(ListView_GetColumnWidth(ControlOf(larger, 5003), 0), 145 - 11) << "inside the list's frame";
+  EXPECT_EQ(context.settings.Get(setting::kMainSize), "260,140");
+  larger.Close();
+  larger.Show();
+  EXPECT_EQ(PlaceOf(larger.Window()).Width(), 260);
+  larger.UseLayout(1);
+  EXPECT_EQ(PlaceOf(larger.Window()).Width(), 100);
+  EXPECT_EQ(GetWindowLongPtrW(larger.Window(), GWL_STYLE) & (WS_THICKFRAME | WS_MAXIMIZEBOX), 0)
+      << "a layout of its own size stays as it is";
+  larger.UseLayout(0);
+  EXPECT_EQ(PlaceOf(larger.Window()).Width(), 260);
+}
+
+TEST_F(FormLayoutTest, MaximisesToTheWorkAreaAndAgainWhenItIsNextShown) {
+  context.forms.settings = &context.settings;
+  context.registry.CreateKey(RootKey::LocalMachine, kSettingsKey);
+  context.settings.Set(setting::kMainSize, "260,140");
+  LargerForm larger(context.forms);
+  larger.Show();
+  const PixelRect area = WorkAreaOf(larger.Window());
+  SendMessageW(larger.Window(), WM_SYSCOMMAND, SC_MAXIMIZE, 0);
+  EXPECT_EQ(PlaceOf(larger.Window()), area);
+  EXPECT_EQ(FormWindow::Of(larger.Window())->Controls().Find(5003)->place.right, area.Width() - 10);
+  EXPECT_EQ(context.settings.Get(setting::kMainSize), "260,140,Max");
+  larger.Close();
+  larger.Show();
+  EXPECT_EQ(PlaceOf(larger.Window()), area);
+  SendMessageW(larger.Window(), WM_LBUTTONDBLCLK, MK_LBUTTON, MAKELPARAM(80, 10));
+  Pump();
+  EXPECT_EQ(PlaceOf(larger.Window()).Width(), 260) << "a double click in the title";
+  EXPECT_EQ(context.settings.Get(setting::kMainSize), "260,140");
 }
 
 // What the user sees of a button, by the pixels in the middle of its left part.
