@@ -50,6 +50,7 @@ void ListView::SetColumns(std::vector<Column> columns) {
   while (ListView_DeleteColumn(Window(), 0)) {
   }
   columns_ = std::move(columns);
+  edges_.clear();
   for (std::size_t i = 0; i < columns_.size(); ++i) {
     std::wstring name = Widen(columns_[i].name);
     LVCOLUMNW column{};
@@ -149,7 +150,7 @@ void ListView::SetColumnEdges(std::vector<int> edges) {
 // Edges are scaled, not widths, so that the columns meet their header buttons at every dpi. The last one
 // takes what is left.
 void ListView::PlaceColumns() {
-  edges_.clear();
+  const std::vector<int> before = std::exchange(edges_, {});
   const int bar = BarWidth();
   int design = 0;
   int left = 0;
@@ -159,7 +160,9 @@ void ListView::PlaceColumns() {
     const int right = last                  ? std::max(left, Width() - bar)
                       : i < headers_.size() ? headers_[i] - Theme().Line()
                                             : Theme().Px(design);
-    ListView_SetColumnWidth(Window(), static_cast<int>(i), right - left);
+    // Setting a width costs the system a look at the whole list; most often only the last one is another.
+    const bool stays = i < before.size() && before[i] == right && (i == 0 || before[i - 1] == left);
+    if (!stays) ListView_SetColumnWidth(Window(), static_cast<int>(i), right - left);
     edges_.push_back(right);
     left = right;
   }
