@@ -9,15 +9,9 @@ namespace sonaro {
 namespace {
 
 constexpr int kEdgeWidth = 6;
-constexpr int kCornerReach = 20;
+constexpr int kCornerReach = 26;
 constexpr int kWidestEver = 32767;  // what a window of the system can have
 constexpr std::string_view kMaximised = "Max";
-
-// Along one axis: 0, `low` or `high`, whichever end the place is within `reach` of.
-unsigned EndAt(int length, int place, int reach, unsigned low, unsigned high) {
-  if (place < reach) return low;
-  return place >= length - reach ? high : 0U;
-}
 
 bool Holds(const DesignRect& outer, const DesignRect& inner) {
   return inner.x >= outer.x && inner.y >= outer.y && inner.x + inner.width <= outer.x + outer.width &&
@@ -33,15 +27,16 @@ int Moved(int place, int start, int length, int lowShare, int highShare, int gai
 
 }  // namespace
 
+// The cut corners of an outline leave nothing of the edges there: the corner is what lies along the cut.
 unsigned EdgeAt(PixelSize window, int x, int y, int dpi) {
   const int edge = ScaleToDpi(kEdgeWidth, dpi);
-  const int corner = ScaleToDpi(kCornerReach, dpi);
-  const unsigned across = EndAt(window.width, x, edge, kLeftEdge, kRightEdge);
-  const unsigned down = EndAt(window.height, y, edge, kTopEdge, kBottomEdge);
-  if (across == 0 && down == 0) return kNoEdge;
-  return across | down |
-         (across != 0 ? EndAt(window.height, y, corner, kTopEdge, kBottomEdge)
-                      : EndAt(window.width, x, corner, kLeftEdge, kRightEdge));
+  const int fromSide = std::min(x, window.width - 1 - x);
+  const int fromEnd = std::min(y, window.height - 1 - y);
+  const unsigned side = x < window.width / 2 ? kLeftEdge : kRightEdge;
+  const unsigned end = y < window.height / 2 ? kTopEdge : kBottomEdge;
+  if (fromSide + fromEnd < ScaleToDpi(kCornerReach, dpi)) return side | end;
+  if (fromSide < edge) return side;
+  return fromEnd < edge ? end : kNoEdge;
 }
 
 // Edges move by what the window gained and not by how much larger it is: at the designed size every control

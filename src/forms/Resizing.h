@@ -12,7 +12,7 @@
 namespace sonaro {
 
 // The edge or corner of a window at a point of it, both in pixels: three bits of where, 0 when it is none.
-// An edge is six design pixels wide; corners reach further along it, where the outline may be cut.
+// An edge is six design pixels wide; a corner is also what lies along the cut of an outline there.
 enum WindowEdge : unsigned { kNoEdge = 0, kLeftEdge = 1, kRightEdge = 2, kTopEdge = 4, kBottomEdge = 8 };
 unsigned EdgeAt(PixelSize window, int x, int y, int dpi);
 

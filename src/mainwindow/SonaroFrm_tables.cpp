@@ -490,9 +490,9 @@ constexpr Stretch kStretches[] = {
     {{14, 164, 200, 422}, 0, kSide, 0, 100, kTreePane},
 
     // The line above the middle, then the header buttons and the filter's row.
+    {{338, 136, 378, 26}, 100, 100, 0, 0},
     {{224, 137, 128, 24}, kSide, 100, 0, 0},
     {{224, 137, 312, 24}, kSide, 100, 0, 0},
-    {{338, 136, 378, 26}, 100, 100, 0, 0},
     {{224, 164, 186, 56}, kSide, 66, 0, 0, kListPane},
     {{410, 164, 112, 56}, 66, 88, 0, 0, kListPane},
     {{522, 164, 82, 56}, 88, 92, 0, 0, kListPane},

@@ -5,7 +5,7 @@
 namespace sonaro {
 namespace {
 
-TEST(EdgeAt, IsSixPixelsWideAndItsCornersReachFurther) {
+TEST(EdgeAt, IsSixPixelsWideAndItsCornersLieAlongTheCut) {
   const struct {
     int x, y, dpi;
     unsigned edge;
@@ -15,11 +15,11 @@ TEST(EdgeAt, IsSixPixelsWideAndItsCornersReachFurther) {
                {394, 200, 96, kRightEdge},
                {200, 0, 96, kTopEdge},
                {200, 299, 96, kBottomEdge},
-               {2, 19, 96, kLeftEdge | kTopEdge},
-               {2, 20, 96, kLeftEdge},
-               {381, 298, 96, kRightEdge | kBottomEdge},
-               {19, 19, 96, kNoEdge},
-               {371, 298, 144, kRightEdge | kBottomEdge}};
+               {2, 23, 96, kLeftEdge | kTopEdge},
+               {2, 24, 96, kLeftEdge},
+               {387, 287, 96, kRightEdge | kBottomEdge},
+               {386, 286, 96, kNoEdge},
+               {381, 281, 144, kRightEdge | kBottomEdge}};
   for (const auto& c : cases) {
     EXPECT_EQ(EdgeAt({400, 300}, c.x, c.y, c.dpi), c.edge) << c.x << "," << c.y << " at " << c.dpi;
   }
