@@ -11,6 +11,7 @@ std::optional<std::size_t> CommandSubject::GroupOnShow() const {
   return groups_.Find(state.group);
 }
 
+// By name, since the groups may be moved while a menu is open.
 std::optional<std::size_t> CommandSubject::Group() const {
   return menu_ ? groups_.Find(menu_->group) : GroupOnShow();
 }

@@ -195,6 +195,7 @@ void ListPane::ShowSort() {
   }
 }
 
+// The list tells the focused row of several; the detail shows that one, the commands mean all.
 void ListPane::lstFavs_ItemSelected(int row) {
   StationRows& rows = listing_.Rows();
   const std::vector<int> all = lstFavs_->SelectedRows();
@@ -241,6 +242,7 @@ void ListPane::SortBy(int command) {
   ShowRows();
 }
 
+// For this list and the next ones: a sort holds until it is ended, whatever is listed meanwhile.
 void ListPane::mnuOwnOrder_Click() {
   listing_.Rows().EndSort();
   ShowSort();
@@ -260,6 +262,7 @@ void ListPane::mnuFilter_Click() {
 
 void ListPane::butFilter_Click() { filterOpen_ ? mnuEndFilter_Click() : mnuFilter_Click(); }
 
+// All rows come back with the selected one among them, and the keys go on in the list.
 void ListPane::mnuEndFilter_Click() {
   if (!filterOpen_) return;
   lstFavs_.Focus();  // before its own window goes
@@ -305,6 +308,7 @@ void ListPane::MoveRow(const StationKey& station, int to) {
   context_.view.ShowEverything();
 }
 
+// In the shown order and only what is shown: what was filtered away is not meant.
 void ListPane::mnuActionAddListToScan_Click() {
   if (listing_.Rows().StationCount() > 0) context_.services.scan.Add(listing_.Rows().Keys());
 }
@@ -334,6 +338,7 @@ StationKey ListPane::KeyAt(int row) const {
 
 int ListPane::RowCount() const { return static_cast<int>(listing_.Rows().Count()); }
 
+// The rows know a way that does not read every name.
 int ListPane::FindRow(const std::string& start, int from) const {
   const auto found = listing_.Rows().FindByName(start, static_cast<std::size_t>(from));
   return found ? static_cast<int>(*found) : -1;

@@ -70,6 +70,8 @@ std::size_t SearchPane::ChosenKind() const {
   return SearchPanel::kMaxKinds - 1;
 }
 
+// Searches of the web wait for Enter: each would ask a server. Words that are shown already are not looked
+// for again, so a message that comes late does not undo what Enter has found.
 void SearchPane::TakeTyped() {
   const std::string typed = txtQuickSearch_.Text();
   ShowPinned();
@@ -81,6 +83,7 @@ void SearchPane::TakeTyped() {
 
 // The words stay, with the focus on them, so that the search can be made narrower or wider.
 void SearchPane::FindStation() {
+  // First: a letter that is still on its way to TakeTyped is part of this search.
   taken_ = txtQuickSearch_.Text();
   switch (search_.FindStation(taken_, ChosenKind(), optSearch_.IsChecked())) {
     case SearchPanel::Outcome::Nothing:

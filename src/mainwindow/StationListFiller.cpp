@@ -46,6 +46,7 @@ void StationListFiller::Show(std::vector<StationKey> found, StationRows& list) {
   list.Fill(std::move(found));
 }
 
+// The guide may have changed since the search: what it lost is left out.
 void StationListFiller::FillListFromFound(std::span<const StationKey> found, StationRows& list) {
   Show(source_.KnownOf(found), list);
 }
@@ -62,6 +63,7 @@ std::vector<StationKey> StationListFiller::Fitting(std::string_view words, const
     if (key.IsOfGuide()) ids.push_back(key.number);
   }
   const std::vector<std::int32_t> inGuide = stations_.FilterStations(ids, words);
+  // The guide's own are looked at all at once; those of the user are few.
   const TypedWords typed(words);
   auto next = inGuide.begin();
   std::vector<StationKey> fitting;

@@ -174,6 +174,7 @@ void StationListState::ShowMatches(std::string_view typed) {
     Hold(Holds::Matches, FormatText(strings_.Load(IDS_LISTING_MATCHES), {std::string(typed)}));
     state_.typed = typed;
   } else if (state_.holds == Holds::Matches && beforeMatches_) {
+    // Only what the list holds comes back, not the view: the search form stays where it is.
     const ListingState before = *beforeMatches_;
     Hold(before.holds, before.caption);
     state_.ranking = before.ranking;
@@ -190,6 +191,7 @@ void StationListState::NarrowByWords(std::string_view words) {
   Narrow();
 }
 
+// What fits is found for the whole fill, shown or not, so that fewer words bring rows back.
 void StationListState::Narrow() {
   if (state_.narrowedBy.empty()) return rows_.NarrowTo(std::nullopt);
   rows_.NarrowTo(lists_.Fitting(state_.narrowedBy, rows_));
@@ -249,6 +251,7 @@ void StationListState::Refill() {
   const std::vector<StationKey> before = rows_.Keys();
   const std::size_t selected = rows_.Selected().value_or(0);
   FillHeld();
+  // A fill shows all rows; the words of the filter belong to this list and hold on.
   if (!state_.narrowedBy.empty()) Narrow();
   rows_.Select(SelectionAfterFill(before, selected, rows_.Keys()));
 }

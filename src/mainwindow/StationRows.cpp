@@ -48,6 +48,7 @@ void StationRows::Fill(std::vector<StationKey> keys) {
 }
 
 // One row with no key, which can be read but neither selected nor played.
+// The notice is a row without a key, so that everything that asks for a station finds none.
 void StationRows::FillNotice(std::string text) {
   Fill({StationKey()});
   notice_.emplace().name = std::move(text);
@@ -59,6 +60,7 @@ void StationRows::SortBy(int key, SortOrder order) {
   Arrange();
 }
 
+// The key and the order stay in memory, but mean nothing until the next sort.
 void StationRows::EndSort() {
   sort_.on = false;
   Arrange();
@@ -82,6 +84,7 @@ void StationRows::Arrange() {
   const std::uint32_t selected = selected_ ? order_[*selected_] : 0;
   order_.resize(keys_.size());
   std::iota(order_.begin(), order_.end(), 0U);
+  // Both stand in the order of the fill, so one walk finds what they share, repeats included.
   if (narrowedTo_) {
     std::size_t count = 0;
     for (std::uint32_t row = 0; row < keys_.size() && count < narrowedTo_->size(); ++row) {
@@ -107,6 +110,8 @@ void StationRows::SortShown() {
   OrderByRanks(order_, ranks);
 }
 
+// A page begins at a multiple of its length, so a screen of a usual height touches two at most, and the
+// table is opened once for each.
 StationRows::Page StationRows::ReadPage(std::size_t number) const {
   const std::size_t first = number * kPageRows;
   std::vector<StationKey> keys;
@@ -119,6 +124,8 @@ StationRows::Page StationRows::ReadPage(std::size_t number) const {
   return page;
 }
 
+// The page read first gives way: a list is looked at from place to place, and what was left long ago is not
+// asked for again soon.
 const StationInfo& StationRows::At(std::size_t position) const {
   if (notice_) return *notice_;
   const std::size_t number = position / kPageRows;
@@ -189,6 +196,7 @@ void StationRows::Select(std::optional<std::size_t> position) {
 }
 
 // `several_` goes by rows of the fill, so a sort does not change which stations are selected.
+// By place in the fill, since the shown places change with every sort.
 void StationRows::SelectSeveral(std::size_t position, std::span<const std::size_t> all) {
   Select(position);
   if (!selected_ || all.size() < 2) return;

@@ -29,6 +29,7 @@ void ListView::Deselect(int row) {
   quiet_ = wasQuiet;
 }
 
+// The style can be changed while the window lives; only the next key or click looks at it.
 void ListView::AllowSeveral() {
   several_ = true;
   SetWindowLongPtrW(Window(), GWL_STYLE,
@@ -37,6 +38,7 @@ void ListView::AllowSeveral() {
 
 int ListView::SelectedCount() const { return static_cast<int>(ListView_GetSelectedCount(Window())); }
 
+// One row, the usual case, is found by the focus; the search for the others asks the system row by row.
 std::vector<int> ListView::SelectedRows() const {
   std::vector<int> rows;
   if (SelectedCount() == 1) return {Selected()};
@@ -61,6 +63,7 @@ void ListView::SelectRows(std::span<const int> rows) {
   ChangeMany(rows, LVIS_SELECTED);
 }
 
+// Some row has to have the focus: it is the one that the event tells and the keys go on from.
 void ListView::SelectAll() {
   if (!several_ || ListView_GetItemCount(Window()) == 0 || (model_ != nullptr && model_->IsNotice())) return;
   if (FocusedRow() < 0) ListView_SetItemState(Window(), 0, LVIS_FOCUSED, LVIS_FOCUSED);
@@ -122,6 +125,7 @@ void ListView::SelectByKey(WPARAM key, LPARAM lParam) {
   SyncScrollBar();
 }
 
+// A list of one row at a time tells only of the row that became selected; the one that gave way is no news.
 void ListView::ItemChanged(const NMLISTVIEW& change) {
   if (many_) return;
   RepaintRow(change.iItem);
