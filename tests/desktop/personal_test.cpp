@@ -144,7 +144,7 @@ TEST_F(PersonalTest, AnExtraLinkOutlivesTheDirectoryThatItWasMadeFor) {
   SetText(Control(dialog, txtExtraLink), "C:\\x.mp3");
   Click(Control(dialog, butOKIt));
   AnswerBox(dialog, butMsg);
-  EXPECT_EQ(FocusOf(dialog), Control(dialog, txtExtraLink));
+  EXPECT_TRUE(WaitUntil([&] { return FocusOf(dialog) == Control(dialog, txtExtraLink); }));
   SetText(Control(dialog, txtExtraLink), "http://127.0.0.1:9/extra");
   EndWith(main, dialog, butOKIt);
   ASSERT_TRUE(WaitUntil([&] { return Exists("ownlinks.snr"); }));

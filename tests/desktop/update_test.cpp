@@ -6,7 +6,7 @@ namespace {
 
 TEST_F(UpdateTest, F5BringsANewDirectoryAndItCanBeUndone) {
   const std::string update = Update();
-  server_.Answer("/u/update7.txt", script::HeldBody(update, update.size() / 2));
+  server_.Answer("/u/update7.txt", script::HeldBody(update, (update.size() + 1) / 2));
   HWND main = StartAndShowMain();
   PressKey(main, VK_F5);
   HWND dialog = UpdateDialog();
@@ -163,7 +163,7 @@ TEST_F(UpdateTest, AnUpdateThatDidNotComeThroughChangesNothing) {
 
 TEST_F(UpdateTest, CancelAndCloseEndTheTransferAtOnce) {
   const std::string update = Update();
-  server_.Answer("/u/update7.txt", script::HeldBody(update, update.size() / 2));
+  server_.Answer("/u/update7.txt", script::HeldBody(update, (update.size() + 1) / 2));
   HWND main = StartAndShowMain();
   for (const int key : {butMsg + 1, butCloseIt}) {
     Click(Control(main, butUpdate));
@@ -179,7 +179,7 @@ TEST_F(UpdateTest, CancelAndCloseEndTheTransferAtOnce) {
 
 TEST_F(UpdateTest, TheProgramEndsCleanlyInTheMiddleOfAnUpdate) {
   const std::string update = Update();
-  server_.Answer("/u/update7.txt", script::HeldBody(update, update.size() / 2));
+  server_.Answer("/u/update7.txt", script::HeldBody(update, (update.size() + 1) / 2));
   for (const bool watched : {true, false}) {
     UseServer(server_.Port(), watched ? "" : "/SL/");
     SonaroProcess& sonaro = Start();
