@@ -53,7 +53,7 @@ Application::Application(const Platform& platform, const Strings& strings, const
       playerSetup_(reg_, platform.files, players_, installedPlayers_),
       playerReporter_(players_, installedPlayers_, data_, source_, strings_, state_),
       pages_(source_, data_, platform.shell, strings_),
-      help_(reg_, pages_),
+      help_(reg_, pages_, data_, platform.shell),
       player_(source_, recent_, players_, installedPlayers_, pages_, strings_),
       scan_(reg_, platform.clock, player_, source_, strings_),
       faceplate_(reg_, data_),

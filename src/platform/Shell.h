@@ -19,7 +19,8 @@ class Shell {
   virtual void SetMainWindow(void* window) = 0;
   // The program registered for an existing file `name` in `folder` (the platform looks at the real file).
   virtual FoundProgram FindProgramFor(const std::string& name, const std::string& folder) = 0;
-  // Verb "Open", normal window: `program` gets `parameters` verbatim as its command line. True when started.
+  // Verb "Open", normal window; a document opens in the program registered for it. `program` gets
+  // `parameters` verbatim as its command line. True when started.
   virtual bool Open(const std::string& program, const std::string& parameters, const std::string& folder) = 0;
   // Starts a command line as it stands, its window minimised with focus, without waiting. True when started.
   virtual bool RunMinimised(const std::string& commandLine) = 0;

@@ -1,6 +1,8 @@
 #include "settings/HelpPages.h"
 
+#include "base/DataFolder.h"
 #include "base/Text.h"
+#include "platform/Shell.h"
 #include "settings/CReg.h"
 #include "settings/ServiceHosts.h"
 #include "settings/SettingNames.h"
@@ -46,15 +48,24 @@ std::string_view HelpPageForMessage(std::string_view messageKey) {
 }
 
 void HelpPages::OpenHelpPage(std::string_view page) {
+  const std::string builtIn = ServiceAddress(ServiceHost::Web, kDefaultHelpPath);
   std::string address = reg_.Get(setting::kHelpUrl);
   if (address.empty()) {
-    address = ServiceAddress(ServiceHost::Web, kDefaultHelpPath);
+    address = builtIn;
     reg_.Set(setting::kHelpUrl, address);
   }
+  if (address == builtIn && OpenOnDisk(page)) return;
   address.append(kHelpEdition).append(page);
   // The setting may have been written without a scheme.
   if (!StartsWithIgnoringCase(address, "http://")) address.insert(0, "http://");
   browser_.OpenWebPage(address);
+}
+
+// Only a file of the program's own folder is handed to the system, which opens whatever it is given; what
+// came from outside goes through the browser's check.
+bool HelpPages::OpenOnDisk(std::string_view page) {
+  const std::string name = std::string(kHelpFolder).append(page);
+  return data_.Exists(name) && shell_.Open(data_.Path(name), "", data_.Folder());
 }
 
 }  // namespace sonaro

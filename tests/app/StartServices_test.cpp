@@ -7,6 +7,7 @@
 #include "directory/HeldNames.h"
 #include "fakes/FakeFiles.h"
 #include "fakes/FakeRegistry.h"
+#include "fakes/FakeShell.h"
 #include "net/ServiceRequest.h"
 #include "net/WhatIsNew.h"
 #include "settings/CReg.h"
@@ -48,7 +49,8 @@ class StartServicesTest : public testing::Test {
   FakeRegistry registry_;
   CReg reg_{registry_};
   FakeBrowser browser_;
-  HelpPages help_{reg_, browser_};
+  FakeShell shell_;
+  HelpPages help_{reg_, browser_, data_, shell_};
   bool rebuilds_ = true;
   std::vector<std::string> rebuiltFrom_;  // the station list at each rebuild
 };
@@ -91,6 +93,39 @@ TEST_F(StartServicesTest, HelpAddress) {
             (std::vector<std::string>{"http://www.sonaro.example/sonaroapp/sonaro4vf/apphelp/2/9037.html",
                                       "http://help.example/h/2/a.html", "HTTP://help.example/2/a.html",
                                       "http://https://help.example/2/a.html"}));
+}
+
+// The pages on the disk are the built-in address's own; one that a service has told counts as it is.
+TEST_F(StartServicesTest, HelpLiesOnTheDiskAsWell) {
+  const std::string builtIn = "http://www.sonaro.example/sonaroapp/sonaro4vf/apphelp";
+  Put("help/2/9037.html", "here");
+  const struct {
+    std::string told;
+    const char* page;
+    bool startsFail;
+    std::string file;
+    std::string address;
+  } kCases[] = {
+      {"", "9037.html", false, "/d/help/2/9037.html", ""},
+      {builtIn, "9037.html", false, "/d/help/2/9037.html", ""},
+      {"", "9038.html", false, "", builtIn + "/2/9038.html"},
+      {"", "9037.html", true, "", builtIn + "/2/9037.html"},
+      {"http://help.example", "9037.html", false, "", "http://help.example/2/9037.html"},
+      {"C:\\d", "9037.html", false, "", "http://C:\\d/2/9037.html"},
+  };
+  for (const auto& one : kCases) {
+    SCOPED_TRACE(one.told + " " + one.page);
+    reg_.SetSetting("HelpURL", one.told);
+    shell_.opened.clear();
+    shell_.startsFail = one.startsFail;
+    browser_.opened.clear();
+    help_.OpenHelpPage(one.page);
+    EXPECT_EQ(reg_.Setting("HelpURL"), one.told.empty() ? builtIn : one.told);
+    std::string file;
+    for (const FakeShell::Opened& each : shell_.opened) file += each.program + each.parameters;
+    EXPECT_EQ(file, one.file);
+    EXPECT_EQ(browser_.opened, one.address.empty() ? std::vector<std::string>() : std::vector{one.address});
+  }
 }
 
 TEST_F(StartServicesTest, SwapTakesOnlyPlainNamesThatATabEnds) {

@@ -31,7 +31,7 @@ void DieAtEveryMoment(bool updateWaits) {
     StatList stations(data);
     Players players(reg, data, shell);
     JournalView view(journal);
-    HelpPages help(reg, view);
+    HelpPages help(reg, view, data, shell);
     AppState state;
     state.commandLine = "WinStart=Yes";
     Startup({messages, system, reg, data, stations, players, help, strings, view, view}, state, view).Main();

@@ -67,7 +67,7 @@ class StartupTest : public testing::Test {
   StatList stations_{data_};
   Players players_{reg_, data_, shell_};
   JournalView view_{journal_};
-  HelpPages help_{reg_, view_};
+  HelpPages help_{reg_, view_, data_, shell_};
   AppState state_;
 };
 

@@ -143,6 +143,7 @@ TEST_F(PlayersTest, EnterOnAStationWithAWebSiteOnlyIsRememberedAndAMissingBrowse
   EXPECT_EQ(BrowserLines().size(), 1u);
   EXPECT_TRUE(WaitUntil([&] { return ReadFile("recent.snr").starts_with("7"); }));
   std::remove(PathOf("lweb.exe").c_str());
+  std::remove(PathOf("help\\2\\index.html").c_str());
   Click(Control(main, butHelp));
   EXPECT_NE(AnswerBox(main, butMsg).find("lweb.exe"), std::string::npos);
 }

@@ -37,6 +37,16 @@ TEST(Make, TurnsEveryBundledListIntoOneWholeFolder) {
         "eventorg2.ism", "cat.snr", "catloc.snr", "fun.snr", "reliable.snr", "searchst.snr"}) {
     EXPECT_EQ(names.count(name), 1u) << name;
   }
+
+  // The help of a folder leads nowhere else: it works without a connection.
+  const auto pages = FolderContents(folder + "/help/2");
+  EXPECT_GT(pages.size(), 20u);
+  for (const auto& [name, html] : pages) {
+    for (std::size_t at = html.find("href=\""); at != std::string::npos; at = html.find("href=\"", at + 1)) {
+      const std::string target = html.substr(at + 6, html.find('"', at + 6) - at - 6);
+      EXPECT_TRUE(std::filesystem::exists(folder + "/help/2/" + target)) << name << " leads to " << target;
+    }
+  }
 }
 
 TEST(Make, GivesTheSameBytesForTheSameLists) {

@@ -57,6 +57,7 @@ void WriteBytes(const std::string& path, std::string_view bytes) {
 std::vector<std::pair<std::string, std::string>> FolderContents(const std::string& folder) {
   std::vector<std::pair<std::string, std::string>> contents;
   for (const auto& entry : std::filesystem::directory_iterator(folder)) {
+    if (!entry.is_regular_file()) continue;
     contents.emplace_back(entry.path().filename().string(), FileBytes(entry.path().string()));
   }
   std::sort(contents.begin(), contents.end());

@@ -116,7 +116,7 @@ struct EmptyProgram {
   PlayerSetup playerSetup{settings, outside.files, players, installed};
   PlayerReporter reporter{players, installed, folder, source, words, state};
   WebPages pages{source, folder, shell, words};
-  HelpPages help{settings, pages};
+  HelpPages help{settings, pages, folder, shell};
   PlayerLaunch player{source, recent, players, installed, pages, words};
   StationScan scan{settings, clock, player, source, words};
   ScheduleStore store{folder, "M/d/yyyy"};

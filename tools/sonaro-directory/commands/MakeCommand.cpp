@@ -14,6 +14,7 @@
 #include "output/DirectoryWriter.h"
 #include "readers/ReadSource.h"
 #include "readers/Readers.h"
+#include "site/WriteSite.h"
 #include "stations/BuildDirectory.h"
 #include "text/CleanText.h"
 
@@ -194,7 +195,8 @@ int Maker::Run() {
   write.player = options_.player;
   // An alphabet that lies in the output folder already stays valid for what is written there.
   write.alphabets = AlphabetsOf(folder.Data());
-  const std::string problem = WriteDirectory(folder.Data(), built.directory, events, write);
+  std::string problem = WriteDirectory(folder.Data(), built.directory, events, write);
+  if (problem.empty()) problem = WriteHelpPages(folder.Data());
   if (!problem.empty()) return Fail(problem);
   Summarise(built, events);
   return kDone;

@@ -3,6 +3,7 @@
 #include <map>
 
 #include "base/Text.h"
+#include "settings/HelpPages.h"
 
 namespace sonaro {
 namespace {
@@ -50,6 +51,21 @@ std::vector<WebPage> HelpSite(std::string_view style) {
   std::vector<WebPage> pages;
   for (const PageSource& page : PageSources()) pages.push_back({std::string(page.name), HtmlOf(page, style)});
   return pages;
+}
+
+// Without the privacy page: it is the service's, and the program asks for it at its address.
+std::string WriteHelpPages(DataFolder& data) {
+  constexpr std::string_view kStyle = "style.css";
+  std::vector<WebPage> files = HelpSite(kStyle);
+  std::erase_if(files, [](const WebPage& page) { return page.name == kPrivacyPage; });
+  files.push_back({std::string(kStyle), std::string(PageStyle())});
+  const std::string folder = data.Path(kHelpFolder.substr(0, kHelpFolder.size() - 1));
+  if (!data.FileSystem().MakeFolder(folder)) return "Cannot make the folder \"" + folder + "\".";
+  for (const WebPage& file : files) {
+    const std::string name = std::string(kHelpFolder) + file.name;
+    if (!data.Save(name, file.html)) return "Cannot write \"" + data.Path(name) + "\".";
+  }
+  return {};
 }
 
 }  // namespace sonaro

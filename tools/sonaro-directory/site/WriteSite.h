@@ -68,6 +68,10 @@ struct WebPage {
 // that lies at the address `style`.
 std::vector<WebPage> HelpSite(std::string_view style);
 
+// Writes the help pages where the program looks for them before it asks the site. "", or one sentence about
+// what was not written.
+std::string WriteHelpPages(DataFolder& data);
+
 // `directory` is a data folder, `site` the folder to write to.
 SiteResult WriteSite(DataFolder& directory, DataFolder& site, const SiteOptions& options);
 
