@@ -33,6 +33,11 @@ void ColourCalendar(HWND calendar, const FaceplateColors& colors) {
   MonthCal_SetColor(calendar, MCSC_TRAILINGTEXT, ToColorRef(colors.textOff));
 }
 
+bool StandsOn(const ControlInstance& header, const ControlInstance& list) {
+  return header.place.bottom == list.place.top && header.place.left >= list.place.left &&
+         header.place.right <= list.place.right;
+}
+
 }  // namespace
 
 // A check box begins left of its place, where its focus line stands; a text of several lines leaves room for
@@ -122,12 +127,29 @@ void ControlSet::Place(const Painter& painter, PixelSize client) {
   client_ = client;
   const DesignSize made = SizeOf(design_, layout_);
   for (ControlInstance& item : items_) {
-    if (const DesignRect* at = BoundsIn(design_, layout_, *item.row)) {
+    if (const DesignRect* at = BoundsIn(design_, layout_, *item.row))
       item.place = ArrangeRow(design_, *item.row, *at, made, client, painter.Dpi());
-      PlaceWindow(item, painter);
-    }
+  }
+  form_.Headers().Arrange();
+  for (ControlInstance& item : items_) {
+    if (BoundsIn(design_, layout_, *item.row)) PlaceWindow(item, painter);
     ShowOrHide(item);
   }
+}
+
+void ControlSet::PlaceHeaders(const Painter& painter) {
+  form_.Headers().Arrange();
+  for (ControlInstance& item : items_) {
+    if (item.KindOf() == ControlKind::HeaderButton) PlaceWindow(item, painter);
+    if (item.KindOf() == ControlKind::ListView && item.view) PlaceColumnsBelowHeaders(item);
+  }
+}
+
+ListView* ControlSet::ListBelow(const ControlInstance& header) const {
+  const auto below = std::ranges::find_if(items_, [&](const ControlInstance& item) {
+    return item.KindOf() == ControlKind::ListView && item.view && StandsOn(header, item);
+  });
+  return below == items_.end() ? nullptr : static_cast<ListView*>(below->view.get());
 }
 
 // The header buttons that stand on the list's upper edge say how wide its columns are; their rows come before
@@ -135,10 +157,8 @@ void ControlSet::Place(const Painter& painter, PixelSize client) {
 void ControlSet::PlaceColumnsBelowHeaders(const ControlInstance& list) {
   std::vector<int> edges;
   for (const ControlInstance& item : items_) {
-    if (item.KindOf() == ControlKind::HeaderButton && item.place.bottom == list.place.top &&
-        item.place.left >= list.place.left && item.place.right <= list.place.right) {
+    if (item.KindOf() == ControlKind::HeaderButton && StandsOn(item, list))
       edges.push_back(item.place.right - list.place.left);
-    }
   }
   static_cast<ListView&>(*list.view).SetColumnEdges(std::move(edges));
 }

@@ -16,6 +16,8 @@
 
 namespace sonaro {
 
+class ListView;
+
 class ControlSet {
  public:
   ControlSet(FormWindow& form, const FormDesign& design) : form_(form), design_(design) {}
@@ -44,6 +46,9 @@ class ControlSet {
   void GrowFor(const ControlInstance& label, std::string_view text);
   // To where the layout puts them in a client area of this many pixels.
   void Place(const Painter& painter, PixelSize client);
+  // Header buttons to where their edges are now, and the columns below them.
+  void PlaceHeaders(const Painter& painter);
+  ListView* ListBelow(const ControlInstance& header) const;  // nullptr: none
   void ShowOrHide(ControlInstance& item);
   void ShowPane(int pane, bool shown);
 

@@ -138,6 +138,7 @@ bool FocusKeys::RunKey(MSG& message) {
   if (OpensList(focused, message)) return true;
   if (EditsText(focused, key)) return false;
   if (RunKeyTable(key, focused ? focused->Id() : 0)) return true;
+  if (focused && ModifiersDown() == kCtrl && form_.Headers().RunKey(*focused, message.wParam)) return true;
   if (key == VK_RETURN && message.message == WM_KEYDOWN) return RunEnter(focused, message);
   if (key == VK_ESCAPE && message.message == WM_KEYDOWN) {
     form_.Escape();

@@ -204,6 +204,9 @@ struct FormDesign {
   // With it the window can be made larger than its size, and maximised, in every layout without a size of its
   // own; this is where the size is kept.
   const setting::Text* keptSize = nullptr;
+  // With it the edges between the form's header buttons, which all stand over one list, can be dragged; this
+  // is where the columns' shares are kept.
+  const setting::Text* keptColumns = nullptr;
   std::span<const Stretch> stretches = {};
 };
 

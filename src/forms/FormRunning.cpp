@@ -93,6 +93,7 @@ FormWindow::FormWindow(Form& form, FormContext& context, const FormDesign& desig
       paint_(*this, context.faceplate),
       controls_(*this, design),
       keys_(*this),
+      headers_(*this, context),
       needle_(*this) {}
 
 FormWindow::~FormWindow() {
@@ -126,6 +127,7 @@ bool FormWindow::BuildWindow(HWND owner) {
             empty.texts.begin() + 1);
   ChooseDpi(MonitorOf(owner));
   ReadSize();
+  headers_.ReadShares();
   window_ = CreateDialogIndirectParamW(GetModuleHandleW(nullptr), &empty.head, owner, nullptr, 0);
   if (!window_) return false;
   SetWindowLongPtrW(window_, GWLP_USERDATA, reinterpret_cast<LONG_PTR>(this));

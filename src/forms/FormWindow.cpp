@@ -41,6 +41,7 @@ LRESULT FormWindow::HandleMessage(UINT message, WPARAM wParam, LPARAM lParam) {
   if (form_ && form_->OnMessage(message, wParam, lParam, answer)) return answer;
   controls_.RelayToTips(message, wParam, lParam);
   if (CanResize(design_, controls_.Layout()) && HandleFrame(message, wParam, lParam, answer)) return answer;
+  if (headers_.HandleDrag(message, lParam)) return 0;
   switch (message) {
     case WM_COMMAND:
       return HandleCommand(wParam, lParam);

@@ -11,6 +11,7 @@
 #include "forms/ControlSet.h"
 #include "forms/FocusKeys.h"
 #include "forms/FormPaint.h"
+#include "forms/HeaderEdges.h"
 #include "forms/Resizing.h"
 #include "forms/TabNeedle.h"
 
@@ -33,6 +34,7 @@ class FormWindow final : public FormServices {
   FormPaint& Paint() { return paint_; }
   FocusKeys& Keys() { return keys_; }
   const FocusKeys& Keys() const { return keys_; }
+  HeaderEdges& Headers() { return headers_; }
   TabNeedle& Needle() { return needle_; }
   const TabNeedle& Needle() const { return needle_; }
   std::string TextOf(const ControlText& text) const;
@@ -126,6 +128,7 @@ class FormWindow final : public FormServices {
   FormPaint paint_;
   ControlSet controls_;
   FocusKeys keys_;
+  HeaderEdges headers_;
   TabNeedle needle_;
   bool modal_ = false;       // ShowModal runs
   bool closing_ = false;     // Close was called

@@ -581,6 +581,7 @@ const FormDesign& SonaroFrm::Design() {
                                      .latePanes = kLatePanes,
                                      .firstFocus = lstFavs,
                                      .keptSize = &setting::kMainSize,
+                                     .keptColumns = &setting::kListColumns,
                                      .stretches = kStretches};
   return kDesign;
 }

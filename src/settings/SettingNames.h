@@ -62,6 +62,7 @@ inline constexpr Text kSearchList{"SearchList"};                        // stati
 inline constexpr Text kPinnedSearches{"PinnedSearches"};                // stations/SearchHistory: none
 inline constexpr Switch kListValues{"ListValues", "Yes", "", false, true};  // mainwindow, the station list: no ratings beside the names
 inline constexpr Text kListFilter{"ListFilter"};                        // mainwindow/StationFilter: no filter
+inline constexpr Text kListColumns{"ListColumns"};                      // forms/HeaderEdges: four columns in thousandths of the list; as designed
 inline constexpr Switch kNoShowDelete{"NoShowDelete", "Yes", "", false, true};  // mainwindow, favourite groups: ask
 inline constexpr Switch kNoShowDeletePersonalStation{"NoShowDeletePersonalStation", "Yes", "", false, true};  // personal stations: ask
 inline constexpr Switch kNoShowDeleteNotice{"NoShowDeleteNotice", "Yes", "", false, true};  // schedule: ask

@@ -184,11 +184,20 @@ TEST_F(FormLayoutTest, IsDraggedByBackgroundAndLabelsButNotByControls) {
   EXPECT_EQ(dragged.FocusedControl(), 5003);
 }
 
-class LargerForm final : public Form {
+class LargerForm final : public Form, private ListModel {
  public:
   explicit LargerForm(FormContext& context) : Form(context, Design()) {}
+  std::string name = "i";
+  int sorted = 0;
 
  private:
+  int RowCount() const override { return 1; }
+  std::string Cell(int, int) const override { return name; }
+  std::span<const EventRow> Events() const override {
+    static const EventRow kRows[] = {{5001, Click, &LargerForm::Sort, 2}};
+    return kRows;
+  }
+  void Sort(int) { ++sorted; }
   static const FormDesign& Design() {
     static constexpr ControlRow kRows[] = {
         {.id = 5001, .kind = ControlKind::HeaderButton, .text = "Name", .at = {10, 40, 60, 20}},
@@ -204,12 +213,14 @@ class LargerForm final : public Form {
                                            .controls = kRows,
                                            .layouts = kLayouts,
                                            .keptSize = &setting::kMainSize,
+                                           .keptColumns = &setting::kListColumns,
                                            .stretches = kStretches};
     return kDesign;
   }
   void OnLoad() override {
     ListHandle list{*this, 5003};
     list->SetColumns({{"Name", 59}, {"Place", 80}});
+    list->SetModel(this, false);
   }
 };
 
@@ -240,6 +251,48 @@ TEST_F(FormLayoutTest, IsPulledLargerWithItsColumnsAndKeepsTheSize) {
       << "a layout of its own size stays as it is";
   larger.UseLayout(0);
   EXPECT_EQ(PlaceOf(larger.Window()).Width(), 260);
+}
+
+TEST_F(FormLayoutTest, DragsTheEdgeBetweenTwoHeadersAndKeepsTheShares) {
+  context.forms.settings = &context.settings;
+  context.registry.CreateKey(RootKey::LocalMachine, kSettingsKey);
+  context.settings.Set(setting::kListColumns, "500,400");
+  LargerForm larger(context.forms);
+  larger.Show();
+  const auto edge = [&] {
+    EXPECT_EQ(PlaceInForm(larger, 5001).right, PlaceInForm(larger, 5002).left);
+    EXPECT_EQ(ListView_GetColumnWidth(ControlOf(larger, 5003), 0), PlaceInForm(larger, 5001).Width() - 1);
+    return PlaceInForm(larger, 5001).right;
+  };
+  const auto press = [&](int id, UINT message, int x) {
+    SendMessageW(ControlOf(larger, id), message, MK_LBUTTON, MAKELPARAM(x, 10));
+  };
+  EXPECT_EQ(edge(), 70) << "shares that cannot be read";
+  press(5002, WM_LBUTTONDOWN, 3);  // at 73
+  ASSERT_EQ(GetCapture(), larger.Window());
+  SendMessageW(larger.Window(), WM_MOUSEMOVE, MK_LBUTTON, MAKELPARAM(93, 50));
+  EXPECT_EQ(edge(), 90) << "while the button is down";
+  SendMessageW(larger.Window(), WM_LBUTTONUP, 0, MAKELPARAM(93, 50));
+  SendMessageW(larger.Window(), WM_MOUSEMOVE, 0, MAKELPARAM(60, 50));
+  EXPECT_EQ(edge(), 90);
+  EXPECT_EQ(context.settings.Get(setting::kListColumns), "571,429");
+  SetWindowPos(larger.Window(), nullptr, 0, 0, 260, 140, SWP_NOMOVE | SWP_NOZORDER);
+  EXPECT_EQ(edge(), 10 + 137);
+  larger.Close();
+  larger.Show();
+  EXPECT_EQ(edge(), 10 + 137);
+  press(5001, WM_LBUTTONDBLCLK, 135);
+  EXPECT_EQ(edge(), 10 + 40) << "as wide as its text, but for the least";
+  larger.name = std::string(80, 'W');
+  press(5001, WM_LBUTTONDBLCLK, 38);
+  EXPECT_EQ(edge(), 250 - 40) << "the column beside it keeps the least";
+  EXPECT_EQ(larger.sorted, 0);
+  for (const int x : {100, 2}) {  // no edge: in the middle, and left of the first header
+    press(5001, WM_LBUTTONDOWN, x);
+    EXPECT_NE(GetCapture(), larger.Window());
+    SendMessageW(ControlOf(larger, 5001), WM_LBUTTONUP, 0, MAKELPARAM(x, 10));
+  }
+  EXPECT_EQ(larger.sorted, 2);
 }
 
 TEST_F(FormLayoutTest, MaximisesToTheWorkAreaAndAgainWhenItIsNextShown) {

@@ -73,6 +73,12 @@ LRESULT HandleControlMessage(FormWindow& form, ControlInstance& item, UINT messa
       item.hover = false;
       form.Paint().Repaint(item);
       break;
+    case WM_SETCURSOR:
+    case WM_LBUTTONDOWN:
+    case WM_LBUTTONDBLCLK:
+      if (kind == ControlKind::HeaderButton && form.Headers().HandleHeader(item, message, lParam))
+        return TRUE;
+      break;
     case WM_ERASEBKGND:
       if (IsDrawn(kind)) return 1;
       break;

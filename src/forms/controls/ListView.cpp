@@ -147,19 +147,32 @@ void ListView::SetColumnEdges(std::vector<int> edges) {
   RepaintWithGround();
 }
 
-// Edges are scaled, not widths, so that the columns meet their header buttons at every dpi. The last one
-// takes what is left.
+int ListView::HeaderOf(std::size_t column) const {
+  int header = 0;
+  for (std::size_t i = 1; i <= column; ++i) header += columns_[i].figure ? 0 : 1;
+  return header;
+}
+
+// Edges are scaled, not widths, so that the columns meet their header buttons at every dpi.
+int ListView::ColumnEdge(std::size_t column) const {
+  const auto header = static_cast<std::size_t>(HeaderOf(column));
+  if (header < headers_.size()) {
+    const bool shared = HeaderOf(column + 1) == static_cast<int>(header);
+    return headers_[header] - Theme().Line() - (shared ? Theme().Px(columns_[column + 1].width) : 0);
+  }
+  int design = 0;
+  for (std::size_t i = 0; i <= column; ++i) design += columns_[i].width;
+  return Theme().Px(design);
+}
+
+// The last one takes what is left.
 void ListView::PlaceColumns() {
   const std::vector<int> before = std::exchange(edges_, {});
   const int bar = BarWidth();
-  int design = 0;
   int left = 0;
   for (std::size_t i = 0; i < columns_.size(); ++i) {
-    design += columns_[i].width;
     const bool last = i + 1 == columns_.size();
-    const int right = last                  ? std::max(left, Width() - bar)
-                      : i < headers_.size() ? headers_[i] - Theme().Line()
-                                            : Theme().Px(design);
+    const int right = std::max(left, last ? Width() - bar : ColumnEdge(i));
     // Setting a width costs the system a look at the whole list; most often only the last one is another.
     const bool stays = i < before.size() && before[i] == right && (i == 0 || before[i - 1] == left);
     if (!stays) ListView_SetColumnWidth(Window(), static_cast<int>(i), right - left);

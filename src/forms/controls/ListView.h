@@ -53,8 +53,10 @@ class ListView final : public ScrolledView {
   };
   void SetColumns(std::vector<Column> columns);
   // Right edges in pixels from the left end of the list's place, for columns below header buttons: they count
-  // instead of the widths.
+  // instead of the widths. A column of figures stands below the right end of the header before it.
   void SetColumnEdges(std::vector<int> edges);
+  // How wide the header button must be, in pixels, for the texts of the rows in sight below it; 0: no rows.
+  int WidthBelowHeader(int header) const;
   // Rows with a reliability symbol keep its place free before the first column's text.
   void SetModel(const ListModel* model, bool withSymbols);
   // Lines between the columns; there unless told otherwise.
@@ -92,6 +94,8 @@ class ListView final : public ScrolledView {
  private:
   LRESULT Handle(UINT message, WPARAM wParam, LPARAM lParam) override;
   void PlaceColumns();
+  int ColumnEdge(std::size_t column) const;
+  int HeaderOf(std::size_t column) const;
   void UseRowHeight();
   void SyncScrollBar() override;
   void ScrollTo(int first) override;
@@ -100,6 +104,7 @@ class ListView final : public ScrolledView {
   bool HitsStar(int row, LPARAM pointer) const;
   RECT StarBox(const RECT& row) const;
   int PaintMarks(HDC dc, int row, const RECT& box, bool selected, bool focused) const;
+  int MarksWidth(const RowMarks& marks) const;
   void ShowTipAt(LPARAM pointer);
   int FocusedRow() const;  // -1: none
   int RowUnder(LPARAM pointer) const;

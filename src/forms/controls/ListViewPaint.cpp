@@ -173,6 +173,36 @@ RECT ListView::TextBox(std::size_t column, const RECT& row) const {
   return {left + inset, row.top, edges_[column] - theme.Px(kCellGap), row.bottom};
 }
 
+int ListView::MarksWidth(const RowMarks& marks) const {
+  return (marks.star || marks.offer ? Theme().Px(kStarSize + kStarGap) : 0) +
+         (marks.sound ? Theme().Px(kSoundSize + kStarGap) : 0);
+}
+
+// A figure keeps its column; the first text is strong as soon as its row is selected.
+int ListView::WidthBelowHeader(int header) const {
+  if (model_ == nullptr || model_->IsNotice()) return 0;
+  const Painter& theme = Theme();
+  const int first = std::max(0, ListView_GetTopIndex(Window()));
+  const int end = std::min(model_->RowCount(), first + ListView_GetCountPerPage(Window()) + 1);
+  int widest = 0;
+  int figures = 0;
+  for (std::size_t column = 0; column < columns_.size() && first < end; ++column) {
+    if (HeaderOf(column) != header) continue;
+    if (columns_[column].figure) figures += theme.Px(columns_[column].width);
+    for (int row = first; row < end && !columns_[column].figure; ++row) {
+      const std::wstring text = Widen(model_->Cell(row, static_cast<int>(column)));
+      const RECT none = {0, 0, 0, 0};
+      const RECT room = TextBox(column, none);  // of a row without a width
+      const int left = column == 0 ? 0 : edges_[column - 1];
+      const int besides = static_cast<int>(room.left) - left + edges_[column] - static_cast<int>(room.right);
+      const int marks = column == 0 ? MarksWidth(model_->Marks(row)) : 0;
+      const TextStyle style = column == 0 ? TextStyle::BodyStrong : TextStyle::Body;
+      widest = std::max(widest, static_cast<int>(theme.Measure(text, style).cx) + besides + marks);
+    }
+  }
+  return widest == 0 ? 0 : widest + figures + theme.Line();
+}
+
 // A text that its column cuts short can be read whole.
 void ListView::ShowTipAt(LPARAM pointer) {
   const int row = RowUnder(pointer);
@@ -182,9 +212,7 @@ void ListView::ShowTipAt(LPARAM pointer) {
   const RECT box = TextBox(column, ItemBox(row));
   const std::wstring text = Widen(model_->Cell(row, static_cast<int>(column)));
   const TextStyle style = row == Selected() && column == 0 ? TextStyle::BodyStrong : TextStyle::Body;
-  const RowMarks marks = column == 0 ? model_->Marks(row) : RowMarks();
-  const int marksTaken = (marks.star || marks.offer ? Theme().Px(kStarSize + kStarGap) : 0) +
-                         (marks.sound ? Theme().Px(kSoundSize + kStarGap) : 0);
+  const int marksTaken = column == 0 ? MarksWidth(model_->Marks(row)) : 0;
   if (Theme().Measure(text, style).cx <= box.right - box.left - marksTaken) return tip_->Clear();
   tip_->Set(box, text);
 }
