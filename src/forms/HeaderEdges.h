@@ -28,7 +28,7 @@ class HeaderEdges {
   bool RunKey(const ControlInstance& focused, WPARAM key);
 
  private:
-  std::vector<ControlInstance*> Headers() const;  // none: its columns are as designed
+  std::vector<ControlInstance*> Headers() const;              // none: its columns are as designed
   int EdgeUnder(const ControlInstance& header, int x) const;  // -1: none
   void Fit(int edge);
   void MoveEdge(int edge, int to);

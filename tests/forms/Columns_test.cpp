@@ -32,7 +32,8 @@ TEST(MoveColumnEdge, ChangesTheTwoColumnsBesideItDownToTheLeast) {
   const struct {
     std::size_t edge;
     int to, stands;
-  } cases[] = {{0, 220, 220}, {0, 5, 40}, {0, 500, 258}, {1, 0, 226}, {1, 341, 340}, {2, 379, 379}, {2, 480, 452}};
+  } cases[] = {{0, 220, 220}, {0, 5, 40},    {0, 500, 258}, {1, 0, 226},
+               {1, 341, 340}, {2, 379, 379}, {2, 480, 452}};
   for (const auto& c : cases) {
     std::vector<int> after = before;
     after[c.edge] = c.stands;

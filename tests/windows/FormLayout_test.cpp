@@ -219,7 +219,7 @@ class LargerForm final : public Form, private ListModel {
   }
   void OnLoad() override {
     ListHandle list{*this, 5003};
-    list->SetColumns({{"Name", 59}, {"Place", 80}});
+    list->SetColumns({{"Name", 59}, {"Value", 10, true, true}, {"Place", 80}});
     list->SetModel(this, false);
   }
 };
@@ -240,7 +240,7 @@ TEST_F(FormLayoutTest, IsPulledLargerWithItsColumnsAndKeepsTheSize) {
   EXPECT_EQ(PlaceOf(larger.Window()).Width(), 160) << "the design's size is the least";
   SetWindowPos(larger.Window(), nullptr, 0, 0, 260, 140, SWP_NOMOVE | SWP_NOZORDER);
   EXPECT_EQ(PlaceInForm(larger, 5001), (PixelRect{10, 40, 145, 60}));
-  EXPECT_EQ(ListView_GetColumnWidth(ControlOf(larger, 5003), 0), 145 - 11) << "inside the list's frame";
+  EXPECT_EQ(ListView_GetColumnWidth(ControlOf(larger, 5003), 0), 145 - 21) << "inside the list's frame";
   EXPECT_EQ(context.settings.Get(setting::kMainSize), "260,140");
   larger.Close();
   larger.Show();
@@ -261,13 +261,27 @@ TEST_F(FormLayoutTest, DragsTheEdgeBetweenTwoHeadersAndKeepsTheShares) {
   larger.Show();
   const auto edge = [&] {
     EXPECT_EQ(PlaceInForm(larger, 5001).right, PlaceInForm(larger, 5002).left);
-    EXPECT_EQ(ListView_GetColumnWidth(ControlOf(larger, 5003), 0), PlaceInForm(larger, 5001).Width() - 1);
+    const HWND list = ControlOf(larger, 5003);
+    EXPECT_EQ(ListView_GetColumnWidth(list, 0), PlaceInForm(larger, 5001).Width() - 11);
+    EXPECT_EQ(ListView_GetColumnWidth(list, 1), 10) << "a figure stands below the end of the first header";
     return PlaceInForm(larger, 5001).right;
   };
   const auto press = [&](int id, UINT message, int x) {
     SendMessageW(ControlOf(larger, id), message, MK_LBUTTON, MAKELPARAM(x, 10));
   };
   EXPECT_EQ(edge(), 70) << "shares that cannot be read";
+  const auto cursorAt = [&](int x) {
+    POINT at = {x, 50};
+    ClientToScreen(larger.Window(), &at);
+    SetCursorPos(at.x, at.y);
+    SetCursor(LoadCursorW(nullptr, MAKEINTRESOURCEW(32512)));
+    const HWND header = ControlOf(larger, 5002);
+    SendMessageW(header, WM_SETCURSOR, reinterpret_cast<WPARAM>(header), MAKELPARAM(HTCLIENT, WM_MOUSEMOVE));
+    return GetCursor();
+  };
+  const HCURSOR sizes = LoadCursorW(nullptr, MAKEINTRESOURCEW(32644));
+  EXPECT_EQ(cursorAt(73), sizes);
+  EXPECT_NE(cursorAt(74), sizes);
   press(5002, WM_LBUTTONDOWN, 3);  // at 73
   ASSERT_EQ(GetCapture(), larger.Window());
   SendMessageW(larger.Window(), WM_MOUSEMOVE, MK_LBUTTON, MAKELPARAM(93, 50));
