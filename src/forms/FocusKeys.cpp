@@ -41,7 +41,7 @@ bool OpensList(const ControlInstance* focused, const MSG& message) {
   return true;
 }
 
-bool IsUsable(const ControlInstance& item) { return item.shown && IsWindowEnabled(item.window); }
+bool IsUsable(const ControlInstance& item) { return item.shown && IsWindowEnabled(item.Window()); }
 
 // Written only when it changes: each write sends two messages.
 void SetTabStop(HWND control, bool stop) {
@@ -76,7 +76,34 @@ ControlInstance* FocusKeys::Focused() const { return form_.Controls().Find(GetFo
 void FocusKeys::FocusOn(const ControlInstance& item) {
   if (!item.Window()) return;
   focusGiven_ = true;
+  left_ = item.Window();  // for a form that cannot have the focus now
   SendMessageW(form_.Window(), WM_NEXTDLGCTL, reinterpret_cast<WPARAM>(item.Window()), TRUE);
+}
+
+void FocusKeys::Remember(HWND focus) {
+  if (form_.Controls().Find(focus)) left_ = focus;
+}
+
+// By SetFocus: an edit keeps what was selected in it.
+bool FocusKeys::GiveBack() {
+  if (IsIconic(form_.Window())) return false;
+  if (Focused()) return true;
+  const ControlInstance* item = form_.Controls().Find(left_);
+  if (!item) return false;
+  HWND control = left_;
+  if (!IsUsable(*item)) {
+    item = form_.Controls().Find(form_.Design().firstFocus);
+    if (!item || !IsUsable(*item)) return false;
+    control = item->Window();
+  }
+  SetFocus(control);
+  return true;
+}
+
+void FocusKeys::BackFrom(const ControlInstance& button) {
+  if (Focused() != &button) return;
+  const ControlInstance* item = form_.Controls().Find(before_);
+  if (item && IsUsable(*item)) SetFocus(before_);
 }
 
 void FocusKeys::GiveFirstFocus() {
@@ -158,7 +185,8 @@ void FocusKeys::NoteKeyboardUse(const MSG& message) {
   }
 }
 
-// F1 is the help button in every form that has one, without a row.
+// F1 is the help button in every form that has one, without a row; in any other it is that of the window
+// which the form was opened from.
 bool FocusKeys::RunKeyTable(int key, int focusedId) {
   for (const KeyRow& row : form_.Design().keys) {
     if (!IsInRun(key, row.key, row.keys) || row.modifiers != ModifiersDown()) continue;
@@ -166,11 +194,12 @@ bool FocusKeys::RunKeyTable(int key, int focusedId) {
     form_.Press(row.command + key - row.key);
     return true;
   }
-  if (key == VK_F1 && ModifiersDown() == kPlain && form_.Controls().Find(butHelp)) {
-    form_.Press(butHelp);
-    return true;
-  }
-  return false;
+  if (key != VK_F1 || ModifiersDown() != kPlain) return false;
+  FormWindow* helper = &form_;
+  while (helper && !helper->Controls().Find(butHelp))
+    helper = FormWindow::Of(GetWindow(helper->Window(), GW_OWNER));
+  if (helper) helper->Press(butHelp);
+  return helper != nullptr;
 }
 
 // Enter: what waits for it in the focused control, the focused button, else the primary button.

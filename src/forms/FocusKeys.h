@@ -14,7 +14,10 @@ class FocusKeys {
  public:
   explicit FocusKeys(FormWindow& form) : form_(form) {}
 
-  void Reset() { focusGiven_ = false; }
+  void Reset() {
+    focusGiven_ = false;
+    left_ = nullptr;
+  }
   // Cues as the system says, or as the owner has them.
   void BeginCues(const FormWindow* owner);
   // The user works with the keyboard: the focus line and the underlines of access keys show from now on. The
@@ -26,6 +29,16 @@ class FocusKeys {
   ControlInstance* Focused() const;
   void FocusOn(const ControlInstance& item);
   void GiveFirstFocus();  // at the first showing, when the program has not
+  // Where the user is when the window goes away: behind another one, to the tray, into the task bar. Anything
+  // but a control of the form is no such place.
+  void Remember(HWND focus);
+  // Back to there; when that control has gone meanwhile, to where the form begins. False: there is no such
+  // place, and the system may choose.
+  bool GiveBack();
+  // What has the focus before a key or the pointer does anything.
+  void BeginInput() { before_ = GetFocus(); }
+  // The focus goes back to what had it before this button was pressed: its menu is not a place to stay at.
+  void BackFrom(const ControlInstance& button);
   // The control and its neighbours in the arrow keys' group.
   std::span<ControlInstance> GroupOf(const ControlInstance& item) const;
   ControlInstance* ShownPrimary() const;
@@ -41,6 +54,8 @@ class FocusKeys {
   bool RunEnter(const ControlInstance* focused, MSG& message);
 
   FormWindow& form_;
+  HWND left_ = nullptr;    // a control of the form, or the edit inside one
+  HWND before_ = nullptr;  // any window
   bool focusGiven_ = false;
   bool showFocus_ = false;
   bool showAccessKeys_ = false;

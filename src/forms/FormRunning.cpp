@@ -169,6 +169,7 @@ void FormWindow::Show(HWND owner) {
   ShowWindow(window_, std::exchange(toMaximise_, false) ? SW_SHOWMAXIMIZED : SW_SHOW);
   SetForegroundWindow(window_);
   keys_.GiveFirstFocus();
+  keys_.GiveBack();
 }
 
 void FormWindow::ShowInactive() {

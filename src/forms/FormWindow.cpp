@@ -48,12 +48,7 @@ LRESULT FormWindow::HandleMessage(UINT message, WPARAM wParam, LPARAM lParam) {
     case WM_NOTIFY:
       return HandleNotice(*reinterpret_cast<NMHDR*>(lParam));
     case WM_TIMER:
-      if (wParam == kLatePanesTimer) {
-        KillTimer(window_, kLatePanesTimer);
-        controls_.MakeLatePanes();
-      } else if (!needle_.Step(wParam)) {
-        RunTimer(static_cast<int>(wParam));
-      }
+      RunTimer(wParam);
       return 0;
     case WM_ERASEBKGND:
     case WM_PAINT:
@@ -74,6 +69,9 @@ LRESULT FormWindow::HandleMessage(UINT message, WPARAM wParam, LPARAM lParam) {
       return HandlePointer(message, wParam, lParam);
     case WM_CONTEXTMENU:
       return HandleContextMenu(reinterpret_cast<HWND>(wParam), lParam);
+    case WM_ACTIVATE:
+    case WM_SETFOCUS:
+    case WM_SHOWWINDOW:
     case WM_UPDATEUISTATE:
     case WM_NEXTDLGCTL:
     case WM_SYSCOMMAND:
@@ -97,6 +95,11 @@ LRESULT FormWindow::HandleMessage(UINT message, WPARAM wParam, LPARAM lParam) {
 
 LRESULT FormWindow::HandleKeyboard(UINT message, WPARAM wParam, LPARAM lParam) {
   switch (message) {
+    case WM_ACTIVATE:
+    case WM_SETFOCUS:
+    case WM_SHOWWINDOW:
+      if (KeepFocus(message, wParam)) return 0;
+      break;
     case WM_UPDATEUISTATE:
       if (LOWORD(wParam) == UIS_CLEAR) {
         keys_.ShowCues((HIWORD(wParam) & UISF_HIDEFOCUS) != 0, (HIWORD(wParam) & UISF_HIDEACCEL) != 0);
@@ -108,6 +111,7 @@ LRESULT FormWindow::HandleKeyboard(UINT message, WPARAM wParam, LPARAM lParam) {
     // SC_KEYMENU is Alt alone, or Alt with a letter that no control has; the low four bits are the system's
     // own.
     case WM_SYSCOMMAND:
+      keys_.Remember(GetFocus());  // minimising takes the focus away before anything else is said
       if ((wParam & 0xFFF0) != SC_KEYMENU) break;
       // The system would walk along a menu bar that is not there, and draw its picture into the window's
       // corner.
@@ -119,6 +123,14 @@ LRESULT FormWindow::HandleKeyboard(UINT message, WPARAM wParam, LPARAM lParam) {
     }
   }
   return DefDlgProcW(window_, message, wParam, lParam);
+}
+
+// The system gives a window that comes back the focus as such, and would move on to its first control, unless
+// it has noted where the user was; it does not in each of the ways in which a window goes. True: all is done.
+bool FormWindow::KeepFocus(UINT message, WPARAM wParam) {
+  keys_.Remember(message == WM_SETFOCUS ? reinterpret_cast<HWND>(wParam) : GetFocus());
+  const bool comes = message == WM_SETFOCUS || (message == WM_ACTIVATE && LOWORD(wParam) != WA_INACTIVE);
+  return comes && keys_.GiveBack();
 }
 
 // Close, then WM_DESTROY and WM_NCDESTROY. A window can also be destroyed from outside, with its owner.
@@ -304,8 +316,14 @@ void FormWindow::PaneMade(int pane) const {
 }
 
 // The number of a timer is that of its row in the timer table.
-void FormWindow::RunTimer(int id) const {
-  if (!form_) return;
+void FormWindow::RunTimer(UINT_PTR timer) {
+  if (timer == kLatePanesTimer) {
+    KillTimer(window_, kLatePanesTimer);
+    controls_.MakeLatePanes();
+    return;
+  }
+  if (needle_.Step(timer) || !form_) return;
+  const auto id = static_cast<int>(timer);
   for (const TimerRow& row : form_->Timers()) {
     if (row.id == id) return (form_->*row.handler)();
   }

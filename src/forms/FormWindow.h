@@ -87,7 +87,7 @@ class FormWindow final : public FormServices {
     const EventRow* row = nullptr;
   };
   Binding BindingOf(int id, FormEvent::Kind kind) const;
-  void RunTimer(int id) const;
+  void RunTimer(UINT_PTR timer);
 
   static LRESULT CALLBACK Procedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam) noexcept;
   bool BuildWindow(HWND owner);
@@ -103,6 +103,7 @@ class FormWindow final : public FormServices {
   LRESULT HandleDrawing(UINT message, WPARAM wParam, LPARAM lParam);
   LRESULT HandlePointer(UINT message, WPARAM wParam, LPARAM lParam);
   LRESULT HandleKeyboard(UINT message, WPARAM wParam, LPARAM lParam);
+  bool KeepFocus(UINT message, WPARAM wParam);
   LRESULT HandleContextMenu(HWND control, LPARAM lParam);
   LRESULT HandleSurroundings(UINT message, WPARAM wParam, LPARAM lParam);
   LRESULT HandleEnd(UINT message, WPARAM wParam, LPARAM lParam);

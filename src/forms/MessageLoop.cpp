@@ -38,6 +38,9 @@ bool TranslateFormMessage(MSG& message) {
   if (!form) return false;
   const LRESULT dealtWith = Guarded(TRUE, [&]() -> LRESULT {
     const bool key = message.message == WM_KEYDOWN || message.message == WM_SYSKEYDOWN;
+    if (key || message.message == WM_SYSCHAR || message.message == WM_CHAR ||
+        message.message == WM_LBUTTONDOWN)
+      form->Keys().BeginInput();
     if (message.message == WM_MOUSEWHEEL && SendWheelToPointer(root, message)) return TRUE;
     if (key && form->Keys().RunKey(message)) {
       // The system must hear that Alt was used with another key: letting go of Alt would otherwise open the

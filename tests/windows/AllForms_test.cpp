@@ -66,7 +66,8 @@ struct NoNotify final : NotifyCommands {
   bool Snooze(const ScheduleItem&, int) override { return true; }
   void OpenPage(const std::string&) override {}
   void PlaySound() override {}
-  void ShowHelp() override {}
+  void ShowHelp() override { ++helps; }
+  int helps = 0;
 };
 
 struct NoScheduleListener final : ScheduleListener {
@@ -86,7 +87,8 @@ class NoUpdates final : public UpdateDialogCommands {
   std::string Report() override { return {}; }
   bool CanUndoUpdate() override { return false; }
   UndoStatus UndoUpdate() override { return UndoStatus::Impossible; }
-  void OpenUpdateHelp() override {}
+  void OpenUpdateHelp() override { ++helps; }
+  int helps = 0;
 
  private:
   FormContext& forms_;
@@ -298,6 +300,21 @@ TEST_P(EveryForm, EscapeClosesADialogAndKeepsNothingOfIt) {
   EXPECT_TRUE(program.outside.registry.writes.empty()) << program.outside.registry.writes[0].name;
   EXPECT_TRUE(program.outside.files.Log().empty()) << program.outside.files.Log()[0];
   EXPECT_TRUE(program.shell.opened.empty());
+}
+
+// A dialog without a help button has that of the window that it was opened from.
+TEST_P(EveryForm, F1OpensTheHelp) {
+  EmptyProgram program;
+  frmNewFavorite opener(program.forms, program.help);
+  opener.Show();
+  const std::unique_ptr<Form> form = GetParam().make(program);
+  form->Show(opener.Window());
+  Pump();
+  PressKey(VK_F1);
+  const auto helps =
+      static_cast<int>(program.shell.runMinimised.size()) + program.notify.helps + program.updateDialog.helps;
+  const bool isFilesMissing = std::string_view(GetParam().name) == "MsgboxFrm";  // all that helps is offered
+  EXPECT_EQ(helps, isFilesMissing ? 0 : 1);
 }
 
 // As Explorer hands over what is dropped: a list of wide paths behind a head, ended by an empty one.

@@ -113,6 +113,7 @@ void DemoForm::OnEscape() {
 
 void DemoForm::Push_Click(int index) {
   Note("Click", kPush + index);
+  if (menuOnClick) push[index].PopUpMenu(std::vector<MenuEntry>{{.command = kMenuEntry, .text = "Entry"}});
   if (closeOnClick) Close(resultOnClick);
 }
 

@@ -33,6 +33,7 @@ class DemoForm final : public Form {
   std::vector<std::string> log;  // one entry for each event, "Click 5001"
   bool closeOnClick = false;
   int resultOnClick = 0;
+  bool menuOnClick = false;  // of kMenuEntry
 
   ControlArray<Button> push{*this, kPush, 5};
   ControlArray<Button> primary{*this, kPrimary, 5};

@@ -143,6 +143,35 @@ TEST_F(FormKeyboardTest, OnlyTheSpaceOpensTheSystemMenu) {
   RemoveWindowSubclass(form.Window(), CountMenus, 1);
 }
 
+// What reached the button only to press it is not where the user stays.
+TEST_F(FormKeyboardTest, AButtonsMenuLeavesTheFocusWhereItWas) {
+  form.menuOnClick = true;
+  const HWND button = ControlOf(form, DemoForm::kPush);
+  const struct {
+    int from;
+    std::function<void()> press;
+  } cases[] = {{DemoForm::kEdit + 2,
+                [&] {
+                  for (const UINT message : {UINT{WM_LBUTTONDOWN}, UINT{WM_LBUTTONUP}}) {
+                    MSG mouse = {button, message, MK_LBUTTON, MAKELPARAM(5, 5), 0, {}};
+                    if (!TranslateFormMessage(mouse)) DispatchMessageW(&mouse);
+                  }
+                }},
+               {DemoForm::kCheck + 1, [] { PressAccessKey(L'd'); }},
+               {DemoForm::kPush, [] { PressKey(VK_SPACE); }}};
+  for (const auto& one : cases) {
+    for (const WPARAM key : {WPARAM{VK_RETURN}, WPARAM{VK_ESCAPE}}) {
+      FocusOn(form, one.from);
+      form.log.clear();
+      if (key == VK_RETURN) PostMessageW(form.Window(), WM_KEYDOWN, VK_DOWN, 1);
+      PostMessageW(form.Window(), WM_KEYDOWN, key, 1);
+      one.press();
+      EXPECT_EQ(form.log.size(), key == VK_RETURN ? 2u : 1u) << "from " << one.from;
+      EXPECT_EQ(form.FocusedControl(), one.from);
+    }
+  }
+}
+
 TEST_F(FormKeyboardTest, MovesTheFocusOnWhenItsControlGoes) {
   FocusOn(form, DemoForm::kEdit);
   form.edit[0].Enable(false);

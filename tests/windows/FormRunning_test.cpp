@@ -66,6 +66,51 @@ TEST(FormRunning, ShowModalDisablesTheOthersAndAnswers) {
   EXPECT_EQ(dialog.log, (Log{"Click 5001", "Unload"}));
 }
 
+TEST(FormRunning, ComesBackWithTheFocusWhereItWas) {
+  FormContextForTests context;
+  DemoForm form(context.forms);
+  DemoForm other(context.forms);
+  const std::function<void()> awayAndBack[] = {[&] {
+                                                 ShowWindow(form.Window(), SW_MINIMIZE);
+                                                 Pump();
+                                                 ShowWindow(form.Window(), SW_RESTORE);
+                                               },
+                                               [&] {
+                                                 SendMessageW(form.Window(), WM_SYSCOMMAND, SC_MINIMIZE, 0);
+                                                 Pump();
+                                                 form.Show();
+                                               },
+                                               [&] {
+                                                 form.Hide();
+                                                 Pump();
+                                                 form.Show();
+                                               },
+                                               [&] {
+                                                 other.Show();
+                                                 Pump();
+                                                 SetActiveWindow(form.Window());
+                                               },
+                                               [&] {
+                                                 const Later close([&] { other.Close(5); });
+                                                 other.ShowModal(form.Window());
+                                               }};
+  form.Show();
+  for (const auto& ways : awayAndBack) {
+    SCOPED_TRACE(&ways - awayAndBack);
+    FocusOn(form, DemoForm::kEdit + 2);
+    SendMessageW(GetFocus(), EM_SETSEL, 1, 3);
+    ways();
+    Pump();
+    EXPECT_EQ(form.FocusedControl(), DemoForm::kEdit + 2);
+    EXPECT_EQ(SendMessageW(ControlOf(form, DemoForm::kEdit + 2), EM_GETSEL, 0, 0), MAKELRESULT(1, 3));
+    other.Close();
+  }
+  form.Hide();
+  form.edit[2].Show(false);
+  form.Show();
+  EXPECT_EQ(form.FocusedControl(), DemoForm::kPush + 3) << "where it begins";
+}
+
 TEST(FormRunning, ModalFormsNest) {
   FormContextForTests context;
   DemoForm first(context.forms);

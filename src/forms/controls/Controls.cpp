@@ -124,6 +124,7 @@ void Label::SetTextAndGrow(std::string_view text) const {
 
 // As wide menus of a window open: at the left edge, just below.
 void Button::PopUpMenu(std::span<const MenuEntry> entries) const {
+  if (const ControlInstance* item = Item()) Inside().Keys().BackFrom(*item);
   RECT box{};
   if (GetWindowRect(Window(), &box)) form_->PopUpMenu(entries, {box.left, box.bottom});
 }
