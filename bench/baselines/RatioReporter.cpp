@@ -61,8 +61,9 @@ void RatioReporter::ReportRuns(const std::vector<Run>& runs) {
 std::vector<RatioReporter::Operation> RatioReporter::Joined() const {
   std::vector<Operation> joined;
   for (const auto& [place, operation] : operations_) {
-    auto same = std::find_if(joined.begin(), joined.end(),
-                             [&](const Operation& other) { return other.name == operation.name; });
+    auto same =
+        std::find_if(joined.begin(), joined.end(),
+                     [&wanted = operation.name](const Operation& other) { return other.name == wanted; });
     if (same == joined.end()) same = joined.insert(joined.end(), {operation.name, {}});
     same->best.insert(operation.best.begin(), operation.best.end());
   }

@@ -79,7 +79,7 @@ TEST_F(PublishTest, AnUpdateBringsTheSameDirectory) {
   for (const auto& [name, bytes] : FolderContents(Directory())) {
     if (!name.ends_with(".snr") || name == "favs.snr" || name == "Sched.snr") continue;
     const auto file = std::find_if(contents.files.begin(), contents.files.end(),
-                                   [&](const ReceivedFile& one) { return one.name == name; });
+                                   [&wanted = name](const ReceivedFile& one) { return one.name == wanted; });
     ASSERT_NE(file, contents.files.end()) << name;
     EXPECT_EQ(file->bytes, bytes) << name;
     ++expected;
