@@ -20,6 +20,7 @@
 #include "resources/texts/app.h"
 #include "resources/texts/mainwindow.h"
 #include "resources/texts/net.h"
+#include "resources/texts/tray.h"
 #include "settings/Message.h"
 #include "settings/SettingNames.h"
 #include "settings/Strings.h"
@@ -58,6 +59,7 @@ Application::Application(const Platform& platform, const Strings& strings, const
       scan_(reg_, platform.clock, player_, source_, strings_),
       faceplate_(reg_, data_),
       options_(reg_, faceplate_, program, settings_.Place() == SettingsPlace::PortableFile),
+      backup_(data_, reg_, platform.clock),
       shape_(data_),
       context_{strings_, faceplate_, shape_},
       messages_(context_, help_),
@@ -84,7 +86,8 @@ int Application::Run() {
                                     .help = help_,
                                     .strings = strings_,
                                     .messageBox = messages_,
-                                    .exchange = *service_};
+                                    .exchange = *service_,
+                                    .backup = backup_};
   // No main window was shown, or the user has ended the program meanwhile.
   if (!Startup(services, state_, *this).Main()) return 0;
   FinishedLoading();
@@ -236,6 +239,7 @@ void Application::ShowErrorText(const std::string& sentence) {
 void Application::FinishedLoading() {
   tray_.FinishedLoading();
   TellOfFiles();
+  TellOfRestore();
   if (DataFilesMissing(data_)) {
     service_->ShowUpdate(main_->Window());  // the user has asked for them
   } else {
@@ -295,6 +299,21 @@ void Application::LoadUnreadFiles() {
 void Application::TellOfFiles() {
   if (const std::optional<Message> message = NotesMessage(data_.TakeNotes(), strings_))
     messages_.Ask(*message);
+}
+
+void Application::TellOfRestore() {
+  const Restored restored = backup_.TakeRestored();
+  if (restored.outcome == RestoreOutcome::NothingToDo) return;
+  if (restored.outcome == RestoreOutcome::Done) {
+    ActDone(FormatText(strings_.Load(IDS_RESTORE_DONE), {FormatLongDate(restored.made)}));
+    return;
+  }
+  messages_.Ask({.key = "RestoreBackup",
+                 .caption = strings_.Load(IDS_RESTORE_CAPTION),
+                 .text = strings_.Load(restored.outcome == RestoreOutcome::InPart ? IDS_RESTORE_IN_PART
+                                                                                  : IDS_RESTORE_NOT_KEPT),
+                 .firstButton = strings_.Load(IDS_APP_OK),
+                 .isTrouble = true});
 }
 
 // What the tray asks for needs a program that is whole, and not in the middle of something: while a dialog

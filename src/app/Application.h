@@ -34,6 +34,7 @@
 #include "stations/PersonalStations.h"
 #include "stations/RecentList.h"
 #include "stations/StationSource.h"
+#include "tray/Backup.h"
 #include "tray/frmOptions.h"
 #include "tray/frmSysTrayMenu.h"
 
@@ -117,6 +118,7 @@ class Application final : private StartupView,
   void ShowScan();
   void LoadUnreadFiles();
   void TellOfFiles();
+  void TellOfRestore();
   void ShowOptions(HWND owner);
   bool ChoosePlayer(StartUpInfoPage page, HWND owner);
   void PlaceMainWindow();
@@ -152,6 +154,7 @@ class Application final : private StartupView,
   StationScan scan_;
   Faceplate faceplate_;
   OptionsModel options_;
+  Backup backup_;
   Shape shape_;
   FormContext context_;
   MessageBoxes messages_;

@@ -56,9 +56,10 @@ void Application::ShowOptions(HWND owner) {
     optionsWindow_->Show();
     return;
   }
-  optionsWindow_ = std::make_unique<frmOptions>(
-      context_, options_,
-      OptionsServices{*this, *schedule_, *service_, help_, playerSetup_, playerReporter_});
+  optionsWindow_ =
+      std::make_unique<frmOptions>(context_, options_,
+                                   OptionsServices{*this, *schedule_, *service_, help_, playerSetup_,
+                                                   playerReporter_, backup_, messages_, strings_});
   optionsWindow_->ShowModal(owner);
 }
 

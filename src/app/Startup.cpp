@@ -19,6 +19,7 @@
 #include "settings/Message.h"
 #include "settings/SettingNames.h"
 #include "settings/Strings.h"
+#include "tray/Backup.h"
 
 namespace sonaro {
 
@@ -47,10 +48,11 @@ bool Startup::AnotherInstanceRuns() {
   return use_.messages.EarlierInstanceRuns();
 }
 
-// Before anything reads a setting. The addresses are written when they are missing, so an update can change
-// them.
+// Before anything reads a setting or a file of the user's, so what a backup restores is there for all. The
+// addresses are written when they are missing, so an update can change them.
 void Startup::PrepareSettings() {
   use_.reg.CheckKeyIsThere(kSettingsKey);
+  use_.backup.FinishRestore();
   EnsureInstallId(use_.reg);
   use_.exchange.StoreAddresses();
 }

@@ -12,6 +12,7 @@
 namespace sonaro {
 
 struct AppState;
+class Backup;
 class CReg;
 class DataFolder;
 class HelpPages;
@@ -63,6 +64,7 @@ struct StartupServices {
   const Strings& strings;
   MessageBoxView& messageBox;
   StartupExchange& exchange;
+  Backup& backup;
 };
 
 // Has the station table be that of the station list, and says so when that fails; the next start finds it so

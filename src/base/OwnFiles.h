@@ -21,15 +21,19 @@ inline constexpr std::string_view kScheduleDropped = "\\Sched.old";
 inline constexpr std::string_view kShows = "\\Shows.snr";
 inline constexpr std::string_view kSettings = "\\portable.ini";
 inline constexpr std::string_view kSettingsBefore = "\\portable.ini.old";
-inline constexpr std::string_view kAll[] = {kGroups,          kLinks, kStations, kRecent,        kSchedule,
-                                            kScheduleDropped, kShows, kSettings, kSettingsBefore};
+inline constexpr std::string_view kBeforeRestore = "\\before-restore.sonaro";  // all this, as a backup
+inline constexpr std::string_view kAll[] = {kGroups,         kLinks,           kStations, kRecent,
+                                            kSchedule,       kScheduleDropped, kShows,    kSettings,
+                                            kSettingsBefore, kBeforeRestore};
 }  // namespace user_file
 
 // What the program needs for a while.
 namespace work_file {
-inline constexpr std::string_view kPrevious = "\\previous.snr";  // what the last update replaced
-inline constexpr std::string_view kUndoing = "\\undo.snr";       // the same, while it is being put back
-inline constexpr std::string_view kCopies = "\\unpacked.lst";    // which copies of an update lie about
+inline constexpr std::string_view kPrevious = "\\previous.snr";    // what the last update replaced
+inline constexpr std::string_view kUndoing = "\\undo.snr";         // the same, while it is being put back
+inline constexpr std::string_view kRestore = "\\restore.snr";      // a backup for the next start
+inline constexpr std::string_view kRestoring = "\\restoring.snr";  // the same, while it is being put back
+inline constexpr std::string_view kCopies = "\\unpacked.lst";      // which copies of an update lie about
 inline constexpr std::string_view kUpdate = "\\update.txt";
 inline constexpr std::string_view kEventUpdate = "\\eventup.txt";
 // Empty files that Windows is asked about: which program opens such a file?
@@ -38,8 +42,9 @@ inline constexpr std::string_view kRamMarker = "\\dummy.ram";
 inline constexpr std::string_view kM3uMarker = "\\dummy.m3u";
 inline constexpr std::string_view kPlsMarker = "\\dummy.pls";
 inline constexpr std::string_view kMp3Marker = "\\dummy.mp3";
-inline constexpr std::string_view kAll[] = {kPrevious,  kUndoing,   kCopies,    kUpdate,    kEventUpdate,
-                                            kAsxMarker, kRamMarker, kM3uMarker, kPlsMarker, kMp3Marker};
+inline constexpr std::string_view kAll[] = {kPrevious,  kUndoing,   kRestore,     kRestoring,
+                                            kCopies,    kUpdate,    kEventUpdate, kAsxMarker,
+                                            kRamMarker, kM3uMarker, kPlsMarker,   kMp3Marker};
 }  // namespace work_file
 
 // What the guide consists of, besides a list for each category. Not the program's own: updates bring them.

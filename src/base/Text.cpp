@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "base/Numbers.h"
 #include "base/Utf8.h"
 
 namespace sonaro {
@@ -52,6 +53,14 @@ std::string_view NextField(std::string_view& rest, char separator) {
   const std::string_view taken = rest.substr(0, cut);
   rest.remove_prefix(cut == std::string_view::npos ? rest.size() : cut + 1);
   return taken;
+}
+
+std::optional<std::string> TakeCounted(std::string_view& rest, std::string_view length) {
+  const std::int64_t count = IsNumeric(length) ? NumberValue(length) : -1;
+  if (count < 0 || static_cast<std::uint64_t>(count) > rest.size()) return std::nullopt;
+  std::string bytes(rest.substr(0, static_cast<std::size_t>(count)));
+  rest.remove_prefix(bytes.size());
+  return bytes;
 }
 
 std::string ReplaceFirst(std::string_view text, std::string_view part, std::string_view by) {

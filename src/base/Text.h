@@ -4,6 +4,7 @@
 
 #include <cstdint>
 #include <functional>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -59,6 +60,10 @@ std::vector<std::string_view> SplitAtMost(std::string_view text, char separator,
 // The text before the first `separator`, which is removed from `rest` together with that text. Without a
 // separator the whole rest is taken and `rest` becomes empty.
 std::string_view NextField(std::string_view& rest, char separator);
+
+// The bytes at the beginning of `rest` whose count the text `length` tells; they are removed from it.
+// Nothing, with `rest` as it was, when there are not so many or `length` is no count.
+std::optional<std::string> TakeCounted(std::string_view& rest, std::string_view length);
 
 // `text` with the first occurrence of `part` replaced; unchanged when there is none.
 std::string ReplaceFirst(std::string_view text, std::string_view part, std::string_view by);

@@ -256,6 +256,8 @@ inline constexpr int butPlayerIt = 2716;
 inline constexpr int optFaceplate = 2717;  // 2 numbers: Graphite, Porcelain
 inline constexpr int lblPlaying = 2719;
 inline constexpr int tmrPlaying = 2720;
+inline constexpr int butBackupIt = 2721;
+inline constexpr int butRestoreIt = 2722;
 
 // frmSysTrayMenu (menu entries): 3001 to 3099.
 inline constexpr int mnuTrayOpen = 3001;

@@ -7,7 +7,6 @@
 #include <memory>
 
 #include "base/DataFolder.h"
-#include "base/Numbers.h"
 #include "base/Text.h"
 #include "net/UpdateFormat.h"
 
@@ -21,15 +20,6 @@ namespace {
 constexpr std::string_view kHead = "What the last update replaced, 1\n";
 constexpr std::string_view kEnd = "end\n";
 
-// Takes the bytes whose length `field` tells; nothing when there are not so many.
-std::optional<std::string> TakeBytes(std::string_view& rest, std::string_view field) {
-  const std::int64_t length = IsNumeric(field) ? NumberValue(field) : -1;
-  if (length < 0 || static_cast<std::uint64_t>(length) > rest.size()) return std::nullopt;
-  std::string bytes(rest.substr(0, static_cast<std::size_t>(length)));
-  rest.remove_prefix(bytes.size());
-  return bytes;
-}
-
 bool TakeEntry(std::string_view line, std::string_view& rest, PreviousGuide& guide) {
   const auto fields = Split(line, '\t');
   // A file that was not there before the update; undoing removes it. Names are checked as those in an update
@@ -38,7 +28,7 @@ bool TakeEntry(std::string_view line, std::string_view& rest, PreviousGuide& gui
     guide.files.push_back({std::string(fields[1]), std::nullopt});
     return true;
   }
-  auto bytes = TakeBytes(rest, fields.back());
+  auto bytes = TakeCounted(rest, fields.back());
   if (!bytes) return false;
   if (fields.size() == 3 && fields[0] == "file" && update::MayBringFile(fields[1])) {
     guide.files.push_back({std::string(fields[1]), std::move(bytes)});

@@ -1,11 +1,16 @@
 #include "tray/frmOptions.h"
 
+#include "base/Dates.h"
 #include "base/Text.h"
+#include "forms/FileDialog.h"
 #include "forms/MessageLoop.h"
 #include "playback/PlayerReport.h"
 #include "playback/PlayerSetup.h"
+#include "resources/texts/app.h"
 #include "resources/texts/tray.h"
+#include "settings/Message.h"
 #include "settings/Strings.h"
+#include "tray/Backup.h"
 
 namespace sonaro {
 
@@ -14,6 +19,22 @@ namespace {
 constexpr int kMaxAddressBytes = 253;  // of a host name
 constexpr int kMaxPortDigits = 5;
 constexpr int kFaceplates = 2;
+constexpr const char* kRestoreKey = "RestoreBackup";
+
+int SentenceOf(BackupFault fault) {
+  switch (fault) {
+    case BackupFault::Unreadable:
+      return IDS_RESTORE_UNREADABLE;
+    case BackupFault::LaterVersion:
+      return IDS_RESTORE_LATER;
+    case BackupFault::Damaged:
+      return IDS_RESTORE_DAMAGED;
+    case BackupFault::None:
+    case BackupFault::Foreign:
+      break;
+  }
+  return IDS_RESTORE_FOREIGN;
+}
 
 }  // namespace
 
@@ -28,6 +49,8 @@ std::span<const EventRow> frmOptions::Events() const {
       {butPlayerIt, Click, &frmOptions::butPlayerIt_Click},
       {optFaceplate, Click, &frmOptions::optFaceplate_Click, kFaceplates},
       {butAboutTimeIt, Click, &frmOptions::butAboutTimeIt_Click},
+      {butBackupIt, Click, &frmOptions::butBackupIt_Click},
+      {butRestoreIt, Click, &frmOptions::butRestoreIt_Click},
       {butOKIt, Click, &frmOptions::butOKIt_Click},
       {butCancelIt, Click, &frmOptions::butCancelIt_Click},
       {butCloseIt, Click, &frmOptions::butCancelIt_Click},
@@ -181,6 +204,49 @@ void frmOptions::optFaceplate_Click(int faceplate) {
   optFaceplate_.SetOnly(faceplate);
   model_.TryFaceplate(*options_.faceplate);
   RefreshAllForms();
+}
+
+void frmOptions::butBackupIt_Click() {
+  const std::string path = AskSavePath(Window(), LoadText(IDS_BACKUP_FILTER), use_.backup.FileName());
+  if (path.empty()) return;
+  switch (use_.backup.Save(path)) {
+    case BackupSaved::Yes:
+      Inform(FormatText(LoadText(IDS_BACKUP_SAVED), {path.substr(path.rfind('\\') + 1)}), TextColor::Signal);
+      break;
+    case BackupSaved::OwnFileUnreadable:
+      SayOfBackup(IDS_BACKUP_UNREADABLE);
+      break;
+    case BackupSaved::NotWritten:
+      use_.messages.Ask(NotSavedMessage(path, use_.strings));
+      break;
+  }
+}
+
+// The program ends, since every window shows what is about to be replaced; the next start restores.
+void frmOptions::butRestoreIt_Click() {
+  const std::string path = AskOpenPath(Window(), LoadText(IDS_BACKUP_FILTER));
+  if (path.empty()) return;
+  const BackupFile backup = use_.backup.Read(path);
+  if (backup.fault != BackupFault::None) return SayOfBackup(SentenceOf(backup.fault));
+  const MessageResult result =
+      use_.messages.Ask({.key = kRestoreKey,
+                         .caption = LoadText(IDS_RESTORE_CAPTION),
+                         .text = FormatText(LoadText(IDS_RESTORE_ASK), {FormatLongDate(backup.made)}),
+                         .firstButton = LoadText(IDS_RESTORE_YES),
+                         .secondButton = LoadText(IDS_APP_CANCEL)});
+  if (result.answer != MessageAnswer::First) return;
+  if (!SavedOrSaid(use_.backup.RestoreAtStart(backup), LoadText(IDS_RESTORE_WHAT), use_.messages,
+                   use_.strings))
+    return;
+  use_.program.Exit();
+}
+
+void frmOptions::SayOfBackup(int sentence) {
+  use_.messages.Ask({.key = kRestoreKey,
+                     .caption = LoadText(IDS_RESTORE_CAPTION),
+                     .text = LoadText(sentence),
+                     .firstButton = LoadText(IDS_APP_OK),
+                     .isTrouble = true});
 }
 
 void frmOptions::butOKIt_Click() {

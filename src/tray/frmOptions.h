@@ -12,8 +12,11 @@
 
 namespace sonaro {
 
+class Backup;
+class MessageBoxView;
 class PlayerReporter;
 class PlayerSetup;
+class Strings;
 
 // What the options use of the rest of the program.
 struct OptionsServices {
@@ -23,6 +26,9 @@ struct OptionsServices {
   HelpPages& help;
   const PlayerSetup& playWith;
   PlayerReporter& players;
+  Backup& backup;
+  MessageBoxView& messages;
+  const Strings& strings;
 };
 
 class frmOptions final : public Form {
@@ -52,6 +58,9 @@ class frmOptions final : public Form {
   void tmrPlaying_Timer();
   void optFaceplate_Click(int faceplate);
   void butAboutTimeIt_Click() { use_.schedule.ExplainTimes(*this); }
+  void butBackupIt_Click();
+  void butRestoreIt_Click();
+  void SayOfBackup(int sentence);
   void butOKIt_Click();
   void butCancelIt_Click() { Close(); }
   void butHelp_Click() { use_.help.OpenHelpPage("index.html"); }

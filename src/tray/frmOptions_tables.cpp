@@ -112,6 +112,8 @@ const FormDesign& frmOptions::Design() {
        .at = {286, 468, 108, 28}},
 
       ButtonRow(butAboutTimeIt, IDS_OPTIONS_ABOUT_TIME, {kHeadings, 504, 124, 30}, Icon::Sched),
+      ButtonRow(butBackupIt, IDS_OPTIONS_BACKUP, {146, 504, 104, 30}),
+      ButtonRow(butRestoreIt, IDS_OPTIONS_RESTORE, {258, 504, 104, 30}),
       OkButton({386, 504, 96, 30}),
       CancelButton({490, 504, 96, 30}),
       HelpButton(528),

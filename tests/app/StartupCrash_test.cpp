@@ -5,6 +5,7 @@
 #include "app/StartupJournal.h"
 #include "base/DataFolder.h"
 #include "directory/StatList.h"
+#include "fakes/FakeClock.h"
 #include "fakes/FakeFiles.h"
 #include "fakes/FakeShell.h"
 #include "fakes/FakeStrings.h"
@@ -12,6 +13,7 @@
 #include "settings/AppState.h"
 #include "settings/CReg.h"
 #include "settings/HelpPages.h"
+#include "tray/Backup.h"
 
 namespace sonaro {
 namespace {
@@ -32,9 +34,12 @@ void DieAtEveryMoment(bool updateWaits) {
     Players players(reg, data, shell);
     JournalView view(journal);
     HelpPages help(reg, view, data, shell);
+    FakeClock clock;
+    Backup backup(data, reg, clock);
     AppState state;
     state.commandLine = "WinStart=Yes";
-    Startup({messages, system, reg, data, stations, players, help, strings, view, view}, state, view).Main();
+    Startup({messages, system, reg, data, stations, players, help, strings, view, view, backup}, state, view)
+        .Main();
     (void)CareForStationTable(stations, TableCheck::Whole, strings, view);  // once the window is painted
   };
   const int operations = ForEachCrashPoint(

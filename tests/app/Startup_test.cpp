@@ -5,6 +5,7 @@
 #include "app/StartupJournal.h"
 #include "base/DataFolder.h"
 #include "directory/StatList.h"
+#include "fakes/FakeClock.h"
 #include "fakes/FakeFiles.h"
 #include "fakes/FakeShell.h"
 #include "fakes/FakeStrings.h"
@@ -12,6 +13,7 @@
 #include "settings/AppState.h"
 #include "settings/CReg.h"
 #include "settings/HelpPages.h"
+#include "tray/Backup.h"
 
 namespace sonaro {
 namespace {
@@ -41,8 +43,9 @@ class StartupTest : public testing::Test {
   }
   bool Main(const std::string& commandLine) {
     state_.commandLine = commandLine;
-    Startup startup({messages_, system_, reg_, data_, stations_, players_, help_, strings_, view_, view_},
-                    state_, view_);
+    Startup startup(
+        {messages_, system_, reg_, data_, stations_, players_, help_, strings_, view_, view_, backup_},
+        state_, view_);
     return startup.Main();
   }
   bool Happened(const std::string& what) const {
@@ -68,6 +71,8 @@ class StartupTest : public testing::Test {
   Players players_{reg_, data_, shell_};
   JournalView view_{journal_};
   HelpPages help_{reg_, view_, data_, shell_};
+  FakeClock clock_;
+  Backup backup_{data_, reg_, clock_};
   AppState state_;
 };
 

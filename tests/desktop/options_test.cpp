@@ -174,5 +174,32 @@ TEST_F(OptionsTest, AtTheStartAFoundProxyIsOfferedOnce) {
   EXPECT_EQ(ReadSetting("StartProxy"), "No");
 }
 
+TEST_F(OptionsTest, ABackupIsRestoredByTheNextStart) {
+  WriteFile("favs.snr", "Then\t\r\n");
+  ResetToSettled({{"FacePlateName", "Porcelain"}});
+  StartMain();
+  Open();
+  Press(butBackupIt);
+  ChooseFile(PathOf("mine.sonaro"));
+  EXPECT_TRUE(WaitUntil([&] { return TextOf(In(lblOptionsInfo)).ends_with("mine.sonaro."); }))
+      << TextOf(In(lblOptionsInfo));
+  WriteFile("favs.snr", "Now\t\r\n");
+  WriteText(HKEY_LOCAL_MACHINE, "SOFTWARE\\zumo\\Sonaro", "FacePlateName", "Graphite");
+
+  Press(butRestoreIt);
+  ChooseFile(PathOf("favs.snr"));
+  EXPECT_EQ(AnswerBox(dialog_, butMsg), "This file is not a backup of Sonaro. Nothing was changed.");
+  Press(butRestoreIt);
+  ChooseFile(PathOf("mine.sonaro"));
+  Click(Control(Dialog("MsgboxFrm"), butMsg));
+  EXPECT_TRUE(Running().WaitForEnd().has_value());
+  EXPECT_EQ(ReadFile("favs.snr"), "Now\t\r\n");
+
+  StartMain();
+  EXPECT_TRUE(MainIsLight());
+  EXPECT_EQ(ReadFile("favs.snr"), "Then\t\r\n");
+  EXPECT_NE(ReadFile("before-restore.sonaro").find("\nNow\t\r\n"), std::string::npos);
+}
+
 }  // namespace
 }  // namespace sonaro::desktop

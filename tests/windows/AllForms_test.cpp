@@ -52,6 +52,7 @@
 #include "schedule/frmSelectStation.h"
 #include "settings/HelpPages.h"
 #include "stations/RecentList.h"
+#include "tray/Backup.h"
 #include "tray/frmOptions.h"
 #include "tray/frmStartUpInfo.h"
 #include "windows/FormCheck.h"
@@ -137,6 +138,7 @@ struct EmptyProgram {
                             clock,  outside.files,    shell,         messages, help,
                             coming, scheduleListener, scheduleTexts, changes,  undo};
   OptionsModel options{settings, outside.faceplate, "C:\\Guide\\Sonaro.exe"};
+  Backup backup{folder, settings, clock};
   UpdateInstall install{folder, settings, stations};
   UpdateDependencies update{settings, folder, words, install, http};
   NoUpdates updateDialog{forms, update};
@@ -232,9 +234,9 @@ const NamedForm kForms[] = {
     {"frmSelectStation", [](EmptyProgram& p) { return Make<frmSelectStation>(p.forms, p.picker, p.help); }},
     {"frmOptions",
      [](EmptyProgram& p) {
-       return Make<frmOptions>(
-           p.forms, p.options,
-           OptionsServices{p.commands, p.commands, p.commands, p.help, p.playerSetup, p.reporter});
+       return Make<frmOptions>(p.forms, p.options,
+                               OptionsServices{p.commands, p.commands, p.commands, p.help, p.playerSetup,
+                                               p.reporter, p.backup, p.messages, p.words});
      }},
     {"frmStartUpInfo",
      [](EmptyProgram& p) {
