@@ -52,8 +52,9 @@ void AddSpan(std::span<double> row, double from, double to) {
   }
 }
 
-std::vector<Crossing> CrossingsAt(const std::vector<Edge>& edges, double y) {
-  std::vector<Crossing> crossings;
+// Into a vector that the caller keeps: an icon has hundreds of lines.
+void FindCrossings(const std::vector<Edge>& edges, double y, std::vector<Crossing>& crossings) {
+  crossings.clear();
   for (const Edge& edge : edges) {
     // Half open: a line through a corner crosses one of the two edges that meet there, not both. Level edges
     // have no crossings and are left out by EdgesOf.
@@ -63,7 +64,6 @@ std::vector<Crossing> CrossingsAt(const std::vector<Edge>& edges, double y) {
   }
   std::sort(crossings.begin(), crossings.end(),
             [](const Crossing& a, const Crossing& b) { return a.x < b.x; });
-  return crossings;
 }
 
 void FillSubRow(std::span<double> row, const std::vector<Crossing>& crossings) {
@@ -89,9 +89,13 @@ Coverage Rasterize(const std::vector<Polygon>& polygons, const Placement& placem
   coverage.pixels.reserve(static_cast<std::size_t>(width) * static_cast<std::size_t>(height));
   const std::vector<Edge> edges = EdgesOf(polygons, placement);
   std::vector<double> row(static_cast<std::size_t>(width));
+  std::vector<Crossing> crossings;
   for (int y = 0; y < height; ++y) {
     std::fill(row.begin(), row.end(), 0.0);
-    for (int sub = 0; sub < kSubRows; ++sub) FillSubRow(row, CrossingsAt(edges, y + (sub + 0.5) / kSubRows));
+    for (int sub = 0; sub < kSubRows; ++sub) {
+      FindCrossings(edges, y + (sub + 0.5) / kSubRows, crossings);
+      FillSubRow(row, crossings);
+    }
     for (const double sum : row)
       coverage.pixels.push_back(static_cast<std::uint8_t>(std::lround(std::min(1.0, sum / kSubRows) * 255)));
   }
