@@ -44,13 +44,10 @@ std::optional<std::string> RegistryWin::ReadValue(RootKey root, const std::strin
                                                   const std::string& name) {
   const RegistryKey opened = OpenKey(root, key, KEY_QUERY_VALUE);
   if (!opened) return std::nullopt;
-  DWORD size = 0;
-  if (RegQueryValueExA(opened.Get(), name.c_str(), nullptr, nullptr, nullptr, &size) != ERROR_SUCCESS) {
-    return std::nullopt;
-  }
   std::string bytes;
+  DWORD size = 128;  // what most values need less than
   LSTATUS status = ERROR_MORE_DATA;
-  while (status == ERROR_MORE_DATA) {  // the value may have grown since its size was asked
+  while (status == ERROR_MORE_DATA) {  // then the size that it wants is known, and may have grown since
     bytes.resize(size);
     status = RegQueryValueExA(opened.Get(), name.c_str(), nullptr, nullptr,
                               reinterpret_cast<BYTE*>(bytes.data()), &size);
