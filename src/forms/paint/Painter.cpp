@@ -253,21 +253,63 @@ void Painter::Groove(HDC dc, int x, int y, int width) const {
   Fill(dc, {x, y + Line(), x + width, y + 2 * Line()}, colors_.milledSoft);
 }
 
-// The origin is moved, so that whoever paints uses the coordinates of the target.
+// A bitmap like the screen's and what paints in it.
+struct BufferedPaint::Canvas {
+  explicit Canvas(SIZE pixels) : size(pixels), dc(CreateCompatibleDC(nullptr)) {
+    const HDC screen = GetDC(nullptr);
+    bitmap = CreateCompatibleBitmap(screen, size.cx, size.cy);
+    ReleaseDC(nullptr, screen);
+    before = SelectObject(dc, bitmap);
+  }
+  ~Canvas() {
+    SelectObject(dc, before);
+    DeleteObject(bitmap);
+    DeleteDC(dc);
+  }
+  Canvas(const Canvas&) = delete;
+  Canvas& operator=(const Canvas&) = delete;
+
+  bool Holds(SIZE pixels) const { return size.cx >= pixels.cx && size.cy >= pixels.cy; }
+
+  const SIZE size;
+  const HDC dc;
+  HBITMAP bitmap = nullptr;
+  HGDIOBJ before = nullptr;
+  bool used = false;
+};
+
+std::unique_ptr<BufferedPaint::Canvas>& BufferedPaint::Kept() {
+  static std::unique_ptr<Canvas> kept;
+  return kept;
+}
+
+// Making a bitmap costs as much as painting a button in it, so one is kept that holds buttons and rows; a
+// list is rarer, and its bitmap large. The origin is moved, so that whoever paints uses the coordinates of
+// the target.
 BufferedPaint::BufferedPaint(HDC target, const RECT& box) : target_(target), box_(box) {
-  dc_ = CreateCompatibleDC(target);
-  bitmap_ = CreateCompatibleBitmap(target, std::max<int>(1, box.right - box.left),
-                                   std::max<int>(1, box.bottom - box.top));
-  before_ = SelectObject(dc_, bitmap_);
-  SetViewportOrgEx(dc_, -box.left, -box.top, nullptr);
+  constexpr LONG kMaxKept = 64 * 1024;  // pixels
+  const SIZE size = {std::max<LONG>(1, box.right - box.left), std::max<LONG>(1, box.bottom - box.top)};
+  std::unique_ptr<Canvas>& kept = Kept();
+  if (size.cx * size.cy > kMaxKept || (kept && kept->used)) {
+    own_ = std::make_unique<Canvas>(size);
+  } else if (!kept) {
+    kept = std::make_unique<Canvas>(size);
+  } else if (!kept->Holds(size)) {
+    kept = std::make_unique<Canvas>(SIZE{std::max(size.cx, kept->size.cx), std::max(size.cy, kept->size.cy)});
+  }
+  canvas_ = own_ ? own_.get() : kept.get();
+  canvas_->used = true;
+  SaveDC(canvas_->dc);
+  SetViewportOrgEx(canvas_->dc, -box.left, -box.top, nullptr);
 }
 
 BufferedPaint::~BufferedPaint() {
-  BitBlt(target_, box_.left, box_.top, box_.right - box_.left, box_.bottom - box_.top, dc_, box_.left,
+  BitBlt(target_, box_.left, box_.top, box_.right - box_.left, box_.bottom - box_.top, canvas_->dc, box_.left,
          box_.top, SRCCOPY);
-  SelectObject(dc_, before_);
-  DeleteObject(bitmap_);
-  DeleteDC(dc_);
+  RestoreDC(canvas_->dc, -1);
+  canvas_->used = false;
 }
+
+HDC BufferedPaint::Dc() const { return canvas_->dc; }
 
 }  // namespace sonaro

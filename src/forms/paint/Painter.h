@@ -6,6 +6,7 @@
 #include <windows.h>
 
 #include <array>
+#include <memory>
 #include <optional>
 #include <string_view>
 
@@ -78,14 +79,16 @@ class BufferedPaint {
   ~BufferedPaint();
   BufferedPaint(const BufferedPaint&) = delete;
   BufferedPaint& operator=(const BufferedPaint&) = delete;
-  HDC Dc() const { return dc_; }
+  HDC Dc() const;
 
  private:
+  struct Canvas;
+  static std::unique_ptr<Canvas>& Kept();
+
   HDC target_;
   RECT box_;
-  HDC dc_ = nullptr;
-  HBITMAP bitmap_ = nullptr;
-  HGDIOBJ before_ = nullptr;
+  std::unique_ptr<Canvas> own_;  // of a large picture, or one inside another; else the kept one is used
+  Canvas* canvas_;
 };
 
 }  // namespace sonaro
