@@ -113,17 +113,12 @@ HWND MakeChild(HWND form, const ControlClass& kind, DWORD style, WORD number, co
 }
 
 // A window that is made asks its procedure for its frame and more before its maker has a handle of it. While
-// this lives, the first one of the thread has our procedure from its first message on.
+// one lives, the first window that the thread makes after Expect has our procedure from its first message on.
 class WatchedFromTheStart {
  public:
-  explicit WatchedFromTheStart(ControlInstance& item)
-      : hook_(SetWindowsHookExW(WH_CBT, Notice, nullptr, GetCurrentThreadId())) {
-    made_ = &item;
-  }
-  ~WatchedFromTheStart() {
-    UnhookWindowsHookEx(hook_);
-    made_ = nullptr;
-  }
+  WatchedFromTheStart() : hook_(SetWindowsHookExW(WH_CBT, Notice, nullptr, GetCurrentThreadId())) {}
+  ~WatchedFromTheStart() { UnhookWindowsHookEx(hook_); }
+  static void Expect(ControlInstance& item) { made_ = &item; }
   WatchedFromTheStart(const WatchedFromTheStart&) = delete;
   WatchedFromTheStart& operator=(const WatchedFromTheStart&) = delete;
 
@@ -144,6 +139,7 @@ void ControlSet::Build(HWND window, const Painter& painter) {
   window_ = window;
   const ControlRow* before = nullptr;
   formerItems_ = std::exchange(items_, std::vector<ControlInstance>());
+  const WatchedFromTheStart watched;
   items_.reserve(design_.controls.size());  // windows keep the addresses of their rows
   for (const ControlRow& row : design_.controls) {
     ControlInstance& item = items_.emplace_back();
@@ -166,6 +162,7 @@ void ControlSet::Build(HWND window, const Painter& painter) {
 void ControlSet::MakePane(std::size_t pane) {
   if (!late_[pane] || !window_) return;
   late_[pane] = false;
+  const WatchedFromTheStart watched;
   HWND before = HWND_TOP;
   for (ControlInstance& item : items_) {
     if (item.row->pane == pane && !IsDecoration(item.KindOf())) {
@@ -208,11 +205,8 @@ void ControlSet::MakeControl(ControlInstance& item, const Painter& painter) {
   const std::wstring text = Widen(form_.TextOf(row.text));
   const bool isDrawn = IsDrawn(row.kind);  // the others take their place from their font
   if (isDrawn) item.box = WindowBox(item, painter);
-  {
-    const WatchedFromTheStart watched(item);
-    item.window = MakeChild(window_, ClassOf(row), style, number, text, item.box);
-  }
-  if (IsCombo(row.kind)) AttachCombo(item);
+  WatchedFromTheStart::Expect(item);
+  item.window = MakeChild(window_, ClassOf(row), style, number, text, item.box);
   if (HasLines(row.kind)) item.bar = std::make_unique<LinesBar>(window_, form_, item.window);
   TakeFont(item, painter);
   if (!isDrawn) PlaceWindow(item, painter);

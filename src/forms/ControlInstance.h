@@ -4,6 +4,7 @@
 #include <windows.h>
 
 #include <memory>
+#include <optional>
 #include <string>
 
 #include "forms/Arrange.h"
@@ -24,10 +25,11 @@ struct ControlInstance {
   bool wanted = true;          // not hidden by kHidden or ControlHandle::Show
   bool shown = false;          // wanted, in a shown pane, and with a place in the layout
   bool hover = false;
-  bool emptySocket = false;  // GroupButton
-  bool groupStart = true;    // the arrow keys do not come here from the row before
-  PixelRect place;           // of the row's rectangle; the window may be smaller (an edit in its glass)
-  RECT box{};                // where its window is
+  bool emptySocket = false;        // GroupButton
+  bool groupStart = true;          // the arrow keys do not come here from the row before
+  PixelRect place;                 // of the row's rectangle; the window may be smaller (an edit in its glass)
+  RECT box{};                      // where its window is
+  std::optional<POINT> pressedAt;  // GroupButton: the left button went down here, and is still down
   std::string detail;
   Icon icon = Icon::None;
   TextColor color = TextColor::Default;
@@ -106,7 +108,7 @@ LRESULT CallControl(const ControlInstance& item, UINT message, WPARAM wParam, LP
 // ComboFace.cpp: the drawn face of a combo and its open list.
 std::wstring ComboRowText(HWND combo, int row);  // "" for a row that it does not have
 LRESULT HandleComboMessage(const ControlInstance& item, UINT message, WPARAM wParam, LPARAM lParam);
-void AttachCombo(const ControlInstance& item);
+void PrepareComboList(const ControlInstance& item);  // before it opens
 void SizeCombo(const Painter& painter, const ControlInstance& item);
 void PaintComboRow(const Painter& painter, const DRAWITEMSTRUCT& draw);
 

@@ -256,7 +256,8 @@ TTTOOLINFOW ControlSet::ToolOf(const ControlInstance& item) const {
     tool.uId = static_cast<UINT_PTR>(item.Id());
     tool.rect = ToRect(item.place);
   } else {
-    tool.uFlags = TTF_SUBCLASS | TTF_IDISHWND;
+    // A tip's own subclass looks up a property for every message: a control tells of its mouse itself.
+    tool.uFlags = TTF_IDISHWND | (item.view ? TTF_SUBCLASS : 0u);
     tool.uId = reinterpret_cast<UINT_PTR>(item.Window());
   }
   return tool;
@@ -272,8 +273,8 @@ void ControlSet::SetTip(ControlInstance& item, const std::string& text) {
   if (!wide.empty()) SendMessageW(tips_, TTM_ADDTOOLW, 0, reinterpret_cast<LPARAM>(&tool));
 }
 
-void ControlSet::RelayToTips(UINT message, WPARAM wParam, LPARAM lParam) const {
-  RelayMouse(tips_, window_, message, wParam, lParam);
+void ControlSet::RelayToTips(HWND window, UINT message, WPARAM wParam, LPARAM lParam) const {
+  RelayMouse(tips_, window, message, wParam, lParam);
 }
 
 }  // namespace sonaro

@@ -56,8 +56,8 @@ class ControlSet {
   void TakeTheme(const Painter& painter);
 
   void SetTip(ControlInstance& item, const std::string& text);  // "": none
-  // A message of the form's window: labels let the mouse through, so the form tells the tips.
-  void RelayToTips(UINT message, WPARAM wParam, LPARAM lParam) const;
+  // A message of a control, or of the form's window, to which labels let the mouse through.
+  void RelayToTips(HWND window, UINT message, WPARAM wParam, LPARAM lParam) const;
 
   // While one lives, what changes is set by the program and raises no event.
   class Quiet {

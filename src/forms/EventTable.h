@@ -49,6 +49,11 @@ class EventRow {
       : first(id),
         kind(static_cast<Kind>(event)),
         withRow(static_cast<void (EventTarget::*)(int)>(handler)) {}
+  // Of a control array: the handler is given the index.
+  template <class T>
+  EventRow(int id, OfRow event, void (T::*handler)(int index), int arraySize) : EventRow(id, event, handler) {
+    count = arraySize;
+  }
   // Row of a list, data of a node, or index of a control array (count > 1), -1: none; screen pixels.
   template <class T>
   EventRow(int id, AtPoint, void (T::*handler)(int row, POINT at), int arraySize = 1)

@@ -39,7 +39,7 @@ LRESULT CALLBACK FormWindow::Procedure(HWND window, UINT message, WPARAM wParam,
 LRESULT FormWindow::HandleMessage(UINT message, WPARAM wParam, LPARAM lParam) {
   LRESULT answer = 0;
   if (form_ && form_->OnMessage(message, wParam, lParam, answer)) return answer;
-  controls_.RelayToTips(message, wParam, lParam);
+  controls_.RelayToTips(window_, message, wParam, lParam);
   if (CanResize(design_, controls_.Layout()) && HandleFrame(message, wParam, lParam, answer)) return answer;
   if (headers_.HandleDrag(message, lParam)) return 0;
   switch (message) {
@@ -184,7 +184,9 @@ LRESULT FormWindow::HandleCommand(WPARAM wParam, LPARAM lParam) {
 
 void FormWindow::HandleCombo(const ControlInstance& item, int code) {
   InvalidateRect(item.window, nullptr, FALSE);
-  if (code == CBN_SELCHANGE) {
+  if (code == CBN_DROPDOWN) {
+    PrepareComboList(item);
+  } else if (code == CBN_SELCHANGE) {
     if (item.KindOf() == ControlKind::ComboEdit) {
       // The system sets the edit field only after this notice; a handler would read the old text.
       const int row = static_cast<int>(SendMessageW(item.window, CB_GETCURSEL, 0, 0));
@@ -305,7 +307,7 @@ bool FormWindow::Handle(const FormEvent& event) {
   if (!row) return false;
   if (row->plain) (target->*row->plain)();
   if (row->withIndex) (target->*row->withIndex)(event.id - row->first);
-  if (row->withRow) (target->*row->withRow)(event.row);
+  if (row->withRow) (target->*row->withRow)(row->count > 1 ? event.id - row->first : event.row);
   if (row->atPoint) (target->*row->atPoint)(row->count > 1 ? event.id - row->first : event.row, event.point);
   if (row->withNode) (target->*row->withNode)(event.node);
   return true;

@@ -8,10 +8,6 @@
 
 namespace sonaro {
 
-// Under which the kit's controls hang their procedure on a system window; each window has one of them at
-// most.
-inline constexpr UINT_PTR kSubclassId = 1;
-
 // The body's answer; `otherwise` when it threw. What was thrown is told to an attached debugger.
 template <class Body>
 LRESULT Guarded(LRESULT otherwise, Body&& body) noexcept {

@@ -48,7 +48,6 @@ void SonaroFrm::OnLoad() {
   browse_.Load();
   list_.Load();
   detail_.Load();
-  drag_.Load();
   SetWindowLongPtrW(Window(), GWL_EXSTYLE, GetWindowLongPtrW(Window(), GWL_EXSTYLE) | WS_EX_ACCEPTFILES);
   status_.ShowGuide();
   models_.listing.ShowRanking(Ranking::MostPop);

@@ -1,14 +1,11 @@
 #include "mainwindow/SonaroFrmDragPane.h"
 
-#include <commctrl.h>
 #include <windowsx.h>
 
 #include <algorithm>
-#include <cstdlib>
 #include <utility>
 
 #include "forms/ControlIds.h"
-#include "forms/Guard.h"
 #include "forms/controls/ListView.h"
 #include "mainwindow/SonaroFrmGroupsPane.h"
 #include "mainwindow/SonaroFrmListPane.h"
@@ -29,42 +26,13 @@ constexpr int kNoCursor = 32648;
 }  // namespace
 
 std::span<const EventRow> DragPane::Events() const {
-  static const EventRow kRows[] = {{lstFavs, BeginDrag, &DragPane::lstFavs_BeginDrag}};
+  static const EventRow kRows[] = {{lstFavs, BeginDrag, &DragPane::lstFavs_BeginDrag},
+                                   {butFavs, BeginDrag, &DragPane::butFavs_BeginDrag, 10}};
   return kRows;
 }
 
-// Buttons have no event for the beginning of a drag, so their messages are watched on the way.
-void DragPane::Load() {
-  for (int slot = 0; slot < butFavs_.Count(); ++slot) {
-    SetWindowSubclass(butFavs_[slot].Window(), GroupButtonProcedure, static_cast<UINT_PTR>(slot),
-                      reinterpret_cast<DWORD_PTR>(this));
-  }
-}
-
-LRESULT CALLBACK DragPane::GroupButtonProcedure(HWND button, UINT message, WPARAM wParam, LPARAM lParam,
-                                                UINT_PTR slot, DWORD_PTR self) noexcept {
-  return Guarded(0, [&]() -> LRESULT {
-    // The last message of a window: a subclass that is still there then would be called with a pane that is
-    // gone.
-    if (message == WM_NCDESTROY) RemoveWindowSubclass(button, GroupButtonProcedure, slot);
-    reinterpret_cast<DragPane*>(self)->WatchGroupButton(message, wParam, lParam, static_cast<int>(slot));
-    return DefSubclassProc(button, message, wParam, lParam);
-  });
-}
-
-void DragPane::WatchGroupButton(UINT message, WPARAM wParam, LPARAM lParam, int slot) {
-  const POINT at = {GET_X_LPARAM(lParam), GET_Y_LPARAM(lParam)};
-  if (message == WM_LBUTTONDOWN) {
-    pressedAt_ = at;
-    pressedSlot_ = slot;
-  } else if (message == WM_LBUTTONUP) {
-    pressedSlot_ = -1;
-  } else if (message == WM_MOUSEMOVE && (wParam & MK_LBUTTON) != 0 && pressedSlot_ == slot) {
-    const bool moved = std::abs(at.x - pressedAt_.x) > GetSystemMetrics(SM_CXDRAG) ||
-                       std::abs(at.y - pressedAt_.y) > GetSystemMetrics(SM_CYDRAG);
-    // It takes the mouse from the button, which then is not pressed any more.
-    if (moved) Begin(Thing::Group, {}, groups_.NameOf(static_cast<std::size_t>(slot)));
-  }
+void DragPane::butFavs_BeginDrag(int slot) {
+  Begin(Thing::Group, {}, groups_.NameOf(static_cast<std::size_t>(slot)));
 }
 
 // One of several rows that are selected takes the others with it.
@@ -78,7 +46,6 @@ void DragPane::lstFavs_BeginDrag(int row) {
 
 // The station is taken by its key: the list may be filled anew while the mouse is on its way.
 void DragPane::Begin(Thing what, std::vector<StationKey> stations, std::string group) {
-  pressedSlot_ = -1;
   if (stations.empty() && group.empty()) return;
   SetCapture(form_.Window());
   what_ = what;

@@ -19,9 +19,6 @@ class DragPane final : public EventTarget {
   DragPane(const MainContext& context, ListPane& list, GroupsPane& groups)
       : context_(context), form_(context.form), list_(list), groups_(groups) {}
 
-  // Lets buttons of the group bar be dragged; rows of the list are anyway.
-  void Load();
-
   // A message to the form; true when a drag ended with it.
   bool Handle(UINT message);
 
@@ -34,9 +31,7 @@ class DragPane final : public EventTarget {
     POINT at = {};  // on the screen
   };
 
-  static LRESULT CALLBACK GroupButtonProcedure(HWND button, UINT message, WPARAM wParam, LPARAM lParam,
-                                               UINT_PTR slot, DWORD_PTR self) noexcept;
-  void WatchGroupButton(UINT message, WPARAM wParam, LPARAM lParam, int slot);
+  void butFavs_BeginDrag(int slot);
   void lstFavs_BeginDrag(int row);
   void Begin(Thing what, std::vector<StationKey> stations, std::string group);
   void End();
@@ -57,8 +52,6 @@ class DragPane final : public EventTarget {
   std::vector<StationKey> stations_;
   std::string group_;
   int overSlot_ = -1;
-  POINT pressedAt_ = {};
-  int pressedSlot_ = -1;
 };
 
 }  // namespace sonaro

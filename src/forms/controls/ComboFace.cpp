@@ -168,8 +168,9 @@ LRESULT HandleComboMessage(const ControlInstance& item, UINT message, WPARAM wPa
   return answer;
 }
 
-// The list is a window of the desktop, not of the form, and gets none of the form's messages.
-void AttachCombo(const ControlInstance& item) {
+// The list is a window of the desktop, not of the form, and gets none of the form's messages. A list that was
+// never opened needs nothing of this; a second call changes nothing.
+void PrepareComboList(const ControlInstance& item) {
   const COMBOBOXINFO info = InfoOf(item.window);
   if (!info.hwndList) return;
   SetWindowSubclass(info.hwndList, ListProcedure, reinterpret_cast<UINT_PTR>(item.window),

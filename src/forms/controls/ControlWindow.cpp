@@ -1,5 +1,9 @@
 // What every control of a form does besides its class's own work: tell when the pointer is over it, repaint
 // when its state or text changes, paint itself where the class has no owner drawing.
+#include <windowsx.h>
+
+#include <cstdlib>
+
 #include "forms/FormWindow.h"
 #include "forms/Guard.h"
 
@@ -13,6 +17,23 @@ void TrackPointer(ControlInstance& item, FormWindow& form) {
   TRACKMOUSEEVENT track = {sizeof(track), TME_LEAVE, item.window, 0};
   TrackMouseEvent(&track);
   form.Paint().Repaint(item);
+}
+
+// Buttons have no event for the beginning of a drag. Who begins it takes the mouse from the button, which
+// then is not pressed any more.
+void WatchForDrag(ControlInstance& item, FormWindow& form, UINT message, WPARAM wParam, LPARAM lParam) {
+  const POINT at = {GET_X_LPARAM(lParam), GET_Y_LPARAM(lParam)};
+  if (message == WM_LBUTTONDOWN) {
+    item.pressedAt = at;
+  } else if (message == WM_LBUTTONUP) {
+    item.pressedAt.reset();
+  } else if (message == WM_MOUSEMOVE && (wParam & MK_LBUTTON) != 0 && item.pressedAt) {
+    const bool moved = std::abs(at.x - item.pressedAt->x) > GetSystemMetrics(SM_CXDRAG) ||
+                       std::abs(at.y - item.pressedAt->y) > GetSystemMetrics(SM_CYDRAG);
+    if (!moved) return;
+    item.pressedAt.reset();
+    form.Handle({.id = item.Id(), .kind = FormEvent::Kind::BeginDrag});
+  }
 }
 
 // For the classes that have no owner drawing: check boxes, radio buttons and the toggles made of them.
@@ -65,6 +86,8 @@ LRESULT HandleControlMessage(FormWindow& form, ControlInstance& item, UINT messa
                              LPARAM lParam) {
   const HWND window = item.window;
   const ControlKind kind = item.KindOf();
+  form.Controls().RelayToTips(window, message, wParam, lParam);
+  if (kind == ControlKind::GroupButton) WatchForDrag(item, form, message, wParam, lParam);
   switch (message) {
     case WM_MOUSEMOVE:
       if (IsButton(kind) || IsCheck(kind)) TrackPointer(item, form);

@@ -155,7 +155,10 @@ void RadioButton::Check() const {
   const ControlInstance* item = Item();
   if (!item) return;
   for (const ControlInstance& other : Inside().Keys().GroupOf(*item)) {
-    SendMessageW(other.window, BM_SETCHECK, &other == item ? BST_CHECKED : BST_UNCHECKED, 0);
+    const LRESULT wanted = &other == item ? BST_CHECKED : BST_UNCHECKED;
+    if (SendMessageW(other.window, BM_GETCHECK, 0, 0) !=
+        wanted)  // the system looks through the whole group each time
+      SendMessageW(other.window, BM_SETCHECK, static_cast<WPARAM>(wanted), 0);
   }
 }
 

@@ -6,7 +6,6 @@
 #include <utility>
 
 #include "base/Text.h"
-#include "forms/Guard.h"
 #include "forms/WideText.h"
 #include "forms/paint/Painter.h"
 
@@ -30,23 +29,24 @@ int ListModel::FindRow(const std::string& start, int from) const {
   return -1;
 }
 
-// Messages begin to reach the class at Attach; what they use is made before.
+// Messages reach the class from Hook on; what they use is made before.
 ListView::ListView(HWND form, int id, FormServices& services)
     : ScrolledView(form, id, services, WC_LISTVIEWW, kListStyle) {
   ListView_SetExtendedListViewStyle(Window(), LVS_EX_DOUBLEBUFFER | LVS_EX_FULLROWSELECT);
   tip_ = std::make_unique<CellTip>(Window());
-  Attach();
+  Hook(Window());
   UseRowHeight();
 }
 
 // The system's list may still ask for rows while its window goes, so messages are cut off first.
 ListView::~ListView() {
-  Detach();
+  EndWindow();
   if (rowHeight_ != nullptr) ImageList_Destroy(rowHeight_);
 }
 
 // The widths are set by PlaceColumns, which knows the place; 10 is anything but 0.
 void ListView::SetColumns(std::vector<Column> columns) {
+  const Unpainted unpainted(Window());
   while (ListView_DeleteColumn(Window(), 0)) {
   }
   columns_ = std::move(columns);
@@ -92,11 +92,12 @@ void ListView::UseRowHeight() {
 // a change of one row must not do. With redrawing switched off nothing is painted from a model that is ahead
 // of the count.
 void ListView::RowsChanged() {
-  SendMessageW(Window(), WM_SETREDRAW, FALSE, 0);
   hover_ = -1;
   tip_->Clear();
-  ListView_SetItemCountEx(Window(), model_ != nullptr ? model_->RowCount() : 0, LVSICF_NOSCROLL);
-  SendMessageW(Window(), WM_SETREDRAW, TRUE, 0);
+  {
+    const Unpainted unpainted(Window());
+    ListView_SetItemCountEx(Window(), model_ != nullptr ? model_->RowCount() : 0, LVSICF_NOSCROLL);
+  }
   RepaintWithGround();
   SyncScrollBar();
 }
@@ -165,19 +166,21 @@ int ListView::ColumnEdge(std::size_t column) const {
   return Theme().Px(design);
 }
 
-// The last one takes what is left.
+// The last one takes what is left. Setting a width costs the system a look at the whole list; most often only
+// the last one is another.
 void ListView::PlaceColumns() {
   const std::vector<int> before = std::exchange(edges_, {});
-  const int bar = BarWidth();
-  int left = 0;
   for (std::size_t i = 0; i < columns_.size(); ++i) {
     const bool last = i + 1 == columns_.size();
-    const int right = std::max(left, last ? Width() - bar : ColumnEdge(i));
-    // Setting a width costs the system a look at the whole list; most often only the last one is another.
-    const bool stays = i < before.size() && before[i] == right && (i == 0 || before[i - 1] == left);
-    if (!stays) ListView_SetColumnWidth(Window(), static_cast<int>(i), right - left);
-    edges_.push_back(right);
-    left = right;
+    edges_.push_back(std::max(i == 0 ? 0 : edges_.back(), last ? Width() - BarWidth() : ColumnEdge(i)));
+  }
+  if (edges_ == before) return;
+  const Unpainted unpainted(Window());
+  int left = 0;
+  for (std::size_t i = 0; i < edges_.size(); ++i) {
+    const bool stays = i < before.size() && before[i] == edges_[i] && (i == 0 || before[i - 1] == left);
+    if (!stays) ListView_SetColumnWidth(Window(), static_cast<int>(i), edges_[i] - left);
+    left = edges_[i];
   }
 }
 
@@ -199,7 +202,7 @@ void ListView::ScrollTo(int first) {
   SyncScrollBar();
 }
 
-LRESULT ListView::Handle(UINT message, WPARAM wParam, LPARAM lParam) {
+LRESULT ListView::HandleHooked(UINT message, WPARAM wParam, LPARAM lParam) {
   if (message == WM_MOUSEMOVE) ShowTipAt(lParam);  // before the tip hears of it
   tip_->Relay(message, wParam, lParam);
   switch (message) {

@@ -92,7 +92,7 @@ class ListView final : public ScrolledView {
   bool OnNotify(NMHDR& notice, LRESULT& result) override;
 
  private:
-  LRESULT Handle(UINT message, WPARAM wParam, LPARAM lParam) override;
+  LRESULT HandleHooked(UINT message, WPARAM wParam, LPARAM lParam) override;
   void PlaceColumns();
   int ColumnEdge(std::size_t column) const;
   int HeaderOf(std::size_t column) const;

@@ -50,9 +50,10 @@ std::vector<int> ListView::SelectedRows() const {
 void ListView::ChangeMany(std::span<const int> rows, UINT state) {
   const bool wasQuiet = std::exchange(quiet_, true);
   many_ = true;
-  SendMessageW(Window(), WM_SETREDRAW, FALSE, 0);
-  for (const int row : rows) ListView_SetItemState(Window(), row, state, LVIS_SELECTED);
-  SendMessageW(Window(), WM_SETREDRAW, TRUE, 0);
+  {
+    const Unpainted unpainted(Window());
+    for (const int row : rows) ListView_SetItemState(Window(), row, state, LVIS_SELECTED);
+  }
   many_ = false;
   quiet_ = wasQuiet;
   Repaint();

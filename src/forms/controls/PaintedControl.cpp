@@ -1,8 +1,5 @@
 #include "forms/controls/PaintedControl.h"
 
-#include <commctrl.h>
-
-#include "forms/Guard.h"
 #include "forms/paint/Painter.h"
 
 namespace sonaro {
@@ -14,13 +11,13 @@ PaintedControl::PaintedControl(HWND form, int id, FormServices& services, const 
   window_ = CreateWindowExW(0, design.windowClass, text, WS_CHILD | WS_CLIPSIBLINGS | design.style, 0, 0, 0,
                             0, form, reinterpret_cast<HMENU>(static_cast<INT_PTR>(id)),
                             GetModuleHandleW(nullptr), nullptr);
-  SetWindowSubclass(window_, Procedure, kSubclassId, reinterpret_cast<DWORD_PTR>(this));
+  Hook(window_);
 }
 
 // When the form's window is gone, this one is gone with it.
 PaintedControl::~PaintedControl() {
-  if (!IsWindow(window_)) return;
-  RemoveWindowSubclass(window_, Procedure, kSubclassId);
+  if (!Hooked()) return;
+  Unhook();
   DestroyWindow(window_);
 }
 
@@ -32,28 +29,21 @@ void PaintedControl::MoveTo(const RECT& place) {
                place.bottom - place.top, SWP_NOZORDER | SWP_NOACTIVATE);
 }
 
-LRESULT CALLBACK PaintedControl::Procedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam, UINT_PTR,
-                                           DWORD_PTR data) noexcept {
-  return Guarded(0, [&]() -> LRESULT {
-    switch (message) {
-      case WM_NCDESTROY:
-        RemoveWindowSubclass(window, Procedure, kSubclassId);
-        break;
-      case WM_SETTEXT:  // a static control would draw the text at once, in its own way
-        return DefWindowProcW(window, message, wParam, lParam);
-      case WM_ERASEBKGND:
-        return 1;
-      case WM_NCCALCSIZE:  // no frame
-      case WM_NCPAINT:
-        return 0;
-      case WM_PAINT:
-        reinterpret_cast<PaintedControl*>(data)->Paint();
-        return 0;
-      default:
-        break;
-    }
-    return DefSubclassProc(window, message, wParam, lParam);
-  });
+LRESULT PaintedControl::HandleHooked(UINT message, WPARAM wParam, LPARAM lParam) {
+  switch (message) {
+    case WM_SETTEXT:  // a static control would draw the text at once, in its own way
+      return DefWindowProcW(window_, message, wParam, lParam);
+    case WM_ERASEBKGND:
+      return 1;
+    case WM_NCCALCSIZE:  // no frame
+    case WM_NCPAINT:
+      return 0;
+    case WM_PAINT:
+      Paint();
+      return 0;
+    default:
+      return PassOn(message, wParam, lParam);
+  }
 }
 
 // In memory first: ground and picture come to the screen in one step, without flicker.

@@ -5,10 +5,11 @@
 #include <windows.h>
 
 #include "forms/controls/FormControl.h"
+#include "forms/controls/WindowHook.h"
 
 namespace sonaro {
 
-class PaintedControl : public FormControl {
+class PaintedControl : public FormControl, private WindowHook {
  public:
   ~PaintedControl() override;
   PaintedControl(const PaintedControl&) = delete;
@@ -35,8 +36,7 @@ class PaintedControl : public FormControl {
   const Painter& Theme() const { return services_.Theme(); }
 
  private:
-  static LRESULT CALLBACK Procedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam, UINT_PTR id,
-                                    DWORD_PTR data) noexcept;
+  LRESULT HandleHooked(UINT message, WPARAM wParam, LPARAM lParam) override;
   void Paint();
 
   FormServices& services_;

@@ -1,6 +1,5 @@
 #include "forms/controls/ScrolledView.h"
 
-#include "forms/Guard.h"
 #include "forms/paint/Painter.h"
 
 namespace sonaro {
@@ -14,26 +13,25 @@ ScrolledView::ScrolledView(HWND form, int id, FormServices& services, const wcha
                       reinterpret_cast<HMENU>(static_cast<INT_PTR>(id)), GetModuleHandleW(nullptr), nullptr);
 }
 
-// Not in the constructor: a message would call Handle of a class that is not made yet.
-void ScrolledView::Attach() {
-  SetWindowSubclass(window_, &ScrolledView::Procedure, kSubclassId, reinterpret_cast<DWORD_PTR>(this));
-}
-
-// Called by the destructor of the derived class, while Handle is still its own. When the form's window was
-// destroyed, the view's went with it.
-void ScrolledView::Detach() {
-  if (!IsWindow(window_)) return;
-  RemoveWindowSubclass(window_, &ScrolledView::Procedure, kSubclassId);
+// Called by the destructor of the derived class, while HandleHooked is still its own. When the form's window
+// was destroyed, the view's went with it.
+void ScrolledView::EndWindow() {
+  if (!Hooked()) return;
+  Unhook();
   DestroyWindow(window_);
 }
 
-LRESULT CALLBACK ScrolledView::Procedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam, UINT_PTR,
-                                         DWORD_PTR data) noexcept {
-  return Guarded(0, [&]() -> LRESULT {
-    auto& view = *reinterpret_cast<ScrolledView*>(data);
-    if (message == WM_NCDESTROY) RemoveWindowSubclass(window, &ScrolledView::Procedure, kSubclassId);
-    return view.Handle(message, wParam, lParam);
-  });
+ScrolledView::Unpainted::Unpainted(HWND window)
+    : window_(window), visible_((GetWindowLongPtrW(window, GWL_STYLE) & WS_VISIBLE) != 0) {
+  SendMessageW(window_, WM_SETREDRAW, FALSE, 0);
+}
+
+// To some classes the message means that the window is visible from now on, even when it was hidden before.
+ScrolledView::Unpainted::~Unpainted() {
+  SendMessageW(window_, WM_SETREDRAW, TRUE, 0);
+  const LONG_PTR style = GetWindowLongPtrW(window_, GWL_STYLE);
+  if (!visible_ && (style & WS_VISIBLE) != 0)
+    SetWindowLongPtrW(window_, GWL_STYLE, style & ~static_cast<LONG_PTR>(WS_VISIBLE));
 }
 
 // The window is wider than its place by a native scroll bar, and cut to the place. The glass around it is

@@ -6,10 +6,11 @@
 
 #include "forms/controls/FormControl.h"
 #include "forms/controls/ScrollBar.h"
+#include "forms/controls/WindowHook.h"
 
 namespace sonaro {
 
-class ScrolledView : public FormControl, private ScrollTarget {
+class ScrolledView : public FormControl, private ScrollTarget, protected WindowHook {
  public:
   ScrolledView(const ScrolledView&) = delete;
   ScrolledView& operator=(const ScrolledView&) = delete;
@@ -21,17 +22,22 @@ class ScrolledView : public FormControl, private ScrollTarget {
 
  protected:
   ScrolledView(HWND form, int id, FormServices& services, const wchar_t* windowClass, DWORD style);
-  // Messages reach Handle between the two: the end of the derived class's construction, and the beginning of
-  // its destruction, which ends the window, too.
-  void Attach();
-  void Detach();
+  // The derived class hooks its window at the end of its construction; what it does not deal with goes to
+  // PassOn. Its destruction begins with EndWindow.
+  void EndWindow();
+  // While one lives, the window paints nothing, and computes once at the end what it would at every change.
+  class Unpainted {
+   public:
+    explicit Unpainted(HWND window);
+    ~Unpainted();
+    Unpainted(const Unpainted&) = delete;
+    Unpainted& operator=(const Unpainted&) = delete;
 
-  // A message of the window; what the derived class does not deal with goes to PassOn.
-  virtual LRESULT Handle(UINT message, WPARAM wParam, LPARAM lParam) = 0;
+   private:
+    const HWND window_;
+    const bool visible_;
+  };
   virtual void SyncScrollBar() = 0;  // the view has scrolled, or has more or fewer rows
-  LRESULT PassOn(UINT message, WPARAM wParam, LPARAM lParam) {
-    return DefSubclassProc(window_, message, wParam, lParam);
-  }
   // The answer to WM_GETDLGCODE: with `takesEnter` the view gets Enter, which otherwise presses the primary
   // button.
   LRESULT DialogCode(WPARAM wParam, LPARAM lParam, bool takesEnter);
@@ -49,9 +55,6 @@ class ScrolledView : public FormControl, private ScrollTarget {
   void SetRange(const ScrollBar::Range& range) { bar_.SetRange(range); }
 
  private:
-  static LRESULT CALLBACK Procedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam, UINT_PTR id,
-                                    DWORD_PTR data) noexcept;
-
   FormServices& services_;
   const int id_;
   ScrollBar bar_;

@@ -5,7 +5,6 @@
 #include <algorithm>
 #include <utility>
 
-#include "forms/Guard.h"
 #include "forms/WideText.h"
 #include "forms/paint/Painter.h"
 
@@ -36,20 +35,20 @@ std::wstring_view PaintedText(std::wstring_view text) {
 TreeView::TreeView(HWND form, int id, FormServices& services)
     : ScrolledView(form, id, services, WC_TREEVIEWW, kTreeStyle) {
   SendMessageW(Window(), TVM_SETEXTENDEDSTYLE, TVS_EX_DOUBLEBUFFER, TVS_EX_DOUBLEBUFFER);
-  Attach();
+  Hook(Window());
 }
 
-TreeView::~TreeView() { Detach(); }
+TreeView::~TreeView() { EndWindow(); }
 
 // A thousand nodes are added in a moment when nothing is drawn and no selection is reported meanwhile.
 void TreeView::BeginFill() {
-  SendMessageW(Window(), WM_SETREDRAW, FALSE, 0);
+  unpainted_.emplace(Window());
   quiet_ = true;
 }
 
 void TreeView::EndFill() {
   quiet_ = false;
-  SendMessageW(Window(), WM_SETREDRAW, TRUE, 0);
+  unpainted_.reset();
   RepaintWithGround();
   SyncScrollBar();
 }
@@ -170,7 +169,7 @@ void TreeView::RepaintNode(HTREEITEM node) {
 }
 
 // The mouse is dealt with here; keys, wheel and screen readers are the system's business.
-LRESULT TreeView::Handle(UINT message, WPARAM wParam, LPARAM lParam) {
+LRESULT TreeView::HandleHooked(UINT message, WPARAM wParam, LPARAM lParam) {
   const POINT at = {GET_X_LPARAM(lParam), GET_Y_LPARAM(lParam)};
   switch (message) {
     case WM_ERASEBKGND: {

@@ -7,6 +7,7 @@
 
 #include <commctrl.h>
 
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -41,7 +42,7 @@ class TreeView final : public ScrolledView {
     int data = 0;
   };
 
-  LRESULT Handle(UINT message, WPARAM wParam, LPARAM lParam) override;
+  LRESULT HandleHooked(UINT message, WPARAM wParam, LPARAM lParam) override;
   void SyncScrollBar() override;
   void ScrollTo(int first) override;
   void Press(POINT at);
@@ -61,6 +62,7 @@ class TreeView final : public ScrolledView {
   std::vector<Node> nodes_;  // by the system's item data
   HTREEITEM hover_ = nullptr;
   bool quiet_ = false;
+  std::optional<Unpainted> unpainted_;  // during a fill
 };
 
 }  // namespace sonaro
