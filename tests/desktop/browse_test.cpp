@@ -183,6 +183,12 @@ TEST_F(BrowseTest, SeveralRowsGoIntoAGroupAndOutOfIt) {
   EXPECT_TRUE(WaitUntil([&] { return RowCount(list) == 0; }));
   PressKey(main, 'Z', Modifier::Control);
   EXPECT_TRUE(WaitUntil([&] { return RowCount(list) == 3; }));
+  const auto names = ColumnTexts(list);
+  Command(main, mnuExit);
+  EXPECT_TRUE(Sonaro().WaitForEnd().has_value());
+  main = StartAndShowMain();
+  Click(Control(main, butFavs));
+  EXPECT_TRUE(WaitUntil([&] { return ColumnTexts(List(main)) == names; })) << "what was undone is saved";
 }
 
 }  // namespace

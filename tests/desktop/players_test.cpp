@@ -32,6 +32,14 @@ class PlayersTest : public MainWindowTest {
     Click(Control(page, butOKIt));
     EXPECT_TRUE(WaitUntil([&] { return !IsWindow(page); }));
   }
+  // It was started once, with the first link of the station played last, without the letter of its kind.
+  void ExpectTheBrowserGotTheLink() {
+    const auto lines = BrowserLines();
+    ASSERT_EQ(lines.size(), 1u);
+    const std::string id = ReadFile("recent.snr");
+    const StationRecord station = StationIn(Folder(), id.substr(0, id.find_first_of(" \r")));
+    EXPECT_EQ(lines[0], "\"" + Browser() + "\" " + station[StationField::LinkOne].substr(1));
+  }
 };
 
 TEST_F(PlayersTest, AProgramForAsxLinksIsEnoughForTheFirstStart) {
@@ -67,6 +75,26 @@ TEST_F(PlayersTest, AProgramForAsxLinksIsEnoughForTheFirstStart) {
   SaveShot("played");
 }
 
+TEST_F(PlayersTest, AFirstStartWithoutAPlayerLeadsToTheFirstSound) {
+  HaveNoPlayer();
+  ResetSettings({{"StartProxy", "No"}, {"StartQuickStart", "No"}});
+  HWND page = Start().WaitForShownWindow("frmStartUpInfo", "Welcome to Sonaro");
+  ASSERT_NE(page, nullptr);
+  EXPECT_EQ(TextOf(Control(page, lblHead)), "No player was found");
+  SaveShot("none");
+  ChooseTheBrowser(page);
+  HWND main = Dialog("SonaroFrm");
+  EXPECT_EQ(BrowserLines(0).size(), 0u) << "choosing plays nothing";
+  Command(main, mnuActionMostPoular);
+  ASSERT_TRUE(WaitUntil([&] { return RowCount(List(main)) > 30; }));
+  SelectRow(List(main), 1);
+  Click(Control(main, butGoMediaLinkOneIt));
+  ExpectTheBrowserGotTheLink();
+  const std::string said = CellText(List(main), 1) + ": handed to browser.exe";
+  EXPECT_TRUE(WaitUntil([&] { return TextOf(Control(main, lblStatus)) == said; }))
+      << TextOf(Control(main, lblStatus));
+}
+
 TEST_F(PlayersTest, APlayerThatIsChosenAfterAnErrorPlays) {
   HaveNoPlayer();
   HWND main = MainWithStations();
@@ -80,11 +108,7 @@ TEST_F(PlayersTest, APlayerThatIsChosenAfterAnErrorPlays) {
   EXPECT_EQ(TextOf(Control(page, lblHead)), "No player was found");
   SaveShot("choose");
   ChooseTheBrowser(page);
-  const auto lines = BrowserLines();
-  ASSERT_EQ(lines.size(), 1u);
-  const std::string id = ReadFile("recent.snr");
-  const StationRecord station = StationIn(Folder(), id.substr(0, id.find_first_of(" \r")));
-  EXPECT_EQ(lines[0], "\"" + Browser() + "\" " + station[StationField::LinkOne].substr(1));
+  ExpectTheBrowserGotTheLink();
   EXPECT_EQ(ReadSetting("PlayWith"), Browser());
 
   // In the options it is offered by name and can be taken back.
