@@ -5,8 +5,9 @@
 
 namespace sonaro {
 
-// Not by SetWindowSubclass: it looks up a property of the window for every message, which on some systems costs
-// more than the message. The hook keeps itself in the window's user data instead, which nobody else may use.
+// Not by SetWindowSubclass: it looks up a property of the window for every message, which on some systems
+// costs more than the message. The hook keeps itself in the window's user data instead, which nobody else may
+// use.
 class WindowHook {
  public:
   WindowHook(const WindowHook&) = delete;
@@ -16,8 +17,8 @@ class WindowHook {
   WindowHook() = default;
   ~WindowHook() { Unhook(); }
 
-  // Messages reach HandleHooked between the two, up to and without the window's last one. A derived class that is not
-  // made yet, or half gone, must not be hooked.
+  // Messages reach HandleHooked between the two, up to and without the window's last one. A derived class
+  // that is not made yet, or half gone, must not be hooked.
   void Hook(HWND window);
   void Unhook();
   HWND Hooked() const { return window_; }  // nullptr: not hooked, or the window is gone

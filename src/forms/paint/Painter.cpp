@@ -287,10 +287,10 @@ std::unique_ptr<BufferedPaint::Canvas>& BufferedPaint::Kept() {
 // list is rarer, and its bitmap large. The origin is moved, so that whoever paints uses the coordinates of
 // the target.
 BufferedPaint::BufferedPaint(HDC target, const RECT& box) : target_(target), box_(box) {
-  constexpr LONG kMaxKept = 64 * 1024;  // pixels
+  constexpr SIZE kMaxKept = {512, 64};  // pixels, 128 KB
   const SIZE size = {std::max<LONG>(1, box.right - box.left), std::max<LONG>(1, box.bottom - box.top)};
   std::unique_ptr<Canvas>& kept = Kept();
-  if (size.cx * size.cy > kMaxKept || (kept && kept->used)) {
+  if (size.cx > kMaxKept.cx || size.cy > kMaxKept.cy || (kept && kept->used)) {
     own_ = std::make_unique<Canvas>(size);
   } else if (!kept) {
     kept = std::make_unique<Canvas>(size);
